@@ -1,0 +1,55 @@
+# Settings and helpers that every target of the tree shares.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_compile_definitions(UNICODE _UNICODE)
+if(MSVC)
+  add_compile_options(/W4 /WX /utf-8 /EHsc)
+else()
+  add_compile_options(-Wall -Wextra -Werror -finput-charset=UTF-8)
+  add_compile_definitions(WINVER=0x0600 _WIN32_WINNT=0x0600 _WIN32_IE=0x0700)
+endif()
+if(OW_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()
+
+# The sources of a target: every .cpp below the given folders of the current one.
+function(ow_glob_sources out)
+  set(patterns)
+  foreach(dir IN LISTS ARGN)
+    list(APPEND patterns ${CMAKE_CURRENT_SOURCE_DIR}/${dir}/*.cpp)
+  endforeach()
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${patterns})
+  set(${out} ${sources} PARENT_SCOPE)
+endfunction()
+
+# A DLL whose file name is exactly the module's name, with no "lib" in front.
+function(ow_add_module name)
+  add_library(${name} SHARED ${ARGN})
+  set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "")
+  add_library(DialogControlsOW::${name} ALIAS ${name})
+endfunction()
+
+# The compiler's run-time DLLs stand beside the programs and are not linked in:
+# exceptions and dynamic_cast across DLLs need one copy of each for the process.
+if(MINGW)
+  foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+    execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+      OUTPUT_VARIABLE dll_path OUTPUT_STRIP_TRAILING_WHITESPACE)
+    if(NOT EXISTS ${dll_path})
+      set(dll_path /usr/x86_64-w64-mingw32/lib/${dll})
+    endif()
+    if(NOT EXISTS ${dll_path})
+      message(FATAL_ERROR "The compiler's run-time DLL ${dll} was not found; is g++-mingw-w64-x86-64-posix installed?")
+    endif()
+    list(APPEND OW_RUNTIME_DLLS ${dll_path})
+  endforeach()
+  file(COPY ${OW_RUNTIME_DLLS} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+endif()
