@@ -1,0 +1,4 @@
+#pragma once
+// Kept for clients that include it by habit: everything stands in afxwin.h.
+
+#include <afxwin.h>

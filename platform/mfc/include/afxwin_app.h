@@ -1,0 +1,308 @@
+#pragma once
+// The application, its thread and message loop, and what belongs to the process as a whole: module state,
+// resource handles, the chain of extension modules, message boxes, window classes.
+//
+// There is one module state for the process, and extension modules share it. Its fields hold the program's
+// handles from the first use on, so that an extension module may ask for them from DllMain, before
+// AfxWinInit.
+
+#include <afxwin_wnd.h>
+
+class CDynLinkLibrary;
+class CWinApp;
+
+// ---------------------------------------------------------------------------------------------------------
+// Module and thread state
+
+class AFX_MODULE_STATE
+{
+public:
+    CWinApp* m_pCurrentWinApp = nullptr;
+    HINSTANCE m_hCurrentInstanceHandle = nullptr;
+    HINSTANCE m_hCurrentResourceHandle = nullptr; ///< module searched first for resources
+    LPCTSTR m_lpszCurrentAppName = nullptr;
+    BYTE m_bDLL = FALSE;                         ///< state of a DLL rather than of a program
+    BYTE m_bSystem = FALSE;                      ///< state of the framework itself
+    std::vector<CDynLinkLibrary*> m_libraryList; ///< extension modules, latest first; owns nothing
+};
+
+class AFX_MODULE_THREAD_STATE
+{
+public:
+    CWinThread* m_pCurrentWinThread = nullptr;
+};
+
+/// The state in force on the calling thread.
+AFX_CORE_API AFX_MODULE_STATE* AFXAPI AfxGetModuleState();
+/// Puts another state in force on the calling thread and answers the one of before.
+AFX_CORE_API AFX_MODULE_STATE* AFXAPI AfxSetModuleState(AFX_MODULE_STATE* pNewState);
+/// The state of the calling module: for extension modules that of the process.
+AFX_CORE_API AFX_MODULE_STATE* AFXAPI AfxGetStaticModuleState();
+AFX_CORE_API AFX_MODULE_STATE* AFXAPI AfxGetAppModuleState();
+AFX_CORE_API AFX_MODULE_THREAD_STATE* AFXAPI AfxGetModuleThreadState();
+
+/// Puts a module state in force until the end of the scope.
+struct AFX_MAINTAIN_STATE2
+{
+    explicit AFX_MAINTAIN_STATE2(AFX_MODULE_STATE* pModuleState)
+        : m_pPrevModuleState(AfxSetModuleState(pModuleState))
+    {
+    }
+    ~AFX_MAINTAIN_STATE2() { AfxSetModuleState(m_pPrevModuleState); }
+    AFX_MAINTAIN_STATE2(const AFX_MAINTAIN_STATE2&) = delete;
+    AFX_MAINTAIN_STATE2& operator=(const AFX_MAINTAIN_STATE2&) = delete;
+
+protected:
+    AFX_MODULE_STATE* m_pPrevModuleState;
+};
+
+#define AFX_MANAGE_STATE(p) AFX_MAINTAIN_STATE2 _ctlState(p);
+
+// ---------------------------------------------------------------------------------------------------------
+// The thread and the application
+
+/// A thread with a message loop. Only the program's main thread has one here: its CWinApp.
+class AFX_CORE_CLASS CWinThread : public CCmdTarget
+{
+    DECLARE_DYNAMIC(CWinThread)
+
+public:
+    CWinThread();
+    ~CWinThread() override;
+
+    CWnd* m_pMainWnd = nullptr;   ///< closing it ends the program
+    CWnd* m_pActiveWnd = nullptr; ///< stands in for the main window while it is not null
+    BOOL m_bAutoDelete = TRUE;
+    HANDLE m_hThread = nullptr;
+    DWORD m_nThreadID = 0;
+    MSG m_msgCur{}; ///< the message that the loop took last
+
+    operator HANDLE() const { return m_hThread; }
+    virtual CWnd* GetMainWnd();
+    BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    virtual BOOL InitInstance();
+    virtual int Run();
+    virtual int ExitInstance();
+
+    /// Offers the message to the windows' PreTranslateMessage, from the target up to the main window.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    /// Waits for a message and dispatches it; FALSE on WM_QUIT.
+    virtual BOOL PumpMessage();
+    /// Work for the time when the queue is empty, called with 0, 1, 2... until it answers FALSE. Brings user
+    /// interface items up to date, then deletes the temporary objects of the handle maps.
+    virtual BOOL OnIdle(LONG lCount);
+    /// FALSE for messages after which there is nothing new to do in idle time.
+    virtual BOOL IsIdleMessage(MSG* pMsg);
+    /// Tells the user about an exception that left a handler; answers the result of the message.
+    virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
+    /// Sees messages of dialogs, menus and message boxes before they act; TRUE swallows the message.
+    virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
+
+private:
+    CPoint m_ptCursorLast{0, 0}; ///< of the last mouse move
+    UINT m_nMsgLast = 0;
+};
+
+/// The application. A program defines one object of a derived class at file scope; see winmain.cpp.
+class AFX_CORE_CLASS CWinApp : public CWinThread
+{
+    DECLARE_DYNAMIC(CWinApp)
+
+public:
+    explicit CWinApp(LPCTSTR lpszAppName = nullptr);
+    ~CWinApp() override;
+    CWinApp(const CWinApp&) = delete;
+    CWinApp& operator=(const CWinApp&) = delete;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPTSTR m_lpCmdLine = nullptr;
+    int m_nCmdShow = SW_SHOWNORMAL;
+    LPCTSTR m_pszAppName = nullptr;     ///< from the constructor, else the executable's name; malloc'ed
+    LPCTSTR m_pszExeName = nullptr;     ///< executable without path and extension; malloc'ed
+    LPCTSTR m_pszRegistryKey = nullptr; ///< company key of the profile; null for an .ini file; malloc'ed
+    LPCTSTR m_pszProfileName = nullptr; ///< .ini file, or the program's key below the company's; malloc'ed
+
+    // Resources of the chain; the handles belong to the system as with the Win32 functions
+    HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
+    HCURSOR LoadCursor(UINT nIDResource) const;
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
+    HICON LoadIcon(LPCTSTR lpszResourceName) const;
+    HICON LoadIcon(UINT nIDResource) const;
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
+    HICON LoadOEMIcon(UINT nIDIcon) const;
+
+    // Profile: below HKEY_CURRENT_USER\Software\<registry key>\<profile name> once SetRegistryKey was called,
+    // else in the .ini file m_pszProfileName.
+    UINT GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault);
+    BOOL WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue);
+    CString GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault = nullptr);
+    /// A null entry deletes the section, a null value the entry.
+    BOOL WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue);
+    /// The data is allocated by new[] and becomes the caller's; null and 0 when there is none.
+    BOOL GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes);
+    BOOL WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes);
+    /// Keys are made when missing; the caller closes them. Null on failure.
+    HKEY GetAppRegistryKey();
+    HKEY GetSectionKey(LPCTSTR lpszSection);
+    LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
+
+    virtual BOOL InitApplication();
+    BOOL InitInstance() override;
+    int Run() override;
+    int ExitInstance() override;
+    BOOL OnIdle(LONG lCount) override;
+    LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
+
+    /// What AfxMessageBox does: chooses an icon when none was named, and an owner.
+    virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
+    /// nCode: 1 begin, -1 end, 0 restore.
+    virtual void DoWaitCursor(int nCode);
+    void HideApplication();
+
+protected:
+    friend AFX_CORE_API BOOL AFXAPI AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
+
+    void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    void SetRegistryKey(UINT nIDRegistryKey);
+    void SetCurrentHandles();
+
+    afx_msg void OnAppExit();
+
+    int m_nWaitCursorCount = 0;
+    HCURSOR m_hcurWaitCursorRestore = nullptr;
+
+    DECLARE_MESSAGE_MAP()
+};
+
+/// Shows the wait cursor until the end of the scope.
+class CWaitCursor
+{
+public:
+    AFX_CORE_API CWaitCursor();
+    AFX_CORE_API ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    AFX_CORE_API void Restore();
+};
+
+AFX_CORE_API CWinThread* AFXAPI AfxGetThread();
+AFX_CORE_API CWinApp* AFXAPI AfxGetApp();
+AFX_CORE_API CWnd* AFXAPI AfxGetMainWnd();
+AFX_CORE_API LPCTSTR AFXAPI AfxGetAppName();
+
+// ---------------------------------------------------------------------------------------------------------
+// Start and end of the program
+
+/// Called once, before any window is made; AfxWinMain does it for programs that start there.
+AFX_CORE_API BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                                    int nCmdShow);
+AFX_CORE_API int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine,
+                                   int nCmdShow);
+AFX_CORE_API void AFXAPI AfxWinTerm();
+AFX_CORE_API void AFXAPI AfxPostQuitMessage(int nExitCode);
+
+// The steps of the message loop, for loops of one's own
+AFX_CORE_API BOOL AFXAPI AfxPumpMessage();
+AFX_CORE_API BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);
+AFX_CORE_API BOOL AFXAPI AfxIsIdleMessage(MSG* pMsg);
+AFX_CORE_API LRESULT AFXAPI AfxProcessWndProcException(CException* e, const MSG* pMsg);
+
+// ---------------------------------------------------------------------------------------------------------
+// Resources
+
+AFX_CORE_API HINSTANCE AFXAPI AfxGetInstanceHandle();
+AFX_CORE_API HINSTANCE AFXAPI AfxGetResourceHandle();
+AFX_CORE_API void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource);
+
+/// The module that has the resource: the current resource handle's, then the extension modules from the
+/// latest to the earliest, system ones last. The current resource handle when none has it.
+AFX_CORE_API HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType);
+AFX_CORE_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
+/// Characters loaded, without the closing zero; 0 and an empty text when there is no such string.
+AFX_CORE_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
+
+// ---------------------------------------------------------------------------------------------------------
+// Extension modules
+
+/// What an extension module keeps about itself; a global object of the module, zeroed before use.
+struct AFX_EXTENSION_MODULE
+{
+    BOOL bInitialized;
+    HMODULE hModule;
+    HMODULE hResource;
+    CRuntimeClass* pFirstSharedClass;
+    class COleObjectFactory* pFirstSharedFactory;
+};
+
+/// To be called at process attach. FALSE when the module could not be taken up.
+AFX_CORE_API BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule);
+/// To be called at process detach: deletes the module's CDynLinkLibrary, or with `bAll` those of all modules.
+AFX_CORE_API void AFXAPI AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL bAll = FALSE);
+
+/// Makes the resources of an extension module visible to the chain. Made with `new` at process attach; it
+/// links itself in front of the chain, and AfxTermExtensionModule deletes it.
+class AFX_CORE_CLASS CDynLinkLibrary : public CCmdTarget
+{
+    DECLARE_DYNAMIC(CDynLinkLibrary)
+
+public:
+    explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
+    CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
+    ~CDynLinkLibrary() override;
+
+    HMODULE m_hModule;
+    HMODULE m_hResource;
+    BOOL m_bSystem; ///< searched after the others
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Message boxes
+
+/// Answers the button's id, or 0 when the box could not be shown.
+AFX_CORE_API int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK, UINT nIDHelp = 0);
+AFX_CORE_API int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType = MB_OK, UINT nIDHelp = (UINT)-1);
+
+// ---------------------------------------------------------------------------------------------------------
+// Windows: classes, procedure, creation hook, handle maps
+
+/// Registers a class for windows of the framework and answers its name, which is valid until the next call on
+/// the thread. Equal arguments give the same class. Throws CResourceException when it cannot be registered.
+AFX_CORE_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = nullptr,
+                                                HBRUSH hbrBackground = nullptr, HICON hIcon = nullptr);
+/// Registers a class unless it is registered already.
+AFX_CORE_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
+
+/// The procedure of every window that belongs to a CWnd.
+AFX_CORE_API LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+AFX_CORE_API WNDPROC AFXAPI AfxGetAfxWndProc();
+/// Gives a message to the object, notes it for Default and GetCurrentMessage, and catches exceptions.
+AFX_CORE_API LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam = 0,
+                                           LPARAM lParam = 0);
+
+/// The next window that this thread makes is attached to the object and subclassed before its first message.
+AFX_CORE_API void AFXAPI AfxHookWindowCreate(CWnd* pWnd);
+/// Ends that; FALSE when no window was made in between.
+AFX_CORE_API BOOL AFXAPI AfxUnhookWindowCreate();
+
+/// Keeps the temporary objects of the handle maps alive over a nested message loop. Counted.
+AFX_CORE_API void AFXAPI AfxLockTempMaps();
+AFX_CORE_API BOOL AFXAPI AfxUnlockTempMaps(BOOL bDeleteTemps = TRUE);
+
+// ---------------------------------------------------------------------------------------------------------
+// Diagnostics
+
+#define AFX_STACK_DUMP_TARGET_TRACE 0x0001     // TRACE output
+#define AFX_STACK_DUMP_TARGET_CLIPBOARD 0x0002 // text on the clipboard
+#define AFX_STACK_DUMP_TARGET_BOTH 0x0003      // both
+#define AFX_STACK_DUMP_TARGET_ODS 0x0004       // OutputDebugString
+#ifdef _DEBUG
+#define AFX_STACK_DUMP_TARGET_DEFAULT AFX_STACK_DUMP_TARGET_TRACE
+#else
+#define AFX_STACK_DUMP_TARGET_DEFAULT AFX_STACK_DUMP_TARGET_CLIPBOARD
+#endif
+
+/// Writes the calling thread's stack: a line for each frame with module and symbol where symbols are found,
+/// else with module and offset. A busy clipboard leaves that target out.
+AFX_CORE_API void AFXAPI AfxDumpStack(DWORD dwTarget = AFX_STACK_DUMP_TARGET_DEFAULT);

@@ -1,0 +1,764 @@
+#pragma once
+// Command targets, windows, frame windows and dialogs.
+//
+// A CWnd is attached to a window handle in one of two ways. Create/CreateEx make the window and hook its
+// creation, so that the object sees every message from the first one on. SubclassWindow takes a window that
+// exists and puts the object in front of its procedure. From then on AfxWndProc finds the object by the
+// handle in the thread's handle map, and the message goes
+//
+//     PreTranslateMessage (message loop only) -> WindowProc -> OnWndMsg -> message map -> DefWindowProc
+//
+// A notification from a child control goes to the control first (reflection: WM_REFLECT_BASE plus the
+// message) and then to the parent's OnCommand / OnNotify, OnCmdMsg and map.
+//
+// Ownership: CWnd does not own itself. A window destroyed through its handle leaves the object alive;
+// PostNcDestroy is the place where an object made with `new` deletes itself. A CWnd that is destroyed with
+// its window alive destroys the window.
+
+#include <afx.h>
+#include <afxmsg_.h>
+#include <atltypes.h>
+
+#include <commctrl.h>
+
+#include <vector>
+
+#undef GetNextWindow // a macro of the Windows headers that hides the member
+
+class CBitmap;
+class CBrush;
+class CCmdUI;
+class CDataExchange;
+class CDC;
+class CDialog;
+class CFont;
+class CFrameWnd;
+class CMenu;
+class CRgn;
+class CScrollBar;
+class CWinThread;
+class CWnd;
+struct CCreateContext;
+
+// ---------------------------------------------------------------------------------------------------------
+// Command targets
+
+/// Where a command was found; filled by CCmdTarget::OnCmdMsg instead of running the handler.
+struct AFX_CMDHANDLERINFO
+{
+    CCmdTarget* pTarget;
+    void (AFX_MSG_CALL CCmdTarget::*pmf)();
+};
+
+/// The WM_NOTIFY of a control on its way through OnCmdMsg: `pExtra` of a notification.
+struct AFX_NOTIFY
+{
+    LRESULT* pResult; ///< what the handler answers to the control
+    NMHDR* pNMHDR;
+};
+
+/// An object that can receive commands through its message map.
+class AFX_CORE_CLASS CCmdTarget : public CObject
+{
+    DECLARE_DYNAMIC(CCmdTarget)
+
+public:
+    CCmdTarget();
+    ~CCmdTarget() override;
+
+    /// Routes a command, a control notification or a request to update a command's state. TRUE when a handler
+    /// took it. With `pHandlerInfo` the handler is only looked for and not called.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+
+    /// Wait cursor, counted: shown at the first Begin, taken away at the last End.
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    /// Shows the wait cursor again after something else changed it, a message box for instance.
+    void RestoreWaitCursor();
+
+protected:
+    friend class CWnd;
+
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+};
+
+/// The state of one command while its user-interface item is brought up to date: the argument of
+/// ON_UPDATE_COMMAND_UI handlers. The item is a menu item or a control.
+class AFX_CORE_CLASS CCmdUI
+{
+public:
+    CCmdUI();
+    virtual ~CCmdUI() = default;
+
+    UINT m_nID = 0;           ///< command id
+    UINT m_nIndex = 0;        ///< position of the item in its menu
+    CMenu* m_pMenu = nullptr; ///< the menu, if the item stands in one
+    CMenu* m_pSubMenu = nullptr;
+    CWnd* m_pOther = nullptr; ///< the control, if the item is one
+    BOOL m_bEnableChanged = FALSE;
+    BOOL m_bContinueRouting = FALSE;
+    UINT m_nIndexMax = 0; ///< number of items in the menu
+    CMenu* m_pParentMenu = nullptr;
+
+    virtual void Enable(BOOL bOn = TRUE);
+    virtual void SetCheck(int nCheck = 1); ///< 0 off, 1 on, 2 indeterminate
+    virtual void SetRadio(BOOL bOn = TRUE);
+    virtual void SetText(LPCTSTR lpszText);
+
+    /// The handler did not decide: let the next routing target be asked.
+    void ContinueRouting();
+
+    /// Asks the target for the state. With `bDisableIfNoHndler` an item whose command nobody handles is
+    /// disabled. TRUE if a handler was found.
+    BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Windows
+
+// CWnd::m_nFlags
+#define WF_TOOLTIPS 0x0001      // tool tips are enabled
+#define WF_TEMPHIDE 0x0002      // hidden for a moment
+#define WF_STAYDISABLED 0x0004  // disabled by a modal state that is still on
+#define WF_MODALLOOP 0x0008     // runs a modal loop
+#define WF_CONTINUEMODAL 0x0010 // the modal loop goes on
+
+// CWnd::RunModalLoop
+#define MLF_NOIDLEMSG 0x0001  // no WM_ENTERIDLE to the parent
+#define MLF_NOKICKIDLE 0x0002 // no WM_KICKIDLE to the window
+#define MLF_SHOWONIDLE 0x0004 // show the window when the queue is empty for the first time
+
+/// A window, its message map and the wrapper of its Win32 calls. The calls that carry a Win32 name do what
+/// the Win32 function does with m_hWnd; only what goes beyond that is described here.
+class AFX_CORE_CLASS CWnd : public CCmdTarget
+{
+    DECLARE_DYNCREATE(CWnd)
+
+public:
+    CWnd();
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr;
+
+    // For SetWindowPos: not windows, only places in the order
+    static const CWnd wndTop;
+    static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
+
+    operator HWND() const;
+    BOOL operator==(const CWnd& wnd) const;
+    BOOL operator!=(const CWnd& wnd) const;
+    HWND GetSafeHwnd() const; ///< the handle; null for a null object
+    DWORD GetStyle() const;
+    DWORD GetExStyle() const;
+    CWnd* GetOwner() const;         ///< the window set by SetOwner, else the parent
+    void SetOwner(CWnd* pOwnerWnd); ///< commands and notifications of the framework go to the owner
+
+    /// The object of a handle: the permanent one, or a temporary one that lives until idle time.
+    static CWnd* PASCAL FromHandle(HWND hWnd);
+    /// The object attached to a handle by the program, or null.
+    static CWnd* PASCAL FromHandlePermanent(HWND hWnd);
+    static void PASCAL DeleteTempMap();
+    /// Makes the object the permanent one of the handle; messages keep going to the window's own procedure.
+    BOOL Attach(HWND hWndNew);
+    HWND Detach();
+
+    /// Attaches, and takes over the window's messages. The old procedure receives what is not handled.
+    BOOL SubclassWindow(HWND hWnd);
+    BOOL SubclassDlgItem(UINT nID, CWnd* pParent);
+    /// Gives the messages back and detaches; answers the handle.
+    HWND UnsubclassWindow();
+    /// Called when the object has received its handle, before the first message (Create) or before the
+    /// procedure is exchanged (SubclassWindow).
+    virtual void PreSubclassWindow();
+
+    virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                        CWnd* pParentWnd, UINT nID, CCreateContext* pContext = nullptr);
+    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, int x, int y,
+                  int nWidth, int nHeight, HWND hWndParent, HMENU nIDorHMenu, LPVOID lpParam = nullptr);
+    virtual BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle,
+                          const RECT& rect, CWnd* pParentWnd, UINT nID, LPVOID lpParam = nullptr);
+    /// Last word on class, style and size before the window is made; FALSE gives the creation up. A null
+    /// class name is replaced by the framework's own class.
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL DestroyWindow();
+
+    // Styles, identifiers, data
+    BOOL ModifyStyle(DWORD dwRemove, DWORD dwAdd,
+                     UINT nFlags = 0); ///< nFlags: SWP_ flags, 0 for no repositioning
+    BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
+    static BOOL PASCAL ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
+    static BOOL PASCAL ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
+    int GetDlgCtrlID() const;
+    int SetDlgCtrlID(int nID); ///< answers the id of before
+
+    // Related windows
+    static CWnd* PASCAL GetActiveWindow();
+    CWnd* SetActiveWindow();
+    BOOL SetForegroundWindow();
+    static CWnd* PASCAL GetForegroundWindow();
+    static CWnd* PASCAL GetCapture();
+    CWnd* SetCapture();
+    static CWnd* PASCAL GetFocus();
+    CWnd* SetFocus();
+    static CWnd* PASCAL GetDesktopWindow();
+    CWnd* GetWindow(UINT nCmd) const;
+    CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const;
+    CWnd* GetTopWindow() const;
+    CWnd* GetLastActivePopup() const;
+    CWnd* GetParent() const;
+    CWnd* SetParent(CWnd* pWndNewParent);
+    CWnd* GetAncestor(UINT gaFlags) const;
+    CWnd* GetTopLevelParent() const;   ///< up through parents and owners
+    CWnd* GetTopLevelOwner() const;    ///< up through owners
+    CWnd* GetParentOwner() const;      ///< the nearest parent that is not a child window
+    CFrameWnd* GetParentFrame() const; ///< the nearest CFrameWnd above, or null
+    CFrameWnd* GetTopLevelFrame() const;
+    BOOL IsTopParentActive() const;
+    void ActivateTopParent();
+    static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName);
+    static CWnd* PASCAL FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass,
+                                     LPCTSTR lpszWindow);
+    static CWnd* PASCAL WindowFromPoint(POINT point);
+    CWnd* ChildWindowFromPoint(POINT point) const;
+    CWnd* ChildWindowFromPoint(POINT point, UINT nFlags) const;
+    BOOL IsChild(const CWnd* pWnd) const;
+    /// The first descendant with the id, children before grandchildren; with `bOnlyPerm` only one that has a
+    /// permanent object.
+    CWnd* GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
+    static CWnd* PASCAL GetDescendantWindow(HWND hWnd, int nID, BOOL bOnlyPerm);
+    void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
+                                  BOOL bOnlyPerm = FALSE);
+    static void PASCAL SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam,
+                                                BOOL bDeep, BOOL bOnlyPerm);
+
+    // Messages
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    static const MSG* PASCAL GetCurrentMessage(); ///< the message being handled on this thread
+    void DragAcceptFiles(BOOL bAccept = TRUE);
+
+    // Text and font
+    void SetWindowText(LPCTSTR lpszString);
+    int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const;
+    void GetWindowText(CString& rString) const;
+    int GetWindowTextLength() const;
+    void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
+    CFont* GetFont() const;
+
+    // Menus
+    CMenu* GetMenu() const;
+    BOOL SetMenu(CMenu* pMenu);
+    void DrawMenuBar();
+    CMenu* GetSystemMenu(BOOL bRevert) const;
+    BOOL HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite);
+
+    // Position and size
+    BOOL IsIconic() const;
+    BOOL IsZoomed() const;
+    void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
+    void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
+    int SetWindowRgn(HRGN hRgn, BOOL bRedraw); ///< the window owns the region afterwards
+    int GetWindowRgn(HRGN hRgn) const;
+    BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
+    UINT ArrangeIconicWindows();
+    void BringWindowToTop();
+    void GetWindowRect(LPRECT lpRect) const;
+    void GetClientRect(LPRECT lpRect) const;
+    BOOL GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const;
+    BOOL SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl);
+    void ClientToScreen(LPPOINT lpPoint) const;
+    void ClientToScreen(LPRECT lpRect) const;
+    void ScreenToClient(LPPOINT lpPoint) const;
+    void ScreenToClient(LPRECT lpRect) const;
+    void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
+    void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
+    virtual void CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType = adjustBorder);
+    enum AdjustType
+    {
+        adjustBorder = 0,
+        adjustOutside = 1
+    };
+    /// Centres over the alternate window, the owner or parent, or the work area of the monitor.
+    void CenterWindow(CWnd* pAlternateOwner = nullptr);
+
+    // Painting
+    CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
+    void EndPaint(LPPAINTSTRUCT lpPaint);
+    CDC* GetDC();
+    CDC* GetWindowDC();
+    CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
+    int ReleaseDC(CDC* pDC);
+    void Print(CDC* pDC, DWORD dwFlags) const;
+    void PrintClient(CDC* pDC, DWORD dwFlags) const;
+    void UpdateWindow();
+    void SetRedraw(BOOL bRedraw = TRUE);
+    BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE);
+    int GetUpdateRgn(CRgn* pRgn, BOOL bErase = FALSE);
+    void Invalidate(BOOL bErase = TRUE);
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
+    void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE);
+    void ValidateRect(LPCRECT lpRect);
+    void ValidateRgn(CRgn* pRgn);
+    BOOL ShowWindow(int nCmdShow);
+    BOOL IsWindowVisible() const;
+    void ShowOwnedPopups(BOOL bShow = TRUE);
+    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags);
+    BOOL LockWindowUpdate();
+    void UnlockWindowUpdate();
+    BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, CRgn* prgnUpdate = nullptr,
+                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
+    BOOL DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo);
+    BOOL DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags);
+    BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags);
+    BOOL GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const;
+
+    // Timers
+    UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
+                      void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
+    BOOL KillTimer(UINT_PTR nIDEvent);
+
+    // State
+    BOOL IsWindowEnabled() const;
+    BOOL EnableWindow(BOOL bEnable = TRUE);
+    BOOL FlashWindow(BOOL bInvert);
+    BOOL FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout);
+
+    // Dialog items
+    void CheckDlgButton(int nIDButton, UINT nCheck);
+    void CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton);
+    int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const;
+    UINT IsDlgButtonChecked(int nIDButton) const;
+    CWnd* GetDlgItem(int nID) const;
+    void GetDlgItem(int nID, HWND* phWnd) const;
+    UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const;
+    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
+    int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
+    int GetDlgItemText(int nID, CString& rString) const;
+    void SetDlgItemText(int nID, LPCTSTR lpszString);
+    CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
+    CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
+    LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    int DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType);
+    int DlgDirListComboBox(LPTSTR lpPathSpec, int nIDComboBox, int nIDStaticPath, UINT nFileType);
+    BOOL DlgDirSelect(LPTSTR lpString, int nSize, int nIDListBox);
+    BOOL DlgDirSelectComboBox(LPTSTR lpString, int nSize, int nIDComboBox);
+
+    // Scrolling
+    int GetScrollPos(int nBar) const;
+    void GetScrollRange(int nBar, LPINT lpMinPos, LPINT lpMaxPos) const;
+    void ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect = nullptr, LPCRECT lpClipRect = nullptr);
+    int ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
+                       LPRECT lpRectUpdate, UINT flags);
+    int SetScrollPos(int nBar, int nPos, BOOL bRedraw = TRUE);
+    void SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw = TRUE);
+    void ShowScrollBar(UINT nBar, BOOL bShow = TRUE);
+    void EnableScrollBarCtrl(int nBar, BOOL bEnable = TRUE);
+    BOOL EnableScrollBar(int nSBFlags, UINT nArrowFlags = ESB_ENABLE_BOTH);
+    virtual CScrollBar* GetScrollBarCtrl(
+        int nBar) const; ///< a sibling control that stands for the bar; null here
+    BOOL SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
+    BOOL GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
+    BOOL GetScrollBarInfo(LONG idObject, PSCROLLBARINFO psbi) const;
+    int GetScrollLimit(int nBar); ///< the greatest position that a user can scroll to
+
+    // Caret, clipboard, hot key, help
+    void CreateCaret(CBitmap* pBitmap);
+    void CreateSolidCaret(int nWidth, int nHeight);
+    void CreateGrayCaret(int nWidth, int nHeight);
+    static CPoint PASCAL GetCaretPos();
+    static void PASCAL SetCaretPos(POINT point);
+    void HideCaret();
+    void ShowCaret();
+    BOOL OpenClipboard();
+    static CWnd* PASCAL GetClipboardOwner();
+    static CWnd* PASCAL GetClipboardViewer();
+    static CWnd* PASCAL GetOpenClipboardWindow();
+    HWND SetClipboardViewer();
+    BOOL ChangeClipboardChain(HWND hWndNext);
+    int SetHotKey(WORD wVirtualKeyCode, WORD wModifiers);
+    DWORD GetHotKey() const;
+    BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
+    DWORD GetWindowContextHelpId() const;
+    HICON SetIcon(HICON hIcon, BOOL bBigIcon);
+    HICON GetIcon(BOOL bBigIcon) const;
+
+    // Message boxes
+    int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
+
+    // Dialog data
+    /// Exchanges the members of the object with its controls: FALSE to the controls, TRUE from them. FALSE
+    /// when a value was refused; the user has then been told and the control has the focus.
+    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    /// Fills combo and list boxes from the dialog's RT_DLGINIT resource.
+    BOOL ExecuteDlgInit(LPCTSTR lpszResourceName);
+    BOOL ExecuteDlgInit(LPVOID lpResource);
+    /// Brings the state of every control up to date through ON_UPDATE_COMMAND_UI handlers.
+    void UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+
+    // Modal state
+    /// Runs a message loop until EndModalLoop, and answers its result; -1 if the thread is quitting.
+    int RunModalLoop(DWORD dwFlags = 0);
+    virtual BOOL ContinueModal();
+    virtual void EndModalLoop(int nResult);
+
+    // Translation of messages before dispatch
+    virtual BOOL PreTranslateMessage(MSG* pMsg); ///< TRUE when the message is done with and is not dispatched
+    BOOL PreTranslateInput(LPMSG lpMsg);         ///< IsDialogMessage for keyboard and mouse messages only
+    BOOL IsDialogMessage(LPMSG lpMsg);
+    /// Offers a message to PreTranslateMessage of its window and of each parent up to `hWndStop`.
+    static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
+
+    /// Offers the message being handled to this control as if it had come from the parent.
+    BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
+
+    virtual BOOL CheckAutoCenter();
+    virtual BOOL IsFrameWnd() const;
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
+
+protected:
+    friend class CCmdUI;
+    friend class CWinThread;
+    friend class CDataExchange;
+    friend class CFrameWnd;
+    friend class CDialog;
+    friend AFX_CORE_API LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
+
+    HWND m_hWndOwner = nullptr;   ///< set by SetOwner
+    UINT m_nFlags = 0;            ///< WF_ values
+    int m_nModalResult = 0;       ///< answer of RunModalLoop
+    WNDPROC m_pfnSuper = nullptr; ///< the procedure that stood here before the object
+
+    /// Where the address of a class's original procedure is kept; the object's own m_pfnSuper by default.
+    virtual WNDPROC* GetSuperWndProcAddr();
+
+    /// Passes the message being handled on to the default procedure, with the parameters it came with.
+    LRESULT Default();
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual void DoDataExchange(CDataExchange* pDX);
+    /// The last call that an object with a window receives; objects made with `new` delete themselves here.
+    virtual void PostNcDestroy();
+
+    // Reflection
+    /// Gives the message being handled to the child first. TRUE when the child took it; its answer in
+    /// `pResult`.
+    static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = nullptr);
+    /// The control's side of a notification that went to its parent; TRUE keeps it from the parent.
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+
+    afx_msg LRESULT OnDisplayChange(WPARAM wParam, LPARAM lParam);
+
+public:
+    /// The window that owns a dialog or message box shown for `pParent` (may be null). `pWndTop` receives the
+    /// top-level window to be disabled when that is not the owner, else null.
+    static CWnd* PASCAL GetSafeOwner(CWnd* pParent = nullptr, HWND* pWndTop = nullptr);
+
+protected:
+    // Handlers: creation and destruction. Each hands the message on by Default().
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnClose();
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnNcDestroy();
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
+
+    // Handlers: position, size, style, state
+    afx_msg void OnMove(int x, int y);
+    afx_msg void OnMoving(UINT nSide, LPRECT lpRect);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSizing(UINT nSide, LPRECT lpRect);
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* lpWndPos);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* lpWndPos);
+    afx_msg void OnStyleChanging(int nStyleType, LPSTYLESTRUCT lpStyleStruct);
+    afx_msg void OnStyleChanged(int nStyleType, LPSTYLESTRUCT lpStyleStruct);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
+    afx_msg void OnChildActivate();
+    afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnCancelMode();
+    afx_msg BOOL OnQueryOpen();
+    afx_msg HCURSOR OnQueryDragIcon();
+    afx_msg void OnParentNotify(UINT message, LPARAM lParam);
+    afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
+
+    // Handlers: painting and colours
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
+    afx_msg void OnIconEraseBkgnd(CDC* pDC);
+    afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
+    afx_msg void OnSysColorChange();
+    afx_msg LRESULT OnThemeChanged();
+    afx_msg BOOL OnQueryNewPalette();
+    afx_msg void OnPaletteIsChanging(CWnd* pRealizeWnd);
+    afx_msg void OnPaletteChanged(CWnd* pFocusWnd);
+
+    // Handlers: non-client area
+    afx_msg BOOL OnNcActivate(BOOL bActive);
+    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg void OnNcPaint();
+    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
+    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcLButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);
+    afx_msg void OnNcRButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcRButtonDblClk(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMButtonDown(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMButtonUp(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMButtonDblClk(UINT nHitTest, CPoint point);
+
+    // Handlers: keyboard
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnSysKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg UINT OnGetDlgCode();
+    afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
+
+    // Handlers: mouse
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnMButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnMButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnMButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnMouseHover(UINT nFlags, CPoint point);
+    afx_msg void OnMouseLeave();
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
+    afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
+    afx_msg void OnDropFiles(HDROP hDropInfo);
+
+    // Handlers: scrolling, timers, menus
+    afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg void OnInitMenu(CMenu* pMenu);
+    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu);
+    afx_msg void OnEnterMenuLoop(BOOL bIsTrackPopupMenu);
+    afx_msg void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+
+    // Handlers: owner-drawn and list controls
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
+    afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
+    afx_msg void OnDeleteItem(int nIDCtl, LPDELETEITEMSTRUCT lpDeleteItemStruct);
+    afx_msg int OnCompareItem(int nIDCtl, LPCOMPAREITEMSTRUCT lpCompareItemStruct);
+    afx_msg int OnCharToItem(UINT nChar, CListBox* pListBox, UINT nIndex);
+    afx_msg int OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex);
+
+    // Handlers: system and session
+    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
+    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg void OnFontChange();
+    afx_msg void OnTimeChange();
+    afx_msg void OnDevModeChange(LPTSTR lpDeviceName);
+    afx_msg BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
+    afx_msg void OnCompacting(UINT nCpuTime);
+    afx_msg void OnSpoolerStatus(UINT nStatus, UINT nJobs);
+    afx_msg BOOL OnCopyData(CWnd* pWnd, COPYDATASTRUCT* pCopyDataStruct);
+
+    // Handlers: clipboard
+    afx_msg void OnChangeCbChain(HWND hWndRemove, HWND hWndAfter);
+    afx_msg void OnDrawClipboard();
+    afx_msg void OnDestroyClipboard();
+    afx_msg void OnRenderFormat(UINT nFormat);
+    afx_msg void OnRenderAllFormats();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CWndHook;
+    BOOL OnMappedMsg(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    BOOL OnCtlColorMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    BOOL ReflectCtlColor(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    void TakeOverProcedure();
+    explicit CWnd(HWND place); ///< for the places of SetWindowPos
+    bool IsPlace() const;
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Dialog data exchange: the argument of DoDataExchange. The DDX_ and DDV_ functions stand in afxdd_.h.
+
+class AFX_CORE_CLASS CDataExchange
+{
+public:
+    CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate);
+
+    BOOL m_bSaveAndValidate; ///< TRUE: from the controls to the members
+    CWnd* m_pDlgWnd;         ///< the window whose controls take part
+
+    /// The window of a control, remembered as the one to blame when a value is refused.
+    /// Throws CNotSupportedException when there is no such control.
+    HWND PrepareCtrl(int nIDC);
+    HWND PrepareEditCtrl(int nIDC);
+    /// Refuses a value: gives the focus to the last control and throws CUserException. Tell the user before.
+    [[noreturn]] void Fail();
+
+    UINT m_idLastControl = 0;
+    BOOL m_bEditLastControl = FALSE;
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Frame windows
+
+/// The top-level window of an application: it owns itself, receives the commands of its menu, hands those
+/// that it does not handle to the application, and ends the program when it is the main window and is closed.
+class AFX_CORE_CLASS CFrameWnd : public CWnd
+{
+    DECLARE_DYNCREATE(CFrameWnd)
+
+public:
+    CFrameWnd();
+    ~CFrameWnd() override;
+
+    static const CRect rectDefault; ///< lets the system choose position and size
+
+    using CWnd::Create;
+    BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
+                const RECT& rect = rectDefault, CWnd* pParentWnd = nullptr, LPCTSTR lpszMenuName = nullptr,
+                DWORD dwExStyle = 0, CCreateContext* pContext = nullptr);
+    BOOL LoadAccelTable(LPCTSTR lpszResourceName);
+
+    HACCEL m_hAccelTable = nullptr;
+    BOOL m_bAutoMenuEnable = TRUE; ///< menu items whose command nobody handles are disabled
+
+    virtual CFrameWnd* GetActiveFrame();
+    virtual void ActivateFrame(int nCmdShow = -1);
+    CString GetTitle() const;
+    void SetTitle(LPCTSTR lpszTitle);
+
+    /// Modal state of the frame: its other top-level windows are disabled. Counted.
+    virtual void BeginModalState();
+    virtual void EndModalState();
+    BOOL InModalState() const;
+
+    BOOL IsFrameWnd() const override;
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+protected:
+    void PostNcDestroy() override;
+
+    afx_msg void OnClose();
+    afx_msg void OnEnable(BOOL bEnable);
+    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg BOOL OnQueryEndSession();
+
+    CString m_strTitle;
+    int m_cModalStack = 0;
+    BOOL m_bModalDisable = FALSE;        ///< in modal state because the frame itself was disabled
+    std::vector<HWND> m_disabledByModal; ///< windows to be enabled when the modal state ends
+
+    DECLARE_MESSAGE_MAP()
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Dialogs
+
+/// A dialog made from a template resource or a template in memory.
+///
+/// Modal: construct with the template's name or id, call DoModal. It answers what EndDialog was given (IDOK
+/// and IDCANCEL by OnOK and OnCancel), -1 if the dialog could not be made, IDABORT on another failure.
+/// Modeless: construct without arguments, call Create or CreateIndirect; close it by DestroyWindow, which
+/// means that OnOK and OnCancel are to be overridden.
+class AFX_CORE_CLASS CDialog : public CWnd
+{
+    DECLARE_DYNAMIC(CDialog)
+
+public:
+    CDialog();
+    explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
+    explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
+    ~CDialog() override;
+
+    using CWnd::Create;
+    virtual BOOL Create(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
+    virtual BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
+    virtual BOOL CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                                void* lpDialogInit = nullptr);
+    virtual BOOL CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
+    /// Gives a dialog constructed without arguments its template before DoModal. The memory must outlive
+    /// DoModal.
+    BOOL InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd = nullptr,
+                           void* lpDialogInit = nullptr);
+    BOOL InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd = nullptr);
+
+    virtual INT_PTR DoModal();
+    /// Hides a modal dialog and lets DoModal answer; allowed in OnInitDialog too.
+    void EndDialog(int nResult);
+
+    void MapDialogRect(LPRECT lpRect) const;
+    void NextDlgCtrl() const;
+    void PrevDlgCtrl() const;
+    void GotoDlgCtrl(CWnd* pWndCtrl);
+    void SetDefID(UINT nID);
+    DWORD GetDefID() const;
+
+    /// FALSE when the focus was set by the override. Fills controls from RT_DLGINIT and from the members.
+    virtual BOOL OnInitDialog();
+    virtual void OnSetFont(CFont* pFont);
+
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL CheckAutoCenter() override;
+
+    void AssertValid() const override;
+    void Dump(CDumpContext& dc) const override;
+
+protected:
+    virtual void OnOK();     ///< UpdateData(TRUE), then EndDialog(IDOK); stays open when a value was refused
+    virtual void OnCancel(); ///< EndDialog(IDCANCEL)
+    virtual void PreInitDialog();
+
+    /// Parent of the modal dialog: found, and disabled, by PreModal; given back by PostModal.
+    HWND PreModal();
+    void PostModal();
+    BOOL CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, HINSTANCE hInst);
+
+    UINT m_nIDHelp = 0;
+    LPCTSTR m_lpszTemplateName = nullptr;
+    HGLOBAL m_hDialogTemplate = nullptr;
+    LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;
+    void* m_lpDialogInit = nullptr;
+    CWnd* m_pParentWnd = nullptr;
+    HWND m_hWndTop = nullptr; ///< top-level window disabled beside the owner
+
+    afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM);
+    afx_msg LRESULT HandleSetFont(WPARAM, LPARAM);
+
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,0 +1,642 @@
+// List views.
+
+#include <afxcmn.h>
+
+#include "commctl.h"
+#include "ctlmsg.h"
+
+// ---------------------------------------------------------------------------------------------------------
+// CListCtrl
+
+IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
+
+CListCtrl::CListCtrl() = default;
+
+CListCtrl::~CListCtrl()
+{
+    DestroyWindow();
+}
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+// clang-format on
+
+BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return RegisterCommonControls(ICC_LISTVIEW_CLASSES) &&
+           CWnd::CreateEx(dwExStyle, WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CListCtrl::OnDestroy()
+{
+    // The control would destroy lists that belong to an object.
+    for (int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
+    {
+        const auto images = Ask<HIMAGELIST>(*this, LVM_GETIMAGELIST, kind);
+        if (CImageList::FromHandlePermanent(images) != nullptr)
+            Ask(*this, LVM_SETIMAGELIST, kind);
+    }
+    CWnd::OnDestroy();
+}
+
+COLORREF CListCtrl::GetBkColor() const
+{
+    return Ask<COLORREF>(*this, LVM_GETBKCOLOR);
+}
+
+BOOL CListCtrl::SetBkColor(COLORREF cr)
+{
+    return Ask<BOOL>(*this, LVM_SETBKCOLOR, 0, cr);
+}
+
+COLORREF CListCtrl::GetTextColor() const
+{
+    return Ask<COLORREF>(*this, LVM_GETTEXTCOLOR);
+}
+
+BOOL CListCtrl::SetTextColor(COLORREF cr)
+{
+    return Ask<BOOL>(*this, LVM_SETTEXTCOLOR, 0, cr);
+}
+
+COLORREF CListCtrl::GetTextBkColor() const
+{
+    return Ask<COLORREF>(*this, LVM_GETTEXTBKCOLOR);
+}
+
+BOOL CListCtrl::SetTextBkColor(COLORREF cr)
+{
+    return Ask<BOOL>(*this, LVM_SETTEXTBKCOLOR, 0, cr);
+}
+
+CImageList* CListCtrl::GetImageList(int nImageList) const
+{
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_GETIMAGELIST, nImageList));
+}
+
+CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType)
+{
+    const HIMAGELIST images = SafeImages(pImageList);
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_SETIMAGELIST, nImageListType, images));
+}
+
+int CListCtrl::GetItemCount() const
+{
+    return Ask<int>(*this, LVM_GETITEMCOUNT);
+}
+
+void CListCtrl::SetItemCount(int nItems)
+{
+    Ask(*this, LVM_SETITEMCOUNT, nItems);
+}
+
+BOOL CListCtrl::SetItemCountEx(int iCount, DWORD dwFlags)
+{
+    return Ask<BOOL>(*this, LVM_SETITEMCOUNT, iCount, dwFlags);
+}
+
+UINT CListCtrl::GetCallbackMask() const
+{
+    return Ask<UINT>(*this, LVM_GETCALLBACKMASK);
+}
+
+BOOL CListCtrl::SetCallbackMask(UINT nMask)
+{
+    return Ask<BOOL>(*this, LVM_SETCALLBACKMASK, nMask);
+}
+
+DWORD CListCtrl::GetExtendedStyle()
+{
+    return Ask<DWORD>(*this, LVM_GETEXTENDEDLISTVIEWSTYLE);
+}
+
+DWORD CListCtrl::SetExtendedStyle(DWORD dwNewStyle)
+{
+    return Ask<DWORD>(*this, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
+}
+
+BOOL CListCtrl::GetViewRect(LPRECT lpRect) const
+{
+    return Ask<BOOL>(*this, LVM_GETVIEWRECT, 0, lpRect);
+}
+
+BOOL CListCtrl::GetOrigin(LPPOINT lpPoint) const
+{
+    return Ask<BOOL>(*this, LVM_GETORIGIN, 0, lpPoint);
+}
+
+int CListCtrl::GetTopIndex() const
+{
+    return Ask<int>(*this, LVM_GETTOPINDEX);
+}
+
+int CListCtrl::GetCountPerPage() const
+{
+    return Ask<int>(*this, LVM_GETCOUNTPERPAGE);
+}
+
+BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const
+{
+    const DWORD spacing = Ask<DWORD>(*this, LVM_GETITEMSPACING, fSmall);
+    *pnHorzSpacing = LOWORD(spacing);
+    *pnVertSpacing = HIWORD(spacing);
+    return TRUE;
+}
+
+CSize CListCtrl::SetIconSpacing(int cx, int cy)
+{
+    return CSize(Ask<DWORD>(*this, LVM_SETICONSPACING, 0, MAKELPARAM(cx, cy)));
+}
+
+CSize CListCtrl::SetIconSpacing(CSize size)
+{
+    return SetIconSpacing(size.cx, size.cy);
+}
+
+CHeaderCtrl* CListCtrl::GetHeaderCtrl() const
+{
+    return static_cast<CHeaderCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETHEADER)));
+}
+
+CEdit* CListCtrl::GetEditControl() const
+{
+    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETEDITCONTROL)));
+}
+
+CToolTipCtrl* CListCtrl::GetToolTips() const
+{
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETTOOLTIPS)));
+}
+
+CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
+{
+    const HWND before = Ask<HWND>(*this, LVM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
+}
+
+BOOL CListCtrl::GetBkImage(LVBKIMAGE* plvbkImage) const
+{
+    return Ask<BOOL>(*this, LVM_GETBKIMAGE, 0, plvbkImage);
+}
+
+BOOL CListCtrl::SetBkImage(LVBKIMAGE* plvbkImage)
+{
+    return Ask<BOOL>(*this, LVM_SETBKIMAGE, 0, plvbkImage);
+}
+
+BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
+{
+    LVBKIMAGE image = {};
+    image.ulFlags = LVBKIF_SOURCE_HBITMAP | (fTile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
+    image.hbm = hbm;
+    image.xOffsetPercent = xOffsetPercent;
+    image.yOffsetPercent = yOffsetPercent;
+    return SetBkImage(&image);
+}
+
+BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
+{
+    LVBKIMAGE image = {};
+    image.ulFlags = LVBKIF_SOURCE_URL | (fTile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
+    image.pszImage = pszUrl;
+    image.xOffsetPercent = xOffsetPercent;
+    image.yOffsetPercent = yOffsetPercent;
+    return SetBkImage(&image);
+}
+
+DWORD CListCtrl::GetView() const
+{
+    return Ask<DWORD>(*this, LVM_GETVIEW);
+}
+
+DWORD CListCtrl::SetView(int iView)
+{
+    return Ask<DWORD>(*this, LVM_SETVIEW, iView);
+}
+
+int CListCtrl::GetStringWidth(LPCTSTR lpsz) const
+{
+    return Ask<int>(*this, LVM_GETSTRINGWIDTH, 0, lpsz);
+}
+
+DWORD CListCtrl::GetHoverTime() const
+{
+    return Ask<DWORD>(*this, LVM_GETHOVERTIME);
+}
+
+DWORD CListCtrl::SetHoverTime(DWORD dwHoverTime)
+{
+    return Ask<DWORD>(*this, LVM_SETHOVERTIME, 0, dwHoverTime);
+}
+
+void CListCtrl::SetWorkAreas(int nWorkAreas, LPRECT lpRect)
+{
+    Ask(*this, LVM_SETWORKAREAS, nWorkAreas, lpRect);
+}
+
+BOOL CListCtrl::GetWorkAreas(int nWorkAreas, LPRECT prc) const
+{
+    return Ask<BOOL>(*this, LVM_GETWORKAREAS, nWorkAreas, prc);
+}
+
+UINT CListCtrl::GetNumberOfWorkAreas() const
+{
+    UINT count = 0;
+    Ask(*this, LVM_GETNUMBEROFWORKAREAS, 0, &count);
+    return count;
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Items
+
+BOOL CListCtrl::GetItem(LVITEM* pItem) const
+{
+    return Ask<BOOL>(*this, LVM_GETITEM, 0, pItem);
+}
+
+BOOL CListCtrl::SetItem(const LVITEM* pItem)
+{
+    return Ask<BOOL>(*this, LVM_SETITEM, 0, pItem);
+}
+
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                        UINT nStateMask, LPARAM lParam)
+{
+    return SetItem(nItem, nSubItem, nMask, lpszItem, nImage, nState, nStateMask, lParam, 0);
+}
+
+BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                        UINT nStateMask, LPARAM lParam, int nIndent)
+{
+    LVITEM item = {};
+    item.mask = nMask;
+    item.iItem = nItem;
+    item.iSubItem = nSubItem;
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    item.lParam = lParam;
+    item.iIndent = nIndent;
+    return SetItem(&item);
+}
+
+UINT CListCtrl::GetItemState(int nItem, UINT nMask) const
+{
+    return Ask<UINT>(*this, LVM_GETITEMSTATE, nItem, nMask);
+}
+
+BOOL CListCtrl::SetItemState(int nItem, LVITEM* pItem)
+{
+    return Ask<BOOL>(*this, LVM_SETITEMSTATE, nItem, pItem);
+}
+
+BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask)
+{
+    LVITEM item = {};
+    item.state = nState;
+    item.stateMask = nMask;
+    return SetItemState(nItem, &item);
+}
+
+CString CListCtrl::GetItemText(int nItem, int nSubItem) const
+{
+    return WholeText([=, this](LPTSTR buffer, int size)
+                     { return GetItemText(nItem, nSubItem, buffer, size); });
+}
+
+int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const
+{
+    LVITEM item = {};
+    item.iSubItem = nSubItem;
+    item.pszText = lpszText;
+    item.cchTextMax = nLen;
+    const int length = Ask<int>(*this, LVM_GETITEMTEXT, nItem, &item);
+    // The control may answer with a buffer of its own instead of filling this one.
+    if (length > 0 && item.pszText != lpszText)
+        ::lstrcpyn(lpszText, item.pszText, nLen);
+    return length;
+}
+
+BOOL CListCtrl::SetItemText(int nItem, int nSubItem, LPCTSTR lpszText)
+{
+    LVITEM item = {};
+    item.iSubItem = nSubItem;
+    item.pszText = const_cast<LPTSTR>(lpszText);
+    return Ask<BOOL>(*this, LVM_SETITEMTEXT, nItem, &item);
+}
+
+DWORD_PTR CListCtrl::GetItemData(int nItem) const
+{
+    LVITEM item = {};
+    item.mask = LVIF_PARAM;
+    item.iItem = nItem;
+    GetItem(&item);
+    return item.lParam;
+}
+
+BOOL CListCtrl::SetItemData(int nItem, DWORD_PTR dwData)
+{
+    return SetItem(nItem, 0, LVIF_PARAM, nullptr, 0, 0, 0, dwData);
+}
+
+BOOL CListCtrl::GetItemPosition(int nItem, LPPOINT lpPoint) const
+{
+    return Ask<BOOL>(*this, LVM_GETITEMPOSITION, nItem, lpPoint);
+}
+
+BOOL CListCtrl::SetItemPosition(int nItem, POINT pt)
+{
+    // The form with 32-bit coordinates has no answer.
+    Ask(*this, LVM_SETITEMPOSITION32, nItem, &pt);
+    return TRUE;
+}
+
+BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const
+{
+    lpRect->left = nCode;
+    return Ask<BOOL>(*this, LVM_GETITEMRECT, nItem, lpRect);
+}
+
+BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref)
+{
+    ref.top = iSubItem;
+    ref.left = nArea;
+    return Ask<BOOL>(*this, LVM_GETSUBITEMRECT, iItem, &ref);
+}
+
+BOOL CListCtrl::GetCheck(int nItem) const
+{
+    // State image 1 is the empty box, 2 the checked one.
+    return static_cast<BOOL>(GetItemState(nItem, LVIS_STATEIMAGEMASK) >> 12) - 1;
+}
+
+BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck)
+{
+    return SetItemState(nItem, INDEXTOSTATEIMAGEMASK(fCheck ? 2 : 1), LVIS_STATEIMAGEMASK);
+}
+
+int CListCtrl::GetNextItem(int nItem, int nFlags) const
+{
+    return Ask<int>(*this, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+}
+
+UINT CListCtrl::GetSelectedCount() const
+{
+    return Ask<UINT>(*this, LVM_GETSELECTEDCOUNT);
+}
+
+int CListCtrl::GetSelectionMark() const
+{
+    return Ask<int>(*this, LVM_GETSELECTIONMARK);
+}
+
+int CListCtrl::SetSelectionMark(int iIndex)
+{
+    return Ask<int>(*this, LVM_SETSELECTIONMARK, 0, iIndex);
+}
+
+int CListCtrl::GetHotItem() const
+{
+    return Ask<int>(*this, LVM_GETHOTITEM);
+}
+
+int CListCtrl::SetHotItem(int iIndex)
+{
+    return Ask<int>(*this, LVM_SETHOTITEM, iIndex);
+}
+
+HCURSOR CListCtrl::GetHotCursor()
+{
+    return Ask<HCURSOR>(*this, LVM_GETHOTCURSOR);
+}
+
+HCURSOR CListCtrl::SetHotCursor(HCURSOR hc)
+{
+    return Ask<HCURSOR>(*this, LVM_SETHOTCURSOR, 0, hc);
+}
+
+namespace
+{
+/// A position is the item's index plus one, so that null can stand for the end.
+POSITION ToPosition(int item)
+{
+    return reinterpret_cast<POSITION>(static_cast<INT_PTR>(item) + 1);
+}
+
+int ToItem(POSITION position)
+{
+    return static_cast<int>(reinterpret_cast<INT_PTR>(position)) - 1;
+}
+} // namespace
+
+POSITION CListCtrl::GetFirstSelectedItemPosition() const
+{
+    return ToPosition(GetNextItem(-1, LVNI_SELECTED));
+}
+
+int CListCtrl::GetNextSelectedItem(POSITION& pos) const
+{
+    const int item = ToItem(pos);
+    pos = ToPosition(GetNextItem(item, LVNI_SELECTED));
+    return item;
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Columns
+
+BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const
+{
+    return Ask<BOOL>(*this, LVM_GETCOLUMN, nCol, pColumn);
+}
+
+BOOL CListCtrl::SetColumn(int nCol, const LVCOLUMN* pColumn)
+{
+    return Ask<BOOL>(*this, LVM_SETCOLUMN, nCol, pColumn);
+}
+
+int CListCtrl::GetColumnWidth(int nCol) const
+{
+    return Ask<int>(*this, LVM_GETCOLUMNWIDTH, nCol);
+}
+
+BOOL CListCtrl::SetColumnWidth(int nCol, int cx)
+{
+    return Ask<BOOL>(*this, LVM_SETCOLUMNWIDTH, nCol, MAKELPARAM(cx, 0));
+}
+
+int CListCtrl::InsertColumn(int nCol, const LVCOLUMN* pColumn)
+{
+    return Ask<int>(*this, LVM_INSERTCOLUMN, nCol, pColumn);
+}
+
+int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, int nWidth, int nSubItem)
+{
+    LVCOLUMN column = {};
+    column.mask = LVCF_TEXT | LVCF_FMT;
+    column.pszText = const_cast<LPTSTR>(lpszColumnHeading);
+    column.fmt = nFormat;
+    if (nWidth != -1)
+    {
+        column.mask |= LVCF_WIDTH;
+        column.cx = nWidth;
+    }
+    if (nSubItem != -1)
+    {
+        column.mask |= LVCF_SUBITEM;
+        column.iSubItem = nSubItem;
+    }
+    return InsertColumn(nCol, &column);
+}
+
+BOOL CListCtrl::DeleteColumn(int nCol)
+{
+    return Ask<BOOL>(*this, LVM_DELETECOLUMN, nCol);
+}
+
+BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount)
+{
+    if (iCount == -1)
+        iCount = GetHeaderCtrl()->GetItemCount();
+    return Ask<BOOL>(*this, LVM_GETCOLUMNORDERARRAY, iCount, piArray);
+}
+
+BOOL CListCtrl::SetColumnOrderArray(int iCount, LPINT piArray)
+{
+    return Ask<BOOL>(*this, LVM_SETCOLUMNORDERARRAY, iCount, piArray);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Contents
+
+int CListCtrl::InsertItem(const LVITEM* pItem)
+{
+    return Ask<int>(*this, LVM_INSERTITEM, 0, pItem);
+}
+
+int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem)
+{
+    return InsertItem(LVIF_TEXT, nItem, lpszItem, 0, 0, 0, 0);
+}
+
+int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage)
+{
+    return InsertItem(LVIF_TEXT | LVIF_IMAGE, nItem, lpszItem, 0, 0, nImage, 0);
+}
+
+int CListCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask, int nImage,
+                          LPARAM lParam)
+{
+    LVITEM item = {};
+    item.mask = nMask;
+    item.iItem = nItem;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.iImage = nImage;
+    item.lParam = lParam;
+    return InsertItem(&item);
+}
+
+BOOL CListCtrl::DeleteItem(int nItem)
+{
+    return Ask<BOOL>(*this, LVM_DELETEITEM, nItem);
+}
+
+BOOL CListCtrl::DeleteAllItems()
+{
+    return Ask<BOOL>(*this, LVM_DELETEALLITEMS);
+}
+
+int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const
+{
+    return Ask<int>(*this, LVM_FINDITEM, nStart, pFindInfo);
+}
+
+BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
+{
+    return Ask<BOOL>(*this, LVM_SORTITEMS, dwData, pfnCompare);
+}
+
+int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const
+{
+    return Ask<int>(*this, LVM_HITTEST, 0, pHitTestInfo);
+}
+
+int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
+{
+    LVHITTESTINFO info = {};
+    info.pt = pt;
+    const int hit = HitTest(&info);
+    if (pFlags != nullptr)
+        *pFlags = info.flags;
+    return hit;
+}
+
+int CListCtrl::SubItemHitTest(LPLVHITTESTINFO pInfo)
+{
+    return Ask<int>(*this, LVM_SUBITEMHITTEST, 0, pInfo);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Actions
+
+BOOL CListCtrl::EnsureVisible(int nItem, BOOL bPartialOK)
+{
+    return Ask<BOOL>(*this, LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
+}
+
+BOOL CListCtrl::Scroll(CSize size)
+{
+    return Ask<BOOL>(*this, LVM_SCROLL, size.cx, size.cy);
+}
+
+BOOL CListCtrl::RedrawItems(int nFirst, int nLast)
+{
+    return Ask<BOOL>(*this, LVM_REDRAWITEMS, nFirst, nLast);
+}
+
+BOOL CListCtrl::Arrange(UINT nCode)
+{
+    return Ask<BOOL>(*this, LVM_ARRANGE, nCode);
+}
+
+CEdit* CListCtrl::EditLabel(int nItem)
+{
+    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_EDITLABEL, nItem)));
+}
+
+BOOL CListCtrl::Update(int nItem)
+{
+    return Ask<BOOL>(*this, LVM_UPDATE, nItem);
+}
+
+CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)
+{
+    return NewImageList(Ask<HIMAGELIST>(*this, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
+}
+
+DWORD CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
+{
+    return Ask<DWORD>(*this, LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy));
+}
+
+BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
+{
+    if (message != WM_DRAWITEM)
+        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
+    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+    return TRUE;
+}
+
+void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
+{
+    ASSERT(FALSE); // an owner-drawn list must draw its items
+}

@@ -1,0 +1,304 @@
+// Tool tips.
+
+#include <afxcmn.h>
+#include <afxpriv.h>
+
+#include "commctl.h"
+#include "ctlmsg.h"
+
+IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
+
+CToolTipCtrl::CToolTipCtrl() = default;
+
+CToolTipCtrl::~CToolTipCtrl()
+{
+    DestroyWindow();
+}
+
+BEGIN_MESSAGE_MAP(CToolTipCtrl, CWnd)
+    ON_MESSAGE(WM_DISABLEMODAL, &CToolTipCtrl::OnDisableModal)
+    ON_MESSAGE(TTM_WINDOWFROMPOINT, &CToolTipCtrl::OnWindowFromPoint)
+END_MESSAGE_MAP()
+
+BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle)
+{
+    return CreateEx(pParentWnd, dwStyle, 0);
+}
+
+BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx)
+{
+    if (!RegisterCommonControls(ICC_TAB_CLASSES))
+        return FALSE;
+    const BOOL created =
+        CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASS, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT, CW_USEDEFAULT,
+                       CW_USEDEFAULT, CW_USEDEFAULT, SafeHwnd(pParentWnd), nullptr);
+    if (created)
+        SetOwner(pParentWnd);
+    return created;
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Message handlers
+
+LRESULT CToolTipCtrl::OnDisableModal(WPARAM, LPARAM)
+{
+    // Stays enabled while the application is modal: the modal dialog may be the one whose tips it shows.
+    return TRUE;
+}
+
+namespace
+{
+/// The innermost visible child at a point of the screen, also among disabled ones, or null.
+HWND DeepChildFromPoint(HWND window, POINT screen)
+{
+    HWND found = nullptr;
+    for (;;)
+    {
+        POINT client = screen;
+        ::ScreenToClient(window, &client);
+        const HWND child = ::ChildWindowFromPointEx(window, client, CWP_SKIPINVISIBLE | CWP_SKIPTRANSPARENT);
+        if (child == nullptr || child == window)
+            return found;
+        window = found = child;
+    }
+}
+} // namespace
+
+LRESULT CToolTipCtrl::OnWindowFromPoint(WPARAM, LPARAM lParam)
+{
+    // The control's own answer looks through disabled windows; their tips are wanted too.
+    const POINT point = *reinterpret_cast<const POINT*>(lParam);
+    const HWND window = ::WindowFromPoint(point);
+    const HWND child = window == nullptr ? nullptr : DeepChildFromPoint(window, point);
+    return reinterpret_cast<LRESULT>(child == nullptr ? window : child);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Tools
+
+void CToolTipCtrl::FillInToolInfo(TOOLINFO& ti, CWnd* pWnd, UINT_PTR nIDTool) const
+{
+    ti = TOOLINFO();
+    // The smallest size is understood by every version of the control.
+    ti.cbSize = TTTOOLINFO_V1_SIZE;
+    const HWND window = SafeHwnd(pWnd);
+    if (nIDTool == 0)
+    {
+        ti.hwnd = ::GetParent(window);
+        ti.uFlags = TTF_IDISHWND;
+        ti.uId = reinterpret_cast<UINT_PTR>(window);
+    }
+    else
+    {
+        ti.hwnd = window;
+        ti.uId = nIDTool;
+    }
+}
+
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UINT_PTR nIDTool)
+{
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    if (lpRectTool != nullptr)
+        tool.rect = *lpRectTool;
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    return Ask<BOOL>(*this, TTM_ADDTOOL, 0, &tool);
+}
+
+namespace
+{
+/// The module of a string; strings stand in tables of 16.
+HINSTANCE StringModule(UINT id)
+{
+    return AfxFindResourceHandle(MAKEINTRESOURCE((id >> 4) + 1), RT_STRING);
+}
+} // namespace
+
+BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool)
+{
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    if (lpRectTool != nullptr)
+        tool.rect = *lpRectTool;
+    tool.hinst = StringModule(nIDText);
+    tool.lpszText = MAKEINTRESOURCE(nIDText);
+    return Ask<BOOL>(*this, TTM_ADDTOOL, 0, &tool);
+}
+
+void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool)
+{
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    Ask(*this, TTM_DELTOOL, 0, &tool);
+}
+
+void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
+{
+    // The message knows no size; a text of the control's own is shorter than this.
+    constexpr int longest = 1024;
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.lpszText = str.GetBuffer(longest);
+    tool.lpszText[0] = 0;
+    Ask(*this, TTM_GETTEXT, longest, &tool);
+    str.ReleaseBuffer();
+}
+
+void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
+{
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.lpszText = const_cast<LPTSTR>(lpszText);
+    Ask(*this, TTM_UPDATETIPTEXT, 0, &tool);
+}
+
+void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool)
+{
+    CString text;
+    VERIFY(text.LoadString(nIDText));
+    UpdateTipText(text, pWnd, nIDTool);
+}
+
+BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const
+{
+    FillInToolInfo(ToolInfo, pWnd, nIDTool);
+    ToolInfo.szText[0] = 0;
+    ToolInfo.lpszText = ToolInfo.szText;
+    return Ask<BOOL>(*this, TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
+}
+
+void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo)
+{
+    Ask(*this, TTM_SETTOOLINFO, 0, lpToolInfo);
+}
+
+BOOL CToolTipCtrl::GetCurrentTool(LPTOOLINFO lpToolInfo) const
+{
+    return Ask<BOOL>(*this, TTM_GETCURRENTTOOL, 0, lpToolInfo);
+}
+
+void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect)
+{
+    TOOLINFO tool;
+    FillInToolInfo(tool, pWnd, nIDTool);
+    tool.rect = *lpRect;
+    Ask(*this, TTM_NEWTOOLRECT, 0, &tool);
+}
+
+BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
+{
+    TTHITTESTINFO hit = {};
+    hit.ti.cbSize = TTTOOLINFO_V1_SIZE;
+    hit.hwnd = SafeHwnd(pWnd);
+    hit.pt = pt;
+    if (!Ask<BOOL>(*this, TTM_HITTEST, 0, &hit))
+        return FALSE;
+    *lpToolInfo = hit.ti;
+    return TRUE;
+}
+
+int CToolTipCtrl::GetToolCount() const
+{
+    return Ask<int>(*this, TTM_GETTOOLCOUNT);
+}
+
+void CToolTipCtrl::RelayEvent(LPMSG lpMsg)
+{
+    Ask(*this, TTM_RELAYEVENT, 0, lpMsg);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Times and looks
+
+int CToolTipCtrl::GetDelayTime(DWORD dwDuration) const
+{
+    return Ask<int>(*this, TTM_GETDELAYTIME, dwDuration);
+}
+
+void CToolTipCtrl::SetDelayTime(DWORD dwDuration, int iTime)
+{
+    Ask(*this, TTM_SETDELAYTIME, dwDuration, MAKELPARAM(iTime, 0));
+}
+
+void CToolTipCtrl::SetDelayTime(UINT nDelay)
+{
+    SetDelayTime(TTDT_AUTOMATIC, nDelay);
+}
+
+void CToolTipCtrl::GetMargin(LPRECT lprc) const
+{
+    Ask(*this, TTM_GETMARGIN, 0, lprc);
+}
+
+void CToolTipCtrl::SetMargin(LPRECT lprc)
+{
+    Ask(*this, TTM_SETMARGIN, 0, lprc);
+}
+
+int CToolTipCtrl::GetMaxTipWidth() const
+{
+    return Ask<int>(*this, TTM_GETMAXTIPWIDTH);
+}
+
+int CToolTipCtrl::SetMaxTipWidth(int iWidth)
+{
+    return Ask<int>(*this, TTM_SETMAXTIPWIDTH, 0, iWidth);
+}
+
+COLORREF CToolTipCtrl::GetTipBkColor() const
+{
+    return Ask<COLORREF>(*this, TTM_GETTIPBKCOLOR);
+}
+
+void CToolTipCtrl::SetTipBkColor(COLORREF clr)
+{
+    Ask(*this, TTM_SETTIPBKCOLOR, clr);
+}
+
+COLORREF CToolTipCtrl::GetTipTextColor() const
+{
+    return Ask<COLORREF>(*this, TTM_GETTIPTEXTCOLOR);
+}
+
+void CToolTipCtrl::SetTipTextColor(COLORREF clr)
+{
+    Ask(*this, TTM_SETTIPTEXTCOLOR, clr);
+}
+
+BOOL CToolTipCtrl::SetTitle(UINT uIcon, LPCTSTR lpstrTitle)
+{
+    return Ask<BOOL>(*this, TTM_SETTITLE, uIcon, lpstrTitle);
+}
+
+CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO lpToolInfo) const
+{
+    return CSize(Ask<DWORD>(*this, TTM_GETBUBBLESIZE, 0, lpToolInfo));
+}
+
+BOOL CToolTipCtrl::AdjustRect(LPRECT lprc, BOOL bLarger)
+{
+    return Ask<BOOL>(*this, TTM_ADJUSTRECT, bLarger, lprc);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Showing
+
+void CToolTipCtrl::Activate(BOOL bActivate)
+{
+    Ask(*this, TTM_ACTIVATE, bActivate);
+}
+
+void CToolTipCtrl::Update()
+{
+    Ask(*this, TTM_UPDATE);
+}
+
+void CToolTipCtrl::Pop()
+{
+    Ask(*this, TTM_POP);
+}
+
+BOOL CToolTipCtrl::Popup()
+{
+    return Ask<BOOL>(*this, TTM_POPUP);
+}

@@ -1,0 +1,465 @@
+// Tree views.
+
+#include <afxcmn.h>
+
+#include "commctl.h"
+#include "ctlmsg.h"
+
+// ---------------------------------------------------------------------------------------------------------
+// CTreeCtrl
+
+IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
+
+CTreeCtrl::CTreeCtrl() = default;
+
+CTreeCtrl::~CTreeCtrl()
+{
+    DestroyWindow();
+}
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CTreeCtrl, CWnd)
+    ON_WM_DESTROY()
+END_MESSAGE_MAP()
+// clang-format on
+
+BOOL CTreeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+}
+
+BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    return RegisterCommonControls(ICC_TREEVIEW_CLASSES) &&
+           CWnd::CreateEx(dwExStyle, WC_TREEVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CTreeCtrl::OnDestroy()
+{
+    // The control would destroy lists that belong to an object.
+    for (int kind : {TVSIL_NORMAL, TVSIL_STATE})
+    {
+        const auto images = Ask<HIMAGELIST>(*this, TVM_GETIMAGELIST, kind);
+        if (CImageList::FromHandlePermanent(images) != nullptr)
+            Ask(*this, TVM_SETIMAGELIST, kind);
+    }
+    CWnd::OnDestroy();
+}
+
+UINT CTreeCtrl::GetCount() const
+{
+    return Ask<UINT>(*this, TVM_GETCOUNT);
+}
+
+UINT CTreeCtrl::GetIndent() const
+{
+    return Ask<UINT>(*this, TVM_GETINDENT);
+}
+
+void CTreeCtrl::SetIndent(UINT nIndent)
+{
+    Ask(*this, TVM_SETINDENT, nIndent);
+}
+
+CImageList* CTreeCtrl::GetImageList(UINT nImageList) const
+{
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_GETIMAGELIST, nImageList));
+}
+
+CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType)
+{
+    const HIMAGELIST images = SafeImages(pImageList);
+    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_SETIMAGELIST, nImageListType, images));
+}
+
+UINT CTreeCtrl::GetVisibleCount() const
+{
+    return Ask<UINT>(*this, TVM_GETVISIBLECOUNT);
+}
+
+CToolTipCtrl* CTreeCtrl::GetToolTips() const
+{
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_GETTOOLTIPS)));
+}
+
+CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip)
+{
+    const HWND before = Ask<HWND>(*this, TVM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
+}
+
+COLORREF CTreeCtrl::GetBkColor() const
+{
+    return Ask<COLORREF>(*this, TVM_GETBKCOLOR);
+}
+
+COLORREF CTreeCtrl::SetBkColor(COLORREF clr)
+{
+    return Ask<COLORREF>(*this, TVM_SETBKCOLOR, 0, clr);
+}
+
+SHORT CTreeCtrl::GetItemHeight() const
+{
+    return Ask<SHORT>(*this, TVM_GETITEMHEIGHT);
+}
+
+SHORT CTreeCtrl::SetItemHeight(SHORT cyHeight)
+{
+    return Ask<SHORT>(*this, TVM_SETITEMHEIGHT, cyHeight);
+}
+
+COLORREF CTreeCtrl::GetTextColor() const
+{
+    return Ask<COLORREF>(*this, TVM_GETTEXTCOLOR);
+}
+
+COLORREF CTreeCtrl::SetTextColor(COLORREF clr)
+{
+    return Ask<COLORREF>(*this, TVM_SETTEXTCOLOR, 0, clr);
+}
+
+COLORREF CTreeCtrl::GetInsertMarkColor() const
+{
+    return Ask<COLORREF>(*this, TVM_GETINSERTMARKCOLOR);
+}
+
+COLORREF CTreeCtrl::SetInsertMarkColor(COLORREF clrNew)
+{
+    return Ask<COLORREF>(*this, TVM_SETINSERTMARKCOLOR, 0, clrNew);
+}
+
+COLORREF CTreeCtrl::GetLineColor() const
+{
+    return Ask<COLORREF>(*this, TVM_GETLINECOLOR);
+}
+
+COLORREF CTreeCtrl::SetLineColor(COLORREF clrNew)
+{
+    return Ask<COLORREF>(*this, TVM_SETLINECOLOR, 0, clrNew);
+}
+
+UINT CTreeCtrl::GetScrollTime() const
+{
+    return Ask<UINT>(*this, TVM_GETSCROLLTIME);
+}
+
+UINT CTreeCtrl::SetScrollTime(UINT nScrollTime)
+{
+    return Ask<UINT>(*this, TVM_SETSCROLLTIME, nScrollTime);
+}
+
+CEdit* CTreeCtrl::GetEditControl() const
+{
+    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_GETEDITCONTROL)));
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Walking
+
+HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM hItem, UINT nCode) const
+{
+    return Ask<HTREEITEM>(*this, TVM_GETNEXTITEM, nCode, hItem);
+}
+
+HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_CHILD);
+}
+
+HTREEITEM CTreeCtrl::GetNextSiblingItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_NEXT);
+}
+
+HTREEITEM CTreeCtrl::GetPrevSiblingItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_PREVIOUS);
+}
+
+HTREEITEM CTreeCtrl::GetParentItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_PARENT);
+}
+
+HTREEITEM CTreeCtrl::GetFirstVisibleItem() const
+{
+    return GetNextItem(nullptr, TVGN_FIRSTVISIBLE);
+}
+
+HTREEITEM CTreeCtrl::GetNextVisibleItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_NEXTVISIBLE);
+}
+
+HTREEITEM CTreeCtrl::GetPrevVisibleItem(HTREEITEM hItem) const
+{
+    return GetNextItem(hItem, TVGN_PREVIOUSVISIBLE);
+}
+
+HTREEITEM CTreeCtrl::GetLastVisibleItem() const
+{
+    return GetNextItem(nullptr, TVGN_LASTVISIBLE);
+}
+
+HTREEITEM CTreeCtrl::GetSelectedItem() const
+{
+    return GetNextItem(nullptr, TVGN_CARET);
+}
+
+HTREEITEM CTreeCtrl::GetDropHilightItem() const
+{
+    return GetNextItem(nullptr, TVGN_DROPHILITE);
+}
+
+HTREEITEM CTreeCtrl::GetRootItem() const
+{
+    return GetNextItem(nullptr, TVGN_ROOT);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Items
+
+BOOL CTreeCtrl::GetItem(TVITEM* pItem) const
+{
+    return Ask<BOOL>(*this, TVM_GETITEM, 0, pItem);
+}
+
+CString CTreeCtrl::GetItemText(HTREEITEM hItem) const
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_TEXT;
+    item.hItem = hItem;
+    return WholeText(
+        [&](LPTSTR buffer, int size)
+        {
+            item.pszText = buffer;
+            item.cchTextMax = size;
+            // The control may answer with a buffer of its own instead of filling this one.
+            if (!GetItem(&item))
+                buffer[0] = 0;
+            else if (item.pszText != buffer)
+                ::lstrcpyn(buffer, item.pszText, size);
+            return ::lstrlen(buffer);
+        });
+}
+
+BOOL CTreeCtrl::GetItemImage(HTREEITEM hItem, int& nImage, int& nSelectedImage) const
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    item.hItem = hItem;
+    const BOOL found = GetItem(&item);
+    nImage = item.iImage;
+    nSelectedImage = item.iSelectedImage;
+    return found;
+}
+
+UINT CTreeCtrl::GetItemState(HTREEITEM hItem, UINT nStateMask) const
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_STATE;
+    item.hItem = hItem;
+    item.stateMask = nStateMask;
+    GetItem(&item);
+    return item.state & nStateMask;
+}
+
+DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM hItem) const
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_PARAM;
+    item.hItem = hItem;
+    GetItem(&item);
+    return item.lParam;
+}
+
+BOOL CTreeCtrl::SetItem(TVITEM* pItem)
+{
+    return Ask<BOOL>(*this, TVM_SETITEM, 0, pItem);
+}
+
+BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage,
+                        UINT nState, UINT nStateMask, LPARAM lParam)
+{
+    TVITEM item = {};
+    item.mask = nMask | TVIF_HANDLE;
+    item.hItem = hItem;
+    item.state = nState;
+    item.stateMask = nStateMask;
+    item.pszText = const_cast<LPTSTR>(lpszItem);
+    item.iImage = nImage;
+    item.iSelectedImage = nSelectedImage;
+    item.lParam = lParam;
+    return SetItem(&item);
+}
+
+BOOL CTreeCtrl::SetItemText(HTREEITEM hItem, LPCTSTR lpszItem)
+{
+    return SetItem(hItem, TVIF_TEXT, lpszItem, 0, 0, 0, 0, 0);
+}
+
+BOOL CTreeCtrl::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage)
+{
+    return SetItem(hItem, TVIF_IMAGE | TVIF_SELECTEDIMAGE, nullptr, nImage, nSelectedImage, 0, 0, 0);
+}
+
+BOOL CTreeCtrl::SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask)
+{
+    return SetItem(hItem, TVIF_STATE, nullptr, 0, 0, nState, nStateMask, 0);
+}
+
+BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, DWORD_PTR dwData)
+{
+    return SetItem(hItem, TVIF_PARAM, nullptr, 0, 0, 0, 0, dwData);
+}
+
+BOOL CTreeCtrl::ItemHasChildren(HTREEITEM hItem) const
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_CHILDREN;
+    item.hItem = hItem;
+    GetItem(&item);
+    return item.cChildren != 0;
+}
+
+BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) const
+{
+    // The message reads the item from the place where it writes the rectangle.
+    *reinterpret_cast<HTREEITEM*>(lpRect) = hItem;
+    return Ask<BOOL>(*this, TVM_GETITEMRECT, bTextOnly, lpRect);
+}
+
+BOOL CTreeCtrl::GetCheck(HTREEITEM hItem) const
+{
+    // State image 1 is the empty box, 2 the checked one.
+    return static_cast<BOOL>(GetItemState(hItem, TVIS_STATEIMAGEMASK) >> 12) - 1;
+}
+
+BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
+{
+    return SetItemState(hItem, INDEXTOSTATEIMAGEMASK(fCheck ? 2 : 1), TVIS_STATEIMAGEMASK);
+}
+
+BOOL CTreeCtrl::SetInsertMark(HTREEITEM hItem, BOOL fAfter)
+{
+    return Ask<BOOL>(*this, TVM_SETINSERTMARK, fAfter, hItem);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Contents
+
+HTREEITEM CTreeCtrl::InsertItem(LPTVINSERTSTRUCT lpInsertStruct)
+{
+    return Ask<HTREEITEM>(*this, TVM_INSERTITEM, 0, lpInsertStruct);
+}
+
+HTREEITEM CTreeCtrl::InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
+                                UINT nStateMask, LPARAM lParam, HTREEITEM hParent, HTREEITEM hInsertAfter)
+{
+    TVINSERTSTRUCT insert = {};
+    insert.hParent = hParent;
+    insert.hInsertAfter = hInsertAfter;
+    insert.item.mask = nMask;
+    insert.item.pszText = const_cast<LPTSTR>(lpszItem);
+    insert.item.iImage = nImage;
+    insert.item.iSelectedImage = nSelectedImage;
+    insert.item.state = nState;
+    insert.item.stateMask = nStateMask;
+    insert.item.lParam = lParam;
+    return InsertItem(&insert);
+}
+
+HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, HTREEITEM hParent, HTREEITEM hInsertAfter)
+{
+    return InsertItem(TVIF_TEXT, lpszItem, 0, 0, 0, 0, 0, hParent, hInsertAfter);
+}
+
+HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage, HTREEITEM hParent,
+                                HTREEITEM hInsertAfter)
+{
+    constexpr UINT mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    return InsertItem(mask, lpszItem, nImage, nSelectedImage, 0, 0, 0, hParent, hInsertAfter);
+}
+
+BOOL CTreeCtrl::DeleteItem(HTREEITEM hItem)
+{
+    return Ask<BOOL>(*this, TVM_DELETEITEM, 0, hItem);
+}
+
+BOOL CTreeCtrl::DeleteAllItems()
+{
+    return DeleteItem(TVI_ROOT);
+}
+
+BOOL CTreeCtrl::SortChildren(HTREEITEM hItem)
+{
+    return Ask<BOOL>(*this, TVM_SORTCHILDREN, 0, hItem);
+}
+
+BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort)
+{
+    return Ask<BOOL>(*this, TVM_SORTCHILDRENCB, 0, pSort);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Actions
+
+BOOL CTreeCtrl::Expand(HTREEITEM hItem, UINT nCode)
+{
+    return Ask<BOOL>(*this, TVM_EXPAND, nCode, hItem);
+}
+
+BOOL CTreeCtrl::Select(HTREEITEM hItem, UINT nCode)
+{
+    return Ask<BOOL>(*this, TVM_SELECTITEM, nCode, hItem);
+}
+
+BOOL CTreeCtrl::SelectItem(HTREEITEM hItem)
+{
+    return Select(hItem, TVGN_CARET);
+}
+
+BOOL CTreeCtrl::SelectDropTarget(HTREEITEM hItem)
+{
+    return Select(hItem, TVGN_DROPHILITE);
+}
+
+BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM hItem)
+{
+    return Select(hItem, TVGN_FIRSTVISIBLE);
+}
+
+CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem)
+{
+    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_EDITLABEL, 0, hItem)));
+}
+
+BOOL CTreeCtrl::EndEditLabelNow(BOOL fCancel)
+{
+    return Ask<BOOL>(*this, TVM_ENDEDITLABELNOW, fCancel);
+}
+
+HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
+{
+    TVHITTESTINFO info = {};
+    info.pt = pt;
+    const HTREEITEM hit = HitTest(&info);
+    if (pFlags != nullptr)
+        *pFlags = info.flags;
+    return hit;
+}
+
+HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* pHitTestInfo) const
+{
+    return Ask<HTREEITEM>(*this, TVM_HITTEST, 0, pHitTestInfo);
+}
+
+BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem)
+{
+    return Ask<BOOL>(*this, TVM_ENSUREVISIBLE, 0, hItem);
+}
+
+CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)
+{
+    return NewImageList(Ask<HIMAGELIST>(*this, TVM_CREATEDRAGIMAGE, 0, hItem));
+}

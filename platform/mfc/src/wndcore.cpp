@@ -1,0 +1,1047 @@
+// CWnd: the wrappers of Win32 calls, and the searches among related windows.
+
+#include <afxwin.h>
+
+#include <algorithm>
+
+// ---------------------------------------------------------------------------------------------------------
+// The handle
+
+CWnd::operator HWND() const
+{
+    return GetSafeHwnd();
+}
+
+BOOL CWnd::operator==(const CWnd& wnd) const
+{
+    return wnd.GetSafeHwnd() == m_hWnd;
+}
+
+BOOL CWnd::operator!=(const CWnd& wnd) const
+{
+    return wnd.GetSafeHwnd() != m_hWnd;
+}
+
+HWND CWnd::GetSafeHwnd() const
+{
+    return this == nullptr ? nullptr : m_hWnd;
+}
+
+DWORD CWnd::GetStyle() const
+{
+    return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_STYLE));
+}
+
+DWORD CWnd::GetExStyle() const
+{
+    return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_EXSTYLE));
+}
+
+namespace
+{
+BOOL ModifyWindowLong(HWND window, int index, DWORD remove, DWORD add, UINT flags)
+{
+    const auto before = static_cast<DWORD>(::GetWindowLong(window, index));
+    const DWORD after = (before & ~remove) | add;
+    if (after == before)
+        return FALSE;
+    ::SetWindowLong(window, index, static_cast<LONG>(after));
+    if (flags != 0)
+        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                       SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
+    return TRUE;
+}
+} // namespace
+
+BOOL CWnd::ModifyStyle(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
+{
+    return ModifyWindowLong(m_hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL CWnd::ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags)
+{
+    return ModifyWindowLong(m_hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL PASCAL CWnd::ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags)
+{
+    return ModifyWindowLong(hWnd, GWL_STYLE, dwRemove, dwAdd, nFlags);
+}
+
+BOOL PASCAL CWnd::ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags)
+{
+    return ModifyWindowLong(hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
+}
+
+int CWnd::GetDlgCtrlID() const
+{
+    return ::GetDlgCtrlID(m_hWnd);
+}
+
+int CWnd::SetDlgCtrlID(int nID)
+{
+    return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, nID));
+}
+
+BOOL CWnd::IsFrameWnd() const
+{
+    return FALSE;
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Related windows
+
+CWnd* CWnd::GetOwner() const
+{
+    return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent();
+}
+
+void CWnd::SetOwner(CWnd* pOwnerWnd)
+{
+    m_hWndOwner = pOwnerWnd->GetSafeHwnd();
+}
+
+CWnd* PASCAL CWnd::GetActiveWindow()
+{
+    return FromHandle(::GetActiveWindow());
+}
+
+CWnd* PASCAL CWnd::GetForegroundWindow()
+{
+    return FromHandle(::GetForegroundWindow());
+}
+
+CWnd* PASCAL CWnd::GetCapture()
+{
+    return FromHandle(::GetCapture());
+}
+
+CWnd* PASCAL CWnd::GetFocus()
+{
+    return FromHandle(::GetFocus());
+}
+
+CWnd* PASCAL CWnd::GetDesktopWindow()
+{
+    return FromHandle(::GetDesktopWindow());
+}
+
+CWnd* PASCAL CWnd::GetClipboardOwner()
+{
+    return FromHandle(::GetClipboardOwner());
+}
+
+CWnd* PASCAL CWnd::GetClipboardViewer()
+{
+    return FromHandle(::GetClipboardViewer());
+}
+
+CWnd* PASCAL CWnd::GetOpenClipboardWindow()
+{
+    return FromHandle(::GetOpenClipboardWindow());
+}
+
+CWnd* CWnd::SetActiveWindow()
+{
+    return FromHandle(::SetActiveWindow(m_hWnd));
+}
+
+CWnd* CWnd::SetCapture()
+{
+    return FromHandle(::SetCapture(m_hWnd));
+}
+
+CWnd* CWnd::SetFocus()
+{
+    return FromHandle(::SetFocus(m_hWnd));
+}
+
+BOOL CWnd::SetForegroundWindow()
+{
+    return ::SetForegroundWindow(m_hWnd);
+}
+
+CWnd* CWnd::GetWindow(UINT nCmd) const
+{
+    return FromHandle(::GetWindow(m_hWnd, nCmd));
+}
+
+CWnd* CWnd::GetNextWindow(UINT nFlag) const
+{
+    return FromHandle(::GetWindow(m_hWnd, nFlag));
+}
+
+CWnd* CWnd::GetTopWindow() const
+{
+    return FromHandle(::GetTopWindow(m_hWnd));
+}
+
+CWnd* CWnd::GetLastActivePopup() const
+{
+    return FromHandle(::GetLastActivePopup(m_hWnd));
+}
+
+CWnd* CWnd::GetParent() const
+{
+    return FromHandle(::GetParent(m_hWnd));
+}
+
+CWnd* CWnd::SetParent(CWnd* pWndNewParent)
+{
+    return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
+}
+
+CWnd* CWnd::GetAncestor(UINT gaFlags) const
+{
+    return FromHandle(::GetAncestor(m_hWnd, gaFlags));
+}
+
+namespace
+{
+/// The parent of a child window, the owner of any other.
+HWND ParentOrOwnerOf(HWND window)
+{
+    const bool isChild = (::GetWindowLong(window, GWL_STYLE) & WS_CHILD) != 0;
+    return isChild ? ::GetParent(window) : ::GetWindow(window, GW_OWNER);
+}
+} // namespace
+
+CWnd* CWnd::GetTopLevelParent() const
+{
+    HWND top = GetSafeHwnd();
+    if (top == nullptr)
+        return nullptr;
+    while (const HWND above = ParentOrOwnerOf(top))
+        top = above;
+    return FromHandle(top);
+}
+
+CWnd* CWnd::GetTopLevelOwner() const
+{
+    HWND top = GetSafeHwnd();
+    if (top == nullptr)
+        return nullptr;
+    while (const HWND owner = ::GetWindow(top, GW_OWNER))
+        top = owner;
+    return FromHandle(top);
+}
+
+CWnd* CWnd::GetParentOwner() const
+{
+    HWND owner = GetSafeHwnd();
+    if (owner == nullptr)
+        return nullptr;
+    while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD) != 0)
+        owner = ::GetParent(owner);
+    return FromHandle(owner);
+}
+
+CFrameWnd* CWnd::GetParentFrame() const
+{
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
+    for (HWND above = ::GetParent(m_hWnd); above != nullptr; above = ::GetParent(above))
+    {
+        CWnd* const window = FromHandlePermanent(above);
+        if (window != nullptr && window->IsFrameWnd())
+            return static_cast<CFrameWnd*>(window);
+    }
+    return nullptr;
+}
+
+CFrameWnd* CWnd::GetTopLevelFrame() const
+{
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
+    CFrameWnd* frame = IsFrameWnd() ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this)) : GetParentFrame();
+    while (frame != nullptr)
+    {
+        CFrameWnd* const above = frame->GetParentFrame();
+        if (above == nullptr)
+            break;
+        frame = above;
+    }
+    return frame;
+}
+
+BOOL CWnd::IsTopParentActive() const
+{
+    CWnd* const top = GetTopLevelParent();
+    return top != nullptr && ::GetForegroundWindow() == ::GetLastActivePopup(top->m_hWnd);
+}
+
+void CWnd::ActivateTopParent()
+{
+    // Only within the active application: its popups may be in front of the parent, and stay there.
+    const HWND active = ::GetForegroundWindow();
+    if (active == nullptr || !(active == m_hWnd || ::IsChild(active, m_hWnd)))
+        if (CWnd* const top = GetTopLevelParent())
+            top->SetForegroundWindow();
+}
+
+CWnd* PASCAL CWnd::FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName)
+{
+    return FromHandle(::FindWindow(lpszClassName, lpszWindowName));
+}
+
+CWnd* PASCAL CWnd::FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass, LPCTSTR lpszWindow)
+{
+    return FromHandle(::FindWindowEx(hwndParent, hwndChildAfter, lpszClass, lpszWindow));
+}
+
+CWnd* PASCAL CWnd::WindowFromPoint(POINT point)
+{
+    return FromHandle(::WindowFromPoint(point));
+}
+
+CWnd* CWnd::ChildWindowFromPoint(POINT point) const
+{
+    return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
+}
+
+CWnd* CWnd::ChildWindowFromPoint(POINT point, UINT nFlags) const
+{
+    return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, nFlags));
+}
+
+BOOL CWnd::IsChild(const CWnd* pWnd) const
+{
+    return ::IsChild(m_hWnd, pWnd->GetSafeHwnd());
+}
+
+CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const
+{
+    return GetDescendantWindow(m_hWnd, nID, bOnlyPerm);
+}
+
+CWnd* PASCAL CWnd::GetDescendantWindow(HWND hWnd, int nID, BOOL bOnlyPerm)
+{
+    if (const HWND child = ::GetDlgItem(hWnd, nID))
+    {
+        // Controls that build their own children may use the id a second time, below the one that is meant.
+        if (::GetTopWindow(child) != nullptr)
+            if (CWnd* const inner = GetDescendantWindow(child, nID, bOnlyPerm))
+                return inner;
+        CWnd* const found = bOnlyPerm ? FromHandlePermanent(child) : FromHandle(child);
+        if (found != nullptr)
+            return found;
+    }
+    for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+        if (CWnd* const found = GetDescendantWindow(child, nID, bOnlyPerm))
+            return found;
+    return nullptr;
+}
+
+void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm)
+{
+    SendMessageToDescendants(m_hWnd, message, wParam, lParam, bDeep, bOnlyPerm);
+}
+
+void PASCAL CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
+                                           BOOL bOnlyPerm)
+{
+    for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        if (!bOnlyPerm)
+            ::SendMessage(child, message, wParam, lParam);
+        else if (CWnd* const window = FromHandlePermanent(child))
+            AfxCallWndProc(window, child, message, wParam, lParam);
+        if (bDeep && ::GetTopWindow(child) != nullptr)
+            SendMessageToDescendants(child, message, wParam, lParam, bDeep, bOnlyPerm);
+    }
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Messages, text, font, menus
+
+LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::SendMessage(m_hWnd, message, wParam, lParam);
+}
+
+BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::PostMessage(m_hWnd, message, wParam, lParam);
+}
+
+BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
+}
+
+void CWnd::DragAcceptFiles(BOOL bAccept)
+{
+    ::DragAcceptFiles(m_hWnd, bAccept);
+}
+
+void CWnd::SetWindowText(LPCTSTR lpszString)
+{
+    ::SetWindowText(m_hWnd, lpszString);
+}
+
+int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const
+{
+    return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
+}
+
+void CWnd::GetWindowText(CString& rString) const
+{
+    const int length = ::GetWindowTextLength(m_hWnd);
+    ::GetWindowText(m_hWnd, rString.GetBufferSetLength(length), length + 1);
+    rString.ReleaseBuffer();
+}
+
+int CWnd::GetWindowTextLength() const
+{
+    return ::GetWindowTextLength(m_hWnd);
+}
+
+void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
+{
+    ::SendMessage(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont->GetSafeHandle()), bRedraw);
+}
+
+CFont* CWnd::GetFont() const
+{
+    return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0)));
+}
+
+CMenu* CWnd::GetMenu() const
+{
+    return CMenu::FromHandle(::GetMenu(m_hWnd));
+}
+
+BOOL CWnd::SetMenu(CMenu* pMenu)
+{
+    return ::SetMenu(m_hWnd, pMenu->GetSafeHmenu());
+}
+
+void CWnd::DrawMenuBar()
+{
+    ::DrawMenuBar(m_hWnd);
+}
+
+CMenu* CWnd::GetSystemMenu(BOOL bRevert) const
+{
+    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert));
+}
+
+BOOL CWnd::HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite)
+{
+    return ::HiliteMenuItem(m_hWnd, pMenu->m_hMenu, nIDHiliteItem, nHilite);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Position and size
+
+BOOL CWnd::IsIconic() const
+{
+    return ::IsIconic(m_hWnd);
+}
+
+BOOL CWnd::IsZoomed() const
+{
+    return ::IsZoomed(m_hWnd);
+}
+
+void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint)
+{
+    ::MoveWindow(m_hWnd, x, y, nWidth, nHeight, bRepaint);
+}
+
+void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint)
+{
+    MoveWindow(lpRect->left, lpRect->top, lpRect->right - lpRect->left, lpRect->bottom - lpRect->top,
+               bRepaint);
+}
+
+int CWnd::SetWindowRgn(HRGN hRgn, BOOL bRedraw)
+{
+    return ::SetWindowRgn(m_hWnd, hRgn, bRedraw);
+}
+
+int CWnd::GetWindowRgn(HRGN hRgn) const
+{
+    return ::GetWindowRgn(m_hWnd, hRgn);
+}
+
+BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags)
+{
+    return ::SetWindowPos(m_hWnd, pWndInsertAfter->GetSafeHwnd(), x, y, cx, cy, nFlags);
+}
+
+UINT CWnd::ArrangeIconicWindows()
+{
+    return ::ArrangeIconicWindows(m_hWnd);
+}
+
+void CWnd::BringWindowToTop()
+{
+    ::BringWindowToTop(m_hWnd);
+}
+
+void CWnd::GetWindowRect(LPRECT lpRect) const
+{
+    ::GetWindowRect(m_hWnd, lpRect);
+}
+
+void CWnd::GetClientRect(LPRECT lpRect) const
+{
+    ::GetClientRect(m_hWnd, lpRect);
+}
+
+BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const
+{
+    lpwndpl->length = sizeof(WINDOWPLACEMENT);
+    return ::GetWindowPlacement(m_hWnd, lpwndpl);
+}
+
+BOOL CWnd::SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl)
+{
+    return ::SetWindowPlacement(m_hWnd, lpwndpl);
+}
+
+void CWnd::ClientToScreen(LPPOINT lpPoint) const
+{
+    ::ClientToScreen(m_hWnd, lpPoint);
+}
+
+void CWnd::ScreenToClient(LPPOINT lpPoint) const
+{
+    ::ScreenToClient(m_hWnd, lpPoint);
+}
+
+void CWnd::ClientToScreen(LPRECT lpRect) const
+{
+    // Two points at once, so that the sides of a mirrored window do not change places.
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<POINT*>(lpRect), 2);
+}
+
+void CWnd::ScreenToClient(LPRECT lpRect) const
+{
+    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<POINT*>(lpRect), 2);
+}
+
+void CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const
+{
+    ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), lpPoint, nCount);
+}
+
+void CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const
+{
+    ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), reinterpret_cast<POINT*>(lpRect), 2);
+}
+
+void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
+{
+    DWORD exStyle = GetExStyle();
+    if (nAdjustType == adjustBorder)
+        exStyle &= ~WS_EX_CLIENTEDGE;
+    ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, exStyle);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Painting
+
+CDC* CWnd::BeginPaint(LPPAINTSTRUCT lpPaint)
+{
+    return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint));
+}
+
+void CWnd::EndPaint(LPPAINTSTRUCT lpPaint)
+{
+    ::EndPaint(m_hWnd, lpPaint);
+}
+
+CDC* CWnd::GetDC()
+{
+    return CDC::FromHandle(::GetDC(m_hWnd));
+}
+
+CDC* CWnd::GetWindowDC()
+{
+    return CDC::FromHandle(::GetWindowDC(m_hWnd));
+}
+
+CDC* CWnd::GetDCEx(CRgn* prgnClip, DWORD flags)
+{
+    return CDC::FromHandle(::GetDCEx(m_hWnd, static_cast<HRGN>(prgnClip->GetSafeHandle()), flags));
+}
+
+int CWnd::ReleaseDC(CDC* pDC)
+{
+    return ::ReleaseDC(m_hWnd, pDC->m_hDC);
+}
+
+void CWnd::Print(CDC* pDC, DWORD dwFlags) const
+{
+    ::SendMessage(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()), dwFlags);
+}
+
+void CWnd::PrintClient(CDC* pDC, DWORD dwFlags) const
+{
+    ::SendMessage(m_hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()), dwFlags);
+}
+
+void CWnd::UpdateWindow()
+{
+    ::UpdateWindow(m_hWnd);
+}
+
+void CWnd::SetRedraw(BOOL bRedraw)
+{
+    ::SendMessage(m_hWnd, WM_SETREDRAW, bRedraw, 0);
+}
+
+BOOL CWnd::GetUpdateRect(LPRECT lpRect, BOOL bErase)
+{
+    return ::GetUpdateRect(m_hWnd, lpRect, bErase);
+}
+
+int CWnd::GetUpdateRgn(CRgn* pRgn, BOOL bErase)
+{
+    return ::GetUpdateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()), bErase);
+}
+
+void CWnd::Invalidate(BOOL bErase)
+{
+    ::InvalidateRect(m_hWnd, nullptr, bErase);
+}
+
+void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase)
+{
+    ::InvalidateRect(m_hWnd, lpRect, bErase);
+}
+
+void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase)
+{
+    ::InvalidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()), bErase);
+}
+
+void CWnd::ValidateRect(LPCRECT lpRect)
+{
+    ::ValidateRect(m_hWnd, lpRect);
+}
+
+void CWnd::ValidateRgn(CRgn* pRgn)
+{
+    ::ValidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()));
+}
+
+BOOL CWnd::ShowWindow(int nCmdShow)
+{
+    return ::ShowWindow(m_hWnd, nCmdShow);
+}
+
+BOOL CWnd::IsWindowVisible() const
+{
+    return ::IsWindowVisible(m_hWnd);
+}
+
+void CWnd::ShowOwnedPopups(BOOL bShow)
+{
+    ::ShowOwnedPopups(m_hWnd, bShow);
+}
+
+BOOL CWnd::AnimateWindow(DWORD dwTime, DWORD dwFlags)
+{
+    return ::AnimateWindow(m_hWnd, dwTime, dwFlags);
+}
+
+BOOL CWnd::LockWindowUpdate()
+{
+    return ::LockWindowUpdate(m_hWnd);
+}
+
+void CWnd::UnlockWindowUpdate()
+{
+    ::LockWindowUpdate(nullptr);
+}
+
+BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags)
+{
+    return ::RedrawWindow(m_hWnd, lpRectUpdate, static_cast<HRGN>(prgnUpdate->GetSafeHandle()), flags);
+}
+
+BOOL CWnd::DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo)
+{
+    return ::DrawAnimatedRects(m_hWnd, idAni, lprcFrom, lprcTo);
+}
+
+BOOL CWnd::DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags)
+{
+    return ::DrawCaption(m_hWnd, pDC->GetSafeHdc(), lprc, uFlags);
+}
+
+BOOL CWnd::SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags)
+{
+    return ::SetLayeredWindowAttributes(m_hWnd, crKey, bAlpha, dwFlags);
+}
+
+BOOL CWnd::GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const
+{
+    return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Timers and state
+
+UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse,
+                        void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD))
+{
+    return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
+}
+
+BOOL CWnd::KillTimer(UINT_PTR nIDEvent)
+{
+    return ::KillTimer(m_hWnd, nIDEvent);
+}
+
+BOOL CWnd::IsWindowEnabled() const
+{
+    return ::IsWindowEnabled(m_hWnd);
+}
+
+BOOL CWnd::EnableWindow(BOOL bEnable)
+{
+    return ::EnableWindow(m_hWnd, bEnable);
+}
+
+BOOL CWnd::FlashWindow(BOOL bInvert)
+{
+    return ::FlashWindow(m_hWnd, bInvert);
+}
+
+BOOL CWnd::FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout)
+{
+    FLASHWINFO info{sizeof info, m_hWnd, dwFlags, uCount, dwTimeout};
+    return ::FlashWindowEx(&info);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Dialog items
+
+void CWnd::CheckDlgButton(int nIDButton, UINT nCheck)
+{
+    ::CheckDlgButton(m_hWnd, nIDButton, nCheck);
+}
+
+void CWnd::CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton)
+{
+    ::CheckRadioButton(m_hWnd, nIDFirstButton, nIDLastButton, nIDCheckButton);
+}
+
+int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
+{
+    for (int id = nIDFirstButton; id <= nIDLastButton; ++id)
+        if (::IsDlgButtonChecked(m_hWnd, id) != 0)
+            return id;
+    return 0;
+}
+
+UINT CWnd::IsDlgButtonChecked(int nIDButton) const
+{
+    return ::IsDlgButtonChecked(m_hWnd, nIDButton);
+}
+
+CWnd* CWnd::GetDlgItem(int nID) const
+{
+    return FromHandle(::GetDlgItem(m_hWnd, nID));
+}
+
+void CWnd::GetDlgItem(int nID, HWND* phWnd) const
+{
+    *phWnd = ::GetDlgItem(m_hWnd, nID);
+}
+
+UINT CWnd::GetDlgItemInt(int nID, BOOL* lpTrans, BOOL bSigned) const
+{
+    return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
+}
+
+void CWnd::SetDlgItemInt(int nID, UINT nValue, BOOL bSigned)
+{
+    ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned);
+}
+
+int CWnd::GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const
+{
+    return static_cast<int>(::GetDlgItemText(m_hWnd, nID, lpStr, nMaxCount));
+}
+
+int CWnd::GetDlgItemText(int nID, CString& rString) const
+{
+    rString.Empty();
+    const HWND item = ::GetDlgItem(m_hWnd, nID);
+    if (item == nullptr)
+        return 0;
+    const int length = ::GetWindowTextLength(item);
+    ::GetWindowText(item, rString.GetBufferSetLength(length), length + 1);
+    rString.ReleaseBuffer();
+    return rString.GetLength();
+}
+
+void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString)
+{
+    ::SetDlgItemText(m_hWnd, nID, lpszString);
+}
+
+CWnd* CWnd::GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious) const
+{
+    return FromHandle(::GetNextDlgGroupItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
+}
+
+CWnd* CWnd::GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious) const
+{
+    return FromHandle(::GetNextDlgTabItem(m_hWnd, pWndCtl->GetSafeHwnd(), bPrevious));
+}
+
+LRESULT CWnd::SendDlgItemMessage(int nID, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::SendDlgItemMessage(m_hWnd, nID, message, wParam, lParam);
+}
+
+int CWnd::DlgDirList(LPTSTR lpPathSpec, int nIDListBox, int nIDStaticPath, UINT nFileType)
+{
+    return ::DlgDirList(m_hWnd, lpPathSpec, nIDListBox, nIDStaticPath, nFileType);
+}
+
+int CWnd::DlgDirListComboBox(LPTSTR lpPathSpec, int nIDComboBox, int nIDStaticPath, UINT nFileType)
+{
+    return ::DlgDirListComboBox(m_hWnd, lpPathSpec, nIDComboBox, nIDStaticPath, nFileType);
+}
+
+BOOL CWnd::DlgDirSelect(LPTSTR lpString, int nSize, int nIDListBox)
+{
+    return ::DlgDirSelectEx(m_hWnd, lpString, nSize, nIDListBox);
+}
+
+BOOL CWnd::DlgDirSelectComboBox(LPTSTR lpString, int nSize, int nIDComboBox)
+{
+    return ::DlgDirSelectComboBoxEx(m_hWnd, lpString, nSize, nIDComboBox);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Scrolling. A bar may be a control beside the window: GetScrollBarCtrl says so.
+
+namespace
+{
+/// The window and the bar code that scrolling calls use: the control's own when there is one.
+struct CScrollTarget
+{
+    CScrollTarget(const CWnd& window, int bar) : handle(window.m_hWnd), code(bar)
+    {
+        if (const CScrollBar* const control = window.GetScrollBarCtrl(bar))
+        {
+            handle = control->m_hWnd;
+            code = SB_CTL;
+        }
+    }
+
+    HWND handle;
+    int code;
+};
+} // namespace
+
+CScrollBar* CWnd::GetScrollBarCtrl(int) const
+{
+    return nullptr;
+}
+
+int CWnd::GetScrollPos(int nBar) const
+{
+    const CScrollTarget target(*this, nBar);
+    return ::GetScrollPos(target.handle, target.code);
+}
+
+void CWnd::GetScrollRange(int nBar, LPINT lpMinPos, LPINT lpMaxPos) const
+{
+    const CScrollTarget target(*this, nBar);
+    ::GetScrollRange(target.handle, target.code, lpMinPos, lpMaxPos);
+}
+
+int CWnd::SetScrollPos(int nBar, int nPos, BOOL bRedraw)
+{
+    const CScrollTarget target(*this, nBar);
+    return ::SetScrollPos(target.handle, target.code, nPos, bRedraw);
+}
+
+void CWnd::SetScrollRange(int nBar, int nMinPos, int nMaxPos, BOOL bRedraw)
+{
+    const CScrollTarget target(*this, nBar);
+    ::SetScrollRange(target.handle, target.code, nMinPos, nMaxPos, bRedraw);
+}
+
+BOOL CWnd::SetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, BOOL bRedraw)
+{
+    const CScrollTarget target(*this, nBar);
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    ::SetScrollInfo(target.handle, target.code, lpScrollInfo, bRedraw);
+    return TRUE;
+}
+
+BOOL CWnd::GetScrollInfo(int nBar, LPSCROLLINFO lpScrollInfo, UINT nMask)
+{
+    const CScrollTarget target(*this, nBar);
+    lpScrollInfo->cbSize = sizeof(SCROLLINFO);
+    lpScrollInfo->fMask = nMask;
+    return ::GetScrollInfo(target.handle, target.code, lpScrollInfo);
+}
+
+int CWnd::GetScrollLimit(int nBar)
+{
+    int lowest = 0;
+    int highest = 0;
+    GetScrollRange(nBar, &lowest, &highest);
+    SCROLLINFO info{};
+    if (GetScrollInfo(nBar, &info, SIF_PAGE))
+        highest -= (std::max)(static_cast<int>(info.nPage) - 1, 0);
+    return highest;
+}
+
+void CWnd::ShowScrollBar(UINT nBar, BOOL bShow)
+{
+    CScrollBar* const control = nBar == SB_BOTH ? nullptr : GetScrollBarCtrl(static_cast<int>(nBar));
+    if (control != nullptr)
+        control->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+    else
+        ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow);
+}
+
+void CWnd::EnableScrollBarCtrl(int nBar, BOOL bEnable)
+{
+    if (nBar == SB_BOTH)
+    {
+        EnableScrollBarCtrl(SB_HORZ, bEnable);
+        EnableScrollBarCtrl(SB_VERT, bEnable);
+    }
+    else if (CScrollBar* const control = GetScrollBarCtrl(nBar))
+        control->EnableWindow(bEnable);
+}
+
+BOOL CWnd::EnableScrollBar(int nSBFlags, UINT nArrowFlags)
+{
+    return ::EnableScrollBar(m_hWnd, static_cast<UINT>(nSBFlags), nArrowFlags);
+}
+
+BOOL CWnd::GetScrollBarInfo(LONG idObject, PSCROLLBARINFO psbi) const
+{
+    psbi->cbSize = sizeof(SCROLLBARINFO);
+    return ::GetScrollBarInfo(m_hWnd, idObject, psbi);
+}
+
+void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClipRect)
+{
+    ::ScrollWindow(m_hWnd, xAmount, yAmount, lpRect, lpClipRect);
+}
+
+int CWnd::ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
+                         LPRECT lpRectUpdate, UINT flags)
+{
+    return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip,
+                            static_cast<HRGN>(prgnUpdate->GetSafeHandle()), lpRectUpdate, flags);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Caret, clipboard, hot key, help, icons, message boxes
+
+void CWnd::CreateCaret(CBitmap* pBitmap)
+{
+    ::CreateCaret(m_hWnd, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), 0, 0);
+}
+
+void CWnd::CreateSolidCaret(int nWidth, int nHeight)
+{
+    ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight);
+}
+
+void CWnd::CreateGrayCaret(int nWidth, int nHeight)
+{
+    ::CreateCaret(m_hWnd, reinterpret_cast<HBITMAP>(1), nWidth, nHeight); // 1 stands for gray
+}
+
+CPoint PASCAL CWnd::GetCaretPos()
+{
+    CPoint position(0, 0);
+    ::GetCaretPos(&position);
+    return position;
+}
+
+void PASCAL CWnd::SetCaretPos(POINT point)
+{
+    ::SetCaretPos(point.x, point.y);
+}
+
+void CWnd::HideCaret()
+{
+    ::HideCaret(m_hWnd);
+}
+
+void CWnd::ShowCaret()
+{
+    ::ShowCaret(m_hWnd);
+}
+
+BOOL CWnd::OpenClipboard()
+{
+    return ::OpenClipboard(m_hWnd);
+}
+
+HWND CWnd::SetClipboardViewer()
+{
+    return ::SetClipboardViewer(m_hWnd);
+}
+
+BOOL CWnd::ChangeClipboardChain(HWND hWndNext)
+{
+    return ::ChangeClipboardChain(m_hWnd, hWndNext);
+}
+
+int CWnd::SetHotKey(WORD wVirtualKeyCode, WORD wModifiers)
+{
+    return static_cast<int>(::SendMessage(m_hWnd, WM_SETHOTKEY, MAKEWORD(wVirtualKeyCode, wModifiers), 0));
+}
+
+DWORD CWnd::GetHotKey() const
+{
+    return static_cast<DWORD>(::SendMessage(m_hWnd, WM_GETHOTKEY, 0, 0));
+}
+
+BOOL CWnd::SetWindowContextHelpId(DWORD dwContextHelpId)
+{
+    return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
+}
+
+DWORD CWnd::GetWindowContextHelpId() const
+{
+    return ::GetWindowContextHelpId(m_hWnd);
+}
+
+HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon)
+{
+    return reinterpret_cast<HICON>(
+        ::SendMessage(m_hWnd, WM_SETICON, bBigIcon, reinterpret_cast<LPARAM>(hIcon)));
+}
+
+HICON CWnd::GetIcon(BOOL bBigIcon) const
+{
+    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, WM_GETICON, bBigIcon, 0));
+}
+
+int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType)
+{
+    return ::MessageBox(GetSafeHwnd(), lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(),
+                        nType);
+}
+
+void CWnd::AssertValid() const
+{
+    CCmdTarget::AssertValid();
+    ASSERT(IsPlace() || m_hWnd == nullptr || ::IsWindow(m_hWnd));
+}
+
+void CWnd::Dump(CDumpContext& dc) const
+{
+    CCmdTarget::Dump(dc);
+    dc << "\nm_hWnd = " << static_cast<const void*>(m_hWnd) << "\n";
+}

@@ -1,0 +1,775 @@
+// CWnd: notifications of child controls, and the handlers that the class itself has for window messages.
+
+#include <afxpriv.h>
+
+#include "threadstate.h"
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
+    ON_WM_NCDESTROY()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_CTLCOLOR()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_DELETEITEM()
+    ON_WM_COMPAREITEM()
+    ON_WM_CHARTOITEM()
+    ON_WM_VKEYTOITEM()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_PARENTNOTIFY()
+    ON_MESSAGE(WM_DISPLAYCHANGE, &CWnd::OnDisplayChange)
+END_MESSAGE_MAP()
+// clang-format on
+
+// ---------------------------------------------------------------------------------------------------------
+// Commands and notifications
+
+BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    return CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+namespace
+{
+/// Answers only whether a command is enabled at the moment.
+class CEnabledProbe : public CCmdUI
+{
+public:
+    BOOL m_bEnabled = TRUE;
+    void Enable(BOOL bOn) override
+    {
+        m_bEnabled = bOn;
+        m_bEnableChanged = TRUE;
+    }
+    void SetCheck(int) override {}
+    void SetRadio(BOOL) override {}
+    void SetText(LPCTSTR) override {}
+};
+
+/// Notifications are dropped while the window exchanges data with its controls: they come from the exchange.
+bool IsLockedOut(const CWnd& window)
+{
+    return GetThreadState().lockoutNotifyWindow == window.m_hWnd;
+}
+} // namespace
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const UINT id = LOWORD(wParam);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (control != nullptr)
+    {
+        if (IsLockedOut(*this) || ReflectLastMsg(control))
+            return TRUE;
+        return OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
+    }
+
+    // A menu item or an accelerator; the latter arrives even if its command is disabled.
+    if (id == 0)
+        return FALSE;
+    CEnabledProbe probe;
+    probe.m_nID = id;
+    OnCmdMsg(id, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, nullptr);
+    if (!probe.m_bEnabled)
+        return TRUE;
+    return OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
+}
+
+BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult)
+{
+    auto* const header = reinterpret_cast<NMHDR*>(lParam);
+    if (IsLockedOut(*this) || ReflectLastMsg(header->hwndFrom, pResult))
+        return TRUE;
+    AFX_NOTIFY notify{pResult, header};
+    const UINT id = LOWORD(::GetDlgCtrlID(header->hwndFrom));
+    return OnCmdMsg(id, MAKELONG(header->code, WM_NOTIFY), &notify, nullptr);
+}
+
+BOOL PASCAL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult)
+{
+    CWnd* const child = FromHandlePermanent(hWndChild);
+    return child != nullptr && child->SendChildNotifyLastMsg(pResult);
+}
+
+BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult)
+{
+    const MSG message = GetThreadState().lastSentMessage;
+    return OnChildNotify(message.message, message.wParam, message.lParam, pResult);
+}
+
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    return ReflectChildNotify(message, wParam, lParam, pResult);
+}
+
+BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    switch (message)
+    {
+    case WM_HSCROLL:
+    case WM_VSCROLL:
+    case WM_PARENTNOTIFY:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_DELETEITEM:
+    case WM_COMPAREITEM:
+    case WM_CHARTOITEM:
+    case WM_VKEYTOITEM:
+        return CWnd::OnWndMsg(WM_REFLECT_BASE + message, wParam, lParam, pResult);
+
+    case WM_COMMAND:
+        if (!OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_REFLECT_BASE + WM_COMMAND), nullptr, nullptr))
+            return FALSE;
+        if (pResult != nullptr)
+            *pResult = 1;
+        return TRUE;
+
+    case WM_NOTIFY:
+    {
+        auto* const header = reinterpret_cast<NMHDR*>(lParam);
+        AFX_NOTIFY notify{pResult, header};
+        return OnCmdMsg(0, MAKELONG(header->code, WM_REFLECT_BASE + WM_NOTIFY), &notify, nullptr);
+    }
+
+    case WM_CTLCOLORMSGBOX:
+    case WM_CTLCOLOREDIT:
+    case WM_CTLCOLORLISTBOX:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLORDLG:
+    case WM_CTLCOLORSCROLLBAR:
+    case WM_CTLCOLORSTATIC:
+        return ReflectCtlColor(message, wParam, lParam, pResult);
+
+    default:
+        return FALSE;
+    }
+}
+
+HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
+{
+    LRESULT brush = 0;
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&brush))
+        return reinterpret_cast<HBRUSH>(brush);
+    return reinterpret_cast<HBRUSH>(Default());
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Messages that are given back to the control first
+
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (lpDrawItemStruct->CtlType == ODT_MENU)
+    {
+        CMenu* const menu = CMenu::FromHandle(reinterpret_cast<HMENU>(lpDrawItemStruct->hwndItem));
+        menu->DrawItem(lpDrawItemStruct);
+    }
+    else if (!ReflectLastMsg(lpDrawItemStruct->hwndItem))
+        Default();
+}
+
+void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
+{
+    if (lpMeasureItemStruct->CtlType == ODT_MENU)
+    {
+        Default();
+        return;
+    }
+    // The structure names the control by its id only.
+    CWnd* const child = GetDescendantWindow(m_hWnd, static_cast<int>(lpMeasureItemStruct->CtlID), TRUE);
+    if (child == nullptr || !child->SendChildNotifyLastMsg())
+        Default();
+}
+
+void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct)
+{
+    if (!ReflectLastMsg(lpDeleteItemStruct->hwndItem))
+        Default();
+}
+
+int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT lpCompareItemStruct)
+{
+    LRESULT result = 0;
+    if (ReflectLastMsg(lpCompareItemStruct->hwndItem, &result))
+        return static_cast<int>(result);
+    return static_cast<int>(Default());
+}
+
+int CWnd::OnCharToItem(UINT, CListBox* pListBox, UINT)
+{
+    LRESULT result = 0;
+    if (ReflectLastMsg(pListBox->GetSafeHwnd(), &result))
+        return static_cast<int>(result);
+    return static_cast<int>(Default());
+}
+
+int CWnd::OnVKeyToItem(UINT, CListBox* pListBox, UINT)
+{
+    LRESULT result = 0;
+    if (ReflectLastMsg(pListBox->GetSafeHwnd(), &result))
+        return static_cast<int>(result);
+    return static_cast<int>(Default());
+}
+
+void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg())
+        Default();
+}
+
+void CWnd::OnVScroll(UINT, UINT, CScrollBar* pScrollBar)
+{
+    if (pScrollBar == nullptr || !pScrollBar->SendChildNotifyLastMsg())
+        Default();
+}
+
+void CWnd::OnParentNotify(UINT message, LPARAM lParam)
+{
+    // For the creation or end of a child, lParam is the child; for a click it is the position.
+    const UINT event = LOWORD(message);
+    if ((event != WM_CREATE && event != WM_DESTROY) || !ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+        Default();
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Messages that only top-level windows receive and their descendants want to know
+
+namespace
+{
+/// Broadcasts of the system reach top-level windows only; the first window that sees one hands it down.
+bool IsBroadcastReceiver(const CWnd& window)
+{
+    return (window.GetStyle() & WS_CHILD) == 0;
+}
+} // namespace
+
+void CWnd::OnSysColorChange()
+{
+    if (IsBroadcastReceiver(*this))
+        SendMessageToDescendants(WM_SYSCOLORCHANGE, 0, 0, TRUE, TRUE);
+    Default();
+}
+
+void CWnd::OnSettingChange(UINT, LPCTSTR)
+{
+    const MSG message = GetThreadState().lastSentMessage;
+    if (IsBroadcastReceiver(*this))
+        SendMessageToDescendants(WM_SETTINGCHANGE, message.wParam, message.lParam, TRUE, TRUE);
+    Default();
+}
+
+LRESULT CWnd::OnDisplayChange(WPARAM wParam, LPARAM lParam)
+{
+    if (IsBroadcastReceiver(*this))
+        SendMessageToDescendants(WM_DISPLAYCHANGE, wParam, lParam, TRUE, TRUE);
+    return Default();
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Handlers that only hand on to the default procedure
+
+// Creation and destruction
+
+int CWnd::OnCreate(LPCREATESTRUCT)
+{
+    return static_cast<int>(Default());
+}
+
+void CWnd::OnDestroy()
+{
+    Default();
+}
+
+void CWnd::OnClose()
+{
+    Default();
+}
+
+BOOL CWnd::OnNcCreate(LPCREATESTRUCT)
+{
+    return static_cast<BOOL>(Default());
+}
+
+BOOL CWnd::OnQueryEndSession()
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnEndSession(BOOL)
+{
+    Default();
+}
+
+// Position, size, style, state
+
+void CWnd::OnMove(int, int)
+{
+    Default();
+}
+
+void CWnd::OnMoving(UINT, LPRECT)
+{
+    Default();
+}
+
+void CWnd::OnSize(UINT, int, int)
+{
+    Default();
+}
+
+void CWnd::OnSizing(UINT, LPRECT)
+{
+    Default();
+}
+
+void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
+{
+    Default();
+}
+
+void CWnd::OnWindowPosChanging(WINDOWPOS*)
+{
+    Default();
+}
+
+void CWnd::OnWindowPosChanged(WINDOWPOS*)
+{
+    Default();
+}
+
+void CWnd::OnStyleChanging(int, LPSTYLESTRUCT)
+{
+    Default();
+}
+
+void CWnd::OnStyleChanged(int, LPSTYLESTRUCT)
+{
+    Default();
+}
+
+void CWnd::OnShowWindow(BOOL, UINT)
+{
+    Default();
+}
+
+void CWnd::OnEnable(BOOL)
+{
+    Default();
+}
+
+void CWnd::OnActivate(UINT, CWnd*, BOOL)
+{
+    Default();
+}
+
+void CWnd::OnActivateApp(BOOL, DWORD)
+{
+    Default();
+}
+
+void CWnd::OnChildActivate()
+{
+    Default();
+}
+
+void CWnd::OnMDIActivate(BOOL, CWnd*, CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnSetFocus(CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnKillFocus(CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnCancelMode()
+{
+    Default();
+}
+
+BOOL CWnd::OnQueryOpen()
+{
+    return static_cast<BOOL>(Default());
+}
+
+HCURSOR CWnd::OnQueryDragIcon()
+{
+    return reinterpret_cast<HCURSOR>(Default());
+}
+
+// Painting and colours
+
+void CWnd::OnPaint()
+{
+    Default();
+}
+
+BOOL CWnd::OnEraseBkgnd(CDC*)
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnIconEraseBkgnd(CDC*)
+{
+    Default();
+}
+
+LRESULT CWnd::OnThemeChanged()
+{
+    return Default();
+}
+
+BOOL CWnd::OnQueryNewPalette()
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnPaletteIsChanging(CWnd*)
+{
+    Default();
+}
+
+void CWnd::OnPaletteChanged(CWnd*)
+{
+    Default();
+}
+
+// Non-client area
+
+BOOL CWnd::OnNcActivate(BOOL)
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*)
+{
+    Default();
+}
+
+LRESULT CWnd::OnNcHitTest(CPoint)
+{
+    return Default();
+}
+
+void CWnd::OnNcPaint()
+{
+    Default();
+}
+
+void CWnd::OnNcMouseMove(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcLButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcLButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcLButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcRButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcRButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcRButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcMButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcMButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnNcMButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+// Keyboard
+
+void CWnd::OnChar(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnDeadChar(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnKeyDown(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnKeyUp(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnSysChar(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnSysDeadChar(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnSysKeyDown(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CWnd::OnSysKeyUp(UINT, UINT, UINT)
+{
+    Default();
+}
+
+UINT CWnd::OnGetDlgCode()
+{
+    return static_cast<UINT>(Default());
+}
+
+BOOL CWnd::OnHelpInfo(HELPINFO*)
+{
+    return static_cast<BOOL>(Default());
+}
+
+// Mouse
+
+void CWnd::OnMouseMove(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnLButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnLButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnLButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnRButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnRButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnRButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMButtonDown(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMButtonUp(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMButtonDblClk(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMouseHover(UINT, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnMouseLeave()
+{
+    Default();
+}
+
+BOOL CWnd::OnMouseWheel(UINT, short, CPoint)
+{
+    return static_cast<BOOL>(Default());
+}
+
+int CWnd::OnMouseActivate(CWnd*, UINT, UINT)
+{
+    return static_cast<int>(Default());
+}
+
+void CWnd::OnCaptureChanged(CWnd*)
+{
+    Default();
+}
+
+BOOL CWnd::OnSetCursor(CWnd*, UINT, UINT)
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnContextMenu(CWnd*, CPoint)
+{
+    Default();
+}
+
+void CWnd::OnDropFiles(HDROP)
+{
+    Default();
+}
+
+// Scrolling, timers, menus
+
+void CWnd::OnTimer(UINT_PTR)
+{
+    Default();
+}
+
+void CWnd::OnInitMenu(CMenu*)
+{
+    Default();
+}
+
+void CWnd::OnInitMenuPopup(CMenu*, UINT, BOOL)
+{
+    Default();
+}
+
+void CWnd::OnMenuSelect(UINT, UINT, HMENU)
+{
+    Default();
+}
+
+LRESULT CWnd::OnMenuChar(UINT, UINT, CMenu*)
+{
+    return Default();
+}
+
+void CWnd::OnEnterMenuLoop(BOOL)
+{
+    Default();
+}
+
+void CWnd::OnExitMenuLoop(BOOL)
+{
+    Default();
+}
+
+void CWnd::OnSysCommand(UINT, LPARAM)
+{
+    Default();
+}
+
+// Owner-drawn and list controls
+
+// System and session
+
+void CWnd::OnWinIniChange(LPCTSTR)
+{
+    Default();
+}
+
+void CWnd::OnFontChange()
+{
+    Default();
+}
+
+void CWnd::OnTimeChange()
+{
+    Default();
+}
+
+void CWnd::OnDevModeChange(LPTSTR)
+{
+    Default();
+}
+
+BOOL CWnd::OnDeviceChange(UINT, DWORD_PTR)
+{
+    return static_cast<BOOL>(Default());
+}
+
+void CWnd::OnCompacting(UINT)
+{
+    Default();
+}
+
+void CWnd::OnSpoolerStatus(UINT, UINT)
+{
+    Default();
+}
+
+BOOL CWnd::OnCopyData(CWnd*, COPYDATASTRUCT*)
+{
+    return static_cast<BOOL>(Default());
+}
+
+// Clipboard
+
+void CWnd::OnChangeCbChain(HWND, HWND)
+{
+    Default();
+}
+
+void CWnd::OnDrawClipboard()
+{
+    Default();
+}
+
+void CWnd::OnDestroyClipboard()
+{
+    Default();
+}
+
+void CWnd::OnRenderFormat(UINT)
+{
+    Default();
+}
+
+void CWnd::OnRenderAllFormats()
+{
+    Default();
+}
+
+void CWnd::OnEnterIdle(UINT, CWnd*)
+{
+    Default();
+}
