@@ -1,0 +1,171 @@
+#include "ComplexUnit.h"
+
+#include <cmath>
+#include <cstdlib>
+
+namespace
+{
+/// Values below this magnitude are tried with six decimals: their millionths are still whole doubles.
+constexpr double c_dDecimalLimit = 9e9;
+constexpr double c_dDecimalScale = 1e6;
+
+double Power(double dBase, int nExponent)
+{
+    double dResult = 1.0; // repeated multiplication: std::pow need not be exact for whole numbers
+    for (int i = 0; i < nExponent; ++i)
+        dResult *= dBase;
+    return dResult;
+}
+
+double ApplyRatio(double dValue, double dMultiplier, double dDivisor)
+{
+    return dValue * dMultiplier / dDivisor;
+}
+
+/// The short decimal next to a value; values too large for that are rounded to whole ones.
+double NearestDecimal(double dValue)
+{
+    if (std::fabs(dValue) >= c_dDecimalLimit)
+        return std::nearbyint(dValue);
+    return std::nearbyint(dValue * c_dDecimalScale) / c_dDecimalScale;
+}
+
+CString SuperscriptDigits(int nNumber)
+{
+    static constexpr wchar_t c_digits[] = L"⁰¹²³⁴⁵⁶⁷⁸⁹";
+    CString strDigits;
+    for (; nNumber > 0; nNumber /= 10)
+        strDigits = CString(c_digits[nNumber % 10]) + strDigits;
+    return strDigits;
+}
+
+CString Factor(const CMeasurementUnit& unit, int nExponent)
+{
+    CString strFactor = unit.Symbol();
+    if (nExponent > 1)
+        strFactor += SuperscriptDigits(nExponent);
+    return strFactor;
+}
+} // namespace
+
+CComplexUnit::CComplexUnit() : CComplexUnit(CMeasurementUnit())
+{
+}
+
+CComplexUnit::CComplexUnit(const CMeasurementUnit& unit, int nExponent)
+{
+    MultiplyBy(unit, nExponent);
+}
+
+double CComplexUnit::ToLocal(double dGlobal, const CUnitsConvertor& convertor) const
+{
+    if (!std::isfinite(dGlobal))
+        return dGlobal;
+    const CUnitsConvertor::SRatio ratio = Ratio(convertor);
+    const double dLocal = ApplyRatio(dGlobal, ratio.dDenominator, ratio.dNumerator);
+
+    // Both ways round, so the way back may miss by a last bit the number that was typed. If the decimal
+    // number next to the result leads to the very same global value, it is the one that was meant.
+    const double dDecimal = NearestDecimal(dLocal);
+    const bool bSameGlobal = ApplyRatio(dDecimal, ratio.dNumerator, ratio.dDenominator) == dGlobal;
+    return bSameGlobal ? dDecimal : dLocal;
+}
+
+double CComplexUnit::ToGlobal(double dLocal, const CUnitsConvertor& convertor) const
+{
+    if (!std::isfinite(dLocal))
+        return dLocal;
+    const CUnitsConvertor::SRatio ratio = Ratio(convertor);
+    return ApplyRatio(dLocal, ratio.dNumerator, ratio.dDenominator);
+}
+
+CString CComplexUnit::Symbol() const
+{
+    CString strAbove;
+    CString strBelow;
+    for (int i = 0; i < m_nTerms; ++i)
+    {
+        const STerm& term = m_terms[i];
+        if (term.nExponent < 0)
+            strBelow += L"/" + Factor(term.unit, -term.nExponent);
+        else
+            strAbove += (strAbove.IsEmpty() ? L"" : L"·") + Factor(term.unit, term.nExponent);
+    }
+    if (strAbove.IsEmpty() && !strBelow.IsEmpty())
+        strAbove = L"1";
+    return strAbove + strBelow;
+}
+
+CComplexUnit CComplexUnit::operator*(const CComplexUnit& other) const
+{
+    return Combined(other, +1);
+}
+
+CComplexUnit CComplexUnit::operator/(const CComplexUnit& other) const
+{
+    return Combined(other, -1);
+}
+
+bool CComplexUnit::operator==(const CComplexUnit& other) const
+{
+    if (m_nTerms != other.m_nTerms)
+        return false;
+    for (int i = 0; i < m_nTerms; ++i)
+    {
+        if (other.ExponentOf(m_terms[i].unit) != m_terms[i].nExponent)
+            return false;
+    }
+    return true;
+}
+
+int CComplexUnit::ExponentOf(const CMeasurementUnit& unit) const
+{
+    for (int i = 0; i < m_nTerms; ++i)
+    {
+        if (m_terms[i].unit == unit)
+            return m_terms[i].nExponent;
+    }
+    return 0;
+}
+
+void CComplexUnit::MultiplyBy(const CMeasurementUnit& unit, int nExponent)
+{
+    int i = 0;
+    while (i < m_nTerms && m_terms[i].unit != unit)
+        ++i;
+    if (i == m_nTerms)
+    {
+        if (nExponent == 0)
+            return;
+        if (m_nTerms == c_nMaxTerms)
+            AfxThrowInvalidArgException();
+        m_terms[m_nTerms++] = {unit, 0};
+    }
+    m_terms[i].nExponent += nExponent;
+    if (m_terms[i].nExponent != 0)
+        return;
+    for (--m_nTerms; i < m_nTerms; ++i) // cancelled: the terms behind close up
+        m_terms[i] = m_terms[i + 1];
+}
+
+CComplexUnit CComplexUnit::Combined(const CComplexUnit& other, int nSign) const
+{
+    CComplexUnit result(*this);
+    for (int i = 0; i < other.m_nTerms; ++i)
+        result.MultiplyBy(other.m_terms[i].unit, nSign * other.m_terms[i].nExponent);
+    return result;
+}
+
+CUnitsConvertor::SRatio CComplexUnit::Ratio(const CUnitsConvertor& convertor) const
+{
+    CUnitsConvertor::SRatio product;
+    for (int i = 0; i < m_nTerms; ++i)
+    {
+        const CUnitsConvertor::SRatio ratio = convertor.Ratio(m_terms[i].unit);
+        const bool bAbove = m_terms[i].nExponent > 0;
+        const int nPower = std::abs(m_terms[i].nExponent);
+        product.dNumerator *= Power(bAbove ? ratio.dNumerator : ratio.dDenominator, nPower);
+        product.dDenominator *= Power(bAbove ? ratio.dDenominator : ratio.dNumerator, nPower);
+    }
+    return product;
+}
