@@ -8,7 +8,16 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-add_compile_definitions(UNICODE _UNICODE)
+# What a target links for MFC; the compiler's own comes by itself.
+if(OW_MFC STREQUAL bundled)
+  set(OW_MFC_TARGET mfcow)
+else()
+  set(OW_MFC_TARGET)
+  set(CMAKE_MFC_FLAG 2)
+  add_compile_definitions(_AFXDLL)
+endif()
+
+add_compile_definitions(UNICODE _UNICODE $<$<CONFIG:Debug>:_DEBUG>)
 if(MSVC)
   add_compile_options(/W4 /WX /utf-8 /EHsc)
 else()
@@ -35,6 +44,11 @@ function(ow_add_module name)
   add_library(${name} SHARED ${ARGN})
   set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "")
   add_library(DialogControlsOW::${name} ALIAS ${name})
+endfunction()
+
+# MFC's headers are large: compiled once for each target.
+function(ow_precompile_mfc target)
+  target_precompile_headers(${target} PRIVATE <afxwin.h> <afxcmn.h> <afxtempl.h> ${ARGN})
 endfunction()
 
 # The compiler's run-time DLLs stand beside the programs and are not linked in:

@@ -1,6 +1,6 @@
 #pragma once
 
-// Ids of the library's icons and bitmaps. Icons and bitmaps are separate numbering spaces: 10101
+// Ids of the library's dialogs, icons and bitmaps. Icons and bitmaps are separate numbering spaces: 10101
 // names one of each. An id carries the name of the member or of the picker that holds the picture,
 // whose Serbian terms the group comments translate. "OW" sets the icons apart from the system's own
 // IDI_WARNING and its like.
@@ -223,3 +223,10 @@
 #define IDB_OW_SIMBOL_PRESEKA_ZAVRSETAK_09 10136
 #define IDB_OW_SIMBOL_PRESEKA_ZAVRSETAK_10 10137
 #define IDB_OW_SIMBOL_PRESEKA_ZAVRSETAK_11 10138
+
+// The message box, and its controls; the first button is IDOK
+#define IDD_OW_MESSAGE_BOX                 10001
+#define IDC_OW_SECOND                      101
+#define IDC_OW_THIRD                       102
+#define IDC_OW_FOURTH                      103
+#define IDC_OW_MESSAGE                     104

@@ -1,0 +1,40 @@
+# The package: a client finds it with find_package(DialogControlsOW) and links DialogControlsOW::DialogControlsOW.
+# With the bundled MFC it carries the whole ground, so that a client builds and runs with nothing else.
+include(CMakePackageConfigHelpers)
+
+set(package_dir lib/cmake/DialogControlsOW)
+set(modules DialogControlsOW acadhost BaseSvcOW SettingsOW AcadOleSvcOW)
+if(OW_MFC STREQUAL bundled)
+  list(APPEND modules mfcow mfcow_main)
+  install(DIRECTORY platform/mfc/include/ DESTINATION include/mfcow)
+endif()
+
+install(TARGETS ${modules} EXPORT DialogControlsOWTargets
+  RUNTIME DESTINATION bin LIBRARY DESTINATION bin ARCHIVE DESTINATION lib)
+install(FILES ${OW_RUNTIME_DLLS} DESTINATION bin)
+install(EXPORT DialogControlsOWTargets NAMESPACE DialogControlsOW:: DESTINATION ${package_dir})
+
+install(DIRECTORY platform/acad/include/ DESTINATION include/acad)
+foreach(sibling BaseSvcOW SettingsOW AcadOleSvcOW)
+  install(DIRECTORY platform/siblings/${sibling}/include/ DESTINATION include/${sibling})
+endforeach()
+install(DIRECTORY platform/siblings/locale/ DESTINATION bin/locale FILES_MATCHING PATTERN *.po)
+
+# What the library keeps to itself is left out.
+install(DIRECTORY src/ DESTINATION include/DialogControlsOW
+  FILES_MATCHING PATTERN *.h
+  PATTERN resources EXCLUDE
+  PATTERN ExtensionModule.h EXCLUDE
+  PATTERN HostResourceScope.h EXCLUDE
+  PATTERN Initialize.h EXCLUDE
+  PATTERN DialogControlsInterface.h EXCLUDE)
+
+configure_package_config_file(cmake/DialogControlsOWConfig.cmake.in
+  ${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfig.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES
+  ${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfig.cmake
+  ${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfigVersion.cmake
+  cmake/mingw-w64-x86_64.cmake
+  DESTINATION ${package_dir})

@@ -1,0 +1,76 @@
+#pragma once
+// Small owners for what painting code borrows from a device context.
+
+#include <afxwin.h>
+
+/// Selects an object into a context for the length of a scope.
+class CGdiSelection
+{
+public:
+    CGdiSelection(CDC& dc, HGDIOBJ hObject) : m_hDC(dc.m_hDC), m_hOld(::SelectObject(m_hDC, hObject)) {}
+    ~CGdiSelection() { ::SelectObject(m_hDC, m_hOld); }
+    CGdiSelection(const CGdiSelection&) = delete;
+    CGdiSelection& operator=(const CGdiSelection&) = delete;
+
+    /// Whether the context took it. A bitmap that is selected into another one is refused.
+    explicit operator bool() const { return m_hOld != nullptr; }
+
+private:
+    HDC m_hDC;
+    HGDIOBJ m_hOld;
+};
+
+/// Sets the background colour of a context for the length of a scope.
+class CBkColorScope
+{
+public:
+    CBkColorScope(CDC& dc, COLORREF cr) : m_dc(dc), m_crOld(dc.SetBkColor(cr)) {}
+    ~CBkColorScope() { m_dc.SetBkColor(m_crOld); }
+    CBkColorScope(const CBkColorScope&) = delete;
+    CBkColorScope& operator=(const CBkColorScope&) = delete;
+
+private:
+    CDC& m_dc;
+    COLORREF m_crOld;
+};
+
+/// A bitmap in a memory context of its own, to paint on and to copy from.
+class CMemorySurface
+{
+public:
+    CMemorySurface() = default;
+    ~CMemorySurface() { Free(); }
+    CMemorySurface(const CMemorySurface&) = delete;
+    CMemorySurface& operator=(const CMemorySurface&) = delete;
+
+    /// Makes a surface of the size, in pixels, compatible with a context; false if the system refuses. What
+    /// was there before is freed.
+    bool Create(CDC& dcLike, CSize size)
+    {
+        Free();
+        if (!m_dc.CreateCompatibleDC(&dcLike) || !m_bitmap.CreateCompatibleBitmap(&dcLike, size.cx, size.cy))
+        {
+            Free();
+            return false;
+        }
+        m_hOld = ::SelectObject(m_dc.m_hDC, m_bitmap);
+        return true;
+    }
+
+    void Free()
+    {
+        if (m_hOld)
+            ::SelectObject(m_dc.m_hDC, m_hOld);
+        m_hOld = nullptr;
+        m_bitmap.DeleteObject();
+        m_dc.DeleteDC();
+    }
+
+    explicit operator bool() const { return m_hOld != nullptr; }
+    CDC& DC() { return m_dc; }
+
+private:
+    CDC m_dc;
+    CBitmap m_bitmap;
+    HGDIOBJ m_hOld = nullptr; ///< what the context held before; null while there is no surface
+};
