@@ -1,0 +1,69 @@
+#pragma once
+// A text box for a whole number of 32 bits, with an optional range and an empty state.
+//
+//     CEditIntegerWithRange m_editBolts{this};
+//     m_editBolts.SetRange(2, 24);
+//     m_editBolts.SetValue(8);
+//     ...
+//     void OnEditNChange(int nId) override { if (!m_editBolts.IsEmpty()) Use(m_editBolts.GetValue()); }
+//
+// Texts. A number is digits with an optional "-" in front; white space around it is passed over. Anything else does
+// not parse, a "+", a point, and a number that 32 bits do not hold among it. The user can type 11 characters, the
+// length of -2147483648.
+//
+// Range. A typed number outside becomes the bound that it passed, at once; the text follows when the user leaves the
+// box. A minimum above the maximum means no range, and so it is at first (0 and -1).
+//
+// Empty. Only SetEmpty makes the box empty, and the next number that is typed or set ends that. A text that the
+// user clears is one that does not parse: the value comes back when the user leaves.
+//
+// The forcing argument of the setters does their work, the writing of the text included, where nothing changes, too.
+
+#include "edits/EditWithValidation.h"
+#include "edits/ValueRange.h"
+
+class OW_DIALOGCONTROLS_API CEditIntegerWithRange : public CEditWithValidation
+{
+public:
+    /// The handler is not owned; null: the parent is asked.
+    explicit CEditIntegerWithRange(CEditNNotificationHandler* pHandler);
+
+    /// Stores a number, brought into the range, and shows it. Ends the empty state.
+    void SetValue(int n, bool bForce = false);
+    /// The last number, also while the box is empty.
+    int GetValue() const;
+
+    void SetEmpty(bool bForce = false);
+    bool IsEmpty() const;
+
+    /// A value outside the new range becomes the bound that it passed, and the text follows.
+    void SetRange(int nMin, int nMax, bool bForce = false);
+    /// Replaces the whole range: there is no maximum afterwards.
+    void SetMinRange(int nMin, bool bForce = false);
+    /// Replaces the whole range: there is no minimum afterwards.
+    void SetMaxRange(int nMax, bool bForce = false);
+    void GetRange(int& nMin, int& nMax) const;
+    int GetMinRange() const;
+    int GetMaxRange() const;
+    /// Touches neither the value nor the text.
+    void DisableRangeChecking();
+    bool IsRangeCheckingEnabled() const;
+
+    bool IsDataCurrentlyInGUIValid() const override;
+    bool ValidateAndStoreDataFromGUI() override;
+    void UpdateGUIWithStoredData() override;
+
+protected:
+    void HandlerOnCreate() override;
+
+    /// Brings the value into the range; whether that moved it.
+    bool EnsureValueIsInRange();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    bool ParseText(int& n) const;
+
+    int m_nValue = 0;
+    CValueRange<int> m_range;
+    bool m_bEmpty = false;
+};
