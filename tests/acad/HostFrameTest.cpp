@@ -1,0 +1,69 @@
+// The host's main window.
+
+#include <acadhost.h>
+#include <rxmfcapi.h>
+
+#include <Input.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+struct HostFrame : testing::Test
+{
+    void TearDown() override { acadhostDestroyFrame(); }
+};
+} // namespace
+
+TEST_F(HostFrame, IsMadeHiddenWhenFirstAskedFor)
+{
+    ASSERT_FALSE(acadhostHasFrame());
+    CFrameWnd* frame = acedGetAcadFrame();
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(::IsWindow(frame->m_hWnd));
+    EXPECT_FALSE(frame->IsWindowVisible());
+    EXPECT_EQ(acedGetAcadFrame(), frame);
+}
+
+TEST_F(HostFrame, OfTheProgramIsTheOneAnswered)
+{
+    CFrameWnd* frame = acadhostCreateFrame(L"Drawing", SW_SHOW);
+    ASSERT_NE(frame, nullptr);
+    EXPECT_TRUE(frame->IsWindowVisible());
+    EXPECT_EQ(acedGetAcadFrame(), frame);
+
+    EXPECT_EQ(acadhostCreateFrame(L"Other drawing", SW_HIDE), frame);
+    CString title;
+    frame->GetWindowText(title);
+    EXPECT_STREQ(title, L"Other drawing");
+    EXPECT_FALSE(frame->IsWindowVisible());
+}
+
+TEST_F(HostFrame, IsMadeAnewAfterItsEnd)
+{
+    const HWND first = acedGetAcadFrame()->m_hWnd;
+    acedGetAcadFrame()->DestroyWindow(); // as the user does by closing it
+    EXPECT_FALSE(::IsWindow(first));
+    EXPECT_FALSE(acadhostHasFrame());
+    EXPECT_TRUE(::IsWindow(acedGetAcadFrame()->m_hWnd));
+
+    acadhostDestroyFrame();
+    acadhostDestroyFrame(); // without a frame it does nothing
+    EXPECT_FALSE(acadhostHasFrame());
+}
+
+TEST_F(HostFrame, LentByTheProgramStaysTheProgramsOwn)
+{
+    acedGetAcadFrame();
+    auto* own = new CFrameWnd; // deletes itself with its window
+    ASSERT_TRUE(own->Create(nullptr, L"Own"));
+
+    acadhostUseFrame(own);
+    EXPECT_EQ(acedGetAcadFrame(), own);
+    acadhostDestroyFrame();
+    EXPECT_TRUE(::IsWindow(own->m_hWnd));
+
+    acadhostUseFrame(nullptr);
+    EXPECT_FALSE(acadhostHasFrame());
+    own->DestroyWindow();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#define IDD_EDITS 100
+#define IDC_FIRST 1001
+#define IDC_SECOND 1002
+#define IDC_READONLY 1003
+#define IDC_CREATED 1004
+
+#define IDD_NUMBERS 101
+#define IDC_OWN 1010
+#define IDC_GIVEN 1011
+#define IDC_GIVEN_UNIT 1012
+#define IDC_GIVEN_SPIN 1013
+#define IDC_COUNT 1014
+
+#define IDD_HIDDEN 102

@@ -1,0 +1,23 @@
+#pragma once
+// What a piece of code throws, as the name of the exception's run-time class.
+
+#include <afx.h>
+
+#include <string>
+
+/// The class name of the MFC exception that the function throws, which is given back; empty for none.
+template <typename FUNCTION>
+std::string ThrownBy(FUNCTION function)
+{
+    try
+    {
+        function();
+    }
+    catch (CException* e)
+    {
+        const std::string name = e->GetRuntimeClass()->m_lpszClassName;
+        e->Delete();
+        return name;
+    }
+    return {};
+}

@@ -1,0 +1,197 @@
+// The classic controls.
+
+#include "HostWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// Puts down what its parent's notifications were turned into.
+class DrawnButton : public CButton
+{
+public:
+    int drawn = 0;
+    UINT state = 0;
+    HWND seenWindow = nullptr;
+
+    void DrawItem(LPDRAWITEMSTRUCT item) override
+    {
+        ++drawn;
+        state = item->itemState;
+        seenWindow = item->hwndItem;
+        CDC::FromHandle(item->hDC)->FillSolidRect(&item->rcItem, RGB(0, 128, 0));
+    }
+};
+
+/// Numbers as items, sorted downwards, as high as they are large.
+class DrawnList : public CListBox
+{
+public:
+    std::vector<ULONG_PTR> deleted;
+    int drawn = 0;
+
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override
+    {
+        item->itemHeight = static_cast<UINT>(item->itemData);
+    }
+    int CompareItem(LPCOMPAREITEMSTRUCT items) override
+    {
+        return static_cast<int>(items->itemData2) - static_cast<int>(items->itemData1);
+    }
+    void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(item->itemData); }
+};
+} // namespace
+
+TEST(Button, AnOwnerDrawnButtonReceivesItsDrawingFromTheParent)
+{
+    HostWindow host;
+    DrawnButton button;
+    ASSERT_TRUE(button.Create(L"draw", CHILD | BS_OWNERDRAW, CRect(0, 0, 50, 20), &host, 1));
+    button.UpdateWindow();
+    EXPECT_GE(button.drawn, 1);
+    EXPECT_EQ(button.seenWindow, button.m_hWnd);
+    EXPECT_EQ(CClientDC(&button).GetPixel(25, 10), RGB(0, 128, 0));
+
+    button.SetState(TRUE);
+    button.UpdateWindow();
+    EXPECT_NE(button.state & ODS_SELECTED, 0u);
+}
+
+TEST(Button, StyleAndCheckAreAskedFromTheControl)
+{
+    HostWindow host;
+    CButton button;
+    ASSERT_TRUE(
+        button.Create(L"check", CHILD | BS_AUTOCHECKBOX | BS_PUSHLIKE, CRect(0, 0, 50, 20), &host, 1));
+    EXPECT_EQ(button.GetButtonStyle() & 0x0F, static_cast<UINT>(BS_AUTOCHECKBOX));
+    button.SetCheck(BST_CHECKED);
+    EXPECT_EQ(button.GetCheck(), BST_CHECKED);
+
+    CButton picture;
+    ASSERT_TRUE(picture.Create(L"", CHILD | BS_ICON, CRect(60, 0, 110, 50), &host, 2));
+    const HICON icon = ::LoadIcon(nullptr, IDI_APPLICATION);
+    EXPECT_EQ(picture.SetIcon(icon), nullptr);
+    EXPECT_EQ(picture.GetIcon(), icon);
+}
+
+TEST(Control, DestructionDestroysTheWindow)
+{
+    HostWindow host;
+    HWND window = nullptr;
+    {
+        CStatic label;
+        ASSERT_TRUE(label.Create(L"text", CHILD, CRect(0, 0, 50, 20), &host));
+        window = label;
+        EXPECT_EQ(label.GetDlgCtrlID() & 0xFFFF, 0xFFFF);
+    }
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST(ListBox, AnOwnerDrawnListMeasuresSortsDrawsAndDeletesItself)
+{
+    HostWindow host;
+    DrawnList list;
+    ASSERT_TRUE(list.Create(CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 1));
+    for (ULONG_PTR item : {10, 30, 20})
+        list.AddString(reinterpret_cast<LPCTSTR>(item));
+    EXPECT_EQ(list.GetItemData(0), 30u);
+    EXPECT_EQ(list.GetItemData(2), 10u);
+    EXPECT_EQ(list.GetItemHeight(0), 30);
+    EXPECT_EQ(list.GetItemHeight(1), 20);
+    list.UpdateWindow();
+    EXPECT_GE(list.drawn, 3);
+    list.DeleteString(1);
+    EXPECT_EQ(list.deleted, std::vector<ULONG_PTR>{20});
+}
+
+TEST(ListBox, SelectionOfSeveralItemsAndTextOfAny)
+{
+    HostWindow host;
+    CListBox list;
+    ASSERT_TRUE(list.Create(CHILD | LBS_EXTENDEDSEL, CRect(0, 0, 100, 100), &host, 1));
+    for (LPCTSTR item : {L"a", L"b", L"c", L"d"})
+        list.AddString(item);
+    EXPECT_NE(list.SelItemRange(TRUE, 0, 3), LB_ERR);
+    EXPECT_EQ(list.GetSelCount(), 4);
+    EXPECT_NE(list.SelItemRange(FALSE, 1, 2), LB_ERR);
+    int selected[4] = {};
+    EXPECT_EQ(list.GetSelItems(4, selected), 2);
+    EXPECT_EQ(selected[1], 3);
+
+    CString text(L"before");
+    list.GetText(2, text);
+    EXPECT_EQ(text, L"c");
+    list.GetText(9, text);
+    EXPECT_TRUE(text.IsEmpty());
+    BOOL outside = FALSE;
+    EXPECT_EQ(list.ItemFromPoint(CPoint(5, list.GetItemHeight(0) + 2), outside), 1u);
+    EXPECT_FALSE(outside);
+}
+
+TEST(ComboBox, ListSelectionAndEditPart)
+{
+    HostWindow host;
+    CComboBox combo;
+    ASSERT_TRUE(combo.Create(CHILD | CBS_DROPDOWN, CRect(0, 0, 100, 200), &host, 1));
+    EXPECT_EQ(combo.AddString(L"one"), 0);
+    EXPECT_EQ(combo.InsertString(-1, L"two"), 1);
+    EXPECT_NE(combo.SetItemData(1, 77), CB_ERR);
+    EXPECT_EQ(combo.GetItemData(1), 77u);
+    EXPECT_EQ(combo.SelectString(-1, L"tw"), 1);
+    CString text;
+    combo.GetLBText(1, text);
+    EXPECT_EQ(text, L"two");
+    EXPECT_TRUE(combo.SetEditSel(1, -1));
+    EXPECT_EQ(combo.GetEditSel(), static_cast<DWORD>(MAKELONG(1, 3)));
+    EXPECT_FALSE(combo.GetDroppedState());
+    combo.ShowDropDown();
+    EXPECT_TRUE(combo.GetDroppedState());
+    CRect dropped;
+    combo.GetDroppedControlRect(dropped);
+    EXPECT_GT(dropped.Height(), 20);
+    combo.ShowDropDown(FALSE);
+}
+
+TEST(Edit, SelectionLimitAndLines)
+{
+    HostWindow host;
+    CEdit edit;
+    ASSERT_TRUE(edit.Create(CHILD | ES_MULTILINE, CRect(0, 0, 200, 100), &host, 1));
+    edit.SetWindowText(L"first\r\nsecond");
+    edit.SetSel(0, -1);
+    int start = 0;
+    int end = 0;
+    edit.GetSel(start, end);
+    EXPECT_EQ(end, 13);
+    edit.SetSel(static_cast<DWORD>(MAKELONG(2, 4)));
+    EXPECT_EQ(edit.GetSel(), static_cast<DWORD>(MAKELONG(2, 4)));
+    edit.SetSel(static_cast<DWORD>(MAKELONG(0, -1)));
+    EXPECT_EQ(edit.GetSel(), static_cast<DWORD>(MAKELONG(0, 13)));
+
+    TCHAR line[20] = {};
+    EXPECT_EQ(edit.GetLine(1, line, 19), 6);
+    EXPECT_EQ(CString(line, 6), L"second");
+    EXPECT_EQ(edit.LineIndex(1), 7);
+    edit.SetSel(0, 5);
+    edit.ReplaceSel(L"1st", TRUE);
+    EXPECT_TRUE(edit.GetModify());
+    EXPECT_TRUE(edit.CanUndo());
+    edit.SetMargins(3, 4);
+    EXPECT_EQ(edit.GetMargins(), static_cast<DWORD>(MAKELONG(3, 4)));
+}
+
+TEST(ScrollBar, TheLimitIsWhatTheThumbCanReach)
+{
+    HostWindow host;
+    CScrollBar bar;
+    ASSERT_TRUE(bar.Create(CHILD | SBS_HORZ, CRect(0, 0, 100, 20), &host, 1));
+    SCROLLINFO info = {};
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.nMax = 99;
+    info.nPage = 10;
+    bar.SetScrollInfo(&info);
+    EXPECT_EQ(bar.GetScrollLimit(), 90);
+    bar.SetScrollPos(500);
+    EXPECT_EQ(bar.GetScrollPos(), 90);
+}

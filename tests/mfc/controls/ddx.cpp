@@ -1,0 +1,325 @@
+// Dialog data exchange and validation.
+
+#include "HostWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+constexpr int IDC_VALUE = 100;
+constexpr int IDC_OTHER = 101;
+
+/// A window with an edit IDC_VALUE that exchanges one member.
+class ExchangeTest : public testing::Test
+{
+protected:
+    HostWindow host;
+    HWND edit = host.AddControl(WC_EDIT, IDC_VALUE);
+    HWND other = host.AddControl(WC_EDIT, IDC_OTHER);
+
+    CString Text() const
+    {
+        CString text;
+        host.GetDlgItemText(IDC_VALUE, text);
+        return text;
+    }
+
+    template <class Value>
+    CString Load(Value value)
+    {
+        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
+        EXPECT_TRUE(host.UpdateData(FALSE));
+        return Text();
+    }
+
+    template <class Value>
+    BOOL Save(LPCTSTR text, Value& value)
+    {
+        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
+        ::SetWindowText(edit, text);
+        return host.UpdateData(TRUE);
+    }
+
+    /// Saves `text`, which is to be accepted as `expected`.
+    template <class Value>
+    void ExpectAccepted(LPCTSTR text, Value expected)
+    {
+        Value value = 1;
+        EXPECT_TRUE(Save(text, value)) << CStringA(text).GetString();
+        EXPECT_EQ(value, expected);
+    }
+
+    /// Saves `text`, which is to be refused with one message box, the value and the text unchanged and the
+    /// focus on the edit with its text selected.
+    template <class Value>
+    void ExpectRefused(LPCTSTR text)
+    {
+        MessageBoxCloser boxes;
+        ::SetFocus(other);
+        Value value = 42;
+        EXPECT_FALSE(Save(text, value)) << CStringA(text).GetString();
+        EXPECT_EQ(value, Value(42));
+        EXPECT_EQ(boxes.texts.size(), 1u) << CStringA(text).GetString();
+        EXPECT_EQ(::GetFocus(), edit);
+        EXPECT_EQ(Text(), text);
+        const auto length = static_cast<DWORD>(::lstrlen(text));
+        EXPECT_EQ(static_cast<DWORD>(::SendMessage(edit, EM_GETSEL, 0, 0)),
+                  static_cast<DWORD>(MAKELONG(0, length)));
+    }
+};
+} // namespace
+
+TEST_F(ExchangeTest, WholeNumbersOfEveryTypeMakeTheRoundTrip)
+{
+    EXPECT_EQ(Load<BYTE>(255), L"255");
+    EXPECT_EQ(Load<short>(-32768), L"-32768");
+    EXPECT_EQ(Load<int>(-2147483647 - 1), L"-2147483648");
+    EXPECT_EQ(Load<UINT>(4294967295u), L"4294967295");
+    EXPECT_EQ(Load<long>(-7), L"-7");
+    EXPECT_EQ(Load<DWORD>(4294967295ul), L"4294967295");
+    EXPECT_EQ(Load<LONGLONG>(-9223372036854775807ll), L"-9223372036854775807");
+    EXPECT_EQ(Load<ULONGLONG>(18446744073709551615ull), L"18446744073709551615");
+
+    ExpectAccepted<BYTE>(L"255", 255);
+    ExpectAccepted<short>(L"-32768", -32768);
+    ExpectAccepted<int>(L"  -2147483648 ", -2147483647 - 1);
+    ExpectAccepted<UINT>(L"4294967295", 4294967295u);
+    ExpectAccepted<long>(L"+7", 7);
+    ExpectAccepted<DWORD>(L"4294967295", 4294967295ul);
+    ExpectAccepted<LONGLONG>(L"-9223372036854775807", -9223372036854775807ll);
+    ExpectAccepted<ULONGLONG>(L"18446744073709551615", 18446744073709551615ull);
+}
+
+TEST_F(ExchangeTest, WhatIsNoWholeNumberOfTheTypeIsRefused)
+{
+    ExpectRefused<int>(L"");
+    ExpectRefused<int>(L"12x");
+    ExpectRefused<int>(L"1.5");
+    ExpectRefused<int>(L"2147483648");
+    ExpectRefused<BYTE>(L"256");
+    ExpectRefused<BYTE>(L"-1");
+    ExpectRefused<short>(L"40000");
+    ExpectRefused<UINT>(L"-1");
+    ExpectRefused<DWORD>(L"4294967296");
+    ExpectRefused<LONGLONG>(L"9223372036854775808");
+    ExpectRefused<ULONGLONG>(L"-1");
+}
+
+TEST_F(ExchangeTest, RealNumbersMakeTheRoundTripWithTheDigitsOfTheirType)
+{
+    EXPECT_EQ(Load<float>(0.1f), L"0.1");
+    EXPECT_EQ(Load<double>(0.1), L"0.1");
+    EXPECT_EQ(Load<double>(-1234567.25), L"-1234567.25");
+    EXPECT_EQ(Load<double>(1e100), L"1e+100");
+    ExpectAccepted<float>(L"2.5", 2.5f);
+    ExpectAccepted<double>(L" -1e-3 ", -1e-3);
+    ExpectRefused<double>(L"");
+    ExpectRefused<double>(L"2.5 m");
+    ExpectRefused<float>(L"wide");
+}
+
+TEST_F(ExchangeTest, StringsAreTakenAsTheyAreAndCutToTheBuffer)
+{
+    CString string(L"  blanks stay ");
+    EXPECT_EQ(Load(string), string);
+    CString read(L"before");
+    EXPECT_TRUE(Save(L"", read));
+    EXPECT_TRUE(read.IsEmpty());
+
+    TCHAR buffer[5] = L"none";
+    host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, buffer, 5); };
+    ::SetWindowText(edit, L"123456");
+    EXPECT_TRUE(host.UpdateData(TRUE));
+    EXPECT_STREQ(buffer, L"1234");
+}
+
+TEST_F(ExchangeTest, ATextThatIsThereAlreadyIsNotSetAgain)
+{
+    class CountingEdit : public CEdit
+    {
+    public:
+        int textsSet = 0;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            textsSet += message == WM_SETTEXT;
+            return CEdit::WindowProc(message, wParam, lParam);
+        }
+    } counting;
+    counting.SubclassWindow(edit);
+    Load(5);
+    Load(5);
+    EXPECT_EQ(counting.textsSet, 1);
+}
+
+TEST_F(ExchangeTest, AControlIsSubclassedOnceHoweverOftenDataIsExchanged)
+{
+    CEdit object;
+    host.exchange = [&](CDataExchange* dx) { DDX_Control(dx, IDC_VALUE, object); };
+    EXPECT_TRUE(host.UpdateData(FALSE));
+    const auto procedure = ::GetWindowLongPtr(edit, GWLP_WNDPROC);
+    EXPECT_EQ(CWnd::FromHandlePermanent(edit), &object);
+    EXPECT_TRUE(host.UpdateData(FALSE));
+    EXPECT_TRUE(host.UpdateData(TRUE));
+    EXPECT_EQ(::GetWindowLongPtr(edit, GWLP_WNDPROC), procedure);
+    EXPECT_EQ(object.m_hWnd, edit);
+}
+
+TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndRefuseOutside)
+{
+    int value = 0;
+    host.exchange = [&](CDataExchange* dx)
+    {
+        DDX_Text(dx, IDC_VALUE, value);
+        DDV_MinMaxInt(dx, value, -5, 10);
+    };
+    for (LPCTSTR inside : {L"-5", L"10"})
+    {
+        ::SetWindowText(edit, inside);
+        EXPECT_TRUE(host.UpdateData(TRUE));
+    }
+    MessageBoxCloser boxes;
+    ::SetFocus(other);
+    ::SetWindowText(edit, L"11");
+    EXPECT_FALSE(host.UpdateData(TRUE));
+    ASSERT_EQ(boxes.texts.size(), 1u);
+    EXPECT_NE(boxes.texts[0].find(L"-5"), std::wstring::npos);
+    EXPECT_NE(boxes.texts[0].find(L"10"), std::wstring::npos);
+    EXPECT_EQ(::GetFocus(), edit);
+}
+
+TEST_F(ExchangeTest, RangesOfOtherTypesAreComparedInTheirType)
+{
+    struct Case
+    {
+        std::function<void(CDataExchange*)> check;
+        bool refused;
+    };
+    const Case cases[] = {
+        {[](CDataExchange* dx) { DDV_MinMaxByte(dx, 9, 10, 20); }, true},
+        {[](CDataExchange* dx) { DDV_MinMaxShort(dx, -3, -2, 2); }, true},
+        {[](CDataExchange* dx) { DDV_MinMaxLong(dx, 2, -2, 2); }, false},
+        {[](CDataExchange* dx) { DDV_MinMaxUInt(dx, 0xFFFFFFFFu, 0, 0x7FFFFFFFu); }, true},
+        {[](CDataExchange* dx) { DDV_MinMaxDWord(dx, 0xFFFFFFFFul, 0, 0xFFFFFFFFul); }, false},
+        {[](CDataExchange* dx) { DDV_MinMaxLongLong(dx, 1ll << 40, 0, 1ll << 39); }, true},
+        {[](CDataExchange* dx) { DDV_MinMaxULongLong(dx, 1ull << 63, 0, ~0ull); }, false},
+        {[](CDataExchange* dx) { DDV_MinMaxFloat(dx, 0.5f, 0.0f, 0.4f); }, true},
+        {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, 0.4, 0.0, 0.4); }, false},
+    };
+    for (size_t i = 0; i < std::size(cases); ++i)
+    {
+        MessageBoxCloser boxes;
+        host.exchange = cases[i].check;
+        EXPECT_EQ(host.UpdateData(TRUE), !cases[i].refused) << "case " << i;
+        EXPECT_EQ(boxes.texts.size(), cases[i].refused ? 1u : 0u) << "case " << i;
+        EXPECT_TRUE(host.UpdateData(FALSE)) << "initial values pass, case " << i;
+    }
+}
+
+TEST_F(ExchangeTest, MaxCharsLimitsTypingWhileLoadingAndChecksWhileSaving)
+{
+    CString text(L"abc");
+    host.exchange = [&](CDataExchange* dx)
+    {
+        DDX_Text(dx, IDC_VALUE, text);
+        DDV_MaxChars(dx, text, 4);
+    };
+    host.UpdateData(FALSE);
+    EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 4);
+
+    MessageBoxCloser boxes;
+    ::SetWindowText(edit, L"abcde");
+    EXPECT_FALSE(host.UpdateData(TRUE));
+    EXPECT_EQ(boxes.texts.size(), 1u);
+}
+
+TEST_F(ExchangeTest, RadioButtonsOfAGroupAreOneNumber)
+{
+    host.AddControl(WC_BUTTON, 200, BS_AUTORADIOBUTTON | WS_GROUP);
+    host.AddControl(WC_STATIC, 201);
+    host.AddControl(WC_BUTTON, 202, BS_AUTORADIOBUTTON);
+    host.AddControl(WC_BUTTON, 203, BS_AUTORADIOBUTTON | WS_GROUP);
+    int choice = 1;
+    host.exchange = [&](CDataExchange* dx) { DDX_Radio(dx, 200, choice); };
+    host.UpdateData(FALSE);
+    EXPECT_FALSE(host.IsDlgButtonChecked(200));
+    EXPECT_TRUE(host.IsDlgButtonChecked(202));
+    host.CheckDlgButton(203, BST_CHECKED);
+    choice = -1;
+    host.UpdateData(TRUE);
+    EXPECT_EQ(choice, 1) << "windows between do not count, the next group does not take part";
+
+    host.CheckDlgButton(202, BST_UNCHECKED);
+    host.UpdateData(TRUE);
+    EXPECT_EQ(choice, -1);
+}
+
+TEST_F(ExchangeTest, ChecksListsAndPositions)
+{
+    host.AddControl(WC_BUTTON, 300, BS_AUTO3STATE);
+    CListBox* list = static_cast<CListBox*>(CWnd::FromHandle(host.AddControl(WC_LISTBOX, 301)));
+    list->AddString(L"beam 12");
+    list->AddString(L"beam");
+    const HWND combo = host.AddControl(WC_COMBOBOX, 302, CBS_DROPDOWN);
+    ::SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"slab"));
+    host.AddControl(WC_SCROLLBAR, 303, SBS_HORZ);
+    ::SetScrollRange(host.GetDlgItem(303)->m_hWnd, SB_CTL, 0, 100, FALSE);
+    host.AddControl(TRACKBAR_CLASS, 304);
+
+    int check = 7;
+    CString prefix(L"beam 1");
+    CString exact(L"beam");
+    CString typed(L"not in the list");
+    int index = -1;
+    int scroll = 33;
+    int slider = 44;
+    host.exchange = [&](CDataExchange* dx)
+    {
+        DDX_Check(dx, 300, check);
+        DDX_LBString(dx, 301, prefix);
+        DDX_LBStringExact(dx, 301, exact);
+        DDX_LBIndex(dx, 301, index);
+        DDX_CBString(dx, 302, typed);
+        DDX_Scroll(dx, 303, scroll);
+        DDX_Slider(dx, 304, slider);
+        if (!dx->m_bSaveAndValidate)
+            DDV_MinMaxSlider(dx, slider, 10, 50);
+    };
+    host.UpdateData(FALSE);
+    EXPECT_EQ(check, BST_UNCHECKED) << "no check state is unchecked";
+    EXPECT_EQ(list->GetCurSel(), -1) << "the index is exchanged last";
+    index = 0;
+    scroll = slider = 0;
+    typed.Empty();
+    list->SetCurSel(1);
+    host.CheckDlgButton(300, BST_INDETERMINATE);
+    host.UpdateData(TRUE);
+    EXPECT_EQ(check, BST_INDETERMINATE);
+    EXPECT_EQ(index, 1);
+    EXPECT_EQ(prefix, exact);
+    EXPECT_EQ(typed, L"not in the list");
+    EXPECT_EQ(scroll, 33);
+    EXPECT_EQ(slider, 44);
+
+    host.exchange = [&](CDataExchange* dx) { DDX_LBStringExact(dx, 301, exact); };
+    exact = L"beam";
+    host.UpdateData(FALSE);
+    CString selected;
+    list->GetText(list->GetCurSel(), selected);
+    EXPECT_EQ(selected, L"beam");
+}
+
+TEST_F(ExchangeTest, AMissingControlIsAProgrammersFault)
+{
+    CDataExchange exchange(&host, TRUE);
+    try
+    {
+        exchange.PrepareCtrl(9999);
+        FAIL() << "a control that is not there";
+    }
+    catch (CNotSupportedException* e)
+    {
+        e->Delete();
+    }
+}

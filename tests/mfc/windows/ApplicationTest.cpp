@@ -1,0 +1,370 @@
+// The application: profile, message boxes, frame windows, idle time, wait cursor, stack dumps.
+
+#include <afxpriv.h>
+
+#include "Input.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+namespace
+{
+/// An application of its own beside the test program's, which is put back afterwards.
+class CTestApp : public CWinApp
+{
+public:
+    CTestApp() : CWinApp(L"ProfileTest") {}
+    using CWinApp::SetRegistryKey;
+    int m_command = 0;
+    UINT m_boxType = 0;
+    CString m_boxText;
+
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) override
+    {
+        m_boxText = lpszPrompt;
+        m_boxType = nType;
+        return IDRETRY;
+    }
+
+protected:
+    afx_msg void OnCommand() { ++m_command; }
+    DECLARE_MESSAGE_MAP()
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
+    ON_COMMAND(0x8123, &CTestApp::OnCommand)
+END_MESSAGE_MAP()
+// clang-format on
+
+class Application : public ::testing::Test
+{
+protected:
+    Application()
+    {
+        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
+        app = std::make_unique<CTestApp>();
+    }
+    ~Application() override
+    {
+        app.reset();
+        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
+        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
+    }
+
+    std::unique_ptr<CTestApp> app;
+
+private:
+    CWinApp* m_programs = AfxGetApp();
+};
+
+class Profile : public Application
+{
+protected:
+    void CheckValues()
+    {
+        EXPECT_EQ(app->GetProfileInt(L"Numbers", L"missing", -4), static_cast<UINT>(-4));
+        ASSERT_TRUE(app->WriteProfileInt(L"Numbers", L"negative", -17));
+        EXPECT_EQ(static_cast<int>(app->GetProfileInt(L"Numbers", L"negative", 0)), -17);
+
+        EXPECT_EQ(app->GetProfileString(L"Texts", L"missing", L"default"), L"default");
+        EXPECT_EQ(app->GetProfileString(L"Texts", L"missing"), L"");
+        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"steel beam"));
+        EXPECT_EQ(app->GetProfileString(L"Texts", L"name"), L"steel beam");
+        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", nullptr));
+        EXPECT_EQ(app->GetProfileString(L"Texts", L"name", L"gone"), L"gone");
+
+        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"again"));
+        ASSERT_TRUE(app->WriteProfileString(L"Texts", nullptr, nullptr));
+        EXPECT_EQ(app->GetProfileString(L"Texts", L"name", L"gone"), L"gone");
+
+        BYTE written[] = {0x00, 0x01, 0x7F, 0x80, 0xFF};
+        ASSERT_TRUE(app->WriteProfileBinary(L"Data", L"bytes", written, sizeof written));
+        LPBYTE read = nullptr;
+        UINT size = 0;
+        ASSERT_TRUE(app->GetProfileBinary(L"Data", L"bytes", &read, &size));
+        const std::unique_ptr<BYTE[]> owner(read);
+        ASSERT_EQ(size, sizeof written);
+        EXPECT_TRUE(std::equal(read, read + size, written));
+        EXPECT_FALSE(app->GetProfileBinary(L"Data", L"missing", &read, &size));
+        EXPECT_EQ(read, nullptr);
+        EXPECT_EQ(size, 0u);
+    }
+};
+
+TEST_F(Profile, LivesInTheRegistryBelowCompanyAndProgram)
+{
+    app->SetRegistryKey(L"DialogControlsOW Tests");
+    CheckValues();
+
+    HKEY section = nullptr;
+    ASSERT_EQ(::RegOpenKeyEx(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers", 0,
+                             KEY_READ, &section),
+              ERROR_SUCCESS);
+    DWORD value = 0;
+    DWORD size = sizeof value;
+    DWORD type = 0;
+    ::RegQueryValueEx(section, L"negative", nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
+    ::RegCloseKey(section);
+    EXPECT_EQ(type, DWORD{REG_DWORD});
+    EXPECT_EQ(static_cast<int>(value), -17);
+    EXPECT_EQ(app->DelRegTree(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests"), ERROR_SUCCESS);
+}
+
+TEST_F(Profile, LivesInAFileWithoutARegistryKey)
+{
+    wchar_t folder[MAX_PATH];
+    wchar_t file[MAX_PATH];
+    ASSERT_NE(::GetTempPath(MAX_PATH, folder), 0u);
+    ASSERT_NE(::GetTempFileName(folder, L"prf", 0, file), 0u);
+    app->m_pszProfileName = _wcsdup(file); // freed by the application
+    CheckValues();
+    // A byte is two letters, its low half first.
+    EXPECT_EQ(app->GetProfileString(L"Data", L"bytes"), L"AABAPHAIPP");
+    ::DeleteFile(file);
+}
+
+TEST_F(Application, MessageBoxesGoThroughTheApplication)
+{
+    EXPECT_EQ(AfxMessageBox(L"text", MB_RETRYCANCEL), IDRETRY);
+    EXPECT_EQ(app->m_boxText, L"text");
+    EXPECT_EQ(app->m_boxType, UINT{MB_RETRYCANCEL});
+}
+
+/// A window whose handlers fail.
+class CFailingWnd : public CWnd
+{
+protected:
+    BOOL OnCommand(WPARAM, LPARAM) override
+    {
+        AfxThrowNotSupportedException();
+        return FALSE;
+    }
+    afx_msg void OnPaint()
+    {
+        ++m_paints;
+        AfxThrowNotSupportedException();
+    }
+    DECLARE_MESSAGE_MAP()
+
+public:
+    int m_paints = 0;
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CFailingWnd, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+// clang-format on
+
+TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
+{
+    CFailingWnd window;
+    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 50, 50), nullptr, 0));
+    EXPECT_EQ(window.SendMessage(WM_COMMAND, 1), TRUE); // handled, although it failed
+    EXPECT_FALSE(app->m_boxText.IsEmpty());
+
+    app->m_boxText.Empty();
+    window.Invalidate();
+    window.UpdateWindow();
+    EXPECT_TRUE(app->m_boxText.IsEmpty()); // a box would make the window paint again
+    EXPECT_FALSE(window.GetUpdateRect(nullptr));
+    EXPECT_GE(window.m_paints, 1);
+}
+
+class CTestFrame : public CFrameWnd
+{
+public:
+    int m_command = 0;
+
+protected:
+    afx_msg void OnOwnCommand() { ++m_command; }
+    afx_msg void OnUpdateOwn(CCmdUI* item) { item->SetCheck(1); }
+    DECLARE_MESSAGE_MAP()
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CTestFrame, CFrameWnd)
+    ON_COMMAND(0x8124, &CTestFrame::OnOwnCommand)
+    ON_UPDATE_COMMAND_UI(0x8124, &CTestFrame::OnUpdateOwn)
+END_MESSAGE_MAP()
+// clang-format on
+
+class Frame : public Application
+{
+protected:
+    void SetUp() override
+    {
+        frame = new CTestFrame; // deletes itself
+        ASSERT_TRUE(frame->Create(nullptr, L"frame", WS_OVERLAPPEDWINDOW, CRect(0, 0, 300, 200)));
+        app->m_pMainWnd = frame;
+    }
+    void TearDown() override
+    {
+        if (app->m_pMainWnd != nullptr)
+            app->m_pMainWnd->DestroyWindow();
+        MSG message;
+        ::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    }
+    CTestFrame* frame = nullptr;
+};
+
+TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplication)
+{
+    frame->SendMessage(WM_COMMAND, 0x8124);
+    EXPECT_EQ(frame->m_command, 1);
+    frame->SendMessage(WM_COMMAND, 0x8123);
+    EXPECT_EQ(app->m_command, 1);
+}
+
+TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)
+{
+    frame->SendMessage(WM_COMMAND, ID_APP_EXIT);
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
+    MSG message;
+    EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(Frame, MenuItemsShowTheStateOfTheirCommands)
+{
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    menu.AppendMenu(MF_STRING, 0x8124, L"own");
+    menu.AppendMenu(MF_STRING, 0x8123, L"application's");
+    menu.AppendMenu(MF_STRING, 0x8125, L"nobody's");
+    frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
+    EXPECT_EQ(menu.GetMenuState(0, MF_BYPOSITION), UINT{MF_CHECKED});
+    EXPECT_EQ(menu.GetMenuState(1, MF_BYPOSITION), UINT{MF_ENABLED});
+    EXPECT_EQ(menu.GetMenuState(2, MF_BYPOSITION), UINT{MF_GRAYED});
+}
+
+TEST_F(Frame, DisablingItDisablesTheWindowsItOwns)
+{
+    CWnd palette;
+    CWnd alreadyDisabled;
+    ASSERT_TRUE(palette.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 20, 20), frame, 0));
+    ASSERT_TRUE(
+        alreadyDisabled.CreateEx(0, nullptr, L"", WS_POPUP | WS_DISABLED, CRect(0, 0, 20, 20), frame, 0));
+    frame->EnableWindow(FALSE);
+    EXPECT_FALSE(palette.IsWindowEnabled());
+    frame->EnableWindow(TRUE);
+    EXPECT_TRUE(palette.IsWindowEnabled());
+    EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
+}
+
+TEST_F(Frame, RunsUntilItsMainWindowIsClosed)
+{
+    frame->PostMessage(WM_CLOSE);
+    EXPECT_EQ(app->Run(), 0);
+    EXPECT_EQ(app->m_pMainWnd, nullptr);
+}
+
+class CIdleWnd : public CWnd
+{
+public:
+    int m_updates = 0;
+
+protected:
+    afx_msg LRESULT OnUpdate(WPARAM, LPARAM)
+    {
+        ++m_updates;
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CIdleWnd, CWnd)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CIdleWnd::OnUpdate)
+END_MESSAGE_MAP()
+// clang-format on
+
+TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
+{
+    CIdleWnd child;
+    ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 10, 10), frame, 1));
+    EXPECT_TRUE(app->OnIdle(0));
+    EXPECT_EQ(child.m_updates, 0); // the frame is hidden
+    frame->ShowWindow(SW_SHOW);
+    EXPECT_TRUE(app->OnIdle(0));
+    EXPECT_EQ(child.m_updates, 1);
+    EXPECT_FALSE(app->OnIdle(1));
+    EXPECT_EQ(child.m_updates, 1);
+}
+
+TEST_F(Application, MessagesThatChangeNothingDoNotBringIdleTime)
+{
+    MSG message{};
+    message.message = WM_MOUSEMOVE;
+    message.pt = {5, 5};
+    EXPECT_TRUE(app->IsIdleMessage(&message));
+    EXPECT_FALSE(app->IsIdleMessage(&message)); // the system repeats it without a movement
+    message.pt = {6, 5};
+    EXPECT_TRUE(app->IsIdleMessage(&message));
+    message.message = WM_PAINT;
+    EXPECT_FALSE(app->IsIdleMessage(&message));
+    message.message = WM_KEYDOWN;
+    EXPECT_TRUE(app->IsIdleMessage(&message));
+}
+
+TEST_F(Application, TheWaitCursorIsCounted)
+{
+    const HCURSOR wait = ::LoadCursor(nullptr, IDC_WAIT);
+    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW);
+    ::SetCursor(arrow);
+    {
+        CWaitCursor outer;
+        {
+            CWaitCursor inner;
+            EXPECT_EQ(::GetCursor(), wait);
+        }
+        EXPECT_EQ(::GetCursor(), wait);
+        ::SetCursor(arrow);
+        outer.Restore();
+        EXPECT_EQ(::GetCursor(), wait);
+    }
+    EXPECT_EQ(::GetCursor(), arrow);
+}
+
+TEST(WindowClass, EqualRequestsGiveOneClass)
+{
+    const CString first = AfxRegisterWndClass(CS_DBLCLKS);
+    EXPECT_EQ(CString(AfxRegisterWndClass(CS_DBLCLKS)), first);
+    EXPECT_NE(CString(AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_CROSS))), first);
+    WNDCLASS found{};
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), first, &found));
+    EXPECT_EQ(found.style, UINT{CS_DBLCLKS});
+}
+
+std::string ClipboardText()
+{
+    std::string text;
+    if (!::OpenClipboard(nullptr))
+        return text;
+    if (const HANDLE data = ::GetClipboardData(CF_TEXT))
+        text = static_cast<const char*>(::GlobalLock(data));
+    ::CloseClipboard();
+    return text;
+}
+
+TEST(DumpStack, PutsTheFramesOnTheClipboard)
+{
+    AfxDumpStack(AFX_STACK_DUMP_TARGET_CLIPBOARD);
+    const std::string text = ClipboardText();
+    EXPECT_NE(text.find("test_mfc_windows.exe"), std::string::npos);
+    EXPECT_GE(std::count(text.begin(), text.end(), '\n'), 5);
+}
+
+TEST(DumpStack, ABusyClipboardIsNoFailure)
+{
+    CWnd holder;
+    ASSERT_TRUE(holder.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
+    ASSERT_TRUE(holder.OpenClipboard());
+    ::EmptyClipboard();
+    AfxDumpStack(AFX_STACK_DUMP_TARGET_CLIPBOARD);
+    EXPECT_EQ(::GetClipboardData(CF_TEXT), nullptr);
+    ::CloseClipboard();
+}
+} // namespace

@@ -1,0 +1,127 @@
+// Extension modules: the chain of resources, modules that come and go, exceptions across modules.
+
+#include "TestExtension.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+struct FreeModule
+{
+    void operator()(HMODULE module) const { ::FreeLibrary(module); }
+};
+using LoadedModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule>;
+
+LoadedModule LoadLateExtension()
+{
+    return LoadedModule(::LoadLibrary(L"mfc_test_extension_late.dll"));
+}
+
+HMODULE EarlyExtension()
+{
+    return ::GetModuleHandle(L"mfc_test_extension_early.dll");
+}
+
+CString TextOf(UINT id)
+{
+    CString text;
+    text.LoadString(id);
+    return text;
+}
+
+TEST(Extension, TheChainWorksBeforeTheProgramIsInitialised)
+{
+    // Imported by the program, and so attached before AfxWinInit and before the application object was made.
+    EXPECT_EQ(TextAtAttach(), L"early");
+    EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only");
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG), EarlyExtension());
+}
+
+TEST(Extension, TheLatestModuleIsAskedFirstAndLeavesTheChainWhenItGoes)
+{
+    {
+        const LoadedModule late = LoadLateExtension();
+        ASSERT_NE(late, nullptr);
+        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
+        EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY),
+                  L"early only"); // an empty place in a block of strings is no string
+    }
+    EXPECT_EQ(::GetModuleHandle(L"mfc_test_extension_late.dll"), nullptr);
+    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
+}
+
+TEST(Extension, TheCurrentResourceHandleComesBeforeTheChain)
+{
+    const LoadedModule late = LoadLateExtension();
+    ASSERT_NE(late, nullptr);
+    const HINSTANCE program = AfxGetResourceHandle();
+    AfxSetResourceHandle(EarlyExtension());
+    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
+    AfxSetResourceHandle(program);
+    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
+}
+
+TEST(Extension, AMissingResourceAnswersTheCurrentHandle)
+{
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(4999), RT_DIALOG), AfxGetResourceHandle());
+    EXPECT_EQ(AfxFindStringResourceHandle(41999), AfxGetResourceHandle());
+    wchar_t text[8] = L"old";
+    EXPECT_EQ(AfxLoadString(41999, text, ARRAYSIZE(text)), 0);
+    EXPECT_STREQ(text, L"");
+    EXPECT_EQ(AfxLoadString(IDS_EXTENSION_EARLY, text, ARRAYSIZE(text)), 7); // cut to the buffer
+    EXPECT_STREQ(text, L"early o");
+}
+
+TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsLists)
+{
+    CDialog dialog;
+    ASSERT_TRUE(dialog.Create(IDD_EXTENSION_DIALOG));
+    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETCOUNT), 2);
+    wchar_t second[16] = L"";
+    dialog.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(second));
+    EXPECT_STREQ(second, L"two");
+}
+
+TEST(Extension, ExceptionsCrossModulesByTheirTypes)
+{
+    int code = 0;
+    try
+    {
+        ThrowMfcException(3);
+    }
+    catch (CExtensionException* e)
+    {
+        code = e->m_code;
+        EXPECT_TRUE(e->IsKindOf(RUNTIME_CLASS(CException)));
+        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), RUNTIME_CLASS(CExtensionException));
+        e->Delete();
+    }
+    EXPECT_EQ(code, 3);
+    try
+    {
+        ThrowStandardException(4);
+    }
+    catch (const ExtensionFailure& failure)
+    {
+        code = failure.code;
+    }
+    EXPECT_EQ(code, 4);
+}
+
+TEST(ModuleState, IsPutInForceForAScope)
+{
+    AFX_MODULE_STATE* const ours = AfxGetModuleState();
+    AFX_MODULE_STATE other;
+    other.m_hCurrentResourceHandle = EarlyExtension();
+    {
+        AFX_MANAGE_STATE(&other);
+        EXPECT_EQ(AfxGetResourceHandle(), EarlyExtension());
+        EXPECT_EQ(AfxGetApp(), nullptr);
+    }
+    EXPECT_EQ(AfxGetModuleState(), ours);
+    EXPECT_EQ(AfxGetStaticModuleState(), ours);
+    EXPECT_NE(AfxGetApp(), nullptr);
+}
+} // namespace

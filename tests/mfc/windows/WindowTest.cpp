@@ -1,0 +1,396 @@
+// CWnd and its handle: creation, subclassing, handle maps, the end of windows, exceptions in handlers.
+
+#include <afxwin.h>
+
+#include "Handles.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+/// Counts the stations of a window's life.
+class CLifeWnd : public CWnd
+{
+public:
+    int m_preSubclass = 0;
+    int m_created = 0;
+    int m_postNcDestroy = 0;
+    bool m_handleInPreSubclass = false;
+    bool m_refuseCreate = false;
+    bool m_throwInCreate = false;
+
+    void PreSubclassWindow() override
+    {
+        ++m_preSubclass;
+        m_handleInPreSubclass = FromHandlePermanent(m_hWnd) == this;
+    }
+
+protected:
+    void PostNcDestroy() override { ++m_postNcDestroy; }
+    afx_msg int OnCreate(LPCREATESTRUCT cs)
+    {
+        ++m_created;
+        EXPECT_EQ(m_preSubclass, 1);
+        if (m_throwInCreate)
+            AfxThrowResourceException();
+        return m_refuseCreate ? -1 : CWnd::OnCreate(cs);
+    }
+    afx_msg LRESULT OnDie(WPARAM, LPARAM)
+    {
+        DestroyWindow();
+        return m_hWnd == nullptr ? 77 : 0;
+    }
+    afx_msg LRESULT OnThrow(WPARAM, LPARAM)
+    {
+        AfxThrowUserException(); // reported already: no message box
+        return 1;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+// clang-format off
+BEGIN_MESSAGE_MAP(CLifeWnd, CWnd)
+    ON_WM_CREATE()
+    ON_MESSAGE(WM_APP, &CLifeWnd::OnDie)
+    ON_MESSAGE(WM_APP + 1, &CLifeWnd::OnThrow)
+END_MESSAGE_MAP()
+// clang-format on
+
+BOOL CreatePopup(CWnd& window)
+{
+    return window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
+}
+
+HWND MakeStatic(HWND parent = nullptr)
+{
+    return ::CreateWindow(L"Static", L"", parent != nullptr ? WS_CHILD : WS_POPUP, 0, 0, 10, 10, parent,
+                          nullptr, nullptr, nullptr);
+}
+
+WNDPROC ProcedureOf(HWND window)
+{
+    return reinterpret_cast<WNDPROC>(::GetWindowLongPtr(window, GWLP_WNDPROC));
+}
+
+TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
+{
+    CLifeWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    EXPECT_EQ(window.m_preSubclass, 1);
+    EXPECT_TRUE(window.m_handleInPreSubclass);
+    EXPECT_EQ(window.m_created, 1);
+    EXPECT_EQ(CWnd::FromHandle(window.m_hWnd), &window);
+    EXPECT_EQ(ProcedureOf(window), AfxGetAfxWndProc());
+
+    EXPECT_TRUE(window.DestroyWindow());
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.m_postNcDestroy, 1);
+    EXPECT_FALSE(window.DestroyWindow());
+}
+
+TEST(Window, ACreationThatFailsLeavesNoHandle)
+{
+    CLifeWnd refused;
+    refused.m_refuseCreate = true;
+    EXPECT_FALSE(CreatePopup(refused));
+    EXPECT_EQ(refused.m_hWnd, nullptr);
+    EXPECT_EQ(refused.m_postNcDestroy, 1);
+
+    CLifeWnd thrown;
+    thrown.m_throwInCreate = true;
+    EXPECT_FALSE(CreatePopup(thrown));
+    EXPECT_EQ(thrown.m_hWnd, nullptr);
+
+    CLifeWnd unknownClass; // the system refuses before it makes anything
+    EXPECT_FALSE(unknownClass.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
+    EXPECT_EQ(unknownClass.m_preSubclass, 0);
+    EXPECT_EQ(unknownClass.m_postNcDestroy, 1);
+
+    CLifeWnd next; // which must not be taken for one of those
+    EXPECT_TRUE(CreatePopup(next));
+    EXPECT_EQ(next.m_preSubclass, 1);
+}
+
+TEST(Window, SubclassingTakesTheProcedureAndGivesItBack)
+{
+    const HWND handle = MakeStatic();
+    const WNDPROC original = ProcedureOf(handle);
+    CLifeWnd window;
+    ASSERT_TRUE(window.SubclassWindow(handle));
+    EXPECT_EQ(window.m_preSubclass, 1);
+    EXPECT_NE(ProcedureOf(handle), original);
+    window.SetWindowText(L"through the old procedure");
+    EXPECT_EQ(window.GetWindowTextLength(), 25);
+
+    EXPECT_EQ(window.UnsubclassWindow(), handle);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(ProcedureOf(handle), original);
+    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
+    ::DestroyWindow(handle);
+    EXPECT_EQ(window.m_postNcDestroy, 0);
+}
+
+TEST(Window, ASubclassedWindowThatDiesReleasesItsObjectForAnother)
+{
+    CWnd parent;
+    ASSERT_TRUE(CreatePopup(parent));
+    CLifeWnd window;
+    for (int round = 1; round <= 2; ++round)
+    {
+        ASSERT_TRUE(window.SubclassWindow(MakeStatic(parent)));
+        ::DestroyWindow(window.m_hWnd);
+        EXPECT_EQ(window.m_hWnd, nullptr);
+        EXPECT_EQ(window.m_postNcDestroy, round);
+    }
+    EXPECT_FALSE(window.SubclassDlgItem(999, &parent));
+}
+
+TEST(Window, AWindowMayDieInItsOwnHandler)
+{
+    CLifeWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    EXPECT_EQ(::SendMessage(window.m_hWnd, WM_APP, 0, 0), 77);
+    EXPECT_EQ(window.m_postNcDestroy, 1);
+}
+
+class CSelfDeleting : public CWnd
+{
+public:
+    explicit CSelfDeleting(int& alive) : m_alive(alive) { ++m_alive; }
+    ~CSelfDeleting() override { --m_alive; }
+
+protected:
+    void PostNcDestroy() override { delete this; }
+    int& m_alive;
+};
+
+TEST(Window, AnObjectMayDeleteItselfAsItsWindowEnds)
+{
+    int alive = 0;
+    auto* const window = new CSelfDeleting(alive);
+    ASSERT_TRUE(CreatePopup(*window));
+    window->DestroyWindow();
+    EXPECT_EQ(alive, 0);
+
+    // Also where the window never came to be.
+    auto* const failed = new CSelfDeleting(alive);
+    EXPECT_FALSE(failed->CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
+    EXPECT_EQ(alive, 0);
+}
+
+TEST(Window, AnObjectThatGoesTakesItsWindowAlong)
+{
+    HWND handle = nullptr;
+    {
+        CWnd window;
+        ASSERT_TRUE(CreatePopup(window));
+        handle = window;
+    }
+    EXPECT_FALSE(::IsWindow(handle));
+}
+
+TEST(Window, TheMainWindowEndsTheProgram)
+{
+    CWnd main;
+    ASSERT_TRUE(CreatePopup(main));
+    AfxGetThread()->m_pMainWnd = &main;
+    main.DestroyWindow();
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
+    MSG message;
+    EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST(Window, AnExceptionInAHandlerStopsAtTheProcedure)
+{
+    CLifeWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    EXPECT_EQ(window.SendMessage(WM_APP + 1), 0);
+    EXPECT_TRUE(::IsWindow(window));
+}
+
+TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTime)
+{
+    const HWND foreign = MakeStatic();
+    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
+    CWnd* const temporary = CWnd::FromHandle(foreign);
+    ASSERT_NE(temporary, nullptr);
+    EXPECT_EQ(temporary->m_hWnd, foreign);
+    EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
+    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
+
+    AfxLockTempMaps(); // as a nested loop does
+    AfxGetThread()->OnIdle(1);
+    EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
+    EXPECT_EQ(temporary->m_hWnd, foreign);
+    AfxUnlockTempMaps();
+
+    AfxGetThread()->OnIdle(1);
+    EXPECT_TRUE(::IsWindow(foreign)); // the object did not own it
+    ::DestroyWindow(foreign);
+    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
+}
+
+TEST(HandleMap, AttachMakesAnObjectPermanentWithoutTakingMessages)
+{
+    const HWND handle = MakeStatic();
+    const WNDPROC original = ProcedureOf(handle);
+    CWnd window;
+    ASSERT_TRUE(window.Attach(handle));
+    EXPECT_EQ(CWnd::FromHandle(handle), &window);
+    AfxGetThread()->OnIdle(1);
+    EXPECT_EQ(CWnd::FromHandlePermanent(handle), &window);
+    EXPECT_EQ(ProcedureOf(handle), original);
+    EXPECT_EQ(window.Detach(), handle);
+    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
+    ::DestroyWindow(handle);
+}
+
+TEST(HandleMap, BelongsToItsThread)
+{
+    CWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    struct Seen
+    {
+        HWND handle;
+        CWnd* permanent;
+    } seen{window, &window};
+    const auto look = [](void* parameter) -> DWORD
+    {
+        auto* const other = static_cast<Seen*>(parameter);
+        other->permanent = CWnd::FromHandlePermanent(other->handle);
+        return 0;
+    };
+    const HANDLE thread = ::CreateThread(nullptr, 0, look, &seen, 0, nullptr);
+    ::WaitForSingleObject(thread, INFINITE);
+    ::CloseHandle(thread);
+    EXPECT_EQ(seen.permanent, nullptr);
+}
+
+TEST(Window, TheSafeHandleOfANullObjectIsNull)
+{
+    CWnd* volatile none = nullptr;
+    CWnd* const window = none;
+    EXPECT_EQ(window->GetSafeHwnd(), nullptr);
+}
+
+TEST(Window, PlacesOfTheOrderAreNoWindowsOfTheirOwn)
+{
+    CWnd below;
+    CWnd above;
+    ASSERT_TRUE(CreatePopup(below));
+    ASSERT_TRUE(CreatePopup(above));
+    ASSERT_TRUE(below.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+    EXPECT_TRUE((below.GetExStyle() & WS_EX_TOPMOST) != 0);
+    ASSERT_TRUE(
+        below.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+    EXPECT_FALSE((below.GetExStyle() & WS_EX_TOPMOST) != 0);
+}
+
+TEST(Window, StylesChangeOnlyWhereTheyDiffer)
+{
+    CWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    EXPECT_TRUE(window.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
+    EXPECT_FALSE(window.ModifyStyle(0, WS_BORDER));
+    EXPECT_TRUE(window.ModifyStyle(WS_BORDER, WS_DLGFRAME));
+    EXPECT_EQ(window.GetStyle() & (WS_BORDER | WS_DLGFRAME), DWORD{WS_DLGFRAME});
+}
+
+/// Writes its name where it is asked, and may take the message.
+class CWalker : public CWnd
+{
+public:
+    CWalker(std::string name, std::vector<std::string>& walk) : m_name(std::move(name)), m_walk(walk) {}
+    bool m_take = false;
+
+    BOOL PreTranslateMessage(MSG*) override
+    {
+        m_walk.push_back(m_name);
+        return m_take;
+    }
+
+private:
+    std::string m_name;
+    std::vector<std::string>& m_walk;
+};
+
+TEST(PreTranslate, WalksFromTheTargetToTheTopAndStopsAtTheFirstTaker)
+{
+    using Walk = std::vector<std::string>;
+    Walk walk;
+    CWalker top("top", walk);
+    CWalker middle("middle", walk);
+    CWalker inner("inner", walk);
+    ASSERT_TRUE(CreatePopup(top));
+    ASSERT_TRUE(middle.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &top, 1));
+    ASSERT_TRUE(inner.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 10, 10), &middle, 1));
+    MSG message{};
+    message.hwnd = MakeStatic(inner); // without an object: the walk begins at its parent
+    message.message = WM_KEYDOWN;
+
+    EXPECT_FALSE(AfxPreTranslateMessage(&message));
+    EXPECT_EQ(walk, (Walk{"inner", "middle", "top"}));
+
+    walk.clear();
+    middle.m_take = true;
+    EXPECT_TRUE(AfxPreTranslateMessage(&message));
+    EXPECT_EQ(walk, (Walk{"inner", "middle"}));
+
+    walk.clear();
+    middle.m_take = false;
+    EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle, &message));
+    EXPECT_EQ(walk, (Walk{"inner", "middle"}));
+
+    // The main window comes last, also for windows that stand beside it.
+    walk.clear();
+    CWalker main("main", walk);
+    ASSERT_TRUE(CreatePopup(main));
+    AfxGetThread()->m_pMainWnd = &main;
+    EXPECT_FALSE(AfxPreTranslateMessage(&message));
+    EXPECT_EQ(walk, (Walk{"inner", "middle", "top", "main"}));
+    AfxGetThread()->m_pMainWnd = nullptr;
+}
+
+TEST(RelatedWindows, OwnersAndDescendants)
+{
+    CWnd owner;
+    CWnd popup;
+    CWnd child;
+    CWnd grandChild;
+    ASSERT_TRUE(CreatePopup(owner));
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 20, 20), &owner, 0));
+    ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &popup, 5));
+    ASSERT_TRUE(grandChild.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &child, 6));
+
+    EXPECT_EQ(grandChild.GetTopLevelParent(), &owner);
+    EXPECT_EQ(grandChild.GetParentOwner(), &popup);
+    EXPECT_EQ(popup.GetDescendantWindow(6, TRUE), &grandChild);
+    EXPECT_EQ(popup.GetDescendantWindow(7), nullptr);
+    EXPECT_EQ(popup.GetDlgItem(6), nullptr); // children only
+    EXPECT_EQ(child.GetOwner(), &popup);
+    child.SetOwner(&owner);
+    EXPECT_EQ(child.GetOwner(), &owner);
+    EXPECT_EQ(CWnd::GetSafeOwner(&grandChild), &popup); // a child cannot own a dialog
+}
+
+TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
+{
+    CWnd owner;
+    CWnd popup;
+    ASSERT_TRUE(
+        owner.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(100, 100, 300, 200), nullptr, 0));
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 100, 50), &owner, 0));
+    CRect place;
+    popup.CenterWindow();
+    popup.GetWindowRect(&place);
+    EXPECT_EQ(place, CRect(150, 125, 250, 175));
+
+    owner.MoveWindow(-150, -80, 200, 100);
+    popup.CenterWindow();
+    popup.GetWindowRect(&place);
+    EXPECT_EQ(place.TopLeft(), CPoint(0, 0));
+}
+} // namespace

@@ -1,0 +1,226 @@
+// The module interface, and what loading the library leaves behind.
+
+#include <DialogControlsOW.h>
+
+#include <acdocman.h>
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+#include <vector>
+
+namespace
+{
+HMODULE Library()
+{
+    return ::GetModuleHandle(L"DialogControlsOW.dll");
+}
+
+template <class T> const T* At(HMODULE module, DWORD offset)
+{
+    return reinterpret_cast<const T*>(reinterpret_cast<const BYTE*>(module) + offset);
+}
+
+const IMAGE_NT_HEADERS64& Headers(HMODULE module)
+{
+    return *At<IMAGE_NT_HEADERS64>(module, At<IMAGE_DOS_HEADER>(module, 0)->e_lfanew);
+}
+
+std::vector<std::string_view> ExportedNames(HMODULE module)
+{
+    const auto& entry = Headers(module).OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT];
+    const auto* exports = At<IMAGE_EXPORT_DIRECTORY>(module, entry.VirtualAddress);
+    const auto* names = At<DWORD>(module, exports->AddressOfNames);
+    std::vector<std::string_view> result;
+    for (DWORD i = 0; i < exports->NumberOfNames; ++i)
+        result.emplace_back(At<char>(module, names[i]));
+    return result;
+}
+
+/// Whether a decorated name is that of a static data member of CButtonST whose own name begins with an h.
+bool IsStaticHandle(std::string_view name)
+{
+    constexpr std::string_view kClass = "_ZN9CButtonST";
+    if (!name.starts_with(kClass) || !name.ends_with('E'))
+        return false;
+    name.remove_prefix(kClass.size());
+    name.remove_prefix(name.find_first_not_of("0123456789"));
+    return name.front() == 'h';
+}
+
+using EntryPoint = BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID);
+
+BOOL CallEntryPoint(DWORD reason)
+{
+    const DWORD offset = Headers(Library()).OptionalHeader.AddressOfEntryPoint;
+    const auto entry = reinterpret_cast<EntryPoint>(reinterpret_cast<ULONG_PTR>(Library()) + offset);
+    return entry(Library(), reason, nullptr);
+}
+
+bool IsBitmap(HBITMAP handle)
+{
+    return handle && ::GetObjectType(handle) == OBJ_BITMAP;
+}
+
+/// The raw pixels of a bitmap, to tell whether two show the same.
+std::vector<BYTE> Pixels(HBITMAP bitmap)
+{
+    BITMAP info{};
+    ::GetObject(bitmap, sizeof(info), &info);
+    std::vector<BYTE> bits(static_cast<size_t>(info.bmWidthBytes) * info.bmHeight);
+    ::GetBitmapBits(bitmap, static_cast<LONG>(bits.size()), bits.data());
+    return bits;
+}
+
+template <class Picker> void ExpectPictures(std::vector<int> ids)
+{
+    const Picker picker;
+    ASSERT_EQ(picker.BitmapCount(), static_cast<int>(ids.size()));
+    for (int i = 0; i < picker.BitmapCount(); ++i)
+    {
+        ASSERT_TRUE(IsBitmap(picker.GetBitmap(i))) << "picture " << i;
+        CBitmap expected;
+        expected.Attach(::LoadBitmap(Library(), MAKEINTRESOURCE(ids[i])));
+        EXPECT_EQ(Pixels(picker.GetBitmap(i)), Pixels(expected)) << "picture " << i;
+    }
+}
+
+std::vector<int> Ids(int first, int last)
+{
+    std::vector<int> ids;
+    for (int id = first; id <= last; ++id)
+        ids.push_back(id);
+    return ids;
+}
+
+const std::vector<int> kLineIds = {10076, 10077, 10078, 10079, 10080, 10183, 10184,
+                                   10182, 10185, 10187, 10189, 10190, 10191};
+} // namespace
+
+TEST(ModuleInterface, IsOneObjectThatRegistersNothing)
+{
+    OwDllInterface* pInterface = OwGetDllInterface();
+    ASSERT_NE(pInterface, nullptr);
+    EXPECT_EQ(pInterface, OwGetDllInterface());
+    EXPECT_EQ(pInterface->Setup(nullptr), 1);
+    EXPECT_EQ(pInterface->Setup(&pInterface), 1);
+    pInterface->InitDocument(nullptr);
+    EXPECT_EQ(pInterface->GetClassRegistry(), nullptr);
+    EXPECT_EQ(pInterface->GetCommandRegistry(), nullptr);
+}
+
+TEST(ModuleInterface, EntryPointsAreExportedUnderPlainNames)
+{
+    EXPECT_EQ(reinterpret_cast<void*>(::GetProcAddress(Library(), "OwGetDllInterface")),
+              reinterpret_cast<void*>(&OwGetDllInterface));
+    const auto version = reinterpret_cast<unsigned int (*)(unsigned int)>(
+        reinterpret_cast<void*>(::GetProcAddress(Library(), "acrxGetApiVersion")));
+    ASSERT_NE(version, nullptr);
+    EXPECT_EQ(version(17), version(17));
+    EXPECT_NE(version(17), version(18));
+}
+
+TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoaded)
+{
+    int exported = 0;
+    for (std::string_view name : ExportedNames(Library()))
+        exported += IsStaticHandle(name);
+    EXPECT_EQ(exported, 336);
+
+#define OW_COUNT_LOADED(member) loaded += CButtonST::member != nullptr;
+    int loaded = 0;
+    OW_BUTTONST_LOADED_ICONS(OW_COUNT_LOADED)
+    EXPECT_EQ(loaded, 102);
+    loaded = 0;
+    OW_BUTTONST_SIBLING_ICONS(OW_COUNT_LOADED)
+    EXPECT_EQ(loaded, 0) << "these belong to sibling modules";
+#undef OW_COUNT_LOADED
+}
+
+TEST(SharedGraphics, IconsHaveTheirOwnSizeAndTheirHotSpotInTheMiddle)
+{
+    const auto size = [](HICON icon) {
+        ICONINFO info{};
+        EXPECT_TRUE(::GetIconInfo(icon, &info));
+        BITMAP bitmap{};
+        ::GetObject(info.hbmColor, sizeof(bitmap), &bitmap);
+        ::DeleteObject(info.hbmColor);
+        ::DeleteObject(info.hbmMask);
+        EXPECT_EQ(static_cast<LONG>(info.xHotspot * 2), bitmap.bmWidth);
+        EXPECT_EQ(static_cast<LONG>(info.yHotspot * 2), bitmap.bmHeight);
+        return bitmap.bmWidth;
+    };
+    EXPECT_EQ(size(CButtonST::hIconError), 32);
+    EXPECT_EQ(size(CButtonST::h24IconOpen), 24);
+    EXPECT_EQ(size(CButtonST::hIconPrfGrI0), 16);
+}
+
+TEST(SharedGraphics, PicturesStandInTheOrderOfTheirTables)
+{
+    ExpectPictures<CBitmapBtnSTKotnaLinija>(Ids(10101, 10121));
+    ExpectPictures<CBitmapBtnSTTekstKote>(Ids(10122, 10127));
+    ExpectPictures<CBitmapBtnSTSrafura>(Ids(10139, 10148));
+    ExpectPictures<CBitmapBtnSTVisinskaKota>(Ids(10179, 10181));
+    ExpectPictures<CBitmapBtnSTLinija>(kLineIds);
+    ExpectPictures<CBitmapBtnSTSimbolPresekaLinija>(kLineIds);
+    ExpectPictures<CBitmapBtnSTSimbolPresekaZavrsetak>(Ids(10128, 10138));
+    EXPECT_NE(CBitmapBtnSTLinija().GetBitmap(0), CBitmapBtnSTSimbolPresekaLinija().GetBitmap(0))
+        << "each class holds handles of its own";
+}
+
+TEST(SharedGraphics, LoadingLeavesTheHostsResourceHandleAsItWas)
+{
+    const HINSTANCE before = AfxGetResourceHandle();
+    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    CBitmapBtnSTVisinskaKota::UnloadBitmaps();
+    CBitmapBtnSTVisinskaKota::LoadBitmaps(Library());
+    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    EXPECT_EQ(AfxGetResourceHandle(), before);
+}
+
+// Kept: Cleanup gives back four tables and leaves three, the icons and the theme helper.
+TEST(SharedGraphics, CleanupGivesBackFourTablesOfSeven)
+{
+    const HBITMAP hatch = CBitmapBtnSTSrafura().GetBitmap(0);
+    OwGetDllInterface()->Cleanup(nullptr);
+
+    EXPECT_EQ(CBitmapBtnSTKotnaLinija().GetBitmap(20), nullptr);
+    EXPECT_EQ(CBitmapBtnSTTekstKote().GetBitmap(0), nullptr);
+    EXPECT_EQ(CBitmapBtnSTSrafura().GetBitmap(0), nullptr);
+    EXPECT_EQ(CBitmapBtnSTVisinskaKota().GetBitmap(2), nullptr);
+    EXPECT_FALSE(IsBitmap(hatch)) << "the handle is freed, not just forgotten";
+    EXPECT_TRUE(IsBitmap(CBitmapBtnSTLinija().GetBitmap(0)));
+    EXPECT_TRUE(IsBitmap(CBitmapBtnSTSimbolPresekaLinija().GetBitmap(0)));
+    EXPECT_TRUE(IsBitmap(CBitmapBtnSTSimbolPresekaZavrsetak().GetBitmap(0)));
+    EXPECT_NE(CButtonST::hIconOk, nullptr);
+    EXPECT_NE(CButtonST::pLocalTheme, nullptr);
+
+    OwGetDllInterface()->Cleanup(nullptr); // a second time there is nothing to do
+    CBitmapBtnSTKotnaLinija::UnloadBitmaps();
+    CBitmapBtnSTLinija::UnloadBitmaps();
+    EXPECT_EQ(CBitmapBtnSTLinija().GetBitmap(0), nullptr) << "these are freed by their own class";
+
+    CBitmapBtnSTKotnaLinija::LoadBitmaps(Library());
+    CBitmapBtnSTTekstKote::LoadBitmaps(Library());
+    CBitmapBtnSTSrafura::LoadBitmaps(Library());
+    CBitmapBtnSTVisinskaKota::LoadBitmaps(Library());
+    CBitmapBtnSTLinija::LoadBitmaps(Library());
+    ExpectPictures<CBitmapBtnSTSrafura>(Ids(10139, 10148));
+}
+
+// Kept: icons that are there are skipped, whereas the pictures are loaded over the handles of the first time.
+TEST(SharedGraphics, ASecondAttachLoadsThePicturesAgainAndKeepsTheIcons)
+{
+    const HICON ok = CButtonST::hIconOk;
+    const HBITMAP line = CBitmapBtnSTLinija().GetBitmap(0);
+    CThemeHelperST* const pTheme = CButtonST::pLocalTheme;
+
+    EXPECT_TRUE(CallEntryPoint(DLL_THREAD_ATTACH));
+    EXPECT_EQ(CBitmapBtnSTLinija().GetBitmap(0), line) << "threads do nothing";
+
+    EXPECT_TRUE(CallEntryPoint(DLL_PROCESS_ATTACH));
+    EXPECT_EQ(CButtonST::hIconOk, ok);
+    EXPECT_NE(CBitmapBtnSTLinija().GetBitmap(0), line);
+    EXPECT_NE(CButtonST::pLocalTheme, pTheme);
+    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+}

@@ -1,0 +1,153 @@
+// Mixed-font text: mark-up, measuring and drawing.
+
+#include <MixedFont.h>
+
+#include <Handles.h>
+#include <Picture.h>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+constexpr COLORREF c_paper = RGB(255, 255, 255);
+
+struct MixedFont : testing::Test
+{
+    void SetUp() override
+    {
+        m_font.CreatePointFont(120, L"Liberation Sans");
+        m_old = m_surface.dc().SelectObject(&m_font);
+        m_surface.dc().SetBkMode(TRANSPARENT);
+    }
+
+    void TearDown() override { m_surface.dc().SelectObject(m_old); }
+
+    CSize Extent(LPCWSTR text) { return CMixedFont::GetTextExtent(&m_surface.dc(), text); }
+
+    CSize PlainExtent(LPCWSTR text) { return m_surface.dc().GetTextExtent(text, lstrlenW(text)); }
+
+    void Draw(LPCWSTR text, CPoint point = {0, 0}) { CMixedFont::TextOut(&m_surface.dc(), point, text); }
+
+    /// Number of pixels that are not paper.
+    int Ink(const CRect& area) { return area.Width() * area.Height() - m_surface.count(area, c_paper); }
+
+    owtest::Surface m_surface{300, 100, c_paper};
+    CFont m_font;
+    CFont* m_old = nullptr;
+};
+} // namespace
+
+TEST_F(MixedFont, TextWithoutMarksMeasuresAsPlainText)
+{
+    for (LPCWSTR text : {L"Greda", L"a < b", L"a <bold> b", L"</b>", L"100 % & <"})
+        EXPECT_EQ(Extent(text), PlainExtent(text)) << CStringA(text);
+    EXPECT_EQ(Extent(L""), CSize(0, 0));
+    EXPECT_EQ(Extent(nullptr), CSize(0, 0));
+}
+
+TEST_F(MixedFont, EscapedBracketIsACharacter)
+{
+    EXPECT_EQ(Extent(L"\\<b>x"), PlainExtent(L"<b>x"));
+    EXPECT_EQ(Extent(L"a\\b"), PlainExtent(L"a\\b")) << "a backslash elsewhere is one too";
+}
+
+TEST_F(MixedFont, PartsAddUp)
+{
+    const int bold = Extent(L"<b>Nosac</b>").cx;
+    EXPECT_GT(bold, PlainExtent(L"Nosac").cx);
+    EXPECT_EQ(Extent(L"IPE <b>Nosac</b> 200").cx, PlainExtent(L"IPE ").cx + bold + PlainExtent(L" 200").cx);
+    EXPECT_EQ(Extent(L"<b>Nosac").cx, bold) << "an open mark reaches to the end";
+}
+
+TEST_F(MixedFont, ClosingMarkEndsTheMarksInsideIt)
+{
+    EXPECT_EQ(Extent(L"<b><i>ab</b>cd").cx, Extent(L"<b><i>ab").cx + PlainExtent(L"cd").cx);
+    EXPECT_EQ(Extent(L"<b>ab<b>cd</b>ef").cx, Extent(L"<b>abcdef").cx)
+        << "a closing mark ends the nearest one";
+}
+
+TEST_F(MixedFont, FaceMarkChangesTheFace)
+{
+    EXPECT_EQ(Extent(L"<f Liberation Mono>iiii</f>").cx, Extent(L"<f Liberation Mono>WWWW</f>").cx);
+    EXPECT_NE(Extent(L"iiii").cx, Extent(L"WWWW").cx);
+}
+
+TEST_F(MixedFont, ScriptsAreSmallerAndReachOutOfTheLine)
+{
+    const CSize plain = PlainExtent(L"A2");
+    const CSize raised = Extent(L"A<sup>2</sup>");
+    const CSize lowered = Extent(L"A<sub>2</sub>");
+    EXPECT_LT(raised.cx, plain.cx);
+    EXPECT_EQ(raised.cx, lowered.cx);
+    EXPECT_GE(raised.cy, plain.cy);
+    EXPECT_GE(lowered.cy, plain.cy);
+    EXPECT_LT(Extent(L"<sup><sup>8</sup></sup>").cx, Extent(L"<sup>8</sup>").cx);
+}
+
+TEST_F(MixedFont, DrawsInsideItsExtent)
+{
+    const LPCWSTR text = L"A<sub>min</sub><sup>2</sup> <b>Wj</b> <f Liberation Serif>q</f>";
+    const CPoint corner(20, 15);
+    Draw(text, corner);
+    const CRect box(corner, Extent(text));
+    const int ink = Ink(box);
+    EXPECT_GT(ink, 100);
+    EXPECT_EQ(Ink(CRect(0, 0, 300, 100)), ink) << "nothing outside";
+}
+
+TEST_F(MixedFont, DrawsPlainTextAsTheContextDoes)
+{
+    owtest::Surface plain(300, 100, c_paper);
+    CFont* old = plain.dc().SelectObject(&m_font);
+    plain.dc().SetBkMode(TRANSPARENT);
+    plain.dc().TextOut(7, 9, L"Stap 12", 7);
+    plain.dc().SelectObject(old);
+
+    Draw(L"Stap 12", CPoint(7, 9));
+    for (int y = 0; y < 100; ++y)
+        for (int x = 0; x < 300; ++x)
+            ASSERT_EQ(m_surface.at(x, y), plain.at(x, y)) << x << ", " << y;
+}
+
+TEST_F(MixedFont, LowersAndRaisesFromTheBaseLine)
+{
+    Draw(L"<sup>o</sup>", CPoint(0, 0));
+    Draw(L"<sub>o</sub>", CPoint(100, 0));
+    const auto firstInkedRow = [this](int left)
+    {
+        int y = 0;
+        while (y < 100 && Ink(CRect(left, y, left + 50, y + 1)) == 0)
+            ++y;
+        return y;
+    };
+    EXPECT_LT(firstInkedRow(0), firstInkedRow(100));
+}
+
+TEST_F(MixedFont, OpaqueModeFillsTheExtent)
+{
+    const COLORREF yellow = RGB(255, 255, 0);
+    m_surface.dc().SetBkMode(OPAQUE);
+    m_surface.dc().SetBkColor(yellow);
+    Draw(L"m<sup>2</sup>", CPoint(10, 10));
+    const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>"));
+    EXPECT_EQ(m_surface.count(box, c_paper), 0);
+    EXPECT_EQ(m_surface.at(box.left, box.top), yellow);
+    EXPECT_EQ(m_surface.at(box.right, box.top), c_paper);
+    EXPECT_EQ(m_surface.at(box.left, box.bottom), c_paper);
+}
+
+TEST_F(MixedFont, LeavesTheContextAndTheHandlesAsTheyWere)
+{
+    CDC& dc = m_surface.dc();
+    dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
+    dc.SetBkColor(RGB(1, 2, 3));
+    Draw(L"x<b>y</b>", CPoint(5, 5));
+    const int handles = owtest::CountHandles().gdi;
+    Draw(L"x<b>y</b>", CPoint(5, 5));
+
+    EXPECT_EQ(owtest::CountHandles().gdi, handles);
+    EXPECT_EQ(dc.GetTextAlign(), static_cast<UINT>(TA_RIGHT | TA_BOTTOM));
+    EXPECT_EQ(dc.GetBkColor(), RGB(1, 2, 3));
+    EXPECT_EQ(dc.GetCurrentFont()->m_hObject, m_font.m_hObject);
+    EXPECT_GT(Ink(CRect(5, 5, 60, 60)), 0) << "the corner is the upper left one whatever the alignment";
+}

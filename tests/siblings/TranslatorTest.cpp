@@ -1,0 +1,231 @@
+// The translator: catalogues good and bad, dialogs, languages.
+
+#include <Translator.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+namespace
+{
+std::filesystem::path ProgramDirectory()
+{
+    wchar_t path[MAX_PATH] = L"";
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return std::filesystem::path(path).parent_path();
+}
+
+std::string ReadFile(const std::filesystem::path& path)
+{
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
+}
+
+struct Translator : testing::Test
+{
+    void SetUp() override
+    {
+        m_path = std::filesystem::temp_directory_path() /
+                 (L"catalogue" + std::to_wstring(::GetCurrentProcessId()) + L".po");
+    }
+
+    void TearDown() override
+    {
+        std::error_code ignored;
+        std::filesystem::remove(m_path, ignored);
+    }
+
+    bool Load(const std::string& catalogue)
+    {
+        std::ofstream(m_path, std::ios::binary) << catalogue;
+        m_error = {};
+        return m_translator.Load(m_path.c_str(), &m_error);
+    }
+
+    std::filesystem::path m_path;
+    ClTranslator m_translator;
+    ClCatalogueError m_error;
+};
+
+const std::string c_good = "msgid \"Snimi\"\nmsgstr \"Save\"\n";
+} // namespace
+
+TEST_F(Translator, WithoutACatalogueTheSourceTextsStand)
+{
+    EXPECT_FALSE(m_translator.IsLoaded());
+    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Snimi");
+    EXPECT_STREQ(m_translator.Do(L""), L"");
+    EXPECT_STREQ(m_translator.Do(static_cast<LPCWSTR>(nullptr)), L"");
+    EXPECT_FALSE(m_translator.Has(L"Snimi"));
+
+    ASSERT_TRUE(Load(c_good));
+    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Save");
+    EXPECT_STREQ(m_translator.Do(L"snimi"), L"snimi") << "the case counts";
+    m_translator.Unload();
+    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Snimi");
+}
+
+TEST_F(Translator, ReadsWhatACatalogueMayHold)
+{
+    ASSERT_TRUE(Load("\xEF\xBB\xBF"
+                     "# a remark\r\n"
+                     "msgid \"\"\r\n"
+                     "msgstr \"Content-Type: text/plain; charset=UTF-8\\n\"\r\n"
+                     "\r\n"
+                     "#: source.cpp:12\r\n"
+                     "msgid \"\"\r\n"
+                     "\"Prva\\n\"\r\n"
+                     "\"druga\"\r\n"
+                     "msgstr \"First\\nsecond\"\r\n"
+                     "msgctxt \"dugme\"\r\n"
+                     "msgid \"Otvori\"\r\n"
+                     "msgstr \"Open\"\r\n"
+                     "#, fuzzy, c-format\r\n"
+                     "#| msgid \"Staro\"\r\n"
+                     "msgid \"Nesigurno\"\r\n"
+                     "msgstr \"Doubtful\"\r\n"
+                     "msgid \"Prazno\"\r\n"
+                     "msgstr \"\"\r\n"
+                     "#~ msgid \"Nekad\"\r\n"
+                     "#~ msgstr \"Once\"\r\n"
+                     "msgid \"%d list\"\r\n"
+                     "msgid_plural \"%d listova\"\r\n"
+                     "msgstr[0] \"%d sheet\"\r\n"
+                     "msgstr[1] \"%d sheets\"\r\n"
+                     "msgid \"\xC5\xA0irina\"\r\n"
+                     "msgstr \"Width \\\"\xC2\xB2\\\" \\\\ \\t \\x41\\102\""))
+        << CStringA(m_error.Format());
+    EXPECT_STREQ(m_translator.Do(L"Prva\ndruga"), L"First\nsecond");
+    EXPECT_STREQ(m_translator.Do(L"dugme", L"Otvori"), L"Open");
+    EXPECT_STREQ(m_translator.Do(L"Otvori"), L"Otvori") << "it stands under its context only";
+    EXPECT_STREQ(m_translator.Do(L"meni", L"Otvori"), L"Otvori");
+    EXPECT_STREQ(m_translator.Do(L"Nesigurno"), L"Nesigurno");
+    EXPECT_STREQ(m_translator.Do(L"Prazno"), L"Prazno");
+    EXPECT_STREQ(m_translator.Do(L"Nekad"), L"Nekad");
+    EXPECT_STREQ(m_translator.Do(L"%d list"), L"%d sheet");
+    EXPECT_STREQ(m_translator.Do(L"Širina"), L"Width \"²\" \\ \t AB");
+    EXPECT_EQ(m_translator.Count(), 4);
+}
+
+TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
+{
+    struct
+    {
+        const char* what;
+        std::string catalogue;
+        int line;
+    } const cases[] = {
+        {"no closing quotation mark", "msgid \"a\"\nmsgstr \"b\n", 2},
+        {"no text", "msgid\n", 1},
+        {"text behind the text", "msgid \"a\" b\n", 1},
+        {"unknown keyword", "msgid \"a\"\nmsgtext \"b\"\n", 2},
+        {"unknown escape sequence", "msgid \"a\"\nmsgstr \"\\q\"\n", 2},
+        {"escape sequence of no character", "msgid \"a\"\nmsgstr \"\\400\"\n", 2},
+        {"text without a keyword", "\n\"a\"\n", 2},
+        {"translation without a text", "# x\nmsgstr \"b\"\n", 2},
+        {"text without a translation", "msgid \"a\"\n\nmsgctxt \"c\"\n", 1},
+        {"context alone", "\nmsgctxt \"c\"\n", 2},
+        {"next text before the translation", "msgid \"a\"\nmsgid \"b\"\nmsgstr \"c\"\n", 1},
+        {"translation twice", "msgid \"a\"\nmsgstr \"b\"\nmsgstr \"c\"\n", 3},
+        {"plural forms without a plural", "msgid \"a\"\nmsgstr \"b\"\nmsgstr[1] \"c\"\n", 3},
+        {"text twice", c_good + "\n" + c_good, 4},
+        {"not UTF-8", "msgid \"a\"\nmsgstr \"\xE8\"\n", 2},
+        {"another character set", "msgid \"\"\nmsgstr \"charset=windows-1250\\n\"\n", 2},
+    };
+    ASSERT_TRUE(Load(c_good));
+    for (const auto& [what, catalogue, line] : cases)
+    {
+        EXPECT_FALSE(Load(catalogue)) << what;
+        EXPECT_EQ(m_error.nLine, line) << what;
+        EXPECT_FALSE(m_error.strWhat.IsEmpty()) << what;
+        EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Save") << "the former catalogue stays";
+    }
+    EXPECT_NE(m_error.Format().Find(L".po(2): "), -1) << CStringA(m_error.Format());
+}
+
+TEST_F(Translator, MissingFileIsRefusedAsAWhole)
+{
+    EXPECT_FALSE(m_translator.Load(L"no such directory\\en.po", &m_error));
+    EXPECT_EQ(m_error.nLine, 0);
+    EXPECT_STREQ(m_error.Format(), L"no such directory\\en.po: the file cannot be read");
+    EXPECT_FALSE(m_translator.Load(nullptr));
+    EXPECT_FALSE(m_translator.IsLoaded());
+}
+
+TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
+{
+    ASSERT_TRUE(Load(c_good));
+    CWnd dialog;
+    ASSERT_TRUE(
+        dialog.CreateEx(0, AfxRegisterWndClass(0), L"Snimi", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));
+    const auto addTo = [](CWnd& parent, LPCWSTR className, DWORD style = 0)
+    {
+        return ::CreateWindowExW(0, className, L"Snimi", WS_CHILD | style, 0, 0, 50, 20, parent.m_hWnd,
+                                 nullptr, nullptr, nullptr);
+    };
+    const auto textOf = [](HWND window)
+    {
+        wchar_t text[32] = L"";
+        ::GetWindowTextW(window, text, 32);
+        return CString(text);
+    };
+    const HWND button = addTo(dialog, L"Button");
+    const HWND label = addTo(dialog, L"Static");
+    const HWND edit = addTo(dialog, L"Edit");
+    const HWND combo = addTo(dialog, L"ComboBox", CBS_DROPDOWN);
+    ::SetWindowTextW(combo, L"Snimi");
+    CWnd page;
+    page.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD, 0, 50, 200, 50, dialog.m_hWnd, nullptr);
+    const HWND nested = addTo(page, L"Button");
+
+    m_translator.TranslateDialog(&dialog, 0);
+    EXPECT_STREQ(textOf(dialog), L"Save");
+    EXPECT_STREQ(textOf(button), L"Snimi");
+
+    m_translator.TranslateDialog(&dialog, 1);
+    EXPECT_STREQ(textOf(button), L"Save");
+    EXPECT_STREQ(textOf(label), L"Save");
+    EXPECT_STREQ(textOf(nested), L"Save");
+    EXPECT_STREQ(textOf(edit), L"Snimi");
+    EXPECT_STREQ(textOf(combo), L"Snimi");
+
+    page.DestroyWindow();
+    dialog.DestroyWindow();
+    m_translator.TranslateDialog(&dialog); // a window that is gone is ignored
+    m_translator.TranslateDialog(nullptr);
+}
+
+TEST_F(Translator, LanguageSettlesCodePageAndCharacterSet)
+{
+    EXPECT_EQ(m_translator.GetCurrentCodePage(), ::GetACP());
+    EXPECT_EQ(m_translator.GetCurrentCharacterSet(), ClTranslator::GetDisplayCharacterSet());
+
+    EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_SERBIAN, SUBLANG_SERBIAN_SERBIA_LATIN)));
+    EXPECT_EQ(m_translator.GetCurrentCodePage(), 1250u);
+    EXPECT_EQ(m_translator.GetCurrentCharacterSet(), EASTEUROPE_CHARSET);
+    EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT)));
+    EXPECT_EQ(m_translator.GetCurrentCodePage(), 1253u);
+    EXPECT_EQ(m_translator.GetCurrentCharacterSet(), GREEK_CHARSET);
+
+    EXPECT_FALSE(m_translator.SetCurrentLanguage(0x3FF));
+    EXPECT_EQ(m_translator.GetCurrentCodePage(), 1253u) << "an unknown language changes nothing";
+}
+
+TEST(EnglishCatalogue, TranslatesEachOfItsTextsOnce)
+{
+    const std::filesystem::path path = ProgramDirectory() / L"locale" / L"en.po";
+    ClTranslator translator;
+    ClCatalogueError error;
+    ASSERT_TRUE(translator.Load(path.c_str(), &error)) << CStringA(error.Format());
+
+    const std::string text = ReadFile(path);
+    const std::regex entry("(^|\n)msgid \"[^\"]"); // the header's is empty
+    const auto entries = std::distance(std::sregex_iterator(text.begin(), text.end(), entry), {});
+    EXPECT_EQ(translator.Count(), entries) << "a text is without a translation, or fuzzy";
+    EXPECT_STREQ(translator.Do(L"Snimi"), L"Save");
+    EXPECT_STREQ(translator.Do(L"debljina lima"), L"plate thickness");
+}

@@ -1,0 +1,46 @@
+#pragma once
+// Real input for tests: keys and clicks go through SendInput, so they take the road that a user's take.
+//
+//     owtest::Click(dlg.GetDlgItem(IDC_NAME)->m_hWnd);
+//     owtest::Type(L"12.5");
+//     owtest::Press(VK_TAB);
+//     EXPECT_TRUE(owtest::PumpUntil([&] { return handler.leaves == 1; }));
+//
+// Every call pumps messages through the PreTranslateMessage walk, as the application's own loop does,
+// until the input has been worked off. Nothing here sleeps for a fixed time.
+
+#include <afxwin.h>
+
+#include <functional>
+#include <string_view>
+
+namespace owtest
+{
+/// Dispatches what waits in the queue, through the PreTranslateMessage walk, and returns.
+void Pump();
+
+/// Pumps until the condition holds; false after `timeoutMs` milliseconds without it.
+bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs = 5000);
+
+/// Presses and releases one key; with `shift` or `control` held around it.
+void Press(WORD virtualKey, bool shift = false, bool control = false);
+
+/// Types characters as the keyboard sends them: letters, digits, signs, blanks.
+void Type(std::wstring_view text);
+
+/// Moves the cursor to a point of the window's client area.
+void MoveTo(HWND window, CPoint client);
+
+/// Presses and releases the left button at a point of the window's client area.
+void Click(HWND window, CPoint client);
+
+/// Clicks the middle of the window.
+void Click(HWND window);
+
+/// Presses the left button and leaves it down; `ButtonUp` lets it go.
+void ButtonDown(HWND window, CPoint client);
+void ButtonUp();
+
+/// Brings a top-level window to the front and waits until it is active.
+bool Activate(HWND window);
+} // namespace owtest

@@ -1,0 +1,44 @@
+#pragma once
+// Pixels read back from memory and from windows, and PNG files of them.
+
+#include <afxwin.h>
+
+#include <string>
+
+namespace owtest
+{
+/// A 32-bit memory surface to paint on and read from.
+class Surface
+{
+public:
+    Surface(int width, int height, COLORREF fill = RGB(255, 0, 255));
+    ~Surface();
+    Surface(const Surface&) = delete;
+    Surface& operator=(const Surface&) = delete;
+
+    CDC& dc() { return m_dc; }
+    COLORREF at(int x, int y) const;
+    int width() const { return m_width; }
+    int height() const { return m_height; }
+
+    /// Number of pixels inside the rectangle that have the colour.
+    int count(const CRect& area, COLORREF color) const;
+
+private:
+    CDC m_dc;
+    CBitmap m_bitmap;
+    HGDIOBJ m_old = nullptr;
+    DWORD* m_bits = nullptr;
+    int m_width;
+    int m_height;
+};
+
+/// Copies a window, frame included, as it stands on the screen.
+void Capture(HWND window, Surface& into);
+
+/// Writes a bitmap as PNG; false if the file could not be written.
+bool SavePng(HBITMAP bitmap, const std::wstring& path);
+
+/// Writes a window, frame included, as PNG, sized as on the screen.
+bool SaveWindowPng(HWND window, const std::wstring& path);
+} // namespace owtest
