@@ -1,0 +1,200 @@
+// Message boxes: every kind of box with what it answers, in two languages, the messenger; and icon labels.
+
+#include <afxwin.h>
+
+#include "GalleryPage.h"
+#include "resource.h"
+
+#include <Translator.h>
+
+#include <thread>
+
+namespace
+{
+constexpr int kPostedCode = 17;
+constexpr int kParagraphs = 20; // of kSentences each, about ten thousand characters together
+constexpr int kSentences = 8;
+const wchar_t* const kCaption = L"Konfiguracije";
+const wchar_t* const kOverwrite = L"Da li zelite da prethodna konfiguracija bude prepisana?";
+
+CString ResultName(int nResult)
+{
+    switch (nResult)
+    {
+    case IDOK:
+        return _T("IDOK");
+    case IDCANCEL:
+        return _T("IDCANCEL");
+    case IDYES:
+        return _T("IDYES");
+    case IDNO:
+        return _T("IDNO");
+    default:
+        return _T("?");
+    }
+}
+
+CString ButtonName(int nButton)
+{
+    CString strName;
+    strName.Format(_T("button %d"), nButton);
+    return strName;
+}
+
+// Each of these opens one box, and says what it answered.
+
+CString ShowOk()
+{
+    return ResultName(
+        COstrelMessageBox::MessageBox(L"Konfiguracija je snimljena.", kCaption, MB_OK | MB_ICONINFORMATION));
+}
+
+CString ShowOkCancel()
+{
+    return ResultName(COstrelMessageBox::MessageBox(L"Sve neiskoriscene konfiguracije bice obrisane.",
+                                                    kCaption, MB_OKCANCEL | MB_ICONWARNING));
+}
+
+CString ShowYesNo()
+{
+    return ResultName(COstrelMessageBox::MessageBox(kOverwrite, kCaption, MB_YESNO | MB_ICONQUESTION));
+}
+
+CString ShowYesNoCancel()
+{
+    return ResultName(
+        COstrelMessageBox::MessageBox(L"Konfiguracija je promenjena. Da li zelite da je snimite?", kCaption,
+                                      MB_YESNOCANCEL | MB_ICONQUESTION));
+}
+
+CString ShowFree()
+{
+    return ButtonName(COstrelMessageBox::MessageBox(L"Konfiguracija sa ovim nazivom vec postoji.", kCaption,
+                                                    MB_ICONWARNING, L"Zameni", L"Preimenuj", L"Preskoci",
+                                                    L"Cancel"));
+}
+
+CString ShowPrepared()
+{
+    COstrelMessageBox box(CWnd::GetFocus());
+    box.Set(kOverwrite, kCaption);
+    box.SetButtonText(1, L"Zameni");
+    box.SetButtonText(2, L"Preskoci");
+    return ButtonName(box.DoModal());
+}
+
+CString ShowLong()
+{
+    CString strText;
+    for (int i = 1; i <= kParagraphs * kSentences; ++i)
+        strText += gOtLang.Do(kOverwrite) + (i % kSentences == 0 ? _T("\r\n\r\n") : _T(" "));
+    return ResultName(COstrelMessageBox::MessageBox(strText, kCaption, MB_OK | MB_ICONWARNING));
+}
+
+CString ShowSystemError()
+{
+    COstrelMessageBox::ErrorBox(ERROR_ACCESS_DENIED);
+    return _T("closed");
+}
+
+CString PostFromThread()
+{
+    COstrelMessenger& messenger =
+        COstrelMessenger::Instance(); // on the main thread, which owns the host's window
+    std::thread([&messenger] { messenger.PostMsg(kPostedCode); }).join();
+    CString strPosted;
+    strPosted.Format(_T("posted %d"), kPostedCode);
+    return strPosted;
+}
+
+// In the order of their buttons.
+constexpr CString (*kBoxes[])() = {ShowOk,       ShowOkCancel, ShowYesNo,       ShowYesNoCancel, ShowFree,
+                                   ShowPrepared, ShowLong,     ShowSystemError, PostFromThread};
+constexpr int kLastBox = IDC_BOX_FIRST + static_cast<int>(std::size(kBoxes)) - 1;
+
+/// The catalogue that stands beside the program.
+CString CataloguePath()
+{
+    TCHAR szProgram[MAX_PATH] = _T("");
+    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
+    const CString strProgram(szProgram);
+    return strProgram.Left(strProgram.ReverseFind(_T('\\')) + 1) + _T("locale\\en.po");
+}
+
+class CMessageBoxesPage : public CGalleryPage
+{
+public:
+    explicit CMessageBoxesPage(AGalleryLog& log)
+        : CGalleryPage(IDD_PAGE_MESSAGE_BOXES, _T("Message boxes"), log)
+    {
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CGalleryPage::DoDataExchange(pDX);
+        DDX_Control(pDX, IDC_XICON_FIXED, m_fixed);
+        DDX_Control(pDX, IDC_XICON_FITTED, m_fitted);
+        DDX_Control(pDX, IDC_XICON_BOLD, m_bold);
+        DDX_Control(pDX, IDC_XICON_BEHIND, m_behind);
+    }
+    BOOL OnInitDialog() override
+    {
+        CGalleryPage::OnInitDialog();
+        CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH, IDC_LANG_SERBIAN);
+        m_fixed.SetAutoResize(FALSE).SetIcon(CButtonST::hIconOk, 16);
+        m_fitted.SetIcon(CButtonST::hIconOk, 16).SetWindowText(_T("Fitted to its text"));
+        m_bold.SetIcon(CButtonST::hIconWarning, 32).SetBold(TRUE);
+        m_behind.SetIcon(CButtonST::hIconRightAlt, 16).SetTextColor(::GetSysColor(COLOR_HIGHLIGHT));
+        return TRUE;
+    }
+
+    afx_msg void OnSerbian();
+    afx_msg void OnEnglish();
+    afx_msg void OnBox(UINT nId);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CXIcon m_fixed;
+    CXIcon m_fitted;
+    CXIcon m_bold;
+    CXIcon m_behind;
+};
+
+BEGIN_MESSAGE_MAP(CMessageBoxesPage, CGalleryPage)
+    ON_BN_CLICKED(IDC_LANG_SERBIAN, OnSerbian)
+    ON_BN_CLICKED(IDC_LANG_ENGLISH, OnEnglish)
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_BOX_FIRST, kLastBox, OnBox)
+END_MESSAGE_MAP()
+
+void CMessageBoxesPage::OnSerbian()
+{
+    gOtLang.Unload();
+}
+
+void CMessageBoxesPage::OnEnglish()
+{
+    ClCatalogueError error;
+    if (gOtLang.Load(CataloguePath(), &error))
+        return;
+    Log(_T("Catalogue"), _T("%s"), error.Format().GetString());
+    CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH, IDC_LANG_SERBIAN);
+}
+
+void CMessageBoxesPage::OnBox(UINT nId)
+{
+    const int nBox = static_cast<int>(nId) - IDC_BOX_FIRST;
+    const CString strResult = kBoxes[nBox]();
+    SetDlgItemText(IDC_RESULT_FIRST + nBox, strResult);
+
+    CString strButton;
+    GetDlgItemText(static_cast<int>(nId), strButton);
+    strButton.Remove(_T('&'));
+    Log(_T("Message box"), _T("%s: %s"), strButton.GetString(), strResult.GetString());
+}
+} // namespace
+
+std::unique_ptr<CGalleryPage> MakeMessageBoxesPage(AGalleryLog& log)
+{
+    return std::make_unique<CMessageBoxesPage>(log);
+}

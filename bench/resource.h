@@ -1,0 +1,4 @@
+#pragma once
+
+#define IDD_FORTY 100
+#define IDC_FORTY_FIRST 1000
