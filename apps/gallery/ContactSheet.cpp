@@ -31,13 +31,10 @@ void AddPictures(std::vector<Drawing>& drawings, LPCTSTR pszTable, const CBitmap
     }
 }
 
-void PaintIcon(CDC& dc, CPoint at, const Drawing& drawing, const SheetLayout& layout)
+void PaintIcon(CDC& dc, CPoint at, const Drawing& drawing, int scale)
 {
-    if (layout.disabled)
-        dc.DrawState(at, drawing.size, drawing.hIcon, DSS_DISABLED, static_cast<HBRUSH>(nullptr));
-    else
-        ::DrawIconEx(dc, at.x, at.y, drawing.hIcon, drawing.size.cx * layout.scale,
-                     drawing.size.cy * layout.scale, 0, nullptr, DI_NORMAL);
+    ::DrawIconEx(dc, at.x, at.y, drawing.hIcon, drawing.size.cx * scale, drawing.size.cy * scale, 0, nullptr,
+                 DI_NORMAL);
 }
 
 void PaintBitmap(CDC& dc, CPoint at, const Drawing& drawing, int scale)
@@ -95,7 +92,7 @@ int PaintSheet(CDC& dc, const CRect& area, const std::vector<Drawing>& drawings,
         const CPoint image(at.x + (layout.cell.cx - drawing.size.cx * layout.scale) / 2,
                            at.y + (drawingHeight - drawing.size.cy * layout.scale) / 2);
         if (drawing.hIcon)
-            PaintIcon(dc, image, drawing, layout);
+            PaintIcon(dc, image, drawing, layout.scale);
         else
             PaintBitmap(dc, image, drawing, layout.scale);
         if (layout.names)

@@ -24,9 +24,8 @@ std::vector<Drawing> AllPictures();
 struct SheetLayout
 {
     CSize cell;
-    int scale = 1;        ///< each drawing is shown this many times its size
-    bool names = false;   ///< names below the drawings
-    bool disabled = false; ///< in the look of a disabled control
+    int scale = 1;      ///< each drawing is shown this many times its size
+    bool names = false; ///< names below the drawings
 };
 
 /// Paints the drawings row by row into the area; answers the height that they took.

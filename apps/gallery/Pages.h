@@ -11,7 +11,8 @@
     X(Numbers)                                                                                               \
     X(Buttons)                                                                                               \
     X(MessageBoxes)                                                                                          \
-    X(Drawings)
+    X(Icons)                                                                                                 \
+    X(Pictures)
 
 #define GALLERY_DECLARE_PAGE(name) std::unique_ptr<CGalleryPage> Make##name##Page(AGalleryLog& log);
 GALLERY_PAGES(GALLERY_DECLARE_PAGE)

@@ -1,4 +1,4 @@
-// Drawings: the icons and pictures that the buttons share.
+// Drawings: the icons and the pictures that the buttons share, a page of each.
 
 #include <afxwin.h>
 
@@ -11,11 +11,18 @@ namespace
 class CDrawingsPage : public CGalleryPage
 {
 public:
-    explicit CDrawingsPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_DRAWINGS, _T("Drawings"), log) {}
+    CDrawingsPage(LPCTSTR pszTitle, AGalleryLog& log, std::vector<Drawing> drawings, CSize cell)
+        : CGalleryPage(IDD_PAGE_DRAWINGS, pszTitle, log), m_drawings(std::move(drawings)), m_cell(cell)
+    {
+    }
 
 protected:
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
+
+private:
+    std::vector<Drawing> m_drawings;
+    CSize m_cell;
 };
 
 BEGIN_MESSAGE_MAP(CDrawingsPage, CGalleryPage)
@@ -24,16 +31,19 @@ END_MESSAGE_MAP()
 
 void CDrawingsPage::OnPaint()
 {
-    constexpr int kGap = 8;
     CPaintDC dc(this);
     CRect area;
     GetClientRect(area);
-    area.top += PaintSheet(dc, area, AllIcons(), {CSize(38, 36)}) + kGap;
-    PaintSheet(dc, area, AllPictures(), {CSize(53, 34)});
+    PaintSheet(dc, area, m_drawings, {m_cell});
 }
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeDrawingsPage(AGalleryLog& log)
+std::unique_ptr<CGalleryPage> MakeIconsPage(AGalleryLog& log)
 {
-    return std::make_unique<CDrawingsPage>(log);
+    return std::make_unique<CDrawingsPage>(_T("Icons"), log, AllIcons(), CSize(38, 42));
+}
+
+std::unique_ptr<CGalleryPage> MakePicturesPage(AGalleryLog& log)
+{
+    return std::make_unique<CDrawingsPage>(_T("Pictures"), log, AllPictures(), CSize(72, 42));
 }

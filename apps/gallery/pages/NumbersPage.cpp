@@ -116,7 +116,8 @@ BOOL CNumbersPage::OnInitDialog()
     m_editModulus.SetValue(2.1e11);
 
     m_editSlope.SetFormat(eDoubleFormatFixed, 1);
-    m_editSlope.SetComplexUnit(CComplexUnit(CMeasurementUnit(CMeasurementUnit::eDegree, CMeasurementUnit::eAngle)));
+    m_editSlope.SetComplexUnit(
+        CComplexUnit(CMeasurementUnit(CMeasurementUnit::eDegree, CMeasurementUnit::eAngle)));
     m_editSlope.SetSpinStep(15.0);
     m_editSlope.SetRange(-std::numbers::pi / 2, std::numbers::pi / 2);
 
@@ -151,7 +152,8 @@ void CNumbersPage::LogCall(LPCTSTR pszOperation, int nId)
     CString strLabel;
     GetDlgItem(nId)->GetWindow(GW_HWNDPREV)->GetWindowText(strLabel); // the label in front of the box
     strLabel.Remove(_T('&'));
-    Log(strLabel.TrimRight(_T(':')), _T("%s(%d)   stored: %s"), pszOperation, nId, StoredValue(nId).GetString());
+    Log(strLabel.TrimRight(_T(':')), _T("%s(%d)   stored: %s"), pszOperation, nId,
+        StoredValue(nId).GetString());
 }
 
 CString CNumbersPage::StoredValue(int nId) const

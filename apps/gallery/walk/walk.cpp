@@ -153,6 +153,7 @@ void WalkPages(const std::wstring& directory)
     Require(gallery.Create(IDD_GALLERY), L"the gallery does not open");
     gallery.ShowWindow(SW_SHOW);
     Require(owtest::Activate(gallery), L"the gallery does not become active");
+    gallery.SendMessage(WM_NCACTIVATE, TRUE); // Wine leaves the caption of a program's first window grey
 
     auto* list = static_cast<CListBox*>(gallery.GetDlgItem(IDC_PAGES));
     for (int i = 0; i < gallery.PageCount(); ++i)
@@ -172,7 +173,7 @@ void WalkPages(const std::wstring& directory)
     gallery.DestroyWindow();
 }
 
-/// A sheet of drawings on its own, larger than any window: as they are, enlarged with names, and disabled.
+/// A sheet of drawings on its own, larger than any window: as they are, and enlarged with names.
 void SaveSheet(const std::wstring& path, const std::vector<Drawing>& drawings, COLORREF background, bool icons)
 {
     constexpr int kWidth = 1240, kMargin = 10, kGap = 12;
@@ -184,8 +185,6 @@ void SaveSheet(const std::wstring& path, const std::vector<Drawing>& drawings, C
         const HGDIOBJ old = ::SelectObject(dc, ::GetStockObject(DEFAULT_GUI_FONT));
         CRect area(kMargin, kMargin, kWidth - kMargin, surface.height());
         area.top += PaintSheet(dc, area, drawings, {small}) + kGap;
-        if (icons)
-            area.top += PaintSheet(dc, area, drawings, {small, 1, false, true}) + kGap;
         area.top += PaintSheet(dc, area, drawings, {large, 3, true});
         ::SelectObject(dc, old);
         return area.top + kMargin;
