@@ -1,4 +1,4 @@
-// Entry point: joins the module to MFC's chain of extension modules.
+// The entry point of each sibling module: joins it to MFC's chain of extension modules.
 
 #include <afxwin.h>
 #include <afxdllx.h>
