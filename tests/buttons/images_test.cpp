@@ -1,0 +1,218 @@
+// The images of a button: what they are made from, who owns them, and what is left after a failure.
+
+#include "ButtonsDialog.h"
+#include "Images.h"
+
+#include "Handles.h"
+
+#include <gtest/gtest.h>
+
+using namespace testimages;
+
+namespace
+{
+constexpr COLORREF kKey = RGB(255, 0, 255);
+constexpr COLORREF kColor = RGB(200, 100, 50);
+constexpr COLORREF kGrey = RGB(124, 124, 124); // 0.299 of 200, 0.587 of 100 and 0.114 of 50
+constexpr COLORREF kDarker = RGB(150, 75, 37);
+const HICON kGrayIcon = reinterpret_cast<HICON>(CButtonST::copyGray);
+const HICON kDarkerIcon = reinterpret_cast<HICON>(CButtonST::copyDarker);
+const HBITMAP kGrayBitmap = reinterpret_cast<HBITMAP>(CButtonST::copyGray);
+const HBITMAP kDarkerBitmap = reinterpret_cast<HBITMAP>(CButtonST::copyDarker);
+
+bool HasImages(const OpenButton& button)
+{
+    return button.m_icons[0].hIcon || button.m_icons[1].hIcon || button.m_bitmaps[0].hBitmap ||
+           button.m_bitmaps[1].hBitmap || button.m_bitmaps[0].hMask || button.m_bitmaps[1].hMask;
+}
+
+DWORD MiddleOf(const Pixels& pixels)
+{
+    return pixels[pixels.size() / 2 + 8]; // of a 16 by 16 image
+}
+
+HICON MakeMonochromeIcon()
+{
+    const Pixels mask(16, 0);
+    CBitmap both;
+    both.CreateBitmap(16, 32, 1, 1, mask.data());
+    ICONINFO info{TRUE, 0, 0, both, nullptr};
+    return ::CreateIconIndirect(&info);
+}
+} // namespace
+
+TEST(ButtonIcons, AreReadAndRemoved)
+{
+    OpenButton button;
+    EXPECT_EQ(button.SetIcon(CButtonST::hIconError, CButtonST::h24IconOpen), 0u);
+    EXPECT_EQ(button.m_icons[0].size, CSize(32, 32));
+    EXPECT_EQ(button.m_icons[1].size, CSize(24, 24));
+    EXPECT_EQ(button.SetIcon(static_cast<HICON>(nullptr), CButtonST::hIconOk), 0u);
+    EXPECT_FALSE(HasImages(button));
+
+    EXPECT_EQ(button.SetBitmaps(MakeFramedBitmap(16, 12, kColor, kKey), kKey), 0u);
+    EXPECT_EQ(button.m_bitmaps[0].size, CSize(16, 12));
+    EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), 0u);
+    EXPECT_EQ(button.m_bitmaps[0].hBitmap, nullptr) << "either kind replaces the other";
+    EXPECT_EQ(button.SetBitmaps(static_cast<HBITMAP>(nullptr), 0), 0u);
+    EXPECT_FALSE(HasImages(button));
+}
+
+TEST(ButtonIcons, ComeFromTheResourcesOfWhicheverModuleHasThem)
+{
+    OpenButton button;
+    EXPECT_EQ(button.SetIcon(10000, 10014), 0u); // hIconError and h24IconOpen
+    EXPECT_EQ(button.m_icons[0].size, CSize(32, 32));
+    EXPECT_EQ(button.m_icons[1].size, CSize(24, 24));
+    EXPECT_EQ(button.SetIcon(10000, 16, 16, 10014, 48, 48), 0u);
+    EXPECT_EQ(button.m_icons[0].size, CSize(16, 16));
+    EXPECT_EQ(button.m_icons[1].size, CSize(48, 48));
+    EXPECT_EQ(button.SetIcon(10000, CButtonST::copyGray), 0u);
+    EXPECT_EQ(button.m_icons[1].size, CSize(32, 32));
+    EXPECT_EQ(button.SetIcon(10000), 0u);
+    EXPECT_EQ(button.m_icons[1].hIcon, nullptr);
+
+    EXPECT_EQ(button.SetBitmaps(10101, RGB(255, 255, 255), CButtonST::copyDarker), 0u);
+    EXPECT_EQ(button.m_bitmaps[1].size, button.m_bitmaps[0].size);
+    EXPECT_EQ(button.m_bitmaps[1].crTransparent, RGB(255, 255, 255));
+}
+
+TEST(ButtonIcons, MayBeGreyOrDarkerCopiesUnderTheSameMaskAndAlpha)
+{
+    const HICON hIcon =
+        MakeIcon(16, 16,
+                 [](int x, int y) -> DWORD
+                 {
+                     if (x < 4)
+                         return 0;
+                     const DWORD alpha = y < 4 ? 0x80000000 : 0xFF000000;
+                     return x < 12 ? alpha | (Opaque(kColor) & 0xFFFFFF) : 0xFF000000; // black at the right
+                 });
+    const Pixels source = PixelsOf(hIcon);
+    for (const auto& [copy, cr] : {std::pair(kGrayIcon, kGrey), std::pair(kDarkerIcon, kDarker)})
+    {
+        OpenButton button;
+        ASSERT_EQ(button.SetIcon(hIcon, copy), 0u);
+        ASSERT_NE(button.m_icons[1].hIcon, hIcon);
+        EXPECT_EQ(button.m_icons[1].size, CSize(16, 16));
+        const Pixels pixels = PixelsOf(button.m_icons[1].hIcon);
+        ASSERT_EQ(pixels.size(), source.size());
+        for (size_t i = 0; i < pixels.size(); ++i)
+        {
+            const DWORD color = source[i] & 0xFFFFFF ? Opaque(cr) & 0xFFFFFF : 0;
+            ASSERT_EQ(pixels[i], (source[i] & 0xFF000000) | color) << i;
+        }
+    }
+    ::DestroyIcon(hIcon);
+}
+
+TEST(ButtonBitmaps, MayBeGreyOrDarkerCopiesWithTheTransparentColorLeftOut)
+{
+    for (const auto& [copy, cr] : {std::pair(kGrayBitmap, kGrey), std::pair(kDarkerBitmap, kDarker)})
+    {
+        OpenButton button;
+        ASSERT_EQ(button.SetBitmaps(MakeFramedBitmap(16, 16, kColor, kKey), kKey, copy, RGB(1, 2, 3)), 0u);
+        EXPECT_EQ(button.m_bitmaps[1].crTransparent, kKey) << "the first one's counts";
+        const Pixels first = PixelsOf(button.m_bitmaps[0].hBitmap),
+                     second = PixelsOf(button.m_bitmaps[1].hBitmap);
+        EXPECT_EQ(MiddleOf(first) & 0xFFFFFF, Opaque(kColor) & 0xFFFFFF);
+        EXPECT_EQ(MiddleOf(second) & 0xFFFFFF, Opaque(cr) & 0xFFFFFF);
+        EXPECT_EQ(first[0] & 0xFFFFFF, 0u) << "the transparent pixels of a bitmap are made black in it";
+        EXPECT_EQ(second[0] & 0xFFFFFF, 0u);
+        EXPECT_EQ(PixelsOf(button.m_bitmaps[0].hMask)[0] & 0xFFFFFF, 0xFFFFFFu);
+        EXPECT_EQ(MiddleOf(PixelsOf(button.m_bitmaps[0].hMask)) & 0xFFFFFF, 0u);
+    }
+}
+
+TEST(ButtonImages, CopiesAreMadeOnceForEachImageThatIsSet)
+{
+    LoneButton lone(CSize(60, 30), _T("T"));
+    OpenButton& button = lone.button;
+    const auto paintAllStates = [&]
+    {
+        owtest::Surface surface(60, 30);
+        for (UINT state : {0, ODS_FOCUS, ODS_SELECTED, ODS_DISABLED})
+            for (BOOL bHover : {FALSE, TRUE})
+            {
+                button.m_bMouseOnButton = bHover;
+                button.PaintOn(surface, state);
+            }
+    };
+    button.SetIcon(CButtonST::hIconError, kGrayIcon);
+    paintAllStates();
+    const HICON hCopy = button.m_icons[1].hIcon;
+    const auto handles = owtest::CountHandles();
+    for (int i = 0; i < 20; ++i)
+        paintAllStates();
+    EXPECT_EQ(button.m_icons[1].hIcon, hCopy);
+    EXPECT_EQ(owtest::CountHandles(), handles) << "painting makes nothing that stays";
+}
+
+TEST(ButtonImages, SharedIconsOutliveTheButtonsThatShowThem)
+{
+    const auto handles = owtest::CountHandles();
+    const Pixels before = PixelsOf(CButtonST::hIconOk);
+    for (int i = 0; i < 300; ++i)
+    {
+        CButtonST first, second;
+        first.SetIcon(CButtonST::hIconOk, CButtonST::hIconCancel);
+        second.SetIcon(CButtonST::hIconOk, nullptr);
+        first.SetIcon(CButtonST::hIconCancel, CButtonST::hIconOk);
+        first.SetIcon(static_cast<HICON>(nullptr));
+    }
+    EXPECT_TRUE(IsIcon(CButtonST::hIconOk));
+    EXPECT_TRUE(IsIcon(CButtonST::hIconCancel));
+    EXPECT_EQ(PixelsOf(CButtonST::hIconOk), before);
+    EXPECT_EQ(owtest::CountHandles(), handles);
+}
+
+TEST(ButtonImages, BitmapsBelongToTheButtonFromTheCallOn)
+{
+    const HBITMAP hFirst = MakeFramedBitmap(8, 8, kColor, kKey),
+                  hSecond = MakeFramedBitmap(8, 8, kColor, kKey);
+    const HBITMAP hThird = MakeFramedBitmap(8, 8, kColor, kKey);
+    {
+        OpenButton button;
+        button.SetBitmaps(hFirst, kKey, hSecond, kKey);
+        EXPECT_TRUE(IsBitmap(hFirst) && IsBitmap(hSecond));
+        const HBITMAP hMask = button.m_bitmaps[0].hMask;
+        button.SetBitmaps(hThird, kKey);
+        EXPECT_FALSE(IsBitmap(hFirst) || IsBitmap(hSecond) || IsBitmap(hMask));
+        EXPECT_TRUE(IsBitmap(hThird));
+    }
+    EXPECT_FALSE(IsBitmap(hThird)) << "the destructor deletes them";
+}
+
+TEST(ButtonImages, AFailureIsToldAndLeavesNoImages)
+{
+    OpenButton button;
+    const HICON hBadIcon = reinterpret_cast<HICON>(0x1234);
+    const HBITMAP hBadBitmap = reinterpret_cast<HBITMAP>(0x1234);
+    const auto fails = [&](const auto& set)
+    {
+        button.SetIcon(CButtonST::hIconOk, CButtonST::hIconCancel);
+        const DWORD result = set();
+        EXPECT_FALSE(HasImages(button));
+        return result;
+    };
+    EXPECT_EQ(fails([&] { return button.SetIcon(hBadIcon, CButtonST::hIconOk); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetIcon(CButtonST::hIconOk, hBadIcon); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetIcon(hBadIcon, kGrayIcon); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetIcon(31999); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetIcon(10000, 31999); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(hBadBitmap, 0); }), 1u);
+    EXPECT_EQ(
+        fails([&] { return button.SetBitmaps(MakeFramedBitmap(8, 8, kColor, kKey), kKey, hBadBitmap); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(31999, 0); }), 1u);
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(10101, 0, 31999); }), 1u);
+
+    const HICON hMonochrome = MakeMonochromeIcon();
+    EXPECT_EQ(button.SetIcon(hMonochrome, nullptr), 0u);
+    EXPECT_EQ(fails([&] { return button.SetIcon(hMonochrome, kGrayIcon); }), 1u) << "has no colours to copy";
+    ::DestroyIcon(hMonochrome);
+
+    // A bitmap that stands in another context can be read, and nothing more.
+    owtest::Surface surface(8, 8);
+    const auto hSelected = static_cast<HBITMAP>(::GetCurrentObject(surface.dc(), OBJ_BITMAP));
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(hSelected, 0); }), 2u);
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+#define IDI_STATE 400
+#define IDS_STATE 401
