@@ -1,0 +1,618 @@
+// The message box as a user meets it: keys, clicks, sizes, languages; and what ends the process.
+
+#include "BoxParts.h"
+
+#include "ChildProcess.h"
+#include "Handles.h"
+#include "Picture.h"
+
+#include <Translator.h>
+#include <acdocman.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace
+{
+const wchar_t* const kOneLine = L"Short message";
+const wchar_t* const kPangram = L"Dva stuba i tri grede u osi C nisu povezana sa temeljnom gredom. ";
+
+CString Repeat(const wchar_t* text, int count)
+{
+    CString repeated;
+    while (count-- > 0)
+        repeated += text;
+    return repeated;
+}
+
+using Visitor = std::function<void(CWnd&)>;
+
+void PressEscape(CWnd&)
+{
+    owtest::Press(VK_ESCAPE);
+}
+
+void PressEnter(CWnd&)
+{
+    owtest::Press(VK_RETURN);
+}
+
+Visitor ClickOn(int id)
+{
+    return [id](CWnd& box) { owtest::Click(*box.GetDlgItem(id)); };
+}
+
+int Show(unsigned int type, const Visitor& visitor, const wchar_t* text = kOneLine)
+{
+    owtest::ModalVisit visit(visitor);
+    const int result = COstrelMessageBox::MessageBox(text, L"Caption", type);
+    EXPECT_EQ(visit.Count(), 1);
+    return result;
+}
+
+int ShowFree(std::initializer_list<const wchar_t*> texts, const Visitor& visitor)
+{
+    owtest::ModalVisit visit(visitor);
+    const wchar_t* const* text = texts.begin();
+    const int result = COstrelMessageBox::MessageBox(kOneLine, L"Caption", MB_ICONQUESTION, text[0], text[1],
+                                                     text[2], text[3]);
+    EXPECT_EQ(visit.Count(), 1);
+    return result;
+}
+
+CEdit& MessageOf(CWnd& box)
+{
+    return *static_cast<CEdit*>(box.GetDlgItem(kMessage));
+}
+
+int LinesAt(CEdit& message, int width)
+{
+    message.SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
+    return message.GetLineCount();
+}
+
+/// Pixels inside the edge of a button, painted by it, in which one part of the colour is twice another.
+int CountColoured(CWnd& box, int id)
+{
+    constexpr int kEdge = 3;
+    auto* button = static_cast<CButton*>(CWnd::FromHandlePermanent(box.GetDlgItem(id)->m_hWnd));
+    DRAWITEMSTRUCT item{};
+    button->GetClientRect(&item.rcItem);
+    owtest::Surface picture(item.rcItem.right, item.rcItem.bottom);
+    item.CtlType = ODT_BUTTON;
+    item.hwndItem = button->m_hWnd;
+    item.hDC = picture.dc().m_hDC;
+    button->DrawItem(&item);
+
+    int found = 0;
+    for (int y = kEdge; y < picture.height() - kEdge; ++y)
+    {
+        for (int x = kEdge; x < picture.width() - kEdge; ++x)
+        {
+            const COLORREF pixel = picture.at(x, y);
+            const auto [low, high] = std::minmax({GetRValue(pixel), GetGValue(pixel), GetBValue(pixel)});
+            found += high > 2 * low;
+        }
+    }
+    return found;
+}
+
+/// The English catalogue, for the length of a test.
+class English
+{
+public:
+    English()
+    {
+        wchar_t program[MAX_PATH] = L"";
+        ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+        const auto path = std::filesystem::path(program).parent_path() / L"locale" / L"en.po";
+        EXPECT_TRUE(gOtLang.Load(path.c_str()));
+    }
+    ~English() { gOtLang.Unload(); }
+};
+
+/// A window of the program, over which boxes stand.
+class OwnerWindow : public CWnd
+{
+public:
+    OwnerWindow()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 200, 200, 400, 300,
+                 nullptr, nullptr);
+    }
+    ~OwnerWindow() override { DestroyWindow(); }
+};
+} // namespace
+
+TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
+{
+    EXPECT_EQ(Show(MB_OK, PressEnter), IDOK);
+    EXPECT_EQ(Show(MB_OK, PressEscape), IDOK) << "there is no other answer";
+    EXPECT_EQ(Show(MB_OKCANCEL, PressEnter), IDOK);
+    EXPECT_EQ(Show(MB_OKCANCEL, PressEscape), IDCANCEL);
+    EXPECT_EQ(Show(MB_OKCANCEL, ClickOn(kSecond)), IDCANCEL);
+    EXPECT_EQ(Show(MB_YESNO, PressEnter), IDYES);
+    EXPECT_EQ(Show(MB_YESNO, PressEscape), IDNO);
+    EXPECT_EQ(Show(MB_YESNO, ClickOn(kSecond)), IDNO);
+    EXPECT_EQ(Show(MB_YESNOCANCEL, ClickOn(kFirst)), IDYES);
+    EXPECT_EQ(Show(MB_YESNOCANCEL, ClickOn(kSecond)), IDNO);
+    EXPECT_EQ(Show(MB_YESNOCANCEL, ClickOn(kThird)), IDCANCEL);
+    EXPECT_EQ(Show(MB_YESNOCANCEL, PressEscape), IDCANCEL);
+    EXPECT_EQ(Show(MB_ABORTRETRYIGNORE, PressEscape), IDOK) << "buttons that it does not have: OK alone";
+}
+
+TEST(OstrelMessageBox, EnterPressesTheButtonThatHasTheFocus)
+{
+    EXPECT_EQ(Show(MB_YESNOCANCEL,
+                   [](CWnd&)
+                   {
+                       owtest::Press(VK_TAB);
+                       owtest::Press(VK_RETURN);
+                   }),
+              IDNO);
+}
+
+TEST(OstrelMessageBox, TheCloseBoxAnswersAsEscapeDoes)
+{
+    EXPECT_EQ(Show(MB_YESNO, [](CWnd& box) { box.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }), IDNO);
+}
+
+TEST(OstrelMessageBox, HasTheButtonsOfItsType)
+{
+    const auto buttons = [](unsigned int type)
+    {
+        std::wstring captions;
+        Show(type,
+             [&](CWnd& box)
+             {
+                 for (int id : {kFirst, kSecond, kThird, kFourth})
+                 {
+                     if (box.GetDlgItem(id)->IsWindowVisible())
+                         captions += L'|' + TextOf(*box.GetDlgItem(id));
+                 }
+             });
+        return captions;
+    };
+    EXPECT_EQ(buttons(MB_OK), L"|OK");
+    EXPECT_EQ(buttons(MB_OKCANCEL), L"|OK|Cancel");
+    EXPECT_EQ(buttons(MB_YESNO), L"|Yes|No");
+    EXPECT_EQ(buttons(MB_YESNOCANCEL), L"|Yes|No|Cancel");
+}
+
+TEST(OstrelMessageBox, WithFreeButtonsAnswersTheirNumbers)
+{
+    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"Sve", L"Cancel"}, ClickOn(kFirst)), 1);
+    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"Sve", L"Cancel"}, ClickOn(kThird)), 3);
+    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"Sve", L"Cancel"}, ClickOn(kFourth)), 4);
+    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"", L""}, PressEscape), 2) << "the last one";
+    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEnter), 1);
+    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEscape), 0) << "no button has a text";
+}
+
+TEST(OstrelMessageBox, AnEmptyTextBetweenOthersLeavesABlankButton)
+{
+    const int pressed = ShowFree({L"", L"", L"Dalje", L""},
+                                 [](CWnd& box)
+                                 {
+                                     EXPECT_EQ(TextOf(*box.GetDlgItem(kFirst)), L"OK");
+                                     EXPECT_TRUE(box.GetDlgItem(kSecond)->IsWindowVisible());
+                                     EXPECT_EQ(TextOf(*box.GetDlgItem(kSecond)), L"");
+                                     EXPECT_FALSE(box.GetDlgItem(kFourth)->IsWindowVisible());
+                                     owtest::Press(VK_ESCAPE);
+                                 });
+    EXPECT_EQ(pressed, 3);
+}
+
+TEST(OstrelMessageBox, OnlyOkAndCancelHaveIcons)
+{
+    ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"},
+             [](CWnd& box)
+             {
+                 EXPECT_GT(CountColoured(box, kFirst), 10);
+                 EXPECT_EQ(CountColoured(box, kSecond), 0);
+                 EXPECT_GT(CountColoured(box, kThird), 10);
+                 EXPECT_EQ(CountColoured(box, kFourth), 0);
+             });
+}
+
+TEST(OstrelMessageBox, AClickOnTheTextGivesTheFocusBackToTheFirstButton)
+{
+    Show(MB_YESNO,
+         [](CWnd& box)
+         {
+             EXPECT_EQ(::GetFocus(), box.GetDlgItem(kFirst)->m_hWnd) << "at the beginning";
+             owtest::Press(VK_TAB);
+             ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == box.GetDlgItem(kSecond)->m_hWnd; }));
+             owtest::Click(MessageOf(box));
+             EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == box.GetDlgItem(kFirst)->m_hWnd; }));
+         });
+}
+
+// ---- Size -----------------------------------------------------------------------------------------------
+
+TEST(MessageBoxSize, OfAOneLineTextIsTheLeastWhateverTheButtons)
+{
+    for (const wchar_t* text : {kOneLine, L""})
+    {
+        Show(
+            MB_OK,
+            [](CWnd& box)
+            {
+                const CRect button = PlaceOf(box, kFirst);
+                CRect client;
+                box.GetClientRect(client);
+                EXPECT_EQ(PlaceOf(box, kMessage), CRect(12, 12, 212, 51));
+                EXPECT_EQ(client.Size(), CSize(224, 39 + button.Height() + 36));
+                EXPECT_EQ(button.TopLeft(), CPoint(112 - button.Width() / 2, 63));
+            },
+            text);
+    }
+    Show(MB_YESNOCANCEL,
+         [](CWnd& box)
+         {
+             const CRect first = PlaceOf(box, kFirst), third = PlaceOf(box, kThird);
+             CRect client;
+             box.GetClientRect(client);
+             const int row = 3 * (first.Width() + 8) - 8;
+             EXPECT_EQ(PlaceOf(box, kMessage), CRect(CPoint(12, 12), CSize(row, 39)))
+                 << "as wide as the buttons";
+             EXPECT_EQ(client.Width(), row + 24);
+             EXPECT_EQ(first.left, 12);
+             EXPECT_EQ(third.right, 12 + row);
+         });
+}
+
+TEST(MessageBoxSize, IsTheLeastWidthInWhichTheTextTakesOneLine)
+{
+    Show(
+        MB_OK,
+        [](CWnd& box)
+        {
+            CEdit& message = MessageOf(box);
+            const int width = PlaceOf(box, kMessage).Width();
+            EXPECT_GT(width, 200);
+            EXPECT_LT(width, 500);
+            EXPECT_EQ(width % 5, 0);
+            EXPECT_EQ(PlaceOf(box, kMessage).Height(), 39);
+            EXPECT_EQ(LinesAt(message, width), 1);
+            EXPECT_EQ(LinesAt(message, width - 5), 2);
+        },
+        kPangram);
+}
+
+TEST(MessageBoxSize, OfALongTextIsTheLeastWidthWithTheFewestLines)
+{
+    Show(
+        MB_OK,
+        [](CWnd& box)
+        {
+            CEdit& message = MessageOf(box);
+            const CRect place = PlaceOf(box, kMessage);
+            const int fewest = LinesAt(message, 500);
+            ASSERT_GT(fewest, 4);
+            EXPECT_LE(place.Width(), 500);
+            EXPECT_EQ(place.Width() % 5, 0);
+            EXPECT_EQ(place.Height(), 13 * fewest);
+            EXPECT_EQ(LinesAt(message, place.Width()), fewest);
+            EXPECT_NE(LinesAt(message, place.Width() - 5), fewest);
+            EXPECT_EQ(PlaceOf(box, kFirst).top, 12 + place.Height() + 12)
+                << "the box has grown with the text";
+        },
+        Repeat(kPangram, 8));
+
+    Show(
+        MB_OK,
+        [](CWnd& box)
+        { EXPECT_EQ(PlaceOf(box, kMessage).Size(), CSize(205, 39)) << "no width makes one line of two"; },
+        L"One\r\nTwo");
+}
+
+TEST(MessageBoxSize, MakesRoomForAnIconAndDrawsIt)
+{
+    struct
+    {
+        unsigned int type;
+        HICON icon;
+    } const kinds[] = {{MB_ICONERROR, CButtonST::hIconError},
+                       {MB_ICONQUESTION, CButtonST::hIconQuestion},
+                       {MB_ICONWARNING, CButtonST::hIconWarning},
+                       {MB_ICONINFORMATION, CButtonST::hIconInformation}};
+    for (const auto& kind : kinds)
+    {
+        Show(MB_OK | kind.type,
+             [&](CWnd& box)
+             {
+                 EXPECT_EQ(PlaceOf(box, kMessage), CRect(56, 12, 256, 51));
+                 CRect client;
+                 box.GetClientRect(client);
+                 EXPECT_EQ(client.Width(), 268);
+
+                 owtest::Surface expected(32, 32, ::GetSysColor(COLOR_BTNFACE));
+                 expected.dc().DrawIcon(0, 0, kind.icon);
+                 CClientDC dc(&box);
+                 EXPECT_TRUE(owtest::PumpUntil(
+                     [&]
+                     {
+                         for (int i = 0; i < 32 * 32; ++i)
+                         {
+                             if (dc.GetPixel(12 + i % 32, 12 + i / 32) != expected.at(i % 32, i / 32))
+                                 return false;
+                         }
+                         return true;
+                     }))
+                     << kind.type;
+             });
+    }
+}
+
+TEST(MessageBoxSize, StaysOnTheScreenWithATextThatIsTooLongForIt)
+{
+    const CString text = Repeat(kPangram, 10000 / 65 + 1) + L"END";
+    ASSERT_GT(text.GetLength(), 10000);
+    const int result = Show(
+        MB_YESNO | MB_ICONWARNING,
+        [&](CWnd& box)
+        {
+            CRect window, work, client;
+            box.GetWindowRect(window);
+            box.GetClientRect(client);
+            ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+            EXPECT_EQ(window & work, window) << "nothing of it is outside";
+            EXPECT_EQ(PlaceOf(box, kSecond).bottom, client.bottom - 12);
+
+            CEdit& message = MessageOf(box);
+            EXPECT_EQ(TextOf(message), text.GetString());
+            EXPECT_NE(message.GetStyle() & WS_VSCROLL, 0u);
+            EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
+            EXPECT_EQ(message.GetFirstVisibleLine(), 0);
+            owtest::Press(VK_NEXT);
+            EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() > 10; }));
+            owtest::Press(VK_PRIOR);
+            EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() == 0; }));
+            box.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)));
+            EXPECT_EQ(message.GetFirstVisibleLine(), 3);
+
+            owtest::Click(message);
+            EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == box.GetDlgItem(kFirst)->m_hWnd; }));
+            owtest::Press(VK_RETURN);
+        },
+        text);
+    EXPECT_EQ(result, IDYES);
+}
+
+// ---- Language -------------------------------------------------------------------------------------------
+
+TEST(MessageBoxLanguage, IsThatOfTheCatalogue)
+{
+    const wchar_t* const text = L"Brisanje tekuce konfiguracije?";
+    const auto look = [&]
+    {
+        std::wstring seen;
+        owtest::ModalVisit visit(
+            [&](CWnd& box)
+            {
+                seen = TextOf(box) + L'|' + TextOf(MessageOf(box)) + L'|' + TextOf(*box.GetDlgItem(kFirst)) +
+                       L'|' + TextOf(*box.GetDlgItem(kSecond));
+            });
+        COstrelMessageBox::MessageBox(text, L"Greska", 0, L"Snimi", L"Cancel", L"", L"");
+        return seen;
+    };
+    EXPECT_EQ(look(), L"Greska|Brisanje tekuce konfiguracije?|Snimi|Cancel");
+    const English english;
+    EXPECT_EQ(look(), L"Error|Delete the current configuration?|Save|Cancel");
+}
+
+TEST(MessageBoxLanguage, TheErrorBoxesAreTranslatedWithTheCodeInThem)
+{
+    const auto look = [](auto open)
+    {
+        std::wstring seen;
+        owtest::ModalVisit visit([&](CWnd& box) { seen = TextOf(box) + L'|' + TextOf(MessageOf(box)); });
+        EXPECT_EQ(open(12), 0);
+        EXPECT_EQ(visit.Count(), 1);
+        return seen;
+    };
+    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxP), L"Greska|Provera zastite programa nije uspela (12).");
+    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Greska|Provera licence programa nije uspela (12).");
+    const English english;
+    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxP), L"Error|The copy-protection check failed (12).");
+    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Error|The licence check failed (12).");
+}
+
+TEST(MessageBoxLanguage, TheSystemsErrorsAreShownInTheSystemsBox)
+{
+    const auto look = [](unsigned long error)
+    {
+        std::wstring seen;
+        owtest::ModalVisit visit(
+            [&](CWnd& box)
+            {
+                seen = TextOf(box) + L'|';
+                for (CWnd* child = box.GetWindow(GW_CHILD); child; child = child->GetNextWindow())
+                {
+                    if (child->GetDlgCtrlID() == 0xFFFF)
+                        seen += TextOf(*child);
+                }
+                owtest::Press(VK_RETURN);
+            });
+        EXPECT_EQ(COstrelMessageBox::ErrorBox(error), 0);
+        EXPECT_EQ(visit.Count(), 1);
+        return seen;
+    };
+    EXPECT_EQ(look(ERROR_FILE_NOT_FOUND).substr(0, 7), L"Greska|");
+    EXPECT_NE(look(ERROR_FILE_NOT_FOUND), look(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(look(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
+}
+
+// ---- A box that is prepared piece by piece --------------------------------------------------------------
+
+TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
+{
+    COstrelMessageBox box(nullptr);
+    box.Set(kOneLine, L"Caption");
+    box.SetButtonText(3, L"Treci");
+    box.SetButtonText(2, L"Drugi");
+    for (int round = 0; round < 2; ++round)
+    {
+        owtest::ModalVisit click(
+            [](CWnd& shown)
+            {
+                EXPECT_EQ(TextOf(shown), L"Caption");
+                EXPECT_EQ(TextOf(MessageOf(shown)), kOneLine);
+                EXPECT_EQ(TextOf(*shown.GetDlgItem(kFirst)), L"OK");
+                EXPECT_EQ(TextOf(*shown.GetDlgItem(kSecond)), L"Drugi");
+                owtest::Click(*shown.GetDlgItem(kThird));
+            });
+        EXPECT_EQ(box.DoModal(), 3);
+        owtest::ModalVisit escape(&PressEscape);
+        EXPECT_EQ(box.DoModal(), 0) << "whatever was pressed the last time";
+    }
+}
+
+TEST(PreparedMessageBox, OpensNothingWithoutAText)
+{
+    owtest::ModalVisit visit(&PressEscape);
+    COstrelMessageBox box(nullptr);
+    box.SetButtonText(1, L"Prvi");
+    EXPECT_EQ(box.DoModal(), 0);
+    EXPECT_EQ(visit.Count(), 0);
+}
+
+TEST(PreparedMessageBox, OpensWhenItsParentIsGone)
+{
+    OwnerWindow owner;
+    COstrelMessageBox box(&owner);
+    box.Set(kOneLine, L"");
+    owner.DestroyWindow();
+    owtest::ModalVisit visit(&PressEnter);
+    EXPECT_EQ(box.DoModal(), 1);
+}
+
+// ---- Surroundings ---------------------------------------------------------------------------------------
+
+TEST(MessageBoxOwner, IsTheWindowWithTheFocusAndWaits)
+{
+    OwnerWindow owner;
+    ASSERT_TRUE(owtest::Activate(owner));
+    owner.SetFocus();
+    Show(MB_OK,
+         [&](CWnd& box)
+         {
+             EXPECT_EQ(box.GetWindow(GW_OWNER), &owner);
+             EXPECT_FALSE(owner.IsWindowEnabled());
+             CRect over, window;
+             owner.GetWindowRect(over);
+             box.GetWindowRect(window);
+             EXPECT_LE(std::abs(over.CenterPoint().x - window.CenterPoint().x), 1) << "centred";
+         });
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+}
+
+TEST(MessageBoxResources, AreTheHostsOwnAgainAfterwards)
+{
+    const HINSTANCE before = AfxGetResourceHandle();
+    Show(MB_YESNO | MB_ICONQUESTION,
+         [&](CWnd&)
+         {
+             EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
+             EXPECT_NE(AfxGetResourceHandle(), before);
+         });
+    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    EXPECT_EQ(AfxGetResourceHandle(), before);
+}
+
+TEST(MessageBoxResources, AreGivenBackByAHundredBoxes)
+{
+    const CString longText = Repeat(kPangram, 160);
+    const auto round = [&](int i)
+    {
+        owtest::ModalVisit visit([](CWnd& box) { box.SendMessage(WM_COMMAND, IDCANCEL); });
+        COstrelMessageBox::MessageBox(i % 50 == 0 ? longText : CString(kOneLine), L"Caption",
+                                      MB_YESNOCANCEL | MB_ICONERROR);
+    };
+    round(0); // what is made once for the process
+    round(1);
+    const owtest::HandleCount before = owtest::CountHandles();
+    for (int i = 0; i < 100; ++i)
+        round(i);
+    const owtest::HandleCount after = owtest::CountHandles();
+    EXPECT_EQ(after.gdi, before.gdi);
+    EXPECT_EQ(after.windows, before.windows);
+    EXPECT_LE(after.user - before.user, 5);
+
+    ICONINFO info{};
+    ASSERT_TRUE(::GetIconInfo(CButtonST::hIconOk, &info)) << "the shared icons live on";
+    ::DeleteObject(info.hbmColor);
+    ::DeleteObject(info.hbmMask);
+}
+
+// ---- Misuse ends the process ----------------------------------------------------------------------------
+
+OW_CHILD_SCENARIO(button_number_0)
+{
+    COstrelMessageBox(nullptr).SetButtonText(0, L"");
+}
+
+OW_CHILD_SCENARIO(button_number_5)
+{
+    COstrelMessageBox(nullptr).SetButtonText(5, L"");
+}
+
+OW_CHILD_SCENARIO(icon_of_standard_box)
+{
+    COstrelMessageBox::MessageBox(kOneLine, L"", MB_OK | 0x50);
+}
+
+OW_CHILD_SCENARIO(icon_of_free_box)
+{
+    COstrelMessageBox::MessageBox(kOneLine, L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L"");
+}
+
+/// A box of the type in which a button is pressed that it does not show.
+static void PressHidden(unsigned int type, int button)
+{
+    owtest::ModalVisit visit([=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
+    COstrelMessageBox::MessageBox(kOneLine, L"", type);
+}
+
+OW_CHILD_SCENARIO(hidden_button_of_ok_cancel)
+{
+    PressHidden(MB_OKCANCEL, kThird);
+}
+
+OW_CHILD_SCENARIO(hidden_button_of_yes_no)
+{
+    PressHidden(MB_YESNO, kThird);
+}
+
+OW_CHILD_SCENARIO(hidden_button_of_yes_no_cancel)
+{
+    PressHidden(MB_YESNOCANCEL, kFourth);
+}
+
+TEST(MessageBoxMisuse, EndsTheProcessWithAReportOfItsPlace)
+{
+    struct
+    {
+        const char* scenario;
+        const wchar_t* report;
+    } const cases[] = {
+        {"button_number_0", L"[.\\OstrelMessageBox : 273]\nVrednost za <n> mora biti od 1 do 4!"},
+        {"button_number_5", L"[.\\OstrelMessageBox : 273]\nVrednost za <n> mora biti od 1 do 4!"},
+        {"icon_of_standard_box", L"[.\\OstrelMessageBox : 194]\nNedozvoljena vrednost."},
+        {"icon_of_free_box", L"[.\\OstrelMessageBox : 194]\nNedozvoljena vrednost."},
+        {"hidden_button_of_ok_cancel", L"[.\\OstrelMessageBox : 324]\nNedozvoljena vrednost."},
+        {"hidden_button_of_yes_no", L"[.\\OstrelMessageBox : 330]\nNedozvoljena vrednost."},
+        {"hidden_button_of_yes_no_cancel", L"[.\\OstrelMessageBox : 337]\nNedozvoljena vrednost."},
+    };
+    for (const auto& misuse : cases)
+    {
+        const owtest::ChildResult result = owtest::RunChild(misuse.scenario);
+        EXPECT_EQ(result.boxCaption, L"INTERNAL ERROR - PROGRAM TERMINATES") << misuse.scenario;
+        EXPECT_EQ(result.boxText, misuse.report) << misuse.scenario;
+        EXPECT_TRUE(result.brokeIntoDebugger) << misuse.scenario;
+        EXPECT_EQ(result.exitCode, 0u) << misuse.scenario;
+    }
+}
