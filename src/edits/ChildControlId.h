@@ -3,8 +3,8 @@
 
 #include "module/ResourceIdPool.h"
 
-/// Either the id of a control of the dialog template, or 0 for none, or an id drawn from the pool for a control
-/// that the box creates itself; the last one is given back at the end.
+/// Either the id of a control of the dialog template, or 0 for none, or an id drawn from the pool for a
+/// control that the box creates itself; the last one is given back at the end.
 class CChildControlId
 {
 public:

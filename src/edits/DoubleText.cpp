@@ -11,12 +11,12 @@ namespace
 /// As many digits as tell any double from its neighbours.
 constexpr wchar_t c_szExactFormat[] = L"%.17G";
 
-/// False if the text does not fit; nothing is written behind the buffer then either.
+/// False if the text does not fit.
 bool FormatInto(wchar_t (&szText)[c_nDoubleTextSize], const wchar_t* pszFormat, double dValue)
 {
-    // The run-time library's own function, which is also behind CString::Format: the two write the same exponents.
-    const int nLength = _snwprintf(szText, c_nDoubleTextSize, pszFormat, dValue);
-    return nLength >= 0 && nLength < c_nDoubleTextSize; // of a full buffer the terminating null is missing
+    // The run-time library's own function, which is also behind CString::Format: the two write the same
+    // exponents.
+    return _snwprintf_s(szText, c_nDoubleTextSize, _TRUNCATE, pszFormat, dValue) >= 0;
 }
 
 CString NameOfNonNumber(double dValue)
@@ -29,7 +29,8 @@ CString NameOfNonNumber(double dValue)
 
 CString gfnDoublePrintfFormat(EDoubleFormat eFormat, int nDecimals)
 {
-    // More decimals than the text has room for make no difference, and the run-time library need not try them.
+    // More decimals than the text has room for make no difference, and the run-time library need not try
+    // them.
     const int nShown = std::clamp(nDecimals, 0, c_nDoubleTextSize);
     CString strFormat;
     switch (eFormat)

@@ -5,8 +5,8 @@
 //     double dForce = 0.0;
 //     gfnParseDouble(L"12.5 kN", dForce);                                    // true, 12.5
 //
-// The decimal sign is a point. Texts are bounded: however large the number and however many the decimals, no text
-// is longer than c_nDoubleTextSize - 1 characters.
+// The decimal sign is a point. Texts are bounded: however large the number and however many the decimals, no
+// text is longer than c_nDoubleTextSize - 1 characters.
 
 #include <afxwin.h>
 
@@ -16,21 +16,21 @@ enum EDoubleFormat : int
 {
     eDoubleFormatGeneral = 0,  ///< 1250, 0.1 or 1.25E+009, whichever is shorter; at most six digits
     eDoubleFormatFixed = 1,    ///< 1250.00
-    eDoubleFormatExponent = 2, ///< 1.25E+003; how many digits the exponent has is the run-time library's choice
+    eDoubleFormatExponent = 2, ///< 1.25E+003; the run-time library says how many digits the exponent has
 };
 
 /// Characters of the longest text, its terminating null included.
 constexpr int c_nDoubleTextSize = 100;
 
-/// The printf format of a number: "%G", "%.2f", "%.2E". The general format pays no heed to the decimals. Fewer
-/// than no decimals count as none. A format that is none of the three gives an empty string, and with that every
-/// number an empty text.
+/// The printf format of a number: "%G", "%.2f", "%.2E". The general format pays no heed to the decimals.
+/// Fewer than no decimals count as none. A format that is none of the three gives an empty string, and with
+/// that every number an empty text.
 OW_DIALOGCONTROLS_API CString gfnDoublePrintfFormat(EDoubleFormat eFormat, int nDecimals);
 
 /// Writes a number by a printf format with at most one conversion, of a double.
 ///
-/// A text that would be too long is written in the shortest form that still names the same number, such as 1E+308.
-/// What is no number is written as "inf", "-inf" or "nan", none of which gfnParseDouble takes.
+/// A text that would be too long is written in the shortest form that still names the same number, such as
+/// 1E+308. What is no number is written as "inf", "-inf" or "nan", none of which gfnParseDouble takes.
 OW_DIALOGCONTROLS_API CString gfnFormatDouble(const wchar_t* pszFormat, double dValue);
 
 /// Reads the number at the beginning of a text; white space before it and anything behind it are passed over.

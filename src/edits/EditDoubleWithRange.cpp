@@ -19,12 +19,12 @@ constexpr DWORD c_dwUnitLabelStyle = WS_VISIBLE | SS_CENTERIMAGE;
 // The spin only tells of presses: it stands in the middle of its range and can go both ways for ever.
 constexpr short c_nSpinMin = 0, c_nSpinMax = 100, c_nSpinPos = 50;
 
-// Just below a half: a number between two steps goes to the nearer one first and then one step on, and one that
-// rounding has put a little beside its step goes exactly one step.
+// Just below a half: a number between two steps goes to the nearer one first and then one step on, and one
+// that rounding has put a little beside its step goes exactly one step.
 constexpr double c_dSnap = 0.4995;
 
-/// The number `nDelta` steps from the base; nothing if no finite number is there. Whole numbers of steps are counted
-/// in a double, so that a count of any size is defined.
+/// The number `nDelta` steps from the base; nothing if no finite number is there. Whole numbers of steps are
+/// counted in a double, so that a count of any size is defined.
 std::optional<double> StepFrom(double dBase, double dStep, int nDelta)
 {
     const double dCount =
@@ -84,13 +84,13 @@ void CEditDoubleWithRange::OnShowWindow(BOOL bShow, UINT nStatus)
 {
     CEditWithValidation::OnShowWindow(bShow, nStatus);
     const int nShow = bShow ? SW_SHOW : SW_HIDE;
-    if (m_unitLabelId.IsOwn() && m_unitLabel.m_hWnd)
+    if (m_unitLabel.m_hWnd)
         m_unitLabel.ShowWindow(nShow);
     if (m_spinId.IsOwn() && m_spin.m_hWnd)
         m_spin.ShowWindow(nShow);
 }
 
-// The own controls are the parent's children and would outlive the box. A spin of the template stays, and is let go.
+// The own controls are the parent's children and would outlive the box. A spin of the template does, let go.
 void CEditDoubleWithRange::OnDestroy()
 {
     CEditWithValidation::OnDestroy();
@@ -384,7 +384,7 @@ void CEditDoubleWithRange::ShowUnitSymbol()
         GetParent()->SetDlgItemText(m_unitLabelId.Get(), UnitSymbol());
 }
 
-/// A box with any selection, and one that was empty, has its new text selected; one with a caret only does not.
+/// A box with a selection, and one that was empty, has its new text selected; one with only a caret has not.
 void CEditDoubleWithRange::ShowNumber(const CString& strText)
 {
     int nStart = 0, nEnd = 0;
@@ -405,14 +405,16 @@ void CEditDoubleWithRange::OnSpinDeltapos(NM_UPDOWN* pNMUpDown, LRESULT* pResult
     if (!next)
         return;
     LocalRange().Clamp(*next);
-    SetWindowText(gfnFormatDouble(GetPrintfFormatString(), *next)); // not guarded: it stores and reports as typing does
+    // Not guarded, so that the new text is stored and reported like a typed one.
+    SetWindowText(gfnFormatDouble(GetPrintfFormatString(), *next));
     if (!m_hWnd)
         return; // the handler closed the dialog
     if (auto* pHandler = dynamic_cast<CEditDWRNotificationHandler*>(GetNotificationHandler()))
         pHandler->OnEditDWRSpinDeltaPos(GetDlgCtrlID());
 }
 
-/// The number from which a press steps, in the local unit: what the text says, or else the value; 0 in an empty box.
+/// The number from which a press steps, in the local unit: what the text says, or else the value; 0 in an
+/// empty box.
 double CEditDoubleWithRange::SpinBase() const
 {
     CString strText;

@@ -12,33 +12,36 @@
 //         m_editThickness.SetValue(0.01);              // the box shows "10.00" and "mm" beside it
 //     };
 //
-// Units. The value and the range are in the program's global unit. The text and the spin step are in the local one,
-// which is the box's CComplexUnit, or, without one, the global unit. The unit label names the local unit.
+// Units. The value and the range are in the program's global unit. The text and the spin step are in the
+// local one, which is the box's CComplexUnit, or, without one, the global unit. The unit label names the
+// local unit.
 //
-// Texts. A number at the beginning of the text is taken, and what follows it is passed over: "12 kN" is 12. A text
-// without a number does not parse, and neither does a number beyond what a double holds. See DoubleText.h for the
-// three formats, and for what is shown where the decimals are out of any sense or the number is too long.
+// Texts. A number at the beginning of the text is taken, and what follows it is passed over: "12 kN" is 12. A
+// text without a number does not parse, and neither does a number beyond what a double holds. See
+// DoubleText.h for the three formats, and for what is shown where the decimals are out of any sense or the
+// number is too long.
 //
-// Range. A typed number outside becomes the bound that it passed, at once; the text follows when the user leaves the
-// box. A minimum above the maximum means no range, and so it is at first (0 and -1).
+// Range. A typed number outside becomes the bound that it passed, at once; the text follows when the user
+// leaves the box. A minimum above the maximum means no range, and so it is at first (0 and -1).
 //
-// Empty. Only SetEmpty makes the box empty, and the next number that is typed or set ends that. GetValue then gives
-// a NaN with bits of its own: ask IsEmpty first, or IsEmptyValue of a number that went through other hands. A text
-// that the user clears is one that does not parse: the value comes back when the user leaves. A program may store an
-// infinity, or a NaN of other bits, too: the box then holds it like any number.
+// Empty. Only SetEmpty makes the box empty, and the next number that is typed or set ends that. GetValue then
+// gives a NaN with bits of its own: ask IsEmpty first, or IsEmptyValue of a number that went through other
+// hands. A text that the user clears is one that does not parse: the value comes back when the user leaves. A
+// program may store an infinity, or a NaN of other bits, too: the box then holds it like any number.
 //
-// Spin. Each press goes to the next whole multiple of the step, and the box receives the new text as if it were
-// typed: OnEditNChange comes first, then OnEditDWRSpinDeltaPos, for a handler that has it. A negative step turns the
-// spin round. A press that leads nowhere does nothing: the step is zero or no number, or the result is beyond what a
-// double holds.
+// Spin. Each press goes to the nearest whole multiple of the step and one step on from there: 0.127 goes up
+// to 0.14 and down to 0.12. The box receives the new text as if it were typed: OnEditNChange comes first,
+// then OnEditDWRSpinDeltaPos, for a handler that has it. A negative step turns the spin round. A press that
+// leads nowhere does nothing: the step is zero or no number, or the result is beyond what a double holds.
 //
-// Control ids. The unit label and the spin may stand in the dialog template; then their ids are given. Or the box
-// creates them, for which c_nCreateControl is given: they get ids of the ResourceIdPool and belong to the box. A
-// dialog may hold a hundred such boxes. An id of 0 means that there is no such control. A spin with UDS_ALIGNRIGHT,
-// as the box's own one is, takes its width from the box's. Own controls follow the box when it is shown or hidden,
-// and end with it; those of the template are left alone.
+// Control ids. The unit label and the spin may stand in the dialog template; then their ids are given. Or the
+// box creates them, for which c_nCreateControl is given: they get ids of the ResourceIdPool, enough for a
+// hundred such boxes at a time, and belong to the box. They come up visible, are shown and hidden with the
+// box from then on, and end with it; those of the template are left alone. An id of 0 means that there is no
+// such control. A spin with UDS_ALIGNRIGHT, as the box's own one is, takes its width from the box's.
 //
-// The forcing argument of the setters does their work, the writing of the text included, where nothing changes, too.
+// The forcing argument of the setters does their work, the writing of the text included, where nothing
+// changes, too.
 
 #include <ComplexUnit.h>
 
@@ -58,8 +61,8 @@ public:
     explicit CEditDoubleWithRange(CEditNNotificationHandler* pHandler, unsigned int nUnitLabelId = 0,
                                   unsigned int nSpinId = 0);
 
-    /// Stores a number in the global unit, brought into the range, and shows it. A number that is the value already
-    /// costs a comparison and nothing else.
+    /// Stores a number in the global unit, brought into the range, and shows it. A number that is the value
+    /// already costs a comparison and nothing else.
     void SetValue(double d, bool bForce = false);
     /// In the global unit; while the box is empty, the empty value.
     double GetValue() const;
@@ -88,8 +91,8 @@ public:
     void GetFormat(EDoubleFormat& eFormat, int& nDecimals) const;
     int GetDecimals() const;
 
-    /// Shows the value in another unit. The text is taken first, under the old one, so that a value with more digits
-    /// than the text becomes what the text shows: set the unit before the value.
+    /// Shows the value in another unit. The text is taken first, under the old one, so that a value with more
+    /// digits than the text becomes what the text shows: set the unit before the value.
     void SetComplexUnit(const CComplexUnit& unit);
     /// Shows the value in the global unit, with no symbol. The text is taken first, as in SetComplexUnit.
     void DisableComplexUnit();
@@ -106,8 +109,9 @@ public:
     void SetSpinStep(double dStep);
     double GetSpinStep() const;
 
-    /// Called by the spin for each press; `iDelta` is the number of steps, negative for down. Sets the result to 1,
-    /// so that the spin itself stays in the middle of its range; a read-only box leaves the result as it is.
+    /// Called by the spin for each press; `iDelta` is the number of steps, negative for down. Sets the result
+    /// to 1, so that the spin itself stays in the middle of its range; a read-only box leaves the result as
+    /// it is.
     void OnSpinDeltapos(NM_UPDOWN* pNMUpDown, LRESULT* pResult);
 
     bool IsDataCurrentlyInGUIValid() const override;
@@ -118,8 +122,8 @@ protected:
     void HandlerOnCreate() override;
 
     CString GetPrintfFormatString() const;
-    /// Where the unit label belongs, in pixels of the parent's client area: right of the box and of its own spin,
-    /// a blank's width further on, as high as the box and as wide as the symbol.
+    /// Where the unit label belongs, in pixels of the parent's client area: right of the box and of its own
+    /// spin, a blank's width further on, as high as the box and as wide as the symbol.
     CRect CalcUnitRect();
 
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);

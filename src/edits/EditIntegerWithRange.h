@@ -7,17 +7,18 @@
 //     ...
 //     void OnEditNChange(int nId) override { if (!m_editBolts.IsEmpty()) Use(m_editBolts.GetValue()); }
 //
-// Texts. A number is digits with an optional "-" in front; white space around it is passed over. Anything else does
-// not parse, a "+", a point, and a number that 32 bits do not hold among it. The user can type 11 characters, the
-// length of -2147483648.
+// Texts. A number is digits with an optional "-" in front; white space around it is passed over. Anything
+// else does not parse, a "+", a point, and a number that 32 bits do not hold among it. The user can type 11
+// characters, the length of -2147483648.
 //
-// Range. A typed number outside becomes the bound that it passed, at once; the text follows when the user leaves the
-// box. A minimum above the maximum means no range, and so it is at first (0 and -1).
+// Range. A typed number outside becomes the bound that it passed, at once; the text follows when the user
+// leaves the box. A minimum above the maximum means no range, and so it is at first (0 and -1).
 //
-// Empty. Only SetEmpty makes the box empty, and the next number that is typed or set ends that. A text that the
-// user clears is one that does not parse: the value comes back when the user leaves.
+// Empty. Only SetEmpty makes the box empty, and the next number that is typed or set ends that. A text that
+// the user clears is one that does not parse: the value comes back when the user leaves.
 //
-// The forcing argument of the setters does their work, the writing of the text included, where nothing changes, too.
+// The forcing argument of the setters does their work, the writing of the text included, where nothing
+// changes, too.
 
 #include "edits/EditWithValidation.h"
 #include "edits/ValueRange.h"

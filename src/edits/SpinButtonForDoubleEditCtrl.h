@@ -1,5 +1,6 @@
 #pragma once
-// The spin control of a CEditDoubleWithRange. It hands each press to the box that is its buddy, which does the rest.
+// The spin control of a CEditDoubleWithRange. It hands each press to the box that is its buddy, which does
+// the rest.
 
 #include <afxcmn.h>
 

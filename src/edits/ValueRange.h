@@ -1,9 +1,10 @@
 #pragma once
 // The two bounds of a number box.
 
-/// Limits numbers while its minimum is not above its maximum. A new range is the pair 0 and -1 and limits nothing;
-/// so does any other inverted pair, and one that holds a NaN.
-template <class Number> class CValueRange
+/// Limits numbers while its minimum is not above its maximum. A new range is the pair 0 and -1 and limits
+/// nothing; so does any other inverted pair, and one that holds a NaN.
+template <class Number>
+class CValueRange
 {
 public:
     bool IsEnabled() const { return m_min <= m_max; }

@@ -1,6 +1,6 @@
 #pragma once
-// A dialog with number boxes: one that makes its label and spin itself, one that finds them in the template, and one
-// for whole numbers.
+// A dialog with number boxes: one that makes its label and spin itself, one that finds them in the template,
+// and one for whole numbers.
 
 #include <DialogControlsOW.h>
 
@@ -55,8 +55,8 @@ class NumbersDialog : public CDialog
 {
 public:
     explicit NumbersDialog(CEditNNotificationHandler* pHandler)
-        : CDialog(IDD_NUMBERS), own(pHandler, CEditDoubleWithRange::c_nCreateControl,
-                                    CEditDoubleWithRange::c_nCreateControl),
+        : CDialog(IDD_NUMBERS),
+          own(pHandler, CEditDoubleWithRange::c_nCreateControl, CEditDoubleWithRange::c_nCreateControl),
           given(pHandler, IDC_GIVEN_UNIT, IDC_GIVEN_SPIN), count(pHandler)
     {
     }
@@ -99,10 +99,7 @@ inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentim
 class Numbers : public ::testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(dialog.Create(IDD_NUMBERS));
-    }
+    void SetUp() override { ASSERT_TRUE(dialog.Create(IDD_NUMBERS)); }
     void TearDown() override
     {
         if (dialog.m_hWnd)

@@ -86,11 +86,11 @@ TEST_F(SpinBox, StepsFromMultipleToMultiple)
         int delta;
         const wchar_t* to;
     } presses[] = {
-        {L"0.127", 0.01, +1, L"0.14"}, {L"0.127", 0.01, -1, L"0.12"},  {L"0.12", 0.01, +1, L"0.13"},
-        {L"0.13", 0.01, -1, L"0.12"},  {L"0.29", 0.01, +1, L"0.30"},   {L"0.124", 0.01, +1, L"0.13"},
+        {L"0.127", 0.01, +1, L"0.14"},   {L"0.127", 0.01, -1, L"0.12"},   {L"0.12", 0.01, +1, L"0.13"},
+        {L"0.13", 0.01, -1, L"0.12"},    {L"0.29", 0.01, +1, L"0.30"},    {L"0.124", 0.01, +1, L"0.13"},
         {L"-0.127", 0.01, +1, L"-0.12"}, {L"-0.127", 0.01, -1, L"-0.14"}, {L"0", 0.01, -1, L"-0.01"},
-        {L"7", 2.5, +1, L"10.00"},     {L"7", 2.5, -1, L"5.00"},       {L"1", 0.5, +5, L"3.50"},
-        {L"1", 0.5, -3, L"-0.50"},     {L"12 kN", 1.0, +1, L"13.00"},  {L"5", -1.0, +1, L"4.00"},
+        {L"7", 2.5, +1, L"10.00"},       {L"7", 2.5, -1, L"5.00"},        {L"1", 0.5, +5, L"3.50"},
+        {L"1", 0.5, -3, L"-0.50"},       {L"12 kN", 1.0, +1, L"13.00"},   {L"5", -1.0, +1, L"4.00"},
     };
     for (const auto& press : presses)
     {
@@ -109,6 +109,8 @@ TEST_F(SpinBox, StartsFromTheValueWhereTheTextIsNoNumber)
     box.SetSpinStep(10.0);
     box.SafeSetWindowText(L"what");
     EXPECT_EQ(TextAfter(+1), L"260.00");
+    box.SafeSetWindowText(L"1e999");
+    EXPECT_EQ(TextAfter(-1), L"250.00") << "nor is one beyond a double";
     box.SetEmpty();
     EXPECT_EQ(TextAfter(+1), L"10.00") << "an empty box starts at zero";
     EXPECT_FALSE(box.IsEmpty());
@@ -126,7 +128,8 @@ TEST_F(SpinBox, StaysInTheRangeAlsoInALocalUnit)
     box.SetEmpty();
     EXPECT_EQ(TextAfter(+1), L"1.00") << "one step above zero lies below the range";
     box.SetMinRange(0.001);
-    EXPECT_EQ(TextAfter(+1), L"1.50") << "the largest double as a bound has no local value, and limits nothing";
+    EXPECT_EQ(TextAfter(+1), L"1.50")
+        << "the largest double as a bound has no local value, and limits nothing";
 }
 
 TEST_F(SpinBox, IgnoresAPressThatLeadsNowhere)
@@ -166,7 +169,8 @@ TEST_F(SpinBox, FollowsMouseAndArrowKeysForEver)
     EXPECT_EQ(handler.Take(), (Calls{"change 1010", "spin 1010"})) << "stored and told, and then the press";
     ClickArrow(dialog.OwnSpin(), false);
     EXPECT_TRUE(owtest::PumpUntil([&] { return TextOf(box) == L"0.00"; }));
-    EXPECT_EQ(static_cast<CSpinButtonCtrl&>(dialog.OwnSpin()).GetPos() & 0xFFFF, 50) << "the spin itself stays";
+    EXPECT_EQ(static_cast<CSpinButtonCtrl&>(dialog.OwnSpin()).GetPos() & 0xFFFF, 50)
+        << "the spin itself stays";
 
     dialog.given.SetFocus();
     handler.Take();
@@ -189,8 +193,8 @@ TEST_F(SpinBox, TellsOnlyHandlersThatKnowOfSpins)
         void OnEditNChange(int) override { ++changes; }
     };
     PlainHandler plain;
-    for (CEditNNotificationHandler* pHandler : {static_cast<CEditNNotificationHandler*>(&plain),
-                                                static_cast<CEditNNotificationHandler*>(nullptr)})
+    for (CEditNNotificationHandler* pHandler :
+         {static_cast<CEditNNotificationHandler*>(&plain), static_cast<CEditNNotificationHandler*>(nullptr)})
     {
         CEditDoubleWithRange quiet(pHandler);
         ASSERT_TRUE(quiet.Create(WS_CHILD, CRect(0, 0, 50, 20), &dialog, IDC_CREATED));
@@ -220,7 +224,8 @@ TEST_F(SpinBox, HasItsUnitLabelBesideIt)
     const CRect spin = RectIn(dialog, dialog.OwnSpin());
     CRect label = RectIn(dialog, dialog.OwnLabel());
     EXPECT_EQ(TextOf(dialog.OwnLabel()), L"mm");
-    EXPECT_GE(spin.left, edit.right - ::GetSystemMetrics(SM_CXEDGE)) << "the spin took its width from the box";
+    EXPECT_GE(spin.left, edit.right - ::GetSystemMetrics(SM_CXEDGE))
+        << "the spin took its width from the box";
     EXPECT_LE(spin.left, edit.right);
 
     CRect client;
@@ -239,7 +244,8 @@ TEST_F(SpinBox, HasItsUnitLabelBesideIt)
     box.SetComplexUnit(CComplexUnit(CMeasurementUnit(), 0));
     label = RectIn(dialog, dialog.OwnLabel());
     const int nSymbolGap = TextWidth(dialog, L" ") + ::GetSystemMetrics(SM_CXEDGE);
-    EXPECT_EQ(label.left, nLeft - nSymbolGap + 1) << "without a symbol there is one pixel in place of the gap";
+    EXPECT_EQ(label.left, nLeft - nSymbolGap + 1)
+        << "without a symbol there is one pixel in place of the gap";
     EXPECT_EQ(label.Width(), 1);
 }
 
@@ -267,6 +273,7 @@ TEST_F(SpinBox, TakesItsOwnControlsWithItAndMayBeMadeAgain)
         EXPECT_EQ(dialog.GetDlgItem(box.GetSpinCtrlId()), nullptr);
         EXPECT_EQ(dialog.GetDlgItem(box.GetComplexUnitStaticId()), nullptr);
         EXPECT_TRUE(::IsWindow(givenSpin)) << "the template's stays";
+        EXPECT_EQ(CWnd::FromHandlePermanent(givenSpin), nullptr) << "and is let go";
 
         ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, place, &dialog, IDC_OWN));
         ASSERT_TRUE(dialog.given.Create(WS_CHILD | WS_VISIBLE, place, &dialog, IDC_GIVEN));
@@ -279,13 +286,15 @@ TEST(SpinBoxParent, MayHaveNoFont)
 {
     CWnd parent;
     ASSERT_TRUE(parent.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 300, 100), nullptr, 0));
-    CEditDoubleWithRange box(nullptr, CEditDoubleWithRange::c_nCreateControl, CEditDoubleWithRange::c_nCreateControl);
+    CEditDoubleWithRange box(nullptr, CEditDoubleWithRange::c_nCreateControl,
+                             CEditDoubleWithRange::c_nCreateControl);
     box.SetComplexUnit(kMillimetre);
     ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 90, 30), &parent, IDC_OWN));
     CWnd& label = *parent.GetDlgItem(box.GetComplexUnitStaticId());
     EXPECT_EQ(TextOf(label), L"mm") << "a unit that is set before there is a window is shown from the start";
     EXPECT_EQ(RectIn(parent, label).Width(), TextWidth(parent, L"mm"));
-    EXPECT_EQ(RectIn(parent, label).left, ExpectedLabelLeft(parent, box, *parent.GetDlgItem(box.GetSpinCtrlId())));
+    EXPECT_EQ(RectIn(parent, label).left,
+              ExpectedLabelLeft(parent, box, *parent.GetDlgItem(box.GetSpinCtrlId())));
     parent.DestroyWindow();
 }
 
@@ -335,7 +344,8 @@ TEST(SpinBoxLeaks, NoneFromADialogOfFortyOpenedAHundredTimes)
     private:
         std::optional<CEditDoubleWithRange> m_boxes[40];
     };
-    const auto openAndClose = [] {
+    const auto openAndClose = []
+    {
         FortyDialog dialog;
         ASSERT_TRUE(dialog.Create(IDD_HIDDEN));
         dialog.DestroyWindow();

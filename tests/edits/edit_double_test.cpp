@@ -66,15 +66,17 @@ TEST_F(DoubleBox, BringsATypedNumberIntoTheRangeAtOnceAndTheTextOnLeaving)
 
 TEST_F(DoubleBox, TakesTheNumberAtTheBeginningOfTheText)
 {
+    // clang-format off
     const struct
     {
         const wchar_t* text;
         double value;
     } parses[] = {
-        {L"12", 12.0},   {L"12kN", 12.0}, {L"  -.5", -0.5}, {L"+5.", 5.0}, {L"1e3", 1000.0},
-        {L"1,5", 1.0},   {L"12em", 12.0}, {L"3 4", 3.0},    {L"1e308", 1e308},
+        {L"12", 12.0}, {L"12kN", 12.0}, {L"  -.5", -0.5}, {L"+5.", 5.0}, {L"1e3", 1000.0},
+        {L"1,5", 1.0}, {L"12em", 12.0}, {L"3 4", 3.0}, {L"1e308", 1e308},
         {L"1234567890123456789012345678901234567890", 1234567890123456789012345678901234567890.0},
     };
+    // clang-format on
     for (const auto& good : parses)
     {
         box.SetWindowText(good.text);
@@ -82,7 +84,8 @@ TEST_F(DoubleBox, TakesTheNumberAtTheBeginningOfTheText)
         EXPECT_EQ(box.GetValue(), good.value) << good.text;
     }
     box.SetValue(4.0);
-    for (const wchar_t* bad : {L"", L" ", L"abc", L"-", L".", L"e5", L"--5", L"1e999", L"-1e999", L"nan", L"inf"})
+    for (const wchar_t* bad :
+         {L"", L" ", L"abc", L"-", L".", L"e5", L"--5", L"1e999", L"-1e999", L"nan", L"inf"})
     {
         box.SetWindowText(bad);
         EXPECT_FALSE(box.ValidateAndStoreDataFromGUI()) << bad;

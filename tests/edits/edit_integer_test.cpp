@@ -32,10 +32,13 @@ TEST_F(IntegerBox, IsNewWithZeroAndWithoutRange)
 
 TEST_F(IntegerBox, TakesDigitsWithAnOptionalMinusAndNothingElse)
 {
+    // clang-format off
     const std::pair<const wchar_t*, int> parses[] = {
-        {L"7", 7}, {L" -12\t", -12}, {L"007", 7}, {L"-0", 0}, {L"2147483647", INT_MAX}, {L"-2147483648", INT_MIN},
+        {L"7", 7}, {L" -12\t", -12}, {L"007", 7}, {L"-0", 0},
+        {L"2147483647", INT_MAX}, {L"-2147483648", INT_MIN},
         {L"00000000000000000000000000000000000000005", 5},
     };
+    // clang-format on
     for (const auto& [text, value] : parses)
     {
         box.SetWindowText(text);
@@ -43,8 +46,8 @@ TEST_F(IntegerBox, TakesDigitsWithAnOptionalMinusAndNothingElse)
         EXPECT_EQ(box.GetValue(), value) << text;
     }
     box.SetValue(4);
-    for (const wchar_t* bad : {L"", L"  ", L"-", L"+5", L"5-", L"--5", L"- 5", L"1 2", L"1.0", L"1e3", L"0x1", L"12x",
-                               L"\u0663", L"2147483648", L"-2147483649", L"99999999999999999999",
+    for (const wchar_t* bad : {L"", L"  ", L"-", L"+5", L"5-", L"--5", L"- 5", L"1 2", L"1.0", L"1e3", L"0x1",
+                               L"12x", L"\u0663", L"2147483648", L"-2147483649", L"99999999999999999999",
                                L"1234567890123456789012345678901234567890"})
     {
         box.SetWindowText(bad);
@@ -58,7 +61,8 @@ TEST_F(IntegerBox, GivesTheValueBackForATextThatIsNone)
 {
     box.SetValue(42);
     TypeInto(box, L"12x");
-    EXPECT_EQ(handler.Take(), (Calls{"change 1014", "change 1014", "change 1014"})) << "each keystroke is told";
+    EXPECT_EQ(handler.Take(), (Calls{"change 1014", "change 1014", "change 1014"}))
+        << "each keystroke is told";
     EXPECT_EQ(box.GetValue(), 12) << "the last text that was a number";
     Leave(box);
     EXPECT_EQ(Text(), L"12");

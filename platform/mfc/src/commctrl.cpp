@@ -119,7 +119,7 @@ CSliderCtrl::~CSliderCtrl()
 
 BOOL CSliderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -308,7 +308,7 @@ CProgressCtrl::~CProgressCtrl()
 
 BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -389,7 +389,7 @@ CHotKeyCtrl::~CHotKeyCtrl()
 
 BOOL CHotKeyCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CHotKeyCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -466,7 +466,7 @@ CHeaderCtrl::~CHeaderCtrl()
 
 BOOL CHeaderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -612,7 +612,7 @@ CTabCtrl::~CTabCtrl()
 
 BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -822,7 +822,7 @@ CStatusBarCtrl::~CStatusBarCtrl()
 
 BOOL CStatusBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CStatusBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)

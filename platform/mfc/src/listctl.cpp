@@ -25,7 +25,7 @@ END_MESSAGE_MAP()
 
 BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)

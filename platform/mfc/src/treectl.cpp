@@ -25,7 +25,7 @@ END_MESSAGE_MAP()
 
 BOOL CTreeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CreateEx(0, dwStyle, rect, pParentWnd, nID);
+    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
