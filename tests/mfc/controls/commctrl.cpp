@@ -4,6 +4,29 @@
 
 #include <gtest/gtest.h>
 
+namespace
+{
+template <class Control> bool IsMadeAsChild(HostWindow& host)
+{
+    Control control;
+    return control.Create(WS_VISIBLE, CRect(0, 0, 80, 20), &host, 7) && control.GetParent() == &host;
+}
+} // namespace
+
+TEST(CommonControls, AreChildrenWithoutBeingAskedToBe)
+{
+    HostWindow host;
+    EXPECT_TRUE(IsMadeAsChild<CSpinButtonCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CSliderCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CProgressCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CHotKeyCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CHeaderCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CTabCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CStatusBarCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CListCtrl>(host));
+    EXPECT_TRUE(IsMadeAsChild<CTreeCtrl>(host));
+}
+
 TEST(SpinButton, ShowsItsPositionInTheBuddyAndKeepsWideRanges)
 {
     HostWindow host;
