@@ -43,12 +43,18 @@ double Median(std::vector<double> values)
 
 double Comparison::Measure() const
 {
+    if (m_number)
+        return *m_number;
     std::vector<double> ours, bare;
+    m_prepare();
     m_bare(); // both sides once unmeasured, to fill the caches
+    m_prepare();
     m_ours();
     for (int round = 0; round < m_rounds; ++round)
     {
+        m_prepare();
         bare.push_back(TimeOf(m_bare));
+        m_prepare();
         ours.push_back(TimeOf(m_ours));
     }
     return Median(ours) / Median(bare);

@@ -10,6 +10,7 @@
 // A benchmark registers itself. Seconds are never printed: they tell of the machine.
 
 #include <functional>
+#include <optional>
 #include <string_view>
 
 /// The two sides of a measurement, and how often each is run.
@@ -20,11 +21,17 @@ public:
     void Ours(std::function<void()> work) { m_ours = std::move(work); }
     void Bare(std::function<void()> work) { m_bare = std::move(work); }
     void Rounds(int count) { m_rounds = count; }
+    /// Runs before each run of either side, and is not measured.
+    void Prepare(std::function<void()> work) { m_prepare = std::move(work); }
+    /// A plain number in place of a ratio: bytes for a cell, for instance. `measure` then prints it.
+    void Number(double value) { m_number = value; }
 
-    /// Time of our side by time of the bare side.
+    /// Time of our side by time of the bare side; or the number.
     double Measure() const;
 
 private:
+    std::function<void()> m_prepare = [] {};
+    std::optional<double> m_number;
     std::function<void()> m_ours;
     std::function<void()> m_bare;
     int m_rounds = 31;

@@ -11,6 +11,8 @@
     X(Numbers)                                                                                               \
     X(Buttons)                                                                                               \
     X(MessageBoxes)                                                                                          \
+    X(Grid)                                                                                                  \
+    X(VirtualGrid)                                                                                           \
     X(Icons)                                                                                                 \
     X(Pictures)
 

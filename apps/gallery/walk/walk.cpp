@@ -131,12 +131,50 @@ void UseMessageBoxes(CWnd& page)
     UseBox(page, 6, VK_RETURN, L"IDOK", s_directory + L"message_box_long.png");
 }
 
+/// A cell's middle, in the client area of the grid.
+CPoint CellIn(CGridCtrl& grid, int nRow, int nCol)
+{
+    CRect rect;
+    Require(grid.GetCellRect(nRow, nCol, rect), L"the cell does not show");
+    return rect.CenterPoint();
+}
+
+void UseGrid(CWnd& page)
+{
+    auto& grid = static_cast<CGridCtrl&>(*page.GetDlgItem(IDC_GRID));
+    constexpr int kLength = 2, kPieces = 3, kWeight = 4;
+    owtest::Click(grid, CellIn(grid, 3, kLength));
+    owtest::Type(L"5000");
+    owtest::Press(VK_TAB);
+    owtest::Type(L"9");
+    owtest::Press(VK_RETURN);
+    Require(owtest::PumpUntil([&] { return grid.GetItemText(3, kWeight) == _T("1368.0"); }), L"no weight");
+    owtest::Click(grid, CellIn(grid, 0, kPieces));
+    Require(owtest::PumpUntil([&] { return grid.GetSortColumn() == kPieces; }), L"the heading does not sort");
+    owtest::ButtonDown(grid, CellIn(grid, 2, 1));
+    owtest::MoveTo(grid, CellIn(grid, 4, kPieces));
+    owtest::ButtonUp();
+    Require(owtest::PumpUntil([&] { return grid.GetSelectedCount() == 9; }), L"the drag does not select");
+}
+
+void UseVirtualGrid(CWnd& page)
+{
+    auto& grid = static_cast<CGridCtrl&>(*page.GetDlgItem(IDC_VIRTUAL_GRID));
+    owtest::Click(*page.GetDlgItem(IDC_VIRTUAL_GO));
+    Require(owtest::PumpUntil([&] { return grid.GetFocusCell().row == 500000; }), L"the row does not show");
+    owtest::Press(VK_NEXT);
+    owtest::Press(VK_DOWN);
+    Require(owtest::PumpUntil([&] { return grid.GetFocusCell().row > 500005; }), L"the page key does not move");
+}
+
 /// What is done on a page before its picture is taken, by title.
 const std::map<std::wstring, void (*)(CWnd&)> kUses = {
     {L"Buttons", UseButtons},
+    {L"Grid", UseGrid},
     {L"Message boxes", UseMessageBoxes},
     {L"Text boxes", UseTextBoxes},
     {L"Numbers", UseNumbers},
+    {L"Virtual grid", UseVirtualGrid},
 };
 
 std::wstring FileName(const std::wstring& title)

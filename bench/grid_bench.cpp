@@ -1,0 +1,374 @@
+// The grid beside the system's list view, in one process: the same data, ten columns, texts of six characters.
+
+#include <DialogControlsOW.h>
+
+#include "Bench.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace
+{
+constexpr int kCols = 10;
+constexpr int kMany = 50000;
+const CSize kClient(1200, 900);
+
+/// Texts made beforehand, so that only storing them is measured. In no order.
+const std::vector<std::wstring>& Texts()
+{
+    static const std::vector<std::wstring> texts = [] {
+        std::vector<std::wstring> all;
+        for (unsigned i = 0; i < kMany * kCols; ++i)
+        {
+            wchar_t text[16];
+            swprintf(text, 16, L"%06u", (i * 7919u) % 1000003u % 1000000u);
+            all.push_back(text);
+        }
+        return all;
+    }();
+    return texts;
+}
+
+const wchar_t* TextAt(int nRow, int nCol)
+{
+    return Texts()[(nRow % kMany) * kCols + nCol].c_str();
+}
+
+/// A top-level window with a client area for one control.
+class CStage : public CWnd
+{
+public:
+    CStage()
+    {
+        CreateEx(WS_EX_TOOLWINDOW, AfxRegisterWndClass(0), L"stage", WS_POPUP | WS_VISIBLE,
+                 CRect(CPoint(0, 0), kClient + CSize(40, 40)), nullptr, 0);
+    }
+    ~CStage() override { DestroyWindow(); }
+};
+
+class CBenchGrid : public CGridCtrl
+{
+public:
+    explicit CBenchGrid(CStage& stage)
+    {
+        Create(CRect(CPoint(0, 0), kClient + CSize(4, 4)), &stage, 1);
+        SetDoubleBuffering(FALSE);
+    }
+    void Fill(int nRows)
+    {
+        SetColumnCount(kCols);
+        SetRowCount(nRows);
+        for (int nRow = 0; nRow < nRows; ++nRow)
+            for (int nCol = 0; nCol < kCols; ++nCol)
+                SetItemText(nRow, nCol, TextAt(nRow, nCol));
+    }
+    void MakeVirtual(int nRows)
+    {
+        SetVirtualMode(TRUE);
+        SetCallbackFunc(
+            [](GV_DISPINFO* pInfo, LPARAM) {
+                pInfo->item.strText = TextAt(pInfo->item.row, pInfo->item.col);
+                return 0;
+            },
+            0);
+        SetColumnCount(kCols);
+        SetRowCount(nRows);
+    }
+    void Repaint() { RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+    void Scroll(UINT nCode)
+    {
+        SendMessage(WM_VSCROLL, nCode);
+        UpdateWindow();
+    }
+};
+
+class CBenchList : public CListCtrl
+{
+public:
+    explicit CBenchList(CStage& stage, DWORD dwStyle = 0)
+    {
+        Create(WS_CHILD | WS_VISIBLE | LVS_REPORT | dwStyle, CRect(CPoint(0, 0), kClient), &stage, 1);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            InsertColumn(nCol, L"column", LVCFMT_LEFT, 90);
+    }
+    void Fill(int nRows)
+    {
+        SetItemCount(nRows);
+        for (int nRow = 0; nRow < nRows; ++nRow)
+        {
+            LVITEM item{};
+            item.mask = LVIF_TEXT | LVIF_PARAM;
+            item.iItem = nRow;
+            item.lParam = nRow;
+            item.pszText = const_cast<wchar_t*>(TextAt(nRow, 0));
+            InsertItem(&item);
+            for (int nCol = 1; nCol < kCols; ++nCol)
+                SetItemText(nRow, nCol, TextAt(nRow, nCol));
+        }
+    }
+    void Repaint() { RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+};
+
+/// What is in use on all heaps of the process, with what the heaps need for it themselves.
+size_t HeapBytes()
+{
+    HANDLE heaps[64];
+    const DWORD nHeaps = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
+    size_t nBytes = 0;
+    for (DWORD i = 0; i < nHeaps; ++i)
+    {
+        ::HeapLock(heaps[i]);
+        for (PROCESS_HEAP_ENTRY entry{}; ::HeapWalk(heaps[i], &entry);)
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                nBytes += entry.cbData + entry.cbOverhead;
+        ::HeapUnlock(heaps[i]);
+    }
+    return nBytes;
+}
+
+void CompareFill(Comparison& compare, const std::function<void()>& measure, int nRows)
+{
+    Texts();
+    CStage stage, other;
+    CBenchGrid grid(stage);
+    CBenchList list(other);
+    compare.Rounds(3);
+    compare.Prepare([&] {
+        grid.DeleteAllItems();
+        list.DeleteAllItems();
+    });
+    compare.Ours([&] { grid.Fill(nRows); });
+    compare.Bare([&] {
+        list.SetRedraw(FALSE);
+        list.Fill(nRows);
+        list.SetRedraw(TRUE);
+    });
+    measure();
+}
+
+/// A filled rectangle and a text for each cell that shows in the grid, and nothing else.
+void PaintBare(CGridCtrl& grid, CWnd& window, CFont& font)
+{
+    CClientDC dc(&window);
+    CFont* const pOldFont = dc.SelectObject(&font);
+    dc.SetBkMode(TRANSPARENT);
+    CBrush brush(RGB(255, 255, 255));
+    const int nHeight = grid.GetRowHeight(1), nWidth = grid.GetColumnWidth(1);
+    for (int y = 0, nRow = 0; y < kClient.cy; y += nHeight, ++nRow)
+        for (int x = 0, nCol = 0; x < kClient.cx && nCol < kCols; x += nWidth, ++nCol)
+        {
+            const CRect rect(x, y, x + nWidth, y + nHeight);
+            dc.FillRect(&rect, &brush);
+            dc.ExtTextOut(x + 3, y + 3, ETO_CLIPPED, &rect, TextAt(nRow, nCol), 6, nullptr);
+        }
+    dc.SelectObject(pOldFont);
+}
+
+/// Both filled, painted and warm.
+struct Pair
+{
+    explicit Pair(DWORD dwListStyle = 0) : grid(gridStage), list(listStage, dwListStyle)
+    {
+        grid.Fill(1000);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+        list.Fill(1000);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            list.SetColumnWidth(nCol, kClient.cx / kCols);
+    }
+    CStage gridStage, listStage;
+    CBenchGrid grid;
+    CBenchList list;
+};
+
+void CompareScroll(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack)
+{
+    Pair pair;
+    compare.Ours([&] {
+        pair.grid.Scroll(nOn);
+        pair.grid.Scroll(nBack);
+    });
+    compare.Bare([&] {
+        for (const UINT nCode : {nOn, nBack})
+        {
+            pair.list.SendMessage(WM_VSCROLL, nCode);
+            pair.list.UpdateWindow();
+        }
+    });
+    measure();
+}
+
+/// The same work on fifty and on ten thousand rows: how it grows. Five times is in proportion.
+void CompareGrowth(Comparison& compare, const std::function<void()>& measure, void (*work)(CBenchGrid&))
+{
+    CStage stage, other;
+    CBenchGrid large(stage), small(other);
+    large.Fill(50000);
+    small.Fill(10000);
+    large.SetRedraw(FALSE); // as one does before many changes: painting the scroll bars would hide the rest
+    small.SetRedraw(FALSE);
+    compare.Rounds(3);
+    compare.Ours([&] { work(large); });
+    compare.Bare([&] { work(small); });
+    measure();
+}
+} // namespace
+
+static const Benchmark fill1("grid/fill/1000", 0.5, [](Comparison& compare, const auto& measure) {
+    CompareFill(compare, measure, 1000);
+});
+static const Benchmark fill2("grid/fill/10000", 0.2, [](Comparison& compare, const auto& measure) {
+    CompareFill(compare, measure, 10000);
+});
+static const Benchmark fill3("grid/fill/50000", 0.2, [](Comparison& compare, const auto& measure) {
+    CompareFill(compare, measure, kMany);
+});
+
+static const Benchmark bytes("grid/bytes_per_cell", 200, [](Comparison& compare, const auto& measure) {
+    Texts();
+    CStage stage;
+    CBenchGrid grid(stage);
+    const size_t before = HeapBytes();
+    grid.Fill(kMany);
+    compare.Number(double(HeapBytes() - before) / (kMany * kCols));
+    measure();
+});
+
+static const Benchmark repaintBare("grid/repaint/bare_loop", 2, [](Comparison& compare, const auto& measure) {
+    Pair pair;
+    compare.Ours([&] { pair.grid.Repaint(); });
+    compare.Bare([&] { PaintBare(pair.grid, pair.listStage, *pair.grid.GetFont()); });
+    pair.list.ShowWindow(SW_HIDE);
+    measure();
+});
+static const Benchmark repaintList("grid/repaint/list_view", 0.125, [](Comparison& compare, const auto& measure) {
+    Pair pair;
+    compare.Ours([&] { pair.grid.Repaint(); });
+    compare.Bare([&] { pair.list.Repaint(); });
+    measure();
+});
+
+static const Benchmark scrollLine("grid/scroll/line", 0.5, [](Comparison& compare, const auto& measure) {
+    CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP);
+});
+static const Benchmark scrollPage("grid/scroll/page", 0.5, [](Comparison& compare, const auto& measure) {
+    CompareScroll(compare, measure, SB_PAGEDOWN, SB_PAGEUP);
+});
+
+static const Benchmark sortList("grid/sort/list_view", 0.025, [](Comparison& compare, const auto& measure) {
+    CStage stage, other;
+    CBenchGrid grid(stage);
+    CBenchList list(other);
+    compare.Rounds(1);
+    compare.Prepare([&] {
+        grid.DeleteAllItems();
+        grid.Fill(kMany);
+    });
+    list.Fill(kMany);
+    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
+    compare.Bare([&] {
+        // By the other column at each turn, so that there is something to do.
+        static int nCol = 0;
+        nCol = 1 - nCol;
+        struct Order
+        {
+            CBenchList* list;
+            int col;
+        } order{&list, nCol};
+        const auto byText = [](LPARAM first, LPARAM second, LPARAM data) -> int {
+            const auto& [sorted, col] = *reinterpret_cast<Order*>(data);
+            wchar_t one[16], two[16];
+            sorted->GetItemText(static_cast<int>(first), col, one, 16);
+            sorted->GetItemText(static_cast<int>(second), col, two, 16);
+            return wcscmp(one, two);
+        };
+        list.SendMessage(LVM_SORTITEMSEX, reinterpret_cast<WPARAM>(&order),
+                         reinterpret_cast<LPARAM>(static_cast<PFNLVCOMPARE>(byText)));
+    });
+    measure();
+});
+
+static const Benchmark sortBare("grid/sort/std_sort_of_pointers", 15, [](Comparison& compare, const auto& measure) {
+    CStage stage;
+    CBenchGrid grid(stage);
+    std::vector<const std::wstring*> pointers;
+    compare.Rounds(3);
+    compare.Prepare([&] {
+        grid.DeleteAllItems();
+        grid.Fill(kMany);
+        pointers.clear();
+        for (int nRow = 0; nRow < kMany; ++nRow)
+            pointers.push_back(&Texts()[nRow * kCols]);
+    });
+    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
+    compare.Bare([&] {
+        std::sort(pointers.begin(), pointers.end(), [](const auto* one, const auto* two) { return *one < *two; });
+    });
+    measure();
+});
+
+static const Benchmark virtualMillion("grid/virtual/million_rows", 1.5, [](Comparison& compare, const auto& measure) {
+    Texts();
+    CStage stage;
+    CBenchGrid grid(stage);
+    const auto use = [&](int nRows) {
+        grid.MakeVirtual(nRows);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+        grid.Repaint();
+        grid.Scroll(SB_BOTTOM);
+        grid.Repaint();
+    };
+    compare.Ours([&] { use(1000000); });
+    compare.Bare([&] { use(1000); });
+    measure();
+});
+
+static const Benchmark virtualList("grid/virtual/repaint_list_view", 0.5, [](Comparison& compare, const auto& measure) {
+    Texts();
+    class COwner : public CStage
+    {
+        BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override
+        {
+            auto& info = *reinterpret_cast<NMLVDISPINFOW*>(lParam);
+            if (info.hdr.code == LVN_GETDISPINFOW && (info.item.mask & LVIF_TEXT))
+                info.item.pszText = const_cast<wchar_t*>(TextAt(info.item.iItem, info.item.iSubItem));
+            return TRUE;
+        }
+    } other;
+    CStage stage;
+    CBenchGrid grid(stage);
+    grid.MakeVirtual(1000000);
+    CBenchList list(other, LVS_OWNERDATA);
+    list.SendMessage(LVM_SETITEMCOUNT, 1000000, LVSICF_NOINVALIDATEALL);
+    for (int nCol = 0; nCol < kCols; ++nCol)
+    {
+        grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+        list.SetColumnWidth(nCol, kClient.cx / kCols);
+    }
+    compare.Ours([&] { grid.Repaint(); });
+    compare.Bare([&] { list.Repaint(); });
+    measure();
+});
+
+static const Benchmark growSelect("grid/growth/select_all_and_none", 6, [](Comparison& compare, const auto& measure) {
+    CompareGrowth(compare, measure, [](CBenchGrid& grid) {
+        grid.SetSelectedRange(grid.GetCellRange());
+        grid.SetSelectedRange(-1, -1, -1, -1);
+    });
+});
+static const Benchmark growHeights("grid/growth/every_row_height", 6, [](Comparison& compare, const auto& measure) {
+    CompareGrowth(compare, measure, [](CBenchGrid& grid) {
+        for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+            grid.SetRowHeight(nRow, grid.GetRowHeight(nRow) ^ 1);
+    });
+});
+static const Benchmark growRows("grid/growth/rows_at_the_front", 6, [](Comparison& compare, const auto& measure) {
+    CompareGrowth(compare, measure, [](CBenchGrid& grid) {
+        for (int i = 0; i < 10000; ++i)
+            grid.InsertRow(L"new", 0);
+        for (int i = 0; i < 10000; ++i)
+            grid.DeleteRow(0);
+    });
+});

@@ -1,0 +1,160 @@
+#include <afxwin.h>
+
+#include "cells/InPlaceList.h"
+
+#include <algorithm>
+
+CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
+                           COLORREF crFore, COLORREF crBack, CStringArray& Items, CString sInitText, UINT nFirstChar)
+    : m_sInitText(sInitText), m_nRow(nRow), m_nColumn(nColumn), m_crForeClr(crFore), m_crBackClr(crBack)
+{
+    // The height of a combo box is that of its open list.
+    CRect rectOpen(rect);
+    rectOpen.bottom += ::GetSystemMetrics(SM_CYHSCROLL) + rect.Height() * m_nNumLines;
+    if (Create(dwStyle | WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_BORDER | CBS_AUTOHSCROLL, rectOpen, pParent, nID))
+    {
+        for (INT_PTR i = 0; i < Items.GetSize(); ++i)
+            AddString(Items[i]);
+        SetFont(pParent->GetFont());
+        SetItemHeight(-1, rect.Height());
+        SetDroppedWidth(GetCorrectDropWidth());
+        SetHorizontalExtent(0);
+        if (SelectString(-1, sInitText) == CB_ERR)
+            SetWindowText(sInitText);
+        TakeFirstChar(nFirstChar);
+    }
+    m_bConstructed = true;
+}
+
+// The character is sent, not posted, and Tab and the blank count as characters, unlike in CInPlaceEdit.
+void CInPlaceList::TakeFirstChar(UINT nChar)
+{
+    if (IsDropList())
+    {
+        ShowDropDown();
+        SetFocus();
+        return;
+    }
+    m_edit.SubclassDlgItem(ComboEditId, this);
+    SetFocus();
+
+    const bool bToEnd = nChar == VK_LBUTTON || nChar == VK_RETURN || nChar == VK_BACK;
+    const bool bDropped = nChar >= VK_PRIOR && nChar <= VK_DOWN;
+    m_edit.SendMessage(EM_SETSEL, bToEnd ? m_edit.GetWindowTextLength() : 0, -1);
+    if (nChar == VK_BACK || (!bToEnd && !bDropped))
+        SendMessage(WM_CHAR, nChar);
+}
+
+BEGIN_MESSAGE_MAP(CInPlaceList, CComboBox)
+    ON_WM_KILLFOCUS()
+    ON_WM_KEYDOWN()
+    ON_WM_KEYUP()
+    ON_CONTROL_REFLECT(CBN_DROPDOWN, OnDropdown)
+    ON_WM_GETDLGCODE()
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_CONTROL_REFLECT(CBN_SELENDOK, OnSelendok)
+END_MESSAGE_MAP()
+
+// With an edit part, that one decides: the focus goes back and forth between the two.
+void CInPlaceList::OnKillFocus(CWnd* pNewWnd)
+{
+    CComboBox::OnKillFocus(pNewWnd);
+    if (::GetFocus() == m_hWnd || !IsDropList())
+        return;
+    EndEdit();
+}
+
+void CInPlaceList::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    if (gfnIsCellMoveKey(nChar) && (m_bExitOnArrows || ::GetKeyState(VK_CONTROL) < 0))
+        Leave(nChar);
+    else
+        CComboBox::OnKeyDown(nChar, nRepCnt, nFlags);
+}
+
+void CInPlaceList::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    if (nChar == VK_ESCAPE)
+        SetWindowText(m_sInitText);
+    if (nChar == VK_ESCAPE || nChar == VK_TAB || nChar == VK_RETURN)
+        Leave(nChar);
+    else
+        CComboBox::OnKeyUp(nChar, nRepCnt, nFlags);
+}
+
+void CInPlaceList::OnDropdown()
+{
+    SetDroppedWidth(GetCorrectDropWidth());
+}
+
+UINT CInPlaceList::OnGetDlgCode()
+{
+    return DLGC_WANTALLKEYS;
+}
+
+HBRUSH CInPlaceList::CtlColor(CDC* /*pDC*/, UINT /*nCtlColor*/)
+{
+    return nullptr;
+}
+
+// A choice from the list ends the edit at once.
+void CInPlaceList::OnSelendok()
+{
+    const int nSel = GetCurSel();
+    if (nSel != CB_ERR)
+    {
+        CString strText;
+        GetLBText(nSel, strText);
+        if (!IsDropList())
+            m_edit.SetWindowText(strText);
+    }
+    if (CWnd* const pParent = GetParent())
+        pParent->SetFocus();
+}
+
+void CInPlaceList::PostNcDestroy()
+{
+    CComboBox::PostNcDestroy();
+    if (m_bConstructed)
+        delete this;
+}
+
+void CInPlaceList::EndEdit()
+{
+    CString strText;
+    if (::IsWindow(m_hWnd))
+        GetWindowText(strText);
+    NotifyEnd(*this, m_nRow, m_nColumn, m_nLastChar, strText);
+}
+
+int CInPlaceList::GetCorrectDropWidth()
+{
+    constexpr int kWidest = 200;
+    CClientDC dc(this);
+    const int nSavedDC = dc.SaveDC();
+    dc.SelectObject(GetFont());
+
+    int nWidth = 0;
+    for (int i = 0; i < GetCount(); ++i)
+    {
+        CString strItem;
+        GetLBText(i, strItem);
+        nWidth = std::max<int>(nWidth, dc.GetTextExtent(strItem).cx + ::GetSystemMetrics(SM_CXVSCROLL));
+    }
+    nWidth += dc.GetTextExtent(L"0", 1).cx;
+    dc.RestoreDC(nSavedDC);
+    return std::min(nWidth, kWidest);
+}
+
+bool CInPlaceList::IsDropList() const
+{
+    return (GetStyle() & 3) == CBS_DROPDOWNLIST;
+}
+
+/// Giving the focus away is what ends the edit; the list may be gone when this returns.
+void CInPlaceList::Leave(UINT nLastChar)
+{
+    m_nLastChar = nLastChar;
+    if (CWnd* const pParent = GetParent())
+        pParent->SetFocus();
+}

@@ -1,0 +1,78 @@
+#pragma once
+// One direction of a grid, its rows or its columns: how many there are, how many of them are fixed, and how many
+// pixels each takes. Rows and columns mirror each other here completely, so this is written once.
+//
+// Positions are in pixels from the edge of the client area. Fixed items stand at its edge and never scroll; behind
+// them the others begin with the item `nFirst`, the first that is scrolled into view. An item of size 0 is hidden and
+// stays in the count.
+//
+//      0        FixedExtent()                                  client end
+//      | 0 | 1 |  nFirst  | nFirst + 1 |  ...       | last, partly shown
+//
+// Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing the sizes
+// one after the other, or adding items at the front, does not sum up all the others each time.
+
+#include <afxcoll.h>
+
+#include "module/Export.h"
+
+class OW_DIALOGCONTROLS_API CGridAxis
+{
+public:
+    int Count() const { return m_nCount; }
+    int Fixed() const { return m_nFixed; }
+    bool Has(int nItem) const { return nItem >= 0 && nItem < m_nCount; }
+    bool IsFixed(int nItem) const { return nItem < m_nFixed; }
+    bool IsShown(int nItem) const { return Has(nItem) && Size(nItem) > 0; }
+    int Size(int nItem) const { return static_cast<int>(m_sizes[nItem]); }
+
+    /// Fixed items beyond the count cannot be: the caller sees to that.
+    void SetFixed(int nFixed) { m_nFixed = nFixed; }
+    void SetSize(int nItem, int nSize);
+    /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if need be.
+    /// Memory exceptions leave everything as it was.
+    void SetCount(int nCount, int nSizeOfNew);
+    /// Makes room, so that SetCount up to that number cannot fail.
+    void Reserve(int nCount);
+    void SetAllSizes(int nSize);
+    void Insert(int nItem, int nSize);
+    /// Takes an item away; one less is fixed if it was.
+    void Remove(int nItem);
+    void Swap(int nItem, int nOther);
+
+    /// Pixels of all items before this one; `nItem` may be the count.
+    int Offset(int nItem) const;
+    int Extent() const { return static_cast<int>(m_nExtent); }
+    int FixedExtent() const { return Offset(m_nFixed); }
+
+    /// The first item that shows behind the fixed ones at a scroll position. A position inside an item gives the next
+    /// one. Never past the last item, unless all are fixed.
+    int FirstAt(int nScrollPos) const;
+
+    /// Where an item starts that is fixed or not before `nFirst`.
+    int Origin(int nItem, int nFirst) const;
+
+    /// The item at a position, or -1. A fixed one only if `bFixedToo`.
+    int ItemAt(int nPos, int nFirst, bool bFixedToo) const;
+
+    /// What shows of the items from `nFirst` on in a client area.
+    struct SVisible
+    {
+        int nLast;            ///< the last item that shows at least in part; at most the last of all
+        int nEnd;             ///< where the items end: the end of the last one, which may lie beyond the client area
+        bool bReachesEnd;     ///< the items fill the client area
+    };
+    SVisible Visible(int nFirst, int nClientEnd) const;
+
+private:
+    LONGLONG SumTo(int nItem) const;
+    int FirstWithSum(int nFrom, LONGLONG nSum) const;
+    void SizesChangeFrom(int nItem);
+
+    int m_nCount = 0;
+    int m_nFixed = 0;
+    LONGLONG m_nExtent = 0;
+    CUIntArray m_sizes;
+    mutable CArray<LONGLONG, LONGLONG> m_sums; ///< one more than items: m_sums[i] is what all before i take
+    mutable int m_nSummed = 0;                 ///< m_sums is right up to this index
+};

@@ -1,0 +1,275 @@
+// Text, state, colours and the rest of single cells, by row and column.
+
+#include <afxwin.h>
+
+#include "grid/GridCtrl.h"
+
+#include <cstdarg>
+
+// ---- Access --------------------------------------------------------------------------------------------------
+
+/// The cell that a setter may change; null in virtual mode, where there is nothing that could keep the change.
+CGridCellBase* CGridCtrl::GetCellToChange(int nRow, int nCol) const
+{
+    return m_bVirtualMode ? nullptr : GetCell(nRow, nCol);
+}
+
+/// The books after a change of text, data or image.
+void CGridCtrl::ItemChanged(int nRow, int nCol)
+{
+    SetModified(TRUE, nRow, nCol);
+}
+
+BOOL CGridCtrl::SetItemText(int nRow, int nCol, LPCWSTR str)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetText(str);
+    ItemChanged(nRow, nCol);
+    return TRUE;
+}
+
+BOOL CGridCtrl::SetItemTextFmt(int nRow, int nCol, LPCWSTR szFmt, ...)
+{
+    CString strText;
+    va_list arguments;
+    va_start(arguments, szFmt);
+    strText.FormatV(szFmt, arguments);
+    va_end(arguments);
+    return SetItemText(nRow, nCol, strText);
+}
+
+BOOL CGridCtrl::SetItemTextFmtID(int nRow, int nCol, UINT nID, ...)
+{
+    CString strFormat;
+    CString strText;
+    if (strFormat.LoadString(nID))
+    {
+        va_list arguments;
+        va_start(arguments, nID);
+        strText.FormatV(strFormat, arguments);
+        va_end(arguments);
+    }
+    return SetItemText(nRow, nCol, strText);
+}
+
+CString CGridCtrl::GetItemText(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? CString(pCell->GetText()) : CString();
+}
+
+BOOL CGridCtrl::SetItemData(int nRow, int nCol, LPARAM lParam)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetData(lParam);
+    ItemChanged(nRow, nCol);
+    return TRUE;
+}
+
+LPARAM CGridCtrl::GetItemData(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetData() : 0;
+}
+
+BOOL CGridCtrl::SetItemImage(int nRow, int nCol, int iImage)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetImage(iImage);
+    ItemChanged(nRow, nCol);
+    return TRUE;
+}
+
+int CGridCtrl::GetItemImage(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetImage() : -1;
+}
+
+UINT CGridCtrl::GetItemState(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetState() : 0;
+}
+
+// Looks do not count as a modification.
+
+BOOL CGridCtrl::SetItemFormat(int nRow, int nCol, UINT nFormat)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetFormat(nFormat);
+    return TRUE;
+}
+
+UINT CGridCtrl::GetItemFormat(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetFormat() : 0;
+}
+
+BOOL CGridCtrl::SetItemBkColour(int nRow, int nCol, COLORREF cr)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetBackClr(cr);
+    return TRUE;
+}
+
+COLORREF CGridCtrl::GetItemBkColour(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetBackClr() : 0;
+}
+
+BOOL CGridCtrl::SetItemFgColour(int nRow, int nCol, COLORREF cr)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetTextClr(cr);
+    return TRUE;
+}
+
+COLORREF CGridCtrl::GetItemFgColour(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetTextClr() : 0;
+}
+
+BOOL CGridCtrl::SetItemFont(int nRow, int nCol, const LOGFONTW* plf)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    pCell->SetFont(plf);
+    return TRUE;
+}
+
+const LOGFONTW* CGridCtrl::GetItemFont(int nRow, int nCol) const
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetFont() : GetDefaultCell(m_rows.IsFixed(nRow), m_cols.IsFixed(nCol))->GetFont();
+}
+
+CSize CGridCtrl::GetCellTextExtent(int nRow, int nCol)
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetTextExtent(pCell->GetText(), nullptr) : CSize(0, 0);
+}
+
+CSize CGridCtrl::GetTextExtent(int nRow, int nCol, LPCWSTR str)
+{
+    CGridCellBase* const pCell = GetCell(nRow, nCol);
+    return pCell ? pCell->GetTextExtent(str, nullptr) : CSize(0, 0);
+}
+
+// ---- Several at once -----------------------------------------------------------------------------------------
+
+// Counts as a modification whatever the mask says.
+BOOL CGridCtrl::SetItem(const GV_ITEM* pItem)
+{
+    CGridCellBase* const pCell = pItem ? GetCellToChange(pItem->row, pItem->col) : nullptr;
+    if (!pCell)
+        return FALSE;
+    SetModified(TRUE, pItem->row, pItem->col);
+
+    if (pItem->mask & GV_MASK_TEXT)
+        pCell->SetText(pItem->strText);
+    if (pItem->mask & GV_MASK_PARAM)
+        pCell->SetData(pItem->lParam);
+    if (pItem->mask & GV_MASK_IMAGE)
+        pCell->SetImage(pItem->iImage);
+    if (pItem->mask & GV_MASK_STATE)
+        SetItemState(pItem->row, pItem->col, pItem->nState);
+    if (pItem->mask & GV_MASK_FORMAT)
+        pCell->SetFormat(pItem->nFormat);
+    if (pItem->mask & GV_MASK_BKCLR)
+        pCell->SetBackClr(pItem->crBkClr);
+    if (pItem->mask & GV_MASK_FGCLR)
+        pCell->SetTextClr(pItem->crFgClr);
+    if (pItem->mask & GV_MASK_FONT)
+        pCell->SetFont(&pItem->lfFont);
+    if (pItem->mask & GV_MASK_MARGIN)
+        pCell->SetMargin(pItem->nMargin);
+    return TRUE;
+}
+
+BOOL CGridCtrl::GetItem(GV_ITEM* pItem)
+{
+    CGridCellBase* const pCell = pItem ? GetCell(pItem->row, pItem->col) : nullptr;
+    if (!pCell)
+        return FALSE;
+
+    if (pItem->mask & GV_MASK_TEXT)
+        pItem->strText = GetItemText(pItem->row, pItem->col);
+    if (pItem->mask & GV_MASK_PARAM)
+        pItem->lParam = pCell->GetData();
+    if (pItem->mask & GV_MASK_IMAGE)
+        pItem->iImage = pCell->GetImage();
+    if (pItem->mask & GV_MASK_STATE)
+        pItem->nState = pCell->GetState();
+    if (pItem->mask & GV_MASK_FORMAT)
+        pItem->nFormat = pCell->GetFormat();
+    if (pItem->mask & GV_MASK_BKCLR)
+        pItem->crBkClr = pCell->GetBackClr();
+    if (pItem->mask & GV_MASK_FGCLR)
+        pItem->crFgClr = pCell->GetTextClr();
+    const LOGFONTW* const plf = pItem->mask & GV_MASK_FONT ? pCell->GetFont() : nullptr;
+    if (plf)
+        pItem->lfFont = *plf;
+    if (pItem->mask & GV_MASK_MARGIN)
+        pItem->nMargin = pCell->GetMargin();
+    return TRUE;
+}
+
+// ---- Modified and editable -----------------------------------------------------------------------------------
+
+void CGridCtrl::SetModified(BOOL bModified, int nRow, int nCol)
+{
+    if (nCol < 0 || nCol == m_nSortColumn)
+        SetSortColumn(-1); // what is sorted may not be any more
+
+    if (nRow < 0 || nCol < 0)
+        m_bModified = bModified;
+    else if (bModified)
+    {
+        SetItemState(nRow, nCol, GetItemState(nRow, nCol) | CELL_MODIFIED);
+        m_bModified = TRUE;
+    }
+    else
+        SetItemState(nRow, nCol, GetItemState(nRow, nCol) & ~CELL_MODIFIED);
+
+    if (m_bModified)
+        return;
+    for (int nEachRow = 0; nEachRow < GetRowCount(); ++nEachRow)
+        for (int nEachCol = 0; nEachCol < GetColumnCount(); ++nEachCol)
+            if (const UINT nState = GetItemState(nEachRow, nEachCol); nState & CELL_MODIFIED)
+                SetItemState(nEachRow, nEachCol, nState & ~CELL_MODIFIED);
+}
+
+BOOL CGridCtrl::GetModified(int nRow, int nCol)
+{
+    if (nRow < 0 || nCol < 0)
+        return m_bModified;
+    return (GetItemState(nRow, nCol) & CELL_MODIFIED) != 0;
+}
+
+BOOL CGridCtrl::IsCellEditable(CCellID& cell) const
+{
+    return IsCellEditable(cell.row, cell.col);
+}
+
+// A cell that is not there has no state, and so counts as editable.
+BOOL CGridCtrl::IsCellEditable(int nRow, int nCol) const
+{
+    return m_bEditable && !(GetItemState(nRow, nCol) & CELL_READONLY);
+}

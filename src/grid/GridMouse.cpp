@@ -1,0 +1,566 @@
+// The mouse: one state machine in m_nMouseMode.
+//
+//     over nothing -> over a divider -> sizing -> over nothing
+//                  -> selecting all, columns, rows or cells -> over nothing
+//                  -> prepared to edit -> over nothing, with an editor open
+//
+// A move changes the mode only between nothing and the two dividers; a press enters a gesture; the release ends it.
+
+#include <afxwin.h>
+
+#include "grid/GridCtrl.h"
+
+#include "grid/GridClientArea.h"
+#include "grid/GridLifeWatch.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr int kMarkerWidth = 2; ///< pixels of the line that shows where a divider would go
+
+void ShowCursor(LPCWSTR pszCursor)
+{
+    ::SetCursor(::LoadCursor(nullptr, pszCursor));
+}
+} // namespace
+
+/// One way of the two: what along is for rows and columns.
+struct CGridCtrl::SDirection
+{
+    CGridAxis& axis;
+    int& item; ///< of m_clickDownCell
+    bool columns;
+
+    int Along(CPoint point) const { return columns ? point.x : point.y; }
+    static SDirection Of(CGridCtrl& grid, EDirection direction)
+    {
+        if (direction == EDirection::eColumns)
+            return {grid.m_cols, grid.m_clickDownCell.col, true};
+        return {grid.m_rows, grid.m_clickDownCell.row, false};
+    }
+};
+
+// ---- Press ---------------------------------------------------------------------------------------------------
+
+void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    const CLifeWatch life(*this);
+    SetFocus();
+    if (!life.WindowLives())
+        return;
+    m_bLButtonDown = TRUE;
+    m_ptClickClient = point;
+    m_clickDownCell = GetCellFromPt(point);
+    if (!IsValid(m_clickDownCell))
+        return;
+    if (!(nFlags & MK_SHIFT))
+        m_selectionStart = m_clickDownCell;
+    else if (!IsValid(m_selectionStart))
+        m_selectionStart = m_focusCell;
+
+    EndEditing();
+    if (!life.WindowLives())
+        return;
+    if (CGridCellBase* const pCell = GetCell(m_clickDownCell.row, m_clickDownCell.col))
+        pCell->OnClickDown(GetPointClicked(m_clickDownCell.row, m_clickDownCell.col, point));
+    if (!life.WindowLives())
+        return;
+
+    const bool bControl = (nFlags & MK_CONTROL) != 0;
+    if (m_clickDownCell == m_focusCell && !bControl && IsInText(m_clickDownCell, point) &&
+        IsCellEditable(m_clickDownCell))
+    {
+        m_nMouseMode = MODE_PREPARE_EDIT;
+        return;
+    }
+    if (IsCellSelected(m_clickDownCell))
+    {
+        if (bControl)
+        {
+            DeselectPressed();
+            return;
+        }
+    }
+    else if (m_nMouseMode != MODE_OVER_COL_DIVIDE && m_nMouseMode != MODE_OVER_ROW_DIVIDE)
+    {
+        SetFocusCell(CCellID(), TRUE);
+        if (m_rows.Count() > m_rows.Fixed() && m_cols.Count() > m_cols.Fixed())
+            SetFocusCell(RaisedToBody(m_clickDownCell), TRUE);
+        if (!life.WindowLives())
+            return;
+    }
+    SetCapture();
+    BeginGesture(nFlags, point);
+    if (life.WindowLives())
+        m_ptLastMouse = point;
+}
+
+/// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
+void CGridCtrl::DeselectPressed()
+{
+    const CLifeWatch life(*this);
+    SetFocusCell(m_clickDownCell, TRUE);
+    if (!life.ObjectLives())
+        return;
+    if (m_bListMode)
+        SelectRows(m_clickDownCell, TRUE, FALSE);
+    else
+        SelectCells(m_clickDownCell, TRUE, FALSE);
+}
+
+void CGridCtrl::BeginGesture(UINT nFlags, CPoint point)
+{
+    if (m_nMouseMode == MODE_NOTHING)
+        FindDivider(point);
+    if (m_nMouseMode == MODE_OVER_COL_DIVIDE)
+        BeginSizing(EDirection::eColumns, point);
+    else if (m_nMouseMode == MODE_OVER_ROW_DIVIDE)
+        BeginSizing(EDirection::eRows, point);
+    else
+        BeginSelecting(nFlags);
+}
+
+void CGridCtrl::BeginSelecting(UINT nFlags)
+{
+    const CLifeWatch life(*this);
+    SendMessageToParent(m_clickDownCell.row, m_clickDownCell.col, LVN_ITEMCHANGING);
+    if (!life.WindowLives())
+        return;
+    m_mapPrevSelected.RemoveAll();
+    if (nFlags & MK_CONTROL)
+        m_mapPrevSelected = m_mapSelected;
+
+    if (m_rows.IsFixed(m_clickDownCell.row))
+        OnFixedRowClick(m_clickDownCell);
+    else if (m_cols.IsFixed(m_clickDownCell.col))
+        OnFixedColumnClick(m_clickDownCell);
+    else
+    {
+        // Only here a drag beyond the edge scrolls; one that began on a header does not.
+        m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
+        OnSelecting(m_clickDownCell);
+        m_nTimerId = SetTimer(AutoScrollTimerId, m_nTimerInterval, nullptr);
+    }
+}
+
+/// The mode and the cursor of the divider at a point; false if there is none that may be dragged.
+bool CGridCtrl::FindDivider(CPoint point)
+{
+    int nMode = MODE_NOTHING;
+    if (m_bAllowColumnResize && MouseOverColumnResizeArea(point))
+        nMode = MODE_OVER_COL_DIVIDE;
+    else if (m_bAllowRowResize && MouseOverRowResizeArea(point))
+        nMode = MODE_OVER_ROW_DIVIDE;
+    else
+        return false;
+    if (m_nMouseMode != nMode)
+        ShowCursor(nMode == MODE_OVER_COL_DIVIDE ? IDC_SIZEWE : IDC_SIZENS);
+    m_nMouseMode = nMode;
+    return true;
+}
+
+bool CGridCtrl::IsInText(const CCellID& cell, CPoint point)
+{
+    CRect rect;
+    CGridCellBase* const pCell = GetCell(cell.row, cell.col);
+    if (!pCell || !GetCellRect(cell, &rect))
+        return false;
+    pCell->GetTextRect(&rect);
+    return rect.PtInRect(point);
+}
+
+bool CGridCtrl::IsBodyCell(const CCellID& cell) const
+{
+    return IsValid(cell) && !m_rows.IsFixed(cell.row) && !m_cols.IsFixed(cell.col);
+}
+
+CCellID CGridCtrl::RaisedToBody(CCellID cell) const
+{
+    return CCellID(std::max(cell.row, m_rows.Fixed()), std::max(cell.col, m_cols.Fixed()));
+}
+
+// ---- Sizing --------------------------------------------------------------------------------------------------
+
+// The early returns leave the mode as it is and the cursor free; the release puts that right.
+void CGridCtrl::BeginSizing(EDirection direction, CPoint point)
+{
+    const SDirection way = SDirection::Of(*this, direction);
+    m_nMouseMode = way.columns ? MODE_SIZING_COL : MODE_SIZING_ROW;
+    const int nLast = way.axis.Count() - 1;
+    const bool bLastNearlyClosed = way.axis.Size(nLast) < m_nResizeCaptureRange;
+    CRect rectVisible;
+    GetVisibleNonFixedCellRange(&rectVisible);
+    if (bLastNearlyClosed && way.Along(rectVisible.BottomRight()) - way.Along(point) < m_nResizeCaptureRange)
+        way.item = nLast;
+
+    // A column is looked up in row 0, a row in the column of the press.
+    CPoint start;
+    if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, m_clickDownCell.col, &start))
+        return;
+    const bool bBefore = way.Along(point) - way.Along(start) < m_nResizeCaptureRange;
+    const bool bUnhide = (way.columns ? m_bHiddenColUnhide : m_bHiddenRowUnhide) != FALSE;
+    if (!bUnhide && (bBefore || way.item != nLast) && !PassHiddenItems(way, bBefore))
+        return;
+
+    InvertMarker(direction, point);
+    if (bBefore && (way.item != nLast || !bLastNearlyClosed))
+    {
+        --way.item;
+        if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, way.columns ? m_clickDownCell.col : 0, &start))
+            return;
+    }
+    ClipCursorForSizing(direction, start);
+    m_ptLastMouse = point;
+}
+
+/// Steps back to where the item at the divider, or with `bBefore` the one before it, shows. False past the first.
+bool CGridCtrl::PassHiddenItems(const SDirection& way, bool bBefore)
+{
+    const int nBack = bBefore ? 1 : 0;
+    while (!way.axis.IsShown(way.item - nBack))
+    {
+        --way.item;
+        if (way.item - nBack < 0)
+            return false;
+    }
+    return true;
+}
+
+/// Not before the start of what is being sized, and at most as far as the scrolling part is wide.
+void CGridCtrl::ClipCursorForSizing(EDirection direction, CPoint start)
+{
+    CRect rect(CPoint(0, 0), GetClientSize());
+    if (direction == EDirection::eColumns)
+    {
+        rect.left = start.x + 1;
+        rect.right = rect.left + GetClientSize().cx - GetFixedColumnWidth();
+    }
+    else
+    {
+        rect.top = start.y + 1;
+        rect.bottom = rect.top + GetClientSize().cy - GetFixedRowHeight();
+    }
+    ClientToScreen(&rect);
+    ::ClipCursor(&rect);
+}
+
+void CGridCtrl::InvertMarker(EDirection direction, CPoint point)
+{
+    const CClientArea area(*this);
+    if (!area.DC())
+        return;
+    CRect rect(CPoint(0, 0), GetClientSize());
+    if (direction == EDirection::eColumns)
+    {
+        rect.left = point.x;
+        rect.right = point.x + kMarkerWidth;
+    }
+    else
+    {
+        rect.top = point.y;
+        rect.bottom = point.y + kMarkerWidth;
+    }
+    area.DC()->InvertRect(&rect);
+}
+
+/// The new size from the release. False if what was sized is not in view any more.
+bool CGridCtrl::EndSizing(EDirection direction, CPoint point)
+{
+    const SDirection way = SDirection::Of(*this, direction);
+    InvertMarker(direction, m_ptLastMouse);
+    if (point == m_ptClickClient || point == CPoint(0, 0))
+        return true;
+    CPoint start;
+    if (!GetCellOrigin(m_clickDownCell, &start))
+        return false;
+    const BOOL bMayHide = way.columns ? m_bColumnHide : m_bRowHide;
+    const int nSize = std::max(bMayHide ? 0 : 1, way.Along(point) - way.Along(start));
+    if (way.columns)
+        SetColumnWidth(way.item, nSize, TRUE);
+    else
+        SetRowHeight(way.item, nSize);
+    ResetScrollBars();
+    Invalidate();
+    return true;
+}
+
+// ---- Move ----------------------------------------------------------------------------------------------------
+
+void CGridCtrl::OnMouseMove(UINT /*nFlags*/, CPoint point)
+{
+    const CLifeWatch life(*this);
+    if (!m_bLButtonDown || m_nMouseMode == MODE_NOTHING)
+        Hover(point);
+    else if (IsValid(m_clickDownCell) && !Drag(point))
+        return;
+    if (life.ObjectLives())
+        m_ptLastMouse = point;
+}
+
+void CGridCtrl::Hover(CPoint point)
+{
+    if (!FindDivider(point) && m_nMouseMode != MODE_NOTHING)
+    {
+        m_nMouseMode = MODE_NOTHING;
+        ShowCursor(IDC_ARROW);
+    }
+    if (m_nMouseMode != MODE_NOTHING || (m_bVirtualMode && !m_bTitleTips))
+        return;
+    const CCellID cell = GetCellFromPt(point);
+    if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
+        pCell->OnMouseOver();
+}
+
+/// Goes on with the gesture. False where it has nothing to go to: the last position then stays.
+bool CGridCtrl::Drag(CPoint point)
+{
+    switch (m_nMouseMode)
+    {
+    case MODE_SELECT_COL:
+    case MODE_SELECT_ROW:
+    case MODE_SELECT_CELLS:
+        return DragSelection(GetCellFromPt(point));
+    case MODE_SIZING_ROW:
+        InvertMarker(EDirection::eRows, m_ptLastMouse);
+        InvertMarker(EDirection::eRows, point);
+        return true;
+    case MODE_SIZING_COL:
+        InvertMarker(EDirection::eColumns, m_ptLastMouse);
+        InvertMarker(EDirection::eColumns, point);
+        return true;
+    default:
+        return true;
+    }
+}
+
+/// A drag inside one row moves the focus quietly: the parent hears of it only when the row changes.
+bool CGridCtrl::DragSelection(const CCellID& cell)
+{
+    if (!IsValid(cell))
+        return false;
+    if (cell == m_focusCell)
+        return true;
+    OnSelecting(cell);
+    if (IsBodyCell(cell) || m_nMouseMode == MODE_SELECT_COL || m_nMouseMode == MODE_SELECT_ROW)
+        SetFocusCell(cell, cell.row != m_focusCell.row);
+    return true;
+}
+
+// ---- Release -------------------------------------------------------------------------------------------------
+
+void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    const CLifeWatch life(*this);
+    CWnd::OnLButtonUp(nFlags, point);
+    m_bLButtonDown = FALSE;
+    ::ClipCursor(nullptr);
+    if (GetCapture() == this)
+    {
+        ::ReleaseCapture();
+        StopAutoScroll();
+    }
+
+    const CPoint pointInCell = GetPointClicked(m_focusCell.row, m_focusCell.col, point);
+    if (m_nMouseMode == MODE_PREPARE_EDIT)
+        OnEditCell(m_focusCell.row, m_focusCell.col, pointInCell, VK_LBUTTON);
+    else if (m_nMouseMode == MODE_SIZING_COL || m_nMouseMode == MODE_SIZING_ROW)
+    {
+        const bool bColumn = m_nMouseMode == MODE_SIZING_COL;
+        if (!EndSizing(bColumn ? EDirection::eColumns : EDirection::eRows, point))
+            return;
+    }
+    else
+        TellClick(pointInCell);
+    if (!life.WindowLives())
+        return;
+
+    m_nMouseMode = MODE_NOTHING;
+    ShowCursor(IDC_ARROW);
+    if (!IsValid(m_clickDownCell))
+        return;
+    const CWnd* const pOwner = GetOwner();
+    if (pOwner && ::IsWindow(pOwner->m_hWnd))
+        ::PostMessage(pOwner->m_hWnd, WM_COMMAND, GetDlgCtrlID(), reinterpret_cast<LPARAM>(m_hWnd));
+}
+
+void CGridCtrl::TellClick(CPoint pointInCell)
+{
+    const CLifeWatch life(*this);
+    if (CGridCellBase* const pCell = GetCell(m_focusCell.row, m_focusCell.col))
+        pCell->OnClick(pointInCell);
+    if (life.ObjectLives())
+        SendMessageToParent(m_clickDownCell.row, m_clickDownCell.col, NM_CLICK);
+}
+
+void CGridCtrl::StopAutoScroll()
+{
+    KillTimer(AutoScrollTimerId);
+    m_nTimerId = 0;
+}
+
+// ---- Double click --------------------------------------------------------------------------------------------
+
+void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
+{
+    const CLifeWatch life(*this);
+    const CCellID cell = GetCellFromPt(point);
+    if (!IsValid(cell))
+        return;
+    switch (m_nMouseMode)
+    {
+    case MODE_OVER_COL_DIVIDE:
+        if (!FitAtDivider(EDirection::eColumns, cell, point))
+            return;
+        break;
+    case MODE_OVER_ROW_DIVIDE:
+        if (!FitAtDivider(EDirection::eRows, cell, point))
+            return;
+        break;
+    case MODE_NOTHING:
+        TellDoubleClick(cell, point);
+        break;
+    default:
+        break;
+    }
+    if (life.WindowLives())
+        CWnd::OnLButtonDblClk(nFlags, point);
+}
+
+/// Sizes the column or row at a divider to its contents. For both, the place is that of the cell in row 0: that is
+/// right for columns, and makes a row's divider mean the row under the pointer in all but the top few pixels.
+bool CGridCtrl::FitAtDivider(EDirection direction, CCellID cell, CPoint point)
+{
+    CPoint start;
+    if (!GetCellOrigin(0, cell.col, &start))
+        return false;
+    const bool bColumn = direction == EDirection::eColumns;
+    const int nFromStart = bColumn ? point.x - start.x : point.y - start.y;
+    int nItem = (bColumn ? cell.col : cell.row) - (nFromStart < m_nResizeCaptureRange ? 1 : 0);
+    while (nItem >= 0 && !(bColumn ? m_cols : m_rows).IsShown(nItem))
+        --nItem;
+    if (nItem < 0)
+        return false;
+    if (bColumn)
+        AutoSizeColumn(nItem, m_nAutoSizeStyle, TRUE);
+    else
+        AutoSizeRow(nItem, TRUE);
+    Invalidate();
+    return true;
+}
+
+void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
+{
+    const CLifeWatch life(*this);
+    const CPoint pointInCell = GetPointClicked(cell.row, cell.col, point);
+    if (IsBodyCell(cell) && IsInText(cell, point) && (IsValid(m_clickDownCell) || m_bListMode))
+        OnEditCell(cell.row, cell.col, pointInCell, VK_LBUTTON);
+    if (!life.ObjectLives())
+        return;
+    if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
+        pCell->OnDblClick(pointInCell);
+    if (life.ObjectLives())
+        SendMessageToParent(cell.row, cell.col, NM_DBLCLK);
+}
+
+// ---- Right button --------------------------------------------------------------------------------------------
+
+void CGridCtrl::OnRButtonDown(UINT nFlags, CPoint point)
+{
+    CWnd::OnRButtonDown(nFlags, point);
+    m_bRButtonDown = TRUE;
+}
+
+void CGridCtrl::OnRButtonUp(UINT nFlags, CPoint point)
+{
+    const CLifeWatch life(*this);
+    CWnd::OnRButtonUp(nFlags, point); // may show a context menu
+    if (!life.WindowLives())
+        return;
+    m_bRButtonDown = FALSE;
+    const CCellID cell = GetCellFromPt(point);
+    EndEditing();
+    if (!life.WindowLives() || m_bNeReagujNaDesniKlik)
+        return;
+    if (!IsValid(cell))
+    {
+        SendMessageToParent(-1, -1, NM_RCLICK);
+        return;
+    }
+    SetFocusCell(CCellID(), TRUE);
+    SetFocusCell(RaisedToBody(cell), TRUE);
+    if (!life.WindowLives())
+        return;
+    if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
+        pCell->OnRClick(GetPointClicked(cell.row, cell.col, point));
+    if (life.WindowLives())
+        SendMessageToParent(cell.row, cell.col, NM_RCLICK); // the real cell, fixed or not
+}
+
+// ---- Drag beyond the edge ------------------------------------------------------------------------------------
+
+// The grid sends itself arrow keys, which move the focus and scroll, and selects up to the edge. The mode is not
+// looked at: the timer lives during a gesture only.
+void CGridCtrl::OnTimer(UINT_PTR nIDEvent)
+{
+    CPoint point;
+    if (nIDEvent != AutoScrollTimerId || !::GetCursorPos(&point))
+        return;
+    ScreenToClient(&point);
+    const CRect client(CPoint(0, 0), GetClientSize());
+    const CPoint body(GetFixedColumnWidth(), GetFixedRowHeight());
+    const CLifeWatch life(*this);
+
+    const int x = std::clamp<int>(point.x, client.left, client.right);
+    if (point.y > client.bottom)
+        StepSelection(VK_DOWN, CPoint(x, client.bottom));
+    else if (point.y < body.y)
+        StepSelection(VK_UP, CPoint(x, body.y + 1));
+    if (!life.WindowLives())
+        return;
+
+    const int y = std::clamp<int>(point.y, client.top, client.bottom);
+    if (point.x > client.right)
+        StepSelection(VK_RIGHT, CPoint(client.right, y));
+    else if (point.x < body.x)
+        StepSelection(VK_LEFT, CPoint(body.x + 1, y));
+}
+
+void CGridCtrl::StepSelection(UINT nKey, CPoint pointAtEdge)
+{
+    const CLifeWatch life(*this);
+    SendMessage(WM_KEYDOWN, nKey, 0);
+    if (life.WindowLives())
+        OnSelecting(GetCellFromPt(pointAtEdge));
+}
+
+// The mode stays until the release.
+void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
+{
+    if (pWnd != this && m_nTimerId != 0)
+        StopAutoScroll();
+}
+
+// ---- Cursor --------------------------------------------------------------------------------------------------
+
+BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
+{
+    if (nHitTest != HTCLIENT)
+        return CWnd::OnSetCursor(pWnd, nHitTest, message);
+    if (m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_OVER_ROW_DIVIDE)
+    {
+        ShowCursor(m_nMouseMode == MODE_OVER_COL_DIVIDE ? IDC_SIZEWE : IDC_SIZENS);
+        return TRUE;
+    }
+    if (!m_bVirtualMode)
+    {
+        const DWORD dwPos = ::GetMessagePos();
+        CPoint point(static_cast<short>(LOWORD(dwPos)), static_cast<short>(HIWORD(dwPos)));
+        ScreenToClient(&point);
+        const CCellID cell = GetCellFromPt(point);
+        if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
+            return pCell->OnSetCursor();
+    }
+    ShowCursor(IDC_ARROW);
+    return TRUE;
+}

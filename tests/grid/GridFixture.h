@@ -1,0 +1,81 @@
+#pragma once
+// A visible grid as GridWindow.h tells, ready for real input.
+
+#include "GridWindow.h"
+
+#include "Input.h"
+
+#include <gtest/gtest.h>
+
+class GridTest : public ::testing::Test
+{
+protected:
+    using Calls = GridParent::Calls;
+
+    void SetUp() override
+    {
+        ::SetDoubleClickTime(1); // two clicks in a row are two clicks; a double one is sent as a message
+        grid.SetRowCount(kRows);
+        grid.SetColumnCount(kCols);
+        grid.SetFixedRowCount(1);
+        grid.SetFixedColumnCount(1);
+        ASSERT_TRUE(PlaceGrid(grid, parent));
+        SetSizes(grid);
+        FillWithPlaces(grid);
+        ASSERT_TRUE(owtest::Activate(parent));
+        owtest::MoveTo(parent, CPoint(2, 2)); // off the grid
+        grid.UpdateWindow();
+        owtest::Pump();
+        parent.Take();
+        parent.commands = 0;
+    }
+    void TearDown() override
+    {
+        grid.DestroyWindow();
+        ::SetDoubleClickTime(m_nDoubleClickTime);
+    }
+
+    void ClickCell(int nRow, int nCol)
+    {
+        owtest::Click(grid, MiddleOf(grid, nRow, nCol));
+        owtest::Pump();
+    }
+    /// Presses on one point of the grid, moves to another and lets go.
+    void Drag(CPoint from, CPoint to)
+    {
+        owtest::ButtonDown(grid, from);
+        owtest::MoveTo(grid, to);
+        owtest::ButtonUp();
+        owtest::Pump();
+    }
+    /// Past where the cursor is held during a drag.
+    void DragByMessages(CPoint from, CPoint to)
+    {
+        grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(from.x, from.y));
+        grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
+        grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
+        grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
+    }
+    /// With the modifiers that a mouse message carries; holding keys is no matter of the grid.
+    void SendClick(CPoint point, WPARAM modifiers = 0)
+    {
+        grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | modifiers, MAKELPARAM(point.x, point.y));
+        grid.SendMessage(WM_LBUTTONUP, modifiers, MAKELPARAM(point.x, point.y));
+    }
+    bool EditorOpens(int nRow, int nCol)
+    {
+        return owtest::PumpUntil([&] { return grid.IsItemEditing(nRow, nCol) && ::GetFocus() != grid.m_hWnd; });
+    }
+    bool EditorCloses()
+    {
+        return owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
+    }
+    std::wstring Text(int nRow, int nCol) { return grid.GetItemText(nRow, nCol).GetString(); }
+    CCellRange Selected() { return grid.GetSelectedCellRange(); }
+
+    GridParent& parent = SharedParent();
+    OpenGrid grid;
+
+private:
+    const UINT m_nDoubleClickTime = ::GetDoubleClickTime();
+};

@@ -1,0 +1,692 @@
+#include "GridModel.h"
+
+#include "GridWindow.h"
+#include "Input.h"
+
+#include <algorithm>
+#include <random>
+#include <set>
+#include <sstream>
+
+namespace
+{
+struct ModelCell
+{
+    std::wstring text;
+    LPARAM data = 0;
+    bool modified = false;
+    bool readOnly = false;
+    bool selected = false;
+
+    friend bool operator==(const ModelCell&, const ModelCell&) = default;
+    friend auto operator<=>(const ModelCell&, const ModelCell&) = default;
+};
+
+struct ModelRow
+{
+    int height = 0;
+    std::vector<ModelCell> cells;
+
+    friend bool operator==(const ModelRow&, const ModelRow&) = default;
+    friend auto operator<=>(const ModelRow&, const ModelRow&) = default;
+};
+
+/// What the grid must hold, written down without any of the grid's means.
+struct Model
+{
+    std::vector<ModelRow> rows;
+    std::vector<int> widths;
+    int fixedRows = 0;
+    int fixedCols = 0;
+    CCellID focus;
+    int sortColumn = -1;
+
+    int RowCount() const { return static_cast<int>(rows.size()); }
+    int ColCount() const { return static_cast<int>(widths.size()); }
+    bool Has(int r, int c) const { return r >= 0 && r < RowCount() && c >= 0 && c < ColCount(); }
+    bool HasBody() const { return RowCount() > fixedRows && ColCount() > fixedCols; }
+    ModelCell& At(int r, int c) { return rows[r].cells[c]; }
+
+    void SelectNothing()
+    {
+        for (ModelRow& row : rows)
+            for (ModelCell& cell : row.cells)
+                cell.selected = false;
+    }
+    void SelectOnly(int r1, int c1, int r2, int c2)
+    {
+        SelectNothing();
+        for (int r = r1; r <= r2; ++r)
+            for (int c = c1; c <= c2; ++c)
+                At(r, c).selected = true;
+    }
+    void Reset()
+    {
+        SelectNothing();
+        focus = CCellID();
+    }
+    void Resize(int nRows, int nCols, int height, int width)
+    {
+        for (ModelRow& row : rows)
+            row.cells.resize(nCols);
+        rows.resize(nRows, ModelRow{height, std::vector<ModelCell>(nCols)});
+        widths.resize(nCols, width);
+        fixedRows = std::min(fixedRows, nRows);
+        fixedCols = std::min(fixedCols, nCols);
+        if (focus.row >= nRows || focus.col >= nCols)
+            focus = CCellID();
+        sortColumn = -1;
+    }
+};
+
+class Sequence
+{
+public:
+    Sequence(unsigned seed, bool withInput) : m_random(seed), m_withInput(withInput)
+    {
+        m_parent.Open(360, 280, withInput);
+        PlaceGrid(m_grid, m_parent, CSize(300, 220));
+        m_height = m_grid.GetDefCellHeight();
+        m_width = m_grid.GetDefCellWidth();
+        if (withInput)
+            owtest::Activate(m_parent);
+    }
+    ~Sequence() { m_parent.DestroyWindow(); }
+
+    SequenceResult Run(unsigned seed, int steps)
+    {
+        SequenceResult result;
+        for (; result.stepsDone < steps; ++result.stepsDone)
+        {
+            Step();
+            Check();
+            if (m_problem.str().empty())
+                continue;
+            std::ostringstream text;
+            text << "seed " << seed << (m_withInput ? " with input" : "") << ", step " << result.stepsDone << ": "
+                 << m_problem.str() << "\nsteps:\n"
+                 << m_log.str();
+            result.failure = text.str();
+            break;
+        }
+        return result;
+    }
+
+private:
+    int Pick(int below) { return below > 0 ? static_cast<int>(m_random() % below) : 0; }
+    /// An index, now and then one out of range on either side.
+    int Index(int count) { return Pick(12) == 0 ? Pick(count + 4) - 2 : Pick(count); }
+    std::wstring Text()
+    {
+        static constexpr const wchar_t* kTexts[] = {L"", L"a", L"b", L"IPE 200", L"12", L"7", L"Zeta", L"0,5 m"};
+        return kTexts[Pick(std::size(kTexts))];
+    }
+    template <class... Parts> void Say(const Parts&... parts)
+    {
+        ((m_log << ' ' << parts), ...);
+        m_log << '\n';
+    }
+    template <class... Parts> void Problem(const Parts&... parts) { ((m_problem << parts), ...) << "; "; }
+    void Expect(bool condition, const char* what)
+    {
+        if (!condition)
+            Problem(what);
+    }
+
+    void Step()
+    {
+        if (m_model.ColCount() > 12 || m_model.RowCount() > 40)
+            return SetCounts();
+        switch (Pick(m_withInput ? 26 : 20))
+        {
+        case 0:
+            return SetCounts();
+        case 1:
+            return SetFixed();
+        case 2:
+            return InsertRow();
+        case 3:
+            return InsertColumn();
+        case 4:
+            return Delete();
+        case 5:
+        case 6:
+        case 7:
+            return ChangeItem();
+        case 8:
+        case 9:
+            return SetSize();
+        case 10:
+        case 11:
+            return SetFocus();
+        case 12:
+        case 13:
+        case 14:
+            return SelectRange();
+        case 15:
+            return Sort();
+        case 16:
+        case 17:
+        case 18:
+            return Key();
+        case 19:
+            return Scroll();
+        default:
+            return Click();
+        }
+    }
+
+    // ---- Counts
+
+    void SetCounts()
+    {
+        if (Pick(2))
+        {
+            const int n = Pick(18);
+            Say("SetRowCount", n);
+            const bool change = n != m_model.RowCount();
+            Expect(m_grid.SetRowCount(n), "SetRowCount answers 0");
+            if (change)
+                m_model.Resize(n, m_model.ColCount(), m_height, m_width);
+        }
+        else
+        {
+            const int n = Pick(9);
+            Say("SetColumnCount", n);
+            const bool change = n != m_model.ColCount();
+            Expect(m_grid.SetColumnCount(n), "SetColumnCount answers 0");
+            if (change)
+                m_model.Resize(m_model.RowCount(), n, m_height, m_width);
+        }
+    }
+
+    void SetFixed()
+    {
+        const int n = Pick(3);
+        const bool rows = Pick(2) != 0;
+        int& fixed = rows ? m_model.fixedRows : m_model.fixedCols;
+        Say(rows ? "SetFixedRowCount" : "SetFixedColumnCount", n);
+        Expect(rows ? m_grid.SetFixedRowCount(n) : m_grid.SetFixedColumnCount(n), "setting the fixed count answers 0");
+        if (n == fixed)
+            return;
+        if (rows && n > m_model.RowCount())
+            m_model.Resize(n, m_model.ColCount(), m_height, m_width);
+        if (!rows && n > m_model.ColCount())
+            m_model.Resize(m_model.RowCount(), n, m_height, m_width);
+        m_model.Reset();
+        fixed = n;
+    }
+
+    void InsertRow()
+    {
+        const int at = Pick(3) ? Index(m_model.RowCount()) : -1;
+        const std::wstring heading = Text();
+        Say("InsertRow", at);
+        const int expected = at < 0                                                       ? m_model.RowCount()
+                             : at < m_model.fixedRows || at >= m_model.RowCount() ? -1
+                                                                                  : at;
+        Expect(m_grid.InsertRow(heading.c_str(), at) == expected, "InsertRow answers another index");
+        if (expected < 0)
+            return;
+        m_model.Reset();
+        if (m_model.ColCount() == 0)
+            m_model.Resize(m_model.RowCount(), 1, m_height, m_width);
+        ModelRow row{m_grid.GetRowHeight(expected), std::vector<ModelCell>(m_model.ColCount())};
+        row.cells[0].text = heading;
+        row.cells[0].modified = true;
+        m_model.rows.insert(m_model.rows.begin() + expected, row);
+        m_model.sortColumn = -1;
+        Expect(row.height > 0, "an inserted row has no height");
+    }
+
+    void InsertColumn()
+    {
+        const int at = Pick(3) ? Index(m_model.ColCount()) : -1;
+        const std::wstring heading = Text();
+        Say("InsertColumn", at);
+        const int count = m_model.ColCount();
+        const int expected = at < 0 ? count : at < m_model.fixedCols || at > count ? -1 : at;
+        Expect(m_grid.InsertColumn(heading.c_str(), GV_HEADING_FORMAT, at) == expected,
+               "InsertColumn answers another index");
+        if (expected < 0)
+            return;
+        m_model.Reset();
+        if (m_model.RowCount() == 0)
+            m_model.Resize(1, m_model.ColCount(), m_height, m_width);
+        for (ModelRow& row : m_model.rows)
+            row.cells.insert(row.cells.begin() + expected, ModelCell());
+        m_model.At(0, expected).text = heading;
+        m_model.At(0, expected).modified = true;
+        m_model.widths.insert(m_model.widths.begin() + expected, m_grid.GetColumnWidth(expected));
+        m_model.sortColumn = -1;
+    }
+
+    void Delete()
+    {
+        const int what = Pick(16);
+        if (what == 0)
+        {
+            Say("DeleteAllItems");
+            Expect(m_grid.DeleteAllItems(), "DeleteAllItems answers 0");
+            m_model = Model();
+        }
+        else if (what == 1)
+        {
+            Say("DeleteNonFixedRows");
+            Expect(m_grid.DeleteNonFixedRows(), "DeleteNonFixedRows answers 0");
+            m_model.Reset();
+            if (m_model.RowCount() > m_model.fixedRows)
+                m_model.Resize(m_model.fixedRows, m_model.ColCount(), 0, 0);
+        }
+        else if (what < 9)
+            DeleteRow(Index(m_model.RowCount()));
+        else
+            DeleteColumn(Index(m_model.ColCount()));
+    }
+
+    void DeleteRow(int r)
+    {
+        Say("DeleteRow", r);
+        const bool exists = r >= 0 && r < m_model.RowCount();
+        Expect((m_grid.DeleteRow(r) != FALSE) == exists, "DeleteRow answers wrong");
+        if (!exists)
+            return;
+        m_model.Reset();
+        m_model.rows.erase(m_model.rows.begin() + r);
+        m_model.fixedRows -= r < m_model.fixedRows;
+        m_model.sortColumn = -1;
+    }
+
+    void DeleteColumn(int c)
+    {
+        Say("DeleteColumn", c);
+        const bool exists = c >= 0 && c < m_model.ColCount();
+        Expect((m_grid.DeleteColumn(c) != FALSE) == exists, "DeleteColumn answers wrong");
+        if (!exists)
+            return;
+        m_model.Reset();
+        for (ModelRow& row : m_model.rows)
+            row.cells.erase(row.cells.begin() + c);
+        m_model.widths.erase(m_model.widths.begin() + c);
+        m_model.fixedCols -= c < m_model.fixedCols;
+        m_model.sortColumn = -1;
+    }
+
+    // ---- Items and sizes
+
+    void ChangeItem()
+    {
+        const int r = Index(m_model.RowCount());
+        const int c = Index(m_model.ColCount());
+        const bool exists = m_model.Has(r, c);
+        switch (Pick(5))
+        {
+        case 0:
+        case 1:
+        {
+            const std::wstring text = Text();
+            Say("SetItemText", r, c);
+            Expect((m_grid.SetItemText(r, c, text.c_str()) != FALSE) == exists, "SetItemText answers wrong");
+            if (exists)
+                m_model.At(r, c).text = text;
+            return Changed(r, c);
+        }
+        case 2:
+        {
+            const LPARAM data = Pick(100);
+            Say("SetItemData", r, c);
+            Expect((m_grid.SetItemData(r, c, data) != FALSE) == exists, "SetItemData answers wrong");
+            if (exists)
+                m_model.At(r, c).data = data;
+            return Changed(r, c);
+        }
+        case 3:
+            Say("SetItemState read-only", r, c);
+            m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ (exists ? CELL_READONLY : 0));
+            if (exists)
+                m_model.At(r, c).readOnly = !m_model.At(r, c).readOnly;
+            return;
+        default:
+            if (!exists)
+                return;
+            Say("SetItemState selected", r, c);
+            m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ CELL_SELECTED);
+            m_model.At(r, c).selected = !m_model.At(r, c).selected;
+        }
+    }
+
+    void Changed(int r, int c)
+    {
+        if (!m_model.Has(r, c))
+            return;
+        m_model.At(r, c).modified = true;
+        if (c == m_model.sortColumn)
+            m_model.sortColumn = -1;
+    }
+
+    void SetSize()
+    {
+        const int size = Pick(5) == 0 ? 0 : 10 + Pick(50);
+        if (Pick(2))
+        {
+            const int r = Index(m_model.RowCount());
+            const bool exists = r >= 0 && r < m_model.RowCount();
+            Say("SetRowHeight", r, size);
+            Expect((m_grid.SetRowHeight(r, size) != FALSE) == exists, "SetRowHeight answers wrong");
+            if (exists)
+                m_model.rows[r].height = size;
+        }
+        else
+        {
+            const int c = Index(m_model.ColCount());
+            const bool exists = c >= 0 && c < m_model.ColCount();
+            Say("SetColumnWidth", c, size);
+            Expect((m_grid.SetColumnWidth(c, size) != FALSE) == exists, "SetColumnWidth answers wrong");
+            if (exists)
+                m_model.widths[c] = size;
+        }
+    }
+
+    // ---- Focus, selection, order
+
+    void SetFocus()
+    {
+        if (!m_model.HasBody() || Pick(8) == 0)
+        {
+            Say("SetFocusCell -1 -1");
+            m_grid.SetFocusCell(-1, -1);
+            m_model.focus = CCellID();
+            return;
+        }
+        const int r = Pick(m_model.RowCount());
+        const int c = Pick(m_model.ColCount());
+        Say("SetFocusCell", r, c);
+        Expect(m_grid.SetFocusCell(r, c) == m_model.focus, "SetFocusCell answers another old focus");
+        m_model.focus = CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols));
+    }
+
+    void SelectRange()
+    {
+        const int r1 = Pick(m_model.RowCount() + 1) - 1, r2 = Pick(m_model.RowCount() + 1);
+        const int c1 = Pick(m_model.ColCount() + 1) - 1, c2 = Pick(m_model.ColCount() + 1);
+        const bool select = Pick(4) != 0;
+        const bool atOnce = Pick(4) == 0;
+        Say("SetSelectedRange", r1, c1, r2, c2, select, atOnce);
+        m_grid.SetSelectedRange(r1, c1, r2, c2, atOnce, select);
+        if (select)
+            m_model.SelectNothing();
+        const int fromRow = std::max(r1, m_model.fixedRows), fromCol = std::max(c1, m_model.fixedCols);
+        const int toRow = std::max(r2, m_model.fixedRows), toCol = std::max(c2, m_model.fixedCols);
+        if (r1 < 0 || c1 < 0 || toRow >= m_model.RowCount() || toCol >= m_model.ColCount())
+            return;
+        for (int r = fromRow; r <= toRow && fromCol <= toCol; ++r)
+            for (int c = fromCol; c <= toCol; ++c)
+                m_model.At(r, c).selected = select;
+    }
+
+    /// The order of equal rows is not told: the grid's is taken over if it is an order of the same rows.
+    void Sort()
+    {
+        if (m_model.ColCount() == 0)
+            return;
+        const int c = Pick(m_model.ColCount());
+        const bool ascending = Pick(2) != 0;
+        Say("SortTextItems", c, ascending);
+        const bool enough = m_model.RowCount() - m_model.fixedRows > 1;
+        Expect((m_grid.SortTextItems(c, ascending) != FALSE) == enough, "SortTextItems answers wrong");
+        m_grid.GetTopleftNonFixedCell(TRUE); // a sort leaves the view at its row, whatever that is now high
+        m_model.Reset();
+        m_model.sortColumn = c;
+
+        std::vector<ModelRow> before(m_model.rows.begin() + m_model.fixedRows, m_model.rows.end());
+        for (int r = m_model.fixedRows; r < m_model.RowCount(); ++r)
+            m_model.rows[r] = RowOfGrid(r);
+        std::vector<ModelRow> after(m_model.rows.begin() + m_model.fixedRows, m_model.rows.end());
+        for (size_t i = 1; i < after.size(); ++i)
+        {
+            const auto &first = after[i - 1].cells[c].text, &second = after[i].cells[c].text;
+            Expect(ascending ? first <= second : first >= second, "the rows are not in order");
+        }
+        std::sort(before.begin(), before.end());
+        std::sort(after.begin(), after.end());
+        Expect(before == after, "sorting changed the rows themselves");
+    }
+
+    ModelRow RowOfGrid(int r)
+    {
+        ModelRow row{m_grid.GetRowHeight(r), {}};
+        for (int c = 0; c < m_model.ColCount(); ++c)
+        {
+            CGridCellBase& cell = *m_grid.GetCell(r, c);
+            row.cells.push_back({cell.GetText(), cell.GetData(), cell.IsModified() != 0, cell.IsReadOnly() != 0,
+                                 cell.IsSelected() != 0});
+        }
+        return row;
+    }
+
+    // ---- Input
+
+    bool RowShows(int r) const { return r >= m_model.fixedRows && r < m_model.RowCount() && m_model.rows[r].height > 0; }
+    bool ColShows(int c) const { return c >= m_model.fixedCols && c < m_model.ColCount() && m_model.widths[c] > 0; }
+
+    void Key()
+    {
+        static constexpr UINT kKeys[] = {VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_TAB};
+        const UINT key = kKeys[Pick(std::size(kKeys))];
+        Say("key", key);
+        m_grid.SendMessage(WM_KEYDOWN, key, 1);
+        if (!m_model.Has(m_model.focus.row, m_model.focus.col))
+            return;
+        CCellID next = m_model.focus;
+        if (key == VK_UP || key == VK_DOWN)
+        {
+            const int step = key == VK_UP ? -1 : 1;
+            int r = next.row + step;
+            while (r >= m_model.fixedRows && r < m_model.RowCount() && !RowShows(r))
+                r += step;
+            if (RowShows(r))
+                next.row = r;
+        }
+        else
+            next = MoveSideways(key);
+        if (next == m_model.focus)
+            return;
+        m_model.focus = next;
+        m_model.SelectOnly(next.row, next.col, next.row, next.col);
+    }
+
+    CCellID MoveSideways(UINT key)
+    {
+        CCellID next = m_model.focus;
+        const int step = key == VK_LEFT ? -1 : 1;
+        int c = next.col + step;
+        if (key == VK_TAB && c == m_model.ColCount() && next.row < m_model.RowCount() - 1)
+        {
+            ++next.row;
+            c = m_model.fixedCols;
+        }
+        while (c >= m_model.fixedCols && c < m_model.ColCount() && !ColShows(c))
+            c += step;
+        if (ColShows(c))
+            next.col = c;
+        return next;
+    }
+
+    void Scroll()
+    {
+        const int code = Pick(8);
+        const bool vertical = Pick(2) != 0;
+        Say(vertical ? "scroll vertically" : "scroll sideways", code);
+        m_grid.SendMessage(vertical ? WM_VSCROLL : WM_HSCROLL, code);
+    }
+
+    /// A press and release in the middle of a cell, which may start an edit.
+    void Click()
+    {
+        const int r = Pick(m_model.RowCount());
+        const int c = Pick(m_model.ColCount());
+        if (!m_grid.IsCellVisible(r, c) || m_model.rows[r].height < 12 || m_model.widths[c] < 12)
+            return;
+        const CPoint point = MiddleOf(m_grid, r, c);
+        CRect client;
+        m_grid.GetClientRect(client);
+        if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c))
+            return;
+        Say("click", r, c);
+        const bool edits = m_model.focus == CCellID(r, c) && !m_model.At(r, c).readOnly;
+        m_grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+        m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        if (edits)
+            EndEdit(r, c);
+        else
+            Clicked(r, c);
+        owtest::Pump();
+    }
+
+    void Clicked(int r, int c)
+    {
+        if (!m_model.At(r, c).selected)
+            m_model.focus = m_model.HasBody() ? CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols))
+                                              : CCellID();
+        const bool row = r >= m_model.fixedRows, col = c >= m_model.fixedCols;
+        m_model.SelectOnly(row ? r : m_model.fixedRows, col ? c : m_model.fixedCols, row ? r : m_model.RowCount() - 1,
+                           col ? c : m_model.ColCount() - 1);
+    }
+
+    void EndEdit(int r, int c)
+    {
+        CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId);
+        if (!editor || !m_grid.IsItemEditing(r, c))
+            return Problem("no editor on the focus cell");
+        const std::wstring text = Text();
+        const int way = Pick(4);
+        Say("edit ends by way", way);
+        m_parent.answer = [&](NMHDR& header) { return header.code == LVN_ENDLABELEDITW && way == 1 ? -1 : 0; };
+        editor->SetWindowText(text.c_str());
+        if (way == 0)
+            editor->SendMessage(WM_CHAR, VK_ESCAPE);
+        else if (way == 3)
+            m_parent.SetFocus();
+        else
+            editor->SendMessage(WM_CHAR, VK_RETURN);
+        m_parent.answer = nullptr;
+        if (way == 0 || text == m_model.At(r, c).text)
+            return;
+        if (way != 1) // a veto puts the old text back, and the cell stays marked
+            m_model.At(r, c).text = text;
+        Changed(r, c);
+    }
+
+    // ---- What must hold after every step
+
+    void Check()
+    {
+        Expect(m_grid.GetRowCount() == m_model.RowCount(), "row count");
+        Expect(m_grid.GetColumnCount() == m_model.ColCount(), "column count");
+        Expect(m_grid.GetFixedRowCount() == m_model.fixedRows, "fixed row count");
+        Expect(m_grid.GetFixedColumnCount() == m_model.fixedCols, "fixed column count");
+        Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
+        Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
+        Expect(m_grid.GetMouseMode() == 0, "mouse mode");
+        Expect(m_grid.GetDlgItem(InPlaceControlId) == nullptr, "an editor is left");
+        if (!m_problem.str().empty())
+            return;
+        CheckCells();
+        CheckSizes();
+        CheckPlaces();
+    }
+
+    void CheckCells()
+    {
+        int selected = 0;
+        for (int r = 0; r < m_model.RowCount(); ++r)
+            for (int c = 0; c < m_model.ColCount(); ++c)
+            {
+                CGridCellBase* const cell = m_grid.GetCell(r, c);
+                const ModelCell& expected = m_model.At(r, c);
+                if (!cell || expected.text != cell->GetText() || expected.data != cell->GetData() ||
+                    cell->GetState() != StateOf(r, c))
+                    Problem("cell ", r, ",", c, " holds another text, data or state");
+                if ((m_grid.IsCellSelected(r, c) != FALSE) != expected.selected)
+                    Problem("selection of ", r, ",", c);
+                selected += expected.selected;
+            }
+        Expect(m_grid.GetSelectedCount() == selected, "the selection's books are out of step with the cells");
+    }
+
+    DWORD StateOf(int r, int c)
+    {
+        const ModelCell& cell = m_model.At(r, c);
+        DWORD state = 0;
+        if (r < m_model.fixedRows)
+            state |= CELL_FIXED | CELL_FIXEDROW;
+        if (c < m_model.fixedCols)
+            state |= CELL_FIXED | CELL_FIXEDCOL;
+        if (cell.modified)
+            state |= CELL_MODIFIED;
+        if (cell.readOnly)
+            state |= CELL_READONLY;
+        if (cell.selected)
+            state |= CELL_SELECTED;
+        if (m_model.focus == CCellID(r, c))
+            state |= CELL_FOCUSED;
+        return state;
+    }
+
+    void CheckSizes()
+    {
+        int height = 0, fixedHeight = 0;
+        for (int r = 0; r < m_model.RowCount(); ++r)
+        {
+            Expect(m_grid.GetRowHeight(r) == m_model.rows[r].height, "row height");
+            height += m_model.rows[r].height;
+            fixedHeight += r < m_model.fixedRows ? m_model.rows[r].height : 0;
+        }
+        int width = 0, fixedWidth = 0;
+        for (int c = 0; c < m_model.ColCount(); ++c)
+        {
+            Expect(m_grid.GetColumnWidth(c) == m_model.widths[c], "column width");
+            width += m_model.widths[c];
+            fixedWidth += c < m_model.fixedCols ? m_model.widths[c] : 0;
+        }
+        Expect(m_grid.GetVirtualHeight() == height && m_grid.GetFixedRowHeight() == fixedHeight, "sum of heights");
+        Expect(m_grid.GetVirtualWidth() == width && m_grid.GetFixedColumnWidth() == fixedWidth, "sum of widths");
+    }
+
+    /// The top-left cell against a walk over the sizes, and one cell's origin against its neighbours' sizes.
+    void CheckPlaces()
+    {
+        const CCellID topLeft = m_grid.GetTopleftNonFixedCell();
+        int row = m_model.fixedRows, y = 0;
+        for (const int pos = m_grid.GetScrollPos(SB_VERT); y < pos && row < m_model.RowCount() - 1; ++row)
+            y += m_model.rows[row].height;
+        int col = m_model.fixedCols, x = 0;
+        for (const int pos = m_grid.GetScrollPos(SB_HORZ); x < pos && col < m_model.ColCount() - 1; ++col)
+            x += m_model.widths[col];
+        Expect(topLeft == CCellID(row, col), "top-left cell");
+
+        CPoint origin;
+        if (!m_model.Has(row, col) || !m_grid.GetCellOrigin(row, col, &origin))
+            return;
+        Expect(origin == CPoint(m_grid.GetFixedColumnWidth(), m_grid.GetFixedRowHeight()), "origin of the body");
+        if (m_model.rows[row].height > 0 && m_model.widths[col] > 0)
+            Expect(m_grid.GetCellFromPt(origin, FALSE) == CCellID(row, col), "cell at the body's origin");
+    }
+
+    std::mt19937 m_random;
+    bool m_withInput;
+    GridParent m_parent;
+    OpenGrid m_grid;
+    Model m_model;
+    int m_height = 0;
+    int m_width = 0;
+    std::ostringstream m_log;
+    std::ostringstream m_problem;
+};
+} // namespace
+
+SequenceResult RunGridSequence(unsigned seed, int steps, bool withInput)
+{
+    Sequence sequence(seed, withInput);
+    return sequence.Run(seed, steps);
+}

@@ -1,0 +1,159 @@
+#pragma once
+// A window with a grid in it for tests, and a parent that writes down what the grid tells it.
+
+#include <DialogControlsOW.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// A grid whose inner operations a test may call.
+class OpenGrid : public CGridCtrl
+{
+public:
+    using CGridCtrl::CGridCtrl;
+
+    using CGridCtrl::ClearCells;
+    using CGridCtrl::CreateCell;
+    using CGridCtrl::DestroyCell;
+    using CGridCtrl::EndEditing;
+    using CGridCtrl::GetCellRangeRect;
+    using CGridCtrl::GetMouseMode;
+    using CGridCtrl::GetPointClicked;
+    using CGridCtrl::GetScrollPos32;
+    using CGridCtrl::GetTopleftNonFixedCell;
+    using CGridCtrl::GetUnobstructedNonFixedCellRange;
+    using CGridCtrl::GetVisibleNonFixedCellRange;
+    using CGridCtrl::Initialise;
+    using CGridCtrl::IsVisibleHScroll;
+    using CGridCtrl::IsVisibleVScroll;
+    using CGridCtrl::m_nHScrollMax;
+    using CGridCtrl::m_nTimerId;
+    using CGridCtrl::m_nVScrollMax;
+    using CGridCtrl::m_nWheelLines;
+    using CGridCtrl::m_selectionStart;
+    using CGridCtrl::MouseOverColumnResizeArea;
+    using CGridCtrl::MouseOverRowResizeArea;
+    using CGridCtrl::OnDraw;
+    using CGridCtrl::OnEditCell;
+    using CGridCtrl::ResetScrollBars;
+    using CGridCtrl::SelectCells;
+    using CGridCtrl::SelectColumns;
+    using CGridCtrl::SelectRows;
+    using CGridCtrl::SetScrollPos32;
+    using CGridCtrl::ValidateAndModifyCellContents;
+};
+
+constexpr UINT kGridId = 77;
+
+/// Writes down each notification as "click 1,2", and answers it as told.
+class GridParent : public CWnd
+{
+public:
+    using Calls = std::vector<std::string>;
+    Calls calls;
+    int commands = 0;                                  ///< WM_COMMAND of the grid
+    std::function<LRESULT(NMHDR&)> answer;             ///< what to answer; without one 0
+    std::vector<CCellRange> hints;                     ///< ranges of the cache hints
+
+    bool Open(int nWidth = 420, int nHeight = 300, bool bVisible = true)
+    {
+        const DWORD dwStyle = WS_POPUP | WS_BORDER | WS_CLIPCHILDREN | (bVisible ? WS_VISIBLE : 0);
+        return CreateEx(0, AfxRegisterWndClass(0), L"grid", dwStyle, CRect(CPoint(200, 150), CSize(nWidth, nHeight)),
+                        nullptr, 0) != FALSE;
+    }
+    Calls Take() { return std::exchange(calls, {}); }
+
+protected:
+    BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) override
+    {
+        auto& header = *reinterpret_cast<NMHDR*>(lParam);
+        if (header.code == LVN_ODCACHEHINT)
+            hints.push_back(reinterpret_cast<GridCacheHint&>(header).range);
+        else if (const char* name = NameOf(header.code))
+        {
+            const auto& record = reinterpret_cast<GridNotify&>(header);
+            calls.push_back(std::string(name) + ' ' + std::to_string(record.iRow) + ',' + std::to_string(record.iColumn));
+        }
+        *pResult = answer ? answer(header) : 0;
+        return TRUE;
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM) override
+    {
+        commands += wParam == kGridId;
+        return TRUE;
+    }
+
+private:
+    static const char* NameOf(UINT code)
+    {
+        switch (code)
+        {
+        case NM_CLICK:
+            return "click";
+        case NM_DBLCLK:
+            return "dblclk";
+        case NM_RCLICK:
+            return "rclick";
+        case LVN_ITEMCHANGING:
+            return "changing";
+        case LVN_ITEMCHANGED:
+            return "changed";
+        case LVN_BEGINLABELEDITW:
+            return "begin";
+        case LVN_ENDLABELEDITW:
+            return "end";
+        default:
+            return nullptr;
+        }
+    }
+};
+
+/// What tests of a plain grid start from: 21 rows of 20 pixels, 7 columns of 60, the first of each fixed, each cell with
+/// its place as text, in a client area of 300 by 200 pixels.
+constexpr int kRows = 21, kCols = 7, kRowHeight = 20, kColWidth = 60;
+
+inline void FillWithPlaces(CGridCtrl& grid)
+{
+    for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+        for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+            grid.SetItemTextFmt(nRow, nCol, L"%d/%d", nRow, nCol);
+    grid.SetModified(FALSE);
+}
+
+inline void SetSizes(CGridCtrl& grid)
+{
+    for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+        grid.SetRowHeight(nRow, kRowHeight);
+    for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+        grid.SetColumnWidth(nCol, kColWidth, TRUE);
+}
+
+inline bool PlaceGrid(OpenGrid& grid, GridParent& parent, CSize client = CSize(300, 200))
+{
+    CRect rect(CPoint(10, 10), client);
+    ::AdjustWindowRectEx(&rect, WS_CHILD, FALSE, WS_EX_CLIENTEDGE);
+    rect.OffsetRect(10 - rect.left, 10 - rect.top);
+    return grid.Create(rect, &parent, kGridId, WS_CHILD | WS_VISIBLE | WS_TABSTOP) != FALSE;
+}
+
+/// The middle of a cell in the grid's client area.
+inline CPoint MiddleOf(CGridCtrl& grid, int nRow, int nCol)
+{
+    CRect rect;
+    return grid.GetCellRect(nRow, nCol, &rect) ? rect.CenterPoint() : CPoint(-1, -1);
+}
+
+/// One window for all tests of the program, with nothing in it: a new one for each would take seconds to go again.
+inline GridParent& SharedParent()
+{
+    static GridParent* const pParent = new GridParent; // closed with the program
+    if (!pParent->m_hWnd)
+        pParent->Open();
+    pParent->calls.clear();
+    pParent->hints.clear();
+    pParent->answer = nullptr;
+    pParent->commands = 0;
+    return *pParent;
+}

@@ -1,0 +1,134 @@
+// One direction of a grid against a walk over its sizes.
+
+#include <DialogControlsOW.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <vector>
+
+namespace
+{
+/// The same questions, answered by summing up.
+struct Walk
+{
+    std::vector<int> sizes;
+    int fixed = 0;
+
+    int Count() const { return static_cast<int>(sizes.size()); }
+    int Offset(int item) const
+    {
+        int sum = 0;
+        for (int i = 0; i < item; ++i)
+            sum += sizes[i];
+        return sum;
+    }
+    int FirstAt(int pos) const
+    {
+        int item = fixed;
+        for (int x = 0; x < pos && item < Count() - 1; ++item)
+            x += sizes[item];
+        return item;
+    }
+    int ItemAt(int pos, int first, bool fixedToo) const
+    {
+        if (pos < 0)
+            return -1;
+        if (pos < Offset(fixed))
+        {
+            if (!fixedToo)
+                return -1;
+            for (int item = 0, x = 0; item < fixed; ++item)
+                if ((x += sizes[item]) > pos)
+                    return item;
+        }
+        for (int item = first, x = Offset(fixed); item < Count(); ++item)
+            if ((x += sizes[item]) > pos)
+                return item;
+        return -1;
+    }
+    CGridAxis::SVisible Visible(int first, int end) const
+    {
+        int x = Offset(fixed);
+        for (int item = first; item < Count(); ++item)
+            if ((x += sizes[item]) >= end)
+                return {item, x, true};
+        return {Count() - 1, x, false};
+    }
+};
+} // namespace
+
+TEST(GridAxis, AnswersAsAWalkOverTheSizesDoes)
+{
+    std::mt19937 random(7);
+    const auto pick = [&](int below) { return static_cast<int>(random() % below); };
+    CGridAxis axis;
+    Walk walk;
+    for (int step = 0; step < 20000; ++step)
+    {
+        const int n = walk.Count();
+        const int size = pick(4) ? pick(40) : 0;
+        switch (pick(6))
+        {
+        case 0:
+            if (n > 30)
+            {
+                const int count = pick(n);
+                walk.sizes.resize(count);
+                walk.fixed = std::min(walk.fixed, count);
+                axis.SetCount(count, 0);
+            }
+            break;
+        case 1:
+        {
+            const int at = pick(n + 1);
+            walk.sizes.insert(walk.sizes.begin() + at, size);
+            axis.Insert(at, size);
+            break;
+        }
+        case 2:
+            if (n > 0)
+            {
+                const int at = pick(n);
+                walk.sizes.erase(walk.sizes.begin() + at);
+                walk.fixed -= at < walk.fixed;
+                axis.Remove(at);
+            }
+            break;
+        case 3:
+            walk.fixed = pick(std::min(n, 3) + 1);
+            axis.SetFixed(walk.fixed);
+            break;
+        case 4:
+            if (n > 1)
+            {
+                const int a = pick(n), b = pick(n);
+                std::swap(walk.sizes[a], walk.sizes[b]);
+                axis.Swap(a, b);
+            }
+            break;
+        default:
+            if (n > 0)
+            {
+                const int at = pick(n);
+                walk.sizes[at] = size;
+                axis.SetSize(at, size);
+            }
+        }
+        ASSERT_EQ(axis.Count(), walk.Count());
+        ASSERT_EQ(axis.Fixed(), walk.fixed);
+        ASSERT_EQ(axis.Extent(), walk.Offset(walk.Count()));
+        ASSERT_EQ(axis.FixedExtent(), walk.Offset(walk.fixed));
+        const int pos = pick(700) - 20;
+        const int first = axis.FirstAt(pos);
+        ASSERT_EQ(first, walk.FirstAt(pos)) << "step " << step;
+        const int point = pick(700) - 20;
+        ASSERT_EQ(axis.ItemAt(point, first, true), walk.ItemAt(point, first, true)) << "step " << step;
+        ASSERT_EQ(axis.ItemAt(point, first, false), walk.ItemAt(point, first, false)) << "step " << step;
+        const CGridAxis::SVisible visible = axis.Visible(first, point), expected = walk.Visible(first, point);
+        ASSERT_EQ(visible.nLast, expected.nLast) << "step " << step;
+        ASSERT_EQ(visible.nEnd, expected.nEnd);
+        ASSERT_EQ(visible.bReachesEnd, expected.bReachesEnd);
+    }
+}

@@ -1,0 +1,275 @@
+// Painting, by its pixels.
+
+#include "GridFixture.h"
+
+#include "Picture.h"
+
+class GridDrawing : public GridTest
+{
+protected:
+    static constexpr COLORREF kBack = RGB(250, 251, 252), kBehind = RGB(10, 90, 10), kLine = RGB(200, 30, 30);
+    static constexpr COLORREF kRowHead = RGB(30, 60, 220), kColHead = RGB(60, 160, 220), kCorner = RGB(220, 60, 160);
+
+    void SetUp() override
+    {
+        GridTest::SetUp();
+        for (int nRow = 0; nRow < kRows; ++nRow)
+            for (int nCol = 0; nCol < kCols; ++nCol)
+                grid.SetItemText(nRow, nCol, L"");
+        grid.SetTextBkColor(kBack);
+        grid.SetGridBkColor(kBehind);
+        grid.SetGridLineColor(kLine);
+        grid.GetDefaultCell(TRUE, FALSE)->SetBackClr(kRowHead);
+        grid.GetDefaultCell(FALSE, TRUE)->SetBackClr(kColHead);
+        grid.GetDefaultCell(TRUE, TRUE)->SetBackClr(kCorner);
+        grid.SetRowCount(6);
+        grid.SetColumnCount(4);
+        SetSizes(grid);
+    }
+    void Draw(owtest::Surface& to) { grid.OnDraw(&to.dc()); }
+};
+
+TEST_F(GridDrawing, RegionsHaveTheirColours)
+{
+    owtest::Surface surface(300, 200);
+    Draw(surface);
+    EXPECT_EQ(surface.at(30, 10), kColHead) << "the fixed columns are painted over the corner, as its cells are empty";
+    EXPECT_EQ(surface.at(90, 10), kRowHead);
+    EXPECT_EQ(surface.at(30, 50), kColHead);
+    EXPECT_EQ(surface.at(90, 50), kBack);
+    EXPECT_EQ(surface.at(270, 50), kBehind);
+    EXPECT_EQ(surface.at(90, 180), kBehind);
+
+    OpenGrid empty;
+    ASSERT_TRUE(PlaceGrid(empty, parent));
+    empty.SetGridBkColor(kBehind);
+    owtest::Surface whole(300, 200);
+    empty.OnDraw(&whole.dc());
+    EXPECT_EQ(whole.count(CRect(0, 0, 300, 200), kBehind), 300 * 200);
+    empty.DestroyWindow();
+}
+
+TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
+{
+    owtest::Surface both(300, 200), none(300, 200), across(300, 200);
+    Draw(both);
+    EXPECT_EQ(both.at(90, 39), kLine);
+    EXPECT_EQ(both.at(119, 30), kLine);
+    EXPECT_NE(both.at(119, 10), kLine) << "headers draw their own edges";
+    EXPECT_NE(both.at(30, 39), kLine);
+    grid.SetGridLines(GVL_HORZ);
+    Draw(across);
+    EXPECT_EQ(across.at(90, 39), kLine);
+    EXPECT_EQ(across.at(119, 30), kBack);
+    grid.SetGridLines(GVL_NONE);
+    Draw(none);
+    grid.RedrawCell(2, 2, &none.dc());
+    EXPECT_EQ(none.count(CRect(0, 0, 300, 200), kLine), 0);
+}
+
+TEST_F(GridDrawing, ARedrawnCellBringsItsTwoLinesAndAFixedOneNone)
+{
+    owtest::Surface surface(300, 200);
+    grid.RedrawCell(2, 2, &surface.dc());
+    EXPECT_EQ(surface.at(130, 59), kLine);
+    EXPECT_EQ(surface.at(179, 50), kLine);
+    EXPECT_EQ(surface.at(150, 50), kBack);
+    EXPECT_EQ(surface.at(119, 50), RGB(255, 0, 255)) << "the neighbour's line is not touched";
+    grid.RedrawCell(2, 0, &surface.dc());
+    EXPECT_EQ(surface.count(CRect(0, 40, 60, 60), kLine), 0);
+}
+
+TEST_F(GridDrawing, TheFocusHasAFrameAndPressesItsHeadersIn)
+{
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), dark = ::GetSysColor(COLOR_3DDKSHADOW);
+    owtest::Surface before(300, 200), after(300, 200), untracked(300, 200);
+    Draw(before);
+    EXPECT_EQ(before.at(61, 40 + 60 - 60), kBack);
+    EXPECT_EQ(before.at(0, 45), light) << "raised";
+    EXPECT_EQ(before.at(59, 45), dark);
+    grid.SetTextColor(RGB(1, 2, 3));
+    grid.SetFocusCell(2, 1);
+    Draw(after);
+    EXPECT_EQ(after.at(60, 45), RGB(1, 2, 3));
+    EXPECT_EQ(after.at(90, 40), RGB(1, 2, 3));
+    EXPECT_NE(after.at(0, 45), light) << "pressed in";
+    EXPECT_EQ(after.at(0, 65), light);
+    grid.SetTrackFocusCell(FALSE);
+    grid.SetFrameFocusCell(FALSE);
+    Draw(untracked);
+    EXPECT_EQ(untracked.at(60, 45), kBack);
+    EXPECT_EQ(untracked.at(0, 45), light);
+}
+
+TEST_F(GridDrawing, SelectedCellsHaveTheSystemsColours)
+{
+    grid.SetSelectedRange(2, 1, 3, 2);
+    owtest::Surface surface(300, 200);
+    Draw(surface);
+    EXPECT_EQ(surface.at(90, 50), ::GetSysColor(COLOR_HIGHLIGHT));
+    EXPECT_EQ(surface.at(90, 90), kBack);
+    grid.SetFocusCell(2, 1);
+    Draw(surface);
+    EXPECT_EQ(surface.at(60, 45), ::GetSysColor(COLOR_HIGHLIGHTTEXT)) << "the frame follows the text's colour";
+}
+
+TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
+{
+    grid.SetItemBkColour(2, 2, RGB(5, 200, 5));
+    owtest::Surface surface(300, 200);
+    Draw(surface);
+    EXPECT_EQ(surface.at(150, 50), RGB(5, 200, 5));
+    CGridCellBase& plain = *grid.GetCell(3, 2);
+    owtest::Surface bare(100, 40);
+    EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), FALSE));
+    EXPECT_EQ(bare.at(30, 10), RGB(255, 0, 255)) << "an inherited one is the grid's business";
+    EXPECT_FALSE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 0, 19), TRUE));
+    EXPECT_FALSE(plain.Draw(nullptr, 3, 2, CRect(0, 0, 59, 19), TRUE));
+}
+
+TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
+{
+    const CRect header(60, 0, 120, 20), below(60, 20, 120, 40);
+    owtest::Surface plain(300, 200), up(300, 200), down(300, 200);
+    Draw(plain);
+    grid.SetSortColumn(1);
+    Draw(up);
+    grid.SetSortAscending(FALSE);
+    Draw(down);
+    EXPECT_LT(up.count(header, kRowHead), plain.count(header, kRowHead));
+    EXPECT_EQ(up.count(below, kBack), plain.count(below, kBack));
+    const COLORREF shadow = ::GetSysColor(COLOR_3DSHADOW);
+    int upTop = 0, downTop = 0;
+    for (int x = 62; x < 118; ++x)
+    {
+        upTop += up.at(x, 8) == shadow;
+        downTop += down.at(x, 8) == shadow;
+    }
+    EXPECT_GT(up.count(header, shadow), 8);
+    EXPECT_GT(down.count(header, shadow), 8);
+}
+
+TEST_F(GridDrawing, TheImageMakesRoomForTheText)
+{
+    CImageList images;
+    images.Create(12, 12, ILC_COLOR32, 1, 1);
+    owtest::Surface red(12, 12, RGB(255, 0, 0));
+    images.Add(CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(red.dc(), OBJ_BITMAP))),
+               static_cast<CBitmap*>(nullptr));
+    grid.SetImageList(&images);
+    grid.SetItemImage(2, 2, 0);
+    CRect cell, text;
+    grid.GetCellRect(2, 2, &cell);
+    grid.GetTextRect(2, 2, &text);
+    const int margin = static_cast<int>(grid.GetCell(2, 2)->GetMargin());
+    EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);
+    grid.SetItemImage(2, 2, 9);
+    grid.GetTextRect(2, 2, &text);
+    EXPECT_EQ(text.left, cell.left) << "an image that is not there takes no room";
+    grid.SetImageList(nullptr);
+}
+
+TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
+{
+    grid.SetGridLines(GVL_NONE);
+    CGridCellBase& cell = *grid.GetCell(3, 2);
+    CFont& font = *cell.GetFontObject();
+    const int margin = static_cast<int>(cell.GetMargin());
+    for (const wchar_t* text : {L"12", L"IPE 200", L"Wj", L"much too long for the width of its column", L"two\nlines"})
+        for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})
+            for (const UINT vertical : {UINT(DT_TOP), UINT(DT_VCENTER), UINT(DT_BOTTOM)})
+                for (const int width : {59, 60, 75})
+                {
+                    const UINT format = align | vertical | DT_SINGLELINE | DT_END_ELLIPSIS;
+                    const CRect place(3, 2, 3 + width, 2 + 21);
+                    cell.SetText(text);
+                    cell.SetFormat(format);
+                    owtest::Surface drawn(90, 30, kBack), expected(90, 30, kBack);
+                    cell.Draw(&drawn.dc(), 3, 2, place, FALSE);
+                    CRect inner(place.left + margin, place.top + margin, place.right - margin, place.bottom);
+                    expected.dc().SelectObject(&font);
+                    expected.dc().SetBkMode(TRANSPARENT);
+                    expected.dc().SetTextColor(grid.GetTextColor());
+                    expected.dc().DrawText(text, -1, &inner, format | DT_NOPREFIX);
+                    for (int y = 0; y < 30; ++y)
+                        for (int x = 0; x < 90; ++x)
+                            ASSERT_EQ(drawn.at(x, y), expected.at(x, y))
+                                << CStringA(text).GetString() << " format " << format << " at " << x << ',' << y;
+                }
+}
+
+TEST_F(GridDrawing, ACellLeavesTheContextAsItFoundIt)
+{
+    owtest::Surface surface(100, 40);
+    CDC& dc = surface.dc();
+    dc.SetTextColor(RGB(1, 2, 3));
+    dc.SetBkColor(RGB(4, 5, 6));
+    dc.SetBkMode(OPAQUE);
+    const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
+    grid.SetItemText(2, 2, L"text");
+    grid.SetSelectedRange(2, 2, 2, 2);
+    grid.GetCell(2, 2)->Draw(&dc, 2, 2, CRect(0, 0, 59, 19), TRUE);
+    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
+    EXPECT_EQ(dc.GetBkColor(), RGB(4, 5, 6));
+    EXPECT_EQ(dc.GetBkMode(), OPAQUE);
+    EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), font);
+}
+
+TEST_F(GridDrawing, NothingIsPaintedWhileDrawingIsOff)
+{
+    owtest::Surface surface(300, 200);
+    grid.SetRedraw(FALSE);
+    Draw(surface);
+    EXPECT_EQ(surface.count(CRect(0, 0, 300, 200), RGB(255, 0, 255)), 300 * 200);
+    grid.UpdateWindow();
+    grid.SetRedraw(TRUE);
+    EXPECT_TRUE(::GetUpdateRect(grid, nullptr, FALSE));
+}
+
+TEST_F(GridDrawing, TheBufferShowsTheSamePicture)
+{
+    owtest::Surface direct(300, 200), buffered(300, 200);
+    Draw(direct);
+    {
+        CMemDC buffer(&buffered.dc());
+        grid.OnDraw(&buffer);
+    }
+    for (int y = 0; y < 200; y += 3)
+        for (int x = 0; x < 300; x += 3)
+            ASSERT_EQ(direct.at(x, y), buffered.at(x, y)) << x << ',' << y;
+    grid.SetDoubleBuffering(TRUE);
+    grid.Invalidate();
+    grid.UpdateWindow();
+}
+
+TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
+{
+    grid.SetTextBkColor(::GetSysColor(COLOR_WINDOW));
+    grid.SetFixedBkColor(RGB(1, 1, 1));
+    EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
+    const COLORREF old = ::GetSysColor(COLOR_WINDOW);
+    const int element = COLOR_WINDOW;
+    const COLORREF other = RGB(240, 255, 240);
+    ::SetSysColors(1, &element, &other);
+    grid.SendMessage(WM_SYSCOLORCHANGE);
+    const COLORREF followed = grid.GetTextBkColor();
+    ::SetSysColors(1, &element, &old);
+    grid.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(followed, other);
+    EXPECT_EQ(grid.GetTextBkColor(), old);
+    EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
+}
+
+TEST_F(GridDrawing, TheFontGoesToAllFourDefaultCells)
+{
+    CFont font;
+    font.CreatePointFont(140, L"Liberation Serif");
+    grid.SetFont(&font);
+    LOGFONT lf;
+    font.GetLogFont(&lf);
+    EXPECT_STREQ(grid.GetDefaultCell(TRUE, TRUE)->GetFont()->lfFaceName, lf.lfFaceName);
+    LOGFONT told;
+    ASSERT_NE(grid.GetFont(), nullptr);
+    grid.GetFont()->GetLogFont(&told);
+    EXPECT_EQ(told.lfHeight, lf.lfHeight);
+}

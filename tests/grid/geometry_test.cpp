@@ -1,0 +1,213 @@
+// From cells to pixels and back; scrolling; sizing to fit.
+
+#include "GridFixture.h"
+
+class GridGeometry : public GridTest
+{
+protected:
+    void Scroll(UINT message, UINT code, int times = 1)
+    {
+        for (; times > 0; --times)
+            grid.SendMessage(message, code);
+    }
+    int WaitingMessages(UINT message)
+    {
+        MSG msg;
+        int count = 0;
+        while (::PeekMessage(&msg, grid, message, message, PM_REMOVE))
+            ++count;
+        return count;
+    }
+};
+
+TEST_F(GridGeometry, PlacesHoldTheLastPixel)
+{
+    CRect rect;
+    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
+    EXPECT_EQ(rect, CRect(180, 40, 239, 59));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(239, 59)), CCellID(2, 3));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(240, 60)), CCellID(3, 4));
+    grid.SetColumnWidth(3, 0, TRUE);
+    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
+    EXPECT_EQ(rect.right, rect.left - 1) << "hidden";
+    ASSERT_TRUE(grid.GetCellRangeRect(CCellRange(1, 1, 2, 2), &rect));
+    EXPECT_EQ(rect, CRect(60, 20, 179, 59));
+    EXPECT_EQ(grid.GetPointClicked(2, 2, CPoint(125, 43)), CPoint(5, 3));
+}
+
+TEST_F(GridGeometry, PointsOutsideGiveNoCellInTheirDirection)
+{
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(-1, 45)), CCellID(2, -1));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(5000, 45)), CCellID(2, -1));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 45), FALSE), CCellID(2, -1)) << "fixed cells are not asked for";
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 5), TRUE), CCellID(0, 0));
+}
+
+TEST_F(GridGeometry, ACellScrolledAwayHasNoPlaceAndOneFarBelowHas)
+{
+    Scroll(WM_VSCROLL, SB_LINEDOWN, 3);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(4, 1));
+    CPoint origin;
+    EXPECT_FALSE(grid.GetCellOrigin(3, 1, &origin));
+    EXPECT_TRUE(grid.GetCellOrigin(3, 0, &origin) == FALSE && grid.GetCellOrigin(0, 1, &origin));
+    ASSERT_TRUE(grid.GetCellOrigin(20, 1, &origin));
+    EXPECT_EQ(origin.y, 20 + 16 * 20);
+    EXPECT_FALSE(grid.IsCellVisible(20, 1));
+}
+
+TEST_F(GridGeometry, VisibleCountsPartsAndUnobstructedDoesNot)
+{
+    CRect client;
+    grid.GetClientRect(&client);
+    const int rowsBelow = (client.Height() - 20 + 19) / 20, colsRight = (client.Width() - 60 + 59) / 60;
+    CRect covered;
+    EXPECT_EQ(grid.GetVisibleNonFixedCellRange(&covered), CCellRange(1, 1, rowsBelow, colsRight));
+    EXPECT_EQ(covered, client);
+    EXPECT_EQ(grid.GetUnobstructedNonFixedCellRange(),
+              CCellRange(1, 1, (client.Height() - 20) / 20, (client.Width() - 60) / 60));
+    grid.SetRowCount(3);
+    grid.GetVisibleNonFixedCellRange(&covered);
+    EXPECT_EQ(covered.bottom, 60);
+}
+
+TEST_F(GridGeometry, TheBarsFollowTheContents)
+{
+    EXPECT_TRUE(grid.IsVisibleVScroll() && grid.IsVisibleHScroll());
+    EXPECT_EQ(grid.m_nVScrollMax, 20 * 20 - 1);
+    EXPECT_EQ(grid.m_nHScrollMax, 6 * 60 - 1);
+    grid.SetColumnCount(3);
+    EXPECT_FALSE(grid.IsVisibleHScroll());
+    EXPECT_EQ(grid.m_nHScrollMax, 0);
+    grid.SetRowCount(5);
+    EXPECT_FALSE(grid.IsVisibleVScroll());
+    CRect client;
+    grid.GetClientRect(&client);
+    EXPECT_EQ(client.Size(), CSize(300, 200));
+
+    // Only the headers fit: both bars go, and the books stay.
+    grid.SetRowCount(kRows);
+    ASSERT_TRUE(grid.IsVisibleVScroll());
+    grid.SetColumnWidth(0, 400, TRUE);
+    EXPECT_TRUE(grid.IsVisibleVScroll());
+    EXPECT_FALSE(grid.GetStyle() & WS_VSCROLL);
+}
+
+TEST_F(GridGeometry, ScrollMessagesMoveByLinesPagesAndEnds)
+{
+    grid.SetRowHeight(2, 0);
+    Scroll(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 20);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell().row, 2);
+    Scroll(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 40) << "over the hidden row";
+    Scroll(WM_VSCROLL, SB_LINEUP);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 20);
+    Scroll(WM_VSCROLL, SB_BOTTOM);
+    const int nEnd = grid.GetScrollPos32(SB_VERT);
+    EXPECT_GT(nEnd, 150);
+    Scroll(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), nEnd);
+    Scroll(WM_VSCROLL, SB_TOP);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 0);
+    CRect client;
+    grid.GetClientRect(&client);
+    Scroll(WM_HSCROLL, SB_PAGERIGHT);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell().col, 1 + (std::min(client.Width() - 60, grid.GetScrollPos32(SB_HORZ)) + 59) / 60);
+    Scroll(WM_HSCROLL, SB_PAGELEFT);
+    EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 0);
+}
+
+TEST_F(GridGeometry, AtTheEndALineRepaintsNothing)
+{
+    Scroll(WM_HSCROLL, SB_RIGHT);
+    grid.UpdateWindow();
+    Scroll(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_FALSE(::GetUpdateRect(grid, nullptr, FALSE));
+    Scroll(WM_HSCROLL, SB_LINELEFT);
+    CRect rect;
+    EXPECT_TRUE(::GetUpdateRect(grid, &rect, FALSE));
+    EXPECT_EQ(rect.left, kColWidth) << "the fixed columns stay as they are";
+}
+
+TEST_F(GridGeometry, TheWheelPostsLinesOrPages)
+{
+    const auto wheel = [&](short delta) { grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), 0); };
+    grid.m_nWheelLines = 3;
+    wheel(60);
+    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 1);
+    wheel(-120);
+    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 3);
+    grid.m_nWheelLines = -1;
+    wheel(60);
+    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 0);
+    wheel(-240);
+    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 2);
+}
+
+TEST_F(GridGeometry, EnsureVisibleScrollsAsFarAsNeeded)
+{
+    grid.EnsureVisible(15, 6);
+    CRect rect, client;
+    grid.GetClientRect(&client);
+    ASSERT_TRUE(grid.GetCellRect(15, 6, &rect));
+    EXPECT_TRUE(rect.right <= client.right && rect.bottom <= client.bottom);
+    grid.EnsureVisible(2, 1);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(2, 1));
+    grid.SetColumnWidth(3, 1000, TRUE);
+    grid.EnsureVisible(2, 3); // wider than the window: its start shows
+    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
+    EXPECT_EQ(rect.left, kColWidth);
+    grid.SetRedraw(FALSE);
+    grid.EnsureVisible(20, 1);
+    EXPECT_FALSE(grid.IsCellVisible(20, 1)) << "not while drawing is off";
+}
+
+TEST_F(GridGeometry, EnsureVisibleComesBackEvenWhereNothingFits)
+{
+    grid.SetColumnWidth(0, 290, TRUE);
+    grid.EnsureVisible(20, 6);
+    OpenGrid windowless(9, 9, 1, 1);
+    windowless.EnsureVisible(8, 8);
+}
+
+TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
+{
+    grid.SetItemText(0, 2, L"a heading that is wider than the rest");
+    const int nHeading = grid.GetCellTextExtent(0, 2).cx, nBody = grid.GetCellTextExtent(10, 2).cx;
+    EXPECT_TRUE(grid.AutoSizeColumn(2, 1));
+    EXPECT_EQ(grid.GetColumnWidth(2), nHeading);
+    EXPECT_TRUE(grid.AutoSizeColumn(2, 2));
+    EXPECT_EQ(grid.GetColumnWidth(2), nBody);
+    grid.AutoSizeColumn(2);
+    EXPECT_EQ(grid.GetColumnWidth(2), nHeading);
+    grid.SetColumnWidth(3, 0, TRUE);
+    EXPECT_FALSE(grid.AutoSizeColumn(3));
+    EXPECT_EQ(grid.GetColumnWidth(3), 0);
+    grid.SetRowHeight(4, 0);
+    grid.SetRowHeight(5, 90);
+    grid.AutoSize();
+    EXPECT_EQ(grid.GetRowHeight(4), 0);
+    EXPECT_EQ(grid.GetRowHeight(5), grid.GetCellTextExtent(5, 2).cy);
+    EXPECT_EQ(grid.GetColumnWidth(3), 0);
+}
+
+TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
+{
+    grid.SetRowCount(4);
+    grid.SetColumnCount(4);
+    grid.ExpandColumnsToFit();
+    EXPECT_EQ(grid.GetVirtualWidth(), 300);
+    EXPECT_EQ(grid.GetColumnWidth(0), 75);
+    grid.SetColumnWidth(1, 0, TRUE);
+    grid.ExpandColumnsToFit(FALSE); // 75 missing for two columns: 37 each, and one over, which the hidden one takes
+    EXPECT_EQ(grid.GetColumnWidth(0), 75);
+    EXPECT_EQ(grid.GetColumnWidth(2), 112);
+    EXPECT_EQ(grid.GetVirtualWidth(), 299);
+    grid.ExpandLastColumn();
+    EXPECT_EQ(grid.GetVirtualWidth(), 300);
+    grid.ExpandRowsToFit();
+    EXPECT_EQ(grid.GetVirtualHeight(), 200);
+    grid.AutoFill();
+    EXPECT_EQ(grid.GetFixedRowCount(), 1);
+    EXPECT_EQ(grid.GetVirtualWidth(), 300);
+}

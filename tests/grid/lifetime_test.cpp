@@ -1,0 +1,200 @@
+// Receivers that change or destroy the grid in the middle of a notification; leaks.
+
+#include "GridFixture.h"
+
+#include "Handles.h"
+
+#include <memory>
+
+namespace
+{
+/// A grid on the heap, so that a receiver can delete it.
+class GridLife : public ::testing::Test
+{
+protected:
+    void SetUp() override { Make(); }
+    void Make()
+    {
+        grid = std::make_unique<OpenGrid>(12, 4, 1, 1);
+        ASSERT_TRUE(PlaceGrid(*grid, parent));
+        FillWithPlaces(*grid);
+        grid->SetFocusCell(2, 2);
+    }
+    void Send(UINT message, WPARAM wParam, CPoint point)
+    {
+        ::SendMessage(hGrid, message, wParam, MAKELPARAM(point.x, point.y));
+    }
+    /// All that a user can do to a grid, once for each kind of notification, with the harm done in it.
+    void Torment(const std::function<void()>& harm)
+    {
+        for (const UINT code : {NM_CLICK, NM_DBLCLK, NM_RCLICK, LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_BEGINLABELEDITW,
+                                LVN_ENDLABELEDITW})
+        {
+            grid.reset();
+            Make();
+            bool done = false;
+            parent.answer = [&](NMHDR& header) -> LRESULT {
+                if (header.code != code || done)
+                    return 0;
+                done = true;
+                harm();
+                return 0;
+            };
+            hGrid = grid->m_hWnd;
+            UseGrid();
+            parent.answer = nullptr;
+            owtest::Pump();
+            EXPECT_TRUE(done) << "notification " << static_cast<int>(code) << " was not sent";
+        }
+    }
+    void UseGrid()
+    {
+        const CPoint point = MiddleOf(*grid, 3, 2), header = MiddleOf(*grid, 0, 2);
+        Send(WM_LBUTTONDOWN, MK_LBUTTON, point);
+        Send(WM_LBUTTONUP, 0, point);
+        Send(WM_LBUTTONDOWN, MK_LBUTTON, header);
+        Send(WM_LBUTTONUP, 0, header);
+        Send(WM_KEYDOWN, VK_RIGHT, CPoint());
+        Send(WM_KEYDOWN, 'A', CPoint());
+        Send(WM_CHAR, 'x', CPoint());
+        EditAndEnd(VK_TAB);
+        Send(WM_LBUTTONDBLCLK, MK_LBUTTON, point);
+        EditAndEnd(VK_RETURN);
+        Send(WM_RBUTTONUP, 0, point);
+        if (::IsWindow(hGrid))
+            ::SetFocus(hGrid);
+        owtest::Pump();
+    }
+    void EditAndEnd(UINT key)
+    {
+        const HWND editor = ::GetDlgItem(hGrid, InPlaceControlId);
+        if (!editor)
+            return;
+        ::SetWindowText(editor, L"another text");
+        ::SendMessage(editor, WM_CHAR, key, 0);
+        owtest::Pump();
+    }
+
+    GridParent& parent = SharedParent();
+    std::unique_ptr<OpenGrid> grid;
+    HWND hGrid = nullptr;
+};
+} // namespace
+
+TEST_F(GridLife, AReceiverMayDeleteRows)
+{
+    Torment([&] { grid->DeleteNonFixedRows(); });
+    EXPECT_EQ(grid->GetRowCount(), 1);
+    grid->SetRowCount(12);
+    Torment([&] { grid->SetRowCount(12); });
+    EXPECT_EQ(grid->GetRowCount(), 12);
+}
+
+TEST_F(GridLife, AReceiverMayDeleteAllItems)
+{
+    for (int turn = 0; turn < 3; ++turn)
+    {
+        Torment([&] { grid->DeleteAllItems(); });
+        grid.reset();
+    }
+}
+
+TEST_F(GridLife, AReceiverMayDestroyTheWindow)
+{
+    Torment([&] { grid->DestroyWindow(); });
+}
+
+TEST_F(GridLife, AReceiverMayDeleteTheGrid)
+{
+    Torment([&] { grid.reset(); });
+}
+
+TEST_F(GridLife, AReceiverMayEndTheEditOrStartAnother)
+{
+    Torment([&] { grid->EndEditing(); });
+    grid.reset();
+    Torment([&] {
+        grid->SetFocusCell(5, 3);
+        grid->StartEditCell();
+    });
+    ::SetFocus(parent);
+    owtest::Pump();
+}
+
+TEST_F(GridLife, ACellThatMovesDuringAnEditForgetsItsEditor)
+{
+    grid->StartEditCell();
+    ASSERT_TRUE(grid->IsItemEditing(2, 2));
+    grid->InsertRow(L"above", 1);
+    EXPECT_TRUE(grid->IsItemEditing(3, 2));
+    ::SetFocus(parent);
+    owtest::Pump();
+    EXPECT_FALSE(grid->IsItemEditing(3, 2));
+    grid->SetFocusCell(3, 2);
+    grid->EndEditing();
+    grid->StartEditCell();
+    EXPECT_TRUE(grid->IsItemEditing(3, 2)) << "it can be edited again";
+    grid->DeleteRow(3);
+    ::SetFocus(parent);
+    owtest::Pump();
+}
+
+TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
+{
+    grid->SetVirtualMode(TRUE);
+    grid->SetColumnCount(4);
+    grid->SetRowCount(50);
+    parent.answer = [&](NMHDR& header) -> LRESULT {
+        if (header.code == LVN_GETDISPINFOW && grid->GetRowCount() > 5)
+            grid->SetRowCount(grid->GetRowCount() - 3);
+        return 0;
+    };
+    grid->Invalidate();
+    grid->UpdateWindow();
+    EXPECT_LT(grid->GetRowCount(), 50);
+    parent.answer = nullptr;
+}
+
+TEST(GridLeaks, TwoHundredLivesEndWhereTheyBegan)
+{
+    GridParent& parent = SharedParent();
+    const auto live = [&](int times) {
+        for (int i = 0; i < times; ++i)
+        {
+            OpenGrid grid(20, 5, 1, 1);
+            ASSERT_TRUE(PlaceGrid(grid, parent));
+            FillWithPlaces(grid);
+            LOGFONT lf{};
+            wcscpy(lf.lfFaceName, L"Liberation Sans");
+            grid.SetItemFont(3, 3, &lf);
+            grid.SetFocusCell(2, 2);
+            grid.SetSelectedRange(2, 2, 6, 3);
+            grid.UpdateWindow();
+            grid.StartEditCell();
+            if (CWnd* const editor = grid.GetDlgItem(InPlaceControlId))
+            {
+                editor->SetWindowText(L"new");
+                editor->SendMessage(WM_CHAR, VK_RETURN);
+            }
+            ASSERT_EQ(grid.GetItemText(2, 2), L"new");
+            if (i % 2)
+                grid.StartEditCell(); // and destroyed in the middle of it
+            grid.SortTextItems(1, FALSE);
+            owtest::Pump();
+            parent.Take();
+        }
+    };
+    const auto heapBytes = [] {
+        for (LONG idle = 0; AfxGetApp()->OnIdle(idle); ++idle) // what MFC keeps until then
+            ;
+        return owtest::CountHeapBytes();
+    };
+    live(20);
+    const owtest::HandleCount handles = owtest::CountHandles();
+    const size_t bytes = heapBytes();
+    live(200);
+    const owtest::HandleCount after = owtest::CountHandles();
+    EXPECT_EQ(after.gdi, handles.gdi);
+    EXPECT_EQ(after.windows, handles.windows);
+    EXPECT_LT(heapBytes(), bytes + 4096) << "less than a quarter of what one life takes";
+}

@@ -1,0 +1,315 @@
+// The mouse: every transition of its state machine, with a real one where the way there matters.
+
+#include "GridFixture.h"
+
+#include <algorithm>
+
+class GridMouse : public GridTest
+{
+protected:
+    /// On the divider behind a column, or below a row, over the headers.
+    CPoint ColumnDivider(int nCol) { return CPoint(kColWidth * (nCol + 1) - 1, kRowHeight / 2); }
+    CPoint RowDivider(int nRow) { return CPoint(kColWidth / 2, kRowHeight * (nRow + 1) - 1); }
+};
+
+TEST_F(GridMouse, AClickSelectsFocusesAndTells)
+{
+    ClickCell(3, 2);
+    EXPECT_EQ(parent.Take(), (Calls{"changed 3,2", "changing 3,2", "click 3,2"}));
+    EXPECT_EQ(parent.commands, 1);
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(3, 2));
+    EXPECT_EQ(Selected(), CCellRange(3, 2, 3, 2));
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+
+    owtest::Click(grid, CPoint(250, 165)); // column 4 shows from 240 on, row 8 from 160 on
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(8, 4));
+}
+
+TEST_F(GridMouse, ADragSelectsARectangleAndTellsOfRowsOnly)
+{
+    owtest::ButtonDown(grid, MiddleOf(grid, 2, 1));
+    EXPECT_EQ(grid.GetMouseMode(), 4);
+    EXPECT_EQ(::GetCapture(), grid.m_hWnd);
+    parent.Take();
+    owtest::MoveTo(grid, MiddleOf(grid, 2, 2));
+    EXPECT_EQ(parent.Take(), Calls{}) << "inside one row the focus moves quietly";
+    owtest::MoveTo(grid, MiddleOf(grid, 4, 3));
+    EXPECT_EQ(parent.Take(), Calls{"changed 4,3"});
+    EXPECT_EQ(Selected(), CCellRange(2, 1, 4, 3));
+    EXPECT_EQ(grid.GetSelectedCount(), 9);
+    owtest::MoveTo(grid, MiddleOf(grid, 1, 1));
+    EXPECT_EQ(Selected(), CCellRange(1, 1, 2, 1)) << "the anchor stays";
+    owtest::ButtonUp();
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(GridMouse, ADragBeyondTheEdgeScrollsByTheTimer)
+{
+    owtest::ButtonDown(grid, MiddleOf(grid, 3, 1));
+    EXPECT_NE(grid.m_nTimerId, 0u);
+    owtest::MoveTo(grid, CPoint(90, 215));
+    EXPECT_TRUE(owtest::PumpUntil([&] { return grid.GetFocusCell().row == kRows - 1; })) << "goes on without a move";
+    EXPECT_EQ(Selected().minRow, 3);
+    EXPECT_GE(Selected().maxRow, kRows - 2);
+    owtest::MoveTo(grid, CPoint(90, -5));
+    EXPECT_TRUE(owtest::PumpUntil([&] { return grid.GetFocusCell().row == 1; }));
+    owtest::MoveTo(grid, CPoint(310, 100));
+    EXPECT_TRUE(owtest::PumpUntil([&] { return grid.GetFocusCell().col == kCols - 1; }));
+    owtest::ButtonUp();
+    EXPECT_EQ(grid.m_nTimerId, 0u);
+
+    owtest::ButtonDown(grid, CPoint(90, 10));
+    EXPECT_EQ(grid.GetMouseMode(), 2);
+    EXPECT_EQ(grid.m_nTimerId, 0u) << "a drag on a header does not scroll";
+    owtest::ButtonUp();
+}
+
+TEST_F(GridMouse, LosingTheCaptureStopsTheTimerAndKeepsTheMode)
+{
+    owtest::ButtonDown(grid, MiddleOf(grid, 3, 1));
+    ::SetCapture(parent);
+    EXPECT_EQ(grid.m_nTimerId, 0u);
+    EXPECT_EQ(grid.GetMouseMode(), 4);
+    ::ReleaseCapture();
+    grid.SendMessage(WM_LBUTTONUP, 0, 0);
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+    owtest::ButtonUp();
+}
+
+TEST_F(GridMouse, HeadersSelectColumnsRowsAndAll)
+{
+    ClickCell(0, 2);
+    EXPECT_EQ(Selected(), CCellRange(1, 2, kRows - 1, 2));
+    Drag(MiddleOf(grid, 0, 2), MiddleOf(grid, 0, 4));
+    EXPECT_EQ(Selected(), CCellRange(1, 2, kRows - 1, 4));
+    ClickCell(5, 0);
+    EXPECT_EQ(Selected(), CCellRange(5, 1, 5, kCols - 1));
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(5, 1)) << "the focus goes to the body";
+    owtest::ButtonDown(grid, MiddleOf(grid, 0, 0));
+    EXPECT_EQ(grid.GetMouseMode(), 1);
+    owtest::ButtonUp();
+    EXPECT_EQ(grid.GetSelectedCount(), (kRows - 1) * (kCols - 1));
+
+    grid.SetFixedRowSelection(FALSE);
+    grid.SetFixedColumnSelection(FALSE);
+    parent.Take();
+    owtest::ButtonDown(grid, MiddleOf(grid, 0, 3));
+    EXPECT_EQ(grid.GetMouseMode(), 0) << "a press that selects nothing";
+    owtest::ButtonUp();
+    EXPECT_EQ(parent.Take().back(), "click 0,3") << "is a click all the same";
+    ClickCell(4, 0);
+    EXPECT_EQ(grid.GetSelectedCount(), (kRows - 1) * (kCols - 1));
+}
+
+TEST_F(GridMouse, ListModeAndSingleSelectionShapeAClick)
+{
+    grid.SetListMode();
+    ClickCell(3, 2);
+    EXPECT_EQ(Selected(), CCellRange(3, 1, 3, kCols - 1));
+    Drag(MiddleOf(grid, 4, 1), MiddleOf(grid, 6, 1));
+    EXPECT_EQ(Selected(), CCellRange(4, 1, 6, kCols - 1));
+    grid.SetSingleRowSelection();
+    Drag(MiddleOf(grid, 2, 1), MiddleOf(grid, 5, 1));
+    EXPECT_EQ(Selected(), CCellRange(5, 1, 5, kCols - 1));
+
+    grid.SetListMode(FALSE);
+    EXPECT_FALSE(grid.GetSingleRowSelection()) << "counts in list mode only";
+    grid.SetFixedRowSelection(TRUE);
+    grid.SetSingleColSelection();
+    Drag(MiddleOf(grid, 0, 2), MiddleOf(grid, 0, 4));
+    EXPECT_EQ(Selected(), CCellRange(1, 4, kRows - 1, 4));
+}
+
+TEST_F(GridMouse, ShiftExtendsAndControlAddsAndTakesAway)
+{
+    SendClick(MiddleOf(grid, 2, 1));
+    SendClick(MiddleOf(grid, 4, 2), MK_SHIFT);
+    EXPECT_EQ(Selected(), CCellRange(2, 1, 4, 2));
+
+    SendClick(MiddleOf(grid, 7, 3), MK_CONTROL);
+    EXPECT_EQ(grid.GetSelectedCount(), 7);
+    EXPECT_TRUE(grid.IsCellSelected(3, 1) && grid.IsCellSelected(7, 3));
+    parent.Take();
+    SendClick(MiddleOf(grid, 3, 1), MK_CONTROL);
+    EXPECT_FALSE(grid.IsCellSelected(3, 1));
+    EXPECT_EQ(grid.GetSelectedCount(), 6);
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(3, 1));
+
+    // On the focus cell's text, Ctrl selects instead of preparing an edit.
+    SendClick(MiddleOf(grid, 3, 1), MK_CONTROL);
+    EXPECT_TRUE(grid.IsCellSelected(3, 1));
+    EXPECT_FALSE(grid.IsItemEditing(3, 1));
+}
+
+TEST_F(GridMouse, TheDividersChangeTheModeUnderAMovingPointer)
+{
+    owtest::MoveTo(grid, ColumnDivider(1));
+    EXPECT_EQ(grid.GetMouseMode(), 8);
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_SIZEWE));
+    owtest::MoveTo(grid, RowDivider(2));
+    EXPECT_EQ(grid.GetMouseMode(), 6);
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_SIZENS));
+    owtest::MoveTo(grid, ColumnDivider(2));
+    EXPECT_EQ(grid.GetMouseMode(), 8);
+    owtest::MoveTo(grid, MiddleOf(grid, 3, 3));
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+
+    grid.SetColumnResize(FALSE);
+    grid.SetRowResize(FALSE);
+    owtest::MoveTo(grid, ColumnDivider(1));
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+    owtest::MoveTo(grid, RowDivider(2));
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+}
+
+TEST_F(GridMouse, ADragOnADividerSizes)
+{
+    Drag(ColumnDivider(1), CPoint(150, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 150 - kColWidth);
+    EXPECT_EQ(grid.GetMouseMode(), 8) << "the pointer stands on the divider that it has moved";
+    Drag(RowDivider(2), CPoint(30, 75));
+    EXPECT_EQ(grid.GetRowHeight(2), 75 - 2 * kRowHeight);
+
+    // From the left side of a divider and from its right side the same column is meant.
+    SetSizes(grid);
+    Drag(CPoint(kColWidth * 2 + 1, 10), CPoint(140, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 80);
+    EXPECT_EQ(grid.GetColumnWidth(2), kColWidth);
+
+    // Without a way there is nothing to size.
+    SetSizes(grid);
+    Drag(ColumnDivider(1), ColumnDivider(1));
+    EXPECT_EQ(grid.GetColumnWidth(1), kColWidth);
+}
+
+TEST_F(GridMouse, ADragHidesWhereItMayAndOpensAgain)
+{
+    Drag(ColumnDivider(1), CPoint(kColWidth - 30, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 1) << "the cursor is held one pixel behind the column's start";
+    SetSizes(grid);
+    DragByMessages(ColumnDivider(1), CPoint(kColWidth - 30, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 0);
+    Drag(CPoint(kColWidth + 1, 10), CPoint(kColWidth + 41, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 41) << "the divider opens what it hid";
+
+    grid.EnableColumnHide(FALSE);
+    DragByMessages(CPoint(kColWidth + 40, 10), CPoint(kColWidth - 30, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 1);
+    DragByMessages(RowDivider(3), CPoint(20, 40));
+    EXPECT_EQ(grid.GetRowHeight(3), 0);
+    grid.EnableRowHide(FALSE);
+    DragByMessages(RowDivider(2), CPoint(20, 5));
+    EXPECT_EQ(grid.GetRowHeight(2), 1);
+
+    // With opening switched off the nearest column that shows is sized instead.
+    SetSizes(grid);
+    grid.SetColumnWidth(2, 0, TRUE);
+    grid.EnableHiddenColUnhide(FALSE);
+    Drag(CPoint(kColWidth * 2 + 1, 10), CPoint(150, 10));
+    EXPECT_EQ(grid.GetColumnWidth(2), 0);
+    EXPECT_EQ(grid.GetColumnWidth(1), 90);
+}
+
+TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
+{
+    grid.SetItemText(5, 1, L"the longest text of its column by far");
+    const int nWide = grid.GetCellTextExtent(5, 1).cx;
+    const CPoint divider = ColumnDivider(1);
+    grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(divider.x, divider.y));
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(divider.x, divider.y));
+    EXPECT_EQ(grid.GetColumnWidth(1), nWide);
+
+    // Below a row the double click means that row; in its top pixels it still does, unlike the drag.
+    grid.SetRowHeight(4, 60);
+    const CPoint below(30, 4 * kRowHeight + 1);
+    grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(below.x, below.y));
+    ASSERT_EQ(grid.GetMouseMode(), 6);
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(below.x, below.y));
+    EXPECT_LT(grid.GetRowHeight(4), 60);
+    EXPECT_EQ(grid.GetRowHeight(3), kRowHeight);
+}
+
+TEST_F(GridMouse, ASecondClickOrADoubleClickEdits)
+{
+    ClickCell(2, 2);
+    owtest::ButtonDown(grid, MiddleOf(grid, 2, 2));
+    EXPECT_EQ(grid.GetMouseMode(), 10);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    owtest::ButtonUp();
+    EXPECT_TRUE(EditorOpens(2, 2));
+    owtest::Press(VK_ESCAPE);
+    EXPECT_TRUE(EditorCloses());
+
+    const CPoint point = MiddleOf(grid, 3, 3);
+    SendClick(point);
+    parent.Take();
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    EXPECT_TRUE(grid.IsItemEditing(3, 3));
+    EXPECT_EQ(parent.Take(), (Calls{"begin 3,3", "dblclk 3,3"}));
+    owtest::Press(VK_ESCAPE);
+    EXPECT_TRUE(EditorCloses());
+
+    grid.SetItemState(3, 3, grid.GetItemState(3, 3) | CELL_READONLY);
+    parent.Take();
+    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    EXPECT_EQ(parent.Take(), Calls{"dblclk 3,3"});
+}
+
+TEST_F(GridMouse, OutsideTheTextOfTheFocusCellAPressSelects)
+{
+    CImageList images;
+    images.Create(24, 16, ILC_COLOR32, 1, 1);
+    CBitmap bitmap;
+    bitmap.CreateBitmap(24, 16, 1, 32, nullptr);
+    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
+    grid.SetImageList(&images);
+    grid.SetItemImage(2, 2, 0);
+    ClickCell(2, 2);
+    CRect rect;
+    grid.GetCellRect(2, 2, &rect);
+    owtest::ButtonDown(grid, CPoint(rect.left + 5, rect.CenterPoint().y));
+    EXPECT_EQ(grid.GetMouseMode(), 4);
+    owtest::ButtonUp();
+    grid.SetImageList(nullptr);
+}
+
+TEST_F(GridMouse, TheRightButtonFocusesAndTellsUnlessItIsSwitchedOff)
+{
+    const auto rightClick = [&](CPoint point) {
+        grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
+        grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    };
+    rightClick(MiddleOf(grid, 0, 3));
+    EXPECT_EQ(parent.Take(), (Calls{"changed 1,3", "rclick 0,3"})) << "the real cell is told, the raised one focused";
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(1, 3));
+
+    grid.SetColumnCount(2);
+    parent.Take();
+    rightClick(CPoint(280, 100));
+    EXPECT_EQ(parent.Take(), Calls{"rclick -1,-1"});
+
+    grid.SetFocusCell(2, 1);
+    grid.StartEditCell();
+    ASSERT_TRUE(EditorOpens(2, 1));
+    parent.Take();
+    grid.SetNeReagujNaDesniKlik(TRUE);
+    rightClick(MiddleOf(grid, 4, 1));
+    EXPECT_TRUE(EditorCloses()) << "it still ends an edit";
+    EXPECT_EQ(parent.Take(), Calls{});
+    EXPECT_EQ(grid.GetFocusCell(), CCellID(2, 1));
+}
+
+TEST_F(GridMouse, AClickOnAHeaderSortsAndTheNextOneTurnsTheOrder)
+{
+    grid.SetHeaderSort();
+    for (int nRow = 1; nRow < kRows; ++nRow)
+        grid.SetItemTextFmt(nRow, 1, L"%02d", (nRow * 7) % 20);
+    ClickCell(0, 1);
+    EXPECT_EQ(Text(1, 1), L"00");
+    EXPECT_EQ(grid.GetSortColumn(), 1);
+    ClickCell(0, 1);
+    EXPECT_EQ(Text(1, 1), L"19");
+    ClickCell(0, 2);
+    EXPECT_TRUE(grid.GetSortAscending()) << "another column begins ascending";
+}

@@ -1,0 +1,325 @@
+// Rows, columns, cells: counts, addresses, items, defaults, failures.
+
+#include "BoxCloser.h"
+#include "GridWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+/// A grid without a window, 4 by 3 with one fixed row and column, each cell with its place as text.
+class GridStorage : public ::testing::Test
+{
+protected:
+    GridStorage() : grid(4, 3, 1, 1) { FillWithPlaces(grid); }
+    std::wstring Text(int nRow, int nCol) { return grid.GetItemText(nRow, nCol).GetString(); }
+    OpenGrid grid;
+};
+
+/// A cell that cannot be made any more once the supply runs out.
+class ScarceGrid : public OpenGrid
+{
+public:
+    int supply = 1000;
+
+protected:
+    CGridCellBase* CreateCell(int nRow, int nCol) override
+    {
+        if (--supply < 0)
+            AfxThrowMemoryException();
+        return OpenGrid::CreateCell(nRow, nCol);
+    }
+};
+
+class CNumberedCell : public CGridCell
+{
+    DECLARE_DYNCREATE(CNumberedCell)
+};
+IMPLEMENT_DYNCREATE(CNumberedCell, CGridCell)
+} // namespace
+
+TEST_F(GridStorage, CountsChangeAndKeepWhatFits)
+{
+    EXPECT_TRUE(grid.SetRowCount(6));
+    EXPECT_TRUE(grid.SetColumnCount(2));
+    EXPECT_EQ(Text(3, 1), L"3/1");
+    EXPECT_EQ(Text(5, 1), L"");
+    EXPECT_EQ(grid.GetCell(3, 2), nullptr);
+    EXPECT_EQ(grid.GetRowHeight(5), grid.GetDefCellHeight());
+
+    EXPECT_TRUE(grid.SetRowCount(0));
+    EXPECT_EQ(grid.GetFixedRowCount(), 0);
+    EXPECT_EQ(grid.GetColumnCount(), 2);
+    EXPECT_FALSE(grid.SetRowCount(-1));
+    EXPECT_FALSE(grid.SetFixedColumnCount(-1));
+}
+
+TEST_F(GridStorage, AColumnTakesItsWidthFromTheFixedColumns)
+{
+    grid.GetDefaultCell(FALSE, FALSE)->SetWidth(33);
+    grid.GetDefaultCell(FALSE, TRUE)->SetWidth(44);
+    grid.SetColumnCount(5);
+    EXPECT_EQ(grid.GetColumnWidth(4), 44);
+}
+
+TEST_F(GridStorage, MoreFixedRowsThanRowsMakesRows)
+{
+    EXPECT_TRUE(grid.SetFixedRowCount(7));
+    EXPECT_EQ(grid.GetRowCount(), 7);
+    EXPECT_TRUE(grid.GetCell(6, 2)->IsFixedRow());
+    EXPECT_EQ(grid.GetCell(6, 2)->IsFixedCol(), 0);
+    EXPECT_EQ(grid.GetCell(6, 0)->IsFixedCol(), static_cast<BOOL>(CELL_FIXEDCOL));
+}
+
+TEST_F(GridStorage, CellsThatBecomeFixedLoseTheirColoursAndTheirsAloneComeBack)
+{
+    grid.SetItemBkColour(2, 0, RGB(1, 2, 3));
+    grid.SetItemBkColour(2, 1, RGB(1, 2, 3));
+    grid.SetFixedRowCount(3);
+    EXPECT_EQ(grid.GetItemBkColour(2, 1), CLR_INHERIT);
+    grid.SetItemBkColour(2, 0, RGB(1, 2, 3));
+    grid.SetItemBkColour(2, 1, RGB(1, 2, 3));
+    grid.SetFixedRowCount(1);
+    EXPECT_EQ(grid.GetItemState(2, 0), CELL_FIXED | CELL_FIXEDCOL) << "still a cell of a fixed column";
+    EXPECT_EQ(grid.GetItemBkColour(2, 0), RGB(1, 2, 3));
+    EXPECT_EQ(grid.GetItemState(2, 1), 0u);
+    EXPECT_EQ(grid.GetItemBkColour(2, 1), CLR_INHERIT);
+}
+
+TEST_F(GridStorage, InsertTakesTheEndAsAnIndexForColumnsOnly)
+{
+    EXPECT_EQ(grid.InsertColumn(L"new", DT_RIGHT, 3), 3);
+    EXPECT_EQ(Text(0, 3), L"new");
+    EXPECT_EQ(grid.GetItemFormat(2, 3), static_cast<UINT>(DT_RIGHT));
+    EXPECT_EQ(grid.GetColumnWidth(3), grid.GetTextExtent(0, 3, L"new").cx);
+    EXPECT_EQ(grid.InsertRow(L"new", 4), -1);
+    EXPECT_EQ(grid.InsertRow(L"new", -5), 4);
+    EXPECT_EQ(Text(4, 0), L"new");
+    EXPECT_EQ(grid.InsertRow(L"x", 0), -1) << "not among the fixed ones";
+    EXPECT_EQ(grid.InsertColumn(L"x", 0, 0), -1);
+    EXPECT_EQ(grid.InsertRow(L"", 2), 2);
+    EXPECT_EQ(grid.GetRowHeight(2), grid.GetDefaultCell(TRUE, FALSE)->GetHeight());
+    EXPECT_EQ(Text(3, 1), L"2/1");
+
+    OpenGrid empty;
+    EXPECT_EQ(empty.InsertColumn(L"head"), 0);
+    EXPECT_EQ(empty.GetRowCount(), 1);
+    EXPECT_EQ(empty.GetItemText(0, 0), L"head");
+}
+
+TEST_F(GridStorage, DeletingShiftsWhatFollows)
+{
+    EXPECT_TRUE(grid.DeleteRow(1));
+    EXPECT_EQ(Text(1, 2), L"2/2");
+    EXPECT_TRUE(grid.DeleteColumn(0));
+    EXPECT_EQ(grid.GetFixedColumnCount(), 0);
+    EXPECT_EQ(Text(1, 0), L"2/1");
+    EXPECT_FALSE(grid.DeleteRow(3));
+    EXPECT_FALSE(grid.DeleteColumn(-1));
+    EXPECT_TRUE(grid.DeleteNonFixedRows());
+    EXPECT_EQ(grid.GetRowCount(), 1);
+    EXPECT_TRUE(grid.DeleteNonFixedRows()) << "with nothing left to delete";
+    EXPECT_EQ(Text(0, 0), L"0/1");
+}
+
+TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
+{
+    for (const CCellID cell : {CCellID(-1, 0), CCellID(0, -1), CCellID(4, 0), CCellID(0, 3), CCellID(INT_MAX, INT_MIN)})
+    {
+        const int r = cell.row, c = cell.col;
+        EXPECT_EQ(grid.GetCell(r, c), nullptr);
+        EXPECT_FALSE(grid.IsValid(cell));
+        EXPECT_FALSE(grid.SetItemText(r, c, L"x"));
+        EXPECT_EQ(Text(r, c), L"");
+        EXPECT_FALSE(grid.SetItemData(r, c, 1));
+        EXPECT_EQ(grid.GetItemData(r, c), 0);
+        EXPECT_FALSE(grid.SetItemImage(r, c, 1));
+        EXPECT_EQ(grid.GetItemImage(r, c), -1);
+        EXPECT_EQ(grid.GetItemState(r, c), 0u);
+        EXPECT_FALSE(grid.SetItemFormat(r, c, 0));
+        EXPECT_FALSE(grid.SetItemFont(r, c, nullptr));
+        EXPECT_NE(grid.GetItemFont(r, c), nullptr) << "never fails";
+        EXPECT_EQ(grid.GetCellTextExtent(r, c), CSize(0, 0));
+        EXPECT_FALSE(grid.SetCellType(r, c, RUNTIME_CLASS(CGridCell)));
+        EXPECT_FALSE(grid.RedrawCell(r, c));
+        EXPECT_FALSE(grid.IsCellVisible(r, c));
+        EXPECT_FALSE(grid.GetCellRect(r, c, CRect()));
+        EXPECT_FALSE(grid.IsItemEditing(r, c));
+        EXPECT_TRUE(grid.IsCellEditable(r, c)) << "a missing cell has no state";
+        grid.EnsureVisible(r, c);
+        grid.OnEditCell(r, c, CPoint(), 'x');
+    }
+    EXPECT_EQ(grid.GetRowHeight(4), -1);
+    EXPECT_FALSE(grid.SetRowHeight(-1, 5));
+    EXPECT_FALSE(grid.SetRowHeight(1, -5));
+    EXPECT_FALSE(grid.SetColumnWidth(3, 5));
+    EXPECT_FALSE(grid.AutoSizeRow(9));
+    EXPECT_FALSE(grid.IsValid(CCellRange(0, 0, 4, 2)));
+    EXPECT_FALSE(grid.IsValid(CCellRange(2, 0, 1, 2)));
+    EXPECT_TRUE(grid.IsValid(grid.GetCellRange()));
+}
+
+TEST_F(GridStorage, ItemsGoInAndOutByMask)
+{
+    GV_ITEM item;
+    item.row = 2;
+    item.col = 1;
+    item.mask = GV_MASK_TEXT | GV_MASK_PARAM | GV_MASK_STATE | GV_MASK_BKCLR | GV_MASK_MARGIN;
+    item.strText = L"text";
+    item.lParam = 42;
+    item.nState = CELL_SELECTED;
+    item.crBkClr = RGB(9, 8, 7);
+    item.nMargin = 11;
+    item.iImage = 5;
+    EXPECT_TRUE(grid.SetItem(&item));
+    EXPECT_TRUE(grid.IsCellSelected(2, 1));
+    EXPECT_EQ(grid.GetItemImage(2, 1), -1) << "not in the mask";
+
+    GV_ITEM back;
+    back.row = 2;
+    back.col = 1;
+    back.mask = GV_MASK_ALL;
+    EXPECT_TRUE(grid.GetItem(&back));
+    EXPECT_EQ(back.strText, L"text");
+    EXPECT_EQ(back.lParam, 42);
+    EXPECT_EQ(back.nMargin, 11u);
+    EXPECT_EQ(back.crBkClr, RGB(9, 8, 7));
+    EXPECT_FALSE(grid.SetItem(nullptr));
+
+    grid.SetModified(FALSE);
+    item.mask = 0;
+    EXPECT_TRUE(grid.SetItem(&item));
+    EXPECT_TRUE(grid.GetModified(2, 1)) << "whatever the mask holds";
+    grid.SetModified(FALSE, 2, 1);
+    EXPECT_FALSE(grid.GetModified(2, 1));
+    EXPECT_TRUE(grid.GetModified());
+}
+
+TEST_F(GridStorage, LooksAreNoModification)
+{
+    grid.SetItemBkColour(1, 1, 0);
+    grid.SetItemFormat(1, 1, 0);
+    EXPECT_FALSE(grid.GetModified());
+    grid.SetItemTextFmt(1, 1, L"%d mm", 12);
+    EXPECT_EQ(Text(1, 1), L"12 mm");
+    EXPECT_TRUE(grid.GetModified(1, 1));
+}
+
+TEST_F(GridStorage, CellClassesCanBeChosen)
+{
+    EXPECT_TRUE(grid.SetCellType(2, 1, RUNTIME_CLASS(CNumberedCell)));
+    EXPECT_TRUE(grid.GetCell(2, 1)->IsKindOf(RUNTIME_CLASS(CNumberedCell)));
+    EXPECT_EQ(Text(2, 1), L"2/1") << "takes over what the old one held";
+    EXPECT_FALSE(grid.SetCellType(2, 1, RUNTIME_CLASS(CObject)));
+    EXPECT_TRUE(grid.SetDefaultCellType(RUNTIME_CLASS(CNumberedCell)));
+    grid.SetRowCount(5);
+    EXPECT_TRUE(grid.GetCell(4, 0)->IsKindOf(RUNTIME_CLASS(CNumberedCell)));
+    EXPECT_FALSE(grid.GetCell(3, 0)->IsKindOf(RUNTIME_CLASS(CNumberedCell))) << "cells that exist stay";
+    EXPECT_FALSE(grid.SetDefaultCellType(RUNTIME_CLASS(CObject)));
+}
+
+TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
+{
+    BoxCloser closer;
+    ScarceGrid grid;
+    grid.SetColumnCount(3);
+    grid.supply = 7;
+    EXPECT_FALSE(grid.SetRowCount(5));
+    EXPECT_EQ(grid.GetRowCount(), 2) << "two whole rows";
+    EXPECT_TRUE(closer.Seen());
+
+    grid.supply = 1;
+    EXPECT_FALSE(grid.SetColumnCount(5));
+    EXPECT_EQ(grid.GetColumnCount(), 5);
+    EXPECT_NE(grid.GetCell(0, 3), nullptr);
+    EXPECT_EQ(grid.GetCell(1, 4), nullptr) << "an empty place, and no cell";
+    EXPECT_FALSE(grid.SetItemText(1, 4, L"x"));
+
+    grid.supply = 1;
+    EXPECT_EQ(grid.InsertColumn(L"x"), 0);
+    EXPECT_EQ(grid.GetColumnCount(), 5) << "the cell that was put in is out again";
+    grid.supply = 100;
+    EXPECT_EQ(grid.InsertColumn(L"x"), 5);
+    EXPECT_EQ(grid.GetItemText(0, 5), L"x");
+    grid.DeleteAllItems();
+}
+
+TEST(GridDefaults, CreateForgetsSizesAndGivesASunkenEdge)
+{
+    GridParent& parent = SharedParent();
+    OpenGrid grid(3, 3, 1, 1);
+    grid.SetRowHeight(1, 77);
+    ASSERT_TRUE(PlaceGrid(grid, parent));
+    EXPECT_EQ(grid.GetRowHeight(1), grid.GetDefCellHeight());
+    EXPECT_EQ(grid.GetColumnWidth(1), grid.GetDefCellWidth());
+    EXPECT_TRUE(grid.GetExStyle() & WS_EX_CLIENTEDGE);
+    CRect client;
+    grid.GetClientRect(&client);
+    EXPECT_EQ(client.Size(), CSize(300, 200));
+    EXPECT_TRUE(grid.Initialise());
+
+    WNDCLASS windowClass;
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), L"MFCGridCtrl", &windowClass));
+    EXPECT_EQ(windowClass.style, static_cast<UINT>(CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS));
+    EXPECT_EQ(CGridCtrl::GridImageList.GetImageCount(), 11 + 32);
+    EXPECT_EQ(CGridCtrl::nFirstGridIconIdx, 11);
+}
+
+TEST(GridVirtual, CellsAreMadeUpForEachCall)
+{
+    OpenGrid grid;
+    grid.SetVirtualMode(TRUE);
+    EXPECT_FALSE(grid.IsEditable());
+    EXPECT_EQ(grid.GetAutoSizeStyle(), 1);
+    grid.SetColumnCount(3);
+    grid.SetRowCount(1000000);
+    grid.SetFixedRowCount(1);
+    const auto fill = [](GV_DISPINFO* info, LPARAM param) {
+        info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
+        return 0;
+    };
+    grid.SetCallbackFunc(fill, 7);
+    EXPECT_EQ(grid.GetItemText(999999, 2), L"999999.2.7");
+    EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
+    EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
+    EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());
+
+    EXPECT_FALSE(grid.SetItemText(5, 1, L"x"));
+    EXPECT_FALSE(grid.SetItemState(5, 1, CELL_SELECTED));
+    EXPECT_TRUE(grid.IsCellSelected(5, 1)) << "the answer is 0, and the selection has changed";
+    EXPECT_TRUE(grid.GetCell(5, 1)->IsSelected());
+
+    // Rows 65536 apart share an entry.
+    grid.SetItemState(5, 1, 0);
+    grid.SetItemState(3, 1, CELL_SELECTED);
+    EXPECT_TRUE(grid.IsCellSelected(3 + 65536, 1));
+    EXPECT_EQ(grid.GetSelectedCount(), 1);
+}
+
+TEST(GridVirtual, WithoutACallbackTheParentIsAskedAndToldAhead)
+{
+    GridParent& parent = SharedParent();
+    parent.answer = [](NMHDR& header) {
+        if (header.code == LVN_GETDISPINFOW)
+        {
+            GV_ITEM& item = reinterpret_cast<GV_DISPINFO&>(header).item;
+            item.strText.Format(L"%d|%d", item.row, item.col);
+        }
+        return 0;
+    };
+    OpenGrid grid;
+    grid.SetVirtualMode(TRUE);
+    grid.SetRowCount(50);
+    grid.SetColumnCount(4);
+    ASSERT_TRUE(PlaceGrid(grid, parent));
+    EXPECT_EQ(grid.GetItemText(7, 3), L"7|3");
+    parent.hints.clear();
+    grid.Invalidate();
+    grid.UpdateWindow();
+    ASSERT_EQ(parent.hints.size(), 2u);
+    EXPECT_EQ(parent.hints[0], grid.GetVisibleNonFixedCellRange());
+    EXPECT_EQ(parent.hints[1], CCellRange());
+    parent.hints.clear();
+    grid.AutoSizeRow(3);
+    EXPECT_EQ(parent.hints[0], CCellRange(3, 0, 3, 4)) << "one column too many, which receivers bear";
+}
