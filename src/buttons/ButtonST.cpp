@@ -235,8 +235,7 @@ LRESULT CButtonST::OnGetCheck(WPARAM, LPARAM)
     return m_nChecked;
 }
 
-// ---- Messages outside the map
-// --------------------------------------------------------------------------------
+// ---- Messages outside the map -----------------------------------------------------------------------------
 
 void CButtonST::PreSubclassWindow()
 {
@@ -273,8 +272,7 @@ LRESULT CButtonST::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CButton::DefWindowProc(message == WM_LBUTTONDBLCLK ? WM_LBUTTONDOWN : message, wParam, lParam);
 }
 
-// ---- Hover
-// ---------------------------------------------------------------------------------------------------
+// ---- Hover ------------------------------------------------------------------------------------------------
 
 bool CButtonST::IsUnderMouse(CPoint point) const
 {
@@ -306,8 +304,7 @@ void CButtonST::CancelHoverUnless(BOOL bActive)
         CancelHover();
 }
 
-// ---- Clicks
-// --------------------------------------------------------------------------------------------------
+// ---- Clicks -----------------------------------------------------------------------------------------------
 
 // The pump of the thread waits for as long as the button is held: the release is looked for here and nowhere
 // else. A command may destroy the button, so nothing of it is touched after one before its window has been
@@ -357,8 +354,7 @@ void CButtonST::OpenUrl() const
     ::ShellExecuteExW(&info);
 }
 
-// ---- Style
-// ---------------------------------------------------------------------------------------------------
+// ---- Style ------------------------------------------------------------------------------------------------
 
 void CButtonST::Repaint()
 {
@@ -441,8 +437,7 @@ bool CButtonST::IsThemed() const
     return m_pTheme && m_pTheme->IsAppThemed();
 }
 
-// ---- Colours
-// -------------------------------------------------------------------------------------------------
+// ---- Colours ----------------------------------------------------------------------------------------------
 
 void CButtonST::ResetColors()
 {
@@ -498,8 +493,7 @@ DWORD CButtonST::SetDefaultColors(BOOL bRepaint)
     return resultOk;
 }
 
-// ---- State and behaviour
-// -------------------------------------------------------------------------------------
+// ---- State and behaviour ----------------------------------------------------------------------------------
 
 DWORD CButtonST::SetCheck(int nCheck, BOOL bRepaint)
 {
@@ -564,8 +558,7 @@ LPCTSTR CButtonST::GetVersionC()
     return L"CButtonST 1.2";
 }
 
-// ---- Tooltip
-// -------------------------------------------------------------------------------------------------
+// ---- Tooltip ----------------------------------------------------------------------------------------------
 
 // Inactive until there is a text for it. The style is always 0.
 void CButtonST::InitToolTip()
@@ -614,8 +607,7 @@ DWORD CButtonST::EnableBalloonTooltip()
     return resultOk;
 }
 
-// ---- Transparency
-// --------------------------------------------------------------------------------------------
+// ---- Transparency -----------------------------------------------------------------------------------------
 
 void CButtonST::DrawTransparent(BOOL bRepaint)
 {

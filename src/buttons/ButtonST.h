@@ -135,8 +135,7 @@ public:
     explicit CButtonST(AButtonSTNotificationHandler* pHandler);
     ~CButtonST() override;
 
-    // ---- Images. Each setter first lets go of all images, of both kinds.
-    // -------------------------------------
+    // ---- Images. Each setter first lets go of all images, of both kinds. ----------------------------------
 
     /// A null first icon removes the images. Sizes are twice the icons' hot spots.
     DWORD SetIcon(HICON hIn, HICON hOut = nullptr);
@@ -153,8 +152,7 @@ public:
     /// Makes the window as large as its first image, and the margin of the image 0.
     void SizeToContent();
 
-    // ---- Style. `bRepaint` repaints at once.
-    // -----------------------------------------------------------------
+    // ---- Style. `bRepaint` repaints at once. --------------------------------------------------------------
 
     DWORD SetFlat(BOOL bFlat, BOOL bRepaint = TRUE);
     BOOL GetFlat() const;
@@ -175,8 +173,7 @@ public:
     /// flat button has its border again; whether it is flat stays as it is.
     void SetThemeHelper(CThemeHelperST* pTheme);
 
-    // ---- Colours. `nIndex` is an EColor.
-    // ---------------------------------------------------------------------
+    // ---- Colours. `nIndex` is an EColor. ------------------------------------------------------------------
 
     /// Repaints only if `bRepaint` is exactly 1.
     DWORD SetColor(BYTE nIndex, COLORREF cr, BOOL bRepaint = TRUE);
@@ -187,8 +184,7 @@ public:
     /// The system's button colours in all six places. Repaints only if `bRepaint` is exactly 1.
     DWORD SetDefaultColors(BOOL bRepaint = TRUE);
 
-    // ---- State
-    // -----------------------------------------------------------------------------------------------
+    // ---- State --------------------------------------------------------------------------------------------
 
     /// On a push button does nothing, and answers resultOk all the same.
     DWORD SetCheck(int nCheck, BOOL bRepaint = TRUE);
@@ -197,8 +193,7 @@ public:
     /// Whether the button is the dialog's default button at this moment.
     BOOL GetDefault() const;
 
-    // ---- Behaviour
-    // -------------------------------------------------------------------------------------------
+    // ---- Behaviour ----------------------------------------------------------------------------------------
 
     /// Whether hover is shown while the application is not active, too. On at first.
     void SetAlwaysTrack(BOOL bTrack);
@@ -223,8 +218,7 @@ public:
     /// Kept for callers: notes the wish, which nothing reads. Tooltips are rectangular.
     DWORD EnableBalloonTooltip();
 
-    // ---- Transparency
-    // ----------------------------------------------------------------------------------------
+    // ---- Transparency -------------------------------------------------------------------------------------
 
     /// From the next paint on the background is what the parent shows in the button's place. It is copied
     /// once: call this again, or SetBk, when the parent looks different. Repaints only if `bRepaint` is
@@ -249,8 +243,7 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
 
 protected:
-    // ---- Painting, for subclasses. All coordinates are those of the item rectangle.
-    // --------------------------
+    // ---- Painting, for subclasses. All coordinates are those of the item rectangle. -----------------------
 
     /// Fills the face. May shrink the rectangle to what border and focus shall go by. The answer is not used.
     virtual DWORD OnDrawBackground(CDC* pDC, CRect& rect);

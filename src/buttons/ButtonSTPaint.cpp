@@ -82,8 +82,7 @@ void CButtonST::TakeStates(UINT nItemState)
     m_bIsDisabled = (nItemState & ODS_DISABLED) != 0;
 }
 
-// ---- Background
-// ----------------------------------------------------------------------------------------------
+// ---- Background -------------------------------------------------------------------------------------------
 
 DWORD CButtonST::OnDrawBackground(CDC* pDC, CRect& rect)
 {
@@ -132,8 +131,7 @@ CButtonST::EColor CButtonST::StateColor(EColor in, EColor focus, EColor out) con
     return m_bIsFocused ? focus : out;
 }
 
-// ---- Border
-// --------------------------------------------------------------------------------------------------
+// ---- Border -----------------------------------------------------------------------------------------------
 
 DWORD CButtonST::OnDrawBorder(CDC* pDC, CRect& rect)
 {
@@ -167,8 +165,7 @@ void CButtonST::DrawRaisedBorder(CDC* pDC, const CRect& rect)
     DrawCorner(*pDC, COLOR_BTNSHADOW, {left + 1, bottom - 2}, {right - 2, bottom - 2}, {right - 2, top});
 }
 
-// ---- Images
-// --------------------------------------------------------------------------------------------------
+// ---- Images -----------------------------------------------------------------------------------------------
 
 // A check box shows its first image while checked only, a push button under the mouse, too.
 int CButtonST::ShownImage(bool bHasSecond, BOOL bPressed) const
@@ -266,8 +263,7 @@ void CButtonST::DrawDisabledBitmap(CDC* pDC, const CRect& rectImage, CSize size,
     pDC->DrawState(rectImage.TopLeft(), size, static_cast<HBITMAP>(bitmap), DSS_DISABLED);
 }
 
-// ---- Title and focus
-// -----------------------------------------------------------------------------------------
+// ---- Title and focus --------------------------------------------------------------------------------------
 
 void CButtonST::DrawTheText(CDC* pDC, const CString& strTitle, const CRect&, CRect& rectCaption,
                             BOOL bPressed, BOOL bDisabled)

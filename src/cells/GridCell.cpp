@@ -13,8 +13,8 @@ IMPLEMENT_DYNCREATE(CGridCell, CGridCellBase)
 
 namespace
 {
-/// The one font object behind every cell with a font of its own: made anew when another description is asked for.
-/// Process-wide and unguarded; only the thread of the dialogs asks.
+/// The one font object behind every cell with a font of its own: made anew when another description is asked
+/// for. Process-wide and unguarded; only the thread of the dialogs asks.
 CFont* SharedFont(const LOGFONTW& lf)
 {
     static CFont font;
@@ -57,7 +57,7 @@ void CGridCell::operator=(const CGridCell& cell)
     CGridCellBase::operator=(cell);
 }
 
-// ---- Contents ------------------------------------------------------------------------------------------------
+// ---- Contents ---------------------------------------------------------------------------------------------
 
 void CGridCell::SetText(LPCWSTR pszText)
 {
@@ -206,7 +206,7 @@ void CGridCell::Reset()
     CGridCell::SetFont(nullptr);
 }
 
-// ---- Editing -------------------------------------------------------------------------------------------------
+// ---- Editing ----------------------------------------------------------------------------------------------
 
 BOOL CGridCell::Edit(int nRow, int nCol, CRect rect, CPoint /*point*/, UINT nID, UINT nChar)
 {
@@ -217,7 +217,8 @@ BOOL CGridCell::Edit(int nRow, int nCol, CRect rect, CPoint /*point*/, UINT nID,
         return TRUE;
     }
     m_bEditing = TRUE;
-    SetEditWnd(new CInPlaceEdit(GetGrid(), rect, EditStyleOf(GetFormat()), nID, nRow, nCol, GetText(), nChar));
+    SetEditWnd(
+        new CInPlaceEdit(GetGrid(), rect, EditStyleOf(GetFormat()), nID, nRow, nCol, GetText(), nChar));
     return TRUE;
 }
 

@@ -1,8 +1,9 @@
 #pragma once
-// The ordinary cell: keeps text, image, data, colours, font and format, and edits its text with a CInPlaceEdit.
+// The ordinary cell: keeps text, image, data, colours, font and format, and edits its text with a
+// CInPlaceEdit.
 //
-// A cell that inherits everything holds nothing but its text; a font description is allocated only for a cell that
-// was given one.
+// A cell that inherits everything holds nothing but its text; a font description is allocated only for a cell
+// that was given one.
 
 #include "cells/GridCellBase.h"
 
@@ -53,8 +54,9 @@ public:
     void OnEndEdit() override;
 
 protected:
-    /// Remembers the editor of this edit, or forgets it. An editor of this library that goes away by itself, with
-    /// the grid's window for instance, is forgotten by itself, and the cell then counts as not being edited.
+    /// Remembers the editor of this edit, or forgets it. An editor of this library that goes away by itself,
+    /// with the grid's window for instance, is forgotten by itself, and the cell then counts as not being
+    /// edited.
     void SetEditWnd(CWnd* pEditWnd);
 
     // In this order the small fields fill up the words between the large ones.

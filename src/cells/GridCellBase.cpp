@@ -11,8 +11,8 @@
 
 namespace
 {
-/// A context to measure on: the given one, or that of the grid's window for the length of the scope. A grid without
-/// a window measures on the screen.
+/// A context to measure on: the given one, or that of the grid's window for the length of the scope. A grid
+/// without a window measures on the screen.
 class CMeasureDC
 {
 public:
@@ -80,7 +80,7 @@ void CGridCellBase::Dump(CDumpContext& /*dc*/) const
 }
 #endif
 
-// ---- Contents: nothing is kept here but the state ------------------------------------------------------------
+// ---- Contents: nothing is kept here but the state ---------------------------------------------------------
 
 void CGridCellBase::SetText(LPCWSTR /*pszText*/)
 {
@@ -270,7 +270,7 @@ void CGridCellBase::Reset()
     m_nState = 0;
 }
 
-// ---- Drawing and measuring -----------------------------------------------------------------------------------
+// ---- Drawing and measuring --------------------------------------------------------------------------------
 
 BOOL CGridCellBase::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
 {
@@ -350,9 +350,10 @@ CSize CGridCellBase::GetCellExtent(CDC* pDC)
     return CSize(sizeText.cx + sizeImage.cx, std::max(sizeText.cy, sizeImage.cy));
 }
 
-// ---- Editing -------------------------------------------------------------------------------------------------
+// ---- Editing ----------------------------------------------------------------------------------------------
 
-BOOL CGridCellBase::Edit(int /*nRow*/, int /*nCol*/, CRect /*rect*/, CPoint /*point*/, UINT /*nID*/, UINT /*nChar*/)
+BOOL CGridCellBase::Edit(int /*nRow*/, int /*nCol*/, CRect /*rect*/, CPoint /*point*/, UINT /*nID*/,
+                         UINT /*nChar*/)
 {
     return FALSE;
 }
@@ -375,7 +376,7 @@ void CGridCellBase::OnEndEdit()
 {
 }
 
-// ---- Mouse ---------------------------------------------------------------------------------------------------
+// ---- Mouse ------------------------------------------------------------------------------------------------
 
 void CGridCellBase::OnMouseEnter()
 {

@@ -2,9 +2,10 @@
 // The contract between a grid and a cell.
 //
 // Every square of a CGridCtrl holds one cell object. This class declares all that the grid asks of it, and
-// implements measuring and the state queries in terms of those operations, and drawing through CGridCellPainter; CGridCell adds storage and a
-// text editor, and CGridDefaultCell supplies what cells inherit. A kind of cell of one's own derives from CGridCell,
-// is made with DECLARE_DYNCREATE, and is given to the grid by its class:
+// implements measuring and the state queries in terms of those operations, and drawing through
+// CGridCellPainter; CGridCell adds storage and a text editor, and CGridDefaultCell supplies what cells
+// inherit. A kind of cell of one's own derives from CGridCell, is made with DECLARE_DYNCREATE, and is given
+// to the grid by its class:
 //
 //     class CStarCell : public CGridCell
 //     {
@@ -13,10 +14,10 @@
 //     };
 //     m_grid.SetCellType(2, 3, RUNTIME_CLASS(CStarCell));
 //
-// Inheritance. The format and the margin GV_INHERIT, the colour CLR_INHERIT and a null font mean that the grid's
-// default cell for this kind of place decides: one each for the body, fixed columns, fixed rows and the corner.
-// GetFormat, GetMargin and GetFont answer the inherited value; GetTextClr and GetBackClr answer what is stored, and
-// only Draw resolves it.
+// Inheritance. The format and the margin GV_INHERIT, the colour CLR_INHERIT and a null font mean that the
+// grid's default cell for this kind of place decides: one each for the body, fixed columns, fixed rows and
+// the corner. GetFormat, GetMargin and GetFont answer the inherited value; GetTextClr and GetBackClr answer
+// what is stored, and only Draw resolves it.
 //
 //        left                                              right
 //     top +--------------------------------------------------+
@@ -93,7 +94,8 @@ public:
     virtual BOOL IsModified();
     virtual BOOL IsDropHighlighted();
 
-    /// Takes over what the other shows. An inherited format or margin arrives as a value; an inherited font stays so.
+    /// Takes over what the other shows. An inherited format or margin arrives as a value; an inherited font
+    /// stays so.
     virtual void operator=(const CGridCellBase& cell);
     virtual void Reset();
 
@@ -102,7 +104,8 @@ public:
     /// Leaves of the cell's rectangle what the text may take.
     virtual BOOL GetTextRect(LPRECT pRect);
     virtual BOOL GetTipTextRect(LPRECT pRect);
-    /// Room for a text in this cell's font and format, margins included. Without `pDC` the grid's window is asked.
+    /// Room for a text in this cell's font and format, margins included. Without `pDC` the grid's window is
+    /// asked.
     virtual CSize GetTextExtent(LPCWSTR pszText, CDC* pDC = nullptr);
     /// Room for the cell's own text and its image.
     virtual CSize GetCellExtent(CDC* pDC);
@@ -128,11 +131,12 @@ public:
     virtual void OnDblClick(CPoint point);
     virtual BOOL OnSetCursor();
 
-    /// Sends a GridNotify record to the grid's owner, or its parent. 0 without a grid, a window or a receiver.
+    /// Sends a GridNotify record to the grid's owner, or its parent. 0 without a grid, a window or a
+    /// receiver.
     LRESULT SendMessageToParent(int nRow, int nCol, int nMessage);
 
-    /// Size of the image in the grid's image list, as right minus left and bottom minus top of its rectangle there;
-    /// false if the cell shows none.
+    /// Size of the image in the grid's image list, as right minus left and bottom minus top of its rectangle
+    /// there; false if the cell shows none.
     bool GetImageSize(CSize& size);
 
 protected:

@@ -24,8 +24,8 @@ void DrawTriangle(CDC& dc, CPoint at, int size, bool up)
     dc.LineTo(at.x + size, base);
     dc.LineTo(at.x, base);
 }
-/// What a cell changes on the context, put back at the end. SaveDC and RestoreDC would do the same for ten times as
-/// much state, the font chosen anew among it, and take longer than all the rest of a plain cell.
+/// What a cell changes on the context, put back at the end. SaveDC and RestoreDC would do the same for ten
+/// times as much state, the font chosen anew among it, and take longer than all the rest of a plain cell.
 class CTextState
 {
 public:
@@ -61,9 +61,11 @@ private:
 };
 
 /// The formats whose text is one line at a place that its extent alone decides.
-constexpr UINT kPlainFormat = DT_CENTER | DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
+constexpr UINT kPlainFormat =
+    DT_CENTER | DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
 
-/// A line that fits, put where DrawText would put it, for half of its cost. False if it does not fit, or is not plain.
+/// A line that fits, put where DrawText would put it, for half of its cost. False if it does not fit, or is
+/// not plain.
 bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
 {
     if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE) || std::wcspbrk(pszText, L"\t\r\n"))
@@ -81,7 +83,7 @@ bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
     else if (nFormat & DT_CENTER)
         x = (rect.left + rect.right - size.cx) / 2;
     const int y = nFormat & DT_VCENTER ? rect.top + (rect.Height() - size.cy) / 2 : rect.top;
-    dc.ExtTextOut(x, y, 0, nullptr, pszText, nLength, nullptr);
+    dc.ExtTextOut(x, y, ETO_CLIPPED, &rect, pszText, nLength, nullptr);
     return true;
 }
 } // namespace
@@ -255,7 +257,8 @@ void CGridCellPainter::DrawSortArrow(CRect& rect)
     const LOGFONTW* const plf = m_cell.GetFont();
     const bool vertical = plf && plf->lfEscapement == 900;
     const bool up = Grid().GetSortAscending() != FALSE;
-    const CPoint at(vertical ? (rect.right + rect.left - size) / 2 : rect.right - size, rect.bottom - size - 2);
+    const CPoint at(vertical ? (rect.right + rect.left - size) / 2 : rect.right - size,
+                    rect.bottom - size - 2);
 
     CPen shadow(PS_SOLID, 0, ::GetSysColor(COLOR_3DSHADOW));
     CPen light(PS_SOLID, 0, ::GetSysColor(COLOR_3DHIGHLIGHT));

@@ -1,10 +1,11 @@
 #pragma once
 // How a cell is painted, step by step: background, focus frame, raised edge, image, sort arrow, text.
 //
-// CGridCellBase::Draw runs one of these. A kind of cell that differs in a step overrides that step and runs its own:
+// CGridCellBase::Draw runs one of these. A kind of cell that differs in a step overrides that step and runs
+// its own:
 //
-//     class CHatchPainter : public CGridCellPainter { void FillBackground(const CRect& rect, COLORREF clr) override; };
-//     BOOL CHatchCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
+//     class CHatchPainter : public CGridCellPainter { void FillBackground(const CRect& rect, COLORREF clr)
+//     override; }; BOOL CHatchCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
 //     {
 //         return CHatchPainter(*this, nRow, nCol).Paint(pDC, rect, bEraseBkgnd);
 //     }
@@ -19,13 +20,13 @@ public:
     CGridCellPainter(CGridCellBase& cell, int nRow, int nCol);
     virtual ~CGridCellPainter();
 
-    /// FALSE if there is nothing to paint on, no room, or no grid to ask. `bEraseBkgnd` also paints a background
-    /// that is inherited; one of the cell's own is always painted.
+    /// FALSE if there is nothing to paint on, no room, or no grid to ask. `bEraseBkgnd` also paints a
+    /// background that is inherited; one of the cell's own is always painted.
     BOOL Paint(CDC* pDC, CRect rect, BOOL bEraseBkgnd);
 
 protected:
-    /// Fills with the cell's colour; not called for a selected cell without the focus, which is filled with the
-    /// highlight colour. `rect` has exclusive corners.
+    /// Fills with the cell's colour; not called for a selected cell without the focus, which is filled with
+    /// the highlight colour. `rect` has exclusive corners.
     virtual void FillBackground(const CRect& rect, COLORREF clr);
     /// Takes the margin off.
     virtual void TakeMargin(CRect& rect);

@@ -9,7 +9,8 @@ class OW_DIALOGCONTROLS_API CGridDefaultCell : public CGridCell
     DECLARE_DYNCREATE(CGridDefaultCell)
 
 public:
-    /// The system's message font, text on one line, centred in height, with an ellipsis where it does not fit.
+    /// The system's message font, text on one line, centred in height, with an ellipsis where it does not
+    /// fit.
     CGridDefaultCell();
     ~CGridDefaultCell() override;
     using CGridCell::operator=;

@@ -6,8 +6,8 @@
 
 namespace
 {
-/// One for all editors: the grid's work at the end of an edit may take the focus away from the editor, whose kill
-/// focus would then report the same edit again.
+/// One for all editors: the grid's work at the end of an edit may take the focus away from the editor, whose
+/// kill focus would then report the same edit again.
 bool s_bEnding = false;
 
 class CEndingScope
@@ -19,7 +19,8 @@ public:
     CEndingScope& operator=(const CEndingScope&) = delete;
 };
 
-/// The character that takes part in an edit as text goes back into the queue under the message that carries it.
+/// The character that takes part in an edit as text goes back into the queue under the message that carries
+/// it.
 constexpr UINT CharMessage(UINT nChar)
 {
     return nChar < 128 ? WM_CHAR : WM_IME_CHAR;
@@ -41,8 +42,8 @@ CInPlaceEdit::CInPlaceEdit(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
     m_bConstructed = true;
 }
 
-// A mouse click or Enter leaves the text as it is with the caret behind it; a key that moves about selects all; any
-// other character replaces the text.
+// A mouse click or Enter leaves the text as it is with the caret behind it; a key that moves about selects
+// all; any other character replaces the text.
 void CInPlaceEdit::TakeFirstChar(UINT nChar)
 {
     const bool bToEnd = nChar == VK_LBUTTON || nChar == VK_RETURN || nChar == VK_BACK;

@@ -1,19 +1,21 @@
 #pragma once
 // The edit control that is laid over a text cell for the length of one edit.
 //
-// It creates its window in the constructor, takes the first key, grows to the right with its text, and ends on Tab,
-// Enter, Escape, an arrow or page key, or the loss of the focus. Escape ends it with the text that it began with.
-// It tells the grid by LVN_ENDLABELEDITW, closes itself and deletes itself: make it with `new` and never delete it.
-// An edit that a mouse click began keeps the arrow keys for the caret, unless Ctrl is held.
+// It creates its window in the constructor, takes the first key, grows to the right with its text, and ends
+// on Tab, Enter, Escape, an arrow or page key, or the loss of the focus. Escape ends it with the text that it
+// began with. It tells the grid by LVN_ENDLABELEDITW, closes itself and deletes itself: make it with `new`
+// and never delete it. An edit that a mouse click began keeps the arrow keys for the caret, unless Ctrl is
+// held.
 
 #include "cells/InPlaceEditor.h"
 
 class OW_DIALOGCONTROLS_API CInPlaceEdit : public CEdit, public CInPlaceEditor
 {
 public:
-    /// `rect` is in the parent's client area; `nFirstChar` is the key that began the edit, VK_LBUTTON for the mouse.
-    CInPlaceEdit(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn, CString sInitText,
-                 UINT nFirstChar);
+    /// `rect` is in the parent's client area; `nFirstChar` is the key that began the edit, VK_LBUTTON for the
+    /// mouse.
+    CInPlaceEdit(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
+                 CString sInitText, UINT nFirstChar);
 
     void EndEdit() override;
 
@@ -35,7 +37,8 @@ protected:
     CRect m_Rect; ///< in the grid's client area; grows with the text
 
 private:
-    bool m_bConstructed = false; ///< the window may be gone before that, and nobody must delete the object then
+    bool m_bConstructed =
+        false; ///< the window may be gone before that, and nobody must delete the object then
     void TakeFirstChar(UINT nChar);
     void Leave(UINT nLastChar);
     void GrowToText();

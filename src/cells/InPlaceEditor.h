@@ -7,8 +7,8 @@
 
 class CGridCell;
 
-/// A part of every in-place editor, beside its window class. Keeps cell and editor from pointing at one another
-/// once either of them is gone.
+/// A part of every in-place editor, beside its window class. Keeps cell and editor from pointing at one
+/// another once either of them is gone.
 class OW_DIALOGCONTROLS_API CInPlaceEditor
 {
     friend class CGridCell;
@@ -23,13 +23,15 @@ public:
     virtual void EndEdit() = 0;
 
 protected:
-    /// Sends LVN_ENDLABELEDITW with the text and the key that ended the edit, then posts WM_CLOSE to the editor, so
-    /// that it is closed only when the grid has done its work. `editor` may be gone when this returns.
+    /// Sends LVN_ENDLABELEDITW with the text and the key that ended the edit, then posts WM_CLOSE to the
+    /// editor, so that it is closed only when the grid has done its work. `editor` may be gone when this
+    /// returns.
     static void NotifyEnd(CWnd& editor, int nRow, int nColumn, UINT nLastChar, const CString& strText);
 
 private:
     CGridCell* m_pCell = nullptr; ///< not owned
 };
 
-/// Whether a key moves the edit on to another cell: page up and down and the four arrows. Home and end do not.
+/// Whether a key moves the edit on to another cell: page up and down and the four arrows. Home and end do
+/// not.
 bool gfnIsCellMoveKey(UINT nChar);

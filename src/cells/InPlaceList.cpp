@@ -5,13 +5,15 @@
 #include <algorithm>
 
 CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
-                           COLORREF crFore, COLORREF crBack, CStringArray& Items, CString sInitText, UINT nFirstChar)
+                           COLORREF crFore, COLORREF crBack, CStringArray& Items, CString sInitText,
+                           UINT nFirstChar)
     : m_sInitText(sInitText), m_nRow(nRow), m_nColumn(nColumn), m_crForeClr(crFore), m_crBackClr(crBack)
 {
     // The height of a combo box is that of its open list.
     CRect rectOpen(rect);
     rectOpen.bottom += ::GetSystemMetrics(SM_CYHSCROLL) + rect.Height() * m_nNumLines;
-    if (Create(dwStyle | WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_BORDER | CBS_AUTOHSCROLL, rectOpen, pParent, nID))
+    if (Create(dwStyle | WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_BORDER | CBS_AUTOHSCROLL, rectOpen, pParent,
+               nID))
     {
         for (INT_PTR i = 0; i < Items.GetSize(); ++i)
             AddString(Items[i]);

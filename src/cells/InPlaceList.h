@@ -1,9 +1,10 @@
 #pragma once
 // The combo box that is laid over a cell with a list for the length of one edit.
 //
-// Like CInPlaceEdit it creates its window in the constructor, tells the grid by LVN_ENDLABELEDITW, closes itself and
-// deletes itself. It ends on Tab, Enter or Escape when the key is released, on a choice from the list, and on the
-// loss of the focus. With CBS_DROPDOWNLIST the list opens at once and a text that it lacks is lost.
+// Like CInPlaceEdit it creates its window in the constructor, tells the grid by LVN_ENDLABELEDITW, closes
+// itself and deletes itself. It ends on Tab, Enter or Escape when the key is released, on a choice from the
+// list, and on the loss of the focus. With CBS_DROPDOWNLIST the list opens at once and a text that it lacks
+// is lost.
 
 #include <afxcoll.h>
 
@@ -45,7 +46,8 @@ protected:
     COLORREF m_crBackClr;
 
 private:
-    bool m_bConstructed = false; ///< the window may be gone before that, and nobody must delete the object then
+    bool m_bConstructed =
+        false; ///< the window may be gone before that, and nobody must delete the object then
     bool IsDropList() const;
     void TakeFirstChar(UINT nChar);
     void Leave(UINT nLastChar);

@@ -1,16 +1,16 @@
 #pragma once
-// One direction of a grid, its rows or its columns: how many there are, how many of them are fixed, and how many
-// pixels each takes. Rows and columns mirror each other here completely, so this is written once.
+// One direction of a grid, its rows or its columns: how many there are, how many of them are fixed, and how
+// many pixels each takes. Rows and columns mirror each other here completely, so this is written once.
 //
-// Positions are in pixels from the edge of the client area. Fixed items stand at its edge and never scroll; behind
-// them the others begin with the item `nFirst`, the first that is scrolled into view. An item of size 0 is hidden and
-// stays in the count.
+// Positions are in pixels from the edge of the client area. Fixed items stand at its edge and never scroll;
+// behind them the others begin with the item `nFirst`, the first that is scrolled into view. An item of size
+// 0 is hidden and stays in the count.
 //
 //      0        FixedExtent()                                  client end
 //      | 0 | 1 |  nFirst  | nFirst + 1 |  ...       | last, partly shown
 //
-// Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing the sizes
-// one after the other, or adding items at the front, does not sum up all the others each time.
+// Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing
+// the sizes one after the other, or adding items at the front, does not sum up all the others each time.
 
 #include <afxcoll.h>
 
@@ -29,8 +29,8 @@ public:
     /// Fixed items beyond the count cannot be: the caller sees to that.
     void SetFixed(int nFixed) { m_nFixed = nFixed; }
     void SetSize(int nItem, int nSize);
-    /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if need be.
-    /// Memory exceptions leave everything as it was.
+    /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if
+    /// need be. Memory exceptions leave everything as it was.
     void SetCount(int nCount, int nSizeOfNew);
     /// Makes room, so that SetCount up to that number cannot fail.
     void Reserve(int nCount);
@@ -45,8 +45,8 @@ public:
     int Extent() const { return static_cast<int>(m_nExtent); }
     int FixedExtent() const { return Offset(m_nFixed); }
 
-    /// The first item that shows behind the fixed ones at a scroll position. A position inside an item gives the next
-    /// one. Never past the last item, unless all are fixed.
+    /// The first item that shows behind the fixed ones at a scroll position. A position inside an item gives
+    /// the next one. Never past the last item, unless all are fixed.
     int FirstAt(int nScrollPos) const;
 
     /// Where an item starts that is fixed or not before `nFirst`.
@@ -58,9 +58,9 @@ public:
     /// What shows of the items from `nFirst` on in a client area.
     struct SVisible
     {
-        int nLast;            ///< the last item that shows at least in part; at most the last of all
-        int nEnd;             ///< where the items end: the end of the last one, which may lie beyond the client area
-        bool bReachesEnd;     ///< the items fill the client area
+        int nLast; ///< the last item that shows at least in part; at most the last of all
+        int nEnd;  ///< where the items end: the end of the last one, which may lie beyond the client area
+        bool bReachesEnd; ///< the items fill the client area
     };
     SVisible Visible(int nFirst, int nClientEnd) const;
 

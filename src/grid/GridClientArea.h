@@ -1,6 +1,6 @@
 #pragma once
-// For the grid's own sources: a context of the grid's window for the length of a scope. A grid that has no window yet
-// measures on the screen.
+// For the grid's own sources: a context of the grid's window for the length of a scope. A grid that has no
+// window yet measures on the screen.
 
 #include <afxwin.h>
 

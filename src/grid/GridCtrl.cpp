@@ -1,4 +1,5 @@
-// Construction, window class, message map and settings of the grid. What the other sources hold is told in the header.
+// Construction, window class, message map and settings of the grid. What the other sources hold is told in
+// the header.
 
 #include <afxwin.h>
 
@@ -6,7 +7,6 @@
 
 #include "buttons/ButtonST.h"
 #include "grid/GridLifeWatch.h"
-
 
 #include <cstdlib>
 
@@ -50,15 +50,17 @@ bool IsWindows95()
 int WheelLinesFromRegistry(int nDefault)
 {
     HKEY hKey = nullptr;
-    if (::RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", 0, KEY_QUERY_VALUE, &hKey) != ERROR_SUCCESS)
+    if (::RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", 0, KEY_QUERY_VALUE, &hKey) !=
+        ERROR_SUCCESS)
         return nDefault;
     wchar_t text[128] = {};
     DWORD nBytes = sizeof text - sizeof *text; // a value without its terminator still ends
     DWORD nType = 0;
-    const LSTATUS nStatus =
-        ::RegQueryValueExW(hKey, L"WheelScrollLines", nullptr, &nType, reinterpret_cast<BYTE*>(text), &nBytes);
+    const LSTATUS nStatus = ::RegQueryValueExW(hKey, L"WheelScrollLines", nullptr, &nType,
+                                               reinterpret_cast<BYTE*>(text), &nBytes);
     ::RegCloseKey(hKey);
-    return nStatus == ERROR_SUCCESS && nType == REG_SZ ? static_cast<int>(std::wcstoul(text, nullptr, 10)) : nDefault;
+    return nStatus == ERROR_SUCCESS && nType == REG_SZ ? static_cast<int>(std::wcstoul(text, nullptr, 10))
+                                                       : nDefault;
 }
 
 /// Lines for one notch of the wheel; -1 stands for a page.
@@ -75,7 +77,8 @@ int MouseWheelLines()
 
 IMPLEMENT_DYNCREATE(CGridCtrl, CWnd)
 
-CGridCtrl::CGridCtrl(int nRows, int nCols, int nFixedRows, int nFixedCols) : m_pCellClass(RUNTIME_CLASS(CGridCell))
+CGridCtrl::CGridCtrl(int nRows, int nCols, int nFixedRows, int nFixedCols)
+    : m_pCellClass(RUNTIME_CLASS(CGridCell))
 {
     RegisterWindowClass();
     ReadSystemColors();
@@ -170,8 +173,8 @@ void CGridCtrl::PreSubclassWindow()
     Initialise();
 }
 
-// A sunken edge. A window that is taken over has its frame already, and must work it out anew; one that is being
-// created has no size yet, and will.
+// A sunken edge. A window that is taken over has its frame already, and must work it out anew; one that is
+// being created has no size yet, and will.
 BOOL CGridCtrl::Initialise()
 {
     static bool s_bInitialising = false;
@@ -214,7 +217,7 @@ void CGridCtrl::FillGridImageList()
         GridImageList.Add(*pIcon);
 }
 
-// ---- Colours and fonts of the system -------------------------------------------------------------------------
+// ---- Colours and fonts of the system ----------------------------------------------------------------------
 
 void CGridCtrl::ReadSystemColors()
 {
@@ -224,11 +227,13 @@ void CGridCtrl::ReadSystemColors()
     m_crShadow = ::GetSysColor(COLOR_3DSHADOW);
 }
 
-// A colour is followed only where it still is the system's old one. The backgrounds of fixed cells are compared with
-// the window colour like that of the body, so a new face colour does not reach them: they keep the old one.
+// A colour is followed only where it still is the system's old one. The backgrounds of fixed cells are
+// compared with the window colour like that of the body, so a new face colour does not reach them: they keep
+// the old one.
 void CGridCtrl::FollowSystemColors()
 {
-    for (CGridDefaultCell* const pCell : {&m_cellDefault, &m_cellFixedRow, &m_cellFixedCol, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell :
+         {&m_cellDefault, &m_cellFixedRow, &m_cellFixedCol, &m_cellFixedRowCol})
     {
         if (pCell->GetTextClr() == m_crWindowText)
             pCell->SetTextClr(::GetSysColor(COLOR_WINDOWTEXT));
@@ -259,7 +264,8 @@ LRESULT CGridCtrl::OnSetFont(WPARAM wParam, LPARAM /*lParam*/)
     LOGFONTW lf;
     if (::GetObjectW(reinterpret_cast<HFONT>(wParam), sizeof lf, &lf))
     {
-        for (CGridDefaultCell* const pCell : {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+        for (CGridDefaultCell* const pCell :
+             {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
             pCell->SetFont(&lf);
         if (::IsWindow(m_hWnd))
             Invalidate();
@@ -273,7 +279,7 @@ LRESULT CGridCtrl::OnGetFont(WPARAM /*wParam*/, LPARAM /*lParam*/)
     return pFont ? reinterpret_cast<LRESULT>(pFont->GetSafeHandle()) : 0;
 }
 
-// ---- Settings ------------------------------------------------------------------------------------------------
+// ---- Settings ---------------------------------------------------------------------------------------------
 
 void CGridCtrl::SetFixedTextColor(COLORREF clr)
 {
@@ -291,19 +297,22 @@ void CGridCtrl::SetFixedBkColor(COLORREF clr)
 
 void CGridCtrl::SetDefCellMargin(int nMargin)
 {
-    for (CGridDefaultCell* const pCell : {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell :
+         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
         pCell->SetMargin(static_cast<UINT>(nMargin));
 }
 
 void CGridCtrl::SetDefCellHeight(int nHeight)
 {
-    for (CGridDefaultCell* const pCell : {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell :
+         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
         pCell->SetHeight(nHeight);
 }
 
 void CGridCtrl::SetDefCellWidth(int nWidth)
 {
-    for (CGridDefaultCell* const pCell : {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell :
+         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
         pCell->SetWidth(nWidth);
 }
 

@@ -1,21 +1,19 @@
 #pragma once
-// CGridCtrl: a table of cells that scrolls under fixed rows and columns, to be looked at, selected, sorted and edited.
+// CGridCtrl: a table of cells that scrolls under fixed rows and columns, to be looked at, selected, sorted
+// and edited.
 //
 //     class CPartsDialog : public CDialog
 //     {
 //         CGridCtrl m_grid;
 //         BOOL OnInitDialog() override
 //         {
-//             CDialog::OnInitDialog();                              // DDX_Control binds it, or m_grid.Create(...)
-//             m_grid.SetRowCount(21);                               // a heading and twenty parts
-//             m_grid.SetColumnCount(3);
-//             m_grid.SetFixedRowCount(1);
-//             m_grid.SetItemText(0, 1, L"Length [mm]");
-//             m_grid.SetItemText(1, 1, L"6000");
-//             m_grid.AutoSizeColumns();
-//             return TRUE;
+//             CDialog::OnInitDialog();                              // DDX_Control binds it, or
+//             m_grid.Create(...) m_grid.SetRowCount(21);                               // a heading and
+//             twenty parts m_grid.SetColumnCount(3); m_grid.SetFixedRowCount(1); m_grid.SetItemText(0, 1,
+//             L"Length [mm]"); m_grid.SetItemText(1, 1, L"6000"); m_grid.AutoSizeColumns(); return TRUE;
 //         }
-//         afx_msg void OnEndEdit(NMHDR* pHeader, LRESULT* pResult); // ON_NOTIFY(LVN_ENDLABELEDITW, IDC_GRID, OnEndEdit)
+//         afx_msg void OnEndEdit(NMHDR* pHeader, LRESULT* pResult); // ON_NOTIFY(LVN_ENDLABELEDITW, IDC_GRID,
+//         OnEndEdit)
 //     };
 //
 // PLACES
@@ -28,32 +26,34 @@
 //                 | columns     |                                      |
 //                 +-------------+--------------------------------------+ client bottom
 //
-// Rows and columns count from 0, the fixed ones included. All positions and sizes are in pixels, in client coordinates
-// of the grid's window. GetCellRect answers rectangles that hold their last pixel: right = left + width - 1. A row of
-// height 0, or a column of width 0, is hidden and stays in the counts.
+// Rows and columns count from 0, the fixed ones included. All positions and sizes are in pixels, in client
+// coordinates of the grid's window. GetCellRect answers rectangles that hold their last pixel: right = left +
+// width - 1. A row of height 0, or a column of width 0, is hidden and stays in the counts.
 //
 // CELLS
 //
-// Each place holds a cell object (cells/GridCellBase.h), made from the class given to SetDefaultCellType or, one by
-// one, SetCellType. The grid owns its cells. What a cell does not have of its own it inherits from one of four default
-// cells, one for the body, fixed columns, fixed rows and the corner: GetDefaultCell.
+// Each place holds a cell object (cells/GridCellBase.h), made from the class given to SetDefaultCellType or,
+// one by one, SetCellType. The grid owns its cells. What a cell does not have of its own it inherits from one
+// of four default cells, one for the body, fixed columns, fixed rows and the corner: GetDefaultCell.
 //
-// A grid may be filled before its window exists; only drawing, scrolling and notifications wait for it. Row heights and
-// column widths set before Create are lost.
+// A grid may be filled before its window exists; only drawing, scrolling and notifications wait for it. Row
+// heights and column widths set before Create are lost.
 //
 // VIRTUAL MODE
 //
-// SetVirtualMode(TRUE) makes a grid without cell objects, for very large tables. GetCell then makes one up for each
-// call, from the answer of the callback (SetCallbackFunc) or, without one, of the parent (LVN_GETDISPINFOW). Its result
-// is overwritten by the next call: no two can be held at a time, and a callback must not call GetCell. Editing, sorting
-// by header and clicks on headers are switched off, and setting an item answers 0.
+// SetVirtualMode(TRUE) makes a grid without cell objects, for very large tables. GetCell then makes one up
+// for each call, from the answer of the callback (SetCallbackFunc) or, without one, of the parent
+// (LVN_GETDISPINFOW). Its result is overwritten by the next call: no two can be held at a time, and a
+// callback must not call GetCell. Editing, sorting by header and clicks on headers are switched off, and
+// setting an item answers 0.
 //
 // FOCUS AND SELECTION
 //
-// One body cell may have the focus; any number may be selected. Changing the counts, sorting and switching selection
-// modes drops both. GetSelectedCount and GetSelectedCellRange ask, GetNextItem walks.
+// One body cell may have the focus; any number may be selected. Changing the counts, sorting and switching
+// selection modes drops both. GetSelectedCount and GetSelectedCellRange ask, GetNextItem walks.
 //
-// NOTIFICATIONS (WM_NOTIFY to the owner, or to the parent if there is none; a GridNotify record unless told otherwise)
+// NOTIFICATIONS (WM_NOTIFY to the owner, or to the parent if there is none; a GridNotify record unless told
+// otherwise)
 //
 //     LVN_ITEMCHANGING    before a selection changes by a press or by select all; row and column of the press
 //     LVN_ITEMCHANGED     the focus moved to another cell; and after select all
@@ -61,26 +61,29 @@
 //     NM_DBLCLK           double click on a cell
 //     NM_RCLICK           the right button was released; row and column -1 outside the cells
 //     LVN_BEGINLABELEDITW an edit is about to start; a negative answer forbids it
-//     LVN_ENDLABELEDITW   an edit has changed the text, which the cell holds already; a negative answer puts the old
+//     LVN_ENDLABELEDITW   an edit has changed the text, which the cell holds already; a negative answer puts
+//     the old
 //                         text back
 //     LVN_GETDISPINFOW    virtual mode without a callback; GV_DISPINFO record, to be filled in
-//     LVN_ODCACHEHINT     virtual mode; GridCacheHint record: what will be asked for, and the empty range when done
+//     LVN_ODCACHEHINT     virtual mode; GridCacheHint record: what will be asked for, and the empty range
+//     when done
 //
-// After a click on a cell WM_COMMAND is posted, too, with the grid's id. A receiver may change the grid, end the edit,
-// delete rows or destroy the window. It may delete the object as well, except while it answers LVN_GETDISPINFOW or
-// LVN_ODCACHEHINT. It must not delete rows from within a callback of virtual mode's GetCell that it called itself.
+// After a click on a cell WM_COMMAND is posted, too, with the grid's id. A receiver may change the grid, end
+// the edit, delete rows or destroy the window. It may delete the object as well, except while it answers
+// LVN_GETDISPINFOW or LVN_ODCACHEHINT. It must not delete rows from within a callback of virtual mode's
+// GetCell that it called itself.
 //
 // FAILURES
 //
-// An index out of range answers 0, -1 or null and says nothing. Out of memory while growing is reported by the
-// exception's ReportError, and the grid stays consistent.
+// An index out of range answers 0, -1 or null and says nothing. Out of memory while growing is reported by
+// the exception's ReportError, and the grid stays consistent.
 //
 // SOURCES
 //
 //     GridCtrl.cpp      construction, message map, settings       GridSelection.cpp focus and selection
 //     GridStorage.cpp   rows, columns, cells, virtual mode         GridMouse.cpp     mouse state machine
-//     GridItems.cpp     text, state, colours of single cells       GridKeyboard.cpp  keys, start and end of edits
-//     GridGeometry.cpp  cells to pixels and back, sizing to fit    GridSort.cpp      sorting
+//     GridItems.cpp     text, state, colours of single cells       GridKeyboard.cpp  keys, start and end of
+//     edits GridGeometry.cpp  cells to pixels and back, sizing to fit    GridSort.cpp      sorting
 //     GridScroll.cpp    scroll bars and the wheel                  GridFile.cpp      text files, saved widths
 //     GridDraw.cpp      painting                                   GridUnits.cpp     units of columns
 //
@@ -97,7 +100,7 @@
 #include "grid/GridTypes.h"
 #include "module/Export.h"
 
-// ---- Values of settings --------------------------------------------------------------------------------------
+// ---- Values of settings -----------------------------------------------------------------------------------
 
 // Grid lines: SetGridLines
 constexpr int GVL_NONE = 0;
@@ -122,8 +125,8 @@ constexpr int GVNI_ABOVE = 0x100;
 constexpr int GVNI_BELOW = 0x200;
 constexpr int GVNI_TOLEFT = 0x400;
 constexpr int GVNI_TORIGHT = 0x800;
-constexpr int GVNI_ALL = GVNI_BELOW | GVNI_TOLEFT | GVNI_TORIGHT;   ///< row by row to the end
-constexpr int GVNI_AREA = GVNI_BELOW | GVNI_TORIGHT;                ///< row by row, right of the start column
+constexpr int GVNI_ALL = GVNI_BELOW | GVNI_TOLEFT | GVNI_TORIGHT; ///< row by row to the end
+constexpr int GVNI_AREA = GVNI_BELOW | GVNI_TORIGHT;              ///< row by row, right of the start column
 
 /// The format of headings: centred, on one line.
 constexpr UINT GV_HEADING_FORMAT = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
@@ -142,12 +145,12 @@ public:
     BOOL Create(const RECT& rect, CWnd* pParent, UINT nID,
                 DWORD dwStyle = WS_CHILD | WS_BORDER | WS_TABSTOP | WS_VISIBLE);
 
-    /// Icons that every grid may show, by index: marks first, then from `nFirstGridIconIdx` on the profiles. Made with
-    /// the first grid of the process. SetImageList(&CGridCtrl::GridImageList) puts it into a grid.
+    /// Icons that every grid may show, by index: marks first, then from `nFirstGridIconIdx` on the profiles.
+    /// Made with the first grid of the process. SetImageList(&CGridCtrl::GridImageList) puts it into a grid.
     static CImageList GridImageList;
     static int nFirstGridIconIdx;
 
-    // ---- Counts ----------------------------------------------------------------------------------------------
+    // ---- Counts -------------------------------------------------------------------------------------------
 
     int GetRowCount() const { return m_rows.Count(); }
     int GetColumnCount() const { return m_cols.Count(); }
@@ -159,7 +162,8 @@ public:
     BOOL SetFixedRowCount(int nFixedRows);
     BOOL SetFixedColumnCount(int nFixedCols);
 
-    /// The index of the new row, or -1. -1 as `nRow` appends; the count itself is refused, unlike for columns.
+    /// The index of the new row, or -1. -1 as `nRow` appends; the count itself is refused, unlike for
+    /// columns.
     int InsertRow(LPCWSTR strHeading, int nRow = -1);
     /// The index of the new column, or -1. -1 as `nColumn`, or the count itself, appends.
     int InsertColumn(LPCWSTR strHeading, UINT nFormat = GV_HEADING_FORMAT, int nColumn = -1);
@@ -171,7 +175,7 @@ public:
     /// As many rows and columns as fill the window, the first of each fixed.
     void AutoFill();
 
-    // ---- Cells -----------------------------------------------------------------------------------------------
+    // ---- Cells --------------------------------------------------------------------------------------------
 
     CGridCellBase* GetCell(int nRow, int nCol) const;
     CGridDefaultCell* GetDefaultCell(BOOL bFixedRow, BOOL bFixedCol) const;
@@ -187,7 +191,7 @@ public:
     CCellRange GetCellRange();
     BOOL IsItemEditing(int nRow, int nCol);
 
-    // ---- Items: 0 for a cell that is not there, and for every change in virtual mode -----------------------------
+    // ---- Items: 0 for a cell that is not there, and for every change in virtual mode ----------------------
 
     BOOL SetItem(const GV_ITEM* pItem);
     BOOL GetItem(GV_ITEM* pItem);
@@ -223,7 +227,7 @@ public:
     BOOL IsCellEditable(CCellID& cell) const;
     BOOL IsCellEditable(int nRow, int nCol) const;
 
-    // ---- Virtual mode ----------------------------------------------------------------------------------------
+    // ---- Virtual mode -------------------------------------------------------------------------------------
 
     /// Deletes all items first.
     void SetVirtualMode(BOOL bVirtual);
@@ -231,19 +235,21 @@ public:
     void SetCallbackFunc(GRIDCALLBACK pCallback, LPARAM lParam);
     GRIDCALLBACK GetCallbackFunc() { return m_pfnCallback; }
 
-    // ---- Sizes and places ------------------------------------------------------------------------------------
+    // ---- Sizes and places ---------------------------------------------------------------------------------
 
     int GetRowHeight(int nRow) const;
     int GetColumnWidth(int nCol) const;
     BOOL SetRowHeight(int nRow, int nHeight);
-    /// A width saved under the key of SetPersistentGridColumnsWidth wins over `nWidth`, unless `bIgnoreSaved`.
+    /// A width saved under the key of SetPersistentGridColumnsWidth wins over `nWidth`, unless
+    /// `bIgnoreSaved`.
     BOOL SetColumnWidth(int nCol, int nWidth, int bIgnoreSaved = FALSE);
     int GetFixedRowHeight() const { return m_rows.FixedExtent(); }
     int GetFixedColumnWidth() const { return m_cols.FixedExtent(); }
     int GetVirtualHeight() const { return m_rows.Extent(); }
     int GetVirtualWidth() const { return m_cols.Extent(); }
 
-    /// FALSE for a cell that is scrolled away above or to the left. Beyond the right and bottom edges it succeeds.
+    /// FALSE for a cell that is scrolled away above or to the left. Beyond the right and bottom edges it
+    /// succeeds.
     BOOL GetCellOrigin(int nRow, int nCol, POINT* p);
     BOOL GetCellOrigin(const CCellID& cell, POINT* p);
     BOOL GetCellRect(int nRow, int nCol, RECT* pRect);
@@ -270,7 +276,7 @@ public:
     void ExpandLastColumn();
     void ExpandToFit(BOOL bExpandFixed = TRUE);
 
-    // ---- Drawing ---------------------------------------------------------------------------------------------
+    // ---- Drawing ------------------------------------------------------------------------------------------
 
     /// Redraw at once. Without a context one is taken from the window.
     BOOL RedrawCell(int nRow, int nCol, CDC* pDC = nullptr);
@@ -281,8 +287,8 @@ public:
     void SetRedraw(BOOL bAllowDraw, BOOL bResetScrollBars = FALSE);
     void EraseBkgnd(CDC* pDC);
 
-    // No colour setter repaints. The fixed colours are those of all three kinds of fixed cell; the getters answer
-    // those of the fixed rows. SetBkColor is SetGridBkColor, and SetGridColor is SetGridLineColor.
+    // No colour setter repaints. The fixed colours are those of all three kinds of fixed cell; the getters
+    // answer those of the fixed rows. SetBkColor is SetGridBkColor, and SetGridColor is SetGridLineColor.
     void SetBkColor(COLORREF clr) { m_crGridBk = clr; }
     COLORREF GetBkColor() const { return m_crGridBk; }
     void SetGridBkColor(COLORREF clr) { m_crGridBk = clr; }
@@ -314,19 +320,19 @@ public:
     void SetDefCellWidth(int nWidth);
     int GetDefCellWidth() const { return m_cellDefault.GetWidth(); }
 
-    // ---- Focus and selection ---------------------------------------------------------------------------------
+    // ---- Focus and selection ------------------------------------------------------------------------------
 
     CCellID GetFocusCell() const { return m_focusCell; }
     /// Answers the old focus. A fixed cell gives its place to the first that is not; -1 takes the focus away.
     CCellID SetFocusCell(int nRow, int nCol);
     CCellID SetFocusCell(CCellID cell, BOOL bNotify = TRUE);
-    /// Selects the range in place of what was selected; negative bounds select nothing. With `bSelectCells` FALSE
-    /// unselects the range and leaves everything else. `bForceRepaint` repaints at once.
+    /// Selects the range in place of what was selected; negative bounds select nothing. With `bSelectCells`
+    /// FALSE unselects the range and leaves everything else. `bForceRepaint` repaints at once.
     void SetSelectedRange(int nMinRow, int nMinCol, int nMaxRow, int nMaxCol, BOOL bForceRepaint = FALSE,
                           BOOL bSelectCells = TRUE);
     void SetSelectedRange(const CCellRange& range, BOOL bForceRepaint = FALSE, BOOL bSelectCells = TRUE);
-    /// The smallest range around all selected cells. With nothing selected the maxima are -1 and the minima the
-    /// counts, which is not the empty range.
+    /// The smallest range around all selected cells. With nothing selected the maxima are -1 and the minima
+    /// the counts, which is not the empty range.
     CCellRange GetSelectedCellRange();
     int GetSelectedCount() const { return m_mapSelected.Count(); }
     BOOL IsCellSelected(CCellID& cell) const;
@@ -349,15 +355,16 @@ public:
     void SetFixedColumnSelection(BOOL bSelect) { m_bFixedColumnSelection = bSelect; }
     BOOL GetFixedColumnSelection() const { return m_bFixedColumnSelection; }
 
-    // ---- Editing ---------------------------------------------------------------------------------------------
+    // ---- Editing ------------------------------------------------------------------------------------------
 
     void StartEditCell();
     /// Empties the cells that show and may be edited, asking the parent as for an edit.
     void ClearCells(CCellRange range);
 
-    // ---- Sorting, files, units ---------------------------------------------------------------------------------
+    // ---- Sorting, files, units ----------------------------------------------------------------------------
 
-    // A sort drops the selection and the focus. FALSE if there are fewer than two rows to sort, or no such column.
+    // A sort drops the selection and the focus. FALSE if there are fewer than two rows to sort, or no such
+    // column.
     BOOL SortItems(int nCol, BOOL bAscending, LPARAM data = 0);
     BOOL SortTextItems(int nCol, BOOL bAscending, LPARAM data = 0);
     BOOL SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data = 0);
@@ -377,8 +384,8 @@ public:
     /// A text file, one line for each row. What Load reads of what Save wrote is told in GridFile.cpp.
     BOOL Load(LPCWSTR szFileName, wchar_t chSeparator = L',');
     BOOL Save(LPCWSTR szFileName, wchar_t chSeparator = L',');
-    /// Keeps the column widths in the application's profile from one run to the next; `n` tells the grids of one
-    /// dialog apart. SetColumnWidth reads them, the destructor writes them.
+    /// Keeps the column widths in the application's profile from one run to the next; `n` tells the grids of
+    /// one dialog apart. SetColumnWidth reads them, the destructor writes them.
     void SetPersistentGridColumnsWidth(const CString& key, int n);
 
     /// The unit of a column, by index; indices do not follow columns that are inserted or deleted.
@@ -389,7 +396,7 @@ public:
     /// Heads a column with a translated description and its unit, if there is one.
     void SetColDescription(int nCol, CComplexUnit* pUnit, CString desc);
 
-    // ---- Plain settings ----------------------------------------------------------------------------------------
+    // ---- Plain settings -----------------------------------------------------------------------------------
 
     void SetImageList(CImageList* pList) { m_pImageList = pList; } ///< not owned
     CImageList* GetImageList() const { return m_pImageList; }
@@ -430,7 +437,7 @@ public:
     /// Answers the former mode.
     int SetMouseMode(int nMode);
 
-    // ---- To be overridden --------------------------------------------------------------------------------------
+    // ---- To be overridden ---------------------------------------------------------------------------------
 
     /// Answers the standard select-all command.
     afx_msg virtual void OnEditSelectAll();
@@ -439,7 +446,8 @@ protected:
     /// The press was on a fixed column, outside the fixed rows.
     virtual void OnFixedColumnClick(CCellID& cell);
     virtual void OnFixedRowClick(CCellID& cell);
-    /// Starts an edit, if the cell may be edited and the parent does not forbid it. `nChar` as for the cell's Edit.
+    /// Starts an edit, if the cell may be edited and the parent does not forbid it. `nChar` as for the cell's
+    /// Edit.
     virtual void OnEditCell(int nRow, int nCol, CPoint point, UINT nChar);
     /// The editor has ended: stores the text, or puts the old one back if cell or parent refuse it.
     virtual void OnEndEditCell(int nRow, int nCol, CString str);
@@ -451,7 +459,7 @@ protected:
 
     void PreSubclassWindow() override;
 
-    // ---- For derived grids -------------------------------------------------------------------------------------
+    // ---- For derived grids --------------------------------------------------------------------------------
 
     /// What the mouse is doing.
     enum eMouseModes
@@ -514,7 +522,7 @@ protected:
     /// Sorts the rows from `low` to `high`; `high` -1 means the last.
     BOOL SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data, int low, int high);
 
-    // ---- Messages ----------------------------------------------------------------------------------------------
+    // ---- Messages -----------------------------------------------------------------------------------------
 
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
@@ -545,11 +553,12 @@ protected:
     afx_msg void OnUpdateEditSelectAll(CCmdUI* pCmdUI);
     DECLARE_MESSAGE_MAP()
 
-    // ---- State: colours ----------------------------------------------------------------------------------------
+    // ---- State: colours -----------------------------------------------------------------------------------
 
-    COLORREF m_crGridBk;   ///< behind the cells
+    COLORREF m_crGridBk; ///< behind the cells
     COLORREF m_crGridLine;
-    COLORREF m_crWindowText; ///< these four: the system's, as last read, to tell what the user set from what it set
+    COLORREF m_crWindowText; ///< these four: the system's, as last read, to tell what the user set from what
+                             ///< it set
     COLORREF m_crWindow;
     COLORREF m_cr3DFace;
     COLORREF m_crShadow;
@@ -595,7 +604,7 @@ protected:
     CGridAxis m_cols;
     int m_nVScrollMax = 0; ///< greatest value of each scroll bar's range in pixels, 0 without a bar
     int m_nHScrollMax = 0;
-    CRuntimeClass* m_pCellClass; ///< of new cells
+    CRuntimeClass* m_pCellClass;            ///< of new cells
     mutable CGridDefaultCell m_cellDefault; ///< handed out by a const operation for callers to change
     mutable CGridDefaultCell m_cellFixedCol;
     mutable CGridDefaultCell m_cellFixedRow;
@@ -610,12 +619,12 @@ protected:
     BOOL m_bRButtonDown = FALSE;
     CPoint m_ptClickClient; ///< where the left button was last pressed
     CPoint m_ptLastMouse;
-    CCellID m_clickDownCell; ///< the cell of the last press
+    CCellID m_clickDownCell;  ///< the cell of the last press
     CCellID m_selectionStart; ///< the anchor of a range
     CCellID m_focusCell;
     CCellID m_topLeftCell; ///< the first body cell in view; negative in either field: to be computed afresh
     UINT_PTR m_nTimerId = 0;
-    int m_nTimerInterval = 25; ///< milliseconds between two steps of a drag beyond the edge
+    int m_nTimerInterval = 25;     ///< milliseconds between two steps of a drag beyond the edge
     int m_nResizeCaptureRange = 3; ///< pixels on either side of a divider
     BOOL m_bAllowRowResize = TRUE;
     BOOL m_bAllowColumnResize = TRUE;

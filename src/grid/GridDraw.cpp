@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-// ---- Messages ------------------------------------------------------------------------------------------------
+// ---- Messages ---------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnPaint()
 {
@@ -29,7 +29,7 @@ BOOL CGridCtrl::OnEraseBkgnd(CDC* /*pDC*/)
     return TRUE;
 }
 
-// ---- The whole window ----------------------------------------------------------------------------------------
+// ---- The whole window -------------------------------------------------------------------------------------
 
 void CGridCtrl::OnDraw(CDC* pDC)
 {
@@ -41,7 +41,8 @@ void CGridCtrl::OnDraw(CDC* pDC)
     CRect rectVisible;
     const CCellRange visible = GetVisibleNonFixedCellRange(&rectVisible);
     SendCacheHintToParent(visible);
-    CFont* const pOldFont = pDC->SelectObject(m_cellDefault.GetFontObject()); // of most cells: they find it there
+    CFont* const pOldFont =
+        pDC->SelectObject(m_cellDefault.GetFontObject()); // of most cells: they find it there
     DrawCells(pDC, rectClip, visible);
     pDC->SelectObject(pOldFont);
     DrawGridLines(pDC, visible, rectVisible);
@@ -62,8 +63,8 @@ void CGridCtrl::DrawCells(CDC* pDC, const CRect& rectClip, const CCellRange& vis
     DrawPass(pDC, rectClip, visible, body);
 }
 
-/// The cells of a range, the first of them at a point, as far as they touch the clip box. A hidden row or column gives
-/// cells without an extent, which are drawn all the same.
+/// The cells of a range, the first of them at a point, as far as they touch the clip box. A hidden row or
+/// column gives cells without an extent, which are drawn all the same.
 void CGridCtrl::DrawPass(CDC* pDC, const CRect& rectClip, const CCellRange& range, CPoint origin)
 {
     CRect rect;
@@ -130,7 +131,8 @@ void CGridCtrl::EraseBkgnd(CDC* pDC)
     GetVisibleNonFixedCellRange(&visible);
     const int nFixedWidth = GetFixedColumnWidth();
     const int nFixedHeight = GetFixedRowHeight();
-    const auto fill = [pDC](const CRect& rect, COLORREF clr) {
+    const auto fill = [pDC](const CRect& rect, COLORREF clr)
+    {
         CBrush brush(clr);
         pDC->FillRect(&rect, &brush);
     };
@@ -157,7 +159,7 @@ void CGridCtrl::EraseBkgnd(CDC* pDC)
         fill(CRect(clip.left, visible.bottom, visible.right, clip.bottom), m_crGridBk);
 }
 
-// ---- At once -------------------------------------------------------------------------------------------------
+// ---- At once ----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::RedrawCell(const CCellID& cell, CDC* pDC)
 {
@@ -221,7 +223,7 @@ BOOL CGridCtrl::RedrawColumn(int nCol)
     return bAll;
 }
 
-// ---- Later ---------------------------------------------------------------------------------------------------
+// ---- Later ------------------------------------------------------------------------------------------------
 
 void CGridCtrl::SetRedraw(BOOL bAllowDraw, BOOL bResetScrollBars)
 {

@@ -1,10 +1,10 @@
 // Grids as text files, and column widths kept in the application's profile.
 //
-// A file has one line for each row; fields are separated by one character and not quoted, so that a field with the
-// separator or a line feed in it comes back as two. The first line holds the headings.
+// A file has one line for each row; fields are separated by one character and not quoted, so that a field
+// with the separator or a line feed in it comes back as two. The first line holds the headings.
 //
-// The reader puts the first field of each data line one row below the others of that line. So a file that was saved
-// with more than one column does not come back as it was: of
+// The reader puts the first field of each data line one row below the others of that line. So a file that was
+// saved with more than one column does not come back as it was: of
 //
 //     A,B          Load makes    A D
 //     C,D                        C -
@@ -19,16 +19,18 @@ namespace
 {
 constexpr wchar_t kSection[] = L"OstrelWorks";
 constexpr wchar_t kWidthEntry[] = L"%s_col_%d";
-constexpr int kLineLength = 1024; ///< characters of a line, with its terminator; a longer one is read in pieces
+constexpr int kLineLength =
+    1024; ///< characters of a line, with its terminator; a longer one is read in pieces
 
 /// Takes the fields of a line apart, in the line's own buffer.
 ///
-/// Behind the last field of a line without a line feed the search goes on, in what an earlier and longer line has left
-/// in the buffer: a file's last line should end in a line feed, as every line that Save writes does.
+/// Behind the last field of a line without a line feed the search goes on, in what an earlier and longer line
+/// has left in the buffer: a file's last line should end in a line feed, as every line that Save writes does.
 class CTokens
 {
 public:
-    CTokens(wchar_t* pszLine, wchar_t chSeparator) : m_pszNext(pszLine), m_pszEnd(pszLine + kLineLength), m_chSeparator(chSeparator)
+    CTokens(wchar_t* pszLine, wchar_t chSeparator)
+        : m_pszNext(pszLine), m_pszEnd(pszLine + kLineLength), m_chSeparator(chSeparator)
     {
     }
 
@@ -143,7 +145,7 @@ void CGridCtrl::ReadRows(CStdioFile& file, wchar_t chSeparator)
     }
 }
 
-// ---- Saved widths --------------------------------------------------------------------------------------------
+// ---- Saved widths -----------------------------------------------------------------------------------------
 
 void CGridCtrl::SetPersistentGridColumnsWidth(const CString& key, int n)
 {

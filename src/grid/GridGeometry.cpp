@@ -14,7 +14,8 @@ namespace
 const CCellRange kNoCells;
 } // namespace
 
-// ---- The top-left cell and what shows ------------------------------------------------------------------------
+// ---- The top-left cell and what shows
+// ------------------------------------------------------------------------
 
 CCellID CGridCtrl::GetTopleftNonFixedCell(BOOL bForceRecalculation)
 {
@@ -42,7 +43,8 @@ CCellRange CGridCtrl::GetVisibleNonFixedCellRange(RECT* pRect, BOOL bForceRecalc
     const CGridAxis::SVisible rows = m_rows.Visible(topLeft.row, client.cy);
     const CGridAxis::SVisible cols = m_cols.Visible(topLeft.col, client.cx);
     if (pRect)
-        ::SetRect(pRect, 0, 0, cols.bReachesEnd ? client.cx : cols.nEnd, rows.bReachesEnd ? client.cy : rows.nEnd);
+        ::SetRect(pRect, 0, 0, cols.bReachesEnd ? client.cx : cols.nEnd,
+                  rows.bReachesEnd ? client.cy : rows.nEnd);
     return CCellRange(topLeft.row, topLeft.col, rows.nLast, cols.nLast);
 }
 
@@ -51,7 +53,8 @@ CCellRange CGridCtrl::GetUnobstructedNonFixedCellRange(BOOL bForceRecalculation)
 {
     const CSize client = GetClientSize();
     const CCellID topLeft = GetTopleftNonFixedCell(bForceRecalculation);
-    const auto lastWhole = [](const CGridAxis& axis, int nFirst, int nClientEnd) {
+    const auto lastWhole = [](const CGridAxis& axis, int nFirst, int nClientEnd)
+    {
         const CGridAxis::SVisible visible = axis.Visible(nFirst, nClientEnd);
         return visible.nLast > 0 && visible.nEnd > nClientEnd ? visible.nLast - 1 : visible.nLast;
     };
@@ -76,7 +79,7 @@ BOOL CGridCtrl::IsCellVisible(int nRow, int nCol)
     return origin.x < client.cx && origin.y < client.cy;
 }
 
-// ---- Cells to pixels -----------------------------------------------------------------------------------------
+// ---- Cells to pixels --------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::GetCellOrigin(const CCellID& cell, POINT* p)
 {
@@ -127,14 +130,15 @@ BOOL CGridCtrl::GetTextRect(int nRow, int nCol, RECT* pRect)
 BOOL CGridCtrl::GetCellRangeRect(const CCellRange& range, RECT* pRect)
 {
     CPoint first, last;
-    if (!GetCellOrigin(range.minRow, range.minCol, &first) || !GetCellOrigin(range.maxRow, range.maxCol, &last))
+    if (!GetCellOrigin(range.minRow, range.minCol, &first) ||
+        !GetCellOrigin(range.maxRow, range.maxCol, &last))
         return FALSE;
     ::SetRect(pRect, first.x, first.y, last.x + m_cols.Size(range.maxCol) - 1,
               last.y + m_rows.Size(range.maxRow) - 1);
     return TRUE;
 }
 
-// ---- Pixels to cells -----------------------------------------------------------------------------------------
+// ---- Pixels to cells --------------------------------------------------------------------------------------
 
 CCellID CGridCtrl::GetCellFromPt(CPoint point, BOOL bAllowFixedCellCheck)
 {
@@ -161,7 +165,8 @@ BOOL CGridCtrl::MouseOverRowResizeArea(CPoint& point)
     if (!GetCellOrigin(cell, &start))
         return FALSE;
     const int nBottom = start.y + m_rows.Size(cell.row);
-    return (point.y - start.y < m_nResizeCaptureRange && cell.row != 0) || nBottom - point.y < m_nResizeCaptureRange;
+    return (point.y - start.y < m_nResizeCaptureRange && cell.row != 0) ||
+           nBottom - point.y < m_nResizeCaptureRange;
 }
 
 BOOL CGridCtrl::MouseOverColumnResizeArea(CPoint& point)
@@ -173,10 +178,11 @@ BOOL CGridCtrl::MouseOverColumnResizeArea(CPoint& point)
     if (!GetCellOrigin(cell, &start))
         return FALSE;
     const int nRight = start.x + m_cols.Size(cell.col);
-    return (point.x - start.x < m_nResizeCaptureRange && cell.col != 0) || nRight - point.x < m_nResizeCaptureRange;
+    return (point.x - start.x < m_nResizeCaptureRange && cell.col != 0) ||
+           nRight - point.x < m_nResizeCaptureRange;
 }
 
-// ---- Sizes ---------------------------------------------------------------------------------------------------
+// ---- Sizes ------------------------------------------------------------------------------------------------
 
 int CGridCtrl::GetRowHeight(int nRow) const
 {
@@ -206,7 +212,7 @@ BOOL CGridCtrl::SetColumnWidth(int nCol, int nWidth, int bIgnoreSaved)
     return TRUE;
 }
 
-// ---- Sizing to the contents ----------------------------------------------------------------------------------
+// ---- Sizing to the contents -------------------------------------------------------------------------------
 
 /// The rows that count for a style, all columns.
 CCellRange CGridCtrl::AutoSizeSpan(UINT nStyle) const
@@ -316,7 +322,7 @@ void CGridCtrl::FitColumnAndRows(int nCol, const CCellRange& span, CDC* pDC)
         m_cols.SetSize(nCol, nWidth);
 }
 
-// ---- Sizing to the window ------------------------------------------------------------------------------------
+// ---- Sizing to the window ---------------------------------------------------------------------------------
 
 void CGridCtrl::ExpandColumnsToFit(BOOL bExpandFixed)
 {
@@ -328,8 +334,9 @@ void CGridCtrl::ExpandRowsToFit(BOOL bExpandFixed)
     Expand(SB_VERT, bExpandFixed);
 }
 
-// Each gets an equal share of what is free, or missing; what the division leaves goes to the first ones, a pixel each.
-// A hidden one among those takes up a place without taking the pixel, so that the total can stay some pixels short.
+// Each gets an equal share of what is free, or missing; what the division leaves goes to the first ones, a
+// pixel each. A hidden one among those takes up a place without taking the pixel, so that the total can stay
+// some pixels short.
 void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
 {
     CGridAxis& axis = AxisOf(nBar);
@@ -349,7 +356,8 @@ void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
     const int nStep = nFree > 0 ? 1 : -1;
     for (int nItem = nFirst; nItem < axis.Count(); ++nItem)
         if (axis.IsShown(nItem))
-            axis.SetSize(nItem, std::max(0, axis.Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
+            axis.SetSize(nItem,
+                         std::max(0, axis.Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
     Invalidate();
     ResetScrollBars();
 }

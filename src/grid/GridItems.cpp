@@ -6,9 +6,10 @@
 
 #include <cstdarg>
 
-// ---- Access --------------------------------------------------------------------------------------------------
+// ---- Access -----------------------------------------------------------------------------------------------
 
-/// The cell that a setter may change; null in virtual mode, where there is nothing that could keep the change.
+/// The cell that a setter may change; null in virtual mode, where there is nothing that could keep the
+/// change.
 CGridCellBase* CGridCtrl::GetCellToChange(int nRow, int nCol) const
 {
     return m_bVirtualMode ? nullptr : GetCell(nRow, nCol);
@@ -172,7 +173,7 @@ CSize CGridCtrl::GetTextExtent(int nRow, int nCol, LPCWSTR str)
     return pCell ? pCell->GetTextExtent(str, nullptr) : CSize(0, 0);
 }
 
-// ---- Several at once -----------------------------------------------------------------------------------------
+// ---- Several at once --------------------------------------------------------------------------------------
 
 // Counts as a modification whatever the mask says.
 BOOL CGridCtrl::SetItem(const GV_ITEM* pItem)
@@ -231,7 +232,7 @@ BOOL CGridCtrl::GetItem(GV_ITEM* pItem)
     return TRUE;
 }
 
-// ---- Modified and editable -----------------------------------------------------------------------------------
+// ---- Modified and editable --------------------------------------------------------------------------------
 
 void CGridCtrl::SetModified(BOOL bModified, int nRow, int nCol)
 {

@@ -43,7 +43,7 @@ UINT CGridCtrl::OnGetDlgCode()
     return DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTTAB;
 }
 
-// ---- Key down ------------------------------------------------------------------------------------------------
+// ---- Key down ---------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
@@ -263,7 +263,8 @@ void CGridCtrl::FollowKey(SKeyMove& move)
         SendScroll(SB_VERT, SB_ENDSCROLL);
 }
 
-/// With Shift from the anchor, otherwise just the new cell. While the mouse selects, that is the mouse's business.
+/// With Shift from the anchor, otherwise just the new cell. While the mouse selects, that is the mouse's
+/// business.
 void CGridCtrl::SelectByKey(const SKeyMove& move)
 {
     if (m_nMouseMode != MODE_NOTHING)
@@ -279,7 +280,8 @@ void CGridCtrl::SelectByKey(const SKeyMove& move)
 /// A line in the direction of the key; for a Tab into another row also to the other end of it.
 bool CGridCtrl::ScrollForKey(SKeyMove& move)
 {
-    const auto scroll = [&](int nBar, UINT nSBCode) {
+    const auto scroll = [&](int nBar, UINT nSBCode)
+    {
         (nBar == SB_HORZ ? move.scrolledH : move.scrolledV) = true;
         return SendScroll(nBar, nSBCode);
     };
@@ -315,7 +317,7 @@ void CGridCtrl::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
     CWnd::OnSysKeyDown(nChar, nRepCnt, nFlags);
 }
 
-// ---- Characters start an edit --------------------------------------------------------------------------------
+// ---- Characters start an edit -----------------------------------------------------------------------------
 
 bool CGridCtrl::StartsEdit(UINT nChar) const
 {
@@ -344,7 +346,7 @@ void CGridCtrl::StartEditCell()
     OnEditCell(m_focusCell.row, m_focusCell.col, CPoint(-1, -1), VK_LBUTTON);
 }
 
-// ---- The start of an edit ------------------------------------------------------------------------------------
+// ---- The start of an edit ---------------------------------------------------------------------------------
 
 void CGridCtrl::OnEditCell(int nRow, int nCol, CPoint point, UINT nChar)
 {
@@ -358,8 +360,8 @@ void CGridCtrl::OnEditCell(int nRow, int nCol, CPoint point, UINT nChar)
     if (SendMessageToParent(nRow, nCol, LVN_BEGINLABELEDITW) < 0 || !life.WindowLives())
         return;
 
-    // An editor takes the focus as it is made. Whoever reacts to losing it, another editor above all, does so before
-    // there is a cell to be deleted under the new editor's feet.
+    // An editor takes the focus as it is made. Whoever reacts to losing it, another editor above all, does so
+    // before there is a cell to be deleted under the new editor's feet.
     if (!IsItemEditing(nRow, nCol) && ::GetFocus() != m_hWnd)
         SetFocus();
     if (!life.WindowLives())
@@ -368,7 +370,7 @@ void CGridCtrl::OnEditCell(int nRow, int nCol, CPoint point, UINT nChar)
         pCell->Edit(nRow, nCol, rect, point, InPlaceControlId, nChar);
 }
 
-// ---- The end of an edit --------------------------------------------------------------------------------------
+// ---- The end of an edit -----------------------------------------------------------------------------------
 
 void CGridCtrl::EndEditing()
 {
@@ -400,8 +402,8 @@ void CGridCtrl::OnEndInPlaceEdit(NMHDR* pNMHDR, LRESULT* pResult)
         OnEditCell(m_focusCell.row, m_focusCell.col, CPoint(-1, -1), nKey);
 }
 
-// The text is stored before anybody is asked, so that cell and parent see it in the grid. A text put back leaves the
-// cell marked as modified all the same.
+// The text is stored before anybody is asked, so that cell and parent see it in the grid. A text put back
+// leaves the cell marked as modified all the same.
 void CGridCtrl::OnEndEditCell(int nRow, int nCol, CString str)
 {
     const CLifeWatch life(*this);
@@ -443,7 +445,8 @@ void CGridCtrl::ValidateAndModifyCellContents(int nRow, int nCol, LPCWSTR str)
     if (strOld == str)
         return;
     SetItemText(nRow, nCol, str);
-    const bool bAccepted = ValidateEdit(nRow, nCol, str) && SendMessageToParent(nRow, nCol, LVN_ENDLABELEDITW) >= 0;
+    const bool bAccepted =
+        ValidateEdit(nRow, nCol, str) && SendMessageToParent(nRow, nCol, LVN_ENDLABELEDITW) >= 0;
     if (!life.ObjectLives())
         return;
     if (bAccepted)

@@ -3,12 +3,15 @@
 
 #include "grid/GridCtrl.h"
 
-/// Stands on the stack of an operation that notifies. The receiver may destroy the grid's window or the grid itself;
-/// whoever goes on afterwards asks here first.
+/// Stands on the stack of an operation that notifies. The receiver may destroy the grid's window or the grid
+/// itself; whoever goes on afterwards asks here first.
 class CGridCtrl::CLifeWatch
 {
 public:
-    explicit CLifeWatch(CGridCtrl& grid) : m_pGrid(&grid), m_pNext(grid.m_pFirstWatch) { grid.m_pFirstWatch = this; }
+    explicit CLifeWatch(CGridCtrl& grid) : m_pGrid(&grid), m_pNext(grid.m_pFirstWatch)
+    {
+        grid.m_pFirstWatch = this;
+    }
     ~CLifeWatch()
     {
         if (m_pGrid)

@@ -4,7 +4,8 @@
 //                  -> selecting all, columns, rows or cells -> over nothing
 //                  -> prepared to edit -> over nothing, with an editor open
 //
-// A move changes the mode only between nothing and the two dividers; a press enters a gesture; the release ends it.
+// A move changes the mode only between nothing and the two dividers; a press enters a gesture; the release
+// ends it.
 
 #include <afxwin.h>
 
@@ -41,7 +42,7 @@ struct CGridCtrl::SDirection
     }
 };
 
-// ---- Press ---------------------------------------------------------------------------------------------------
+// ---- Press ------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
 {
@@ -180,7 +181,7 @@ CCellID CGridCtrl::RaisedToBody(CCellID cell) const
     return CCellID(std::max(cell.row, m_rows.Fixed()), std::max(cell.col, m_cols.Fixed()));
 }
 
-// ---- Sizing --------------------------------------------------------------------------------------------------
+// ---- Sizing -----------------------------------------------------------------------------------------------
 
 // The early returns leave the mode as it is and the cursor free; the release puts that right.
 void CGridCtrl::BeginSizing(EDirection direction, CPoint point)
@@ -207,14 +208,16 @@ void CGridCtrl::BeginSizing(EDirection direction, CPoint point)
     if (bBefore && (way.item != nLast || !bLastNearlyClosed))
     {
         --way.item;
-        if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, way.columns ? m_clickDownCell.col : 0, &start))
+        if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, way.columns ? m_clickDownCell.col : 0,
+                           &start))
             return;
     }
     ClipCursorForSizing(direction, start);
     m_ptLastMouse = point;
 }
 
-/// Steps back to where the item at the divider, or with `bBefore` the one before it, shows. False past the first.
+/// Steps back to where the item at the divider, or with `bBefore` the one before it, shows. False past the
+/// first.
 bool CGridCtrl::PassHiddenItems(const SDirection& way, bool bBefore)
 {
     const int nBack = bBefore ? 1 : 0;
@@ -285,7 +288,7 @@ bool CGridCtrl::EndSizing(EDirection direction, CPoint point)
     return true;
 }
 
-// ---- Move ----------------------------------------------------------------------------------------------------
+// ---- Move -------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnMouseMove(UINT /*nFlags*/, CPoint point)
 {
@@ -347,7 +350,7 @@ bool CGridCtrl::DragSelection(const CCellID& cell)
     return true;
 }
 
-// ---- Release -------------------------------------------------------------------------------------------------
+// ---- Release ----------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
 {
@@ -399,7 +402,7 @@ void CGridCtrl::StopAutoScroll()
     m_nTimerId = 0;
 }
 
-// ---- Double click --------------------------------------------------------------------------------------------
+// ---- Double click -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
@@ -427,8 +430,9 @@ void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
         CWnd::OnLButtonDblClk(nFlags, point);
 }
 
-/// Sizes the column or row at a divider to its contents. For both, the place is that of the cell in row 0: that is
-/// right for columns, and makes a row's divider mean the row under the pointer in all but the top few pixels.
+/// Sizes the column or row at a divider to its contents. For both, the place is that of the cell in row 0:
+/// that is right for columns, and makes a row's divider mean the row under the pointer in all but the top few
+/// pixels.
 bool CGridCtrl::FitAtDivider(EDirection direction, CCellID cell, CPoint point)
 {
     CPoint start;
@@ -463,7 +467,7 @@ void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
         SendMessageToParent(cell.row, cell.col, NM_DBLCLK);
 }
 
-// ---- Right button --------------------------------------------------------------------------------------------
+// ---- Right button -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnRButtonDown(UINT nFlags, CPoint point)
 {
@@ -497,10 +501,10 @@ void CGridCtrl::OnRButtonUp(UINT nFlags, CPoint point)
         SendMessageToParent(cell.row, cell.col, NM_RCLICK); // the real cell, fixed or not
 }
 
-// ---- Drag beyond the edge ------------------------------------------------------------------------------------
+// ---- Drag beyond the edge ---------------------------------------------------------------------------------
 
-// The grid sends itself arrow keys, which move the focus and scroll, and selects up to the edge. The mode is not
-// looked at: the timer lives during a gesture only.
+// The grid sends itself arrow keys, which move the focus and scroll, and selects up to the edge. The mode is
+// not looked at: the timer lives during a gesture only.
 void CGridCtrl::OnTimer(UINT_PTR nIDEvent)
 {
     CPoint point;
@@ -541,7 +545,7 @@ void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
         StopAutoScroll();
 }
 
-// ---- Cursor --------------------------------------------------------------------------------------------------
+// ---- Cursor -----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {

@@ -1,5 +1,5 @@
-// Scroll bars, scroll messages, the wheel, and scrolling to a cell. Nothing is moved on the screen: the scrolling part
-// is repainted.
+// Scroll bars, scroll messages, the wheel, and scrolling to a cell. Nothing is moved on the screen: the
+// scrolling part is repainted.
 
 #include <afxwin.h>
 
@@ -20,7 +20,7 @@ UINT ScrollMessage(int nBar)
 }
 } // namespace
 
-// ---- The bars ------------------------------------------------------------------------------------------------
+// ---- The bars ---------------------------------------------------------------------------------------------
 
 int CGridCtrl::GetScrollPos32(int nBar, BOOL bGetTrackPos)
 {
@@ -56,7 +56,8 @@ void CGridCtrl::EnableScrollBars(int nBar, BOOL bEnable)
     }
 }
 
-// The vertical bar is decided first; the horizontal one takes height away and may make it necessary after all.
+// The vertical bar is decided first; the horizontal one takes height away and may make it necessary after
+// all.
 void CGridCtrl::ResetScrollBars()
 {
     m_topLeftCell.row = -1;
@@ -106,7 +107,8 @@ void CGridCtrl::SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask)
     info.cbSize = sizeof info;
     if (GetScrollInfo(nBar, &info, SIF_PAGE | SIF_RANGE) && info.nMin == 0 && info.nMax == nMax &&
         info.nPage == nNewPage)
-        return; // setting it again would repaint the bar, which is most of what a change of a row's height costs
+        return; // setting it again would repaint the bar, which is most of what a change of a row's height
+                // costs
     info = {};
     info.cbSize = sizeof info;
     info.fMask = nMask;
@@ -115,7 +117,7 @@ void CGridCtrl::SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask)
     SetScrollInfo(nBar, &info, TRUE);
 }
 
-// ---- Messages ------------------------------------------------------------------------------------------------
+// ---- Messages ---------------------------------------------------------------------------------------------
 
 // The guard is one for all grids of the thread: changing the bars changes the size again.
 void CGridCtrl::OnSize(UINT nType, int cx, int cy)
@@ -258,7 +260,7 @@ bool CGridCtrl::SendScroll(int nBar, UINT nSBCode)
     return life.WindowLives();
 }
 
-// ---- Scrolling to a cell -------------------------------------------------------------------------------------
+// ---- Scrolling to a cell ----------------------------------------------------------------------------------
 
 void CGridCtrl::EnsureVisible(CCellID& cell)
 {
@@ -302,7 +304,8 @@ bool CGridCtrl::ScrollCellEndIntoView(int nRow, int nCol)
     CRect rect;
     if (!GetCellRect(nRow, nCol, &rect))
         return true;
-    // Sideways only the bar's end and the headers stop it: the rectangle may stand still for a step and go on.
+    // Sideways only the bar's end and the headers stop it: the rectangle may stand still for a step and go
+    // on.
     while (rect.right > GetClientSize().cx && rect.left > GetFixedColumnWidth())
     {
         const int nPos = GetScrollPos32(SB_HORZ);

@@ -10,9 +10,10 @@
 #include <algorithm>
 #include <optional>
 
-// ---- The selection's books -----------------------------------------------------------------------------------
+// ---- The selection's books --------------------------------------------------------------------------------
 
-// With selection off a cell counts as not selected: its bit then comes and goes, and its entry comes and stays.
+// With selection off a cell counts as not selected: its bit then comes and goes, and its entry comes and
+// stays.
 bool CGridCtrl::IsRecordedSelected(int nRow, int nCol) const
 {
     if (!m_bEnableSelection)
@@ -58,7 +59,7 @@ CCellRange CGridCtrl::GetSelectedCellRange()
     return range;
 }
 
-// ---- Focus ---------------------------------------------------------------------------------------------------
+// ---- Focus ------------------------------------------------------------------------------------------------
 
 CCellID CGridCtrl::SetFocusCell(int nRow, int nCol)
 {
@@ -106,7 +107,7 @@ void CGridCtrl::RedrawHeadersOf(const CCellID& cell, bool bRow, bool bCol)
         RedrawCell(cell.row, nCol);
 }
 
-// ---- Ranges --------------------------------------------------------------------------------------------------
+// ---- Ranges -----------------------------------------------------------------------------------------------
 
 /// One pass of SetSelectedRange: what shows, and how a change is brought to the screen.
 struct CGridCtrl::SSelectPass
@@ -135,7 +136,8 @@ void CGridCtrl::SetSelectedRange(int nMinRow, int nMinCol, int nMaxRow, int nMax
     }
 
     // A negative bound stays: it means that nothing is to be selected.
-    const auto raised = [](int nItem, const CGridAxis& axis) { return nItem >= 0 ? std::max(nItem, axis.Fixed()) : nItem; };
+    const auto raised = [](int nItem, const CGridAxis& axis)
+    { return nItem >= 0 ? std::max(nItem, axis.Fixed()) : nItem; };
     const CCellRange range(raised(nMinRow, m_rows), raised(nMinCol, m_cols), raised(nMaxRow, m_rows),
                            raised(nMaxCol, m_cols));
     const bool bAllBounds = range.minRow >= 0 && range.minCol >= 0 && range.maxRow >= 0 && range.maxCol >= 0;
@@ -216,7 +218,8 @@ void CGridCtrl::ResetSelectedRange()
 void CGridCtrl::SelectAllCells()
 {
     if (m_bEnableSelection)
-        SetSelectedRange(m_rows.Fixed(), m_cols.Fixed(), GetRowCount() - 1, GetColumnCount() - 1, FALSE, TRUE);
+        SetSelectedRange(m_rows.Fixed(), m_cols.Fixed(), GetRowCount() - 1, GetColumnCount() - 1, FALSE,
+                         TRUE);
 }
 
 void CGridCtrl::SelectColumns(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
@@ -233,8 +236,8 @@ void CGridCtrl::SelectRows(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
     if (!m_bEnableSelection || m_rows.IsFixed(cell.row) || !IsValid(cell))
         return;
     const int nFrom = GetSingleRowSelection() ? cell.row : m_selectionStart.row;
-    SetSelectedRange(std::min(nFrom, cell.row), m_cols.Fixed(), std::max(nFrom, cell.row), GetColumnCount() - 1,
-                     bForceRepaint, bSelectCells);
+    SetSelectedRange(std::min(nFrom, cell.row), m_cols.Fixed(), std::max(nFrom, cell.row),
+                     GetColumnCount() - 1, bForceRepaint, bSelectCells);
 }
 
 void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
@@ -242,8 +245,8 @@ void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
     if (!m_bEnableSelection || !IsBodyCell(cell))
         return;
     SetSelectedRange(std::min(m_selectionStart.row, cell.row), std::min(m_selectionStart.col, cell.col),
-                     std::max(m_selectionStart.row, cell.row), std::max(m_selectionStart.col, cell.col), bForceRepaint,
-                     bSelectCells);
+                     std::max(m_selectionStart.row, cell.row), std::max(m_selectionStart.col, cell.col),
+                     bForceRepaint, bSelectCells);
 }
 
 /// Selects up to a cell, in the way of the gesture that is going on.
@@ -270,7 +273,7 @@ void CGridCtrl::OnSelecting(const CCellID& cell)
     }
 }
 
-// ---- Clicks on headers, and the command ----------------------------------------------------------------------
+// ---- Clicks on headers, and the command -------------------------------------------------------------------
 
 void CGridCtrl::OnFixedRowClick(CCellID& cell)
 {
@@ -313,7 +316,7 @@ void CGridCtrl::OnUpdateEditSelectAll(CCmdUI* pCmdUI)
     pCmdUI->Enable(m_bEnableSelection);
 }
 
-// ---- Settings ------------------------------------------------------------------------------------------------
+// ---- Settings ---------------------------------------------------------------------------------------------
 
 // Dropped before, while entries can still be taken out, and after.
 void CGridCtrl::EnableSelection(BOOL bEnable)
@@ -332,7 +335,7 @@ void CGridCtrl::SetListMode(BOOL bEnableListMode)
     InvalidateGrid();
 }
 
-// ---- Walking by state ----------------------------------------------------------------------------------------
+// ---- Walking by state -------------------------------------------------------------------------------------
 
 namespace
 {
@@ -353,12 +356,14 @@ CCellID CGridCtrl::GetNextItem(CCellID& cell, int nFlags) const
 
     if ((nFlags & GVNI_AREA) == GVNI_AREA)
     {
-        // With all three flags the rows below are searched from their start, otherwise from the start column on.
+        // With all three flags the rows below are searched from their start, otherwise from the start column
+        // on.
         const bool bWholeRows = (nFlags & GVNI_ALL) == GVNI_ALL;
         const int nStartRow = cell.row < 1 ? m_rows.Fixed() : cell.row;
         const int nStartCol = cell.col + 1 < 1 ? m_cols.Fixed() : cell.col + 1;
         for (int nRow = nStartRow; nRow < GetRowCount(); ++nRow)
-            for (int nCol = bWholeRows && nRow > nStartRow ? m_cols.Fixed() : nStartCol; nCol < GetColumnCount(); ++nCol)
+            for (int nCol = bWholeRows && nRow > nStartRow ? m_cols.Fixed() : nStartCol;
+                 nCol < GetColumnCount(); ++nCol)
                 if (matches(nRow, nCol))
                     return CCellID(nRow, nCol);
         return CCellID();

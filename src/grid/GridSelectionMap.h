@@ -1,9 +1,10 @@
 #pragma once
 // The cells of a grid that are selected, by address.
 //
-// The key of an entry holds the column in its high and the low half of the row in its low 16 bits, so rows 65536 apart
-// share an entry; the value keeps the true address. That is wanted: the selection of a row beyond 65535 is looked up
-// under the same key in every operation. Asking, adding and removing take constant time, whatever is selected.
+// The key of an entry holds the column in its high and the low half of the row in its low 16 bits, so rows
+// 65536 apart share an entry; the value keeps the true address. That is wanted: the selection of a row beyond
+// 65535 is looked up under the same key in every operation. Asking, adding and removing take constant time,
+// whatever is selected.
 
 #include "grid/GridTypes.h"
 

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-// ---- The sort column -----------------------------------------------------------------------------------------
+// ---- The sort column --------------------------------------------------------------------------------------
 
 void CGridCtrl::SetSortColumn(int nCol)
 {
@@ -28,7 +28,7 @@ void CGridCtrl::InvalidateHeader(int nCol)
     InvalidateCellRect(0, nCol);
 }
 
-// ---- Entry points --------------------------------------------------------------------------------------------
+// ---- Entry points -----------------------------------------------------------------------------------------
 
 void CGridCtrl::PrepareSort(int nCol, BOOL bAscending)
 {
@@ -58,13 +58,13 @@ BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, 
     return SortItems(pfnCompare, nCol, bAscending, data, m_rows.Fixed(), -1);
 }
 
-// ---- The sort ------------------------------------------------------------------------------------------------
+// ---- The sort ---------------------------------------------------------------------------------------------
 
-/// A quicksort around the cell in the middle. The parts that are still to be sorted wait on a list and not on the
-/// stack, so that no order of the rows can exhaust it; they come up in the order of the recursion.
+/// A quicksort around the cell in the middle. The parts that are still to be sorted wait on a list and not on
+/// the stack, so that no order of the rows can exhaust it; they come up in the order of the recursion.
 ///
-/// Rows move by their pointers; their cells are told the new places at the end. A comparison that adds or removes
-/// rows or columns ends the sort.
+/// Rows move by their pointers; their cells are told the new places at the end. A comparison that adds or
+/// removes rows or columns ends the sort.
 class CGridCtrl::CRowSorter
 {
 public:
@@ -174,7 +174,8 @@ private:
     int m_nLastMoved = -1;
 };
 
-BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data, int low, int high)
+BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data, int low,
+                          int high)
 {
     if (nCol >= GetColumnCount())
         return FALSE;
@@ -194,7 +195,7 @@ void CGridCtrl::SwapRows(int nRow, int nOther)
     m_rows.Swap(nRow, nOther);
 }
 
-// ---- Comparisons ---------------------------------------------------------------------------------------------
+// ---- Comparisons ------------------------------------------------------------------------------------------
 
 int CGridCtrl::pfnCellTextCompare(LPARAM lParam1, LPARAM lParam2, LPARAM /*lParamSort*/)
 {

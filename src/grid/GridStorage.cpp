@@ -13,7 +13,8 @@
 namespace
 {
 /// Runs work that may run out of memory, and reports an exception of the framework. False if there was one.
-template <class Work> bool Guarded(Work work)
+template <class Work>
+bool Guarded(Work work)
 {
     try
     {
@@ -31,7 +32,8 @@ template <class Work> bool Guarded(Work work)
 /// Deletes a row that did not make it into the grid, with the cells made for it so far.
 struct CRowDeleter
 {
-    template <class Row> void operator()(Row* pRow) const
+    template <class Row>
+    void operator()(Row* pRow) const
     {
         for (INT_PTR nCol = 0; nCol < pRow->GetSize(); ++nCol)
             delete pRow->GetAt(nCol);
@@ -40,7 +42,7 @@ struct CRowDeleter
 };
 } // namespace
 
-// ---- Counts --------------------------------------------------------------------------------------------------
+// ---- Counts -----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::SetRowCount(int nRows)
 {
@@ -64,8 +66,8 @@ BOOL CGridCtrl::SetRowCount(int nRows)
     return bDone;
 }
 
-// Differs from SetRowCount in the size of what is new, which is that of the fixed columns' default cell, and in that
-// the count changes only when all cells have been made.
+// Differs from SetRowCount in the size of what is new, which is that of the fixed columns' default cell, and
+// in that the count changes only when all cells have been made.
 BOOL CGridCtrl::SetColumnCount(int nCols)
 {
     if (nCols == GetColumnCount())
@@ -130,24 +132,28 @@ void CGridCtrl::DropColumns(int nCols)
     m_cols.SetCount(nCols, 0);
 }
 
-/// A cell that could not be made leaves its place empty; rows that could not all be made longer go back to the old
-/// count.
+/// A cell that could not be made leaves its place empty; rows that could not all be made longer go back to
+/// the old count.
 bool CGridCtrl::AppendColumns(int nCols)
 {
-    const bool bSized = Guarded([&] {
-        m_cols.Reserve(nCols);
-        SizeRows(nCols);
-    });
+    const bool bSized = Guarded(
+        [&]
+        {
+            m_cols.Reserve(nCols);
+            SizeRows(nCols);
+        });
     if (!bSized)
     {
         SizeRows(GetColumnCount());
         return false;
     }
-    const bool bFilled = Guarded([&] {
-        for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-            for (int nCol = GetColumnCount(); nCol < nCols; ++nCol)
-                m_rowData[nRow]->SetAt(nCol, CreateCell(nRow, nCol));
-    });
+    const bool bFilled = Guarded(
+        [&]
+        {
+            for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
+                for (int nCol = GetColumnCount(); nCol < nCols; ++nCol)
+                    m_rowData[nRow]->SetAt(nCol, CreateCell(nRow, nCol));
+        });
     m_cols.SetCount(nCols, m_cellFixedCol.GetWidth());
     return bFilled;
 }
@@ -248,7 +254,7 @@ void CGridCtrl::MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed)
     SetItemFgColour(nRow, nCol, CLR_INHERIT);
 }
 
-// ---- Insert and delete ---------------------------------------------------------------------------------------
+// ---- Insert and delete ------------------------------------------------------------------------------------
 
 int CGridCtrl::InsertColumn(LPCWSTR strHeading, UINT nFormat, int nColumn)
 {
@@ -298,8 +304,8 @@ void CGridCtrl::PlaceNewColumn(int nIndex)
     }
 }
 
-// Differs from InsertColumn in that the count itself is refused as an index, and in the size: a heading decides it,
-// and without one the fixed rows' default cell.
+// Differs from InsertColumn in that the count itself is refused as an index, and in the size: a heading
+// decides it, and without one the fixed rows' default cell.
 int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
 {
     if (nRow >= 0 && (nRow < m_rows.Fixed() || nRow >= GetRowCount()))
@@ -377,7 +383,8 @@ BOOL CGridCtrl::DeleteColumn(int nColumn)
     return TRUE;
 }
 
-// From the end, so that the indices ahead stay right. The first call is for the row past the end and does nothing.
+// From the end, so that the indices ahead stay right. The first call is for the row past the end and does
+// nothing.
 BOOL CGridCtrl::DeleteNonFixedRows()
 {
     ResetSelectedRange();
@@ -431,7 +438,7 @@ void CGridCtrl::AutoFill()
     Invalidate();
 }
 
-// ---- Cells ---------------------------------------------------------------------------------------------------
+// ---- Cells ------------------------------------------------------------------------------------------------
 
 CGridCellBase* CGridCtrl::CreateCell(int nRow, int nCol)
 {
@@ -542,7 +549,7 @@ BOOL CGridCtrl::IsItemEditing(int nRow, int nCol)
     return pCell ? pCell->IsEditing() : FALSE;
 }
 
-// ---- Virtual mode --------------------------------------------------------------------------------------------
+// ---- Virtual mode -----------------------------------------------------------------------------------------
 
 void CGridCtrl::SetVirtualMode(BOOL bVirtual)
 {
@@ -563,7 +570,8 @@ void CGridCtrl::SetCallbackFunc(GRIDCALLBACK pCallback, LPARAM lParam)
     m_lCallbackParam = lParam;
 }
 
-// One request and one cell for the process: the next call overwrites both, and nothing is allocated after the first.
+// One request and one cell for the process: the next call overwrites both, and nothing is allocated after the
+// first.
 CGridCellBase* CGridCtrl::MakeVirtualCell(int nRow, int nCol) const
 {
     static GV_DISPINFO gvdi;

@@ -1,6 +1,6 @@
 #pragma once
-// The values that a grid, its cells and its parent exchange: addresses, ranges, item descriptions and the records
-// of its notifications.
+// The values that a grid, its cells and its parent exchange: addresses, ranges, item descriptions and the
+// records of its notifications.
 
 #include <afxwin.h>
 
@@ -43,13 +43,13 @@ public:
     friend bool operator==(const CCellRange&, const CCellRange&) = default;
 };
 
-// ---- State of a cell: bits of GetItemState -------------------------------------------------------------------
+// ---- State of a cell: bits of GetItemState ----------------------------------------------------------------
 
 constexpr DWORD CELL_FOCUSED = 0x01;
 constexpr DWORD CELL_SELECTED = 0x02;
 constexpr DWORD CELL_DROPHILITED = 0x04;
 constexpr DWORD CELL_READONLY = 0x08;
-constexpr DWORD CELL_FIXED = 0x10;    ///< in a fixed row or a fixed column
+constexpr DWORD CELL_FIXED = 0x10; ///< in a fixed row or a fixed column
 constexpr DWORD CELL_FIXEDROW = 0x20;
 constexpr DWORD CELL_FIXEDCOL = 0x40;
 constexpr DWORD CELL_MODIFIED = 0x80;
@@ -60,7 +60,7 @@ constexpr COLORREF CLR_INHERIT = 0xFF000000;
 /// The format and the margin that stand for the default cell's.
 constexpr UINT GV_INHERIT = 0xFFFFFFFF;
 
-// ---- One cell, described -------------------------------------------------------------------------------------
+// ---- One cell, described ----------------------------------------------------------------------------------
 
 constexpr UINT GV_MASK_TEXT = 0x001;
 constexpr UINT GV_MASK_IMAGE = 0x002;
@@ -90,7 +90,7 @@ struct _GV_ITEM
 };
 using GV_ITEM = _GV_ITEM;
 
-// ---- Records of WM_NOTIFY ------------------------------------------------------------------------------------
+// ---- Records of WM_NOTIFY ---------------------------------------------------------------------------------
 
 /// LVN_GETDISPINFOW of a virtual grid, and LVN_ENDLABELEDITW from an in-place editor to its grid.
 struct tagGV_DISPINFO

@@ -21,7 +21,7 @@ public:
 private:
     CBitmap m_bitmap;
     CBitmap* m_pOldBitmap = nullptr;
-    CDC* m_pDC; ///< the target, not owned
-    CRect m_rect; ///< the target's clip box
+    CDC* m_pDC;    ///< the target, not owned
+    CRect m_rect;  ///< the target's clip box
     BOOL m_bMemDC; ///< buffered, because the target does not print
 };

@@ -33,7 +33,7 @@ class CPage;
 class CRect;
 struct epgFont;
 
-// ---- Pure interfaces of single controls ----------------------------------------------------------------------
+// ---- Pure interfaces of single controls -------------------------------------------------------------------
 
 /// Buttons and radio groups.
 class AButtonSTNotificationHandler
@@ -135,7 +135,7 @@ public:
     virtual int GetBodyColor() = 0;
 };
 
-// ---- Pure interfaces of groups -------------------------------------------------------------------------------
+// ---- Pure interfaces of groups ----------------------------------------------------------------------------
 
 /// Named configurations.
 class AConfigCtrlGroupNotificationHandler
@@ -168,7 +168,7 @@ public:
                                       int nSource) = 0;
 };
 
-// ---- Pages ---------------------------------------------------------------------------------------------------
+// ---- Pages ------------------------------------------------------------------------------------------------
 
 /// Told by the page selectors that the user selected a page. Either pointer may be null.
 class ASelectPageNotificationClient
@@ -211,7 +211,7 @@ public:
     virtual CRect GetPageFrame() = 0;
 };
 
-// ---- Interfaces with empty defaults --------------------------------------------------------------------------
+// ---- Interfaces with empty defaults -----------------------------------------------------------------------
 
 /// Text boxes.
 class CEditNNotificationHandler

@@ -52,8 +52,7 @@ void SendRelease()
 }
 } // namespace
 
-// ---- Clicks
-// --------------------------------------------------------------------------------------------------
+// ---- Clicks -----------------------------------------------------------------------------------------------
 
 TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
 {
@@ -135,8 +134,7 @@ TEST_F(ButtonInput, SpaceAndEnterClickAtOnce)
     EXPECT_EQ(calls.empty() ? "" : calls.back(), "dialog 1");
 }
 
-// ---- Default button
-// ------------------------------------------------------------------------------------------
+// ---- Default button ---------------------------------------------------------------------------------------
 
 TEST_F(ButtonInput, TheDefaultButtonMovesWithTheFocus)
 {
@@ -159,8 +157,7 @@ TEST_F(ButtonInput, TheDefaultButtonMovesWithTheFocus)
         EXPECT_EQ(pButton->GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
 }
 
-// ---- Hover
-// ---------------------------------------------------------------------------------------------------
+// ---- Hover ------------------------------------------------------------------------------------------------
 
 TEST_F(ButtonInput, AFlatButtonKnowsThatTheMouseIsOverIt)
 {
@@ -315,8 +312,7 @@ TEST_F(Repeating, EndsWhenTheWindowGoes)
     EXPECT_EQ(m_dialog.GetDlgItem(IDC_PUSH), nullptr);
 }
 
-// ---- Tooltip and cursor
-// --------------------------------------------------------------------------------------
+// ---- Tooltip and cursor -----------------------------------------------------------------------------------
 
 TEST_F(ButtonInput, TheTooltipShowsOnceItHasAText)
 {

@@ -85,8 +85,7 @@ protected:
 };
 } // namespace
 
-// ---- Face and border
-// -----------------------------------------------------------------------------------------
+// ---- Face and border --------------------------------------------------------------------------------------
 
 TEST_F(PaintedButton, RaisedHasAnEdgeOfFourLines)
 {
@@ -182,8 +181,7 @@ TEST_F(PaintedButton, FocusIsShownThreePixelsInside)
     EXPECT_GT(dots(3), 10);
 }
 
-// ---- Theme
-// ---------------------------------------------------------------------------------------------------
+// ---- Theme ------------------------------------------------------------------------------------------------
 
 TEST(ThemedButton, IsDrawnByTheThemeInTheStateThatComesFirst)
 {
@@ -219,8 +217,7 @@ TEST(ThemedButton, IsDrawnByTheThemeInTheStateThatComesFirst)
     EXPECT_TRUE(looks(0, L"TOOLBAR", TS_CHECKED));
 }
 
-// ---- Images
-// --------------------------------------------------------------------------------------------------
+// ---- Images -----------------------------------------------------------------------------------------------
 
 TEST_F(TitledButton, ImageAndTitleStandByTheAlignment)
 {
@@ -331,8 +328,7 @@ TEST_F(PaintedButton, ABitmapLetsTheFaceThroughWhereItIsTransparent)
     EXPECT_TRUE(ExtentOf(picture, kKey).IsRectEmpty());
 }
 
-// ---- Disabled
-// ------------------------------------------------------------------------------------------------
+// ---- Disabled ---------------------------------------------------------------------------------------------
 
 TEST_F(PaintedButton, ADisabledIconTurnsGreyWhereItStands)
 {
@@ -403,8 +399,7 @@ TEST_F(TitledButton, TheTitleFollowsTheStateAndBreaksIntoLines)
     EXPECT_NEAR(lines.CenterPoint().y, kSize.cy / 2, 3) << "both lines together are centred";
 }
 
-// ---- Size and transparency
-// -----------------------------------------------------------------------------------
+// ---- Size and transparency --------------------------------------------------------------------------------
 
 TEST_F(PaintedButton, SizesItselfToItsImage)
 {

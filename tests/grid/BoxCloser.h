@@ -6,7 +6,10 @@
 class BoxCloser
 {
 public:
-    BoxCloser() : m_hook(::SetWindowsHookEx(WH_CBT, Hook, nullptr, ::GetCurrentThreadId())) { s_seen = false; }
+    BoxCloser() : m_hook(::SetWindowsHookEx(WH_CBT, Hook, nullptr, ::GetCurrentThreadId()))
+    {
+        s_seen = false;
+    }
     ~BoxCloser() { ::UnhookWindowsHookEx(m_hook); }
     BoxCloser(const BoxCloser&) = delete;
     BoxCloser& operator=(const BoxCloser&) = delete;
@@ -18,7 +21,8 @@ private:
     {
         const auto window = reinterpret_cast<HWND>(wParam);
         wchar_t className[16] = {};
-        if (code == HCBT_ACTIVATE && ::GetClassName(window, className, 16) && wcscmp(className, L"#32770") == 0)
+        if (code == HCBT_ACTIVATE && ::GetClassName(window, className, 16) &&
+            wcscmp(className, L"#32770") == 0)
         {
             s_seen = true;
             ::PostMessage(window, WM_COMMAND, IDOK, 0);

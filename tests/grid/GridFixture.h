@@ -64,7 +64,8 @@ protected:
     }
     bool EditorOpens(int nRow, int nCol)
     {
-        return owtest::PumpUntil([&] { return grid.IsItemEditing(nRow, nCol) && ::GetFocus() != grid.m_hWnd; });
+        return owtest::PumpUntil([&]
+                                 { return grid.IsItemEditing(nRow, nCol) && ::GetFocus() != grid.m_hWnd; });
     }
     bool EditorCloses()
     {

@@ -103,8 +103,8 @@ public:
             if (m_problem.str().empty())
                 continue;
             std::ostringstream text;
-            text << "seed " << seed << (m_withInput ? " with input" : "") << ", step " << result.stepsDone << ": "
-                 << m_problem.str() << "\nsteps:\n"
+            text << "seed " << seed << (m_withInput ? " with input" : "") << ", step " << result.stepsDone
+                 << ": " << m_problem.str() << "\nsteps:\n"
                  << m_log.str();
             result.failure = text.str();
             break;
@@ -118,15 +118,21 @@ private:
     int Index(int count) { return Pick(12) == 0 ? Pick(count + 4) - 2 : Pick(count); }
     std::wstring Text()
     {
-        static constexpr const wchar_t* kTexts[] = {L"", L"a", L"b", L"IPE 200", L"12", L"7", L"Zeta", L"0,5 m"};
+        static constexpr const wchar_t* kTexts[] = {L"",   L"a", L"b",    L"IPE 200",
+                                                    L"12", L"7", L"Zeta", L"0,5 m"};
         return kTexts[Pick(std::size(kTexts))];
     }
-    template <class... Parts> void Say(const Parts&... parts)
+    template <class... Parts>
+    void Say(const Parts&... parts)
     {
         ((m_log << ' ' << parts), ...);
         m_log << '\n';
     }
-    template <class... Parts> void Problem(const Parts&... parts) { ((m_problem << parts), ...) << "; "; }
+    template <class... Parts>
+    void Problem(const Parts&... parts)
+    {
+        ((m_problem << parts), ...) << "; ";
+    }
     void Expect(bool condition, const char* what)
     {
         if (!condition)
@@ -206,7 +212,8 @@ private:
         const bool rows = Pick(2) != 0;
         int& fixed = rows ? m_model.fixedRows : m_model.fixedCols;
         Say(rows ? "SetFixedRowCount" : "SetFixedColumnCount", n);
-        Expect(rows ? m_grid.SetFixedRowCount(n) : m_grid.SetFixedColumnCount(n), "setting the fixed count answers 0");
+        Expect(rows ? m_grid.SetFixedRowCount(n) : m_grid.SetFixedColumnCount(n),
+               "setting the fixed count answers 0");
         if (n == fixed)
             return;
         if (rows && n > m_model.RowCount())
@@ -222,7 +229,7 @@ private:
         const int at = Pick(3) ? Index(m_model.RowCount()) : -1;
         const std::wstring heading = Text();
         Say("InsertRow", at);
-        const int expected = at < 0                                                       ? m_model.RowCount()
+        const int expected = at < 0                                               ? m_model.RowCount()
                              : at < m_model.fixedRows || at >= m_model.RowCount() ? -1
                                                                                   : at;
         Expect(m_grid.InsertRow(heading.c_str(), at) == expected, "InsertRow answers another index");
@@ -458,16 +465,22 @@ private:
         for (int c = 0; c < m_model.ColCount(); ++c)
         {
             CGridCellBase& cell = *m_grid.GetCell(r, c);
-            row.cells.push_back({cell.GetText(), cell.GetData(), cell.IsModified() != 0, cell.IsReadOnly() != 0,
-                                 cell.IsSelected() != 0});
+            row.cells.push_back({cell.GetText(), cell.GetData(), cell.IsModified() != 0,
+                                 cell.IsReadOnly() != 0, cell.IsSelected() != 0});
         }
         return row;
     }
 
     // ---- Input
 
-    bool RowShows(int r) const { return r >= m_model.fixedRows && r < m_model.RowCount() && m_model.rows[r].height > 0; }
-    bool ColShows(int c) const { return c >= m_model.fixedCols && c < m_model.ColCount() && m_model.widths[c] > 0; }
+    bool RowShows(int r) const
+    {
+        return r >= m_model.fixedRows && r < m_model.RowCount() && m_model.rows[r].height > 0;
+    }
+    bool ColShows(int c) const
+    {
+        return c >= m_model.fixedCols && c < m_model.ColCount() && m_model.widths[c] > 0;
+    }
 
     void Key()
     {
@@ -546,11 +559,12 @@ private:
     void Clicked(int r, int c)
     {
         if (!m_model.At(r, c).selected)
-            m_model.focus = m_model.HasBody() ? CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols))
-                                              : CCellID();
+            m_model.focus = m_model.HasBody()
+                                ? CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols))
+                                : CCellID();
         const bool row = r >= m_model.fixedRows, col = c >= m_model.fixedCols;
-        m_model.SelectOnly(row ? r : m_model.fixedRows, col ? c : m_model.fixedCols, row ? r : m_model.RowCount() - 1,
-                           col ? c : m_model.ColCount() - 1);
+        m_model.SelectOnly(row ? r : m_model.fixedRows, col ? c : m_model.fixedCols,
+                           row ? r : m_model.RowCount() - 1, col ? c : m_model.ColCount() - 1);
     }
 
     void EndEdit(int r, int c)
@@ -561,7 +575,8 @@ private:
         const std::wstring text = Text();
         const int way = Pick(4);
         Say("edit ends by way", way);
-        m_parent.answer = [&](NMHDR& header) { return header.code == LVN_ENDLABELEDITW && way == 1 ? -1 : 0; };
+        m_parent.answer = [&](NMHDR& header)
+        { return header.code == LVN_ENDLABELEDITW && way == 1 ? -1 : 0; };
         editor->SetWindowText(text.c_str());
         if (way == 0)
             editor->SendMessage(WM_CHAR, VK_ESCAPE);
@@ -649,8 +664,10 @@ private:
             width += m_model.widths[c];
             fixedWidth += c < m_model.fixedCols ? m_model.widths[c] : 0;
         }
-        Expect(m_grid.GetVirtualHeight() == height && m_grid.GetFixedRowHeight() == fixedHeight, "sum of heights");
-        Expect(m_grid.GetVirtualWidth() == width && m_grid.GetFixedColumnWidth() == fixedWidth, "sum of widths");
+        Expect(m_grid.GetVirtualHeight() == height && m_grid.GetFixedRowHeight() == fixedHeight,
+               "sum of heights");
+        Expect(m_grid.GetVirtualWidth() == width && m_grid.GetFixedColumnWidth() == fixedWidth,
+               "sum of widths");
     }
 
     /// The top-left cell against a walk over the sizes, and one cell's origin against its neighbours' sizes.
@@ -668,7 +685,8 @@ private:
         CPoint origin;
         if (!m_model.Has(row, col) || !m_grid.GetCellOrigin(row, col, &origin))
             return;
-        Expect(origin == CPoint(m_grid.GetFixedColumnWidth(), m_grid.GetFixedRowHeight()), "origin of the body");
+        Expect(origin == CPoint(m_grid.GetFixedColumnWidth(), m_grid.GetFixedRowHeight()),
+               "origin of the body");
         if (m_model.rows[row].height > 0 && m_model.widths[col] > 0)
             Expect(m_grid.GetCellFromPt(origin, FALSE) == CCellID(row, col), "cell at the body's origin");
     }

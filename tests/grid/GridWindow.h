@@ -53,15 +53,15 @@ class GridParent : public CWnd
 public:
     using Calls = std::vector<std::string>;
     Calls calls;
-    int commands = 0;                                  ///< WM_COMMAND of the grid
-    std::function<LRESULT(NMHDR&)> answer;             ///< what to answer; without one 0
-    std::vector<CCellRange> hints;                     ///< ranges of the cache hints
+    int commands = 0;                      ///< WM_COMMAND of the grid
+    std::function<LRESULT(NMHDR&)> answer; ///< what to answer; without one 0
+    std::vector<CCellRange> hints;         ///< ranges of the cache hints
 
     bool Open(int nWidth = 420, int nHeight = 300, bool bVisible = true)
     {
         const DWORD dwStyle = WS_POPUP | WS_BORDER | WS_CLIPCHILDREN | (bVisible ? WS_VISIBLE : 0);
-        return CreateEx(0, AfxRegisterWndClass(0), L"grid", dwStyle, CRect(CPoint(200, 150), CSize(nWidth, nHeight)),
-                        nullptr, 0) != FALSE;
+        return CreateEx(0, AfxRegisterWndClass(0), L"grid", dwStyle,
+                        CRect(CPoint(200, 150), CSize(nWidth, nHeight)), nullptr, 0) != FALSE;
     }
     Calls Take() { return std::exchange(calls, {}); }
 
@@ -74,7 +74,8 @@ protected:
         else if (const char* name = NameOf(header.code))
         {
             const auto& record = reinterpret_cast<GridNotify&>(header);
-            calls.push_back(std::string(name) + ' ' + std::to_string(record.iRow) + ',' + std::to_string(record.iColumn));
+            calls.push_back(std::string(name) + ' ' + std::to_string(record.iRow) + ',' +
+                            std::to_string(record.iColumn));
         }
         *pResult = answer ? answer(header) : 0;
         return TRUE;
@@ -110,8 +111,8 @@ private:
     }
 };
 
-/// What tests of a plain grid start from: 21 rows of 20 pixels, 7 columns of 60, the first of each fixed, each cell with
-/// its place as text, in a client area of 300 by 200 pixels.
+/// What tests of a plain grid start from: 21 rows of 20 pixels, 7 columns of 60, the first of each fixed,
+/// each cell with its place as text, in a client area of 300 by 200 pixels.
 constexpr int kRows = 21, kCols = 7, kRowHeight = 20, kColWidth = 60;
 
 inline void FillWithPlaces(CGridCtrl& grid)
@@ -145,7 +146,8 @@ inline CPoint MiddleOf(CGridCtrl& grid, int nRow, int nCol)
     return grid.GetCellRect(nRow, nCol, &rect) ? rect.CenterPoint() : CPoint(-1, -1);
 }
 
-/// One window for all tests of the program, with nothing in it: a new one for each would take seconds to go again.
+/// One window for all tests of the program, with nothing in it: a new one for each would take seconds to go
+/// again.
 inline GridParent& SharedParent()
 {
     static GridParent* const pParent = new GridParent; // closed with the program

@@ -8,7 +8,8 @@ class GridDrawing : public GridTest
 {
 protected:
     static constexpr COLORREF kBack = RGB(250, 251, 252), kBehind = RGB(10, 90, 10), kLine = RGB(200, 30, 30);
-    static constexpr COLORREF kRowHead = RGB(30, 60, 220), kColHead = RGB(60, 160, 220), kCorner = RGB(220, 60, 160);
+    static constexpr COLORREF kRowHead = RGB(30, 60, 220), kColHead = RGB(60, 160, 220),
+                              kCorner = RGB(220, 60, 160);
 
     void SetUp() override
     {
@@ -33,7 +34,8 @@ TEST_F(GridDrawing, RegionsHaveTheirColours)
 {
     owtest::Surface surface(300, 200);
     Draw(surface);
-    EXPECT_EQ(surface.at(30, 10), kColHead) << "the fixed columns are painted over the corner, as its cells are empty";
+    EXPECT_EQ(surface.at(30, 10), kColHead)
+        << "the fixed columns are painted over the corner, as its cells are empty";
     EXPECT_EQ(surface.at(90, 10), kRowHead);
     EXPECT_EQ(surface.at(30, 50), kColHead);
     EXPECT_EQ(surface.at(90, 50), kBack);
@@ -110,7 +112,8 @@ TEST_F(GridDrawing, SelectedCellsHaveTheSystemsColours)
     EXPECT_EQ(surface.at(90, 90), kBack);
     grid.SetFocusCell(2, 1);
     Draw(surface);
-    EXPECT_EQ(surface.at(60, 45), ::GetSysColor(COLOR_HIGHLIGHTTEXT)) << "the frame follows the text's colour";
+    EXPECT_EQ(surface.at(60, 45), ::GetSysColor(COLOR_HIGHLIGHTTEXT))
+        << "the frame follows the text's colour";
 }
 
 TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
@@ -175,7 +178,8 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
     CGridCellBase& cell = *grid.GetCell(3, 2);
     CFont& font = *cell.GetFontObject();
     const int margin = static_cast<int>(cell.GetMargin());
-    for (const wchar_t* text : {L"12", L"IPE 200", L"Wj", L"much too long for the width of its column", L"two\nlines"})
+    for (const wchar_t* text :
+         {L"12", L"IPE 200", L"Wj", L"much too long for the width of its column", L"two\nlines"})
         for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})
             for (const UINT vertical : {UINT(DT_TOP), UINT(DT_VCENTER), UINT(DT_BOTTOM)})
                 for (const int width : {59, 60, 75})
@@ -194,7 +198,8 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
                     for (int y = 0; y < 30; ++y)
                         for (int x = 0; x < 90; ++x)
                             ASSERT_EQ(drawn.at(x, y), expected.at(x, y))
-                                << CStringA(text).GetString() << " format " << format << " at " << x << ',' << y;
+                                << CStringA(text).GetString() << " format " << format << " at " << x << ','
+                                << y;
                 }
 }
 

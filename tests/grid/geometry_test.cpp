@@ -112,7 +112,8 @@ TEST_F(GridGeometry, ScrollMessagesMoveByLinesPagesAndEnds)
     CRect client;
     grid.GetClientRect(&client);
     Scroll(WM_HSCROLL, SB_PAGERIGHT);
-    EXPECT_EQ(grid.GetTopleftNonFixedCell().col, 1 + (std::min(client.Width() - 60, grid.GetScrollPos32(SB_HORZ)) + 59) / 60);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell().col,
+              1 + (std::min(client.Width() - 60, grid.GetScrollPos32(SB_HORZ)) + 59) / 60);
     Scroll(WM_HSCROLL, SB_PAGELEFT);
     EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 0);
 }
@@ -199,7 +200,8 @@ TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
     EXPECT_EQ(grid.GetVirtualWidth(), 300);
     EXPECT_EQ(grid.GetColumnWidth(0), 75);
     grid.SetColumnWidth(1, 0, TRUE);
-    grid.ExpandColumnsToFit(FALSE); // 75 missing for two columns: 37 each, and one over, which the hidden one takes
+    grid.ExpandColumnsToFit(
+        FALSE); // 75 missing for two columns: 37 each, and one over, which the hidden one takes
     EXPECT_EQ(grid.GetColumnWidth(0), 75);
     EXPECT_EQ(grid.GetColumnWidth(2), 112);
     EXPECT_EQ(grid.GetVirtualWidth(), 299);

@@ -180,7 +180,8 @@ TEST_F(GridKeyboard, TheParentMayForbidAnEditAndRefuseItsText)
     EXPECT_FALSE(grid.IsItemEditing(2, 2));
 
     std::wstring seen;
-    parent.answer = [&](NMHDR& header) -> LRESULT {
+    parent.answer = [&](NMHDR& header) -> LRESULT
+    {
         if (header.code != LVN_ENDLABELEDITW)
             return 0;
         seen = Text(2, 2);
@@ -200,9 +201,8 @@ TEST_F(GridKeyboard, ClearCellsAsksForEachCellThatShows)
 {
     grid.SetRowHeight(3, 0);
     grid.SetItemState(2, 1, grid.GetItemState(2, 1) | CELL_READONLY);
-    parent.answer = [](NMHDR& header) {
-        return header.code == LVN_ENDLABELEDITW && reinterpret_cast<GridNotify&>(header).iRow == 4 ? -1 : 0;
-    };
+    parent.answer = [](NMHDR& header)
+    { return header.code == LVN_ENDLABELEDITW && reinterpret_cast<GridNotify&>(header).iRow == 4 ? -1 : 0; };
     grid.ClearCells(CCellRange(2, 1, 4, 2));
     EXPECT_EQ(parent.Take(), (Calls{"begin 2,2", "end 2,2", "begin 4,1", "end 4,1", "begin 4,2", "end 4,2"}));
     EXPECT_EQ(Text(2, 2), L"");

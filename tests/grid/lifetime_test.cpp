@@ -27,13 +27,14 @@ protected:
     /// All that a user can do to a grid, once for each kind of notification, with the harm done in it.
     void Torment(const std::function<void()>& harm)
     {
-        for (const UINT code : {NM_CLICK, NM_DBLCLK, NM_RCLICK, LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_BEGINLABELEDITW,
-                                LVN_ENDLABELEDITW})
+        for (const UINT code : {NM_CLICK, NM_DBLCLK, NM_RCLICK, LVN_ITEMCHANGING, LVN_ITEMCHANGED,
+                                LVN_BEGINLABELEDITW, LVN_ENDLABELEDITW})
         {
             grid.reset();
             Make();
             bool done = false;
-            parent.answer = [&](NMHDR& header) -> LRESULT {
+            parent.answer = [&](NMHDR& header) -> LRESULT
+            {
                 if (header.code != code || done)
                     return 0;
                 done = true;
@@ -113,10 +114,12 @@ TEST_F(GridLife, AReceiverMayEndTheEditOrStartAnother)
 {
     Torment([&] { grid->EndEditing(); });
     grid.reset();
-    Torment([&] {
-        grid->SetFocusCell(5, 3);
-        grid->StartEditCell();
-    });
+    Torment(
+        [&]
+        {
+            grid->SetFocusCell(5, 3);
+            grid->StartEditCell();
+        });
     ::SetFocus(parent);
     owtest::Pump();
 }
@@ -144,7 +147,8 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
     grid->SetVirtualMode(TRUE);
     grid->SetColumnCount(4);
     grid->SetRowCount(50);
-    parent.answer = [&](NMHDR& header) -> LRESULT {
+    parent.answer = [&](NMHDR& header) -> LRESULT
+    {
         if (header.code == LVN_GETDISPINFOW && grid->GetRowCount() > 5)
             grid->SetRowCount(grid->GetRowCount() - 3);
         return 0;
@@ -158,7 +162,8 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
 TEST(GridLeaks, TwoHundredLivesEndWhereTheyBegan)
 {
     GridParent& parent = SharedParent();
-    const auto live = [&](int times) {
+    const auto live = [&](int times)
+    {
         for (int i = 0; i < times; ++i)
         {
             OpenGrid grid(20, 5, 1, 1);
@@ -184,7 +189,8 @@ TEST(GridLeaks, TwoHundredLivesEndWhereTheyBegan)
             parent.Take();
         }
     };
-    const auto heapBytes = [] {
+    const auto heapBytes = []
+    {
         for (LONG idle = 0; AfxGetApp()->OnIdle(idle); ++idle) // what MFC keeps until then
             ;
         return owtest::CountHeapBytes();

@@ -1,5 +1,5 @@
-// Random sequences against the model. The seeds are fixed, so that a run is the same every time; the soak program goes
-// on with others.
+// Random sequences against the model. The seeds are fixed, so that a run is the same every time; the soak
+// program goes on with others.
 
 #include "GridModel.h"
 

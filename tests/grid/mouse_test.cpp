@@ -49,7 +49,8 @@ TEST_F(GridMouse, ADragBeyondTheEdgeScrollsByTheTimer)
     owtest::ButtonDown(grid, MiddleOf(grid, 3, 1));
     EXPECT_NE(grid.m_nTimerId, 0u);
     owtest::MoveTo(grid, CPoint(90, 215));
-    EXPECT_TRUE(owtest::PumpUntil([&] { return grid.GetFocusCell().row == kRows - 1; })) << "goes on without a move";
+    EXPECT_TRUE(owtest::PumpUntil([&] { return grid.GetFocusCell().row == kRows - 1; }))
+        << "goes on without a move";
     EXPECT_EQ(Selected().minRow, 3);
     EXPECT_GE(Selected().maxRow, kRows - 2);
     owtest::MoveTo(grid, CPoint(90, -5));
@@ -276,12 +277,14 @@ TEST_F(GridMouse, OutsideTheTextOfTheFocusCellAPressSelects)
 
 TEST_F(GridMouse, TheRightButtonFocusesAndTellsUnlessItIsSwitchedOff)
 {
-    const auto rightClick = [&](CPoint point) {
+    const auto rightClick = [&](CPoint point)
+    {
         grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
         grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
     };
     rightClick(MiddleOf(grid, 0, 3));
-    EXPECT_EQ(parent.Take(), (Calls{"changed 1,3", "rclick 0,3"})) << "the real cell is told, the raised one focused";
+    EXPECT_EQ(parent.Take(), (Calls{"changed 1,3", "rclick 0,3"}))
+        << "the real cell is told, the raised one focused";
     EXPECT_EQ(grid.GetFocusCell(), CCellID(1, 3));
 
     grid.SetColumnCount(2);

@@ -66,7 +66,8 @@ TEST_F(GridSelection, ListModeSwitchesHeadersOff)
 
 TEST_F(GridSelection, WalksByState)
 {
-    const auto next = [&](int r, int c, int flags) {
+    const auto next = [&](int r, int c, int flags)
+    {
         CCellID cell(r, c);
         return grid.GetNextItem(cell, flags);
     };

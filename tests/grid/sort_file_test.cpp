@@ -101,10 +101,12 @@ TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
     Fill({L"10", L"9 mm", L"no digits", L"-3", L"100"});
     EXPECT_TRUE(grid.SortItems(CGridCtrl::pfnCellNumericCompare, 1, TRUE));
     EXPECT_EQ(Column(), L"-3 no digits 9 mm 10 100 ");
-    grid.SetCompareFunction([](LPARAM first, LPARAM second, LPARAM sign) {
-        return static_cast<int>(sign * (reinterpret_cast<CGridCellBase*>(first)->GetData() -
-                                        reinterpret_cast<CGridCellBase*>(second)->GetData()));
-    });
+    grid.SetCompareFunction(
+        [](LPARAM first, LPARAM second, LPARAM sign)
+        {
+            return static_cast<int>(sign * (reinterpret_cast<CGridCellBase*>(first)->GetData() -
+                                            reinterpret_cast<CGridCellBase*>(second)->GetData()));
+        });
     EXPECT_TRUE(grid.SortItems(1, TRUE, -1));
     EXPECT_EQ(Column(), L"100 -3 no digits 9 mm 10 ");
 }
@@ -125,7 +127,8 @@ TEST_F(GridOrder, AComparisonThatDeletesRowsEndsTheSort)
 {
     Fill({L"5", L"4", L"3", L"2", L"1"});
     grid.SortItems(
-        [](LPARAM, LPARAM, LPARAM data) {
+        [](LPARAM, LPARAM, LPARAM data)
+        {
             auto& sorted = *reinterpret_cast<OpenGrid*>(data);
             sorted.DeleteRow(sorted.GetRowCount() - 1);
             return 1;

@@ -124,7 +124,8 @@ TEST_F(GridStorage, DeletingShiftsWhatFollows)
 
 TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
 {
-    for (const CCellID cell : {CCellID(-1, 0), CCellID(0, -1), CCellID(4, 0), CCellID(0, 3), CCellID(INT_MAX, INT_MIN)})
+    for (const CCellID cell :
+         {CCellID(-1, 0), CCellID(0, -1), CCellID(4, 0), CCellID(0, 3), CCellID(INT_MAX, INT_MIN)})
     {
         const int r = cell.row, c = cell.col;
         EXPECT_EQ(grid.GetCell(r, c), nullptr);
@@ -274,7 +275,8 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
     grid.SetColumnCount(3);
     grid.SetRowCount(1000000);
     grid.SetFixedRowCount(1);
-    const auto fill = [](GV_DISPINFO* info, LPARAM param) {
+    const auto fill = [](GV_DISPINFO* info, LPARAM param)
+    {
         info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
         return 0;
     };
@@ -299,7 +301,8 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
 TEST(GridVirtual, WithoutACallbackTheParentIsAskedAndToldAhead)
 {
     GridParent& parent = SharedParent();
-    parent.answer = [](NMHDR& header) {
+    parent.answer = [](NMHDR& header)
+    {
         if (header.code == LVN_GETDISPINFOW)
         {
             GV_ITEM& item = reinterpret_cast<GV_DISPINFO&>(header).item;

@@ -111,7 +111,10 @@ protected:
         m_grid.SetEnterIsTab(IsDlgButtonChecked(IDC_GRID_ENTER));
         m_grid.SetGridLines(IsDlgButtonChecked(IDC_GRID_LINES) ? GVL_BOTH : GVL_NONE);
     }
-    afx_msg void OnFocusMoved(NMHDR* pHeader, LRESULT* pResult) { Tell(_T("LVN_ITEMCHANGED"), pHeader, pResult); }
+    afx_msg void OnFocusMoved(NMHDR* pHeader, LRESULT* pResult)
+    {
+        Tell(_T("LVN_ITEMCHANGED"), pHeader, pResult);
+    }
     afx_msg void OnDoubleClick(NMHDR* pHeader, LRESULT* pResult) { Tell(_T("NM_DBLCLK"), pHeader, pResult); }
     afx_msg void OnRightClick(NMHDR* pHeader, LRESULT* pResult) { Tell(_T("NM_RCLICK"), pHeader, pResult); }
     afx_msg void OnBeginEdit(NMHDR* pHeader, LRESULT* pResult)

@@ -15,7 +15,9 @@ constexpr int kColumns = 6;
 class CVirtualGridPage : public CGalleryPage
 {
 public:
-    explicit CVirtualGridPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_VIRTUAL_GRID, _T("Virtual grid"), log) {}
+    explicit CVirtualGridPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_VIRTUAL_GRID, _T("Virtual grid"), log)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -83,7 +85,7 @@ private:
     /// What the cell shows: headings, the node's number, its place and its load.
     static int FillCell(GV_DISPINFO* pInfo, LPARAM)
     {
-        static constexpr LPCTSTR kHeadings[kColumns] = {_T("Node"),  _T("x [m]"),   _T("y [m]"),
+        static constexpr LPCTSTR kHeadings[kColumns] = {_T("Node"),  _T("x [m]"),  _T("y [m]"),
                                                         _T("z [m]"), _T("F [kN]"), _T("Support")};
         GV_ITEM& item = pInfo->item;
         if (item.row == 0)

@@ -2,8 +2,8 @@
 //
 //     grid_soak MINUTES [SEED]
 //
-// Each sequence has a new seed, counted up from SEED or the present time. The first one that fails is printed with its
-// steps, and ends the program with 1. To run one again: grid_soak 0 SEED.
+// Each sequence has a new seed, counted up from SEED or the present time. The first one that fails is printed
+// with its steps, and ends the program with 1. To run one again: grid_soak 0 SEED.
 
 #include <afxwin.h>
 
