@@ -44,12 +44,10 @@
 //     m_btn.SetIcon(IDI_BEAM, CButtonST::copyDarker);
 //
 // Ownership of images.
-// - Icons: the button lets go of them with DeleteObject, which does nothing to an icon. So an icon that is
-// given to
-//   SetIcon stays the caller's, may show on any number of buttons, and outlives them all; this is what makes
-//   the shared icons below work. By the same rule the icons that the button makes or loads itself (the
-//   copies, and those given by resource id) are never released: set them once per button, not at each change
-//   of state.
+// - Icons: the button lets go of them with DeleteObject, which does nothing to an icon. So an icon that is given
+//   to SetIcon stays the caller's, may show on any number of buttons, and outlives them all; this is what makes
+//   the shared icons below work. By the same rule the icons that the button makes or loads itself (the copies,
+//   and those given by resource id) are never released: set them once per button, not at each change of state.
 // - Bitmaps: the button owns them from the call on, whatever the call answers, and deletes them with the next
 //   image setter and in its destructor. The pixels of the transparent colour are made black in the bitmap
 //   itself. A bitmap must not be given to two buttons.

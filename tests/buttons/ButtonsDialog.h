@@ -11,6 +11,19 @@
 #include <utility>
 #include <vector>
 
+/// Paints an owner-drawn button onto the surface as the system would ask for it, with ODS_ flags.
+inline void PaintButton(CButton& button, owtest::Surface& surface, UINT nItemState = 0)
+{
+    DRAWITEMSTRUCT item{};
+    item.CtlType = ODT_BUTTON;
+    item.CtlID = button.GetDlgCtrlID();
+    item.hwndItem = button.m_hWnd;
+    item.hDC = surface.dc().m_hDC;
+    item.itemState = nItemState;
+    button.GetClientRect(&item.rcItem);
+    button.DrawItem(&item);
+}
+
 /// A button whose inner state a test may look at and set.
 class OpenButton : public CButtonST
 {
@@ -35,18 +48,10 @@ public:
     /// The caption rectangle as the title received it at the last paint; empty if there was no title.
     CRect captionRect;
 
-    /// Paints onto the surface as the system would ask for it, with ODS_ flags.
     void PaintOn(owtest::Surface& surface, UINT nItemState = 0)
     {
         captionRect.SetRectEmpty();
-        DRAWITEMSTRUCT item{};
-        item.CtlType = ODT_BUTTON;
-        item.CtlID = GetDlgCtrlID();
-        item.hwndItem = m_hWnd;
-        item.hDC = surface.dc().m_hDC;
-        item.itemState = nItemState;
-        GetClientRect(&item.rcItem);
-        DrawItem(&item);
+        PaintButton(*this, surface, nItemState);
     }
 
 protected:
@@ -58,31 +63,26 @@ protected:
     }
 };
 
-/// A button by itself, on a parent that is not shown.
-class LoneButton
+/// A control by itself, on a parent that is not shown.
+template <class Button>
+class Lone
 {
 public:
-    explicit LoneButton(CSize size, LPCTSTR pszTitle = _T(""), DWORD dwType = BS_PUSHBUTTON)
+    explicit Lone(CSize size, LPCTSTR pszTitle = _T(""), DWORD dwType = BS_PUSHBUTTON)
     {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, CRect(0, 0, 300, 200), nullptr, 0);
+        m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, CRect(0, 0, 600, 200), nullptr, 0);
         HWND hButton = ::CreateWindow(_T("BUTTON"), pszTitle, WS_CHILD | WS_VISIBLE | dwType, 10, 10, size.cx,
                                       size.cy, m_parent, nullptr, nullptr, nullptr);
         button.SubclassWindow(hButton);
     }
-    ~LoneButton() { m_parent.DestroyWindow(); }
+    ~Lone() { m_parent.DestroyWindow(); }
 
-    /// Without a visual style; raised unless said otherwise.
-    void TakeThemeAway(bool bFlat = false)
-    {
-        button.SetThemeHelper(nullptr);
-        button.SetFlat(bFlat);
-    }
-
-    OpenButton button;
+    Button button;
 
 private:
     CWnd m_parent;
 };
+using LoneButton = Lone<OpenButton>;
 
 /// The dialog of the template, with everything that its buttons tell written down: "handler 1001", "dialog
 /// 1001".

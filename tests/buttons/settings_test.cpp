@@ -1,11 +1,8 @@
 // What a button can be told, and what it answers; none of it needs a window.
 
 #include "ButtonsDialog.h"
-#include "Images.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace
 {
@@ -22,19 +19,6 @@ public:
     }
 };
 
-/// Puts another helper in the place of the process's for a scope.
-class LocalThemeScope
-{
-public:
-    explicit LocalThemeScope(CThemeHelperST* pTheme) : m_pOld(std::exchange(CButtonST::pLocalTheme, pTheme))
-    {
-    }
-    ~LocalThemeScope() { CButtonST::pLocalTheme = m_pOld; }
-
-private:
-    CThemeHelperST* m_pOld;
-};
-
 COLORREF ColorOf(const CButtonST& button, BYTE nIndex)
 {
     COLORREF cr = CLR_INVALID;
@@ -49,26 +33,24 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
     OpenButton themed;
     EXPECT_EQ(themed.m_bIsFlat, 1);
     EXPECT_EQ(themed.m_bDrawBorder, 0);
+    for (CThemeHelperST* pTheme : {static_cast<CThemeHelperST*>(nullptr), CButtonST::pLocalTheme})
+    {
+        themed.SetThemeHelper(pTheme);
+        EXPECT_EQ(themed.m_bDrawBorder, 1) << "another helper brings the border and never takes it";
+        EXPECT_EQ(themed.m_bIsFlat, 1) << "flat stays flat";
+    }
 
     NoThemeHelper noTheme;
+    CThemeHelperST* const pProcessTheme = CButtonST::pLocalTheme;
     for (CThemeHelperST* pTheme :
          {static_cast<CThemeHelperST*>(nullptr), static_cast<CThemeHelperST*>(&noTheme)})
     {
-        const LocalThemeScope scope(pTheme);
+        CButtonST::pLocalTheme = pTheme;
         OpenButton plain;
         EXPECT_EQ(plain.m_bIsFlat, 0);
         EXPECT_EQ(plain.m_bDrawBorder, 1);
     }
-}
-
-TEST(ButtonSettings, AnotherThemeHelperBringsTheBorderAndNeverTakesIt)
-{
-    OpenButton button;
-    button.SetThemeHelper(nullptr);
-    EXPECT_EQ(button.m_bDrawBorder, 1);
-    EXPECT_EQ(button.GetFlat(), 1) << "flat stays flat";
-    button.SetThemeHelper(CButtonST::pLocalTheme);
-    EXPECT_EQ(button.m_bDrawBorder, 1);
+    CButtonST::pLocalTheme = pProcessTheme;
 }
 
 TEST(ButtonSettings, ThemeHelperWithoutTheLibraryDoesNothing)
@@ -82,32 +64,19 @@ TEST(ButtonSettings, ThemeHelperWithoutTheLibraryDoesNothing)
     helper.DrawThemeParentBackground(nullptr, nullptr, &rect);
 }
 
-TEST(ButtonSettings, AnswerWithTheirCodes)
+TEST(ButtonSettings, ABadValueIsAnsweredWithItsCodeAndChangesNothing)
 {
     CButtonST button;
-    EXPECT_EQ(button.SetFlat(FALSE), 0u);
-    EXPECT_EQ(button.GetFlat(), FALSE);
-    EXPECT_EQ(button.DrawBorder(TRUE), 0u);
-    EXPECT_EQ(button.DrawFlatFocus(TRUE), 0u);
-    EXPECT_EQ(button.DrawAsToolbar(TRUE), 0u);
-    EXPECT_EQ(button.SetAutoRepeat(TRUE, 50), 0u);
-    EXPECT_EQ(button.EnableBalloonTooltip(), 0u);
-    EXPECT_EQ(button.SetPressedStyle(CButtonST::pressedDown), 0u);
     EXPECT_EQ(button.SetPressedStyle(2), 6u);
-
-    EXPECT_EQ(button.SetAlign(CButtonST::alignNone), 0u);
+    button.SetAlign(CButtonST::alignNone);
     EXPECT_EQ(button.SetAlign(4), 4u);
-    EXPECT_EQ(button.GetAlign(), 3) << "a bad value changes nothing";
-
+    EXPECT_EQ(button.GetAlign(), CButtonST::alignNone);
+    COLORREF cr = kColor;
     EXPECT_EQ(button.SetColor(6, kColor), 3u);
     EXPECT_EQ(button.OffsetColor(6, 1), 3u);
-    COLORREF cr = kColor;
     EXPECT_EQ(button.GetColor(6, &cr), 3u);
     EXPECT_EQ(cr, kColor);
     EXPECT_EQ(button.GetColor(0, nullptr), 5u);
-
-    EXPECT_EQ(CButtonST::GetVersionI(), 12);
-    EXPECT_STRNE(CButtonST::GetVersionC(), L"");
 }
 
 // Before a window is there a setter must not repaint either: invalidating no window means all windows.
@@ -128,26 +97,6 @@ TEST(ButtonSettings, MayBeMadeWithoutAWindow)
     EXPECT_EQ(button.m_ptImageOrigin, CPoint(3, 3)) << "without a window nothing is sized";
 }
 
-TEST(ButtonSettings, ColorsStartAsTheSystemsAndGoBackToThem)
-{
-    CButtonST button;
-    const auto expectSystemColors = [&]
-    {
-        for (BYTE back : {0, 2, 4})
-            EXPECT_EQ(ColorOf(button, back), ::GetSysColor(COLOR_BTNFACE));
-        for (BYTE text : {1, 3, 5})
-            EXPECT_EQ(ColorOf(button, text), ::GetSysColor(COLOR_BTNTEXT));
-    };
-    expectSystemColors();
-    for (BYTE i = 0; i < CButtonST::colorCount; ++i)
-    {
-        EXPECT_EQ(button.SetColor(i, RGB(i, 2 * i, 3 * i)), 0u);
-        EXPECT_EQ(ColorOf(button, i), RGB(i, 2 * i, 3 * i));
-    }
-    EXPECT_EQ(button.SetDefaultColors(), 0u);
-    expectSystemColors();
-}
-
 TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
 {
     CButtonST button;
@@ -161,13 +110,9 @@ TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
     EXPECT_EQ(offset(kColor, 5), RGB(245, 15, 15));
     EXPECT_EQ(offset(kColor, -40), RGB(230, 0, 0));
     EXPECT_EQ(offset(kColor, -255), RGB(230, 0, 0));
-    EXPECT_EQ(offset(kColor, 0), kColor);
     EXPECT_EQ(offset(RGB(255, 0, 0), 255), RGB(255, 0, 0));
-
-    button.SetColor(CButtonST::colorBackOut, kColor);
     EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, 256), 5u);
     EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, -256), 5u);
-    EXPECT_EQ(ColorOf(button, CButtonST::colorBackOut), kColor);
 }
 
 TEST(ButtonSettings, TheAddressFieldKeepsWhatFitsAndNeedsNoTerminator)
@@ -217,12 +162,9 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     };
     EXPECT_TRUE(repaints([&] { button.SetFlat(TRUE, 2); }));
     EXPECT_FALSE(repaints([&] { button.SetFlat(TRUE, 0); }));
-    EXPECT_TRUE(repaints([&] { button.SetAlign(0, 2); }));
-    EXPECT_TRUE(repaints([&] { button.SetPressedStyle(0, 2); }));
-    EXPECT_TRUE(repaints([&] { button.OffsetColor(0, 0, 2); }));
     EXPECT_TRUE(repaints([&] { button.SetIcon(static_cast<HICON>(nullptr)); })) << "always";
 
-    // Kept: these five look for exactly 1.
+    // Kept: these look for exactly 1.
     for (const int repaint : {1, 2})
     {
         EXPECT_EQ(repaints([&] { button.SetFlatFocus(TRUE, repaint); }), repaint == 1);
@@ -234,8 +176,6 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
 
 TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSays)
 {
-    const auto become = [](DWORD dwType)
-    { return std::make_unique<LoneButton>(CSize(40, 20), _T(""), dwType); };
     struct Row
     {
         DWORD dwType;
@@ -243,18 +183,18 @@ TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSays)
         BOOL bDefault;
         UINT nTypeStyle;
     };
-    for (const Row& row :
-         {Row{BS_PUSHBUTTON, 0, 0, BS_PUSHBUTTON}, Row{BS_DEFPUSHBUTTON, 0, 1, BS_PUSHBUTTON},
-          Row{BS_CHECKBOX, 1, 0, BS_CHECKBOX}, Row{BS_AUTOCHECKBOX, 1, 0, BS_AUTOCHECKBOX},
-          Row{BS_RADIOBUTTON, 0, 0, BS_RADIOBUTTON}, Row{BS_OWNERDRAW, 1, 0, BS_OWNERDRAW}})
+    // clang-format off
+    for (const Row& row : {Row{BS_PUSHBUTTON, 0, 0, BS_PUSHBUTTON}, {BS_DEFPUSHBUTTON, 0, 1, BS_PUSHBUTTON},
+                           {BS_CHECKBOX, 1, 0, BS_CHECKBOX}, {BS_AUTOCHECKBOX, 1, 0, BS_AUTOCHECKBOX},
+                           {BS_RADIOBUTTON, 0, 0, BS_RADIOBUTTON}, {BS_OWNERDRAW, 1, 0, BS_OWNERDRAW}})
+    // clang-format on
     {
-        const auto lone = become(row.dwType);
-        EXPECT_EQ(lone->button.m_bIsCheckBox, row.bCheckBox) << row.dwType;
-        EXPECT_EQ(lone->button.GetDefault(), row.bDefault) << row.dwType;
-        EXPECT_EQ(lone->button.m_nTypeStyle, row.nTypeStyle) << row.dwType;
-        EXPECT_EQ(lone->button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << row.dwType;
+        LoneButton lone(CSize(40, 20), _T(""), row.dwType);
+        EXPECT_EQ(lone.button.m_bIsCheckBox, row.bCheckBox) << row.dwType;
+        EXPECT_EQ(lone.button.GetDefault(), row.bDefault) << row.dwType;
+        EXPECT_EQ(lone.button.m_nTypeStyle, row.nTypeStyle) << row.dwType;
+        EXPECT_EQ(lone.button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << row.dwType;
     }
-    EXPECT_EQ(OpenButton().m_nTypeStyle, 31u) << "before there is a window";
 }
 
 TEST(ButtonSettings, WhateverStyleIsSentTheButtonStaysOwnerDrawn)

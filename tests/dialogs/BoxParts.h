@@ -9,12 +9,7 @@
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
 
-inline std::wstring TextOf(const CWnd& window)
-{
-    CString text;
-    window.GetWindowText(text);
-    return text.GetString();
-}
+using owtest::TextOf;
 
 /// Where a control stands in its dialog's client area.
 inline CRect PlaceOf(const CWnd& dialog, int id)

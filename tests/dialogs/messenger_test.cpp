@@ -114,24 +114,24 @@ TEST_F(Messenger, DropsWhatComesWhileACodeWaitsOrItsBoxIsOpen)
 
 TEST_F(Messenger, TakesCodesAgainAfterATickWhileTheBoxIsStillOpen)
 {
+    const auto secondBox = []
+    {
+        Tick();
+        Post(2);
+        EXPECT_EQ(ShownByTick(), Text(2)) << "over the first box";
+    };
     Post(1);
-    EXPECT_EQ(ShownByTick(
-                  []
-                  {
-                      Tick();
-                      Post(2);
-                      EXPECT_EQ(ShownByTick(), Text(2)) << "over the first box";
-                  }),
-              Text(1));
+    EXPECT_EQ(ShownByTick(secondBox), Text(1));
     EXPECT_EQ(ShownByTick(), L"");
 }
 
 TEST_F(Messenger, NeverShowsTheTwoCodesThatMeanNothing)
 {
-    Post(0);
-    EXPECT_EQ(ShownByTick(), L"");
-    Post(-1);
-    EXPECT_EQ(ShownByTick(), L"");
+    for (int code : {0, -1})
+    {
+        Post(code);
+        EXPECT_EQ(ShownByTick(), L"");
+    }
     Post(3);
     EXPECT_EQ(ShownByTick(), Text(3)) << "and neither blocks it";
 }

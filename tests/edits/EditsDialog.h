@@ -3,26 +3,33 @@
 
 #include <DialogControlsOW.h>
 
+#include "Input.h"
 #include "resource.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-/// Writes down each call as "change 1001", with what it finds in the box if a box is given.
+using Calls = std::vector<std::string>;
+
+/// Writes down each call as "change 1001", followed by what the test wants to know at that moment.
 class RecordingHandler : public CEditNNotificationHandler
 {
 public:
-    std::vector<std::string> calls;
-    std::vector<std::string> Take() { return std::exchange(calls, {}); }
+    Calls calls;
+    std::function<std::string()> look = [] { return std::string(); };
+    Calls Take() { return std::exchange(calls, {}); }
 
-    void OnEditNChange(int nId) override { Record("change", nId); }
-    void OnEditNSetFocus(int nId) override { Record("enter", nId); }
-    void OnEditNKillFocus(int nId) override { Record("leave", nId); }
+    void OnEditNChange(int nId) override { Record("change ", nId); }
+    void OnEditNSetFocus(int nId) override { Record("enter ", nId); }
+    void OnEditNKillFocus(int nId) override { Record("leave ", nId); }
 
 private:
-    void Record(const char* what, int nId) { calls.push_back(std::string(what) + ' ' + std::to_string(nId)); }
+    void Record(const char* what, int nId) { calls.push_back(what + std::to_string(nId) + look()); }
 };
 
 /// A typed box for tests: holds a whole number, shows it with a mark behind it, limits it to 0 to 99.
@@ -85,12 +92,7 @@ public:
     int oks = 0;
     int cancels = 0;
 
-    std::wstring Text(int nId) const
-    {
-        CString text;
-        GetDlgItemText(nId, text);
-        return text.GetString();
-    }
+    std::wstring Text(int nId) const { return owtest::TextOf(*GetDlgItem(nId)); }
     bool HasFocus(int nId) const { return ::GetFocus() == GetDlgItem(nId)->m_hWnd; }
 
 protected:
@@ -103,4 +105,31 @@ protected:
     }
     void OnOK() override { ++oks; }
     void OnCancel() override { ++cancels; }
+};
+
+/// The dialog in front, entered by a click on one of its boxes.
+class Edits : public ::testing::Test
+{
+protected:
+    explicit Edits(int nFirst) : m_nFirst(nFirst) {}
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_dialog.Create(IDD_EDITS));
+        ASSERT_TRUE(owtest::Activate(m_dialog));
+        owtest::Click(*m_dialog.GetDlgItem(m_nFirst));
+        ASSERT_TRUE(FocusArrives(m_nFirst));
+        m_handler.Take();
+    }
+    void TearDown() override { m_dialog.DestroyWindow(); }
+
+    bool FocusArrives(int nId)
+    {
+        return owtest::PumpUntil([&] { return m_dialog.HasFocus(nId); });
+    }
+
+    RecordingHandler m_handler;
+    EditsDialog m_dialog{&m_handler};
+
+private:
+    int m_nFirst;
 };

@@ -15,6 +15,7 @@
 #include <vector>
 
 using Calls = std::vector<std::string>;
+using owtest::TextOf;
 
 /// Writes down each call as "change 1010", and does on each change what the test wants.
 class NumberHandler : public CEditDWRNotificationHandler
@@ -78,13 +79,6 @@ protected:
     }
     void OnOK() override {}
 };
-
-inline std::wstring TextOf(const CWnd& wnd)
-{
-    CString strText;
-    wnd.GetWindowText(strText);
-    return strText.GetString();
-}
 
 inline std::wstring SelectionOf(const CEdit& edit)
 {

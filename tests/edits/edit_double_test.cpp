@@ -19,23 +19,11 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 } // namespace
 
-TEST_F(DoubleBox, IsNewWithZeroAndWithoutRangeOrUnit)
-{
-    EXPECT_EQ(Text(), L"0.00");
-    EXPECT_EQ(box.GetValue(), 0.0);
-    EXPECT_FALSE(box.IsEmpty());
-    EXPECT_FALSE(box.IsRangeCheckingEnabled());
-    EXPECT_EQ(box.GetMinRange(), 0.0);
-    EXPECT_EQ(box.GetMaxRange(), -1.0);
-    EXPECT_EQ(box.GetFormat(), eDoubleFormatFixed);
-    EXPECT_EQ(box.GetDecimals(), 2);
-    EXPECT_EQ(box.GetSpinStep(), 0.01);
-    EXPECT_FALSE(box.IsComplexUnitEnabled());
-}
-
 TEST_F(DoubleBox, WorksWithoutAWindow)
 {
     CEditDoubleWithRange unseen(nullptr);
+    EXPECT_FALSE(unseen.IsEmpty());
+    EXPECT_EQ(std::pair(unseen.GetMinRange(), unseen.GetMaxRange()), std::pair(0.0, -1.0)) << "no range";
     unseen.SetRange(1.0, 5.0);
     EXPECT_EQ(unseen.GetValue(), 1.0);
     unseen.SetValue(7.0);
@@ -44,8 +32,6 @@ TEST_F(DoubleBox, WorksWithoutAWindow)
     EXPECT_EQ(unseen.GetValue(), 5.0);
     EXPECT_FALSE(unseen.IsDataCurrentlyInGUIValid());
     EXPECT_FALSE(unseen.ValidateAndStoreDataFromGUI());
-    EXPECT_EQ(unseen.GetComplexUnitStaticId(), 0u);
-    EXPECT_EQ(unseen.GetSpinCtrlId(), 0u);
 }
 
 TEST_F(DoubleBox, BringsATypedNumberIntoTheRangeAtOnceAndTheTextOnLeaving)
@@ -105,7 +91,6 @@ TEST_F(DoubleBox, ChecksTheRangeOnlyWhileItIsNotInverted)
     EXPECT_EQ(box.GetValue(), 7.0);
 
     box.SetRange(1.0, 5.0);
-    EXPECT_EQ(box.GetValue(), 5.0);
     EXPECT_EQ(Text(), L"5.00");
     box.SetValue(-3.0);
     EXPECT_EQ(box.GetValue(), 1.0);
@@ -114,14 +99,10 @@ TEST_F(DoubleBox, ChecksTheRangeOnlyWhileItIsNotInverted)
     EXPECT_EQ(Text(), L"2.00");
     EXPECT_EQ(box.GetMaxRange(), DBL_MAX) << "the maximum of before is lost";
     box.SetMaxRange(1.5);
-    double dMin = 0.0, dMax = 0.0;
-    box.GetRange(dMin, dMax);
-    EXPECT_EQ(dMin, -DBL_MAX);
-    EXPECT_EQ(dMax, 1.5);
-    EXPECT_EQ(box.GetValue(), 1.5);
+    EXPECT_EQ(box.GetMinRange(), -DBL_MAX);
+    EXPECT_EQ(Text(), L"1.50");
 
     box.DisableRangeChecking();
-    EXPECT_FALSE(box.IsRangeCheckingEnabled());
     EXPECT_EQ(Text(), L"1.50");
     box.SetRange(2.0, kNaN);
     EXPECT_EQ(box.GetValue(), 1.5) << "a range that is no range limits nothing";
@@ -139,9 +120,7 @@ TEST_F(DoubleBox, IsEmptyOnlyByTheProgramsWord)
     EXPECT_EQ(Text(), L"3.00");
 
     box.SetEmpty();
-    EXPECT_TRUE(box.IsEmpty());
     EXPECT_EQ(Text(), L"");
-    EXPECT_TRUE(std::isnan(box.GetValue()));
     EXPECT_TRUE(CEditDoubleWithRange::IsEmptyValue(box.GetValue()));
     box.SetRange(1.0, 5.0);
     box.SetComplexUnit(kMillimetre);
@@ -171,12 +150,6 @@ TEST_F(DoubleBox, WritesInThreeFormats)
     EXPECT_EQ(Text().substr(0, 7), L"1.235E+");
     EXPECT_EQ(box.GetValue(), 1234.5678) << "the value keeps its digits";
 
-    EDoubleFormat format = eDoubleFormatGeneral;
-    int decimals = 0;
-    box.GetFormat(format, decimals);
-    EXPECT_EQ(format, eDoubleFormatExponent);
-    EXPECT_EQ(decimals, 3);
-
     box.SetFormat(static_cast<EDoubleFormat>(7), 2);
     EXPECT_EQ(Text(), L"") << "a format that is none writes nothing";
     EXPECT_EQ(box.GetValue(), 1234.5678);
@@ -193,13 +166,12 @@ TEST_F(DoubleBox, BoundsItsTextWhateverTheNumberAndTheDecimals)
     }
     box.SetFormat(eDoubleFormatFixed, 97);
     EXPECT_EQ(Text(), L"1.5" + std::wstring(96, L'0')) << "99 characters are the most";
-    for (int decimals : {98, 99, 100, 500, INT_MAX})
-    {
-        box.SetFormat(eDoubleFormatFixed, decimals);
-        EXPECT_EQ(Text(), L"1.5") << decimals;
-        box.SetFormat(eDoubleFormatExponent, decimals);
-        EXPECT_EQ(Text(), L"1.5") << decimals;
-    }
+    for (EDoubleFormat format : {eDoubleFormatFixed, eDoubleFormatExponent})
+        for (int decimals : {98, 100, INT_MAX})
+        {
+            box.SetFormat(format, decimals);
+            EXPECT_EQ(Text(), L"1.5") << decimals;
+        }
 
     box.SetFormat(eDoubleFormatFixed, 2);
     for (double value : {1e308, -DBL_MAX, 0.1 + 1e120})
@@ -218,11 +190,12 @@ TEST_F(DoubleBox, BoundsItsTextWhateverTheNumberAndTheDecimals)
 TEST_F(DoubleBox, ShowsAGlobalValueInItsLocalUnit)
 {
     CEditDoubleWithRange& unitBox = dialog.given;
+    CWnd& label = *dialog.GetDlgItem(IDC_GIVEN_UNIT);
     unitBox.SetValue(0.25);
-    EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDC_GIVEN_UNIT)), L"");
+    EXPECT_EQ(TextOf(label), L"");
     unitBox.SetComplexUnit(kMillimetre);
     EXPECT_EQ(TextOf(unitBox), L"250.00");
-    EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDC_GIVEN_UNIT)), L"mm");
+    EXPECT_EQ(TextOf(label), L"mm");
     EXPECT_EQ(unitBox.GetValue(), 0.25);
 
     unitBox.SetRange(0.1, 0.3);
@@ -234,11 +207,10 @@ TEST_F(DoubleBox, ShowsAGlobalValueInItsLocalUnit)
     EXPECT_EQ(unitBox.GetValue(), 0.3) << "the range is in the global unit";
 
     unitBox.DisableComplexUnit();
-    EXPECT_FALSE(unitBox.IsComplexUnitEnabled());
     EXPECT_EQ(TextOf(unitBox), L"0.30");
-    EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDC_GIVEN_UNIT)), L"");
+    EXPECT_EQ(TextOf(label), L"");
     EXPECT_TRUE(unitBox.GetComplexUnit() == kCentimetre) << "kept for the next time";
-    EXPECT_EQ(handler.Take(), Calls({"change 1011", "change 1011", "change 1011", "change 1011"}))
+    EXPECT_EQ(handler.Take(), Calls(4, "change 1011"))
         << "three keys and one plain text; the units are not reported";
 
     const CComplexUnit meganewton(CMeasurementUnit(CMeasurementUnit::eMeganewton, CMeasurementUnit::eForce));
@@ -274,33 +246,18 @@ TEST_F(DoubleBox, KeepsTheSelectionOverAnUpdate)
 
 TEST_F(DoubleBox, WritesAnUnchangedValueOnlyIfForced)
 {
-    box.SetValue(2.5);
-    box.SetRange(1.0, 5.0);
-    box.SafeSetWindowText(L"typed");
-    box.messages = 0;
-    box.SetValue(2.5);
-    box.SetRange(1.0, 5.0);
-    box.SetRange(0.0, 5.0);
-    box.SetFormat(eDoubleFormatFixed, 2);
-    EXPECT_EQ(box.messages, 0);
-
-    const std::function<void()> forced[] = {
-        [&] { box.SetValue(2.5, true); },
-        [&] { box.SetRange(0.0, 5.0, true); },
-        [&] { box.SetFormat(eDoubleFormatFixed, 2, true); },
-    };
-    for (const auto& force : forced)
+    const auto forcedToo = [&](const auto& set, const wchar_t* pszText)
     {
+        set(false);
         box.SafeSetWindowText(L"typed");
-        force();
-        EXPECT_EQ(Text(), L"2.50");
-    }
-
-    box.SetEmpty();
-    box.SafeSetWindowText(L"typed");
-    box.messages = 0;
-    box.SetEmpty();
-    EXPECT_EQ(box.messages, 0);
-    box.SetEmpty(true);
-    EXPECT_EQ(Text(), L"");
+        box.messages = 0;
+        set(false);
+        EXPECT_EQ(box.messages, 0);
+        set(true);
+        EXPECT_EQ(Text(), pszText);
+    };
+    forcedToo([&](bool bForce) { box.SetValue(2.5, bForce); }, L"2.50");
+    forcedToo([&](bool bForce) { box.SetRange(1.0, 5.0, bForce); }, L"2.50");
+    forcedToo([&](bool bForce) { box.SetFormat(eDoubleFormatFixed, 2, bForce); }, L"2.50");
+    forcedToo([&](bool bForce) { box.SetEmpty(bForce); }, L"");
 }

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <utility>
 
 namespace
 {
@@ -24,15 +25,6 @@ CComplexUnit Force(int number)
 const CComplexUnit c_dimensionless(CMeasurementUnit(), 0);
 } // namespace
 
-TEST(MeasurementUnit, LengthsHaveTheirNumbersAndSymbols)
-{
-    const wchar_t* const symbols[] = {L"m", L"cm", L"mm", L"dm", L"in", L"ft"};
-    ASSERT_EQ(CMeasurementUnit::Count(CMeasurementUnit::eLength), 6);
-    for (int i = 0; i < 6; ++i)
-        EXPECT_STREQ(Length(i).Symbol(), symbols[i]);
-    EXPECT_EQ(CMeasurementUnit(), CMeasurementUnit(0, 0));
-}
-
 TEST(MeasurementUnit, UnknownNumberIsNotValidAndConvertsAsTheGlobalUnit)
 {
     for (const CMeasurementUnit& unit :
@@ -46,13 +38,17 @@ TEST(MeasurementUnit, UnknownNumberIsNotValidAndConvertsAsTheGlobalUnit)
     EXPECT_EQ(CMeasurementUnit::Count(3), 0);
 }
 
-TEST(ComplexUnit, LengthsHaveTheirExactSizes)
+TEST(ComplexUnit, LengthsHaveTheirSymbolsAndExactSizes)
 {
-    const double metres[] = {1.0, 0.01, 0.001, 0.1, 0.0254, 0.3048};
-    for (int i = 0; i < 6; ++i)
+    const std::pair<LPCWSTR, double> lengths[] = {{L"m", 1.0},  {L"cm", 0.01},   {L"mm", 0.001},
+                                                  {L"dm", 0.1}, {L"in", 0.0254}, {L"ft", 0.3048}};
+    ASSERT_EQ(CMeasurementUnit::Count(CMeasurementUnit::eLength), std::ssize(lengths));
+    for (int number = 0; const auto& [symbol, metres] : lengths)
     {
-        EXPECT_EQ(Length(i).ToGlobal(1.0), metres[i]);
-        EXPECT_EQ(Length(i).ToLocal(metres[i]), 1.0);
+        const CComplexUnit unit = Length(number++);
+        EXPECT_STREQ(unit.Symbol(), symbol);
+        EXPECT_EQ(unit.ToGlobal(1.0), metres);
+        EXPECT_EQ(unit.ToLocal(metres), 1.0);
     }
 }
 
@@ -81,7 +77,6 @@ TEST(ComplexUnit, ValueThatIsNoShortDecimalIsNotRounded)
     const double third = 1.0 / 3.0;
     EXPECT_EQ(Length(0).ToLocal(third), third);
     EXPECT_DOUBLE_EQ(Length(2).ToLocal(third), 1000.0 / 3.0);
-    EXPECT_NE(Length(2).ToLocal(third), 333.333333);
 }
 
 TEST(ComplexUnit, NotANumberAndInfinityPassUnchanged)
@@ -120,19 +115,7 @@ TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
 TEST(ComplexUnit, ProductOfTooManyUnitsIsRefused)
 {
     const CComplexUnit four = Length(0) * Length(1) * Length(2) * Length(3);
-    EXPECT_THROW(
-        {
-            try
-            {
-                four* Length(4);
-            }
-            catch (CException* exception)
-            {
-                exception->Delete();
-                throw 0;
-            }
-        },
-        int);
+    EXPECT_THROW(four * Length(4), CInvalidArgException*);
 }
 
 TEST(ComplexUnit, EqualityLooksAtUnitsAndPowersOnly)

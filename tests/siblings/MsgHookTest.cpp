@@ -35,33 +35,29 @@ protected:
     }
 };
 
-/// A hook: logs its letter for a probe and then does what the test wants.
+/// A hook: logs its letter for a probe, does what the test wants, and passes the probe on.
 class CProbeHook : public CMsgHook
 {
 public:
-    explicit CProbeHook(char letter, std::function<void()> action = {})
-        : m_letter(letter), m_action(std::move(action))
-    {
-    }
-
+    explicit CProbeHook(char letter) : m_letter(letter) {}
     using CMsgHook::Default;
 
-    std::function<void()>& Action() { return m_action; }
+    std::function<void()> m_action;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
     {
-        if (message != c_probe)
-            return Default();
-        s_log += m_letter;
-        if (m_action)
-            m_action();
+        if (message == c_probe)
+        {
+            s_log += m_letter;
+            if (m_action)
+                m_action();
+        }
         return Default();
     }
 
 private:
     char m_letter;
-    std::function<void()> m_action;
 };
 
 WNDPROC ProcedureOf(HWND window)
@@ -73,6 +69,12 @@ struct MsgHook : testing::Test
 {
     void SetUp() override { ASSERT_TRUE(m_window.Open()); }
 
+    void HookBoth()
+    {
+        ASSERT_TRUE(a.HookWindow(&m_window));
+        ASSERT_TRUE(b.HookWindow(&m_window));
+    }
+
     /// Sends a probe and answers who saw it, in order.
     std::string Probe()
     {
@@ -83,15 +85,15 @@ struct MsgHook : testing::Test
 
     CProbedWnd m_window;
     LRESULT m_answer = 0;
+    CProbeHook a{'a'};
+    CProbeHook b{'b'};
 };
 } // namespace
 
 TEST_F(MsgHook, LastHookIsAskedFirst)
 {
-    CProbeHook a('a'), b('b');
     EXPECT_FALSE(a.IsHooked());
-    EXPECT_TRUE(a.HookWindow(&m_window));
-    EXPECT_TRUE(b.HookWindow(&m_window));
+    HookBoth();
     EXPECT_TRUE(a.IsHooked());
     EXPECT_EQ(a.GetHookedWindow(), &m_window);
     EXPECT_EQ(Probe(), "baw");
@@ -125,38 +127,21 @@ TEST_F(MsgHook, LeavesInAnyOrder)
 
 TEST_F(MsgHook, RefusesWhatItCannotHook)
 {
-    CProbeHook hook('a');
     CWnd noWindow;
-    EXPECT_FALSE(hook.HookWindow(nullptr));
-    EXPECT_FALSE(hook.HookWindow(&noWindow));
-    EXPECT_FALSE(hook.IsHooked());
-    hook.Unhook();
+    EXPECT_FALSE(a.HookWindow(nullptr));
+    EXPECT_FALSE(a.HookWindow(&noWindow));
+    EXPECT_FALSE(a.IsHooked());
+    a.Unhook();
 
-    ASSERT_TRUE(hook.HookWindow(&m_window));
-    EXPECT_FALSE(hook.HookWindow(&m_window)) << "it has a window already";
+    ASSERT_TRUE(a.HookWindow(&m_window));
+    EXPECT_FALSE(a.HookWindow(&m_window)) << "it has a window already";
     EXPECT_EQ(Probe(), "aw");
-    EXPECT_EQ(hook.Default(), 0) << "there is no current message";
-}
-
-TEST_F(MsgHook, HookThatDoesNotPassOnAnswersForTheWindow)
-{
-    class CSwallow : public CMsgHook
-    {
-        LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
-        {
-            return message == c_probe ? 5 : Default();
-        }
-    } swallow;
-    ASSERT_TRUE(swallow.HookWindow(&m_window));
-    EXPECT_EQ(Probe(), "");
-    EXPECT_EQ(m_answer, 5);
+    EXPECT_EQ(a.Default(), 0) << "there is no current message";
 }
 
 TEST_F(MsgHook, WindowMayDieBeforeItsHooks)
 {
-    CProbeHook a('a'), b('b');
-    a.HookWindow(&m_window);
-    b.HookWindow(&m_window);
+    HookBoth();
     m_window.DestroyWindow();
     EXPECT_FALSE(a.IsHooked());
     EXPECT_FALSE(b.IsHooked());
@@ -168,20 +153,19 @@ TEST_F(MsgHook, WindowMayDieBeforeItsHooks)
 
 TEST_F(MsgHook, HooksMayLeaveWhileAMessageIsOnItsWay)
 {
-    CProbeHook a('a'), b('b'), c('c');
-    a.HookWindow(&m_window);
-    b.HookWindow(&m_window);
+    CProbeHook c('c');
+    HookBoth();
     c.HookWindow(&m_window);
 
-    c.Action() = [&] { b.Unhook(); };
+    c.m_action = [&] { b.Unhook(); };
     EXPECT_EQ(Probe(), "caw") << "one that has not seen the message yet";
 
-    c.Action() = nullptr;
-    a.Action() = [&] { c.Unhook(); };
+    c.m_action = nullptr;
+    a.m_action = [&] { c.Unhook(); };
     EXPECT_EQ(Probe(), "caw") << "one that has";
     EXPECT_EQ(Probe(), "aw");
 
-    a.Action() = [&] { a.Unhook(); };
+    a.m_action = [&] { a.Unhook(); };
     EXPECT_EQ(Probe(), "aw") << "the hook itself: Default still passes on";
     EXPECT_EQ(m_answer, c_windowsAnswer);
     EXPECT_EQ(Probe(), "w");
@@ -199,7 +183,6 @@ TEST_F(MsgHook, HookMayDestroyItselfInItsWindowProc)
             return answer;
         }
     };
-    CProbeHook a('a');
     a.HookWindow(&m_window);
     (new CSuicide)->HookWindow(&m_window);
     EXPECT_EQ(Probe(), "aw");
@@ -209,8 +192,7 @@ TEST_F(MsgHook, HookMayDestroyItselfInItsWindowProc)
 
 TEST_F(MsgHook, HookThatJoinsSeesTheNextMessage)
 {
-    CProbeHook a('a'), b('b');
-    a.Action() = [&] { b.HookWindow(&m_window); };
+    a.m_action = [&] { b.HookWindow(&m_window); };
     a.HookWindow(&m_window);
     EXPECT_EQ(Probe(), "aw");
     EXPECT_EQ(Probe(), "baw");
@@ -218,10 +200,8 @@ TEST_F(MsgHook, HookThatJoinsSeesTheNextMessage)
 
 TEST_F(MsgHook, WindowMayDieInsideAHook)
 {
-    CProbeHook a('a'), b('b');
-    a.HookWindow(&m_window);
-    b.HookWindow(&m_window);
-    b.Action() = [&] { m_window.DestroyWindow(); };
+    HookBoth();
+    b.m_action = [&] { m_window.DestroyWindow(); };
     EXPECT_EQ(Probe(), "b");
     EXPECT_EQ(m_answer, 0);
     EXPECT_FALSE(a.IsHooked());
@@ -230,15 +210,13 @@ TEST_F(MsgHook, WindowMayDieInsideAHook)
 
 TEST_F(MsgHook, MessageInsideAMessageGoesThroughTheWholeLine)
 {
-    CProbeHook a('a'), b('b');
     int depth = 0;
-    a.Action() = [&]
+    a.m_action = [&]
     {
         if (++depth == 1)
             m_window.SendMessage(c_probe);
     };
-    a.HookWindow(&m_window);
-    b.HookWindow(&m_window);
+    HookBoth();
     EXPECT_EQ(Probe(), "babaww") << "and Default then means the outer one again";
 }
 
@@ -266,8 +244,7 @@ TEST_F(MsgHook, ForeignSubclassingOnTopIsKept)
 {
     static WNDPROC s_below;
     const WNDPROC original = ProcedureOf(m_window);
-    auto a = std::make_unique<CProbeHook>('a');
-    a->HookWindow(&m_window);
+    a.HookWindow(&m_window);
 
     s_below = ProcedureOf(m_window);
     const WNDPROC foreign = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT
@@ -277,10 +254,9 @@ TEST_F(MsgHook, ForeignSubclassingOnTopIsKept)
         return ::CallWindowProcW(s_below, window, message, wParam, lParam);
     };
     ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(foreign));
-    a.reset();
+    a.Unhook();
     EXPECT_EQ(Probe(), "fw");
 
-    CProbeHook b('b');
     EXPECT_TRUE(b.HookWindow(&m_window));
     EXPECT_EQ(Probe(), "fbw");
     b.Unhook();

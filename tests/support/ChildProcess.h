@@ -18,9 +18,9 @@ namespace owtest
 {
 struct ChildOptions
 {
-    std::map<std::wstring, std::wstring> environment; ///< set in the child
-    std::vector<std::wstring> unset;                  ///< taken out of the child's environment
-    std::wstring directory;                           ///< current directory of the child; empty keeps ours
+    std::map<std::wstring, std::wstring> environment = {}; ///< set in the child
+    std::vector<std::wstring> unset = {};                  ///< taken out of the child's environment
+    std::wstring directory = {}; ///< current directory of the child; empty keeps ours
     DWORD timeoutMs = 20000;
 };
 

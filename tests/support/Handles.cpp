@@ -35,7 +35,8 @@ const GdiEntry* GdiTable()
     return *reinterpret_cast<const GdiEntry* const*>(block + kGdiTableOffset);
 }
 
-template <class Matches> int CountEntries(Matches matches)
+template <class Matches>
+int CountEntries(Matches matches)
 {
     const GdiEntry* table = GdiTable();
     int count = 0;
@@ -62,10 +63,11 @@ BOOL CALLBACK CountTopLevel(HWND window, LPARAM count)
     return TRUE;
 }
 
-/// New user handles take free places first, so a batch of them reaches as high as the leaks have pushed them.
+/// New user handles take free places first, the latest first. A batch that is larger than all the places that a
+/// dialog has freed reaches as high as the leaks have pushed it.
 int UserHandleWaterline()
 {
-    constexpr int kProbes = 64;
+    constexpr int kProbes = 1024;
     int highest = 0;
     std::vector<HMENU> probes;
     for (int i = 0; i < kProbes; ++i)

@@ -90,7 +90,8 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs)
         const ULONGLONG now = ::GetTickCount64();
         if (now >= deadline)
             return false;
-        ::MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(std::min<ULONGLONG>(deadline - now, 20)), QS_ALLINPUT);
+        ::MsgWaitForMultipleObjects(0, nullptr, FALSE,
+                                    static_cast<DWORD>(std::min<ULONGLONG>(deadline - now, 20)), QS_ALLINPUT);
     }
 }
 
@@ -141,7 +142,8 @@ void MoveTo(HWND window, CPoint client)
     const CPoint screen = ToScreen(window, client);
     Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
     PumpUntil(
-        [&] {
+        [&]
+        {
             CPoint now;
             ::GetCursorPos(&now);
             return now == screen;
@@ -175,6 +177,13 @@ void Click(HWND window)
     CRect client;
     ::GetClientRect(window, &client);
     Click(window, client.CenterPoint());
+}
+
+std::wstring TextOf(const CWnd& window)
+{
+    CString text;
+    window.GetWindowText(text);
+    return text.GetString();
 }
 
 bool Activate(HWND window)

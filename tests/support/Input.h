@@ -12,6 +12,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 namespace owtest
@@ -40,6 +41,9 @@ void Click(HWND window);
 /// Presses the left button and leaves it down; `ButtonUp` lets it go.
 void ButtonDown(HWND window, CPoint client);
 void ButtonUp();
+
+/// What a window or control shows as its text.
+std::wstring TextOf(const CWnd& window);
 
 /// Brings a top-level window to the front and waits until it is active.
 bool Activate(HWND window);

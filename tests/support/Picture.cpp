@@ -72,6 +72,25 @@ int Surface::count(const CRect& area, COLORREF color) const
     return found;
 }
 
+CRect Surface::extent(COLORREF color) const
+{
+    CRect found;
+    for (int y = 0; y < m_height; ++y)
+        for (int x = 0; x < m_width; ++x)
+            if (at(x, y) == color)
+                found |= CRect(x, y, x + 1, y + 1);
+    return found;
+}
+
+bool Surface::operator==(const Surface& other) const
+{
+    for (int y = 0; y < m_height; ++y)
+        for (int x = 0; x < m_width; ++x)
+            if (at(x, y) != other.at(x, y))
+                return false;
+    return true;
+}
+
 void Capture(HWND window, Surface& into)
 {
     CRect rect;

@@ -24,6 +24,12 @@ public:
     /// Number of pixels inside the rectangle that have the colour.
     int count(const CRect& area, COLORREF color) const;
 
+    /// The smallest rectangle that holds all pixels of the colour; empty if there is none.
+    CRect extent(COLORREF color) const;
+
+    /// Whether each pixel is that of the other one, which has the same size.
+    bool operator==(const Surface& other) const;
+
 private:
     CDC m_dc;
     CBitmap m_bitmap;

@@ -129,13 +129,15 @@ CObject* CRuntimeClass::CreateObject()
         TRACE("Warning: objects of class %hs cannot be made by name.\n", m_lpszClassName);
         return nullptr;
     }
-    CObject* pObject = nullptr;
-    TRY
+    try // and not TRY, whose chain of handlers would take as long as making a small object
     {
-        pObject = (*m_pfnCreateObject)();
+        return (*m_pfnCreateObject)();
     }
-    END_TRY
-    return pObject;
+    catch (CException* e)
+    {
+        e->Delete();
+        return nullptr;
+    }
 }
 
 CObject* PASCAL CRuntimeClass::CreateObject(LPCSTR lpszClassName)

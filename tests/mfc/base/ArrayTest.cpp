@@ -8,50 +8,33 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace
 {
-const char* const c_invalidArg = "CInvalidArgException";
-
-template <class ARRAY>
-std::wstring Joined(const ARRAY& array)
+std::wstring Joined(const CStringArray& array)
 {
-    CString joined;
+    std::wstring joined;
     for (INT_PTR i = 0; i < array.GetSize(); ++i)
-    {
         joined += array[i];
-    }
-    return joined.GetString();
+    return joined;
 }
 
+/// One element for each letter, and nothing else.
 CStringArray& Fill(CStringArray& array, LPCTSTR letters)
 {
     array.RemoveAll();
     for (; *letters != 0; ++letters)
-    {
         array.Add(CString(*letters));
-    }
     return array;
 }
-
-class Unmovable : public CObject
-{
-public:
-    int m_value = 7;
-};
 } // namespace
 
 TEST(Array, GrowsAndKeepsItsElements)
 {
     CUIntArray array;
-    EXPECT_TRUE(array.IsEmpty());
     EXPECT_EQ(array.GetUpperBound(), -1);
     for (UINT i = 0; i < 10000; ++i)
-    {
         ASSERT_EQ(array.Add(i), INT_PTR(i));
-    }
-    EXPECT_EQ(array.GetSize(), 10000);
     EXPECT_EQ(array[9999], 9999u);
 
     array.SetSize(10005);
@@ -67,18 +50,6 @@ TEST(Array, GrowsAndKeepsItsElements)
     EXPECT_EQ(array.GetData(), nullptr);
 }
 
-TEST(Array, GrowByDecidesWhenMemoryMoves)
-{
-    CDWordArray array;
-    array.SetSize(1, 100);
-    const DWORD* const data = array.GetData();
-    for (DWORD i = 1; i < 100; ++i)
-    {
-        array.Add(i);
-    }
-    EXPECT_EQ(array.GetData(), data);
-}
-
 TEST(Array, InsertsAndRemovesInTheMiddle)
 {
     CStringArray array;
@@ -88,11 +59,9 @@ TEST(Array, InsertsAndRemovesInTheMiddle)
     array.InsertAt(0, L"<");
     array.InsertAt(5, L">");
     EXPECT_EQ(Joined(array), L"<abcd>");
-    array.RemoveAt(0);
-    array.RemoveAt(4);
-    array.InsertAt(6, L"!");
-    EXPECT_EQ(Joined(array), L"abcd!") << "behind the end empty elements fill the gap";
-    EXPECT_EQ(array.GetSize(), 7);
+    array.InsertAt(7, L"!");
+    EXPECT_EQ(Joined(array), L"<abcd>!") << "behind the end empty elements fill the gap";
+    EXPECT_EQ(array.GetSize(), 8);
 
     CStringArray other;
     Fill(other, L"123");
@@ -109,9 +78,7 @@ TEST(Array, ElementsMayBeGivenFromTheArrayItself)
     CStringArray array;
     Fill(array, L"abc");
     for (int i = 0; i < 40; ++i)
-    {
         array.Add(array[1]);
-    }
     EXPECT_EQ(array[42], L"b");
     Fill(array, L"abc").FreeExtra();
     array.InsertAt(0, array[2], 2);
@@ -158,31 +125,26 @@ TEST(Array, MemoryFailureLeavesTheArray)
 TEST(Array, ThrowingElementsLeaveTheArray)
 {
     CArray<Counted> array;
-    array.SetSize(4);
-    for (int i = 0; i < 4; ++i)
-    {
-        array[i].m_value = i;
-    }
     const Counted extra(9);
-    // The first element that is made, and the first copy into it, fail in turn.
     for (int nth = 1; nth <= 12; ++nth)
     {
+        array.RemoveAll();
+        for (int i = 0; i < 4; ++i)
+            array.Add(Counted(i));
+        array.FreeExtra();
         Counted::ThrowAt(nth);
         ThrownBy([&] { array.SetSize(10); });
         Counted::ThrowAt(0);
-        ASSERT_TRUE(array.GetSize() == 4 || array.GetSize() == 10);
+        ASSERT_TRUE(array.GetSize() == 4 || array.GetSize() == 10) << nth;
+
         array.SetSize(4);
         array.FreeExtra();
         Counted::ThrowAt(nth);
         const bool thrown = !ThrownBy([&] { array.Add(extra); }).empty();
         Counted::ThrowAt(0);
         ASSERT_EQ(array.GetSize(), thrown ? 4 : 5) << nth;
-        array.SetSize(4);
-        array.FreeExtra();
         for (int i = 0; i < 4; ++i)
-        {
             ASSERT_EQ(array[i].m_value, i);
-        }
     }
     array.RemoveAll();
     EXPECT_EQ(Counted::Alive(), 1);
@@ -193,9 +155,7 @@ TEST(Array, EveryElementIsDestroyedOnce)
     {
         CArray<Counted> array;
         for (int i = 0; i < 50; ++i)
-        {
             array.Add(Counted(i));
-        }
         EXPECT_EQ(Counted::Alive(), 50);
         array.InsertAt(10, Counted(-1), 5);
         array.RemoveAt(0, 20);
@@ -209,12 +169,14 @@ TEST(Array, EveryElementIsDestroyedOnce)
 
 TEST(Array, HoldsObjectsThatCanNotBeMoved)
 {
+    struct Unmovable : CObject
+    {
+        int m_value = 7;
+    };
     CArray<Unmovable> array;
     array.SetSize(2);
     array[1].m_value = 8;
     array.SetSize(100);
-    EXPECT_EQ(array[0].m_value, 7);
-    EXPECT_EQ(array[1].m_value, 8);
     EXPECT_EQ(array[99].m_value, 7);
     array.RemoveAt(0);
     EXPECT_EQ(array[0].m_value, 8);
@@ -231,15 +193,10 @@ TEST(Array, TypedPointersKeepTheirType)
     Row row;
     row.Add(&cells[0]);
     row.SetAtGrow(2, &cells[2]);
-    EXPECT_EQ(row[1], nullptr);
     row[1] = &cells[1];
     row.ElementAt(1)->m_value = 5;
     EXPECT_EQ(cells[1].m_value, 5);
     row.InsertAt(0, nullptr, 2);
     EXPECT_EQ(row.GetAt(3), &cells[1]);
-
-    CTypedPtrArray<CObArray, Row*> rows;
-    rows.Add(&row);
-    EXPECT_EQ((*rows[0])[2], &cells[0]);
-    EXPECT_TRUE(rows.IsKindOf(RUNTIME_CLASS(CObArray)));
+    EXPECT_TRUE(row.IsKindOf(RUNTIME_CLASS(CObArray)));
 }

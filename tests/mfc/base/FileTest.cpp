@@ -19,16 +19,14 @@ protected:
     {
         TCHAR szFolder[MAX_PATH];
         GetTempPath(MAX_PATH, szFolder);
-        m_folder.Format(L"%sow-file-test-%u", szFolder, GetCurrentProcessId());
+        // The time keeps it apart from what a run that crashed may have left under the same process number.
+        m_folder.Format(L"%sow-file-test-%u-%I64u", szFolder, GetCurrentProcessId(), GetTickCount64());
         ASSERT_TRUE(CreateDirectory(m_folder, nullptr));
         m_path = m_folder + L"\\data.test.txt";
     }
     void TearDown() override
     {
-        for (LPCTSTR name : {L"\\data.test.txt", L"\\other.txt"})
-        {
-            DeleteFile(m_folder + name);
-        }
+        DeleteFile(m_path);
         EXPECT_TRUE(RemoveDirectory(m_folder)) << "a file is still open";
     }
 
@@ -50,9 +48,7 @@ protected:
         CFile file;
         CFileException e;
         if (file.Open(path, flags, &e))
-        {
             return CFileException::none;
-        }
         EXPECT_EQ(file.m_hFile, CFile::hFileNull);
         EXPECT_STREQ(e.m_strFileName, path);
         return e.m_cause;
@@ -119,7 +115,6 @@ TEST_F(File, ReadsWritesAndSeeks)
 {
     CFile file(m_path, CFile::modeCreate | CFile::modeReadWrite);
     file.Write("0123456789", 10);
-    EXPECT_EQ(file.GetPosition(), 10u);
     EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
     char buffer[10] = {};
     EXPECT_EQ(file.Read(buffer, 10), 3u) << "the rest only";
@@ -130,27 +125,20 @@ TEST_F(File, ReadsWritesAndSeeks)
     file.SetLength(4);
     EXPECT_EQ(file.GetLength(), 4u);
     EXPECT_EQ(CauseThrownBy([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
-    file.Flush();
-
-    const std::unique_ptr<CFile> twin(file.Duplicate());
-    EXPECT_EQ(twin->GetFilePath(), file.GetFilePath());
-    twin->SeekToBegin();
-    EXPECT_EQ(file.GetPosition(), 0u) << "both share one position";
-    file.Close();
-    EXPECT_EQ(twin->GetLength(), 4u);
-    EXPECT_EQ(CauseThrownBy([&] { file.Read(buffer, 1); }), CFileException::invalidFile);
 }
 
-TEST_F(File, LockedRangesKeepOthersOut)
+TEST_F(File, DuplicateSharesThePositionAndOutlivesTheFirst)
 {
-    Write("0123456789");
-    CFile first(m_path, CFile::modeReadWrite | CFile::shareDenyNone);
-    CFile second(m_path, CFile::modeReadWrite | CFile::shareDenyNone);
-    first.LockRange(2, 4);
-    EXPECT_EQ(CauseThrownBy([&] { second.LockRange(4, 4); }), CFileException::lockViolation);
-    first.UnlockRange(2, 4);
-    second.LockRange(4, 4);
-    second.UnlockRange(4, 4);
+    Write("1234");
+    CFile file(m_path, CFile::modeRead);
+    const std::unique_ptr<CFile> twin(file.Duplicate());
+    EXPECT_EQ(twin->GetFilePath(), file.GetFilePath());
+    twin->SeekToEnd();
+    EXPECT_EQ(file.GetPosition(), 4u);
+    file.Close();
+    EXPECT_EQ(twin->GetLength(), 4u);
+    char byte = 0;
+    EXPECT_EQ(CauseThrownBy([&] { file.Read(&byte, 1); }), CFileException::invalidFile);
 }
 
 TEST_F(File, KnowsItsNamesAndStatus)
@@ -164,20 +152,9 @@ TEST_F(File, KnowsItsNamesAndStatus)
     CFileStatus status;
     EXPECT_TRUE(file.GetStatus(status));
     EXPECT_EQ(status.m_size, 5u);
-    EXPECT_EQ(m_path.CompareNoCase(status.m_szFullName), 0);
     EXPECT_TRUE(CFile::GetStatus(m_folder, status));
     EXPECT_TRUE(status.m_attribute & CFile::directory);
     EXPECT_FALSE(CFile::GetStatus(m_folder + L"\\none", status));
-}
-
-TEST_F(File, RenamesAndRemoves)
-{
-    const CString other = m_folder + L"\\other.txt";
-    Write("x");
-    CFile::Rename(m_path, other);
-    EXPECT_EQ(CauseThrownBy([&] { CFile::Rename(m_path, other); }), CFileException::fileNotFound);
-    CFile::Remove(other);
-    EXPECT_EQ(CauseThrownBy([&] { CFile::Remove(other); }), CFileException::fileNotFound);
 }
 
 TEST_F(File, AttachedHandleStaysOpen)
@@ -206,19 +183,31 @@ TEST_F(StdioFile, TextModeTranslatesLineEnds)
 
     CStdioFile file(m_path, CFile::modeRead | CFile::typeText);
     CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, L"first");
+    for (LPCTSTR expected : {L"first", L"second", L"", L"last"})
+    {
+        EXPECT_TRUE(file.ReadString(line));
+        EXPECT_EQ(line, expected);
+    }
+    EXPECT_FALSE(file.ReadString(line));
+}
+
+TEST_F(StdioFile, LinesComeInPiecesOfTheBufferAndWholeAsAString)
+{
+    const CString longLine(L'x', 3000);
+    {
+        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite);
+        file.WriteString(L"second\n" + longLine + L"\n");
+    }
+    CStdioFile file(m_path, CFile::modeRead);
     TCHAR buffer[32];
     EXPECT_EQ(file.ReadString(buffer, 4), buffer);
-    EXPECT_STREQ(buffer, L"sec") << "a long line comes in pieces";
+    EXPECT_STREQ(buffer, L"sec");
     EXPECT_NE(file.ReadString(buffer, 32), nullptr);
     EXPECT_STREQ(buffer, L"ond\n");
+    CString line;
     EXPECT_TRUE(file.ReadString(line));
-    EXPECT_TRUE(line.IsEmpty());
-    EXPECT_NE(file.ReadString(buffer, 32), nullptr);
-    EXPECT_STREQ(buffer, L"last");
+    EXPECT_EQ(line, longLine);
     EXPECT_EQ(file.ReadString(buffer, 32), nullptr);
-    EXPECT_FALSE(file.ReadString(line));
 }
 
 TEST_F(StdioFile, TextIsStoredInTheAnsiCodePage)
@@ -247,27 +236,9 @@ TEST_F(StdioFile, BinaryModeStoresTextAsItIs)
     CString line;
     EXPECT_TRUE(file.ReadString(line));
     EXPECT_EQ(line, L"a");
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, L"b");
 }
 
-TEST_F(StdioFile, LongLinesAreReadWhole)
-{
-    const CString longLine(L'x', 3000);
-    {
-        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite);
-        file.WriteString(longLine + L"\nnext\n");
-    }
-    CStdioFile file(m_path, CFile::modeRead);
-    CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, longLine);
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, L"next");
-    EXPECT_FALSE(file.ReadString(line));
-}
-
-TEST_F(StdioFile, SeeksInTheStream)
+TEST_F(StdioFile, SeeksAndMeasuresWhatIsStillInItsBuffer)
 {
     CStdioFile file(m_path, CFile::modeCreate | CFile::modeReadWrite | CFile::typeBinary);
     file.Write("0123456789", 10);
@@ -276,11 +247,7 @@ TEST_F(StdioFile, SeeksInTheStream)
     char buffer[2];
     EXPECT_EQ(file.Read(buffer, 2), 2u);
     EXPECT_EQ(buffer[1], '5');
-    EXPECT_EQ(file.GetPosition(), 6u);
     file.SetLength(3);
-    EXPECT_EQ(file.GetLength(), 3u);
-    EXPECT_EQ(ThrownBy([&] { file.LockRange(0, 1); }), "CNotSupportedException");
-    EXPECT_EQ(ThrownBy([&] { file.Duplicate(); }), "CNotSupportedException");
     file.Close();
     EXPECT_EQ(Bytes(), "012");
 }
@@ -288,13 +255,12 @@ TEST_F(StdioFile, SeeksInTheStream)
 TEST_F(StdioFile, FailuresHaveCauses)
 {
     CStdioFile file;
-    CFileException e;
-    EXPECT_FALSE(file.Open(m_path, CFile::modeRead, &e));
-    EXPECT_EQ(e.m_cause, CFileException::fileNotFound);
+    EXPECT_FALSE(file.Open(m_path, CFile::modeRead));
     EXPECT_EQ(CauseThrownBy([&] { CStdioFile missing(m_path, CFile::modeRead); }),
               CFileException::fileNotFound);
 
     ASSERT_TRUE(file.Open(m_path, CFile::modeCreate | CFile::modeWrite));
+    EXPECT_EQ(ThrownBy([&] { file.Duplicate(); }), "CNotSupportedException");
     CString line;
     EXPECT_EQ(CauseThrownBy([&] { file.ReadString(line); }), CFileException::genericException);
     file.Close();
@@ -302,41 +268,28 @@ TEST_F(StdioFile, FailuresHaveCauses)
     EXPECT_EQ(CauseThrownBy([&] { file.WriteString(L"x"); }), CFileException::diskFull);
 }
 
-TEST(MemFile, GrowsAndIsDetached)
+TEST(MemFile, GrowsWithZeroesInTheGaps)
 {
     CMemFile file(16);
     const std::string text = "more than sixteen bytes of text";
     file.Write(text.data(), UINT(text.size()));
-    EXPECT_EQ(file.GetLength(), text.size());
     file.Seek(40, CFile::begin);
     file.Write("x", 1);
     file.SeekToBegin();
     char buffer[64] = {};
     EXPECT_EQ(file.Read(buffer, 64), 41u);
     EXPECT_EQ(std::string(buffer, text.size()), text);
-    EXPECT_EQ(buffer[39], 0) << "a gap is zero";
+    EXPECT_EQ(buffer[39], 0);
     EXPECT_EQ(CauseThrownBy([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
-
-    BYTE* const memory = file.Detach();
-    EXPECT_EQ(memory[40], 'x');
-    EXPECT_EQ(file.GetLength(), 0u);
-    free(memory);
 }
 
-TEST(MemFile, AttachedBlockStaysTheCallers)
+TEST(MemFile, AttachedBlockStaysTheCallersAndIsFull)
 {
-    BYTE block[8] = {'a', 'b', 'c', 'd', 'e', 'f', 'g', 'h'};
+    BYTE block[8] = {};
     CMemFile fixed(block, sizeof(block));
     EXPECT_EQ(fixed.GetLength(), 8u);
     fixed.Write("XY", 2);
     EXPECT_EQ(block[0], 'X');
     fixed.SeekToEnd();
     EXPECT_EQ(CauseThrownBy([&] { fixed.Write("!", 1); }), CFileException::diskFull);
-
-    CMemFile growing;
-    growing.Attach(block, sizeof(block), 8);
-    EXPECT_EQ(growing.GetLength(), 0u) << "a block that may grow is only a place to write to";
-    growing.Write("0123456789", 10);
-    EXPECT_EQ(growing.GetLength(), 10u);
-    EXPECT_EQ(ThrownBy([&] { growing.Duplicate(); }), "CNotSupportedException");
 }

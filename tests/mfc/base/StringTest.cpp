@@ -10,17 +10,6 @@
 #include <thread>
 #include <vector>
 
-namespace
-{
-const char* const c_invalidArg = "CInvalidArgException";
-
-/// For messages of failed expectations.
-std::wstring Text(const CString& str)
-{
-    return std::wstring(str.GetString(), size_t(str.GetLength()));
-}
-} // namespace
-
 TEST(String, CopiesShareTheBufferUntilOneIsWritten)
 {
     CString first(L"shared");
@@ -59,17 +48,11 @@ TEST(String, LockedBufferIsNotSharedAndStaysLocked)
     LPTSTR const buffer = locked.LockBuffer();
     const CString copy = locked;
     EXPECT_NE(copy.GetString(), buffer);
-    buffer[0] = L'L';
-    EXPECT_STREQ(copy, L"locked");
-
     const CString other(L"other");
     locked = other;
     EXPECT_NE(locked.GetString(), other.GetString()) << "a locked string does not take over another's buffer";
     EXPECT_STREQ(locked, L"other");
     locked += L" and a good deal longer than before";
-    const CString longCopy = locked;
-    EXPECT_NE(longCopy.GetString(), locked.GetString());
-    locked = CString(L"moved in");
     EXPECT_NE(CString(locked).GetString(), locked.GetString());
 
     locked.UnlockBuffer();
@@ -79,47 +62,34 @@ TEST(String, LockedBufferIsNotSharedAndStaysLocked)
 TEST(String, BuffersMayBeSharedByThreads)
 {
     const CString shared(L"counted by all");
+    const auto copyOften = [shared]
+    {
+        for (int n = 0; n < 20000; ++n)
+        {
+            CString copy = shared;
+            CString another = copy;
+            if (n % 64 == 0)
+                another += L"!";
+        }
+    };
     std::vector<std::thread> threads;
     for (int i = 0; i < 4; ++i)
-    {
-        threads.emplace_back(
-            [shared]
-            {
-                for (int n = 0; n < 20000; ++n)
-                {
-                    CString copy = shared;
-                    CString another = copy;
-                    if (n % 64 == 0)
-                    {
-                        another += L"!";
-                    }
-                }
-            });
-    }
+        threads.emplace_back(copyOften);
     for (std::thread& thread : threads)
-    {
         thread.join();
-    }
-    CString last = shared;
-    EXPECT_STREQ(last, L"counted by all");
+    EXPECT_STREQ(shared, L"counted by all");
 }
 
 TEST(String, ConstructsFromEverySource)
 {
-    EXPECT_TRUE(CString().IsEmpty());
     EXPECT_TRUE(CString(static_cast<LPCWSTR>(nullptr)).IsEmpty());
     EXPECT_STREQ(CString(L'x', 3), L"xxx");
-    EXPECT_STREQ(CString('x', 2), L"xx");
     EXPECT_TRUE(CString(L'x', 0).IsEmpty());
     EXPECT_STREQ(CString(L"abcdef", 3), L"abc");
     EXPECT_STREQ(CString("narrow"), L"narrow");
     EXPECT_STREQ(CString("narrow", 3), L"nar");
     EXPECT_STREQ(CStringA(L"wide"), "wide");
-    EXPECT_STREQ(CString(reinterpret_cast<const unsigned char*>("bytes")), L"bytes");
-
-    const CString embedded(L"a\0b", 3);
-    EXPECT_EQ(embedded.GetLength(), 3);
-    EXPECT_EQ(CString(embedded).GetLength(), 3);
+    EXPECT_EQ(CString(CString(L"a\0b", 3)).GetLength(), 3);
 }
 
 TEST(String, ConvertsThroughTheAnsiCodePage)
@@ -128,14 +98,13 @@ TEST(String, ConvertsThroughTheAnsiCodePage)
     char expected[8] = {};
     ASSERT_GT(WideCharToMultiByte(CP_ACP, 0, umlaut, -1, expected, sizeof(expected), nullptr, nullptr), 1);
 
-    CStringA narrow(umlaut);
+    const CStringA narrow(umlaut);
     EXPECT_STREQ(narrow, expected);
     CString wide;
     wide = narrow;
     EXPECT_STREQ(wide, umlaut);
     wide += narrow;
-    EXPECT_EQ(wide.GetLength(), 2 * CString(expected).GetLength());
-    EXPECT_TRUE(CString(expected) == narrow.GetString());
+    EXPECT_EQ(wide.GetLength(), 2);
 }
 
 TEST(String, LoadsStringResources)
@@ -146,7 +115,6 @@ TEST(String, LoadsStringResources)
     EXPECT_TRUE(str.LoadString(IDS_GREETING));
     EXPECT_STREQ(str, L"Good day");
     EXPECT_STREQ(CString(MAKEINTRESOURCE(IDS_GREETING)), L"Good day");
-    EXPECT_STREQ(CStringA(MAKEINTRESOURCEA(IDS_GREETING)), "Good day");
     EXPECT_TRUE(CString(MAKEINTRESOURCE(IDS_NO_SUCH_STRING)).IsEmpty());
 
     const WORD german = MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN);
@@ -178,18 +146,12 @@ TEST(String, StringsArePassedToFormatsAsTheyAre)
     EXPECT_STREQ(str, L"name_3_temporary");
     str.Format(L"<%s|%s>", str, str);
     EXPECT_STREQ(str, L"<name_3_temporary|name_3_temporary>");
-    str = L"a";
-    str.AppendFormat(L"%s%d", str, 1);
-    EXPECT_STREQ(str, L"aa1");
     str.Format(IDS_COUNT_FORMAT, name, 5);
-    EXPECT_STREQ(str, L"name has 5");
-    str.AppendFormat(IDS_COUNT_FORMAT, L", it", 6);
-    EXPECT_STREQ(str, L"name has 5, it has 6");
+    str.AppendFormat(L", %s", str);
+    EXPECT_STREQ(str, L"name has 5, name has 5");
     str.FormatMessage(L"%2 and %1!d!", 5, name);
     EXPECT_STREQ(str, L"name and 5");
-
-    CString longText(L'x', 5000);
-    str.Format(L"%s", longText);
+    str.Format(L"%s", CString(L'x', 5000));
     EXPECT_EQ(str.GetLength(), 5000);
 }
 
@@ -197,44 +159,35 @@ TEST(String, ComparesInAllMixtures)
 {
     const CString abc(L"abc");
     const CString abd(L"abd");
-    EXPECT_TRUE(abc == abc && abc == L"abc" && L"abc" == abc && abc == "abc" && "abc" == abc);
+    EXPECT_TRUE(abc == L"abc" && L"abc" == abc && abc == "abc" && "abc" == abc);
     EXPECT_TRUE(abc != abd && abc != L"abd" && L"abd" != abc);
     EXPECT_TRUE(abc < abd && abc < L"abd" && L"abc" < abd && abd > abc && abd > L"abc" && L"abd" > abc);
     EXPECT_TRUE(abc <= abd && abc <= L"abc" && L"abd" >= abd && abd >= L"abc");
-    EXPECT_TRUE(CString(L"x") == L'x' && L'x' == CString(L"x") && CString(L"xx") != L'x' && abc != L'a');
-
-    EXPECT_LT(abc.Compare(abd), 0);
+    EXPECT_TRUE(CString(L"x") == L'x' && CString(L"xx") != L'x' && abc != L'a');
     EXPECT_EQ(abc.CompareNoCase(L"ABC"), 0);
     EXPECT_LT(abc.Collate(abd), 0);
-    EXPECT_EQ(abc.CollateNoCase(L"ABC"), 0);
 }
 
 TEST(String, ConcatenatesInAllMixtures)
 {
     const CString ab(L"ab");
-    EXPECT_STREQ(ab + ab, L"abab");
-    EXPECT_STREQ(ab + L"c" + "d" + L'e' + 'f', L"abcdef");
+    EXPECT_STREQ(ab + ab + L"c" + "d" + L'e' + 'f', L"ababcdef");
     EXPECT_STREQ(L'1' + (L"0" + ab), L"10ab");
     EXPECT_STREQ('1' + ("0" + ab), L"10ab");
 
-    CString str;
-    str += ab;
-    str += L"c";
+    CString str(ab);
     str += "d";
     str += L'e';
     str += 'f';
-    str.AppendChar(L'g');
-    str.Append(L"hij", 2);
-    EXPECT_STREQ(str, L"abcdefghi");
+    str.Append(L"ghi", 2);
+    EXPECT_STREQ(str, L"abdefgh");
 }
 
 TEST(String, MayBeChangedFromItsOwnText)
 {
     CString str(L"0123456789");
     for (int i = 0; i < 4; ++i)
-    {
         str += str;
-    }
     EXPECT_EQ(str.GetLength(), 160);
     EXPECT_STREQ(str.Right(10), L"0123456789");
     str = str.GetString() + 155;
@@ -250,64 +203,59 @@ TEST(String, MayBeChangedFromItsOwnText)
 TEST(String, CutsPartsToTheText)
 {
     const CString str(L"abcdef");
-    EXPECT_STREQ(str.Mid(2), L"cdef");
     EXPECT_STREQ(str.Mid(2, 2), L"cd");
     EXPECT_STREQ(str.Mid(4, 100), L"ef");
     EXPECT_STREQ(str.Mid(2, INT_MAX), L"cdef");
     EXPECT_STREQ(str.Mid(-3, 2), L"ab");
     EXPECT_STREQ(str.Mid(7, 1), L"");
-    EXPECT_STREQ(str.Left(2), L"ab");
     EXPECT_STREQ(str.Left(-1), L"");
     EXPECT_STREQ(str.Right(2), L"ef");
     EXPECT_STREQ(str.Right(100), L"abcdef");
     EXPECT_STREQ(str.SpanIncluding(L"cab"), L"abc");
     EXPECT_STREQ(str.SpanExcluding(L"dc"), L"ab");
-    EXPECT_STREQ(str.SpanExcluding(L"xyz"), L"abcdef");
 }
 
 TEST(String, ChangesInPlace)
 {
     CString str(L"Abc");
     EXPECT_STREQ(str.MakeUpper(), L"ABC");
-    EXPECT_STREQ(str.MakeLower(), L"abc");
-    EXPECT_STREQ(str.MakeReverse(), L"cba");
+    EXPECT_STREQ(str.MakeReverse(), L"CBA");
     EXPECT_EQ(str.Insert(1, L'-'), 4);
     EXPECT_EQ(str.Insert(100, L"!!"), 6);
     EXPECT_EQ(str.Insert(-5, L">"), 7);
-    EXPECT_STREQ(str, L">c-ba!!");
+    EXPECT_STREQ(str, L">C-BA!!");
     EXPECT_EQ(str.Delete(5, 100), 5);
     EXPECT_EQ(str.Delete(0), 4);
-    EXPECT_STREQ(str, L"c-ba");
-    EXPECT_EQ(str.Replace(L'-', L'+'), 1);
-    EXPECT_EQ(str.Replace(L"c+", L""), 1);
-    EXPECT_EQ(str.Replace(L"a", nullptr), 1);
-    EXPECT_STREQ(str, L"b");
-    str = L"aaaaa";
-    EXPECT_EQ(str.Replace(L"aa", L"b"), 2);
-    EXPECT_STREQ(str, L"bba");
-    EXPECT_EQ(str.Remove(L'b'), 2);
+    EXPECT_STREQ(str, L"C-BA");
+}
+
+TEST(String, ReplacesAndRemoves)
+{
+    CString str(L"aaaaa");
+    EXPECT_EQ(str.Replace(L"aa", L"bcd"), 2) << "from the left, without overlap";
+    EXPECT_STREQ(str, L"bcdbcda");
+    EXPECT_EQ(str.Replace(L"bcd", nullptr), 2);
     EXPECT_STREQ(str, L"a");
     EXPECT_EQ(str.Replace(L"", L"x"), 0);
+    EXPECT_EQ(str.Replace(L'a', L'b'), 1);
+    EXPECT_EQ(str.Remove(L'b'), 1);
+    EXPECT_TRUE(str.IsEmpty());
 }
 
 TEST(String, Trims)
 {
     EXPECT_STREQ(CString(L" \t\nx y\r\n ").Trim(), L"x y");
-    EXPECT_STREQ(CString(L"  x  ").TrimLeft(), L"x  ");
-    EXPECT_STREQ(CString(L"  x  ").TrimRight(), L"  x");
+    EXPECT_STREQ(CString(L"   ").Trim(), L"");
     EXPECT_STREQ(CString(L"00100").TrimLeft(L'0'), L"100");
     EXPECT_STREQ(CString(L"00100").TrimRight(L'0'), L"001");
-    EXPECT_STREQ(CString(L"00100").Trim(L'0'), L"1");
     EXPECT_STREQ(CString(L"{[x]}").Trim(L"[]{}"), L"x");
     EXPECT_STREQ(CString(L"{[x]}").TrimRight(L"[]{}"), L"{[x");
     EXPECT_STREQ(CString(L"{[x]}").TrimLeft(L""), L"{[x]}");
-    EXPECT_STREQ(CString(L"   ").Trim(), L"");
 }
 
 TEST(String, Finds)
 {
     const CString str(L"banana");
-    EXPECT_EQ(str.Find(L'a'), 1);
     EXPECT_EQ(str.Find(L'a', 2), 3);
     EXPECT_EQ(str.Find(L'x'), -1);
     EXPECT_EQ(str.Find(L'a', 6), -1);
@@ -328,9 +276,7 @@ TEST(String, Tokenizes)
     std::vector<std::wstring> tokens;
     int start = 0;
     for (CString token = str.Tokenize(L"% #", start); start != -1; token = str.Tokenize(L"% #", start))
-    {
-        tokens.push_back(Text(token));
-    }
+        tokens.emplace_back(token.GetString());
     EXPECT_EQ(tokens, (std::vector<std::wstring>{L"First", L"Second", L"Third"}));
 
     start = 0;
@@ -361,14 +307,7 @@ TEST(String, BufferAccessFollowsTheAnnouncedLength)
     EXPECT_GE(str.GetAllocLength(), 20);
     str.FreeExtra();
     EXPECT_EQ(str.GetAllocLength(), 6);
-    str.Preallocate(50);
-    EXPECT_GE(str.GetAllocLength(), 50);
     EXPECT_STREQ(str, L"writer");
-
-    const BSTR bstr = str.AllocSysString();
-    EXPECT_STREQ(bstr, L"writer");
-    EXPECT_EQ(SysStringLen(bstr), 6u);
-    SysFreeString(bstr);
 }
 
 TEST(String, BadArgumentsThrowAndLeaveTheText)
@@ -393,30 +332,22 @@ TEST(String, BadArgumentsThrowAndLeaveTheText)
     expectInvalid([&] { CString("abc", -1); });
 }
 
-TEST(String, EnvironmentVariables)
-{
-    SetEnvironmentVariableW(L"OW_TEST_VARIABLE", L"some value");
-    CString str;
-    EXPECT_TRUE(str.GetEnvironmentVariable(L"OW_TEST_VARIABLE"));
-    EXPECT_STREQ(str, L"some value");
-    EXPECT_FALSE(str.GetEnvironmentVariable(L"OW_TEST_NO_VARIABLE"));
-    EXPECT_TRUE(str.IsEmpty());
-}
-
-TEST(Text, InsertsAndParts)
+TEST(Text, NumberedInsertsTakeTheirPlaces)
 {
     CString str;
     AfxFormatString2(str, IDS_NUMBERED_INSERTS, L"one", L"two");
     EXPECT_STREQ(str, L"two before one, not ?");
-    AfxFormatString1(str, IDS_GREETING, L"unused");
-    EXPECT_STREQ(str, L"Good day");
+}
 
-    EXPECT_TRUE(AfxExtractSubString(str, L"a,b,,d", 1, L','));
-    EXPECT_STREQ(str, L"b");
-    EXPECT_TRUE(AfxExtractSubString(str, L"a,b,,d", 2, L','));
-    EXPECT_STREQ(str, L"");
-    EXPECT_TRUE(AfxExtractSubString(str, L"a,b,,d", 3, L','));
-    EXPECT_STREQ(str, L"d");
+TEST(Text, PartsMayBeEmptyAndEnd)
+{
+    const LPCTSTR parts[] = {L"a", L"b", L"", L"d"};
+    CString str;
+    for (int i = 0; i < 4; ++i)
+    {
+        EXPECT_TRUE(AfxExtractSubString(str, L"a,b,,d", i, L','));
+        EXPECT_STREQ(str, parts[i]);
+    }
     EXPECT_FALSE(AfxExtractSubString(str, L"a,b,,d", 4, L','));
     EXPECT_TRUE(str.IsEmpty());
 }

@@ -5,6 +5,8 @@
 
 #include <string>
 
+inline constexpr char c_invalidArg[] = "CInvalidArgException";
+
 /// The class name of the MFC exception that the function throws, which is given back; empty for none.
 template <typename FUNCTION>
 std::string ThrownBy(FUNCTION function)

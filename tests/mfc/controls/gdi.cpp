@@ -72,30 +72,13 @@ TEST(GdiObject, DestructionDestroysWhatIsAttachedAndSparesWhatIsDetached)
     ::DeleteObject(given);
 }
 
-TEST(GdiObject, AttachRefusesNull)
+TEST(GdiObject, ConstructorsThrowAResourceExceptionOnFailure)
 {
-    CPen pen;
-    EXPECT_FALSE(pen.Attach(nullptr));
-    EXPECT_EQ(CPen::FromHandle(nullptr)->GetSafeHandle(), nullptr) << "a safe handle may be asked of nobody";
-}
-
-TEST(GdiObject, CreationInAConstructorThrowsOnFailure)
-{
+    constexpr int noPenStyle = 0xFFFF;
     const LOGBRUSH hollow = {BS_HOLLOW, 0, 0};
-    EXPECT_THROW(
-        {
-            try
-            {
-                constexpr int noPenStyle = 0xFFFF;
-                CPen pen(noPenStyle, 1, &hollow);
-            }
-            catch (CResourceException* e)
-            {
-                e->Delete();
-                throw 1;
-            }
-        },
-        int);
+    CWnd noWindow;
+    EXPECT_THROW(CPen(noPenStyle, 1, &hollow), CResourceException*);
+    EXPECT_THROW(CPaintDC{&noWindow}, CResourceException*);
 }
 
 TEST(GdiObject, FromHandleFindsThePermanentObjectAndMakesOneTemporaryObjectForEachOther)
@@ -103,6 +86,7 @@ TEST(GdiObject, FromHandleFindsThePermanentObjectAndMakesOneTemporaryObjectForEa
     CPen pen(PS_SOLID, 1, RGB(0, 0, 0));
     EXPECT_EQ(CPen::FromHandle(pen), &pen);
     EXPECT_EQ(CPen::FromHandle(nullptr), nullptr);
+    EXPECT_EQ(CPen::FromHandle(nullptr)->GetSafeHandle(), nullptr) << "a safe handle may be asked of nobody";
 
     const HPEN plain = ::CreatePen(PS_SOLID, 3, 0);
     CPen* temporary = CPen::FromHandle(plain);
@@ -133,7 +117,7 @@ TEST(GdiObject, TemporaryObjectsAreGivenBackWhenTheLastLockOfTheMapsGoes)
     EXPECT_LT(owtest::CountHeapBytes(), locked - 5000 * sizeof(CGdiObject));
 }
 
-TEST(GdiObject, AThousandRoundsLeaveNothingBehind)
+TEST(GdiObject, RoundsLeaveNothingBehind)
 {
     const auto round = []
     {
@@ -155,36 +139,12 @@ TEST(GdiObject, AThousandRoundsLeaveNothingBehind)
         CClientDC screen(nullptr);
     };
     round();
+    CGdiObject::DeleteTempMap();
     const int before = owtest::CountHandles().gdi;
-    for (int i = 0; i < 1000; ++i)
+    for (int i = 0; i < 100; ++i)
         round();
     CGdiObject::DeleteTempMap();
-    EXPECT_LE(owtest::CountHandles().gdi, before + 2);
-}
-
-TEST(DeviceContext, PaintingWithoutAWindowThrowsAResourceException)
-{
-    CWnd none;
-    try
-    {
-        CPaintDC dc(&none);
-        FAIL() << "a paint context without a window";
-    }
-    catch (CResourceException* e)
-    {
-        e->Delete();
-    }
-}
-
-TEST(DeviceContext, SaveAndRestoreReturnToTheStateBefore)
-{
-    MemoryDC dc;
-    dc.SetTextColor(RGB(9, 9, 9));
-    const int saved = dc.SaveDC();
-    EXPECT_GT(saved, 0);
-    EXPECT_EQ(dc.SetTextColor(RGB(1, 1, 1)), RGB(9, 9, 9));
-    EXPECT_TRUE(dc.RestoreDC(saved));
-    EXPECT_EQ(dc.GetTextColor(), RGB(9, 9, 9));
+    EXPECT_EQ(owtest::CountHandles().gdi, before);
 }
 
 TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
@@ -206,19 +166,13 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
     dc.ReleaseAttribDC();
 }
 
-TEST(DeviceContext, HimetricIsHundredthsOfAMillimetre)
+TEST(DeviceContext, HimetricIsHundredthsOfAMillimetreAndFontHeightsAreTenthsOfAPoint)
 {
     MemoryDC dc;
     CSize inch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
     dc.DPtoHIMETRIC(&inch);
     EXPECT_TRUE(inch == CSize(2540, 2540));
-    dc.HIMETRICtoLP(&inch);
-    EXPECT_EQ(inch.cx, dc.GetDeviceCaps(LOGPIXELSX));
-}
 
-TEST(DeviceContext, FontHeightsAreTenthsOfAPoint)
-{
-    MemoryDC dc;
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(120, L"Liberation Sans", &dc));
     LOGFONT log = {};
@@ -254,18 +208,4 @@ TEST(Menu, ADestroyedObjectDestroysItsMenuAndASubMenuOnlyPasses)
     }
     EXPECT_FALSE(::IsMenu(owned));
     EXPECT_FALSE(::IsMenu(popupHandle)) << "a pop-up goes with the menu that holds it";
-}
-
-TEST(Menu, ItemsAreCheckedEnabledAndAsked)
-{
-    CMenu menu;
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, 1, L"one");
-    menu.InsertMenu(0, MF_BYPOSITION | MF_STRING, 2, L"two");
-    EXPECT_EQ(menu.GetMenuItemID(0), 2u);
-    EXPECT_EQ(menu.CheckMenuItem(1, MF_CHECKED), static_cast<UINT>(MF_UNCHECKED));
-    EXPECT_NE(menu.GetMenuState(1, MF_BYCOMMAND) & MF_CHECKED, 0u);
-    EXPECT_EQ(menu.EnableMenuItem(9, MF_GRAYED), static_cast<UINT>(-1));
-    EXPECT_TRUE(menu.RemoveMenu(2, MF_BYCOMMAND));
-    EXPECT_EQ(menu.GetMenuItemCount(), 1u);
 }

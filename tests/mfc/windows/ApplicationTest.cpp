@@ -1,8 +1,8 @@
 // The application: profile, message boxes, frame windows, idle time, wait cursor, stack dumps.
 
-#include <afxpriv.h>
+#include "TestWindows.h"
 
-#include "Input.h"
+#include <afxpriv.h>
 
 #include <gtest/gtest.h>
 
@@ -18,14 +18,12 @@ public:
     CTestApp() : CWinApp(L"ProfileTest") {}
     using CWinApp::SetRegistryKey;
     int m_command = 0;
-    UINT m_boxType = 0;
     CString m_boxText;
 
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT) override
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override
     {
         m_boxText = lpszPrompt;
-        m_boxType = nType;
-        return IDRETRY;
+        return IDOK;
     }
 
 protected:
@@ -69,16 +67,15 @@ protected:
         ASSERT_TRUE(app->WriteProfileInt(L"Numbers", L"negative", -17));
         EXPECT_EQ(static_cast<int>(app->GetProfileInt(L"Numbers", L"negative", 0)), -17);
 
-        EXPECT_EQ(app->GetProfileString(L"Texts", L"missing", L"default"), L"default");
-        EXPECT_EQ(app->GetProfileString(L"Texts", L"missing"), L"");
+        const auto name = [this] { return app->GetProfileString(L"Texts", L"name", L"default"); };
+        EXPECT_EQ(name(), L"default");
         ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"steel beam"));
-        EXPECT_EQ(app->GetProfileString(L"Texts", L"name"), L"steel beam");
+        EXPECT_EQ(name(), L"steel beam");
         ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", nullptr));
-        EXPECT_EQ(app->GetProfileString(L"Texts", L"name", L"gone"), L"gone");
-
+        EXPECT_EQ(name(), L"default") << "the entry is gone";
         ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"again"));
         ASSERT_TRUE(app->WriteProfileString(L"Texts", nullptr, nullptr));
-        EXPECT_EQ(app->GetProfileString(L"Texts", L"name", L"gone"), L"gone");
+        EXPECT_EQ(name(), L"default") << "the section is gone";
 
         BYTE written[] = {0x00, 0x01, 0x7F, 0x80, 0xFF};
         ASSERT_TRUE(app->WriteProfileBinary(L"Data", L"bytes", written, sizeof written));
@@ -99,16 +96,11 @@ TEST_F(Profile, LivesInTheRegistryBelowCompanyAndProgram)
     app->SetRegistryKey(L"DialogControlsOW Tests");
     CheckValues();
 
-    HKEY section = nullptr;
-    ASSERT_EQ(::RegOpenKeyEx(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers", 0,
-                             KEY_READ, &section),
-              ERROR_SUCCESS);
     DWORD value = 0;
     DWORD size = sizeof value;
-    DWORD type = 0;
-    ::RegQueryValueEx(section, L"negative", nullptr, &type, reinterpret_cast<BYTE*>(&value), &size);
-    ::RegCloseKey(section);
-    EXPECT_EQ(type, DWORD{REG_DWORD});
+    EXPECT_EQ(::RegGetValue(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers",
+                            L"negative", RRF_RT_REG_DWORD, nullptr, &value, &size),
+              ERROR_SUCCESS);
     EXPECT_EQ(static_cast<int>(value), -17);
     EXPECT_EQ(app->DelRegTree(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests"), ERROR_SUCCESS);
 }
@@ -124,13 +116,6 @@ TEST_F(Profile, LivesInAFileWithoutARegistryKey)
     // A byte is two letters, its low half first.
     EXPECT_EQ(app->GetProfileString(L"Data", L"bytes"), L"AABAPHAIPP");
     ::DeleteFile(file);
-}
-
-TEST_F(Application, MessageBoxesGoThroughTheApplication)
-{
-    EXPECT_EQ(AfxMessageBox(L"text", MB_RETRYCANCEL), IDRETRY);
-    EXPECT_EQ(app->m_boxText, L"text");
-    EXPECT_EQ(app->m_boxType, UINT{MB_RETRYCANCEL});
 }
 
 /// A window whose handlers fail.
@@ -162,7 +147,7 @@ END_MESSAGE_MAP()
 TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
 {
     CFailingWnd window;
-    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 50, 50), nullptr, 0));
+    ASSERT_TRUE(CreatePopup(window, nullptr, WS_VISIBLE));
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 1), TRUE); // handled, although it failed
     EXPECT_FALSE(app->m_boxText.IsEmpty());
 
@@ -205,8 +190,7 @@ protected:
     {
         if (app->m_pMainWnd != nullptr)
             app->m_pMainWnd->DestroyWindow();
-        MSG message;
-        ::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+        TakeQuitMessage();
     }
     CTestFrame* frame = nullptr;
 };
@@ -223,8 +207,7 @@ TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)
 {
     frame->SendMessage(WM_COMMAND, ID_APP_EXIT);
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
-    MSG message;
-    EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_TRUE(TakeQuitMessage());
 }
 
 TEST_F(Frame, MenuItemsShowTheStateOfTheirCommands)
@@ -244,14 +227,24 @@ TEST_F(Frame, DisablingItDisablesTheWindowsItOwns)
 {
     CWnd palette;
     CWnd alreadyDisabled;
-    ASSERT_TRUE(palette.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 20, 20), frame, 0));
-    ASSERT_TRUE(
-        alreadyDisabled.CreateEx(0, nullptr, L"", WS_POPUP | WS_DISABLED, CRect(0, 0, 20, 20), frame, 0));
+    ASSERT_TRUE(CreatePopup(palette, frame));
+    ASSERT_TRUE(CreatePopup(alreadyDisabled, frame, WS_DISABLED));
     frame->EnableWindow(FALSE);
     EXPECT_FALSE(palette.IsWindowEnabled());
     frame->EnableWindow(TRUE);
     EXPECT_TRUE(palette.IsWindowEnabled());
     EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
+}
+
+TEST_F(Frame, AFrameThatItOwnsStaysDisabledWhoeverEnablesIt)
+{
+    auto* const owned = new CFrameWnd; // goes with its owner
+    ASSERT_TRUE(owned->Create(nullptr, L"owned", WS_POPUP, CRect(0, 0, 50, 50), frame));
+    frame->EnableWindow(FALSE);
+    owned->EnableWindow(TRUE);
+    EXPECT_FALSE(owned->IsWindowEnabled());
+    frame->EnableWindow(TRUE);
+    EXPECT_TRUE(owned->IsWindowEnabled());
 }
 
 TEST_F(Frame, RunsUntilItsMainWindowIsClosed)
@@ -284,7 +277,7 @@ END_MESSAGE_MAP()
 TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
 {
     CIdleWnd child;
-    ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 10, 10), frame, 1));
+    ASSERT_TRUE(CreateChild(child, *frame, 1));
     EXPECT_TRUE(app->OnIdle(0));
     EXPECT_EQ(child.m_updates, 0); // the frame is hidden
     frame->ShowWindow(SW_SHOW);
@@ -355,16 +348,5 @@ TEST(DumpStack, PutsTheFramesOnTheClipboard)
     const std::string text = ClipboardText();
     EXPECT_NE(text.find("test_mfc_windows.exe"), std::string::npos);
     EXPECT_GE(std::count(text.begin(), text.end(), '\n'), 5);
-}
-
-TEST(DumpStack, ABusyClipboardIsNoFailure)
-{
-    CWnd holder;
-    ASSERT_TRUE(holder.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
-    ASSERT_TRUE(holder.OpenClipboard());
-    ::EmptyClipboard();
-    AfxDumpStack(AFX_STACK_DUMP_TARGET_CLIPBOARD);
-    EXPECT_EQ(::GetClipboardData(CF_TEXT), nullptr);
-    ::CloseClipboard();
 }
 } // namespace

@@ -1,5 +1,7 @@
 // Dialogs: results, the owner's state, keys, modeless life, handles.
 
+#include "TestWindows.h"
+
 #include <afxpriv.h>
 
 #include "DialogTemplate.h"
@@ -9,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace
 {
@@ -23,20 +26,28 @@ owtest::DialogTemplate Form()
         .Button(L"Cancel", IDCANCEL, 48, 40, 40, 14);
 }
 
-/// A modal dialog that does something as soon as it waits for its user.
-class CActionDialog : public CDialog
+/// A form that the system refuses to make.
+owtest::DialogTemplate BrokenForm()
+{
+    return owtest::DialogTemplate(L"", 50, 50).Item(L"NoSuchClass", L"", 1, 0, 0, 0, 10, 10);
+}
+
+/// A dialog with one text; shown as a modal one, it does something as soon as it waits for its user.
+class CTextDialog : public CDialog
 {
 public:
-    CActionDialog(const owtest::DialogTemplate& form, std::function<void(CActionDialog&)> action,
-                  CWnd* parent = nullptr)
-        : m_action(std::move(action))
+    using Action = std::function<void(CTextDialog&)>;
+
+    CTextDialog() = default;
+    CTextDialog(const owtest::DialogTemplate& form, Action action, CWnd* parent) : m_action(std::move(action))
     {
         InitModalIndirect(form.get(), parent);
     }
 
-    std::function<void(CActionDialog&)> m_onInit;
+    Action m_onInit;
     CString m_text;
     int m_shortest = 0; ///< characters below which the text is refused
+    int m_changesHeard = 0;
 
 protected:
     BOOL OnInitDialog() override
@@ -62,245 +73,225 @@ protected:
 
     afx_msg LRESULT OnKickIdle(WPARAM, LPARAM)
     {
-        if (const auto action = std::exchange(m_action, nullptr))
+        if (const Action action = std::exchange(m_action, nullptr))
             action(*this);
         return FALSE;
     }
+    afx_msg void OnChange() { ++m_changesHeard; }
     DECLARE_MESSAGE_MAP()
 
 private:
-    std::function<void(CActionDialog&)> m_action;
+    Action m_action;
 };
 
 // clang-format off
-BEGIN_MESSAGE_MAP(CActionDialog, CDialog)
-    ON_MESSAGE(WM_KICKIDLE, &CActionDialog::OnKickIdle)
+BEGIN_MESSAGE_MAP(CTextDialog, CDialog)
+    ON_MESSAGE(WM_KICKIDLE, &CTextDialog::OnKickIdle)
+    ON_EN_CHANGE(idEdit, &CTextDialog::OnChange)
 END_MESSAGE_MAP()
 // clang-format on
 
-BOOL CreateOwner(CWnd& owner)
+/// An owner that notes the commands which come to it.
+class COwner : public CWnd
 {
-    return owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 450, 350),
-                          nullptr, 0);
-}
+public:
+    UINT m_command = 0;
 
-TEST(ModalDialog, DisablesItsOwnerWhileItIsOpen)
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
+    {
+        if (nCode == CN_COMMAND)
+            m_command = nID;
+        return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    }
+};
+
+struct Dialog : testing::Test
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
-    bool enabledDuring = true;
-    bool visibleDuring = false;
-    CActionDialog dialog(
+    void SetUp() override
+    {
+        ASSERT_TRUE(owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                                   CRect(50, 50, 450, 350), nullptr, 0));
+    }
+
+    COwner owner;
+    const owtest::DialogTemplate form = Form();
+};
+
+struct ModalDialog : Dialog
+{
+    void TearDown() override { EXPECT_TRUE(owner.IsWindowEnabled()) << "after the dialog"; }
+
+    INT_PTR Show(CTextDialog::Action action, CWnd* parent = nullptr)
+    {
+        return CTextDialog(form, std::move(action), parent ? parent : &owner).DoModal();
+    }
+};
+
+TEST_F(ModalDialog, DisablesItsOwnerWhileItIsOpen)
+{
+    CTextDialog dialog(
         form,
-        [&](CActionDialog& self)
+        [&](CTextDialog& self)
         {
-            enabledDuring = owner.IsWindowEnabled();
-            visibleDuring = self.IsWindowVisible();
-            EXPECT_EQ(::GetWindow(self, GW_OWNER), owner.m_hWnd);
+            EXPECT_FALSE(owner.IsWindowEnabled());
+            EXPECT_TRUE(self.IsWindowVisible());
             self.EndDialog(17);
         },
         &owner);
     EXPECT_EQ(dialog.DoModal(), 17);
-    EXPECT_FALSE(enabledDuring);
-    EXPECT_TRUE(visibleDuring);
-    EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(dialog.m_hWnd, nullptr);
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
 }
 
-TEST(ModalDialog, LeavesAnOwnerDisabledThatWasSoBefore)
+TEST_F(ModalDialog, LeavesAnOwnerDisabledThatWasSoBefore)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
     owner.EnableWindow(FALSE);
-    const auto form = Form();
-    CActionDialog dialog(
-        form, [](CActionDialog& self) { self.EndDialog(1); }, &owner);
-    EXPECT_EQ(dialog.DoModal(), 1);
+    EXPECT_EQ(Show([](CTextDialog& self) { self.EndDialog(1); }), 1);
     EXPECT_FALSE(owner.IsWindowEnabled());
+    owner.EnableWindow(TRUE);
 }
 
-TEST(ModalDialog, IsOwnedByTheTopLevelWindowOfAChild)
+TEST_F(ModalDialog, IsOwnedByTheTopLevelWindowOfAChild)
 {
-    CWnd owner;
     CWnd child;
-    ASSERT_TRUE(CreateOwner(owner));
-    ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &owner, 1));
-    const auto form = Form();
-    CActionDialog dialog(
-        form,
-        [&](CActionDialog& self)
+    ASSERT_TRUE(CreateChild(child, owner, 1));
+    HWND actual = nullptr;
+    Show(
+        [&](CTextDialog& self)
         {
-            EXPECT_EQ(::GetWindow(self, GW_OWNER), owner.m_hWnd);
+            actual = ::GetWindow(self, GW_OWNER);
             EXPECT_FALSE(owner.IsWindowEnabled());
             self.EndDialog(1);
         },
         &child);
-    dialog.DoModal();
-    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(actual, owner.m_hWnd);
 }
 
-TEST(ModalDialog, EnterSavesAndEscapeCancels)
+TEST_F(ModalDialog, EnterSavesAndEscapeCancels)
 {
-    const auto form = Form();
-    CActionDialog confirmed(form,
-                            [](CActionDialog& self)
-                            {
-                                ASSERT_TRUE(owtest::Activate(self));
-                                owtest::Type(L"abc");
-                                owtest::Press(VK_RETURN);
-                            });
-    EXPECT_EQ(confirmed.DoModal(), IDOK);
-    EXPECT_EQ(confirmed.m_text, L"abc");
-
-    CActionDialog cancelled(form,
-                            [](CActionDialog& self)
-                            {
-                                ASSERT_TRUE(owtest::Activate(self));
-                                owtest::Type(L"abc");
-                                owtest::Press(VK_ESCAPE);
-                            });
-    cancelled.m_text = L"kept";
-    EXPECT_EQ(cancelled.DoModal(), IDCANCEL);
-    EXPECT_EQ(cancelled.m_text, L"kept");
+    for (const auto& [key, result] : {std::pair<WORD, INT_PTR>(VK_RETURN, IDOK), {VK_ESCAPE, IDCANCEL}})
+    {
+        CTextDialog dialog(
+            form,
+            [key](CTextDialog& self)
+            {
+                ASSERT_TRUE(owtest::Activate(self));
+                owtest::Type(L"abc");
+                owtest::Press(key);
+            },
+            &owner);
+        dialog.m_text = L"before";
+        EXPECT_EQ(dialog.DoModal(), result);
+        EXPECT_EQ(dialog.m_text, result == IDOK ? L"abc" : L"before");
+    }
 }
 
-TEST(ModalDialog, StaysOpenWhenAValueIsRefused)
+TEST_F(ModalDialog, StaysOpenWhenAValueIsRefused)
 {
-    const auto form = Form();
-    CActionDialog dialog(form,
-                         [](CActionDialog& self)
-                         {
-                             ASSERT_TRUE(owtest::Activate(self));
-                             self.GetDlgItem(IDOK)->SetFocus();
-                             self.SendMessage(WM_COMMAND, IDOK);
-                             EXPECT_TRUE(self.ContinueModal());
-                             EXPECT_EQ(::GetFocus(), ::GetDlgItem(self, idEdit)); // the refused control
-                             self.SetDlgItemText(idEdit, L"long enough");
-                             self.SendMessage(WM_COMMAND, IDOK);
-                         });
+    CTextDialog dialog(
+        form,
+        [](CTextDialog& self)
+        {
+            ASSERT_TRUE(owtest::Activate(self));
+            self.GetDlgItem(IDOK)->SetFocus();
+            self.SendMessage(WM_COMMAND, IDOK);
+            EXPECT_TRUE(self.ContinueModal());
+            EXPECT_EQ(::GetFocus(), ::GetDlgItem(self, idEdit)) << "the refused control";
+            self.SetDlgItemText(idEdit, L"long enough");
+            self.SendMessage(WM_COMMAND, IDOK);
+        },
+        &owner);
     dialog.m_shortest = 3;
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.m_text, L"long enough");
 }
 
-TEST(ModalDialog, EscapeInAMultilineEditCancelsAsElsewhere)
+TEST_F(ModalDialog, EscapeInAMultilineEditCancelsAsElsewhere)
 {
-    auto form = owtest::DialogTemplate(L"Form", 120, 60)
-                    .Edit(idEdit, 4, 4, 100, 12)
-                    .Edit(idMemo, 4, 20, 100, 30, ES_MULTILINE | ES_WANTRETURN);
-    CActionDialog dialog(form,
-                         [](CActionDialog& self)
-                         {
-                             ASSERT_TRUE(owtest::Activate(self));
-                             self.GetDlgItem(idMemo)->SetFocus();
-                             owtest::Press(VK_ESCAPE);
-                         });
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL); // there is no Cancel button at all
+    const auto withoutCancel = owtest::DialogTemplate(L"Form", 120, 60)
+                                   .Edit(idEdit, 4, 4, 100, 12)
+                                   .Edit(idMemo, 4, 20, 100, 30, ES_MULTILINE | ES_WANTRETURN);
+    CTextDialog dialog(
+        withoutCancel,
+        [](CTextDialog& self)
+        {
+            ASSERT_TRUE(owtest::Activate(self));
+            self.GetDlgItem(idMemo)->SetFocus();
+            owtest::Press(VK_ESCAPE);
+        },
+        &owner);
+    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
 }
 
-TEST(ModalDialog, MayEndBeforeItIsShown)
+TEST_F(ModalDialog, MayEndBeforeItIsShown)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
-    bool ran = false;
-    CActionDialog dialog(
-        form, [&](CActionDialog&) { ran = true; }, &owner);
-    dialog.m_onInit = [](CActionDialog& self) { self.EndDialog(23); };
+    CTextDialog dialog(
+        form, [](CTextDialog&) { ADD_FAILURE() << "it waits for its user"; }, &owner);
+    dialog.m_onInit = [](CTextDialog& self) { self.EndDialog(23); };
     EXPECT_EQ(dialog.DoModal(), 23);
-    EXPECT_FALSE(ran);
-    EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(dialog.m_hWnd, nullptr);
 }
 
-TEST(ModalDialog, MayBeDestroyedFromWithin)
+TEST_F(ModalDialog, MayBeDestroyedFromWithin)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
-    CActionDialog dialog(
-        form, [](CActionDialog& self) { self.DestroyWindow(); }, &owner);
-    EXPECT_EQ(dialog.DoModal(), -1);
-    EXPECT_TRUE(owner.IsWindowEnabled());
+    EXPECT_EQ(Show([](CTextDialog& self) { self.DestroyWindow(); }), -1);
 }
 
-TEST(ModalDialog, AMissingTemplateAnswersMinusOne)
+TEST_F(ModalDialog, ATemplateThatIsMissingOrBrokenAnswersMinusOne)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
     CDialog byId(4999u, &owner);
     EXPECT_EQ(byId.DoModal(), -1);
     CDialog byName(L"no_such_dialog", &owner);
     EXPECT_EQ(byName.DoModal(), -1);
-    EXPECT_TRUE(owner.IsWindowEnabled());
 
-    const auto form = owtest::DialogTemplate(L"", 50, 50).Item(L"NoSuchClass", L"", 1, 0, 0, 0, 10, 10);
+    const auto broken = BrokenForm();
     CDialog unknownControl;
-    unknownControl.InitModalIndirect(form.get(), &owner);
+    unknownControl.InitModalIndirect(broken.get(), &owner);
     EXPECT_EQ(unknownControl.DoModal(), -1);
-    EXPECT_TRUE(owner.IsWindowEnabled());
 }
 
-TEST(ModalDialog, AQuitMessageEndsTheLoopAndIsPassedOn)
+TEST_F(ModalDialog, AQuitMessageEndsTheLoopAndIsPassedOn)
 {
-    const auto form = Form();
-    CActionDialog dialog(form, [](CActionDialog&) { ::PostQuitMessage(5); });
-    EXPECT_EQ(dialog.DoModal(), -1);
-    MSG message;
-    EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(Show([](CTextDialog&) { ::PostQuitMessage(5); }), -1);
+    EXPECT_TRUE(TakeQuitMessage());
 }
 
-TEST(ModalDialog, NestsWithEachOwnerDisabled)
+TEST_F(ModalDialog, NestsWithEachOwnerDisabled)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
-    INT_PTR innerResult = 0;
-    CActionDialog outer(
-        form,
-        [&](CActionDialog& self)
-        {
-            CActionDialog inner(
-                form,
-                [&](CActionDialog& innermost)
-                {
-                    EXPECT_FALSE(self.IsWindowEnabled());
-                    EXPECT_FALSE(owner.IsWindowEnabled());
-                    innermost.EndDialog(2);
-                },
-                &self);
-            innerResult = inner.DoModal();
-            EXPECT_TRUE(self.IsWindowEnabled());
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            self.EndDialog(1);
-        },
-        &owner);
-    EXPECT_EQ(outer.DoModal(), 1);
-    EXPECT_EQ(innerResult, 2);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-}
-
-TEST(ModalDialog, LeavesNothingBehindAfterAHundredTimes)
-{
-    const auto form = Form();
-    const auto open = [&form]
+    const auto showInner = [&](CTextDialog& outer)
     {
-        CActionDialog dialog(form, [](CActionDialog& self) { self.EndDialog(IDOK); });
-        dialog.DoModal();
-        AfxGetThread()->OnIdle(1);
+        const auto lookAround = [&](CTextDialog& inner)
+        {
+            EXPECT_FALSE(outer.IsWindowEnabled());
+            EXPECT_FALSE(owner.IsWindowEnabled());
+            inner.EndDialog(2);
+        };
+        EXPECT_EQ(Show(lookAround, &outer), 2);
+        EXPECT_TRUE(outer.IsWindowEnabled());
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        outer.EndDialog(1);
+    };
+    EXPECT_EQ(Show(showInner), 1);
+}
+
+TEST_F(ModalDialog, LeavesNothingBehind)
+{
+    const auto open = [&]
+    {
+        Show([](CTextDialog& self) { self.EndDialog(IDOK); });
+        AfxGetThread()->OnIdle(1); // where temporary objects go
     };
     for (int warmUp = 0; warmUp < 3; ++warmUp)
         open();
     const owtest::HandleCount before = owtest::CountHandles();
-    for (int round = 0; round < 100; ++round)
+    for (int round = 0; round < 20; ++round)
         open();
     const owtest::HandleCount after = owtest::CountHandles();
     EXPECT_EQ(after.windows, before.windows);
     EXPECT_EQ(after.gdi, before.gdi);
 }
 
+/// Deletes itself with its window, and is counted.
 class CModelessDialog : public CDialog
 {
 public:
@@ -313,12 +304,9 @@ protected:
     int& m_alive;
 };
 
-TEST(ModelessDialog, LivesBesideTheOthersAndDeletesItself)
+TEST_F(Dialog, AModelessOneLivesBesideTheOthersAndDeletesItself)
 {
     int alive = 0;
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
     auto* const dialog = new CModelessDialog(alive);
     ASSERT_TRUE(dialog->CreateIndirect(form.get(), &owner));
     dialog->ShowWindow(SW_SHOW);
@@ -330,102 +318,56 @@ TEST(ModelessDialog, LivesBesideTheOthersAndDeletesItself)
     EXPECT_EQ(alive, 0);
 }
 
-TEST(ModelessDialog, ATemplateThatCannotBeMadeDeletesTheObjectAsAnEndWould)
+TEST_F(Dialog, ATemplateThatCannotBeMadeDeletesTheObjectAsAnEndWould)
 {
     int alive = 0;
-    const auto form = owtest::DialogTemplate(L"", 50, 50).Item(L"NoSuchClass", L"", 1, 0, 0, 0, 10, 10);
-    EXPECT_FALSE((new CModelessDialog(alive))->CreateIndirect(form.get()));
+    const auto broken = BrokenForm();
+    EXPECT_FALSE((new CModelessDialog(alive))->CreateIndirect(broken.get()));
     EXPECT_EQ(alive, 0);
 }
 
-TEST(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
+TEST_F(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
 {
-    CWnd owner;
-    ASSERT_TRUE(CreateOwner(owner));
     CRect ownerRect;
     owner.GetWindowRect(&ownerRect);
-    const auto centreOf = [&](const owtest::DialogTemplate& form, std::function<void(CActionDialog&)> onInit)
+    const auto isCentred = [&](const owtest::DialogTemplate& shown, CTextDialog::Action onInit)
     {
-        CPoint centre(0, 0);
-        CActionDialog dialog(
-            form,
-            [&](CActionDialog& self)
-            {
-                CRect rect;
-                self.GetWindowRect(&rect);
-                centre = rect.CenterPoint();
-                self.EndDialog(1);
-            },
-            &owner);
+        CRect rect;
+        const auto look = [&](CTextDialog& self)
+        {
+            self.GetWindowRect(&rect);
+            self.EndDialog(1);
+        };
+        CTextDialog dialog(shown, look, &owner);
         dialog.m_onInit = std::move(onInit);
         dialog.DoModal();
-        return centre;
+        const CSize off = rect.CenterPoint() - ownerRect.CenterPoint();
+        return abs(off.cx) <= 1 && abs(off.cy) <= 1;
     };
-    const auto isNear = [](CPoint a, CPoint b) { return abs(a.x - b.x) <= 1 && abs(a.y - b.y) <= 1; };
-
-    EXPECT_TRUE(isNear(centreOf(Form(), nullptr), ownerRect.CenterPoint()));
-    EXPECT_FALSE(isNear(centreOf(Form().Style(WS_POPUP | WS_CAPTION | DS_ABSALIGN).Position(2, 2), nullptr),
-                        ownerRect.CenterPoint()));
-    EXPECT_FALSE(isNear(centreOf(Form(), [](CActionDialog& self) { self.MoveWindow(0, 0, 100, 100); }),
-                        ownerRect.CenterPoint()));
+    EXPECT_TRUE(isCentred(form, nullptr));
+    EXPECT_FALSE(isCentred(Form().Style(WS_POPUP | WS_CAPTION | DS_ABSALIGN).Position(2, 2), nullptr));
+    EXPECT_FALSE(isCentred(form, [](CTextDialog& self) { self.MoveWindow(0, 0, 100, 100); }));
 }
 
-TEST(Dialog, HandsCommandsOfTheProgramToItsOwner)
+TEST_F(Dialog, HandsCommandsOfTheProgramToItsOwner)
 {
-    class COwner : public CWnd
-    {
-    public:
-        UINT m_command = 0;
-        BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
-        {
-            if (nCode == CN_COMMAND)
-                m_command = nID;
-            return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
-        }
-    } owner;
-    ASSERT_TRUE(CreateOwner(owner));
-    const auto form = Form();
     CDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(form.get(), &owner));
     dialog.SendMessage(WM_COMMAND, 0x8001);
     EXPECT_EQ(owner.m_command, 0x8001u);
     owner.m_command = 0;
-    dialog.SendMessage(WM_COMMAND, idEdit); // an id of the dialog's own
-    EXPECT_EQ(owner.m_command, 0u);
+    dialog.SendMessage(WM_COMMAND, idMemo);
+    EXPECT_EQ(owner.m_command, 0u) << "an id of the dialog's own";
 }
 
-/// Hears the edit control change.
-class CHearingDialog : public CDialog
+TEST_F(Dialog, DoesNotHearItsOwnDataExchange)
 {
-public:
-    int m_heard = 0;
-    CString m_text = L"from the member";
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override
-    {
-        const HWND edit = exchange->PrepareEditCtrl(idEdit);
-        if (!exchange->m_bSaveAndValidate)
-            ::SetWindowText(edit, m_text);
-    }
-    afx_msg void OnChange() { ++m_heard; }
-    DECLARE_MESSAGE_MAP()
-};
-
-// clang-format off
-BEGIN_MESSAGE_MAP(CHearingDialog, CDialog)
-    ON_EN_CHANGE(idEdit, &CHearingDialog::OnChange)
-END_MESSAGE_MAP()
-// clang-format on
-
-TEST(Dialog, DoesNotHearItsOwnDataExchange)
-{
-    const auto form = Form();
-    CHearingDialog dialog;
+    CTextDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(form.get()));
+    dialog.m_text = L"from the member";
     dialog.UpdateData(FALSE);
-    EXPECT_EQ(dialog.m_heard, 0);
+    EXPECT_EQ(dialog.m_changesHeard, 0);
     dialog.SetDlgItemText(idEdit, L"by the program");
-    EXPECT_EQ(dialog.m_heard, 1);
+    EXPECT_EQ(dialog.m_changesHeard, 1);
 }
 } // namespace

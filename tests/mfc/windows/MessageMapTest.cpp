@@ -1,7 +1,6 @@
 // Message maps: dispatch by signature, reflection before the parent, commands, notifications and ranges.
 
-#include <afxwin.h>
-#include <afxpriv.h>
+#include "TestWindows.h"
 
 #include <gtest/gtest.h>
 
@@ -10,88 +9,79 @@
 
 namespace
 {
-constexpr UINT idPlain = 101;   // reflected by ON_CONTROL_REFLECT, which ends the routing
-constexpr UINT idTaker = 102;   // reflected by the _EX form, answers TRUE
-constexpr UINT idSharer = 103;  // reflected by the _EX form, answers FALSE
+constexpr UINT idTaker = 102;   // an object whose _EX handlers answer TRUE
+constexpr UINT idSharer = 103;  // an object whose _EX handlers answer FALSE
 constexpr UINT idForeign = 104; // no object
 constexpr UINT idRangeFirst = 110;
 constexpr UINT idRangeLast = 119;
 constexpr UINT codeNotify = 0xFFFFFF00u; // NM_ codes are negative
+constexpr UINT cmdEx = 40001;
+constexpr UINT cmdMenu = 40002;
 
 using Trace = std::vector<std::string>;
 Trace trace;
 
+/// Enters a word and its numbers, as "size 2 640 480".
+template <class... Numbers>
+void Enter(std::string word, Numbers... numbers)
+{
+    ((word += ' ' + std::to_string(numbers)), ...);
+    trace.push_back(word);
+}
+
 UINT registeredMessage = ::RegisterWindowMessage(L"DialogControlsOW.Test.Registered");
 
-/// A control that reflects what its parent receives from it. `answer` is that of its _EX handlers.
+/// A control that reflects what its parent receives from it: clicks by the _EX form with the given answer,
+/// double clicks by the plain form.
 class CProbe : public CWnd
 {
 public:
-    explicit CProbe(BOOL answer = TRUE) : m_answer(answer) {}
+    explicit CProbe(BOOL answer) : m_answer(answer) {}
     BOOL m_answer;
     HBRUSH m_brush = nullptr;
-    int m_mapped = 0;
 
 protected:
     afx_msg BOOL OnReflectedClick()
     {
-        trace.push_back("control");
+        Enter("control");
         return m_answer;
     }
+    afx_msg void OnReflectedDoubleClick() { Enter("control"); }
     afx_msg BOOL OnReflectedNotify(NMHDR*, LRESULT* result)
     {
-        trace.push_back("control");
+        Enter("control");
         *result = 7;
         return m_answer;
     }
     afx_msg HBRUSH CtlColor(CDC*, UINT type)
     {
-        m_mapped = static_cast<int>(type);
+        Enter("control's colour", type);
         return m_brush;
     }
-    afx_msg void DrawItem(LPDRAWITEMSTRUCT item) { trace.push_back("draw " + std::to_string(item->itemID)); }
+    afx_msg void DrawItem(LPDRAWITEMSTRUCT item) { Enter("draw", item->itemID); }
     afx_msg void MeasureItem(LPMEASUREITEMSTRUCT item) { item->itemHeight = 33; }
-    afx_msg int CompareItem(LPCOMPAREITEMSTRUCT item) { return item->itemData1 < item->itemData2 ? -1 : 1; }
-    afx_msg void DeleteItem(LPDELETEITEMSTRUCT) { trace.push_back("delete"); }
     afx_msg int VKeyToItem(UINT key, UINT index) { return static_cast<int>(key * 100 + index); }
-    afx_msg void HScroll(UINT code, UINT position)
-    {
-        trace.push_back("scroll " + std::to_string(code) + " " + std::to_string(position));
-    }
+    afx_msg void HScroll(UINT code, UINT position) { Enter("scroll", code, position); }
     DECLARE_MESSAGE_MAP()
 };
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CProbe, CWnd)
     ON_CONTROL_REFLECT_EX(BN_CLICKED, &CProbe::OnReflectedClick)
+    ON_CONTROL_REFLECT(BN_DOUBLECLICKED, &CProbe::OnReflectedDoubleClick)
     ON_NOTIFY_REFLECT_EX(codeNotify, &CProbe::OnReflectedNotify)
     ON_WM_CTLCOLOR_REFLECT()
     ON_WM_DRAWITEM_REFLECT()
     ON_WM_MEASUREITEM_REFLECT()
-    ON_WM_COMPAREITEM_REFLECT()
-    ON_WM_DELETEITEM_REFLECT()
     ON_WM_VKEYTOITEM_REFLECT()
     ON_WM_HSCROLL_REFLECT()
-END_MESSAGE_MAP()
-// clang-format on
-
-class CPlainProbe : public CWnd
-{
-protected:
-    afx_msg void OnReflectedClick() { trace.push_back("control"); }
-    DECLARE_MESSAGE_MAP()
-};
-
-// clang-format off
-BEGIN_MESSAGE_MAP(CPlainProbe, CWnd)
-    ON_CONTROL_REFLECT(BN_CLICKED, &CPlainProbe::OnReflectedClick)
 END_MESSAGE_MAP()
 // clang-format on
 
 class CParentBase : public CWnd
 {
 protected:
-    afx_msg void OnBaseClick() { trace.push_back("base"); }
+    afx_msg void OnBaseClick() { Enter("base"); }
     afx_msg LRESULT OnUser(WPARAM w, LPARAM l) { return static_cast<LRESULT>(w) * 10 + l; }
     DECLARE_MESSAGE_MAP()
 };
@@ -108,62 +98,51 @@ class CParent : public CParentBase
 public:
     BOOL m_answer = TRUE;
     BOOL m_enabled = TRUE;
-    UINT m_sizeType = 99;
-    CSize m_size{0, 0};
-    CPoint m_mouse{0, 0};
-    short m_wheel = 0;
-    UINT_PTR m_timer = 0;
-    int m_colorType = -1;
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
     {
-        trace.push_back("OnCommand");
+        Enter("OnCommand");
         return CParentBase::OnCommand(wParam, lParam);
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
         if (static_cast<UINT>(nCode) != CN_UPDATE_COMMAND_UI)
-            trace.push_back("OnCmdMsg");
+            Enter("OnCmdMsg");
         return CParentBase::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
 
 protected:
-    afx_msg void OnClick() { trace.push_back("parent"); }
-    afx_msg void OnRange(UINT id) { trace.push_back("range " + std::to_string(id)); }
+    afx_msg void OnClick() { Enter("parent"); }
+    afx_msg void OnRange(UINT id) { Enter("range", id); }
     afx_msg BOOL OnCommandEx(UINT id)
     {
-        trace.push_back("ex " + std::to_string(id));
+        Enter("ex", id);
         return m_answer;
     }
     afx_msg void OnNotifyPlain(NMHDR*, LRESULT* result)
     {
-        trace.push_back("parent");
+        Enter("parent");
         *result = 5;
     }
     afx_msg void OnNotifyRange(UINT id, NMHDR*, LRESULT* result)
     {
-        trace.push_back("notify range " + std::to_string(id));
+        Enter("notify range", id);
         *result = 6;
     }
-    afx_msg void OnMenuCommand() { trace.push_back("menu"); }
+    afx_msg void OnMenuCommand() { Enter("menu"); }
     afx_msg void OnUpdateMenuCommand(CCmdUI* item) { item->Enable(m_enabled); }
     afx_msg LRESULT OnRegistered(WPARAM w, LPARAM) { return static_cast<LRESULT>(w) + 1; }
-    afx_msg void OnSize(UINT type, int cx, int cy)
-    {
-        m_sizeType = type;
-        m_size = CSize(cx, cy);
-    }
-    afx_msg void OnMouseMove(UINT, CPoint point) { m_mouse = point; }
+    afx_msg void OnSize(UINT type, int cx, int cy) { Enter("size", type, cx, cy); }
+    afx_msg void OnMouseMove(UINT, CPoint point) { Enter("move", point.x, point.y); }
     afx_msg BOOL OnMouseWheel(UINT, short delta, CPoint point)
     {
-        m_wheel = delta;
-        m_mouse = point;
+        Enter("wheel", delta, point.x, point.y);
         return TRUE;
     }
-    afx_msg void OnTimer(UINT_PTR id) { m_timer = id; }
+    afx_msg void OnTimer(UINT_PTR id) { Enter("timer", id); }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type)
     {
-        m_colorType = static_cast<int>(type);
+        Enter("parent's colour", type);
         return CParentBase::OnCtlColor(dc, control, type);
     }
     DECLARE_MESSAGE_MAP()
@@ -176,14 +155,14 @@ BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_MOUSEWHEEL()
     ON_WM_TIMER()
     ON_WM_CTLCOLOR()
-    ON_BN_CLICKED(idPlain, &CParent::OnClick)
     ON_BN_CLICKED(idTaker, &CParent::OnClick)
     ON_BN_CLICKED(idSharer, &CParent::OnClick)
+    ON_BN_DOUBLECLICKED(idSharer, &CParent::OnClick)
     ON_CONTROL_RANGE(EN_CHANGE, idRangeFirst, idRangeLast, &CParent::OnRange)
-    ON_COMMAND_EX(40001, &CParent::OnCommandEx)
+    ON_COMMAND_EX(cmdEx, &CParent::OnCommandEx)
     ON_COMMAND_RANGE(40010, 40019, &CParent::OnRange)
-    ON_COMMAND(40002, &CParent::OnMenuCommand)
-    ON_UPDATE_COMMAND_UI(40002, &CParent::OnUpdateMenuCommand)
+    ON_COMMAND(cmdMenu, &CParent::OnMenuCommand)
+    ON_UPDATE_COMMAND_UI(cmdMenu, &CParent::OnUpdateMenuCommand)
     ON_NOTIFY(codeNotify, idTaker, &CParent::OnNotifyPlain)
     ON_NOTIFY(codeNotify, idSharer, &CParent::OnNotifyPlain)
     ON_NOTIFY_RANGE(codeNotify, idRangeFirst, idRangeLast, &CParent::OnNotifyRange)
@@ -196,25 +175,25 @@ class MessageMap : public ::testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(
-            parent.CreateEx(0, nullptr, L"parent", WS_OVERLAPPEDWINDOW, CRect(0, 0, 200, 100), nullptr, 0));
-        MakeChild(plain, idPlain);
-        MakeChild(taker, idTaker);
-        MakeChild(sharer, idSharer);
+        ASSERT_TRUE(CreatePopup(parent));
+        ASSERT_TRUE(CreateChild(taker, parent, idTaker));
+        ASSERT_TRUE(CreateChild(sharer, parent, idSharer));
         foreign = ::CreateWindow(L"Static", L"", WS_CHILD, 0, 0, 10, 10, parent,
                                  reinterpret_cast<HMENU>(idForeign), nullptr, nullptr);
         trace.clear();
     }
 
-    void MakeChild(CWnd& child, UINT id)
+    /// Sends a message to the parent whose long parameter is a structure.
+    template <class Structure>
+    LRESULT Send(UINT message, WPARAM wParam, Structure& structure)
     {
-        ASSERT_TRUE(child.Create(L"Static", L"", WS_CHILD, CRect(0, 0, 10, 10), &parent, id));
+        return parent.SendMessage(message, wParam, reinterpret_cast<LPARAM>(&structure));
     }
 
-    Trace Click(HWND control)
+    Trace Click(HWND control, WORD code = BN_CLICKED)
     {
         trace.clear();
-        parent.SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), BN_CLICKED),
+        parent.SendMessage(WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code),
                            reinterpret_cast<LPARAM>(control));
         return trace;
     }
@@ -223,11 +202,10 @@ protected:
     {
         trace.clear();
         NMHDR header{control, static_cast<UINT_PTR>(::GetDlgCtrlID(control)), codeNotify};
-        return parent.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+        return Send(WM_NOTIFY, header.idFrom, header);
     }
 
     CParent parent;
-    CPlainProbe plain;
     CProbe taker{TRUE};
     CProbe sharer{FALSE};
     HWND foreign = nullptr;
@@ -235,20 +213,19 @@ protected:
 
 TEST_F(MessageMap, AControlSeesItsCommandBeforeTheParentAndDecidesWhetherThatSeesIt)
 {
-    EXPECT_EQ(Click(plain), (Trace{"OnCommand", "control"}));
     EXPECT_EQ(Click(taker), (Trace{"OnCommand", "control"}));
     EXPECT_EQ(Click(sharer), (Trace{"OnCommand", "control", "OnCmdMsg", "parent"}));
-    EXPECT_EQ(Click(foreign), (Trace{"OnCommand", "OnCmdMsg", "base"})); // by the map of the base class
+    EXPECT_EQ(Click(sharer, BN_DOUBLECLICKED), (Trace{"OnCommand", "control"}))
+        << "without _EX it ends there";
+    EXPECT_EQ(Click(foreign), (Trace{"OnCommand", "OnCmdMsg", "base"})) << "by the map of the base class";
 }
 
 TEST_F(MessageMap, ANotificationIsAnsweredByWhoTookIt)
 {
     EXPECT_EQ(Notify(taker), 7);
     EXPECT_EQ(trace, (Trace{"control"}));
-
     EXPECT_EQ(Notify(sharer), 5);
     EXPECT_EQ(trace, (Trace{"control", "OnCmdMsg", "parent"}));
-
     EXPECT_EQ(Notify(foreign), 0);
     EXPECT_EQ(trace, (Trace{"OnCmdMsg"}));
 }
@@ -257,8 +234,8 @@ TEST_F(MessageMap, RangesIncludeBothEndsAndPassTheId)
 {
     CWnd first;
     CWnd beyond;
-    MakeChild(first, idRangeFirst);
-    MakeChild(beyond, idRangeLast + 1);
+    ASSERT_TRUE(CreateChild(first, parent, idRangeFirst));
+    ASSERT_TRUE(CreateChild(beyond, parent, idRangeLast + 1));
     EXPECT_EQ(Notify(first), 6);
     EXPECT_EQ(trace.back(), "notify range 110");
     EXPECT_EQ(Notify(beyond), 0);
@@ -277,26 +254,26 @@ TEST_F(MessageMap, RangesIncludeBothEndsAndPassTheId)
 
 TEST_F(MessageMap, AnExHandlerThatAnswersFalseLeavesTheCommandUnhandled)
 {
-    EXPECT_TRUE(parent.SendMessage(WM_COMMAND, 40001));
+    EXPECT_TRUE(parent.SendMessage(WM_COMMAND, cmdEx));
     parent.m_answer = FALSE;
-    EXPECT_FALSE(parent.SendMessage(WM_COMMAND, 40001));
+    EXPECT_FALSE(parent.SendMessage(WM_COMMAND, cmdEx));
     EXPECT_EQ(trace.back(), "ex 40001");
 }
 
 TEST_F(MessageMap, ADisabledCommandDoesNotRun)
 {
     parent.m_enabled = FALSE; // an accelerator comes whatever the menu shows
-    parent.SendMessage(WM_COMMAND, 40002);
+    parent.SendMessage(WM_COMMAND, cmdMenu);
     EXPECT_EQ(trace, (Trace{"OnCommand"}));
     parent.m_enabled = TRUE;
-    parent.SendMessage(WM_COMMAND, 40002);
+    parent.SendMessage(WM_COMMAND, cmdMenu);
     EXPECT_EQ(trace.back(), "menu");
 }
 
 TEST_F(MessageMap, LookingForAHandlerDoesNotRunIt)
 {
     AFX_CMDHANDLERINFO info{};
-    EXPECT_TRUE(parent.OnCmdMsg(40002, CN_COMMAND, nullptr, &info));
+    EXPECT_TRUE(parent.OnCmdMsg(cmdMenu, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &parent);
     EXPECT_EQ(trace, (Trace{"OnCmdMsg"}));
     EXPECT_FALSE(parent.OnCmdMsg(40099, CN_COMMAND, nullptr, &info));
@@ -310,104 +287,48 @@ TEST_F(MessageMap, MessagesOfTheProgramReachTheirHandlers)
     EXPECT_EQ(parent.SendMessage(::RegisterWindowMessage(L"DialogControlsOW.Test.Other"), 8), 0);
 }
 
-TEST_F(MessageMap, ParametersAreUnpackedWithTheirSigns)
+TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
 {
     parent.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 480));
-    EXPECT_EQ(parent.m_sizeType, UINT{SIZE_MAXIMIZED});
-    EXPECT_EQ(parent.m_size, CSize(640, 480));
-
     parent.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(-3, -4));
-    EXPECT_EQ(parent.m_mouse, CPoint(-3, -4));
-
     parent.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5));
-    EXPECT_EQ(parent.m_wheel, -WHEEL_DELTA);
-    EXPECT_EQ(parent.m_mouse, CPoint(-1, 5));
-
-    const UINT_PTR wide = 0x100000001ull;
-    parent.SendMessage(WM_TIMER, wide);
-    EXPECT_EQ(parent.m_timer, wide);
+    parent.SendMessage(WM_TIMER, UINT_PTR{0x100000001});
+    EXPECT_EQ(trace, (Trace{"size 2 640 480", "move -3 -4", "wheel -120 -1 5", "timer 4294967297"}));
 }
 
 TEST_F(MessageMap, ColoursComeFromTheControlAndElseFromTheDefault)
 {
     CClientDC dc(&parent);
-    const auto ask = [&](UINT message, CWnd& control)
-    {
-        return reinterpret_cast<HBRUSH>(parent.SendMessage(message, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                           reinterpret_cast<LPARAM>(control.m_hWnd)));
-    };
+    const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
     CBrush brush(RGB(1, 2, 3));
     taker.m_brush = brush;
-    EXPECT_EQ(ask(WM_CTLCOLORSTATIC, taker), static_cast<HBRUSH>(brush));
-    EXPECT_EQ(parent.m_colorType, CTLCOLOR_STATIC); // the parent's handler asks the control
-    EXPECT_EQ(taker.m_mapped, CTLCOLOR_STATIC);
+    EXPECT_EQ(parent.SendMessage(WM_CTLCOLORSTATIC, context, reinterpret_cast<LPARAM>(taker.m_hWnd)),
+              reinterpret_cast<LRESULT>(brush.m_hObject));
+    EXPECT_EQ(trace, (Trace{"parent's colour 6", "control's colour 6"})) << "both are told CTLCOLOR_STATIC";
 
-    const auto inherited =
-        reinterpret_cast<HBRUSH>(::DefWindowProc(parent, WM_CTLCOLOREDIT, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                 reinterpret_cast<LPARAM>(sharer.m_hWnd)));
-    EXPECT_EQ(ask(WM_CTLCOLOREDIT, sharer), inherited); // a null brush leaves the choice to the parent
-    EXPECT_EQ(sharer.m_mapped, CTLCOLOR_EDIT);
+    const auto control = reinterpret_cast<LPARAM>(sharer.m_hWnd);
+    EXPECT_EQ(parent.SendMessage(WM_CTLCOLOREDIT, context, control),
+              ::DefWindowProc(parent, WM_CTLCOLOREDIT, context, control))
+        << "a null brush leaves the choice to the parent";
+    EXPECT_EQ(trace.back(), "control's colour 1");
 }
 
-TEST_F(MessageMap, OwnerDrawnItemsAreGivenBackToTheControl)
+TEST_F(MessageMap, ItemsKeysAndScrollingAreGivenBackToTheControl)
 {
     DRAWITEMSTRUCT draw{};
     draw.hwndItem = taker;
     draw.itemID = 4;
-    parent.SendMessage(WM_DRAWITEM, idTaker, reinterpret_cast<LPARAM>(&draw));
+    Send(WM_DRAWITEM, idTaker, draw);
     EXPECT_EQ(trace.back(), "draw 4");
 
     MEASUREITEMSTRUCT measure{};
     measure.CtlID = idTaker; // the only mark of the control in this structure
-    parent.SendMessage(WM_MEASUREITEM, idTaker, reinterpret_cast<LPARAM>(&measure));
+    Send(WM_MEASUREITEM, idTaker, measure);
     EXPECT_EQ(measure.itemHeight, 33u);
 
-    COMPAREITEMSTRUCT compare{};
-    compare.hwndItem = taker;
-    compare.itemData1 = 1;
-    compare.itemData2 = 2;
-    EXPECT_EQ(parent.SendMessage(WM_COMPAREITEM, idTaker, reinterpret_cast<LPARAM>(&compare)), -1);
-
-    DELETEITEMSTRUCT gone{};
-    gone.hwndItem = taker;
-    parent.SendMessage(WM_DELETEITEM, idTaker, reinterpret_cast<LPARAM>(&gone));
-    EXPECT_EQ(trace.back(), "delete");
-}
-
-TEST_F(MessageMap, KeysAndScrollingAreGivenBackToTheControl)
-{
     const auto control = reinterpret_cast<LPARAM>(taker.m_hWnd);
     EXPECT_EQ(parent.SendMessage(WM_VKEYTOITEM, MAKEWPARAM(3, 7), control), 307);
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 12), control);
     EXPECT_EQ(trace.back(), "scroll 5 12");
-}
-
-template <class Payload>
-class CTemplateWnd : public CWnd
-{
-public:
-    Payload m_payload{};
-
-protected:
-    afx_msg LRESULT OnPayload(WPARAM w, LPARAM)
-    {
-        m_payload = static_cast<Payload>(w);
-        return 1;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-// clang-format off
-BEGIN_TEMPLATE_MESSAGE_MAP(CTemplateWnd, Payload, CWnd)
-    ON_MESSAGE(WM_APP, &CTemplateWnd<Payload>::OnPayload)
-END_MESSAGE_MAP()
-    // clang-format on
-
-    TEST(TemplateMessageMap, BelongsToEachInstance)
-{
-    CTemplateWnd<char> window;
-    ASSERT_TRUE(window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
-    EXPECT_EQ(window.SendMessage(WM_APP, 'x'), 1);
-    EXPECT_EQ(window.m_payload, 'x');
 }
 } // namespace

@@ -1,13 +1,12 @@
 // CWnd and its handle: creation, subclassing, handle maps, the end of windows, exceptions in handlers.
 
-#include <afxwin.h>
-
-#include "Handles.h"
+#include "TestWindows.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
+#include <thread>
+#include <utility>
 
 namespace
 {
@@ -18,14 +17,13 @@ public:
     int m_preSubclass = 0;
     int m_created = 0;
     int m_postNcDestroy = 0;
-    bool m_handleInPreSubclass = false;
     bool m_refuseCreate = false;
     bool m_throwInCreate = false;
 
     void PreSubclassWindow() override
     {
         ++m_preSubclass;
-        m_handleInPreSubclass = FromHandlePermanent(m_hWnd) == this;
+        EXPECT_EQ(FromHandlePermanent(m_hWnd), this);
     }
 
 protected:
@@ -59,11 +57,6 @@ BEGIN_MESSAGE_MAP(CLifeWnd, CWnd)
 END_MESSAGE_MAP()
 // clang-format on
 
-BOOL CreatePopup(CWnd& window)
-{
-    return window.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
-}
-
 HWND MakeStatic(HWND parent = nullptr)
 {
     return ::CreateWindow(L"Static", L"", parent != nullptr ? WS_CHILD : WS_POPUP, 0, 0, 10, 10, parent,
@@ -80,7 +73,6 @@ TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
     CLifeWnd window;
     ASSERT_TRUE(CreatePopup(window));
     EXPECT_EQ(window.m_preSubclass, 1);
-    EXPECT_TRUE(window.m_handleInPreSubclass);
     EXPECT_EQ(window.m_created, 1);
     EXPECT_EQ(CWnd::FromHandle(window.m_hWnd), &window);
     EXPECT_EQ(ProcedureOf(window), AfxGetAfxWndProc());
@@ -89,6 +81,17 @@ TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(window.m_postNcDestroy, 1);
     EXPECT_FALSE(window.DestroyWindow());
+}
+
+TEST(Window, AnObjectThatGoesTakesItsWindowAlong)
+{
+    HWND handle = nullptr;
+    {
+        CWnd window;
+        ASSERT_TRUE(CreatePopup(window));
+        handle = window;
+    }
+    EXPECT_FALSE(::IsWindow(handle));
 }
 
 TEST(Window, ACreationThatFailsLeavesNoHandle)
@@ -181,17 +184,6 @@ TEST(Window, AnObjectMayDeleteItselfAsItsWindowEnds)
     EXPECT_EQ(alive, 0);
 }
 
-TEST(Window, AnObjectThatGoesTakesItsWindowAlong)
-{
-    HWND handle = nullptr;
-    {
-        CWnd window;
-        ASSERT_TRUE(CreatePopup(window));
-        handle = window;
-    }
-    EXPECT_FALSE(::IsWindow(handle));
-}
-
 TEST(Window, TheMainWindowEndsTheProgram)
 {
     CWnd main;
@@ -199,8 +191,7 @@ TEST(Window, TheMainWindowEndsTheProgram)
     AfxGetThread()->m_pMainWnd = &main;
     main.DestroyWindow();
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
-    MSG message;
-    EXPECT_TRUE(::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_TRUE(TakeQuitMessage());
 }
 
 TEST(Window, AnExceptionInAHandlerStopsAtTheProcedure)
@@ -217,8 +208,6 @@ TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTime)
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
     CWnd* const temporary = CWnd::FromHandle(foreign);
     ASSERT_NE(temporary, nullptr);
-    EXPECT_EQ(temporary->m_hWnd, foreign);
-    EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
 
     AfxLockTempMaps(); // as a nested loop does
@@ -252,21 +241,9 @@ TEST(HandleMap, BelongsToItsThread)
 {
     CWnd window;
     ASSERT_TRUE(CreatePopup(window));
-    struct Seen
-    {
-        HWND handle;
-        CWnd* permanent;
-    } seen{window, &window};
-    const auto look = [](void* parameter) -> DWORD
-    {
-        auto* const other = static_cast<Seen*>(parameter);
-        other->permanent = CWnd::FromHandlePermanent(other->handle);
-        return 0;
-    };
-    const HANDLE thread = ::CreateThread(nullptr, 0, look, &seen, 0, nullptr);
-    ::WaitForSingleObject(thread, INFINITE);
-    ::CloseHandle(thread);
-    EXPECT_EQ(seen.permanent, nullptr);
+    CWnd* seen = &window;
+    std::thread([&seen, handle = window.m_hWnd] { seen = CWnd::FromHandlePermanent(handle); }).join();
+    EXPECT_EQ(seen, nullptr);
 }
 
 TEST(Window, TheSafeHandleOfANullObjectIsNull)
@@ -278,80 +255,62 @@ TEST(Window, TheSafeHandleOfANullObjectIsNull)
 
 TEST(Window, PlacesOfTheOrderAreNoWindowsOfTheirOwn)
 {
-    CWnd below;
-    CWnd above;
-    ASSERT_TRUE(CreatePopup(below));
-    ASSERT_TRUE(CreatePopup(above));
-    ASSERT_TRUE(below.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-    EXPECT_TRUE((below.GetExStyle() & WS_EX_TOPMOST) != 0);
-    ASSERT_TRUE(
-        below.SetWindowPos(&CWnd::wndNoTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-    EXPECT_FALSE((below.GetExStyle() & WS_EX_TOPMOST) != 0);
-}
-
-TEST(Window, StylesChangeOnlyWhereTheyDiffer)
-{
     CWnd window;
     ASSERT_TRUE(CreatePopup(window));
-    EXPECT_TRUE(window.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
-    EXPECT_FALSE(window.ModifyStyle(0, WS_BORDER));
-    EXPECT_TRUE(window.ModifyStyle(WS_BORDER, WS_DLGFRAME));
-    EXPECT_EQ(window.GetStyle() & (WS_BORDER | WS_DLGFRAME), DWORD{WS_DLGFRAME});
+    for (const auto& [place, style] : {std::pair(&CWnd::wndTopMost, WS_EX_TOPMOST), {&CWnd::wndNoTopMost, 0}})
+    {
+        ASSERT_TRUE(window.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
+        EXPECT_EQ(window.GetExStyle() & WS_EX_TOPMOST, DWORD(style));
+    }
 }
 
 /// Writes its name where it is asked, and may take the message.
 class CWalker : public CWnd
 {
 public:
-    CWalker(std::string name, std::vector<std::string>& walk) : m_name(std::move(name)), m_walk(walk) {}
+    CWalker(std::string name, std::string& walk) : m_name(std::move(name)), m_walk(walk) {}
     bool m_take = false;
 
     BOOL PreTranslateMessage(MSG*) override
     {
-        m_walk.push_back(m_name);
+        m_walk += m_name;
         return m_take;
     }
 
 private:
     std::string m_name;
-    std::vector<std::string>& m_walk;
+    std::string& m_walk;
 };
 
 TEST(PreTranslate, WalksFromTheTargetToTheTopAndStopsAtTheFirstTaker)
 {
-    using Walk = std::vector<std::string>;
-    Walk walk;
-    CWalker top("top", walk);
-    CWalker middle("middle", walk);
-    CWalker inner("inner", walk);
+    std::string walk;
+    CWalker top("top ", walk);
+    CWalker middle("middle ", walk);
+    CWalker inner("inner ", walk);
+    CWalker main("main ", walk);
     ASSERT_TRUE(CreatePopup(top));
-    ASSERT_TRUE(middle.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &top, 1));
-    ASSERT_TRUE(inner.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 10, 10), &middle, 1));
+    ASSERT_TRUE(CreateChild(middle, top, 1));
+    ASSERT_TRUE(CreateChild(inner, middle, 1));
+    ASSERT_TRUE(CreatePopup(main));
     MSG message{};
     message.hwnd = MakeStatic(inner); // without an object: the walk begins at its parent
     message.message = WM_KEYDOWN;
 
     EXPECT_FALSE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(walk, (Walk{"inner", "middle", "top"}));
+    EXPECT_EQ(std::exchange(walk, ""), "inner middle top ");
 
-    walk.clear();
-    middle.m_take = true;
-    EXPECT_TRUE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(walk, (Walk{"inner", "middle"}));
-
-    walk.clear();
-    middle.m_take = false;
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle, &message));
-    EXPECT_EQ(walk, (Walk{"inner", "middle"}));
+    EXPECT_EQ(std::exchange(walk, ""), "inner middle ") << "a walk may end early";
 
-    // The main window comes last, also for windows that stand beside it.
-    walk.clear();
-    CWalker main("main", walk);
-    ASSERT_TRUE(CreatePopup(main));
     AfxGetThread()->m_pMainWnd = &main;
     EXPECT_FALSE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(walk, (Walk{"inner", "middle", "top", "main"}));
+    EXPECT_EQ(std::exchange(walk, ""), "inner middle top main ") << "the main window beside them comes last";
     AfxGetThread()->m_pMainWnd = nullptr;
+
+    middle.m_take = true;
+    EXPECT_TRUE(AfxPreTranslateMessage(&message));
+    EXPECT_EQ(walk, "inner middle ");
 }
 
 TEST(RelatedWindows, OwnersAndDescendants)
@@ -361,32 +320,28 @@ TEST(RelatedWindows, OwnersAndDescendants)
     CWnd child;
     CWnd grandChild;
     ASSERT_TRUE(CreatePopup(owner));
-    ASSERT_TRUE(popup.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 20, 20), &owner, 0));
-    ASSERT_TRUE(child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &popup, 5));
-    ASSERT_TRUE(grandChild.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &child, 6));
+    ASSERT_TRUE(CreatePopup(popup, &owner));
+    ASSERT_TRUE(CreateChild(child, popup, 5));
+    ASSERT_TRUE(CreateChild(grandChild, child, 6));
 
     EXPECT_EQ(grandChild.GetTopLevelParent(), &owner);
     EXPECT_EQ(grandChild.GetParentOwner(), &popup);
     EXPECT_EQ(popup.GetDescendantWindow(6, TRUE), &grandChild);
-    EXPECT_EQ(popup.GetDescendantWindow(7), nullptr);
-    EXPECT_EQ(popup.GetDlgItem(6), nullptr); // children only
     EXPECT_EQ(child.GetOwner(), &popup);
-    child.SetOwner(&owner);
-    EXPECT_EQ(child.GetOwner(), &owner);
-    EXPECT_EQ(CWnd::GetSafeOwner(&grandChild), &popup); // a child cannot own a dialog
+    EXPECT_EQ(CWnd::GetSafeOwner(&grandChild), &popup) << "a child cannot own a dialog";
 }
 
 TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
 {
     CWnd owner;
     CWnd popup;
-    ASSERT_TRUE(
-        owner.CreateEx(0, nullptr, L"", WS_POPUP | WS_VISIBLE, CRect(100, 100, 300, 200), nullptr, 0));
-    ASSERT_TRUE(popup.CreateEx(0, nullptr, L"", WS_POPUP, CRect(0, 0, 100, 50), &owner, 0));
+    ASSERT_TRUE(CreatePopup(owner, nullptr, WS_VISIBLE));
+    ASSERT_TRUE(CreatePopup(popup, &owner));
+    owner.MoveWindow(100, 100, 200, 100);
     CRect place;
     popup.CenterWindow();
     popup.GetWindowRect(&place);
-    EXPECT_EQ(place, CRect(150, 125, 250, 175));
+    EXPECT_EQ(place, CRect(175, 125, 225, 175));
 
     owner.MoveWindow(-150, -80, 200, 100);
     popup.CenterWindow();

@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "ChildProcess.h"
+#include "FatalReport.h"
 
 #include <gtest/gtest.h>
 
@@ -36,12 +36,14 @@ public:
     }
     void Write(const fs::path& path) const
     {
-        std::ofstream(path, std::ios::binary).write(m_bytes.data(), static_cast<std::streamsize>(m_bytes.size()));
+        std::ofstream(path, std::ios::binary)
+            .write(m_bytes.data(), static_cast<std::streamsize>(m_bytes.size()));
     }
     /// Gives a resource the id of its neighbour below, so that its own is not to be found; false if there is none.
     bool Hide(LPCWSTR type, int id)
     {
-        IMAGE_RESOURCE_DIRECTORY_ENTRY* typeEntry = Find(Resources(), LOWORD(reinterpret_cast<ULONG_PTR>(type)));
+        IMAGE_RESOURCE_DIRECTORY_ENTRY* typeEntry =
+            Find(Resources(), LOWORD(reinterpret_cast<ULONG_PTR>(type)));
         IMAGE_RESOURCE_DIRECTORY_ENTRY* entry =
             typeEntry ? Find(Resources() + typeEntry->OffsetToDirectory, static_cast<WORD>(id)) : nullptr;
         if (entry)
@@ -54,7 +56,8 @@ private:
     {
         const auto* dos = reinterpret_cast<IMAGE_DOS_HEADER*>(m_bytes.data());
         auto* headers = reinterpret_cast<IMAGE_NT_HEADERS64*>(m_bytes.data() + dos->e_lfanew);
-        const DWORD address = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_RESOURCE].VirtualAddress;
+        const DWORD address =
+            headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_RESOURCE].VirtualAddress;
         const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(headers);
         while (section->VirtualAddress != address)
             ++section;
@@ -65,7 +68,8 @@ private:
         const auto* header = reinterpret_cast<IMAGE_RESOURCE_DIRECTORY*>(directory);
         auto* first = reinterpret_cast<IMAGE_RESOURCE_DIRECTORY_ENTRY*>(directory + sizeof(*header));
         auto* end = first + header->NumberOfNamedEntries + header->NumberOfIdEntries;
-        auto* found = std::find_if(first, end, [id](const auto& entry) { return !entry.NameIsString && entry.Id == id; });
+        auto* found = std::find_if(first, end,
+                                   [id](const auto& entry) { return !entry.NameIsString && entry.Id == id; });
         return found == end ? nullptr : found;
     }
 
@@ -89,9 +93,7 @@ public:
     }
     owtest::ChildResult LoadInChild() const
     {
-        owtest::ChildOptions options;
-        options.environment[kCopyVariable] = m_path.wstring();
-        return owtest::RunChild("load_library", options);
+        return owtest::RunChild("load_library", {.environment = {{kCopyVariable, m_path.wstring()}}});
     }
 
 private:
@@ -118,15 +120,16 @@ TEST(LoadingTheLibrary, AttachesItToTheResourceChainAndDetachesIt)
 
 TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissing)
 {
-    const owtest::ChildResult first = CutLibrary(RT_GROUP_ICON, 10004).LoadInChild();
-    EXPECT_EQ(first.boxText,
-              L"ASSERT(CButtonST::hIconInformation = LoadSharedIcon(10004))\n[.\\Initialize : 77]\n");
-    EXPECT_EQ(first.output, "");
-    EXPECT_EQ(first.exitCode, 0u);
-
-    const owtest::ChildResult last = CutLibrary(RT_GROUP_ICON, 10107).LoadInChild();
-    EXPECT_EQ(last.boxText, L"ASSERT(CButtonST::hIconDesno = LoadSharedIcon(10107))\n[.\\Initialize : 198]\n");
-    EXPECT_TRUE(last.brokeIntoDebugger);
+    const std::pair<int, const wchar_t*> ends[] = {
+        {10004, L"ASSERT(CButtonST::hIconInformation = LoadSharedIcon(10004))\n[.\\Initialize : 77]\n"},
+        {10107, L"ASSERT(CButtonST::hIconDesno = LoadSharedIcon(10107))\n[.\\Initialize : 198]\n"},
+    };
+    for (const auto& [id, report] : ends)
+    {
+        const owtest::ChildResult result = CutLibrary(RT_GROUP_ICON, id).LoadInChild();
+        owtest::ExpectFailedAssert(result, report);
+        EXPECT_EQ(result.output, "");
+    }
 }
 
 TEST(LoadingTheLibrary, DoesWithoutAMissingBitmap)

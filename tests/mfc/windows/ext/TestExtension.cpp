@@ -14,18 +14,9 @@ CExtensionException::CExtensionException(int code) : m_code(code)
 {
 }
 
-ExtensionFailure::~ExtensionFailure() = default;
-
-void ThrowMfcException(int code)
+void ThrowFromExtension(int code)
 {
     throw new CExtensionException(code);
-}
-
-void ThrowStandardException(int code)
-{
-    ExtensionFailure failure;
-    failure.code = code;
-    throw failure;
 }
 
 CString TextAtAttach()
