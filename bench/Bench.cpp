@@ -46,10 +46,13 @@ double Comparison::Measure() const
     if (m_number)
         return *m_number;
     std::vector<double> ours, bare;
-    m_prepare();
-    m_bare(); // both sides once unmeasured, to fill the caches
-    m_prepare();
-    m_ours();
+    if (m_rounds > 1) // both sides once unmeasured, to fill the caches
+    {
+        m_prepare();
+        m_bare();
+        m_prepare();
+        m_ours();
+    }
     for (int round = 0; round < m_rounds; ++round)
     {
         m_prepare();
@@ -75,12 +78,14 @@ int Benchmark::RunAll(std::string_view prefix)
             continue;
         ++count;
         Comparison comparison;
-        benchmark.run(comparison, [&] {
-            const double ratio = comparison.Measure();
-            std::printf("%-32s %6.2f   wanted at most %.2f%s\n", benchmark.name.c_str(), ratio, benchmark.wanted,
-                        ratio > benchmark.wanted ? "   OVER" : "");
-            std::fflush(stdout);
-        });
+        benchmark.run(comparison,
+                      [&]
+                      {
+                          const double ratio = comparison.Measure();
+                          std::printf("%-32s %6.2f   wanted at most %.2f%s\n", benchmark.name.c_str(), ratio,
+                                      benchmark.wanted, ratio > benchmark.wanted ? "   OVER" : "");
+                          std::fflush(stdout);
+                      });
     }
     return count;
 }

@@ -20,6 +20,7 @@ public:
     /// Work of one run; several are made in turns with the other side's, and the median of each side counts.
     void Ours(std::function<void()> work) { m_ours = std::move(work); }
     void Bare(std::function<void()> work) { m_bare = std::move(work); }
+    /// A single round is not preceded by one that is not measured.
     void Rounds(int count) { m_rounds = count; }
     /// Runs before each run of either side, and is not measured.
     void Prepare(std::function<void()> work) { m_prepare = std::move(work); }
@@ -42,7 +43,8 @@ class Benchmark
 public:
     /// `wanted` is the largest ratio that is wanted. `run` sets up, fills in both sides and calls `measure`,
     /// which runs them while all that was set up stands.
-    using Run = std::function<void(Comparison&, const std::function<void()>& measure)>;
+    using Measure = std::function<void()>;
+    using Run = std::function<void(Comparison&, const Measure& measure)>;
     Benchmark(const char* name, double wanted, Run run);
 
     /// Runs those whose name begins with the prefix and prints a line each; how many were run.

@@ -1,6 +1,13 @@
 #pragma once
 // Every public header of the library. A client includes MFC first and then this one.
 
+#include "DlgPage/Page.h"
+#include "DlgPage/PageComboButtonSTCtrlGroup.h"
+#include "DlgPage/PageComboCheckCtrlGroup.h"
+#include "DlgPage/PageDialog.h"
+#include "DlgPage/PageGradientCaptionStatic.h"
+#include "DlgPage/PageManager.h"
+#include "DlgPage/PageTreeCtrl.h"
 #include "buttons/BitmapBtnST.h"
 #include "buttons/ButtonST.h"
 #include "buttons/ExtButton.h"
@@ -14,6 +21,8 @@
 #include "cells/InPlaceEdit.h"
 #include "cells/InPlaceEditor.h"
 #include "cells/InPlaceList.h"
+#include "combos/ComboBoxReflected.h"
+#include "combos/ExtComboBox.h"
 #include "dialogs/OstrelMessageBox.h"
 #include "dialogs/OstrelMessenger.h"
 #include "edits/DoubleText.h"

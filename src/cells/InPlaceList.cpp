@@ -2,6 +2,8 @@
 
 #include "cells/InPlaceList.h"
 
+#include "combos/DropWidth.h"
+
 #include <algorithm>
 
 CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
@@ -61,7 +63,7 @@ END_MESSAGE_MAP()
 void CInPlaceList::OnKillFocus(CWnd* pNewWnd)
 {
     CComboBox::OnKillFocus(pNewWnd);
-    if (::GetFocus() == m_hWnd || !IsDropList())
+    if ((pNewWnd && pNewWnd->m_hWnd == m_hWnd) || !IsDropList())
         return;
     EndEdit();
 }
@@ -132,20 +134,7 @@ void CInPlaceList::EndEdit()
 int CInPlaceList::GetCorrectDropWidth()
 {
     constexpr int kWidest = 200;
-    CClientDC dc(this);
-    const int nSavedDC = dc.SaveDC();
-    dc.SelectObject(GetFont());
-
-    int nWidth = 0;
-    for (int i = 0; i < GetCount(); ++i)
-    {
-        CString strItem;
-        GetLBText(i, strItem);
-        nWidth = std::max<int>(nWidth, dc.GetTextExtent(strItem).cx + ::GetSystemMetrics(SM_CXVSCROLL));
-    }
-    nWidth += dc.GetTextExtent(L"0", 1).cx;
-    dc.RestoreDC(nSavedDC);
-    return std::min(nWidth, kWidest);
+    return std::min(gfnMeasureDropWidth(*this), kWidest);
 }
 
 bool CInPlaceList::IsDropList() const
