@@ -34,7 +34,8 @@ bool IsLoadedLater(WORD id)
 
 // The graphics of a library that was loaded are never given back, and neither are those of the bare side: the
 // number of rounds stays well below what a process may hold.
-static const Benchmark attach("module/attach", 1.3, [](Comparison& compare, const auto& measure) {
+static void MeasureAttach(Comparison& compare, const Benchmark::Measure& measure)
+{
     wchar_t program[MAX_PATH] = {};
     ::GetModuleFileName(nullptr, program, MAX_PATH);
     const std::wstring path = std::filesystem::path(program).replace_filename(L"bench_library.dll").wstring();
@@ -46,13 +47,16 @@ static const Benchmark attach("module/attach", 1.3, [](Comparison& compare, cons
     compare.Rounds(15);
     HMODULE loaded = nullptr;
     compare.Ours([&] { loaded = ::LoadLibrary(path.c_str()); });
-    compare.Bare([&] {
-        if (loaded)
-            ::FreeLibrary(std::exchange(loaded, nullptr));
-        for (WORD id : bitmaps)
-            ::LoadBitmap(data, MAKEINTRESOURCE(id));
-        for (WORD id : icons)
-            ::LoadImage(data, MAKEINTRESOURCE(id), IMAGE_ICON, 0, 0, 0);
-    });
+    compare.Bare(
+        [&]
+        {
+            if (loaded)
+                ::FreeLibrary(std::exchange(loaded, nullptr));
+            for (WORD id : bitmaps)
+                ::LoadBitmap(data, MAKEINTRESOURCE(id));
+            for (WORD id : icons)
+                ::LoadImage(data, MAKEINTRESOURCE(id), IMAGE_ICON, 0, 0, 0);
+        });
     measure();
-});
+}
+static const Benchmark attach("module/attach", 1.3, MeasureAttach);

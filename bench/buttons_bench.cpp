@@ -173,23 +173,24 @@ void ComparePainting(Comparison& compare, const std::function<void()>& measure, 
 }
 } // namespace
 
-static const Benchmark themed("buttons/paint_themed", 2.5,
-                              [](Comparison& compare, const auto& measure)
-                              {
-                                  const HTHEME hTheme = ::OpenThemeData(nullptr, L"BUTTON");
-                                  ComparePainting(compare, measure, true,
-                                                  [=](HDC hDC) { DrawBareThemed(hDC, hTheme); });
-                                  ::CloseThemeData(hTheme);
-                              });
+static void MeasureThemed(Comparison& compare, const Benchmark::Measure& measure)
+{
+    const HTHEME hTheme = ::OpenThemeData(nullptr, L"BUTTON");
+    ComparePainting(compare, measure, true, [=](HDC hDC) { DrawBareThemed(hDC, hTheme); });
+    ::CloseThemeData(hTheme);
+}
+static const Benchmark themed("buttons/paint_themed", 2.5, MeasureThemed);
 
-static const Benchmark plain("buttons/paint_unthemed", 2.5,
-                             [](Comparison& compare, const auto& measure)
-                             { ComparePainting(compare, measure, false, DrawBareRaised); });
+static void MeasurePlain(Comparison& compare, const Benchmark::Measure& measure)
+{
+    ComparePainting(compare, measure, false, DrawBareRaised);
+}
+static const Benchmark plain("buttons/paint_unthemed", 2.5, MeasurePlain);
 
-static const Benchmark window("buttons/window_of_200", 2.0,
-                              [](Comparison& compare, const auto& measure)
-                              {
-                                  compare.Ours(OpenOurs);
-                                  compare.Bare(OpenBare);
-                                  measure();
-                              });
+static void MeasureWindow(Comparison& compare, const Benchmark::Measure& measure)
+{
+    compare.Ours(OpenOurs);
+    compare.Bare(OpenBare);
+    measure();
+}
+static const Benchmark window("buttons/window_of_200", 2.0, MeasureWindow);

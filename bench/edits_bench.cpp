@@ -42,14 +42,15 @@ void Type(HWND edit)
 }
 } // namespace
 
-static const Benchmark keystroke("edits/keystroke", 1.15, [](Comparison& compare, const auto& measure) {
+static void MeasureKeystroke(Comparison& compare, const Benchmark::Measure& measure)
+{
     WNDCLASS bareClass{};
     bareClass.lpfnWndProc = BareParentProc;
     bareClass.hInstance = ::GetModuleHandle(nullptr);
     bareClass.lpszClassName = L"BenchBareParent";
     ::RegisterClass(&bareClass);
-    HWND bareParent = ::CreateWindow(bareClass.lpszClassName, L"bare", kFrameStyle, 0, 0, 300, 120, nullptr, nullptr,
-                                     bareClass.hInstance, nullptr);
+    HWND bareParent = ::CreateWindow(bareClass.lpszClassName, L"bare", kFrameStyle, 0, 0, 300, 120, nullptr,
+                                     nullptr, bareClass.hInstance, nullptr);
     HWND bareEdit = ::CreateWindow(L"EDIT", L"", kEditStyle, kEditRect.left, kEditRect.top, kEditRect.Width(),
                                    kEditRect.Height(), bareParent, nullptr, bareClass.hInstance, nullptr);
 
@@ -64,24 +65,31 @@ static const Benchmark keystroke("edits/keystroke", 1.15, [](Comparison& compare
     measure();
     ::DestroyWindow(bareParent);
     parent.DestroyWindow();
-});
+}
+static const Benchmark keystroke("edits/keystroke", 1.15, MeasureKeystroke);
 
 // The bare side writes a new number each time; ours repeats the one that stands there.
-static const Benchmark unchanged("edits/set_value_unchanged", 0.05, [](Comparison& compare, const auto& measure) {
+static void MeasureUnchanged(Comparison& compare, const Benchmark::Measure& measure)
+{
     constexpr int kCalls = 200;
     CountingParent parent;
     parent.CreateEx(0, AfxRegisterWndClass(0), L"ours", kFrameStyle, CRect(320, 0, 620, 120), nullptr, 0);
     CEditDoubleWithRange edit(&parent);
     edit.Create(kEditStyle, kEditRect, &parent, 1);
 
-    compare.Ours([&] {
-        for (int i = 0; i < kCalls; ++i)
-            edit.SetValue(0.0);
-    });
-    compare.Bare([&] {
-        for (int i = 1; i <= kCalls; ++i)
-            edit.SetValue(i % 2);
-    });
+    compare.Ours(
+        [&]
+        {
+            for (int i = 0; i < kCalls; ++i)
+                edit.SetValue(0.0);
+        });
+    compare.Bare(
+        [&]
+        {
+            for (int i = 1; i <= kCalls; ++i)
+                edit.SetValue(i % 2);
+        });
     measure();
     parent.DestroyWindow();
-});
+}
+static const Benchmark unchanged("edits/set_value_unchanged", 0.05, MeasureUnchanged);

@@ -111,6 +111,19 @@ public:
         }
     }
     void Repaint() { RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+    void SortByText()
+    {
+        const auto byText = [](LPARAM first, LPARAM second, LPARAM list) -> int
+        {
+            auto& sorted = *reinterpret_cast<CBenchList*>(list);
+            wchar_t one[16], two[16];
+            sorted.GetItemText(static_cast<int>(first), 0, one, 16);
+            sorted.GetItemText(static_cast<int>(second), 0, two, 16);
+            return wcscmp(one, two);
+        };
+        SendMessage(LVM_SORTITEMSEX, reinterpret_cast<WPARAM>(this),
+                    reinterpret_cast<LPARAM>(static_cast<PFNLVCOMPARE>(byText)));
+    }
 };
 
 /// What is in use on all heaps of the process, with what the heaps need for it themselves.
@@ -189,14 +202,16 @@ struct Pair
     CBenchList list;
 };
 
-void CompareScroll(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack)
+/// A step on and a step back, by some of what the step is made of, beside the list view's whole steps.
+void CompareSteps(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack,
+                  void (*step)(Pair&, UINT))
 {
     Pair pair;
     compare.Ours(
         [&]
         {
-            pair.grid.Scroll(nOn);
-            pair.grid.Scroll(nBack);
+            step(pair, nOn);
+            step(pair, nBack);
         });
     compare.Bare(
         [&]
@@ -208,6 +223,16 @@ void CompareScroll(Comparison& compare, const std::function<void()>& measure, UI
             }
         });
     measure();
+}
+
+void CompareScroll(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack)
+{
+    CompareSteps(compare, measure, nOn, nBack, [](Pair& pair, UINT nCode) { pair.grid.Scroll(nCode); });
+}
+
+void CompareLineStep(Comparison& compare, const std::function<void()>& measure, void (*step)(Pair&, UINT))
+{
+    CompareSteps(compare, measure, SB_LINEDOWN, SB_LINEUP, step);
 }
 
 /// The same work on fifty and on ten thousand rows: how it grows. Five times is in proportion.
@@ -226,208 +251,226 @@ void CompareGrowth(Comparison& compare, const std::function<void()>& measure, vo
 }
 } // namespace
 
-static const Benchmark fill1("grid/fill/1000", 0.5,
-                             [](Comparison& compare, const auto& measure)
-                             { CompareFill(compare, measure, 1000); });
-static const Benchmark fill2("grid/fill/10000", 0.2,
-                             [](Comparison& compare, const auto& measure)
-                             { CompareFill(compare, measure, 10000); });
-static const Benchmark fill3("grid/fill/50000", 0.2,
-                             [](Comparison& compare, const auto& measure)
-                             { CompareFill(compare, measure, kMany); });
+static void MeasureFill1(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareFill(compare, measure, 1000);
+}
+static const Benchmark fill1("grid/fill/1000", 0.5, MeasureFill1);
 
-static const Benchmark bytes("grid/bytes_per_cell", 200,
-                             [](Comparison& compare, const auto& measure)
-                             {
-                                 Texts();
-                                 CStage stage;
-                                 CBenchGrid grid(stage);
-                                 const size_t before = HeapBytes();
-                                 grid.Fill(kMany);
-                                 compare.Number(double(HeapBytes() - before) / (kMany * kCols));
-                                 measure();
-                             });
+static void MeasureFill2(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareFill(compare, measure, 10000);
+}
+static const Benchmark fill2("grid/fill/10000", 0.2, MeasureFill2);
 
-static const Benchmark repaintBare("grid/repaint/bare_loop", 2,
-                                   [](Comparison& compare, const auto& measure)
-                                   {
-                                       Pair pair;
-                                       compare.Ours([&] { pair.grid.Repaint(); });
-                                       compare.Bare(
-                                           [&]
-                                           { PaintBare(pair.grid, pair.listStage, *pair.grid.GetFont()); });
-                                       pair.list.ShowWindow(SW_HIDE);
-                                       measure();
-                                   });
-static const Benchmark repaintList("grid/repaint/list_view", 0.125,
-                                   [](Comparison& compare, const auto& measure)
-                                   {
-                                       Pair pair;
-                                       compare.Ours([&] { pair.grid.Repaint(); });
-                                       compare.Bare([&] { pair.list.Repaint(); });
-                                       measure();
-                                   });
+static void MeasureFill3(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareFill(compare, measure, kMany);
+}
+static const Benchmark fill3("grid/fill/50000", 0.2, MeasureFill3);
 
-static const Benchmark scrollLine("grid/scroll/line", 0.5,
-                                  [](Comparison& compare, const auto& measure)
-                                  { CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP); });
-static const Benchmark scrollPage("grid/scroll/page", 0.5,
-                                  [](Comparison& compare, const auto& measure)
-                                  { CompareScroll(compare, measure, SB_PAGEDOWN, SB_PAGEUP); });
+static void MeasureBytes(Comparison& compare, const Benchmark::Measure& measure)
+{
+    Texts();
+    CStage stage;
+    CBenchGrid grid(stage);
+    const size_t before = HeapBytes();
+    grid.Fill(kMany);
+    compare.Number(double(HeapBytes() - before) / (kMany * kCols));
+    measure();
+}
+static const Benchmark bytes("grid/bytes_per_cell", 200, MeasureBytes);
 
-// Ten thousand rows: the list view looks each item up from the start of its list, and fifty thousand take it
-// minutes.
-static const Benchmark sortList("grid/sort/list_view_10000", 0.025,
-                                [](Comparison& compare, const auto& measure)
-                                {
-                                    CStage stage, other;
-                                    CBenchGrid grid(stage);
-                                    CBenchList list(other);
-                                    compare.Rounds(1);
-                                    compare.Prepare(
-                                        [&]
-                                        {
-                                            grid.DeleteAllItems();
-                                            grid.Fill(10000);
-                                        });
-                                    list.Fill(10000);
-                                    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
-                                    compare.Bare(
-                                        [&]
-                                        {
-                                            // By the other column at each turn, so that there is something to
-                                            // do.
-                                            static int nCol = 0;
-                                            nCol = 1 - nCol;
-                                            struct Order
-                                            {
-                                                CBenchList* list;
-                                                int col;
-                                            } order{&list, nCol};
-                                            const auto byText = [](LPARAM first, LPARAM second,
-                                                                   LPARAM data) -> int
-                                            {
-                                                const auto& [sorted, col] = *reinterpret_cast<Order*>(data);
-                                                wchar_t one[16], two[16];
-                                                sorted->GetItemText(static_cast<int>(first), col, one, 16);
-                                                sorted->GetItemText(static_cast<int>(second), col, two, 16);
-                                                return wcscmp(one, two);
-                                            };
-                                            list.SendMessage(
-                                                LVM_SORTITEMSEX, reinterpret_cast<WPARAM>(&order),
-                                                reinterpret_cast<LPARAM>(static_cast<PFNLVCOMPARE>(byText)));
-                                        });
-                                    measure();
-                                });
+static void MeasureRepaintBare(Comparison& compare, const Benchmark::Measure& measure)
+{
+    Pair pair;
+    compare.Ours([&] { pair.grid.Repaint(); });
+    compare.Bare([&] { PaintBare(pair.grid, pair.listStage, *pair.grid.GetFont()); });
+    pair.list.ShowWindow(SW_HIDE);
+    measure();
+}
+static const Benchmark repaintBare("grid/repaint/bare_loop", 2, MeasureRepaintBare);
 
-static const Benchmark sortBare("grid/sort/std_sort_of_pointers", 15,
-                                [](Comparison& compare, const auto& measure)
-                                {
-                                    CStage stage;
-                                    CBenchGrid grid(stage);
-                                    std::vector<const std::wstring*> pointers;
-                                    compare.Rounds(3);
-                                    compare.Prepare(
-                                        [&]
-                                        {
-                                            grid.DeleteAllItems();
-                                            grid.Fill(kMany);
-                                            pointers.clear();
-                                            for (int nRow = 0; nRow < kMany; ++nRow)
-                                                pointers.push_back(&Texts()[nRow * kCols]);
-                                        });
-                                    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
-                                    compare.Bare(
-                                        [&]
-                                        {
-                                            std::sort(pointers.begin(), pointers.end(),
-                                                      [](const auto* one, const auto* two)
-                                                      { return *one < *two; });
-                                        });
-                                    measure();
-                                });
+static void MeasureRepaintList(Comparison& compare, const Benchmark::Measure& measure)
+{
+    Pair pair;
+    compare.Ours([&] { pair.grid.Repaint(); });
+    compare.Bare([&] { pair.list.Repaint(); });
+    measure();
+}
+static const Benchmark repaintList("grid/repaint/list_view", 0.125, MeasureRepaintList);
 
-static const Benchmark virtualMillion("grid/virtual/million_rows", 1.5,
-                                      [](Comparison& compare, const auto& measure)
-                                      {
-                                          Texts();
-                                          CStage stage;
-                                          CBenchGrid grid(stage);
-                                          const auto use = [&](int nRows)
-                                          {
-                                              grid.MakeVirtual(nRows);
-                                              for (int nCol = 0; nCol < kCols; ++nCol)
-                                                  grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
-                                              grid.Repaint();
-                                              grid.Scroll(SB_BOTTOM);
-                                              grid.Repaint();
-                                          };
-                                          compare.Ours([&] { use(1000000); });
-                                          compare.Bare([&] { use(1000); });
-                                          measure();
-                                      });
+static void MeasureScrollLine(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP);
+}
+static const Benchmark scrollLine("grid/scroll/line", 0.5, MeasureScrollLine);
 
-static const Benchmark virtualList("grid/virtual/repaint_list_view", 0.5,
-                                   [](Comparison& compare, const auto& measure)
-                                   {
-                                       Texts();
-                                       class COwner : public CStage
-                                       {
-                                           BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override
-                                           {
-                                               auto& info = *reinterpret_cast<NMLVDISPINFOW*>(lParam);
-                                               if (info.hdr.code == LVN_GETDISPINFOW &&
-                                                   (info.item.mask & LVIF_TEXT))
-                                                   info.item.pszText = const_cast<wchar_t*>(
-                                                       TextAt(info.item.iItem, info.item.iSubItem));
-                                               return TRUE;
-                                           }
-                                       } other;
-                                       CStage stage;
-                                       CBenchGrid grid(stage);
-                                       grid.MakeVirtual(1000000);
-                                       CBenchList list(other, LVS_OWNERDATA);
-                                       list.SendMessage(LVM_SETITEMCOUNT, 1000000, LVSICF_NOINVALIDATEALL);
-                                       for (int nCol = 0; nCol < kCols; ++nCol)
-                                       {
-                                           grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
-                                           list.SetColumnWidth(nCol, kClient.cx / kCols);
-                                       }
-                                       compare.Ours([&] { grid.Repaint(); });
-                                       compare.Bare([&] { list.Repaint(); });
-                                       measure();
-                                   });
+static void MeasureScrollPage(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareScroll(compare, measure, SB_PAGEDOWN, SB_PAGEUP);
+}
+static const Benchmark scrollPage("grid/scroll/page", 0.5, MeasureScrollPage);
 
-static const Benchmark growSelect("grid/growth/select_all_and_none", 6,
-                                  [](Comparison& compare, const auto& measure)
-                                  {
-                                      CompareGrowth(compare, measure,
-                                                    [](CBenchGrid& grid)
-                                                    {
-                                                        grid.SetSelectedRange(grid.GetCellRange());
-                                                        grid.SetSelectedRange(-1, -1, -1, -1);
-                                                    });
-                                  });
-static const Benchmark growHeights("grid/growth/every_row_height", 6,
-                                   [](Comparison& compare, const auto& measure)
-                                   {
-                                       CompareGrowth(compare, measure,
-                                                     [](CBenchGrid& grid)
-                                                     {
-                                                         for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
-                                                             grid.SetRowHeight(nRow,
-                                                                               grid.GetRowHeight(nRow) ^ 1);
-                                                     });
-                                   });
-static const Benchmark growRows("grid/growth/rows_at_the_front", 6,
-                                [](Comparison& compare, const auto& measure)
-                                {
-                                    CompareGrowth(compare, measure,
-                                                  [](CBenchGrid& grid)
-                                                  {
-                                                      for (int i = 0; i < 10000; ++i)
-                                                          grid.InsertRow(L"new", 0);
-                                                      for (int i = 0; i < 10000; ++i)
-                                                          grid.DeleteRow(0);
-                                                  });
-                                });
+// What a line's step is made of, each part beside the list view's whole step. The system's painting of the
+// scroll bar is the same for both; beside it the grid repaints its body, where the list view copies the
+// screen and repaints one row.
+static void MeasureScrollBar(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareLineStep(compare, measure,
+                    [](Pair& pair, UINT nCode)
+                    {
+                        const int nPos = nCode == SB_LINEDOWN ? 20 : 0;
+                        pair.grid.SetScrollPos(SB_VERT, nPos, TRUE);
+                    });
+}
+static const Benchmark scrollBar("grid/scroll/line/of_it_the_bar", 1, MeasureScrollBar);
+
+static void MeasureScrollBody(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareLineStep(compare, measure,
+                    [](Pair& pair, UINT)
+                    {
+                        pair.grid.Invalidate();
+                        pair.grid.UpdateWindow();
+                    });
+}
+static const Benchmark scrollBody("grid/scroll/line/of_it_repaint", 1, MeasureScrollBody);
+
+static void MeasureScrollCopy(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareLineStep(compare, measure,
+                    [](Pair& pair, UINT nCode)
+                    {
+                        const int nBy = nCode == SB_LINEDOWN ? -20 : 20;
+                        ::ScrollWindowEx(pair.list, 0, nBy, nullptr, nullptr, nullptr, nullptr, 0);
+                    });
+}
+static const Benchmark scrollCopy("grid/scroll/line/list_view_copy", 1, MeasureScrollCopy);
+
+// At 10,000 rows, and in one round: for each comparison the list view looks both items up from the start of its
+// list. Its time grows with the square, and 50,000 rows take it more than five minutes.
+static void MeasureSortList(Comparison& compare, const Benchmark::Measure& measure)
+{
+    constexpr int kRows = 10000;
+    CStage stage, other;
+    CBenchGrid grid(stage);
+    CBenchList list(other);
+    grid.Fill(kRows);
+    list.Fill(kRows);
+    compare.Rounds(1);
+    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
+    compare.Bare([&] { list.SortByText(); });
+    measure();
+}
+static const Benchmark sortList("grid/sort/list_view/10000", 0.025, MeasureSortList);
+
+static void MeasureSortBare(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CStage stage;
+    CBenchGrid grid(stage);
+    std::vector<const std::wstring*> pointers;
+    compare.Rounds(3);
+    compare.Prepare(
+        [&]
+        {
+            grid.DeleteAllItems();
+            grid.Fill(kMany);
+            pointers.clear();
+            for (int nRow = 0; nRow < kMany; ++nRow)
+                pointers.push_back(&Texts()[nRow * kCols]);
+        });
+    compare.Ours([&] { grid.SortTextItems(0, TRUE); });
+    compare.Bare(
+        [&]
+        {
+            std::sort(pointers.begin(), pointers.end(),
+                      [](const auto* one, const auto* two) { return *one < *two; });
+        });
+    measure();
+}
+static const Benchmark sortBare("grid/sort/std_sort_of_pointers", 15, MeasureSortBare);
+
+static void MeasureVirtualMillion(Comparison& compare, const Benchmark::Measure& measure)
+{
+    Texts();
+    CStage stage;
+    CBenchGrid grid(stage);
+    const auto use = [&](int nRows)
+    {
+        grid.MakeVirtual(nRows);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+        grid.Repaint();
+        grid.Scroll(SB_BOTTOM);
+        grid.Repaint();
+    };
+    compare.Ours([&] { use(1000000); });
+    compare.Bare([&] { use(1000); });
+    measure();
+}
+static const Benchmark virtualMillion("grid/virtual/million_rows", 1.5, MeasureVirtualMillion);
+
+static void MeasureVirtualList(Comparison& compare, const Benchmark::Measure& measure)
+{
+    Texts();
+    class COwner : public CStage
+    {
+        BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT*) override
+        {
+            auto& info = *reinterpret_cast<NMLVDISPINFOW*>(lParam);
+            if (info.hdr.code == LVN_GETDISPINFOW && (info.item.mask & LVIF_TEXT))
+                info.item.pszText = const_cast<wchar_t*>(TextAt(info.item.iItem, info.item.iSubItem));
+            return TRUE;
+        }
+    } other;
+    CStage stage;
+    CBenchGrid grid(stage);
+    grid.MakeVirtual(1000000);
+    CBenchList list(other, LVS_OWNERDATA);
+    list.SendMessage(LVM_SETITEMCOUNT, 1000000, LVSICF_NOINVALIDATEALL);
+    for (int nCol = 0; nCol < kCols; ++nCol)
+    {
+        grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+        list.SetColumnWidth(nCol, kClient.cx / kCols);
+    }
+    compare.Ours([&] { grid.Repaint(); });
+    compare.Bare([&] { list.Repaint(); });
+    measure();
+}
+static const Benchmark virtualList("grid/virtual/repaint_list_view", 0.5, MeasureVirtualList);
+
+static void MeasureGrowSelect(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareGrowth(compare, measure,
+                  [](CBenchGrid& grid)
+                  {
+                      grid.SetSelectedRange(grid.GetCellRange());
+                      grid.SetSelectedRange(-1, -1, -1, -1);
+                  });
+}
+static const Benchmark growSelect("grid/growth/select_all_and_none", 6, MeasureGrowSelect);
+
+static void MeasureGrowHeights(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareGrowth(compare, measure,
+                  [](CBenchGrid& grid)
+                  {
+                      for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+                          grid.SetRowHeight(nRow, grid.GetRowHeight(nRow) ^ 1);
+                  });
+}
+static const Benchmark growHeights("grid/growth/every_row_height", 6, MeasureGrowHeights);
+
+static void MeasureGrowRows(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareGrowth(compare, measure,
+                  [](CBenchGrid& grid)
+                  {
+                      for (int i = 0; i < 10000; ++i)
+                          grid.InsertRow(L"new", 0);
+                      for (int i = 0; i < 10000; ++i)
+                          grid.DeleteRow(0);
+                  });
+}
+static const Benchmark growRows("grid/growth/rows_at_the_front", 6, MeasureGrowRows);

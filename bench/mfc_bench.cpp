@@ -50,14 +50,21 @@ private:
 };
 } // namespace
 
-static const Benchmark dialog("mfc/dialog_of_forty", 1.5, [](Comparison& compare, const auto& measure) {
-    compare.Ours([] {
-        FortyDialog dialog;
-        dialog.Create(IDD_FORTY);
-        dialog.DestroyWindow();
-    });
-    compare.Bare([] {
-        ::DestroyWindow(::CreateDialog(::GetModuleHandle(nullptr), MAKEINTRESOURCE(IDD_FORTY), nullptr, BareDialogProc));
-    });
+static void MeasureDialog(Comparison& compare, const Benchmark::Measure& measure)
+{
+    compare.Ours(
+        []
+        {
+            FortyDialog dialog;
+            dialog.Create(IDD_FORTY);
+            dialog.DestroyWindow();
+        });
+    compare.Bare(
+        []
+        {
+            ::DestroyWindow(::CreateDialog(::GetModuleHandle(nullptr), MAKEINTRESOURCE(IDD_FORTY), nullptr,
+                                           BareDialogProc));
+        });
     measure();
-});
+}
+static const Benchmark dialog("mfc/dialog_of_forty", 1.5, MeasureDialog);

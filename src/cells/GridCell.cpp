@@ -13,13 +13,20 @@ IMPLEMENT_DYNCREATE(CGridCell, CGridCellBase)
 
 namespace
 {
+/// To the byte: what lies behind the end of a face name may tell two fonts apart that are the same, which
+/// only costs time.
+bool IsSameFont(const LOGFONTW* plf1, const LOGFONTW* plf2)
+{
+    return plf1 && plf2 && memcmp(plf1, plf2, sizeof *plf1) == 0;
+}
+
 /// The one font object behind every cell with a font of its own: made anew when another description is asked
 /// for. Process-wide and unguarded; only the thread of the dialogs asks.
 CFont* SharedFont(const LOGFONTW& lf)
 {
     static CFont font;
     static LOGFONTW made;
-    if (font.GetSafeHandle() && memcmp(&made, &lf, sizeof lf) == 0)
+    if (font.GetSafeHandle() && IsSameFont(&made, &lf))
         return &font;
     font.DeleteObject();
     font.CreateFontIndirect(&lf);
@@ -155,11 +162,12 @@ LOGFONTW* CGridCell::GetFont()
     return pDefault ? pDefault->GetFont() : nullptr;
 }
 
+// The cell of virtual mode always has a font of its own, which mostly is that of its default cell.
 CFont* CGridCell::GetFontObject()
 {
-    if (m_plfFont)
-        return SharedFont(*m_plfFont);
     CGridCellBase* const pDefault = GetDefaultCell();
+    if (m_plfFont && !(pDefault && IsSameFont(m_plfFont, pDefault->GetFont())))
+        return SharedFont(*m_plfFont);
     return pDefault ? pDefault->GetFontObject() : nullptr;
 }
 

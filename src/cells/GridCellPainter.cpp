@@ -4,8 +4,6 @@
 
 #include "grid/GridCtrl.h"
 
-#include <cwchar>
-
 namespace
 {
 /// The fills do not paint the right and bottom edges that the rectangle of a cell holds.
@@ -24,6 +22,7 @@ void DrawTriangle(CDC& dc, CPoint at, int size, bool up)
     dc.LineTo(at.x + size, base);
     dc.LineTo(at.x, base);
 }
+
 /// What a cell changes on the context, put back at the end. SaveDC and RestoreDC would do the same for ten
 /// times as much state, the font chosen anew among it, and take longer than all the rest of a plain cell.
 class CTextState
@@ -64,15 +63,29 @@ private:
 constexpr UINT kPlainFormat =
     DT_CENTER | DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
 
-/// A line that fits, put where DrawText would put it, for half of its cost. False if it does not fit, or is
-/// not plain.
+/// Characters that each stand by themselves, one behind the other: Latin, Greek and Cyrillic letters, digits
+/// and signs. No accents to be put over another, nothing that is joined or written from the right, no control
+/// characters and no soft hyphen.
+bool IsPlain(wchar_t ch)
+{
+    constexpr wchar_t kSoftHyphen = 0xAD;
+    return (ch >= L' ' && ch < 0x7F) || (ch >= 0xA0 && ch < 0x300 && ch != kSoftHyphen) ||
+           (ch >= 0x370 && ch < 0x483);
+}
+
+/// A line that fits, put where DrawText would put it, for half of its cost: it is measured once, and not
+/// searched for letters that change their order or shape. False if it does not fit, or is not plain.
 bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
 {
-    if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE) || std::wcspbrk(pszText, L"\t\r\n"))
+    if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE))
         return false;
-    const int nLength = static_cast<int>(std::wcslen(pszText));
+    int nLength = 0;
+    for (; pszText[nLength]; ++nLength)
+        if (!IsPlain(pszText[nLength]))
+            return false;
     if (nLength == 0)
         return true;
+
     SIZE size;
     if (::GetTextAlign(dc.m_hDC) != TA_LEFT || !::GetTextExtentPoint32W(dc.m_hDC, pszText, nLength, &size) ||
         size.cx > rect.Width())
@@ -82,8 +95,8 @@ bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
         x = rect.right - size.cx;
     else if (nFormat & DT_CENTER)
         x = (rect.left + rect.right - size.cx) / 2;
-    const int y = nFormat & DT_VCENTER ? rect.top + (rect.Height() - size.cy) / 2 : rect.top;
-    dc.ExtTextOut(x, y, ETO_CLIPPED, &rect, pszText, nLength, nullptr);
+    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - size.cy / 2 : rect.top;
+    dc.ExtTextOut(x, y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, pszText, nLength, nullptr);
     return true;
 }
 } // namespace

@@ -4,8 +4,12 @@
 // CGridCellBase::Draw runs one of these. A kind of cell that differs in a step overrides that step and runs
 // its own:
 //
-//     class CHatchPainter : public CGridCellPainter { void FillBackground(const CRect& rect, COLORREF clr)
-//     override; }; BOOL CHatchCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
+//     class CHatchPainter : public CGridCellPainter
+//     {
+//         using CGridCellPainter::CGridCellPainter;
+//         void FillBackground(const CRect& rect, COLORREF clr) override;
+//     };
+//     BOOL CHatchCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
 //     {
 //         return CHatchPainter(*this, nRow, nCol).Paint(pDC, rect, bEraseBkgnd);
 //     }

@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cwchar>
+#include <iterator>
+#include <optional>
 
 namespace
 {
@@ -24,6 +27,38 @@ CString NameOfNonNumber(double dValue)
     if (std::isnan(dValue))
         return L"nan";
     return dValue < 0.0 ? L"-inf" : L"inf";
+}
+
+constexpr double c_powersOfTen[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+
+/// How many units of its last decimal a number has, without its sign; nothing where that does not say beyond
+/// doubt how the number is rounded.
+std::optional<std::uint64_t> CountLastDecimals(double dAbsolute, int nDecimals)
+{
+    constexpr double dExact = 4503599627370496.0; // 2^52: below it a double has room for a half
+    if (nDecimals < 0 || nDecimals >= static_cast<int>(std::size(c_powersOfTen)))
+        return std::nullopt;
+    const double dScaled = dAbsolute * c_powersOfTen[nDecimals];
+    if (!(dScaled < dExact))
+        return std::nullopt;
+    const auto nWhole = static_cast<std::int64_t>(dScaled); // signed: that is one instruction
+    const double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5;
+    if (std::fabs(dBeyondHalf) <= dScaled / dExact) // twice what the product may be off
+        return std::nullopt;
+    return dBeyondHalf > 0.0 ? nWhole + 1 : nWhole;
+}
+
+/// Writes a count of last decimals backwards; where the text begins.
+wchar_t* WriteBackwards(wchar_t* pszEnd, std::uint64_t nCount, int nDecimals)
+{
+    for (int nDigits = 0; nCount > 0 || nDigits <= nDecimals; ++nDigits)
+    {
+        if (nDigits == nDecimals && nDecimals > 0)
+            *--pszEnd = L'.';
+        *--pszEnd = static_cast<wchar_t>(L'0' + nCount % 10);
+        nCount /= 10;
+    }
+    return pszEnd;
 }
 } // namespace
 
@@ -56,6 +91,25 @@ CString gfnFormatDouble(const wchar_t* pszFormat, double dValue)
     if (!FormatInto(szText, pszFormat, dValue))
         FormatInto(szText, c_szExactFormat, dValue);
     return szText;
+}
+
+// The run-time library takes most of the time that a column of numbers needs. What is not a close case of
+// rounding is a whole number and a point.
+const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals, double dValue)
+{
+    const std::optional<std::uint64_t> count = CountLastDecimals(std::fabs(dValue), nDecimals);
+    if (!count)
+    {
+        const CString strText = gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatFixed, nDecimals), dValue);
+        wcscpy_s(szText, c_nDoubleTextSize, strText);
+        return szText;
+    }
+    wchar_t* const pszEnd = szText + c_nDoubleTextSize - 1;
+    *pszEnd = L'\0';
+    wchar_t* pszText = WriteBackwards(pszEnd, *count, nDecimals);
+    if (std::signbit(dValue))
+        *--pszText = L'-';
+    return pszText;
 }
 
 bool gfnParseDouble(const wchar_t* pszText, double& dValue)

@@ -5,16 +5,23 @@
 //     class CPartsDialog : public CDialog
 //     {
 //         CGridCtrl m_grid;
+//
 //         BOOL OnInitDialog() override
 //         {
-//             CDialog::OnInitDialog();                              // DDX_Control binds it, or
-//             m_grid.Create(...) m_grid.SetRowCount(21);                               // a heading and
-//             twenty parts m_grid.SetColumnCount(3); m_grid.SetFixedRowCount(1); m_grid.SetItemText(0, 1,
-//             L"Length [mm]"); m_grid.SetItemText(1, 1, L"6000"); m_grid.AutoSizeColumns(); return TRUE;
+//             CDialog::OnInitDialog();                 // DDX_Control binds a control of the template
+//             m_grid.SetRowCount(21);                  // a heading and twenty parts
+//             m_grid.SetColumnCount(3);
+//             m_grid.SetFixedRowCount(1);
+//             m_grid.SetItemText(0, 1, L"Length [mm]");
+//             m_grid.SetItemText(1, 1, L"6000");
+//             m_grid.AutoSizeColumns();
+//             return TRUE;
 //         }
-//         afx_msg void OnEndEdit(NMHDR* pHeader, LRESULT* pResult); // ON_NOTIFY(LVN_ENDLABELEDITW, IDC_GRID,
-//         OnEndEdit)
+//         afx_msg void OnEndEdit(NMHDR* pHeader, LRESULT* pResult);
+//         // ON_NOTIFY(LVN_ENDLABELEDITW, IDC_GRID, &CPartsDialog::OnEndEdit)
 //     };
+//
+// Where there is no template, m_grid.Create(...) makes the window.
 //
 // PLACES
 //
@@ -49,29 +56,32 @@
 //
 // FOCUS AND SELECTION
 //
-// One body cell may have the focus; any number may be selected. Changing the counts, sorting and switching
-// selection modes drops both. GetSelectedCount and GetSelectedCellRange ask, GetNextItem walks.
+// One body cell may have the focus; any number may be selected. Inserting and deleting, changing the fixed
+// counts, sorting and switching selection modes drop both. GetSelectedCount and GetSelectedCellRange ask,
+// GetNextItem walks.
 //
-// NOTIFICATIONS (WM_NOTIFY to the owner, or to the parent if there is none; a GridNotify record unless told
-// otherwise)
+// NOTIFICATIONS
 //
-//     LVN_ITEMCHANGING    before a selection changes by a press or by select all; row and column of the press
-//     LVN_ITEMCHANGED     the focus moved to another cell; and after select all
-//     NM_CLICK            the left button was released, unless it sized something or starts an edit
-//     NM_DBLCLK           double click on a cell
-//     NM_RCLICK           the right button was released; row and column -1 outside the cells
-//     LVN_BEGINLABELEDITW an edit is about to start; a negative answer forbids it
-//     LVN_ENDLABELEDITW   an edit has changed the text, which the cell holds already; a negative answer puts
-//     the old
-//                         text back
-//     LVN_GETDISPINFOW    virtual mode without a callback; GV_DISPINFO record, to be filled in
-//     LVN_ODCACHEHINT     virtual mode; GridCacheHint record: what will be asked for, and the empty range
-//     when done
+// By WM_NOTIFY to the owner window, or to the parent if no owner was set; with a GridNotify record unless
+// told otherwise. Row and column are those of the cell.
 //
-// After a click on a cell WM_COMMAND is posted, too, with the grid's id. A receiver may change the grid, end
-// the edit, delete rows or destroy the window. It may delete the object as well, except while it answers
-// LVN_GETDISPINFOW or LVN_ODCACHEHINT. It must not delete rows from within a callback of virtual mode's
-// GetCell that it called itself.
+//     LVN_ITEMCHANGING     before a selection changes by a press or by select all; the cell of the last press
+//     LVN_ITEMCHANGED      the focus moved to another cell; and after select all
+//     NM_CLICK             the left button was released, unless it sized something or starts an edit
+//     NM_DBLCLK            double click on a cell
+//     NM_RCLICK            the right button was released; row and column -1 outside the cells
+//     LVN_BEGINLABELEDITW  an edit is about to start; a negative answer forbids it
+//     LVN_ENDLABELEDITW    an edit has changed the text, which the cell holds already; a negative answer
+//                          puts the old one back
+//     LVN_GETDISPINFOW     virtual mode without a callback: a GV_DISPINFO record to be filled in
+//     LVN_ODCACHEHINT      virtual mode: a GridCacheHint record with the cells that will be asked for, and
+//                          with the empty range when that is done
+//
+// After a click on a cell WM_COMMAND is posted, too, with the grid's id.
+//
+// A receiver may change the grid, end the edit, delete rows or destroy the window. It may delete the object
+// as well, except while it answers LVN_GETDISPINFOW or LVN_ODCACHEHINT, or the end of an edit that AutoFill
+// has brought about.
 //
 // FAILURES
 //
@@ -80,12 +90,12 @@
 //
 // SOURCES
 //
-//     GridCtrl.cpp      construction, message map, settings       GridSelection.cpp focus and selection
-//     GridStorage.cpp   rows, columns, cells, virtual mode         GridMouse.cpp     mouse state machine
-//     GridItems.cpp     text, state, colours of single cells       GridKeyboard.cpp  keys, start and end of
-//     edits GridGeometry.cpp  cells to pixels and back, sizing to fit    GridSort.cpp      sorting
-//     GridScroll.cpp    scroll bars and the wheel                  GridFile.cpp      text files, saved widths
-//     GridDraw.cpp      painting                                   GridUnits.cpp     units of columns
+//     GridCtrl.cpp       construction, message map, settings      GridSelection.cpp  focus and selection
+//     GridStorage.cpp    rows, columns, cells, virtual mode       GridMouse.cpp      mouse state machine
+//     GridItems.cpp      text, state, colours of single cells     GridKeyboard.cpp   keys, edits
+//     GridGeometry.cpp   cells to pixels and back, sizing to fit  GridSort.cpp       sorting
+//     GridScroll.cpp     scroll bars and the wheel                GridFile.cpp       text files, saved widths
+//     GridDraw.cpp       painting                                 GridUnits.cpp      units of columns
 //
 // Everything runs on the thread of the window.
 
@@ -162,7 +172,7 @@ public:
     BOOL SetFixedRowCount(int nFixedRows);
     BOOL SetFixedColumnCount(int nFixedCols);
 
-    /// The index of the new row, or -1. -1 as `nRow` appends; the count itself is refused, unlike for
+    /// The index of the new row, or -1. -1 as `nRow` appends; the count itself is refused, not so for
     /// columns.
     int InsertRow(LPCWSTR strHeading, int nRow = -1);
     /// The index of the new column, or -1. -1 as `nColumn`, or the count itself, appends.
@@ -392,6 +402,8 @@ public:
     void SetColComplexUnit(int nCol, const CComplexUnit& unit);
     void SetColComplexUnit(int nCol); ///< the column has no unit any more
     BOOL GetColComplexUnit(int nCol, CComplexUnit& unit);
+    /// Null for a column without a unit; good until the units change.
+    const CComplexUnit* FindColComplexUnit(int nCol) const;
     void ResetAllComplexUnits();
     /// Heads a column with a translated description and its unit, if there is one.
     void SetColDescription(int nCol, CComplexUnit* pUnit, CString desc);
@@ -490,6 +502,8 @@ protected:
 
     BOOL GetCellRangeRect(const CCellRange& range, RECT* pRect);
     CPoint GetPointClicked(int nRow, int nCol, const CPoint& point);
+    /// With row and column raised to the first that is not fixed.
+    CCellID RaisedToBody(CCellID cell) const;
     CCellID GetTopleftNonFixedCell(BOOL bForceRecalculation = FALSE);
     /// `pRect`, if given, receives what the visible cells and the fixed ones cover.
     CCellRange GetVisibleNonFixedCellRange(RECT* pRect = nullptr, BOOL bForceRecalculation = FALSE);
@@ -557,8 +571,8 @@ protected:
 
     COLORREF m_crGridBk; ///< behind the cells
     COLORREF m_crGridLine;
-    COLORREF m_crWindowText; ///< these four: the system's, as last read, to tell what the user set from what
-                             ///< it set
+    COLORREF
+        m_crWindowText; ///< these four are the system's as last read: a colour that differs is the user's
     COLORREF m_crWindow;
     COLORREF m_cr3DFace;
     COLORREF m_crShadow;
@@ -668,7 +682,7 @@ private:
     void DropColumns(int nCols);
     bool AppendColumns(int nCols);
     void SizeRows(int nCols);
-    void CountsChanged();
+    bool CountsChanged();
     void MakeCellFixed(int nRow, int nCol, DWORD nBit);
     void MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed);
     void PlaceNewColumn(int nIndex);
@@ -678,7 +692,7 @@ private:
     CGridCellBase* MakeVirtualCell(int nRow, int nCol) const;
     void FillDisplayRequest(GV_DISPINFO& info, int nRow, int nCol) const;
     CGridCellBase* GetCellToChange(int nRow, int nCol) const;
-    void ItemChanged(int nRow, int nCol);
+    void ItemChanged(CGridCellBase& cell, int nCol);
 
     // Geometry. `nBar` names a direction by its scroll bar: SB_HORZ the columns, SB_VERT the rows.
     CGridAxis& AxisOf(int nBar) { return nBar == SB_HORZ ? m_cols : m_rows; }
@@ -694,6 +708,8 @@ private:
     void ScrollLineOn(int nBar, int nPos, int nMax);
     void ScrollTo(int nBar, int nPos);
     void InvalidateScrolling(int nBar);
+    bool HasBar(int nBar) const;
+    void ShowBar(int nBar, bool bShow);
     void SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask);
     bool SendScroll(int nBar, UINT nSBCode);
     bool ScrollBySteps(int nRow, int nCol);
@@ -716,7 +732,6 @@ private:
     // Mouse
     bool IsInText(const CCellID& cell, CPoint point);
     bool IsBodyCell(const CCellID& cell) const;
-    CCellID RaisedToBody(CCellID cell) const;
     bool FindDivider(CPoint point);
     void DeselectPressed();
     void BeginGesture(UINT nFlags, CPoint point);

@@ -41,7 +41,8 @@ void CGridCtrl::OnDraw(CDC* pDC)
     CRect rectVisible;
     const CCellRange visible = GetVisibleNonFixedCellRange(&rectVisible);
     SendCacheHintToParent(visible);
-    CFont* const pOldFont =
+    CFont* const pOldFont = pDC->GetCurrentFont();
+    if (!pDC->IsPrinting())
         pDC->SelectObject(m_cellDefault.GetFontObject()); // of most cells: they find it there
     DrawCells(pDC, rectClip, visible);
     pDC->SelectObject(pOldFont);
@@ -55,7 +56,8 @@ void CGridCtrl::DrawCells(CDC* pDC, const CRect& rectClip, const CCellRange& vis
     const CPoint body(GetFixedColumnWidth(), GetFixedRowHeight());
     const int nLastFixedRow = m_rows.Fixed() - 1;
     const int nLastFixedCol = m_cols.Fixed() - 1;
-    const CRect rectAll(0, 0, INT_MAX, INT_MAX); // the corner is drawn without asking the clip box
+    const CRect rectAll(INT_MIN, INT_MIN, INT_MAX,
+                        INT_MAX); // the corner is drawn without asking the clip box
 
     DrawPass(pDC, rectAll, CCellRange(0, 0, nLastFixedRow, nLastFixedCol), CPoint(0, 0));
     DrawPass(pDC, rectClip, CCellRange(visible.minRow, 0, visible.maxRow, nLastFixedCol), CPoint(0, body.y));

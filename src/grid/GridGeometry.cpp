@@ -5,6 +5,7 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridClientArea.h"
+#include "grid/GridLifeWatch.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -14,8 +15,7 @@ namespace
 const CCellRange kNoCells;
 } // namespace
 
-// ---- The top-left cell and what shows
-// ------------------------------------------------------------------------
+// ---- The top-left cell and what shows ---------------------------------------------------------------------
 
 CCellID CGridCtrl::GetTopleftNonFixedCell(BOOL bForceRecalculation)
 {
@@ -300,8 +300,10 @@ void CGridCtrl::AutoSize(UINT nAutoSizeStyle)
         if (m_cols.IsShown(nCol))
             FitColumnAndRows(nCol, span, area.DC());
     SendCacheHintToParent(kNoCells);
+    const CLifeWatch life(*this);
     ResetScrollBars();
-    InvalidateGrid();
+    if (life.ObjectLives())
+        InvalidateGrid();
 }
 
 /// One column as wide as its widest cell, and the rows at least as high as their cells in it.
@@ -343,7 +345,10 @@ void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
     const int nFirst = bExpandFixed ? 0 : axis.Fixed();
     if (axis.Count() <= nFirst || !::IsWindow(m_hWnd))
         return;
-    EnableScrollBars(nBar, FALSE);
+    const CLifeWatch life(*this);
+    EnableScrollBars(nBar, FALSE); // which may end an edit
+    if (!life.WindowLives())
+        return;
 
     int nShown = 0;
     for (int nItem = nFirst; nItem < axis.Count(); ++nItem)
@@ -365,10 +370,14 @@ void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
 // The second pass over the columns takes up the width of a scroll bar that the rows made unnecessary.
 void CGridCtrl::ExpandToFit(BOOL bExpandFixed)
 {
+    const CLifeWatch life(*this);
     ExpandColumnsToFit(bExpandFixed);
-    ExpandRowsToFit(bExpandFixed);
-    ExpandColumnsToFit(bExpandFixed);
-    InvalidateGrid();
+    if (life.ObjectLives())
+        ExpandRowsToFit(bExpandFixed);
+    if (life.ObjectLives())
+        ExpandColumnsToFit(bExpandFixed);
+    if (life.ObjectLives())
+        InvalidateGrid();
 }
 
 // Not the first column, even if it is the only one that shows.
@@ -379,7 +388,10 @@ void CGridCtrl::ExpandLastColumn()
         --nCol;
     if (nCol <= 0 || !::IsWindow(m_hWnd))
         return;
+    const CLifeWatch life(*this);
     EnableScrollBars(SB_HORZ, FALSE);
+    if (!life.WindowLives() || !m_cols.Has(nCol))
+        return;
     m_cols.SetSize(nCol, std::max(0, m_cols.Size(nCol) + ClientExtent(SB_HORZ) - m_cols.Extent()));
     Invalidate();
     ResetScrollBars();

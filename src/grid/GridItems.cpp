@@ -15,10 +15,13 @@ CGridCellBase* CGridCtrl::GetCellToChange(int nRow, int nCol) const
     return m_bVirtualMode ? nullptr : GetCell(nRow, nCol);
 }
 
-/// The books after a change of text, data or image.
-void CGridCtrl::ItemChanged(int nRow, int nCol)
+/// The books after a change of text, data or image: SetModified for a cell that is at hand.
+void CGridCtrl::ItemChanged(CGridCellBase& cell, int nCol)
 {
-    SetModified(TRUE, nRow, nCol);
+    if (nCol == m_nSortColumn)
+        SetSortColumn(-1);
+    cell.SetState(cell.GetState() | CELL_MODIFIED);
+    m_bModified = TRUE;
 }
 
 BOOL CGridCtrl::SetItemText(int nRow, int nCol, LPCWSTR str)
@@ -27,7 +30,7 @@ BOOL CGridCtrl::SetItemText(int nRow, int nCol, LPCWSTR str)
     if (!pCell)
         return FALSE;
     pCell->SetText(str);
-    ItemChanged(nRow, nCol);
+    ItemChanged(*pCell, nCol);
     return TRUE;
 }
 
@@ -67,7 +70,7 @@ BOOL CGridCtrl::SetItemData(int nRow, int nCol, LPARAM lParam)
     if (!pCell)
         return FALSE;
     pCell->SetData(lParam);
-    ItemChanged(nRow, nCol);
+    ItemChanged(*pCell, nCol);
     return TRUE;
 }
 
@@ -83,7 +86,7 @@ BOOL CGridCtrl::SetItemImage(int nRow, int nCol, int iImage)
     if (!pCell)
         return FALSE;
     pCell->SetImage(iImage);
-    ItemChanged(nRow, nCol);
+    ItemChanged(*pCell, nCol);
     return TRUE;
 }
 
@@ -249,8 +252,8 @@ void CGridCtrl::SetModified(BOOL bModified, int nRow, int nCol)
     else
         SetItemState(nRow, nCol, GetItemState(nRow, nCol) & ~CELL_MODIFIED);
 
-    if (m_bModified)
-        return;
+    if (m_bModified || m_bVirtualMode)
+        return; // a virtual grid has no cells with marks
     for (int nEachRow = 0; nEachRow < GetRowCount(); ++nEachRow)
         for (int nEachCol = 0; nEachCol < GetColumnCount(); ++nEachCol)
             if (const UINT nState = GetItemState(nEachRow, nEachCol); nState & CELL_MODIFIED)

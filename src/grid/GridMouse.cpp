@@ -65,7 +65,7 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         return;
     if (CGridCellBase* const pCell = GetCell(m_clickDownCell.row, m_clickDownCell.col))
         pCell->OnClickDown(GetPointClicked(m_clickDownCell.row, m_clickDownCell.col, point));
-    if (!life.WindowLives())
+    if (!life.WindowLives() || !IsValid(m_clickDownCell))
         return;
 
     const bool bControl = (nFlags & MK_CONTROL) != 0;

@@ -56,8 +56,25 @@ void CGridCtrl::EnableScrollBars(int nBar, BOOL bEnable)
     }
 }
 
+bool CGridCtrl::HasBar(int nBar) const
+{
+    return (GetStyle() & (nBar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
+}
+
+/// In the books and in the window, which disagree when only the headers have fitted before.
+void CGridCtrl::ShowBar(int nBar, bool bShow)
+{
+    const CLifeWatch life(*this);
+    EnableScrollBars(nBar, bShow);
+    if (life.WindowLives() && HasBar(nBar) != bShow)
+        CWnd::ShowScrollBar(nBar, bShow);
+}
+
 // The vertical bar is decided first; the horizontal one takes height away and may make it necessary after
 // all.
+//
+// A bar that comes or goes changes the size of the window, and with that ends an edit: whoever hears of that
+// may destroy the window.
 void CGridCtrl::ResetScrollBars()
 {
     m_topLeftCell.row = -1;
@@ -68,17 +85,18 @@ void CGridCtrl::ResetScrollBars()
         return;
 
     // The area as it would be without bars
-    if (IsVisibleVScroll())
+    if (HasBar(SB_VERT))
         area.cx += ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER);
-    if (IsVisibleHScroll())
+    if (HasBar(SB_HORZ))
         area.cy += ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER);
 
     const CSize fixed(GetFixedColumnWidth(), GetFixedRowHeight());
     if (fixed.cx >= area.cx || fixed.cy >= area.cy)
     {
         // Only headers fit. The books of the bars stay as they were; the next full pass puts them right.
-        CWnd::ShowScrollBar(SB_HORZ, FALSE);
-        CWnd::ShowScrollBar(SB_VERT, FALSE);
+        const HWND hWnd = m_hWnd;
+        ::ShowScrollBar(hWnd, SB_HORZ, FALSE);
+        ::ShowScrollBar(hWnd, SB_VERT, FALSE);
         return;
     }
 
@@ -93,8 +111,12 @@ void CGridCtrl::ResetScrollBars()
     const bool bHorizontal = available.cx < needed.cx;
     m_nVScrollMax = bVertical ? needed.cy - 1 : 0;
     m_nHScrollMax = bHorizontal ? needed.cx - 1 : 0;
-    EnableScrollBars(SB_VERT, bVertical);
-    EnableScrollBars(SB_HORZ, bHorizontal);
+    const CLifeWatch life(*this);
+    ShowBar(SB_VERT, bVertical);
+    if (life.WindowLives())
+        ShowBar(SB_HORZ, bHorizontal);
+    if (!life.WindowLives())
+        return;
     SetScrollRange32(SB_HORZ, m_nHScrollMax, available.cx, SIF_PAGE | SIF_RANGE);
     SetScrollRange32(SB_VERT, m_nVScrollMax, available.cy, SIF_PAGE | SIF_RANGE | SIF_DISABLENOSCROLL);
 }
@@ -107,8 +129,7 @@ void CGridCtrl::SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask)
     info.cbSize = sizeof info;
     if (GetScrollInfo(nBar, &info, SIF_PAGE | SIF_RANGE) && info.nMin == 0 && info.nMax == nMax &&
         info.nPage == nNewPage)
-        return; // setting it again would repaint the bar, which is most of what a change of a row's height
-                // costs
+        return; // setting it again would repaint the bar: most of what a change of a row's height costs
     info = {};
     info.cbSize = sizeof info;
     info.fMask = nMask;
@@ -279,9 +300,12 @@ void CGridCtrl::EnsureVisible(int nRow, int nCol)
         ::SetFocus(hFocus);
 }
 
-/// Line by line in whole rows and columns, counted from the visible range. Hidden ones use up a step.
+/// Line by line in whole rows and columns, counted from the visible range. Hidden ones use up a step, and so
+/// would those beyond the ends, to which nothing can be scrolled.
 bool CGridCtrl::ScrollBySteps(int nRow, int nCol)
 {
+    nRow = std::clamp(nRow, -1, GetRowCount());
+    nCol = std::clamp(nCol, -1, GetColumnCount());
     const CCellRange visible = GetVisibleNonFixedCellRange();
     for (int nStep = visible.maxCol + 1; nStep <= nCol; ++nStep)
         if (m_cols.IsShown(nStep) && !SendScroll(SB_HORZ, SB_LINERIGHT))
@@ -311,8 +335,10 @@ bool CGridCtrl::ScrollCellEndIntoView(int nRow, int nCol)
         const int nPos = GetScrollPos32(SB_HORZ);
         if (!SendScroll(SB_HORZ, SB_LINERIGHT))
             return false;
-        if (GetScrollPos32(SB_HORZ) == nPos || !GetCellRect(nRow, nCol, &rect))
+        if (!GetCellRect(nRow, nCol, &rect))
             return true;
+        if (GetScrollPos32(SB_HORZ) == nPos)
+            break;
     }
     while (rect.bottom > GetClientSize().cy && rect.top > GetFixedRowHeight())
     {

@@ -281,8 +281,11 @@ void CGridCtrl::OnFixedRowClick(CCellID& cell)
         return;
     if (m_bHeaderSort)
     {
+        const CLifeWatch life(*this);
         const CWaitCursor wait;
         SortItems(cell.col, cell.col == m_nSortColumn ? !m_bSortAscending : TRUE);
+        if (!life.WindowLives())
+            return;
         Invalidate();
     }
     if (m_bFixedRowSelection)
@@ -349,8 +352,10 @@ UINT StatesAskedFor(int nFlags)
 }
 } // namespace
 
-CCellID CGridCtrl::GetNextItem(CCellID& cell, int nFlags) const
+CCellID CGridCtrl::GetNextItem(CCellID& start, int nFlags) const
 {
+    // Outside there is nothing to be found; just so far outside that the next cell can still be named.
+    const CCellID cell(std::clamp(start.row, -1, GetRowCount()), std::clamp(start.col, -1, GetColumnCount()));
     const UINT nStates = StatesAskedFor(nFlags);
     const auto matches = [&](int nRow, int nCol) { return (GetItemState(nRow, nCol) & nStates) != 0; };
 
@@ -370,7 +375,7 @@ CCellID CGridCtrl::GetNextItem(CCellID& cell, int nFlags) const
     }
     if (nFlags & GVNI_ABOVE)
     {
-        for (int nRow = std::min(cell.row, GetRowCount()) - 1; nRow >= m_rows.Fixed(); --nRow)
+        for (int nRow = cell.row - 1; nRow >= m_rows.Fixed(); --nRow)
             if (matches(nRow, cell.col))
                 return CCellID(nRow, cell.col);
     }
@@ -382,7 +387,7 @@ CCellID CGridCtrl::GetNextItem(CCellID& cell, int nFlags) const
     }
     else if (nFlags & GVNI_TOLEFT)
     {
-        for (int nCol = std::min(cell.col, GetColumnCount()) - 1; nCol >= m_cols.Fixed(); --nCol)
+        for (int nCol = cell.col - 1; nCol >= m_cols.Fixed(); --nCol)
             if (matches(cell.row, nCol))
                 return CCellID(cell.row, nCol);
     }

@@ -4,6 +4,7 @@
 
 #include "grid/GridCtrl.h"
 
+#include "grid/GridLifeWatch.h"
 #include "grid/NotifyOwner.h"
 
 #include <algorithm>
@@ -61,8 +62,8 @@ BOOL CGridCtrl::SetRowCount(int nRows)
         DropRows(nRows);
     else
         bDone = Guarded([&] { AppendRows(nRows); });
-    CountsChanged();
-    InvalidateGrid();
+    if (CountsChanged())
+        InvalidateGrid();
     return bDone;
 }
 
@@ -85,8 +86,8 @@ BOOL CGridCtrl::SetColumnCount(int nCols)
         DropColumns(nCols);
     else
         bDone = AppendColumns(nCols);
-    CountsChanged();
-    InvalidateGrid();
+    if (CountsChanged())
+        InvalidateGrid();
     return bDone;
 }
 
@@ -164,13 +165,18 @@ void CGridCtrl::SizeRows(int nCols)
         m_rowData[nRow]->SetSize(nCols);
 }
 
-/// What follows every change of the counts.
-void CGridCtrl::CountsChanged()
+/// What follows every change of the counts. False if the grid did not outlive the end of an edit that a
+/// scroll bar, coming or going, has set off.
+bool CGridCtrl::CountsChanged()
 {
     ++m_nStructure;
+    const CLifeWatch life(*this);
     ResetScrollBars();
+    if (!life.ObjectLives())
+        return false;
     SetSortColumn(-1);
     m_bModified = TRUE;
+    return true;
 }
 
 BOOL CGridCtrl::SetFixedRowCount(int nFixedRows)
@@ -208,7 +214,8 @@ BOOL CGridCtrl::SetFixedColumnCount(int nFixedCols)
         return TRUE;
     if (nFixedCols < 0)
         return FALSE;
-    if (nFixedCols > GetColumnCount() && !SetColumnCount(nFixedCols))
+    const CLifeWatch life(*this);
+    if (nFixedCols > GetColumnCount() && (!SetColumnCount(nFixedCols) || !life.ObjectLives()))
         return FALSE;
     if (m_focusCell.col < nFixedCols)
         SetFocusCell(CCellID());
@@ -466,7 +473,7 @@ void CGridCtrl::DestroyCell(int nRow, int nCol)
 
 BOOL CGridCtrl::SetCell(int nRow, int nCol, CGridCellBase* pCell)
 {
-    if (m_bVirtualMode || !IsValid(nRow, nCol))
+    if (m_bVirtualMode || !IsValid(nRow, nCol) || !m_rowData[nRow])
         return FALSE;
     if (pCell)
         pCell->SetCoords(nRow, nCol);
@@ -615,7 +622,7 @@ void CGridCtrl::FillDisplayRequest(GV_DISPINFO& info, int nRow, int nCol) const
     item.lParam = defaultCell.GetData();
     item.lfFont = *defaultCell.GetFont();
     item.nMargin = defaultCell.GetMargin();
-    item.strText.Empty();
+    item.strText.Truncate(0); // keeps its buffer for the answer
 
     item.nState = 0;
     if (IsCellSelected(nRow, nCol))

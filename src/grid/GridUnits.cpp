@@ -21,6 +21,12 @@ BOOL CGridCtrl::GetColComplexUnit(int nCol, CComplexUnit& unit)
     return m_mapColUnit.Lookup(nCol, unit);
 }
 
+const CComplexUnit* CGridCtrl::FindColComplexUnit(int nCol) const
+{
+    const auto* const pPair = m_mapColUnit.PLookup(nCol);
+    return pPair ? &pPair->value : nullptr;
+}
+
 void CGridCtrl::ResetAllComplexUnits()
 {
     m_mapColUnit.RemoveAll();

@@ -4,15 +4,58 @@
 #include "Input.h"
 
 #include <algorithm>
+#include <optional>
 #include <random>
 #include <set>
 #include <sstream>
 
 namespace
 {
+struct CellKind
+{
+    CRuntimeClass* pClass;
+    const wchar_t* behindNumber; ///< written behind a number that is typed; null: any text is accepted
+};
+
+const std::vector<CellKind>& Kinds()
+{
+    static const std::vector<CellKind> kinds = {
+        {RUNTIME_CLASS(CGridCell), nullptr},           {RUNTIME_CLASS(CLimitedTextCell), nullptr},
+        {RUNTIME_CLASS(CLimitedIntCell), L""},         {RUNTIME_CLASS(CLimitedDoubleCell), L".00"},
+        {RUNTIME_CLASS(CGridCellCheck), nullptr},      {RUNTIME_CLASS(CGridCellCombo), nullptr},
+        {RUNTIME_CLASS(CGridCellColorCombo), nullptr},
+    };
+    return kinds;
+}
+
+/// What becomes of a text that is typed; nothing if the cell refuses it.
+std::optional<std::wstring> Accepted(int kind, const std::wstring& text)
+{
+    const wchar_t* const behind = Kinds()[kind].behindNumber;
+    if (!behind)
+        return text;
+    if (text.empty() || text.find_first_not_of(L"0123456789") != std::wstring::npos)
+        return std::nullopt;
+    return text + behind;
+}
+
+bool IsA(int kind, CRuntimeClass* pClass)
+{
+    return Kinds()[kind].pClass == pClass;
+}
+
+int KindOf(const CGridCellBase& cell)
+{
+    int kind = 0;
+    while (!IsA(kind, cell.GetRuntimeClass()))
+        ++kind;
+    return kind;
+}
+
 struct ModelCell
 {
-    std::wstring text;
+    int kind = 0; ///< index into Kinds
+    std::wstring text = {};
     LPARAM data = 0;
     bool modified = false;
     bool readOnly = false;
@@ -40,6 +83,9 @@ struct Model
     int fixedCols = 0;
     CCellID focus;
     int sortColumn = -1;
+    int newKind; ///< of cells made from now on
+
+    explicit Model(int kind = 0) : newKind(kind) {}
 
     int RowCount() const { return static_cast<int>(rows.size()); }
     int ColCount() const { return static_cast<int>(widths.size()); }
@@ -65,11 +111,13 @@ struct Model
         SelectNothing();
         focus = CCellID();
     }
+    ModelCell NewCell() const { return ModelCell{newKind}; }
+    std::vector<ModelCell> NewCells(int count) const { return std::vector<ModelCell>(count, NewCell()); }
     void Resize(int nRows, int nCols, int height, int width)
     {
         for (ModelRow& row : rows)
-            row.cells.resize(nCols);
-        rows.resize(nRows, ModelRow{height, std::vector<ModelCell>(nCols)});
+            row.cells.resize(nCols, NewCell());
+        rows.resize(nRows, ModelRow{height, NewCells(nCols)});
         widths.resize(nCols, width);
         fixedRows = std::min(fixedRows, nRows);
         fixedCols = std::min(fixedCols, nCols);
@@ -82,13 +130,15 @@ struct Model
 class Sequence
 {
 public:
-    Sequence(unsigned seed, bool withInput) : m_random(seed), m_withInput(withInput)
+    Sequence(unsigned seed, const SequenceOptions& options)
+        : m_random(seed), m_withInput(options.withInput), m_mixedCells(options.mixedCells),
+          m_inside(options.makeGrid()), m_grid(m_inside->Grid())
     {
-        m_parent.Open(360, 280, withInput);
+        m_parent.Open(360, 280, m_withInput);
         PlaceGrid(m_grid, m_parent, CSize(300, 220));
         m_height = m_grid.GetDefCellHeight();
         m_width = m_grid.GetDefCellWidth();
-        if (withInput)
+        if (m_withInput)
             owtest::Activate(m_parent);
     }
     ~Sequence() { m_parent.DestroyWindow(); }
@@ -103,8 +153,8 @@ public:
             if (m_problem.str().empty())
                 continue;
             std::ostringstream text;
-            text << "seed " << seed << (m_withInput ? " with input" : "") << ", step " << result.stepsDone
-                 << ": " << m_problem.str() << "\nsteps:\n"
+            text << "seed " << seed << (m_withInput ? " with input" : "") << (m_mixedCells ? " mixed" : "")
+                 << ", step " << result.stepsDone << ": " << m_problem.str() << "\nsteps:\n"
                  << m_log.str();
             result.failure = text.str();
             break;
@@ -143,6 +193,8 @@ private:
     {
         if (m_model.ColCount() > 12 || m_model.RowCount() > 40)
             return SetCounts();
+        if (m_mixedCells && Pick(10) == 0)
+            return SetKind();
         switch (Pick(m_withInput ? 26 : 20))
         {
         case 0:
@@ -238,7 +290,7 @@ private:
         m_model.Reset();
         if (m_model.ColCount() == 0)
             m_model.Resize(m_model.RowCount(), 1, m_height, m_width);
-        ModelRow row{m_grid.GetRowHeight(expected), std::vector<ModelCell>(m_model.ColCount())};
+        ModelRow row{m_grid.GetRowHeight(expected), m_model.NewCells(m_model.ColCount())};
         row.cells[0].text = heading;
         row.cells[0].modified = true;
         m_model.rows.insert(m_model.rows.begin() + expected, row);
@@ -261,7 +313,7 @@ private:
         if (m_model.RowCount() == 0)
             m_model.Resize(1, m_model.ColCount(), m_height, m_width);
         for (ModelRow& row : m_model.rows)
-            row.cells.insert(row.cells.begin() + expected, ModelCell());
+            row.cells.insert(row.cells.begin() + expected, m_model.NewCell());
         m_model.At(0, expected).text = heading;
         m_model.At(0, expected).modified = true;
         m_model.widths.insert(m_model.widths.begin() + expected, m_grid.GetColumnWidth(expected));
@@ -275,7 +327,7 @@ private:
         {
             Say("DeleteAllItems");
             Expect(m_grid.DeleteAllItems(), "DeleteAllItems answers 0");
-            m_model = Model();
+            m_model = Model(m_model.newKind);
         }
         else if (what == 1)
         {
@@ -317,6 +369,28 @@ private:
         m_model.widths.erase(m_model.widths.begin() + c);
         m_model.fixedCols -= c < m_model.fixedCols;
         m_model.sortColumn = -1;
+    }
+
+    // ---- Kinds
+
+    /// Of one cell, or of all that are made from now on.
+    void SetKind()
+    {
+        const int kind = Pick(static_cast<int>(Kinds().size()));
+        CRuntimeClass* const pClass = Kinds()[kind].pClass;
+        if (Pick(2))
+        {
+            Say("SetDefaultCellType", kind);
+            Expect(m_grid.SetDefaultCellType(pClass), "SetDefaultCellType answers 0");
+            m_model.newKind = kind;
+            return;
+        }
+        const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount());
+        Say("SetCellType", r, c, kind);
+        const bool exists = m_model.Has(r, c);
+        Expect((m_grid.SetCellType(r, c, pClass) != FALSE) == exists, "SetCellType answers wrong");
+        if (exists)
+            m_model.At(r, c).kind = kind;
     }
 
     // ---- Items and sizes
@@ -409,7 +483,7 @@ private:
         const int c = Pick(m_model.ColCount());
         Say("SetFocusCell", r, c);
         Expect(m_grid.SetFocusCell(r, c) == m_model.focus, "SetFocusCell answers another old focus");
-        m_model.focus = CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols));
+        m_model.focus = RaisedToBody(r, c);
     }
 
     void SelectRange()
@@ -441,7 +515,7 @@ private:
         Say("SortTextItems", c, ascending);
         const bool enough = m_model.RowCount() - m_model.fixedRows > 1;
         Expect((m_grid.SortTextItems(c, ascending) != FALSE) == enough, "SortTextItems answers wrong");
-        m_grid.GetTopleftNonFixedCell(TRUE); // a sort leaves the view at its row, whatever that is now high
+        m_inside->TopLeft(TRUE); // a sort leaves the view at its row, whatever that is now high
         m_model.Reset();
         m_model.sortColumn = c;
 
@@ -465,7 +539,7 @@ private:
         for (int c = 0; c < m_model.ColCount(); ++c)
         {
             CGridCellBase& cell = *m_grid.GetCell(r, c);
-            row.cells.push_back({cell.GetText(), cell.GetData(), cell.IsModified() != 0,
+            row.cells.push_back({KindOf(cell), cell.GetText(), cell.GetData(), cell.IsModified() != 0,
                                  cell.IsReadOnly() != 0, cell.IsSelected() != 0});
         }
         return row;
@@ -536,8 +610,11 @@ private:
     /// A press and release in the middle of a cell, which may start an edit.
     void Click()
     {
-        const int r = Pick(m_model.RowCount());
-        const int c = Pick(m_model.ColCount());
+        // Now and then on the focus cell, where an edit starts.
+        const CCellID& focus = m_model.focus;
+        const bool again = Pick(3) == 0 && m_model.Has(focus.row, focus.col);
+        const int r = again ? focus.row : Pick(m_model.RowCount());
+        const int c = again ? focus.col : Pick(m_model.ColCount());
         if (!m_grid.IsCellVisible(r, c) || m_model.rows[r].height < 12 || m_model.widths[c] < 12)
             return;
         const CPoint point = MiddleOf(m_grid, r, c);
@@ -545,8 +622,11 @@ private:
         m_grid.GetClientRect(client);
         if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c))
             return;
+        if (OpensDialog(m_model.focus) || OpensDialog(RaisedToBody(r, c)))
+            return;
         Say("click", r, c);
-        const bool edits = m_model.focus == CCellID(r, c) && !m_model.At(r, c).readOnly;
+        const bool edits =
+            m_model.focus == CCellID(r, c) && !m_model.At(r, c).readOnly && IsInText(r, c, point);
         m_grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
         m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
         if (edits)
@@ -556,12 +636,33 @@ private:
         owtest::Pump();
     }
 
+    /// A colour cell would show a modal dialog.
+    bool OpensDialog(CCellID cell)
+    {
+        return m_model.Has(cell.row, cell.col) &&
+               IsA(m_model.At(cell.row, cell.col).kind, RUNTIME_CLASS(CGridCellColorCombo));
+    }
+
+    /// The text of a check cell stands clear of the box, and may have no room left.
+    bool IsInText(int r, int c, CPoint point)
+    {
+        if (!IsA(m_model.At(r, c).kind, RUNTIME_CLASS(CGridCellCheck)))
+            return true;
+        CRect rect;
+        m_grid.GetCellRect(r, c, &rect);
+        rect.left += ::GetSystemMetrics(SM_CXHSCROLL) + 2 * m_grid.GetDefCellMargin();
+        return rect.PtInRect(point);
+    }
+
+    CCellID RaisedToBody(int r, int c) const
+    {
+        return CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols));
+    }
+
     void Clicked(int r, int c)
     {
         if (!m_model.At(r, c).selected)
-            m_model.focus = m_model.HasBody()
-                                ? CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols))
-                                : CCellID();
+            m_model.focus = m_model.HasBody() ? RaisedToBody(r, c) : CCellID();
         const bool row = r >= m_model.fixedRows, col = c >= m_model.fixedCols;
         m_model.SelectOnly(row ? r : m_model.fixedRows, col ? c : m_model.fixedCols,
                            row ? r : m_model.RowCount() - 1, col ? c : m_model.ColCount() - 1);
@@ -572,23 +673,27 @@ private:
         CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId);
         if (!editor || !m_grid.IsItemEditing(r, c))
             return Problem("no editor on the focus cell");
+        ModelCell& cell = m_model.At(r, c);
         const std::wstring text = Text();
         const int way = Pick(4);
         Say("edit ends by way", way);
         m_parent.answer = [&](NMHDR& header)
         { return header.code == LVN_ENDLABELEDITW && way == 1 ? -1 : 0; };
         editor->SetWindowText(text.c_str());
+        const UINT message = IsA(cell.kind, RUNTIME_CLASS(CGridCellCombo)) ? WM_KEYUP : WM_CHAR;
         if (way == 0)
-            editor->SendMessage(WM_CHAR, VK_ESCAPE);
+            editor->SendMessage(message, VK_ESCAPE);
         else if (way == 3)
             m_parent.SetFocus();
         else
-            editor->SendMessage(WM_CHAR, VK_RETURN);
+            editor->SendMessage(message, VK_RETURN);
         m_parent.answer = nullptr;
-        if (way == 0 || text == m_model.At(r, c).text)
+        if (way == 0 || text == cell.text)
             return;
-        if (way != 1) // a veto puts the old text back, and the cell stays marked
-            m_model.At(r, c).text = text;
+        // Cell and parent may refuse it: the old text comes back, and the cell stays marked.
+        const std::optional<std::wstring> accepted = Accepted(cell.kind, text);
+        if (way != 1 && accepted)
+            cell.text = *accepted;
         Changed(r, c);
     }
 
@@ -602,7 +707,7 @@ private:
         Expect(m_grid.GetFixedColumnCount() == m_model.fixedCols, "fixed column count");
         Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
-        Expect(m_grid.GetMouseMode() == 0, "mouse mode");
+        Expect(m_inside->MouseMode() == 0, "mouse mode");
         Expect(m_grid.GetDlgItem(InPlaceControlId) == nullptr, "an editor is left");
         if (!m_problem.str().empty())
             return;
@@ -620,8 +725,8 @@ private:
                 CGridCellBase* const cell = m_grid.GetCell(r, c);
                 const ModelCell& expected = m_model.At(r, c);
                 if (!cell || expected.text != cell->GetText() || expected.data != cell->GetData() ||
-                    cell->GetState() != StateOf(r, c))
-                    Problem("cell ", r, ",", c, " holds another text, data or state");
+                    cell->GetState() != StateOf(r, c) || !IsA(expected.kind, cell->GetRuntimeClass()))
+                    Problem("cell ", r, ",", c, " is of another kind, or holds another text, data or state");
                 if ((m_grid.IsCellSelected(r, c) != FALSE) != expected.selected)
                     Problem("selection of ", r, ",", c);
                 selected += expected.selected;
@@ -673,7 +778,7 @@ private:
     /// The top-left cell against a walk over the sizes, and one cell's origin against its neighbours' sizes.
     void CheckPlaces()
     {
-        const CCellID topLeft = m_grid.GetTopleftNonFixedCell();
+        const CCellID topLeft = m_inside->TopLeft(FALSE);
         int row = m_model.fixedRows, y = 0;
         for (const int pos = m_grid.GetScrollPos(SB_VERT); y < pos && row < m_model.RowCount() - 1; ++row)
             y += m_model.rows[row].height;
@@ -693,8 +798,10 @@ private:
 
     std::mt19937 m_random;
     bool m_withInput;
+    bool m_mixedCells;
     GridParent m_parent;
-    OpenGrid m_grid;
+    std::unique_ptr<ModelGrid> m_inside;
+    CGridCtrl& m_grid; ///< of m_inside
     Model m_model;
     int m_height = 0;
     int m_width = 0;
@@ -703,8 +810,8 @@ private:
 };
 } // namespace
 
-SequenceResult RunGridSequence(unsigned seed, int steps, bool withInput)
+SequenceResult RunGridSequence(unsigned seed, int steps, const SequenceOptions& options)
 {
-    Sequence sequence(seed, withInput);
+    Sequence sequence(seed, options);
     return sequence.Run(seed, steps);
 }

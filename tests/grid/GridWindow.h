@@ -131,7 +131,7 @@ inline void SetSizes(CGridCtrl& grid)
         grid.SetColumnWidth(nCol, kColWidth, TRUE);
 }
 
-inline bool PlaceGrid(OpenGrid& grid, GridParent& parent, CSize client = CSize(300, 200))
+inline bool PlaceGrid(CGridCtrl& grid, GridParent& parent, CSize client = CSize(300, 200))
 {
     CRect rect(CPoint(10, 10), client);
     ::AdjustWindowRectEx(&rect, WS_CHILD, FALSE, WS_EX_CLIENTEDGE);

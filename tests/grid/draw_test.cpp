@@ -176,31 +176,35 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
 {
     grid.SetGridLines(GVL_NONE);
     CGridCellBase& cell = *grid.GetCell(3, 2);
-    CFont& font = *cell.GetFontObject();
     const int margin = static_cast<int>(cell.GetMargin());
-    for (const wchar_t* text :
-         {L"12", L"IPE 200", L"Wj", L"much too long for the width of its column", L"two\nlines"})
-        for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})
-            for (const UINT vertical : {UINT(DT_TOP), UINT(DT_VCENTER), UINT(DT_BOTTOM)})
-                for (const int width : {59, 60, 75})
-                {
-                    const UINT format = align | vertical | DT_SINGLELINE | DT_END_ELLIPSIS;
-                    const CRect place(3, 2, 3 + width, 2 + 21);
-                    cell.SetText(text);
-                    cell.SetFormat(format);
-                    owtest::Surface drawn(90, 30, kBack), expected(90, 30, kBack);
-                    cell.Draw(&drawn.dc(), 3, 2, place, FALSE);
-                    CRect inner(place.left + margin, place.top + margin, place.right - margin, place.bottom);
-                    expected.dc().SelectObject(&font);
-                    expected.dc().SetBkMode(TRANSPARENT);
-                    expected.dc().SetTextColor(grid.GetTextColor());
-                    expected.dc().DrawText(text, -1, &inner, format | DT_NOPREFIX);
-                    for (int y = 0; y < 30; ++y)
-                        for (int x = 0; x < 90; ++x)
-                            ASSERT_EQ(drawn.at(x, y), expected.at(x, y))
-                                << CStringA(text).GetString() << " format " << format << " at " << x << ','
-                                << y;
-                }
+    const auto compare = [&](const wchar_t* text, UINT format, CSize size)
+    {
+        const CRect place(CPoint(3, 2), size);
+        cell.SetText(text);
+        cell.SetFormat(format);
+        owtest::Surface drawn(90, 30, kBack), expected(90, 30, kBack);
+        cell.Draw(&drawn.dc(), 3, 2, place, FALSE);
+        CRect inner(place.left + margin, place.top + margin, place.right - margin, place.bottom);
+        expected.dc().SelectObject(cell.GetFontObject());
+        expected.dc().SetBkMode(TRANSPARENT);
+        expected.dc().SetTextColor(grid.GetTextColor());
+        expected.dc().DrawText(text, -1, &inner, format | DT_NOPREFIX);
+        for (int y = 0; y < 30; ++y)
+            for (int x = 0; x < 90; ++x)
+                ASSERT_EQ(drawn.at(x, y), expected.at(x, y))
+                    << CStringA(text).GetString() << " format " << format << " at " << x << ',' << y;
+    };
+    LOGFONT lf = *cell.GetFont();
+    for (lf.lfHeight = -13; lf.lfHeight < -10; ++lf.lfHeight) // even and odd heights of a line
+    {
+        cell.SetFont(&lf);
+        for (const wchar_t* text : {L"12", L"IPE 200", L"fi\x0160 \x0428", L"e\x0301 \x05D0\x05D1",
+                                    L"much too long for the width of its column", L"two\nlines"})
+            for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})
+                for (const UINT vertical : {UINT(DT_TOP), UINT(DT_VCENTER), UINT(DT_BOTTOM)})
+                    for (const CSize size : {CSize(59, 21), CSize(60, 20), CSize(75, 9)})
+                        compare(text, align | vertical | DT_SINGLELINE | DT_END_ELLIPSIS, size);
+    }
 }
 
 TEST_F(GridDrawing, ACellLeavesTheContextAsItFoundIt)

@@ -90,6 +90,8 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     grid.SetColumnWidth(0, 400, TRUE);
     EXPECT_TRUE(grid.IsVisibleVScroll());
     EXPECT_FALSE(grid.GetStyle() & WS_VSCROLL);
+    grid.SetColumnWidth(0, kColWidth, TRUE);
+    EXPECT_TRUE(grid.GetStyle() & WS_VSCROLL) << "as before, and so must the bar be";
 }
 
 TEST_F(GridGeometry, ScrollMessagesMoveByLinesPagesAndEnds)
@@ -169,6 +171,9 @@ TEST_F(GridGeometry, EnsureVisibleComesBackEvenWhereNothingFits)
     grid.EnsureVisible(20, 6);
     OpenGrid windowless(9, 9, 1, 1);
     windowless.EnsureVisible(8, 8);
+    SetSizes(grid);
+    grid.EnsureVisible(INT_MAX, INT_MIN);
+    EXPECT_GT(grid.GetTopleftNonFixedCell().row, 1) << "as far as there are rows";
 }
 
 TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)

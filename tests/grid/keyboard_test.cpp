@@ -105,6 +105,18 @@ TEST_F(GridKeyboard, TypingReplacesTheTextAndEnterStoresIt)
     EXPECT_EQ(grid.GetFocusCell(), CCellID(2, 2));
 }
 
+TEST_F(GridKeyboard, AnInputMethodsCharacterStartsAnEditLikeATypedOne)
+{
+    EXPECT_EQ(grid.SendMessage(WM_IME_CHAR, VK_ESCAPE), 0);
+    EXPECT_EQ(parent.Take(), Calls{}) << "but Escape does not";
+    EXPECT_EQ(grid.SendMessage(WM_IME_CHAR, L'\x5B57'), 0);
+    ASSERT_TRUE(EditorOpens(2, 2));
+    owtest::Pump();
+    grid.EndEditing();
+    EXPECT_EQ(Text(2, 2), L"\x5B57");
+    ASSERT_TRUE(EditorCloses());
+}
+
 TEST_F(GridKeyboard, EscapeAndTheLossOfTheFocusEndAnEdit)
 {
     owtest::Type(L"x");

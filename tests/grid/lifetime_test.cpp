@@ -110,6 +110,29 @@ TEST_F(GridLife, AReceiverMayDeleteTheGrid)
     Torment([&] { grid.reset(); });
 }
 
+TEST_F(GridLife, AScrollBarThatComesEndsTheEditAndMaybeTheGrid)
+{
+    for (const auto grow :
+         {&CGridCtrl::SetRowCount, &CGridCtrl::SetColumnCount, &CGridCtrl::SetFixedColumnCount})
+    {
+        grid->SetRowCount(4);
+        grid->SetColumnCount(3);
+        grid->SetFocusCell(2, 1);
+        grid->StartEditCell();
+        ::SetWindowText(::GetDlgItem(grid->m_hWnd, InPlaceControlId), L"another text");
+        parent.answer = [&](NMHDR& header) -> LRESULT
+        {
+            if (header.code == LVN_ENDLABELEDITW)
+                grid.reset();
+            return 0;
+        };
+        (grid.get()->*grow)(40);
+        EXPECT_EQ(grid, nullptr) << "the bar changes the size, and the size ends the edit";
+        parent.answer = nullptr;
+        Make();
+    }
+}
+
 TEST_F(GridLife, AReceiverMayEndTheEditOrStartAnother)
 {
     Torment([&] { grid->EndEditing(); });

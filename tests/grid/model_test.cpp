@@ -3,28 +3,67 @@
 
 #include "GridModel.h"
 
+#include "GridWindow.h"
+
 #include <gtest/gtest.h>
+
+namespace
+{
+/// What the parent would have answered if there were no handler: the model decides there about an edit.
+bool ParentAccepts(CWnd& grid)
+{
+    const auto& parent = static_cast<GridParent&>(*grid.GetParent());
+    NMHDR header{grid.m_hWnd, kGridId, static_cast<UINT>(LVN_ENDLABELEDITW)};
+    return !parent.answer || parent.answer(header) >= 0;
+}
+
+class CModelExtGrid : public CExtGridCtrl, public AExtGridCtrlNotificationHandler
+{
+public:
+    CModelExtGrid() : CExtGridCtrl(this) {}
+    void OnExtGridRowChanged(int, int, int) override {}
+    bool OnExtGridEndEdit(int, int, int, const CString*) override { return ParentAccepts(*this); }
+    void OnExtGridRClick(int, int) override {}
+};
+
+class CModelExtGrid2 : public CExtGridCtrl2, public AExtGridCtrl2NotificationHandler
+{
+public:
+    CModelExtGrid2() : CExtGridCtrl2(this, nullptr) {}
+    void OnExtGrid2CellChanged(int, CCellID, CCellID) override {}
+    bool OnExtGrid2EndEdit(int, CCellID, const CString*) override { return ParentAccepts(*this); }
+    void OnExtGrid2RClick(int, CCellID) override {}
+};
+
+void RunAll(unsigned firstSeed, int seeds, int steps, SequenceOptions options)
+{
+    for (int i = 0; i < seeds; ++i)
+    {
+        options.mixedCells = i % 2 == 1;
+        const SequenceResult result = RunGridSequence(firstSeed + i, steps, options);
+        ASSERT_EQ(result.failure, "");
+        ASSERT_EQ(result.stepsDone, steps);
+    }
+}
+} // namespace
+
+// Every other sequence has cells of all kinds.
 
 TEST(GridModel, HoldsThroughRandomOperations)
 {
-    constexpr int kSeeds = 100, kSteps = 2000;
-    int done = 0;
-    for (unsigned seed = 1; seed <= kSeeds; ++seed)
-    {
-        const SequenceResult result = RunGridSequence(seed, kSteps, false);
-        ASSERT_EQ(result.failure, "");
-        done += result.stepsDone;
-    }
-    EXPECT_EQ(done, kSeeds * kSteps);
+    RunAll(1, 100, 2000, {});
 }
 
 TEST(GridModel, HoldsThroughRandomClicksKeysAndEdits)
 {
-    constexpr int kSeeds = 8, kSteps = 1000;
-    for (unsigned seed = 1001; seed <= 1000 + kSeeds; ++seed)
+    RunAll(1001, 8, 1000, {.withInput = true});
+}
+
+TEST(GridModel, HoldsOnExtendedGrids)
+{
+    for (const auto makeGrid : {&MakeModelGrid<CModelExtGrid>, &MakeModelGrid<CModelExtGrid2>})
     {
-        const SequenceResult result = RunGridSequence(seed, kSteps, true);
-        ASSERT_EQ(result.failure, "");
-        ASSERT_EQ(result.stepsDone, kSteps);
+        RunAll(2001, 10, 1000, {.makeGrid = makeGrid});
+        RunAll(3001, 4, 500, {.withInput = true, .makeGrid = makeGrid});
     }
 }

@@ -85,4 +85,5 @@ TEST_F(GridSelection, WalksByState)
     grid.SetItemText(8, 4, L"x");
     EXPECT_EQ(next(-1, -1, GVNI_MODIFIED | GVNI_ALL), CCellID(8, 4));
     EXPECT_EQ(next(INT_MAX, 2, GVNI_SELECTED | GVNI_ABOVE), CCellID(6, 2));
+    EXPECT_EQ(next(INT_MAX, INT_MAX, GVNI_SELECTED | GVNI_ALL), CCellID());
 }

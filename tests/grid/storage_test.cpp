@@ -2,6 +2,7 @@
 
 #include "BoxCloser.h"
 #include "GridWindow.h"
+#include "resource.h"
 
 #include <gtest/gtest.h>
 
@@ -204,6 +205,10 @@ TEST_F(GridStorage, LooksAreNoModification)
     grid.SetItemTextFmt(1, 1, L"%d mm", 12);
     EXPECT_EQ(Text(1, 1), L"12 mm");
     EXPECT_TRUE(grid.GetModified(1, 1));
+    EXPECT_TRUE(grid.SetItemTextFmtID(2, 1, IDS_PIECES, 3, L"IPE 200"));
+    EXPECT_EQ(Text(2, 1), L"3 of IPE 200");
+    EXPECT_TRUE(grid.GetModified(2, 1));
+    EXPECT_FALSE(grid.SetItemTextFmtID(2, 3, IDS_PIECES, 3, L"IPE 200"));
 }
 
 TEST_F(GridStorage, CellClassesCanBeChosen)

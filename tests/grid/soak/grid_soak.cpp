@@ -30,9 +30,11 @@ int main(int argc, char** argv)
     long long steps = 0;
     do
     {
-        for (const bool withInput : {false, true})
+        for (const SequenceOptions& options :
+             {SequenceOptions{}, SequenceOptions{.withInput = true}, SequenceOptions{.mixedCells = true},
+              SequenceOptions{.withInput = true, .mixedCells = true}})
         {
-            const SequenceResult result = RunGridSequence(seed, kSteps, withInput);
+            const SequenceResult result = RunGridSequence(seed, kSteps, options);
             steps += result.stepsDone;
             if (!result.failure.empty())
             {

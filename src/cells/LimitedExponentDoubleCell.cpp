@@ -1,0 +1,28 @@
+#include <afxwin.h>
+
+#include "cells/LimitedExponentDoubleCell.h"
+
+#include "cells/TypedNumber.h"
+#include "edits/DoubleText.h"
+
+IMPLEMENT_DYNCREATE(CLimitedExponentDoubleCell, CLimitedDoubleCell)
+
+void CLimitedExponentDoubleCell::Set(int nCol, double dValue)
+{
+    m_dValue = ToLocal(nCol, dValue);
+    ShowWithExponent();
+}
+
+BOOL CLimitedExponentDoubleCell::ValidateEdit(LPCWSTR pszText)
+{
+    if (!gfnIsNumberText(pszText, L".-+Ee") || !Accept(gfnReadDouble(pszText)))
+        return FALSE;
+    ShowWithExponent();
+    return TRUE;
+}
+
+void CLimitedExponentDoubleCell::ShowWithExponent()
+{
+    constexpr int kDecimals = 4;
+    SetText(gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatExponent, kDecimals), m_dValue));
+}

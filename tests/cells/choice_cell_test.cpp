@@ -1,0 +1,448 @@
+// Cells to choose in: the check box, the list and the colour.
+
+#include "../grid/GridFixture.h"
+
+#include "../../platform/acad/src/resource.h"
+
+#include <aced.h>
+
+#include "ModalVisit.h"
+#include "Picture.h"
+
+namespace
+{
+constexpr int kRow = 3, kCol = 2;
+constexpr int kBoxSize = 13;
+constexpr COLORREF kBack = RGB(250, 251, 252), kText = RGB(10, 20, 200);
+} // namespace
+
+class ChoiceCells : public GridTest
+{
+protected:
+    void SetUp() override
+    {
+        GridTest::SetUp();
+        for (int nRow = 0; nRow < kRows; ++nRow)
+            grid.SetRowHeight(nRow, 30);
+        for (int nCol = 0; nCol < kCols; ++nCol)
+            grid.SetColumnWidth(nCol, 80, TRUE);
+        grid.SetTextBkColor(kBack);
+        grid.SetTextColor(kText);
+        grid.UpdateWindow();
+    }
+    template <class Cell>
+    Cell& Make()
+    {
+        EXPECT_TRUE(grid.SetCellType(kRow, kCol, RUNTIME_CLASS(Cell)));
+        grid.RedrawWindow();
+        return static_cast<Cell&>(*grid.GetCell(kRow, kCol));
+    }
+    CRect CellRect()
+    {
+        CRect rect;
+        grid.GetCellRect(kRow, kCol, &rect);
+        return rect;
+    }
+    /// Paints the cell at the origin of a surface.
+    void Draw(owtest::Surface& to, CSize size)
+    {
+        grid.GetCell(kRow, kCol)->Draw(&to.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE);
+    }
+};
+
+// ---- Check ------------------------------------------------------------------------------------------------
+
+class CheckCells : public ChoiceCells
+{
+protected:
+    void SetUp() override
+    {
+        ChoiceCells::SetUp();
+        cell = &Make<CGridCellCheck>();
+        margin = static_cast<int>(cell->GetMargin());
+        parent.answer = [this](NMHDR& header) -> LRESULT
+        {
+            if (static_cast<int>(header.code) == GVN_CHECKCLICKED)
+            {
+                const auto& record = reinterpret_cast<GridNotify&>(header);
+                told.push_back(CCellID(record.iRow, record.iColumn));
+            }
+            return 0;
+        };
+    }
+    CGridCellCheck* cell = nullptr;
+    int margin = 0;
+    std::vector<CCellID> told;
+};
+
+TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
+{
+    const CPoint box = CellRect().TopLeft() + CSize(margin + kBoxSize / 2, margin + kBoxSize / 2);
+    owtest::Click(grid, box);
+    EXPECT_EQ(cell->GetCheck(), 1) << "the first click, which also brings the focus";
+    EXPECT_EQ(told, std::vector{CCellID(kRow, kCol)});
+    grid.SetEditable(FALSE);
+    owtest::Click(grid, box);
+    EXPECT_EQ(cell->GetCheck(), 0) << "it flips without being editable";
+    EXPECT_EQ(told.size(), 2u);
+    grid.SetEditable(TRUE);
+
+    const CPoint text(CellRect().right - 3, CellRect().CenterPoint().y);
+    owtest::Click(grid, text);
+    EXPECT_TRUE(EditorOpens(kRow, kCol)) << "beside the box the text is edited";
+    owtest::Press(VK_ESCAPE);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(cell->GetCheck(), 0);
+    EXPECT_EQ(told.size(), 2u);
+}
+
+TEST_F(CheckCells, TheZoneIsTheBoxAndTheRecordNamesTheFocusCell)
+{
+    grid.SetFocusCell(5, 4);
+    const int last = margin + kBoxSize - 1;
+    const std::pair<CPoint, bool> cases[] = {{{margin, margin}, true},      {{last, last}, true},
+                                             {{margin - 1, margin}, false}, {{margin, margin - 1}, false},
+                                             {{last + 1, last}, false},     {{last, last + 1}, false}};
+    for (const auto& [point, hit] : cases)
+    {
+        told.clear();
+        cell->SetCheck(0);
+        cell->OnClick(point);
+        EXPECT_EQ(cell->GetCheck(), hit) << point.x << ',' << point.y;
+        EXPECT_EQ(told, hit ? std::vector{CCellID(5, 4)} : std::vector<CCellID>{});
+    }
+}
+
+TEST_F(CheckCells, SetCheckRepaintsWhatWasDrawnAndAnswersTheOldState)
+{
+    grid.UpdateWindow();
+    EXPECT_EQ(cell->SetCheck(1), 0);
+    CRect update;
+    EXPECT_TRUE(grid.GetUpdateRect(&update));
+    EXPECT_EQ(update, CellRect());
+    EXPECT_TRUE(told.empty());
+
+    grid.UpdateWindow();
+    CGridCellCheck undrawn;
+    undrawn.SetGrid(&grid);
+    EXPECT_EQ(undrawn.SetCheck(-1), 0);
+    EXPECT_FALSE(grid.GetUpdateRect(&update));
+    undrawn.OnClick(CPoint(margin, margin));
+    EXPECT_EQ(undrawn.GetCheck(), 0) << "a click counts from the origin then";
+
+    CGridCellCheck alone;
+    alone = *cell;
+    EXPECT_EQ(alone.GetCheck(), 1);
+    alone.SetGrid(nullptr);
+    alone.OnClick(CPoint(margin, margin));
+    EXPECT_EQ(alone.GetCheck(), 0) << "no grid to tell";
+}
+
+TEST_F(CheckCells, TheTextStandsClearOfTheBox)
+{
+    const int room = ::GetSystemMetrics(SM_CXHSCROLL) + 2 * margin;
+    CRect rect(100, 10, 180, 40);
+    EXPECT_TRUE(cell->GetTextRect(&rect));
+    EXPECT_EQ(rect, CRect(100 + room, 10, 180, 40));
+    rect = CRect(100, 10, 110, 40);
+    cell->GetTextRect(&rect);
+    EXPECT_EQ(rect.left, 110) << "never past the right edge";
+    EXPECT_EQ(cell->GetCellExtent(nullptr), cell->GetTextExtent(cell->GetText()) + CSize(room, room));
+
+    const CRect box(margin, margin, margin + kBoxSize, margin + kBoxSize);
+    const auto darkInBox = [&](int check)
+    {
+        owtest::Surface surface(120, 40);
+        cell->SetCheck(check);
+        Draw(surface, CSize(100, 30));
+        EXPECT_NE(surface.at(box.left, box.top), kBack);
+        EXPECT_EQ(surface.at(box.right, box.bottom), kBack);
+        return surface.count(box, RGB(0, 0, 0));
+    };
+    EXPECT_GT(darkInBox(1), darkInBox(0));
+    EXPECT_EQ(darkInBox(-1), darkInBox(0)) << "a negative state is not checked";
+}
+
+// ---- Combo ------------------------------------------------------------------------------------------------
+
+namespace
+{
+/// A cell that can only be chosen from.
+class CChoiceOnlyCell : public CGridCellCombo
+{
+    DECLARE_DYNCREATE(CChoiceOnlyCell)
+
+public:
+    CChoiceOnlyCell() { m_dwStyle = CBS_DROPDOWNLIST; }
+};
+IMPLEMENT_DYNCREATE(CChoiceOnlyCell, CGridCellCombo)
+} // namespace
+
+class ComboCells : public ChoiceCells
+{
+protected:
+    template <class Cell = CGridCellCombo>
+    Cell& MakeCombo()
+    {
+        auto& cell = Make<Cell>();
+        CStringArray options;
+        for (const wchar_t* option : {L"HEA 240", L"IPE 200", L"UPN 120"})
+            options.Add(option);
+        cell.SetOptions(options);
+        grid.SetItemText(kRow, kCol, L"IPE 200");
+        grid.SetFocus();
+        grid.SetFocusCell(kRow, kCol);
+        return cell;
+    }
+    std::wstring CellText() { return Text(kRow, kCol); }
+    bool ShowsArrow(CSize size)
+    {
+        owtest::Surface surface(120, 60);
+        Draw(surface, size);
+        // A pixel of the arrow's raised edge, where a cell without an arrow has its background.
+        return surface.at(size.cx - 2, ::GetSystemMetrics(SM_CYHSCROLL) - 2) != kBack;
+    }
+};
+
+TEST_F(ComboCells, KeysTypeAndChoose)
+{
+    auto& cell = MakeCombo();
+    EXPECT_EQ(cell.DajKomboBoks(), nullptr);
+    EXPECT_EQ(cell.GetEditWnd(), nullptr);
+    owtest::Type(L"RHS 80");
+    ASSERT_NE(cell.DajKomboBoks(), nullptr);
+    EXPECT_EQ(cell.DajKomboBoks()->GetCount(), 3);
+    EXPECT_EQ(cell.GetEditWnd()->GetParent(), cell.DajKomboBoks());
+    owtest::Press(VK_RETURN);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(CellText(), L"RHS 80") << "what the list lacks can be typed";
+    EXPECT_EQ(parent.Take().back(), "end 3,2");
+    EXPECT_EQ(cell.DajKomboBoks(), nullptr);
+
+    owtest::Type(L"x");
+    owtest::Press(VK_DOWN);
+    owtest::Press(VK_RETURN);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(CellText(), L"HEA 240");
+    owtest::Type(L"x");
+    owtest::Press(VK_ESCAPE);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(CellText(), L"HEA 240");
+}
+
+TEST_F(ComboCells, TheMouseOpensTheListAndChooses)
+{
+    auto& cell = MakeCombo();
+    owtest::Click(grid, CellRect().CenterPoint());
+    owtest::Click(grid, CellRect().CenterPoint()); // the focus cell: an edit
+    ASSERT_TRUE(owtest::PumpUntil([&] { return cell.DajKomboBoks() != nullptr; }));
+    COMBOBOXINFO info{};
+    info.cbSize = sizeof info;
+    ASSERT_TRUE(::GetComboBoxInfo(*cell.DajKomboBoks(), &info));
+    owtest::Click(*cell.DajKomboBoks(), CRect(info.rcButton).CenterPoint());
+    ASSERT_TRUE(owtest::PumpUntil([&] { return ::IsWindowVisible(info.hwndList); }));
+    CRect item;
+    ::SendMessage(info.hwndList, LB_GETITEMRECT, 2, reinterpret_cast<LPARAM>(&item));
+    owtest::Click(info.hwndList, item.CenterPoint());
+    EXPECT_TRUE(EditorCloses()) << "a choice ends the edit";
+    EXPECT_EQ(CellText(), L"UPN 120");
+}
+
+TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnce)
+{
+    auto& cell = MakeCombo<CChoiceOnlyCell>();
+    EXPECT_EQ(cell.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
+    grid.StartEditCell();
+    ASSERT_NE(cell.DajKomboBoks(), nullptr);
+    EXPECT_TRUE(cell.DajKomboBoks()->GetDroppedState());
+    EXPECT_EQ(cell.GetEditWnd(), nullptr);
+    owtest::Press(VK_UP);
+    owtest::Press(VK_RETURN);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(CellText(), L"HEA 240");
+}
+
+TEST_F(ComboCells, AnArrowTellsOfTheListWhereItCanBeUsed)
+{
+    auto& cell = MakeCombo();
+    cell.SetText(L"");
+    grid.SetFocusCell(-1, -1); // whose frame would show
+    const int arrow = ::GetSystemMetrics(SM_CYHSCROLL);
+    EXPECT_TRUE(ShowsArrow(CSize(90, 30)));
+    EXPECT_TRUE(ShowsArrow(CSize(arrow + 1, arrow + 1)));
+    EXPECT_FALSE(ShowsArrow(CSize(arrow, arrow + 1))) << "no room";
+    EXPECT_FALSE(ShowsArrow(CSize(arrow + 1, arrow)));
+    grid.SetItemState(kRow, kCol, CELL_READONLY);
+    EXPECT_FALSE(ShowsArrow(CSize(90, 30)));
+    grid.SetItemState(kRow, kCol, 0);
+    grid.SetEditable(FALSE);
+    EXPECT_FALSE(ShowsArrow(CSize(90, 30)));
+
+    const CSize text = cell.GetTextExtent(L"");
+    EXPECT_EQ(cell.GetCellExtent(nullptr),
+              CSize(text.cx + ::GetSystemMetrics(SM_CXVSCROLL), std::max<int>(text.cy, arrow)));
+}
+
+TEST_F(ComboCells, WhileEditingNeitherArrowNorTextShow)
+{
+    auto& cell = MakeCombo();
+    grid.StartEditCell();
+    owtest::Surface surface(120, 60);
+    Draw(surface, CSize(110, 30));
+    const CRect insideFrame(2, 2, 108, 28);
+    EXPECT_EQ(surface.count(insideFrame, kBack), insideFrame.Width() * insideFrame.Height());
+    EXPECT_STREQ(cell.GetText(), L"IPE 200") << "the text is kept all the same";
+    grid.SetFocus();
+    EXPECT_TRUE(EditorCloses());
+}
+
+TEST_F(ComboCells, AnEditBegunAnewEndsTheOldOne)
+{
+    auto& cell = MakeCombo();
+    owtest::Type(L"RHS 80");
+    CComboBox* const pFirst = cell.DajKomboBoks();
+    ASSERT_NE(pFirst, nullptr);
+    grid.StartEditCell();
+    EXPECT_EQ(CellText(), L"RHS 80");
+    EXPECT_NE(cell.DajKomboBoks(), pFirst);
+    EXPECT_TRUE(cell.IsEditing());
+    owtest::Press(VK_RETURN);
+    EXPECT_TRUE(EditorCloses());
+
+    owtest::Type(L"IPE 80");
+    parent.answer = [&](NMHDR& header) -> LRESULT
+    {
+        if (header.code == LVN_ENDLABELEDITW && grid.GetRowCount() == kRows)
+            grid.DeleteRow(kRow);
+        return 0;
+    };
+    grid.StartEditCell(); // the cell goes before the second edit begins
+    parent.answer = nullptr;
+    EXPECT_EQ(grid.GetRowCount(), kRows - 1);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_FALSE(CGridCellCombo().Edit(0, 0, CRect(0, 0, 50, 20), CPoint(), 8, 'x')) << "no grid";
+}
+
+// ---- Colour -----------------------------------------------------------------------------------------------
+
+namespace
+{
+/// Leaves nothing behind that could still be used after its end.
+class CPoisonedColorCell : public CGridCellColorCombo
+{
+    DECLARE_DYNCREATE(CPoisonedColorCell)
+
+public:
+    ~CPoisonedColorCell() override { m_pGrid = reinterpret_cast<CGridCtrl*>(0xDEAD); }
+};
+IMPLEMENT_DYNCREATE(CPoisonedColorCell, CGridCellColorCombo)
+} // namespace
+
+class ColourCells : public ChoiceCells
+{
+protected:
+    void SetUp() override
+    {
+        ChoiceCells::SetUp();
+        cell = &Make<CPoisonedColorCell>();
+    }
+    /// Types a number into the host's dialog and presses a key there.
+    static void Answer(CWnd& dialog, std::wstring_view number, WORD key)
+    {
+        dialog.GetDlgItem(IDC_COLOR_TEXT)->SetFocus();
+        dialog.GetDlgItem(IDC_COLOR_TEXT)->SendMessage(EM_SETSEL, 0, -1);
+        owtest::Type(number);
+        owtest::Press(key);
+    }
+    /// How many dialogs a click into the cell opens.
+    int ClickAnswered(std::wstring_view number, WORD key)
+    {
+        owtest::ModalVisit visit([&](CWnd& dialog) { Answer(dialog, number, key); });
+        owtest::Click(grid, CellRect().CenterPoint());
+        owtest::Pump();
+        return visit.Count();
+    }
+    COLORREF ShownSwatch() { return CClientDC(&grid).GetPixel(CellRect().TopLeft() + CSize(20, 8)); }
+    CGridCellColorCombo* cell = nullptr;
+};
+
+TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
+{
+    EXPECT_EQ(cell->DajMastAci(), 252);
+    EXPECT_EQ(ShownSwatch(), acedGetRGB(252));
+    EXPECT_EQ(ClickAnswered(L"30", VK_RETURN), 1);
+    EXPECT_EQ(cell->DajMastAci(), 30);
+    EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "at once";
+    EXPECT_EQ(grid.GetDlgItem(InPlaceControlId), nullptr);
+
+    cell->PostaviMastAci(5);
+    EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "a colour by program is not redrawn";
+    grid.SetEditable(FALSE);
+    EXPECT_EQ(ClickAnswered(L"142", VK_ESCAPE), 1) << "in a grid that is not editable, too";
+    EXPECT_EQ(cell->DajMastAci(), 5);
+    EXPECT_EQ(ClickAnswered(L"142", VK_RETURN), 1);
+    EXPECT_EQ(cell->DajMastAci(), 142);
+}
+
+TEST_F(ColourCells, OnlyAClickInsideAGridsCellOpensIt)
+{
+    owtest::ModalVisit visit([](CWnd&) {});
+    cell->OnClick(CPoint(-1, 5));
+    cell->OnClick(CPoint(5, -1));
+    CGridCellColorCombo().OnClick(CPoint(5, 5));
+    owtest::Pump();
+    EXPECT_EQ(visit.Count(), 0);
+}
+
+TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
+{
+    const auto clickAnd = [&](const std::function<void()>& harm)
+    {
+        owtest::ModalVisit visit(
+            [&](CWnd& dialog)
+            {
+                harm();
+                Answer(dialog, L"30", VK_RETURN);
+            });
+        cell->OnClick(CPoint(5, 5));
+        EXPECT_EQ(visit.Count(), 1);
+    };
+    clickAnd([&] { grid.DeleteRow(kRow); });
+    cell = &Make<CGridCellColorCombo>();
+    clickAnd([&] { grid.DestroyWindow(); });
+    EXPECT_EQ(cell->DajMastAci(), 30) << "the cell outlives the grid's window";
+}
+
+TEST_F(ColourCells, TheSwatchNeedsRoom)
+{
+    cell->PostaviMastAci(1);
+    const COLORREF red = acedGetRGB(1), black = RGB(0, 0, 0);
+    const auto draw = [&](owtest::Surface& to, int width, int height)
+    { return cell->Draw(&to.dc(), kRow, kCol, CRect(0, 0, width, height), TRUE); };
+
+    owtest::Surface roomy(100, 40);
+    EXPECT_TRUE(draw(roomy, 54, 17));
+    EXPECT_EQ(roomy.count(CRect(0, 0, 100, 40), red), 39 * 10);
+    EXPECT_EQ(roomy.at(7, 3), black);
+    EXPECT_EQ(roomy.at(47, 14), black);
+    EXPECT_EQ(roomy.count(CRect(49, 0, 100, 40), black), 5 + 3 + 1) << "the mark of a list";
+    EXPECT_EQ(roomy.at(58, 7), black);
+    EXPECT_EQ(roomy.at(60, 9), black);
+    for (const CSize size : {CSize(53, 30), CSize(80, 16)})
+    {
+        owtest::Surface small(100, 40);
+        EXPECT_FALSE(draw(small, size.cx, size.cy));
+        EXPECT_EQ(small.count(CRect(0, 0, 100, 40), red), 0);
+        EXPECT_EQ(small.at(1, 1), kBack) << "the cell itself is painted";
+    }
+    EXPECT_FALSE(cell->Draw(nullptr, kRow, kCol, CRect(0, 0, 80, 30), TRUE));
+
+    cell->PostaviMastAci(999);
+    owtest::Surface noColour(100, 40);
+    EXPECT_TRUE(draw(noColour, 80, 30));
+    EXPECT_EQ(noColour.at(9, 5), kBack) << "no such colour: an empty swatch";
+
+    CGridCellColorCombo copy;
+    copy = *cell;
+    EXPECT_EQ(copy.DajMastAci(), 999);
+}

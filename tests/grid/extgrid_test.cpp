@@ -1,0 +1,413 @@
+// The extended grids: what their handlers are told, by real input and by program, and the colours of the
+// cells after each move.
+
+#include "GridWindow.h"
+
+#include "DialogTemplate.h"
+#include "Input.h"
+
+#include "cells/SubtractiveMix.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <sstream>
+
+namespace
+{
+using Calls = std::vector<std::string>;
+
+template <class... Parts>
+std::string Join(const Parts&... parts)
+{
+    std::ostringstream text;
+    ((text << parts), ...);
+    return text.str();
+}
+
+std::string Place(const CCellID& cell)
+{
+    return Join(cell.row, ',', cell.col);
+}
+
+constexpr COLORREF kWhite = RGB(255, 255, 255), kBlue = RGB(0xE0, 0xE0, 0xFF);
+constexpr COLORREF kBand = RGB(255, 240, 200), kBandCrossed = RGB(0xE0, 0xD1, 200);
+constexpr COLORREF kBody = RGB(250, 250, 240), kBodyCrossed = RGB(0xDB, 0xDB, 0xF0);
+constexpr COLORREF kOwn = RGB(1, 2, 3); ///< given to a cell by its client
+
+/// Hears for both kinds of grid, and writes down each call as "77 row 2 after -1".
+class Handler : public AExtGridCtrlNotificationHandler,
+                public AExtGridCtrl2NotificationHandler,
+                public AExtGridCtrl2ExtraHeaderSupport
+{
+public:
+    Calls Take() { return std::exchange(m_calls, {}); }
+
+    std::function<bool(const CString&)> accepts = [](const CString&) { return true; };
+    std::function<void()> onChange = [] {};
+    int bandRows = 0;
+
+    void OnExtGridRowChanged(int nId, int nRow, int nPrevRow) override
+    {
+        m_calls.push_back(Join(nId, " row ", nRow, " after ", nPrevRow));
+        onChange();
+    }
+    bool OnExtGridEndEdit(int nId, int nRow, int nCol, const CString* pText) override
+    {
+        return EndEdit(nId, CCellID(nRow, nCol), pText);
+    }
+    void OnExtGridRClick(int nId, int nRow) override { m_calls.push_back(Join(nId, " rclick ", nRow)); }
+
+    void OnExtGrid2CellChanged(int nId, CCellID cell, CCellID prevCell) override
+    {
+        m_calls.push_back(Join(nId, " cell ", Place(cell), " after ", Place(prevCell)));
+        onChange();
+    }
+    bool OnExtGrid2EndEdit(int nId, CCellID cell, const CString* pText) override
+    {
+        return EndEdit(nId, cell, pText);
+    }
+    void OnExtGrid2RClick(int nId, CCellID cell) override
+    {
+        m_calls.push_back(Join(nId, " rclick ", Place(cell)));
+    }
+
+    int GetExtraHeaderColor() override { return kBand; }
+    int GetExtraHeaderCount() override { return bandRows; }
+    int GetBodyColor() override { return kBody; }
+
+private:
+    bool EndEdit(int nId, const CCellID& cell, const CString* pText)
+    {
+        m_calls.push_back(Join(nId, " text ", Place(cell), ' ', CStringA(*pText).GetString()));
+        return accepts(*pText);
+    }
+
+    Calls m_calls;
+};
+
+/// Five rows and four columns, the first of each fixed. Row 1 and column 1 are the first of the body.
+bool Open(CGridCtrl& grid)
+{
+    grid.SetRowCount(5);
+    grid.SetColumnCount(4);
+    grid.SetFixedRowCount(1);
+    grid.SetFixedColumnCount(1);
+    if (!PlaceGrid(grid, SharedParent()))
+        return false;
+    SetSizes(grid);
+    FillWithPlaces(grid);
+    grid.UpdateWindow();
+    return owtest::Activate(SharedParent());
+}
+
+/// The background of each cell, row by row: '.' inherited, 'w' white, '#' the plain colour of what is current,
+/// 'B' band, 'G' body, 'b' and 'g' the same under the cross.
+std::string Colours(const CGridCtrl& grid)
+{
+    const std::map<COLORREF, char> letters = {{CLR_INHERIT, '.'}, {kWhite, 'w'},       {kBlue, '#'},
+                                              {kBand, 'B'},       {kBandCrossed, 'b'}, {kBody, 'G'},
+                                              {kBodyCrossed, 'g'}};
+    std::string text;
+    for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+    {
+        text += nRow ? " " : "";
+        for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+            text += letters.at(grid.GetItemBkColour(nRow, nCol));
+    }
+    return text;
+}
+
+void ClickCell(CGridCtrl& grid, int nRow, int nCol)
+{
+    owtest::Click(grid, MiddleOf(grid, nRow, nCol));
+    owtest::Pump();
+}
+
+void RightClick(CGridCtrl& grid, CPoint point)
+{
+    grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
+    grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+}
+
+/// Types a text into the focus cell and ends the edit.
+void Enter(CGridCtrl& grid, const wchar_t* text)
+{
+    owtest::Type(text);
+    owtest::Press(VK_RETURN);
+    owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
+}
+
+struct ExtGrid : testing::Test
+{
+    void SetUp() override { ASSERT_TRUE(Open(grid)); }
+
+    /// How many notifications the parent has received that begin so.
+    auto Received(const char* begin) const
+    {
+        return std::count_if(parent.calls.begin(), parent.calls.end(),
+                             [&](const std::string& call) { return call.starts_with(begin); });
+    }
+
+    GridParent& parent = SharedParent();
+    Handler handler;
+    CExtGridCtrl grid{&handler};
+};
+
+struct ExtGrid2 : testing::Test
+{
+    void SetUp() override { ASSERT_TRUE(Open(grid)); }
+
+    Handler handler;
+    CExtGridCtrl2 grid{&handler, &handler};
+};
+} // namespace
+
+// ---- The current row --------------------------------------------------------------------------------------
+
+TEST_F(ExtGrid, AUserMovesTheCurrentRow)
+{
+    grid.SetItemBkColour(2, 1, kOwn);
+    ClickCell(grid, 2, 2);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 2 after -1"});
+    EXPECT_EQ(Colours(grid), ".... .... .### .... ....");
+
+    ClickCell(grid, 2, 3);
+    EXPECT_EQ(handler.Take(), Calls{}) << "another cell of the same row";
+    owtest::Press(VK_DOWN);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 3 after 2"});
+    EXPECT_EQ(Colours(grid), ".... .... .www .### ....") << "white, whatever the row's colours were";
+    ClickCell(grid, 0, 2);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 3"}) << "a heading stands for the first row";
+    EXPECT_EQ(Colours(grid), ".... .### .www .www ....");
+
+    EXPECT_EQ(Received("changed"), 0);
+    EXPECT_EQ(Received("click 2,2"), 1) << "what the handler is not told reaches the parent";
+}
+
+TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
+{
+    grid.SetFocusCell(2, 2);
+    grid.SetFocus();
+    handler.Take();
+    Enter(grid, L"IPE 200");
+    EXPECT_EQ(handler.Take(), Calls{"77 text 2,2 IPE 200"});
+    EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200");
+
+    handler.accepts = [&](const CString& text) { return grid.GetItemText(2, 2) != text; };
+    Enter(grid, L"x");
+    EXPECT_EQ(handler.Take(), Calls{"77 text 2,2 x"});
+    EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200")
+        << "refused; the cell held it already when the handler was asked";
+
+    handler.accepts = [&](const CString&)
+    {
+        grid.SetFocusCell(4, 1); // moves on from within the call
+        return true;
+    };
+    Enter(grid, L"y");
+    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,2 y", "77 row 4 after 2"}));
+    EXPECT_EQ(Received("end"), 0);
+    EXPECT_EQ(Received("begin"), 3);
+}
+
+TEST_F(ExtGrid, ARightClickReportsARowOfTheBody)
+{
+    RightClick(grid, MiddleOf(grid, 3, 2));
+    RightClick(grid, MiddleOf(grid, 0, 2));
+    RightClick(grid, CPoint(290, 190));
+    EXPECT_EQ(handler.Take(),
+              (Calls{"77 row 3 after -1", "77 rclick 3", "77 row 1 after 3", "77 rclick 1", "77 rclick 1"}));
+    grid.SetRowCount(1);
+    RightClick(grid, MiddleOf(grid, 0, 2));
+    EXPECT_EQ(handler.Take(), Calls{}) << "there is no body";
+    EXPECT_EQ(Received("rclick"), 0);
+}
+
+TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
+{
+    grid.SelectRowEx(3, 1);
+    grid.SelectRowEx(3, 2);
+    grid.SelectRowEx(5, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 3 after -1"});
+    EXPECT_EQ(grid.GetFocusCell(), CCellID()) << "the focus is another matter";
+
+    // A fixed row is remembered as it is, and loses its colour as if it had been painted.
+    grid.SelectRowEx(0, 1);
+    EXPECT_EQ(Colours(grid), ".... .### .... .www ....");
+    grid.SelectRowEx(1, 1);
+    EXPECT_EQ(handler.Take(), (Calls{"77 row 1 after 3", "77 row 1 after 0"}));
+    EXPECT_EQ(Colours(grid), ".www .### .... .www ....");
+}
+
+TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
+{
+    grid.SetRowCount(100);
+    grid.SetRedraw(FALSE);
+    grid.ValidateRect(nullptr);
+    grid.SelectRowEx(90, 1);
+    CRect update;
+    EXPECT_TRUE(grid.GetUpdateRect(&update));
+    CRect client;
+    grid.GetClientRect(&client);
+    EXPECT_EQ(update, client);
+    EXPECT_EQ(grid.GetScrollPos(SB_VERT), 0);
+    EXPECT_TRUE(grid.RedrawCell(1, 1)) << "which it does not do while drawing is off";
+
+    grid.SetVirtualMode(TRUE); // nor does a grid without cells mind
+    grid.SetColumnCount(4);
+    grid.SetRowCount(1000);
+    handler.Take();
+    grid.SelectRowEx(900, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 900 after 90"});
+    EXPECT_NE(grid.GetItemBkColour(900, 1), kBlue);
+}
+
+TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
+{
+    handler.onChange = [&] { grid.SetRowCount(2); };
+    grid.SetFocusCell(4, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 4 after -1"});
+    EXPECT_EQ(Colours(grid), ".... ....");
+
+    handler.onChange = [&] { grid.DestroyWindow(); };
+    grid.SetFocusCell(1, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 4"});
+    EXPECT_EQ(Colours(grid), ".... .###");
+    grid.SetRowCount(3);
+    grid.SelectRowEx(2, 1);
+    EXPECT_EQ(handler.Take(), Calls{"0 row 2 after 1"}) << "without a window there is no id";
+    GridNotify foreign{{nullptr, 0, NM_RCLICK}, 1, 1};
+    parent.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&foreign));
+    EXPECT_EQ(handler.Take(), Calls{}) << "and nobody else's notification is the grid's";
+}
+
+// ---- The hook ---------------------------------------------------------------------------------------------
+
+TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
+{
+    GridParent& parent = SharedParent();
+    for (const int goesFirst : {0, 1})
+    {
+        Handler handlers[2];
+        std::unique_ptr<CGridCtrl> grids[] = {std::make_unique<CExtGridCtrl>(&handlers[0]),
+                                              std::make_unique<CExtGridCtrl2>(&handlers[1], nullptr),
+                                              std::make_unique<CGridCtrl>()};
+        for (UINT id = 0; id < std::size(grids); ++id)
+        {
+            grids[id]->SetRowCount(3);
+            grids[id]->SetColumnCount(2);
+            ASSERT_TRUE(grids[id]->Create(CRect(0, 0, 100, 100), &parent, id));
+        }
+        parent.Take();
+        for (const auto& pGrid : grids)
+            pGrid->SetFocusCell(2, 1);
+        EXPECT_EQ(handlers[0].Take(), Calls{"0 row 2 after -1"});
+        EXPECT_EQ(handlers[1].Take(), Calls{"1 cell 2,1 after -1,-1"});
+        EXPECT_EQ(parent.Take(), Calls{"changed 2,1"}) << "of the plain grid";
+
+        const int stays = 1 - goesFirst;
+        grids[goesFirst].reset();
+        grids[stays]->SetFocusCell(0, 0);
+        EXPECT_EQ(handlers[stays].Take(), Calls{stays ? "1 cell 0,0 after 2,1" : "0 row 0 after 2"});
+    }
+}
+
+TEST(ExtGridHook, AGridOnADialogTemplateAsksForIt)
+{
+    class Form : public CDialog
+    {
+    public:
+        Handler handler;
+        CExtGridCtrl grid{&handler};
+
+    protected:
+        void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, kGridId, grid); }
+    } form;
+    const auto shape = owtest::DialogTemplate(L"Form", 120, 80)
+                           .Item(L"MFCGridCtrl", L"", kGridId, WS_TABSTOP, 4, 4, 100, 60);
+    ASSERT_TRUE(form.CreateIndirect(shape.get()));
+    form.grid.SetRowCount(5);
+    form.grid.SetColumnCount(2);
+    form.grid.InstallMessageHook();
+    form.grid.InstallMessageHook();
+    form.grid.SetFocusCell(3, 1);
+    EXPECT_EQ(form.handler.Take(), Calls{"77 row 3 after -1"});
+    form.DestroyWindow();
+
+    CExtGridCtrl loose(&form.handler);
+    loose.InstallMessageHook(); // neither a window nor a parent
+}
+
+// ---- The current cell -------------------------------------------------------------------------------------
+
+TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
+{
+    handler.bandRows = 2;
+    ClickCell(grid, 2, 2);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 2,2 after -1,-1"});
+    EXPECT_EQ(Colours(grid), ".... ..b. .bbb ..g. ..g.");
+    owtest::Press(VK_DOWN);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,2 after 2,2"});
+    EXPECT_EQ(Colours(grid), ".... ..b. .BbB .ggg ..g.");
+    owtest::Press(VK_LEFT);
+    EXPECT_EQ(Colours(grid), ".... .bB. .bBB .ggg .gG.")
+        << "both old directions rest, both new ones are crossed";
+    ClickCell(grid, 3, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,1 after 3,2"}) << "a click on the current cell is no change";
+}
+
+TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
+{
+    grid.SetFocusCell(2, 3);
+    grid.SetFocus();
+    handler.accepts = [](const CString&) { return false; };
+    handler.Take();
+    Enter(grid, L"7");
+    EXPECT_EQ(handler.Take(), Calls{"77 text 2,3 7"});
+    EXPECT_EQ(grid.GetItemText(2, 3), L"2/3");
+
+    RightClick(grid, MiddleOf(grid, 0, 2));
+    RightClick(grid, MiddleOf(grid, 3, 0));
+    EXPECT_EQ(handler.Take(),
+              (Calls{"77 cell 1,2 after 2,3", "77 rclick 1,2", "77 cell 3,1 after 1,2", "77 rclick 3,1"}));
+}
+
+TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
+{
+    grid.SelectCellEx(2, 2);
+    grid.SelectCellEx(2, 2);
+    grid.SelectCellEx(2, 4);
+    grid.SelectCellEx(5, 2);
+    EXPECT_EQ(handler.Take(), (Calls{"77 cell 2,2 after -1,-1", "77 cell 2,2 after -1,-1"}));
+
+    // A fixed address is remembered as it is, and rests in its turn: a row above the body lies before the end
+    // of any band, an empty one, too.
+    handler.bandRows = 0;
+    grid.SelectCellEx(0, 0);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 1,1 after 2,2"});
+    EXPECT_EQ(Colours(grid), ".... .ggg .gGG .gG. .gG.");
+    grid.SelectCellEx(3, 3);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,3 after 0,0"});
+    EXPECT_EQ(Colours(grid), ".BBB Gggg GgGg Gggg GgGg");
+}
+
+TEST(ExtGrid2Alone, WithoutAnExtraHeaderTheCrossIsPlainOnWhite)
+{
+    Handler handler;
+    CExtGridCtrl2 grid(&handler, nullptr);
+    ASSERT_TRUE(Open(grid));
+    grid.SelectCellEx(1, 1);
+    EXPECT_EQ(Colours(grid), ".... .### .#.. .#.. .#..");
+    grid.SelectCellEx(2, 2);
+    EXPECT_EQ(Colours(grid), ".... .w#w .### .w#. .w#.");
+}
+
+TEST(SubtractiveMix, AddsWhatTheColoursTakeFromWhite)
+{
+    EXPECT_EQ(gfnSubtractiveMix(RGB(200, 255, 10), RGB(100, 255, 250)), RGB(45, 255, 5));
+    EXPECT_EQ(gfnSubtractiveMix(RGB(0, 100, 128), RGB(0, 154, 127)), RGB(0, 0, 0)) << "never below black";
+    EXPECT_EQ(gfnSubtractiveMix(RGB(255, 255, 255), kOwn), kOwn);
+}

@@ -1,0 +1,3 @@
+#pragma once
+
+#define IDS_PIECES 41
