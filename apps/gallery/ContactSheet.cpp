@@ -42,8 +42,8 @@ void PaintBitmap(CDC& dc, CPoint at, const Drawing& drawing, int scale)
     CDC memory;
     memory.CreateCompatibleDC(&dc);
     const HGDIOBJ old = ::SelectObject(memory, drawing.hBitmap);
-    dc.StretchBlt(at.x, at.y, drawing.size.cx * scale, drawing.size.cy * scale, &memory, 0, 0, drawing.size.cx,
-                  drawing.size.cy, SRCCOPY);
+    dc.StretchBlt(at.x, at.y, drawing.size.cx * scale, drawing.size.cy * scale, &memory, 0, 0,
+                  drawing.size.cx, drawing.size.cy, SRCCOPY);
     ::SelectObject(memory, old);
 }
 } // namespace
@@ -60,8 +60,8 @@ std::vector<Drawing> AllIcons()
         CString strName;
         strName.Format(_T("%d"), id);
         const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(id), RT_GROUP_ICON);
-        drawings.push_back(OfIcon(strName, static_cast<HICON>(::LoadImage(module, MAKEINTRESOURCE(id), IMAGE_ICON,
-                                                                          0, 0, LR_SHARED))));
+        drawings.push_back(OfIcon(strName, static_cast<HICON>(::LoadImage(module, MAKEINTRESOURCE(id),
+                                                                          IMAGE_ICON, 0, 0, LR_SHARED))));
     }
     return drawings;
 }
@@ -96,7 +96,8 @@ int PaintSheet(CDC& dc, const CRect& area, const std::vector<Drawing>& drawings,
         else
             PaintBitmap(dc, image, drawing, layout.scale);
         if (layout.names)
-            dc.DrawText(drawing.strName, CRect(CPoint(at.x, at.y + drawingHeight), CSize(layout.cell.cx, kNameHeight)),
+            dc.DrawText(drawing.strName,
+                        CRect(CPoint(at.x, at.y + drawingHeight), CSize(layout.cell.cx, kNameHeight)),
                         DT_CENTER | DT_SINGLELINE | DT_END_ELLIPSIS | DT_NOPREFIX);
         at.x += layout.cell.cx;
         if (++column == columns)

@@ -2,19 +2,6 @@
 
 #include "GalleryPage.h"
 
-CGalleryPage::CGalleryPage(UINT nTemplateId, LPCTSTR pszTitle, AGalleryLog& log)
-    : m_nTemplateId(nTemplateId), m_pszTitle(pszTitle), m_log(log)
-{
-}
-
-bool CGalleryPage::CreateIn(CWnd& host, const CRect& frame)
-{
-    if (!Create(m_nTemplateId, &host))
-        return false;
-    MoveWindow(frame);
-    return true;
-}
-
 void CGalleryPage::Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...)
 {
     va_list arguments;
@@ -22,11 +9,27 @@ void CGalleryPage::Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...)
     CString strCall;
     strCall.FormatV(pszFormat, arguments);
     va_end(arguments);
-    m_log.Write(CString(pszControl) + _T("   ") + strCall);
+    m_host.Write(pszControl, strCall);
 }
 
-// Escape inside a page means the host, as if the page's controls were its own.
-void CGalleryPage::OnCancel()
+BOOL CGalleryPage::PreTranslateMessage(MSG* pMsg)
 {
-    GetParent()->PostMessage(WM_COMMAND, IDCANCEL);
+    if (pMsg->message != WM_KEYDOWN || pMsg->wParam != VK_F6)
+        return CPageDialog::PreTranslateMessage(pMsg);
+    const bool bBack = ::GetKeyState(VK_SHIFT) < 0;
+    CDialog& host = m_host.Window();
+    host.GotoDlgCtrl(host.GetNextDlgTabItem(bBack ? GetWindow(GW_HWNDPREV) : GetWindow(GW_HWNDNEXT), bBack));
+    return TRUE;
+}
+
+CPage::EPageID CTitledPage::NextID()
+{
+    static int s_nLast = 0;
+    return static_cast<EPageID>(++s_nLast);
+}
+
+CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent)
+{
+    host.AddDialog(pDialog);
+    return host.AddPage(new CTitledPage(pszTitle, pDialog), pParent);
 }

@@ -1,37 +1,55 @@
 #pragma once
-// What every page of the gallery is: a child dialog with a title, and a log to which it tells what it hears.
+// What every page of the gallery is made of: a page dialog that writes down what its handlers hear, and a page with
+// a title. Common ground of the files in pages/, each of which is the example of one family of controls.
 
 #include <DialogControlsOW.h>
 
-#include <memory>
+class CGalleryPage;
 
-/// Where the handlers of a page write down their calls.
-class AGalleryLog
+/// The dialog that shows the pages, as they see it.
+class AGalleryHost
 {
 public:
-    virtual ~AGalleryLog() {}
-    virtual void Write(const CString& strLine) = 0;
+    virtual ~AGalleryHost() {}
+    virtual CDialog& Window() = 0;
+    /// Takes over a page dialog, and makes its window.
+    virtual void AddDialog(CGalleryPage* pDialog) = 0;
+    /// Takes over a page; a null parent makes a top-level one. The answer is the page.
+    virtual CPage* AddPage(CPage* pPage, CPage* pParent) = 0;
+    /// Adds a line to the log of notifications.
+    virtual void Write(LPCTSTR pszControl, LPCTSTR pszCall) = 0;
 };
 
-class CGalleryPage : public CDialog
+class CGalleryPage : public CPageDialog
 {
 public:
-    CGalleryPage(UINT nTemplateId, LPCTSTR pszTitle, AGalleryLog& log);
-
-    LPCTSTR Title() const { return m_pszTitle; }
-    /// Makes the page's window, hidden, over the given rectangle of the host, in the host's client coordinates.
-    bool CreateIn(CWnd& host, const CRect& frame);
+    CGalleryPage(UINT nTemplateId, AGalleryHost& host)
+        : CPageDialog(nTemplateId, &host.Window()), m_host(host)
+    {
+    }
 
 protected:
-    /// Writes down a handler's call as "CEditN  OnEditNChange(1010)".
+    /// Writes down a handler's call, as Log("Remark", "OnEditNChange(%d)", nId).
     void Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...);
 
-    // A page is closed by its host only.
-    void OnOK() override {}
-    void OnCancel() override;
+    /// F6 leaves the page, for the control behind it in the host. Tab goes round inside.
+    BOOL PreTranslateMessage(MSG* pMsg) override;
 
 private:
-    UINT m_nTemplateId;
-    LPCTSTR m_pszTitle;
-    AGalleryLog& m_log;
+    AGalleryHost& m_host;
 };
+
+/// A page with a title and nothing to remember.
+class CTitledPage : public CPage
+{
+public:
+    CTitledPage(LPCTSTR pszTitle, CPageDialog* pDialog) : CPage(pszTitle, pDialog) {}
+    EPageID GetPageID() const override { return m_id; }
+
+private:
+    static EPageID NextID();
+    EPageID m_id = NextID(); ///< a number of its own
+};
+
+/// Adds a dialog that serves one page only, and the page.
+CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent);

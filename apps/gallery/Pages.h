@@ -1,30 +1,38 @@
 #pragma once
-// The pages of the gallery. To add one: write pages/NamePage.cpp with MakeNamePage and its template
-// pages/NamePage.rc, and add a line here.
+// The pages of the gallery. To add one: write pages/NamePage.cpp with AddNamePage and its template
+// pages/NamePage.rc, and add a line here. CHILD makes a page the child of the last top-level one.
 
 #include "GalleryPage.h"
 
-#include <vector>
+// clang-format off
+#define GALLERY_PAGES(PAGE, CHILD) \
+    PAGE(TextBoxes)                \
+    CHILD(Numbers)                 \
+    PAGE(Combos)                   \
+    PAGE(Buttons)                  \
+    PAGE(MessageBoxes)             \
+    PAGE(Grid)                     \
+    CHILD(VirtualGrid)             \
+    PAGE(SteelSchedule)            \
+    CHILD(CrossGrid)               \
+    PAGE(Members)                  \
+    PAGE(Drawings)
+// clang-format on
 
-#define GALLERY_PAGES(X)                                                                                     \
-    X(TextBoxes)                                                                                             \
-    X(Numbers)                                                                                               \
-    X(Buttons)                                                                                               \
-    X(MessageBoxes)                                                                                          \
-    X(Grid)                                                                                                  \
-    X(VirtualGrid)                                                                                           \
-    X(Icons)                                                                                                 \
-    X(Pictures)
-
-#define GALLERY_DECLARE_PAGE(name) std::unique_ptr<CGalleryPage> Make##name##Page(AGalleryLog& log);
-GALLERY_PAGES(GALLERY_DECLARE_PAGE)
+#define GALLERY_DECLARE_PAGE(name) CPage* Add##name##Page(AGalleryHost& host, CPage* pParent);
+GALLERY_PAGES(GALLERY_DECLARE_PAGE, GALLERY_DECLARE_PAGE)
 #undef GALLERY_DECLARE_PAGE
 
-inline std::vector<std::unique_ptr<CGalleryPage>> MakeAllPages(AGalleryLog& log)
+/// Adds every page to the host, and answers the first.
+inline CPage* AddAllPages(AGalleryHost& host)
 {
-    std::vector<std::unique_ptr<CGalleryPage>> pages;
-#define GALLERY_ADD_PAGE(name) pages.push_back(Make##name##Page(log));
-    GALLERY_PAGES(GALLERY_ADD_PAGE)
+    CPage *pFirst = nullptr, *pTop = nullptr;
+#define GALLERY_ADD_PAGE(name)                                                                               \
+    pTop = Add##name##Page(host, nullptr);                                                                   \
+    pFirst = pFirst ? pFirst : pTop;
+#define GALLERY_ADD_CHILD(name) Add##name##Page(host, pTop);
+    GALLERY_PAGES(GALLERY_ADD_PAGE, GALLERY_ADD_CHILD)
 #undef GALLERY_ADD_PAGE
-    return pages;
+#undef GALLERY_ADD_CHILD
+    return pFirst;
 }

@@ -8,6 +8,14 @@
 #define IDC_PAGE_TITLE 1001
 #define IDC_PAGE_FRAME 1002
 #define IDC_LOG 1003
+#define IDC_BY_COMBOS 1004
+
+// The window with combo boxes in place of the tree
+#define IDD_GALLERY_COMBOS 101
+#define IDC_PAGE_COMBO_BUTTON 1005
+#define IDC_PAGE_BUTTON 1006
+#define IDC_PAGE_COMBO_CHECK 1007
+#define IDC_PAGE_CHECK 1008
 
 // Text boxes
 #define IDD_PAGE_TEXT_BOXES 110
@@ -18,7 +26,6 @@
 
 // Drawings
 #define IDD_PAGE_DRAWINGS 111
-#define IDC_SHEET 1020
 
 // Numbers
 #define IDD_PAGE_NUMBERS 120
@@ -76,3 +83,34 @@
 #define IDC_VIRTUAL_ROW 1421
 #define IDC_VIRTUAL_GO 1422
 #define IDC_VIRTUAL_ASKED 1423
+
+// Steel schedule
+#define IDD_PAGE_STEEL_SCHEDULE 160
+#define IDC_SCHEDULE 1500
+#define IDC_SCHEDULE_MM 1501
+#define IDC_SCHEDULE_CM 1502
+#define IDC_SCHEDULE_M 1503
+#define IDC_SCHEDULE_FT 1504
+#define IDC_SCHEDULE_N 1505
+#define IDC_SCHEDULE_KN 1506
+#define IDC_SCHEDULE_STORED 1507
+
+// Cross grid
+#define IDD_PAGE_CROSS_GRID 161
+#define IDC_CROSS_GRID 1550
+#define IDC_CROSS_GRID_GO 1551
+
+// Combo boxes
+#define IDD_PAGE_COMBOS 170
+#define IDC_GRADE 1600
+#define IDC_LAYER 1601
+#define IDC_HATCH 1602
+#define IDC_CHOSEN 1603
+#define IDC_CONNECTION 1604
+
+// Members
+#define IDD_PAGE_MEMBERS 180
+#define IDC_MEMBER_LENGTH 1700
+#define IDC_MEMBER_PIECES 1701
+#define IDC_MEMBER_REMARK 1702
+#define IDC_MEMBER_TOTAL 1703

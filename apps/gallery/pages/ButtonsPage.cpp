@@ -62,7 +62,7 @@ public:
 class CButtonsPage : public CGalleryPage, public AButtonSTNotificationHandler
 {
 public:
-    explicit CButtonsPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_BUTTONS, _T("Buttons"), log)
+    explicit CButtonsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_BUTTONS, host)
     {
         for (int i = 0; i < rowCount * kColumns; ++i)
             m_buttons.push_back(std::make_unique<CPageButton>(this));
@@ -70,7 +70,7 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    int OnInitPageDialog() override;
     void OnButtonClicked(int nId) override;
 
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
@@ -127,9 +127,8 @@ void CButtonsPage::DoDataExchange(CDataExchange* pDX)
         DDX_Control(pDX, IDC_BTN_FIRST + static_cast<int>(i), *m_buttons[i]);
 }
 
-BOOL CButtonsPage::OnInitDialog()
+int CButtonsPage::OnInitPageDialog()
 {
-    CGalleryPage::OnInitDialog();
     CheckDlgButton(IDC_BTN_THEME, BST_CHECKED);
     auto* pAlign = static_cast<CComboBox*>(GetDlgItem(IDC_BTN_ALIGN));
     for (LPCTSTR pszAlign :
@@ -180,12 +179,12 @@ void CButtonsPage::Dress(CPageButton& button, Row row, int column)
 
 void CButtonsPage::DressAlignment(CPageButton& button, int column)
 {
-    if (column == kColumns - 1)
-        button.SetIcon(CButtonST::hIconPogled, reinterpret_cast<HICON>(CButtonST::copyGray));
+    if (column == kColumns - 1) // a picture: the grey copy of an icon would never be released
+        button.SetBitmaps(MakePicture(), kKey, reinterpret_cast<HBITMAP>(CButtonST::copyGray));
     else
         button.SetIcon(CButtonST::hIconPogled, nullptr);
     button.SetAlign(column <= CButtonST::alignNone ? static_cast<BYTE>(column) : BYTE(CButtonST::alignLeft));
-    button.SetTooltipText(column == kColumns - 1 ? _T("The icon takes its colours under the mouse.")
+    button.SetTooltipText(column == kColumns - 1 ? _T("The picture takes its colours under the mouse.")
                                                  : _T("The place of the image beside the title."));
 }
 
@@ -219,7 +218,7 @@ void CButtonsPage::PaintPattern(CDC& dc, CRect rect) const
 }
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeButtonsPage(AGalleryLog& log)
+CPage* AddButtonsPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CButtonsPage>(log);
+    return AddTitledPage(host, new CButtonsPage(host), _T("Buttons"), pParent);
 }

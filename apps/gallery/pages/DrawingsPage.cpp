@@ -1,4 +1,5 @@
-// Drawings: the icons and the pictures that the buttons share, a page of each.
+// Drawings: the icons and the pictures that the buttons share. Two pages that share a dialog, which shows the
+// drawings of whichever is selected.
 
 #include <afxwin.h>
 
@@ -8,12 +9,27 @@
 
 namespace
 {
-class CDrawingsPage : public CGalleryPage
+class CDrawingsPage : public CTitledPage
 {
 public:
-    CDrawingsPage(LPCTSTR pszTitle, AGalleryLog& log, std::vector<Drawing> drawings, CSize cell)
-        : CGalleryPage(IDD_PAGE_DRAWINGS, pszTitle, log), m_drawings(std::move(drawings)), m_cell(cell)
+    CDrawingsPage(LPCTSTR pszTitle, CPageDialog* pDialog, std::vector<Drawing> drawings, CSize cell)
+        : CTitledPage(pszTitle, pDialog), drawings(std::move(drawings)), cell(cell)
     {
+    }
+
+    const std::vector<Drawing> drawings;
+    const CSize cell;
+};
+
+class CDrawingsDialog : public CGalleryPage
+{
+public:
+    explicit CDrawingsDialog(AGalleryHost& host) : CGalleryPage(IDD_PAGE_DRAWINGS, host) {}
+
+    void BindControlsToSources(bool bBind, CPage* pPage) override
+    {
+        m_pPage = bBind ? static_cast<CDrawingsPage*>(pPage) : nullptr;
+        Invalidate();
     }
 
 protected:
@@ -21,29 +37,28 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    std::vector<Drawing> m_drawings;
-    CSize m_cell;
+    CDrawingsPage* m_pPage = nullptr; ///< the page that is shown
 };
 
-BEGIN_MESSAGE_MAP(CDrawingsPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CDrawingsDialog, CGalleryPage)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
-void CDrawingsPage::OnPaint()
+void CDrawingsDialog::OnPaint()
 {
     CPaintDC dc(this);
     CRect area;
     GetClientRect(area);
-    PaintSheet(dc, area, m_drawings, {m_cell});
+    if (m_pPage)
+        PaintSheet(dc, area, m_pPage->drawings, {m_pPage->cell});
 }
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeIconsPage(AGalleryLog& log)
+CPage* AddDrawingsPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CDrawingsPage>(_T("Icons"), log, AllIcons(), CSize(38, 42));
-}
-
-std::unique_ptr<CGalleryPage> MakePicturesPage(AGalleryLog& log)
-{
-    return std::make_unique<CDrawingsPage>(_T("Pictures"), log, AllPictures(), CSize(72, 42));
+    auto* pDialog = new CDrawingsDialog(host);
+    host.AddDialog(pDialog);
+    CPage* pIcons = host.AddPage(new CDrawingsPage(_T("Icons"), pDialog, AllIcons(), CSize(38, 42)), pParent);
+    host.AddPage(new CDrawingsPage(_T("Pictures"), pDialog, AllPictures(), CSize(72, 42)), pIcons);
+    return pIcons;
 }

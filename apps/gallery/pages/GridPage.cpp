@@ -46,7 +46,7 @@ const Part kParts[] = {
 class CGridPage : public CGalleryPage
 {
 public:
-    explicit CGridPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_GRID, _T("Grid"), log) {}
+    explicit CGridPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_GRID, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -54,9 +54,8 @@ protected:
         CGalleryPage::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_GRID, m_grid);
     }
-    BOOL OnInitDialog() override
+    int OnInitPageDialog() override
     {
-        CGalleryPage::OnInitDialog();
         m_grid.SetImageList(&CGridCtrl::GridImageList);
         m_grid.SetDoubleBuffering();
         m_grid.SetHeaderSort();
@@ -226,7 +225,7 @@ BEGIN_MESSAGE_MAP(CGridPage, CGalleryPage)
 END_MESSAGE_MAP()
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeGridPage(AGalleryLog& log)
+CPage* AddGridPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CGridPage>(log);
+    return AddTitledPage(host, new CGridPage(host), _T("Grid"), pParent);
 }

@@ -124,10 +124,7 @@ CString CataloguePath()
 class CMessageBoxesPage : public CGalleryPage
 {
 public:
-    explicit CMessageBoxesPage(AGalleryLog& log)
-        : CGalleryPage(IDD_PAGE_MESSAGE_BOXES, _T("Message boxes"), log)
-    {
-    }
+    explicit CMessageBoxesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_MESSAGE_BOXES, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -138,9 +135,8 @@ protected:
         DDX_Control(pDX, IDC_XICON_BOLD, m_bold);
         DDX_Control(pDX, IDC_XICON_BEHIND, m_behind);
     }
-    BOOL OnInitDialog() override
+    int OnInitPageDialog() override
     {
-        CGalleryPage::OnInitDialog();
         CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH, IDC_LANG_SERBIAN);
         m_fixed.SetAutoResize(FALSE).SetIcon(CButtonST::hIconOk, 16);
         m_fitted.SetIcon(CButtonST::hIconOk, 16).SetWindowText(_T("Fitted to its text"));
@@ -194,7 +190,7 @@ void CMessageBoxesPage::OnBox(UINT nId)
 }
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeMessageBoxesPage(AGalleryLog& log)
+CPage* AddMessageBoxesPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CMessageBoxesPage>(log);
+    return AddTitledPage(host, new CMessageBoxesPage(host), _T("Message boxes"), pParent);
 }

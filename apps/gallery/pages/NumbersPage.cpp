@@ -33,11 +33,11 @@ CComplexUnit Force(CMeasurementUnit::EForceUnit eUnit)
 class CNumbersPage : public CGalleryPage, public CEditDWRNotificationHandler
 {
 public:
-    explicit CNumbersPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_NUMBERS, _T("Numbers"), log) {}
+    explicit CNumbersPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_NUMBERS, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    int OnInitPageDialog() override;
 
     void OnEditNChange(int nId) override
     {
@@ -91,9 +91,8 @@ void CNumbersPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_STOREY, m_editStorey);
 }
 
-BOOL CNumbersPage::OnInitDialog()
+int CNumbersPage::OnInitPageDialog()
 {
-    CGalleryPage::OnInitDialog();
     CheckRadioButton(IDC_UNIT_MM, IDC_UNIT_IN, IDC_UNIT_MM);
     ShowLengthsIn(c_lengthUnits[0]);
     m_editThickness.SetRange(0.004, 0.04);
@@ -173,7 +172,7 @@ CString CNumbersPage::StoredValue(int nId) const
 }
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeNumbersPage(AGalleryLog& log)
+CPage* AddNumbersPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CNumbersPage>(log);
+    return AddTitledPage(host, new CNumbersPage(host), _T("Numbers"), pParent);
 }

@@ -42,7 +42,8 @@ private:
         strText.MakeUpper();
         const CString strName = strText.SpanExcluding(_T(" -0123456789"));
         const CString strHeight = strText.Mid(strName.GetLength()).TrimLeft(_T(" -"));
-        if (strName.IsEmpty() || strHeight.IsEmpty() || strHeight.SpanIncluding(_T("0123456789")) != strHeight)
+        if (strName.IsEmpty() || strHeight.IsEmpty() ||
+            strHeight.SpanIncluding(_T("0123456789")) != strHeight)
             return CString();
         return strName + _T(" ") + strHeight;
     }
@@ -53,7 +54,7 @@ private:
 class CTextBoxesPage : public CGalleryPage, public CEditNNotificationHandler
 {
 public:
-    explicit CTextBoxesPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_TEXT_BOXES, _T("Text boxes"), log) {}
+    explicit CTextBoxesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_TEXT_BOXES, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -63,9 +64,8 @@ protected:
         DDX_Control(pDX, IDC_REMARK, m_editRemark);
         DDX_Control(pDX, IDC_LOCKED, m_editLocked);
     }
-    BOOL OnInitDialog() override
+    int OnInitPageDialog() override
     {
-        CGalleryPage::OnInitDialog();
         m_editRemark.SafeSetWindowText(_T("galvanised"));
         m_editLocked.SafeSetWindowText(_T("Frame axis 3"));
         ShowStored();
@@ -94,7 +94,7 @@ private:
 };
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeTextBoxesPage(AGalleryLog& log)
+CPage* AddTextBoxesPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CTextBoxesPage>(log);
+    return AddTitledPage(host, new CTextBoxesPage(host), _T("Text boxes"), pParent);
 }

@@ -15,9 +15,7 @@ constexpr int kColumns = 6;
 class CVirtualGridPage : public CGalleryPage
 {
 public:
-    explicit CVirtualGridPage(AGalleryLog& log) : CGalleryPage(IDD_PAGE_VIRTUAL_GRID, _T("Virtual grid"), log)
-    {
-    }
+    explicit CVirtualGridPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_VIRTUAL_GRID, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -25,9 +23,8 @@ protected:
         CGalleryPage::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_VIRTUAL_GRID, m_grid);
     }
-    BOOL OnInitDialog() override
+    int OnInitPageDialog() override
     {
-        CGalleryPage::OnInitDialog();
         m_grid.SetVirtualMode(TRUE);
         m_grid.SetCallbackFunc(FillCell, reinterpret_cast<LPARAM>(this));
         m_grid.SetDoubleBuffering();
@@ -131,7 +128,7 @@ BEGIN_MESSAGE_MAP(CVirtualGridPage, CGalleryPage)
 END_MESSAGE_MAP()
 } // namespace
 
-std::unique_ptr<CGalleryPage> MakeVirtualGridPage(AGalleryLog& log)
+CPage* AddVirtualGridPage(AGalleryHost& host, CPage* pParent)
 {
-    return std::make_unique<CVirtualGridPage>(log);
+    return AddTitledPage(host, new CVirtualGridPage(host), _T("Virtual grid"), pParent);
 }
