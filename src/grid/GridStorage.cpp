@@ -62,6 +62,8 @@ BOOL CGridCtrl::SetRowCount(int nRows)
         DropRows(nRows);
     else
         bDone = Guarded([&] { AppendRows(nRows); });
+    SetSortColumn(-1); // here before the bars are reset, elsewhere after
+    m_bModified = TRUE;
     if (CountsChanged())
         InvalidateGrid();
     return bDone;
@@ -86,6 +88,8 @@ BOOL CGridCtrl::SetColumnCount(int nCols)
         DropColumns(nCols);
     else
         bDone = AppendColumns(nCols);
+    SetSortColumn(-1); // here before the bars are reset, elsewhere after
+    m_bModified = TRUE;
     if (CountsChanged())
         InvalidateGrid();
     return bDone;
