@@ -29,8 +29,8 @@ BOOL CComboGalleryDialog::OnInitDialog()
     m_byButton.RegisterSelectPageNotification(&m_manager, true);
     m_byButton.RegisterSelectPageNotification(&m_caption, true);
     m_byButton.RegisterSelectPageNotification(&m_linkButton, true);
-    m_byCheck.RegisterSelectPageNotification(&m_linkCheck,
-                                             true); // and so the manager hears each selection once
+    // Through the link only, and so the manager hears each selection once.
+    m_byCheck.RegisterSelectPageNotification(&m_linkCheck, true);
     m_byButton.SetCurrentPage(AddAllPages(*this));
     return FALSE; // the combo box has the focus
 }

@@ -30,7 +30,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    /// Enter and Escape close nothing: the handlers of pages see them first, and a log should not be lost by a slip.
+    /// Enter closes nothing: a log should not be lost by a slip.
     void OnOK() override {}
 
     CPageManager m_manager{this};
