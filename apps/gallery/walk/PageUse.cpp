@@ -1,0 +1,66 @@
+#include <afxwin.h>
+
+#include "Walk.h"
+
+#include <map>
+
+namespace
+{
+std::wstring s_directory; ///< of the pictures, with a backslash at its end
+
+/// By the pages' names. Files register before main, in any order.
+std::map<std::wstring, PageUse::Function>& Uses()
+{
+    static std::map<std::wstring, PageUse::Function> s_uses;
+    return s_uses;
+}
+} // namespace
+
+void Require(bool condition, const std::wstring& what)
+{
+    if (!condition)
+        throw WalkFailure{what};
+}
+
+void Focus(CWnd& page, int id)
+{
+    CWnd* control = page.GetDlgItem(id);
+    Require(control != nullptr, L"no control " + std::to_wstring(id));
+    owtest::Click(*control);
+    Require(owtest::PumpUntil([&] { return ::GetFocus() == control->m_hWnd; }), L"no focus");
+}
+
+CString TextOf(CWnd& page, int id)
+{
+    CString strText;
+    page.GetDlgItemText(id, strText);
+    return strText;
+}
+
+CPoint CellIn(CGridCtrl& grid, int nRow, int nCol)
+{
+    CRect rect;
+    Require(grid.GetCellRect(nRow, nCol, rect), L"the cell does not show");
+    return rect.CenterPoint();
+}
+
+void SetPictureDirectory(const std::wstring& directory)
+{
+    s_directory = directory + L"\\";
+}
+
+std::wstring PicturePath(const std::wstring& name)
+{
+    return s_directory + name;
+}
+
+PageUse::PageUse(const wchar_t* pszTitle, Function use)
+{
+    Uses()[pszTitle] = use;
+}
+
+void PageUse::Run(const std::wstring& title, CWnd& page)
+{
+    if (const auto use = Uses().find(title); use != Uses().end())
+        use->second(page);
+}

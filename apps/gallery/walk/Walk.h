@@ -1,0 +1,46 @@
+#pragma once
+// What a user does on a page of the gallery, for the walk that takes a picture of each page afterwards. One file
+// for each page, in uses/:
+//
+//     void UseNumbers(CWnd& page) { Focus(page, IDC_LENGTH); owtest::Type(L"5"); Require(..., L"no length"); }
+//     const PageUse s_use(L"Numbers", &UseNumbers);
+
+#include <DialogControlsOW.h>
+
+#include "Input.h"
+
+#include <string>
+
+/// Why the walk ends before its end.
+struct WalkFailure
+{
+    std::wstring what;
+};
+
+/// Ends the walk, with the reason, unless the condition holds.
+void Require(bool condition, const std::wstring& what);
+
+/// Clicks a control of the page and waits until it has the focus.
+void Focus(CWnd& page, int id);
+
+/// Text of a control of the page.
+CString TextOf(CWnd& page, int id);
+
+/// A cell's middle, in the client area of the grid.
+CPoint CellIn(CGridCtrl& grid, int nRow, int nCol);
+
+void SetPictureDirectory(const std::wstring& directory);
+
+/// Where a picture of this name is to be saved.
+std::wstring PicturePath(const std::wstring& name);
+
+/// Registers what is done on a page before its picture is taken, by the page's name in the tree.
+class PageUse
+{
+public:
+    using Function = void (*)(CWnd& page);
+    PageUse(const wchar_t* pszTitle, Function use);
+
+    /// Does what is registered for the page; nothing if there is none.
+    static void Run(const std::wstring& title, CWnd& page);
+};

@@ -1,0 +1,26 @@
+#pragma once
+// The face that all buttons with a drop-down arrow share: a picture or a swatch at the left, the arrow at the right.
+//
+//     CButtonST::OnDrawBackground(pDC, rect);
+//     const CRect face = gfnDropFace(rect, m_bIsPressed);
+//     gfnDrawDropArrow(*pDC, face, m_bIsDisabled);
+//     DrawSwatch(*pDC, gfnDropPictureArea(face));
+//
+//     +-------------------------------------+
+//     |  5                            14    |
+//     |5 +--------------------------+       |   the picture area ends 14 pixels from the right and
+//     |  | picture area             | \___/ |   5 from the three other edges; the tip of the arrow
+//     |  +--------------------------+  \_/  |   stands 8 pixels from the right, half-way down
+//     |                               5     |
+//     +-------------------------------------+
+
+#include <afxwin.h>
+
+/// What is left of the button's rectangle for picture and arrow; moved by one pixel while pressed.
+CRect gfnDropFace(const CRect& rect, BOOL bPressed);
+
+/// Draws the arrow: black, or engraved while disabled.
+void gfnDrawDropArrow(CDC& dc, const CRect& face, BOOL bDisabled);
+
+/// Where a picture or a swatch belongs. Of a face that is too small its width or height is zero or less.
+CRect gfnDropPictureArea(const CRect& face);

@@ -1,0 +1,23 @@
+#include <afxwin.h>
+
+#include "buttons/DropMenu.h"
+
+void gfnTrackDropMenu(CButton& button, CMenu& menu)
+{
+    const HWND hWnd = button.m_hWnd;
+    button.SendMessage(WM_KILLFOCUS);
+    CRect rect;
+    button.GetClientRect(rect);
+    CPoint corner(rect.right + 1, rect.top);
+    button.ClientToScreen(&corner);
+    menu.TrackPopupMenu(TPM_RIGHTBUTTON, corner.x, corner.y, &button);
+    // A menu that was closed without a choice leaves nothing behind that would show the focus again.
+    if (::IsWindow(hWnd) && ::GetFocus() == hWnd)
+        ::SendMessage(hWnd, WM_SETFOCUS, 0, 0);
+}
+
+void gfnEndDropChoice(CButton& button)
+{
+    button.SendMessage(WM_SETFOCUS);
+    button.GetParent()->Invalidate(FALSE);
+}
