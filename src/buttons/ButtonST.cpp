@@ -31,6 +31,17 @@ bool TakeRelease(HWND hWnd)
     return ::PeekMessage(&msg, hWnd, WM_LBUTTONUP, WM_LBUTTONUP, PM_REMOVE) != FALSE;
 }
 
+bool IsLeftButtonDown()
+{
+    return ::GetAsyncKeyState(::GetSystemMetrics(SM_SWAPBUTTON) ? VK_RBUTTON : VK_LBUTTON) < 0;
+}
+
+/// Whether a user could press the control now.
+bool IsUsable(HWND hWnd)
+{
+    return ::IsWindowVisible(hWnd) && ::IsWindowEnabled(hWnd);
+}
+
 CRect RectInParent(const CWnd& window)
 {
     CRect rect;
@@ -306,9 +317,18 @@ void CButtonST::CancelHoverUnless(BOOL bActive)
 
 // ---- Clicks -----------------------------------------------------------------------------------------------
 
+// The capture handler of a hovered button lets go of a capture that is only handed from the button to itself.
+void CButtonST::CaptureForHold()
+{
+    SetCapture();
+    if (::GetCapture() != m_hWnd)
+        SetCapture();
+}
+
 // The pump of the thread waits for as long as the button is held: the release is looked for here and nowhere
-// else. A command may destroy the button, so nothing of it is touched after one before its window has been
-// found alive.
+// else. It may never come (a command disables or hides the button, or something else takes the mouse), so a
+// hold ends as well when the mouse button, seen down before, is up. A command may destroy the button, so
+// nothing of it is touched after one before its window has been found alive.
 void CButtonST::RepeatWhileHeld()
 {
     const HWND hWnd = m_hWnd;
@@ -319,10 +339,12 @@ void CButtonST::RepeatWhileHeld()
         ::SendMessage(hParent, WM_COMMAND, command, reinterpret_cast<LPARAM>(hWnd));
         return ::IsWindow(hWnd) != FALSE;
     };
+    const bool bSeenDown = IsLeftButtonDown(); // not so for a press that a program made up
+    const auto isOver = [=] { return TakeRelease(hWnd) || (bSeenDown && !IsLeftButtonDown()); };
 
-    SetCapture();
+    CaptureForHold();
     bool bEven = true;
-    while (!TakeRelease(hWnd))
+    for (bool bOver = isOver(); !bOver; bOver = !IsUsable(hWnd) || isOver())
     {
         if (!sendCommand())
             return;
@@ -362,9 +384,10 @@ void CButtonST::Repaint()
         Invalidate();
 }
 
-DWORD CButtonST::SetOption(BOOL& bOption, BOOL bValue, BOOL bRepaint)
+template <class Option>
+DWORD CButtonST::SetOption(Option& option, Option value, BOOL bRepaint)
 {
-    bOption = bValue;
+    option = value;
     if (bRepaint)
         Repaint();
     return resultOk;
@@ -404,10 +427,7 @@ DWORD CButtonST::SetAlign(BYTE nAlign, BOOL bRepaint)
 {
     if (nAlign > alignNone)
         return resultBadAlign;
-    m_nAlign = nAlign;
-    if (bRepaint)
-        Repaint();
-    return resultOk;
+    return SetOption(m_nAlign, nAlign, bRepaint);
 }
 
 BYTE CButtonST::GetAlign() const
@@ -419,10 +439,7 @@ DWORD CButtonST::SetPressedStyle(BYTE nStyle, BOOL bRepaint)
 {
     if (nStyle > pressedDown)
         return resultBadPressedStyle;
-    m_ptPressedOffset = nStyle == pressedDown ? CPoint(0, 2) : CPoint(1, 1);
-    if (bRepaint)
-        Repaint();
-    return resultOk;
+    return SetOption(m_ptPressedOffset, nStyle == pressedDown ? CPoint(0, 2) : CPoint(1, 1), bRepaint);
 }
 
 void CButtonST::SetThemeHelper(CThemeHelperST* pTheme)
@@ -453,10 +470,7 @@ DWORD CButtonST::SetColor(BYTE nIndex, COLORREF cr, BOOL bRepaint)
 {
     if (nIndex >= colorCount)
         return resultBadColorIndex;
-    m_crColors[nIndex] = cr;
-    if (bRepaint == 1)
-        Repaint();
-    return resultOk;
+    return SetOption(m_crColors[nIndex], cr, bRepaint == 1);
 }
 
 DWORD CButtonST::GetColor(BYTE nIndex, COLORREF* pcr) const
@@ -476,13 +490,11 @@ DWORD CButtonST::OffsetColor(BYTE nIndex, short nShade, BOOL bRepaint)
         return resultBadColorIndex;
     if (nShade < -255 || nShade > 255)
         return resultBadArgument;
-    COLORREF& cr = m_crColors[nIndex];
+    const COLORREF cr = m_crColors[nIndex];
     const auto [low, high] = std::minmax({GetRValue(cr), GetGValue(cr), GetBValue(cr)});
     const int shade = std::clamp<int>(nShade, -low, 255 - high);
-    cr = RGB(GetRValue(cr) + shade, GetGValue(cr) + shade, GetBValue(cr) + shade);
-    if (bRepaint)
-        Repaint();
-    return resultOk;
+    const COLORREF crShaded = RGB(GetRValue(cr) + shade, GetGValue(cr) + shade, GetBValue(cr) + shade);
+    return SetOption(m_crColors[nIndex], crShaded, bRepaint);
 }
 
 DWORD CButtonST::SetDefaultColors(BOOL bRepaint)
@@ -499,10 +511,7 @@ DWORD CButtonST::SetCheck(int nCheck, BOOL bRepaint)
 {
     if (!m_bIsCheckBox)
         return resultOk;
-    m_nChecked = nCheck != 0;
-    if (bRepaint)
-        Repaint();
-    return resultOk;
+    return SetOption(m_nChecked, nCheck != 0 ? 1 : 0, bRepaint);
 }
 
 int CButtonST::GetCheck() const

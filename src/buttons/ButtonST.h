@@ -48,9 +48,11 @@
 //   to SetIcon stays the caller's, may show on any number of buttons, and outlives them all; this is what makes
 //   the shared icons below work. By the same rule the icons that the button makes or loads itself (the copies,
 //   and those given by resource id) are never released: set them once per button, not at each change of state.
-// - Bitmaps: the button owns them from the call on, whatever the call answers, and deletes them with the next
-//   image setter and in its destructor. The pixels of the transparent colour are made black in the bitmap
-//   itself. A bitmap must not be given to two buttons.
+// - Bitmaps: the button owns the first from the call on, whatever the call answers, and deletes it with the next
+//   image setter and in its destructor; and so the second, unless the call failed over the first (resultNoImage
+//   for a first that cannot be read, resultNoMask for its mask): then the second was not taken and stays the
+//   caller's. The pixels of the transparent colour are made black in the bitmap itself. A bitmap must not be
+//   given to two buttons.
 // - The cursor of SetBtnCursor is loaded and destroyed by the button.
 //
 // Place of the image beside a title, by SetAlign. The origin is 3 pixels; SizeToContent makes it 0.
@@ -198,8 +200,9 @@ public:
     /// Whether Enter clicks a focused button. On at first.
     void SetKbdSensitive(BOOL bSensitive);
     /// With exactly 1 the button sends WM_COMMAND over and over while the mouse holds it, pausing `nPeriod`
-    /// milliseconds, and always an even number of times. A hold replaces the click. It keeps the thread's
-    /// message pump waiting, so a handler must not open a window that has a message loop.
+    /// milliseconds, and always an even number of times. A hold replaces the click; it ends with the release of
+    /// the mouse, wherever that is, and when a handler disables, hides or destroys the button. It keeps the
+    /// thread's message pump waiting, so a handler must not open a window that has a message loop.
     DWORD SetAutoRepeat(BOOL bRepeat, DWORD nPeriod = 100);
     /// An address or file that a click opens; null for none. Holds 260 characters; more are cut off. A check
     /// box never opens it.
@@ -344,11 +347,13 @@ protected:
 
 private:
     void Repaint();
-    DWORD SetOption(BOOL& bOption, BOOL bValue, BOOL bRepaint);
+    template <class Option>
+    DWORD SetOption(Option& option, Option value, BOOL bRepaint);
     void ResetColors();
     void CancelHoverUnless(BOOL bActive);
     bool IsUnderMouse(CPoint point) const;
     void BeginHover();
+    void CaptureForHold();
     void RepeatWhileHeld();
     void OpenUrl() const;
     void InitToolTip();
@@ -357,7 +362,7 @@ private:
     DWORD FailImages(EResult result);
     bool StoreIcon(ButtonIcon& icon, HICON hIcon);
     bool StoreBitmap(ButtonBitmap& picture, HBITMAP hBitmap, COLORREF crTransparent);
-    bool MakeMasks();
+    bool MakeMask(ButtonBitmap& picture);
 
     void TakeStates(UINT nItemState);
     void PaintBk(CDC* pDC);

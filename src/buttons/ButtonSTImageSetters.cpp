@@ -26,12 +26,10 @@ ButtonImages::Formula FormulaOf(int nCopy)
     return nCopy == CButtonST::copyDarker ? ButtonImages::Darker : ButtonImages::Grayscale;
 }
 
-/// Loads an image from the module of the resource chain that has it; null for id 0 and if it does not load.
+/// Loads an image from the module of the resource chain that has it; null if it does not load.
 template <class Handle>
 Handle LoadFromChain(int nId, LPCTSTR pszResourceType, UINT nImageType, CSize size)
 {
-    if (nId == 0)
-        return nullptr;
     const HINSTANCE hModule = AfxFindResourceHandle(MAKEINTRESOURCE(nId), pszResourceType);
     return static_cast<Handle>(::LoadImage(hModule, MAKEINTRESOURCE(nId), nImageType, size.cx, size.cy, 0));
 }
@@ -46,13 +44,7 @@ HBITMAP LoadBitmapImage(int nId)
     return LoadFromChain<HBITMAP>(nId, RT_BITMAP, IMAGE_BITMAP, CSize(0, 0));
 }
 
-/// Whether an image that was asked for by id did not load. Without a first id none was asked for.
-bool IsMissing(int nIn, const void* hIn, int nOut, const void* hOut)
-{
-    return nIn != 0 && (!hIn || (nOut != 0 && !hOut));
-}
-
-/// A request for a copy in the form in which the handle setters take it.
+/// A request for a copy, or for no second image, in the form in which the handle setters take it.
 template <class Handle>
 Handle CopyRequest(int nOut)
 {
@@ -84,45 +76,64 @@ DWORD CButtonST::SetIcon(int nIn, int nOut)
 
 DWORD CButtonST::SetIcon(int nIn, int cxIn, int cyIn, int nOut, int cxOut, int cyOut)
 {
+    if (nIn == 0)
+        return SetIcon(static_cast<HICON>(nullptr));
     const HICON hIn = LoadIconImage(nIn, CSize(cxIn, cyIn));
-    HICON hOut = nullptr;
-    if (hIn)
-        hOut = IsCopy(nOut) ? CopyRequest<HICON>(nOut) : LoadIconImage(nOut, CSize(cxOut, cyOut));
-    const DWORD result = SetIcon(hIn, hOut);
-    return IsMissing(nIn, hIn, nOut, hOut) ? FailImages(resultNoImage) : result;
+    if (!hIn)
+        return FailImages(resultNoImage);
+    if (nOut == 0 || IsCopy(nOut))
+        return SetIcon(hIn, CopyRequest<HICON>(nOut));
+    const HICON hOut = LoadIconImage(nOut, CSize(cxOut, cyOut));
+    return hOut ? SetIcon(hIn, hOut) : FailImages(resultNoImage);
 }
 
-// The copy is made before the mask is: making the mask changes the first bitmap.
+// The copy is made before the mask is: making the mask changes the first bitmap. Until the first bitmap is
+// whole nothing is taken of the second.
 DWORD CButtonST::SetBitmaps(HBITMAP hIn, COLORREF crTransparentIn, HBITMAP hOut, COLORREF crTransparentOut)
 {
     FreeImages();
-    if (hIn)
+    if (!hIn)
     {
-        if (!StoreBitmap(m_bitmaps[0], hIn, crTransparentIn))
-            return FailImages(resultNoImage);
-        if (IsCopy(LowBits(hOut)))
-        {
-            hOut = ButtonImages::CreateBitmapCopy(hIn, m_bitmaps[0].size, crTransparentIn,
-                                                  FormulaOf(LowBits(hOut)));
-            crTransparentOut = crTransparentIn;
-        }
-        if (hOut && !StoreBitmap(m_bitmaps[1], hOut, crTransparentOut))
-            return FailImages(resultNoImage);
-        if (!MakeMasks())
-            return FailImages(resultNoMask);
+        Repaint();
+        return resultOk;
     }
+    if (!StoreBitmap(m_bitmaps[0], hIn, crTransparentIn))
+        return FailImages(resultNoImage);
+    CBitmap copy;
+    if (const int nOut = LowBits(hOut); IsCopy(nOut))
+    {
+        copy.Attach(ButtonImages::CreateBitmapCopy(hIn, m_bitmaps[0].size, crTransparentIn, FormulaOf(nOut)));
+        hOut = copy;
+        crTransparentOut = crTransparentIn;
+    }
+    if (!MakeMask(m_bitmaps[0]))
+        return FailImages(resultNoMask);
+    copy.Detach(); // the button's, as any second bitmap from here on
+    if (hOut && !StoreBitmap(m_bitmaps[1], hOut, crTransparentOut))
+        return FailImages(resultNoImage);
+    if (hOut && !MakeMask(m_bitmaps[1]))
+        return FailImages(resultNoMask);
     Repaint();
     return resultOk;
 }
 
 DWORD CButtonST::SetBitmaps(int nIn, COLORREF crTransparentIn, int nOut, COLORREF crTransparentOut)
 {
-    const HBITMAP hIn = LoadBitmapImage(nIn);
-    HBITMAP hOut = nullptr;
-    if (hIn)
-        hOut = IsCopy(nOut) ? CopyRequest<HBITMAP>(nOut) : LoadBitmapImage(nOut);
-    const DWORD result = SetBitmaps(hIn, crTransparentIn, hOut, crTransparentOut);
-    return IsMissing(nIn, hIn, nOut, hOut) ? FailImages(resultNoImage) : result;
+    if (nIn == 0)
+        return SetBitmaps(static_cast<HBITMAP>(nullptr), 0);
+    CBitmap in, out;
+    if (!in.Attach(LoadBitmapImage(nIn)))
+        return FailImages(resultNoImage);
+    if (nOut == 0 || IsCopy(nOut))
+        return SetBitmaps(static_cast<HBITMAP>(in.Detach()), crTransparentIn, CopyRequest<HBITMAP>(nOut));
+    if (!out.Attach(LoadBitmapImage(nOut)))
+        return FailImages(resultNoImage);
+    const DWORD result =
+        SetBitmaps(static_cast<HBITMAP>(in.Detach()), crTransparentIn, out, crTransparentOut);
+    const bool bTaken = result == resultOk || !::GetObjectType(out); // taken, and freed again over its mask
+    if (bTaken)
+        out.Detach();
+    return result;
 }
 
 void CButtonST::SizeToContent()
@@ -151,17 +162,10 @@ bool CButtonST::StoreBitmap(ButtonBitmap& bitmap, HBITMAP hBitmap, COLORREF crTr
     return size.has_value();
 }
 
-bool CButtonST::MakeMasks()
+bool CButtonST::MakeMask(ButtonBitmap& bitmap)
 {
-    for (ButtonBitmap& bitmap : m_bitmaps)
-    {
-        if (!bitmap.hBitmap)
-            continue;
-        bitmap.hMask = ButtonImages::CreateMask(bitmap.hBitmap, bitmap.size, bitmap.crTransparent);
-        if (!bitmap.hMask)
-            return false;
-    }
-    return true;
+    bitmap.hMask = ButtonImages::CreateMask(bitmap.hBitmap, bitmap.size, bitmap.crTransparent);
+    return bitmap.hMask != nullptr;
 }
 
 // DeleteObject on an icon does nothing, and that is wanted: the icon may be a shared one, or show on other

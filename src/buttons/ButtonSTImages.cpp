@@ -72,11 +72,6 @@ public:
             pixel = (pixel & kAlphaBits) | Exchange(function(Exchange(pixel & ~kAlphaBits)));
     }
 
-    COLORREF First() const
-    {
-        return m_pixels.empty() ? CLR_INVALID : Exchange(m_pixels.front() & ~kAlphaBits);
-    }
-
     /// The part at the top left that has the given size; what lies outside of these pixels is black.
     CPixels Part(CSize size) const
     {
@@ -226,7 +221,7 @@ void ButtonImages::DisableArea(CDC& dc, const CRect& area)
     CPixels pixels(area.Size());
     if (!pixels.ReadFrom(bitmap))
         return;
-    const COLORREF crBackground = pixels.First();
+    const COLORREF crBackground = dc.GetPixel(area.TopLeft()); // no colour at all where it lies outside
     pixels.ForEachColor([=](COLORREF cr) { return cr == crBackground ? cr : Disabled(cr); });
     pixels.WriteTo(bitmap);
     const CGdiSelection selection(memory, bitmap);

@@ -2,6 +2,8 @@
 
 #include "cells/TypedNumber.h"
 
+#include "edits/DoubleText.h"
+
 #include <algorithm>
 #include <cfloat>
 #include <climits>
@@ -25,7 +27,7 @@ bool gfnIsNumberText(LPCWSTR pszText, LPCWSTR pszOthers)
 
 double gfnReadDouble(LPCWSTR pszText)
 {
-    return std::clamp(std::wcstod(pszText, nullptr), -DBL_MAX, DBL_MAX); // an overflow reads as infinity
+    return std::clamp(std::wcstod(CLocalNumber(pszText), nullptr), -DBL_MAX, DBL_MAX); // an overflow reads as infinity
 }
 
 int gfnReadInt(LPCWSTR pszText)

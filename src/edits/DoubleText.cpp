@@ -3,6 +3,7 @@
 #include "edits/DoubleText.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdint>
 #include <cwchar>
@@ -14,12 +15,19 @@ namespace
 /// As many digits as tell any double from its neighbours.
 constexpr wchar_t c_szExactFormat[] = L"%.17G";
 
+/// The locale in which numbers are written: that with a point.
+_locale_t PointLocale()
+{
+    static const _locale_t s_locale = _create_locale(LC_NUMERIC, "C"); // for the life of the process
+    return s_locale;
+}
+
 /// False if the text does not fit.
 bool FormatInto(wchar_t (&szText)[c_nDoubleTextSize], const wchar_t* pszFormat, double dValue)
 {
     // The run-time library's own function, which is also behind CString::Format: the two write the same
     // exponents.
-    return _snwprintf_s(szText, c_nDoubleTextSize, _TRUNCATE, pszFormat, dValue) >= 0;
+    return _snwprintf_s_l(szText, c_nDoubleTextSize, _TRUNCATE, pszFormat, PointLocale(), dValue) >= 0;
 }
 
 CString NameOfNonNumber(double dValue)
@@ -112,10 +120,22 @@ const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimal
     return pszText;
 }
 
+CLocalNumber::CLocalNumber(const wchar_t* pszText) : m_pszText(pszText)
+{
+    const auto chPoint = static_cast<wchar_t>(std::btowc(*std::localeconv()->decimal_point));
+    if (chPoint == L'.')
+        return;
+    m_strLocal = pszText;
+    if (const int nEnd = m_strLocal.Find(chPoint); nEnd >= 0)
+        m_strLocal.Truncate(nEnd);
+    m_strLocal.Replace(L'.', chPoint);
+    m_pszText = m_strLocal;
+}
+
 bool gfnParseDouble(const wchar_t* pszText, double& dValue)
 {
     double dParsed = 0.0;
-    if (swscanf(pszText, L"%lf", &dParsed) != 1 || !std::isfinite(dParsed))
+    if (swscanf(CLocalNumber(pszText), c_szDoubleScanfFormat, &dParsed) != 1 || !std::isfinite(dParsed))
         return false;
     dValue = dParsed;
     return true;

@@ -5,7 +5,7 @@
 //     double dForce = 0.0;
 //     gfnParseDouble(L"12.5 kN", dForce);                                    // true, 12.5
 //
-// The decimal sign is a point. Texts are bounded: however large the number and however many the decimals, no
+// The decimal sign is a point, whatever the locale of the process. Texts are bounded: however large the number and however many the decimals, no
 // text is longer than c_nDoubleTextSize - 1 characters.
 
 #include <afxwin.h>
@@ -27,6 +27,9 @@ constexpr int c_nDoubleTextSize = 100;
 /// that every number an empty text.
 OW_DIALOGCONTROLS_API CString gfnDoublePrintfFormat(EDoubleFormat eFormat, int nDecimals);
 
+/// The scanf format that every number is read with.
+constexpr const wchar_t* c_szDoubleScanfFormat = L"%lf";
+
 /// Writes a number by a printf format with at most one conversion, of a double.
 ///
 /// A text that would be too long is written in the shortest form that still names the same number, such as
@@ -41,3 +44,16 @@ OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleT
 /// Reads the number at the beginning of a text; white space before it and anything behind it are passed over.
 /// False, with the value as it was, if there is none, or if it lies beyond what a double holds.
 OW_DIALOGCONTROLS_API bool gfnParseDouble(const wchar_t* pszText, double& dValue);
+
+/// A text with a point in its numbers as the run-time library's readers want it, which go by the locale of the
+/// process: its decimal sign stands for the point, and ends the text where it stood itself.
+class CLocalNumber
+{
+public:
+    explicit CLocalNumber(const wchar_t* pszText);
+    operator const wchar_t*() const { return m_pszText; }
+
+private:
+    CString m_strLocal; ///< only if the locale has another decimal sign
+    const wchar_t* m_pszText;
+};

@@ -263,6 +263,11 @@ CString CEditDoubleWithRange::GetPrintfFormatString() const
     return gfnDoublePrintfFormat(m_eFormat, m_nDecimals);
 }
 
+CString CEditDoubleWithRange::GetScanfFormatString() const
+{
+    return c_szDoubleScanfFormat;
+}
+
 void CEditDoubleWithRange::SetComplexUnit(const CComplexUnit& unit)
 {
     ValidateAndStoreDataFromGUI(); // what stands in the box stands there in the old unit

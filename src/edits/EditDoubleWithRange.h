@@ -122,6 +122,7 @@ protected:
     void HandlerOnCreate() override;
 
     CString GetPrintfFormatString() const;
+    CString GetScanfFormatString() const;
     /// Where the unit label belongs, in pixels of the parent's client area: right of the box and of its own
     /// spin, a blank's width further on, as high as the box and as wide as the symbol.
     CRect CalcUnitRect();

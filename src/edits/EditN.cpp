@@ -8,6 +8,23 @@
 
 #include <utility>
 
+namespace
+{
+/// Sets a flag for the length of a scope, and leaves it as the scope found it.
+class CFlagScope
+{
+public:
+    explicit CFlagScope(bool& bFlag) : m_bFlag(bFlag), m_bBefore(std::exchange(bFlag, true)) {}
+    ~CFlagScope() { m_bFlag = m_bBefore; }
+    CFlagScope(const CFlagScope&) = delete;
+    CFlagScope& operator=(const CFlagScope&) = delete;
+
+private:
+    bool& m_bFlag;
+    bool m_bBefore;
+};
+} // namespace
+
 CEditN::CEditN(CEditNNotificationHandler* pHandler) : m_pHandler(pHandler)
 {
 }
@@ -71,9 +88,9 @@ void CEditN::OnDestroy()
 
 BOOL CEditN::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
-    if (IsReadOnly())
+    if (nHitTest != HTCLIENT)
         return CEdit::OnSetCursor(pWnd, nHitTest, message);
-    ::SetCursor(::LoadCursor(nullptr, IDC_IBEAM));
+    ::SetCursor(::LoadCursor(nullptr, IsReadOnly() ? IDC_ARROW : IDC_IBEAM));
     return TRUE;
 }
 
@@ -131,12 +148,11 @@ void CEditN::HandlerOnKillFocus()
 
 void CEditN::SafeSetWindowText(const wchar_t* pszText)
 {
-    m_bSettingText = true;
+    const CFlagScope setting(m_bSettingText);
     if (m_bAnsiInterface)
         CEditCtrlAnsiInterface(*this).SetText(pszText);
     else
         SetWindowText(pszText);
-    m_bSettingText = false;
 }
 
 bool CEditN::IsReadOnly() const

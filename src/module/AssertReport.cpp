@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string>
 
 namespace
 {
@@ -51,6 +52,15 @@ void WriteFailure(FILE* log, const char* expression, const char* source, int lin
     std::fprintf(log, "ASSERT(%s)\nFILE: %s\nLINE: %d\n\n", expression, source, line);
 }
 
+/// The text as a format that prints it: module paths and symbols may hold percent signs.
+std::string AsFormat(const char* text)
+{
+    std::string format;
+    for (; *text; ++text)
+        format.append(*text == '%' ? 2 : 1, *text);
+    return format;
+}
+
 /// Writes the clipboard's text, where the stack dump has been put. The user's former clipboard is lost by now.
 void WriteStackFromClipboard(FILE* log)
 {
@@ -58,7 +68,7 @@ void WriteStackFromClipboard(FILE* log)
     const HANDLE data = opened ? GetClipboardData(CF_TEXT) : nullptr;
     if (const auto* text = data ? static_cast<const char*>(GlobalLock(data)) : nullptr)
     {
-        std::fprintf(log, text); // the text is the format: the dump holds module and symbol names only
+        std::fprintf(log, AsFormat(text).c_str());
         GlobalUnlock(data);
     }
     std::fprintf(log, "\n##### END OF STACK DUMP\n\n\n\n\n\n\n\n");

@@ -4,18 +4,15 @@
 // A failure appends a report with a stack dump to "owserror.log", shows one message box, stops at a debug break
 // for a developer and ends the process. Nothing is recoverable, and no check can be switched off.
 //
-//     ASSERT(m_pPage != nullptr);                                      // tests an expression
-//     INTERNAL_ERROR(L"Nedozvoljena vrednost.");                       // reached what must not be reached
-//     ASSERT_AT(!m_listId.IsEmpty(), ".\\ResourceIdPool", 37);         // at a fixed position
+//     ASSERT_AT(!m_listId.IsEmpty(), ".\\ResourceIdPool", 37);                     // tests an expression
+//     INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", ".\\OstrelMessageBox", 210);    // must not be reached
 //
-// The position in a report is how support finds the place, and it stays the same from release to release:
-// the library's own checks give it explicitly with the _AT forms.
+// The position in a report is how support finds the place, so it is given in words and stays the same from
+// release to release. MFC's own ASSERT is another thing, for debug builds, and stays as it is.
 //
 // The log is "\owserror.log" in the root of the current drive, or, where that cannot be opened, "owserror.log"
 // in the current directory. If the environment variable TMP is set, it is made the current directory first.
 // Without a log the box is shown all the same.
-//
-// This ASSERT takes the place of MFC's: include this header after MFC's own.
 
 #include "module/Export.h"
 
@@ -37,7 +34,3 @@ extern "C++" OW_DIALOGCONTROLS_API void gfnReportInternalError
     } while (false)
 
 #define INTERNAL_ERROR_AT(message, source, line) gfnReportInternalError(message, #message, source, line)
-
-#undef ASSERT
-#define ASSERT(expression) ASSERT_AT(expression, __FILE__, __LINE__)
-#define INTERNAL_ERROR(message) INTERNAL_ERROR_AT(message, __FILE__, __LINE__)

@@ -186,4 +186,10 @@ TEST(ButtonImages, AFailureIsToldAndLeavesNoImages)
     owtest::Surface surface(8, 8);
     const auto hSelected = static_cast<HBITMAP>(::GetCurrentObject(surface.dc(), OBJ_BITMAP));
     EXPECT_EQ(fails([&] { return button.SetBitmaps(hSelected, 0); }), 2u);
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(bitmap(), kKey, hSelected, 0); }), 2u);
+    const HBITMAP hSecond = bitmap();
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(hSelected, 0, hBadBitmap); }), 2u)
+        << "the first is whole before the second is looked at";
+    EXPECT_EQ(fails([&] { return button.SetBitmaps(hSelected, 0, hSecond); }), 2u);
+    EXPECT_TRUE(::DeleteObject(hSecond)) << "which stays the caller's";
 }

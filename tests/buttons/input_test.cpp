@@ -199,17 +199,19 @@ namespace
 class Repeating : public ButtonInput, protected AButtonSTNotificationHandler
 {
 protected:
-    int CommandsOfAHold(int nReleaseAfter)
+    int CommandsOfAHold(int nReleaseAfter, BOOL bFlat = FALSE)
     {
         m_push.UnsubclassWindow();
         OpenButton button(this);
         EXPECT_TRUE(button.SubclassDlgItem(IDC_PUSH, &m_dialog));
+        button.SetFlat(bFlat);
         button.SetAutoRepeat(1, 20);
+        EXPECT_TRUE(!bFlat || Hover(button));
         std::thread finger(
             [&]
             {
                 const ULONGLONG deadline = ::GetTickCount64() + 5000;
-                while (m_nCommands < nReleaseAfter && ::GetTickCount64() < deadline)
+                while (m_nCommands < nReleaseAfter && !m_bOver && ::GetTickCount64() < deadline)
                     ::Sleep(1);
                 INPUT release{};
                 release.type = INPUT_MOUSE;
@@ -217,7 +219,9 @@ protected:
                 ::SendInput(1, &release, sizeof(release));
             });
         owtest::ButtonDown(button, CPoint(10, 10));
+        m_bOver = true;
         finger.join();
+        m_bOver = false;
         owtest::PumpUntil([] { return ::GetAsyncKeyState(VK_LBUTTON) >= 0; });
         EXPECT_EQ(::GetCapture(), nullptr);
         if (button.m_hWnd)
@@ -231,6 +235,7 @@ protected:
     }
 
     std::atomic<int> m_nCommands = 0;
+    std::atomic<bool> m_bOver = false; ///< the hold has ended, released or not
     std::function<void()> m_onClick = [] {};
 };
 } // namespace
@@ -251,6 +256,33 @@ TEST_F(Repeating, IsForExactlyOneAndAReleaseThatWaitsAlreadySendsNothing)
     m_push.SetAutoRepeat(2, 20);
     owtest::Click(m_push);
     EXPECT_EQ(m_dialog.Take(), m_pushClick) << "an ordinary click";
+}
+
+// The thread would hang if it waited for a release that goes to another window.
+TEST_F(Repeating, EndsWithAReleaseElsewhere)
+{
+    m_onClick = []
+    {
+        INPUT aside{};
+        aside.type = INPUT_MOUSE;
+        aside.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+        aside.mi.dx = aside.mi.dy = 0xFFF0; // the far corner of the screen
+        ::SendInput(1, &aside, sizeof(aside));
+    };
+    EXPECT_EQ(CommandsOfAHold(3, TRUE) % 2, 0);
+    m_onClick = [] { ::ReleaseCapture(); };
+    EXPECT_EQ(CommandsOfAHold(3) % 2, 0);
+}
+
+TEST_F(Repeating, EndsWhenTheButtonCannotBeUsedAnyMore)
+{
+    constexpr int kNever = 1000;
+    const auto push = [&] { return m_dialog.GetDlgItem(IDC_PUSH); };
+    m_onClick = [&] { push()->EnableWindow(FALSE); };
+    EXPECT_EQ(CommandsOfAHold(kNever), 2) << "an even number all the same";
+    push()->EnableWindow();
+    m_onClick = [&] { push()->ShowWindow(SW_HIDE); };
+    EXPECT_EQ(CommandsOfAHold(kNever), 2);
 }
 
 TEST_F(Repeating, EndsWhenTheWindowGoes)

@@ -322,6 +322,17 @@ TEST_F(PaintedButton, ADisabledIconKeepsTheColorOfItsCorner)
     ::DestroyIcon(hIcon);
 }
 
+// A corner outside the button has no colour, so nothing counts as background: the face turns grey, too.
+TEST_F(PaintedButton, ADisabledIconThatIsLargerThanItsButtonTurnsEverythingGrey)
+{
+    const HICON hIcon = testimages::MakeFramedIcon(static_cast<int>(kSize.cx) + 20, kRed);
+    m_button.SetIcon(hIcon, nullptr);
+    const Surface& picture = Paint(ODS_DISABLED);
+    EXPECT_EQ(picture.at(kSize.cx / 2, kSize.cy / 2), RGB(155, 155, 155));
+    EXPECT_NE(picture.at(kSize.cx / 2, 1), kFaceOut);
+    ::DestroyIcon(hIcon);
+}
+
 TEST_F(PaintedButton, ADisabledBitmapIsEngravedUnlessToldOtherwise)
 {
     m_button.SetFlat(TRUE);

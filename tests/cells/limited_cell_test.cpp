@@ -2,6 +2,7 @@
 
 #include "../grid/GridFixture.h"
 
+#include <clocale>
 #include <cfloat>
 #include <climits>
 
@@ -82,6 +83,16 @@ TEST_F(LimitedCells, ADoubleReadsATextAsFarAsItIsANumber)
     EXPECT_EQ(cell.Get(kCol), DBL_MAX);
     cell.SetLocalMax(1e300, TRUE);
     EXPECT_FALSE(cell.ValidateEdit(huge)) << "it is a number all the same";
+}
+
+TEST_F(LimitedCells, ADoubleHasAPointInALocaleWithAComma)
+{
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    ASSERT_TRUE(std::setlocale(LC_NUMERIC, "German"));
+    auto& cell = Make<CLimitedDoubleCell>();
+    EXPECT_EQ(Typed(L"2.25"), L"2.25");
+    EXPECT_EQ(cell.Get(kCol), 2.25);
+    std::setlocale(LC_NUMERIC, before.c_str());
 }
 
 TEST_F(LimitedCells, BoundsOfADoubleBindTheUserOnly)

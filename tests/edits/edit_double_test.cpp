@@ -2,6 +2,8 @@
 
 #include "NumbersDialog.h"
 
+#include <clocale>
+
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -81,6 +83,25 @@ TEST_F(DoubleBox, TakesTheNumberAtTheBeginningOfTheText)
     TypeInto(box, L"abc");
     Leave(box);
     EXPECT_EQ(Text(), L"4.00");
+}
+
+// Whatever the locale of the process, which its host may have set.
+TEST_F(DoubleBox, WritesAndReadsAPointInALocaleWithAComma)
+{
+    const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+    ASSERT_TRUE(std::setlocale(LC_NUMERIC, "German"));
+    for (const EDoubleFormat format : {eDoubleFormatFixed, eDoubleFormatGeneral})
+    {
+        box.SetFormat(format, 2);
+        box.SetValue(0.0);
+        box.SetWindowText(L"2.25");
+        EXPECT_EQ(box.GetValue(), 2.25);
+        box.SetWindowText(L"7,5");
+        EXPECT_EQ(box.GetValue(), 7.0) << "a comma ends the number";
+        box.SetValue(3.75);
+        EXPECT_EQ(Text(), L"3.75");
+    }
+    std::setlocale(LC_NUMERIC, before.c_str());
 }
 
 TEST_F(DoubleBox, ChecksTheRangeOnlyWhileItIsNotInverted)

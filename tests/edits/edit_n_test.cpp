@@ -83,12 +83,37 @@ TEST_F(EditBox, ShowsTheIBeamUnlessItIsReadOnly)
     for (CEditN* pBox : {&box, &m_dialog.readOnly})
     {
         ::SetCursor(nullptr);
-        const LRESULT answer = pBox->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(pBox->m_hWnd),
-                                                 MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
-        EXPECT_EQ(answer == 1, !pBox->IsReadOnly()) << "a read-only box leaves it to the system";
-        EXPECT_TRUE(pBox->IsReadOnly() || ::GetCursor() == ::LoadCursor(nullptr, IDC_IBEAM));
+        EXPECT_TRUE(pBox->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(pBox->m_hWnd),
+                                      MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pBox->IsReadOnly() ? IDC_ARROW : IDC_IBEAM));
     }
     EXPECT_TRUE(m_dialog.readOnly.IsReadOnly());
+}
+
+TEST_F(EditBox, StaysSilentBehindANestedWriteAndAnException)
+{
+    class CNesting : public CEditN
+    {
+    public:
+        using CEditN::CEditN;
+        bool nest = false;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_SETTEXT && std::exchange(nest, false))
+                SafeSetWindowText(L"inner");
+            return CEditN::WindowProc(message, wParam, lParam);
+        }
+    };
+    box.UnsubclassWindow();
+    CNesting nesting(&m_handler);
+    ASSERT_TRUE(nesting.SubclassDlgItem(IDC_SECOND, &m_dialog));
+    nesting.nest = true;
+    nesting.SafeSetWindowText(L"outer");
+    EXPECT_EQ(m_handler.Take(), Calls{}) << "the outer write is still silent when the inner one is done";
+    nesting.SetWindowText(L"loud");
+    EXPECT_EQ(m_handler.Take(), Calls{"change 1002"});
 }
 
 TEST(EditBoxHandler, IsTheParentWhereNoneWasGiven)

@@ -110,6 +110,22 @@ TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
     EXPECT_NE(longer.find("ASSERT(L\"Nedozvoljena vrednost.\")\nFILE: .\\Choice\nLINE: 40\n\n"), longer.npos);
 }
 
+// The stack text holds the paths of modules, and goes through a format.
+TEST_F(FatalReport, PercentSignsInTheNameOfAModuleAreWrittenAsTheyStand)
+{
+    const fs::path program = fs::path(owtest::ProgramPath()).parent_path() / L"100%s%n.exe";
+    fs::copy_file(owtest::ProgramPath(), program, fs::copy_options::overwrite_existing);
+    const owtest::ChildResult result =
+        owtest::RunChild("failed_assert", {.environment = {{L"TMP", (m_base / L"tmp").wstring()}},
+                                           .directory = (m_base / L"current").wstring(),
+                                           .program = program.wstring()});
+    fs::remove(program);
+    owtest::ExpectFailedAssert(result, L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n");
+    const std::string log = Read(RootLog());
+    ExpectAssertReport(log);
+    EXPECT_NE(log.find("100%s%n.exe"), log.npos) << log;
+}
+
 TEST_F(FatalReport, TheLogGoesToTheTmpDirectoryWhereTheRootCannotBeWritten)
 {
     BlockRoot();

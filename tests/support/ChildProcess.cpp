@@ -165,13 +165,19 @@ int RunScenario(const char* name)
     return 0;
 }
 
+std::wstring ProgramPath()
+{
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return path;
+}
+
 ChildResult RunChild(const char* scenario, const ChildOptions& options)
 {
     ChildResult result;
-    wchar_t program[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::wstring program = options.program.empty() ? ProgramPath() : options.program;
     std::string narrow = std::string(kChildArgument) + ' ' + scenario;
-    std::wstring command = L'"' + std::wstring(program) + L"\" " + std::wstring(narrow.begin(), narrow.end());
+    std::wstring command = L'"' + program + L"\" " + std::wstring(narrow.begin(), narrow.end());
 
     SECURITY_ATTRIBUTES inherit{sizeof(inherit), nullptr, TRUE};
     Handle readEnd, writeEnd;

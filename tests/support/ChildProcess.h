@@ -21,6 +21,7 @@ struct ChildOptions
     std::map<std::wstring, std::wstring> environment = {}; ///< set in the child
     std::vector<std::wstring> unset = {};                  ///< taken out of the child's environment
     std::wstring directory = {}; ///< current directory of the child; empty keeps ours
+    std::wstring program = {};   ///< a copy of this program to run in its place
     DWORD timeoutMs = 20000;
 };
 
@@ -35,6 +36,9 @@ struct ChildResult
     std::wstring boxText;
     std::string output; ///< standard output of the scenario
 };
+
+/// Path of this program.
+std::wstring ProgramPath();
 
 /// Runs a scenario under the debug interface, so that DebugBreak is seen and stepped over.
 ChildResult RunChild(const char* scenario, const ChildOptions& options = {});
