@@ -35,7 +35,25 @@ void* CPage::operator new(std::size_t size)
     return gfnAllocateLow(size);
 }
 
+void* CPage::operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    try
+    {
+        return gfnAllocateLow(size);
+    }
+    catch (CMemoryException* pException)
+    {
+        pException->Delete();
+        return nullptr;
+    }
+}
+
 void CPage::operator delete(void* pPage) noexcept
+{
+    gfnFreeLow(pPage);
+}
+
+void CPage::operator delete(void* pPage, const std::nothrow_t&) noexcept
 {
     gfnFreeLow(pPage);
 }

@@ -18,14 +18,17 @@
 // formats, separator and position. The page only stores them, each with a flag; a concrete page reads them.
 //
 // Address. CPageTreeCtrl carries pages in a word of 32 bits, so a page must lie below 4 GiB. `new` sees to
-// that for CPage and every class derived from it. A page that is a local, static or member variable has no
-// such guarantee, and must not be shown by a CPageTreeCtrl.
+// that for CPage and every class derived from it. A page that is a local, static or member variable, or that
+// an allocator places (std::make_shared, the elements of a container), has no such guarantee, and must not be
+// shown by a CPageTreeCtrl. The manager deletes its pages, so it takes none that anybody else owns.
 
 #include <afxwin.h>
 
 #include <FormatTekstaKote.h>
 
 #include "module/Export.h"
+
+#include <new>
 
 class CCmndGraphicContext;
 class CPageDialog;
@@ -84,10 +87,15 @@ public:
     void SetSeparator(int nSeparator);
     void SetPolozaj(int nPolozaj);
 
-    /// Pages are made below 4 GiB. Raises MFC's memory exception if there is no room.
+    /// Pages are made below 4 GiB. Raises MFC's memory exception if there is no room; the nothrow form answers
+    /// null.
     static void* operator new(std::size_t size);
+    static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+    /// No room is kept for pages that are aligned more strictly than any basic type.
+    static void* operator new(std::size_t size, std::align_val_t alignment) = delete;
     static void* operator new(std::size_t, void* pPlace) noexcept { return pPlace; }
     static void operator delete(void* pPage) noexcept;
+    static void operator delete(void* pPage, const std::nothrow_t&) noexcept;
     static void operator delete(void*, void*) noexcept {}
 #if defined(_DEBUG)
     // For clients that redefine new as DEBUG_NEW.

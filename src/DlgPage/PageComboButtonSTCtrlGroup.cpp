@@ -5,7 +5,7 @@
 #include <Translator.h>
 
 CPageComboButtonSTCtrlGroup::CPageComboButtonSTCtrlGroup(int nComboId, int nToggleId)
-    : CPageComboCtrlGroup(nComboId, nToggleId, toggle), toggle(this), iconOn(CButtonST::hIconUp),
+    : CPageComboCtrlGroup(nComboId, nToggleId), toggle(this), iconOn(CButtonST::hIconUp),
       iconOff(CButtonST::hIconDown), textOn(gOtLang.Do(L"Nazad")), textOff(gOtLang.Do(L"Napred"))
 {
 }
@@ -38,9 +38,9 @@ int CPageComboButtonSTCtrlGroup::GetButtonState() const
 
 CPage* CPageComboButtonSTCtrlGroup::GetPage(int nRow, int nToggleVisible, int nToggleState) const
 {
-    CPage* pSecondary = GetRows().Secondary(nRow);
+    CPage* pSecondary = GetSecondary(nRow);
     if (!nToggleState || (!pSecondary && !nToggleVisible))
-        return GetRows().Primary(nRow);
+        return GetPrimary(nRow);
     return pSecondary;
 }
 

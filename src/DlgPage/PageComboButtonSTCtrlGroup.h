@@ -13,8 +13,9 @@
 //
 // Text and icon. While the child page shows they are "Nazad" and CButtonST::hIconUp, otherwise "Napred" and
 // CButtonST::hIconDown; the texts go through gOtLang, and both texts and icons are taken when the group is
-// made. The button shows them from the first selection by code or click on; until then it is as the template
-// has it.
+// made. This library loads neither icon: the button has a text only unless another module has set the two
+// members by then, or SetStateIcons gives others. The button shows them from the first selection by code or
+// click on; until then it is as the template has it.
 
 #include "DlgPage/PageComboCtrlGroup.h"
 #include "buttons/ButtonST.h"
@@ -41,6 +42,7 @@ protected:
     int GetToggleState() const override;
     void SetToggleState(bool bHasSecondary, int nSecondary) override;
     int ClickToggle() override;
+    const CButton& Toggle() const override { return toggle; }
 
 private:
     CButtonST toggle;

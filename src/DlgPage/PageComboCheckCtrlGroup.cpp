@@ -3,7 +3,7 @@
 #include "DlgPage/PageComboCheckCtrlGroup.h"
 
 CPageComboCheckCtrlGroup::CPageComboCheckCtrlGroup(int nComboId, int nToggleId)
-    : CPageComboCtrlGroup(nComboId, nToggleId, toggle), toggle(this)
+    : CPageComboCtrlGroup(nComboId, nToggleId), toggle(this)
 {
 }
 
@@ -11,7 +11,7 @@ CPageComboCheckCtrlGroup::~CPageComboCheckCtrlGroup() = default;
 
 CPage* CPageComboCheckCtrlGroup::GetPage(int nRow, int nToggleVisible, int nToggleState) const
 {
-    return nToggleVisible && nToggleState ? GetRows().Secondary(nRow) : GetRows().Primary(nRow);
+    return nToggleVisible && nToggleState ? GetSecondary(nRow) : GetPrimary(nRow);
 }
 
 int CPageComboCheckCtrlGroup::GetToggleState() const

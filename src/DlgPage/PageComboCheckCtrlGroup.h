@@ -27,6 +27,7 @@ protected:
     /// Wanted: in a row without a child the box stays as it is, for the next row that has one.
     void SetToggleState(bool bHasSecondary, int nSecondary) override;
     int ClickToggle() override;
+    const CButton& Toggle() const override { return toggle; }
 
 private:
     CExtButton toggle;

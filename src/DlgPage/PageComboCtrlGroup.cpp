@@ -4,8 +4,8 @@
 
 #include "DlgPage/Page.h"
 
-CPageComboCtrlGroup::CPageComboCtrlGroup(int nComboId, int nToggleId, CButton& toggle)
-    : comboId(nComboId), toggleId(nToggleId), combo(this), toggle(toggle)
+CPageComboCtrlGroup::CPageComboCtrlGroup(int nComboId, int nToggleId)
+    : comboId(nComboId), toggleId(nToggleId), combo(this)
 {
 }
 
@@ -14,7 +14,7 @@ CPageComboCtrlGroup::~CPageComboCtrlGroup() = default;
 void CPageComboCtrlGroup::DoDataExchange(CDataExchange* pDX)
 {
     DDX_Control(pDX, comboId, combo);
-    DDX_Control(pDX, toggleId, toggle);
+    DDX_Control(pDX, toggleId, Toggle());
 }
 
 void CPageComboCtrlGroup::RegisterSelectPageNotification(ASelectPageNotificationClient* pClient,
@@ -97,15 +97,25 @@ int CPageComboCtrlGroup::FindParent(CPage* pPage) const
     return rows.FindParent(pPage);
 }
 
+CPage* CPageComboCtrlGroup::GetPrimary(int nRow) const
+{
+    return rows.Primary(nRow);
+}
+
+CPage* CPageComboCtrlGroup::GetSecondary(int nRow) const
+{
+    return rows.Secondary(nRow);
+}
+
 BOOL CPageComboCtrlGroup::IsToggleVisible() const
 {
-    return toggle.IsWindowVisible();
+    return Toggle().IsWindowVisible();
 }
 
 void CPageComboCtrlGroup::ShowToggle(bool bShow)
 {
-    toggle.EnableWindow(bShow);
-    toggle.ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+    Toggle().EnableWindow(bShow);
+    Toggle().ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 
 void CPageComboCtrlGroup::TellSelected(CPage* pNew, CPage* pOld)

@@ -27,6 +27,8 @@
 #include "module/Export.h"
 #include "module/NotificationInterfaces.h"
 
+#include <utility>
+
 class OW_DIALOGCONTROLS_API CPageComboCtrlGroup : public AAddPageNotificationClient,
                                                   public ACurrentPageProvider,
                                                   public AExtComboBoxNotificationHandler,
@@ -63,8 +65,7 @@ public:
     void OnButtonClicked(int nId) override;
 
 protected:
-    /// `toggle` is the derived class's member, and need not be constructed yet.
-    CPageComboCtrlGroup(int nComboId, int nToggleId, CButton& toggle);
+    CPageComboCtrlGroup(int nComboId, int nToggleId);
 
     /// The first page of the same identity, as an index in the order of adding; -1 for none and for null.
     int FindPage(CPage* pPage) const;
@@ -81,9 +82,16 @@ protected:
     /// Carries out a click on the toggle; answers the state after it.
     virtual int ClickToggle() = 0;
 
-    const CPageComboRows& GetRows() const { return rows; }
+    /// The control beside the combo box.
+    virtual const CButton& Toggle() const = 0;
+
+    /// The top-level page of a row, and the child behind it; null where there is none, and for a row that
+    /// there is not.
+    CPage* GetPrimary(int nRow) const;
+    CPage* GetSecondary(int nRow) const;
 
 private:
+    CButton& Toggle() { return const_cast<CButton&>(std::as_const(*this).Toggle()); }
     BOOL IsToggleVisible() const;
     void ShowToggle(bool bShow);
     void TellSelected(CPage* pNew, CPage* pOld);
@@ -91,7 +99,6 @@ private:
     int comboId;
     int toggleId;
     CExtComboBox combo;
-    CButton& toggle;
     CClientList<ASelectPageNotificationClient> selectClients;
     CPageComboRows rows;
     int currentRow = -1;      ///< as last told to the clients

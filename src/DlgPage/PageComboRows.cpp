@@ -12,7 +12,10 @@ void CPageComboRows::AddPrimary(CPage* pPage, int nRow)
 
 void CPageComboRows::AddSecondary(CPage* pPage, CPage* pParent)
 {
-    const int nRow = rowOfPage[FindPage(pParent)];
+    const int nParent = FindPage(pParent);
+    if (nParent < 0)
+        AfxThrowInvalidArgException();
+    const int nRow = rowOfPage[nParent];
     int& nSecondary = secondaryOfRow[nRow];
     nSecondary = Add(pPage, pParent, nRow, 0);
 }

@@ -19,7 +19,8 @@
 //
 // Keys. Escape does nothing in a page: it closes neither the page nor the host. Enter makes a line break in a
 // multi-line edit with ES_WANTRETURN; with any other control it goes on as if the page were no dialog, to the
-// host's default button in the end. Every other key is translated by the page, so that PreTranslateMessage of
+// host's default button in the end. Tab goes round among the controls of the page and does not leave it, from the
+// library's own boxes as from any other control; a host offers a key of its own for that. Every other key is translated by the page, so that PreTranslateMessage of
 // the host never sees it: an accelerator that must work in a page too belongs to the frame or the application.
 
 #include <afxwin.h>
@@ -51,6 +52,8 @@ public:
     /// the focus stays where it is.
     void SendFocusedControlKillFocusMessage();
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     /// For creation by class name only: an internal error that ends the process. A page dialog needs its
     /// template.
@@ -59,7 +62,6 @@ protected:
     /// To be called from each handler of a control that changes a value.
     void MyAttributeChanged();
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
     DECLARE_MESSAGE_MAP()
 
 private:

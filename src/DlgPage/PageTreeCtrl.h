@@ -48,13 +48,14 @@ public:
     /// cannot be removed again.
     void RegisterSelectPageNotification(ASelectPageNotificationClient* pClient, bool bRegister);
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     CPage* ItemToPage(HTREEITEM hItem) const;
     /// Null for a page that was not added.
     HTREEITEM PageToItem(CPage* pPage) const;
 
     void PreSubclassWindow() override;
-    BOOL PreTranslateMessage(MSG* pMsg) override;
 
     afx_msg void OnTvnSelchanged(NMHDR* pNMHDR, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()

@@ -18,8 +18,9 @@
 //     };
 //
 // Attaching. The button takes over a control of a dialog template. The type of the control decides what it
-// becomes: BS_DEFPUSHBUTTON the default button; any type that has bit 2 (BS_CHECKBOX, BS_AUTOCHECKBOX,
-// BS_3STATE, but also BS_OWNERDRAW and BS_GROUPBOX) a check box; the rest a push button. From then on the
+// becomes: BS_DEFPUSHBUTTON the default button; any type with the bit 0x2 (BS_CHECKBOX, BS_AUTOCHECKBOX,
+// BS_AUTO3STATE, but also BS_GROUPBOX and BS_OWNERDRAW) a check box; the rest, BS_3STATE and the radio buttons
+// among it, a push button. From then on the
 // control is owner-drawn and stays so, whatever button style a dialog sends it.
 //
 // Clicks. A click takes the focus, toggles a check box, opens the address of a push button that has one,
@@ -243,6 +244,8 @@ public:
     /// Paints the button: background, border, image, title and focus, by the operations below in this order.
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     // ---- Painting, for subclasses. All coordinates are those of the item rectangle. -----------------------
 
@@ -271,7 +274,6 @@ protected:
     void CancelHover();
 
     void PreSubclassWindow() override;
-    BOOL PreTranslateMessage(MSG* pMsg) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnCaptureChanged(CWnd* pWnd);

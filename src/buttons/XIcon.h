@@ -3,8 +3,8 @@
 // shows.
 //
 //     CXIcon m_icon;
-//     DDX_Control(pDX, IDC_STATE, m_icon);                       // a button with BS_OWNERDRAW in the
-//     template m_icon.SetIcon(CButtonST::hIconOk, 16).SetBold(TRUE).SetWindowText(L"Saved");
+//     DDX_Control(pDX, IDC_STATE, m_icon);        // in the template: a button with BS_OWNERDRAW
+//     m_icon.SetIcon(CButtonST::hIconOk, 16).SetBold(TRUE).SetWindowText(L"Saved");
 //
 // It is an owner-drawn button that only displays: it reacts to no click of its own. Lengths are pixels.
 //

@@ -10,8 +10,10 @@ constexpr int ComboEditId = 1001;
 
 class OW_DIALOGCONTROLS_API CComboEdit : public CEdit
 {
-protected:
+
     BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
 
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);

@@ -19,8 +19,9 @@ public:
 
     void EndEdit() override;
 
-protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
     void PostNcDestroy() override;
 
     afx_msg void OnKillFocus(CWnd* pNewWnd);

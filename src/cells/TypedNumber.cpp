@@ -2,7 +2,7 @@
 
 #include "cells/TypedNumber.h"
 
-#include "edits/DoubleText.h"
+#include "edits/LocalNumber.h"
 
 #include <algorithm>
 #include <cfloat>

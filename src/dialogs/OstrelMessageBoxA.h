@@ -30,10 +30,11 @@ public:
     /// The number of the pressed button, from 1 to 4, or what Escape answers.
     INT_PTR DoModal() override;
 
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    BOOL PreTranslateMessage(MSG* pMsg) override;
     void OnOK() override;
 
     afx_msg void OnSecond();

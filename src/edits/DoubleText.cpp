@@ -2,6 +2,8 @@
 
 #include "edits/DoubleText.h"
 
+#include "edits/LocalNumber.h"
+
 #include <algorithm>
 #include <clocale>
 #include <cmath>

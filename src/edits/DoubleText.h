@@ -44,16 +44,3 @@ OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleT
 /// Reads the number at the beginning of a text; white space before it and anything behind it are passed over.
 /// False, with the value as it was, if there is none, or if it lies beyond what a double holds.
 OW_DIALOGCONTROLS_API bool gfnParseDouble(const wchar_t* pszText, double& dValue);
-
-/// A text with a point in its numbers as the run-time library's readers want it, which go by the locale of the
-/// process: its decimal sign stands for the point, and ends the text where it stood itself.
-class CLocalNumber
-{
-public:
-    explicit CLocalNumber(const wchar_t* pszText);
-    operator const wchar_t*() const { return m_pszText; }
-
-private:
-    CString m_strLocal; ///< only if the locale has another decimal sign
-    const wchar_t* m_pszText;
-};

@@ -98,3 +98,17 @@ TEST(PageMemory, WhatIsFreedServesTheNextPages)
         places.insert(std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get());
     EXPECT_EQ(places.size(), 1u);
 }
+
+TEST(PageMemory, ANothrowNewLiesThereToo)
+{
+    struct CHugePage : RecordingPage
+    {
+        using RecordingPage::RecordingPage;
+        char room[100'000];
+    };
+    CallLog log;
+    const std::unique_ptr<CHugePage> page(new (std::nothrow) CHugePage(L"Huge", nullptr, 1, log));
+    ASSERT_TRUE(page);
+    EXPECT_LT(reinterpret_cast<std::uintptr_t>(page.get()), std::uintptr_t{1} << 32);
+    EXPECT_EQ(CPage::operator new (std::size_t{1} << 33, std::nothrow), nullptr) << "no room below 4 GiB";
+}

@@ -5,7 +5,9 @@
 // 0       ByBlock: the colour of the block
 // 1 - 9   the standard colours: red, yellow, green, cyan, blue, magenta, white, dark grey, light grey
 // 10-249  24 hues in steps of 15 degrees, ten shades each; an odd index is the pale form of the even one
-// before it 250-255 greys from dark to white 256     ByLayer: the colour of the layer
+//         before it
+// 250-255 greys from dark to white
+// 256     ByLayer: the colour of the layer
 
 #include "acadhostdef.h"
 #include "adesk.h"

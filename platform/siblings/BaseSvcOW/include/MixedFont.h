@@ -1,8 +1,9 @@
 #pragma once
 // CMixedFont: a line of text in several fonts, with lowered and raised parts.
 //
-//     const CSize size = CMixedFont::GetTextExtent(&dc, L"<f Symbol>s</f><sub>max</sub>
-//     [kN/cm<sup>2</sup>]"); CMixedFont::TextOut(&dc, CPoint(rect.right - size.cx, rect.top), text);
+//     const LPCWSTR text = L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]";
+//     const CSize size = CMixedFont::GetTextExtent(&dc, text);
+//     CMixedFont::TextOutW(&dc, CPoint(rect.right - size.cx, rect.top), text);
 //
 // Mark-up           Meaning, up to the closing mark or the end of the text
 // <f Name> </f>     face Name in the size, weight and slant of the font around it

@@ -27,8 +27,7 @@
 // the inner message. A hook whose own messages are to reach the window asks IsWorkingOn first:
 //
 //     if (message == WM_SETTEXT && !IsWorkingOn(WM_SETTEXT))
-//         return SetTextMyWay(lParam); // calls SetWindowText, which comes back here and goes on to the
-//         window
+//         return SetTextMyWay(lParam); // its SetWindowText comes back here, and goes on to the window
 //
 // Hook on the thread that owns the window. Exceptions must not leave WindowProc.
 
