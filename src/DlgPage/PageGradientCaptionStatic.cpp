@@ -5,9 +5,9 @@
 #include "DlgPage/GradientFill.h"
 #include "DlgPage/Page.h"
 #include "module/GdiScope.h"
+#include "module/KeptText.h"
 
 #include <cmath>
-#include <cwchar>
 
 IMPLEMENT_DYNAMIC(CPageGradientCaptionStatic, CStatic)
 
@@ -29,7 +29,7 @@ LRESULT CPageGradientCaptionStatic::WindowProc(UINT message, WPARAM wParam, LPAR
     case WM_SETTEXT:
         return SetTitle(reinterpret_cast<const wchar_t*>(lParam));
     case WM_GETTEXT:
-        return CopyTitle(reinterpret_cast<wchar_t*>(lParam), wParam);
+        return gfnCopyKeptText(title, reinterpret_cast<wchar_t*>(lParam), wParam);
     case WM_GETTEXTLENGTH:
         return title.GetLength();
     default:
@@ -61,16 +61,6 @@ LRESULT CPageGradientCaptionStatic::SetTitle(const wchar_t* pszText)
     titleChanged = 1;
     Invalidate(FALSE);
     return TRUE;
-}
-
-// A text that does not fit is cut; the last place of the buffer always holds a terminator.
-LRESULT CPageGradientCaptionStatic::CopyTitle(wchar_t* pszBuffer, size_t nChars) const
-{
-    if (!pszBuffer || nChars == 0)
-        return 0;
-    std::wcsncpy(pszBuffer, title, nChars);
-    pszBuffer[nChars - 1] = L'\0';
-    return static_cast<LRESULT>(std::wcslen(pszBuffer));
 }
 
 void CPageGradientCaptionStatic::DrawCachedBitmap(CDC* pDC)

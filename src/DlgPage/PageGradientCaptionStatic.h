@@ -36,7 +36,6 @@ protected:
 
 private:
     LRESULT SetTitle(const wchar_t* pszText);
-    LRESULT CopyTitle(wchar_t* pszBuffer, size_t nChars) const;
     void DrawCachedBitmap(CDC* pDC);
     void DrawGradientBitmap(CDC& dc);
     void DrawTextBitmap(CDC& dc);

@@ -34,6 +34,20 @@ private:
     COLORREF m_crOld;
 };
 
+/// Gives a context back as it was found: selections, colours and modes.
+class CSavedDC
+{
+public:
+    explicit CSavedDC(CDC& dc) : m_hDC(dc.m_hDC), m_nSaved(::SaveDC(m_hDC)) {}
+    ~CSavedDC() { ::RestoreDC(m_hDC, m_nSaved); }
+    CSavedDC(const CSavedDC&) = delete;
+    CSavedDC& operator=(const CSavedDC&) = delete;
+
+private:
+    HDC m_hDC;
+    int m_nSaved;
+};
+
 /// A bitmap in a memory context of its own, to paint on and to copy from.
 class CMemorySurface
 {
