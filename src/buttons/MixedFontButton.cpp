@@ -159,6 +159,7 @@ void CMixedFontButton::PreSubclassWindow()
     constexpr DWORD kKept = 0xF4;
     const DWORD style = (GetStyle() & kKept) | BS_OWNERDRAW;
     SendMessage(BM_SETSTYLE, style, TRUE);
+    ModifyStyle(BS_TYPEMASK, style & BS_TYPEMASK); // a button that is only being made takes no message yet
     m_bTextDirty = TRUE; // the text that the window came with is new here
     CExtButton::PreSubclassWindow();
 }
@@ -247,10 +248,11 @@ CMixedFontButton::Places CMixedFontButton::DrawLabel(CDC& dc, const CRect& rect)
     GetWindowText(strText);
     gfnSelectParentFont(dc, *this);
     const Places places = Place(rect, CMixedFont::GetTextExtent(&dc, strText));
-    if (m_bTextDirty && !gfnIsTransparent(*this))
+    const bool bWipes = m_bTextDirty && !m_rectLastText.IsRectNull() && !gfnIsTransparent(*this);
+    if (bWipes)
         WipeFocus(dc, m_rectLastText); // the mark stands round the text that goes
     gfnBeginMixedFontText(dc, *this, places.text, m_bTextDirty, m_rectLastText);
-    DrawText(dc, strText, places.text.TopLeft());
+    DrawLine(dc, strText, places.text.TopLeft());
     return places;
 }
 
@@ -265,7 +267,7 @@ CMixedFontButton::Places CMixedFontButton::Place(const CRect& rect, CSize text) 
 }
 
 /// Engraved while disabled.
-void CMixedFontButton::DrawText(CDC& dc, const CString& strText, CPoint at)
+void CMixedFontButton::DrawLine(CDC& dc, const CString& strText, CPoint at)
 {
     if (IsWindowEnabled())
         dc.SetTextColor(::GetSysColor(COLOR_BTNTEXT));

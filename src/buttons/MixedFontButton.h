@@ -74,7 +74,7 @@ private:
     struct Places; ///< of box and text
     Places Place(const CRect& rect, CSize text) const;
     Places DrawLabel(CDC& dc, const CRect& rect);
-    void DrawText(CDC& dc, const CString& strText, CPoint at);
+    void DrawLine(CDC& dc, const CString& strText, CPoint at);
     void DrawBox(CDC& dc, const CRect& rect);
     void DrawFocus(CDC& dc, const CRect& rectText);
 

@@ -30,7 +30,7 @@ void CMixedFontStatic::PreSubclassWindow()
     TakeOverTitle();
 }
 
-// What the system's own control would paint by itself is the text with its mark-up: it paints nothing here.
+// The system's control does not hear of what makes it paint by itself: it would show the caption with its mark-up.
 LRESULT CMixedFontStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message)
@@ -41,11 +41,10 @@ LRESULT CMixedFontStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return gfnCopyKeptText(m_strTitle, reinterpret_cast<wchar_t*>(lParam), wParam);
     case WM_GETTEXTLENGTH:
         return m_strTitle.GetLength();
-    case WM_CREATE: // a window that is made for this object has its text by now, and had none when it was taken over
+    case WM_CREATE: // a window that is made for this object had no text yet when it was taken over
         TakeOverTitle();
         return CStatic::WindowProc(message, wParam, lParam);
-    case WM_ENABLE:
-        Invalidate(FALSE);
+    case WM_ENABLE: // looks the same
         return 0;
     case WM_ERASEBKGND:
         return Erase(*CDC::FromHandle(reinterpret_cast<HDC>(wParam)));

@@ -97,6 +97,10 @@ public:
     OpenButton ownerDrawn{this};
     OpenButton ok{this};
     CExtButton ext{this};
+    CMixedFontButton mixed{this};
+    CMixedFontButton mixedOther{this};
+    CMixedFontStatic label;
+    CMixedFontStatic clearLabel; ///< a transparent one
 
     std::vector<std::string> calls;
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
@@ -113,6 +117,10 @@ protected:
         DDX_Control(pDX, IDC_OWNER_DRAWN, ownerDrawn);
         DDX_Control(pDX, IDOK, ok);
         DDX_Control(pDX, IDC_EXT, ext);
+        DDX_Control(pDX, IDC_MIXED, mixed);
+        DDX_Control(pDX, IDC_MIXED_OTHER, mixedOther);
+        DDX_Control(pDX, IDC_LABEL, label);
+        DDX_Control(pDX, IDC_CLEAR_LABEL, clearLabel);
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
