@@ -10,6 +10,7 @@
     CHILD(Numbers)                 \
     PAGE(Combos)                   \
     PAGE(Buttons)                  \
+    CHILD(LabelsAndFonts)          \
     PAGE(MessageBoxes)             \
     PAGE(Grid)                     \
     CHILD(VirtualGrid)             \
