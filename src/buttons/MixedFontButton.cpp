@@ -160,7 +160,7 @@ void CMixedFontButton::PreSubclassWindow()
     const DWORD style = (GetStyle() & kKept) | BS_OWNERDRAW;
     SendMessage(BM_SETSTYLE, style, TRUE);
     ModifyStyle(BS_TYPEMASK, style & BS_TYPEMASK); // a button that is only being made takes no message yet
-    m_bTextDirty = TRUE; // the text that the window came with is new here
+    m_bTextDirty = TRUE;                           // the text that the window came with is new here
     CExtButton::PreSubclassWindow();
 }
 

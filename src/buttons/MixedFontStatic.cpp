@@ -8,6 +8,8 @@
 
 #include <MixedFont.h>
 
+#include <vector>
+
 IMPLEMENT_DYNCREATE(CMixedFontStatic, CStatic)
 
 CMixedFontStatic::CMixedFontStatic() = default;
@@ -60,11 +62,9 @@ LRESULT CMixedFontStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 /// Asks the window, as if there were no text here.
 void CMixedFontStatic::TakeOverTitle()
 {
-    const int nLength = static_cast<int>(DefWindowProc(WM_GETTEXTLENGTH, 0, 0));
-    CString strText;
-    DefWindowProc(WM_GETTEXT, nLength + 1, reinterpret_cast<LPARAM>(strText.GetBuffer(nLength)));
-    strText.ReleaseBuffer();
-    SetTitle(strText);
+    std::vector<wchar_t> text(DefWindowProc(WM_GETTEXTLENGTH, 0, 0) + 1);
+    DefWindowProc(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()));
+    SetTitle(text.data());
 }
 
 LRESULT CMixedFontStatic::SetTitle(const wchar_t* pszText)
@@ -94,20 +94,20 @@ void CMixedFontStatic::Paint(CDC& dc)
     const CSavedDC saved(dc);
     gfnSelectParentFont(dc, *this);
     const CSize text = CMixedFont::GetTextExtent(&dc, m_strTitle);
-    const CPoint at(TextLeft(rect, text.cx), rect.top);
+    const CPoint at(TextLeft(rect.Width() - text.cx), 0);
     gfnBeginMixedFontText(dc, *this, CRect(at, text), m_bTextDirty, m_rectLastText);
     CMixedFont::TextOutW(&dc, at, m_strTitle);
 }
 
-int CMixedFontStatic::TextLeft(const CRect& rect, int nTextWidth) const
+int CMixedFontStatic::TextLeft(int nRoom) const
 {
     switch (GetStyle() & SS_TYPEMASK)
     {
     case SS_RIGHT:
-        return rect.right - nTextWidth;
+        return nRoom;
     case SS_CENTER:
-        return rect.left + (rect.Width() - nTextWidth) / 2;
+        return nRoom / 2;
     default:
-        return rect.left;
+        return 0;
     }
 }

@@ -42,7 +42,8 @@ private:
     LRESULT SetTitle(const wchar_t* pszText);
     LRESULT Erase(CDC& dc) const;
     void Paint(CDC& dc);
-    int TextLeft(const CRect& rect, int nTextWidth) const;
+    /// By the room that the text leaves, which is negative if it does not fit.
+    int TextLeft(int nRoom) const;
 
     CString m_strTitle;
     BOOL m_bTextDirty = FALSE;        ///< the next paint wipes m_rectLastText

@@ -287,9 +287,10 @@ TEST_F(MixedFontInDialog, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
     EXPECT_EQ(m_dialog.Take().back(), "dialog 1") << "Enter is the default button's";
 }
 
-TEST_F(MixedFontInDialog, FocusIsShownWhereItIsAndEndsAPress)
+TEST_F(MixedFontInDialog, CheckAndFocusAreShownAtOnceAndLossOfFocusEndsAPress)
 {
     m_other.SetFocus();
+    EXPECT_FALSE(SameAfter(m_button, [&] { m_button.SetCheck(1); }));
     EXPECT_FALSE(SameAfter(m_button, [&] { m_button.SetFocus(); }));
     EXPECT_FALSE(SameAfter(m_button, [&] { m_other.SetFocus(); }));
     const auto loseItWhileDisabled = [&]
@@ -365,6 +366,7 @@ TEST_F(MixedFontInDialog, ALabelWipesItsTextAndItsGroundUnlessItIsTransparent)
         CRect rect = ClientOf(*pLabel);
         Surface surface(rect.right, rect.bottom);
         pLabel->SetWindowText(L"i");
+        pLabel->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(surface.dc().m_hDC), PRF_CLIENT);
         rect.right -= 20;
         EXPECT_EQ(PixelsOtherThanFace(Shown(surface, *pLabel), rect) == 0, bOpaque);
     }
