@@ -2,6 +2,8 @@
 
 #include "cells/InPlaceEdit.h"
 
+#include "edits/WholeText.h"
+
 #include <algorithm>
 
 namespace
@@ -118,10 +120,7 @@ void CInPlaceEdit::EndEdit()
     if (s_bEnding)
         return;
     const CEndingScope ending;
-    CString strText;
-    if (::IsWindow(m_hWnd))
-        GetWindowText(strText);
-    NotifyEnd(*this, m_nRow, m_nColumn, m_nLastChar, strText);
+    NotifyEnd(*this, m_nRow, m_nColumn, m_nLastChar, gfnWholeText(*this));
 }
 
 /// Giving the focus away is what ends the edit; the editor may be gone when this returns.
@@ -135,11 +134,9 @@ void CInPlaceEdit::Leave(UINT nLastChar)
 // Room for two blanks more than the text, as far as the grid reaches; never less than before.
 void CInPlaceEdit::GrowToText()
 {
-    CString strText;
-    GetWindowText(strText);
     CClientDC dc(this);
     CFont* const pOldFont = dc.SelectObject(GetFont());
-    const int nWidth = dc.GetTextExtent(strText + L"  ").cx;
+    const int nWidth = dc.GetTextExtent(gfnWholeText(*this) + L"  ").cx;
     dc.SelectObject(pOldFont);
     if (nWidth <= m_Rect.Width())
         return;

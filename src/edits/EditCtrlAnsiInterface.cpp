@@ -2,6 +2,8 @@
 
 #include "edits/EditCtrlAnsiInterface.h"
 
+#include "edits/WholeText.h"
+
 #include <Translator.h>
 
 CEditCtrlAnsiInterface::CEditCtrlAnsiInterface(CEdit& edit)
@@ -30,7 +32,5 @@ void CEditCtrlAnsiInterface::SetText(const CString& strText)
 
 CString CEditCtrlAnsiInterface::GetText(bool) const
 {
-    CString strText;
-    m_pEdit->GetWindowText(strText);
-    return strText;
+    return gfnWholeText(*m_pEdit);
 }

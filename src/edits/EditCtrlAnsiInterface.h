@@ -19,7 +19,7 @@ public:
     unsigned int GetCodePage() const;
 
     void SetText(const CString& strText);
-    /// The argument makes no difference.
+    /// All of the text, also of a box under a CEditCtrlAnsiMsgHook. The argument makes no difference.
     CString GetText(bool bUnused = false) const;
 
 private:

@@ -357,12 +357,8 @@ bool CEditDoubleWithRange::ValidateAndStoreDataFromGUI()
 /// False, with the number as it was, if the text does not parse or there is no window.
 bool CEditDoubleWithRange::ParseText(double& dGlobal) const
 {
-    if (!m_hWnd)
-        return false;
-    CString strText;
-    GetWindowText(strText);
     double d = 0.0;
-    if (!gfnParseDouble(strText, d))
+    if (!gfnParseDouble(ReadText(), d))
         return false;
     if (m_bUnitEnabled)
         d = m_unit.ToGlobal(d);
@@ -422,10 +418,8 @@ void CEditDoubleWithRange::OnSpinDeltapos(NM_UPDOWN* pNMUpDown, LRESULT* pResult
 /// empty box.
 double CEditDoubleWithRange::SpinBase() const
 {
-    CString strText;
-    GetWindowText(strText);
     double dBase = 0.0;
-    if (gfnParseDouble(strText, dBase) || IsEmpty())
+    if (gfnParseDouble(ReadText(), dBase) || IsEmpty())
         return dBase;
     return ToLocal(m_dValue);
 }

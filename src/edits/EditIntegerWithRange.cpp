@@ -143,9 +143,5 @@ void CEditIntegerWithRange::UpdateGUIWithStoredData()
 /// False, with the number as it was, if the text does not parse or there is no window.
 bool CEditIntegerWithRange::ParseText(int& n) const
 {
-    if (!m_hWnd)
-        return false;
-    CString strText;
-    GetWindowText(strText);
-    return ParseInteger(strText, n);
+    return ParseInteger(ReadText(), n);
 }

@@ -3,6 +3,7 @@
 #include "edits/EditN.h"
 
 #include "edits/EditCtrlAnsiInterface.h"
+#include "edits/WholeText.h"
 #include "module/DialogKeys.h"
 #include "module/NotificationHandler.h"
 
@@ -153,6 +154,13 @@ void CEditN::SafeSetWindowText(const wchar_t* pszText)
         CEditCtrlAnsiInterface(*this).SetText(pszText);
     else
         SetWindowText(pszText);
+}
+
+CString CEditN::ReadText() const
+{
+    if (m_bAnsiInterface)
+        return CEditCtrlAnsiInterface(const_cast<CEditN&>(*this)).GetText();
+    return gfnWholeText(*this);
 }
 
 bool CEditN::IsReadOnly() const

@@ -57,6 +57,10 @@ protected:
 
     void SetChangedSinceLastSetFocus();
 
+    /// What stands in the box, the counterpart of SafeSetWindowText: all of it, also under a
+    /// CEditCtrlAnsiMsgHook. Empty without a window.
+    CString ReadText() const;
+
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PreSubclassWindow() override;
     void PostNcDestroy() override;

@@ -16,6 +16,8 @@ CMemDC::CMemDC(CDC* pDC) : m_pDC(pDC), m_bMemDC(!pDC->IsPrinting())
     m_bitmap.CreateCompatibleBitmap(pDC, m_rect.Width(), m_rect.Height());
     m_pOldBitmap = SelectObject(&m_bitmap);
     SetWindowOrg(m_rect.TopLeft());
+    constexpr int kBrushSize = 8; // patterns stand as on the target, whatever part of it is painted
+    SetBrushOrg(-m_rect.left & (kBrushSize - 1), -m_rect.top & (kBrushSize - 1));
     FillSolidRect(&m_rect, pDC->GetBkColor());
 }
 

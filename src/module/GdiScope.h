@@ -48,6 +48,34 @@ private:
     int m_nSaved;
 };
 
+/// Sets the text colour of a context for the length of a scope.
+class CTextColorScope
+{
+public:
+    CTextColorScope(CDC& dc, COLORREF cr) : m_dc(dc), m_crOld(dc.SetTextColor(cr)) {}
+    ~CTextColorScope() { m_dc.SetTextColor(m_crOld); }
+    CTextColorScope(const CTextColorScope&) = delete;
+    CTextColorScope& operator=(const CTextColorScope&) = delete;
+
+private:
+    CDC& m_dc;
+    COLORREF m_crOld;
+};
+
+/// Sets the background mode of a context, OPAQUE or TRANSPARENT, for the length of a scope.
+class CBkModeScope
+{
+public:
+    CBkModeScope(CDC& dc, int nMode) : m_dc(dc), m_nOld(dc.SetBkMode(nMode)) {}
+    ~CBkModeScope() { m_dc.SetBkMode(m_nOld); }
+    CBkModeScope(const CBkModeScope&) = delete;
+    CBkModeScope& operator=(const CBkModeScope&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_nOld;
+};
+
 /// A bitmap in a memory context of its own, to paint on and to copy from.
 class CMemorySurface
 {

@@ -1,0 +1,88 @@
+#include <afxwin.h>
+
+#include "cells/MixedFontGridCell.h"
+
+#include "cells/CellTextScope.h"
+#include "grid/GridCtrl.h"
+#include "module/GdiScope.h"
+
+#include <MixedFont.h>
+
+IMPLEMENT_DYNCREATE(CMixedFontGridCell, CGridCell)
+
+namespace
+{
+/// The font of the grid's window; for a grid without one, the font that it would have.
+HGDIOBJ FontOf(CGridCtrl& grid)
+{
+    if (::IsWindow(grid.m_hWnd))
+        return reinterpret_cast<HGDIOBJ>(grid.SendMessage(WM_GETFONT));
+    return grid.GetDefaultCell(FALSE, FALSE)->GetFontObject()->GetSafeHandle();
+}
+
+/// `rect` holds its last pixel, which is not counted.
+CPoint PlaceInCell(const CRect& rect, CSize size, DWORD nFormat)
+{
+    constexpr int kGap = 2; // pixels
+    CPoint point(rect.left + kGap, rect.top + (rect.Height() - size.cy) / 2);
+    if (nFormat & DT_RIGHT)
+        point.x = rect.right - size.cx - kGap;
+    else if (nFormat & DT_CENTER)
+        point.x = rect.left + (rect.Width() - size.cx) / 2;
+    return point;
+}
+
+/// Keeps what is painted inside a cell for the length of a scope.
+class CCellClip
+{
+public:
+    CCellClip(CDC& dc, const CRect& rect) : m_dc(dc), m_nSaved(dc.SaveDC())
+    {
+        m_dc.IntersectClipRect(rect.left, rect.top, rect.right + 1, rect.bottom + 1);
+    }
+    ~CCellClip() { m_dc.RestoreDC(m_nSaved); }
+    CCellClip(const CCellClip&) = delete;
+    CCellClip& operator=(const CCellClip&) = delete;
+
+private:
+    CDC& m_dc;
+    int m_nSaved;
+};
+} // namespace
+
+void CMixedFontGridCell::operator=(const CMixedFontGridCell& cell)
+{
+    CGridCellBase::operator=(cell);
+}
+
+// All but the text is as in any cell.
+BOOL CMixedFontGridCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
+{
+    {
+        const CCellTextScope withoutText(*this, L"");
+        if (!CGridCellBase::Draw(pDC, nRow, nCol, rect, bEraseBkgnd))
+            return FALSE;
+    }
+    DrawMixedText(*pDC, rect);
+    return TRUE;
+}
+
+// The colour is that of an ordinary cell also where the cell is selected: this is wanted.
+void CMixedFontGridCell::DrawMixedText(CDC& dc, const CRect& rect)
+{
+    const CGdiSelection font(dc, FontOf(*GetGrid()));
+    const CBkModeScope transparent(dc, TRANSPARENT);
+    const COLORREF crOwn = GetTextClr();
+    const CTextColorScope color(dc, crOwn == CLR_INHERIT ? GetDefaultCell()->GetTextClr() : crOwn);
+
+    const LPCWSTR pszText = GetText();
+    const CSize size = CMixedFont::GetTextExtent(&dc, pszText);
+    const CPoint point = PlaceInCell(rect, size, GetFormat());
+    if (size.cx <= rect.Width() && size.cy <= rect.Height())
+    {
+        CMixedFont::TextOut(&dc, point, pszText);
+        return;
+    }
+    const CCellClip clip(dc, rect);
+    CMixedFont::TextOut(&dc, point, pszText);
+}
