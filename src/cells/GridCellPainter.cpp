@@ -3,6 +3,7 @@
 #include "cells/GridCellPainter.h"
 
 #include "grid/GridCtrl.h"
+#include "module/GdiScope.h"
 
 namespace
 {
@@ -34,8 +35,6 @@ public:
     }
     ~CTextState()
     {
-        if (m_hOldFont)
-            ::SelectObject(m_dc.m_hDC, m_hOldFont);
         m_dc.SetBkColor(m_crBk);
         m_dc.SetTextColor(m_crText);
         m_dc.SetBkMode(m_nBkMode);
@@ -43,20 +42,11 @@ public:
     CTextState(const CTextState&) = delete;
     CTextState& operator=(const CTextState&) = delete;
 
-    /// Choosing a font costs; the grid has that of most cells on the context already.
-    void Select(CFont* pFont)
-    {
-        const auto hFont = pFont ? static_cast<HFONT>(pFont->GetSafeHandle()) : nullptr;
-        if (hFont && ::GetCurrentObject(m_dc.m_hDC, OBJ_FONT) != hFont)
-            m_hOldFont = ::SelectObject(m_dc.m_hDC, hFont);
-    }
-
 private:
     CDC& m_dc;
     int m_nBkMode;
     COLORREF m_crText;
     COLORREF m_crBk;
-    HGDIOBJ m_hOldFont = nullptr;
 };
 
 /// The formats whose text is one line at a place that its extent alone decides.
@@ -126,12 +116,12 @@ BOOL CGridCellPainter::Paint(CDC* pDC, CRect rect, BOOL bEraseBkgnd)
         return FALSE;
     }
     m_pDC = pDC;
-    CTextState state(*pDC);
+    const CTextState state(*pDC);
     DrawBackground(rect, ResolveColors(*pDefault, bEraseBkgnd));
     if (m_cell.IsFixed() && Grid().GetGridLines() != GVL_NONE)
         DrawFixedEdge(rect);
-    if (!pDC->IsPrinting())
-        state.Select(m_cell.GetFontObject());
+    // The grid has the font of most cells on the context already.
+    const CFontSelection font(*pDC, pDC->IsPrinting() ? nullptr : m_cell.GetFontObject()->GetSafeHandle());
     TakeMargin(rect);
     DrawImage(rect);
     if (Grid().GetSortColumn() == m_nCol && m_nRow == 0)

@@ -70,7 +70,7 @@ BOOL CMixedFontGridCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEr
 // The colour is that of an ordinary cell also where the cell is selected: this is wanted.
 void CMixedFontGridCell::DrawMixedText(CDC& dc, const CRect& rect)
 {
-    const CGdiSelection font(dc, FontOf(*GetGrid()));
+    const CFontSelection font(dc, FontOf(*GetGrid()));
     const CBkModeScope transparent(dc, TRANSPARENT);
     const COLORREF crOwn = GetTextClr();
     const CTextColorScope color(dc, crOwn == CLR_INHERIT ? GetDefaultCell()->GetTextClr() : crOwn);

@@ -20,6 +20,29 @@ private:
     HGDIOBJ m_hOld;
 };
 
+/// Selects a font into a context for the length of a scope. Choosing a font costs: one that the context has already
+/// is not chosen again. Null leaves the context as it is.
+class CFontSelection
+{
+public:
+    CFontSelection(CDC& dc, HGDIOBJ hFont) : m_hDC(dc.m_hDC)
+    {
+        if (hFont && ::GetCurrentObject(m_hDC, OBJ_FONT) != hFont)
+            m_hOld = ::SelectObject(m_hDC, hFont);
+    }
+    ~CFontSelection()
+    {
+        if (m_hOld)
+            ::SelectObject(m_hDC, m_hOld);
+    }
+    CFontSelection(const CFontSelection&) = delete;
+    CFontSelection& operator=(const CFontSelection&) = delete;
+
+private:
+    HDC m_hDC;
+    HGDIOBJ m_hOld = nullptr; ///< null if nothing was chosen
+};
+
 /// Sets the background colour of a context for the length of a scope.
 class CBkColorScope
 {

@@ -130,6 +130,43 @@ TEST_F(MixedFont, OpaqueModeFillsTheExtent)
     EXPECT_EQ(m_surface.at(box.left, box.bottom), c_paper);
 }
 
+TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTime)
+{
+    const LPCWSTR text = L"A<sub>2</sub> <b>b</b>";
+    const CSize first = Extent(text);
+    m_surface.dc().SetTextCharacterExtra(3);
+    EXPECT_EQ(Extent(text).cx, first.cx + 3 * 4);
+    m_surface.dc().SetTextCharacterExtra(0);
+    m_surface.dc().SetMapMode(MM_ANISOTROPIC);
+    m_surface.dc().SetWindowExt(2, 2);
+    EXPECT_NE(Extent(text), first);
+    m_surface.dc().SetMapMode(MM_TEXT);
+    CFont large;
+    large.CreatePointFont(240, L"Liberation Sans");
+    CFont* const old = m_surface.dc().SelectObject(&large);
+    EXPECT_GT(Extent(text).cx, first.cx * 3 / 2);
+    m_surface.dc().SelectObject(old);
+    EXPECT_EQ(Extent(text), first);
+}
+
+TEST_F(MixedFont, KeepsNoMoreThanItNeeds)
+{
+    CString many; // more looks than fonts are kept
+    for (int i = 0; i < 12; ++i)
+        many += L"<sup>" + CString(L'x', 1) + (i % 2 ? L"<i>y</i>" : L"<b>y</b>");
+    Draw(many);
+    const CSize size = Extent(many);
+    const int handles = owtest::CountHandles().gdi;
+    for (int i = 0; i < 2500; ++i)
+    {
+        CString text;
+        text.Format(L"<b>%d</b>", i);
+        Extent(text);
+    }
+    EXPECT_EQ(Extent(many), size);
+    EXPECT_LE(owtest::CountHandles().gdi, handles + 8);
+}
+
 TEST_F(MixedFont, LeavesTheContextAndTheHandlesAsTheyWere)
 {
     CDC& dc = m_surface.dc();

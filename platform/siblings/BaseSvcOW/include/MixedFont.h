@@ -18,6 +18,8 @@
 //
 // Text outside all marks is in the font that is selected in the device context. All parts stand on one base
 // line. Text without marks measures and draws as CDC::GetTextExtent and CDC::TextOut do it.
+//
+// Fonts and layouts are kept for the next time, within bounds: call from the thread of the dialogs only.
 
 #include "BaseSvcDef.h"
 

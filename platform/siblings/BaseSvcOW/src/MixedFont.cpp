@@ -4,76 +4,169 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
+#include <cstring>
+#include <map>
+#include <optional>
 
 namespace
 {
-/// Gives a device context back as it was found.
-class CSavedDC
+/// The fonts of the last few looks. Making one anew for every part of every text would cost more than all the rest.
+/// Process-wide and unguarded, like all painting: only the thread of the dialogs asks.
+class CFontStore
 {
 public:
-    explicit CSavedDC(CDC& dc) : m_dc(dc), m_nSaved(dc.SaveDC()) {}
-    ~CSavedDC() { m_dc.RestoreDC(m_nSaved); }
-    CSavedDC(const CSavedDC&) = delete;
-    CSavedDC& operator=(const CSavedDC&) = delete;
+    ~CFontStore()
+    {
+        for (SMade& made : m_made)
+            ::DeleteObject(made.hFont);
+    }
+
+    /// Good until as many others have been asked for as the store holds.
+    HFONT Get(const LOGFONT& logFont)
+    {
+        for (const SMade& made : m_made)
+        {
+            if (made.hFont && memcmp(&made.logFont, &logFont, sizeof logFont) == 0)
+                return made.hFont;
+        }
+        SMade& made = m_made[m_nNext];
+        m_nNext = (m_nNext + 1) % std::size(m_made);
+        ::DeleteObject(made.hFont);
+        made = {logFont, ::CreateFontIndirect(&logFont)};
+        return made.hFont;
+    }
+
+private:
+    struct SMade
+    {
+        LOGFONT logFont;
+        HFONT hFont; ///< null while the place is free
+    };
+    SMade m_made[8] = {};
+    size_t m_nNext = 0;
+};
+
+CFontStore s_fonts;
+
+/// Gives a context its font and text alignment back. SaveDC and RestoreDC would give back ten times as much, and
+/// take longer than a text does.
+class CTextScope
+{
+public:
+    explicit CTextScope(CDC& dc)
+        : m_dc(dc), m_hFont(::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT)), m_nAlign(dc.GetTextAlign())
+    {
+    }
+    ~CTextScope()
+    {
+        Select(m_hFont);
+        m_dc.SetTextAlign(m_nAlign);
+    }
+    CTextScope(const CTextScope&) = delete;
+    CTextScope& operator=(const CTextScope&) = delete;
+
+    /// Choosing a font costs, also the one that is there.
+    void Select(HGDIOBJ hFont)
+    {
+        if (::GetCurrentObject(m_dc.m_hAttribDC, OBJ_FONT) == hFont)
+            return;
+        ::SelectObject(m_dc.m_hAttribDC, hFont);
+        if (m_dc.m_hDC != m_dc.m_hAttribDC)
+            ::SelectObject(m_dc.m_hDC, hFont);
+    }
 
 private:
     CDC& m_dc;
-    int m_nSaved;
+    HGDIOBJ m_hFont;
+    UINT m_nAlign;
 };
 
-/// A text laid out for a device context: every run with its font, width and base line.
-class CMixedLine
+/// What a layout goes by beside the text: the context's font, and how large it comes out on the device.
+struct SMixedBase
+{
+    explicit SMixedBase(CDC& dc) : hFont(::GetCurrentObject(dc.m_hAttribDC, OBJ_FONT))
+    {
+        ::GetObjectW(hFont, sizeof logFont, &logFont);
+        dc.GetTextMetrics(&metrics);
+        nExtra = dc.GetTextCharacterExtra();
+    }
+
+    bool LooksLike(const SMixedBase& other) const
+    {
+        return memcmp(&logFont, &other.logFont, sizeof logFont) == 0 &&
+               memcmp(&metrics, &other.metrics, sizeof metrics) == 0 && nExtra == other.nExtra;
+    }
+
+    HGDIOBJ hFont; ///< only good while the context holds it
+    LOGFONT logFont = {};
+    TEXTMETRIC metrics = {};
+    int nExtra;
+};
+
+/// A text laid out: every run with its font, width and base line.
+class CMixedLayout
 {
 public:
-    CMixedLine(CDC& dc, LPCWSTR pszText) : m_dc(dc), m_pSelected(dc.GetCurrentFont())
+    CMixedLayout(CDC& dc, const SMixedBase& base, LPCWSTR pszText)
+        : m_base(base), m_nAscent(base.metrics.tmAscent), m_nDescent(base.metrics.tmDescent)
     {
-        const CSavedDC saved(dc);
-        dc.GetTextMetrics(&m_base);
-        m_nAscent = m_base.tmAscent;
-        m_nDescent = m_base.tmDescent;
+        CTextScope scope(dc);
         for (SMixedFontRun& run : SplitMixedFontText(pszText))
-            Append(run);
+            Append(dc, scope, run);
     }
+
+    const SMixedBase& Base() const { return m_base; }
 
     CSize Size() const { return CSize(m_nWidth, m_nAscent + m_nDescent); }
 
-    void Draw(CPoint point) const
+    void Draw(CDC& dc, CPoint point, HGDIOBJ hBaseFont) const
     {
-        const CSavedDC saved(m_dc); // the runs' fonts leave the context before they are deleted
-        if (m_dc.GetBkMode() == OPAQUE)
-            m_dc.FillSolidRect(CRect(point, Size()), m_dc.GetBkColor());
-        m_dc.SetBkMode(TRANSPARENT);
-        m_dc.SetTextAlign(TA_LEFT | TA_BASELINE | TA_NOUPDATECP);
+        const int nMode = dc.GetBkMode();
+        if (nMode == OPAQUE)
+            FillBackground(dc, CRect(point, Size()));
+        CTextScope scope(dc);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextAlign(TA_LEFT | TA_BASELINE | TA_NOUPDATECP);
         int x = point.x;
         for (const SPart& part : m_parts)
         {
-            m_dc.SelectObject(FontOf(part));
-            m_dc.TextOut(x, point.y + m_nAscent + part.nShift, part.text.c_str(), Length(part));
+            scope.Select(FontOf(part, hBaseFont));
+            dc.TextOut(x, point.y + m_nAscent + part.nShift, part.text.c_str(), Length(part));
             x += part.nWidth;
         }
+        dc.SetBkMode(nMode);
     }
 
 private:
     struct SPart
     {
         std::wstring text;
-        std::unique_ptr<CFont> pFont; ///< null for the context's own font
+        std::optional<LOGFONT> font; ///< none for the context's own
         int nWidth;
         int nShift; ///< of the base line, downwards
     };
 
     static int Length(const SPart& part) { return static_cast<int>(part.text.size()); }
 
-    CFont* FontOf(const SPart& part) const { return part.pFont ? part.pFont.get() : m_pSelected; }
-
-    void Append(SMixedFontRun& run)
+    static HGDIOBJ FontOf(const SPart& part, HGDIOBJ hBaseFont)
     {
-        SPart part = {std::move(run.text), MakeFont(run.look), 0, Rounded(run.look.dShift * m_base.tmHeight)};
-        m_dc.SelectObject(FontOf(part));
+        return part.font ? s_fonts.Get(*part.font) : hBaseFont;
+    }
+
+    static void FillBackground(CDC& dc, const CRect& rect)
+    {
+        CBrush brush(dc.GetBkColor());
+        dc.FillRect(rect, &brush);
+    }
+
+    void Append(CDC& dc, CTextScope& scope, SMixedFontRun& run)
+    {
+        const int nShift = Rounded(run.look.dShift * m_base.metrics.tmHeight);
+        SPart part = {std::move(run.text), FontFor(run.look), 0, nShift};
+        scope.Select(FontOf(part, m_base.hFont));
         TEXTMETRIC metrics;
-        m_dc.GetTextMetrics(&metrics);
-        part.nWidth = m_dc.GetTextExtent(part.text.c_str(), Length(part)).cx;
+        dc.GetTextMetrics(&metrics);
+        part.nWidth = dc.GetTextExtent(part.text.c_str(), Length(part)).cx;
 
         m_nWidth += part.nWidth;
         m_nAscent = std::max<int>(m_nAscent, metrics.tmAscent - part.nShift);
@@ -81,20 +174,20 @@ private:
         m_parts.push_back(std::move(part));
     }
 
-    /// The context's font, changed as the look says; null if it says nothing.
-    std::unique_ptr<CFont> MakeFont(const SMixedFontLook& look) const
+    /// The context's font, changed as the look says; none if it says nothing.
+    std::optional<LOGFONT> FontFor(const SMixedFontLook& look) const
     {
         if (look == SMixedFontLook())
-            return nullptr;
-        LOGFONT logFont = {};
-        m_pSelected->GetLogFont(&logFont);
+            return std::nullopt;
+        LOGFONT logFont = m_base.logFont;
         if (look.bBold)
             logFont.lfWeight = std::max<LONG>(logFont.lfWeight, FW_BOLD);
         if (look.bItalic)
             logFont.lfItalic = TRUE;
         if (look.dScale != 1.0)
         {
-            logFont.lfHeight = -Rounded(look.dScale * (m_base.tmHeight - m_base.tmInternalLeading));
+            const int nSize = m_base.metrics.tmHeight - m_base.metrics.tmInternalLeading;
+            logFont.lfHeight = -Rounded(look.dScale * nSize);
             logFont.lfWidth = Rounded(look.dScale * logFont.lfWidth);
         }
         if (!look.face.empty())
@@ -102,21 +195,40 @@ private:
             logFont.lfCharSet = DEFAULT_CHARSET; // the face decides, a symbol face too
             lstrcpynW(logFont.lfFaceName, look.face.c_str(), LF_FACESIZE);
         }
-        auto pFont = std::make_unique<CFont>();
-        pFont->CreateFontIndirect(&logFont);
-        return pFont;
+        return logFont;
     }
 
     static int Rounded(double dValue) { return static_cast<int>(std::lround(dValue)); }
 
-    CDC& m_dc;
-    CFont* m_pSelected;     ///< the context's font
-    TEXTMETRIC m_base = {}; ///< its metrics
+    SMixedBase m_base;
     std::vector<SPart> m_parts;
     int m_nWidth = 0;
-    int m_nAscent = 0;
-    int m_nDescent = 0;
+    int m_nAscent;
+    int m_nDescent;
 };
+
+/// The layouts of the texts that were asked for. A text is measured before it is drawn, and a window's texts are
+/// drawn again and again: choosing the fonts just to measure would take longer than all the rest.
+class CLayoutStore
+{
+public:
+    /// Good until the next call.
+    const CMixedLayout& Get(CDC& dc, const SMixedBase& base, LPCWSTR pszText)
+    {
+        const auto found = m_layouts.find(std::wstring_view(pszText));
+        if (found != m_layouts.end() && found->second.Base().LooksLike(base))
+            return found->second;
+        if (m_layouts.size() == c_nMost)
+            m_layouts.clear();
+        return m_layouts.insert_or_assign(pszText, CMixedLayout(dc, base, pszText)).first->second;
+    }
+
+private:
+    static constexpr size_t c_nMost = 1000; ///< about half a megabyte
+    std::map<std::wstring, CMixedLayout, std::less<>> m_layouts;
+};
+
+CLayoutStore s_layouts;
 
 bool IsEmpty(LPCWSTR pszText)
 {
@@ -126,11 +238,13 @@ bool IsEmpty(LPCWSTR pszText)
 
 CSize CMixedFont::GetTextExtent(CDC* pDC, LPCWSTR pszText)
 {
-    return IsEmpty(pszText) ? CSize(0, 0) : CMixedLine(*pDC, pszText).Size();
+    return IsEmpty(pszText) ? CSize(0, 0) : s_layouts.Get(*pDC, SMixedBase(*pDC), pszText).Size();
 }
 
 void CMixedFont::TextOutW(CDC* pDC, CPoint point, LPCWSTR pszText)
 {
-    if (!IsEmpty(pszText))
-        CMixedLine(*pDC, pszText).Draw(point);
+    if (IsEmpty(pszText))
+        return;
+    const SMixedBase base(*pDC);
+    s_layouts.Get(*pDC, base, pszText).Draw(*pDC, point, base.hFont);
 }
