@@ -14,6 +14,7 @@
     PAGE(MessageBoxes)             \
     PAGE(Grid)                     \
     CHILD(VirtualGrid)             \
+    CHILD(DisplayCells)            \
     PAGE(SteelSchedule)            \
     CHILD(CrossGrid)               \
     PAGE(Members)                  \
