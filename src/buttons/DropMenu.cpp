@@ -2,6 +2,16 @@
 
 #include "buttons/DropMenu.h"
 
+namespace
+{
+/// A key clicks when it goes down, and its character is still to come: the menu would take it for a choice.
+void DropCharacterOfKey(HWND hWnd)
+{
+    MSG msg;
+    ::PeekMessage(&msg, hWnd, WM_CHAR, WM_CHAR, PM_REMOVE);
+}
+} // namespace
+
 void gfnTrackDropMenu(CButton& button, CMenu& menu)
 {
     const HWND hWnd = button.m_hWnd;
@@ -10,6 +20,7 @@ void gfnTrackDropMenu(CButton& button, CMenu& menu)
     button.GetClientRect(rect);
     CPoint corner(rect.right + 1, rect.top);
     button.ClientToScreen(&corner);
+    DropCharacterOfKey(hWnd);
     menu.TrackPopupMenu(TPM_RIGHTBUTTON, corner.x, corner.y, &button);
     // A menu that was closed without a choice leaves nothing behind that would show the focus again.
     if (::IsWindow(hWnd) && ::GetFocus() == hWnd)

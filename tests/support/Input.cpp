@@ -179,6 +179,17 @@ void Click(HWND window)
     Click(window, client.CenterPoint());
 }
 
+void QueueKey(WORD virtualKey)
+{
+    Send({Key(virtualKey, false), Key(virtualKey, true)});
+}
+
+void QueueClick(CPoint screen)
+{
+    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen), Mouse(MOUSEEVENTF_LEFTDOWN, {}),
+          Mouse(MOUSEEVENTF_LEFTUP, {})});
+}
+
 std::wstring TextOf(const CWnd& window)
 {
     CString text;

@@ -42,6 +42,11 @@ void Click(HWND window);
 void ButtonDown(HWND window, CPoint client);
 void ButtonUp();
 
+/// Presses and releases a key, or clicks a point of the screen, and leaves it in the queue: for a loop that takes
+/// its input itself, as a menu's.
+void QueueKey(WORD virtualKey);
+void QueueClick(CPoint screen);
+
 /// What a window or control shows as its text.
 std::wstring TextOf(const CWnd& window);
 

@@ -1,0 +1,145 @@
+#include <afxwin.h>
+
+#include "buttons/TextBtnST.h"
+
+#include "buttons/DropFace.h"
+#include "buttons/DropMenu.h"
+
+namespace
+{
+constexpr UINT kFirstCommand = 36914;
+constexpr int kArrowRoom = 4; // pixels
+
+/// Ampersands are doubled: the user sees each as it was given.
+CString MenuLabel(const CString& strText, const CString& strDescription)
+{
+    CString strLabel = strDescription.IsEmpty() ? strText : strText + L" - " + strDescription;
+    strLabel.Replace(L"&", L"&&");
+    return strLabel;
+}
+} // namespace
+
+CTextBtnST::CTextBtnST() : CTextBtnST(nullptr)
+{
+}
+
+CTextBtnST::CTextBtnST(ATextBtnSTNotificationHandler* pHandler) : m_pHandler(pHandler)
+{
+}
+
+CTextBtnST::~CTextBtnST()
+{
+    DeleteTextMenu();
+}
+
+BEGIN_MESSAGE_MAP(CTextBtnST, CButtonST)
+    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
+void CTextBtnST::OnClicked()
+{
+    CButtonST::OnClicked();
+    if (::GetMenuItemCount(m_menu) > 0) // -1 before there is a menu
+        gfnTrackDropMenu(*this, m_menu);
+}
+
+void CTextBtnST::OnSysColorChange()
+{
+    CButtonST::OnSysColorChange();
+    DeleteTextMenu();
+    CreateTextMenu();
+}
+
+// ---- Messages outside the map -----------------------------------------------------------------------------
+
+// A template's type counts for nothing here: BS_OWNERDRAW would make a check box.
+void CTextBtnST::PreSubclassWindow()
+{
+    SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+    CButtonST::PreSubclassWindow();
+}
+
+BOOL CTextBtnST::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const int nIndex = ChosenIndex(static_cast<UINT>(wParam));
+    if (m_pnSource)
+        *m_pnSource = nIndex;
+    if (m_pHandler)
+        m_pHandler->OnTextChosen(GetDlgCtrlID(), nIndex);
+    gfnEndDropChoice(*this);
+    // The handler may have given the focus away, as a box does that inserts the text: the mark goes with it.
+    if (GetFocus() != this)
+        SendMessage(WM_KILLFOCUS);
+    return CButtonST::OnCommand(wParam, lParam);
+}
+
+// Wanted: commands below the first are not looked for, and give a negative index.
+int CTextBtnST::ChosenIndex(UINT nCommand) const
+{
+    if (nCommand < kFirstCommand + TextCount())
+        return static_cast<int>(nCommand - kFirstCommand);
+    return m_pnSource ? *m_pnSource : 0;
+}
+
+// ---- Texts ------------------------------------------------------------------------------------------------
+
+void CTextBtnST::SetEnumSource(int* pnSource)
+{
+    m_pnSource = pnSource;
+    if (pnSource && m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CTextBtnST::SetTexts(const OCArray<CString>& texts)
+{
+    SetTexts(texts, OCArray<CString>());
+}
+
+void CTextBtnST::SetTexts(const OCArray<CString>& texts, const OCArray<CString>& descriptions)
+{
+    m_texts = texts;
+    m_descriptions = descriptions;
+    DeleteTextMenu();
+    CreateTextMenu();
+}
+
+int CTextBtnST::TextCount() const
+{
+    return static_cast<int>(m_texts.GetSize());
+}
+
+const CString& CTextBtnST::GetText(int nIndex) const
+{
+    return m_texts[nIndex];
+}
+
+void CTextBtnST::CreateTextMenu()
+{
+    m_menu.CreatePopupMenu();
+    for (int i = 0; i < TextCount(); ++i)
+    {
+        const CString strDescription = i < m_descriptions.GetSize() ? m_descriptions[i] : CString();
+        m_menu.AppendMenu(MF_STRING, kFirstCommand + i, MenuLabel(m_texts[i], strDescription));
+    }
+}
+
+void CTextBtnST::DeleteTextMenu()
+{
+    m_menu.DestroyMenu(); // answers that there is none, if so
+}
+
+// ---- Drawing ----------------------------------------------------------------------------------------------
+
+DWORD CTextBtnST::OnDrawBackground(CDC* pDC, CRect& rect)
+{
+    const DWORD nResult = CButtonST::OnDrawBackground(pDC, rect);
+    gfnDrawDropArrow(*pDC, gfnDropFace(rect, m_bIsPressed), m_bIsDisabled);
+    return nResult;
+}
+
+void CTextBtnST::DrawItemHook_CalcRect(CDC* pDC, const CString& strText, CRect& rect)
+{
+    CButtonST::DrawItemHook_CalcRect(pDC, strText, rect);
+    rect.OffsetRect(-kArrowRoom, 0);
+}
