@@ -8,6 +8,7 @@
 #define GALLERY_PAGES(PAGE, CHILD) \
     PAGE(TextBoxes)                \
     CHILD(Numbers)                 \
+    PAGE(LabelTemplates)           \
     PAGE(Combos)                   \
     PAGE(Buttons)                  \
     CHILD(LabelsAndFonts)          \

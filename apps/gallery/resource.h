@@ -142,3 +142,9 @@
 #define IDC_DISPLAY_RIGHT 2012
 #define IDC_DISPLAY_TOP 2013 // top, middle, bottom
 #define IDC_DISPLAY_BOTTOM 2015
+// Label templates
+#define IDD_PAGE_LABEL_TEMPLATES 192
+#define IDC_LABELS_LOCKED 1900
+#define IDC_LABEL_FIRST 1910   // a box for each kind of label, from the top
+#define IDC_INSERT_FIRST 1920  // its button, beside it
+#define IDC_PREVIEW_FIRST 1930 // the label as it would be drawn, below it

@@ -7,7 +7,8 @@
 //
 // The visitor is called once: for the first menu that this thread shows after the object was made. A menu takes
 // its input from the queue in a loop of its own, so a visitor must not pump: what it presses and clicks is worked
-// off when it has returned. A menu that is open long after that is closed, so that a test fails and does not hang.
+// off when it has returned; and no exception may leave it. A menu that is open long after that is closed, so that a
+// test fails and does not hang.
 
 #include <afxwin.h>
 

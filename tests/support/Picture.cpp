@@ -95,6 +95,7 @@ void Capture(HWND window, Surface& into)
 {
     CRect rect;
     ::GetWindowRect(window, &rect);
+    ::GdiFlush(); // inside a menu's loop nobody has done it yet
     HDC screen = ::GetDC(nullptr);
     ::BitBlt(into.dc().m_hDC, 0, 0, rect.Width(), rect.Height(), screen, rect.left, rect.top, SRCCOPY);
     ::ReleaseDC(nullptr, screen);

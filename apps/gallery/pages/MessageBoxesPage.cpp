@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-#include "GalleryPage.h"
+#include "LanguagePage.h"
 #include "resource.h"
 
 #include <Translator.h>
@@ -112,24 +112,15 @@ constexpr CString (*kBoxes[])() = {ShowOk,       ShowOkCancel, ShowYesNo,       
                                    ShowPrepared, ShowLong,     ShowSystemError, PostFromThread};
 constexpr int kLastBox = IDC_BOX_FIRST + static_cast<int>(std::size(kBoxes)) - 1;
 
-/// The catalogue that stands beside the program.
-CString CataloguePath()
-{
-    TCHAR szProgram[MAX_PATH] = _T("");
-    ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
-    const CString strProgram(szProgram);
-    return strProgram.Left(strProgram.ReverseFind(_T('\\')) + 1) + _T("locale\\en.po");
-}
-
-class CMessageBoxesPage : public CGalleryPage
+class CMessageBoxesPage : public CLanguagePage
 {
 public:
-    explicit CMessageBoxesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_MESSAGE_BOXES, host) {}
+    explicit CMessageBoxesPage(AGalleryHost& host) : CLanguagePage(IDD_PAGE_MESSAGE_BOXES, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CLanguagePage::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_XICON_FIXED, m_fixed);
         DDX_Control(pDX, IDC_XICON_FITTED, m_fitted);
         DDX_Control(pDX, IDC_XICON_BOLD, m_bold);
@@ -137,7 +128,6 @@ protected:
     }
     int OnInitPageDialog() override
     {
-        CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH, IDC_LANG_SERBIAN);
         m_fixed.SetAutoResize(FALSE).SetIcon(CButtonST::hIconOk, 16);
         m_fitted.SetIcon(CButtonST::hIconOk, 16).SetWindowText(_T("Fitted to its text"));
         m_bold.SetIcon(CButtonST::hIconWarning, 32).SetBold(TRUE);
@@ -145,8 +135,6 @@ protected:
         return TRUE;
     }
 
-    afx_msg void OnSerbian();
-    afx_msg void OnEnglish();
     afx_msg void OnBox(UINT nId);
     DECLARE_MESSAGE_MAP()
 
@@ -157,25 +145,9 @@ private:
     CXIcon m_behind;
 };
 
-BEGIN_MESSAGE_MAP(CMessageBoxesPage, CGalleryPage)
-    ON_BN_CLICKED(IDC_LANG_SERBIAN, OnSerbian)
-    ON_BN_CLICKED(IDC_LANG_ENGLISH, OnEnglish)
+BEGIN_MESSAGE_MAP(CMessageBoxesPage, CLanguagePage)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_BOX_FIRST, kLastBox, OnBox)
 END_MESSAGE_MAP()
-
-void CMessageBoxesPage::OnSerbian()
-{
-    gOtLang.Unload();
-}
-
-void CMessageBoxesPage::OnEnglish()
-{
-    ClCatalogueError error;
-    if (gOtLang.Load(CataloguePath(), &error))
-        return;
-    Log(_T("Catalogue"), _T("%s"), error.Format().GetString());
-    CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH, IDC_LANG_SERBIAN);
-}
 
 void CMessageBoxesPage::OnBox(UINT nId)
 {
