@@ -129,10 +129,17 @@ void CEditEscSeqText::DodajTekstBezProvere(CString strText)
     // A text that is refused stands in the control only, and must not be lost to the stored one.
     const CString strOld = IsTextValid(strShown) ? m_strValue : strShown;
     SafeSetWindowText(strOld.Left(nPos) + strText + strOld.Mid(nPos));
-    SetFocus();
+    TakeFocus();
     const int nBehind = nPos + strText.GetLength();
     SetSel(nBehind, nBehind);
     HandlerOnChange();
+}
+
+// By way of the dialog, which takes the default button's mark off the button. Other parents do nothing for it.
+void CEditEscSeqText::TakeFocus()
+{
+    ::SendMessage(::GetParent(m_hWnd), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(m_hWnd), TRUE);
+    SetFocus();
 }
 
 void CEditEscSeqText::UpdateEscSeqList()

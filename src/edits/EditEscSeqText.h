@@ -70,6 +70,7 @@ private:
     int CaretIndex() const;
     CString ShownText() const;
     void DodajTekstBezProvere(CString strText);
+    void TakeFocus();
 
     CString m_strValue;
     int m_nCaret = 0; ///< where the next insertion goes

@@ -184,6 +184,9 @@ TEST_F(EscSeq, WorksByKeysAlone)
         ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }));
         owtest::Press(VK_SPACE);
         EXPECT_EQ(Text(), last == VK_ESCAPE ? L"ab" : L"a%ib");
+        EXPECT_EQ(::GetFocus(), last == VK_ESCAPE ? Button() : m_box->m_hWnd);
+        EXPECT_EQ((::SendMessage(Button(), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0, last == VK_ESCAPE)
+            << "the mark of the default button goes with the focus";
     }
 }
 
@@ -228,7 +231,8 @@ TEST_F(EscSeq, IgnoresWhatItCannotInsert)
 {
     auto& box = Show<CEditAcadEscSeqSpecLima>();
     box.SetValue(L"ab");
-    for (const auto& [nId, nIndex] : {std::pair<int, int>(IDC_INSERT, -1), {IDC_INSERT, 4}, {IDC_NEXT, 0}, {0, 0}})
+    for (const auto& [nId, nIndex] :
+         {std::pair<int, int>(IDC_INSERT, -1), {IDC_INSERT, 4}, {IDC_NEXT, 0}, {0, 0}})
         box.OnTextChosen(nId, nIndex);
     box.SetReadOnly();
     box.OnTextChosen(IDC_INSERT, 0);
