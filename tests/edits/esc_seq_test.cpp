@@ -11,12 +11,7 @@
 
 namespace
 {
-enum
-{
-    IDC_BOX = 1001,
-    IDC_INSERT,
-    IDC_NEXT
-};
+constexpr int kBox = 1001, kButton = 1002, kNext = 1003;
 
 /// Refuses texts with a "!".
 class StrictBox : public CEditAcadEscSeqSpecLima
@@ -37,55 +32,61 @@ protected:
     ~EscSeq() override { m_dialog.DestroyWindow(); }
 
     template <class Box>
-    Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = IDC_INSERT,
-              const std::function<void(Box&)>& prepare = {})
+    Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kButton, bool bNoDimensions = false)
     {
+        m_dialog.DestroyWindow();
         auto box = std::make_unique<Box>(&m_handler, nButton);
         Box& shown = *box;
-        if (prepare)
-            prepare(shown);
-        m_dialog.DestroyWindow();
         m_box = std::move(box);
+        if constexpr (requires { shown.m_bNoDimensions; })
+            shown.m_bNoDimensions = bNoDimensions;
         const auto form = owtest::DialogTemplate(L"Labels", 160, 90)
-                              .Edit(IDC_BOX, 4, 4, 80, 40, dwStyle)
-                              .Button(L"Insert", IDC_INSERT, 90, 4, 50, 14)
-                              .Edit(IDC_NEXT, 4, 50, 80, 14);
+                              .Edit(kBox, 4, 4, 80, 40, dwStyle)
+                              .Button(L"Insert", kButton, 90, 4, 50, 14)
+                              .Edit(kNext, 4, 50, 80, 14);
         EXPECT_TRUE(m_dialog.CreateIndirect(form.get(), nullptr));
-        EXPECT_TRUE(m_box->SubclassDlgItem(IDC_BOX, &m_dialog));
+        EXPECT_TRUE(m_box->SubclassDlgItem(kBox, &m_dialog));
         m_dialog.ShowWindow(SW_SHOW);
         EXPECT_TRUE(owtest::Activate(m_dialog));
-        m_dialog.GetDlgItem(IDC_NEXT)->SetFocus();
+        m_dialog.GetDlgItem(kNext)->SetFocus();
         m_handler.Take();
         return shown;
     }
-    HWND Button() { return m_dialog.GetDlgItem(IDC_INSERT)->m_hWnd; }
-    void Enter()
+    HWND Button() { return m_dialog.GetDlgItem(kButton)->m_hWnd; }
+    bool FocusArrives(HWND hWnd)
+    {
+        return owtest::PumpUntil([=] { return ::GetFocus() == hWnd; });
+    }
+    /// Goes to the box by a click, and then to a place in it.
+    void Enter(int nPlace, BOOL bNoScroll = FALSE)
     {
         owtest::Click(*m_box, CPoint(40, 8));
-        EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_box->m_hWnd; }));
+        EXPECT_TRUE(FocusArrives(*m_box));
+        m_box->SetSel(nPlace, nPlace, bNoScroll);
     }
-    /// Chooses from the menu of the button with the mouse.
-    void Insert(int nItem)
+    /// Chooses from the menu of the button with the mouse; the text afterwards.
+    CString Insert(int nItem)
     {
         owtest::MenuVisit visit([&](const owtest::OpenMenu& menu) { menu.Click(nItem); });
         owtest::Click(Button());
         EXPECT_EQ(visit.Count(), 1);
         EXPECT_EQ(::GetFocus(), m_box->m_hWnd);
+        EXPECT_EQ(owtest::TextOf(*m_box), m_box->GetValue().GetString());
+        return m_box->GetValue();
     }
     std::wstring Menu()
     {
-        std::wstring labels;
+        std::wstring text;
         owtest::MenuVisit visit(
             [&](const owtest::OpenMenu& menu)
             {
-                for (int i = 0; i < menu.Count(); ++i)
-                    labels += menu.Text(i) + L'\n';
-                menu.Press(VK_ESCAPE);
+                for (const std::wstring& label : menu.Labels())
+                    text += label + L'\n';
+                menu.Press({VK_ESCAPE});
             });
         owtest::Click(Button());
-        return labels;
+        return text;
     }
-    std::wstring Text() { return owtest::TextOf(*m_box); }
 
     RecordingHandler m_handler;
     std::unique_ptr<CEditEscSeqText> m_box;
@@ -109,8 +110,6 @@ std::wstring Codes(const CEditEscSeqText& box)
 }
 } // namespace
 
-// ---- What is offered --------------------------------------------------------------------------------------
-
 TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
 {
     ASSERT_TRUE(gOtLang.Load(L"locale\\en.po"));
@@ -125,7 +124,7 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     EXPECT_EQ(Codes(member), L"%i%f%m%o");
     EXPECT_EQ(Codes(plate), L"%i%h");
 
-    auto& box = Show<CEditAcadEscSeqSpecLima>(0, IDC_INSERT, [](auto& lima) { lima.m_bNoDimensions = true; });
+    auto& box = Show<CEditAcadEscSeqSpecLima>(0, kButton, true);
     EXPECT_EQ(Menu(), L"%i - dimension symbol\n%h - plate thickness\n");
     gOtLang.Unload();
     box.m_bNoDimensions = false;
@@ -137,74 +136,56 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     EXPECT_EQ(::GetFocus(), Button()) << "an empty list opens no menu";
 }
 
-// ---- Insertion --------------------------------------------------------------------------------------------
-
 TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
 {
     Show<CEditAcadEscSeqSpecLima>();
-    Insert(1);
-    EXPECT_EQ(Text(), L"%l") << "never focused: at the beginning";
-    Enter();
+    EXPECT_EQ(Insert(1), L"%l") << "never focused: at the beginning";
+    Enter(2);
     owtest::Type(L"ab");
     owtest::Press(VK_LEFT);
     m_handler.Take();
-    Insert(2);
+    EXPECT_EQ(Insert(2), L"%la%wb");
     EXPECT_EQ(m_handler.Take(),
               (Calls{"leave 1001: %lab", "enter 1001: %lab", "change 1001: %la%wb", "change 1001: %la%wb"}));
-    EXPECT_TRUE(m_box->HasChangedSinceLastSetFocus());
-    Insert(3);
+    EXPECT_EQ(Insert(3), L"%la%w%hb") << "behind the code before";
     owtest::Type(L"x");
-    EXPECT_EQ(Text(), L"%la%w%hxb") << "behind the code before";
-    EXPECT_STREQ(m_box->GetValue(), L"%la%w%hxb");
-
-    owtest::Press(VK_LEFT, true); // the caret at the left end of the selection, then at the right one
-    Insert(0);
-    EXPECT_EQ(Text(), L"%la%w%h%ixb");
+    owtest::Press(VK_LEFT, true); // the caret at the left end of a selection, and then at the right one
+    EXPECT_EQ(Insert(0), L"%la%w%h%ixb");
     owtest::Press(VK_RIGHT, true);
-    Insert(0);
-    EXPECT_EQ(Text(), L"%la%w%h%ix%ib");
+    EXPECT_EQ(Insert(0), L"%la%w%h%ix%ib");
 }
 
 TEST_F(EscSeq, WorksByKeysAlone)
 {
     Show<CEditAcadEscSeqSpecLima>();
-    Enter();
-    owtest::Type(L"ab");
-    for (const WORD last : {VK_ESCAPE, VK_RETURN})
+    m_box->SetValue(L"ab");
+    for (const auto& [last, pszText] : {std::pair<WORD, LPCWSTR>(VK_ESCAPE, L"ab"), {VK_RETURN, L"a%ib"}})
     {
-        owtest::MenuVisit visit(
-            [&](const owtest::OpenMenu& menu)
-            {
-                menu.Press(VK_DOWN);
-                menu.Press(last);
-            });
+        owtest::MenuVisit visit([&](const owtest::OpenMenu& menu) { menu.Press({VK_DOWN, last}); });
         m_box->SetFocus();
         m_box->SetSel(1, 1);
         owtest::Press(VK_TAB);
-        ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }));
+        ASSERT_TRUE(FocusArrives(Button()));
         owtest::Press(VK_SPACE);
-        EXPECT_EQ(Text(), last == VK_ESCAPE ? L"ab" : L"a%ib");
+        EXPECT_STREQ(m_box->GetValue(), pszText);
         EXPECT_EQ(::GetFocus(), last == VK_ESCAPE ? Button() : m_box->m_hWnd);
-        EXPECT_EQ((::SendMessage(Button(), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0, last == VK_ESCAPE)
-            << "the mark of the default button goes with the focus";
+        const LRESULT nCode = ::SendMessage(Button(), WM_GETDLGCODE, 0, 0);
+        EXPECT_EQ((nCode & DLGC_DEFPUSHBUTTON) != 0, last == VK_ESCAPE)
+            << "the default button is where the focus is";
     }
 }
 
-TEST_F(EscSeq, FindsItsPlaceInLongAndInManyLines)
+TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
 {
     Show<CEditAcadEscSeqSpecLima>(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
-    m_box->SetLimitText(200000);
     for (const CString& strFirst : {CString(L"a long first line\r\nx"), CString(L'-', 70000) + L"\r\n"})
     {
+        const int nFirst = strFirst.GetLength();
         m_box->SetValue(strFirst + L"yz");
-        Enter();
-        const int nPlace = strFirst.GetLength() + 1;
-        m_box->SetSel(nPlace, nPlace);
-        Insert(3);
-        EXPECT_STREQ(m_box->GetValue().Mid(strFirst.GetLength()), L"y%hz");
-        m_box->SetSel(3, 3, TRUE); // the caret is out of sight
-        Insert(3);
-        EXPECT_STREQ(m_box->GetValue().Mid(3, 2), L"%h");
+        Enter(nFirst + 1);
+        EXPECT_EQ(Insert(3).Mid(nFirst), L"y%hz");
+        Enter(3, TRUE); // out of sight
+        EXPECT_EQ(Insert(3).Mid(3, 2), L"%h");
     }
 }
 
@@ -213,85 +194,81 @@ TEST_F(EscSeq, ARefusedTextIsNotStoredAndNotOverwritten)
     auto& box = Show<StrictBox>();
     box.SetValue(L"ok");
     box.SetValue(L"no!");
-    EXPECT_EQ(Text(), L"ok");
-    Enter();
+    EXPECT_EQ(owtest::TextOf(box), L"ok");
+    box.SafeSetWindowText(L"shown");
+    box.OnTextChosen(kButton, 3);
+    EXPECT_STREQ(box.GetValue(), L"%hok") << "what the program showed without storing it does not count";
+    Enter(0);
     owtest::Type(L"!");
     EXPECT_FALSE(box.IsDataCurrentlyInGUIValid());
-    box.OnTextChosen(IDC_INSERT, 1); // without leaving the box
-    EXPECT_EQ(Text(), L"%lok!");
-    EXPECT_STREQ(box.GetValue(), L"ok");
-    Insert(1);
-    EXPECT_EQ(Text(), L"ok%l") << "leaving the box took the refused text away";
-    box.SafeSetWindowText(L"shown");
-    box.OnTextChosen(IDC_INSERT, 3);
-    EXPECT_EQ(Text(), L"ok%h%l") << "what the program showed without storing it does not count";
+    box.OnTextChosen(kButton, 1); // without leaving the box
+    EXPECT_EQ(owtest::TextOf(box), L"%l!%hok");
+    EXPECT_STREQ(box.GetValue(), L"%hok");
+    EXPECT_EQ(Insert(1), L"%h%lok") << "leaving the box took the refused text away";
 }
 
 TEST_F(EscSeq, IgnoresWhatItCannotInsert)
 {
     auto& box = Show<CEditAcadEscSeqSpecLima>();
     box.SetValue(L"ab");
-    for (const auto& [nId, nIndex] :
-         {std::pair<int, int>(IDC_INSERT, -1), {IDC_INSERT, 4}, {IDC_NEXT, 0}, {0, 0}})
+    for (const auto& [nId, nIndex] : {std::pair(kButton, -1), {kButton, 4}, {kNext, 0}})
         box.OnTextChosen(nId, nIndex);
     box.SetReadOnly();
-    box.OnTextChosen(IDC_INSERT, 0);
+    box.OnTextChosen(kButton, 0);
     EXPECT_EQ(m_handler.Take(), Calls{});
-    EXPECT_EQ(Text(), L"ab");
+    EXPECT_EQ(owtest::TextOf(box), L"ab");
     box.SetReadOnly(FALSE);
     box.SetAnsiInterface(true);
-    box.OnTextChosen(IDC_INSERT, 0);
-    EXPECT_EQ(Text(), L"%iab");
+    box.OnTextChosen(kButton, 0);
+    EXPECT_EQ(owtest::TextOf(box), L"%iab");
 
+    box.SafeSetWindowText(L"new");
+    box.SetValue(L"%iab");
+    EXPECT_EQ(owtest::TextOf(box), L"new") << "an equal value is not written";
+    box.SetValue(L"%iab", true);
+    EXPECT_EQ(owtest::TextOf(box), L"%iab");
     m_dialog.DestroyWindow();
-    box.OnTextChosen(IDC_INSERT, 0);
-    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid());
-    EXPECT_FALSE(box.ValidateAndStoreDataFromGUI());
+    box.OnTextChosen(kButton, 0);
+    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid() || box.ValidateAndStoreDataFromGUI());
     EXPECT_STREQ(box.GetValue(), L"%iab");
 }
 
-// ---- The box and its button -------------------------------------------------------------------------------
-
-TEST_F(EscSeq, TheButtonIsEnabledWithItsBox)
+TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
 {
-    auto& box = Show<CEditAcadEscSeqText>(WS_DISABLED);
-    EXPECT_FALSE(::IsWindowEnabled(Button()));
-    box.EnableWindow();
-    EXPECT_TRUE(::IsWindowEnabled(Button()));
-    box.EnableWindow(FALSE);
-    EXPECT_FALSE(::IsWindowEnabled(Button()));
-}
-
-TEST_F(EscSeq, WithoutAButtonItIsAPlainBox)
-{
-    for (const int nButton : {0, 1999, static_cast<int>(IDC_BOX)})
+    for (const int nButton : {kButton, 0, 1999, kBox})
     {
-        auto& box = Show<CEditAcadEscSeqText>(ES_AUTOHSCROLL, nButton);
-        EXPECT_EQ(CWnd::FromHandlePermanent(Button()), nullptr);
-        Enter();
+        auto& box = Show<CEditAcadEscSeqText>(ES_AUTOHSCROLL | WS_DISABLED, nButton);
+        const bool bOwn = nButton == kButton;
+        EXPECT_EQ(CWnd::FromHandlePermanent(Button()) != nullptr, bOwn);
+        EXPECT_EQ(!::IsWindowEnabled(Button()), bOwn);
+        box.EnableWindow();
+        EXPECT_TRUE(::IsWindowEnabled(Button()));
+        box.OnTextChosen(0, 0);
+        Enter(0);
         owtest::Type(L"ab");
         EXPECT_STREQ(box.GetValue(), L"ab");
         box.EnableWindow(FALSE);
-        EXPECT_TRUE(::IsWindowEnabled(Button()));
+        EXPECT_EQ(!::IsWindowEnabled(Button()), bOwn);
     }
 }
 
 TEST_F(EscSeq, MayBeMadeByCreateAndMoreThanOnce)
 {
     Show<CEditAcadEscSeqText>(ES_AUTOHSCROLL, 0);
-    CEditAcadEscSeqText box(nullptr, IDC_INSERT);
+    CEditAcadEscSeqText box(nullptr, kButton);
     box.SetValue(L"ab");
-    for (int i = 0; i < 2; ++i)
+    for (const int nPlace : {2, 0}) // a new window has had no caret yet
     {
         ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &m_dialog, 1010));
-        EXPECT_EQ(owtest::TextOf(box), L"ab");
-        box.SetFocus();
-        box.SetSel(2, 2);
-        if (i == 0)
-            m_dialog.GetDlgItem(IDC_NEXT)->SetFocus();
-        else
-            box.OnTextChosen(IDC_INSERT, 0);
-        EXPECT_STREQ(box.GetValue(), i == 0 ? L"ab" : L"%%cab") << "a new window has had no caret yet";
+        if (nPlace)
+        {
+            box.SetFocus();
+            box.SetSel(nPlace, nPlace);
+            m_dialog.GetDlgItem(kNext)->SetFocus();
+        }
+        box.OnTextChosen(kButton, 0);
+        EXPECT_EQ(box.GetValue().Find(L"%%c"), nPlace);
+        box.SetValue(L"ab");
         box.DestroyWindow();
     }
 }

@@ -15,9 +15,11 @@
 #include "Input.h"
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace owtest
 {
@@ -29,17 +31,24 @@ public:
 
     HWND Window() const { return m_window; }
     HMENU Handle() const { return reinterpret_cast<HMENU>(::SendMessageW(m_window, MN_GETHMENU, 0, 0)); }
-    int Count() const { return ::GetMenuItemCount(Handle()); }
-    UINT Id(int item) const { return ::GetMenuItemID(Handle(), item); }
-    /// The label as it was given to the system: an ampersand that shows is doubled.
-    std::wstring Text(int item) const
+    /// The labels as they were given to the system: an ampersand that shows is doubled.
+    std::vector<std::wstring> Labels() const
     {
-        wchar_t text[256] = L"";
-        ::GetMenuStringW(Handle(), item, text, ARRAYSIZE(text), MF_BYPOSITION);
-        return text;
+        std::vector<std::wstring> labels(::GetMenuItemCount(Handle()));
+        for (size_t item = 0; item < labels.size(); ++item)
+        {
+            wchar_t text[256] = L"";
+            ::GetMenuStringW(Handle(), static_cast<UINT>(item), text, ARRAYSIZE(text), MF_BYPOSITION);
+            labels[item] = text;
+        }
+        return labels;
     }
 
-    void Press(WORD virtualKey) const { QueueKey(virtualKey); }
+    void Press(std::initializer_list<WORD> virtualKeys) const
+    {
+        for (const WORD key : virtualKeys)
+            QueueKey(key);
+    }
     void Click(int item) const
     {
         CRect rect;

@@ -35,7 +35,7 @@ void UseLabelTemplates(CWnd& page)
     Insert(page, c_nPlate,
            [&](const owtest::OpenMenu& menu)
            {
-               last = menu.Text(3);
+               last = menu.Labels().back();
                saved =
                    owtest::SaveWindowPng(*page.GetTopLevelParent(), PicturePath(L"label_templates_menu.png"));
                menu.Click(3);
@@ -44,10 +44,8 @@ void UseLabelTemplates(CWnd& page)
     Require(saved, L"the picture of a menu was not written");
     owtest::Press(VK_END);
     Insert(page, c_nPlate,
-           [](const owtest::OpenMenu& menu)
-           {
-               for (const WORD key : {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN})
-                   menu.Press(key);
+           [](const owtest::OpenMenu& menu) {
+               menu.Press({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
            });
     owtest::Type(L" mm");
     Require(TextOf(page, IDC_LABEL_FIRST + c_nPlate) == _T("t = %h, b = %w mm"), L"the codes are misplaced");
