@@ -27,11 +27,6 @@ CTextBtnST::CTextBtnST(ATextBtnSTNotificationHandler* pHandler) : m_pHandler(pHa
 {
 }
 
-CTextBtnST::~CTextBtnST()
-{
-    DeleteTextMenu();
-}
-
 BEGIN_MESSAGE_MAP(CTextBtnST, CButtonST)
     ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
     ON_WM_SYSCOLORCHANGE()

@@ -43,7 +43,6 @@ public:
     CTextBtnST();
     /// The handler is not owned, may be null, and must outlive the button.
     explicit CTextBtnST(ATextBtnSTNotificationHandler* pHandler);
-    ~CTextBtnST() override;
 
     /// Binds the variable that receives the index of the chosen text. Not owned; null: none.
     void SetEnumSource(int* pnSource);

@@ -120,8 +120,12 @@ TEST_F(TextButton, TheMenuShowsTextsAndDescriptionsAsTheyAreGiven)
     m_button.SetTexts(Texts({L"%l", L"R&D", L"%h", L"%i"}), Texts({L"plate length", L"A & B", L""}));
     const Labels described{L"%l - plate length", L"R&&D - A && B", L"%h", L"%i"};
     EXPECT_EQ(ShownLabels(), described);
+    m_button.SetColor(CButtonST::colorBackOut, RGB(1, 2, 3));
     m_button.SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_EQ(ShownLabels(), described);
+    COLORREF cr = 0;
+    m_button.GetColor(CButtonST::colorBackOut, &cr);
+    EXPECT_EQ(cr, ::GetSysColor(COLOR_BTNFACE)) << "as for every button";
 
     m_button.SetTexts(Texts({L"%l"}), Texts({L"length", L"of nothing"}));
     EXPECT_EQ(ShownLabels(), Labels{L"%l - length"});
@@ -161,6 +165,12 @@ TEST_F(TextButton, EveryCommandCountsAsAChoice)
     EXPECT_EQ(Command(kFirstCommand + 3), Calls{"chosen 1001: 2 (2)"}) << "behind the last: the current one";
     EXPECT_EQ(Command(kFirstCommand - 1), Calls{"chosen 1001: -1 (-1)"}) << "wanted: there is no lower bound";
     EXPECT_EQ(Command(kFirstCommand + (1ull << 32)), Calls{"chosen 1001: 0 (0)"}) << "the low 32 bits count";
+
+    m_button.ValidateRect(nullptr);
+    m_button.SetEnumSource(nullptr);
+    EXPECT_FALSE(m_button.GetUpdateRect(nullptr));
+    m_button.SetEnumSource(&m_dialog.nSource);
+    EXPECT_TRUE(m_button.GetUpdateRect(nullptr)) << "painted anew with its variable";
     m_button.SetEnumSource(nullptr);
     EXPECT_EQ(Command(kFirstCommand + 3), Calls{"chosen 1001: 0 (0)"});
 }
