@@ -162,7 +162,9 @@ TEST_F(TextButton, AChoiceIsStoredAndThenTold)
 TEST_F(TextButton, EveryCommandCountsAsAChoice)
 {
     m_dialog.nSource = 2;
+    m_dialog.ValidateRect(nullptr);
     EXPECT_EQ(Command(kFirstCommand + 3), Calls{"chosen 1001: 2 (2)"}) << "behind the last: the current one";
+    EXPECT_TRUE(m_dialog.GetUpdateRect(nullptr)) << "the parent may show the choice";
     EXPECT_EQ(Command(kFirstCommand - 1), Calls{"chosen 1001: -1 (-1)"}) << "wanted: there is no lower bound";
     EXPECT_EQ(Command(kFirstCommand + (1ull << 32)), Calls{"chosen 1001: 0 (0)"}) << "the low 32 bits count";
 

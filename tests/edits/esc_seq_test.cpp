@@ -204,7 +204,9 @@ TEST_F(EscSeq, ARefusedTextIsNotStoredAndNotOverwritten)
     box.OnTextChosen(kButton, 1); // without leaving the box
     EXPECT_EQ(owtest::TextOf(box), L"%l!%hok");
     EXPECT_STREQ(box.GetValue(), L"%hok");
+    EXPECT_FALSE(box.ValidateAndStoreDataFromGUI());
     EXPECT_EQ(Insert(1), L"%h%lok") << "leaving the box took the refused text away";
+    EXPECT_TRUE(box.ValidateAndStoreDataFromGUI());
 }
 
 TEST_F(EscSeq, IgnoresWhatItCannotInsert)
