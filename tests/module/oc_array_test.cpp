@@ -1,0 +1,47 @@
+// The array of objects held by value.
+
+#include <DialogControlsOW.h>
+
+#include <gtest/gtest.h>
+
+static_assert(!std::is_copy_constructible_v<OCArray<CExtButton>> &&
+              !std::is_copy_assignable_v<OCArray<CExtButton>>);
+
+TEST(ObjectArray, CopiesObjectsThatCanBeCopied)
+{
+    OCArray<CString> marks;
+    marks.Add(L"HEA 160");
+    OCArray<CString> copy = marks;
+    copy[0] = L"IPE 200";
+    copy.Add(L"L 50x5");
+    EXPECT_STREQ(marks[0], L"HEA 160");
+    marks = copy;
+    const OCArray<CString>& itself = marks;
+    marks = itself;
+    EXPECT_EQ(marks.GetSize(), 2);
+    EXPECT_STREQ(marks[0], L"IPE 200");
+    EXPECT_STREQ(marks[1], L"L 50x5");
+}
+
+TEST(ObjectArray, HoldsObjectsThatCannotBeCopied)
+{
+    struct Counted
+    {
+        Counted() { ++Count(); }
+        ~Counted() { --Count(); }
+        Counted(const Counted&) = delete;
+        static int& Count()
+        {
+            static int s_nCount = 0;
+            return s_nCount;
+        }
+    };
+    {
+        OCArray<Counted> array;
+        array.SetSize(3);
+        EXPECT_EQ(Counted::Count(), 3);
+        array.SetSize(1);
+        EXPECT_EQ(Counted::Count(), 1);
+    }
+    EXPECT_EQ(Counted::Count(), 0);
+}
