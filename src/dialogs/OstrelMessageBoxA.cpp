@@ -4,6 +4,7 @@
 
 #include "dialogs/MessageBoxLayout.h"
 #include "module/AssertReport.h"
+#include "module/RecreateControl.h"
 #include "resources/resource.h"
 
 #include <Translator.h>
@@ -264,12 +265,5 @@ int COstrelMessageBoxA::WorkAreaHeight() const
 /// Gives a text that is too long for the screen a scroll bar. An edit control takes one only at its creation.
 void COstrelMessageBoxA::MakeMessageScroll(const CRect& rect)
 {
-    const DWORD dwStyle = m_editMessage.GetStyle() | WS_VSCROLL;
-    CFont* pFont = m_editMessage.GetFont();
-    CString strText;
-    m_editMessage.GetWindowText(strText);
-    m_editMessage.DestroyWindow();
-    m_editMessage.Create(dwStyle, rect, this, IDC_OW_MESSAGE);
-    m_editMessage.SetFont(pFont);
-    m_editMessage.SetWindowText(strText);
+    gfnRecreateControl(m_editMessage, m_editMessage.GetStyle() | WS_VSCROLL, rect);
 }

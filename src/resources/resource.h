@@ -230,3 +230,13 @@
 #define IDC_OW_THIRD                       102
 #define IDC_OW_FOURTH                      103
 #define IDC_OW_MESSAGE                     104
+
+// The name dialogs, with an edit control and with a combo box
+#define IDD_OW_NAZIV                       10075
+#define IDC_OW_NAZIV                       10000
+#define IDD_OW_NAZIV_COMBO                 10076
+#define IDC_OW_NAZIV_COMBO                 10001
+
+// A one-line entry for client modules, which bring the class
+#define IDD_OW_ENTRY                       10036
+#define IDC_OW_ENTRY                       10038

@@ -1,0 +1,8 @@
+#pragma once
+// Styles that the system's controls take only at their creation.
+
+#include <afxwin.h>
+
+/// Makes a control of a dialog anew with other styles, at `rect` in its parent's client area. Its id, text, font and
+/// place in the tab order stay; what else it holds is lost, so this belongs into OnInitDialog.
+void gfnRecreateControl(CWnd& control, DWORD dwStyle, const CRect& rect);
