@@ -46,10 +46,9 @@ private:
     const wchar_t* m_pszTitle;
 };
 
-/// Answers IDOK, or IDCANCEL for a Cancel and for a dialog that the system could not show, as with a start value that
-/// is no file name; CommDlgExtendedError tells them apart. `strPath` receives the whole path; after a Cancel what the
-/// dialog holds then, which may be empty or the start value, so look at the answer first. Of several files
-/// (OFN_ALLOWMULTISELECT) it is their folder.
+/// Answers IDOK, or IDCANCEL for a Cancel and for a dialog that the system could not show; CommDlgExtendedError tells
+/// them apart. `strPath` receives the whole path; after a Cancel what the dialog holds then, which may be empty or the
+/// start value, so look at the answer first. Of several files (OFN_ALLOWMULTISELECT) it is their folder.
 OW_DIALOGCONTROLS_API int gfnStartTranslatedFileDialog(CString& strPath, int bOpen, const wchar_t* pszDefExt,
                                                        const wchar_t* pszFileName, unsigned long dwFlags,
                                                        const wchar_t* pszFilter, HWND hParent,

@@ -1,17 +1,16 @@
 // The message box as a user meets it: keys, clicks, sizes, languages; and what ends the process.
 
 #include "BoxParts.h"
+#include "OwnerWindow.h"
 
+#include "EnglishTexts.h"
 #include "FatalReport.h"
 #include "Handles.h"
 #include "Picture.h"
 
-#include <Translator.h>
 #include <acdocman.h>
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
 
 namespace
 {
@@ -116,32 +115,6 @@ int CountColoured(CWnd& box, int id)
     }
     return found;
 }
-
-/// The English catalogue, for the length of a test.
-class English
-{
-public:
-    English()
-    {
-        wchar_t program[MAX_PATH] = L"";
-        ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-        const auto path = std::filesystem::path(program).parent_path() / L"locale" / L"en.po";
-        EXPECT_TRUE(gOtLang.Load(path.c_str()));
-    }
-    ~English() { gOtLang.Unload(); }
-};
-
-/// A window of the program, over which boxes stand.
-class OwnerWindow : public CWnd
-{
-public:
-    OwnerWindow()
-    {
-        CreateEx(0, AfxRegisterWndClass(0), L"Owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 200, 200, 400, 300,
-                 nullptr, nullptr);
-    }
-    ~OwnerWindow() override { DestroyWindow(); }
-};
 } // namespace
 
 TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
@@ -348,7 +321,7 @@ TEST(MessageBoxLanguage, IsThatOfTheCatalogue)
         return seen;
     };
     EXPECT_EQ(look(), L"Greska|Brisanje tekuce konfiguracije?|Snimi|Cancel");
-    const English english;
+    const owtest::EnglishTexts english;
     EXPECT_EQ(look(), L"Error|Delete the current configuration?|Save|Cancel");
 }
 
@@ -364,7 +337,7 @@ TEST(MessageBoxLanguage, TheErrorBoxesAreTranslatedWithTheCodeInThem)
     };
     EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxP), L"Greska|Provera zastite programa nije uspela (12).");
     EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Greska|Provera licence programa nije uspela (12).");
-    const English english;
+    const owtest::EnglishTexts english;
     EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Error|The licence check failed (12).");
 }
 
