@@ -94,10 +94,16 @@ void CConfigCtrlGroup::OnExtComboBoxSelChanged(int, int)
 
 void CConfigCtrlGroup::ShowCurrent()
 {
-    if (!m_pConfigSet)
-        m_combo.SetCurSel(RowOf(-1));
+    if (m_pConfigSet && m_pConfigSet->IsConfigChanged())
+        SelectRow(-1);
     else
-        m_combo.SetCurSel(m_pConfigSet->IsConfigChanged() ? -1 : RowOf(m_pConfigSet->GetCurrentConfig()));
+        SelectRow(RowOf(m_pConfigSet ? m_pConfigSet->GetCurrentConfig() : -1));
+}
+
+/// An entry of which the list does not know is not shown; nor is another one in its place.
+void CConfigCtrlGroup::SelectRow(int nRow)
+{
+    m_combo.SetCurSel(nRow < m_combo.GetCount() ? nRow : -1);
 }
 
 // Wanted: each round begins with the current name, and not with what was typed last.
@@ -148,7 +154,7 @@ void CConfigCtrlGroup::Delete()
         return;
     m_pConfigSet->DeleteConfig(nConfig);
     m_combo.DeleteString(RowOf(nConfig));
-    m_combo.SetCurSel(RowOf(m_pConfigSet->GetCurrentConfig()));
+    SelectRow(RowOf(m_pConfigSet->GetCurrentConfig()));
     TellChanged();
 }
 

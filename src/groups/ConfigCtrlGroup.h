@@ -24,8 +24,8 @@
 // Delete. Asks first; then the entry goes, the set's next one is shown, and the handler is told.
 //
 // List. It is filled in OnInitDialog, and follows what this group saves and deletes. Entries that the set gains or
-// loses by other means show when the dialog opens the next time; until then rows and entries may be out of step, and
-// a row is taken for the entry of its number.
+// loses by other means show when the dialog opens the next time; until then rows and entries may be out of step: a
+// row is taken for the entry of its number, and an entry without a row shows as none.
 //
 // Without a set the combo box has "Default" alone, and the buttons do nothing. Set and handler are not owned, and must
 // outlive the group. Texts are shown through gOtLang.
@@ -60,6 +60,7 @@ public:
 
 private:
     void ShowCurrent();
+    void SelectRow(int nRow);
     void Save();
     bool AskName(CString& strName);
     bool Store(const CString& strName);

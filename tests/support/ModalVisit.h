@@ -6,8 +6,9 @@
 //     EXPECT_EQ(visit.Count(), 1);
 //
 // The visitor is called once: for the first dialog that this thread shows and lets be used after the object
-// was made. If the dialog is still open afterwards, it is cancelled, so that a test fails and does not hang.
-// Visits nest. Exceptions must not leave the visitor, which is called by the system.
+// was made. With several visitors, each has the next dialog, whether it opens over the last one or after it. A
+// dialog that is still open after its visit is cancelled, so that a test fails and does not hang.
+// Visits nest. Exceptions must not leave a visitor, which is called by the system.
 
 #include <afxwin.h>
 
@@ -24,8 +25,11 @@ namespace owtest
 class ModalVisit
 {
 public:
-    explicit ModalVisit(std::function<void(CWnd&)> visitor)
-        : m_visitor(std::move(visitor)), m_known(OpenDialogs()), m_outer(std::exchange(s_current, this)),
+    using Visitor = std::function<void(CWnd&)>;
+
+    explicit ModalVisit(Visitor visitor) : ModalVisit(std::vector{std::move(visitor)}) {}
+    explicit ModalVisit(std::vector<Visitor> visitors)
+        : m_visitors(std::move(visitors)), m_known(OpenDialogs()), m_outer(std::exchange(s_current, this)),
           m_timer(::SetTimer(nullptr, 0, kPollMs, &Poll))
     {
     }
@@ -37,20 +41,21 @@ public:
     ModalVisit(const ModalVisit&) = delete;
     ModalVisit& operator=(const ModalVisit&) = delete;
 
-    /// How many dialogs were visited: 0 or 1.
-    int Count() const { return m_count; }
+    /// How many dialogs were visited.
+    int Count() const { return static_cast<int>(m_count); }
 
 private:
     static constexpr UINT kPollMs = 5;
 
     static void CALLBACK Poll(HWND, UINT, UINT_PTR, DWORD)
     {
-        if (s_current && s_current->m_count == 0)
+        if (s_current && s_current->m_count < s_current->m_visitors.size())
             s_current->VisitIfOpen();
     }
 
     void VisitIfOpen()
     {
+        std::erase_if(m_known, [](HWND dialog) { return !::IsWindow(dialog); });
         const std::vector<HWND> open = OpenDialogs();
         const auto isNew = [this](HWND dialog)
         { return std::find(m_known.begin(), m_known.end(), dialog) == m_known.end(); };
@@ -58,10 +63,12 @@ private:
         if (found == open.end())
             return;
         const HWND dialog = *found;
-        ::KillTimer(nullptr, m_timer);
-        ++m_count;
+        m_known.push_back(dialog);
+        const Visitor& visitor = m_visitors[m_count++];
+        if (m_count == m_visitors.size())
+            ::KillTimer(nullptr, m_timer);
         Activate(dialog);
-        m_visitor(*CWnd::FromHandle(dialog));
+        visitor(*CWnd::FromHandle(dialog));
         if (IsOpen(dialog))
             ::SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
     }
@@ -87,10 +94,10 @@ private:
 
     inline static ModalVisit* s_current = nullptr;
 
-    std::function<void(CWnd&)> m_visitor;
-    std::vector<HWND> m_known; ///< dialogs that were open before
+    std::vector<Visitor> m_visitors;
+    std::vector<HWND> m_known; ///< dialogs that were open before, or have been visited
     ModalVisit* m_outer;       ///< the visit that waits, or over whose dialog this one happens
     UINT_PTR m_timer;
-    int m_count = 0;
+    size_t m_count = 0;
 };
 } // namespace owtest
