@@ -13,12 +13,14 @@
     PAGE(Buttons)                  \
     CHILD(LabelsAndFonts)          \
     PAGE(MessageBoxes)             \
+    CHILD(NamesAndFiles)           \
     PAGE(Grid)                     \
     CHILD(VirtualGrid)             \
     CHILD(DisplayCells)            \
     PAGE(SteelSchedule)            \
     CHILD(CrossGrid)               \
     PAGE(Members)                  \
+    PAGE(Configurations)           \
     PAGE(Drawings)
 // clang-format on
 

@@ -148,3 +148,29 @@
 #define IDC_LABEL_FIRST 1910   // a box for each kind of label, from the top
 #define IDC_INSERT_FIRST 1920  // its button, beside it
 #define IDC_PREVIEW_FIRST 1930 // the label as it would be drawn, below it
+// Configurations
+#define IDD_PAGE_CONFIGURATIONS 201
+#define IDC_CONFIGS 2150
+#define IDC_CONFIG_SAVE 2151
+#define IDC_CONFIG_DELETE 2152
+#define IDC_PATTERN_ROWS 2153
+#define IDC_PATTERN_PITCH 2154
+#define IDC_PATTERN_EDGE 2155
+#define IDC_PATTERN_GRADE 2156
+#define IDC_PATTERN_LENGTH 2157
+#define IDC_PATTERN_STATE 2158
+#define IDC_PATTERN_FILE 2159
+
+// Names and files
+#define IDD_PAGE_NAMES_AND_FILES 204
+#define IDC_NAME_CAPTION 2300
+#define IDC_ASK_MARK 2301
+#define IDC_MARK_ANSWER 2302
+#define IDC_ASK_LAYER 2303
+#define IDC_LAYER_ANSWER 2304
+#define IDC_SAVE_FILE 2305
+#define IDC_SAVE_ANSWER 2306
+#define IDC_NOTE 2307
+#define IDC_OPEN_FILE 2308
+#define IDC_OPEN_ANSWER 2309
+#define IDC_FIRST_LINE 2310

@@ -1,0 +1,55 @@
+#pragma once
+// The caller's side of a configuration group: bolt patterns by name, kept in a file from one start to the next.
+
+#include <DialogControlsOW.h>
+
+#include <vector>
+
+/// What the dialog edits. Lengths in metres.
+struct BoltPattern
+{
+    int nRows = 3;
+    double dPitch = 0.07;
+    double dEdge = 0.04;
+    int nGrade = 1; ///< counted from 0 in the dialog's list
+
+    friend bool operator==(const BoltPattern&, const BoltPattern&) = default;
+};
+
+class CStoredConfigs : public AConfigSet
+{
+public:
+    /// `values` is the record that the dialog edits: it is stored from there, and a choice is put there.
+    CStoredConfigs(BoltPattern& values, const CString& strPath);
+
+    /// No file means no entries. Lines that are no pattern are left out.
+    void LoadConfigs() override;
+    /// Tells the user if the file cannot be written.
+    void StoreConfigs() override;
+
+    int GetConfigNames(CStringArray& names) override;
+    bool AddConfig(const CString& name) override;
+    void OverwriteConfig(const CString& name) override;
+    void RenameConfig(int nIndex, const CString& name) override;
+    void DeleteConfig(int nIndex) override;
+    void SetCurrentConfig(int nIndex) override;
+    bool IsConfigChanged() override;
+    int GetCurrentConfig() override;
+    CString GetConfigName(int nIndex) override;
+
+private:
+    struct Entry
+    {
+        CString strName;
+        BoltPattern values;
+    };
+
+    int Find(const CString& strName) const;
+    bool Exists(int nIndex) const;
+    BoltPattern ValuesOf(int nIndex) const;
+
+    BoltPattern& m_values;
+    CString m_strPath;
+    std::vector<Entry> m_entries;
+    int m_nCurrent = -1;
+};

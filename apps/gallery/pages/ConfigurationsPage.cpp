@@ -1,0 +1,149 @@
+// Configurations: a bolt pattern whose values can be saved under a name, chosen again and deleted. The set of
+// configurations, which keeps them in a file, is in StoredConfigs.h.
+
+#include <afxwin.h>
+
+#include "GalleryPage.h"
+#include "StoredConfigs.h"
+#include "resource.h"
+
+namespace
+{
+constexpr LPCTSTR kGrades[] = {_T("4.6"), _T("8.8"), _T("10.9")};
+
+/// A file of the user's own, one for each program that shows this page.
+CString StoragePath()
+{
+    CString strFolder;
+    strFolder.GetEnvironmentVariable(_T("LOCALAPPDATA"));
+    return strFolder + _T('\\') + AfxGetApp()->m_pszExeName + _T(" bolt patterns.txt");
+}
+
+class CConfigurationsPage : public CGalleryPage,
+                            public AConfigCtrlGroupNotificationHandler,
+                            public CEditDWRNotificationHandler,
+                            public AExtComboBoxNotificationHandler
+{
+public:
+    explicit CConfigurationsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_CONFIGURATIONS, host) {}
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    int OnInitPageDialog() override;
+    void OnConfigGroupChanged(CConfigCtrlGroup* pGroup) override;
+    void OnEditNChange(int nId) override;
+    void OnExtComboBoxSelChanged(int nId, int nSel) override;
+
+    afx_msg void OnSaved();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void InitLength(CEditDoubleWithRange& edit, double dMin, double dMax);
+    void ShowValues();
+    void TakeValues();
+    void ShowState();
+
+    BoltPattern m_pattern; ///< what this page edits
+    CStoredConfigs m_stored{m_pattern, StoragePath()};
+    CConfigCtrlGroup m_configs{IDC_CONFIGS, IDC_CONFIG_SAVE, IDC_CONFIG_DELETE, &m_stored, this};
+    // No handler is given: the boxes find this page, their parent, which implements the interface.
+    CEditIntegerWithRange m_editRows{nullptr};
+    CEditDoubleWithRange m_editPitch{nullptr, CEditDoubleWithRange::c_nCreateControl};
+    CEditDoubleWithRange m_editEdge{nullptr, CEditDoubleWithRange::c_nCreateControl};
+    CExtComboBox m_comboGrade{this};
+};
+
+BEGIN_MESSAGE_MAP(CConfigurationsPage, CGalleryPage)
+    ON_BN_CLICKED(IDC_CONFIG_SAVE, OnSaved)
+END_MESSAGE_MAP()
+
+// The group has heard of the click first: the dialogs are closed.
+void CConfigurationsPage::OnSaved()
+{
+    ShowState();
+}
+
+void CConfigurationsPage::DoDataExchange(CDataExchange* pDX)
+{
+    CGalleryPage::DoDataExchange(pDX);
+    m_configs.DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_PATTERN_ROWS, m_editRows);
+    DDX_Control(pDX, IDC_PATTERN_PITCH, m_editPitch);
+    DDX_Control(pDX, IDC_PATTERN_EDGE, m_editEdge);
+    DDX_Control(pDX, IDC_PATTERN_GRADE, m_comboGrade);
+}
+
+int CConfigurationsPage::OnInitPageDialog()
+{
+    m_editRows.SetRange(1, 20);
+    InitLength(m_editPitch, 0.02, 0.5);
+    InitLength(m_editEdge, 0.01, 0.2);
+    for (LPCTSTR pszGrade : kGrades)
+        m_comboGrade.AddString(pszGrade);
+    SetDlgItemText(IDC_PATTERN_FILE, StoragePath());
+
+    m_stored.LoadConfigs();
+    m_configs.OnInitDialog();
+    ShowValues();
+    return TRUE;
+}
+
+void CConfigurationsPage::InitLength(CEditDoubleWithRange& edit, double dMin, double dMax)
+{
+    edit.SetComplexUnit(
+        CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMillimetre, CMeasurementUnit::eLength)));
+    edit.SetFormat(eDoubleFormatFixed, 0);
+    edit.SetRange(dMin, dMax);
+}
+
+// The set has put the values of the chosen entry into the pattern.
+void CConfigurationsPage::OnConfigGroupChanged(CConfigCtrlGroup*)
+{
+    Log(_T("Configurations"), _T("OnConfigGroupChanged(), current entry %d"), m_stored.GetCurrentConfig());
+    ShowValues();
+}
+
+void CConfigurationsPage::OnEditNChange(int nId)
+{
+    Log(_T("Bolt pattern"), _T("OnEditNChange(%d)"), nId);
+    TakeValues();
+}
+
+void CConfigurationsPage::OnExtComboBoxSelChanged(int nId, int nSel)
+{
+    Log(_T("Grade"), _T("OnExtComboBoxSelChanged(%d, %d)"), nId, nSel);
+    TakeValues();
+}
+
+void CConfigurationsPage::ShowValues()
+{
+    m_editRows.SetValue(m_pattern.nRows);
+    m_editPitch.SetValue(m_pattern.dPitch);
+    m_editEdge.SetValue(m_pattern.dEdge);
+    m_comboGrade.SetCurSel(m_pattern.nGrade);
+    ShowState();
+}
+
+void CConfigurationsPage::TakeValues()
+{
+    m_pattern = {m_editRows.GetValue(), m_editPitch.GetValue(), m_editEdge.GetValue(),
+                 m_comboGrade.GetCurSel()};
+    m_configs.Refresh(); // shows no entry while the values are those of none
+    ShowState();
+}
+
+void CConfigurationsPage::ShowState()
+{
+    CString strLength;
+    strLength.Format(_T("%.0f mm"),
+                     1000.0 * ((m_pattern.nRows - 1) * m_pattern.dPitch + 2.0 * m_pattern.dEdge));
+    SetDlgItemText(IDC_PATTERN_LENGTH, strLength);
+    SetDlgItemText(IDC_PATTERN_STATE,
+                   m_stored.IsConfigChanged() ? _T("Changed, not saved") : _T("As stored"));
+}
+} // namespace
+
+CPage* AddConfigurationsPage(AGalleryHost& host, CPage* pParent)
+{
+    return AddTitledPage(host, new CConfigurationsPage(host), _T("Configurations"), pParent);
+}

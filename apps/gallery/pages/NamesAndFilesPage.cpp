@@ -1,0 +1,139 @@
+// Names and files: the three dialogs that ask for a text, each with what it answered, and a file really read and
+// saved.
+
+#include <afxwin.h>
+
+#include "GalleryPage.h"
+#include "TextFile.h"
+#include "resource.h"
+
+namespace
+{
+constexpr LPCTSTR kFilter = _T("Notes (*.txt)|*.txt|All files (*.*)|*.*||");
+
+CString FirstLine(const CString& strText)
+{
+    const int nEnd = strText.FindOneOf(_T("\r\n"));
+    return nEnd < 0 ? strText : strText.Left(nEnd);
+}
+
+class CNamesAndFilesPage : public CGalleryPage
+{
+public:
+    explicit CNamesAndFilesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_NAMES_AND_FILES, host) {}
+
+protected:
+    int OnInitPageDialog() override;
+
+    afx_msg void OnMark();
+    afx_msg void OnLayer();
+    afx_msg void OnOpenFile();
+    afx_msg void OnSaveFile();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CString TextOf(int nId) const;
+    void ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, const CString& strText);
+    int AskPath(CString& strPath, bool bOpen);
+
+    CString m_strMark = _T("B1");
+    CString m_strLayer = _T("Axes");
+    CStringArray m_layers;
+    CString m_strPath; ///< of the file used last
+};
+
+BEGIN_MESSAGE_MAP(CNamesAndFilesPage, CGalleryPage)
+    ON_BN_CLICKED(IDC_ASK_MARK, OnMark)
+    ON_BN_CLICKED(IDC_ASK_LAYER, OnLayer)
+    ON_BN_CLICKED(IDC_OPEN_FILE, OnOpenFile)
+    ON_BN_CLICKED(IDC_SAVE_FILE, OnSaveFile)
+END_MESSAGE_MAP()
+
+void CNamesAndFilesPage::OnMark()
+{
+    const int nResult = gfnStartNazivDlg(m_strMark, TextOf(IDC_NAME_CAPTION));
+    ShowAnswer(IDC_MARK_ANSWER, _T("gfnStartNazivDlg"), nResult, m_strMark);
+}
+
+// A layer that is typed is in the list the next time.
+void CNamesAndFilesPage::OnLayer()
+{
+    const int nResult = gfnStartNazivComboDlg(m_strLayer, m_layers, TextOf(IDC_NAME_CAPTION), this);
+    ShowAnswer(IDC_LAYER_ANSWER, _T("gfnStartNazivComboDlg"), nResult, m_strLayer);
+    for (INT_PTR i = 0; i < m_layers.GetSize(); ++i)
+        if (m_layers[i] == m_strLayer)
+            return;
+    m_layers.Add(m_strLayer);
+}
+
+void CNamesAndFilesPage::OnOpenFile()
+try
+{
+    CString strPath = m_strPath;
+    const int nResult = AskPath(strPath, true);
+    ShowAnswer(IDC_OPEN_ANSWER, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
+    if (nResult != IDOK)
+        return;
+    SetDlgItemText(IDC_FIRST_LINE, FirstLine(ReadText(strPath)));
+    m_strPath = strPath;
+}
+catch (CFileException* pException)
+{
+    pException->ReportError(MB_ICONWARNING);
+    pException->Delete();
+}
+
+void CNamesAndFilesPage::OnSaveFile()
+try
+{
+    CString strPath = m_strPath;
+    const int nResult = AskPath(strPath, false);
+    ShowAnswer(IDC_SAVE_ANSWER, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
+    if (nResult != IDOK)
+        return;
+    WriteText(strPath, TextOf(IDC_NOTE));
+    m_strPath = strPath;
+}
+catch (CFileException* pException)
+{
+    pException->ReportError(MB_ICONWARNING);
+    pException->Delete();
+}
+
+int CNamesAndFilesPage::OnInitPageDialog()
+{
+    for (LPCTSTR pszLayer : {_T("0"), _T("Axes"), _T("Columns"), _T("Walls")})
+        m_layers.Add(pszLayer);
+    SetDlgItemText(IDC_NOTE, _T("Beam B1: shop primer\r\nDeliver with columns C1 to C4"));
+    return TRUE;
+}
+
+CString CNamesAndFilesPage::TextOf(int nId) const
+{
+    CString strText;
+    GetDlgItemText(nId, strText);
+    return strText;
+}
+
+void CNamesAndFilesPage::ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, const CString& strText)
+{
+    CString strAnswer;
+    strAnswer.Format(_T("%s: \"%s\""), nResult == IDOK ? _T("IDOK") : _T("IDCANCEL"), strText.GetString());
+    SetDlgItemText(nId, strAnswer);
+    Log(pszStarter, _T("%s"), strAnswer.GetString());
+}
+
+int CNamesAndFilesPage::AskPath(CString& strPath, bool bOpen)
+{
+    const CString strStart = strPath;
+    const DWORD dwFlags =
+        OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (bOpen ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
+    return gfnStartTranslatedFileDialog(strPath, bOpen, _T("txt"), strStart, dwFlags, kFilter, m_hWnd,
+                                        nullptr);
+}
+} // namespace
+
+CPage* AddNamesAndFilesPage(AGalleryHost& host, CPage* pParent)
+{
+    return AddTitledPage(host, new CNamesAndFilesPage(host), _T("Names and files"), pParent);
+}
