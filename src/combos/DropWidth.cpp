@@ -31,3 +31,10 @@ int gfnMeasureDropWidth(CComboBox& combo)
     }
     return nMax + TextWidth(dc, _T("0"), 1);
 }
+
+void gfnGrowDropWidth(CComboBox& combo, int nBeside)
+{
+    const int nWidth = gfnMeasureDropWidth(combo) + nBeside;
+    if (nWidth > combo.GetDroppedWidth())
+        combo.SetDroppedWidth(nWidth);
+}

@@ -44,10 +44,7 @@ void CExtComboBox::OnSelChange()
         m_pHandler->OnExtComboBoxSelChanged(GetDlgCtrlID(), GetCurSel());
 }
 
-// The list only ever grows.
 void CExtComboBox::OnDropDown()
 {
-    const int nWidth = gfnMeasureDropWidth(*this);
-    if (nWidth > GetDroppedWidth())
-        SetDroppedWidth(nWidth);
+    gfnGrowDropWidth(*this);
 }

@@ -4,6 +4,7 @@
 
 #include "dialogs/MessageBoxLayout.h"
 #include "module/AssertReport.h"
+#include "module/IconResource.h"
 #include "module/RecreateControl.h"
 #include "resources/resource.h"
 
@@ -186,11 +187,8 @@ void COstrelMessageBoxA::SetButtonFaces()
 // An icon that does not load is left out.
 void COstrelMessageBoxA::LoadMessageIcon()
 {
-    if (m_nIconType == 0)
-        return;
-    const LPCTSTR pszName = MAKEINTRESOURCE(IconIdOf(m_nIconType));
-    const HINSTANCE hModule = AfxFindResourceHandle(pszName, RT_GROUP_ICON);
-    m_pIcon.reset(static_cast<HICON>(::LoadImage(hModule, pszName, IMAGE_ICON, 0, 0, 0)));
+    if (m_nIconType != 0)
+        m_pIcon.reset(gfnLoadIconResource(IconIdOf(m_nIconType)));
 }
 
 // The window keeps its place here; MFC centres it on its owner afterwards, inside the work area.

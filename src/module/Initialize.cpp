@@ -14,6 +14,7 @@
 #include "buttons/ThemeHelperST.h"
 #include "module/AssertReport.h"
 #include "module/HostResourceScope.h"
+#include "module/IconResource.h"
 
 #include <iterator>
 #include <new>
@@ -31,11 +32,10 @@ struct IconRow
     int line;
 };
 
-/// The icon in its own size, from this library or whichever module of the chain has it; null if none has.
+/// Reports show this name, so it stays.
 HICON LoadSharedIcon(int id)
 {
-    const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(id), RT_GROUP_ICON);
-    return static_cast<HICON>(::LoadImage(module, MAKEINTRESOURCE(id), IMAGE_ICON, 0, 0, 0));
+    return gfnLoadIconResource(id);
 }
 
 void LoadIconOf(const IconRow& row)

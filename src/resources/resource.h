@@ -240,3 +240,8 @@
 // A one-line entry for client modules, which bring the class
 #define IDD_OW_ENTRY                       10036
 #define IDC_OW_ENTRY                       10038
+
+// The progress boxes, and their bar
+#define IDD_OW_PROGRESS                    10149
+#define IDD_OW_PROGRESS_CANCEL             10150
+#define IDC_OW_PROGRESS                    10152
