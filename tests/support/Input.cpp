@@ -190,6 +190,13 @@ void QueueClick(CPoint screen)
           Mouse(MOUSEEVENTF_LEFTUP, {})});
 }
 
+void QueueClick(HWND window)
+{
+    CRect client;
+    ::GetClientRect(window, &client);
+    QueueClick(ToScreen(window, client.CenterPoint()));
+}
+
 std::wstring TextOf(const CWnd& window)
 {
     CString text;
