@@ -159,13 +159,21 @@ void CFontSelectionComboBox::InitFonts()
 int CALLBACK CFontSelectionComboBox::EnumFontProc(const LOGFONT* pLogFont, const TEXTMETRIC*, DWORD nType,
                                                   LPARAM lParam)
 {
-    auto& combo = *reinterpret_cast<CFontSelectionComboBox*>(lParam);
-    const int nItem = nType == TRUETYPE_FONTTYPE ? combo.AddString(pLogFont->lfFaceName) : CB_ERR;
-    if (nItem < 0)
-        return TRUE;
-    combo.m_rows.push_back(std::make_unique<SFontRow>(*pLogFont, gFontManager.Find(pLogFont->lfFaceName)));
-    combo.SetItemDataPtr(nItem, combo.m_rows.back().get());
+    if (nType == TRUETYPE_FONTTYPE)
+        reinterpret_cast<CFontSelectionComboBox*>(lParam)->AddFont(*pLogFont);
     return TRUE;
+}
+
+// Some systems name a font once for each of its character sets, one after another.
+void CFontSelectionComboBox::AddFont(const LOGFONT& logFont)
+{
+    if (!m_rows.empty() && ::lstrcmp(m_rows.back()->logFont.lfFaceName, logFont.lfFaceName) == 0)
+        return;
+    const int nItem = AddString(logFont.lfFaceName);
+    if (nItem < 0)
+        return;
+    m_rows.push_back(std::make_unique<SFontRow>(logFont, gFontManager.Find(logFont.lfFaceName)));
+    SetItemDataPtr(nItem, m_rows.back().get());
 }
 
 // Rows of the caller, and those with data of the caller's own, have no record.

@@ -79,7 +79,7 @@ public:
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
 
-    /// For EnumFonts: adds a row for a TrueType font. `lParam` is the combo box. Always 1, to go on.
+    /// For EnumFonts: adds a row for a TrueType font, unless it is the one that was added last. `lParam` is the combo box. Always 1, to go on.
     static int CALLBACK EnumFontProc(const LOGFONT* pLogFont, const TEXTMETRIC* pMetric, DWORD nType,
                                      LPARAM lParam);
 
@@ -118,6 +118,7 @@ private:
 
     static int DrawFontIcon(CDC& dc, const CRect& rect, EFontClass eClass);
 
+    void AddFont(const LOGFONT& logFont);
     Rows::const_iterator FindRecord(DWORD_PTR nItemData) const;
     SFontRow* RecordOf(int nItem) const; ///< null for a row without one
     SFontRow FontOfRow(int nItem) const;
