@@ -1,4 +1,4 @@
-// A combo box that widens its list to the longest entry.
+// A combo box that widens its list to the longest entry, and one that fills itself with the fonts.
 
 #include <DialogControlsOW.h>
 
@@ -70,3 +70,57 @@ static void MeasureOpen5000(Comparison& compare, const Benchmark::Measure& measu
     parent.DestroyWindow();
 }
 static const Benchmark open5000("combos/open_5000", 1.5, MeasureOpen5000);
+
+namespace
+{
+/// Adds the name of a TrueType font, once.
+int CALLBACK AddName(const LOGFONT* pLogFont, const TEXTMETRIC*, DWORD nType, LPARAM lCombo)
+{
+    static CString s_strLast;
+    if (nType == TRUETYPE_FONTTYPE && s_strLast != pLogFont->lfFaceName)
+    {
+        s_strLast = pLogFont->lfFaceName;
+        ::SendMessage(reinterpret_cast<HWND>(lCombo), CB_ADDSTRING, 0,
+                      reinterpret_cast<LPARAM>(pLogFont->lfFaceName));
+    }
+    return TRUE;
+}
+
+void FillBare(HWND hCombo)
+{
+    ::SendMessage(hCombo, CB_RESETCONTENT, 0, 0);
+    const HDC hDC = ::GetDC(hCombo);
+    ::EnumFonts(hDC, nullptr, &AddName, reinterpret_cast<LPARAM>(hCombo));
+    ::ReleaseDC(hCombo, hDC);
+}
+} // namespace
+
+// The bare side is a combo box of the system to which the same names are added.
+static void MeasureFontFill(Comparison& compare, const Benchmark::Measure& measure)
+{
+    constexpr int kFills = 5;
+    constexpr DWORD kFontStyle = kComboStyle | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
+    CWnd parent;
+    parent.CreateEx(0, AfxRegisterWndClass(0), L"fonts", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                    CRect(0, 0, 400, 120), nullptr, 0);
+    CFontSelectionComboBox ours;
+    ours.Create(kFontStyle, kComboRect, &parent, 1);
+    CComboBox bare;
+    bare.Create(kComboStyle, kComboRect + CPoint(180, 0), &parent, 2);
+
+    compare.Ours(
+        [&]
+        {
+            for (int i = 0; i < kFills; ++i)
+                ours.InitFonts();
+        });
+    compare.Bare(
+        [&]
+        {
+            for (int i = 0; i < kFills; ++i)
+                FillBare(bare);
+        });
+    measure();
+    parent.DestroyWindow();
+}
+static const Benchmark fontFill("combos/font_fill", 1.3, MeasureFontFill);

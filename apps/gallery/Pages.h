@@ -10,10 +10,12 @@
     CHILD(Numbers)                 \
     PAGE(LabelTemplates)           \
     PAGE(Combos)                   \
+    CHILD(Font)                    \
     PAGE(Buttons)                  \
     CHILD(LabelsAndFonts)          \
     PAGE(MessageBoxes)             \
     CHILD(NamesAndFiles)           \
+    CHILD(Progress)                \
     PAGE(Grid)                     \
     CHILD(VirtualGrid)             \
     CHILD(DisplayCells)            \

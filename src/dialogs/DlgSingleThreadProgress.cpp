@@ -66,6 +66,7 @@ BOOL CDlgSingleThreadProgress::OnInitDialog()
 {
     CDialog::OnInitDialog();
     SetWindowText(m_strTitle);
+    m_bar.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED); // which the system takes away from its own bars
     m_bar.SetTextFont(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
     if (m_bCancellable)
     {
