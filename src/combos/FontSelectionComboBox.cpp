@@ -12,7 +12,8 @@
 #include "resources/resource.h"
 
 #include <algorithm>
-#include <utility>
+#include <cwchar>
+#include <iterator>
 
 namespace
 {
@@ -148,11 +149,14 @@ void CFontSelectionComboBox::FillFonts()
 void CFontSelectionComboBox::InitFonts()
 {
     CClientDC dc(this);
+    SetRedraw(FALSE); // else the list looks after its scroll bar at each row
     ResetContent();
     m_rows.clear(); // where the parent does not pass WM_DELETEITEM on
     if (!gFontManager.m_bInitialized)
         gFontManager.Initialize(dc);
     ::EnumFonts(dc, nullptr, &EnumFontProc, reinterpret_cast<LPARAM>(this));
+    SetRedraw(TRUE);
+    Invalidate(FALSE);
     m_bInitialized = TRUE;
 }
 
@@ -167,7 +171,7 @@ int CALLBACK CFontSelectionComboBox::EnumFontProc(const LOGFONT* pLogFont, const
 // Some systems name a font once for each of its character sets, one after another.
 void CFontSelectionComboBox::AddFont(const LOGFONT& logFont)
 {
-    if (!m_rows.empty() && ::lstrcmp(m_rows.back()->logFont.lfFaceName, logFont.lfFaceName) == 0)
+    if (!m_rows.empty() && std::wcscmp(m_rows.back()->logFont.lfFaceName, logFont.lfFaceName) == 0)
         return;
     const int nItem = AddString(logFont.lfFaceName);
     if (nItem < 0)
