@@ -2,6 +2,8 @@
 
 #include "buttons/BitmapBtnST.h"
 
+#include "buttons/DropFace.h"
+#include "buttons/DropMenu.h"
 #include "module/HostResourceScope.h"
 
 #include <span>
@@ -28,6 +30,35 @@ void UnloadPictures(std::span<HBITMAP> handles, bool& loaded)
     loaded = false;
 }
 
+/// How a picture lies in its area, in one direction.
+struct Placing
+{
+    int source; ///< where the copy begins in the picture
+    int target; ///< and in the area
+    int extent;
+};
+
+/// In the middle; of a picture that is larger than the area the middle shows.
+Placing PlaceInMiddle(int picture, int area)
+{
+    if (picture > area)
+        return {(picture - area) / 2, 0, area};
+    return {0, (area - picture) / 2, picture};
+}
+
+/// The colour that a picture of one bit lies on: the middle of the face, whatever painted it. Where only a
+/// part of the button is painted, and the middle is not in it, another point of the picture's area has to do.
+COLORREF FaceColor(CDC& dc, const CRect& face, const CRect& area)
+{
+    const COLORREF crMiddle = dc.GetPixel(face.CenterPoint());
+    if (crMiddle != CLR_INVALID)
+        return crMiddle;
+    CRect painted;
+    dc.GetClipBox(painted);
+    painted.IntersectRect(painted, area);
+    return dc.GetPixel(painted.CenterPoint());
+}
+
 // The ids in table order.
 // clang-format off
 constexpr WORD kKotnaLinija[] = {
@@ -47,6 +78,169 @@ constexpr WORD kSimbolPresekaZavrsetak[] = {
 };
 // clang-format on
 } // namespace
+
+CBitmapBtnST::CBitmapBtnST() = default;
+
+CBitmapBtnST::CBitmapBtnST(ABitmapBtnSTNotificationHandler* pHandler) : m_pChoiceHandler(pHandler)
+{
+}
+
+CBitmapBtnST::~CBitmapBtnST()
+{
+    DeleteMenusAndBitmaps();
+}
+
+BEGIN_MESSAGE_MAP(CBitmapBtnST, CButtonST)
+    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_WM_SYSCOLORCHANGE()
+END_MESSAGE_MAP()
+
+void CBitmapBtnST::OnClicked()
+{
+    CButtonST::OnClicked();
+    gfnTrackDropMenu(*this, m_popupMenu);
+}
+
+// The menu's pictures lie on the former colour of menus.
+void CBitmapBtnST::OnSysColorChange()
+{
+    CButtonST::OnSysColorChange();
+    CreateMenusAndBitmaps();
+}
+
+// ---- Messages outside the map -----------------------------------------------------------------------------
+
+// Made a push button before the base looks at the type.
+void CBitmapBtnST::PreSubclassWindow()
+{
+    CreateMenusAndBitmaps();
+    SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+    CButtonST::PreSubclassWindow();
+}
+
+// A choice. Kept: there is no lower bound, so an id below the menu's own is stored as a negative index, and
+// every command is told to the handler, whether it was stored or not.
+BOOL CBitmapBtnST::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const int nStart = static_cast<int>(GetStartWindowMsg());
+    if (m_pnEnumSource && wParam < static_cast<WPARAM>(nStart + BitmapCount()))
+        *m_pnEnumSource = LOWORD(wParam) - nStart;
+    if (m_pChoiceHandler)
+        m_pChoiceHandler->OnBitmapChosen(GetDlgCtrlID(), GetEnumSource());
+    gfnEndDropChoice(*this);
+    return CButtonST::OnCommand(wParam, lParam);
+}
+
+// ---- Source -----------------------------------------------------------------------------------------------
+
+void CBitmapBtnST::SetEnumSource(int* pnSource)
+{
+    m_pnEnumSource = pnSource;
+    if (m_pnEnumSource && m_hWnd)
+        Invalidate(FALSE);
+}
+
+int CBitmapBtnST::GetEnumSource() const
+{
+    return m_pnEnumSource ? *m_pnEnumSource : 0;
+}
+
+// ---- Menu -------------------------------------------------------------------------------------------------
+
+UINT CBitmapBtnST::GetStartWindowMsg() const
+{
+    return 0x9000;
+}
+
+void CBitmapBtnST::CreateMenusAndBitmaps()
+{
+    DeleteMenusAndBitmaps();
+    CopyPictures();
+    AppendItems();
+}
+
+void CBitmapBtnST::DeleteMenusAndBitmaps()
+{
+    m_menuBitmaps.clear();
+    m_bitmapSizes.clear();
+    m_popupMenu.DestroyMenu();
+}
+
+// A picture that is missing leaves an empty bitmap and size.
+void CBitmapBtnST::CopyPictures()
+{
+    const int nCount = BitmapCount();
+    m_menuBitmaps = std::vector<CBitmap>(nCount);
+    m_bitmapSizes.assign(nCount, CSize(0, 0));
+
+    CClientDC dcButton(this);
+    CDC dcSource, dcTarget;
+    dcSource.CreateCompatibleDC(&dcButton);
+    dcTarget.CreateCompatibleDC(&dcButton);
+    dcTarget.SetTextColor(RGB(0, 0, 0));
+    dcTarget.SetBkColor(::GetSysColor(COLOR_MENU));
+    for (int i = 0; i < nCount; ++i)
+    {
+        BITMAP info{};
+        if (!::GetObject(GetBitmap(i), sizeof(info), &info))
+            continue;
+        m_bitmapSizes[i].SetSize(info.bmWidth, info.bmHeight);
+        m_menuBitmaps[i].CreateCompatibleBitmap(&dcButton, info.bmWidth, info.bmHeight);
+        const CGdiSelection source(dcSource, GetBitmap(i));
+        const CGdiSelection target(dcTarget, m_menuBitmaps[i]);
+        dcTarget.BitBlt(0, 0, info.bmWidth, info.bmHeight, &dcSource, 0, 0, SRCCOPY);
+    }
+}
+
+// An item without a picture keeps its place, so that the ids of the others stay what they are.
+void CBitmapBtnST::AppendItems()
+{
+    m_popupMenu.CreatePopupMenu();
+    UINT nId = GetStartWindowMsg();
+    for (const CBitmap& bitmap : m_menuBitmaps)
+    {
+        if (bitmap.GetSafeHandle())
+            m_popupMenu.AppendMenu(MF_BITMAP, nId, &bitmap);
+        else
+            m_popupMenu.AppendMenu(MF_STRING, nId, _T(""));
+        ++nId;
+    }
+}
+
+// ---- Painting ---------------------------------------------------------------------------------------------
+
+DWORD CBitmapBtnST::OnDrawBackground(CDC* pDC, CRect& rect)
+{
+    CButtonST::OnDrawBackground(pDC, rect);
+    const CRect face = gfnDropFace(rect, m_bIsPressed);
+    gfnDrawDropArrow(*pDC, face, m_bIsDisabled);
+    if (!m_bIsDisabled)
+        DrawPicture(*pDC, face);
+    return resultOk;
+}
+
+// Nothing is drawn of a picture that is not there, nor of an index that names none.
+void CBitmapBtnST::DrawPicture(CDC& dc, const CRect& face) const
+{
+    const CRect area = gfnDropPictureArea(face);
+    const int nIndex = m_pnEnumSource ? *m_pnEnumSource : -1;
+    if (nIndex < 0 || nIndex >= static_cast<int>(m_bitmapSizes.size()) || area.IsRectEmpty())
+        return;
+    CDC dcPicture;
+    dcPicture.CreateCompatibleDC(&dc);
+    const CGdiSelection picture(dcPicture, GetBitmap(nIndex));
+    if (!picture)
+        return;
+    const Placing across = PlaceInMiddle(m_bitmapSizes[nIndex].cx, area.Width());
+    const Placing down = PlaceInMiddle(m_bitmapSizes[nIndex].cy, area.Height());
+    const COLORREF crOldText = dc.SetTextColor(RGB(0, 0, 0));
+    const CBkColorScope background(dc, FaceColor(dc, face, area));
+    dc.BitBlt(area.left + across.target, area.top + down.target, across.extent, down.extent, &dcPicture,
+              across.source, down.source, SRCCOPY);
+    dc.SetTextColor(crOldText);
+}
+
+// ---- The classes of the family ----------------------------------------------------------------------------
 
 #define OW_IMPLEMENT_PICTURES(Class, ids)                                                                    \
     decltype(Class::s_pictures) Class::s_pictures;                                                           \
@@ -75,3 +269,8 @@ OW_IMPLEMENT_PICTURES(CBitmapBtnSTVisinskaKota, kVisinskaKota)
 OW_IMPLEMENT_PICTURES(CBitmapBtnSTLinija, kLinija)
 OW_IMPLEMENT_PICTURES(CBitmapBtnSTSimbolPresekaLinija, kLinija)
 OW_IMPLEMENT_PICTURES(CBitmapBtnSTSimbolPresekaZavrsetak, kSimbolPresekaZavrsetak)
+
+UINT CBitmapBtnSTTekstKote::GetStartWindowMsg() const
+{
+    return 0x900A;
+}
