@@ -27,8 +27,11 @@ void gfnTrackDropMenu(CButton& button, CMenu& menu)
         ::SendMessage(hWnd, WM_SETFOCUS, 0, 0);
 }
 
+// A handler may have closed the dialog.
 void gfnEndDropChoice(CButton& button)
 {
+    if (!button.m_hWnd)
+        return;
     button.SendMessage(WM_SETFOCUS);
     button.GetParent()->Invalidate(FALSE);
 }

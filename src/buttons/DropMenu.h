@@ -8,4 +8,5 @@
 void gfnTrackDropMenu(CButton& button, CMenu& menu);
 
 /// To be called when a choice has been dealt with: the button shows its focus again, and the parent is painted anew.
+/// Does nothing if the button has no window any more.
 void gfnEndDropChoice(CButton& button);
