@@ -50,9 +50,8 @@ Placing PlaceInMiddle(int picture, int area)
 /// part of the button is painted, and the middle is not in it, another point of the picture's area has to do.
 COLORREF FaceColor(CDC& dc, const CRect& face, const CRect& area)
 {
-    const COLORREF crMiddle = dc.GetPixel(face.CenterPoint());
-    if (crMiddle != CLR_INVALID)
-        return crMiddle;
+    if (dc.PtVisible(face.CenterPoint()))
+        return dc.GetPixel(face.CenterPoint());
     CRect painted;
     dc.GetClipBox(painted);
     painted.IntersectRect(painted, area);
@@ -98,14 +97,24 @@ END_MESSAGE_MAP()
 void CBitmapBtnST::OnClicked()
 {
     CButtonST::OnClicked();
+    const HWND hWnd = m_hWnd;
+    m_bMenuIsOpen = true;
     gfnTrackDropMenu(*this, m_popupMenu);
+    if (!::IsWindow(hWnd))
+        return; // and the button may have gone with its window
+    m_bMenuIsOpen = false;
+    if (m_bMenuIsStale)
+        CreateMenusAndBitmaps();
 }
 
-// The menu's pictures lie on the former colour of menus.
+// The menu's pictures lie on the former colour of menus. An open menu must not be destroyed: it keeps its
+// pictures until it opens again.
 void CBitmapBtnST::OnSysColorChange()
 {
     CButtonST::OnSysColorChange();
-    CreateMenusAndBitmaps();
+    m_bMenuIsStale = true;
+    if (!m_bMenuIsOpen)
+        CreateMenusAndBitmaps();
 }
 
 // ---- Messages outside the map -----------------------------------------------------------------------------
@@ -113,6 +122,7 @@ void CBitmapBtnST::OnSysColorChange()
 // Made a push button before the base looks at the type.
 void CBitmapBtnST::PreSubclassWindow()
 {
+    m_bMenuIsOpen = false; // a menu of an earlier window
     CreateMenusAndBitmaps();
     SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
     CButtonST::PreSubclassWindow();
@@ -157,6 +167,7 @@ void CBitmapBtnST::CreateMenusAndBitmaps()
     DeleteMenusAndBitmaps();
     CopyPictures();
     AppendItems();
+    m_bMenuIsStale = false;
 }
 
 void CBitmapBtnST::DeleteMenusAndBitmaps()

@@ -36,10 +36,10 @@
 // chosen already. The parent is painted anew afterwards. The parent hears nothing of clicks and choices.
 //
 // Look. Pictures of one bit take on the colour of the button's face and of the menu; their black stays black.
-// While pressed, picture and arrow move by one pixel. A disabled picker shows an engraved arrow and no
-// picture. An icon, a bitmap or a title of the button would be drawn over the picture, and DrawTransparent
-// leaves nothing but the ground: a picker has none of these. It is always a push button, whatever the type of
-// the control that it takes over.
+// While pressed, picture and arrow move by one pixel (the arrow of an even height only sideways). A disabled
+// picker shows an engraved arrow and no picture. An icon, a bitmap or a title of the button would be drawn
+// over the picture, and DrawTransparent leaves nothing but the ground: a picker has none of these. It is
+// always a push button, whatever the type of the control that it takes over.
 //
 // Menu ids. Each button owns its menu and receives its choices itself, so that two pickers may use the same
 // ids. They begin at GetStartWindowMsg().
@@ -108,6 +108,9 @@ private:
     void CopyPictures();
     void AppendItems();
     void DrawPicture(CDC& dc, const CRect& face) const;
+
+    bool m_bMenuIsOpen = false;
+    bool m_bMenuIsStale = false; ///< colours have changed while it was open
 };
 
 /// The pictures of one class. A handle is null where the resource did not load.
