@@ -187,6 +187,36 @@ static void MeasurePlain(Comparison& compare, const Benchmark::Measure& measure)
 }
 static const Benchmark plain("buttons/paint_unthemed", 2.5, MeasurePlain);
 
+/// A picker against a plain button of the same size that shows the same picture as its bitmap.
+static void MeasurePicker(Comparison& compare, const Benchmark::Measure& measure)
+{
+    const HWND hParent = MakeParent();
+    int nIndex = 0;
+    CBitmapBtnSTKotnaLinija picker;
+    picker.SubclassWindow(MakeControl(hParent, 0, BS_PUSHBUTTON));
+    picker.SetEnumSource(&nIndex);
+    CButtonST button;
+    button.SubclassWindow(MakeControl(hParent, 1, BS_PUSHBUTTON));
+    button.SetBitmaps(static_cast<HBITMAP>(::CopyImage(picker.GetBitmap(0), IMAGE_BITMAP, 0, 0, 0)),
+                      RGB(255, 255, 255));
+    picker.SetWindowText(_T(""));
+    button.SetWindowText(_T(""));
+    const Canvas canvas;
+    const auto paint = [&canvas](CButtonST& painted)
+    {
+        DRAWITEMSTRUCT item{};
+        item.hDC = canvas;
+        item.rcItem = CRect(CPoint(0, 0), kSize);
+        for (int i = 0; i < kPaintings; ++i)
+            painted.DrawItem(&item);
+    };
+    compare.Ours([&] { paint(picker); });
+    compare.Bare([&] { paint(button); });
+    measure();
+    ::DestroyWindow(hParent);
+}
+static const Benchmark pickerPaint("buttons/paint_picker", 1.15, MeasurePicker);
+
 static void MeasureWindow(Comparison& compare, const Benchmark::Measure& measure)
 {
     compare.Ours(OpenOurs);

@@ -13,6 +13,7 @@
     CHILD(Font)                    \
     PAGE(Buttons)                  \
     CHILD(LabelsAndFonts)          \
+    PAGE(Pickers)                  \
     PAGE(MessageBoxes)             \
     CHILD(NamesAndFiles)           \
     CHILD(Progress)                \

@@ -193,3 +193,9 @@
 #define IDC_PROGRESS_REACHED 2355
 #define IDC_PROGRESS_CALLS 2356
 #define IDC_PROGRESS_ANSWER 2357
+// Pickers
+#define IDD_PAGE_PICKERS 190
+#define IDC_PICK_FIRST 1800       // nine pickers, from the top
+#define IDC_PICK_VALUE_FIRST 1810 // what is picked, beside them
+#define IDC_PICK_BY_LAYER 1820
+#define IDC_PICK_PREVIEW 1821

@@ -1,0 +1,124 @@
+// Pickers: one for each set of pictures, at work on a drawing.
+
+#include <afxwin.h>
+
+#include "DrawingPreview.h"
+#include "GalleryPage.h"
+#include "resource.h"
+
+namespace
+{
+class CPickersPage : public CGalleryPage, public ABitmapBtnSTNotificationHandler
+{
+public:
+    explicit CPickersPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_PICKERS, host) {}
+
+    int OnInitPageDialog() override;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    void OnBitmapChosen(int nId, int nIndex) override;
+
+    afx_msg void OnByLayer();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    /// A picker, where its index goes, and what the log calls it. Its id is that of its place in the list.
+    struct Choice
+    {
+        CBitmapBtnST& picker;
+        int& value;
+        LPCTSTR pszName;
+    };
+    static constexpr int kChoices = 9;
+
+    void ShowValue(int nChoice);
+    void ShowDrawing();
+
+    CBitmapBtnSTKotnaLinija m_btnDimensionEnds{this};
+    CBitmapBtnSTTekstKote m_btnDimensionText{this};
+    CBitmapBtnSTSrafura m_btnHatch{this};
+    CBitmapBtnSTVisinskaKota m_btnElevation{this};
+    CBitmapBtnSTLinija m_btnLevelLine{this};
+    CBitmapBtnSTSimbolPresekaLinija m_btnSectionLine{this};
+    CBitmapBtnSTSimbolPresekaZavrsetak m_btnLeftEnd{this}, m_btnRightEnd{this};
+    CBitmapBtnSTLinija m_btnGroundLine{this};
+    CDrawingPreview m_preview;
+
+    DrawingStyle m_style;
+    const Choice m_choices[kChoices] = {
+        {m_btnDimensionEnds, m_style.dimensionEnds, _T("Dimension ends")},
+        {m_btnDimensionText, m_style.dimensionText, _T("Dimension text")},
+        {m_btnHatch, m_style.hatch, _T("Hatch")},
+        {m_btnElevation, m_style.elevationMark, _T("Elevation mark")},
+        {m_btnLevelLine, m_style.levelLine, _T("Level line")},
+        {m_btnSectionLine, m_style.sectionLine, _T("Section line")},
+        {m_btnLeftEnd, m_style.leftEnd, _T("Left end")},
+        {m_btnRightEnd, m_style.rightEnd, _T("Right end")},
+        {m_btnGroundLine, m_style.groundLine, _T("Ground line")},
+    };
+};
+
+BEGIN_MESSAGE_MAP(CPickersPage, CGalleryPage)
+    ON_BN_CLICKED(IDC_PICK_BY_LAYER, OnByLayer)
+END_MESSAGE_MAP()
+
+// The layer's line is the continuous one; what was picked comes back with the picker.
+void CPickersPage::OnByLayer()
+{
+    m_btnGroundLine.EnableWindow(IsDlgButtonChecked(IDC_PICK_BY_LAYER) != BST_CHECKED);
+    ShowDrawing();
+}
+
+void CPickersPage::DoDataExchange(CDataExchange* pDX)
+{
+    CGalleryPage::DoDataExchange(pDX);
+    for (int i = 0; i < kChoices; ++i)
+        DDX_Control(pDX, IDC_PICK_FIRST + i, m_choices[i].picker);
+    DDX_Control(pDX, IDC_PICK_PREVIEW, m_preview);
+}
+
+int CPickersPage::OnInitPageDialog()
+{
+    m_style.sectionLine = 5;
+    m_style.leftEnd = m_style.rightEnd = 1;
+    for (int i = 0; i < kChoices; ++i)
+    {
+        m_choices[i].picker.SetEnumSource(&m_choices[i].value);
+        m_choices[i].picker.DrawFlatFocus(TRUE); // for those who go by keyboard
+        ShowValue(i);
+    }
+    CheckDlgButton(IDC_PICK_BY_LAYER, BST_CHECKED);
+    OnByLayer();
+    return TRUE;
+}
+
+void CPickersPage::OnBitmapChosen(int nId, int nIndex)
+{
+    const int nChoice = nId - IDC_PICK_FIRST;
+    Log(m_choices[nChoice].pszName, _T("OnBitmapChosen(%d, %d)"), nId, nIndex);
+    ShowValue(nChoice);
+    ShowDrawing();
+}
+
+void CPickersPage::ShowValue(int nChoice)
+{
+    const auto& [picker, value, pszName] = m_choices[nChoice];
+    CString strText;
+    strText.Format(_T("%d of %d"), value + 1, picker.BitmapCount());
+    SetDlgItemText(IDC_PICK_VALUE_FIRST + nChoice, strText);
+}
+
+void CPickersPage::ShowDrawing()
+{
+    DrawingStyle shown = m_style;
+    if (!m_btnGroundLine.IsWindowEnabled())
+        shown.groundLine = 0;
+    m_preview.Show(shown);
+}
+} // namespace
+
+CPage* AddPickersPage(AGalleryHost& host, CPage* pParent)
+{
+    return AddTitledPage(host, new CPickersPage(host), _T("Pickers"), pParent);
+}
