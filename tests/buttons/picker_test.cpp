@@ -17,12 +17,15 @@
 using owtest::MenuVisit;
 using owtest::OpenMenu;
 using owtest::Surface;
+using testimages::Pixels;
+using testimages::PixelsOf;
 
 namespace
 {
 constexpr COLORREF kBlack = RGB(0, 0, 0);
-constexpr COLORREF kWhite = RGB(255, 255, 255);
-constexpr int kFirst = 1001, kSecond = 1002;
+constexpr COLORREF kFace = RGB(180, 200, 180);
+const CRect kArrow(70, 14, 75, 17);                       // in a button of 80 by 30
+constexpr int kFirst = 1001, kHatch = 1002, kText = 1003; // controls
 
 /// A picker whose inner state a test may look at.
 template <class Picker>
@@ -38,53 +41,57 @@ public:
 
 using Choices = std::vector<std::pair<int, int>>; ///< control id, index
 
-/// Two pickers side by side, and everything that they tell.
-template <class First, class Second>
-class PickerDialog : public CDialog, public ABitmapBtnSTNotificationHandler
+/// Pickers side by side, and everything that they tell. The first and the second share menu ids, the second
+/// and the third do not.
+class PickersDialog : public CDialog, public ABitmapBtnSTNotificationHandler
 {
 public:
-    PickerDialog()
+    PickersDialog()
     {
-        const owtest::DialogTemplate form = owtest::DialogTemplate(L"Pickers", 120, 60)
-                                                .Button(L"", kFirst, 4, 4, 46, 21)
-                                                .Button(L"", kSecond, 54, 4, 46, 21);
+        owtest::DialogTemplate form(L"Pickers", 160, 60);
+        for (short i = 0; i < 3; ++i)
+            form.Button(L"", kFirst + i, 4 + 50 * i, 4, 46, 21);
         EXPECT_TRUE(CreateIndirect(form.get()));
-        first.SubclassDlgItem(kFirst, this);
-        second.SubclassDlgItem(kSecond, this);
-        first.SetEnumSource(&values[0]);
-        second.SetEnumSource(&values[1]);
+        CBitmapBtnST* const pickers[] = {&ends, &hatch, &text};
+        for (int i = 0; i < 3; ++i)
+        {
+            pickers[i]->SubclassDlgItem(kFirst + i, this);
+            pickers[i]->SetEnumSource(&values[i]);
+        }
         ShowWindow(SW_SHOW);
         EXPECT_TRUE(owtest::Activate(m_hWnd));
     }
-    ~PickerDialog() override { DestroyWindow(); }
+    ~PickersDialog() override { DestroyWindow(); }
 
-    Open<First> first{this};
-    Open<Second> second{this};
-    int values[2] = {1, 1};
-    Choices choices;
-    int commands = 0; ///< clicks that reached the dialog
+    CBitmapBtnSTKotnaLinija ends{this};
+    Open<CBitmapBtnSTSrafura> hatch{this};
+    CBitmapBtnSTTekstKote text{this};
+    int values[3] = {1, 1, 1};
     bool closes = false;
+    int clicks = 0; ///< that reached the dialog
 
-    Choices Take() { return std::exchange(choices, {}); }
+    Choices Take() { return std::exchange(m_choices, {}); }
 
 protected:
     void OnBitmapChosen(int nId, int nIndex) override
     {
         EXPECT_EQ(values[nId - kFirst], nIndex) << "the value is stored first";
-        choices.emplace_back(nId, nIndex);
+        m_choices.emplace_back(nId, nIndex);
         if (closes)
             DestroyWindow();
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
-        commands += nCode == BN_CLICKED && !pHandlerInfo;
+        clicks += nCode == BN_CLICKED && !pHandlerInfo;
         return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
-};
-using LinesDialog = PickerDialog<CBitmapBtnSTKotnaLinija, CBitmapBtnSTTekstKote>;
 
-/// Opens a picker's menu with the mouse, and presses keys in it.
-void PickByKeys(CBitmapBtnST& picker, std::initializer_list<WORD> keys)
+private:
+    Choices m_choices;
+};
+
+/// Opens the menu with the mouse, and works on it with keys.
+void Pick(CBitmapBtnST& picker, std::initializer_list<WORD> keys)
 {
     MenuVisit visit([&](OpenMenu&) { owtest::SendKeys(keys); });
     owtest::Click(picker);
@@ -95,170 +102,66 @@ bool ShowsFocus(CButton& button)
 {
     return ::GetFocus() == button.m_hWnd && (button.GetState() & BST_FOCUS);
 }
-
-/// Pictures of every kind: 0 names the place of each pixel by its colour, 1 is missing, 2 has one bit, black
-/// in a white frame.
-class OwnPicker : public CBitmapBtnST
-{
-public:
-    static constexpr int kWidth = 31, kHeight = 12;
-
-    OwnPicker()
-    {
-        std::vector<DWORD> places;
-        for (int i = 0; i < kWidth * kHeight; ++i)
-            places.push_back(testimages::Opaque(PlaceColor(i % kWidth, i / kWidth)));
-        m_places.CreateBitmap(kWidth, kHeight, 1, 32, places.data());
-        const WORD bits[] = {0xFFFF, 0x0180, 0x0180, 0xFFFF}; // bytes from left to right: FF FF, 80 01
-        m_mono.CreateBitmap(16, 4, 1, 1, bits);
-        SetThemeHelper(nullptr);
-        SetFlat(FALSE);
-        SetColor(colorBackOut, kFace);
-    }
-    HBITMAP GetBitmap(int index) const override
-    {
-        return index == 0 ? HBITMAP(m_places) : index == 2 ? HBITMAP(m_mono) : nullptr;
-    }
-    int BitmapCount() const override { return 3; }
-
-    static COLORREF PlaceColor(int x, int y) { return RGB(x, y, 200); }
-    static constexpr COLORREF kFace = RGB(180, 200, 180);
-
-private:
-    CBitmap m_places, m_mono;
-};
-
-/// A picker by itself and a surface of its size.
-class PaintedPicker : public ::testing::Test
-{
-protected:
-    void Make(CSize size)
-    {
-        m_lone = std::make_unique<Lone<OwnPicker>>(size);
-        m_lone->button.SetEnumSource(&m_nIndex);
-        m_size = size;
-    }
-    const Surface& Paint(UINT nItemState = 0, const CRect* pOnly = nullptr)
-    {
-        m_surface = std::make_unique<Surface>(m_size.cx, m_size.cy);
-        if (pOnly)
-            m_surface->dc().IntersectClipRect(pOnly);
-        PaintButton(m_lone->button, *m_surface, nItemState);
-        return *m_surface;
-    }
-    /// What is black or a picture's, the edge left out.
-    CRect Drawn(int right) const
-    {
-        CRect drawn;
-        for (int y = 2; y < m_size.cy - 2; ++y)
-            for (int x = 2; x < right; ++x)
-                if (m_surface->at(x, y) != OwnPicker::kFace)
-                    drawn |= CRect(x, y, x + 1, y + 1);
-        return drawn;
-    }
-
-    std::unique_ptr<Lone<OwnPicker>> m_lone;
-    std::unique_ptr<Surface> m_surface;
-    CSize m_size;
-    int m_nIndex = 0;
-};
 } // namespace
 
 // ---- The user ---------------------------------------------------------------------------------------------
 
-TEST(PickerInput, TheKeyboardOpensTheMenuAndChooses)
+TEST(PickerInput, TheKeyboardOpensTheMenuAndChoosesAndEscapeLeavesEverything)
 {
-    LinesDialog dialog;
-    for (const WORD opener : {VK_SPACE, VK_RETURN})
+    PickersDialog dialog;
+    dialog.ends.SetFocus();
+    CRect button;
+    dialog.ends.GetWindowRect(button);
+    for (const auto& [opener, last, value] :
+         {std::tuple<WORD, WORD, int>(VK_SPACE, VK_ESCAPE, 1), {VK_RETURN, VK_RETURN, 2}})
     {
-        dialog.first.SetFocus();
-        bool bFocusInMenu = true;
-        CPoint corner;
+        CRect menuRect;
         MenuVisit visit(
-            [&](OpenMenu& menu)
+            [&, key = last](OpenMenu& menu)
             {
-                CRect rect;
-                ::GetWindowRect(menu.window, rect);
-                corner = rect.TopLeft();
-                bFocusInMenu = ShowsFocus(dialog.first);
-                owtest::SendKeys({VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_DOWN, VK_RETURN});
+                ::GetWindowRect(menu.window, menuRect);
+                EXPECT_FALSE(ShowsFocus(dialog.ends));
+                owtest::SendKeys({VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_DOWN, key});
             });
         owtest::Press(opener);
-        EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 2}})) << opener;
-        CRect button;
-        dialog.first.GetWindowRect(button);
-        EXPECT_EQ(corner, CPoint(button.right + 1, button.top));
-        EXPECT_FALSE(bFocusInMenu);
-        EXPECT_TRUE(ShowsFocus(dialog.first));
+        EXPECT_EQ(menuRect.TopLeft(), CPoint(button.right + 1, button.top));
+        EXPECT_EQ(dialog.values[0], value);
+        EXPECT_EQ(dialog.Take().size(), last == VK_RETURN ? 1u : 0u);
+        EXPECT_TRUE(ShowsFocus(dialog.ends));
     }
-    EXPECT_EQ(dialog.commands, 0) << "the dialog is not told";
+    EXPECT_EQ(dialog.clicks, 0);
 }
 
 TEST(PickerInput, TheMouseChoosesAndAChosenPictureMayBeChosenAgain)
 {
-    LinesDialog dialog;
+    PickersDialog dialog;
     for (int i = 0; i < 2; ++i)
     {
         MenuVisit visit([](OpenMenu& menu) { owtest::SendClick(menu.ItemRect(20).CenterPoint()); });
-        owtest::Click(dialog.first);
+        owtest::Click(dialog.ends);
         EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 20}}));
     }
 }
 
-TEST(PickerInput, EscapeLeavesEverythingAndTheFocusMark)
-{
-    LinesDialog dialog;
-    PickByKeys(dialog.first, {VK_DOWN, VK_DOWN, VK_DOWN, VK_ESCAPE});
-    EXPECT_EQ(dialog.values[0], 1);
-    EXPECT_EQ(dialog.Take(), Choices{});
-    EXPECT_TRUE(ShowsFocus(dialog.first));
-}
-
 TEST(PickerInput, PickersStandSideBySideWithTheSameMenuIdsOrOthers)
 {
-    const auto expectOwn = [](auto&& dialog)
-    {
-        PickByKeys(dialog.first, {VK_DOWN, VK_RETURN});
-        PickByKeys(dialog.second, {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
-        EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 0}, {kSecond, 2}}));
-        EXPECT_EQ(dialog.values[0], 0);
-        EXPECT_EQ(dialog.values[1], 2);
-    };
-    expectOwn(PickerDialog<CBitmapBtnSTSrafura, CBitmapBtnSTSimbolPresekaZavrsetak>());
-    expectOwn(PickerDialog<CBitmapBtnSTSrafura, CBitmapBtnSTTekstKote>());
+    PickersDialog dialog;
+    Pick(dialog.ends, {VK_DOWN, VK_RETURN});
+    Pick(dialog.text, {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
+    Pick(dialog.hatch, {VK_UP, VK_RETURN});
+    EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 0}, {kText, 2}, {kHatch, 9}}));
+    EXPECT_EQ(std::vector<int>(dialog.values, dialog.values + 3), (std::vector<int>{0, 9, 2}));
 }
 
-TEST(PickerInput, AChoiceMayCloseTheDialog)
+TEST(PickerInput, TheDialogMayGoInTheHandlerAndWhileTheMenuIsOpen)
 {
-    LinesDialog dialog;
-    dialog.closes = true;
-    PickByKeys(dialog.first, {VK_DOWN, VK_RETURN});
-    EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 0}}));
-}
-
-TEST(PickerInput, ColoursMayChangeWhileTheMenuIsOpen)
-{
-    LinesDialog dialog;
-    MenuVisit visit(
-        [&](OpenMenu&)
-        {
-            dialog.first.SendMessage(WM_SYSCOLORCHANGE);
-            owtest::SendKeys({VK_ESCAPE});
-        });
-    owtest::Click(dialog.first);
-    EXPECT_EQ(visit.Count(), 1);
-    PickByKeys(dialog.first, {VK_DOWN, VK_RETURN});
-    EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 0}}));
-}
-
-TEST(PickerInput, TheDialogMayGoWhileTheMenuIsOpen)
-{
-    auto pDialog = std::make_unique<LinesDialog>();
+    auto pDialog = std::make_unique<PickersDialog>();
     MenuVisit visit([&](OpenMenu&) { pDialog.reset(); });
-    owtest::Click(pDialog->first);
+    owtest::Click(pDialog->ends);
     EXPECT_EQ(visit.Count(), 1);
-    LinesDialog other;
-    PickByKeys(other.first, {VK_DOWN, VK_RETURN});
+    PickersDialog other;
+    other.closes = true;
+    Pick(other.ends, {VK_DOWN, VK_RETURN});
     EXPECT_EQ(other.Take(), (Choices{{kFirst, 0}}));
 }
 
@@ -266,9 +169,9 @@ TEST(PickerInput, GivesBackWhatItTook)
 {
     const auto open = []
     {
-        LinesDialog dialog;
-        PickByKeys(dialog.second, {VK_DOWN, VK_RETURN});
-        dialog.first.SendMessage(WM_SYSCOLORCHANGE);
+        PickersDialog dialog;
+        Pick(dialog.text, {VK_DOWN, VK_RETURN});
+        dialog.ends.SendMessage(WM_SYSCOLORCHANGE);
     };
     open();
     const owtest::HandleCount before = owtest::CountHandles();
@@ -279,49 +182,28 @@ TEST(PickerInput, GivesBackWhatItTook)
 
 // ---- The menu ---------------------------------------------------------------------------------------------
 
-namespace
-{
-/// A colour as pixels hold it, without transparency.
-DWORD Swapped(COLORREF cr)
-{
-    return testimages::Opaque(cr) & 0xFFFFFF;
-}
-
-testimages::Pixels Colors(HBITMAP hBitmap)
-{
-    testimages::Pixels pixels = testimages::PixelsOf(hBitmap);
-    for (DWORD& pixel : pixels)
-        pixel &= 0xFFFFFF;
-    return pixels;
-}
-
-/// Expects a menu of all pictures, black on the colour of menus.
 template <class Picker>
-void ExpectMenu(UINT nFirstId, CSize size)
+static void ExpectMenu(UINT nFirstId, CSize size)
 {
     const Lone<Open<Picker>> lone(CSize(70, 30));
     const auto& picker = lone.button;
-    const int nCount = picker.BitmapCount();
-    ASSERT_EQ(::GetMenuItemCount(picker.m_popupMenu), nCount);
-    ASSERT_EQ(static_cast<int>(picker.m_bitmapSizes.size()), nCount);
-    for (int i = 0; i < nCount; ++i)
+    ASSERT_EQ(::GetMenuItemCount(picker.m_popupMenu), picker.BitmapCount());
+    for (int i = 0; i < picker.BitmapCount(); ++i)
     {
         MENUITEMINFO item{};
         item.cbSize = sizeof(item);
         item.fMask = MIIM_ID | MIIM_BITMAP;
         ::GetMenuItemInfo(picker.m_popupMenu, i, TRUE, &item);
         EXPECT_EQ(item.wID, nFirstId + i);
-        EXPECT_EQ(item.hbmpItem, static_cast<HBITMAP>(picker.m_menuBitmaps[i]));
-        EXPECT_EQ(picker.m_bitmapSizes[i], size);
+        EXPECT_EQ(picker.m_bitmapSizes.at(i), size);
 
-        testimages::Pixels wanted = Colors(picker.GetBitmap(i));
+        Pixels wanted = PixelsOf(picker.GetBitmap(i));
         for (DWORD& pixel : wanted)
-            pixel = pixel == kBlack ? kBlack : Swapped(::GetSysColor(COLOR_MENU));
-        EXPECT_EQ(Colors(picker.m_menuBitmaps[i]), wanted) << "picture " << i;
+            pixel = pixel == kBlack ? kBlack : ::GetSysColor(COLOR_MENU);
+        EXPECT_EQ(PixelsOf(item.hbmpItem), wanted) << "picture " << i;
         EXPECT_GT(std::count(wanted.begin(), wanted.end(), kBlack), 10) << "picture " << i;
     }
 }
-} // namespace
 
 TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
 {
@@ -334,129 +216,148 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
     ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864, CSize(32, 24));
 }
 
-TEST(PickerMenu, IsMadeAnewWhenColoursChange)
+TEST(PickerMenu, IsMadeAnewWhenColoursChangeOrOnceItIsClosed)
 {
-    Lone<Open<CBitmapBtnSTSrafura>> lone(CSize(70, 30));
-    auto& picker = lone.button;
-    picker.SetColor(CButtonST::colorBackOut, RGB(1, 2, 3));
-    const testimages::Pixels before = Colors(picker.GetBitmap(0));
-    const auto nBlack = std::count(before.begin(), before.end(), kBlack);
-    const int menuColor = COLOR_MENU;
-    const COLORREF crOld = ::GetSysColor(COLOR_MENU), crNew = RGB(250, 240, 200);
-    ::SetSysColors(1, &menuColor, &crNew);
-    picker.SendMessage(WM_SYSCOLORCHANGE);
-    const testimages::Pixels shown = Colors(picker.m_menuBitmaps[0]);
-    ::SetSysColors(1, &menuColor, &crOld);
-    EXPECT_EQ(std::count(shown.begin(), shown.end(), kBlack), nBlack);
-    EXPECT_EQ(std::count(shown.begin(), shown.end(), Swapped(crNew)), 32 * 24 - nBlack);
-    EXPECT_EQ(::GetMenuItemCount(picker.m_popupMenu), 10);
-    COLORREF cr = 0;
-    picker.GetColor(CButtonST::colorBackOut, &cr);
-    EXPECT_EQ(cr, ::GetSysColor(COLOR_BTNFACE)) << "as every button";
-}
+    PickersDialog dialog;
+    const auto ground = [&] { return PixelsOf(dialog.hatch.m_menuBitmaps.at(0)).at(33); };
+    const auto change = [&](COLORREF cr)
+    {
+        const int nMenu = COLOR_MENU;
+        ::SetSysColors(1, &nMenu, &cr);
+        dialog.hatch.SendMessage(WM_SYSCOLORCHANGE);
+    };
+    const COLORREF crOld = ::GetSysColor(COLOR_MENU), crNew = RGB(200, 240, 200);
+    dialog.hatch.SetColor(CButtonST::colorBackOut, RGB(1, 2, 3));
+    change(crNew);
+    EXPECT_EQ(ground(), crNew);
+    COLORREF crFace = 0;
+    dialog.hatch.GetColor(CButtonST::colorBackOut, &crFace);
+    EXPECT_EQ(crFace, ::GetSysColor(COLOR_BTNFACE)) << "as every button";
 
-TEST(PickerMenu, KeepsAPlaceForAPictureThatIsMissing)
-{
-    const HMODULE hLibrary = ::GetModuleHandle(L"DialogControlsOW.dll");
-    Lone<Open<CBitmapBtnSTVisinskaKota>> lone(CSize(60, 40));
-    int nIndex = 1;
-    lone.button.SetEnumSource(&nIndex);
-    Surface with(60, 40), without(60, 40), again(60, 40);
-    PaintButton(lone.button, with);
-    CBitmapBtnSTVisinskaKota::UnloadBitmaps();
-    PaintButton(lone.button, without);
-    lone.button.SendMessage(WM_SYSCOLORCHANGE);
-    EXPECT_EQ(::GetMenuItemCount(lone.button.m_popupMenu), 3);
-    EXPECT_EQ(::GetMenuItemID(lone.button.m_popupMenu, 2), 36866u);
-    CBitmapBtnSTVisinskaKota::LoadBitmaps(hLibrary);
-    lone.button.SendMessage(WM_SYSCOLORCHANGE);
-    PaintButton(lone.button, again);
-    EXPECT_FALSE(with == without);
-    EXPECT_TRUE(with == again);
+    MenuVisit visit(
+        [&](OpenMenu&)
+        {
+            change(crOld);
+            EXPECT_EQ(ground(), crNew);
+            owtest::SendKeys({VK_ESCAPE});
+        });
+    owtest::Click(dialog.hatch);
+    EXPECT_EQ(visit.Count(), 1);
+    EXPECT_EQ(ground(), crOld);
 }
 
 // Wanted: no lower bound, and the handler hears of every command.
 TEST(PickerCommand, IsStoredBelowTheEndOfTheMenuAndAlwaysTold)
 {
-    LinesDialog dialog;
-    const struct
-    {
-        WPARAM command;
-        int stored;
-    } cases[] = {{36874, 0},  {36879, 5},           {36880, 1},
-                 {36873, -1}, {IDOK, IDOK - 36874}, {MAKEWPARAM(36875, 1), 1}};
+    PickersDialog dialog;
+    const std::pair<WPARAM, int> cases[] = {{36874, 0},  {36879, 5},           {36880, 1},
+                                            {36873, -1}, {IDOK, IDOK - 36874}, {MAKEWPARAM(36875, 1), 1}};
     for (const auto& [command, stored] : cases)
     {
-        dialog.values[1] = 1;
-        dialog.second.SendMessage(WM_COMMAND, command);
-        EXPECT_EQ(dialog.values[1], stored) << command;
-        EXPECT_EQ(dialog.Take(), (Choices{{kSecond, stored}}));
+        dialog.values[2] = 1;
+        dialog.text.SendMessage(WM_COMMAND, command);
+        EXPECT_EQ(dialog.Take(), (Choices{{kText, stored}})) << command;
     }
-}
-
-TEST(PickerCommand, NeedsNeitherSourceNorHandler)
-{
-    struct Listener : ABitmapBtnSTNotificationHandler
-    {
-        int told = -1;
-        void OnBitmapChosen(int, int nIndex) override { told = nIndex; }
-    } listener;
-    CWnd parent;
-    parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, CRect(0, 0, 90, 90), nullptr, 0);
-    CBitmapBtnSTSrafura bound(&listener), silent;
-    int nIndex = 4;
-    bound.SetEnumSource(&nIndex);
-    EXPECT_EQ(bound.GetEnumSource(), 4);
-    bound.SetEnumSource(nullptr);
-    silent.SetEnumSource(&nIndex);
-    for (CBitmapBtnST* pPicker : {&bound, &silent})
-    {
-        pPicker->Create(_T(""), WS_CHILD, CRect(0, 0, 60, 40), &parent, 7);
-        pPicker->SendMessage(WM_COMMAND, 36864 + 6);
-    }
-    EXPECT_EQ(listener.told, 0);
-    EXPECT_EQ(bound.GetEnumSource(), 0);
-    EXPECT_EQ(nIndex, 6);
+    dialog.values[2] = 0; // what the handler is told without a source
+    dialog.text.SetEnumSource(nullptr);
+    dialog.text.SendMessage(WM_COMMAND, 36876);
+    EXPECT_EQ(dialog.Take(), (Choices{{kText, 0}}));
+    EXPECT_EQ(dialog.values[2], 0);
 }
 
 TEST(PickerButton, IsAPushButtonWhateverItTakesOver)
 {
     for (const DWORD dwType : {BS_OWNERDRAW, BS_AUTOCHECKBOX, BS_DEFPUSHBUTTON})
     {
-        const Lone<Open<CBitmapBtnSTLinija>> lone(CSize(70, 30), _T(""), dwType);
-        EXPECT_FALSE(lone.button.m_bIsCheckBox) << dwType;
-        EXPECT_FALSE(lone.button.GetDefault());
-        EXPECT_EQ(lone.button.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
+        Lone<Open<CBitmapBtnSTLinija>> lone(CSize(70, 30), _T(""), dwType);
+        EXPECT_FALSE(lone.button.m_bIsCheckBox || lone.button.GetDefault()) << dwType;
+        int nIndex = 3;
+        lone.button.SetEnumSource(&nIndex);
+        lone.button.SendMessage(WM_COMMAND, 36866); // there is no handler
+        EXPECT_EQ(lone.button.GetEnumSource(), 2);
     }
 }
 
 // ---- Painting ---------------------------------------------------------------------------------------------
 
+namespace
+{
+/// Pictures of every kind: 0 names the place of each pixel by its colour, 1 is missing, 2 has one bit: a
+/// white frame around black.
+class OwnPicker : public CBitmapBtnST
+{
+public:
+    static constexpr int kWidth = 31, kHeight = 12;
+
+    OwnPicker()
+    {
+        Pixels places;
+        for (int i = 0; i < kWidth * kHeight; ++i)
+            places.push_back(testimages::Opaque(PlaceColor(i % kWidth, i / kWidth)));
+        m_pictures[0].CreateBitmap(kWidth, kHeight, 1, 32, places.data());
+        const BYTE bits[] = {0xFF, 0xFF, 0x80, 0x01, 0x80, 0x01, 0xFF, 0xFF};
+        m_pictures[2].CreateBitmap(16, 4, 1, 1, bits);
+        SetThemeHelper(nullptr);
+        SetFlat(FALSE);
+        SetColor(colorBackOut, kFace);
+        SetColor(colorBackIn, kFace);
+    }
+    HBITMAP GetBitmap(int index) const override { return m_pictures[index]; }
+    int BitmapCount() const override { return 3; }
+    static COLORREF PlaceColor(int x, int y) { return RGB(x, y, 200); }
+    using CBitmapBtnST::m_popupMenu;
+
+private:
+    CBitmap m_pictures[3];
+};
+
+class PaintedPicker : public ::testing::Test
+{
+protected:
+    void Make(CSize size)
+    {
+        m_lone = std::make_unique<Lone<OwnPicker>>(size);
+        m_lone->button.SetEnumSource(&m_nIndex);
+        m_rect = CRect(CPoint(0, 0), size);
+    }
+    /// Paints the picker, or a part of it; what is then drawn on the face left of the arrow.
+    CRect Paint(UINT nItemState = 0, const CRect& part = CRect(0, 0, 200, 200))
+    {
+        m_surface = std::make_unique<Surface>(m_rect.right, m_rect.bottom);
+        m_surface->dc().IntersectClipRect(part);
+        PaintButton(m_lone->button, *m_surface, nItemState);
+        CRect drawn;
+        for (int y = 2; y < m_rect.bottom - 2; ++y)
+            for (int x = 2; x < m_rect.right - 12; ++x)
+                if (m_surface->at(x, y) != kFace)
+                    drawn |= CRect(x, y, x + 1, y + 1);
+        return drawn;
+    }
+
+    std::unique_ptr<Lone<OwnPicker>> m_lone;
+    std::unique_ptr<Surface> m_surface;
+    CRect m_rect;
+    int m_nIndex = 0;
+};
+} // namespace
+
 // The picture area is 19 pixels narrower and 10 lower than the button.
 TEST_F(PaintedPicker, LaysThePictureInTheMiddle)
 {
     const int w = OwnPicker::kWidth, h = OwnPicker::kHeight;
-    const struct
-    {
-        const char* name;
-        CSize button;
-        CRect drawn;
-        CPoint source; ///< of the first pixel
-    } cases[] = {
-        {"equal", {w + 19, h + 10}, {5, 5, 5 + w, 5 + h}, {0, 0}},
-        {"smaller", {w + 19 + 9, h + 10 + 5}, {5 + 4, 5 + 2, 5 + 4 + w, 5 + 2 + h}, {0, 0}},
-        {"larger", {w + 19 - 9, h + 10 - 5}, {5, 5, 5 + w - 9, 5 + h - 5}, {4, 2}},
-        {"larger across, smaller down", {w + 19 - 2, h + 10 + 2}, {5, 6, 5 + w - 2, 6 + h}, {1, 0}},
+    const std::tuple<CSize, CRect, CPoint> cases[] = {
+        {{w + 19, h + 10}, {5, 5, 5 + w, 5 + h}, {0, 0}},
+        {{w + 19 + 9, h + 10 + 5}, {9, 7, 9 + w, 7 + h}, {0, 0}},
+        {{w + 19 - 9, h + 10 - 5}, {5, 5, 5 + w - 9, 5 + h - 5}, {4, 2}},
+        {{w + 19 - 2, h + 10 + 2}, {5, 6, 5 + w - 2, 6 + h}, {1, 0}},
     };
-    for (const auto& [name, button, drawn, source] : cases)
+    for (const auto& [button, drawn, source] : cases)
     {
         Make(button);
-        Paint();
-        EXPECT_EQ(Drawn(button.cx - 12), drawn) << name;
-        EXPECT_EQ(m_surface->at(drawn.left, drawn.top), OwnPicker::PlaceColor(source.x, source.y)) << name;
-        EXPECT_EQ(m_surface->at(drawn.right - 1, drawn.bottom - 1),
-                  OwnPicker::PlaceColor(source.x + drawn.Width() - 1, source.y + drawn.Height() - 1))
-            << name;
+        EXPECT_EQ(Paint(), drawn);
+        for (const CPoint at : {CPoint(0, 0), CPoint(drawn.Width() - 1, drawn.Height() - 1)})
+            EXPECT_EQ(m_surface->at(drawn.left + at.x, drawn.top + at.y),
+                      OwnPicker::PlaceColor(source.x + at.x, source.y + at.y));
     }
 }
 
@@ -466,19 +367,15 @@ TEST_F(PaintedPicker, MovesByOneWhilePressedAndIsEngravedWhileDisabled)
     for (const auto& [nHeight, moved] : {std::pair(31, CPoint(1, 1)), {30, CPoint(1, 0)}})
     {
         Make(CSize(80, nHeight));
-        m_lone->button.SetColor(CButtonST::colorBackIn, OwnPicker::kFace);
-        const CRect arrow(70, 14, 75, 17);
-        EXPECT_EQ(Paint().extent(kBlack), arrow);
-        const CRect picture = Drawn(68);
-        EXPECT_EQ(Paint(ODS_SELECTED).extent(kBlack), arrow + moved);
-        EXPECT_EQ(Drawn(68), picture + CPoint(1, 1));
+        const CRect picture = Paint();
+        EXPECT_EQ(m_surface->extent(kBlack), kArrow);
+        EXPECT_EQ(Paint(ODS_SELECTED), picture + CPoint(1, 1));
+        EXPECT_EQ(m_surface->extent(kBlack), kArrow + moved);
 
-        const Surface& disabled = Paint(ODS_DISABLED);
-        EXPECT_TRUE(Drawn(68).IsRectEmpty()) << "no picture";
-        EXPECT_TRUE(disabled.extent(kBlack).IsRectEmpty());
-        for (int step = 0; step < 3; ++step)
-            EXPECT_EQ(disabled.at(74 - step, 14 + step), kWhite);
-        EXPECT_EQ(disabled.at(70, 14), ::GetSysColor(COLOR_BTNSHADOW));
+        EXPECT_TRUE(Paint(ODS_DISABLED).IsRectEmpty());
+        EXPECT_TRUE(m_surface->extent(kBlack).IsRectEmpty());
+        EXPECT_EQ(m_surface->at(72, 16), RGB(255, 255, 255));
+        EXPECT_EQ(m_surface->at(70, 14), ::GetSysColor(COLOR_BTNSHADOW));
     }
 }
 
@@ -486,21 +383,17 @@ TEST_F(PaintedPicker, APictureOfOneBitTakesOnTheFace)
 {
     Make(CSize(80, 30));
     m_nIndex = 2;
-    m_lone->button.SetColor(CButtonST::colorBackIn, RGB(10, 220, 30));
-    for (const auto& [state, face] : {std::pair(0u, OwnPicker::kFace), {ODS_SELECTED, RGB(10, 220, 30)}})
+    const CRect frame(CPoint(27, 13), CSize(16, 4));
+    for (const COLORREF crFace : {RGB(10, 220, 30), kFace})
     {
-        const CPoint at = CPoint(27, 13) + (state ? CPoint(1, 1) : CPoint(0, 0));
-        const Surface& picture = Paint(state);
-        EXPECT_EQ(picture.at(at.x, at.y), face);
-        EXPECT_EQ(picture.at(at.x + 1, at.y + 1), kBlack);
-        EXPECT_EQ(picture.count(CRect(at, CSize(16, 4)), kBlack), 14 * 2);
-        EXPECT_EQ(picture.count(CRect(at, CSize(16, 4)), face), 64 - 14 * 2);
+        m_lone->button.SetColor(CButtonST::colorBackOut, crFace);
+        Paint();
+        EXPECT_EQ(m_surface->count(frame, kBlack), 14 * 2);
+        EXPECT_EQ(m_surface->count(frame, crFace), 64 - 14 * 2);
     }
-    // Only a part is painted, and the middle is not in it.
-    const CRect part(28, 0, 35, 30);
-    const Surface& partly = Paint(0, &part);
-    EXPECT_EQ(partly.at(30, 13), OwnPicker::kFace);
-    EXPECT_EQ(partly.at(30, 14), kBlack);
+    Paint(0, CRect(28, 0, 35, 30)); // the middle is not in it
+    EXPECT_EQ(m_surface->at(30, 13), kFace);
+    EXPECT_EQ(m_surface->at(30, 14), kBlack);
 }
 
 TEST_F(PaintedPicker, IsEmptyWhereThereIsNoPictureToShow)
@@ -509,19 +402,19 @@ TEST_F(PaintedPicker, IsEmptyWhereThereIsNoPictureToShow)
     for (const int index : {1, -1, 3, INT_MAX, INT_MIN})
     {
         m_nIndex = index;
-        EXPECT_EQ(Paint().extent(kBlack), CRect(70, 14, 75, 17)) << "the arrow shows; index " << index;
-        EXPECT_TRUE(Drawn(68).IsRectEmpty()) << index;
+        EXPECT_TRUE(Paint().IsRectEmpty()) << index;
+        EXPECT_EQ(m_surface->extent(kBlack), kArrow) << index;
     }
     m_nIndex = 0;
-    EXPECT_FALSE((Paint(), Drawn(68)).IsRectEmpty());
+    EXPECT_FALSE(Paint().IsRectEmpty());
     m_lone->button.SetEnumSource(nullptr);
-    EXPECT_TRUE((Paint(), Drawn(68)).IsRectEmpty());
+    EXPECT_TRUE(Paint().IsRectEmpty());
+    for (const int item : {0, 1, 2}) // a missing picture keeps its place
+        EXPECT_EQ(::GetMenuItemID(m_lone->button.m_popupMenu, item), 36864u + item);
 
-    for (const CSize size : {CSize(19, 30), CSize(80, 10), CSize(12, 6)})
+    for (const CSize size : {CSize(19, 30), CSize(80, 10), CSize(12, 6)}) // no room
     {
         Make(size);
-        Paint();
-        const CRect left(2, 2, size.cx - 12, size.cy - 2);
-        EXPECT_EQ(m_surface->count(left, OwnPicker::kFace), std::max(0, left.Width()) * left.Height());
+        EXPECT_TRUE(Paint().IsRectEmpty());
     }
 }
