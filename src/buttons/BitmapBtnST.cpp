@@ -177,7 +177,8 @@ void CBitmapBtnST::DeleteMenusAndBitmaps()
     m_popupMenu.DestroyMenu();
 }
 
-// A picture that is missing leaves an empty bitmap and size.
+// A picture of one bit takes on the colours of the context that it is copied to: black, as every new context
+// has it, on the colour of menus. A picture that is missing leaves an empty bitmap and size.
 void CBitmapBtnST::CopyPictures()
 {
     const int nCount = BitmapCount();
@@ -188,7 +189,6 @@ void CBitmapBtnST::CopyPictures()
     CDC dcSource, dcTarget;
     dcSource.CreateCompatibleDC(&dcButton);
     dcTarget.CreateCompatibleDC(&dcButton);
-    dcTarget.SetTextColor(RGB(0, 0, 0));
     dcTarget.SetBkColor(::GetSysColor(COLOR_MENU));
     for (int i = 0; i < nCount; ++i)
     {

@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <memory>
 
@@ -156,10 +157,22 @@ TEST(PickerInput, PickersStandSideBySideWithTheSameMenuIdsOrOthers)
 TEST(PickerInput, TheDialogMayGoInTheHandlerAndWhileTheMenuIsOpen)
 {
     auto pDialog = std::make_unique<PickersDialog>();
+    {
+        MenuVisit visit([&](OpenMenu&) { pDialog->DestroyWindow(); });
+        owtest::Click(pDialog->hatch);
+        EXPECT_EQ(visit.Count(), 1);
+    }
+    PickersDialog other;
+    ASSERT_TRUE(pDialog->hatch.Create(_T(""), WS_CHILD, CRect(0, 0, 60, 40), &other, 9));
+    const HMENU hMenu = pDialog->hatch.m_popupMenu;
+    pDialog->hatch.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_NE(pDialog->hatch.m_popupMenu, hMenu) << "taken over anew, its menu is not open";
+
+    pDialog = std::make_unique<PickersDialog>();
     MenuVisit visit([&](OpenMenu&) { pDialog.reset(); });
     owtest::Click(pDialog->ends);
     EXPECT_EQ(visit.Count(), 1);
-    PickersDialog other;
+    owtest::Activate(other);
     other.closes = true;
     Pick(other.ends, {VK_DOWN, VK_RETURN});
     EXPECT_EQ(other.Take(), (Choices{{kFirst, 0}}));
@@ -244,6 +257,9 @@ TEST(PickerMenu, IsMadeAnewWhenColoursChangeOrOnceItIsClosed)
     owtest::Click(dialog.hatch);
     EXPECT_EQ(visit.Count(), 1);
     EXPECT_EQ(ground(), crOld);
+    change(crNew);
+    EXPECT_EQ(ground(), crNew);
+    change(crOld);
 }
 
 // Wanted: no lower bound, and the handler hears of every command.
@@ -302,13 +318,13 @@ public:
         SetColor(colorBackOut, kFace);
         SetColor(colorBackIn, kFace);
     }
-    HBITMAP GetBitmap(int index) const override { return m_pictures[index]; }
+    HBITMAP GetBitmap(int index) const override { return m_pictures.at(index); }
     int BitmapCount() const override { return 3; }
     static COLORREF PlaceColor(int x, int y) { return RGB(x, y, 200); }
     using CBitmapBtnST::m_popupMenu;
 
 private:
-    CBitmap m_pictures[3];
+    std::array<CBitmap, 3> m_pictures;
 };
 
 class PaintedPicker : public ::testing::Test
