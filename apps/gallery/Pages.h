@@ -8,7 +8,7 @@
 #define GALLERY_PAGES(PAGE, CHILD) \
     PAGE(TextBoxes)                \
     CHILD(Numbers)                 \
-    PAGE(LabelTemplates)           \
+    CHILD(LabelTemplates)          \
     PAGE(Combos)                   \
     CHILD(Font)                    \
     PAGE(Buttons)                  \

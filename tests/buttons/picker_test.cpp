@@ -94,7 +94,7 @@ private:
 /// Opens the menu with the mouse, and works on it with keys.
 void Pick(CBitmapBtnST& picker, std::initializer_list<WORD> keys)
 {
-    MenuVisit visit([&](OpenMenu&) { owtest::SendKeys(keys); });
+    MenuVisit visit([&](const OpenMenu& menu) { menu.Press(keys); });
     owtest::Click(picker);
     EXPECT_EQ(visit.Count(), 1);
 }
@@ -118,11 +118,11 @@ TEST(PickerInput, TheKeyboardOpensTheMenuAndChoosesAndEscapeLeavesEverything)
     {
         CRect menuRect;
         MenuVisit visit(
-            [&, key = last](OpenMenu& menu)
+            [&, key = last](const OpenMenu& menu)
             {
-                ::GetWindowRect(menu.window, menuRect);
+                ::GetWindowRect(menu.Window(), menuRect);
                 EXPECT_FALSE(ShowsFocus(dialog.ends));
-                owtest::SendKeys({VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_DOWN, key});
+                menu.Press({VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_DOWN, key});
             });
         owtest::Press(opener);
         EXPECT_EQ(menuRect.TopLeft(), CPoint(button.right + 1, button.top));
@@ -138,7 +138,7 @@ TEST(PickerInput, TheMouseChoosesAndAChosenPictureMayBeChosenAgain)
     PickersDialog dialog;
     for (int i = 0; i < 2; ++i)
     {
-        MenuVisit visit([](OpenMenu& menu) { owtest::SendClick(menu.ItemRect(20).CenterPoint()); });
+        MenuVisit visit([](const OpenMenu& menu) { menu.Click(20); });
         owtest::Click(dialog.ends);
         EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 20}}));
     }
@@ -158,7 +158,7 @@ TEST(PickerInput, TheDialogMayGoInTheHandlerAndWhileTheMenuIsOpen)
 {
     auto pDialog = std::make_unique<PickersDialog>();
     {
-        MenuVisit visit([&](OpenMenu&) { pDialog->DestroyWindow(); });
+        MenuVisit visit([&](const OpenMenu&) { pDialog->DestroyWindow(); });
         owtest::Click(pDialog->hatch);
         EXPECT_EQ(visit.Count(), 1);
     }
@@ -169,7 +169,7 @@ TEST(PickerInput, TheDialogMayGoInTheHandlerAndWhileTheMenuIsOpen)
     EXPECT_NE(pDialog->hatch.m_popupMenu, hMenu) << "taken over anew, its menu is not open";
 
     pDialog = std::make_unique<PickersDialog>();
-    MenuVisit visit([&](OpenMenu&) { pDialog.reset(); });
+    MenuVisit visit([&](const OpenMenu&) { pDialog.reset(); });
     owtest::Click(pDialog->ends);
     EXPECT_EQ(visit.Count(), 1);
     owtest::Activate(other);
@@ -248,11 +248,11 @@ TEST(PickerMenu, IsMadeAnewWhenColoursChangeOrOnceItIsClosed)
     EXPECT_EQ(crFace, ::GetSysColor(COLOR_BTNFACE)) << "as every button";
 
     MenuVisit visit(
-        [&](OpenMenu&)
+        [&](const OpenMenu& menu)
         {
             change(crOld);
             EXPECT_EQ(ground(), crNew);
-            owtest::SendKeys({VK_ESCAPE});
+            menu.Press({VK_ESCAPE});
         });
     owtest::Click(dialog.hatch);
     EXPECT_EQ(visit.Count(), 1);

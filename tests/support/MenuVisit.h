@@ -5,10 +5,11 @@
 //     owtest::Click(button);
 //     EXPECT_EQ(visit.Count(), 1);
 //
-// The visitor is called once: for the first menu that this thread shows after the object was made. A menu takes
-// its input from the queue in a loop of its own, so a visitor must not pump: what it presses and clicks is worked
-// off when it has returned; and no exception may leave it. A menu that is open long after that is closed, so that a
-// test fails and does not hang.
+// The visitor is called once, for the first menu that this thread shows after the object was made; several visitors
+// one after the other, each when what the one before did has been worked off. A menu takes its input from the queue in
+// a loop of its own, so a visitor must not pump: what it presses and clicks is worked off when it has returned; and no
+// exception may leave it. A menu that is open long after the last visit is closed, so that a test fails and does not
+// hang.
 
 #include <afxwin.h>
 
@@ -49,12 +50,14 @@ public:
         for (const WORD key : virtualKeys)
             QueueKey(key);
     }
-    void Click(int item) const
+    /// In screen coordinates.
+    CRect ItemRect(int item) const
     {
         CRect rect;
         ::GetMenuItemRect(nullptr, Handle(), item, &rect);
-        QueueClick(rect.CenterPoint());
+        return rect;
     }
+    void Click(int item) const { QueueClick(ItemRect(item).CenterPoint()); }
 
 private:
     HWND m_window;
@@ -63,11 +66,14 @@ private:
 class MenuVisit
 {
 public:
-    explicit MenuVisit(std::function<void(const OpenMenu&)> visitor)
-        : m_visitor(std::move(visitor)), m_outer(std::exchange(s_current, this)),
+    using Visitor = std::function<void(const OpenMenu&)>;
+
+    explicit MenuVisit(std::vector<Visitor> visitors)
+        : m_visitors(std::move(visitors)), m_outer(std::exchange(s_current, this)),
           m_timer(::SetTimer(nullptr, 0, kPollMs, &Poll))
     {
     }
+    explicit MenuVisit(Visitor visitor) : MenuVisit(std::vector<Visitor>{std::move(visitor)}) {}
     ~MenuVisit()
     {
         ::KillTimer(nullptr, m_timer);
@@ -76,30 +82,34 @@ public:
     MenuVisit(const MenuVisit&) = delete;
     MenuVisit& operator=(const MenuVisit&) = delete;
 
-    /// How many menus were visited: 0 or 1.
+    /// How many visitors were called; 0 also if what they did has not closed the menu.
     int Count() const { return m_count; }
 
 private:
     static constexpr UINT kPollMs = 5;
-    static constexpr ULONGLONG kPatienceMs = 2000;
+    static constexpr ULONGLONG kPatienceMs = 10000;
 
-    // A timer is served when no input waits: the menu has worked off what came before.
+    // A timer is served when no input waits and nothing is to be painted: the menu has worked off what came before.
     static void CALLBACK Poll(HWND, UINT, UINT_PTR, DWORD)
     {
         if (HWND window = OpenMenuWindow(); window && s_current)
-            s_current->Visit(window);
+            s_current->VisitOrClose(window);
     }
 
-    void Visit(HWND window)
+    void VisitOrClose(HWND window)
     {
-        if (m_count == 0)
+        if (m_count < static_cast<int>(m_visitors.size()) && !m_gaveUp)
         {
-            ++m_count;
-            m_deadline = ::GetTickCount64() + kPatienceMs;
-            m_visitor(OpenMenu(window));
+            m_lastVisit = ::GetTickCount64();
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 1, 0); // what was painted comes to the screen
+            m_visitors[m_count++](OpenMenu(window));
         }
-        else if (::GetTickCount64() > m_deadline)
+        else if (::GetTickCount64() - m_lastVisit > kPatienceMs)
+        {
+            m_gaveUp = true;
+            m_count = 0;
             ::EndMenu();
+        }
     }
 
     static HWND OpenMenuWindow()
@@ -122,10 +132,11 @@ private:
 
     inline static MenuVisit* s_current = nullptr;
 
-    std::function<void(const OpenMenu&)> m_visitor;
+    std::vector<Visitor> m_visitors;
     MenuVisit* m_outer;
     UINT_PTR m_timer;
+    ULONGLONG m_lastVisit = 0; ///< in milliseconds
     int m_count = 0;
-    ULONGLONG m_deadline = 0; ///< when a menu that was visited should long be closed
+    bool m_gaveUp = false;
 };
 } // namespace owtest

@@ -59,8 +59,8 @@ void PickByKeyboard(CWnd& page)
     {
         Require(HasFocus(Picker(page, n)), L"Tab does not come to a picker");
         const WORD opener = n % 2 ? VK_RETURN : VK_SPACE;
-        Pick(page, n, [=] { owtest::Press(opener); }, {[](owtest::OpenMenu&) {
-                 owtest::SendKeys({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
+        Pick(page, n, [=] { owtest::Press(opener); }, {[](const owtest::OpenMenu& menu) {
+                 menu.Press({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
              }});
         owtest::Press(VK_TAB);
     }
@@ -74,11 +74,11 @@ void PickByKeyboard(CWnd& page)
 void PickWithPicture(CWnd& page)
 {
     bool bSaved = false;
-    const auto point = [](owtest::OpenMenu&) { owtest::SendKeys({VK_DOWN, VK_DOWN}); };
-    const auto saveAndTake = [&](owtest::OpenMenu&)
+    const auto point = [](const owtest::OpenMenu& menu) { menu.Press({VK_DOWN, VK_DOWN}); };
+    const auto saveAndTake = [&](const owtest::OpenMenu& menu)
     {
         bSaved = owtest::SaveWindowPng(*page.GetParent(), PicturePath(L"pickers_open.png"));
-        owtest::SendKeys({VK_RETURN});
+        menu.Press({VK_RETURN});
     };
     Pick(page, 0, [&] { owtest::Click(Picker(page, 0)); }, {point, saveAndTake});
     Require(bSaved, L"the picture of the menu was not written");
@@ -90,7 +90,7 @@ void UsePickers(CWnd& page)
     PickWithPicture(page);
     for (int n = 1; n <= kLast; ++n)
         Pick(page, n, [&] { owtest::Click(Picker(page, n)); },
-             {[](owtest::OpenMenu& menu) { owtest::SendClick(menu.ItemRect(1).CenterPoint()); }});
+             {[](const owtest::OpenMenu& menu) { menu.Click(1); }});
     owtest::Click(*page.GetDlgItem(IDC_PICK_BY_LAYER));
     Picker(page, 1).SetFocus(); // shows what focus looks like
 }
