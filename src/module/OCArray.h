@@ -1,15 +1,21 @@
 #pragma once
-// An array of objects held by value, on the framework's CArray.
+// An array of objects held by value: CArray with copying.
 //
-//     OCArray<CString> marks;
-//     marks.Add(L"HEA 160");
-//     OCArray<CString> copy = marks;    // as the framework's own array does not
+//     OCArray<CString> names;
+//     names.SetSize(3);                   // three empty strings, constructed in place
+//     OCArray<CString> copy = names;      // element by element
 //
-//     OCArray<CExtButton> buttons;      // objects that cannot be copied, too, as long as nobody copies the array
-//     buttons.SetSize(3);
+//     OCArray<CExtButton> buttons;        // windows: they cannot be copied, and this array neither
+//     buttons.SetSize(nButtons);
 //
-// Elements are constructed and destroyed in place. The index of an element is checked as CArray checks it. An array
-// that grows moves its elements: windows are attached to their objects only when the array has its final size.
+// The array owns its elements: they are constructed when it grows and destroyed when it shrinks or goes. A bad
+// index throws CInvalidArgException, and so does a negative size; without memory CMemoryException is thrown and
+// the array stays as it was.
+//
+// Where elements live. Growing beyond the memory at hand, FreeExtra, InsertAt and RemoveAt carry elements over to
+// other places; windows must not be carried while they are attached, as the framework knows them by their
+// address. They stay where they are if the array is sized once, from empty, and is then only shortened by
+// SetSize: call RemoveAll before the next size.
 
 #include <afxtempl.h>
 
@@ -20,13 +26,13 @@ class OCArray : public CArray<T, const T&>
 {
 public:
     OCArray() = default;
-    OCArray(const OCArray& src) requires std::is_copy_assignable_v<T> : CArray<T, const T&>()
+    OCArray(const OCArray& other) requires std::is_copy_assignable_v<T> : CArray<T, const T&>()
     {
-        this->Copy(src);
+        this->Copy(other);
     }
-    OCArray& operator=(const OCArray& src) requires std::is_copy_assignable_v<T>
+    OCArray& operator=(const OCArray& other) requires std::is_copy_assignable_v<T>
     {
-        this->Copy(src);
+        this->Copy(other); // onto itself it does nothing
         return *this;
     }
 };

@@ -1,0 +1,192 @@
+#include <afxwin.h>
+
+#include "groups/FormatJediniceCtrlGroup.h"
+
+namespace
+{
+constexpr int c_nUnits = 6;       // of length, numbered from 0
+constexpr int c_nDefaultUnit = 2; // the millimetre
+constexpr int c_nLength = 0;      // kind of a measurement unit
+constexpr int c_nMaxNumber = 15;  // in the edit
+
+/// The bits that mark a three-state button that leaves its state to us.
+constexpr DWORD c_dwStateByHand = BS_3STATE;
+
+/// The `nSource` of reports.
+enum ESource
+{
+    sourceCombo,
+    sourceButton,
+    sourceTyping,
+    sourceEditLeft,
+};
+} // namespace
+
+CFormatJediniceCtrlGroup::CFormatJediniceCtrlGroup(int nComboId, int nButtonId, int nEditId,
+                                                   AFormatJediniceCtrlGroupNotificationHandler* pHandler)
+    : m_nComboId(nComboId), m_nButtonId(nButtonId), m_nEditId(nEditId), m_combo(this), m_button(this),
+      m_edit(this), m_pHandler(pHandler)
+{
+    m_edit.SetRange(0, c_nMaxNumber);
+}
+
+CFormatJediniceCtrlGroup::~CFormatJediniceCtrlGroup() = default;
+
+void CFormatJediniceCtrlGroup::DoDataExchange(CDataExchange* pDX)
+{
+    const bool bNew = !HasWindows();
+    DDX_Control(pDX, m_nComboId, m_combo);
+    DDX_Control(pDX, m_nButtonId, m_button);
+    DDX_Control(pDX, m_nEditId, m_edit);
+    if (bNew)
+        ListUnits();
+}
+
+void CFormatJediniceCtrlGroup::SetFormatSource(CFormatJedinice* pFormat)
+{
+    m_pFormat = pFormat;
+    if (HasWindows())
+        ListUnits();
+}
+
+void CFormatJediniceCtrlGroup::Update(bool bToControls, bool bCommon)
+{
+    if (!m_pFormat || !HasWindows())
+        return;
+    if (!bToControls)
+    {
+        StoreControls();
+    }
+    else if (bCommon)
+    {
+        SetCtrlState(*m_pFormat);
+    }
+    else
+    {
+        ShowNoCommonValue();
+    }
+}
+
+void CFormatJediniceCtrlGroup::SetCtrlState(const CFormatJedinice& format)
+{
+    if (!HasWindows())
+        return;
+    m_combo.SetCurSel(format.nUnitIndex);
+    m_button.SetCheck(format.nCheckFlag == 1 ? BST_CHECKED : BST_UNCHECKED);
+    m_edit.SetValue(format.nEditValue, true);
+}
+
+CFormatJedinice CFormatJediniceCtrlGroup::GetCtrlState()
+{
+    CFormatJedinice format;
+    if (!HasWindows())
+        return format;
+    format.nUnitIndex = m_combo.GetCurSel();
+    format.nCheckFlag = m_button.GetCheck() != BST_UNCHECKED;
+    format.nEditValue = m_edit.GetValue();
+    return format;
+}
+
+void CFormatJediniceCtrlGroup::Enable(int bEnable)
+{
+    ForEachControl([bEnable](CWnd& control) { control.EnableWindow(bEnable); });
+}
+
+void CFormatJediniceCtrlGroup::Display(int bShow)
+{
+    ForEachControl(
+        [bShow](CWnd& control)
+        {
+            control.EnableWindow(bShow);
+            control.ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+        });
+}
+
+void CFormatJediniceCtrlGroup::OnExtComboBoxSelChanged(int nId, int /*nSel*/)
+{
+    if (nId != m_nComboId)
+        return;
+    if (m_pFormat && m_combo.m_hWnd)
+        m_pFormat->nUnitIndex = m_combo.GetCurSel();
+    Report(sourceCombo);
+}
+
+// Wanted: a three-state button is toggled for any id, and the record gets the state before the toggle. Other check
+// boxes have changed by themselves already.
+void CFormatJediniceCtrlGroup::OnButtonClicked(int nId)
+{
+    if (!m_button.m_hWnd)
+        return;
+    const int nState = m_button.GetCheck();
+    if ((m_button.GetStyle() & c_dwStateByHand) == c_dwStateByHand)
+        m_button.SetCheck(nState == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED);
+    if (nId != m_nButtonId)
+        return;
+    if (m_pFormat)
+        m_pFormat->nCheckFlag = nState == BST_CHECKED;
+    Report(sourceButton);
+}
+
+// Wanted: what is being typed does not go to the record yet.
+void CFormatJediniceCtrlGroup::OnEditNChange(int nId)
+{
+    if (nId == m_nEditId)
+        Report(sourceTyping);
+}
+
+void CFormatJediniceCtrlGroup::OnEditNKillFocus(int nId)
+{
+    if (nId != m_nEditId)
+        return;
+    if (m_pFormat)
+        m_pFormat->nEditValue = m_edit.GetValue();
+    Report(sourceEditLeft);
+}
+
+bool CFormatJediniceCtrlGroup::HasWindows() const
+{
+    return m_combo.m_hWnd && m_button.m_hWnd && m_edit.m_hWnd;
+}
+
+void CFormatJediniceCtrlGroup::ListUnits()
+{
+    m_combo.ResetContent();
+    if (!m_pFormat)
+        return;
+    for (int nUnit = 0; nUnit < c_nUnits; ++nUnit)
+        m_combo.AddString(CComplexUnit(CMeasurementUnit(nUnit, c_nLength)).Symbol());
+    m_combo.SetCurSel(m_pFormat->nUnitIndex);
+}
+
+void CFormatJediniceCtrlGroup::ShowNoCommonValue()
+{
+    m_combo.SetCurSel(-1);
+    m_button.SetCheck(BST_INDETERMINATE);
+    m_edit.SetEmpty();
+}
+
+void CFormatJediniceCtrlGroup::StoreControls()
+{
+    const CFormatJedinice shown = GetCtrlState();
+    if (shown.nUnitIndex == CB_ERR)
+        m_combo.SetCurSel(c_nDefaultUnit);
+    m_pFormat->nUnitIndex = shown.nUnitIndex == CB_ERR ? c_nDefaultUnit : shown.nUnitIndex;
+    m_pFormat->nCheckFlag = shown.nCheckFlag;
+    m_pFormat->nEditValue = shown.nEditValue;
+}
+
+void CFormatJediniceCtrlGroup::Report(int nSource)
+{
+    if (m_pHandler && m_pFormat)
+        m_pHandler->OnFormatGroupChanged(this, m_pFormat, nSource);
+}
+
+template <class Function>
+void CFormatJediniceCtrlGroup::ForEachControl(Function function)
+{
+    if (!HasWindows())
+        return;
+    for (CWnd* pControl :
+         {static_cast<CWnd*>(&m_combo), static_cast<CWnd*>(&m_button), static_cast<CWnd*>(&m_edit)})
+        function(*pControl);
+}
