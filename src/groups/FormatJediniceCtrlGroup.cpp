@@ -71,7 +71,7 @@ void CFormatJediniceCtrlGroup::SetCtrlState(const CFormatJedinice& format)
 {
     if (!HasWindows())
         return;
-    m_combo.SetCurSel(format.nUnitIndex);
+    SelectUnit(format.nUnitIndex);
     m_button.SetCheck(format.nCheckFlag == 1 ? BST_CHECKED : BST_UNCHECKED);
     m_edit.SetValue(format.nEditValue, true);
 }
@@ -155,7 +155,14 @@ void CFormatJediniceCtrlGroup::ListUnits()
         return;
     for (int nUnit = 0; nUnit < c_nUnits; ++nUnit)
         m_combo.AddString(CComplexUnit(CMeasurementUnit(nUnit, c_nLength)).Symbol());
-    m_combo.SetCurSel(m_pFormat->nUnitIndex);
+    SelectUnit(m_pFormat->nUnitIndex);
+}
+
+// Systems differ in what a combo box does with an index that it does not have.
+void CFormatJediniceCtrlGroup::SelectUnit(int nUnit)
+{
+    if (m_combo.SetCurSel(nUnit) == CB_ERR)
+        m_combo.SetCurSel(-1);
 }
 
 void CFormatJediniceCtrlGroup::ShowNoCommonValue()

@@ -70,7 +70,8 @@ public:
     /// counts as on; an empty edit gives its last number.
     void Update(bool bToControls, bool bCommon);
 
-    /// Shows a format, the record aside. A number that the edit does not take shows as the nearest that it does.
+    /// Shows a format, the record aside. An index that is no unit shows none; a number that the edit does not take
+    /// shows as the nearest that it does.
     void SetCtrlState(const CFormatJedinice& format);
     /// What the controls show, read as by Update, but for no unit chosen, which is -1. A new record without windows.
     CFormatJedinice GetCtrlState();
@@ -87,6 +88,7 @@ public:
 private:
     bool HasWindows() const;
     void ListUnits();
+    void SelectUnit(int nUnit);
     void ShowNoCommonValue();
     void StoreControls();
     void Report(int nSource);
