@@ -24,6 +24,8 @@
     CHILD(CrossGrid)               \
     PAGE(Members)                  \
     PAGE(Configurations)           \
+    PAGE(Choices)                  \
+    CHILD(UnitFormat)              \
     PAGE(Drawings)
 // clang-format on
 

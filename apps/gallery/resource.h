@@ -199,3 +199,36 @@
 #define IDC_PICK_VALUE_FIRST 1810 // what is picked, beside them
 #define IDC_PICK_BY_LAYER 1820
 #define IDC_PICK_PREVIEW 1821
+// Choices
+#define IDD_PAGE_CHOICES 200
+#define IDC_PROFILE_FIRST 2100 // four radio buttons
+#define IDC_COATING_FIRST 2104 // three
+#define IDC_PROFILE_OPTION 2107
+#define IDC_COATING_OPTION 2108
+#define IDC_COATING_CLEAR 2109
+#define IDC_COATING_ENABLE 2110
+#define IDC_COATING_SHOW 2111
+#define IDC_CAMBERED 2112
+#define IDC_DIMENSIONS 2113
+#define IDC_TOLERANCES 2114
+#define IDC_MASKED 2115
+#define IDC_STIFFENED 2116
+#define IDC_STIFFENERS_FIRST 2117 // three radio buttons
+#define IDC_RULE_VALUE_FIRST 2120 // a label for each rule, from the top
+#define IDC_RULE_SET_FIRST 2130   // its buttons: 5 ids for each rule, by value
+
+// Unit format
+#define IDD_PAGE_UNIT_FORMAT 202
+#define IDC_FORMAT_UNIT 2200
+#define IDC_FORMAT_SYMBOL 2201
+#define IDC_FORMAT_DECIMALS 2202
+#define IDC_FORMAT_PREVIEW 2203
+#define IDC_FORMAT_RECORD 2204
+#define IDC_FORMAT_NO_RECORD 2205
+#define IDC_FORMAT_ENABLE 2206
+#define IDC_FORMAT_SHOW 2207
+#define IDC_AXES_UNIT 2210
+#define IDC_AXES_SYMBOL 2211
+#define IDC_AXES_DECIMALS 2212
+#define IDC_AXES_DIFFER 2213
+#define IDC_AXES_TEXT_FIRST 2214 // a label for each of the three axes
