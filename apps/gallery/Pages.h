@@ -1,6 +1,7 @@
 #pragma once
 // The pages of the gallery. To add one: write pages/NamePage.cpp with AddNamePage and its template
-// pages/NamePage.rc, and add a line here. CHILD makes a page the child of the last top-level one.
+// pages/NamePage.rc, and add a line here. CHILD makes a page the child of the last top-level one, which should have
+// one at most: the selectors made of combo boxes reach no more.
 
 #include "GalleryPage.h"
 
@@ -8,7 +9,7 @@
 #define GALLERY_PAGES(PAGE, CHILD) \
     PAGE(TextBoxes)                \
     CHILD(Numbers)                 \
-    CHILD(LabelTemplates)          \
+    PAGE(LabelTemplates)           \
     PAGE(Combos)                   \
     CHILD(Font)                    \
     PAGE(Buttons)                  \
@@ -16,16 +17,16 @@
     PAGE(Pickers)                  \
     PAGE(MessageBoxes)             \
     CHILD(NamesAndFiles)           \
-    CHILD(Progress)                \
+    PAGE(Progress)                 \
     PAGE(Grid)                     \
     CHILD(VirtualGrid)             \
-    CHILD(DisplayCells)            \
     PAGE(SteelSchedule)            \
     CHILD(CrossGrid)               \
+    PAGE(DisplayCells)             \
     PAGE(Members)                  \
-    PAGE(Configurations)           \
     PAGE(Choices)                  \
     CHILD(UnitFormat)              \
+    PAGE(Configurations)           \
     PAGE(Drawings)
 // clang-format on
 
