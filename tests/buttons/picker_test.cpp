@@ -274,11 +274,19 @@ TEST(PickerCommand, IsStoredBelowTheEndOfTheMenuAndAlwaysTold)
         dialog.text.SendMessage(WM_COMMAND, command);
         EXPECT_EQ(dialog.Take(), (Choices{{kText, stored}})) << command;
     }
+    dialog.UpdateWindow();
+    dialog.text.SendMessage(WM_COMMAND, 36874);
+    EXPECT_TRUE(::GetUpdateRect(dialog, nullptr, FALSE)) << "the parent is painted anew";
+
     dialog.values[2] = 0; // what the handler is told without a source
     dialog.text.SetEnumSource(nullptr);
+    dialog.Take();
     dialog.text.SendMessage(WM_COMMAND, 36876);
     EXPECT_EQ(dialog.Take(), (Choices{{kText, 0}}));
     EXPECT_EQ(dialog.values[2], 0);
+    dialog.text.UpdateWindow();
+    dialog.text.SetEnumSource(&dialog.values[1]);
+    EXPECT_TRUE(::GetUpdateRect(dialog.text, nullptr, FALSE)) << "and so is a button with a new source";
 }
 
 TEST(PickerButton, IsAPushButtonWhateverItTakesOver)
