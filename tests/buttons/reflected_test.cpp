@@ -11,15 +11,9 @@ using Calls = std::vector<std::string>;
 
 namespace
 {
-enum Id : WORD
-{
-    idPlain = 1001,
-    idReflected,
-    idReflectedST,
-    idLate
-};
+constexpr WORD idReflected = 1001, idReflectedST = 1002, idLate = 1003;
 
-/// Writes down each call as "clicked 1002"; of questions for a colour only how many there were.
+/// Writes down each call as "clicked 1001"; of questions for a colour only how many there were.
 class RecordingHandler : public CButtonReflectedNotificationHandler
 {
 public:
@@ -28,6 +22,7 @@ public:
     HBRUSH hBrush = nullptr; ///< the answer to CtlColor
     Calls Take() { return std::exchange(calls, {}); }
 
+    void Record(const char* what, int nId) { calls.push_back(what + (' ' + std::to_string(nId))); }
     void ButtonReflectedOnClicked(int nId) override { Record("clicked", nId); }
     void ButtonReflectedOnDoubleclicked(int nId) override { Record("doubleclicked", nId); }
     HBRUSH ButtonReflectedOnCtlColor(int, CDC* pDC, unsigned int nCtlColor) override
@@ -37,22 +32,31 @@ public:
     }
     void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
     {
-        EXPECT_EQ(HIWORD(message), nId);
-        EXPECT_EQ(::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)), nId);
+        EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
         Record(LOWORD(message) == WM_CREATE ? "created" : "destroyed", nId);
     }
-
-private:
-    void Record(const std::string& what, int nId) { calls.push_back(what + ' ' + std::to_string(nId)); }
 };
 
-/// A button of each class, and one of the system.
+struct OpenReflected : CButtonReflected
+{
+    using CButtonReflected::CButtonReflected;
+    using CButtonReflected::DoesNotificationHandlerExist;
+    using CButtonReflected::GetSafeNotificationHandler;
+};
+
 class ReflectedDialog : public CDialog
 {
 public:
-    explicit ReflectedDialog(CButtonReflectedNotificationHandler* pHandler = nullptr)
+    explicit ReflectedDialog(CButtonReflectedNotificationHandler* pHandler = nullptr, DWORD dwStyle = 0)
         : reflected(pHandler), reflectedST(pHandler)
     {
+        const auto form = owtest::DialogTemplate(L"Reflected", 120, 60)
+                              .Item(L"BUTTON", L"", idReflected, dwStyle | WS_TABSTOP, 4, 4, 60, 14)
+                              .Item(L"BUTTON", L"", idReflectedST, dwStyle | WS_TABSTOP, 4, 20, 60, 14);
+        EXPECT_TRUE(CreateIndirect(form.get()));
+        reflected.SubclassDlgItem(idReflected, this);
+        reflectedST.SubclassDlgItem(idReflectedST, this);
+        ShowWindow(SW_SHOW);
     }
     ~ReflectedDialog() override
     {
@@ -60,25 +64,19 @@ public:
         DestroyWindow();
     }
 
-    CButtonReflected reflected;
+    OpenReflected reflected;
     CButtonSTReflected reflectedST;
     int heard = 0; ///< notifications that reached the dialog's map
 
-    void Open(DWORD dwType = BS_PUSHBUTTON)
+    void ClickTwiceAndPress()
     {
-        const auto form = owtest::DialogTemplate(L"Reflected", 120, 60)
-                              .Button(L"Plain", idPlain, 4, 4, 60, 14)
-                              .Item(L"BUTTON", L"Reflected", idReflected, dwType | WS_TABSTOP, 4, 22, 60, 14)
-                              .Item(L"BUTTON", L"ST", idReflectedST, dwType | WS_TABSTOP, 4, 40, 60, 14);
-        ASSERT_TRUE(CreateIndirect(form.get()));
-        reflected.SubclassDlgItem(idReflected, this);
-        reflectedST.SubclassDlgItem(idReflectedST, this);
-        ShowWindow(SW_SHOW);
-        ASSERT_TRUE(owtest::Activate(m_hWnd));
-    }
-    void Notify(int nId, int nCode)
-    {
-        SendMessage(WM_COMMAND, MAKEWPARAM(nId, nCode), reinterpret_cast<LPARAM>(GetDlgItem(nId)->m_hWnd));
+        EXPECT_TRUE(owtest::Activate(m_hWnd));
+        for (CWnd* pButton : {static_cast<CWnd*>(&reflected), static_cast<CWnd*>(&reflectedST)})
+        {
+            owtest::Click(*pButton);
+            owtest::Click(*pButton);
+            owtest::Press(VK_SPACE);
+        }
     }
     HBRUSH BrushOf(int nId)
     {
@@ -90,7 +88,7 @@ public:
 protected:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
-        heard += nID >= idReflected && (nCode == BN_CLICKED || nCode == BN_DOUBLECLICKED);
+        heard += nCode == BN_CLICKED || nCode == BN_DOUBLECLICKED;
         return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
 };
@@ -100,50 +98,49 @@ class TellingDialog : public ReflectedDialog, public RecordingHandler
     using ReflectedDialog::ReflectedDialog;
 };
 
-void UseAll(ReflectedDialog& dialog)
-{
-    dialog.Open();
-    for (int nId : {idReflected, idReflectedST})
-    {
-        owtest::Click(*dialog.GetDlgItem(nId));
-        owtest::Press(VK_SPACE);
-        dialog.Notify(nId, BN_DOUBLECLICKED);
-    }
-}
-const Calls kAll{"clicked 1002", "clicked 1002", "doubleclicked 1002",
-                 "clicked 1003", "clicked 1003", "doubleclicked 1003"};
+const Calls kClicks{"clicked 1001", "clicked 1001", "clicked 1001",
+                    "clicked 1002", "clicked 1002", "clicked 1002"};
 } // namespace
 
 TEST(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
 {
     RecordingHandler handler;
-    TellingDialog given(&handler), parent(nullptr);
-    UseAll(given);
-    EXPECT_EQ(handler.calls, kAll);
-    EXPECT_EQ(given.calls, Calls{}) << "the parent is not asked while there is a handler";
-    UseAll(parent);
-    EXPECT_EQ(parent.calls, kAll);
+    TellingDialog given(&handler), parent;
     ReflectedDialog nobody;
-    UseAll(nobody);
+    for (ReflectedDialog* pDialog :
+         {static_cast<ReflectedDialog*>(&given), static_cast<ReflectedDialog*>(&parent), &nobody})
+        pDialog->ClickTwiceAndPress();
+    EXPECT_EQ(handler.calls, kClicks);
+    EXPECT_EQ(given.calls, Calls{}) << "the parent is not asked while there is a handler";
+    EXPECT_EQ(parent.calls, kClicks);
+    EXPECT_EQ(given.reflected.GetSafeNotificationHandler(), &handler);
+    EXPECT_TRUE(parent.reflected.DoesNotificationHandlerExist());
+    EXPECT_FALSE(nobody.reflected.DoesNotificationHandlerExist());
+}
+
+TEST(ReflectedButtons, TellOfADoubleClickIfTheyHaveItsStyleAndDoNotPaintThemselves)
+{
+    TellingDialog dialog(nullptr, BS_NOTIFY);
+    dialog.ClickTwiceAndPress();
+    Calls expected = kClicks;
+    expected[1] = "doubleclicked 1001";
+    EXPECT_EQ(dialog.calls, expected);
 }
 
 TEST(ReflectedButtons, TakeTheHandlersBrushOrElseTheParents)
 {
     RecordingHandler handler;
     ReflectedDialog dialog(&handler), nobody;
-    dialog.Open();
-    nobody.Open();
-    const HBRUSH hOrdinary = dialog.BrushOf(idPlain);
+    CBrush brush(RGB(0, 200, 0));
     for (int nId : {idReflected, idReflectedST})
     {
-        CBrush brush(RGB(0, 200, 0));
-        handler.colors = 0;
-        EXPECT_EQ(dialog.BrushOf(nId), hOrdinary);
-        EXPECT_EQ(handler.colors, 1);
-        EXPECT_EQ(nobody.BrushOf(nId), hOrdinary);
+        const int nAsked = handler.colors;
+        handler.hBrush = nullptr;
+        EXPECT_EQ(dialog.BrushOf(nId), ::GetSysColorBrush(COLOR_BTNFACE));
+        EXPECT_EQ(handler.colors, nAsked + 1);
+        EXPECT_EQ(nobody.BrushOf(nId), ::GetSysColorBrush(COLOR_BTNFACE));
         handler.hBrush = brush;
         EXPECT_EQ(dialog.BrushOf(nId), handler.hBrush);
-        handler.hBrush = nullptr;
     }
 }
 
@@ -151,40 +148,22 @@ TEST(ReflectedButtons, TellThatTheirWindowComesAndGoes)
 {
     RecordingHandler handler;
     ReflectedDialog dialog;
-    dialog.Open();
     CButtonReflected late(&handler);
     CButtonSTReflected lateST(&handler);
     for (CButton* pButton : {static_cast<CButton*>(&late), static_cast<CButton*>(&lateST)})
     {
         ASSERT_TRUE(pButton->Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &dialog, idLate));
         pButton->DestroyWindow();
-        EXPECT_EQ(handler.Take(), (Calls{"created 1004", "destroyed 1004"}));
+        EXPECT_EQ(handler.Take(), (Calls{"created 1003", "destroyed 1003"}));
     }
 }
 
-TEST(ReflectedButtons, TellOfADoubleClickIfTheyHaveItsStyleAndAreNotSelfPainting)
+TEST(ReflectedButtons, DoNothingOfTheirOwnWhenTheyPaintThemselves)
 {
-    for (DWORD dwType : {BS_PUSHBUTTON, BS_NOTIFY})
-    {
-        TellingDialog dialog;
-        dialog.Open(dwType);
-        for (CWnd* pButton : {static_cast<CWnd*>(&dialog.reflected), static_cast<CWnd*>(&dialog.reflectedST)})
-        {
-            owtest::Click(*pButton);
-            owtest::Click(*pButton);
-        }
-        const char* second = dwType == BS_NOTIFY ? "doubleclicked 1002" : "clicked 1002";
-        EXPECT_EQ(dialog.calls, (Calls{"clicked 1002", second, "clicked 1003", "clicked 1003"}));
-    }
-}
-
-TEST(ReflectedButtons, DoNothingOfTheirOwnWhenTheyAreSelfPainting)
-{
-    TellingDialog dialog;
-    dialog.Open(BS_AUTOCHECKBOX);
-    dialog.GetDlgItem(idPlain)->SetFocus();
-    dialog.Notify(idReflectedST, BN_CLICKED);
-    EXPECT_EQ(dialog.calls, Calls{"clicked 1003"});
+    TellingDialog dialog(nullptr, BS_AUTOCHECKBOX);
+    dialog.reflected.SetFocus();
+    dialog.SendMessage(WM_COMMAND, idReflectedST, reinterpret_cast<LPARAM>(dialog.reflectedST.m_hWnd));
+    EXPECT_EQ(dialog.calls, Calls{"clicked 1002"});
     EXPECT_EQ(dialog.reflectedST.GetCheck(), 0);
-    EXPECT_EQ(::GetFocus(), dialog.GetDlgItem(idPlain)->m_hWnd);
+    EXPECT_EQ(::GetFocus(), dialog.reflected.m_hWnd);
 }
