@@ -22,28 +22,14 @@ enum class Where
 
 Where Across(DWORD style)
 {
-    switch (style & BS_CENTER)
-    {
-    case BS_RIGHT:
-        return Where::farEnd;
-    case BS_CENTER:
-        return Where::middle;
-    default:
-        return Where::nearEnd;
-    }
+    const DWORD bits = style & BS_CENTER;
+    return bits == BS_RIGHT ? Where::farEnd : bits == BS_CENTER ? Where::middle : Where::nearEnd;
 }
 
 Where Down(DWORD style)
 {
-    switch (style & BS_VCENTER)
-    {
-    case BS_TOP:
-        return Where::nearEnd;
-    case BS_BOTTOM:
-        return Where::farEnd;
-    default:
-        return Where::middle;
-    }
+    const DWORD bits = style & BS_VCENTER;
+    return bits == BS_TOP ? Where::nearEnd : bits == BS_BOTTOM ? Where::farEnd : Where::middle;
 }
 
 int BoxX(bool bLeftText, const CRect& rect)
@@ -207,8 +193,8 @@ LRESULT CMixedFontButton::Changed()
     return 0;
 }
 
-/// The system's button does not learn that the focus goes while Space or the mouse holds it down; it would keep the
-/// mouse captured.
+/// The system's button does not learn that the focus goes while Space or the mouse holds it down; it would
+/// keep the mouse captured.
 void CMixedFontButton::CancelPress()
 {
     if (::GetCapture() != m_hWnd)

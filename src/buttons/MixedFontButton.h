@@ -8,35 +8,38 @@
 //         void OnButtonClicked(int) override { m_checkWind.SetCheck(!m_checkWind.GetCheck()); }
 //     };
 //
-// Clicks. A click by mouse, Space or BM_CLICK calls the handler and then goes to the parent as BN_CLICKED, as with
-// CExtButton; two fast clicks are two. The check state is the caller's: nothing toggles by itself, and a radio look
-// takes no check away from its neighbours. Whoever answers the click sets the checks, as above.
+// Clicks. A click by mouse, Space or BM_CLICK calls the handler and then goes to the parent as BN_CLICKED, as
+// with CExtButton; two fast clicks are two. The check state is the caller's: nothing toggles by itself, and a
+// radio look takes no check away from its neighbours. Whoever answers the click sets the checks, as above.
 //
-// Check state. It is 0 or 1 and belongs to this object, not to the system's button; what the template's control had
-// is not taken over. SetCheck, GetCheck, CheckDlgButton and DDX_Check work, by BM_SETCHECK and BM_GETCHECK. A
-// disabled button keeps its state, whatever is set, and so does one that is given another number than 0 or 1.
+// Check state. It is 0 or 1 and belongs to this object, not to the system's button; what the template's
+// control had is not taken over. SetCheck, GetCheck, CheckDlgButton and DDX_Check work, by BM_SETCHECK and
+// BM_GETCHECK. A disabled button keeps its state, whatever is set, and so does one that is given another
+// number than 0 or 1.
 //
-// Attaching. The control becomes owner-drawn. Templates use BS_AUTOCHECKBOX, BS_CHECKBOX, BS_AUTORADIOBUTTON or a
-// push button. BS_RADIOBUTTON, BS_3STATE, BS_AUTO3STATE and BS_GROUPBOX do not serve: a bit of theirs stays in the
-// type, which then is another than the owner-drawn one. Focus is not told by BN_SETFOCUS and BN_KILLFOCUS.
+// Attaching. The control becomes owner-drawn. Templates use BS_AUTOCHECKBOX, BS_CHECKBOX, BS_AUTORADIOBUTTON
+// or a push button. BS_RADIOBUTTON, BS_3STATE, BS_AUTO3STATE and BS_GROUPBOX do not serve: a bit of theirs
+// stays in the type, which then is another than the owner-drawn one. Focus is not told by BN_SETFOCUS and
+// BN_KILLFOCUS.
 //
-// Text. The window's text, with the mark-up of MixedFont.h: <f Face>, <b>, <i>, <sub>, <sup>. It is drawn in fonts
-// that go out from that of the parent; an & shows as it stands, and still gives the button its mnemonic. A text that
-// does not fit is cut.
+// Text. The window's text, with the mark-up of MixedFont.h: <f Face>, <b>, <i>, <sub>, <sup>. It is drawn in
+// fonts that go out from that of the parent; an & shows as it stands, and still gives the button its
+// mnemonic. A text that does not fit is cut.
 //
 // Place, by the button's styles, in pixels. The box is 13 by 13:
 //
 //     BS_LEFT, none    box at the left edge, text 20 from it
 //     BS_RIGHT         box at the left edge, text 1 from the right edge
 //     BS_CENTER        box at the left edge, text in the middle of what is right of it
-//     BS_LEFTTEXT      box at the right edge, text 1 from the left edge; with BS_RIGHT 7 before the box; with BS_CENTER
-//                      left of the middle, the more so the longer it is
-//     BS_TOP           text 1 from the top, box 12 above the text's foot: without a text it is out of sight
-//     BS_BOTTOM        text 2 from the foot, box likewise
+//     BS_LEFTTEXT      box at the right edge, text 1 from the left edge; with BS_RIGHT 7 before the box; with
+//                      BS_CENTER left of the middle, the more so the longer it is
+//     BS_TOP           text 1 from the top, the box's foot at the text's: without a text it is out of sight
+//     BS_BOTTOM        text and box 2 from the bottom
 //     BS_VCENTER, none both in the middle
 //
-// The face behind box and text is that of a dialog (COLOR_BTNFACE); a text that changes wipes the one before. With
-// WS_EX_TRANSPARENT the text has no ground and wipes nothing: the parent erases before a new text is set.
+// The face behind box and text is that of a dialog (COLOR_BTNFACE); a text that changes wipes the one before.
+// With WS_EX_TRANSPARENT the text has no ground and wipes nothing: the parent erases before a new text is
+// set.
 
 #include "buttons/ExtButton.h"
 

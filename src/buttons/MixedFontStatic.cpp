@@ -32,7 +32,8 @@ void CMixedFontStatic::PreSubclassWindow()
     TakeOverTitle();
 }
 
-// The system's control does not hear of what makes it paint by itself: it would show the caption with its mark-up.
+// The system's control does not hear of what makes it paint by itself: it would show the caption with its
+// mark-up.
 LRESULT CMixedFontStatic::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     switch (message)

@@ -11,8 +11,9 @@ bool gfnIsTransparent(const CWnd& control)
 
 void gfnSelectParentFont(CDC& dc, const CWnd& control)
 {
-    if (const LRESULT font = ::SendMessage(::GetParent(control), WM_GETFONT, 0, 0))
-        ::SelectObject(dc, reinterpret_cast<HFONT>(font));
+    const CWnd* pParent = control.GetParent();
+    if (CFont* pFont = pParent ? pParent->GetFont() : nullptr)
+        dc.SelectObject(pFont);
 }
 
 void gfnBeginMixedFontText(CDC& dc, const CWnd& control, const CRect& rectText, BOOL& bTextDirty,

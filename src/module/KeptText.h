@@ -5,8 +5,9 @@
 
 #include <cwchar>
 
-/// Answers WM_GETTEXT: copies the text into a buffer with `nChars` places, cut if it does not fit, always with a
-/// terminator. The answer is the length of what stands there; 0 without a buffer or without a place in it.
+/// Answers WM_GETTEXT: copies the text into a buffer with `nChars` places, cut if it does not fit, always
+/// with a terminator. The answer is the length of what stands there; 0 without a buffer or without a place in
+/// it.
 inline LRESULT gfnCopyKeptText(const CString& strText, wchar_t* pszBuffer, size_t nChars)
 {
     if (!pszBuffer || nChars == 0)

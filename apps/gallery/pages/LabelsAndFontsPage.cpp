@@ -1,5 +1,5 @@
-// Labels and fonts: text in several fonts on one line, in labels, check boxes and buttons with a radio look; and
-// buttons that pass their notifications to a handler.
+// Labels and fonts: text in several fonts on one line, in labels, check boxes and buttons with a radio look;
+// and buttons that pass their notifications to a handler.
 
 #include <afxwin.h>
 
