@@ -26,7 +26,7 @@ void Check(CButton& button, bool bChecked)
 /// Checks and enables what a value of box and group stands for; a value that is no option clears all.
 void ShowIn(CRadioGroup& group, int nValue)
 {
-    group.SetOption(nValue > 0 ? nValue - 1 : -1);
+    group.SetOption(std::max(nValue, 0) - 1);
     group.Enable(nValue != 0);
 }
 } // namespace

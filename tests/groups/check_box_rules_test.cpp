@@ -16,212 +16,148 @@ enum Id : WORD
 {
     idFirst = 101,
     idSecond, ///< with a third state
-    idOption, ///< three radio buttons
-    idEnd = idOption + 3
-};
-
-/// Boxes and options for every rule.
-class RulesDialog : public CDialog
-{
-public:
-    CButton first, second;
-    CRadioGroup options{nullptr, 0};
-
-    bool Open()
-    {
-        const auto form =
-            owtest::DialogTemplate(L"Rules", 160, 30)
-                .Item(L"BUTTON", L"First", idFirst, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 4, 40, 10)
-                .Item(L"BUTTON", L"Second", idSecond, BS_AUTO3STATE | WS_TABSTOP, 48, 4, 40, 10)
-                .Item(L"BUTTON", L"1", idOption, BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP, 4, 16, 20, 10)
-                .Item(L"BUTTON", L"2", idOption + 1, BS_AUTORADIOBUTTON, 28, 16, 20, 10)
-                .Item(L"BUTTON", L"3", idOption + 2, BS_AUTORADIOBUTTON, 52, 16, 20, 10)
-                .Item(L"BUTTON", L"End", idEnd, BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP, 100, 14, 30, 12);
-        return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
-    }
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, idFirst, first);
-        DDX_Control(pDX, idSecond, second);
-    }
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        options.Set(this, idOption);
-        ShowWindow(SW_SHOW);
-        return FALSE;
-    }
+    idOption, ///< two radio buttons
+    idEnd = idOption + 2
 };
 
 class CheckBoxRules : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(dialog.Open()); }
+    void SetUp() override
+    {
+        const auto form = owtest::DialogTemplate(L"Rules", 160, 20)
+                              .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
+                              .Item(L"BUTTON", L"", idFirst, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 4, 12, 12)
+                              .Item(L"BUTTON", L"", idSecond, BS_AUTO3STATE | WS_TABSTOP, 24, 4, 12, 12)
+                              .Item(L"BUTTON", L"", idOption, BS_AUTORADIOBUTTON | WS_GROUP, 44, 4, 12, 12)
+                              .Item(L"BUTTON", L"", idOption + 1, BS_AUTORADIOBUTTON, 64, 4, 12, 12)
+                              .Button(L"", idEnd, 84, 4, 12, 12);
+        ASSERT_TRUE(dialog.CreateIndirect(form.get()) && owtest::Activate(dialog));
+        first.SubclassDlgItem(idFirst, &dialog);
+        second.SubclassDlgItem(idSecond, &dialog);
+        options.Set(&dialog, idOption);
+        ASSERT_EQ(options.Count(), 2);
+    }
     void TearDown() override { dialog.DestroyWindow(); }
 
-    /// A box as a user sees it: its state, and "off" behind it while it is disabled.
-    static std::string Seen(const CButton& box)
+    /// A box or group as a user sees it: its state, and "off" behind it while it is disabled.
+    static std::string Seen(int nState, const CWnd& control)
     {
-        return std::to_string(box.GetCheck()) + (box.IsWindowEnabled() ? "" : " off");
+        return std::to_string(nState) + (control.IsWindowEnabled() ? "" : " off");
     }
-    std::string SeenOptions() const
+    std::string First() const { return Seen(first.GetCheck(), first); }
+    std::string Boxes() const { return First() + ", " + Seen(second.GetCheck(), second); }
+    std::string BoxAndOption() const
     {
-        bool bEnabled = true;
-        for (int nId = idOption; nId < idEnd; ++nId)
-            bEnabled = bEnabled && dialog.GetDlgItem(nId)->IsWindowEnabled();
-        return std::to_string(options.GetOption()) + (bEnabled ? "" : " off");
+        return First() + ", " + Seen(options.GetOption(), *dialog.GetDlgItem(idOption + 1));
     }
 
-    RulesDialog dialog;
-    CButton& first = dialog.first;
-    CButton& second = dialog.second;
-    CRadioGroup& options = dialog.options;
+    CDialog dialog;
+    CButton first, second;
+    CRadioGroup options{nullptr, 0};
 };
 } // namespace
 
 TEST_F(CheckBoxRules, OneBoxIsAFlag)
 {
-    for (const auto& [nSet, nRead] : {std::pair(1, 1), {0, 0}, {2, 1}, {-7, 1}})
+    for (int nValue : {1, 0, 2, -7})
     {
-        int nValue = nSet;
+        const int nRead = nValue != 0;
         gfnObradiCheckBox(&first, true, &nValue);
-        EXPECT_EQ(first.GetCheck(), nRead) << nSet;
-        EXPECT_EQ(nValue, nSet) << "the value is only read";
+        EXPECT_EQ(first.GetCheck(), nRead);
         gfnObradiCheckBox(&first, false, &nValue);
         EXPECT_EQ(nValue, nRead);
     }
-    int nValue = 0;
-    owtest::Click(first);
-    gfnObradiCheckBox(&first, false, &nValue);
-    EXPECT_EQ(nValue, 0) << "the last value set was not 0, so the click took the check away";
     second.SetCheck(BST_INDETERMINATE);
-    nValue = 1;
+    int nValue = 1;
     gfnObradiCheckBox(&second, false, &nValue);
     EXPECT_EQ(nValue, 0) << "indeterminate is not checked";
 }
 
 TEST_F(CheckBoxRules, TwoBoxesAreThreeLevels)
 {
-    struct
+    const std::pair<int, const char*> levels[] = {{1, "1, 0"}, {0, "0, 0 off"}, {2, "1, 1"}, {3, "1, 0"}};
+    for (auto [nValue, seen] : levels)
     {
-        int nValue;
-        const char *first, *second;
-    } const levels[] = {{1, "1", "0"}, {0, "0", "0 off"}, {2, "1", "1"}, {3, "1", "0"}, {-1, "1", "0"}};
-    for (const auto& level : levels)
-    {
-        int nValue = level.nValue;
         gfnObradiDvaCheckBoxa(&first, &second, true, &nValue);
-        EXPECT_EQ(Seen(first), level.first) << nValue;
-        EXPECT_EQ(Seen(second), level.second) << nValue;
-        EXPECT_EQ(nValue, level.nValue);
+        EXPECT_EQ(Boxes(), seen) << nValue;
     }
-
-    const auto read = [&]
+    const auto click = [&](CButton& box)
     {
         int nValue = -1;
+        owtest::Click(box);
         gfnObradiDvaCheckBoxa(&first, &second, false, &nValue);
-        return std::to_string(nValue) + ": " + Seen(first) + ", " + Seen(second);
+        return std::to_string(nValue) + ": " + Boxes();
     };
-    first.SetCheck(0);
-    second.EnableWindow(FALSE);
-    owtest::Click(first);
-    EXPECT_EQ(read(), "1: 1, 0");
-    owtest::Click(second);
-    EXPECT_EQ(read(), "2: 1, 1");
-    owtest::Click(second);
-    EXPECT_EQ(read(), "3: 1, 2") << "the third state reads 3";
-    owtest::Click(first);
-    EXPECT_EQ(read(), "0: 0, 0 off");
+    EXPECT_EQ(click(second), "2: 1, 1");
+    EXPECT_EQ(click(second), "3: 1, 2") << "the third state reads 3";
+    EXPECT_EQ(click(first), "0: 0, 0 off");
+    EXPECT_EQ(click(first), "1: 1, 0");
 }
 
 TEST_F(CheckBoxRules, AConditionDecidesWhetherABoxIsRead)
 {
     for (int nCondition : {0, 1, -2})
     {
-        const std::string off = nCondition ? "" : " off";
         for (int nSet : {0, 5})
         {
             int nValue = nSet;
+            const std::string seen = std::to_string(nSet != 0) + (nCondition ? "" : " off");
             gfnObradiUslovniCheckBox(&first, true, &nCondition, &nValue);
-            EXPECT_EQ(Seen(first), (nSet ? "1" : "0") + off);
-            EXPECT_EQ(nValue, nSet);
-
+            EXPECT_EQ(First(), seen);
             first.EnableWindow(nCondition == 0); // reading puts that right
             gfnObradiUslovniCheckBox(&first, false, &nCondition, &nValue);
             EXPECT_EQ(nValue, nCondition && nSet ? 1 : nSet) << "without the condition it stays as it was";
-            EXPECT_EQ(Seen(first), (nSet ? "1" : "0") + off);
+            EXPECT_EQ(First(), seen);
         }
     }
 }
 
 TEST_F(CheckBoxRules, ABoxSwitchesARadioGroup)
 {
-    struct
+    const std::pair<int, const char*> values[] = {{2, "1, 1"},  {0, "0, -1 off"}, {1, "1, 0"},
+                                                  {3, "1, -1"}, {-1, "1, -1"},    {INT_MIN, "1, -1"}};
+    for (auto [nValue, seen] : values)
     {
-        int nValue;
-        const char *box, *options;
-    } const values[] = {{2, "1", "1"},  {0, "0", "-1 off"}, {1, "1", "0"},       {3, "1", "2"},
-                        {4, "1", "-1"}, {-1, "1", "-1"},    {INT_MIN, "1", "-1"}};
-    for (const auto& value : values)
-    {
-        int nValue = value.nValue;
         gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, true, &nValue);
-        EXPECT_EQ(Seen(first), value.box) << nValue;
-        EXPECT_EQ(SeenOptions(), value.options) << nValue;
-        EXPECT_EQ(nValue, value.nValue);
+        EXPECT_EQ(BoxAndOption(), seen) << nValue;
     }
-
-    const auto read = [&]
+    int nValue = -1;
+    const auto click = [&](int nId)
     {
-        int nValue = -1;
+        owtest::Click(*dialog.GetDlgItem(nId));
         gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, false, &nValue);
-        return std::to_string(nValue) + ": " + Seen(first) + ", " + SeenOptions();
+        return std::to_string(nValue) + ": " + BoxAndOption();
     };
-    EXPECT_EQ(read(), "1: 1, 0") << "on always gives an option";
-    owtest::Click(*dialog.GetDlgItem(idOption + 2));
-    EXPECT_EQ(read(), "3: 1, 2");
-    owtest::Click(first);
-    EXPECT_EQ(read(), "0: 0, -1 off");
-    owtest::Click(first);
-    EXPECT_EQ(read(), "1: 1, 0");
-}
-
-TEST_F(CheckBoxRules, ASwitchOfAnEmptyGroupIsOneOrZero)
-{
-    CRadioGroup none(nullptr, 0);
-    int nValue = 2;
-    gfnObradiChkBoxSaGrupomRadioDugmica(&first, none, true, &nValue);
-    EXPECT_EQ(first.GetCheck(), 1);
-    gfnObradiChkBoxSaGrupomRadioDugmica(&first, none, false, &nValue);
-    EXPECT_EQ(nValue, 1);
+    EXPECT_EQ(click(idOption + 1), "2: 1, 1");
+    EXPECT_EQ(click(idFirst), "0: 0, -1 off");
+    EXPECT_EQ(click(idFirst), "1: 1, 0") << "on always gives an option";
+    options.Empty();
+    EXPECT_EQ(click(idEnd), "1: 1, -1") << "an empty group has no other";
 }
 
 TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
 {
     int nValue = 7, nCondition = 1;
     CButton noWindow;
+    CButton* const pNone = &noWindow;
     first.SetCheck(1);
     second.EnableWindow(FALSE);
     for (bool bSet : {true, false})
     {
-        for (CButton* pNone : {static_cast<CButton*>(nullptr), &noWindow})
-        {
-            gfnObradiCheckBox(pNone, bSet, &nValue);
-            gfnObradiDvaCheckBoxa(pNone, &second, bSet, &nValue);
-            gfnObradiDvaCheckBoxa(&first, pNone, bSet, &nValue);
-            gfnObradiUslovniCheckBox(pNone, bSet, &nCondition, &nValue);
-            gfnObradiChkBoxSaGrupomRadioDugmica(pNone, options, bSet, &nValue);
-        }
+        gfnObradiCheckBox(nullptr, bSet, &nValue);
+        gfnObradiCheckBox(pNone, bSet, &nValue);
         gfnObradiCheckBox(&first, bSet, nullptr);
+        gfnObradiDvaCheckBoxa(pNone, &second, bSet, &nValue);
+        gfnObradiDvaCheckBoxa(&first, pNone, bSet, &nValue);
         gfnObradiDvaCheckBoxa(&first, &second, bSet, nullptr);
+        gfnObradiUslovniCheckBox(pNone, bSet, &nCondition, &nValue);
         gfnObradiUslovniCheckBox(&first, bSet, nullptr, &nValue);
         gfnObradiUslovniCheckBox(&first, bSet, &nCondition, nullptr);
+        gfnObradiChkBoxSaGrupomRadioDugmica(pNone, options, bSet, &nValue);
         gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, bSet, nullptr);
     }
     EXPECT_EQ(nValue, 7);
-    EXPECT_EQ(Seen(first), "1");
-    EXPECT_EQ(Seen(second), "0 off");
-    EXPECT_EQ(SeenOptions(), "-1");
+    EXPECT_EQ(Boxes(), "1, 0 off");
+    EXPECT_EQ(options.GetOption(), -1);
 }

@@ -3,7 +3,6 @@
 #include <DialogControlsOW.h>
 
 #include "DialogTemplate.h"
-#include "Handles.h"
 #include "Input.h"
 
 #include <gtest/gtest.h>
@@ -19,13 +18,17 @@ constexpr DWORD kRadio = BS_AUTORADIOBUTTON;
 constexpr DWORD kFirst = kRadio | WS_GROUP | WS_TABSTOP;
 constexpr WORD kNoId = 0xFFFF;
 
-/// A control of a row of a dialog, from left to right.
+/// A control in a row from left to right.
 struct Member
 {
     WORD id;
     DWORD style = kRadio;
     const wchar_t* windowClass = L"BUTTON";
 };
+using Row = std::vector<Member>;
+
+const Member kButton{120, BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP};
+const Row kTwoGroups = {{101, kFirst}, {102}, {103}, {111, kFirst}, {112}, kButton};
 
 class Handler : public AButtonSTNotificationHandler
 {
@@ -38,27 +41,23 @@ public:
 class RowDialog : public CDialog
 {
 public:
-    bool Open(const std::vector<Member>& row)
+    bool Open(const Row& row)
     {
         owtest::DialogTemplate form(L"Groups", 240, 30);
+        form.Style(WS_POPUP | WS_CAPTION | WS_VISIBLE);
         short x = 4;
         for (const Member& member : row)
         {
-            form.Item(member.windowClass, std::to_wstring(member.id % 100), member.id, member.style, x, 8, 22,
-                      12);
-            x += 24;
+            form.Item(member.windowClass, L"", member.id, member.style, x, 8, 12, 12);
+            x += 16;
         }
         return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
     }
-    void Click(int nId) { owtest::Click(*GetDlgItem(nId)); }
+    CWnd& operator[](int nId) { return *GetDlgItem(nId); }
+    void Click(int nId) { owtest::Click((*this)[nId]); }
 
 protected:
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        ShowWindow(SW_SHOW);
-        return FALSE;
-    }
+    BOOL OnInitDialog() override { return FALSE; }
 };
 
 /// A dialog that hears the clicks itself.
@@ -69,91 +68,54 @@ class HearingDialog : public RowDialog, public Handler
 Ids IdsOf(const CRadioGroup& group)
 {
     Ids ids(group.Count());
-    for (int nId = 0; nId <= 0xFFFF; ++nId)
-    {
+    for (int nId = 0; nId <= kNoId; ++nId)
         if (const int nIndex = group.Find(nId); nIndex >= 0)
             ids[nIndex] = nId;
-    }
     return ids;
 }
-
-using Row = std::vector<Member>;
-
-const Row kTwoGroups = {{101, kFirst}, {102}, {103},
-                        {111, kFirst}, {112}, {120, BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP}};
 
 class RadioGroup : public ::testing::Test
 {
 protected:
+    void SetUp() override { ASSERT_TRUE(dialog.Open(kTwoGroups)); }
     void TearDown() override { dialog.DestroyWindow(); }
 
-    /// The ids of a group in a dialog of its own.
+    /// The ids of a group in a dialog with this row, after some were hidden and disabled.
     Ids Find(const Row& row, int nFirstId, const Ids& hidden = {}, const Ids& disabled = {})
     {
         dialog.DestroyWindow();
         EXPECT_TRUE(dialog.Open(row));
         for (int nId : hidden)
-            dialog.GetDlgItem(nId)->ShowWindow(SW_HIDE);
+            dialog[nId].ShowWindow(SW_HIDE);
         for (int nId : disabled)
-            dialog.GetDlgItem(nId)->EnableWindow(FALSE);
-        const CRadioGroup group(&dialog, nFirstId);
-        EXPECT_EQ(group.GetUniqueId(), group.Count() ? nFirstId : 0);
-        return IdsOf(group);
+            dialog[nId].EnableWindow(FALSE);
+        return IdsOf(CRadioGroup(&dialog, nFirstId));
+    }
+    Ids ClickOn(int nId)
+    {
+        dialog.Click(nId);
+        return dialog.Take();
     }
 
     HearingDialog dialog;
 };
 } // namespace
 
-TEST_F(RadioGroup, EndsBeforeTheNextTabStopALabelOrAControlWithoutAnId)
+TEST_F(RadioGroup, EndsBeforeATabStopALabelOrAControlWithoutAnIdOrAllTheWayRound)
 {
+    const Member tabStop{119, kRadio | WS_TABSTOP};
     EXPECT_EQ(Find(kTwoGroups, 101), (Ids{101, 102, 103}));
     EXPECT_EQ(Find(kTwoGroups, 111), (Ids{111, 112})) << "side by side with the other";
-    EXPECT_EQ(Find(kTwoGroups, 102), (Ids{102, 103, 101}))
-        << "from inside, round to the beginning of its group";
-
-    const Member button{120, BS_PUSHBUTTON | WS_TABSTOP};
-    EXPECT_EQ(Find({{101, kFirst}, {102}, button, {103}}, 101), (Ids{101, 102}))
-        << "a tab stop without WS_GROUP";
-    EXPECT_EQ(Find({{101, kFirst}, {102}, {105, SS_LEFT, L"STATIC"}, {103}, button}, 101), (Ids{101, 102}));
-    EXPECT_EQ(Find({{101, kFirst}, {102}, {105, 0, L"EDIT"}, {103}, button}, 101), (Ids{101, 102, 105, 103}))
-        << "only a label ends it";
-    EXPECT_EQ(Find({{101, kFirst}, {102}, {kNoId, BS_GROUPBOX}, {103}, button}, 101), (Ids{101, 102}));
-    EXPECT_EQ(Find({{105, SS_LEFT | WS_TABSTOP, L"STATIC"}, button}, 105), Ids{});
-    EXPECT_EQ(Find({{kNoId}, button}, kNoId), Ids{});
-    EXPECT_EQ(Find({button, {101, kRadio | WS_TABSTOP}, {102}, {103}}, 101), (Ids{101, 102, 103}))
-        << "round the end of the dialog to the tab stop at its beginning";
-}
-
-TEST_F(RadioGroup, IsEmptyWhereTheOnlyTabStopIsItsOwn)
-{
-    EXPECT_EQ(Find({{101, kFirst}}, 101), Ids{});
-    EXPECT_EQ(Find({{101, kFirst}, {102}}, 101), Ids{});
-    EXPECT_EQ(Find({{101, kFirst}, {120, BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP}}, 101), Ids{101})
-        << "a lone button beside another tab stop is a group of one";
-}
-
-TEST_F(RadioGroup, IsEmptyWithoutADialogAWindowOrTheControl)
-{
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
-    RowDialog noWindow;
-    for (const auto& [pDialog, nId] : {std::pair<CDialog*, int>(nullptr, 101),
-                                       {&dialog, 0},
-                                       {&dialog, 199},
-                                       {&dialog, -1},
-                                       {&noWindow, 101}})
-    {
-        CRadioGroup group(&dialog, 101);
-        group.Set(pDialog, nId);
-        EXPECT_EQ(group.Count(), 0) << nId;
-        EXPECT_EQ(group.GetUniqueId(), 0);
-        EXPECT_EQ(group.GetOption(), -1);
-        group.SetOption(0);
-        group.Enable(false);
-        group.Show(false);
-    }
-    EXPECT_EQ(dialog.IsDlgButtonChecked(101), 0u);
-    EXPECT_TRUE(dialog.GetDlgItem(101)->IsWindowEnabled() && dialog.GetDlgItem(101)->IsWindowVisible());
+    EXPECT_EQ(Find(kTwoGroups, 102), (Ids{102, 103, 101})) << "round to the beginning of the group";
+    EXPECT_EQ(Find({tabStop, {101, kRadio | WS_TABSTOP}, {102}}, 101), (Ids{101, 102})) << "round the dialog";
+    EXPECT_EQ(Find({{101}, tabStop, {111, kFirst}}, 101), Ids{101});
+    EXPECT_EQ(Find({{101, kFirst}, {102, SS_LEFT, L"STATIC"}, {103}, kButton}, 101), Ids{101});
+    EXPECT_EQ(Find({{101, kFirst}, {102, 0, L"EDIT"}, {103}, kButton}, 101), (Ids{101, 102, 103}));
+    EXPECT_EQ(Find({{101, kFirst}, {kNoId, BS_GROUPBOX}, {103}, kButton}, 101), Ids{101});
+    EXPECT_EQ(Find({{101, kFirst}, {102}, {102}, {103}, kButton}, 101), (Ids{101, 102}))
+        << "an id given twice";
+    EXPECT_EQ(Find({{101, kFirst}, kButton}, 101), Ids{101}) << "one button";
+    EXPECT_EQ(Find({{101, kFirst}, {102}}, 101), Ids{}) << "the only tab stop";
 }
 
 // The system's walk round a group never comes back to a first control that it passes over.
@@ -163,96 +125,72 @@ TEST_F(RadioGroup, PassesOverHiddenAndDisabledControlsAndComesToAnEnd)
     EXPECT_EQ(Find(kTwoGroups, 101, {}, {103}), (Ids{101, 102}));
     EXPECT_EQ(Find(kTwoGroups, 101, {101}), (Ids{101, 102, 103}))
         << "the first one belongs to it all the same";
-    EXPECT_EQ(Find(kTwoGroups, 101, {}, {101, 103}), (Ids{101, 102}));
-    EXPECT_EQ(Find(kTwoGroups, 101, {101, 102, 103}), Ids{101});
-    EXPECT_EQ(Find({{101, kFirst}, {102}, {102}, {103}, {120, BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP}}, 101),
-              (Ids{101, 102}))
-        << "an id that was given twice ends it";
+    EXPECT_EQ(Find(kTwoGroups, 101, {101, 102}, {103}), Ids{101});
 }
 
-TEST_F(RadioGroup, TurnsTheCheckedButtonIntoAnIndexAndBack)
+TEST_F(RadioGroup, IsEmptyWithoutADialogAWindowOrTheControl)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
+    RowDialog noWindow;
+    using Place = std::pair<CDialog*, int>;
+    for (const auto& [pDialog, nId] : {Place(nullptr, 101), {&dialog, 0}, {&dialog, 199}, {&noWindow, 101}})
+    {
+        CRadioGroup group(&dialog, 101);
+        group.Set(pDialog, nId);
+        EXPECT_EQ(group.Count(), 0) << nId;
+        EXPECT_EQ(group.GetUniqueId(), 0);
+        EXPECT_EQ(group.GetOption(), -1);
+        group.SetOption(0);
+        group.Enable(false);
+        EXPECT_TRUE(dialog[101].IsWindowEnabled() && !dialog.IsDlgButtonChecked(101));
+    }
+}
+
+TEST_F(RadioGroup, TurnsTheCheckedButtonIntoAnIndexAndBackInSilence)
+{
     CRadioGroup group(&dialog, 101), other(&dialog, 111);
-    EXPECT_EQ(group.GetOption(), -1);
     other.SetOption(1);
-    for (int nOption : {2, 0, 1})
+    for (int nOption : {2, -1, 0, 3, 1})
     {
         group.SetOption(nOption);
-        EXPECT_EQ(group.GetOption(), nOption);
-        EXPECT_EQ(dialog.GetCheckedRadioButton(101, 103), 101 + nOption);
-    }
-    for (int nNone : {-1, 3})
-    {
-        group.SetOption(1);
-        group.SetOption(nNone);
-        EXPECT_EQ(group.GetOption(), -1) << nNone;
+        const bool bMember = nOption >= 0 && nOption < 3;
+        EXPECT_EQ(group.GetOption(), bMember ? nOption : -1);
+        EXPECT_EQ(dialog.GetCheckedRadioButton(101, 103), bMember ? 101 + nOption : 0);
     }
     EXPECT_EQ(other.GetOption(), 1) << "the other group keeps its own";
-    EXPECT_EQ(dialog.Take(), Ids{}) << "what the program does is not reported";
-    EXPECT_EQ(group.Find(103), 2);
-    EXPECT_EQ(group.Find(111), -1);
+    EXPECT_EQ(dialog.Take(), Ids{});
 }
 
-TEST_F(RadioGroup, TellsTheDialogOfClicksAndKeysAfterTheOptionHasChanged)
+TEST_F(RadioGroup, TellsItsHandlerOfClicksAndKeys)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
     CRadioGroup group(&dialog, 101), other(&dialog, 111);
-    dialog.Click(102);
-    EXPECT_EQ(group.GetOption(), 1);
-    EXPECT_EQ(dialog.Take(), Ids{102});
+    EXPECT_EQ(ClickOn(102), Ids{102});
     owtest::Press(VK_RIGHT);
-    EXPECT_EQ(group.GetOption(), 2);
     EXPECT_EQ(dialog.Take(), Ids{103});
-    dialog.Click(112);
-    EXPECT_EQ(dialog.Take(), Ids{112});
     EXPECT_EQ(group.GetOption(), 2);
+    EXPECT_EQ(ClickOn(112), Ids{112});
 
     Handler own;
     group.SetNotificationHandler(&own);
-    dialog.Click(101);
+    EXPECT_EQ(ClickOn(101), Ids{});
     EXPECT_EQ(own.Take(), Ids{101});
-    EXPECT_EQ(dialog.Take(), Ids{});
     group.SetNotificationHandler(nullptr);
-    dialog.Click(102);
-    EXPECT_EQ(group.GetOption(), 1) << "silent, and at work";
-}
+    EXPECT_EQ(ClickOn(102), Ids{});
+    EXPECT_EQ(group.GetOption(), 1);
 
-TEST_F(RadioGroup, IsSilentOnADialogThatIsNoHandlerUntilItIsGivenOne)
-{
     RowDialog deaf;
     ASSERT_TRUE(deaf.Open(kTwoGroups));
-    CRadioGroup group(&deaf, 101);
+    group.Set(&deaf, 101);
     deaf.Click(102);
-    EXPECT_EQ(group.GetOption(), 1);
-    Handler handler;
-    group.SetNotificationHandler(&handler);
+    EXPECT_EQ(group.GetOption(), 1) << "no handler is no fault";
+    group.SetNotificationHandler(&own);
     deaf.Click(103);
-    EXPECT_EQ(handler.Take(), Ids{103});
+    EXPECT_EQ(own.Take(), Ids{103});
     deaf.DestroyWindow();
-}
-
-TEST_F(RadioGroup, ShowsAndEnablesEachOfItsControls)
-{
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
-    CRadioGroup group(&dialog, 101);
-    for (bool bOn : {false, true})
-    {
-        group.Show(bOn);
-        group.Enable(bOn);
-        for (int nId : {101, 102, 103})
-        {
-            EXPECT_EQ(dialog.GetDlgItem(nId)->IsWindowVisible() != FALSE, bOn) << nId;
-            EXPECT_EQ(dialog.GetDlgItem(nId)->IsWindowEnabled() != FALSE, bOn) << nId;
-        }
-        EXPECT_TRUE(dialog.GetDlgItem(111)->IsWindowVisible() && dialog.GetDlgItem(111)->IsWindowEnabled());
-    }
 }
 
 // A checked button takes the tab stop of its group over from the first one.
 TEST_F(RadioGroup, IsFoundAgainAfterAChoice)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
     CRadioGroup group(&dialog, 101);
     for (int nOption : {2, 1, -1, 0})
     {
@@ -261,107 +199,74 @@ TEST_F(RadioGroup, IsFoundAgainAfterAChoice)
         group.Set(&dialog, 101);
         EXPECT_EQ(IdsOf(group), (Ids{101, 102, 103})) << nOption;
         EXPECT_EQ(group.GetOption(), nOption);
-        dialog.Click(103);
-        EXPECT_EQ(dialog.Take(), Ids{103}) << "told once, to the dialog again";
+        EXPECT_EQ(ClickOn(103), Ids{103}) << "told once, to the dialog again";
     }
-    group.Set(&dialog, 111);
-    EXPECT_EQ(IdsOf(group), (Ids{111, 112}));
-    dialog.Click(101);
-    EXPECT_EQ(dialog.Take(), Ids{}) << "what was left is silent";
-}
-
-TEST_F(RadioGroup, EndsBeforeATabStopThatIsNotItsOwnWhateverIsChecked)
-{
-    ASSERT_TRUE(dialog.Open({{101}, {102, kRadio | WS_TABSTOP}, {111, kFirst}, {112}}));
-    EXPECT_EQ(IdsOf(CRadioGroup(&dialog, 101)), Ids{101}) << "it is not checked";
     dialog.CheckDlgButton(111, BST_CHECKED);
-    dialog.GetDlgItem(102)->ModifyStyle(WS_TABSTOP, 0);
-    EXPECT_EQ(IdsOf(CRadioGroup(&dialog, 101)), (Ids{101, 102})) << "it is of another group";
+    group.SetOption(-1);
+    group.Set(&dialog, 101);
+    EXPECT_EQ(IdsOf(group), (Ids{101, 102, 103})) << "the tab stop is the other group's";
+    group.Set(&dialog, 111);
+    EXPECT_EQ(ClickOn(101), Ids{}) << "what was left is silent";
 }
 
-TEST_F(RadioGroup, LeavesTheButtonsToTheDialogWhenItGoes)
+TEST_F(RadioGroup, LeavesTheButtonsToTheDialog)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
-    const owtest::HandleCount before = owtest::CountHandles();
     CRadioGroup group(&dialog, 101);
+    CRadioGroup(&dialog, 111);
     group.Empty();
-    EXPECT_EQ(group.Count(), 0);
-    EXPECT_EQ(group.GetOption(), -1);
+    for (int nId : {102, 112})
     {
-        CRadioGroup goes(&dialog, 101);
+        EXPECT_EQ(ClickOn(nId), Ids{});
+        EXPECT_EQ(dialog.IsDlgButtonChecked(nId), 1u) << "a radio button as any other";
     }
-    dialog.Click(102);
-    EXPECT_EQ(dialog.IsDlgButtonChecked(102), 1u) << "a radio button as any other";
-    EXPECT_EQ(dialog.Take(), Ids{});
-    EXPECT_EQ(owtest::CountHandles(), before);
+
+    Handler first;
+    CExtButton own(&first);
+    ASSERT_TRUE(own.SubclassDlgItem(102, &dialog));
+    group.Set(&dialog, 101);
+    CRadioGroup second(&dialog, 101);
+    EXPECT_EQ(ClickOn(102), Ids{});
+    EXPECT_EQ(first.Take(), Ids{102}) << "a control keeps the object that it has";
+    second.Empty();
+    EXPECT_EQ(ClickOn(103), Ids{103}) << "so the group that came first hears it";
 }
 
-TEST_F(RadioGroup, OutlivesTheWindowOfItsDialog)
+TEST_F(RadioGroup, ShowsAndEnablesItsControlsWhileTheyAreThere)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
     CRadioGroup group(&dialog, 101);
-    group.SetOption(1);
+    dialog[102].DestroyWindow();
+    for (bool bOn : {false, true})
+    {
+        group.Show(bOn);
+        group.Enable(!bOn);
+        EXPECT_EQ(dialog[101].IsWindowVisible() != FALSE, bOn);
+        EXPECT_EQ(dialog[103].IsWindowEnabled() != FALSE, !bOn) << "a control that is gone is passed over";
+        EXPECT_TRUE(dialog[111].IsWindowVisible() && dialog[111].IsWindowEnabled());
+    }
+    group.SetOption(2);
     dialog.DestroyWindow();
     EXPECT_EQ(group.GetOption(), -1);
     group.SetOption(0);
     group.Show(true);
-    group.Enable(true);
     EXPECT_EQ(IdsOf(group), (Ids{101, 102, 103}));
-
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
-    dialog.GetDlgItem(102)->DestroyWindow();
-    group.Enable(false);
-    EXPECT_FALSE(dialog.GetDlgItem(103)->IsWindowEnabled()) << "a control that is gone is passed over";
-    group.Enable(true);
-    group.Set(&dialog, 101);
-    EXPECT_EQ(IdsOf(group), (Ids{101, 103}));
-}
-
-TEST_F(RadioGroup, LeavesAControlToTheObjectThatItHas)
-{
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
-    Handler first;
-    CExtButton own(&first);
-    ASSERT_TRUE(own.SubclassDlgItem(102, &dialog));
-    CRadioGroup group(&dialog, 101), second(&dialog, 101);
-    EXPECT_EQ(second.Count(), 3);
-    dialog.Click(102);
-    EXPECT_EQ(first.Take(), Ids{102});
-    dialog.Click(103);
-    EXPECT_EQ(dialog.Take(), Ids{103}) << "by the first group alone";
-    EXPECT_EQ(group.GetOption(), 2);
-    second.Empty();
-    dialog.Click(101);
-    EXPECT_EQ(dialog.Take(), Ids{101});
 }
 
 TEST_F(RadioGroup, ACopySharesTheButtonsAndHearsNoClicks)
 {
-    ASSERT_TRUE(dialog.Open(kTwoGroups));
     CRadioGroup group(&dialog, 101), other(&dialog, 111);
     CRadioGroup copy(group);
-    EXPECT_EQ(IdsOf(copy), (Ids{101, 102, 103}));
     EXPECT_TRUE(copy == group && copy != other);
     copy.SetOption(2);
     EXPECT_EQ(group.GetOption(), 2);
-    dialog.Click(102);
+    EXPECT_EQ(ClickOn(102), Ids{102}) << "from the group alone";
     EXPECT_EQ(copy.GetOption(), 1);
-    EXPECT_EQ(dialog.Take(), Ids{102}) << "from the group alone";
 
     const CRadioGroup& self = group;
     group = self;
-    dialog.Click(103);
-    EXPECT_EQ(dialog.Take(), Ids{103}) << "a copy onto itself is none";
-
+    EXPECT_EQ(ClickOn(103), Ids{103}) << "a copy onto itself is none";
     group = other;
     EXPECT_EQ(IdsOf(group), (Ids{111, 112}));
-    EXPECT_TRUE(group == other);
-    dialog.Click(101);
-    EXPECT_EQ(dialog.Take(), Ids{}) << "the former buttons are let go";
-    dialog.Click(112);
-    EXPECT_EQ(dialog.Take(), Ids{112});
+    EXPECT_EQ(ClickOn(101), Ids{}) << "the former buttons are let go";
+    EXPECT_EQ(ClickOn(112), Ids{112});
     EXPECT_EQ(group.GetOption(), 1);
-    group.Empty();
-    EXPECT_TRUE(group == CRadioGroup(nullptr, 0));
-    EXPECT_EQ(other.GetOption(), 1);
 }

@@ -30,39 +30,31 @@ std::string Text(const CFormatJedinice& format)
            std::to_string(format.nEditValue);
 }
 
-CFormatJedinice Format(int nUnit, int nFlag, int nNumber)
-{
-    CFormatJedinice format;
-    format.nUnitIndex = nUnit;
-    format.nCheckFlag = nFlag;
-    format.nEditValue = nNumber;
-    return format;
-}
-
 class FormatDialog : public CDialog, public AFormatJediniceCtrlGroupNotificationHandler
 {
 public:
     CFormatJediniceCtrlGroup group{idCombo, idButton, idEdit, this};
-    CFormatJedinice record = Format(3, 1, 4);
+    CFormatJedinice record{3, 1, 4};
     Calls calls; ///< as "source: record"
     Calls Take() { return std::exchange(calls, {}); }
 
-    bool Open(DWORD buttonStyle = BS_AUTOCHECKBOX)
+    bool Open(DWORD buttonStyle)
     {
         const auto form = owtest::DialogTemplate(L"Format", 160, 30)
+                              .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
                               .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 8, 40, 90)
                               .Item(L"BUTTON", L"Unit", idButton, buttonStyle | WS_TABSTOP, 48, 8, 40, 12)
                               .Edit(idEdit, 90, 8, 24, 12)
                               .Edit(idElsewhere, 120, 8, 24, 12);
         return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
     }
-    CComboBox& Combo() { return static_cast<CComboBox&>(*GetDlgItem(idCombo)); }
+    CWnd& operator[](int nId) { return *GetDlgItem(nId); }
 
     /// What the user sees: "unit symbol, state, number".
     std::wstring Seen()
     {
-        return owtest::TextOf(Combo()) + L", " + std::to_wstring(IsDlgButtonChecked(idButton)) + L", " +
-               owtest::TextOf(*GetDlgItem(idEdit));
+        return owtest::TextOf((*this)[idCombo]) + L", " + std::to_wstring(IsDlgButtonChecked(idButton)) +
+               L", " + owtest::TextOf((*this)[idEdit]);
     }
 
 protected:
@@ -72,41 +64,38 @@ protected:
         CDialog::OnInitDialog();
         group.SetFormatSource(&record);
         group.Update(true, true);
-        ShowWindow(SW_SHOW);
-        GetDlgItem(idElsewhere)->SetFocus();
+        (*this)[idElsewhere].SetFocus();
         return FALSE;
     }
     void OnFormatGroupChanged(CFormatJediniceCtrlGroup* pGroup, CFormatJedinice* pFormat,
                               int nSource) override
     {
-        EXPECT_EQ(pGroup, &group);
-        EXPECT_EQ(pFormat, &record);
-        calls.push_back(std::to_string(nSource) + ": " + Text(*pFormat));
+        EXPECT_TRUE(pGroup == &group && pFormat == &record);
+        calls.push_back(std::to_string(nSource) + ": " + Text(record));
     }
 };
 
 class UnitFormatGroup : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(dialog.Open()); }
+    void SetUp() override { Open(BS_AUTOCHECKBOX); }
     void TearDown() override { dialog.DestroyWindow(); }
-    void Reopen(DWORD buttonStyle)
+    void Open(DWORD buttonStyle)
     {
         dialog.DestroyWindow();
         ASSERT_TRUE(dialog.Open(buttonStyle));
         dialog.Take();
     }
-    void Leave() { owtest::Click(*dialog.GetDlgItem(idElsewhere)); }
-    /// A change of each of the three controls, by keyboard and mouse.
+    /// A change of each control by the user: the next unit, the button, and 7 decimals.
     void ChangeAll()
     {
-        dialog.Combo().SetFocus();
+        dialog[idCombo].SetFocus();
         owtest::Press(VK_DOWN);
-        owtest::Click(*dialog.GetDlgItem(idButton));
-        owtest::Click(*dialog.GetDlgItem(idEdit));
-        dialog.GetDlgItem(idEdit)->SendMessage(EM_SETSEL, 0, -1);
+        owtest::Click(dialog[idButton]);
+        owtest::Click(dialog[idEdit]);
+        dialog[idEdit].SendMessage(EM_SETSEL, 0, -1);
         owtest::Type(L"7");
-        Leave();
+        owtest::Click(dialog[idElsewhere]);
     }
 
     FormatDialog dialog;
@@ -115,25 +104,19 @@ protected:
 };
 } // namespace
 
-TEST_F(UnitFormatGroup, ListsTheUnitsAndShowsTheRecord)
+TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
 {
-    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4");
-    std::wstring units;
-    for (int i = 0; i < dialog.Combo().GetCount(); ++i)
+    const std::pair<CFormatJedinice, const wchar_t*> formats[] = {
+        {{3, 1, 4}, L"dm, 1, 4"},  {{0, 1, 0}, L"m, 1, 0"},    {{1, 2, 99}, L"cm, 0, 15"},
+        {{2, 0, -3}, L"mm, 0, 0"}, {{4, 1, 15}, L"in, 1, 15"}, {{5, 1, 4}, L"ft, 1, 4"},
+        {{6, 1, 4}, L", 1, 4"},    {{-1, 1, 4}, L", 1, 4"}};
+    for (const auto& [format, seen] : formats)
     {
-        CString strUnit;
-        dialog.Combo().GetLBText(i, strUnit);
-        units += strUnit + L" ";
+        group.SetCtrlState(format);
+        EXPECT_EQ(dialog.Seen(), seen);
+        EXPECT_EQ(Text(record), "3, 1, 4") << "the record is not touched";
     }
-    EXPECT_EQ(units, L"m cm mm dm in ft ");
-
-    record = Format(0, 2, 99);
-    group.Update(true, true);
-    EXPECT_EQ(dialog.Seen(), L"m, 0, 15") << "only the flag 1 checks, and the number is brought into 0 to 15";
-    group.SetCtrlState(Format(6, 1, -3));
-    EXPECT_EQ(dialog.Seen(), L", 1, 0");
-    EXPECT_EQ(Text(record), "0, 2, 99") << "showing a format leaves the record alone";
-    EXPECT_EQ(Text(group.GetCtrlState()), "-1, 1, 0") << "no fallback for no unit";
+    EXPECT_EQ(Text(group.GetCtrlState()), "-1, 1, 4") << "no fallback for no unit";
     EXPECT_EQ(dialog.Take(), Calls{}) << "what the program does is not reported";
 }
 
@@ -141,105 +124,85 @@ TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
 {
     ChangeAll();
     EXPECT_EQ(dialog.Take(), (Calls{"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7"}));
-    owtest::Click(*dialog.GetDlgItem(idButton));
-    EXPECT_EQ(dialog.Take(), Calls{"1: 4, 1, 7"});
-    owtest::Click(*dialog.GetDlgItem(idEdit));
-    Leave();
-    EXPECT_EQ(dialog.Take(), Calls{"3: 4, 1, 7"}) << "also if nothing was typed";
+    owtest::Click(dialog[idEdit]);
+    owtest::Click(dialog[idElsewhere]);
+    EXPECT_EQ(dialog.Take(), Calls{"3: 4, 0, 7"}) << "also if nothing was typed";
 }
 
 TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverIndeterminateAgain)
 {
-    Reopen(BS_3STATE);
+    Open(BS_3STATE);
     group.Update(true, false);
-    const std::pair<UINT, int> clicks[] = {{1, 0}, {0, 1}, {1, 0}}; // what shows, and what is stored
-    for (const auto& [nShown, nStored] : clicks)
+    const std::pair<UINT, const char*> clicks[] = {{1, "1: 3, 0, 4"}, {0, "1: 3, 1, 4"}, {1, "1: 3, 0, 4"}};
+    for (const auto& [nShown, call] : clicks)
     {
-        owtest::Click(*dialog.GetDlgItem(idButton));
+        owtest::Click(dialog[idButton]);
         EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), nShown);
-        EXPECT_EQ(record.nCheckFlag, nStored);
-        EXPECT_EQ(group.GetCtrlState().nCheckFlag, static_cast<int>(nShown)) << "what the user sees";
+        EXPECT_EQ(dialog.Take(), Calls{call});
     }
-    EXPECT_EQ(dialog.Take().size(), 3u);
-
     group.OnButtonClicked(idElsewhere);
     EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "toggled for any id";
-    EXPECT_EQ(record.nCheckFlag, 0);
     EXPECT_EQ(dialog.Take(), Calls{});
 
-    Reopen(BS_AUTO3STATE);
+    Open(BS_AUTO3STATE);
     group.Update(true, false);
-    owtest::Click(*dialog.GetDlgItem(idButton));
-    EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "the one that toggles itself is left alone";
+    owtest::Click(dialog[idButton]);
+    EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "the one that toggles by itself is left alone";
 }
 
 TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
 {
-    Reopen(BS_3STATE);
+    Open(BS_3STATE);
+    record.nCheckFlag = 0;
     group.Update(true, false);
     EXPECT_EQ(dialog.Seen(), L", 2, ");
-    EXPECT_EQ(Text(record), "3, 1, 4");
-    EXPECT_EQ(Text(group.GetCtrlState()), "-1, 1, 4");
-    record.nCheckFlag = 0;
+    EXPECT_EQ(Text(record), "3, 0, 4");
     group.Update(false, false);
     EXPECT_EQ(Text(record), "2, 1, 4") << "entry 2, on, and the last number";
     EXPECT_EQ(dialog.Seen(), L"mm, 2, ");
+    record.nUnitIndex = 5;
     group.Update(true, true);
-    EXPECT_EQ(dialog.Seen(), L"mm, 1, 4") << "the same number ends the empty state";
-    group.SetCtrlState(Format(5, 0, 12));
+    EXPECT_EQ(dialog.Seen(), L"ft, 1, 4") << "the same number ends the empty state";
+    record.nUnitIndex = 0;
     group.Update(false, true);
-    EXPECT_EQ(Text(record), "5, 0, 12");
+    EXPECT_EQ(Text(record), "5, 1, 4");
 }
 
-TEST_F(UnitFormatGroup, IsSilentWithoutARecord)
+TEST_F(UnitFormatGroup, IsSilentWithoutARecordAndForOtherControls)
 {
     group.SetFormatSource(nullptr);
-    EXPECT_EQ(dialog.Combo().GetCount(), 0);
+    EXPECT_EQ(dialog[idCombo].SendMessage(CB_GETCOUNT), 0);
     ChangeAll();
     group.Update(true, true);
     group.Update(false, true);
-    EXPECT_EQ(Text(record), "3, 1, 4");
     EXPECT_EQ(Text(group.GetCtrlState()), "-1, 0, 7") << "the controls work";
-    EXPECT_EQ(dialog.Take(), Calls{});
-
     group.SetFormatSource(&record);
     EXPECT_EQ(dialog.Seen(), L"dm, 0, 7") << "the unit at once, the others by Update";
-}
 
-TEST_F(UnitFormatGroup, HearsItsOwnControlsOnlyAndNeedsNoHandler)
-{
-    group.SetCtrlState(Format(1, 0, 9));
     group.OnExtComboBoxSelChanged(idElsewhere, 0);
     group.OnButtonClicked(idElsewhere);
     group.OnEditNChange(idElsewhere);
     group.OnEditNKillFocus(idElsewhere);
     EXPECT_EQ(Text(record), "3, 1, 4");
     EXPECT_EQ(dialog.Take(), Calls{});
-
-    CFormatJediniceCtrlGroup quiet(idCombo, idButton, idEdit, nullptr);
-    quiet.SetFormatSource(&record);
-    quiet.OnEditNKillFocus(idEdit);
-    EXPECT_EQ(Text(record), "3, 1, 0");
 }
 
 TEST_F(UnitFormatGroup, EnablesAndShowsAllThree)
 {
-    const auto seen = [&]
+    const auto states = [&]
     {
         std::string text;
         for (int nId : {idCombo, idButton, idEdit})
-            text += std::string(dialog.GetDlgItem(nId)->IsWindowVisible() ? "v" : "-") +
-                    (dialog.GetDlgItem(nId)->IsWindowEnabled() ? "e " : "- ");
+            text +=
+                std::to_string(dialog[nId].IsWindowVisible()) + std::to_string(dialog[nId].IsWindowEnabled());
         return text;
     };
     group.Enable(FALSE);
-    EXPECT_EQ(seen(), "v- v- v- ");
+    EXPECT_EQ(states(), "101010");
     group.Display(TRUE);
-    EXPECT_EQ(seen(), "ve ve ve ") << "a group that is shown is enabled, too";
+    EXPECT_EQ(states(), "111111") << "a group that is shown is enabled, too";
     group.Display(FALSE);
-    EXPECT_EQ(seen(), "-- -- -- ");
-    group.Enable(TRUE);
-    EXPECT_EQ(seen(), "-e -e -e ");
+    EXPECT_EQ(states(), "000000");
 }
 
 TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
@@ -247,18 +210,18 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
     dialog.DestroyWindow();
     dialog.Take();
     group.Update(false, true);
-    group.Update(true, false);
-    group.SetCtrlState(Format(0, 0, 0));
+    group.SetCtrlState({0, 0, 0});
     group.OnExtComboBoxSelChanged(idCombo, 0);
     group.OnButtonClicked(idButton);
-    group.Enable(TRUE);
-    group.Display(TRUE);
+    group.Display(FALSE);
     EXPECT_EQ(Text(record), "3, 1, 4");
-    EXPECT_EQ(Text(group.GetCtrlState()), Text(CFormatJedinice()));
-    ASSERT_TRUE(dialog.Open());
-    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4");
+    EXPECT_EQ(group.GetCtrlState(), CFormatJedinice());
 
-    CFormatJediniceCtrlGroup lost(999, idButton, idEdit, nullptr);
+    Open(BS_AUTOCHECKBOX);
+    CFormatJediniceCtrlGroup lost(idElsewhere, 999, idEdit, nullptr);
     CDataExchange exchange(&dialog, FALSE);
     EXPECT_THROW(lost.DoDataExchange(&exchange), CNotSupportedException*) << "the dialog has no such control";
+    lost.SetFormatSource(&record);
+    lost.OnEditNKillFocus(idEdit);
+    EXPECT_EQ(Text(record), "3, 1, 0") << "no handler is no fault";
 }
