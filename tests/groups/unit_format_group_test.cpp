@@ -110,6 +110,8 @@ TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
         {{3, 1, 4}, L"dm, 1, 4"},  {{0, 1, 0}, L"m, 1, 0"},    {{1, 2, 99}, L"cm, 0, 15"},
         {{2, 0, -3}, L"mm, 0, 0"}, {{4, 1, 15}, L"in, 1, 15"}, {{5, 1, 4}, L"ft, 1, 4"},
         {{6, 1, 4}, L", 1, 4"},    {{-1, 1, 4}, L", 1, 4"}};
+    dialog[idEdit].SetWindowText(L"x"); // which the first format writes over
+    dialog.Take();
     for (const auto& [format, seen] : formats)
     {
         group.SetCtrlState(format);
