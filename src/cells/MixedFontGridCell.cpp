@@ -12,14 +12,6 @@ IMPLEMENT_DYNCREATE(CMixedFontGridCell, CGridCell)
 
 namespace
 {
-/// The font of the grid's window; for a grid without one, the font that it would have.
-HGDIOBJ FontOf(CGridCtrl& grid)
-{
-    if (::IsWindow(grid.m_hWnd))
-        return reinterpret_cast<HGDIOBJ>(grid.SendMessage(WM_GETFONT));
-    return grid.GetDefaultCell(FALSE, FALSE)->GetFontObject()->GetSafeHandle();
-}
-
 /// `rect` holds its last pixel, which is not counted.
 CPoint PlaceInCell(const CRect& rect, CSize size, DWORD nFormat)
 {
@@ -70,7 +62,8 @@ BOOL CMixedFontGridCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEr
 // The colour is that of an ordinary cell also where the cell is selected: this is wanted.
 void CMixedFontGridCell::DrawMixedText(CDC& dc, const CRect& rect)
 {
-    const CFontSelection font(dc, FontOf(*GetGrid()));
+    const LRESULT nFont = ::SendMessage(GetGrid()->m_hWnd, WM_GETFONT, 0, 0); // 0 without a window
+    const CFontSelection font(dc, reinterpret_cast<HGDIOBJ>(nFont));
     const CBkModeScope transparent(dc, TRANSPARENT);
     const COLORREF crOwn = GetTextClr();
     const CTextColorScope color(dc, crOwn == CLR_INHERIT ? GetDefaultCell()->GetTextClr() : crOwn);

@@ -7,15 +7,11 @@
 
 namespace owtest
 {
-class SubLanguage
+struct SubLanguage
 {
-public:
     /// LANG_GREEK, for instance.
     explicit SubLanguage(WORD language) { Set(language); }
     ~SubLanguage() { SetDisplays(); }
-    SubLanguage(const SubLanguage&) = delete;
-    SubLanguage& operator=(const SubLanguage&) = delete;
-
     static void Set(WORD language) { gOtSubLang.SetCurrentLanguage(MAKELANGID(language, SUBLANG_DEFAULT)); }
     static void SetDisplays() { gOtSubLang.SetCurrentLanguage(::GetSystemDefaultLangID()); }
 };
