@@ -6,62 +6,27 @@
 
 #include <algorithm>
 
+namespace
+{
+/// Takes a line out of a text, from `nStart` on; at the end of the text what is left.
+CString NextLine(const CString& strText, int& nStart)
+{
+    const int nFound = strText.Find(_T('\n'), nStart);
+    const int nEnd = nFound < 0 ? strText.GetLength() : nFound;
+    const CString strLine = strText.Mid(nStart, nEnd - nStart);
+    nStart = nEnd + 1;
+    return strLine;
+}
+} // namespace
+
 CStoredConfigs::CStoredConfigs(BoltPattern& values, const CString& strPath)
     : m_values(values), m_strPath(strPath)
 {
 }
 
-// A pattern takes two lines: its values, and its name, which may be any text.
 void CStoredConfigs::LoadConfigs()
 {
-    m_entries.clear();
-    CFileStatus status;
-    if (!CFile::GetStatus(m_strPath, status))
-        return;
-    try
-    {
-        const CString strText = ReadText(m_strPath);
-        for (int nStart = 0; nStart < strText.GetLength();)
-        {
-            const int nName = strText.Find(_T('\n'), nStart) + 1;
-            const int nEnd = strText.Find(_T('\n'), nName);
-            if (nName == 0 || nEnd < 0)
-                return;
-            Entry entry;
-            if (::swscanf(strText.GetString() + nStart, L"%d %lf %lf %d", &entry.values.nRows,
-                          &entry.values.dPitch, &entry.values.dEdge, &entry.values.nGrade) == 4)
-            {
-                entry.strName = strText.Mid(nName, nEnd - nName);
-                m_entries.push_back(entry);
-            }
-            nStart = nEnd + 1;
-        }
-    }
-    catch (CFileException* pException)
-    {
-        pException->ReportError(MB_ICONWARNING);
-        pException->Delete();
-    }
-}
-
-void CStoredConfigs::StoreConfigs()
-{
-    CString strText;
-    for (const Entry& entry : m_entries)
-    {
-        strText.AppendFormat(_T("%d %.17g %.17g %d\n"), entry.values.nRows, entry.values.dPitch,
-                             entry.values.dEdge, entry.values.nGrade);
-        strText += entry.strName + _T('\n');
-    }
-    try
-    {
-        WriteText(m_strPath, strText);
-    }
-    catch (CFileException* pException)
-    {
-        pException->ReportError(MB_ICONWARNING);
-        pException->Delete();
-    }
+    TryWithFile([this] { m_entries = Read(m_strPath); });
 }
 
 int CStoredConfigs::GetConfigNames(CStringArray& names)
@@ -74,38 +39,27 @@ int CStoredConfigs::GetConfigNames(CStringArray& names)
 
 bool CStoredConfigs::AddConfig(const CString& name)
 {
-    if (Find(name) >= 0)
+    if (Find(m_entries, name) != m_entries.end())
         return false;
-    m_nCurrent = static_cast<int>(m_entries.size());
-    m_entries.push_back({name, m_values});
-    StoreConfigs();
+    Put(name);
     return true;
 }
 
 void CStoredConfigs::OverwriteConfig(const CString& name)
 {
-    m_nCurrent = Find(name);
-    if (!Exists(m_nCurrent))
-        return;
-    m_entries[m_nCurrent].values = m_values;
-    StoreConfigs();
-}
-
-void CStoredConfigs::RenameConfig(int nIndex, const CString& name)
-{
-    if (!Exists(nIndex))
-        return;
-    m_entries[nIndex].strName = name;
-    StoreConfigs();
+    Put(name);
 }
 
 // The entry that follows becomes current, or else the last one.
 void CStoredConfigs::DeleteConfig(int nIndex)
 {
-    if (!Exists(nIndex))
-        return;
-    m_entries.erase(m_entries.begin() + nIndex);
-    StoreConfigs();
+    const CString strName = GetConfigName(nIndex);
+    Apply(
+        [&](Entries& entries)
+        {
+            if (const auto found = Find(entries, strName); found != entries.end())
+                entries.erase(found);
+        });
     SetCurrentConfig((std::min)(nIndex, static_cast<int>(m_entries.size()) - 1));
 }
 
@@ -131,11 +85,68 @@ CString CStoredConfigs::GetConfigName(int nIndex)
     return Exists(nIndex) ? m_entries[nIndex].strName : CString();
 }
 
-int CStoredConfigs::Find(const CString& strName) const
+CStoredConfigs::Entries::iterator CStoredConfigs::Find(Entries& entries, const CString& strName)
 {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(),
-                                    [&](const Entry& entry) { return entry.strName == strName; });
-    return found == m_entries.end() ? -1 : static_cast<int>(found - m_entries.begin());
+    return std::find_if(entries.begin(), entries.end(),
+                        [&](const Entry& entry) { return entry.strName == strName; });
+}
+
+// An entry takes two lines: its values, and its name, which may be any text. Values that are none are left out.
+CStoredConfigs::Entries CStoredConfigs::Read(const CString& strPath)
+{
+    Entries entries;
+    CFileStatus status;
+    const CString strText = CFile::GetStatus(strPath, status) ? ReadText(strPath) : CString();
+    for (int nStart = 0; nStart < strText.GetLength();)
+    {
+        const CString strValues = NextLine(strText, nStart);
+        Entry entry{NextLine(strText, nStart), {}};
+        if (::swscanf(strValues, L"%d %lf %lf %d", &entry.values.nRows, &entry.values.dPitch,
+                      &entry.values.dEdge, &entry.values.nGrade) == 4)
+            entries.push_back(entry);
+    }
+    return entries;
+}
+
+void CStoredConfigs::Write(const CString& strPath, const Entries& entries)
+{
+    CString strText;
+    for (const Entry& entry : entries)
+    {
+        strText.AppendFormat(_T("%d %.17g %.17g %d\n"), entry.values.nRows, entry.values.dPitch,
+                             entry.values.dEdge, entry.values.nGrade);
+        strText += entry.strName + _T('\n');
+    }
+    WriteText(strPath, strText);
+}
+
+/// Changes the entries here, in step with what the dialog shows, and those in the file.
+template <class Change>
+void CStoredConfigs::Apply(Change change)
+{
+    change(m_entries);
+    TryWithFile(
+        [&]
+        {
+            Entries stored = Read(m_strPath);
+            change(stored);
+            Write(m_strPath, stored);
+        });
+}
+
+/// Stores the present values under a name, in the entry that has it or in a new one at the end.
+void CStoredConfigs::Put(const CString& strName)
+{
+    Apply(
+        [&](Entries& entries)
+        {
+            const auto found = Find(entries, strName);
+            if (found != entries.end())
+                found->values = m_values;
+            else
+                entries.push_back({strName, m_values});
+        });
+    m_nCurrent = static_cast<int>(Find(m_entries, strName) - m_entries.begin());
 }
 
 bool CStoredConfigs::Exists(int nIndex) const

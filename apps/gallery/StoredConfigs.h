@@ -19,18 +19,17 @@ struct BoltPattern
 class CStoredConfigs : public AConfigSet
 {
 public:
-    /// `values` is the record that the dialog edits: it is stored from there, and a choice is put there.
+    /// `values` is the record that the dialog edits: it is stored from there, and a choice is put there. Every change
+    /// is written to the file at once; entries that another window has put there stay. The user is told of a file that
+    /// cannot be read or written.
     CStoredConfigs(BoltPattern& values, const CString& strPath);
 
-    /// No file means no entries. Lines that are no pattern are left out.
+    /// No file means no entries.
     void LoadConfigs() override;
-    /// Tells the user if the file cannot be written.
-    void StoreConfigs() override;
 
     int GetConfigNames(CStringArray& names) override;
     bool AddConfig(const CString& name) override;
     void OverwriteConfig(const CString& name) override;
-    void RenameConfig(int nIndex, const CString& name) override;
     void DeleteConfig(int nIndex) override;
     void SetCurrentConfig(int nIndex) override;
     bool IsConfigChanged() override;
@@ -43,13 +42,19 @@ private:
         CString strName;
         BoltPattern values;
     };
+    using Entries = std::vector<Entry>;
 
-    int Find(const CString& strName) const;
+    static Entries::iterator Find(Entries& entries, const CString& strName);
+    static Entries Read(const CString& strPath);
+    static void Write(const CString& strPath, const Entries& entries);
+    template <class Change>
+    void Apply(Change change);
+    void Put(const CString& strName);
     bool Exists(int nIndex) const;
     BoltPattern ValuesOf(int nIndex) const;
 
     BoltPattern& m_values;
     CString m_strPath;
-    std::vector<Entry> m_entries;
+    Entries m_entries;
     int m_nCurrent = -1;
 };

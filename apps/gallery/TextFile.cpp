@@ -2,12 +2,14 @@
 
 #include "TextFile.h"
 
-CString ReadText(const CString& strPath)
+#include <algorithm>
+
+CString ReadText(const CString& strPath, UINT nMost)
 {
-    constexpr UINT kMost = 65536; // bytes
     CFile file(strPath, CFile::modeRead | CFile::shareDenyNone);
+    const int nSize = static_cast<int>((std::min<ULONGLONG>)(file.GetLength(), nMost));
     CStringA strBytes;
-    const UINT nRead = file.Read(strBytes.GetBuffer(kMost), kMost);
+    const UINT nRead = file.Read(strBytes.GetBuffer(nSize), static_cast<UINT>(nSize));
     strBytes.ReleaseBuffer(static_cast<int>(nRead));
 
     const int nLength = ::MultiByteToWideChar(CP_UTF8, 0, strBytes, strBytes.GetLength(), nullptr, 0);

@@ -297,21 +297,18 @@ struct Template
     std::vector<Item> items;
 };
 
+/// The items of a name dialog, which differ in the last one.
+std::vector<Item> NameItems(const Item& box)
+{
+    return {{1, kButton, L"OK", 0x50010001, {36, 72, 54, 16}},
+            {2, kButton, L"Cancel", 0x50010000, {95, 72, 54, 16}},
+            {-1, kButton, L"", 0x50000007, {7, 3, 172, 63}},
+            box};
+}
+
 const Template kTemplates[] = {
-    {10075,
-     L"Naziv",
-     {186, 95},
-     {{1, kButton, L"OK", 0x50010001, {36, 72, 54, 16}},
-      {2, kButton, L"Cancel", 0x50010000, {95, 72, 54, 16}},
-      {-1, kButton, L"", 0x50000007, {7, 3, 172, 63}},
-      {kEdit, kEditClass, L"", 0x50810080, {15, 30, 156, 12}}}},
-    {10076,
-     L"Snimi",
-     {186, 95},
-     {{1, kButton, L"OK", 0x50010001, {36, 72, 54, 16}},
-      {2, kButton, L"Cancel", 0x50010000, {95, 72, 54, 16}},
-      {-1, kButton, L"", 0x50000007, {7, 3, 172, 63}},
-      {kCombo, kComboClass, L"", 0x50210002, {15, 30, 156, 30}}}},
+    {10075, L"Naziv", {186, 95}, NameItems({kEdit, kEditClass, L"", 0x50810080, {15, 30, 156, 12}})},
+    {10076, L"Snimi", {186, 95}, NameItems({kCombo, kComboClass, L"", 0x50210002, {15, 30, 156, 30}})},
     {10036,
      L"",
      {186, 46},

@@ -11,8 +11,10 @@ namespace
 {
 constexpr LPCTSTR kFilter = _T("Notes (*.txt)|*.txt|All files (*.*)|*.*||");
 
-CString FirstLine(const CString& strText)
+CString ReadFirstLine(const CString& strPath)
 {
+    constexpr UINT kMost = 4096; // bytes
+    const CString strText = ReadText(strPath, kMost);
     const int nEnd = strText.FindOneOf(_T("\r\n"));
     return nEnd < 0 ? strText : strText.Left(nEnd);
 }
@@ -34,7 +36,8 @@ protected:
 private:
     CString TextOf(int nId) const;
     void ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, const CString& strText);
-    int AskPath(CString& strPath, bool bOpen);
+    template <class Use>
+    void UseFile(bool bOpen, int nAnswerId, Use use);
 
     CString m_strMark = _T("B1");
     CString m_strLayer = _T("Axes");
@@ -67,37 +70,14 @@ void CNamesAndFilesPage::OnLayer()
 }
 
 void CNamesAndFilesPage::OnOpenFile()
-try
 {
-    CString strPath = m_strPath;
-    const int nResult = AskPath(strPath, true);
-    ShowAnswer(IDC_OPEN_ANSWER, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
-    if (nResult != IDOK)
-        return;
-    SetDlgItemText(IDC_FIRST_LINE, FirstLine(ReadText(strPath)));
-    m_strPath = strPath;
-}
-catch (CFileException* pException)
-{
-    pException->ReportError(MB_ICONWARNING);
-    pException->Delete();
+    UseFile(true, IDC_OPEN_ANSWER,
+            [this](const CString& strPath) { SetDlgItemText(IDC_FIRST_LINE, ReadFirstLine(strPath)); });
 }
 
 void CNamesAndFilesPage::OnSaveFile()
-try
 {
-    CString strPath = m_strPath;
-    const int nResult = AskPath(strPath, false);
-    ShowAnswer(IDC_SAVE_ANSWER, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
-    if (nResult != IDOK)
-        return;
-    WriteText(strPath, TextOf(IDC_NOTE));
-    m_strPath = strPath;
-}
-catch (CFileException* pException)
-{
-    pException->ReportError(MB_ICONWARNING);
-    pException->Delete();
+    UseFile(false, IDC_SAVE_ANSWER, [this](const CString& strPath) { WriteText(strPath, TextOf(IDC_NOTE)); });
 }
 
 int CNamesAndFilesPage::OnInitPageDialog()
@@ -123,13 +103,20 @@ void CNamesAndFilesPage::ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, co
     Log(pszStarter, _T("%s"), strAnswer.GetString());
 }
 
-int CNamesAndFilesPage::AskPath(CString& strPath, bool bOpen)
+/// Asks for a file, and uses it.
+template <class Use>
+void CNamesAndFilesPage::UseFile(bool bOpen, int nAnswerId, Use use)
 {
-    const CString strStart = strPath;
     const DWORD dwFlags =
         OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (bOpen ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
-    return gfnStartTranslatedFileDialog(strPath, bOpen, _T("txt"), strStart, dwFlags, kFilter, m_hWnd,
-                                        nullptr);
+    CString strPath;
+    const int nResult =
+        gfnStartTranslatedFileDialog(strPath, bOpen, _T("txt"), m_strPath, dwFlags, kFilter, m_hWnd, nullptr);
+    ShowAnswer(nAnswerId, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
+    if (nResult != IDOK)
+        return;
+    m_strPath = strPath;
+    TryWithFile([&] { use(strPath); });
 }
 } // namespace
 
