@@ -9,83 +9,58 @@
 
 namespace
 {
-class StoredConfigs : public testing::Test
+/// A program that has just started.
+struct Program
 {
-protected:
-    ~StoredConfigs() override { std::filesystem::remove(m_path); }
+    Program() : set(pattern, Path().c_str()) { set.LoadConfigs(); }
 
-    /// A program that has just started.
-    struct Program
+    std::wstring Names()
     {
-        explicit Program(const std::filesystem::path& path) : set(pattern, path.c_str())
-        {
-            set.LoadConfigs();
-        }
+        CStringArray names;
+        CString all;
+        for (int i = 0, count = set.GetConfigNames(names); i < count; ++i)
+            all += names[i] + L'|';
+        return all.GetString();
+    }
+    static std::filesystem::path Path()
+    {
+        return std::filesystem::temp_directory_path() / L"ow stored configs.txt";
+    }
 
-        std::wstring Names()
-        {
-            CStringArray names;
-            set.GetConfigNames(names);
-            std::wstring all;
-            for (INT_PTR i = 0; i < names.GetSize(); ++i)
-                all += names[i] + L'|';
-            return all;
-        }
-
-        BoltPattern pattern;
-        CStoredConfigs set;
-    };
-
-    std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"ow stored configs.txt";
+    BoltPattern pattern;
+    CStoredConfigs set;
 };
 } // namespace
 
-TEST_F(StoredConfigs, AreThereAtTheNextStartWithTheirValues)
+TEST(StoredConfigs, AreThereAtTheNextStartWithTheirValues)
 {
     const CString longName(L'n', 10000), oddName = L" \x010D = [1]; \"x\" ";
-    {
-        Program program(m_path);
-        EXPECT_FALSE(program.set.IsConfigChanged());
-        program.pattern = {5, 0.1 / 3.0, 0.05, 2};
-        EXPECT_TRUE(program.set.IsConfigChanged());
-        EXPECT_TRUE(program.set.AddConfig(oddName));
-        program.pattern.nRows = 6;
-        EXPECT_TRUE(program.set.AddConfig(longName));
-        EXPECT_TRUE(program.set.AddConfig(L""));
-        EXPECT_FALSE(program.set.AddConfig(longName));
-        EXPECT_EQ(program.set.GetCurrentConfig(), 2);
-    }
-    Program again(m_path);
+    std::ofstream(Program::Path()) << "nonsense\nX\n4 0.07 0.04 1\nY";
+    Program program;
+    EXPECT_EQ(program.Names(), L"Y|");
+    program.set.DeleteConfig(0);
+    EXPECT_EQ(program.set.GetCurrentConfig(), -1);
+    program.pattern = {5, 0.1 / 3.0, 0.05, 2};
+    EXPECT_TRUE(program.set.IsConfigChanged());
+    EXPECT_TRUE(program.set.AddConfig(oddName) && program.set.AddConfig(longName) &&
+                program.set.AddConfig(L""));
+    EXPECT_FALSE(program.set.AddConfig(longName));
+
+    Program again;
     EXPECT_EQ(again.Names(), (oddName + L"|" + longName + L"||").GetString());
-    again.set.SetCurrentConfig(0);
-    EXPECT_EQ(again.pattern, (BoltPattern{5, 0.1 / 3.0, 0.05, 2}));
+    again.set.SetCurrentConfig(1);
+    EXPECT_EQ(again.pattern, program.pattern);
     again.set.DeleteConfig(1);
-    EXPECT_EQ(again.set.GetCurrentConfig(), 1);
-    again.set.DeleteConfig(1);
-    again.set.DeleteConfig(0);
-    EXPECT_EQ(again.set.GetCurrentConfig(), -1);
-    EXPECT_EQ(again.pattern, BoltPattern());
-    EXPECT_EQ(Program(m_path).Names(), L"");
+    EXPECT_EQ(again.set.GetConfigName(again.set.GetCurrentConfig()), L"") << "the one that followed";
+    std::filesystem::remove(Program::Path());
 }
 
-TEST_F(StoredConfigs, OfTwoWindowsDoNotDisplaceEachOther)
+TEST(StoredConfigs, OfTwoWindowsDoNotDisplaceEachOther)
 {
-    Program first(m_path), second(m_path);
+    Program first, second;
     first.set.AddConfig(L"A");
     second.set.AddConfig(L"B");
-    second.pattern.nRows = 9;
-    second.set.OverwriteConfig(L"A");
-    first.set.AddConfig(L"C");
-    first.set.DeleteConfig(1);
-    Program again(m_path);
-    EXPECT_EQ(again.Names(), L"A|B|");
-    again.set.SetCurrentConfig(0);
-    EXPECT_EQ(again.pattern.nRows, 9);
+    EXPECT_EQ(Program().Names(), L"A|B|");
     EXPECT_EQ(first.Names(), L"A|") << "in step with its own list";
-}
-
-TEST_F(StoredConfigs, LeaveOutWhatIsNoPattern)
-{
-    std::ofstream(m_path) << "nonsense\nX\n4 0.07 0.04 1\nY";
-    EXPECT_EQ(Program(m_path).Names(), L"Y|");
+    std::filesystem::remove(Program::Path());
 }
