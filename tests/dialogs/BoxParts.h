@@ -4,7 +4,9 @@
 #include <DialogControlsOW.h>
 
 #include "ModalVisit.h"
+#include "Picture.h"
 
+#include <algorithm>
 #include <string>
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
@@ -18,4 +20,30 @@ inline CRect PlaceOf(const CWnd& dialog, int id)
     dialog.GetDlgItem(id)->GetWindowRect(rect);
     dialog.ScreenToClient(rect);
     return rect;
+}
+
+/// Pixels inside the edge of a button, painted by it, in which one part of the colour is twice another.
+inline int CountColoured(CWnd& box, int id)
+{
+    constexpr int kEdge = 3;
+    auto* button = static_cast<CButton*>(CWnd::FromHandlePermanent(box.GetDlgItem(id)->m_hWnd));
+    DRAWITEMSTRUCT item{};
+    button->GetClientRect(&item.rcItem);
+    owtest::Surface picture(item.rcItem.right, item.rcItem.bottom);
+    item.CtlType = ODT_BUTTON;
+    item.hwndItem = button->m_hWnd;
+    item.hDC = picture.dc().m_hDC;
+    button->DrawItem(&item);
+
+    int found = 0;
+    for (int y = kEdge; y < picture.height() - kEdge; ++y)
+    {
+        for (int x = kEdge; x < picture.width() - kEdge; ++x)
+        {
+            const COLORREF pixel = picture.at(x, y);
+            const auto [low, high] = std::minmax({GetRValue(pixel), GetGValue(pixel), GetBValue(pixel)});
+            found += high > 2 * low;
+        }
+    }
+    return found;
 }

@@ -4,7 +4,6 @@
 #include "BoxParts.h"
 
 #include "Handles.h"
-#include "Picture.h"
 
 #include <dialogs/ProgressCtrlEx.h>
 
@@ -14,471 +13,338 @@
 
 #include <climits>
 #include <optional>
-#include <stdexcept>
 
 namespace
 {
-constexpr int kBar = 10152;
 constexpr COLORREF kDark = 0x404040;
 const wchar_t* const kTitle = L"Calculation";
 
-/// The window that the work belongs to; counts what is posted to it.
-class WorkWindow : public CWnd
-{
-public:
-    static constexpr UINT kPosted = WM_APP + 1;
-    int arrived = 0;
-
-    WorkWindow()
-    {
-        CreateEx(0, AfxRegisterWndClass(0), L"Work", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 301, 200, 402, 301,
-                 nullptr, nullptr);
-    }
-    ~WorkWindow() override { DestroyWindow(); }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        arrived += message == kPosted;
-        return CWnd::WindowProc(message, wParam, lParam);
-    }
-};
-
 /// The open progress box; null if there is none.
-CWnd* FindBox()
+CWnd* Box()
 {
-    const HWND box = ::FindWindow(L"#32770", kTitle);
-    return box ? CWnd::FromHandlePermanent(box) : nullptr;
+    return CWnd::FromHandlePermanent(::FindWindow(L"#32770", kTitle));
 }
 
-CProgressCtrlEx& BarOf(CWnd& box)
+CWnd& Cancel()
 {
-    return *static_cast<CProgressCtrlEx*>(box.GetDlgItem(kBar));
+    return *Box()->GetDlgItem(IDCANCEL);
 }
 
-CRect WindowRect(HWND window)
+CProgressCtrlEx& Bar()
+{
+    return *static_cast<CProgressCtrlEx*>(Box()->GetDlgItem(10152));
+}
+
+CPoint MiddleOf(const CWnd& window)
 {
     CRect rect;
-    ::GetWindowRect(window, rect);
-    return rect;
+    window.GetWindowRect(rect);
+    return rect.CenterPoint();
 }
 
 /// Whether WM_APP waits in the queue for the window.
-bool HasPosted(HWND window)
+bool IsWaiting(HWND window)
 {
     MSG msg;
     return ::PeekMessage(&msg, window, WM_APP, WM_APP, PM_NOREMOVE) != FALSE;
 }
 
-/// Counts the paints of a window.
-class PaintCounter
+/// Whether an action paints the bar: else a dot that was put on it is still there.
+bool Paints(const std::function<void()>& action)
 {
-public:
-    explicit PaintCounter(HWND window) : m_window(window)
-    {
-        s_count = 0;
-        s_before = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
-    }
-    ~PaintCounter() { ::SetWindowLongPtr(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_before)); }
-    int Take() { return std::exchange(s_count, 0); }
+    CClientDC dc(&Bar());
+    dc.SetPixel(0, 0, RGB(255, 0, 0));
+    action();
+    return dc.GetPixel(0, 0) != RGB(255, 0, 0);
+}
 
-private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        s_count += message == WM_PAINT;
-        return ::CallWindowProc(s_before, window, message, wParam, lParam);
-    }
-    inline static int s_count = 0;
-    inline static WNDPROC s_before = nullptr;
-    HWND m_window;
-};
-
-/// A box that may be cancelled, in front and ready for input.
+/// A box that may be cancelled, in front, for the work of a window.
 class Progress : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
+        const DWORD style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
+        m_work.CreateEx(0, AfxRegisterWndClass(0), L"", style, 200, 200, 401, 301, nullptr, nullptr);
         ASSERT_TRUE(owtest::Activate(m_work));
         m_progress.emplace(kTitle, m_work, true);
-        m_box = FindBox();
-        ASSERT_NE(m_box, nullptr);
-        ASSERT_TRUE(WorkUntil([&] { return ::GetActiveWindow() == m_box->m_hWnd; }));
+        ASSERT_TRUE(WorkUntil([] { return ::GetActiveWindow() == Box()->m_hWnd; }));
     }
-    CWnd& Cancel() { return *m_box->GetDlgItem(IDCANCEL); }
-
+    void TearDown() override
+    {
+        m_progress.reset();
+        m_work.DestroyWindow();
+    }
     /// Works, with nothing but Update to take messages, until the condition holds; false if it never does.
     bool WorkUntil(const std::function<bool()>& condition)
     {
         const ULONGLONG deadline = ::GetTickCount64() + 5000;
-        while (!condition())
-        {
-            if (::GetTickCount64() >= deadline)
-                return false;
-            m_answer = m_progress->Update(m_work_done++ / 1000);
-        }
-        return true;
+        while (!condition() && ::GetTickCount64() < deadline)
+            m_answer = m_progress->Update(m_done++ / 1000);
+        return condition();
     }
-    /// Does something that asks whether to stop, works until it is asked, and answers by a key. False if nothing asks.
-    bool AskAndAnswer(const std::function<void()>& ask, WORD answer,
-                      const std::function<void(CWnd&)>& look = {})
+    /// Asks for the end, works until the question stands, and looks at it. False if no question comes.
+    bool Ask(const std::function<void()>& ask, const std::function<void(CWnd&)>& look)
     {
         owtest::ModalVisit visit(
             [&](CWnd& question)
             {
-                const int before = m_work_done;
+                const int before = m_done;
                 EXPECT_EQ(TextOf(*question.GetDlgItem(kMessage)), L"Prekidanje procesa?");
-                if (look)
-                    look(question);
-                owtest::Press(answer);
-                EXPECT_EQ(m_work_done, before) << "the work stands still";
+                look(question);
+                EXPECT_EQ(m_done, before) << "the work stands still";
             });
         ask();
         return WorkUntil([&] { return visit.Count() == 1; });
     }
 
-    WorkWindow m_work;
+    CWnd m_work;
     std::optional<CSingleThreadProgress> m_progress;
-    CWnd* m_box = nullptr;
-    int m_work_done = 0;
+    int m_done = 0;
     bool m_answer = true; ///< of the last Update
 };
 
-void ExpectParts(const owtest::Surface& picture, const CRect& done, const CRect& rest)
+void Click()
 {
-    const COLORREF face = ::GetSysColor(COLOR_3DFACE);
-    EXPECT_EQ(picture.count(done, kDark) + picture.count(done, face), done.Width() * done.Height());
-    EXPECT_EQ(picture.count(rest, kDark) + picture.count(rest, face), rest.Width() * rest.Height());
-    EXPECT_GT(picture.count(done, kDark), 4 * picture.count(done, face));
-    EXPECT_GT(picture.count(rest, face), 4 * picture.count(rest, kDark));
+    owtest::QueueClick(Cancel());
+}
+
+void PressEscape()
+{
+    owtest::QueueKey(VK_ESCAPE);
 }
 } // namespace
 
-// ---- Cancel -------------------------------------------------------------------------------------------------
-
-TEST_F(Progress, MouseEscapeAndEnterAskAndARefusalLetsTheWorkGoOn)
+TEST_F(Progress, MouseAndKeysAskAndARefusalLetsTheWorkGoOn)
 {
-    const std::function<void()> ways[] = {
-        [&] { owtest::QueueClick(Cancel()); }, [] { owtest::QueueKey(VK_ESCAPE); },
-        [] { owtest::QueueKey(VK_RETURN); }, [] { owtest::QueueKey(VK_SPACE); },
-        [&] { m_box->PostMessage(WM_CLOSE); },
-    };
+    m_work.EnableWindow(FALSE);
+    const std::function<void()> ways[] = {Click, PressEscape, [] { owtest::QueueKey(VK_RETURN); },
+                                          [] { Box()->PostMessage(WM_CLOSE); }};
     for (const auto& way : ways)
     {
-        EXPECT_TRUE(AskAndAnswer(way, VK_ESCAPE)) << &way - ways;
+        EXPECT_TRUE(Ask(way, [](CWnd&) { owtest::Press(VK_ESCAPE); })) << &way - ways;
         EXPECT_TRUE(m_answer);
-        EXPECT_TRUE(m_box->IsWindowVisible());
+        EXPECT_FALSE(m_work.IsWindowEnabled()) << "as it was";
     }
     owtest::QueueKey(VK_TAB); // there is nowhere else to go
     EXPECT_TRUE(m_progress->DispatchPendingWindowMessages());
     EXPECT_EQ(::GetFocus(), Cancel().m_hWnd);
 }
 
-TEST_F(Progress, TheFirstAgreementCountsForGoodAndIsNotAskedForAgain)
+TEST_F(Progress, TheFirstAgreementCountsForGood)
 {
-    const auto look = [&](CWnd& question)
+    const auto agree = [&](CWnd& question)
     {
         EXPECT_EQ(TextOf(question), L"Calculation$$");
-        EXPECT_EQ(question.GetWindow(GW_OWNER), m_box);
         EXPECT_FALSE(m_work.IsWindowEnabled()) << "a click that has waited must not begin the work again";
-        owtest::ModalVisit second([](CWnd&) {});
-        m_box->SendMessage(WM_CLOSE);
-        owtest::Pump();
-        EXPECT_EQ(second.Count(), 0) << "one question at a time";
+        owtest::ModalVisit another([](CWnd&) {});
+        Box()->SendMessage(WM_CLOSE);
+        EXPECT_EQ(another.Count(), 0) << "one question at a time";
+        owtest::Press(VK_RETURN);
     };
-    EXPECT_TRUE(AskAndAnswer([&] { owtest::QueueClick(Cancel()); }, VK_RETURN, look));
+    EXPECT_TRUE(Ask(Click, agree));
     EXPECT_TRUE(m_work.IsWindowEnabled());
     EXPECT_FALSE(m_answer) << "the very call in which the user agreed";
-    EXPECT_TRUE(m_box->IsWindowVisible());
+    EXPECT_TRUE(Box()->IsWindowVisible());
 
-    owtest::ModalVisit visit([](CWnd&) {});
-    owtest::QueueKey(VK_ESCAPE);
-    owtest::QueueClick(Cancel());
+    owtest::ModalVisit second([](CWnd&) {});
+    Click();
     for (int i = 0; i < 100; ++i)
-    {
-        EXPECT_FALSE(m_progress->Update(i));
-        EXPECT_FALSE(m_progress->DispatchPendingWindowMessages());
-    }
-    EXPECT_EQ(visit.Count(), 0);
-    m_box->DestroyWindow();
+        EXPECT_FALSE(m_progress->Update(i) || m_progress->DispatchPendingWindowMessages());
+    EXPECT_EQ(second.Count(), 0);
+    Box()->DestroyWindow();
     EXPECT_FALSE(m_progress->Update(100)) << "also when the box is gone";
-}
-
-TEST_F(Progress, AWorkWindowThatIsDisabledStaysSo)
-{
-    m_work.EnableWindow(FALSE);
-    EXPECT_TRUE(AskAndAnswer([] { owtest::QueueKey(VK_ESCAPE); }, VK_ESCAPE));
-    EXPECT_FALSE(m_work.IsWindowEnabled());
 }
 
 TEST_F(Progress, TheBoxMayGoWhileTheQuestionStands)
 {
-    owtest::ModalVisit visit([&](CWnd&) { m_box->DestroyWindow(); });
-    owtest::QueueKey(VK_ESCAPE);
-    EXPECT_TRUE(WorkUntil([&] { return visit.Count() == 1; }));
+    EXPECT_TRUE(Ask(PressEscape, [](CWnd&) { Box()->DestroyWindow(); }));
     EXPECT_TRUE(m_answer);
-    EXPECT_EQ(FindBox(), nullptr);
+    EXPECT_EQ(Box(), nullptr);
     EXPECT_TRUE(m_work.IsWindowEnabled());
     EXPECT_TRUE(m_progress->Update(50));
 }
 
-// ---- Messages -----------------------------------------------------------------------------------------------
-
 TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
 {
-    m_work.PostMessage(WorkWindow::kPosted);
+    for (HWND window : {m_work.m_hWnd, Box()->m_hWnd, Cancel().m_hWnd})
+        ::PostMessage(window, WM_APP, 0, 0);
     ::PostThreadMessage(::GetCurrentThreadId(), WM_APP, 0, 0);
-    Cancel().PostMessage(WM_APP);
-    m_box->Invalidate();
     EXPECT_TRUE(m_progress->DispatchPendingWindowMessages());
-    EXPECT_FALSE(HasPosted(Cancel())) << "a control is part of the box";
-    EXPECT_FALSE(m_box->GetUpdateRect(nullptr));
-    EXPECT_EQ(m_work.arrived, 0);
-    EXPECT_TRUE(HasPosted(reinterpret_cast<HWND>(-1))) << "the thread's own";
+    EXPECT_FALSE(IsWaiting(*Box()) || IsWaiting(Cancel())) << "a control is part of the box";
+    EXPECT_TRUE(IsWaiting(m_work) && IsWaiting(reinterpret_cast<HWND>(-1))) << "the thread's, too";
     owtest::Pump();
-    EXPECT_EQ(m_work.arrived, 1);
-}
 
-TEST_F(Progress, TheEndOfTheApplicationIsNotLost)
-{
-    ::PostQuitMessage(7);
-    EXPECT_TRUE(m_progress->Update(50));
-    EXPECT_TRUE(m_progress->Update(60));
+    ::PostQuitMessage(7); // comes with every filter, and is not to be lost
+    EXPECT_TRUE(m_progress->Update(50) && m_progress->Update(60));
     MSG msg{};
     EXPECT_TRUE(::PeekMessage(&msg, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
     EXPECT_EQ(msg.wParam, 7u);
 }
 
+TEST_F(Progress, StandsOverItsParentOrOverTheMiddleOfTheScreen)
+{
+    EXPECT_GT(CountColoured(*Box(), IDCANCEL), 20) << "the icon";
+    CRect area;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    m_work.SetWindowPos(nullptr, -300, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    for (HWND parent : {m_work.m_hWnd, HWND(nullptr), reinterpret_cast<HWND>(0x12340)})
+    {
+        m_progress.emplace(kTitle, parent, true);
+        const CPoint off =
+            MiddleOf(*Box()) - (parent == m_work.m_hWnd ? MiddleOf(m_work) : area.CenterPoint());
+        EXPECT_LE(std::max(std::abs(off.x), std::abs(off.y)), parent == m_work.m_hWnd ? 0 : 1);
+        EXPECT_EQ(Box()->GetWindow(GW_OWNER), nullptr) << "not the parent's, which may go";
+    }
+}
+
 TEST(PlainProgress, TakesNoMessagesAndCannotBeCancelled)
 {
     CSingleThreadProgress progress(kTitle, nullptr, false);
-    CWnd& box = *FindBox();
-    EXPECT_EQ(box.GetDlgItem(IDCANCEL), nullptr);
-    box.PostMessage(WM_APP);
+    EXPECT_FALSE(Box()->GetUpdateRect(nullptr)) << "painted, as it has no other chance";
+    EXPECT_EQ(Box()->GetDlgItem(IDCANCEL), nullptr);
+    Box()->PostMessage(WM_APP);
     EXPECT_TRUE(progress.Update(10));
-    EXPECT_TRUE(HasPosted(box));
+    EXPECT_TRUE(IsWaiting(*Box()));
 
-    owtest::ModalVisit visit([](CWnd& question) { question.SendMessage(WM_COMMAND, IDOK); });
-    ASSERT_TRUE(owtest::Activate(box)); // a loop of the work's own
+    owtest::ModalVisit visit([](CWnd&) {});
+    ASSERT_TRUE(owtest::Activate(*Box())); // a loop of the work's own
     owtest::Press(VK_ESCAPE);
     owtest::Press(VK_RETURN);
-    EXPECT_TRUE(box.IsWindowVisible()) << "no key closes the box under the work";
+    EXPECT_TRUE(Box()->IsWindowVisible()) << "no key closes the box under the work";
     EXPECT_TRUE(progress.DispatchPendingWindowMessages());
     EXPECT_EQ(visit.Count(), 0);
 }
 
-// ---- The bar ------------------------------------------------------------------------------------------------
-
-TEST(ProgressBar, IsPaintedOnceForEachStepAndAtOnce)
-{
-    for (bool cancellable : {false, true})
-    {
-        CSingleThreadProgress progress(kTitle, nullptr, cancellable);
-        CProgressCtrlEx& bar = BarOf(*FindBox());
-        PaintCounter paints(bar);
-        for (int i = 0; i <= 10000; ++i)
-            progress.Update(i / 100);
-        EXPECT_EQ(paints.Take(), 50);
-        EXPECT_EQ(bar.GetPos(), 100);
-        EXPECT_FALSE(bar.GetUpdateRect(nullptr));
-    }
-}
-
-TEST(ProgressBar, GoesByTheStepThatIsSet)
+TEST(ProgressBar, IsPaintedForEachStepAndAtOnce)
 {
     CSingleThreadProgress progress(kTitle, nullptr, false);
-    CProgressCtrlEx& bar = BarOf(*FindBox());
-    const auto after = [&](int from, int to)
-    {
-        progress.Update(from);
-        PaintCounter paints(bar);
-        progress.Update(to);
-        return paints.Take();
-    };
-    EXPECT_EQ(after(10, 11), 0);
-    EXPECT_EQ(after(11, 12), 1);
-    progress.SetStep(10);
-    EXPECT_EQ(after(10, 19), 0);
-    EXPECT_EQ(after(19, 20), 1);
-    for (int step : {0, 1, -1})
+    int paints = 0;
+    for (int i = 0; i <= 10000; ++i)
+        paints += Paints([&] { progress.Update(i / 100); });
+    EXPECT_EQ(paints, 50);
+    using Case = std::tuple<int, int, int>; // a step, and two positions between which it lies
+    for (auto [step, from, to] : {Case(2, 11, 12),
+                                  {10, 19, 20},
+                                  {-10, 19, 20},
+                                  {0, 10, 11},
+                                  {-1, 10, 11},
+                                  {INT_MIN, 0, INT_MAX},
+                                  {-1, INT_MIN, 0}})
     {
         progress.SetStep(step);
-        EXPECT_EQ(after(20, 20), 0) << step;
-        EXPECT_EQ(after(20, 21), 1) << step;
-    }
-    progress.SetStep(-10);
-    EXPECT_EQ(after(10, 19), 0);
-    EXPECT_EQ(after(19, 20), 1);
-    for (int step : {INT_MIN, -1, INT_MAX})
-    {
-        progress.SetStep(step);
-        EXPECT_EQ(after(INT_MIN, INT_MAX), 1) << step;
+        progress.Update(step == 2 || std::abs(step) == 10 ? from - 1 : from);
+        EXPECT_FALSE(Paints([&] { progress.Update(from); })) << step;
+        EXPECT_TRUE(Paints([&] { progress.Update(to); })) << step;
     }
 }
 
 TEST(ProgressBar, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
 {
     CSingleThreadProgress progress(kTitle, nullptr, false);
-    CWnd& box = *FindBox();
-    ASSERT_TRUE(owtest::Activate(box));
-    CProgressCtrlEx& bar = BarOf(box);
-    const auto look = [&](int pos)
-    {
-        CRect client;
-        bar.GetClientRect(client);
-        auto picture = std::make_unique<owtest::Surface>(client.right, client.bottom);
-        progress.Update(pos);
-        CClientDC dc(&bar);
-        picture->dc().BitBlt(0, 0, client.right, client.bottom, &dc, 0, 0, SRCCOPY);
-        return picture;
-    };
-    const auto fresh = look(1);
-    const int w = fresh->width(), h = fresh->height();
     const COLORREF face = ::GetSysColor(COLOR_3DFACE);
-    const CRect inner(2, 2, w - 2, h - 2);
-
-    for (int pos : {48, 52})
+    CRect client, done, rest;
+    // Paints a position, and compares it with the two parts, the text across them in the other's colour.
+    const auto expectPainted = [&](int pos, bool vertical)
     {
-        const auto picture = look(pos);
-        const int x = (w - 4) * pos / 100 + 2;
-        ExpectParts(*picture, CRect(2, 2, x, h - 2), CRect(x, 2, w - 2, h - 2));
-        EXPECT_EQ(picture->count(CRect(0, 0, w, h), kDark), picture->count(inner, kDark)) << "the margin";
-        EXPECT_EQ(picture->at(x - 1, 2), kDark);
-        EXPECT_EQ(picture->at(x, 2), face);
-        EXPECT_GT(picture->count(CRect(2, 2, x, h - 2), face), 10) << "text on the bar";
-        EXPECT_GT(picture->count(CRect(x, 2, w - 2, h - 2), kDark), 10) << "text beside it";
-    }
-    EXPECT_EQ(look(50)->at(3, h / 2), kDark);
+        Bar().GetClientRect(client);
+        owtest::Surface seen(client.right, client.bottom), wanted(client.right, client.bottom, face);
+        done = rest = CRect(2, 2, client.right - 2, client.bottom - 2);
+        const int part = std::clamp(pos, 0, 100);
+        if (vertical)
+            done.top = rest.bottom = client.bottom - 2 - (client.bottom - 4) * part / 100;
+        else
+            done.right = rest.left = (client.right - 4) * part / 100 + 2;
+        wanted.dc().FillSolidRect(done, kDark);
+        CString text;
+        text.Format(L"%d %%", pos);
+        CFont* old = wanted.dc().SelectObject(Box()->GetFont());
+        const CSize size = wanted.dc().GetTextExtent(text);
+        const int x = size.cx < client.right - 4 ? (client.right - 2 - size.cx - 2) / 2 + 2 : 2;
+        const int y = size.cy < client.bottom - 4 ? (client.bottom - 2 - size.cy - 2) / 2 + 2 : 2;
+        wanted.dc().SetBkMode(TRANSPARENT);
+        for (const auto& [clip, color] : {std::pair(done, face), {rest, kDark}})
+        {
+            wanted.dc().SetTextColor(color);
+            wanted.dc().ExtTextOut(x, y, ETO_CLIPPED, clip, text, nullptr);
+        }
+        wanted.dc().SelectObject(old);
 
-    // In the middle, in the dialog's font: the text alone, as GDI draws it.
-    const auto none = look(-5);
-    owtest::Surface expected(w, h, face);
-    expected.dc().SelectObject(box.GetFont());
-    expected.dc().SetBkMode(TRANSPARENT);
-    expected.dc().SetTextColor(kDark);
-    const CSize text = expected.dc().GetTextExtent(L"-5 %");
-    const int ty = text.cy < h - 4 ? (h - 4 - text.cy) / 2 + 2 : 2;
-    expected.dc().ExtTextOut((w - 4 - text.cx) / 2 + 2, ty, ETO_CLIPPED, inner, L"-5 %", nullptr);
-    EXPECT_TRUE(*none == expected);
-    EXPECT_EQ(look(150)->count(inner, kDark) + look(150)->count(inner, face), inner.Width() * inner.Height());
-    EXPECT_EQ(bar.GetPos(), 100);
-    EXPECT_FALSE(*look(150) == *look(100)) << "the number as given";
-
-    bar.SetVertical(true);
-    box.SetWindowPos(nullptr, 0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER);
-    bar.SetWindowPos(nullptr, 0, 0, 60, 100, SWP_NOMOVE | SWP_NOZORDER);
+        progress.Update(pos);
+        CClientDC dc(&Bar());
+        seen.dc().BitBlt(0, 0, client.right, client.bottom, &dc, 0, 0, SRCCOPY);
+        EXPECT_TRUE(seen == wanted) << pos;
+        return std::min(seen.count(done, face), seen.count(rest, kDark));
+    };
     progress.SetStep(1);
-    const auto upright = look(30);
-    const int uw = upright->width(), uh = upright->height();
-    const int y = uh - 2 - (uh - 4) * 30 / 100;
-    ExpectParts(*upright, CRect(2, y, uw - 2, uh - 2), CRect(2, 2, uw - 2, y));
-    EXPECT_EQ(upright->at(2, y), kDark);
-    EXPECT_EQ(upright->at(2, y - 1), face);
+    EXPECT_GT(expectPainted(50, false), 10) << "the text lies across";
+    for (int pos : {49, -5, 100, 150}) // the numbers as given, the bar at its ends
+        expectPainted(pos, false);
+    Bar().SetVertical(true);
+    Box()->SetWindowPos(nullptr, 0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER);
+    for (CSize size : {CSize(81, 100), CSize(20, 41)}) // wider and narrower than the text
+    {
+        Bar().SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_GT(expectPainted(50 + size.cx % 2, true), 0);
+    }
+    for (CSize size :
+         {CSize(0, 0), CSize(40, 2), CSize(5, 40), CSize(40, 5)}) // no room, or for the margin only
+    {
+        Bar().SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        progress.Update(size.cx + 4);
+        EXPECT_FALSE(Bar().GetUpdateRect(nullptr));
+        EXPECT_NE(CClientDC(&Bar()).GetPixel(2, 2), kDark);
+    }
 }
 
-TEST(ProgressBar, MayHaveNoRoomAtAll)
+/// While it stands, no window is made on this thread.
+static LRESULT CALLBACK RefuseWindows(int code, WPARAM, LPARAM)
 {
-    CSingleThreadProgress progress(kTitle, nullptr, false);
-    CProgressCtrlEx& bar = BarOf(*FindBox());
-    const int gdi = owtest::CountHandles().gdi;
-    for (CSize size : {CSize(0, 0), CSize(40, 0), CSize(3, 3), CSize(5, 5), CSize(6, 6), CSize(8, 200)})
-    {
-        bar.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_TRUE(progress.Update(size.cx * 2 + 4));
-        EXPECT_FALSE(bar.GetUpdateRect(nullptr));
-    }
-    EXPECT_EQ(owtest::CountHandles().gdi, gdi);
-}
-
-// ---- Life ---------------------------------------------------------------------------------------------------
-
-TEST(ProgressBox, StandsOverTheMiddleOfItsParentAlsoOffTheScreen)
-{
-    WorkWindow work;
-    work.SetWindowPos(nullptr, -300, 200, 401, 301, SWP_NOZORDER);
-    for (HWND parent : {work.m_hWnd, HWND(nullptr), reinterpret_cast<HWND>(0x12340)})
-    {
-        CSingleThreadProgress progress(kTitle, parent, false);
-        const CWnd& box = *FindBox();
-        const CRect rect = WindowRect(box);
-        CRect work_area;
-        ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work_area, 0);
-        const CPoint middle =
-            parent == work.m_hWnd ? WindowRect(work).CenterPoint() : work_area.CenterPoint();
-        EXPECT_LE(std::abs(rect.CenterPoint().x - middle.x), 1);
-        EXPECT_LE(std::abs(rect.CenterPoint().y - middle.y), 1);
-        EXPECT_TRUE(box.IsWindowVisible());
-        EXPECT_EQ(box.GetWindow(GW_OWNER), nullptr) << "not the parent's, which may go";
-    }
+    return code == HCBT_CREATEWND;
 }
 
 TEST(ProgressBox, LeavesNothingBehindHoweverTheWorkEnds)
 {
-    const HINSTANCE resources = AfxGetResourceHandle();
-    const auto work = [](int end)
+    enum End
     {
-        CSingleThreadProgress progress(kTitle, nullptr, end % 2 == 0);
+        atOnce,
+        byException,
+        withoutBox,
+        toTheEnd
+    };
+    const auto work = [](End end, bool cancellable, bool made = true)
+    {
+        CSingleThreadProgress progress(kTitle, nullptr, cancellable);
+        EXPECT_EQ(Box() != nullptr, made);
         EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0) << "only while something is opened or closed";
-        progress.Update(30);
-        if (end < 2)
-            throw std::runtime_error("the work fails");
-        if (end < 4)
-            FindBox()->DestroyWindow();
-        EXPECT_TRUE(progress.Update(60));
-        EXPECT_TRUE(progress.DispatchPendingWindowMessages());
+        if (end == byException)
+            throw end;
+        if (end == withoutBox)
+            Box()->DestroyWindow();
+        EXPECT_TRUE(end == atOnce || (progress.Update(60) && progress.DispatchPendingWindowMessages()));
     };
     const auto all = [&]
     {
-        for (int end = 0; end < 6; ++end)
+        for (bool cancellable : {false, true})
         {
-            try
-            {
-                work(end);
-            }
-            catch (const std::runtime_error&)
-            {
-            }
-            EXPECT_EQ(FindBox(), nullptr);
+            EXPECT_THROW(work(byException, cancellable), End);
+            for (End end : {atOnce, withoutBox, toTheEnd})
+                work(end, cancellable);
+            EXPECT_EQ(Box(), nullptr);
+            EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
         }
         owtest::Pump();
         AfxGetApp()->OnIdle(1);
     };
+    const HHOOK hook = ::SetWindowsHookEx(WH_CBT, &RefuseWindows, nullptr, ::GetCurrentThreadId());
+    work(toTheEnd, true, false); // a box that cannot be made does not keep the work from going on
+    ::UnhookWindowsHookEx(hook);
+
     all(); // what is made once for the process
     const owtest::HandleCount before = owtest::CountHandles();
     const size_t heap = owtest::CountHeapBytes();
-    constexpr int kRounds = 10;
-    for (int i = 0; i < kRounds; ++i)
+    for (int i = 0; i < 10; ++i)
         all();
     EXPECT_EQ(owtest::CountHandles(), before);
-    EXPECT_LT(owtest::CountHeapBytes(), heap + kRounds * 6 * 100);
-    EXPECT_EQ(AfxGetResourceHandle(), resources);
-}
-
-namespace
-{
-/// While it stands, no dialog is made on this thread.
-class NoDialogs
-{
-public:
-    NoDialogs() : m_hook(::SetWindowsHookEx(WH_CBT, &Refuse, nullptr, ::GetCurrentThreadId())) {}
-    ~NoDialogs() { ::UnhookWindowsHookEx(m_hook); }
-
-private:
-    static LRESULT CALLBACK Refuse(int code, WPARAM, LPARAM) { return code == HCBT_CREATEWND; }
-    HHOOK m_hook;
-};
-} // namespace
-
-TEST(ProgressBox, ThatCannotBeMadeDoesNotKeepTheWorkFromGoingOn)
-{
-    for (bool cancellable : {false, true})
-    {
-        const NoDialogs none;
-        CSingleThreadProgress progress(kTitle, nullptr, cancellable);
-        EXPECT_EQ(::FindWindow(L"#32770", kTitle), nullptr);
-        EXPECT_TRUE(progress.Update(10));
-        EXPECT_TRUE(progress.DispatchPendingWindowMessages());
-        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
-    }
+    EXPECT_LT(owtest::CountHeapBytes(), heap + 10 * 8 * 100) << "less than the dialog of each";
 }

@@ -75,7 +75,7 @@ void CancelWork(CWnd& page)
         {
             refused = question->Count() == 1;
             question.emplace([&](CWnd&) { owtest::Press(VK_RETURN); });
-            owtest::QueuePress(VK_ESCAPE);
+            owtest::QueueKey(VK_ESCAPE);
         },
     });
     Run(page, L"false");
