@@ -223,77 +223,79 @@ TEST(ProgressBar, IsPaintedForEachStepAndAtOnce)
     for (int i = 0; i <= 10000; ++i)
         paints += Paints([&] { progress.Update(i / 100); });
     EXPECT_EQ(paints, 50);
-    using Case = std::tuple<int, int, int>; // a step, and two positions between which it lies
-    for (auto [step, from, to] : {Case(2, 11, 12),
-                                  {10, 19, 20},
-                                  {-10, 19, 20},
-                                  {0, 10, 11},
-                                  {-1, 10, 11},
-                                  {INT_MIN, 0, INT_MAX},
-                                  {-1, INT_MIN, 0}})
+    using Case = std::tuple<int, int, int, int>; // a step, two positions in it, and one beyond
+    for (auto [step, first, second, beyond] : {Case(2, 10, 11, 12),
+                                               {10, 10, 19, 20},
+                                               {-10, 10, 19, 20},
+                                               {0, 10, 10, 11},
+                                               {-1, 10, 10, 11},
+                                               {INT_MIN, 0, 9, INT_MAX},
+                                               {-1, 0, 0, INT_MIN}})
     {
         progress.SetStep(step);
-        progress.Update(step == 2 || std::abs(step) == 10 ? from - 1 : from);
-        EXPECT_FALSE(Paints([&] { progress.Update(from); })) << step;
-        EXPECT_TRUE(Paints([&] { progress.Update(to); })) << step;
+        progress.Update(first);
+        EXPECT_FALSE(Paints([&] { progress.Update(second); })) << step;
+        EXPECT_TRUE(Paints([&] { progress.Update(beyond); })) << step;
     }
 }
 
 TEST(ProgressBar, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
 {
     CSingleThreadProgress progress(kTitle, nullptr, false);
-    const COLORREF face = ::GetSysColor(COLOR_3DFACE);
-    CRect client, done, rest;
-    // Paints a position, and compares it with the two parts, the text across them in the other's colour.
-    const auto expectPainted = [&](int pos, bool vertical)
-    {
-        Bar().GetClientRect(client);
-        owtest::Surface seen(client.right, client.bottom), wanted(client.right, client.bottom, face);
-        done = rest = CRect(2, 2, client.right - 2, client.bottom - 2);
-        const int part = std::clamp(pos, 0, 100);
-        if (vertical)
-            done.top = rest.bottom = client.bottom - 2 - (client.bottom - 4) * part / 100;
-        else
-            done.right = rest.left = (client.right - 4) * part / 100 + 2;
-        wanted.dc().FillSolidRect(done, kDark);
-        CString text;
-        text.Format(L"%d %%", pos);
-        CFont* old = wanted.dc().SelectObject(Box()->GetFont());
-        const CSize size = wanted.dc().GetTextExtent(text);
-        const int x = size.cx < client.right - 4 ? (client.right - 2 - size.cx - 2) / 2 + 2 : 2;
-        const int y = size.cy < client.bottom - 4 ? (client.bottom - 2 - size.cy - 2) / 2 + 2 : 2;
-        wanted.dc().SetBkMode(TRANSPARENT);
-        for (const auto& [clip, color] : {std::pair(done, face), {rest, kDark}})
-        {
-            wanted.dc().SetTextColor(color);
-            wanted.dc().ExtTextOut(x, y, ETO_CLIPPED, clip, text, nullptr);
-        }
-        wanted.dc().SelectObject(old);
-
-        progress.Update(pos);
-        CClientDC dc(&Bar());
-        seen.dc().BitBlt(0, 0, client.right, client.bottom, &dc, 0, 0, SRCCOPY);
-        EXPECT_TRUE(seen == wanted) << pos;
-        return std::min(seen.count(done, face), seen.count(rest, kDark));
-    };
     progress.SetStep(1);
-    EXPECT_GT(expectPainted(50, false), 10) << "the text lies across";
-    for (int pos : {49, -5, 100, 150}) // the numbers as given, the bar at its ends
-        expectPainted(pos, false);
-    Bar().SetVertical(true);
-    Box()->SetWindowPos(nullptr, 0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER);
-    for (CSize size : {CSize(81, 100), CSize(20, 41)}) // wider and narrower than the text
+    Box()->SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
+    const COLORREF face = ::GetSysColor(COLOR_3DFACE);
+    // Sizes, the text narrower and wider than the bar, and no room; positions, the bar at its ends beyond the range.
+    using Case = std::tuple<int, int, bool, int>;
+    for (auto [cx, cy, vertical, pos] : {Case(201, 24, false, 50),
+                                         {200, 24, false, 49},
+                                         {200, 24, false, -5},
+                                         {200, 24, false, 100},
+                                         {200, 24, false, 150},
+                                         {81, 100, true, 50},
+                                         {20, 41, true, 51},
+                                         {9, 9, false, 52},
+                                         {5, 40, false, 53},
+                                         {40, 5, true, 54},
+                                         {40, 2, false, 55},
+                                         {0, 0, false, 56}})
     {
-        Bar().SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_GT(expectPainted(50 + size.cx % 2, true), 0);
-    }
-    for (CSize size :
-         {CSize(0, 0), CSize(40, 2), CSize(5, 40), CSize(40, 5)}) // no room, or for the margin only
-    {
-        Bar().SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        progress.Update(size.cx + 4);
+        Bar().SetVertical(vertical);
+        Bar().SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
+        CRect client;
+        Bar().GetClientRect(client);
+        const int w = client.right, h = client.bottom, part = std::clamp(pos, 0, 100);
+        owtest::Surface seen(w + 1, h + 1, face), wanted(w + 1, h + 1, face);
+        CRect done(2, 2, w - 2, h - 2), rest = done;
+        if (vertical)
+            done.top = rest.bottom = h - 2 - (h - 4) * part / 100;
+        else
+            done.right = rest.left = (w - 4) * part / 100 + 2;
+        if (w > 4 && h > 4)
+        {
+            CDC& dc = wanted.dc();
+            dc.FillSolidRect(done, kDark);
+            CString text;
+            text.Format(L"%d %%", pos);
+            CFont* old = dc.SelectObject(Box()->GetFont());
+            const CSize size = dc.GetTextExtent(text);
+            dc.SetBkMode(TRANSPARENT);
+            for (const auto& [clip, color] : {std::pair(done, face), {rest, kDark}})
+            {
+                dc.SetTextColor(color);
+                dc.ExtTextOut(size.cx < w - 4 ? (w - 2 - size.cx - 2) / 2 + 2 : 2,
+                              size.cy < h - 4 ? (h - 2 - size.cy - 2) / 2 + 2 : 2, ETO_CLIPPED, clip, text,
+                              nullptr);
+            }
+            dc.SelectObject(old);
+        }
+        progress.Update(pos);
         EXPECT_FALSE(Bar().GetUpdateRect(nullptr));
-        EXPECT_NE(CClientDC(&Bar()).GetPixel(2, 2), kDark);
+        CClientDC dc(&Bar());
+        seen.dc().BitBlt(0, 0, w, h, &dc, 0, 0, SRCCOPY);
+        EXPECT_TRUE(seen == wanted) << pos;
+        EXPECT_TRUE(pos != 50 || (seen.count(done, face) > 10 && seen.count(rest, kDark) > 10))
+            << "text across";
     }
 }
 
@@ -305,46 +307,37 @@ static LRESULT CALLBACK RefuseWindows(int code, WPARAM, LPARAM)
 
 TEST(ProgressBox, LeavesNothingBehindHoweverTheWorkEnds)
 {
-    enum End
-    {
-        atOnce,
-        byException,
-        withoutBox,
-        toTheEnd
-    };
-    const auto work = [](End end, bool cancellable, bool made = true)
+    const auto work = [](bool cancellable, bool made, bool destroyed = false, bool failing = false)
     {
         CSingleThreadProgress progress(kTitle, nullptr, cancellable);
         EXPECT_EQ(Box() != nullptr, made);
         EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0) << "only while something is opened or closed";
-        if (end == byException)
-            throw end;
-        if (end == withoutBox)
+        if (failing)
+            throw 1;
+        if (destroyed)
             Box()->DestroyWindow();
-        EXPECT_TRUE(end == atOnce || (progress.Update(60) && progress.DispatchPendingWindowMessages()));
+        EXPECT_TRUE(progress.Update(60) && progress.DispatchPendingWindowMessages());
     };
-    const auto all = [&]
+    const auto workInAllWays = [&]
     {
-        for (bool cancellable : {false, true})
+        for (int way = 0; way < 4; ++way)
         {
-            EXPECT_THROW(work(byException, cancellable), End);
-            for (End end : {atOnce, withoutBox, toTheEnd})
-                work(end, cancellable);
+            work(way & 1, true, way & 2);
+            EXPECT_THROW(work(way & 1, true, false, true), int);
             EXPECT_EQ(Box(), nullptr);
             EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
         }
-        owtest::Pump();
         AfxGetApp()->OnIdle(1);
     };
     const HHOOK hook = ::SetWindowsHookEx(WH_CBT, &RefuseWindows, nullptr, ::GetCurrentThreadId());
-    work(toTheEnd, true, false); // a box that cannot be made does not keep the work from going on
+    work(true, false); // a box that cannot be made does not keep the work from going on
     ::UnhookWindowsHookEx(hook);
 
-    all(); // what is made once for the process
+    workInAllWays(); // what is made once for the process
     const owtest::HandleCount before = owtest::CountHandles();
     const size_t heap = owtest::CountHeapBytes();
     for (int i = 0; i < 10; ++i)
-        all();
+        workInAllWays();
     EXPECT_EQ(owtest::CountHandles(), before);
     EXPECT_LT(owtest::CountHeapBytes(), heap + 10 * 8 * 100) << "less than the dialog of each";
 }
