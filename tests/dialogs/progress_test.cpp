@@ -35,13 +35,6 @@ CProgressCtrlEx& Bar()
     return *static_cast<CProgressCtrlEx*>(Box()->GetDlgItem(10152));
 }
 
-CPoint MiddleOf(const CWnd& window)
-{
-    CRect rect;
-    window.GetWindowRect(rect);
-    return rect.CenterPoint();
-}
-
 /// Whether WM_APP waits in the queue for the window.
 bool IsWaiting(HWND window)
 {
@@ -104,15 +97,8 @@ protected:
     bool m_answer = true; ///< of the last Update
 };
 
-void Click()
-{
-    owtest::QueueClick(Cancel());
-}
-
-void PressEscape()
-{
-    owtest::QueueKey(VK_ESCAPE);
-}
+const auto Click = [] { owtest::QueueClick(Cancel()); };
+const auto PressEscape = [] { owtest::QueueKey(VK_ESCAPE); };
 } // namespace
 
 TEST_F(Progress, MouseAndKeysAskAndARefusalLetsTheWorkGoOn)
@@ -182,18 +168,19 @@ TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
     EXPECT_EQ(msg.wParam, 7u);
 }
 
-TEST_F(Progress, StandsOverItsParentOrOverTheMiddleOfTheScreen)
+TEST_F(Progress, StandsOverItsParentOrInTheMiddleOfTheScreen)
 {
     EXPECT_GT(CountColoured(*Box(), IDCANCEL), 20) << "the icon";
-    CRect area;
-    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
     m_work.SetWindowPos(nullptr, -300, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-    for (HWND parent : {m_work.m_hWnd, HWND(nullptr), reinterpret_cast<HWND>(0x12340)})
+    CRect area, parent, box;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    m_work.GetWindowRect(parent);
+    for (HWND given : {m_work.m_hWnd, HWND(nullptr), reinterpret_cast<HWND>(0x12340)})
     {
-        m_progress.emplace(kTitle, parent, true);
-        const CPoint off =
-            MiddleOf(*Box()) - (parent == m_work.m_hWnd ? MiddleOf(m_work) : area.CenterPoint());
-        EXPECT_LE(std::max(std::abs(off.x), std::abs(off.y)), parent == m_work.m_hWnd ? 0 : 1);
+        m_progress.emplace(kTitle, given, true);
+        Box()->GetWindowRect(box);
+        const CPoint off = box.CenterPoint() - (given == m_work.m_hWnd ? parent : area).CenterPoint();
+        EXPECT_LE(std::max(std::abs(off.x), std::abs(off.y)), given == m_work.m_hWnd ? 0 : 1);
         EXPECT_EQ(Box()->GetWindow(GW_OWNER), nullptr) << "not the parent's, which may go";
     }
 }
@@ -223,18 +210,13 @@ TEST(ProgressBar, IsPaintedForEachStepAndAtOnce)
     for (int i = 0; i <= 10000; ++i)
         paints += Paints([&] { progress.Update(i / 100); });
     EXPECT_EQ(paints, 50);
-    using Case = std::tuple<int, int, int, int>; // a step, two positions in it, and one beyond
-    for (auto [step, first, second, beyond] : {Case(2, 10, 11, 12),
-                                               {10, 10, 19, 20},
-                                               {-10, 10, 19, 20},
-                                               {0, 10, 10, 11},
-                                               {-1, 10, 10, 11},
-                                               {INT_MIN, 0, 9, INT_MAX},
-                                               {-1, 0, 0, INT_MIN}})
+    const int cases[][4] = {{2, 10, 11, 12}, {10, 10, 19, 20},         {-10, 10, 19, 20},
+                            {0, 10, 10, 11}, {INT_MIN, 0, 9, INT_MAX}, {-1, 0, 0, INT_MIN}};
+    for (auto [step, first, within, beyond] : cases)
     {
         progress.SetStep(step);
         progress.Update(first);
-        EXPECT_FALSE(Paints([&] { progress.Update(second); })) << step;
+        EXPECT_FALSE(Paints([&] { progress.Update(within); })) << step;
         EXPECT_TRUE(Paints([&] { progress.Update(beyond); })) << step;
     }
 }
@@ -245,20 +227,11 @@ TEST(ProgressBar, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
     progress.SetStep(1);
     Box()->SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
     const COLORREF face = ::GetSysColor(COLOR_3DFACE);
-    // Sizes, the text narrower and wider than the bar, and no room; positions, the bar at its ends beyond the range.
-    using Case = std::tuple<int, int, bool, int>;
-    for (auto [cx, cy, vertical, pos] : {Case(201, 24, false, 50),
-                                         {200, 24, false, 49},
-                                         {200, 24, false, -5},
-                                         {200, 24, false, 100},
-                                         {200, 24, false, 150},
-                                         {81, 100, true, 50},
-                                         {20, 41, true, 51},
-                                         {9, 9, false, 52},
-                                         {5, 40, false, 53},
-                                         {40, 5, true, 54},
-                                         {40, 2, false, 55},
-                                         {0, 0, false, 56}})
+    // Width and height, whether vertical, position: beyond the range, too; a text without room, a bar without room.
+    const int cases[][4] = {{201, 24, 0, 50}, {200, 24, 0, -5}, {200, 24, 0, 100}, {200, 24, 0, 150},
+                            {81, 100, 1, 50}, {20, 41, 1, 51},  {9, 9, 0, 52},     {5, 40, 0, 53},
+                            {40, 5, 1, 54},   {0, 0, 0, 55}};
+    for (auto [cx, cy, vertical, pos] : cases)
     {
         Bar().SetVertical(vertical);
         Bar().SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
@@ -271,28 +244,26 @@ TEST(ProgressBar, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
             done.top = rest.bottom = h - 2 - (h - 4) * part / 100;
         else
             done.right = rest.left = (w - 4) * part / 100 + 2;
-        if (w > 4 && h > 4)
-        {
-            CDC& dc = wanted.dc();
+        CDC& dc = wanted.dc();
+        CFont* old = dc.SelectObject(Box()->GetFont());
+        CString text;
+        text.Format(L"%d %%", pos);
+        const CSize size = dc.GetTextExtent(text);
+        const int x = size.cx < w - 4 ? (w - 2 - size.cx - 2) / 2 + 2 : 2;
+        const int y = size.cy < h - 4 ? (h - 2 - size.cy - 2) / 2 + 2 : 2;
+        const bool room = w > 4 && h > 4;
+        if (room)
             dc.FillSolidRect(done, kDark);
-            CString text;
-            text.Format(L"%d %%", pos);
-            CFont* old = dc.SelectObject(Box()->GetFont());
-            const CSize size = dc.GetTextExtent(text);
-            dc.SetBkMode(TRANSPARENT);
-            for (const auto& [clip, color] : {std::pair(done, face), {rest, kDark}})
-            {
-                dc.SetTextColor(color);
-                dc.ExtTextOut(size.cx < w - 4 ? (w - 2 - size.cx - 2) / 2 + 2 : 2,
-                              size.cy < h - 4 ? (h - 2 - size.cy - 2) / 2 + 2 : 2, ETO_CLIPPED, clip, text,
-                              nullptr);
-            }
-            dc.SelectObject(old);
-        }
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(face);
+        dc.ExtTextOut(x, y, ETO_CLIPPED, room ? done : CRect(), text, nullptr);
+        dc.SetTextColor(kDark);
+        dc.ExtTextOut(x, y, ETO_CLIPPED, room ? rest : CRect(), text, nullptr);
+        dc.SelectObject(old);
+
         progress.Update(pos);
         EXPECT_FALSE(Bar().GetUpdateRect(nullptr));
-        CClientDC dc(&Bar());
-        seen.dc().BitBlt(0, 0, w, h, &dc, 0, 0, SRCCOPY);
+        seen.dc().BitBlt(0, 0, w, h, std::make_unique<CClientDC>(&Bar()).get(), 0, 0, SRCCOPY);
         EXPECT_TRUE(seen == wanted) << pos;
         EXPECT_TRUE(pos != 50 || (seen.count(done, face) > 10 && seen.count(rest, kDark) > 10))
             << "text across";
@@ -318,26 +289,22 @@ TEST(ProgressBox, LeavesNothingBehindHoweverTheWorkEnds)
             Box()->DestroyWindow();
         EXPECT_TRUE(progress.Update(60) && progress.DispatchPendingWindowMessages());
     };
-    const auto workInAllWays = [&]
-    {
-        for (int way = 0; way < 4; ++way)
-        {
-            work(way & 1, true, way & 2);
-            EXPECT_THROW(work(way & 1, true, false, true), int);
-            EXPECT_EQ(Box(), nullptr);
-            EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
-        }
-        AfxGetApp()->OnIdle(1);
-    };
     const HHOOK hook = ::SetWindowsHookEx(WH_CBT, &RefuseWindows, nullptr, ::GetCurrentThreadId());
     work(true, false); // a box that cannot be made does not keep the work from going on
     ::UnhookWindowsHookEx(hook);
 
-    workInAllWays(); // what is made once for the process
-    const owtest::HandleCount before = owtest::CountHandles();
-    const size_t heap = owtest::CountHeapBytes();
-    for (int i = 0; i < 10; ++i)
-        workInAllWays();
+    owtest::HandleCount before;
+    size_t heap = 0;
+    for (int round = 0; round < 44; ++round)
+    {
+        work(round & 1, true, round & 2);
+        EXPECT_THROW(work(round & 1, true, false, true), int);
+        EXPECT_EQ(Box(), nullptr);
+        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+        AfxGetApp()->OnIdle(1);
+        if (round == 3) // what is made once for the process is there now
+            before = owtest::CountHandles(), heap = owtest::CountHeapBytes();
+    }
     EXPECT_EQ(owtest::CountHandles(), before);
-    EXPECT_LT(owtest::CountHeapBytes(), heap + 10 * 8 * 100) << "less than the dialog of each";
+    EXPECT_LT(owtest::CountHeapBytes(), heap + 80 * 100) << "less than the dialog of each";
 }
