@@ -73,7 +73,6 @@ void CFontSelectionComboBox::OnDestroy()
 {
     CComboBox::OnDestroy();
     m_rows.clear();
-    m_bInitialized = FALSE;
 }
 
 UINT CFontSelectionComboBox::OnGetDlgCode()
@@ -157,7 +156,6 @@ void CFontSelectionComboBox::InitFonts()
     ::EnumFonts(dc, nullptr, &EnumFontProc, reinterpret_cast<LPARAM>(this));
     SetRedraw(TRUE);
     Invalidate(FALSE);
-    m_bInitialized = TRUE;
 }
 
 int CALLBACK CFontSelectionComboBox::EnumFontProc(const LOGFONT* pLogFont, const TEXTMETRIC*, DWORD nType,

@@ -129,7 +129,6 @@ private:
     COLORREF m_crNormalText;
     COLORREF m_crHilightText;
     COLORREF m_crNormalBackground;
-    BOOL m_bInitialized = FALSE; ///< whether the list has been filled
     AFontSelectionNotificationHandler* m_pHandler;
     Rows m_rows; ///< the records of the rows, which point to them, in any order
 };
