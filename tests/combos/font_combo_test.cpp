@@ -262,11 +262,13 @@ TEST_F(FontCombo, ARowIsItsNameInItsFontAtNinePointsWithAMarkOrAnIcon)
         *missing = icon;
     }
 
-    m_dialog.UpdateWindow();
+    m_combo.UpdateWindow();
     m_combo.SetNormalColors(1, 2);
     EXPECT_TRUE(m_combo.GetUpdateRect(nullptr));
     EXPECT_TRUE(LooksLike(m_ttf, m_ttf, 0, 1, 2, ttf));
+    m_combo.UpdateWindow();
     m_combo.SetHilightColors(3, 4);
+    EXPECT_TRUE(m_combo.GetUpdateRect(nullptr));
     EXPECT_TRUE(LooksLike(m_ttf, m_ttf, ODS_SELECTED, 3, 4, ttf));
     Combo().SetNormalColors(1, 2); // before there is a window
 }
