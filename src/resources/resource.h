@@ -245,3 +245,8 @@
 #define IDD_OW_PROGRESS                    10149
 #define IDD_OW_PROGRESS_CANCEL             10150
 #define IDC_OW_PROGRESS                    10152
+// The pop-up of a colour button; twenty cells in reading order
+#define IDD_OW_COLOR_SELECT                10511
+#define IDC_OW_FIRST_COLOR                 10153
+#define IDC_OW_LAST_COLOR                  10172
+#define IDC_OW_OTHER_COLOR                 10173
