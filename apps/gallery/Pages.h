@@ -15,6 +15,7 @@
     PAGE(Buttons)                  \
     CHILD(LabelsAndFonts)          \
     PAGE(Pickers)                  \
+    CHILD(Colours)                 \
     PAGE(MessageBoxes)             \
     CHILD(NamesAndFiles)           \
     PAGE(Progress)                 \

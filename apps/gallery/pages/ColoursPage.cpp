@@ -1,0 +1,236 @@
+// Colours: a beam's section filled with RGB colours and drawn in the host's, chosen by colour buttons.
+
+#include <afxwin.h>
+
+#include "GalleryPage.h"
+#include "resource.h"
+
+#include <aced.h>
+
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace
+{
+/// A host colour button that outlives the page that shows it. Each of these buttons takes a control id for the life
+/// of the process, and pages come and go: so pages borrow their buttons and give them back.
+class CShelvedButton : private AAcadColorBtnSTNotificationHandler
+{
+public:
+    CAcadColorBtnST button{this};
+    AAcadColorBtnSTNotificationHandler* pBorrower = nullptr;
+
+private:
+    void OnAcadColorChosen(int nId, int nColor) override { pBorrower->OnAcadColorChosen(nId, nColor); }
+};
+
+/// Those that no page has at the moment.
+std::vector<std::unique_ptr<CShelvedButton>>& Shelf()
+{
+    static std::vector<std::unique_ptr<CShelvedButton>> s_shelf;
+    return s_shelf;
+}
+
+/// A button from the shelf, or a new one if the shelf is empty, for as long as the object lives.
+class CBorrowedButton
+{
+public:
+    explicit CBorrowedButton(AAcadColorBtnSTNotificationHandler* pBorrower) : m_pButton(Take())
+    {
+        m_pButton->pBorrower = pBorrower;
+    }
+    ~CBorrowedButton()
+    {
+        m_pButton->button.DestroyWindow();
+        m_pButton->button.SetColorSource(nullptr);
+        Shelf().push_back(std::move(m_pButton));
+    }
+    CBorrowedButton(const CBorrowedButton&) = delete;
+    CBorrowedButton& operator=(const CBorrowedButton&) = delete;
+
+    CAcadColorBtnST& Button() { return m_pButton->button; }
+
+private:
+    static std::unique_ptr<CShelvedButton> Take()
+    {
+        if (Shelf().empty())
+            return std::make_unique<CShelvedButton>();
+        std::unique_ptr<CShelvedButton> pButton = std::move(Shelf().back());
+        Shelf().pop_back();
+        return pButton;
+    }
+
+    std::unique_ptr<CShelvedButton> m_pButton;
+};
+
+class CColoursPage : public CGalleryPage,
+                     public AColorBtnSTNotificationHandler,
+                     public AAcadColorBtnSTNotificationHandler
+{
+public:
+    explicit CColoursPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_COLOURS, host) {}
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    int OnInitPageDialog() override;
+
+    void OnColorChosen(int nId, int nColor) override;
+    void OnAcadColorChosen(int nId, int nColor) override;
+
+    afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
+    afx_msg void OnReset();
+    afx_msg void OnStore();
+    afx_msg void OnLoad();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ShowPalette(LPCTSTR pszCall, LPCTSTR pszState);
+    void PaintPreview(CDC& dc, const CRect& area) const;
+    void PaintAxes(CDC& dc, const CRect& area) const;
+
+    CColorBtnST m_btnFlanges{this}, m_btnWeb{this}, m_btnLocked{this};
+    CBorrowedButton m_outline{this}, m_axes{this}, m_lockedOutline{this};
+
+    DWORD m_crFlanges = 0xF0CAA6, m_crWeb = 0xC0DCC0;
+    int m_nOutline = 5, m_nAxes = 1; ///< blue and red
+};
+
+BEGIN_MESSAGE_MAP(CColoursPage, CGalleryPage)
+    ON_WM_DRAWITEM()
+    ON_BN_CLICKED(IDC_COL_RESET, OnReset)
+    ON_BN_CLICKED(IDC_COL_STORE, OnStore)
+    ON_BN_CLICKED(IDC_COL_LOAD, OnLoad)
+END_MESSAGE_MAP()
+
+// Painted in memory first: the preview follows each choice without a flicker.
+void CColoursPage::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+{
+    if (nIDCtl != IDC_COL_PREVIEW)
+        return CGalleryPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
+    CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
+    const CRect area(lpDrawItemStruct->rcItem);
+    CMemorySurface surface;
+    if (!surface.Create(dc, area.Size()))
+        return;
+    PaintPreview(surface.DC(), CRect(CPoint(0, 0), area.Size()));
+    dc.BitBlt(area.left, area.top, area.Width(), area.Height(), &surface.DC(), 0, 0, SRCCOPY);
+}
+
+void CColoursPage::OnReset()
+{
+    CColorBtnST::Reset();
+    ShowPalette(_T("Reset()"), _T("The palette is as delivered."));
+}
+
+void CColoursPage::OnStore()
+{
+    const bool bStored = CColorBtnST::Store() != 0;
+    ShowPalette(bStored ? _T("Store() = 1") : _T("Store() = 0"),
+                bStored ? _T("Stored in the application's profile.") : _T("The profile cannot be written."));
+}
+
+void CColoursPage::OnLoad()
+{
+    const bool bLoaded = CColorBtnST::Load() != 0;
+    ShowPalette(bLoaded ? _T("Load() = 1") : _T("Load() = 0"),
+                bLoaded ? _T("Loaded from the profile.") : _T("Nothing was stored: as delivered."));
+}
+
+void CColoursPage::DoDataExchange(CDataExchange* pDX)
+{
+    CGalleryPage::DoDataExchange(pDX);
+    DDX_Control(pDX, IDC_COL_FLANGES, m_btnFlanges);
+    DDX_Control(pDX, IDC_COL_WEB, m_btnWeb);
+    DDX_Control(pDX, IDC_COL_LOCKED, m_btnLocked);
+    DDX_Control(pDX, IDC_COL_OUTLINE, m_outline.Button());
+    DDX_Control(pDX, IDC_COL_AXES, m_axes.Button());
+    DDX_Control(pDX, IDC_COL_LOCKED_OUTLINE, m_lockedOutline.Button());
+}
+
+int CColoursPage::OnInitPageDialog()
+{
+    m_btnFlanges.SetColorSource(&m_crFlanges);
+    m_btnWeb.SetColorSource(&m_crWeb);
+    m_btnLocked.SetColorSource(&m_crWeb);
+    m_outline.Button().SetColorSource(&m_nOutline);
+    m_axes.Button().SetColorSource(&m_nAxes);
+    m_lockedOutline.Button().SetColorSource(&m_nOutline);
+    m_btnFlanges.SetTooltipText(_T("Any colour: twenty at hand, others by \"Other...\""));
+    m_outline.Button().SetTooltipText(_T("One of the host's colours, by number"));
+    return TRUE;
+}
+
+// The colour is in its variable already. Of the preview the button knows nothing.
+void CColoursPage::OnColorChosen(int nId, int nColor)
+{
+    Log(nId == IDC_COL_WEB ? _T("Web") : _T("Flanges"), _T("OnColorChosen(%d, 0x%06X)"), nId, nColor);
+    GetDlgItem(IDC_COL_PREVIEW)->Invalidate(FALSE);
+}
+
+void CColoursPage::OnAcadColorChosen(int nId, int nColor)
+{
+    Log(nId == IDC_COL_AXES ? _T("Axes") : _T("Outline"), _T("OnAcadColorChosen(%d, %d)"), nId, nColor);
+    m_lockedOutline.Button().SetColorSource(&m_nOutline); // its number does not follow by itself
+    GetDlgItem(IDC_COL_PREVIEW)->Invalidate(FALSE);
+}
+
+void CColoursPage::ShowPalette(LPCTSTR pszCall, LPCTSTR pszState)
+{
+    Log(_T("Palette"), pszCall);
+    SetDlgItemText(IDC_COL_STATE, pszState);
+}
+
+/// The section of a rolled beam: flanges and web filled, their outline and the axes drawn, as on a sheet.
+void CColoursPage::PaintPreview(CDC& dc, const CRect& area) const
+{
+    dc.FillSolidRect(area, RGB(255, 255, 255));
+    dc.Draw3dRect(area, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
+
+    const CPoint middle = area.CenterPoint();
+    const int nHalfWidth = area.Height() / 5, nHalfHeight = area.Height() * 3 / 8;
+    const int nFlange = nHalfHeight / 5, nHalfWeb = nFlange / 3;
+    const int left = middle.x - nHalfWidth, right = middle.x + nHalfWidth;
+    const int top = middle.y - nHalfHeight, bottom = middle.y + nHalfHeight;
+    dc.FillSolidRect(CRect(left, top, right, top + nFlange), m_crFlanges);
+    dc.FillSolidRect(CRect(left, bottom - nFlange, right, bottom), m_crFlanges);
+    dc.FillSolidRect(CRect(middle.x - nHalfWeb, top + nFlange, middle.x + nHalfWeb, bottom - nFlange),
+                     m_crWeb);
+
+    CPoint outline[] = {{left, top},
+                        {right, top},
+                        {right, top + nFlange},
+                        {middle.x + nHalfWeb, top + nFlange},
+                        {middle.x + nHalfWeb, bottom - nFlange},
+                        {right, bottom - nFlange},
+                        {right, bottom},
+                        {left, bottom},
+                        {left, bottom - nFlange},
+                        {middle.x - nHalfWeb, bottom - nFlange},
+                        {middle.x - nHalfWeb, top + nFlange},
+                        {left, top + nFlange}};
+    CPen pen(PS_SOLID, 3, acedGetRGB(m_nOutline));
+    const CGdiSelection penScope(dc, pen);
+    const CGdiSelection noBrush(dc, ::GetStockObject(NULL_BRUSH));
+    dc.Polygon(outline, static_cast<int>(std::size(outline)));
+    PaintAxes(dc, area);
+}
+
+void CColoursPage::PaintAxes(CDC& dc, const CRect& area) const
+{
+    constexpr int kMargin = 12; // pixels
+    const CPoint middle = area.CenterPoint();
+    CPen pen(PS_DASHDOT, 1, acedGetRGB(m_nAxes));
+    const CGdiSelection penScope(dc, pen);
+    dc.SetBkMode(TRANSPARENT);
+    dc.MoveTo(middle.x, area.top + kMargin);
+    dc.LineTo(middle.x, area.bottom - kMargin);
+    dc.MoveTo(middle.x - area.Height() / 3, middle.y);
+    dc.LineTo(middle.x + area.Height() / 3, middle.y);
+}
+} // namespace
+
+CPage* AddColoursPage(AGalleryHost& host, CPage* pParent)
+{
+    return AddTitledPage(host, new CColoursPage(host), _T("Colours"), pParent);
+}
