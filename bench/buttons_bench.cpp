@@ -224,3 +224,41 @@ static void MeasureWindow(Comparison& compare, const Benchmark::Measure& measure
     measure();
 }
 static const Benchmark window("buttons/window_of_200", 2.0, MeasureWindow);
+
+/// The painting of a colour button against that of a button with an icon.
+template <class Button, class Value>
+static void MeasureColor(Comparison& compare, const Benchmark::Measure& measure, Value value)
+{
+    CWnd parent;
+    parent.SubclassWindow(MakeParent());
+    Button color;
+    color.SubclassWindow(MakeControl(parent, 0, BS_PUSHBUTTON));
+    color.SetColorSource(&value);
+    CButtonST plain;
+    plain.SubclassWindow(MakeControl(parent, 1, BS_PUSHBUTTON));
+    plain.SetIcon(CButtonST::hIconOk, nullptr);
+
+    const Canvas canvas;
+    DRAWITEMSTRUCT item{};
+    item.hDC = canvas;
+    item.rcItem = CRect(CPoint(0, 0), kSize);
+    const auto paint = [&item](CButtonST& button)
+    {
+        button.SetWindowText(_T(""));
+        return [&]
+        {
+            for (int i = 0; i < kPaintings; ++i)
+                button.DrawItem(&item);
+        };
+    };
+    compare.Ours(paint(color));
+    compare.Bare(paint(plain));
+    measure();
+    parent.DestroyWindow();
+}
+static const Benchmark paintColor("buttons/paint_color", 1.15,
+                                  [](Comparison& compare, const Benchmark::Measure& measure)
+                                  { MeasureColor<CColorBtnST>(compare, measure, DWORD{RGB(255, 127, 0)}); });
+static const Benchmark paintAcadColor("buttons/paint_acad_color", 1.15,
+                                      [](Comparison& compare, const Benchmark::Measure& measure)
+                                      { MeasureColor<CAcadColorBtnST>(compare, measure, 30); });

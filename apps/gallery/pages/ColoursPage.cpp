@@ -189,7 +189,7 @@ void CColoursPage::PaintPreview(CDC& dc, const CRect& area) const
 
     const CPoint middle = area.CenterPoint();
     const int nHalfWidth = area.Height() / 5, nHalfHeight = area.Height() * 3 / 8;
-    const int nFlange = nHalfHeight / 5, nHalfWeb = nFlange / 3;
+    const int nFlange = nHalfHeight / 5, nHalfWeb = nFlange / 2;
     const int left = middle.x - nHalfWidth, right = middle.x + nHalfWidth;
     const int top = middle.y - nHalfHeight, bottom = middle.y + nHalfHeight;
     dc.FillSolidRect(CRect(left, top, right, top + nFlange), m_crFlanges);
