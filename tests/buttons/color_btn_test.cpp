@@ -1,20 +1,95 @@
-// The two colour buttons: look, number, palette, broken assumptions. The pop-up has a file of its own.
+// The two colour buttons: look, number, palette, broken assumptions, and the pop-up in a user's hands.
 
-#include "ColorsDialog.h"
+#include "ButtonsDialog.h"
 
+#include "DialogTemplate.h"
 #include "FatalReport.h"
+#include "Handles.h"
+#include "Input.h"
 #include "ModalVisit.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <acdocman.h>
+#include <afxdlgs.h>
 
-using Calls = std::vector<std::string>;
+#include <algorithm>
+#include <memory>
 
 namespace
 {
 constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255), kFace = RGB(180, 200, 180);
+constexpr COLORREF kNewColor = RGB(1, 2, 3);
 const CSize kSize(60, 26);
+constexpr UINT kFirstCell = 10153;
+constexpr int kRed = 13, kOther = 20; ///< parts of the pop-up
+
+using Calls = std::vector<std::string>;
+using Script = std::function<void(CWnd&)>;
+
+class OpenAcadButton : public CAcadColorBtnST
+{
+public:
+    using CAcadColorBtnST::CAcadColorBtnST;
+    using CAcadColorBtnST::m_bIsCheckBox;
+    using CAcadColorBtnST::m_nNumberLabelId;
+    using CAcadColorBtnST::m_numberLabel;
+};
+
+/// A dialog with a colour button of each kind, everything that they tell written down.
+class ColorsDialog : public CDialog,
+                     public AColorBtnSTNotificationHandler,
+                     public AAcadColorBtnSTNotificationHandler
+{
+public:
+    static constexpr int nRgb = 1001, nAcad = 1002;
+
+    ~ColorsDialog() override { DestroyWindow(); }
+
+    bool Open(DWORD dwAcadStyle = BS_PUSHBUTTON)
+    {
+        owtest::DialogTemplate form(L"Colours", 120, 60);
+        form.Item(L"BUTTON", L"", nRgb, BS_OWNERDRAW | WS_TABSTOP, 4, 4, 40, 14)
+            .Item(L"BUTTON", L"", nAcad, dwAcadStyle | WS_TABSTOP, 4, 24, 40, 14);
+        if (!CreateIndirect(form.get(), nullptr))
+            return false;
+        SetWindowPos(nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
+        return owtest::Activate(m_hWnd);
+    }
+
+    struct Rgb : CColorBtnST
+    {
+        using CColorBtnST::CColorBtnST;
+        void OnClickedHook() override { static_cast<ColorsDialog*>(GetParent())->calls.push_back("hook"); }
+    } rgb{this};
+    OpenAcadButton acad{this};
+    DWORD color = RGB(255, 0, 0);
+    int index = 30;
+    std::vector<std::string> calls;
+    std::vector<std::string> Take() { return std::exchange(calls, {}); }
+
+    void OnColorChosen(int nId, int nColor) override { Note(nId, nColor); }
+    void OnAcadColorChosen(int nId, int nColor) override { Note(nId, nColor); }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        CDialog::DoDataExchange(pDX);
+        rgb.SetColorSource(&color); // before there is a window
+        acad.SetColorSource(&index);
+        DDX_Control(pDX, nRgb, rgb);
+        DDX_Control(pDX, nAcad, acad);
+    }
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
+    {
+        if (nCode == BN_CLICKED && !pHandlerInfo)
+            calls.push_back("dialog " + std::to_string(nID));
+        return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    }
+
+private:
+    void Note(int nId, int nColor) { calls.push_back(std::to_string(nId) + ' ' + std::to_string(nColor)); }
+};
 
 /// A button without a theme, painted in a state.
 template <class Button, class Value>
@@ -37,7 +112,89 @@ void ExpectBox(const owtest::Surface& picture, CRect rect, COLORREF line, COLORR
     EXPECT_EQ(nAll - picture.count(rect, line), nArea - rect.Width() * rect.Height());
     EXPECT_EQ(picture.count(rect, fill), rect.Width() * rect.Height());
 }
+HWND Part(CWnd& popup, int nIndex)
+{
+    return popup.GetDlgItem(kFirstCell + nIndex)->m_hWnd;
+}
+
+/// Whether the pop-up gets so far: open, with the mouse; or over.
+bool Becomes(bool bOpen, CWnd& popup)
+{
+    return owtest::PumpUntil(
+        [&] { return !popup.ContinueModal() == !bOpen && (CWnd::GetCapture() == &popup) == bOpen; });
+}
+
+void VisitOther(CWnd& popup, const Script& script)
+{
+    const owtest::ModalVisit visit(script);
+    owtest::Click(Part(popup, kOther));
+    EXPECT_EQ(visit.Count(), 1);
+}
+
+/// Types a colour into the system's dialog, and accepts it.
+void Accept(CWnd& window, COLORREF cr)
+{
+    constexpr int kRedBox = 706; ///< the boxes for green and blue have the next ids
+    for (int i = 0; i < 3; ++i)
+    {
+        CWnd& box = *window.GetDlgItem(kRedBox + i);
+        owtest::Click(box);
+        box.SendMessage(EM_SETSEL, 0, -1);
+        owtest::Type(std::to_wstring(cr >> 8 * i & 0xFF));
+    }
+    owtest::Click(*window.GetDlgItem(IDOK));
+}
+
+class ColorPopup : public ::testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_TRUE(m_dialog.Open()); }
+    void TearDown() override
+    {
+        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+        CColorBtnST::Reset();
+    }
+
+    /// Opens the pop-up by a click, and closes it by what the script does, or else by Escape.
+    void Visit(const Script& script)
+    {
+        const owtest::ModalVisit visit(
+            [&](CWnd& popup)
+            {
+                EXPECT_TRUE(Becomes(true, popup));
+                script(popup);
+            });
+        owtest::Click(m_dialog.rgb);
+        EXPECT_EQ(visit.Count(), 1);
+        EXPECT_EQ(::GetCapture(), nullptr);
+    }
+
+    /// From red; what stands in the variable afterwards, and which entry was used last.
+    void ExpectChoice(const Script& script, COLORREF cr, int nFirst)
+    {
+        m_dialog.color = RGB(255, 0, 0);
+        Visit(script);
+        EXPECT_EQ(m_dialog.color, cr);
+        const Calls told{"hook", "1001 " + std::to_string(cr), "dialog 1001"};
+        EXPECT_EQ(m_dialog.Take(), cr != RGB(255, 0, 0) ? told : Calls{"dialog 1001"});
+        auto ranks = CColorBtnST::s_colorRecency;
+        EXPECT_EQ(ranks[nFirst], 1);
+        std::ranges::sort(ranks);
+        EXPECT_EQ(std::ranges::adjacent_find(ranks), ranks.end());
+        EXPECT_EQ(ranks.back(), 20);
+    }
+    void ExpectCancel(const Script& script)
+    {
+        const auto ranks = CColorBtnST::s_colorRecency;
+        ExpectChoice(script, RGB(255, 0, 0), 0);
+        EXPECT_EQ(CColorBtnST::s_colorRecency, ranks);
+    }
+
+    ColorsDialog m_dialog;
+};
 } // namespace
+
+// ---- Look and number ---------------------------------------------------------------------------------------
 
 TEST(ColorButtonPaint, ShowsASwatchAndAnArrow)
 {
@@ -52,20 +209,18 @@ TEST(ColorButtonPaint, ShowsASwatchAndAnArrow)
     for (const auto& [nState, swatch, tip] : states)
     {
         owtest::Surface rgb(kSize.cx, kSize.cy), acad(kSize.cx, kSize.cy), none(kSize.cx, kSize.cy);
-        Paint<CColorBtnST>(rgb, DWORD{RGB(10, 20, 200)}, nState);
-        ExpectBox(rgb, swatch, kBlack, RGB(10, 20, 200));
+        Paint<CColorBtnST>(rgb, DWORD{kNewColor}, nState);
         Paint<CAcadColorBtnST>(acad, 30, nState);
-        ExpectBox(acad, swatch, kBlack, RGB(255, 127, 0));
         Paint<CAcadColorBtnST>(none, 999, nState); // no colour
-        ExpectBox(none, swatch, kBlack, kFace);
-        for (const owtest::Surface* pPicture : {&rgb, &acad})
+        for (const auto& [pPicture, cr] :
+             {std::pair(&rgb, kNewColor), {&acad, RGB(255, 127, 0)}, {&none, kFace}})
         {
-            EXPECT_EQ(pPicture->at(tip.x, tip.y), kBlack);
-            EXPECT_EQ(pPicture->at(tip.x, tip.y + 1), kFace);
+            ExpectBox(*pPicture, swatch, kBlack, cr);
+            EXPECT_TRUE(pPicture->at(tip.x, tip.y) == kBlack && pPicture->at(tip.x, tip.y + 1) == kFace);
         }
     }
     owtest::Surface narrow(19, 26);
-    Paint<CColorBtnST>(narrow, DWORD{RGB(10, 20, 200)}, 0);
+    Paint<CColorBtnST>(narrow, DWORD{kNewColor}, 0);
     EXPECT_EQ(narrow.at(5, 5), kFace) << "no room for a swatch";
 }
 
@@ -73,7 +228,7 @@ TEST(ColorButtonPaint, DisabledShowsNoColor)
 {
     const CRect area(5, 5, 46, 21);
     owtest::Surface rgb(kSize.cx, kSize.cy), acad(kSize.cx, kSize.cy);
-    Paint<CColorBtnST>(rgb, DWORD{RGB(10, 20, 200)}, ODS_DISABLED);
+    Paint<CColorBtnST>(rgb, DWORD{kNewColor}, ODS_DISABLED);
     ExpectBox(rgb, area, kFace, kFace);
     EXPECT_EQ(rgb.at(52, 14), kWhite) << "the arrow is engraved";
 
@@ -157,7 +312,7 @@ TEST(AcadColorClick, AColorThatTheHostGivesIsStoredAndTold)
     };
     EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142");
     EXPECT_EQ(dialog.index, 142);
-    EXPECT_EQ(dialog.Take(), Calls{"acad 1002 142"}) << "and the dialog does not receive the click";
+    EXPECT_EQ(dialog.Take(), Calls{"1002 142"}) << "and the dialog does not receive the click";
 
     EXPECT_EQ(visit(L"7", VK_ESCAPE, [] {}), L"before");
     EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142") << "the same colour";
@@ -174,6 +329,207 @@ TEST(AcadColorClick, AColorThatTheHostGivesIsStoredAndTold)
     EXPECT_EQ(dialog.Take(), Calls{});
 }
 
+// ---- The pop-up --------------------------------------------------------------------------------------------
+
+TEST_F(ColorPopup, OpensBelowTheButtonOrWhereTheScreenHasRoom)
+{
+    const CSize screen(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
+    CRect button, rect;
+    const Script look = [&](CWnd& popup) { popup.GetWindowRect(rect); };
+    for (const CPoint at : {CPoint(100, 100), CPoint(screen.cx - 50, screen.cy - 60)})
+    {
+        m_dialog.SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        m_dialog.rgb.GetWindowRect(button);
+        Visit(look);
+        const bool bRoom = at.x == 100;
+        EXPECT_EQ(bRoom ? rect.TopLeft() : CPoint(rect.right, rect.bottom),
+                  bRoom ? CPoint(button.left, button.bottom) : CPoint(screen.cx, button.top));
+    }
+    CPoint mouse;
+    ::GetCursorPos(&mouse);
+    const RECT anchor{200, 300, 240, 320};
+    for (const RECT* pAnchor : {&anchor, static_cast<const RECT*>(nullptr)}) // without a button
+    {
+        CColorSelectDialog dialog(nullptr, pAnchor);
+        const owtest::ModalVisit visit(look);
+        EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+        const CPoint mouseCorner(std::min<int>(mouse.x, screen.cx - rect.Width()), mouse.y - rect.Height());
+        EXPECT_EQ(rect.TopLeft(), pAnchor ? CPoint(200, 320) : mouseCorner);
+    }
+}
+
+TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
+{
+    Visit(
+        [&](CWnd& popup)
+        {
+            EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + kRed)), L"255, 0, 0") << "read aloud";
+            for (int i = 0; i < CColorBtnST::paletteSize; ++i)
+            {
+                CRect rect;
+                ::GetClientRect(Part(popup, i), rect);
+                owtest::Surface picture(rect.Width(), rect.Height());
+                owtest::Capture(Part(popup, i), picture);
+                EXPECT_EQ(picture.at(0, 0) == 0 && picture.at(1, 1) == RGB(255, 255, 255), i == kRed) << i;
+                if (i == kRed)
+                    rect.DeflateRect(2, 2);
+                EXPECT_EQ(picture.extent(CColorBtnST::s_colorTable[i]), rect) << i;
+            }
+        });
+}
+
+TEST_F(ColorPopup, AClickOnACellChoosesIt)
+{
+    ExpectChoice([](CWnd& popup) { owtest::Click(Part(popup, 4)); }, 0x800000, 4);
+    EXPECT_EQ(CColorBtnST::s_colorRecency[0], 2) << "those before it move on";
+    EXPECT_EQ(CColorBtnST::s_colorRecency[5], 11) << "those behind it stay";
+    ExpectChoice([](CWnd& popup) { owtest::Click(Part(popup, kRed)); }, 0xFF, kRed); // tells nobody
+}
+
+TEST_F(ColorPopup, AClickOutsideCancelsWhateverCameBefore)
+{
+    ExpectCancel(
+        [&](CWnd& popup)
+        {
+            owtest::Click(popup, CPoint(1, 1)); // beside the cells
+            EXPECT_TRUE(Becomes(true, popup));
+            owtest::ButtonDown(popup, CPoint(1, 1));
+            owtest::MoveTo(Part(popup, 6), CPoint(5, 5));
+            owtest::ButtonUp();
+            EXPECT_EQ(::GetCapture(), Part(popup, 6)) << "to the cell it was a press";
+            owtest::Click(Part(popup, 9));
+            EXPECT_TRUE(Becomes(true, popup)) << "it was left, and gives the mouse back";
+            VisitOther(popup,
+                       [](CWnd& window)
+                       {
+                           const auto& dialog = static_cast<CColorDialog&>(window);
+                           EXPECT_EQ(dialog.m_cc.rgbResult, RGB(255, 0, 0)) << "where it begins";
+                           EXPECT_TRUE(dialog.m_cc.Flags & CC_FULLOPEN);
+                           owtest::Press(VK_ESCAPE);
+                       });
+            EXPECT_TRUE(Becomes(true, popup)) << "the pop-up stays";
+            owtest::Click(m_dialog, CPoint(100, 60));
+            EXPECT_TRUE(Becomes(false, popup));
+        });
+}
+
+TEST_F(ColorPopup, IsOverWhenAnotherWindowTakesTheMouseOrTheForeground)
+{
+    ExpectCancel(
+        [&](CWnd& popup)
+        {
+            m_dialog.rgb.SetCapture();
+            EXPECT_TRUE(Becomes(false, popup));
+            EXPECT_EQ(CWnd::GetCapture(), &m_dialog.rgb);
+            ::ReleaseCapture();
+        });
+    ExpectCancel(
+        [](CWnd& popup)
+        {
+            ::SetForegroundWindow(::GetDesktopWindow());
+            EXPECT_TRUE(Becomes(false, popup));
+        });
+}
+
+TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
+{
+    const auto press = [&](CWnd& popup, std::initializer_list<std::pair<WORD, int>> keys)
+    {
+        for (const auto& [nKey, nPart] : keys)
+        {
+            owtest::Press(nKey);
+            EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Part(popup, nPart); })) << nPart;
+        }
+    };
+    ExpectChoice(
+        [&](CWnd& popup)
+        {
+            press(popup, {{VK_LEFT, 12}, {VK_LEFT, 11}, {VK_RIGHT, 12}, {VK_UP, 8}, {VK_UP, 4}, {VK_UP, 0}});
+            press(popup, {{VK_UP, 0}, {VK_LEFT, 0}, {VK_RIGHT, 1}, {VK_TAB, kOther}, {VK_TAB, 1}});
+            press(popup, {{VK_DOWN, 5}, {VK_DOWN, 9}, {VK_DOWN, 13}, {VK_DOWN, 17}, {VK_DOWN, kOther}});
+            press(popup, {{VK_DOWN, kOther}, {VK_LEFT, 19}, {VK_RIGHT, kOther}, {VK_UP, 16}});
+            owtest::Press(VK_RETURN);
+        },
+        0xFF0000, 16);
+    CColorBtnST::s_colorTable[kRed] = kNewColor; // without the button's colour the first cell has the focus
+    ExpectChoice(
+        [&](CWnd& popup)
+        {
+            press(popup, {{VK_RIGHT, 1}});
+            owtest::Press(VK_SPACE);
+        },
+        0x000080, 1);
+}
+
+// As the system sends it while the key that opened the pop-up is still down.
+TEST_F(ColorPopup, AKeyThatIsHeldFromOpeningItDoesNothing)
+{
+    for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
+    {
+        ExpectCancel(
+            [=](CWnd& popup)
+            {
+                ::PostMessage(Part(popup, kRed), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
+                ::PostMessage(Part(popup, kRed), WM_KEYUP, nKey, 1 | (KF_REPEAT | KF_UP) << 16);
+                owtest::Pump();
+                EXPECT_TRUE(Becomes(true, popup));
+            });
+    }
+}
+
+TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
+{
+    const auto acceptNew = [&](CWnd& popup)
+    { VisitOther(popup, [](CWnd& window) { Accept(window, kNewColor); }); };
+    ExpectChoice(acceptNew, kNewColor, 10);
+    EXPECT_EQ(CColorBtnST::s_colorTable[10], kNewColor);
+    EXPECT_EQ(CColorBtnST::s_colorRecency[9], 20);
+
+    CColorBtnST::s_colorTable.fill(RGB(9, 9, 9));
+    CColorBtnST::s_colorTable[7] = CColorBtnST::s_colorTable[8] = kNewColor;
+    const auto before = CColorBtnST::s_colorTable;
+    ExpectChoice(acceptNew, kNewColor, 7);
+    EXPECT_EQ(CColorBtnST::s_colorTable, before);
+}
+
+// Nothing is written, and nobody told.
+TEST_F(ColorPopup, EndsWithTheButtonOrItsDialog)
+{
+    const Script endings[] = {[&](CWnd&) { m_dialog.rgb.DestroyWindow(); },
+                              [&](CWnd&) { m_dialog.DestroyWindow(); }};
+    for (const Script& end : endings)
+    {
+        Visit([&](CWnd& popup) { VisitOther(popup, end); });
+        EXPECT_EQ(m_dialog.color, RGB(255, 0, 0));
+        EXPECT_EQ(m_dialog.Take(), Calls{});
+        m_dialog.DestroyWindow();
+        ASSERT_TRUE(m_dialog.Open());
+    }
+    m_dialog.rgb.UnsubclassWindow();
+    auto pButton = std::make_unique<CColorBtnST>(&m_dialog);
+    ASSERT_TRUE(pButton->SubclassDlgItem(ColorsDialog::nRgb, &m_dialog));
+    pButton->SetColorSource(&m_dialog.color);
+    const owtest::ModalVisit visit([&](CWnd&) { pButton.reset(); });
+    owtest::Click(*pButton); // the same when the object goes
+    EXPECT_EQ(m_dialog.Take(), Calls{});
+}
+
+TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
+{
+    const auto use = [&](CWnd& popup)
+    {
+        m_dialog.SendMessage(WM_COMMAND, ColorsDialog::nRgb, reinterpret_cast<LPARAM>(m_dialog.rgb.m_hWnd));
+        VisitOther(popup, [](CWnd&) { owtest::Press(VK_ESCAPE); });
+        owtest::Click(Part(popup, 4));
+        AfxGetApp()->OnIdle(1);
+    };
+    Visit(use);
+    const owtest::HandleCount before = owtest::CountHandles();
+    for (int i = 0; i < 5; ++i)
+        Visit(use);
+    EXPECT_EQ(owtest::CountHandles(), before);
+}
+
 // ---- The palette in the profile ---------------------------------------------------------------------------
 
 TEST(ColorProfile, KeepsThePaletteAndADamagedOneIsAsDelivered)
@@ -181,33 +537,28 @@ TEST(ColorProfile, KeepsThePaletteAndADamagedOneIsAsDelivered)
     CWinApp& app = *AfxGetApp();
     const auto colors = CColorBtnST::s_colorTable;
     const auto ranks = CColorBtnST::s_colorRecency;
-    const auto change = []
+    const auto loads = [&](LPCTSTR pszEntry, std::vector<BYTE> bytes)
     {
-        CColorBtnST::s_colorTable[3] = RGB(7, 8, 9);
+        CColorBtnST::s_colorTable[3] = kNewColor;
         std::swap(CColorBtnST::s_colorRecency[0], CColorBtnST::s_colorRecency[19]);
-    };
-    change();
-    const auto changedColors = CColorBtnST::s_colorTable;
-    const auto changedRanks = CColorBtnST::s_colorRecency;
-    EXPECT_EQ(CColorBtnST::Store(), 1);
-    CColorBtnST::Reset();
-    EXPECT_TRUE(CColorBtnST::s_colorTable == colors && CColorBtnST::s_colorRecency == ranks);
-    EXPECT_EQ(CColorBtnST::Load(), 1);
-    EXPECT_TRUE(CColorBtnST::s_colorTable == changedColors && CColorBtnST::s_colorRecency == changedRanks);
-
-    const std::pair<LPCTSTR, std::vector<BYTE>> damages[] = {
-        {L"ColorTable", {}}, {L"ColorTable", std::vector<BYTE>(79)}, {L"ColorTable", std::vector<BYTE>(1000)},
-        {L"MRU", {}},        {L"MRU", std::vector<BYTE>(21, 1)},     {L"MRU", std::vector<BYTE>(20, 20)}};
-    for (auto [pszEntry, bytes] : damages)
-    {
-        change();
         EXPECT_EQ(CColorBtnST::Store(), 1);
-        app.WriteProfileBinary(L"ColorData", pszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
-        EXPECT_EQ(CColorBtnST::Load(), 0);
+        CColorBtnST::s_colorTable.fill(0);
+        if (pszEntry)
+            app.WriteProfileBinary(L"ColorData", pszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
+        const int nLoaded = CColorBtnST::Load();
+        EXPECT_EQ(CColorBtnST::s_colorTable[3], nLoaded ? kNewColor : colors[3]);
+        EXPECT_EQ(CColorBtnST::s_colorRecency[19], nLoaded ? 1 : 2);
+        CColorBtnST::Reset();
         EXPECT_TRUE(CColorBtnST::s_colorTable == colors && CColorBtnST::s_colorRecency == ranks);
-    }
+        return nLoaded;
+    };
+    EXPECT_EQ(loads(nullptr, {}), 1);
+    for (const size_t nBytes : {0, 79, 1000})
+        EXPECT_EQ(loads(L"ColorTable", std::vector<BYTE>(nBytes)), 0) << nBytes;
+    for (const size_t nBytes : {0, 19, 20, 21}) // 20, but not one rank each
+        EXPECT_EQ(loads(L"MRU", std::vector<BYTE>(nBytes, 20)), 0) << nBytes;
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
-    const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\such\\folder\\x.ini");
+    const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\folder\\x.ini");
     EXPECT_EQ(CColorBtnST::Store(), 0);
     app.m_pszProfileName = pszName;
 }
