@@ -193,7 +193,6 @@ void CColorSelectDialog::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimize
 void CColorSelectDialog::OnCaptureChanged(CWnd* pWnd)
 {
     CaptureMoved(pWnd);
-    CDialog::OnCaptureChanged(pWnd);
 }
 
 LRESULT CColorSelectDialog::OnTakeCapture(WPARAM, LPARAM)

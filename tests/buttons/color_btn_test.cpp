@@ -347,14 +347,14 @@ TEST_F(ColorPopup, OpensBelowTheButtonOrWhereTheScreenHasRoom)
     }
     CPoint mouse;
     ::GetCursorPos(&mouse);
-    const RECT anchor{200, 300, 240, 320};
+    const RECT anchor{200, 300, 240, screen.cy - rect.Height()};             // it just fits
     for (const RECT* pAnchor : {&anchor, static_cast<const RECT*>(nullptr)}) // without a button
     {
         CColorSelectDialog dialog(nullptr, pAnchor);
         const owtest::ModalVisit visit(look);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
         const CPoint mouseCorner(std::min<int>(mouse.x, screen.cx - rect.Width()), mouse.y - rect.Height());
-        EXPECT_EQ(rect.TopLeft(), pAnchor ? CPoint(200, 320) : mouseCorner);
+        EXPECT_EQ(rect.TopLeft(), pAnchor ? CPoint(200, anchor.bottom) : mouseCorner);
     }
 }
 
