@@ -72,6 +72,7 @@
 #include "groups/CheckBoxRules.h"
 #include "groups/ConfigCtrlGroup.h"
 #include "groups/ConfigSet.h"
+#include "groups/FontCtrlGroup.h"
 #include "groups/FormatJediniceCtrlGroup.h"
 #include "groups/RadioGroup.h"
 #include "module/NotificationInterfaces.h"

@@ -130,6 +130,7 @@
 #define IDC_REFLECTED 1985
 #define IDC_REFLECTED_ST 1986
 #define IDC_REFLECTED_COUNT 1987
+
 // Display cells
 #define IDD_PAGE_DISPLAY_CELLS 194
 #define IDC_DISPLAY_GRID 2000
@@ -142,12 +143,14 @@
 #define IDC_DISPLAY_RIGHT 2012
 #define IDC_DISPLAY_TOP 2013 // top, middle, bottom
 #define IDC_DISPLAY_BOTTOM 2015
+
 // Label templates
 #define IDD_PAGE_LABEL_TEMPLATES 192
 #define IDC_LABELS_LOCKED 1900
 #define IDC_LABEL_FIRST 1910   // a box for each kind of label, from the top
 #define IDC_INSERT_FIRST 1920  // its button, beside it
 #define IDC_PREVIEW_FIRST 1930 // the label as it would be drawn, below it
+
 // Configurations
 #define IDD_PAGE_CONFIGURATIONS 201
 #define IDC_CONFIGS 2150
@@ -174,6 +177,7 @@
 #define IDC_OPEN_FILE 2308
 #define IDC_OPEN_ANSWER 2309
 #define IDC_FIRST_LINE 2310
+
 // Font
 #define IDD_PAGE_FONT 203
 #define IDC_FONT_NAME 2250
@@ -193,12 +197,14 @@
 #define IDC_PROGRESS_REACHED 2355
 #define IDC_PROGRESS_CALLS 2356
 #define IDC_PROGRESS_ANSWER 2357
+
 // Pickers
 #define IDD_PAGE_PICKERS 190
 #define IDC_PICK_FIRST 1800       // nine pickers, from the top
 #define IDC_PICK_VALUE_FIRST 1810 // what is picked, beside them
 #define IDC_PICK_BY_LAYER 1820
 #define IDC_PICK_PREVIEW 1821
+
 // Choices
 #define IDD_PAGE_CHOICES 200
 #define IDC_PROFILE_FIRST 2100 // four radio buttons
@@ -232,6 +238,7 @@
 #define IDC_AXES_DECIMALS 2212
 #define IDC_AXES_DIFFER 2213
 #define IDC_AXES_TEXT_FIRST 2214 // a label for each of the three axes
+
 // Colours
 #define IDD_PAGE_COLOURS 191
 #define IDC_COL_FLANGES 1850
