@@ -7,11 +7,14 @@
 
 #include <dialogs/ProgressCtrlEx.h>
 
+#include <Translator.h>
 #include <acdocman.h>
 
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <filesystem>
+#include <fstream>
 #include <optional>
 
 namespace
@@ -168,9 +171,16 @@ TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
     EXPECT_EQ(msg.wParam, 7u);
 }
 
-TEST_F(Progress, StandsOverItsParentOrInTheMiddleOfTheScreen)
+TEST_F(Progress, SpeaksTheUsersLanguageAndStandsOverItsParent)
 {
+    const auto catalogue = std::filesystem::temp_directory_path() / L"progress_test.po";
+    std::ofstream(catalogue) << "msgid \"Cancel\"\nmsgstr \"Stop\"\n";
+    EXPECT_TRUE(gOtLang.Load(catalogue.c_str()));
+    m_progress.emplace(kTitle, nullptr, true);
+    EXPECT_EQ(TextOf(Cancel()), L"Stop");
     EXPECT_GT(CountColoured(*Box(), IDCANCEL), 20) << "the icon";
+    gOtLang.Unload();
+    std::filesystem::remove(catalogue);
     m_work.SetWindowPos(nullptr, -300, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     CRect area, parent, box;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
@@ -229,8 +239,8 @@ TEST(ProgressBar, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
     const COLORREF face = ::GetSysColor(COLOR_3DFACE);
     // Width and height, whether vertical, position: beyond the range, too; a text without room, a bar without room.
     const int cases[][4] = {{201, 24, 0, 50}, {200, 24, 0, -5}, {200, 24, 0, 100}, {200, 24, 0, 150},
-                            {81, 100, 1, 50}, {20, 41, 1, 51},  {9, 9, 0, 52},     {5, 40, 0, 53},
-                            {40, 5, 1, 54},   {0, 0, 0, 55}};
+                            {81, 100, 1, 50}, {20, 41, 1, 51},  {9, 9, 0, 52},     {5, 40, 1, 53},
+                            {40, 5, 0, 54},   {0, 0, 0, 55}};
     for (auto [cx, cy, vertical, pos] : cases)
     {
         Bar().SetVertical(vertical);
