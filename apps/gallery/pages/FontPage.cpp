@@ -59,6 +59,7 @@ protected:
     void OnFontSelected(int nId, const CString& strFont, EFontClass eClass) override
     {
         Log(_T("Font"), _T("OnFontSelected(%d, \"%s\", %d)"), nId, strFont.GetString(), eClass);
+        SetDlgItemText(IDC_FONT_FOUND, _T("")); // no longer the font of that name
         ShowSelection();
     }
 
