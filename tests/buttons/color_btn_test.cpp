@@ -53,6 +53,7 @@ public:
             .Item(L"BUTTON", L"", nAcad, dwAcadStyle | WS_TABSTOP, 4, 24, 40, 14);
         if (!CreateIndirect(form.get(), nullptr))
             return false;
+        ModifyStyle(0, WS_CLIPCHILDREN);
         SetWindowPos(nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
         return owtest::Activate(m_hWnd);
     }
@@ -69,7 +70,11 @@ public:
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
     void OnColorChosen(int nId, int nColor) override { Note(nId, nColor); }
-    void OnAcadColorChosen(int nId, int nColor) override { Note(nId, nColor); }
+    void OnAcadColorChosen(int nId, int nColor) override
+    {
+        EXPECT_TRUE(acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls";
+        Note(nId, nColor);
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
@@ -499,7 +504,12 @@ TEST_F(ColorPopup, EndsWithTheButtonOrItsDialog)
                               [&](CWnd&) { m_dialog.DestroyWindow(); }};
     for (const Script& end : endings)
     {
-        Visit([&](CWnd& popup) { VisitOther(popup, end); });
+        Visit(
+            [&](CWnd& popup)
+            {
+                VisitOther(popup, end);
+                EXPECT_TRUE(Becomes(false, popup));
+            });
         EXPECT_EQ(m_dialog.color, RGB(255, 0, 0));
         EXPECT_EQ(m_dialog.Take(), Calls{});
         m_dialog.DestroyWindow();
@@ -509,7 +519,12 @@ TEST_F(ColorPopup, EndsWithTheButtonOrItsDialog)
     auto pButton = std::make_unique<CColorBtnST>(&m_dialog);
     ASSERT_TRUE(pButton->SubclassDlgItem(ColorsDialog::nRgb, &m_dialog));
     pButton->SetColorSource(&m_dialog.color);
-    const owtest::ModalVisit visit([&](CWnd&) { pButton.reset(); });
+    const owtest::ModalVisit visit(
+        [&](CWnd& popup)
+        {
+            pButton.reset();
+            EXPECT_TRUE(Becomes(false, popup));
+        });
     owtest::Click(*pButton); // the same when the object goes
     EXPECT_EQ(m_dialog.Take(), Calls{});
 }
@@ -519,6 +534,7 @@ TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
     const auto use = [&](CWnd& popup)
     {
         m_dialog.SendMessage(WM_COMMAND, ColorsDialog::nRgb, reinterpret_cast<LPARAM>(m_dialog.rgb.m_hWnd));
+        EXPECT_EQ(m_dialog.Take().back(), "dialog 1001");
         VisitOther(popup, [](CWnd&) { owtest::Press(VK_ESCAPE); });
         owtest::Click(Part(popup, 4));
         AfxGetApp()->OnIdle(1);
@@ -528,6 +544,11 @@ TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
     for (int i = 0; i < 5; ++i)
         Visit(use);
     EXPECT_EQ(owtest::CountHandles(), before);
+
+    m_dialog.acad.SetFocus();
+    const owtest::ModalVisit visit([](CWnd&) {});
+    m_dialog.SendMessage(WM_COMMAND, ColorsDialog::nRgb, reinterpret_cast<LPARAM>(m_dialog.rgb.m_hWnd));
+    EXPECT_EQ(CWnd::GetFocus(), &m_dialog.rgb) << "a click takes the focus";
 }
 
 // ---- The palette in the profile ---------------------------------------------------------------------------
