@@ -54,10 +54,8 @@ BOOL CAnsiGridCell::Edit(int nRow, int nCol, CRect rect, CPoint point, UINT nID,
     const bool bWasOpen = m_pEditWnd != nullptr;
     const CString strText = GetText();
     CGridCell::Edit(nRow, nCol, rect, point, nID, nChar);
-    if (!m_bAnsiNeeded || bWasOpen)
-        return TRUE;
     auto* const pEditor = dynamic_cast<CEdit*>(m_pEditWnd);
-    if (pEditor && ::IsWindow(pEditor->m_hWnd))
+    if (m_bAnsiNeeded && !bWasOpen && pEditor && ::IsWindow(pEditor->m_hWnd))
         PrepareEditor(*pEditor, strText);
     return TRUE;
 }

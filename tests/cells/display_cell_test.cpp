@@ -327,7 +327,7 @@ protected:
     BYTE EditAlone(CGridCell& cell)
     {
         cell.SetGrid(&grid);
-        cell.Edit(kRow, kCol, CRect(10, 10, 90, 30), CPoint(), InPlaceControlId, VK_LBUTTON);
+        EXPECT_TRUE(cell.Edit(kRow, kCol, CRect(10, 10, 90, 30), CPoint(), InPlaceControlId, VK_LBUTTON));
         return owtest::FontOf(*cell.GetEditWnd()).lfCharSet;
     }
     BYTE CharSetOf(BOOL bRow, BOOL bCol) { return grid.GetDefaultCell(bRow, bCol)->GetFont()->lfCharSet; }

@@ -134,13 +134,14 @@ TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTime)
 {
     const LPCWSTR text = L"A<sub>2</sub> <b>b</b>";
     const CSize first = Extent(text);
-    m_surface.dc().SetTextCharacterExtra(3);
-    EXPECT_EQ(Extent(text).cx, first.cx + 3 * 4);
-    m_surface.dc().SetTextCharacterExtra(0);
     m_surface.dc().SetMapMode(MM_ANISOTROPIC);
     m_surface.dc().SetWindowExt(2, 2);
     EXPECT_NE(Extent(text), first);
     m_surface.dc().SetMapMode(MM_TEXT);
+    EXPECT_EQ(Extent(text), first);
+    m_surface.dc().SetTextCharacterExtra(3);
+    EXPECT_EQ(Extent(text).cx, first.cx + 3 * 4);
+    m_surface.dc().SetTextCharacterExtra(0);
     CFont large;
     large.CreatePointFont(240, L"Liberation Sans");
     CFont* const old = m_surface.dc().SelectObject(&large);
