@@ -1,5 +1,5 @@
 #pragma once
-// The parts of an open message box.
+// The parts of an open message box or name dialog.
 
 #include <DialogControlsOW.h>
 

@@ -6,7 +6,6 @@
 #include "EnglishTexts.h"
 #include "FatalReport.h"
 #include "Handles.h"
-#include "Picture.h"
 
 #include <acdocman.h>
 
@@ -89,7 +88,6 @@ int LinesAt(CEdit& message, int width)
     message.SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
     return message.GetLineCount();
 }
-
 } // namespace
 
 TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)

@@ -1,20 +1,18 @@
 // The two dialogs that ask for a name, through the functions that open them.
 
-#include <DialogControlsOW.h>
-
+#include "BoxParts.h"
 #include "OwnerWindow.h"
 
 #include "EnglishTexts.h"
 #include "Handles.h"
-#include "ModalVisit.h"
 
 #include <acdocman.h>
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <stdexcept>
 
-using owtest::TextOf;
 using Visitor = owtest::ModalVisit::Visitor;
 
 namespace
@@ -129,6 +127,22 @@ TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
     EXPECT_EQ(seen, GetParam().english + L"|Naziv");
     Ask(L"", look, L"Ucitaj");
     EXPECT_EQ(seen, L"Ucitaj|");
+}
+
+TEST_P(NameDialog, HasTranslatedButtonsWithIcons)
+{
+    const auto path = std::filesystem::temp_directory_path() / L"ow buttons.po";
+    std::ofstream(path) << "msgid \"Cancel\"\nmsgstr \"Odustani\"\n";
+    ASSERT_TRUE(gOtLang.Load(path.c_str()));
+    Ask(L"",
+        [](CWnd& dialog)
+        {
+            EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDCANCEL)), L"Odustani");
+            EXPECT_GT(CountColoured(dialog, IDOK), 10);
+            EXPECT_GT(CountColoured(dialog, IDCANCEL), 10);
+        });
+    gOtLang.Unload();
+    std::filesystem::remove(path);
 }
 
 TEST_P(NameDialog, StandsOverTheWindowInFrontWithTheLibrarysResources)
