@@ -5,7 +5,6 @@
 void gfnRecreateControl(CWnd& control, DWORD dwStyle, const CRect& rect)
 {
     CWnd* pParent = control.GetParent();
-    CWnd* pBefore = control.GetWindow(GW_HWNDPREV);
     CFont* pFont = control.GetFont();
     const DWORD dwExStyle = control.GetExStyle();
     const int nId = control.GetDlgCtrlID();
@@ -18,6 +17,4 @@ void gfnRecreateControl(CWnd& control, DWORD dwStyle, const CRect& rect)
     control.CreateEx(dwExStyle, szClass, _T(""), dwStyle, rect, pParent, nId);
     control.SetFont(pFont);
     control.SetWindowText(strText);
-    control.SetWindowPos(pBefore ? pBefore : &CWnd::wndTop, 0, 0, 0, 0,
-                         SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }

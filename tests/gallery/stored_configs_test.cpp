@@ -52,6 +52,8 @@ TEST(StoredConfigs, AreThereAtTheNextStartWithTheirValues)
     EXPECT_EQ(again.pattern, program.pattern);
     again.set.DeleteConfig(1);
     EXPECT_EQ(again.set.GetConfigName(again.set.GetCurrentConfig()), L"") << "the one that followed";
+    again.set.DeleteConfig(1);
+    EXPECT_EQ(again.set.GetCurrentConfig(), 0) << "or else the last one";
     std::filesystem::remove(Program::Path());
 }
 
@@ -60,7 +62,12 @@ TEST(StoredConfigs, OfTwoWindowsDoNotDisplaceEachOther)
     Program first, second;
     first.set.AddConfig(L"A");
     second.set.AddConfig(L"B");
-    EXPECT_EQ(Program().Names(), L"A|B|");
+    second.pattern.nRows = 9;
+    second.set.OverwriteConfig(L"A");
+    Program again;
+    EXPECT_EQ(again.Names(), L"A|B|");
+    again.set.SetCurrentConfig(0);
+    EXPECT_EQ(again.pattern.nRows, 9);
     EXPECT_EQ(first.Names(), L"A|") << "in step with its own list";
     std::filesystem::remove(Program::Path());
 }
