@@ -36,6 +36,9 @@ int CEditCtrlAnsiMsgHook::HookWindow(CWnd* pWnd)
     const unsigned char nCharSet = gOtSubLang.GetCurrentCharacterSet();
     if (nCharSet == ClTranslator::GetDisplayCharacterSet())
         return 1;
+    CFont left; // by a box that was left through the base class: it may still show it, and be this one
+    if (!IsHooked())
+        GiveUpFont(left);
     const int nHooked = CMsgHook::HookWindow(pWnd);
     _CreateCustomFont(nCharSet);
     return nHooked;
@@ -112,7 +115,12 @@ LRESULT CEditCtrlAnsiMsgHook::GetBoxText(CEdit& edit, wchar_t* pszBuffer, WPARAM
 LRESULT CEditCtrlAnsiMsgHook::OnBoxGone()
 {
     CFont font;
-    font.Attach(m_font.Detach());
-    m_bCustomFont = false;
+    GiveUpFont(font);
     return Default();
+}
+
+void CEditCtrlAnsiMsgHook::GiveUpFont(CFont& taker)
+{
+    taker.Attach(m_font.Detach());
+    m_bCustomFont = false;
 }

@@ -54,6 +54,7 @@ private:
     LRESULT SetBoxText(CEdit& edit, const wchar_t* pszText);
     LRESULT GetBoxText(CEdit& edit, wchar_t* pszBuffer, WPARAM nBytes);
     LRESULT OnBoxGone();
+    void GiveUpFont(CFont& taker);
 
     bool m_bCustomFont = false;
     CFont m_font;

@@ -84,9 +84,17 @@ TEST_F(AnsiHook, GoesBeforeOrAfterItsBoxWithoutAFontLeft)
         EXPECT_FALSE(hook->IsHooked());
         EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "at once, and not with the hook";
     }
-    hook->HookWindow(&box);
-    hook.reset();
+    for (int i = 0; i < 2; ++i)
+    {
+        hook->HookWindow(&box);
+        EXPECT_EQ(CharSetOf(box), GREEK_CHARSET);
+        i ? hook->Unhook() : static_cast<CMsgHook&>(*hook).Unhook();
+    }
     EXPECT_TRUE(HasNoFont(box));
+    EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
+    hook->HookWindow(&box);
+    static_cast<CMsgHook&>(*hook).Unhook();
+    hook.reset();
     EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
 
     CEdit alone; // no parent to take a font from

@@ -87,6 +87,7 @@ TEST_F(MixedFont, DrawsInsideItsExtent)
     const int ink = Ink(box);
     EXPECT_GT(ink, 100);
     EXPECT_EQ(Ink(CRect(0, 0, 300, 100)), ink) << "nothing outside";
+    EXPECT_GT(Ink(CRect(box.right - 5, box.top, box.right, box.bottom)), 0) << "the last part stands last";
 }
 
 TEST_F(MixedFont, DrawsPlainTextAsTheContextDoes)
@@ -125,6 +126,7 @@ TEST_F(MixedFont, OpaqueModeFillsTheExtent)
     Draw(L"m<sup>2</sup>", CPoint(10, 10));
     const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>"));
     EXPECT_EQ(m_surface.count(box, c_paper), 0);
+    EXPECT_EQ(m_surface.dc().GetBkMode(), OPAQUE);
     EXPECT_EQ(m_surface.at(box.left, box.top), yellow);
     EXPECT_EQ(m_surface.at(box.right, box.top), c_paper);
     EXPECT_EQ(m_surface.at(box.left, box.bottom), c_paper);
