@@ -43,19 +43,24 @@ private:
     HGDIOBJ m_hOld = nullptr; ///< null if nothing was chosen
 };
 
-/// Sets the background colour of a context for the length of a scope.
-class CBkColorScope
+/// Changes a setting of a context for the length of a scope.
+template <class Value, auto Set>
+class CContextScope
 {
 public:
-    CBkColorScope(CDC& dc, COLORREF cr) : m_dc(dc), m_crOld(dc.SetBkColor(cr)) {}
-    ~CBkColorScope() { m_dc.SetBkColor(m_crOld); }
-    CBkColorScope(const CBkColorScope&) = delete;
-    CBkColorScope& operator=(const CBkColorScope&) = delete;
+    CContextScope(CDC& dc, Value value) : m_dc(dc), m_old((dc.*Set)(value)) {}
+    ~CContextScope() { (m_dc.*Set)(m_old); }
+    CContextScope(const CContextScope&) = delete;
+    CContextScope& operator=(const CContextScope&) = delete;
 
 private:
     CDC& m_dc;
-    COLORREF m_crOld;
+    Value m_old;
 };
+
+using CBkColorScope = CContextScope<COLORREF, &CDC::SetBkColor>;
+using CTextColorScope = CContextScope<COLORREF, &CDC::SetTextColor>;
+using CBkModeScope = CContextScope<int, &CDC::SetBkMode>; ///< OPAQUE or TRANSPARENT
 
 /// Gives a context back as it was found: selections, colours and modes.
 class CSavedDC
@@ -69,34 +74,6 @@ public:
 private:
     HDC m_hDC;
     int m_nSaved;
-};
-
-/// Sets the text colour of a context for the length of a scope.
-class CTextColorScope
-{
-public:
-    CTextColorScope(CDC& dc, COLORREF cr) : m_dc(dc), m_crOld(dc.SetTextColor(cr)) {}
-    ~CTextColorScope() { m_dc.SetTextColor(m_crOld); }
-    CTextColorScope(const CTextColorScope&) = delete;
-    CTextColorScope& operator=(const CTextColorScope&) = delete;
-
-private:
-    CDC& m_dc;
-    COLORREF m_crOld;
-};
-
-/// Sets the background mode of a context, OPAQUE or TRANSPARENT, for the length of a scope.
-class CBkModeScope
-{
-public:
-    CBkModeScope(CDC& dc, int nMode) : m_dc(dc), m_nOld(dc.SetBkMode(nMode)) {}
-    ~CBkModeScope() { m_dc.SetBkMode(m_nOld); }
-    CBkModeScope(const CBkModeScope&) = delete;
-    CBkModeScope& operator=(const CBkModeScope&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_nOld;
 };
 
 /// A bitmap in a memory context of its own, to paint on and to copy from.
