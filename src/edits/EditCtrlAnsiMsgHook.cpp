@@ -36,7 +36,8 @@ int CEditCtrlAnsiMsgHook::HookWindow(CWnd* pWnd)
     const unsigned char nCharSet = gOtSubLang.GetCurrentCharacterSet();
     if (nCharSet == ClTranslator::GetDisplayCharacterSet())
         return 1;
-    CFont left; // by a box that was left through the base class: it may still show it, and be this one
+    CFont
+        left; // of the last box, which still shows it if it was left through the base class, and may be this one
     if (!IsHooked())
         GiveUpFont(left);
     const int nHooked = CMsgHook::HookWindow(pWnd);
@@ -44,11 +45,9 @@ int CEditCtrlAnsiMsgHook::HookWindow(CWnd* pWnd)
     return nHooked;
 }
 
-// The record goes with the font: the next box needs one of its own.
 void CEditCtrlAnsiMsgHook::Unhook()
 {
     _DeleteCustomFont();
-    m_bCustomFont = false;
     CMsgHook::Unhook();
 }
 

@@ -73,8 +73,8 @@ TEST_F(MixedFont, ScriptsAreSmallerAndReachOutOfTheLine)
     const CSize lowered = Extent(L"A<sub>2</sub>");
     EXPECT_LT(raised.cx, plain.cx);
     EXPECT_EQ(raised.cx, lowered.cx);
-    EXPECT_GE(raised.cy, plain.cy);
-    EXPECT_GE(lowered.cy, plain.cy);
+    EXPECT_GT(raised.cy, plain.cy);
+    EXPECT_GT(lowered.cy, plain.cy);
     EXPECT_LT(Extent(L"<sup><sup>8</sup></sup>").cx, Extent(L"<sup>8</sup>").cx);
 }
 
