@@ -32,6 +32,7 @@ class OpenAcadButton : public CAcadColorBtnST
 public:
     using CAcadColorBtnST::CAcadColorBtnST;
     using CAcadColorBtnST::m_bIsCheckBox;
+    using CAcadColorBtnST::m_bMouseOnButton;
     using CAcadColorBtnST::m_nNumberLabelId;
     using CAcadColorBtnST::m_numberLabel;
 };
@@ -69,11 +70,14 @@ public:
     std::vector<std::string> calls;
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
-    void OnColorChosen(int nId, int nColor) override { Note(nId, nColor); }
+    void OnColorChosen(int nId, int nColor) override
+    {
+        calls.push_back(std::to_string(nId) + ' ' + std::to_string(nColor));
+    }
     void OnAcadColorChosen(int nId, int nColor) override
     {
+        OnColorChosen(nId, nColor);
         EXPECT_TRUE(acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls";
-        Note(nId, nColor);
     }
 
 protected:
@@ -91,22 +95,21 @@ protected:
             calls.push_back("dialog " + std::to_string(nID));
         return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
-
-private:
-    void Note(int nId, int nColor) { calls.push_back(std::to_string(nId) + ' ' + std::to_string(nColor)); }
 };
 
 /// A button without a theme, painted in a state.
 template <class Button, class Value>
-void Paint(owtest::Surface& surface, Value value, UINT nItemState)
+std::unique_ptr<owtest::Surface> Paint(Value value, UINT nItemState)
 {
-    Lone<Button> lone({surface.width(), surface.height()});
+    Lone<Button> lone(kSize);
     lone.button.SetThemeHelper(nullptr);
     lone.button.SetFlat(FALSE);
     for (const BYTE back : {CButtonST::colorBackIn, CButtonST::colorBackOut, CButtonST::colorBackFocus})
         lone.button.SetColor(back, kFace);
     lone.button.SetColorSource(&value);
-    PaintButton(lone.button, surface, nItemState);
+    auto pPicture = std::make_unique<owtest::Surface>(kSize.cx, kSize.cy);
+    PaintButton(lone.button, *pPicture, nItemState);
+    return pPicture;
 }
 
 /// Expects a closed outline, and that all inside it has one colour.
@@ -117,6 +120,7 @@ void ExpectBox(const owtest::Surface& picture, CRect rect, COLORREF line, COLORR
     EXPECT_EQ(nAll - picture.count(rect, line), nArea - rect.Width() * rect.Height());
     EXPECT_EQ(picture.count(rect, fill), rect.Width() * rect.Height());
 }
+
 HWND Part(CWnd& popup, int nIndex)
 {
     return popup.GetDlgItem(kFirstCell + nIndex)->m_hWnd;
@@ -136,21 +140,7 @@ void VisitOther(CWnd& popup, const Script& script)
     EXPECT_EQ(visit.Count(), 1);
 }
 
-/// Types a colour into the system's dialog, and accepts it.
-void Accept(CWnd& window, COLORREF cr)
-{
-    constexpr int kRedBox = 706; ///< the boxes for green and blue have the next ids
-    for (int i = 0; i < 3; ++i)
-    {
-        CWnd& box = *window.GetDlgItem(kRedBox + i);
-        owtest::Click(box);
-        box.SendMessage(EM_SETSEL, 0, -1);
-        owtest::Type(std::to_wstring(cr >> 8 * i & 0xFF));
-    }
-    owtest::Click(*window.GetDlgItem(IDOK));
-}
-
-class ColorPopup : public ::testing::Test
+class ColorButtons : public ::testing::Test
 {
 protected:
     void SetUp() override { ASSERT_TRUE(m_dialog.Open()); }
@@ -196,7 +186,9 @@ protected:
     }
 
     ColorsDialog m_dialog;
+    CWnd& m_label = m_dialog.acad.m_numberLabel;
 };
+using ColorPopup = ColorButtons;
 } // namespace
 
 // ---- Look and number ---------------------------------------------------------------------------------------
@@ -213,94 +205,80 @@ TEST(ColorButtonPaint, ShowsASwatchAndAnArrow)
                   {ODS_FOCUS, {6, 6, 45, 20}, {51, 13}}}; // inside the frame of the focused button
     for (const auto& [nState, swatch, tip] : states)
     {
-        owtest::Surface rgb(kSize.cx, kSize.cy), acad(kSize.cx, kSize.cy), none(kSize.cx, kSize.cy);
-        Paint<CColorBtnST>(rgb, DWORD{kNewColor}, nState);
-        Paint<CAcadColorBtnST>(acad, 30, nState);
-        Paint<CAcadColorBtnST>(none, 999, nState); // no colour
-        for (const auto& [pPicture, cr] :
-             {std::pair(&rgb, kNewColor), {&acad, RGB(255, 127, 0)}, {&none, kFace}})
+        const auto expect = [&](const owtest::Surface& picture, COLORREF cr)
         {
-            ExpectBox(*pPicture, swatch, kBlack, cr);
-            EXPECT_TRUE(pPicture->at(tip.x, tip.y) == kBlack && pPicture->at(tip.x, tip.y + 1) == kFace);
-        }
+            ExpectBox(picture, swatch, kBlack, cr);
+            EXPECT_TRUE(picture.at(tip.x, tip.y) == kBlack && picture.at(tip.x, tip.y + 1) == kFace);
+        };
+        expect(*Paint<CColorBtnST>(DWORD{kNewColor}, nState), kNewColor);
+        expect(*Paint<CAcadColorBtnST>(30, nState), RGB(255, 127, 0));
+        expect(*Paint<CAcadColorBtnST>(999, nState), kFace); // no colour
     }
-    owtest::Surface narrow(19, 26);
-    Paint<CColorBtnST>(narrow, DWORD{kNewColor}, 0);
-    EXPECT_EQ(narrow.at(5, 5), kFace) << "no room for a swatch";
 }
 
 TEST(ColorButtonPaint, DisabledShowsNoColor)
 {
     const CRect area(5, 5, 46, 21);
-    owtest::Surface rgb(kSize.cx, kSize.cy), acad(kSize.cx, kSize.cy);
-    Paint<CColorBtnST>(rgb, DWORD{kNewColor}, ODS_DISABLED);
-    ExpectBox(rgb, area, kFace, kFace);
-    EXPECT_EQ(rgb.at(52, 14), kWhite) << "the arrow is engraved";
-
-    Paint<CAcadColorBtnST>(acad, 30, ODS_DISABLED);
-    EXPECT_EQ(acad.at(52, 14), kWhite);
-    ExpectBox(acad, {7, 7, 45, 20}, kFace, kFace);
-    EXPECT_EQ(acad.count(area, ::GetSysColor(COLOR_BTNSHADOW)), 2 * (41 + 16) - 4) << "a dark frame";
-    EXPECT_EQ(acad.count(area + CPoint(1, 1), kWhite), 2 * (41 + 16) - 6) << "over a light one";
+    const auto pRgb = Paint<CColorBtnST>(DWORD{kNewColor}, ODS_DISABLED);
+    const auto pAcad = Paint<CAcadColorBtnST>(30, ODS_DISABLED);
+    EXPECT_TRUE(pRgb->at(52, 14) == kWhite && pAcad->at(52, 14) == kWhite) << "the arrow is engraved";
+    ExpectBox(*pRgb, area, kFace, kFace);
+    ExpectBox(*pAcad, {7, 7, 45, 20}, kFace, kFace);
+    EXPECT_EQ(pAcad->count(area, ::GetSysColor(COLOR_BTNSHADOW)), 2 * (41 + 16) - 4) << "a dark frame";
+    EXPECT_EQ(pAcad->count(area + CPoint(1, 1), kWhite), 2 * (41 + 16) - 6) << "over a light one";
 }
 
-TEST(ColorButton, IsAPushButtonWhateverTheTemplateSaysAndTheNumberIsMadeAnewEachTime)
+TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysAndMakeTheNumberAnewEachTime)
 {
-    ColorsDialog dialog;
-    CWnd& label = dialog.acad.m_numberLabel;
     for (const long dwStyle : {long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX), BS_DEFPUSHBUTTON | WS_DISABLED})
     {
-        ASSERT_TRUE(dialog.Open(dwStyle));
-        EXPECT_FALSE(dialog.acad.m_bIsCheckBox || dialog.acad.GetDefault());
-        EXPECT_EQ(label.m_hWnd, dialog.GetDlgItem(dialog.acad.m_nNumberLabelId)->m_hWnd);
-        EXPECT_EQ(owtest::TextOf(label), L"30");
-        EXPECT_EQ(label.IsWindowEnabled(), dwStyle != (BS_DEFPUSHBUTTON | WS_DISABLED));
-        dialog.DestroyWindow();
+        m_dialog.DestroyWindow();
+        ASSERT_TRUE(m_dialog.Open(dwStyle));
+        EXPECT_FALSE(m_dialog.acad.m_bIsCheckBox || m_dialog.acad.GetDefault());
+        EXPECT_EQ(m_dialog.rgb.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
+        EXPECT_EQ(m_label.m_hWnd, m_dialog.GetDlgItem(m_dialog.acad.m_nNumberLabelId)->m_hWnd);
+        EXPECT_EQ(owtest::TextOf(m_label), L"30");
+        EXPECT_EQ(m_label.IsWindowEnabled(), dwStyle != (BS_DEFPUSHBUTTON | WS_DISABLED));
     }
-    ASSERT_TRUE(dialog.Open());
-    const HWND hButton = dialog.acad.UnsubclassWindow();
+    const HWND hButton = m_dialog.acad.UnsubclassWindow();
     ::ShowWindow(hButton, SW_HIDE);
-    dialog.acad.SetColorSource(nullptr);
-    dialog.acad.SubclassWindow(hButton); // the same window once more
-    EXPECT_EQ(owtest::TextOf(label), L"") << "no source, no number";
-    EXPECT_FALSE(label.GetStyle() & WS_VISIBLE);
-    dialog.acad.DestroyWindow();
-    EXPECT_EQ(dialog.GetDlgItem(dialog.acad.m_nNumberLabelId), nullptr)
-        << "neither that nor an older one stays";
+    m_dialog.acad.SetColorSource(nullptr);
+    m_dialog.acad.SubclassWindow(hButton); // the same window once more
+    EXPECT_EQ(owtest::TextOf(m_label), L"") << "no source, no number";
+    EXPECT_FALSE(m_label.GetStyle() & WS_VISIBLE);
+    m_dialog.acad.DestroyWindow();
+    EXPECT_EQ(m_dialog.GetDlgItem(m_dialog.acad.m_nNumberLabelId), nullptr) << "nor an older one";
 }
 
-TEST(AcadColorNumber, StandsBesideTheButtonInTheParentsFontAndFollowsIt)
+TEST_F(ColorButtons, TheNumberStandsBesideTheButtonInTheParentsFontAndFollowsIt)
 {
-    ColorsDialog dialog;
-    ASSERT_TRUE(dialog.Open());
-    CWnd& label = dialog.acad.m_numberLabel;
-    EXPECT_EQ(label.GetStyle() & (WS_VISIBLE | 0xFFFF), static_cast<DWORD>(WS_VISIBLE | SS_CENTERIMAGE));
-    EXPECT_EQ(label.GetFont()->m_hObject, dialog.GetFont()->m_hObject);
-    CClientDC dc(&dialog);
-    const CGdiSelection font(dc, dialog.GetFont()->m_hObject);
+    EXPECT_EQ(m_label.GetStyle() & (WS_VISIBLE | 0xFFFF), static_cast<DWORD>(WS_VISIBLE | SS_CENTERIMAGE));
+    EXPECT_EQ(m_label.GetFont()->m_hObject, m_dialog.GetFont()->m_hObject);
+    CClientDC dc(&m_dialog);
+    const CGdiSelection font(dc, m_dialog.GetFont()->m_hObject);
     CRect button, rect;
-    dialog.acad.GetWindowRect(button);
-    label.GetWindowRect(rect);
+    m_dialog.acad.GetWindowRect(button);
+    m_label.GetWindowRect(rect);
     EXPECT_EQ(rect, CRect(CPoint(button.right + dc.GetTextExtent(L" ").cx, button.top),
                           CSize(dc.GetTextExtent(L"888").cx, button.Height())));
 
-    for (const BOOL bEnable : {FALSE, TRUE})
-    {
-        dialog.acad.EnableWindow(bEnable);
-        EXPECT_EQ(label.IsWindowEnabled(), bEnable);
-    }
-    dialog.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    dialog.index = 7;
-    dialog.acad.SetColorSource(&dialog.index);
-    dialog.rgb.SetColorSource(&dialog.color);
-    EXPECT_EQ(owtest::TextOf(label), L"7");
-    EXPECT_TRUE(dialog.acad.GetUpdateRect(nullptr) && dialog.rgb.GetUpdateRect(nullptr));
+    m_dialog.acad.SetFlat(TRUE);
+    m_dialog.acad.m_bMouseOnButton = TRUE;
+    m_dialog.acad.EnableWindow(FALSE);
+    EXPECT_FALSE(m_label.IsWindowEnabled() || m_dialog.acad.m_bMouseOnButton);
+    m_dialog.acad.EnableWindow(TRUE);
+    EXPECT_TRUE(m_label.IsWindowEnabled());
+
+    m_dialog.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    m_dialog.acad.SetColorSource(&(m_dialog.index = 7));
+    m_dialog.rgb.SetColorSource(&m_dialog.color);
+    EXPECT_EQ(owtest::TextOf(m_label), L"7");
+    EXPECT_TRUE(m_dialog.acad.GetUpdateRect(nullptr) && m_dialog.rgb.GetUpdateRect(nullptr));
 }
 
-TEST(AcadColorClick, AColorThatTheHostGivesIsStoredAndTold)
+TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
 {
-    ColorsDialog dialog;
-    ASSERT_TRUE(dialog.Open());
+    OpenAcadButton& acad = m_dialog.acad;
     const auto visit = [&](const wchar_t* pszTyped, WORD nKey, const std::function<void()>& meanwhile)
     {
         const owtest::ModalVisit visit(
@@ -310,56 +288,55 @@ TEST(AcadColorClick, AColorThatTheHostGivesIsStoredAndTold)
                 meanwhile();
                 owtest::Press(nKey);
             });
-        dialog.acad.m_numberLabel.SetWindowText(L"before");
-        owtest::Click(dialog.acad);
+        m_label.SetWindowText(L"before");
+        owtest::Click(acad);
         EXPECT_EQ(visit.Count(), 1);
-        return dialog.acad.m_hWnd ? owtest::TextOf(dialog.acad.m_numberLabel) : L"gone";
+        return acad.m_hWnd ? owtest::TextOf(m_label) : L"gone";
     };
     EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142");
-    EXPECT_EQ(dialog.index, 142);
-    EXPECT_EQ(dialog.Take(), Calls{"1002 142"}) << "and the dialog does not receive the click";
+    EXPECT_EQ(m_dialog.index, 142);
+    EXPECT_EQ(m_dialog.Take(), Calls{"1002 142"}) << "and the dialog does not receive the click";
 
     EXPECT_EQ(visit(L"7", VK_ESCAPE, [] {}), L"before");
     EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142") << "the same colour";
     const auto takeSourceAway = [&]
     {
-        dialog.acad.ShowWindow(SW_HIDE); // it must not be painted now
-        dialog.acad.SetColorSource(nullptr);
+        acad.ShowWindow(SW_HIDE); // it must not be painted now
+        acad.SetColorSource(nullptr);
     };
     EXPECT_EQ(visit(L"7", VK_RETURN, takeSourceAway), L"before");
-    dialog.acad.SetColorSource(&dialog.index);
-    dialog.acad.ShowWindow(SW_SHOW);
-    EXPECT_EQ(visit(L"7", VK_RETURN, [&] { dialog.acad.DestroyWindow(); }), L"gone");
-    EXPECT_EQ(dialog.index, 142);
-    EXPECT_EQ(dialog.Take(), Calls{});
+    acad.SetColorSource(&m_dialog.index);
+    acad.ShowWindow(SW_SHOW);
+    EXPECT_EQ(visit(L"7", VK_RETURN, [&] { acad.DestroyWindow(); }), L"gone");
+    EXPECT_EQ(m_dialog.index, 142);
+    EXPECT_EQ(m_dialog.Take(), Calls{});
 }
 
 // ---- The pop-up --------------------------------------------------------------------------------------------
 
-TEST_F(ColorPopup, OpensBelowTheButtonOrWhereTheScreenHasRoom)
+TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
 {
-    const CSize screen(::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN));
     CRect button, rect;
     const Script look = [&](CWnd& popup) { popup.GetWindowRect(rect); };
-    for (const CPoint at : {CPoint(100, 100), CPoint(screen.cx - 50, screen.cy - 60)})
-    {
-        m_dialog.SetWindowPos(nullptr, at.x, at.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
-        m_dialog.rgb.GetWindowRect(button);
-        Visit(look);
-        const bool bRoom = at.x == 100;
-        EXPECT_EQ(bRoom ? rect.TopLeft() : CPoint(rect.right, rect.bottom),
-                  bRoom ? CPoint(button.left, button.bottom) : CPoint(screen.cx, button.top));
-    }
+    m_dialog.rgb.GetWindowRect(button);
+    Visit(look);
+    EXPECT_EQ(rect.TopLeft(), CPoint(button.left, button.bottom));
+
+    const int right = ::GetSystemMetrics(SM_CXSCREEN), bottom = ::GetSystemMetrics(SM_CYSCREEN);
+    const CSize size = rect.Size();
     CPoint mouse;
     ::GetCursorPos(&mouse);
-    const RECT anchor{200, 300, 240, screen.cy - rect.Height()};             // it just fits
-    for (const RECT* pAnchor : {&anchor, static_cast<const RECT*>(nullptr)}) // without a button
+    const std::pair<CRect, CPoint> anchors[] = {
+        {{200, 300, 240, bottom - size.cy}, {200, bottom - size.cy}}, // it just fits
+        {{200, bottom - 200, 240, bottom - size.cy + 1}, {200, bottom - 200 - size.cy}},
+        {{right - 10, 300, right, 320}, {right - size.cx, 320}},
+        {{0, 0, 0, 0}, mouse}};
+    for (const auto& [anchor, corner] : anchors)
     {
-        CColorSelectDialog dialog(nullptr, pAnchor);
+        CColorSelectDialog dialog(nullptr, anchor.IsRectNull() ? nullptr : &anchor);
         const owtest::ModalVisit visit(look);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-        const CPoint mouseCorner(std::min<int>(mouse.x, screen.cx - rect.Width()), mouse.y - rect.Height());
-        EXPECT_EQ(rect.TopLeft(), pAnchor ? CPoint(200, anchor.bottom) : mouseCorner);
+        EXPECT_EQ(rect.TopLeft(), corner);
     }
 }
 
@@ -420,20 +397,17 @@ TEST_F(ColorPopup, AClickOutsideCancelsWhateverCameBefore)
 
 TEST_F(ColorPopup, IsOverWhenAnotherWindowTakesTheMouseOrTheForeground)
 {
-    ExpectCancel(
-        [&](CWnd& popup)
-        {
-            m_dialog.rgb.SetCapture();
-            EXPECT_TRUE(Becomes(false, popup));
-            EXPECT_EQ(CWnd::GetCapture(), &m_dialog.rgb);
-            ::ReleaseCapture();
-        });
-    ExpectCancel(
-        [](CWnd& popup)
-        {
-            ::SetForegroundWindow(::GetDesktopWindow());
-            EXPECT_TRUE(Becomes(false, popup));
-        });
+    for (const auto& steal : {std::function<void()>([&] { m_dialog.rgb.SetCapture(); }),
+                              {[] { ::SetForegroundWindow(::GetDesktopWindow()); }}})
+    {
+        ExpectCancel(
+            [&](CWnd& popup)
+            {
+                steal();
+                EXPECT_TRUE(Becomes(false, popup));
+                ::ReleaseCapture();
+            });
+    }
 }
 
 TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
@@ -484,8 +458,18 @@ TEST_F(ColorPopup, AKeyThatIsHeldFromOpeningItDoesNothing)
 
 TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
 {
-    const auto acceptNew = [&](CWnd& popup)
-    { VisitOther(popup, [](CWnd& window) { Accept(window, kNewColor); }); };
+    constexpr int kRedBox = 706; ///< the boxes for green and blue have the next ids
+    const Script accept = [](CWnd& window)
+    {
+        for (int i = 0; i < 3; ++i)
+        {
+            owtest::Click(*window.GetDlgItem(kRedBox + i));
+            window.SendDlgItemMessage(kRedBox + i, EM_SETSEL, 0, -1);
+            owtest::Type(std::to_wstring(kNewColor >> 8 * i & 0xFF));
+        }
+        owtest::Press(VK_RETURN);
+    };
+    const Script acceptNew = [&](CWnd& popup) { VisitOther(popup, accept); };
     ExpectChoice(acceptNew, kNewColor, 10);
     EXPECT_EQ(CColorBtnST::s_colorTable[10], kNewColor);
     EXPECT_EQ(CColorBtnST::s_colorRecency[9], 20);
@@ -497,36 +481,29 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
     EXPECT_EQ(CColorBtnST::s_colorTable, before);
 }
 
-// Nothing is written, and nobody told.
-TEST_F(ColorPopup, EndsWithTheButtonOrItsDialog)
+TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
 {
-    const Script endings[] = {[&](CWnd&) { m_dialog.rgb.DestroyWindow(); },
-                              [&](CWnd&) { m_dialog.DestroyWindow(); }};
+    std::unique_ptr<CColorBtnST> pButton;
+    const Script endings[] = {[&](CWnd&) { pButton->DestroyWindow(); },
+                              [&](CWnd&) { m_dialog.DestroyWindow(); }, [&](CWnd&) { pButton.reset(); }};
     for (const Script& end : endings)
     {
-        Visit(
+        m_dialog.rgb.UnsubclassWindow();
+        pButton = std::make_unique<CColorBtnST>(&m_dialog);
+        ASSERT_TRUE(pButton->SubclassDlgItem(ColorsDialog::nRgb, &m_dialog));
+        pButton->SetColorSource(&m_dialog.color);
+        const owtest::ModalVisit visit(
             [&](CWnd& popup)
             {
                 VisitOther(popup, end);
                 EXPECT_TRUE(Becomes(false, popup));
             });
+        owtest::Click(*pButton);
         EXPECT_EQ(m_dialog.color, RGB(255, 0, 0));
         EXPECT_EQ(m_dialog.Take(), Calls{});
         m_dialog.DestroyWindow();
         ASSERT_TRUE(m_dialog.Open());
     }
-    m_dialog.rgb.UnsubclassWindow();
-    auto pButton = std::make_unique<CColorBtnST>(&m_dialog);
-    ASSERT_TRUE(pButton->SubclassDlgItem(ColorsDialog::nRgb, &m_dialog));
-    pButton->SetColorSource(&m_dialog.color);
-    const owtest::ModalVisit visit(
-        [&](CWnd& popup)
-        {
-            pButton.reset();
-            EXPECT_TRUE(Becomes(false, popup));
-        });
-    owtest::Click(*pButton); // the same when the object goes
-    EXPECT_EQ(m_dialog.Take(), Calls{});
 }
 
 TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
@@ -544,11 +521,6 @@ TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
     for (int i = 0; i < 5; ++i)
         Visit(use);
     EXPECT_EQ(owtest::CountHandles(), before);
-
-    m_dialog.acad.SetFocus();
-    const owtest::ModalVisit visit([](CWnd&) {});
-    m_dialog.SendMessage(WM_COMMAND, ColorsDialog::nRgb, reinterpret_cast<LPARAM>(m_dialog.rgb.m_hWnd));
-    EXPECT_EQ(CWnd::GetFocus(), &m_dialog.rgb) << "a click takes the focus";
 }
 
 // ---- The palette in the profile ---------------------------------------------------------------------------
@@ -588,25 +560,25 @@ TEST(ColorProfile, KeepsThePaletteAndADamagedOneIsAsDelivered)
 
 namespace
 {
-template <class Button>
-void PaintWithoutSource()
-{
-    Lone<Button> lone(kSize);
-    owtest::Surface surface(kSize.cx, kSize.cy);
-    PaintButton(lone.button, surface);
-}
-
 void Click(const CButton& button)
 {
     button.GetParent()->SendMessage(WM_COMMAND, 0, reinterpret_cast<LPARAM>(button.m_hWnd));
 }
+
+template <class Button>
+void UseWithoutSource(bool bClick)
+{
+    Lone<Button> lone(kSize);
+    owtest::Surface surface(kSize.cx, kSize.cy);
+    bClick ? Click(lone.button) : PaintButton(lone.button, surface);
+}
 } // namespace
 
 // clang-format off
-OW_CHILD_SCENARIO(rgb_paint) { PaintWithoutSource<CColorBtnST>(); }
-OW_CHILD_SCENARIO(rgb_click) { Click(Lone<CColorBtnST>(kSize).button); }
-OW_CHILD_SCENARIO(acad_paint) { PaintWithoutSource<CAcadColorBtnST>(); }
-OW_CHILD_SCENARIO(acad_click) { Click(Lone<CAcadColorBtnST>(kSize).button); }
+OW_CHILD_SCENARIO(rgb_paint) { UseWithoutSource<CColorBtnST>(false); }
+OW_CHILD_SCENARIO(rgb_click) { UseWithoutSource<CColorBtnST>(true); }
+OW_CHILD_SCENARIO(acad_paint) { UseWithoutSource<CAcadColorBtnST>(false); }
+OW_CHILD_SCENARIO(acad_click) { UseWithoutSource<CAcadColorBtnST>(true); }
 // clang-format on
 
 OW_CHILD_SCENARIO(rgb_choose)
