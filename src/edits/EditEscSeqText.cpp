@@ -2,7 +2,6 @@
 
 #include "edits/EditEscSeqText.h"
 
-#include "edits/EditCtrlAnsiInterface.h"
 
 #include <Translator.h>
 
@@ -124,7 +123,7 @@ void CEditEscSeqText::OnTextChosen(int nId, int nIndex)
 // Adds a text without checking it.
 void CEditEscSeqText::DodajTekstBezProvere(CString strText)
 {
-    const CString strShown = ShownText();
+    const CString strShown = ReadText();
     const int nPos = std::min(m_nCaret, strShown.GetLength());
     // A text that is refused stands in the control only, and must not be lost to the stored one.
     const CString strOld = IsTextValid(strShown) ? m_strValue : strShown;
@@ -170,14 +169,14 @@ const CString& CEditEscSeqText::GetValue() const
 
 bool CEditEscSeqText::IsDataCurrentlyInGUIValid() const
 {
-    return m_hWnd && IsTextValid(ShownText());
+    return m_hWnd && IsTextValid(ReadText());
 }
 
 bool CEditEscSeqText::ValidateAndStoreDataFromGUI()
 {
     if (!m_hWnd)
         return false;
-    const CString strText = ShownText();
+    const CString strText = ReadText();
     if (!IsTextValid(strText))
         return false;
     m_strValue = strText;
@@ -188,15 +187,6 @@ void CEditEscSeqText::UpdateGUIWithStoredData()
 {
     if (m_hWnd)
         SafeSetWindowText(m_strValue);
-}
-
-CString CEditEscSeqText::ShownText() const
-{
-    if (GetAnsiInterface())
-        return CEditCtrlAnsiInterface(const_cast<CEditEscSeqText&>(*this)).GetText();
-    CString strText;
-    GetWindowText(strText);
-    return strText;
 }
 
 bool CEditEscSeqText::IsTextValid(const CString&) const

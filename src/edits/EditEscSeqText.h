@@ -68,7 +68,6 @@ protected:
 private:
     void BindButton();
     int CaretIndex() const;
-    CString ShownText() const;
     void DodajTekstBezProvere(CString strText);
     void TakeFocus();
 
