@@ -79,7 +79,8 @@ public:
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
 
-    /// For EnumFonts: adds a row for a TrueType font, unless it is the one that was added last. `lParam` is the combo box. Always 1, to go on.
+    /// For EnumFonts: adds a row for a TrueType font, unless it is the one that was added last. `lParam` is the
+    /// combo box. Always 1, to go on.
     static int CALLBACK EnumFontProc(const LOGFONT* pLogFont, const TEXTMETRIC* pMetric, DWORD nType,
                                      LPARAM lParam);
 

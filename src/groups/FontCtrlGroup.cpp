@@ -68,7 +68,10 @@ int CFontCtrlGroup::OnInitDialog()
     m_editHeight.SetFormat(eDoubleFormatFixed, 1);
     m_btnApply.SetIcon(CButtonST::hApplyToAll);
     if (HasWindows())
+    {
         m_btnApply.SetWindowText(L"");
+        HideThirdCheckBox();
+    }
     if (m_pFont)
         ShowFont();
     return 1;
@@ -105,11 +108,16 @@ void CFontCtrlGroup::ClearCheckBoxes()
         pCheck->SetCheck(0);
 }
 
-// Wanted: the third box never shows.
 void CFontCtrlGroup::EnableCheckBoxes(BOOL bEnable)
 {
     m_btnCheck1.EnableWindow(bEnable);
     m_btnCheck2.EnableWindow(bEnable);
+    HideThirdCheckBox();
+}
+
+// Wanted: it never shows, although its field and its control exist.
+void CFontCtrlGroup::HideThirdCheckBox()
+{
     m_btnCheck3.EnableWindow(FALSE);
     m_btnCheck3.ShowWindow(SW_HIDE);
 }

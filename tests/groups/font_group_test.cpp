@@ -1,0 +1,369 @@
+// The font group: reports of each control, classes of fonts and the check boxes, no record, windows that come again.
+
+#include <DialogControlsOW.h>
+
+#include "DialogTemplate.h"
+#include "Input.h"
+#include "ModalVisit.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <limits>
+#include <set>
+#include <utility>
+
+namespace
+{
+enum Id : WORD
+{
+    idFont = 101,
+    idHeight,
+    idColor,
+    idCheck1,
+    idCheck2,
+    idCheck3,
+    idApply,
+    idElsewhere
+};
+
+constexpr wchar_t kShxFont[] = L"zz font";
+using Calls = std::vector<std::wstring>;
+
+/// A height in metres as millimetres with two decimals.
+CString Millimetres(double dHeight)
+{
+    CString strText;
+    strText.Format(L"%.2f", dHeight * 1000);
+    return strText;
+}
+
+/// "name, millimetres, colour, check boxes, class"
+std::wstring Text(const epgFont& font)
+{
+    CString strText;
+    strText.Format(L"%s, %s, %d, %d%d%d, %d", font.strName.GetString(), Millimetres(font.dHeight).GetString(),
+                   font.nColor, font.nCheck1, font.nCheck2, font.nCheck3, font.eClass);
+    return strText.GetString();
+}
+
+class FontDialog : public CDialog, public AFontCtrlGroupNotificationHandler
+{
+public:
+    CFontCtrlGroup group{idFont, idHeight, idColor, idCheck1, idCheck2, idCheck3, idApply, this};
+    epgFont record;
+    Calls calls; ///< the record at each, with "apply" in front for the button
+    Calls Take() { return std::exchange(calls, {}); }
+
+    bool Open()
+    {
+        owtest::DialogTemplate form(L"Font", 200, 130);
+        form.Item(L"COMBOBOX", L"", idFont,
+                  CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT | WS_TABSTOP, 4, 4, 120,
+                  90)
+            .Edit(idHeight, 4, 24, 30, 12)
+            .Item(L"BUTTON", L"", idColor, WS_TABSTOP, 4, 40, 40, 14);
+        for (const WORD id : {idCheck1, idCheck2, idCheck3})
+            form.Item(L"BUTTON", L"x", id, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 58 + 12 * (id - idCheck1), 40,
+                      10);
+        form.Button(L"Apply", idApply, 4, 100, 40, 16).Edit(idElsewhere, 100, 100, 40, 12);
+        if (!CreateIndirect(form.get()))
+            return false;
+        static_cast<CComboBox&>((*this)[idFont]).AddString(kShxFont);
+        ShowWindow(SW_SHOW);
+        return owtest::Activate(m_hWnd);
+    }
+    CWnd& operator[](int nId) { return *GetDlgItem(nId); }
+    CString FontOfRow(int nRow)
+    {
+        CString strName;
+        static_cast<CComboBox&>((*this)[idFont]).GetLBText(nRow, strName);
+        return strName;
+    }
+    /// The user chooses a row by keys.
+    void Choose(int nRow)
+    {
+        (*this)[idFont].SetFocus();
+        static_cast<CComboBox&>((*this)[idFont]).SetCurSel(nRow - 1);
+        owtest::Press(VK_DOWN);
+    }
+    void TypeHeight(const wchar_t* pszText)
+    {
+        owtest::Click((*this)[idHeight]);
+        (*this)[idHeight].SendMessage(EM_SETSEL, 0, -1);
+        owtest::Type(pszText);
+        owtest::Click((*this)[idElsewhere]);
+    }
+    void PressSpin(bool bUp)
+    {
+        const HWND hSpin = ::FindWindowEx(m_hWnd, nullptr, UPDOWN_CLASS, nullptr);
+        CRect rect;
+        ::GetClientRect(hSpin, rect);
+        owtest::Click(hSpin, CPoint(rect.Width() / 2, rect.Height() * (bUp ? 1 : 3) / 4));
+    }
+    /// Whether the host's dialog opens; the colour is typed into it.
+    bool ChooseColor(const wchar_t* pszNumber)
+    {
+        const owtest::ModalVisit visit(
+            [&](CWnd&)
+            {
+                owtest::Type(pszNumber);
+                owtest::Press(VK_RETURN);
+            });
+        owtest::Click((*this)[idColor]);
+        return visit.Count() == 1;
+    }
+    /// What the two check boxes show, and a sign for those that are enabled; the third where it is seen.
+    std::string Boxes()
+    {
+        std::string text;
+        for (const int id : {idCheck1, idCheck2, idCheck3})
+            if ((*this)[id].IsWindowVisible())
+                text += std::to_string(IsDlgButtonChecked(id)) + ((*this)[id].IsWindowEnabled() ? "+" : "-");
+        return text;
+    }
+    /// "font, height, colour's number"
+    std::wstring Seen()
+    {
+        std::wstring number;
+        for (int id = 11000; id < 11200; ++id)
+            if (CWnd* pOwn = GetDlgItem(id); pOwn && ::iswdigit(owtest::TextOf(*pOwn)[0]))
+                number = owtest::TextOf(*pOwn);
+        return owtest::TextOf((*this)[idFont]) + L", " + owtest::TextOf((*this)[idHeight]) + L", " + number;
+    }
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
+    BOOL OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        EXPECT_EQ(group.OnInitDialog(), 1);
+        return TRUE;
+    }
+    void OnFontGroupChanged(CFontCtrlGroup* pGroup, epgFont* pFont) override { Note(L"", pGroup, pFont); }
+    void OnFontGroupButton(CFontCtrlGroup* pGroup, epgFont* pFont) override
+    {
+        Note(L"apply ", pGroup, pFont);
+    }
+
+private:
+    void Note(const std::wstring& what, CFontCtrlGroup* pGroup, epgFont* pFont)
+    {
+        EXPECT_TRUE(pGroup == &group && pFont == &record);
+        calls.push_back(what + Text(*pFont));
+    }
+};
+
+class FontGroup : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const auto directory = std::filesystem::temp_directory_path() / L"font_group_test";
+        std::filesystem::create_directories(directory);
+        std::ofstream(directory / (kShxFont + std::wstring(L".shx"))) << "shapes";
+        CStringArray directories;
+        directories.Add(directory.c_str());
+        gFontManager.SetSHXDirectories(directories);
+        gFontManager.Initialize(CWindowDC(nullptr));
+        std::filesystem::remove_all(directory);
+        Open();
+        nShx = static_cast<CComboBox&>(dialog[idFont]).FindStringExact(-1, kShxFont);
+        ASSERT_GT(nShx, 3); // rows 1 to 3 are TrueType fonts
+        record = {dialog.FontOfRow(1), 0.0035, 30, 1, 0, 1, eFontTrueType};
+        group.SetFontSource(&record);
+    }
+    void TearDown() override { dialog.DestroyWindow(); }
+    void Open()
+    {
+        dialog.DestroyWindow();
+        ASSERT_TRUE(dialog.Open());
+        dialog.Take();
+    }
+    /// The record with a change in it, as it is told.
+    std::wstring With(const std::function<void(epgFont&)>& change)
+    {
+        change(expected);
+        return Text(expected);
+    }
+
+    FontDialog dialog;
+    CFontCtrlGroup& group = dialog.group;
+    epgFont& record = dialog.record;
+    epgFont expected; ///< what the record should hold
+    int nShx = 0;     ///< row of the SHX font
+};
+} // namespace
+
+TEST_F(FontGroup, StoresEachChangeOfTheUserAndThenTellsIt)
+{
+    expected = record;
+    dialog.Choose(2);
+    EXPECT_EQ(dialog.Take(), Calls{With([&](epgFont& font) { font.strName = dialog.FontOfRow(2); })});
+    dialog.TypeHeight(L"7");
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.dHeight = 0.007; })}) << "once, when left";
+    dialog.PressSpin(true);
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.dHeight = 0.0075; })}) << "at once";
+    owtest::Click(dialog[idHeight]);
+    owtest::Press(VK_DOWN);
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.dHeight = 0.007; })}) << "by key, too";
+    EXPECT_TRUE(dialog.ChooseColor(L"142"));
+    EXPECT_EQ(dialog.Take(), (Calls{Text(expected), With([](epgFont& font) { font.nColor = 142; })}));
+    EXPECT_EQ(dialog.Seen(), dialog.FontOfRow(2).GetString() + std::wstring(L", 7.0, 142"));
+    owtest::Click(dialog[idCheck1]);
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.nCheck1 = 0; })});
+    dialog[idCheck2].SetFocus();
+    owtest::Press(VK_SPACE);
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.nCheck2 = 1; })});
+    owtest::Click(dialog[idApply]);
+    EXPECT_EQ(dialog.Take(), Calls{L"apply " + Text(expected)}) << "nothing is stored";
+    EXPECT_EQ(owtest::TextOf(dialog[idApply]), L"") << "an icon in place of the text";
+
+    group.OnButtonClicked(idCheck3);
+    EXPECT_EQ(dialog.Take(), Calls{With([](epgFont& font) { font.nCheck3 = 1; })})
+        << "it never shows, and works";
+    group.OnFontSelected(idElsewhere, L"x", eFontSHX);
+    group.OnEditNKillFocus(idElsewhere);
+    group.OnAcadColorChosen(idElsewhere, 1);
+    group.OnButtonClicked(idElsewhere);
+    EXPECT_EQ(dialog.Take(), Calls{});
+    EXPECT_EQ(Text(record), Text(expected));
+}
+
+TEST_F(FontGroup, ShowsARecordAndTellsNobody)
+{
+    const std::wstring first = dialog.FontOfRow(1).GetString();
+    EXPECT_EQ(dialog.Seen(), first + L", 3.5, 30");
+    EXPECT_EQ(dialog.Boxes(), "1+0+") << "the third never shows";
+    epgFont other{L"No such font", 0.0125, 7, 0, -1, 1, eFontTrueType};
+    group.SetFontSource(&other);
+    EXPECT_EQ(dialog.Seen(), first + L", 12.5, 7") << "the selection stays";
+    EXPECT_EQ(dialog.Boxes(), "0+1+");
+    EXPECT_EQ(Text(other), L"No such font, 12.50, 7, 0-11, 0");
+    const double dNothing = std::numeric_limits<double>::quiet_NaN();
+    other.strName = CString(dialog.FontOfRow(2)).MakeUpper();
+    for (const auto& [dHeight, seen] : {std::pair(0.0004, L"1.0"), {0.3, L"20.0"}, {dNothing, L"nan"}})
+    {
+        other.dHeight = dHeight;
+        group.SetFontSource(&other);
+        EXPECT_EQ(dialog.Seen(), dialog.FontOfRow(2).GetString() + std::wstring(L", ") + seen + L", 7");
+        EXPECT_TRUE(other.dHeight == dHeight || dHeight != dHeight) << "not written";
+    }
+    EXPECT_EQ(dialog.Take(), Calls{});
+}
+
+TEST_F(FontGroup, KeepsATypedHeightWithinTheLimits)
+{
+    const std::pair<const wchar_t*, double> typed[] = {
+        {L"0.4", 0.001}, {L"99", 0.02}, {L"-3", 0.001}, {L"x", 0.001}, {L"2.25", 0.00225}};
+    for (const auto& [pszText, dHeight] : typed)
+    {
+        dialog.TypeHeight(pszText);
+        EXPECT_DOUBLE_EQ(record.dHeight, dHeight) << pszText;
+    }
+    EXPECT_EQ(dialog.Take().size(), std::size(typed)) << "each time the edit is left";
+    dialog.TypeHeight(L"19.8");
+    for (const bool bUp : {true, true})
+        dialog.PressSpin(bUp);
+    EXPECT_DOUBLE_EQ(record.dHeight, 0.02);
+    dialog.PressSpin(false);
+    EXPECT_DOUBLE_EQ(record.dHeight, 0.0195);
+}
+
+TEST_F(FontGroup, OnlyAnotherClassTouchesTheCheckBoxesAndNeverTheirFields)
+{
+    dialog.Choose(2);
+    EXPECT_EQ(dialog.Boxes(), "1+0+") << "the same class";
+    dialog.Choose(nShx);
+    EXPECT_EQ(dialog.Boxes(), "0-0-");
+    EXPECT_EQ(Text(record), kShxFont + std::wstring(L", 3.50, 30, 101, 1"));
+    owtest::Click(dialog[idCheck1]);
+    dialog.Choose(3);
+    EXPECT_EQ(dialog.Boxes(), "0+0+") << "clear, whatever the record says";
+    EXPECT_EQ(Text(record), dialog.FontOfRow(3).GetString() + std::wstring(L", 3.50, 30, 101, 0"));
+    owtest::Click(dialog[idCheck2]);
+    EXPECT_EQ(record.nCheck2, 1);
+
+    record.eClass = eFontSHX;
+    group.SetFontSource(&record);
+    EXPECT_EQ(dialog.Boxes(), "0-0-");
+    EXPECT_FALSE(dialog[idCheck3].IsWindowEnabled());
+    EXPECT_EQ(dialog.IsDlgButtonChecked(idCheck3), 0u);
+    EXPECT_EQ(record.nCheck1 + record.nCheck2 + record.nCheck3, 3);
+}
+
+TEST_F(FontGroup, WithoutARecordStoresNothingAndCallsNobody)
+{
+    const std::wstring before = Text(record), seen = dialog.Seen();
+    group.SetFontSource(nullptr);
+    EXPECT_EQ(dialog.Seen(), seen);
+    dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_FALSE(dialog.ChooseColor(L"9")) << "the button opens nothing";
+    dialog.Choose(2);
+    dialog.TypeHeight(L"7");
+    dialog.PressSpin(true);
+    for (const int id : {idCheck1, idCheck2, idApply})
+        owtest::Click(dialog[id]);
+    group.OnAcadColorChosen(idColor, 9);
+    EXPECT_EQ(Text(record), before);
+    EXPECT_EQ(dialog.Take(), Calls{});
+    EXPECT_EQ(dialog.Boxes(), "0+1+") << "the controls work";
+}
+
+TEST_F(FontGroup, ComesBackWithTheNextWindow)
+{
+    record.dHeight = 0.00354;
+    dialog.DestroyWindow();
+    group.SetFontSource(&record); // before there are controls
+    group.OnFontSelected(idFont, dialog.record.strName, eFontSHX);
+    record.eClass = eFontTrueType;
+    Open();
+    EXPECT_EQ(dialog.Seen(), record.strName.GetString() + std::wstring(L", 3.5, 30"));
+    EXPECT_EQ(dialog.Boxes(), "1+0+");
+    dialog.PressSpin(true);
+    EXPECT_EQ(Text(record), record.strName.GetString() + std::wstring(L", 4.00, 30, 101, 0"));
+    owtest::Click(dialog[idApply]);
+    EXPECT_TRUE(dialog[idApply].SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
+    group.SetFontSource(nullptr);
+    Open();
+    EXPECT_EQ(dialog.Boxes(), "1+0+") << "the third never shows, without a record, too";
+    EXPECT_FALSE(dialog[idApply].SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON) << "it begins anew";
+}
+
+TEST_F(FontGroup, NeedsItsControlsAndNoHandler)
+{
+    CDataExchange exchange(&dialog, FALSE);
+    CFontCtrlGroup lost(idElsewhere, 999, 999, 999, 999, 999, 999, nullptr);
+    EXPECT_THROW(lost.DoDataExchange(&exchange), CNotSupportedException*);
+    lost.SetFontSource(&record);
+    lost.OnFontSelected(idElsewhere, kShxFont, eFontSHX);
+    lost.OnButtonClicked(999);
+    EXPECT_EQ(record.eClass, eFontSHX);
+    EXPECT_EQ(lost.OnInitDialog(), 1);
+
+    struct CDerived : CFontCtrlGroup
+    {
+        using CFontCtrlGroup::CFontCtrlGroup;
+        void OnEditNKillFocus(int nId) override { nLeft = nId; }
+        int nLeft = 0;
+    } derived(1, 2, 3, 4, 5, 6, 7, nullptr);
+    derived.OnEditDWRSpinDeltaPos(2);
+    EXPECT_EQ(derived.nLeft, 2) << "a spin is a leaving, for derived classes as well";
+}
+
+TEST(FontGroupIds, TwoOfThreeComeBack)
+{
+    ResourceIdPool& pool = ResourceIdPool::Object();
+    unsigned int ids[3];
+    for (unsigned int& id : ids)
+        id = pool.AcquireId();
+    for (const int i : {2, 1, 0}) // the first is on top again
+        pool.ReleaseId(ids[i]);
+    CFontCtrlGroup(1, 2, 3, 4, 5, 6, 7, nullptr);
+    const unsigned int next[] = {pool.AcquireId(), pool.AcquireId(), pool.AcquireId()};
+    EXPECT_EQ(std::set(next, next + 2), std::set(ids, ids + 2)) << "those of the spin and the unit";
+    EXPECT_NE(next[2], ids[2]) << "that of the colour's number is gone for good";
+    for (const unsigned int id : next)
+        pool.ReleaseId(id);
+}
