@@ -256,11 +256,11 @@ void CButtonST::PreSubclassWindow()
     // it.
     if (style & kCheckBoxBit)
         m_bIsCheckBox = TRUE;
-    if (m_nTypeStyle == BS_DEFPUSHBUTTON)
-    {
-        m_bIsDefault = TRUE;
+    // An object may come from a window that is gone: what that one was at its end is over.
+    m_bIsDefault = m_nTypeStyle == BS_DEFPUSHBUTTON;
+    m_bMouseOnButton = FALSE;
+    if (m_bIsDefault)
         m_nTypeStyle = BS_PUSHBUTTON;
-    }
     ModifyStyle(kTypeBits, BS_OWNERDRAW, SWP_FRAMECHANGED);
     CButton::PreSubclassWindow();
 }

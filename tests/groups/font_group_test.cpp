@@ -323,7 +323,8 @@ TEST_F(FontGroup, ComesBackWithTheNextWindow)
     EXPECT_EQ(dialog.Boxes(), "1+0+");
     dialog.PressSpin(true);
     EXPECT_EQ(Text(record), record.strName.GetString() + std::wstring(L", 4.00, 30, 101, 0"));
-    owtest::Click(dialog[idApply]);
+    dialog[idCheck2].SetFocus();
+    owtest::Press(VK_TAB);
     EXPECT_TRUE(dialog[idApply].SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
     group.SetFontSource(nullptr);
     Open();
