@@ -28,6 +28,17 @@ CPage::EPageID CTitledPage::NextID()
     return static_cast<EPageID>(++s_nLast);
 }
 
+void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint)
+{
+    CDC& dc = *CDC::FromHandle(item.hDC);
+    const CRect area(item.rcItem);
+    CMemorySurface surface;
+    if (!surface.Create(dc, area.Size()))
+        return;
+    paint(surface.DC(), CRect(CPoint(0, 0), area.Size()));
+    dc.BitBlt(area.left, area.top, area.Width(), area.Height(), &surface.DC(), 0, 0, SRCCOPY);
+}
+
 CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent)
 {
     host.AddDialog(pDialog);

@@ -4,6 +4,8 @@
 
 #include <DialogControlsOW.h>
 
+#include <functional>
+
 class CGalleryPage;
 
 /// The dialog that shows the pages, as they see it.
@@ -50,6 +52,9 @@ private:
     static EPageID NextID();
     EPageID m_id = NextID(); ///< a number of its own
 };
+
+/// Paints an owner-drawn control, with its corner at (0, 0), in memory first: it follows each change without a flicker.
+void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint);
 
 /// Adds a dialog that serves one page only, and the page.
 CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent);

@@ -3,65 +3,28 @@
 #include <afxwin.h>
 
 #include "GalleryPage.h"
+#include "Shelf.h"
 #include "resource.h"
 
 #include <aced.h>
 
-#include <memory>
-#include <utility>
-#include <vector>
-
 namespace
 {
-/// A host colour button that outlives the page that shows it. Each of these buttons takes a control id for the life
-/// of the process, and pages come and go: so pages borrow their buttons and give them back.
+/// A host colour button that outlives the page that shows it.
 class CShelvedButton : private AAcadColorBtnSTNotificationHandler
 {
 public:
     CAcadColorBtnST button{this};
     AAcadColorBtnSTNotificationHandler* pBorrower = nullptr;
 
+    void PutBack()
+    {
+        button.DestroyWindow();
+        button.SetColorSource(nullptr);
+    }
+
 private:
     void OnAcadColorChosen(int nId, int nColor) override { pBorrower->OnAcadColorChosen(nId, nColor); }
-};
-
-/// Those that no page has at the moment.
-std::vector<std::unique_ptr<CShelvedButton>>& Shelf()
-{
-    static std::vector<std::unique_ptr<CShelvedButton>> s_shelf;
-    return s_shelf;
-}
-
-/// A button from the shelf, or a new one if the shelf is empty, for as long as the object lives.
-class CBorrowedButton
-{
-public:
-    explicit CBorrowedButton(AAcadColorBtnSTNotificationHandler* pBorrower) : m_pButton(Take())
-    {
-        m_pButton->pBorrower = pBorrower;
-    }
-    ~CBorrowedButton()
-    {
-        m_pButton->button.DestroyWindow();
-        m_pButton->button.SetColorSource(nullptr);
-        Shelf().push_back(std::move(m_pButton));
-    }
-    CBorrowedButton(const CBorrowedButton&) = delete;
-    CBorrowedButton& operator=(const CBorrowedButton&) = delete;
-
-    CAcadColorBtnST& Button() { return m_pButton->button; }
-
-private:
-    static std::unique_ptr<CShelvedButton> Take()
-    {
-        if (Shelf().empty())
-            return std::make_unique<CShelvedButton>();
-        std::unique_ptr<CShelvedButton> pButton = std::move(Shelf().back());
-        Shelf().pop_back();
-        return pButton;
-    }
-
-    std::unique_ptr<CShelvedButton> m_pButton;
 };
 
 class CColoursPage : public CGalleryPage,
@@ -90,7 +53,7 @@ private:
     void PaintAxes(CDC& dc, const CRect& area) const;
 
     CColorBtnST m_btnFlanges{this}, m_btnWeb{this}, m_btnLocked{this};
-    CBorrowedButton m_outline{this}, m_axes{this}, m_lockedOutline{this};
+    CBorrowed<CShelvedButton> m_outline{this}, m_axes{this}, m_lockedOutline{this};
 
     DWORD m_crFlanges = 0xF0CAA6, m_crWeb = 0xC0DCC0;
     int m_nOutline = 5, m_nAxes = 1; ///< blue and red
@@ -103,18 +66,12 @@ BEGIN_MESSAGE_MAP(CColoursPage, CGalleryPage)
     ON_BN_CLICKED(IDC_COL_LOAD, OnLoad)
 END_MESSAGE_MAP()
 
-// Painted in memory first: the preview follows each choice without a flicker.
 void CColoursPage::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
-    if (nIDCtl != IDC_COL_PREVIEW)
-        return CGalleryPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
-    CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
-    const CRect area(lpDrawItemStruct->rcItem);
-    CMemorySurface surface;
-    if (!surface.Create(dc, area.Size()))
-        return;
-    PaintPreview(surface.DC(), CRect(CPoint(0, 0), area.Size()));
-    dc.BitBlt(area.left, area.top, area.Width(), area.Height(), &surface.DC(), 0, 0, SRCCOPY);
+    if (nIDCtl == IDC_COL_PREVIEW)
+        PaintInMemory(*lpDrawItemStruct, [this](CDC& dc, const CRect& area) { PaintPreview(dc, area); });
+    else
+        CGalleryPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 void CColoursPage::OnReset()
@@ -143,9 +100,9 @@ void CColoursPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_COL_FLANGES, m_btnFlanges);
     DDX_Control(pDX, IDC_COL_WEB, m_btnWeb);
     DDX_Control(pDX, IDC_COL_LOCKED, m_btnLocked);
-    DDX_Control(pDX, IDC_COL_OUTLINE, m_outline.Button());
-    DDX_Control(pDX, IDC_COL_AXES, m_axes.Button());
-    DDX_Control(pDX, IDC_COL_LOCKED_OUTLINE, m_lockedOutline.Button());
+    DDX_Control(pDX, IDC_COL_OUTLINE, m_outline->button);
+    DDX_Control(pDX, IDC_COL_AXES, m_axes->button);
+    DDX_Control(pDX, IDC_COL_LOCKED_OUTLINE, m_lockedOutline->button);
 }
 
 int CColoursPage::OnInitPageDialog()
@@ -153,11 +110,11 @@ int CColoursPage::OnInitPageDialog()
     m_btnFlanges.SetColorSource(&m_crFlanges);
     m_btnWeb.SetColorSource(&m_crWeb);
     m_btnLocked.SetColorSource(&m_crWeb);
-    m_outline.Button().SetColorSource(&m_nOutline);
-    m_axes.Button().SetColorSource(&m_nAxes);
-    m_lockedOutline.Button().SetColorSource(&m_nOutline);
+    m_outline->button.SetColorSource(&m_nOutline);
+    m_axes->button.SetColorSource(&m_nAxes);
+    m_lockedOutline->button.SetColorSource(&m_nOutline);
     m_btnFlanges.SetTooltipText(_T("Any colour: twenty at hand, others by \"Other...\""));
-    m_outline.Button().SetTooltipText(_T("One of the host's colours, by number"));
+    m_outline->button.SetTooltipText(_T("One of the host's colours, by number"));
     return TRUE;
 }
 
@@ -171,7 +128,7 @@ void CColoursPage::OnColorChosen(int nId, int nColor)
 void CColoursPage::OnAcadColorChosen(int nId, int nColor)
 {
     Log(nId == IDC_COL_AXES ? _T("Axes") : _T("Outline"), _T("OnAcadColorChosen(%d, %d)"), nId, nColor);
-    m_lockedOutline.Button().SetColorSource(&m_nOutline); // its number does not follow by itself
+    m_lockedOutline->button.SetColorSource(&m_nOutline); // its number does not follow by itself
     GetDlgItem(IDC_COL_PREVIEW)->Invalidate(FALSE);
 }
 
