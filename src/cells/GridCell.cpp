@@ -224,6 +224,8 @@ BOOL CGridCell::Edit(int nRow, int nCol, CRect rect, CPoint /*point*/, UINT nID,
             m_pEditWnd->SendMessage(WM_CHAR, nChar);
         return TRUE;
     }
+    if (!GetGrid())
+        return FALSE; // a class that keeps none
     m_bEditing = TRUE;
     SetEditWnd(
         new CInPlaceEdit(GetGrid(), rect, EditStyleOf(GetFormat()), nID, nRow, nCol, GetText(), nChar));

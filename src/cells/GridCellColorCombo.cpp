@@ -3,6 +3,7 @@
 #include "cells/GridCellColorCombo.h"
 
 #include "grid/GridCtrl.h"
+#include "grid/GridLifeWatch.h"
 
 #include <aced.h>
 
@@ -87,12 +88,15 @@ BOOL CGridCellColorCombo::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bE
 }
 
 // A point before the cell comes from a click on another cell that left the focus here. Anything can happen to
-// the cell and the grid while the dialog is open.
+// the cell and the grid while the dialog is open; a cell that stands in no grid may outlive the one it was
+// given.
 void CGridCellColorCombo::OnClick(CPoint point)
 {
     if (point.x < 0 || point.y < 0 || !m_pGrid || !::IsWindow(m_pGrid->m_hWnd) || m_pGone)
         return;
-    const CCellID cell = CellUnderCursor(*m_pGrid);
+    CGridCtrl& grid = *m_pGrid;
+    const CGridCtrl::CLifeWatch life(grid);
+    const CCellID cell = CellUnderCursor(grid);
     int nMastAci = m_nMastAci;
     bool bGone = false;
     m_pGone = &bGone;
@@ -103,6 +107,6 @@ void CGridCellColorCombo::OnClick(CPoint point)
     if (!bAccepted || nMastAci == m_nMastAci)
         return;
     m_nMastAci = nMastAci;
-    if (::IsWindow(m_pGrid->m_hWnd))
-        m_pGrid->RedrawCell(cell);
+    if (life.WindowLives())
+        grid.RedrawCell(cell);
 }

@@ -31,6 +31,13 @@ void DrawListArrow(CDC& dc, CRect& rect)
 }
 } // namespace
 
+void CGridCellCombo::operator=(const CGridCellCombo& cell)
+{
+    CGridCellBase::operator=(cell);
+    m_Strings.Copy(cell.m_Strings);
+    m_dwStyle = cell.m_dwStyle;
+}
+
 void CGridCellCombo::SetOptions(const CStringArray& options)
 {
     m_Strings.Copy(options);

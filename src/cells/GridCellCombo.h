@@ -24,6 +24,10 @@ class OW_DIALOGCONTROLS_API CGridCellCombo : public CGridCell
     DECLARE_DYNCREATE(CGridCellCombo)
 
 public:
+    using CGridCell::operator=;
+    /// Takes over the list and the style, too.
+    void operator=(const CGridCellCombo& cell);
+
     /// Replaces the list, from the next edit on.
     void SetOptions(const CStringArray& options);
     DWORD GetStyle() const;

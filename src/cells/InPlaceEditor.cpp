@@ -5,6 +5,8 @@
 #include "cells/GridCell.h"
 #include "grid/NotifyOwner.h"
 
+#include <utility>
+
 CInPlaceEditor::~CInPlaceEditor()
 {
     if (!m_pCell)
@@ -15,6 +17,8 @@ CInPlaceEditor::~CInPlaceEditor()
 
 void CInPlaceEditor::NotifyEnd(CWnd& editor, int nRow, int nColumn, UINT nLastChar, const CString& strText)
 {
+    if (std::exchange(m_bTold, true))
+        return;
     const HWND hWnd = editor.m_hWnd;
     GV_DISPINFO info;
     info.item.row = nRow;

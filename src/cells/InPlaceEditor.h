@@ -19,17 +19,19 @@ public:
     CInPlaceEditor(const CInPlaceEditor&) = delete;
     CInPlaceEditor& operator=(const CInPlaceEditor&) = delete;
 
-    /// Tells the grid and asks the window to close. Can be called at any time while the edit runs.
+    /// Tells the grid and asks the window to close. Can be called at any time while the edit runs, and again
+    /// until the window has closed: the grid is told once.
     virtual void EndEdit() = 0;
 
 protected:
     /// Sends LVN_ENDLABELEDITW with the text and the key that ended the edit, then posts WM_CLOSE to the
     /// editor, so that it is closed only when the grid has done its work. `editor` may be gone when this
     /// returns.
-    static void NotifyEnd(CWnd& editor, int nRow, int nColumn, UINT nLastChar, const CString& strText);
+    void NotifyEnd(CWnd& editor, int nRow, int nColumn, UINT nLastChar, const CString& strText);
 
 private:
     CGridCell* m_pCell = nullptr; ///< not owned
+    bool m_bTold = false;         ///< the end; from here on the cell may be elsewhere
 };
 
 /// Whether a key moves the edit on to another cell: page up and down and the four arrows. Home and end do

@@ -6,10 +6,23 @@
 
 #include <algorithm>
 
+namespace
+{
+/// The key that ends an edit by its release and is down now, or 0.
+UINT EndingKeyThatIsDown()
+{
+    for (const UINT nKey : {VK_TAB, VK_RETURN, VK_ESCAPE})
+        if (::GetKeyState(static_cast<int>(nKey)) < 0)
+            return nKey;
+    return 0;
+}
+} // namespace
+
 CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
                            COLORREF crFore, COLORREF crBack, CStringArray& Items, CString sInitText,
                            UINT nFirstChar)
-    : m_sInitText(sInitText), m_nRow(nRow), m_nColumn(nColumn), m_crForeClr(crFore), m_crBackClr(crBack)
+    : m_sInitText(sInitText), m_nRow(nRow), m_nColumn(nColumn), m_crForeClr(crFore), m_crBackClr(crBack),
+      m_nOpeningKey(EndingKeyThatIsDown())
 {
     // The height of a combo box is that of its open list.
     CRect rectOpen(rect);
@@ -78,6 +91,11 @@ void CInPlaceList::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 
 void CInPlaceList::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
+    if (nChar == m_nOpeningKey)
+    {
+        m_nOpeningKey = 0; // its next release counts
+        return;
+    }
     if (nChar == VK_ESCAPE)
         SetWindowText(m_sInitText);
     if (nChar == VK_ESCAPE || nChar == VK_TAB || nChar == VK_RETURN)

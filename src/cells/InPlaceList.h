@@ -2,9 +2,9 @@
 // The combo box that is laid over a cell with a list for the length of one edit.
 //
 // Like CInPlaceEdit it creates its window in the constructor, tells the grid by LVN_ENDLABELEDITW, closes
-// itself and deletes itself. It ends on Tab, Enter or Escape when the key is released, on a choice from the
-// list, and on the loss of the focus. With CBS_DROPDOWNLIST the list opens at once and a text that it lacks
-// is lost.
+// itself and deletes itself. It ends on Tab, Enter or Escape when the key is released, but not by the release
+// of the key that has opened it; on a choice from the list; and on the loss of the focus. With
+// CBS_DROPDOWNLIST the list opens at once and a text that it lacks is lost.
 
 #include <afxcoll.h>
 
@@ -47,7 +47,8 @@ protected:
 
 private:
     bool m_bConstructed =
-        false; ///< the window may be gone before that, and nobody must delete the object then
+        false;              ///< the window may be gone before that, and nobody must delete the object then
+    UINT m_nOpeningKey = 0; ///< Tab, Enter or Escape while it is still down from before the edit
     bool IsDropList() const;
     void TakeFirstChar(UINT nChar);
     void Leave(UINT nLastChar);

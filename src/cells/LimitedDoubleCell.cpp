@@ -2,9 +2,13 @@
 
 #include "cells/LimitedDoubleCell.h"
 
+#include "cells/NumberLimits.h"
 #include "cells/TypedNumber.h"
 #include "edits/DoubleText.h"
 #include "grid/GridCtrl.h"
+
+#include <algorithm>
+#include <cmath>
 
 IMPLEMENT_DYNCREATE(CLimitedDoubleCell, CGridCell)
 
@@ -12,7 +16,12 @@ void CLimitedDoubleCell::operator=(const CLimitedDoubleCell& cell)
 {
     CGridCellBase::operator=(cell);
     m_dValue = cell.m_dValue;
-    m_limits = cell.m_limits;
+    m_dLocalMin = cell.m_dLocalMin;
+    m_dLocalMax = cell.m_dLocalMax;
+    m_bHasMin = cell.m_bHasMin;
+    m_bHasMax = cell.m_bHasMax;
+    m_bMinInclusive = cell.m_bMinInclusive;
+    m_bMaxInclusive = cell.m_bMaxInclusive;
     m_nBrojDecimala = cell.m_nBrojDecimala;
 }
 
@@ -23,12 +32,16 @@ void CLimitedDoubleCell::SetBrojDecimala(int nBrojDecimala)
 
 void CLimitedDoubleCell::SetLocalMin(double dMin, int bInclusive)
 {
-    m_limits.SetMin(dMin, bInclusive != 0);
+    m_dLocalMin = dMin;
+    m_bHasMin = TRUE;
+    m_bMinInclusive = bInclusive;
 }
 
 void CLimitedDoubleCell::SetLocalMax(double dMax, int bInclusive)
 {
-    m_limits.SetMax(dMax, bInclusive != 0);
+    m_dLocalMax = dMax;
+    m_bHasMax = TRUE;
+    m_bMaxInclusive = bInclusive;
 }
 
 void CLimitedDoubleCell::Set(int nCol, double dValue)
@@ -57,7 +70,8 @@ void CLimitedDoubleCell::SetFont(const LOGFONTW* /*plf*/)
 
 bool CLimitedDoubleCell::Accept(double dLocal)
 {
-    if (!m_limits.Allow(dLocal))
+    if (!gfnKeepsMin(dLocal, m_bHasMin, m_dLocalMin, m_bMinInclusive) ||
+        !gfnKeepsMax(dLocal, m_bHasMax, m_dLocalMax, m_bMaxInclusive))
         return false;
     m_dValue = dLocal;
     return true;
@@ -75,8 +89,20 @@ double CLimitedDoubleCell::ToLocal(int nCol, double dGlobal) const
     return pUnit ? pUnit->ToLocal(dGlobal) : dGlobal;
 }
 
+// All digits, also of numbers that a bounded text would write with an exponent: that the user could not have
+// typed.
 void CLimitedDoubleCell::ShowDecimal()
 {
-    wchar_t szText[c_nDoubleTextSize];
-    SetText(gfnFormatFixed(szText, m_nBrojDecimala, m_dValue));
+    constexpr int kFewDecimals = 40;
+    constexpr double kFewDigits = 1e50; // with those decimals it fits any bounded text
+    constexpr int kMostDecimals = 0xFFFF;
+    if (!std::isfinite(m_dValue) || (std::fabs(m_dValue) < kFewDigits && m_nBrojDecimala <= kFewDecimals))
+    {
+        wchar_t szText[c_nDoubleTextSize];
+        SetText(gfnFormatFixed(szText, m_nBrojDecimala, m_dValue));
+        return;
+    }
+    CString strText;
+    strText.Format(L"%.*f", std::clamp(m_nBrojDecimala, 0, kMostDecimals), m_dValue);
+    SetText(strText);
 }

@@ -29,7 +29,6 @@
 // A font given to the cell is dropped: all cells of a column of numbers look alike.
 
 #include "cells/GridCell.h"
-#include "cells/NumberLimits.h"
 
 class CComplexUnit;
 
@@ -42,7 +41,8 @@ public:
     /// Takes over the value, the bounds and the decimals, too.
     void operator=(const CLimitedDoubleCell& cell);
 
-    /// Decimals from the next Set or edit on. Fewer than none count as none.
+    /// Decimals from the next Set or edit on, however many: the cell shows them all. Fewer than none count as
+    /// none.
     void SetBrojDecimala(int nBrojDecimala);
     /// The smallest number that the user may type, in the column's unit. With `bInclusive` 0 it is just too
     /// small.
@@ -63,11 +63,15 @@ protected:
     double ToLocal(int nCol, double dGlobal) const;
     void ShowDecimal();
 
-    double m_dValue = 0.0; ///< in the column's unit
+    double m_dValue = 0.0; ///< these three in the column's unit
+    double m_dLocalMin = 0.0;
+    double m_dLocalMax = 0.0;
+    BOOL m_bHasMin = FALSE;
+    BOOL m_bHasMax = FALSE;
+    BOOL m_bMinInclusive = FALSE;
+    BOOL m_bMaxInclusive = FALSE;
+    int m_nBrojDecimala = 2;
 
 private:
     const CComplexUnit* UnitOf(int nCol) const;
-
-    CNumberLimits<double> m_limits; ///< in the column's unit
-    int m_nBrojDecimala = 2;
 };

@@ -24,5 +24,6 @@ BOOL CLimitedExponentDoubleCell::ValidateEdit(LPCWSTR pszText)
 void CLimitedExponentDoubleCell::ShowWithExponent()
 {
     constexpr int kDecimals = 4;
-    SetText(gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatExponent, kDecimals), m_dValue));
+    CString strText = gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatExponent, kDecimals), m_dValue);
+    SetText(strText.MakeUpper()); // what is no number, too
 }

@@ -2,6 +2,7 @@
 
 #include "cells/LimitedIntCell.h"
 
+#include "cells/NumberLimits.h"
 #include "cells/TypedNumber.h"
 
 IMPLEMENT_DYNCREATE(CLimitedIntCell, CGridCell)
@@ -10,17 +11,26 @@ void CLimitedIntCell::operator=(const CLimitedIntCell& cell)
 {
     CGridCellBase::operator=(cell);
     m_nValue = cell.m_nValue;
-    m_limits = cell.m_limits;
+    m_nMin = cell.m_nMin;
+    m_nMax = cell.m_nMax;
+    m_bHasMin = cell.m_bHasMin;
+    m_bHasMax = cell.m_bHasMax;
+    m_bMinInclusive = cell.m_bMinInclusive;
+    m_bMaxInclusive = cell.m_bMaxInclusive;
 }
 
 void CLimitedIntCell::SetMin(int nMin, int bInclusive)
 {
-    m_limits.SetMin(nMin, bInclusive != 0);
+    m_nMin = nMin;
+    m_bHasMin = TRUE;
+    m_bMinInclusive = bInclusive;
 }
 
 void CLimitedIntCell::SetMax(int nMax, int bInclusive)
 {
-    m_limits.SetMax(nMax, bInclusive != 0);
+    m_nMax = nMax;
+    m_bHasMax = TRUE;
+    m_bMaxInclusive = bInclusive;
 }
 
 void CLimitedIntCell::Set(int nValue)
@@ -41,7 +51,8 @@ BOOL CLimitedIntCell::ValidateEdit(LPCWSTR pszText)
     if (!gfnIsNumberText(pszText, L"-+"))
         return FALSE;
     const int nTyped = gfnReadInt(pszText);
-    if (!m_limits.Allow(nTyped))
+    if (!gfnKeepsMin(nTyped, m_bHasMin, m_nMin, m_bMinInclusive) ||
+        !gfnKeepsMax(nTyped, m_bHasMax, m_nMax, m_bMaxInclusive))
         return FALSE;
     Set(nTyped);
     return TRUE;

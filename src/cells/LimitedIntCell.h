@@ -15,7 +15,6 @@
 // SetItemText is shown and leaves the value alone. A font given to the cell is dropped.
 
 #include "cells/GridCell.h"
-#include "cells/NumberLimits.h"
 
 class OW_DIALOGCONTROLS_API CLimitedIntCell : public CGridCell
 {
@@ -38,7 +37,10 @@ public:
 
 protected:
     int m_nValue = 0;
-
-private:
-    CNumberLimits<int> m_limits;
+    int m_nMin = 0;
+    int m_nMax = 0;
+    BOOL m_bHasMin = FALSE;
+    BOOL m_bHasMax = FALSE;
+    BOOL m_bMinInclusive = FALSE;
+    BOOL m_bMaxInclusive = FALSE;
 };

@@ -15,12 +15,21 @@ class CExtGridHook : public CMsgHook
 {
 public:
     explicit CExtGridHook(Grid* pGrid) : m_pGrid(pGrid) {}
+    ~CExtGridHook() override
+    {
+        Unhook();
+        m_parent.m_hWnd = nullptr; // it is not ours to destroy
+    }
 
     /// Nothing happens if there is no parent, or the hook is in place already.
     void HookParent()
     {
-        if (m_pGrid->GetSafeHwnd())
-            HookWindow(m_pGrid->GetParent());
+        const HWND hParent = m_pGrid->GetSafeHwnd() ? ::GetParent(m_pGrid->m_hWnd) : nullptr;
+        if (IsHooked() || !hParent)
+            return;
+        CWnd* const pParent = CWnd::FromHandlePermanent(hParent);
+        m_parent.m_hWnd = pParent ? nullptr : hParent;
+        HookWindow(pParent ? pParent : &m_parent);
     }
 
 protected:
@@ -54,6 +63,7 @@ private:
     }
 
     Grid* m_pGrid; ///< not owned: it owns the hook
+    CWnd m_parent; ///< names a parent that is no object of its own, for as long as it is hooked
 };
 
 /// Stops a grid's drawing for as long as it stands. Afterwards drawing is on and the whole window invalid,

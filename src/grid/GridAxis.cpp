@@ -13,8 +13,13 @@ void CGridAxis::SetSize(int nItem, int nSize)
 
 void CGridAxis::SetCount(int nCount, int nSizeOfNew)
 {
-    m_sums.SetSize(nCount + 1);
-    m_sizes.SetSize(nCount); // the sums may stay too long if this fails, which does no harm
+    if (nCount > m_nCount)
+        Reserve(nCount);
+    else
+    {
+        m_sizes.SetSize(nCount);
+        m_sums.SetSize(INT_PTR(nCount) + 1);
+    }
     for (int nItem = m_nCount; nItem < nCount; ++nItem)
         m_sizes[nItem] = static_cast<UINT>(nSizeOfNew);
 
@@ -27,11 +32,15 @@ void CGridAxis::SetCount(int nCount, int nSizeOfNew)
     m_nCount = nCount;
 }
 
-void CGridAxis::Reserve(int nCount)
+// The room is there as entries that nobody looks at: an array without entries gives its memory back.
+void CGridAxis::Reserve(LONGLONG nCount)
 {
-    m_sums.SetSize(nCount + 1);
-    m_sizes.SetSize(nCount);
-    m_sizes.SetSize(m_nCount);
+    if (nCount > c_nMostItems)
+        AfxThrowMemoryException();
+    if (nCount <= m_sizes.GetSize())
+        return;
+    m_sums.SetSize(static_cast<INT_PTR>(nCount) + 1);
+    m_sizes.SetSize(static_cast<INT_PTR>(nCount)); // the sums may stay too long if this fails: no harm
 }
 
 void CGridAxis::SetAllSizes(int nSize)
@@ -44,8 +53,10 @@ void CGridAxis::SetAllSizes(int nSize)
 
 void CGridAxis::Insert(int nItem, int nSize)
 {
-    m_sums.SetSize(m_nCount + 2);
-    m_sizes.InsertAt(nItem, static_cast<UINT>(nSize));
+    Reserve(LONGLONG(m_nCount) + 1);
+    UINT* const pSizes = m_sizes.GetData();
+    std::copy_backward(pSizes + nItem, pSizes + m_nCount, pSizes + m_nCount + 1);
+    pSizes[nItem] = static_cast<UINT>(nSize);
     m_nExtent += nSize;
     ++m_nCount;
     SizesChangeFrom(nItem);
@@ -72,7 +83,7 @@ void CGridAxis::Swap(int nItem, int nOther)
 
 int CGridAxis::Offset(int nItem) const
 {
-    return static_cast<int>(SumTo(nItem));
+    return gfnSaturated(SumTo(nItem));
 }
 
 int CGridAxis::FirstAt(int nScrollPos) const
@@ -87,7 +98,7 @@ int CGridAxis::Origin(int nItem, int nFirst) const
 {
     if (IsFixed(nItem))
         return Offset(nItem);
-    return static_cast<int>(SumTo(m_nFixed) + SumTo(nItem) - SumTo(nFirst));
+    return gfnSaturated(SumTo(m_nFixed) + SumTo(nItem) - SumTo(nFirst));
 }
 
 int CGridAxis::ItemAt(int nPos, int nFirst, bool bFixedToo) const
@@ -109,8 +120,8 @@ CGridAxis::SVisible CGridAxis::Visible(int nFirst, int nClientEnd) const
     const LONGLONG nBase = SumTo(m_nFixed) - SumTo(std::min(nFirst, m_nCount));
     const int nNext = nFirst < m_nCount ? FirstWithSum(nFirst + 1, nClientEnd - nBase) : m_nCount + 1;
     if (nNext <= m_nCount)
-        return {nNext - 1, static_cast<int>(nBase + SumTo(nNext)), true};
-    return {m_nCount - 1, static_cast<int>(nBase + m_nExtent), false};
+        return {nNext - 1, gfnSaturated(nBase + SumTo(nNext)), true};
+    return {m_nCount - 1, gfnSaturated(nBase + m_nExtent), false};
 }
 
 /// Sum of the sizes before an item, renewing what is out of date up to there.

@@ -9,16 +9,31 @@
 //      0        FixedExtent()                                  client end
 //      | 0 | 1 |  nFirst  | nFirst + 1 |  ...       | last, partly shown
 //
+// Sizes and sums go as far as an int does. What lies further is answered as the furthest that an int can name:
+// a grid of such sizes still has its scroll bars, and shows what they reach.
+//
 // Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing
 // the sizes one after the other, or adding items at the front, does not sum up all the others each time.
 
 #include <afxcoll.h>
 
+#include <climits>
+
 #include "module/Export.h"
+
+/// The nearest whole number that an int can hold.
+constexpr int gfnSaturated(LONGLONG n)
+{
+    return n > INT_MAX ? INT_MAX : n < INT_MIN ? INT_MIN : static_cast<int>(n);
+}
 
 class OW_DIALOGCONTROLS_API CGridAxis
 {
 public:
+    /// More items are answered with a memory exception, without trying: of items a dozen pixels high, more
+    /// could not be scrolled to.
+    static constexpr int c_nMostItems = 0x07FFFFFF;
+
     int Count() const { return m_nCount; }
     int Fixed() const { return m_nFixed; }
     bool Has(int nItem) const { return nItem >= 0 && nItem < m_nCount; }
@@ -32,8 +47,9 @@ public:
     /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if
     /// need be. Memory exceptions leave everything as it was.
     void SetCount(int nCount, int nSizeOfNew);
-    /// Makes room, so that SetCount up to that number cannot fail.
-    void Reserve(int nCount);
+    /// Makes room, so that SetCount and Insert up to that number cannot fail. Items that are taken away take
+    /// the room with them.
+    void Reserve(LONGLONG nCount);
     void SetAllSizes(int nSize);
     void Insert(int nItem, int nSize);
     /// Takes an item away; one less is fixed if it was.
@@ -42,7 +58,7 @@ public:
 
     /// Pixels of all items before this one; `nItem` may be the count.
     int Offset(int nItem) const;
-    int Extent() const { return static_cast<int>(m_nExtent); }
+    int Extent() const { return gfnSaturated(m_nExtent); }
     int FixedExtent() const { return Offset(m_nFixed); }
 
     /// The first item that shows behind the fixed ones at a scroll position. A position inside an item gives
@@ -72,7 +88,7 @@ private:
     int m_nCount = 0;
     int m_nFixed = 0;
     LONGLONG m_nExtent = 0;
-    CUIntArray m_sizes;
-    mutable CArray<LONGLONG, LONGLONG> m_sums; ///< one more than items: m_sums[i] is what all before i take
+    CUIntArray m_sizes;                        ///< behind those of the items there may be room for more
+    mutable CArray<LONGLONG, LONGLONG> m_sums; ///< one more than sizes: m_sums[i] is what all before i take
     mutable int m_nSummed = 0;                 ///< m_sums is right up to this index
 };

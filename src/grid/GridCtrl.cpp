@@ -125,6 +125,7 @@ BEGIN_MESSAGE_MAP(CGridCtrl, CWnd)
     ON_WM_RBUTTONUP()
     ON_WM_TIMER()
     ON_WM_CAPTURECHANGED()
+    ON_WM_KILLFOCUS()
     ON_WM_SETCURSOR()
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
@@ -171,9 +172,26 @@ void CGridCtrl::PreSubclassWindow()
 {
     CWnd::PreSubclassWindow();
     Initialise();
+    ForgetLastWindow();
+    ResetScrollBars();
 }
 
-// A sunken edge. A window that is taken over has its frame already, and must work it out anew; one that is
+/// One object may have several windows, one after the other: a dialog that is opened again, for instance.
+/// Each scrolls for itself, and begins without a gesture.
+void CGridCtrl::ForgetLastWindow()
+{
+    m_topLeftCell = CCellID();
+    m_nBarState = (HasBar(SB_HORZ) ? BAR_HORIZONTAL : 0) | (HasBar(SB_VERT) ? BAR_VERTICAL : 0);
+    m_nVScrollMax = 0;
+    m_nHScrollMax = 0;
+    m_nMouseMode = MODE_NOTHING;
+    m_bLButtonDown = FALSE;
+    m_bRButtonDown = FALSE;
+    m_nTimerId = 0;
+}
+
+// A sunken edge, and no painting over an open editor, whatever paints: RedrawCell and the marker of a divider
+// do so at any time. A window that is taken over has its frame already, and must work it out anew; one that is
 // being created has no size yet, and will.
 BOOL CGridCtrl::Initialise()
 {
@@ -185,6 +203,7 @@ BOOL CGridCtrl::Initialise()
     {
         CRect rect;
         GetWindowRect(&rect);
+        ModifyStyle(0, WS_CLIPCHILDREN);
         ModifyStyleEx(0, WS_EX_CLIENTEDGE, rect.IsRectEmpty() ? 0 : SWP_FRAMECHANGED);
     }
     s_bInitialising = false;

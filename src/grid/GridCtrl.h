@@ -80,8 +80,11 @@
 // After a click on a cell WM_COMMAND is posted, too, with the grid's id.
 //
 // A receiver may change the grid, end the edit, delete rows or destroy the window. It may delete the object
-// as well, except while it answers LVN_GETDISPINFOW or LVN_ODCACHEHINT, or the end of an edit that AutoFill
-// has brought about.
+// as well, except while it answers LVN_GETDISPINFOW or LVN_ODCACHEHINT.
+//
+// A change of the rows, columns or counts, a sort and Load end an edit first, as a click elsewhere does: its
+// text is stored, or refused, in its own cell, with the notifications above. The change is then made on what
+// the receivers have left of the grid.
 //
 // FAILURES
 //
@@ -453,8 +456,6 @@ public:
 
     /// Answers the standard select-all command.
     afx_msg virtual void OnEditSelectAll();
-
-protected:
     /// The press was on a fixed column, outside the fixed rows.
     virtual void OnFixedColumnClick(CCellID& cell);
     virtual void OnFixedRowClick(CCellID& cell);
@@ -464,7 +465,10 @@ protected:
     /// The editor has ended: stores the text, or puts the old one back if cell or parent refuse it.
     virtual void OnEndEditCell(int nRow, int nCol, CString str);
     virtual BOOL ValidateEdit(int nRow, int nCol, LPCWSTR str);
+    /// Ends the edit of the focus cell; its text is stored when this returns.
     virtual void EndEditing();
+
+protected:
     virtual void OnDraw(CDC* pDC);
     virtual CGridCellBase* CreateCell(int nRow, int nCol);
     virtual void DestroyCell(int nRow, int nCol);
@@ -556,6 +560,7 @@ protected:
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
@@ -572,7 +577,7 @@ protected:
     COLORREF m_crGridBk; ///< behind the cells
     COLORREF m_crGridLine;
     COLORREF
-        m_crWindowText; ///< these four are the system's as last read: a colour that differs is the user's
+    m_crWindowText; ///< these four are the system's as last read: a colour that differs is the user's
     COLORREF m_crWindow;
     COLORREF m_cr3DFace;
     COLORREF m_crShadow;
@@ -656,7 +661,9 @@ protected:
     CString m_strPersistKey; ///< empty: widths are neither read nor written
 
 private:
+    friend class CGridCellColorCombo; ///< asks after the grid when its dialog closes
     class CLifeWatch;
+    class CCellWatch;
     class CRowSorter;
     struct SDirection;
     struct SKeyMove;
@@ -675,6 +682,7 @@ private:
     void ReadSystemColors();
     void FollowSystemColors();
     void InvalidateGrid();
+    void ForgetLastWindow();
 
     // Storage
     void DropRows(int nRows);
@@ -682,11 +690,14 @@ private:
     void DropColumns(int nCols);
     bool AppendColumns(int nCols);
     void SizeRows(int nCols);
+    bool EndEditFirst();
+    bool HasEditorFocus() const;
     bool CountsChanged();
     void MakeCellFixed(int nRow, int nCol, DWORD nBit);
     void MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed);
     void PlaceNewColumn(int nIndex);
     void PlaceNewRow(int nIndex);
+    void CloseRow(int nRow);
     void DeleteRowCells(int nRow);
     void RemoveCell(int nRow, int nCol);
     CGridCellBase* MakeVirtualCell(int nRow, int nCol) const;
@@ -730,6 +741,7 @@ private:
     void RepaintSelection(int nRow, int nCol, SSelectPass& pass);
 
     // Mouse
+    bool PressGoesOn();
     bool IsInText(const CCellID& cell, CPoint point);
     bool IsBodyCell(const CCellID& cell) const;
     bool FindDivider(CPoint point);
@@ -763,10 +775,11 @@ private:
     void SelectByKey(const SKeyMove& move);
     bool ScrollForKey(SKeyMove& move);
     bool StartsEdit(UINT nChar) const;
+    bool OfferText(int nRow, int nCol, const CString& str);
 
     // Sorting and files
     void InvalidateHeader(int nCol);
-    void PrepareSort(int nCol, BOOL bAscending);
+    bool PrepareSort(int nCol, BOOL bAscending);
     void SwapRows(int nRow, int nOther);
     void WriteRows(CStdioFile& file, wchar_t chSeparator);
     void ReadRows(CStdioFile& file, wchar_t chSeparator);
@@ -775,5 +788,8 @@ private:
     void WriteSavedWidths();
 
     CLifeWatch* m_pFirstWatch = nullptr; ///< the watches that stand on the stack now
-    unsigned m_nStructure = 0;           ///< raised whenever rows, columns or cells come or go
+    CCellWatch* m_pFirstCellWatch = nullptr;
+    bool m_bPressLost = false; ///< of the press that is being answered: nothing more may come of it
+    bool m_bRealPress = false; ///< it came from the button itself, and not as a message only
+    unsigned m_nStructure = 0; ///< raised whenever rows, columns or cells come or go
 };

@@ -74,7 +74,7 @@ void CGridCtrl::DrawPass(CDC* pDC, const CRect& rectClip, const CCellRange& rang
     for (int nRow = range.minRow; nRow <= range.maxRow && m_rows.Has(nRow); ++nRow)
     {
         rect.top = rect.bottom + 1;
-        rect.bottom = rect.top + m_rows.Size(nRow) - 1;
+        rect.bottom = gfnSaturated(LONGLONG(rect.top) + m_rows.Size(nRow)) - 1;
         if (rect.top > rectClip.bottom)
             break;
         if (rect.bottom < rectClip.top)
@@ -84,7 +84,7 @@ void CGridCtrl::DrawPass(CDC* pDC, const CRect& rectClip, const CCellRange& rang
         for (int nCol = range.minCol; nCol <= range.maxCol && m_cols.Has(nCol); ++nCol)
         {
             rect.left = rect.right + 1;
-            rect.right = rect.left + m_cols.Size(nCol) - 1;
+            rect.right = gfnSaturated(LONGLONG(rect.left) + m_cols.Size(nCol)) - 1;
             if (rect.left > rectClip.right)
                 break;
             if (rect.right < rectClip.left)
@@ -106,7 +106,7 @@ void CGridCtrl::DrawGridLines(CDC* pDC, const CCellRange& visible, const CRect& 
         int x = body.x;
         for (int nCol = visible.minCol; nCol <= visible.maxCol && m_cols.Has(nCol); ++nCol)
         {
-            x += m_cols.Size(nCol);
+            x = gfnSaturated(LONGLONG(x) + m_cols.Size(nCol));
             pDC->MoveTo(x - 1, body.y);
             pDC->LineTo(x - 1, rectVisible.bottom);
         }
@@ -116,7 +116,7 @@ void CGridCtrl::DrawGridLines(CDC* pDC, const CCellRange& visible, const CRect& 
         int y = body.y;
         for (int nRow = visible.minRow; nRow <= visible.maxRow && m_rows.Has(nRow); ++nRow)
         {
-            y += m_rows.Size(nRow);
+            y = gfnSaturated(LONGLONG(y) + m_rows.Size(nRow));
             pDC->MoveTo(body.x, y - 1);
             pDC->LineTo(rectVisible.right, y - 1);
         }

@@ -104,7 +104,8 @@ BOOL CGridCtrl::Load(LPCWSTR szFileName, wchar_t chSeparator)
         error.ReportError();
         return FALSE;
     }
-    DeleteAllItems();
+    if (!DeleteAllItems() || m_bVirtualMode)
+        return FALSE; // the end of an edit may have changed that
     try
     {
         ReadRows(file, chSeparator);

@@ -13,6 +13,12 @@
 namespace
 {
 const CCellRange kNoCells;
+
+/// The last pixel of what begins at a place, or the furthest that has a pixel behind it.
+int LastPixel(int nStart, int nSize)
+{
+    return gfnSaturated(LONGLONG(nStart) + nSize) - 1;
+}
 } // namespace
 
 // ---- The top-left cell and what shows ---------------------------------------------------------------------
@@ -110,7 +116,8 @@ BOOL CGridCtrl::GetCellRect(int nRow, int nCol, RECT* pRect)
     CPoint origin;
     if (!GetCellOrigin(nRow, nCol, &origin))
         return FALSE;
-    ::SetRect(pRect, origin.x, origin.y, origin.x + m_cols.Size(nCol) - 1, origin.y + m_rows.Size(nRow) - 1);
+    ::SetRect(pRect, origin.x, origin.y, LastPixel(origin.x, m_cols.Size(nCol)),
+              LastPixel(origin.y, m_rows.Size(nRow)));
     return TRUE;
 }
 
@@ -133,8 +140,8 @@ BOOL CGridCtrl::GetCellRangeRect(const CCellRange& range, RECT* pRect)
     if (!GetCellOrigin(range.minRow, range.minCol, &first) ||
         !GetCellOrigin(range.maxRow, range.maxCol, &last))
         return FALSE;
-    ::SetRect(pRect, first.x, first.y, last.x + m_cols.Size(range.maxCol) - 1,
-              last.y + m_rows.Size(range.maxRow) - 1);
+    ::SetRect(pRect, first.x, first.y, LastPixel(last.x, m_cols.Size(range.maxCol)),
+              LastPixel(last.y, m_rows.Size(range.maxRow)));
     return TRUE;
 }
 
@@ -164,9 +171,8 @@ BOOL CGridCtrl::MouseOverRowResizeArea(CPoint& point)
     CPoint start;
     if (!GetCellOrigin(cell, &start))
         return FALSE;
-    const int nBottom = start.y + m_rows.Size(cell.row);
-    return (point.y - start.y < m_nResizeCaptureRange && cell.row != 0) ||
-           nBottom - point.y < m_nResizeCaptureRange;
+    const int nBelow = LastPixel(start.y, m_rows.Size(cell.row)) + 1 - point.y;
+    return (point.y - start.y < m_nResizeCaptureRange && cell.row != 0) || nBelow < m_nResizeCaptureRange;
 }
 
 BOOL CGridCtrl::MouseOverColumnResizeArea(CPoint& point)
@@ -177,9 +183,8 @@ BOOL CGridCtrl::MouseOverColumnResizeArea(CPoint& point)
     CPoint start;
     if (!GetCellOrigin(cell, &start))
         return FALSE;
-    const int nRight = start.x + m_cols.Size(cell.col);
-    return (point.x - start.x < m_nResizeCaptureRange && cell.col != 0) ||
-           nRight - point.x < m_nResizeCaptureRange;
+    const int nBehind = LastPixel(start.x, m_cols.Size(cell.col)) + 1 - point.x;
+    return (point.x - start.x < m_nResizeCaptureRange && cell.col != 0) || nBehind < m_nResizeCaptureRange;
 }
 
 // ---- Sizes ------------------------------------------------------------------------------------------------
@@ -338,7 +343,7 @@ void CGridCtrl::ExpandRowsToFit(BOOL bExpandFixed)
 
 // Each gets an equal share of what is free, or missing; what the division leaves goes to the first ones, a
 // pixel each. A hidden one among those takes up a place without taking the pixel, so that the total can stay
-// some pixels short.
+// some pixels short. Where there is too little room, one that shows keeps one pixel, and so can come back.
 void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
 {
     CGridAxis& axis = AxisOf(nBar);
@@ -362,7 +367,7 @@ void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
     for (int nItem = nFirst; nItem < axis.Count(); ++nItem)
         if (axis.IsShown(nItem))
             axis.SetSize(nItem,
-                         std::max(0, axis.Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
+                         std::max(1, axis.Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
     Invalidate();
     ResetScrollBars();
 }
@@ -392,7 +397,8 @@ void CGridCtrl::ExpandLastColumn()
     EnableScrollBars(SB_HORZ, FALSE);
     if (!life.WindowLives() || !m_cols.Has(nCol))
         return;
-    m_cols.SetSize(nCol, std::max(0, m_cols.Size(nCol) + ClientExtent(SB_HORZ) - m_cols.Extent()));
+    const int nOthers = m_cols.Extent() - m_cols.Size(nCol);
+    m_cols.SetSize(nCol, std::max(1, ClientExtent(SB_HORZ) - nOthers)); // it goes on showing
     Invalidate();
     ResetScrollBars();
 }

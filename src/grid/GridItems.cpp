@@ -161,7 +161,8 @@ BOOL CGridCtrl::SetItemFont(int nRow, int nCol, const LOGFONTW* plf)
 const LOGFONTW* CGridCtrl::GetItemFont(int nRow, int nCol) const
 {
     CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetFont() : GetDefaultCell(m_rows.IsFixed(nRow), m_cols.IsFixed(nCol))->GetFont();
+    const LOGFONTW* const plf = pCell ? pCell->GetFont() : nullptr;
+    return plf ? plf : GetDefaultCell(m_rows.IsFixed(nRow), m_cols.IsFixed(nCol))->GetFont();
 }
 
 CSize CGridCtrl::GetCellTextExtent(int nRow, int nCol)

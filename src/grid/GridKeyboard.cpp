@@ -402,29 +402,44 @@ void CGridCtrl::OnEndInPlaceEdit(NMHDR* pNMHDR, LRESULT* pResult)
         OnEditCell(m_focusCell.row, m_focusCell.col, CPoint(-1, -1), nKey);
 }
 
-// The text is stored before anybody is asked, so that cell and parent see it in the grid. A text put back
-// leaves the cell marked as modified all the same.
 void CGridCtrl::OnEndEditCell(int nRow, int nCol, CString str)
 {
-    const CLifeWatch life(*this);
-    const CString strOld = GetItemText(nRow, nCol);
-    if (strOld != str)
-    {
-        SetItemText(nRow, nCol, str);
-        const bool bAccepted =
-            ValidateEdit(nRow, nCol, str) && SendMessageToParent(nRow, nCol, LVN_ENDLABELEDITW) >= 0;
-        if (!life.ObjectLives())
-            return;
-        if (bAccepted)
-        {
-            SetModified(TRUE, nRow, nCol);
-            RedrawCell(nRow, nCol);
-        }
-        else
-            SetItemText(nRow, nCol, strOld);
-    }
-    if (CGridCellBase* const pCell = GetCell(nRow, nCol))
+    const CCellWatch watch(*this, GetCell(nRow, nCol));
+    if (!OfferText(nRow, nCol, str))
+        return;
+    if (CGridCellBase* const pCell = watch.Cell())
         pCell->OnEndEdit();
+}
+
+/// Puts a text into a cell if cell and parent agree. It is stored before they are asked, so that they see it
+/// in the grid; a text put back leaves the cell marked as modified all the same. What the parent does to the
+/// rows meanwhile is no matter: the old text goes back into its own cell or nowhere. False if the grid did not
+/// outlive the answer.
+bool CGridCtrl::OfferText(int nRow, int nCol, const CString& str)
+{
+    const CString strOld = GetItemText(nRow, nCol);
+    if (strOld == str)
+        return true;
+    const CLifeWatch life(*this);
+    const CCellWatch watch(*this, GetCellToChange(nRow, nCol));
+    SetItemText(nRow, nCol, str);
+    const bool bAccepted =
+        ValidateEdit(nRow, nCol, str) && SendMessageToParent(nRow, nCol, LVN_ENDLABELEDITW) >= 0;
+    if (!life.ObjectLives())
+        return false;
+
+    CGridCellBase* const pCell = watch.Cell();
+    if (!bAccepted && pCell)
+    {
+        pCell->SetText(strOld);
+        ItemChanged(*pCell, nCol);
+    }
+    if (bAccepted && pCell == GetCellToChange(nRow, nCol)) // where it was
+    {
+        SetModified(TRUE, nRow, nCol);
+        RedrawCell(nRow, nCol);
+    }
+    return true;
 }
 
 BOOL CGridCtrl::ValidateEdit(int nRow, int nCol, LPCWSTR str)
@@ -441,21 +456,7 @@ void CGridCtrl::ValidateAndModifyCellContents(int nRow, int nCol, LPCWSTR str)
     const CLifeWatch life(*this);
     if (SendMessageToParent(nRow, nCol, LVN_BEGINLABELEDITW) < 0 || !life.ObjectLives())
         return;
-    const CString strOld = GetItemText(nRow, nCol);
-    if (strOld == str)
-        return;
-    SetItemText(nRow, nCol, str);
-    const bool bAccepted =
-        ValidateEdit(nRow, nCol, str) && SendMessageToParent(nRow, nCol, LVN_ENDLABELEDITW) >= 0;
-    if (!life.ObjectLives())
-        return;
-    if (bAccepted)
-    {
-        SetModified(TRUE, nRow, nCol);
-        RedrawCell(nRow, nCol);
-    }
-    else
-        SetItemText(nRow, nCol, strOld);
+    OfferText(nRow, nCol, str);
 }
 
 void CGridCtrl::ClearCells(CCellRange range)

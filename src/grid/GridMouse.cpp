@@ -47,6 +47,8 @@ struct CGridCtrl::SDirection
 void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
 {
     const CLifeWatch life(*this);
+    m_bPressLost = false;
+    m_bRealPress = ::GetKeyState(VK_LBUTTON) < 0;
     SetFocus();
     if (!life.WindowLives())
         return;
@@ -61,11 +63,11 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         m_selectionStart = m_focusCell;
 
     EndEditing();
-    if (!life.WindowLives())
+    if (!life.WindowLives() || !PressGoesOn())
         return;
     if (CGridCellBase* const pCell = GetCell(m_clickDownCell.row, m_clickDownCell.col))
         pCell->OnClickDown(GetPointClicked(m_clickDownCell.row, m_clickDownCell.col, point));
-    if (!life.WindowLives() || !IsValid(m_clickDownCell))
+    if (!life.WindowLives() || !PressGoesOn() || !IsValid(m_clickDownCell))
         return;
 
     const bool bControl = (nFlags & MK_CONTROL) != 0;
@@ -88,13 +90,33 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         SetFocusCell(CCellID(), TRUE);
         if (m_rows.Count() > m_rows.Fixed() && m_cols.Count() > m_cols.Fixed())
             SetFocusCell(RaisedToBody(m_clickDownCell), TRUE);
-        if (!life.WindowLives())
+        if (!life.WindowLives() || !PressGoesOn())
             return;
     }
     SetCapture();
     BeginGesture(nFlags, point);
     if (life.WindowLives())
         m_ptLastMouse = point;
+}
+
+/// Whoever is told of a press may show a message box, and the button is up again when it closes: whatever the
+/// press was going to begin would then have no end.
+bool CGridCtrl::PressGoesOn()
+{
+    if (!m_bPressLost && (!m_bRealPress || ::GetKeyState(VK_LBUTTON) < 0))
+        return true;
+    m_bLButtonDown = FALSE;
+    if (GetCapture() == this)
+        ::ReleaseCapture();
+    return false;
+}
+
+// Within one top-level window the focus may move while the button stays down.
+void CGridCtrl::OnKillFocus(CWnd* pNewWnd)
+{
+    CWnd::OnKillFocus(pNewWnd);
+    if (::GetAncestor(pNewWnd->GetSafeHwnd(), GA_ROOT) != ::GetAncestor(m_hWnd, GA_ROOT))
+        m_bPressLost = true;
 }
 
 /// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
@@ -126,7 +148,7 @@ void CGridCtrl::BeginSelecting(UINT nFlags)
 {
     const CLifeWatch life(*this);
     SendMessageToParent(m_clickDownCell.row, m_clickDownCell.col, LVN_ITEMCHANGING);
-    if (!life.WindowLives())
+    if (!life.WindowLives() || !PressGoesOn())
         return;
     m_mapPrevSelected.RemoveAll();
     if (nFlags & MK_CONTROL)
@@ -357,6 +379,7 @@ void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
     const CLifeWatch life(*this);
     CWnd::OnLButtonUp(nFlags, point);
     m_bLButtonDown = FALSE;
+    m_bPressLost = true;
     ::ClipCursor(nullptr);
     if (GetCapture() == this)
     {

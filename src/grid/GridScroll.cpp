@@ -193,7 +193,7 @@ void CGridCtrl::OnScroll(int nBar, UINT nSBCode)
         break;
     case SB_PAGERIGHT:
         if (nPos < nMax)
-            ScrollTo(nBar, std::min(nMax, nPos + nPage));
+            ScrollTo(nBar, gfnSaturated(std::min<LONGLONG>(nMax, LONGLONG(nPos) + nPage)));
         break;
     case SB_THUMBPOSITION:
     case SB_THUMBTRACK:
@@ -243,7 +243,7 @@ void CGridCtrl::ScrollLineOn(int nBar, int nPos, int nMax)
         return;
     while (nItem < axis.Count() - 1 && axis.Size(nItem) <= 0)
         ++nItem;
-    SetScrollPos32(nBar, nPos + axis.Size(nItem));
+    SetScrollPos32(nBar, gfnSaturated(LONGLONG(nPos) + axis.Size(nItem)));
     if (GetScrollPos32(nBar) != nPos)
         InvalidateScrolling(nBar);
 }

@@ -30,31 +30,38 @@ void CGridCtrl::InvalidateHeader(int nCol)
 
 // ---- Entry points -----------------------------------------------------------------------------------------
 
-void CGridCtrl::PrepareSort(int nCol, BOOL bAscending)
+/// False if the grid did not outlive the end of an edit.
+bool CGridCtrl::PrepareSort(int nCol, BOOL bAscending)
 {
+    if (!EndEditFirst())
+        return false;
     SetSortColumn(nCol);
     m_bSortAscending = bAscending;
     ResetSelectedRange();
     SetFocusCell(CCellID(), TRUE);
+    return true;
 }
 
 // The first two prepare a second time in the third, which does no harm.
 
 BOOL CGridCtrl::SortItems(int nCol, BOOL bAscending, LPARAM data)
 {
-    PrepareSort(nCol, bAscending);
+    if (!PrepareSort(nCol, bAscending))
+        return FALSE;
     return SortItems(m_pfnCompare ? m_pfnCompare : pfnCellTextCompare, nCol, bAscending, data);
 }
 
 BOOL CGridCtrl::SortTextItems(int nCol, BOOL bAscending, LPARAM data)
 {
-    PrepareSort(nCol, bAscending);
+    if (!PrepareSort(nCol, bAscending))
+        return FALSE;
     return SortItems(pfnCellTextCompare, nCol, bAscending, data);
 }
 
 BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data)
 {
-    PrepareSort(nCol, bAscending);
+    if (!PrepareSort(nCol, bAscending))
+        return FALSE;
     return SortItems(pfnCompare, nCol, bAscending, data, m_rows.Fixed(), -1);
 }
 
@@ -177,7 +184,7 @@ private:
 BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data, int low,
                           int high)
 {
-    if (nCol >= GetColumnCount())
+    if (!EndEditFirst() || nCol >= GetColumnCount())
         return FALSE;
     if (high == -1)
         high = GetRowCount() - 1;
@@ -197,13 +204,23 @@ void CGridCtrl::SwapRows(int nRow, int nOther)
 
 // ---- Comparisons ------------------------------------------------------------------------------------------
 
+namespace
+{
+/// A cell without a text counts as an empty one.
+LPCWSTR TextToCompare(CGridCellBase& cell)
+{
+    const LPCWSTR pszText = cell.GetText();
+    return pszText ? pszText : L"";
+}
+} // namespace
+
 int CGridCtrl::pfnCellTextCompare(LPARAM lParam1, LPARAM lParam2, LPARAM /*lParamSort*/)
 {
     auto* const pCell1 = reinterpret_cast<CGridCellBase*>(lParam1);
     auto* const pCell2 = reinterpret_cast<CGridCellBase*>(lParam2);
     if (!pCell1 || !pCell2)
         return 0;
-    const int nOrder = std::wcscmp(pCell1->GetText(), pCell2->GetText());
+    const int nOrder = std::wcscmp(TextToCompare(*pCell1), TextToCompare(*pCell2));
     return (nOrder > 0) - (nOrder < 0);
 }
 
@@ -214,7 +231,7 @@ int CGridCtrl::pfnCellNumericCompare(LPARAM lParam1, LPARAM lParam2, LPARAM /*lP
     auto* const pCell2 = reinterpret_cast<CGridCellBase*>(lParam2);
     if (!pCell1 || !pCell2)
         return 0;
-    const long nValue1 = _wtol(pCell1->GetText());
-    const long nValue2 = _wtol(pCell2->GetText());
+    const long nValue1 = _wtol(TextToCompare(*pCell1));
+    const long nValue2 = _wtol(TextToCompare(*pCell2));
     return (nValue1 > nValue2) - (nValue1 < nValue2);
 }

@@ -43,14 +43,41 @@ struct CRowDeleter
 };
 } // namespace
 
+// ---- Before every change ----------------------------------------------------------------------------------
+
+/// An edit ends here as by a click elsewhere, before its cell can move away from under it. False if the grid
+/// did not outlive what its parent did about it. Indices are to be checked after it.
+bool CGridCtrl::EndEditFirst()
+{
+    const CLifeWatch life(*this);
+    if (HasEditorFocus())
+        SetFocus();
+    if (life.WindowLives() && !m_bVirtualMode)
+        EndEditing();
+    return life.ObjectLives();
+}
+
+/// The focus is in an in-place editor of this grid, or in a part of one.
+bool CGridCtrl::HasEditorFocus() const
+{
+    HWND hWnd = ::GetFocus();
+    if (!::IsWindow(m_hWnd) || !::IsChild(m_hWnd, hWnd))
+        return false;
+    while (::GetParent(hWnd) != m_hWnd)
+        hWnd = ::GetParent(hWnd);
+    return ::GetDlgCtrlID(hWnd) == static_cast<int>(InPlaceControlId);
+}
+
 // ---- Counts -----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::SetRowCount(int nRows)
 {
     if (nRows == GetRowCount())
         return TRUE;
-    if (nRows < 0)
+    if (nRows < 0 || !EndEditFirst())
         return FALSE;
+    if (nRows == GetRowCount())
+        return TRUE;
     m_topLeftCell.col = -1;
     if (nRows < m_rows.Fixed())
         m_rows.SetFixed(nRows);
@@ -75,8 +102,10 @@ BOOL CGridCtrl::SetColumnCount(int nCols)
 {
     if (nCols == GetColumnCount())
         return TRUE;
-    if (nCols < 0)
+    if (nCols < 0 || !EndEditFirst())
         return FALSE;
+    if (nCols == GetColumnCount())
+        return TRUE;
     m_topLeftCell.col = -1;
     if (nCols < m_cols.Fixed())
         m_cols.SetFixed(nCols);
@@ -185,11 +214,11 @@ bool CGridCtrl::CountsChanged()
 
 BOOL CGridCtrl::SetFixedRowCount(int nFixedRows)
 {
-    const int nOldFixed = m_rows.Fixed();
-    if (nFixedRows == nOldFixed)
+    if (nFixedRows == m_rows.Fixed())
         return TRUE;
-    if (nFixedRows < 0)
+    if (nFixedRows < 0 || !EndEditFirst())
         return FALSE;
+    const int nOldFixed = m_rows.Fixed();
     ResetSelectedRange();
     m_topLeftCell.col = -1;
     if (nFixedRows > GetRowCount() && !SetRowCount(nFixedRows))
@@ -213,11 +242,11 @@ BOOL CGridCtrl::SetFixedRowCount(int nFixedRows)
 // The mirror of SetFixedRowCount, but the selection goes last: a column count that cannot grow leaves it.
 BOOL CGridCtrl::SetFixedColumnCount(int nFixedCols)
 {
-    const int nOldFixed = m_cols.Fixed();
-    if (nFixedCols == nOldFixed)
+    if (nFixedCols == m_cols.Fixed())
         return TRUE;
-    if (nFixedCols < 0)
+    if (nFixedCols < 0 || !EndEditFirst())
         return FALSE;
+    const int nOldFixed = m_cols.Fixed();
     const CLifeWatch life(*this);
     if (nFixedCols > GetColumnCount() && (!SetColumnCount(nFixedCols) || !life.ObjectLives()))
         return FALSE;
@@ -269,7 +298,9 @@ void CGridCtrl::MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed)
 
 int CGridCtrl::InsertColumn(LPCWSTR strHeading, UINT nFormat, int nColumn)
 {
-    if (nColumn >= 0 && (nColumn < m_cols.Fixed() || nColumn > GetColumnCount()))
+    const auto isWrong = [&]
+    { return nColumn >= 0 && (nColumn < m_cols.Fixed() || nColumn > GetColumnCount()); };
+    if (isWrong() || !EndEditFirst() || isWrong())
         return -1;
     m_topLeftCell.col = -1;
     ResetSelectedRange();
@@ -319,7 +350,8 @@ void CGridCtrl::PlaceNewColumn(int nIndex)
 // decides it, and without one the fixed rows' default cell.
 int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
 {
-    if (nRow >= 0 && (nRow < m_rows.Fixed() || nRow >= GetRowCount()))
+    const auto isWrong = [&] { return nRow >= 0 && (nRow < m_rows.Fixed() || nRow >= GetRowCount()); };
+    if (isWrong() || !EndEditFirst() || isWrong())
         return -1;
     m_topLeftCell.col = -1;
     ResetSelectedRange();
@@ -329,10 +361,6 @@ int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
     const int nIndex = nRow < 0 ? GetRowCount() : nRow;
     if (!Guarded([&] { PlaceNewRow(nIndex); }))
         return 0;
-    if (!m_bVirtualMode)
-        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-            m_rowData[nIndex]->SetAt(nCol, CreateCell(nIndex, nCol));
-
     SetItemText(nIndex, 0, strHeading);
     const bool bHeading = strHeading && *strHeading;
     m_rows.SetSize(nIndex, bHeading ? GetTextExtent(nIndex, 0, strHeading).cy : m_cellFixedRow.GetHeight());
@@ -342,31 +370,38 @@ int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
     return nIndex;
 }
 
-/// Puts a row of empty places in, of height 0.
+/// Puts a row of new cells of height 0 in; an exception takes it out again.
 void CGridCtrl::PlaceNewRow(int nIndex)
 {
-    m_rows.Reserve(GetRowCount() + 1);
-    if (!m_bVirtualMode)
+    m_rows.Reserve(LONGLONG(GetRowCount()) + 1);
+    if (m_bVirtualMode)
     {
-        std::unique_ptr<CGridRow> pRow(new CGridRow);
-        pRow->SetSize(GetColumnCount());
-        m_rowData.InsertAt(nIndex, pRow.get());
-        pRow.release();
+        m_rows.Insert(nIndex, 0);
+        return;
     }
+    std::unique_ptr<CGridRow> pRow(new CGridRow);
+    pRow->SetSize(GetColumnCount());
+    m_rowData.InsertAt(nIndex, pRow.get());
+    pRow.release();
     m_rows.Insert(nIndex, 0);
+    try
+    {
+        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
+            m_rowData[nIndex]->SetAt(nCol, CreateCell(nIndex, nCol));
+    }
+    catch (CException*)
+    {
+        CloseRow(nIndex);
+        throw;
+    }
 }
 
 BOOL CGridCtrl::DeleteRow(int nRow)
 {
-    if (!m_rows.Has(nRow))
+    if (!m_rows.Has(nRow) || !EndEditFirst() || !m_rows.Has(nRow))
         return FALSE;
     ResetSelectedRange();
-    if (!m_bVirtualMode)
-    {
-        DeleteRowCells(nRow);
-        m_rowData.RemoveAt(nRow);
-    }
-    m_rows.Remove(nRow);
+    CloseRow(nRow);
     if (m_focusCell.row == nRow)
         m_focusCell = CCellID();
     else if (m_focusCell.row > nRow)
@@ -375,9 +410,20 @@ BOOL CGridCtrl::DeleteRow(int nRow)
     return TRUE;
 }
 
+/// Takes a row and its cells out.
+void CGridCtrl::CloseRow(int nRow)
+{
+    if (!m_bVirtualMode)
+    {
+        DeleteRowCells(nRow);
+        m_rowData.RemoveAt(nRow);
+    }
+    m_rows.Remove(nRow);
+}
+
 BOOL CGridCtrl::DeleteColumn(int nColumn)
 {
-    if (!m_cols.Has(nColumn))
+    if (!m_cols.Has(nColumn) || !EndEditFirst() || !m_cols.Has(nColumn))
         return FALSE;
     ResetSelectedRange();
     for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
@@ -398,6 +444,8 @@ BOOL CGridCtrl::DeleteColumn(int nColumn)
 // nothing.
 BOOL CGridCtrl::DeleteNonFixedRows()
 {
+    if (!EndEditFirst())
+        return FALSE;
     ResetSelectedRange();
     for (int nRow = GetRowCount(); nRow >= m_rows.Fixed(); --nRow)
         DeleteRow(nRow);
@@ -406,6 +454,8 @@ BOOL CGridCtrl::DeleteNonFixedRows()
 
 BOOL CGridCtrl::DeleteAllItems()
 {
+    if (!EndEditFirst())
+        return FALSE;
     ResetSelectedRange();
     for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
         DeleteRowCells(nRow);
@@ -429,13 +479,14 @@ void CGridCtrl::DeleteRowCells(int nRow)
 /// Destroys a cell and leaves its place empty, so that nobody finds it there while its neighbours go.
 void CGridCtrl::RemoveCell(int nRow, int nCol)
 {
+    CCellWatch::TellAll(m_pFirstCellWatch, GetCellToChange(nRow, nCol));
     DestroyCell(nRow, nCol);
     m_rowData[nRow]->SetAt(nCol, nullptr);
 }
 
 void CGridCtrl::AutoFill()
 {
-    if (!::IsWindow(m_hWnd))
+    if (!EndEditFirst() || !::IsWindow(m_hWnd))
         return;
     CRect rect;
     GetClientRect(&rect);
@@ -464,7 +515,8 @@ CGridCellBase* CGridCtrl::CreateCell(int nRow, int nCol)
         pCell->SetState(pCell->GetState() | CELL_FIXED | CELL_FIXEDCOL);
     if (m_rows.IsFixed(nRow))
         pCell->SetState(pCell->GetState() | CELL_FIXED | CELL_FIXEDROW);
-    pCell->SetFormat(pCell->GetDefaultCell()->GetFormat());
+    if (CGridCellBase* const pDefault = pCell->GetDefaultCell()) // of a class that keeps its grid
+        pCell->SetFormat(pDefault->GetFormat());
     return pCell;
 }
 
@@ -498,6 +550,7 @@ BOOL CGridCtrl::SetCellType(int nRow, int nCol, CRuntimeClass* pClass)
     CGridCellBase* const pOld = GetCell(nRow, nCol);
     if (pOld)
         *pNew = *pOld;
+    CCellWatch::TellAll(m_pFirstCellWatch, pOld, pNew.get());
     SetCell(nRow, nCol, pNew.release());
     delete pOld;
     return TRUE;
@@ -564,7 +617,8 @@ BOOL CGridCtrl::IsItemEditing(int nRow, int nCol)
 
 void CGridCtrl::SetVirtualMode(BOOL bVirtual)
 {
-    DeleteAllItems();
+    if (!DeleteAllItems())
+        return;
     m_bVirtualMode = bVirtual;
     if (!m_bVirtualMode)
         return;

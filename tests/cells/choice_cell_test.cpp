@@ -9,6 +9,8 @@
 #include "ModalVisit.h"
 #include "Picture.h"
 
+#include <memory>
+
 namespace
 {
 constexpr int kRow = 3, kCol = 2;
@@ -262,6 +264,39 @@ TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnce)
     EXPECT_EQ(CellText(), L"HEA 240");
 }
 
+TEST_F(ComboCells, TheKeyThatOpensAListEndsItWithItsNextRelease)
+{
+    for (const bool enterIsTab : {false, true})
+    {
+        const WORD key = enterIsTab ? VK_RETURN : VK_TAB;
+        auto& cell = MakeCombo();
+        grid.SetEnterIsTab(enterIsTab);
+        grid.SetFocusCell(kRow, kCol - 1);
+        owtest::Type(L"a");
+        owtest::Press(key);
+        owtest::Pump();
+        EXPECT_TRUE(cell.IsEditing()) << "the walk stops at the list";
+        owtest::Press(key);
+        EXPECT_TRUE(EditorOpens(kRow, kCol + 1));
+        EXPECT_FALSE(cell.IsEditing());
+        owtest::Press(VK_ESCAPE);
+        EXPECT_TRUE(EditorCloses());
+    }
+}
+
+TEST_F(ComboCells, ACopyHasTheListToo)
+{
+    CGridCellCombo copy;
+    copy = MakeCombo<CChoiceOnlyCell>();
+    EXPECT_EQ(copy.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
+    EXPECT_TRUE(copy.Edit(kRow, kCol, CellRect(), CPoint(), InPlaceControlId, VK_LBUTTON));
+    EXPECT_EQ(copy.DajKomboBoks()->GetCount(), 3);
+    grid.SetFocus();
+    EXPECT_TRUE(EditorCloses());
+    copy = *grid.GetCell(1, 1); // as from any cell
+    EXPECT_STREQ(copy.GetText(), L"1/1");
+}
+
 TEST_F(ComboCells, AnArrowTellsOfTheListWhereItCanBeUsed)
 {
     auto& cell = MakeCombo();
@@ -411,6 +446,19 @@ TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
     cell = &Make<CGridCellColorCombo>();
     clickAnd([&] { grid.DestroyWindow(); });
     EXPECT_EQ(cell->DajMastAci(), 30) << "the cell outlives the grid's window";
+
+    auto other = std::make_unique<OpenGrid>(2, 2);
+    ASSERT_TRUE(PlaceGrid(*other, parent));
+    CGridCellColorCombo alone;
+    alone.SetGrid(other.get());
+    cell = &alone;
+    clickAnd(
+        [&]
+        {
+            alone.Reset(); // takes the grid away from it
+            other.reset();
+        });
+    EXPECT_EQ(alone.DajMastAci(), 30);
 }
 
 TEST_F(ColourCells, TheSwatchNeedsRoom)

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cfloat>
 #include <climits>
+#include <limits>
 
 namespace
 {
@@ -253,4 +254,55 @@ TEST_F(LimitedCells, ACopyHasValueAndBoundsAndNoCellHasAFont)
         cell->SetFont(&lf);
         EXPECT_TRUE(cell->IsDefaultFont());
     }
+}
+
+namespace
+{
+/// Reads what the cells keep, as a kind of cell of one's own may.
+struct OpenDouble : public CLimitedDoubleCell
+{
+    bool Holds(double min, double max, int decimals) const
+    {
+        return m_bHasMin && m_dLocalMin == min && !m_bMinInclusive && m_bHasMax && m_dLocalMax == max &&
+               m_bMaxInclusive && m_nBrojDecimala == decimals;
+    }
+};
+struct OpenInt : public CLimitedIntCell
+{
+    bool Holds(int min, int max) const
+    {
+        return m_bHasMin && m_nMin == min && m_bMinInclusive && m_bHasMax && m_nMax == max &&
+               !m_bMaxInclusive;
+    }
+};
+} // namespace
+
+TEST(LimitedCellsAlone, ADoubleShowsAllItsDigitsAndTakesThemAgain)
+{
+    OpenDouble cell;
+    const std::pair<double, int> cases[] = {{DBL_MAX, 2}, {-1e50, 0}, {1e49, 40}, {0.1, 60}, {0.1, 1200}};
+    for (const auto& [value, decimals] : cases)
+    {
+        cell.SetBrojDecimala(decimals);
+        cell.Set(kCol, value);
+        CString text;
+        text.Format(L"%.*lf", decimals, value);
+        EXPECT_EQ(cell.GetText(), text);
+        cell.Set(kCol, 0.0);
+        EXPECT_TRUE(cell.ValidateEdit(text));
+        EXPECT_EQ(cell.Get(kCol), value);
+        EXPECT_EQ(cell.GetText(), text);
+    }
+    CLimitedExponentDoubleCell exponent;
+    exponent.Set(kCol, -std::numeric_limits<double>::infinity());
+    EXPECT_STREQ(exponent.GetText(), L"-INF") << "upper case, as the sign of an exponent";
+
+    cell.SetBrojDecimala(7);
+    cell.SetLocalMin(-2.0, FALSE);
+    cell.SetLocalMax(9.0, TRUE);
+    EXPECT_TRUE(cell.Holds(-2.0, 9.0, 7));
+    OpenInt count;
+    count.SetMin(-2, TRUE);
+    count.SetMax(9, FALSE);
+    EXPECT_TRUE(count.Holds(-2, 9));
 }

@@ -2,6 +2,8 @@
 
 #include <DialogControlsOW.h>
 
+#include "Handles.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -131,4 +133,18 @@ TEST(GridAxis, AnswersAsAWalkOverTheSizesDoes)
         ASSERT_EQ(visible.nEnd, expected.nEnd);
         ASSERT_EQ(visible.bReachesEnd, expected.bReachesEnd);
     }
+}
+
+TEST(GridAxis, ReservesAheadAlsoForTheFirstItems)
+{
+    constexpr int kMany = 100000;
+    CGridAxis axis;
+    axis.Reserve(kMany);
+    const size_t reserved = owtest::CountHeapBytes();
+    axis.SetCount(kMany - 1, 7);
+    axis.Insert(0, 1);
+    EXPECT_LT(owtest::CountHeapBytes(), reserved + kMany);
+    EXPECT_EQ(axis.Extent(), 7 * (kMany - 1) + 1);
+    axis.SetCount(0, 0);
+    EXPECT_LT(owtest::CountHeapBytes() + kMany, reserved) << "what is not needed is given back";
 }

@@ -282,3 +282,21 @@ TEST_F(GridDrawing, TheFontGoesToAllFourDefaultCells)
     grid.GetFont()->GetLogFont(&told);
     EXPECT_EQ(told.lfHeight, lf.lfHeight);
 }
+
+TEST_F(GridDrawing, NothingPaintsOverAnOpenEditor)
+{
+    constexpr COLORREF kGreen = RGB(5, 200, 5);
+    grid.SetItemBkColour(2, 2, kGreen);
+    grid.SetFocusCell(2, 2);
+    grid.StartEditCell();
+    CWnd* const editor = grid.GetDlgItem(InPlaceControlId);
+    ASSERT_NE(editor, nullptr);
+    editor->UpdateWindow();
+    CClientDC own(&grid);
+    EXPECT_TRUE(grid.RedrawRow(2));
+    EXPECT_TRUE(grid.RedrawCell(2, 2, &own));
+    EXPECT_NE(CClientDC(editor).GetPixel(40, 8), kGreen);
+    EXPECT_EQ(own.GetPixel(2 * kColWidth + 40, 2 * kRowHeight + 8), CClientDC(editor).GetPixel(40, 8));
+    grid.SetFocus();
+    EXPECT_TRUE(EditorCloses());
+}

@@ -7,6 +7,7 @@
 #include "Input.h"
 
 #include "cells/SubtractiveMix.h"
+#include "grid/ExtGridParts.h"
 
 #include <gtest/gtest.h>
 
@@ -313,6 +314,31 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
         grids[stays]->SetFocusCell(0, 0);
         EXPECT_EQ(handlers[stays].Take(), Calls{stays ? "1 cell 0,0 after 2,1" : "0 row 0 after 2"});
     }
+}
+
+TEST(ExtGridHook, AParentWithoutAnObjectIsNamedByOneThatLasts)
+{
+    struct TellingGrid : public CGridCtrl
+    {
+        void OnGridEndEdit(NMHDR*, LRESULT*) {}
+        void OnGridRClick(NMHDR*, LRESULT*) {}
+        void OnGridSelChanged(NMHDR*, LRESULT*) { ++changes; }
+        int changes = 0;
+    } grid;
+    const HWND parent =
+        ::CreateWindowEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_TRUE(grid.Create(CRect(0, 0, 200, 100), CWnd::FromHandle(parent), kGridId));
+    CExtGridHook<TellingGrid> hook(&grid);
+    hook.HookParent();
+    ASSERT_TRUE(hook.IsHooked());
+    EXPECT_EQ(hook.GetHookedWindow()->m_hWnd, parent);
+    EXPECT_NE(hook.GetHookedWindow(), CWnd::FromHandle(parent)) << "which goes with the next idle turn";
+    grid.SetRowCount(2);
+    grid.SetColumnCount(2);
+    grid.SetFocusCell(1, 1);
+    EXPECT_EQ(grid.changes, 1);
+    ::DestroyWindow(parent);
+    EXPECT_FALSE(hook.IsHooked());
 }
 
 TEST(ExtGridHook, AGridOnADialogTemplateAsksForIt)

@@ -218,3 +218,62 @@ TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
     EXPECT_EQ(grid.GetFixedRowCount(), 1);
     EXPECT_EQ(grid.GetVirtualWidth(), 300);
 }
+
+TEST_F(GridGeometry, AShownColumnKeepsAPixelWhateverRoomThereIs)
+{
+    grid.SetColumnCount(4);
+    grid.SetColumnWidth(1, 2000, TRUE);
+    grid.SetColumnWidth(2, 0, TRUE);
+    grid.ExpandColumnsToFit();
+    EXPECT_EQ(grid.GetColumnWidth(3), 1);
+    EXPECT_EQ(grid.GetColumnWidth(2), 0) << "hidden before";
+    grid.ExpandLastColumn();
+    EXPECT_EQ(grid.GetColumnWidth(3), 1);
+}
+
+TEST_F(GridGeometry, SizesBeyondAllBoundsKeepTheBars)
+{
+    grid.SetRowHeight(3, INT_MAX);
+    grid.SetRowHeight(4, INT_MAX);
+    grid.SetColumnWidth(2, INT_MAX, TRUE);
+    EXPECT_EQ(grid.GetVirtualHeight(), INT_MAX);
+    EXPECT_EQ(grid.m_nHScrollMax, INT_MAX - kColWidth - 1);
+    EXPECT_TRUE(grid.IsVisibleVScroll() && grid.IsVisibleHScroll());
+    CRect rect;
+    ASSERT_TRUE(grid.GetCellRect(4, 2, &rect));
+    EXPECT_EQ(rect.BottomRight(), CPoint(INT_MAX - 1, INT_MAX - 1));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(290, 190)), CCellID(3, 2));
+    grid.RedrawWindow();
+    Scroll(WM_VSCROLL, SB_PAGEDOWN);
+    Scroll(WM_HSCROLL, SB_LINERIGHT, 2);
+    EXPECT_GT(grid.GetScrollPos32(SB_VERT), 0);
+    EXPECT_GT(grid.GetScrollPos32(SB_HORZ), kColWidth);
+}
+
+TEST_F(GridGeometry, EachWindowOfAnObjectScrollsForItself)
+{
+    const auto open = [&](OpenGrid& bound)
+    {
+        bound.SubclassWindow(::CreateWindowEx(0, L"MFCGridCtrl", L"", WS_CHILD | WS_VISIBLE, 10, 10, 300, 200,
+                                              parent, nullptr, AfxGetInstanceHandle(), nullptr));
+    };
+    OpenGrid bound(kRows, kCols, 1, 1);
+    SetSizes(bound);
+    for (int turn = 0; turn < 2; ++turn)
+    {
+        open(bound);
+        EXPECT_TRUE(bound.GetStyle() & WS_VSCROLL) << "for rows that were there before the window";
+        EXPECT_EQ(bound.GetTopleftNonFixedCell(), CCellID(1, 1));
+        EXPECT_EQ(bound.m_nVScrollMax, (kRows - 1) * kRowHeight - 1);
+        EXPECT_EQ(bound.GetMouseMode(), 0);
+        bound.SendMessage(WM_VSCROLL, SB_BOTTOM);
+        EXPECT_GT(bound.GetTopleftNonFixedCell().row, 1);
+        bound.SetMouseMode(4);
+        bound.DestroyWindow();
+    }
+    bound.SetRowCount(2);
+    bound.SetColumnCount(2);
+    open(bound);
+    EXPECT_FALSE(bound.IsVisibleVScroll() || bound.IsVisibleHScroll());
+    EXPECT_EQ(bound.m_nVScrollMax, 0);
+}

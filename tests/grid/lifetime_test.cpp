@@ -76,6 +76,60 @@ protected:
         owtest::Pump();
     }
 
+    using Calls = GridParent::Calls;
+
+    void TypeInto(int nRow, int nCol)
+    {
+        grid->SetFocusCell(nRow, nCol);
+        parent.Take();
+        grid->StartEditCell();
+        ::SetWindowText(::GetDlgItem(grid->m_hWnd, InPlaceControlId), L"typed");
+    }
+    void AnswerEnd(std::function<void()> harm, LRESULT answer = 0)
+    {
+        parent.answer = [=](NMHDR& header) -> LRESULT
+        {
+            if (header.code != LVN_ENDLABELEDITW)
+                return 0;
+            harm();
+            return answer;
+        };
+    }
+    std::wstring Text(int nRow, int nCol) { return grid->GetItemText(nRow, nCol).GetString(); }
+    std::vector<CCellID> Find(const wchar_t* text)
+    {
+        std::vector<CCellID> found;
+        for (int nRow = 0; nRow < grid->GetRowCount(); ++nRow)
+            for (int nCol = 0; nCol < grid->GetColumnCount(); ++nCol)
+                if (Text(nRow, nCol) == text)
+                    found.push_back(CCellID(nRow, nCol));
+        return found;
+    }
+
+    /// What moves or takes cells, and where a text in (2, 2) is afterwards.
+    struct Change
+    {
+        void (*make)(CGridCtrl&);
+        CCellID cell;
+    };
+    static inline const Change kChanges[] = {
+        {[](CGridCtrl& g) { g.DeleteRow(1); }, {1, 2}},
+        {[](CGridCtrl& g) { g.DeleteRow(2); }, {}},
+        {[](CGridCtrl& g) { g.DeleteNonFixedRows(); }, {}},
+        {[](CGridCtrl& g) { g.DeleteColumn(1); }, {2, 1}},
+        {[](CGridCtrl& g) { g.InsertRow(L"", 1); }, {3, 2}},
+        {[](CGridCtrl& g) { g.InsertColumn(L"", 0, 2); }, {2, 3}},
+        {[](CGridCtrl& g) { g.SetRowCount(30); }, {2, 2}},
+        {[](CGridCtrl& g) { g.SetColumnCount(2); }, {}},
+        {[](CGridCtrl& g) { g.SetFixedRowCount(3); }, {2, 2}},
+        {[](CGridCtrl& g) { g.SetFixedColumnCount(0); }, {2, 2}},
+        {[](CGridCtrl& g) { g.SortItems(2, FALSE); }, {1, 2}},
+        {[](CGridCtrl& g) { g.SortTextItems(2, FALSE); }, {1, 2}},
+        {[](CGridCtrl& g) { g.SortItems(CGridCtrl::pfnCellNumericCompare, 2, TRUE); }, {1, 2}},
+        {[](CGridCtrl& g) { g.AutoFill(); }, {2, 2}},
+        {[](CGridCtrl& g) { g.SetVirtualMode(TRUE); }, {}},
+    };
+
     GridParent& parent = SharedParent();
     std::unique_ptr<OpenGrid> grid;
     HWND hGrid = nullptr;
@@ -147,22 +201,64 @@ TEST_F(GridLife, AReceiverMayEndTheEditOrStartAnother)
     owtest::Pump();
 }
 
-TEST_F(GridLife, ACellThatMovesDuringAnEditForgetsItsEditor)
+TEST_F(GridLife, AChangeEndsTheEditInItsOwnCellFirst)
 {
-    grid->StartEditCell();
-    ASSERT_TRUE(grid->IsItemEditing(2, 2));
-    grid->InsertRow(L"above", 1);
-    EXPECT_TRUE(grid->IsItemEditing(3, 2));
-    ::SetFocus(parent);
+    for (const auto& [change, cell] : kChanges)
+    {
+        grid.reset();
+        Make();
+        TypeInto(2, 2);
+        change(*grid);
+        EXPECT_EQ(parent.Take(), (Calls{"begin 2,2", "end 2,2"}));
+        ::SetFocus(parent);
+        EXPECT_TRUE(owtest::PumpUntil([&] { return grid->GetDlgItem(InPlaceControlId) == nullptr; }));
+        EXPECT_EQ(Find(L"typed"), std::vector<CCellID>(cell.IsValid(), cell));
+        EXPECT_EQ(parent.Take(), Calls{}) << "told once";
+    }
+}
+
+TEST_F(GridLife, AChangeIsMadeOnWhatTheParentHasLeft)
+{
+    for (const auto& [change, cell] : kChanges)
+    {
+        grid.reset();
+        Make();
+        TypeInto(2, 2);
+        AnswerEnd([&] { grid->DeleteAllItems(); });
+        change(*grid);
+        EXPECT_EQ(Find(L"typed"), std::vector<CCellID>{});
+        grid.reset();
+        Make();
+        TypeInto(2, 2);
+        AnswerEnd([&] { grid.reset(); });
+        change(*grid);
+        EXPECT_EQ(grid, nullptr);
+        parent.answer = nullptr;
+        Make();
+    }
+}
+
+TEST_F(GridLife, ARefusedTextIsTakenBackFromItsOwnCellOnly)
+{
+    CGridCtrl& anyGrid = *grid; // a dialog may end an edit
+    TypeInto(2, 2);
+    AnswerEnd([&] { grid->InsertRow(L"", 1); }, -1);
+    parent.Take();
+    anyGrid.EndEditing();
+    EXPECT_EQ(Text(3, 2), L"2/2");
+    EXPECT_EQ(Text(2, 2), L"1/2");
     owtest::Pump();
-    EXPECT_FALSE(grid->IsItemEditing(3, 2));
-    grid->SetFocusCell(3, 2);
-    grid->EndEditing();
-    grid->StartEditCell();
-    EXPECT_TRUE(grid->IsItemEditing(3, 2)) << "it can be edited again";
-    grid->DeleteRow(3);
-    ::SetFocus(parent);
+    EXPECT_EQ(parent.Take(), Calls{"end 2,2"}) << "and asked about once";
+
+    TypeInto(4, 2);
+    AnswerEnd([&] { grid->DeleteRow(4); }, -1);
+    anyGrid.EndEditing();
+    EXPECT_EQ(Text(4, 2), L"4/2");
     owtest::Pump();
+    TypeInto(4, 2);
+    AnswerEnd([&] { grid->SetCellType(4, 2, RUNTIME_CLASS(CGridCellCheck)); }, -1);
+    anyGrid.EndEditing();
+    EXPECT_EQ(Text(4, 2), L"4/2") << "another kind of cell takes it over";
 }
 
 TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)

@@ -2,6 +2,8 @@
 
 #include "GridFixture.h"
 
+#include "ModalVisit.h"
+
 #include <algorithm>
 
 class GridMouse : public GridTest
@@ -315,4 +317,45 @@ TEST_F(GridMouse, AClickOnAHeaderSortsAndTheNextOneTurnsTheOrder)
     EXPECT_EQ(Text(1, 1), L"19");
     ClickCell(0, 2);
     EXPECT_TRUE(grid.GetSortAscending()) << "another column begins ascending";
+}
+
+TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
+{
+    const auto pressWithBox = [&](UINT code, const std::function<void()>& inBox)
+    {
+        owtest::ModalVisit visit([&](CWnd&) { inBox(); });
+        bool asked = false;
+        parent.answer = [&](NMHDR& header) -> LRESULT
+        {
+            if (header.code == code && !std::exchange(asked, true))
+                ::MessageBox(parent, L"Really?", L"grid", MB_OK);
+            return 0;
+        };
+        ClickCell(2, 2);
+        owtest::Type(L"x");
+        owtest::ButtonDown(grid, MiddleOf(grid, 4, 3));
+        EXPECT_EQ(visit.Count(), 1);
+        EXPECT_EQ(grid.GetMouseMode(), 0);
+        EXPECT_EQ(grid.m_nTimerId, 0u);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        owtest::MoveTo(grid, MiddleOf(grid, 6, 4));
+        EXPECT_EQ(Selected(), CCellRange(2, 2, 2, 2)) << "and nothing is dragged";
+        parent.answer = nullptr;
+    };
+    pressWithBox(LVN_ENDLABELEDITW, [] { owtest::ButtonUp(); });
+    EXPECT_EQ(Text(2, 2), L"x");
+    pressWithBox(LVN_ENDLABELEDITW, [] {});
+    owtest::ButtonUp();
+
+    // Without a box the release may come while the parent answers.
+    parent.answer = [](NMHDR& header) -> LRESULT
+    {
+        if (header.code == LVN_ITEMCHANGING)
+            owtest::ButtonUp();
+        return 0;
+    };
+    owtest::ButtonDown(grid, MiddleOf(grid, 5, 3));
+    EXPECT_EQ(grid.GetMouseMode(), 0);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(grid.m_nTimerId, 0u);
 }

@@ -244,10 +244,47 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
     grid.supply = 1;
     EXPECT_EQ(grid.InsertColumn(L"x"), 0);
     EXPECT_EQ(grid.GetColumnCount(), 5) << "the cell that was put in is out again";
+    EXPECT_EQ(grid.InsertRow(L"x", 1), 0);
+    EXPECT_EQ(grid.GetRowCount(), 2) << "and so is the row";
+    EXPECT_NE(grid.GetCell(1, 0), nullptr);
+    EXPECT_FALSE(grid.SetRowCount(INT_MAX));
+    EXPECT_FALSE(grid.SetFixedColumnCount(INT_MAX));
+    EXPECT_EQ(grid.GetCellRange(), CCellRange(0, 0, 1, 4));
     grid.supply = 100;
     EXPECT_EQ(grid.InsertColumn(L"x"), 5);
     EXPECT_EQ(grid.GetItemText(0, 5), L"x");
     grid.DeleteAllItems();
+}
+
+TEST(GridCells, MayKeepNothingAtAll)
+{
+    OpenGrid grid;
+    ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
+    EXPECT_TRUE(grid.SetDefaultCellType(RUNTIME_CLASS(CGridCellBase)));
+    grid.SetRowCount(5);
+    grid.SetColumnCount(3);
+    grid.SetFixedRowCount(1);
+    EXPECT_EQ(grid.InsertRow(L"lost"), 5);
+    EXPECT_TRUE(grid.SetCellType(3, 1, RUNTIME_CLASS(CGridCell)));
+    grid.SetItemText(3, 1, L"-7");
+    grid.RedrawWindow();
+    grid.SetFocusCell(2, 1);
+    grid.StartEditCell();
+    EXPECT_EQ(grid.GetItemText(2, 1), L"");
+    EXPECT_NE(grid.GetItemFont(2, 1), nullptr);
+    EXPECT_TRUE(grid.SortTextItems(1, TRUE));
+    EXPECT_EQ(grid.GetItemText(5, 1), L"-7") << "no text sorts as an empty one";
+    EXPECT_TRUE(grid.SortItems(CGridCtrl::pfnCellNumericCompare, 1, TRUE));
+    EXPECT_EQ(grid.GetItemText(1, 1), L"-7");
+    EXPECT_TRUE(grid.SetCellType(1, 1, RUNTIME_CLASS(CGridCellBase)));
+    EXPECT_TRUE(grid.SetCellType(1, 1, RUNTIME_CLASS(CGridCellCombo)));
+    EXPECT_EQ(grid.GetItemText(1, 1), L"");
+    grid.AutoSize();
+    grid.StartEditCell();
+    grid.GetCell(1, 1)->SetGrid(nullptr);
+    CGridCell alone;
+    EXPECT_FALSE(alone.Edit(1, 1, CRect(0, 0, 50, 20), CPoint(), InPlaceControlId, 'x'));
+    EXPECT_FALSE(alone.IsEditing());
 }
 
 TEST(GridDefaults, CreateForgetsSizesAndGivesASunkenEdge)
