@@ -26,7 +26,7 @@ public:
 protected:
     /// Sends LVN_ENDLABELEDITW with the text and the key that ended the edit, then posts WM_CLOSE to the
     /// editor, so that it is closed only when the grid has done its work. `editor` may be gone when this
-    /// returns.
+    /// returns. Nothing happens from the second time on.
     void NotifyEnd(CWnd& editor, int nRow, int nColumn, UINT nLastChar, const CString& strText);
 
 private:

@@ -789,7 +789,7 @@ private:
 
     CLifeWatch* m_pFirstWatch = nullptr; ///< the watches that stand on the stack now
     CCellWatch* m_pFirstCellWatch = nullptr;
-    bool m_bPressLost = false; ///< of the press that is being answered: nothing more may come of it
-    bool m_bRealPress = false; ///< it came from the button itself, and not as a message only
     unsigned m_nStructure = 0; ///< raised whenever rows, columns or cells come or go
+    bool m_bPressLost = false; ///< the press that is being answered: nothing more may come of it
+    bool m_bRealPress = false; ///< and it came from the button itself, not as a message only
 };

@@ -60,8 +60,8 @@ bool CGridCtrl::EndEditFirst()
 /// The focus is in an in-place editor of this grid, or in a part of one.
 bool CGridCtrl::HasEditorFocus() const
 {
-    HWND hWnd = ::GetFocus();
-    if (!::IsWindow(m_hWnd) || !::IsChild(m_hWnd, hWnd))
+    HWND hWnd = ::IsWindow(m_hWnd) ? ::GetFocus() : nullptr;
+    if (!::IsChild(m_hWnd, hWnd))
         return false;
     while (::GetParent(hWnd) != m_hWnd)
         hWnd = ::GetParent(hWnd);
@@ -678,7 +678,8 @@ void CGridCtrl::FillDisplayRequest(GV_DISPINFO& info, int nRow, int nCol) const
     item.crBkClr = defaultCell.GetBackClr();
     item.crFgClr = defaultCell.GetTextClr();
     item.lParam = defaultCell.GetData();
-    item.lfFont = *defaultCell.GetFont();
+    const LOGFONTW* const plf = defaultCell.GetFont(); // none after a Reset
+    item.lfFont = plf ? *plf : LOGFONTW{};
     item.nMargin = defaultCell.GetMargin();
     item.strText.Truncate(0); // keeps its buffer for the answer
 
