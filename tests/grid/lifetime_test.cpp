@@ -207,7 +207,11 @@ TEST_F(GridLife, AChangeEndsTheEditInItsOwnCellFirst)
     {
         grid.reset();
         Make();
+        if (!cell.IsValid())
+            grid->SetCellType(2, 2, RUNTIME_CLASS(CGridCellCombo));
         TypeInto(2, 2);
+        if (cell.IsValid())
+            grid->SetFocusCell(CCellID(5, 1), FALSE); // the edit goes on
         change(*grid);
         EXPECT_EQ(parent.Take(), (Calls{"begin 2,2", "end 2,2"}));
         ::SetFocus(parent);
@@ -245,6 +249,7 @@ TEST_F(GridLife, ARefusedTextIsTakenBackFromItsOwnCellOnly)
     AnswerEnd([&] { grid->InsertRow(L"", 1); }, -1);
     parent.Take();
     anyGrid.EndEditing();
+    EXPECT_FALSE(grid->IsItemEditing(3, 2));
     EXPECT_EQ(Text(3, 2), L"2/2");
     EXPECT_EQ(Text(2, 2), L"1/2");
     owtest::Pump();

@@ -347,15 +347,22 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
     pressWithBox(LVN_ENDLABELEDITW, [] {});
     owtest::ButtonUp();
 
-    // Without a box the release may come while the parent answers.
-    parent.answer = [](NMHDR& header) -> LRESULT
+    // Without a box the release may come while the parent answers, in the grid or beside it.
+    parent.answer = [&](NMHDR& header) -> LRESULT
     {
-        if (header.code == LVN_ITEMCHANGING)
+        if (header.code == LVN_ITEMCHANGED)
+        {
+            owtest::MoveTo(parent, CPoint(2, 2));
             owtest::ButtonUp();
+        }
         return 0;
     };
     owtest::ButtonDown(grid, MiddleOf(grid, 5, 3));
     EXPECT_EQ(grid.GetMouseMode(), 0);
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_EQ(grid.m_nTimerId, 0u);
+    owtest::MoveTo(grid, ColumnDivider(2));
+    EXPECT_EQ(grid.GetMouseMode(), 8);
+    owtest::MoveTo(grid, MiddleOf(grid, 6, 4));
+    EXPECT_EQ(grid.GetMouseMode(), 0) << "the pointer only hovers";
 }
