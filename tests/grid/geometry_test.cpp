@@ -265,14 +265,15 @@ TEST_F(GridGeometry, EachWindowOfAnObjectScrollsForItself)
         EXPECT_TRUE(bound.GetStyle() & WS_VSCROLL) << "for rows that were there before the window";
         EXPECT_EQ(bound.GetTopleftNonFixedCell(), CCellID(1, 1));
         EXPECT_EQ(bound.m_nVScrollMax, (kRows - 1) * kRowHeight - 1);
-        EXPECT_EQ(bound.GetMouseMode(), 0);
+        bound.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(2 * kColWidth, kRowHeight / 2));
+        bound.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(90, 90));
+        EXPECT_EQ(bound.GetMouseMode(), 0) << "no press is left over";
+        bound.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(90, 90));
         bound.SendMessage(WM_VSCROLL, SB_BOTTOM);
         EXPECT_GT(bound.GetTopleftNonFixedCell().row, 1);
-        bound.SetMouseMode(4);
         bound.DestroyWindow();
     }
-    bound.SetRowCount(2);
-    bound.SetColumnCount(2);
+    bound.SetRedraw(FALSE);
     open(bound);
     EXPECT_FALSE(bound.IsVisibleVScroll() || bound.IsVisibleHScroll());
     EXPECT_EQ(bound.m_nVScrollMax, 0);

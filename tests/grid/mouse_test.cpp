@@ -323,6 +323,8 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
 {
     const auto pressWithBox = [&](UINT code, const std::function<void()>& inBox)
     {
+        ClickCell(2, 2);
+        owtest::Type(L"x");
         owtest::ModalVisit visit([&](CWnd&) { inBox(); });
         bool asked = false;
         parent.answer = [&](NMHDR& header) -> LRESULT
@@ -331,8 +333,6 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
                 ::MessageBox(parent, L"Really?", L"grid", MB_OK);
             return 0;
         };
-        ClickCell(2, 2);
-        owtest::Type(L"x");
         owtest::ButtonDown(grid, MiddleOf(grid, 4, 3));
         EXPECT_EQ(visit.Count(), 1);
         EXPECT_EQ(grid.GetMouseMode(), 0);
@@ -344,8 +344,11 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
     };
     pressWithBox(LVN_ENDLABELEDITW, [] { owtest::ButtonUp(); });
     EXPECT_EQ(Text(2, 2), L"x");
-    pressWithBox(LVN_ENDLABELEDITW, [] {});
-    owtest::ButtonUp();
+    for (const UINT code : {LVN_ENDLABELEDITW, LVN_ITEMCHANGING})
+    {
+        pressWithBox(code, [] {});
+        owtest::ButtonUp();
+    }
 
     // Without a box the release may come while the parent answers, in the grid or beside it.
     parent.answer = [&](NMHDR& header) -> LRESULT
