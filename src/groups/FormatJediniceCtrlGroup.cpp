@@ -38,7 +38,7 @@ void CFormatJediniceCtrlGroup::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, m_nComboId, m_combo);
     DDX_Control(pDX, m_nButtonId, m_button);
     DDX_Control(pDX, m_nEditId, m_edit);
-    if (bNew)
+    if (bNew && m_pFormat)
         ListUnits();
 }
 

@@ -30,6 +30,16 @@ std::string Text(const CFormatJedinice& format)
            std::to_string(format.nEditValue);
 }
 
+owtest::DialogTemplate Form(DWORD buttonStyle)
+{
+    return owtest::DialogTemplate(L"Format", 160, 30)
+        .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
+        .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 8, 40, 90)
+        .Item(L"BUTTON", L"Unit", idButton, buttonStyle | WS_TABSTOP, 48, 8, 40, 12)
+        .Edit(idEdit, 90, 8, 24, 12)
+        .Edit(idElsewhere, 120, 8, 24, 12);
+}
+
 class FormatDialog : public CDialog, public AFormatJediniceCtrlGroupNotificationHandler
 {
 public:
@@ -40,13 +50,7 @@ public:
 
     bool Open(DWORD buttonStyle)
     {
-        const auto form = owtest::DialogTemplate(L"Format", 160, 30)
-                              .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
-                              .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 8, 40, 90)
-                              .Item(L"BUTTON", L"Unit", idButton, buttonStyle | WS_TABSTOP, 48, 8, 40, 12)
-                              .Edit(idEdit, 90, 8, 24, 12)
-                              .Edit(idElsewhere, 120, 8, 24, 12);
-        return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
+        return CreateIndirect(Form(buttonStyle).get()) && owtest::Activate(m_hWnd);
     }
     CWnd& operator[](int nId) { return *GetDlgItem(nId); }
 
@@ -226,4 +230,19 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
     lost.SetFormatSource(&record);
     lost.OnEditNKillFocus(idEdit);
     EXPECT_EQ(Text(record), "3, 1, 0") << "no handler is no fault";
+}
+
+TEST_F(UnitFormatGroup, LeavesTheListAloneUntilThereIsARecord)
+{
+    CDialog plain;
+    ASSERT_TRUE(plain.CreateIndirect(Form(BS_AUTOCHECKBOX).get()));
+    plain.SendDlgItemMessage(idCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"any unit"));
+    CFormatJediniceCtrlGroup unbound(idCombo, idButton, idEdit, nullptr);
+    CDataExchange exchange(&plain, FALSE);
+    unbound.DoDataExchange(&exchange);
+    unbound.SetCtrlState({0, 1, 4});
+    EXPECT_EQ(owtest::TextOf(*plain.GetDlgItem(idCombo)), L"any unit");
+    unbound.SetFormatSource(&record);
+    EXPECT_EQ(plain.SendDlgItemMessage(idCombo, CB_GETCOUNT), 6);
+    plain.DestroyWindow();
 }
