@@ -153,7 +153,7 @@ void CFontSelectionComboBox::InitFonts()
     m_rows.clear(); // where the parent does not pass WM_DELETEITEM on
     if (!gFontManager.m_bInitialized)
         gFontManager.Initialize(dc);
-    ::EnumFonts(dc, nullptr, &EnumFontProc, reinterpret_cast<LPARAM>(this));
+    ::EnumFonts(dc, nullptr, &AddFontOnce, reinterpret_cast<LPARAM>(this));
     SetRedraw(TRUE);
     Invalidate(FALSE);
 }
@@ -166,16 +166,23 @@ int CALLBACK CFontSelectionComboBox::EnumFontProc(const LOGFONT* pLogFont, const
     return TRUE;
 }
 
-// Some systems name a font once for each of its character sets, one after another.
 void CFontSelectionComboBox::AddFont(const LOGFONT& logFont)
 {
-    if (!m_rows.empty() && std::wcscmp(m_rows.back()->logFont.lfFaceName, logFont.lfFaceName) == 0)
-        return;
     const int nItem = AddString(logFont.lfFaceName);
     if (nItem < 0)
         return;
     m_rows.push_back(std::make_unique<SFontRow>(logFont, gFontManager.Find(logFont.lfFaceName)));
     SetItemDataPtr(nItem, m_rows.back().get());
+}
+
+// Some systems name a font once for each of its character sets, one after another.
+int CALLBACK CFontSelectionComboBox::AddFontOnce(const LOGFONT* pLogFont, const TEXTMETRIC* pMetric,
+                                                 DWORD nType, LPARAM lParam)
+{
+    const Rows& rows = reinterpret_cast<CFontSelectionComboBox*>(lParam)->m_rows;
+    if (!rows.empty() && std::wcscmp(rows.back()->logFont.lfFaceName, pLogFont->lfFaceName) == 0)
+        return TRUE;
+    return EnumFontProc(pLogFont, pMetric, nType, lParam);
 }
 
 // Rows of the caller, and those with data of the caller's own, have no record.

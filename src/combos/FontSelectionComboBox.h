@@ -1,12 +1,12 @@
 #pragma once
-// A combo box of the fonts that a text style of a drawing can use: each row a font's name written in that font, behind
-// an icon that tells a TrueType font from an SHX font.
+// A combo box of the fonts that a text style of a drawing can use: each row a font's name written in that
+// font, behind an icon that tells a TrueType font from an SHX font.
 //
 //     class CTextStyleDialog : public CDialog, public AFontSelectionNotificationHandler
 //     {
 //         CFontSelectionComboBox m_comboFont{this};
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_FONT, m_comboFont); }
-//         void OnFontSelected(int nId, const CString& strFont, EFontClass eClass) override { SetFont(strFont); }
+//         void OnFontSelected(int, const CString& strFont, EFontClass eClass) override { SetFont(strFont); }
 //     };
 //
 //     COMBOBOX IDC_FONT, 92, 7, 120, 150, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT |
@@ -15,23 +15,23 @@
 // Template. CBS_OWNERDRAWFIXED and CBS_HASSTRINGS are needed. Without CBS_SORT the rows stand as the system
 // enumerates the fonts.
 //
-// Rows. A control of a template is filled when it is attached; one that is made by Create is filled by InitFonts, and
-// stays empty without. Listed are the TrueType fonts of the system; the class of each is what gFontManager says of its
-// name. A row that the caller adds with AddString counts as a font of that name, of an SHX font for instance. Rows may
-// be taken out with DeleteString and ResetContent.
+// Rows. A control of a template is filled when it is attached; one that is made by Create is filled by
+// InitFonts, and stays empty without. Listed are the TrueType fonts of the system, each once; the class of
+// each is what gFontManager says of its name. A row that the caller adds with AddString counts as a font of
+// that name, of an SHX font for instance. Rows may be taken out with DeleteString and ResetContent.
 //
-// Item data. Each listed row has a record of the control's own as its item data, which callers leave alone. It goes
-// with its row, at the latest with the window.
+// Item data. Each listed row has a record of the control's own as its item data, which callers leave alone.
+// It goes with its row, at the latest with the window.
 //
-// Reports. OnFontSelected, for each selection that the user makes; SetCurSel and SetSelection are silent. Without a
-// handler the control is silent. Keys and the growth of the list are those of CExtComboBox.
+// Reports. OnFontSelected, for each selection that the user makes; SetCurSel and SetSelection are silent.
+// Without a handler the control is silent. Keys and the growth of the list are those of CExtComboBox.
 //
 // Icons. They are shared by all font combo boxes and stay for the process. CFontCtrlGroup loads them in its
-// OnInitDialog; who uses the combo box alone calls LoadIcons once, or has none: then " (SHX)" behind the name tells
-// the one class from the other.
+// OnInitDialog; who uses the combo box alone calls LoadIcons once, or has none: then " (SHX)" behind the name
+// tells the one class from the other.
 //
-// Cost. The font of a row is made when the row is painted, so that a list of a thousand fonts opens as fast as one of
-// a thousand texts.
+// Cost. The font of a row is made when the row is painted, so that a list of a thousand fonts opens as fast
+// as one of a thousand texts.
 
 #include <afxwin.h>
 
@@ -44,8 +44,8 @@
 class OW_DIALOGCONTROLS_API CFontSelectionComboBox : public CComboBox
 {
 public:
-    /// Posted by FillFonts, and when a window is made. The control itself does not handle it; a derived class may,
-    /// with OnInitFonts.
+    /// Posted by FillFonts, and when a window is made. The control itself does not handle it; a derived class
+    /// may, with OnInitFonts.
     static constexpr UINT c_nFillMessage = WM_USER + 123;
 
     /// The handler is not owned, may be null, and must outlive the combo box.
@@ -62,8 +62,8 @@ public:
     void InitFonts();
 
     /// Index of the selected row, or -1, and then the arguments are left alone. The LOGFONT is that of the
-    /// enumeration, with 90, tenths of a point, as its height once the row has been painted. Of a row that the caller
-    /// added only the face name and the class are known.
+    /// enumeration, with 90, tenths of a point, as its height once the row has been painted. Of a row that
+    /// the caller added only the face name and the class are known.
     int GetSelFont(LOGFONT& logFont, EFontClass& eClass) const;
     /// Face name and class of the selected row; false without a selection, and the arguments are left alone.
     bool GetSelection(CString& strFont, EFontClass& eClass) const;
@@ -79,8 +79,7 @@ public:
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
 
-    /// For EnumFonts: adds a row for a TrueType font, unless it is the one that was added last. `lParam` is the
-    /// combo box. Always 1, to go on.
+    /// For EnumFonts: adds a row for a TrueType font. `lParam` is the combo box. Always 1, to go on.
     static int CALLBACK EnumFontProc(const LOGFONT* pLogFont, const TEXTMETRIC* pMetric, DWORD nType,
                                      LPARAM lParam);
 
@@ -119,6 +118,8 @@ private:
 
     static int DrawFontIcon(CDC& dc, const CRect& rect, EFontClass eClass);
 
+    static int CALLBACK AddFontOnce(const LOGFONT* pLogFont, const TEXTMETRIC* pMetric, DWORD nType,
+                                    LPARAM lParam);
     void AddFont(const LOGFONT& logFont);
     Rows::const_iterator FindRecord(DWORD_PTR nItemData) const;
     SFontRow* RecordOf(int nItem) const; ///< null for a row without one

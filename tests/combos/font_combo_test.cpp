@@ -135,6 +135,21 @@ TEST_F(FontCombo, ListsEachTrueTypeFontOnceWithItsRecord)
     EXPECT_EQ(m_combo.GetCount(), static_cast<int>(m_fonts.size()));
 }
 
+TEST_F(FontCombo, AddsEachTrueTypeFontThatACallerEnumerates)
+{
+    LOGFONT font{};
+    font.lfWeight = 123;
+    ::lstrcpy(font.lfFaceName, m_shx);
+    const auto combo = reinterpret_cast<LPARAM>(&m_combo);
+    EXPECT_EQ(Combo::EnumFontProc(&font, nullptr, TRUETYPE_FONTTYPE, combo), 1);
+    EXPECT_EQ(Combo::EnumFontProc(&font, nullptr, TRUETYPE_FONTTYPE, combo), 1) << "the same name, too";
+    EXPECT_EQ(m_combo.GetCount(), static_cast<int>(m_fonts.size()) + 4) << "with the two of the caller";
+    int own = 0;
+    for (int row = RowOf(m_shx); own < 2 && row < RowOf(m_shx) + 3; ++row)
+        own += static_cast<const LOGFONT*>(m_combo.GetItemDataPtr(row))->lfWeight == 123;
+    EXPECT_EQ(own, 2) << "each with its record";
+}
+
 TEST_F(FontCombo, OneThatIsMadePostsAMessageThatItDoesNotHandle)
 {
     Combo plain;
