@@ -87,8 +87,8 @@ public:
     void SetSeparator(int nSeparator);
     void SetPolozaj(int nPolozaj);
 
-    /// Pages are made below 4 GiB. Raises MFC's memory exception if there is no room; the nothrow form answers
-    /// null.
+    /// Pages are made below 4 GiB. Raises MFC's memory exception if there is no room; the nothrow form
+    /// answers null.
     static void* operator new(std::size_t size);
     static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
     /// No room is kept for pages that are aligned more strictly than any basic type.

@@ -39,7 +39,8 @@ public:
     CPageComboCtrlGroup(const CPageComboCtrlGroup&) = delete;
     CPageComboCtrlGroup& operator=(const CPageComboCtrlGroup&) = delete;
 
-    /// Binds the two controls. Fatal if the dialog lacks one of them, as DDX_Control is.
+    /// Binds the two controls. Throws CNotSupportedException if the dialog lacks one of them, as DDX_Control
+    /// does.
     void DoDataExchange(CDataExchange* pDX);
 
     /// Whom to tell of the selection; not owned, told in the order of registering. The first one registered

@@ -10,8 +10,8 @@
 //     m_tree.SetCurrentPage(pFirst);                            // nothing is selected until then
 //
 // Pages stand in the order of adding below their parents, and stay as long as the control. Enter moves the
-// focus to the next control. After a change of selection the tree has the focus, not the page. A tree that gets
-// the focus with nothing selected selects its first item, as any tree view.
+// focus to the next control. After a change of selection the tree has the focus, not the page. A tree that
+// gets the focus with nothing selected selects its first item, as any tree view.
 //
 // Limit. An item carries its page in a word of 32 bits, so every page added must lie below 4 GiB. Pages made
 // by `new` do; see Page.h. What GetCurrentPage and the clients are given for any other page is not that page.

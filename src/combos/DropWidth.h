@@ -7,6 +7,6 @@
 /// width of a "0" as margin; in pixels. Measures each entry once. Without entries it is the margin alone.
 int gfnMeasureDropWidth(CComboBox& combo);
 
-/// Widens the list to that, and `nBeside` pixels for what stands beside the text. It never becomes narrower. For the
-/// moment at which the list opens.
+/// Widens the list to that, and `nBeside` pixels for what stands beside the text. It never becomes narrower.
+/// For the moment at which the list opens.
 void gfnGrowDropWidth(CComboBox& combo, int nBeside = 0);

@@ -1,5 +1,6 @@
 #pragma once
-// The dialog of CSingleThreadProgress, on one of two templates of the library: with a Cancel button or without.
+// The dialog of CSingleThreadProgress, on one of two templates of the library: with a Cancel button or
+// without.
 //
 // It deletes itself when its window goes, whoever destroys that, and tells its progress object.
 

@@ -7,11 +7,12 @@
 //     if (gfnStartNazivComboDlg(strLayer, names, L"Sloj", this) == IDOK)
 //         SaveTo(strLayer);                         // one of the list or another one
 //
-// The name stands selected in the box, so that typing replaces it; the list shows the names in the order given.
-// A name may be of any length, and may be empty: no check is made, so a caller that wants one tests it afterwards.
+// The name stands selected in the box, so that typing replaces it; the list shows the names in the order
+// given. A name may be of any length, and may be empty: no check is made, so a caller that wants one tests it
+// afterwards.
 //
-// Language. The caption is shown as given; with an empty one it is "Snimi". That and the buttons are shown through
-// gOtLang; the names are not translated.
+// Language. The caption is shown as given; with an empty one it is "Snimi". That and the buttons are shown
+// through gOtLang; the names are not translated.
 
 #include "dialogs/NazivDlgBase.h"
 
@@ -37,8 +38,8 @@ private:
     CStringArray m_names;
 };
 
-/// `strNaziv` is the start value, and on IDOK the result; else it stays. The parent may be null or without a window:
-/// the dialog then stands over the application's window in front. Answers IDOK, IDCANCEL, or -1 if the dialog could
-/// not be made.
+/// `strNaziv` is the start value, and on IDOK the result; else it stays. The parent may be null or without a
+/// window: the dialog then stands over the application's window in front. Answers IDOK, IDCANCEL, or -1 if
+/// the dialog could not be made.
 OW_DIALOGCONTROLS_API int gfnStartNazivComboDlg(CString& strNaziv, const CStringArray& names,
                                                 CString strCaption, CWnd* pParent);

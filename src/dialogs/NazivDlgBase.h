@@ -9,9 +9,9 @@
 class OW_DIALOGCONTROLS_API CNazivDlgBase : public CDialog
 {
 public:
-    /// Shows the dialog with a start value and a caption; an empty caption leaves that of the template, translated.
-    /// On IDOK `strNaziv` takes over what stands in the box, else it stays. The answer is DoModal's: IDOK, IDCANCEL,
-    /// or -1 if there was no dialog.
+    /// Shows the dialog with a start value and a caption; an empty caption leaves that of the template,
+    /// translated. On IDOK `strNaziv` takes over what stands in the box, else it stays. The answer is
+    /// DoModal's: IDOK, IDCANCEL, or -1 if there was no dialog.
     int Ask(CString& strNaziv, const CString& strCaption);
 
 protected:

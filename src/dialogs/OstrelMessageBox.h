@@ -4,8 +4,8 @@
 //     if (COstrelMessageBox::MessageBox(L"Brisanje tekuce konfiguracije?", L"Konfiguracije",
 //                                       MB_YESNO | MB_ICONQUESTION) == IDYES) ...
 //
-//     switch (COstrelMessageBox::MessageBox(strText, strCaption, MB_ICONWARNING, L"Zameni", L"Preskoci",
-//     L"Cancel", L""))
+//     switch (COstrelMessageBox::MessageBox(strText, strCaption, MB_ICONWARNING,
+//                                           L"Zameni", L"Preskoci", L"Cancel", L""))
 //     {
 //     case 1: ...
 //     }

@@ -1,9 +1,9 @@
 #pragma once
-// A progress bar that paints itself: plain, without flicker, and with a text in its middle that stays readable where
-// the bar passes under it.
+// A progress bar that paints itself: plain, without flicker, and with a text in its middle that stays
+// readable where the bar passes under it.
 //
 //     +------------------------------------+
-//     |##################                  |     done:  filled in the bar's colour, the text in that of the face
+//     |##################                  |     done:  in the bar's colour, the text in that of the face
 //     |################ 45 %               |     rest:  the other way round
 //     |##################                  |
 //     +------------------------------------+
@@ -22,8 +22,8 @@ public:
     void SetColor(COLORREF crBar) { m_crBar = crBar; }
     void SetVertical(bool bVertical) { m_bVertical = bVertical; }
 
-    /// Moves the bar and paints it at once. The control holds a position beyond its range at the range's end; the
-    /// text is shown as it is.
+    /// Moves the bar and paints it at once. The control holds a position beyond its range at the range's end;
+    /// the text is shown as it is.
     void Show(int nPos, const CString& strText);
 
 protected:

@@ -3,12 +3,17 @@
 //
 //     class CPatternSet : public AConfigSet
 //     {
-//         int GetConfigNames(CStringArray& names) override { names.Copy(m_names); return (int)names.GetSize(); }
+//         int GetConfigNames(CStringArray& names) override
+//         {
+//             names.Copy(m_names);
+//             return static_cast<int>(names.GetSize());
+//         }
 //         ...
 //     };
 //
-// Entries count from 0. Index -1 is "Default", which is always there and is not in the list. What an entry stores is
-// the set's own affair, and so is when it is written to a file. CConfigCtrlGroup tells when it calls what.
+// Entries count from 0. Index -1 is "Default", which is always there and is not in the list. What an entry
+// stores is the set's own affair, and so is when it is written to a file. CConfigCtrlGroup tells when it
+// calls what.
 
 #include <afxwin.h>
 
@@ -24,8 +29,8 @@ public:
     /// Fills `names` with the names of the entries, in their order, and answers how many there are.
     virtual int GetConfigNames(CStringArray& names) = 0;
 
-    /// Adds an entry of this name at the end, with the present values. False if the name exists, and then nothing is
-    /// added. Names come as the user typed them: of any length, with blanks around them, or empty.
+    /// Adds an entry of this name at the end, with the present values. False if the name exists, and then
+    /// nothing is added. Names come as the user typed them: of any length, with blanks around them, or empty.
     virtual bool AddConfig(const CString& name) = 0;
 
     /// Stores the present values in the entry of this name.

@@ -1,6 +1,6 @@
 #pragma once
-// A combo box of length units, a check button and a box for a whole number, which together edit a CFormatJedinice:
-// how a length is written.
+// A combo box of length units, a check button and a box for a whole number, which together edit a
+// CFormatJedinice: how a length is written.
 //
 //     class CDimensionDialog : public CDialog, public AFormatJediniceCtrlGroupNotificationHandler
 //     {
@@ -14,27 +14,31 @@
 //             m_group.Update(true, true);                    // record to controls
 //             return TRUE;
 //         }
-//         void OnFormatGroupChanged(CFormatJediniceCtrlGroup*, CFormatJedinice*, int nSource) override { Redraw(); }
+//         void OnFormatGroupChanged(CFormatJediniceCtrlGroup*, CFormatJedinice*, int nSource) override
+//         {
+//             Redraw();
+//         }
 //     };
 //
-// In the dialog template the combo box is a CBS_DROPDOWNLIST without CBS_SORT: its six entries are the units by
-// number, m, cm, mm, dm, in and ft. The edit takes 0 to 15. The button is a BS_AUTOCHECKBOX, or a BS_3STATE where a
-// selection of objects may have no common value: only that one can show it. A click takes it from indeterminate to
-// on, and never back.
+// In the dialog template the combo box is a CBS_DROPDOWNLIST without CBS_SORT: its six entries are the units
+// by number, m, cm, mm, dm, in and ft. The edit takes 0 to 15. The button is a BS_AUTOCHECKBOX, or a
+// BS_3STATE where a selection of objects may have no common value: only that one can show it. A click takes
+// it from indeterminate to on, and never back.
 //
-// Reports. A change by the user is stored in the record first, and the handler is called then, with its source:
+// Reports. A change by the user is stored in the record first, and the handler is called then, with its
+// source:
 //
 //     0 the combo box     nUnitIndex is stored
 //     1 the button        nCheckFlag is stored. Wanted: with BS_3STATE it is the state before the click
 //     2 typing            nothing is stored yet
 //     3 the edit was left nEditValue is stored, whether or not it was typed in
 //
-// Where the record lags behind the controls, in 1 and 2, GetCtrlState answers what the user sees. Without a record
-// nothing is stored and nobody is called. What the program sets is not reported.
+// Where the record lags behind the controls, in 1 and 2, GetCtrlState answers what the user sees. Without a
+// record nothing is stored and nobody is called. What the program sets is not reported.
 //
-// Ownership. Neither the record nor the handler is owned. Both must outlive the group, or be taken away: the record
-// by SetFormatSource(nullptr). Without the controls' windows, before the dialog is there or after it, operations on
-// the controls do nothing, and records stay as they are.
+// Ownership. Neither the record nor the handler is owned. Both must outlive the group, or be taken away: the
+// record by SetFormatSource(nullptr). Without the controls' windows, before the dialog is there or after it,
+// operations on the controls do nothing, and records stay as they are.
 
 #include <FormatJedinice.h>
 
@@ -56,24 +60,26 @@ public:
     CFormatJediniceCtrlGroup(const CFormatJediniceCtrlGroup&) = delete;
     CFormatJediniceCtrlGroup& operator=(const CFormatJediniceCtrlGroup&) = delete;
 
-    /// Binds the three controls. Throws CNotSupportedException if the dialog lacks one of them, as DDX_Control does.
-    /// A dialog that opens again finds the units of its record listed.
+    /// Binds the three controls. Throws CNotSupportedException if the dialog lacks one of them, as
+    /// DDX_Control does. A dialog that opens again finds the units of its record listed; without a record the
+    /// list is left alone.
     void DoDataExchange(CDataExchange* pDX);
 
-    /// The record to edit; null for none, which empties the combo box. Lists the units and selects the record's;
-    /// the other two controls are left to Update.
+    /// The record to edit; null for none, which empties the combo box. Lists the units and selects the
+    /// record's; the other two controls are left to Update.
     void SetFormatSource(CFormatJedinice* pFormat);
 
-    /// Does nothing without a record. To the controls: shows the record, or with `bCommon` false that there is no
-    /// common value: no unit, an indeterminate button, an empty edit. From the controls, whatever `bCommon` is: all
-    /// three fields are stored. No unit chosen gives the millimetre, which is then chosen; an indeterminate button
-    /// counts as on; an empty edit gives its last number.
+    /// Does nothing without a record. To the controls: shows the record, or with `bCommon` false that there
+    /// is no common value: no unit, an indeterminate button, an empty edit. From the controls, whatever
+    /// `bCommon` is: all three fields are stored. No unit chosen gives the millimetre, which is then chosen;
+    /// an indeterminate button counts as on; an empty edit gives its last number.
     void Update(bool bToControls, bool bCommon);
 
-    /// Shows a format, the record aside. An index that is no unit shows none; a number that the edit does not take
-    /// shows as the nearest that it does.
+    /// Shows a format, the record aside. An index that is no unit shows none; a number that the edit does not
+    /// take shows as the nearest that it does.
     void SetCtrlState(const CFormatJedinice& format);
-    /// What the controls show, read as by Update, but for no unit chosen, which is -1. A new record without windows.
+    /// What the controls show, read as by Update, but for no unit chosen, which is -1. A new record without
+    /// windows.
     CFormatJedinice GetCtrlState();
 
     void Enable(int bEnable);

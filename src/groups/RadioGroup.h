@@ -26,15 +26,16 @@
 // The ids of a group should run upwards in the order of the dialog with no other control's id in between, as
 // always with radio buttons: GetOption and SetOption work on all ids from the first to the last.
 //
-// Reports. Each click of a member is passed on to the handler with the member's id. SetOption is silent. At first
-// the handler is the dialog, if its class implements AButtonSTNotificationHandler. A control that has an object of
-// its own already (by DDX_Control, or in another group) keeps it, and its clicks do not come here.
+// Reports. Each click of a member is passed on to the handler with the member's id. SetOption is silent. At
+// first the handler is the dialog, if its class implements AButtonSTNotificationHandler. A control that has
+// an object of its own already (by DDX_Control, or in another group) keeps it, and its clicks do not come
+// here.
 //
-// Ownership. Neither the dialog nor the handler is owned; both must outlive the group, or be taken from it by Empty
-// or by SetNotificationHandler(nullptr). The dialog's window may go before: from then on the group does nothing, and
-// no option is checked. The group owns the objects of its buttons and not their windows, which stay in the dialog,
-// usable, when the group is emptied, set anew, assigned to or destroyed. None of that may happen within a click of a
-// member.
+// Ownership. Neither the dialog nor the handler is owned; both must outlive the group, or be taken from it by
+// Empty or by SetNotificationHandler(nullptr). The dialog's window may go before: from then on the group does
+// nothing, and no option is checked. The group owns the objects of its buttons and not their windows, which
+// stay in the dialog, usable, when the group is emptied, set anew, assigned to or destroyed. None of that may
+// happen within a click of a member.
 //
 // A copy has the same dialog, handler and ids. It shows and changes the same buttons, and hears no clicks.
 
@@ -57,8 +58,8 @@ public:
     bool operator==(const CRadioGroup& other) const;
     bool operator!=(const CRadioGroup& other) const;
 
-    /// Finds the group anew, and makes the dialog its handler. The group is empty afterwards with no dialog, with no
-    /// window of it, with the id 0, and with an id that the dialog lacks.
+    /// Finds the group anew, and makes the dialog its handler. The group is empty afterwards with no dialog,
+    /// with no window of it, with the id 0, and with an id that the dialog lacks.
     void Set(CDialog* pDlg, int nFirstId);
     /// Forgets dialog, handler and controls.
     void Empty();
