@@ -16,6 +16,13 @@ bool IsEdit(HWND hWnd)
     return ::GetClassNameW(hWnd, szClass, static_cast<int>(std::size(szClass))) &&
            ::lstrcmpiW(szClass, L"EDIT") == 0;
 }
+
+/// The edit of a dialog that has the focus, or null.
+HWND FocusedEditOf(HWND hDialog)
+{
+    const HWND hFocus = ::GetFocus();
+    return hFocus && ::IsChild(hDialog, hFocus) && IsEdit(hFocus) ? hFocus : nullptr;
+}
 } // namespace
 
 IMPLEMENT_DYNCREATE(CPageDialog, CDialog)
@@ -62,9 +69,8 @@ void CPageDialog::MyAttributeChanged()
 
 void CPageDialog::SendFocusedControlKillFocusMessage()
 {
-    const HWND hFocus = ::GetFocus();
-    if (hFocus && ::IsChild(m_hWnd, hFocus) && IsEdit(hFocus))
-        ::SendMessage(hFocus, WM_KILLFOCUS, 0, 0);
+    if (const HWND hEdit = FocusedEditOf(m_hWnd))
+        ::SendMessage(hEdit, WM_KILLFOCUS, 0, 0);
 }
 
 BOOL CPageDialog::PreTranslateMessage(MSG* pMsg)
@@ -78,10 +84,9 @@ BOOL CPageDialog::PreTranslateMessage(MSG* pMsg)
 
 bool CPageDialog::BreakLineInFocusedEdit(const MSG& msg)
 {
-    const HWND hFocus = ::GetFocus();
-    if (!hFocus || !::IsChild(m_hWnd, hFocus) || !(::GetWindowLong(hFocus, GWL_STYLE) & ES_WANTRETURN) ||
-        !IsEdit(hFocus))
+    const HWND hEdit = FocusedEditOf(m_hWnd);
+    if (!hEdit || !(::GetWindowLong(hEdit, GWL_STYLE) & ES_WANTRETURN))
         return false;
-    ::SendMessage(hFocus, WM_CHAR, msg.wParam, msg.lParam);
+    ::SendMessage(hEdit, WM_CHAR, msg.wParam, msg.lParam);
     return true;
 }
