@@ -38,7 +38,12 @@ CTranslatedFileDialog::CTranslatedFileDialog(int bOpen, const wchar_t* pszDefExt
                                              unsigned long dwFlags, const wchar_t* pszFilter, CWnd* pParent,
                                              const wchar_t* pszTitle)
     : CFileDialog(bOpen, pszDefExt, pszFileName, dwFlags, NullIfEmpty(CompleteFilter(pszFilter)), pParent,
-                  kCurrentSize),
+                  kCurrentSize
+#if _MFC_VER >= 0x0900
+                  ,
+                  FALSE // else the system's later dialog, which has none of these labels
+#endif
+                  ),
       m_bOpen(bOpen), m_pszTitle(pszTitle)
 {
 }
