@@ -31,12 +31,14 @@ protected:
     /// The window's text is kept in this object, so WM_SETTEXT, WM_GETTEXT and WM_GETTEXTLENGTH end here.
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    /// Makes what is to be painted, compatible with a context, as far as it is not there yet.
+    void DrawCachedBitmap(CDC* pDC);
+
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 
 private:
     LRESULT SetTitle(const wchar_t* pszText);
-    void DrawCachedBitmap(CDC* pDC);
     void DrawGradientBitmap(CDC& dc);
     void DrawTextBitmap(CDC& dc);
     void DrawTitle(CDC& dc, CRect rect);
