@@ -1,8 +1,8 @@
 #pragma once
 // The one door through which a box's text goes when its language has a character set of its own.
 //
-// Texts are wide throughout, so they pass unchanged. The code page is carried for a conversion that would have its
-// place here.
+// Texts are wide throughout, so they pass unchanged. The code page is carried for a conversion that would
+// have its place here.
 
 #include <afxwin.h>
 

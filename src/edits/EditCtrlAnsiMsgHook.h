@@ -1,22 +1,24 @@
 #pragma once
-// Gives a text box a font with the character set of the language that gOtSubLang stands at, and takes the box's
-// text messages through CEditCtrlAnsiInterface.
+// Gives a text box a font with the character set of the language that gOtSubLang stands at, and takes the
+// box's text messages through CEditCtrlAnsiInterface.
 //
 //     CEditCtrlAnsiMsgHook m_hook;
 //     ...
 //     gOtSubLang.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT));
 //     m_hook.HookWindow(&m_editLabel); // the box now writes Greek
 //
-// A hook is for one box at a time. When its box has gone, or after Unhook, it can take another one, which is given
-// a font of its own. The hook owns that font and deletes it with the box, with itself, or in Unhook.
+// A hook is for one box at a time. When its box has gone, or after Unhook, it can take another one, which
+// is given a font of its own. The hook owns that font and deletes it with the box, with itself, or in
+// Unhook.
 //
 // What the box is asked and told while it is hooked, if it is a CEdit; any other window only gets the font:
 //
 //     WM_SETTEXT   sets the text, and answers 1.
-//     WM_GETTEXT   wParam is taken for bytes, although it counts characters: this is wanted. Half of the buffer is
-//                  filled, and a null put behind; the answer is the length of the whole text all the same.
-//                  So GetWindowText gives half of a text. The library's own boxes and the editors of cells read
-//                  theirs by gfnWholeText (edits/WholeText.h), as a dialog should that wants all of it.
+//     WM_GETTEXT   wParam is taken for bytes, although it counts characters: this is wanted. Half of the
+//                  buffer is filled, and a null put behind; the answer is the length of the whole text all the
+//                  same. So GetWindowText gives half of a text. The library's own boxes and the editors of
+//                  cells read theirs by gfnWholeText (edits/WholeText.h), as a dialog should that wants all of
+//                  it.
 //
 // Hook on the thread that owns the box. Box and hook may go in any order.
 

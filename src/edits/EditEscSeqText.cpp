@@ -2,7 +2,6 @@
 
 #include "edits/EditEscSeqText.h"
 
-
 #include <Translator.h>
 
 #include <algorithm>

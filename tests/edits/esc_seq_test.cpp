@@ -4,6 +4,7 @@
 
 #include "DialogTemplate.h"
 #include "MenuVisit.h"
+#include "SubLanguage.h"
 
 #include <Translator.h>
 
@@ -189,6 +190,20 @@ TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
         Enter(3, TRUE); // out of sight
         EXPECT_EQ(Insert(3).Mid(3, 2), L"%h");
     }
+}
+
+TEST_F(EscSeq, LosesNothingUnderAHookForAnotherCharacterSet)
+{
+    const owtest::SubLanguage greek(LANG_GREEK);
+    CEditCtrlAnsiMsgHook hook;
+    auto& box = Show<StrictBox>();
+    ASSERT_EQ(hook.HookWindow(&box), 1);
+    Enter(0);
+    owtest::Type(L"abcdef!");
+    EXPECT_STREQ(box.GetValue(), L"abcdef");
+    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid());
+    box.OnTextChosen(kButton, 0);
+    EXPECT_EQ(gfnWholeText(box), L"%iabcdef!");
 }
 
 TEST_F(EscSeq, ARefusedTextIsNotStoredAndNotOverwritten)
