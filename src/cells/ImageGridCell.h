@@ -6,12 +6,13 @@
 //     m_grid.SetItemImage(1, 3, 0);
 //     m_grid.SetItemFormat(1, 3, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 //
-//         +-----------------------------------------+
-//         |<margin>          [image]        <margin>|   DT_CENTER, DT_RIGHT or else left; DT_VCENTER, DT_BOTTOM
-//         +-----------------------------------------+   or else top, where no margin is kept
+//     +-----------------------------------------+
+//     |<margin>          [image]        <margin>|   DT_CENTER, DT_RIGHT or else left;
+//     +-----------------------------------------+   DT_VCENTER, DT_BOTTOM or else top, where no margin is kept
 //
-// An image that does not fit, the margins counted as room, is not drawn. A text is drawn, too, in the place that a
-// plain cell gives it: right of where an image at the left edge would end. So use a text with images on the left.
+// An image that does not fit, the margins counted as room, is not drawn. A text is drawn, too, in the place
+// that a plain cell gives it: right of where an image at the left edge would end. So use a text with images
+// on the left.
 
 #include "cells/GridCell.h"
 

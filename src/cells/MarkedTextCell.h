@@ -4,8 +4,8 @@
 //     m_grid.SetCellType(1, 1, RUNTIME_CLASS(CMarkedTextCell));
 //     static_cast<CMarkedTextCell&>(*m_grid.GetCell(1, 1)).Mark(true); // changed and not saved yet, say
 //
-// The star is only painted. GetText, measuring and editing know the plain text; while a marked cell is painted, its
-// text is set with the star and set back.
+// The star is only painted. GetText, measuring and editing know the plain text; while a marked cell is
+// painted, its text is set with the star and set back.
 
 #include "cells/GridCell.h"
 

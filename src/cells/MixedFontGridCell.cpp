@@ -8,6 +8,8 @@
 
 #include <MixedFont.h>
 
+#include <optional>
+
 IMPLEMENT_DYNCREATE(CMixedFontGridCell, CGridCell)
 
 namespace
@@ -23,23 +25,6 @@ CPoint PlaceInCell(const CRect& rect, CSize size, DWORD nFormat)
         point.x = rect.left + (rect.Width() - size.cx) / 2;
     return point;
 }
-
-/// Keeps what is painted inside a cell for the length of a scope.
-class CCellClip
-{
-public:
-    CCellClip(CDC& dc, const CRect& rect) : m_dc(dc), m_nSaved(dc.SaveDC())
-    {
-        m_dc.IntersectClipRect(rect.left, rect.top, rect.right + 1, rect.bottom + 1);
-    }
-    ~CCellClip() { m_dc.RestoreDC(m_nSaved); }
-    CCellClip(const CCellClip&) = delete;
-    CCellClip& operator=(const CCellClip&) = delete;
-
-private:
-    CDC& m_dc;
-    int m_nSaved;
-};
 } // namespace
 
 void CMixedFontGridCell::operator=(const CMixedFontGridCell& cell)
@@ -71,11 +56,11 @@ void CMixedFontGridCell::DrawMixedText(CDC& dc, const CRect& rect)
     const LPCWSTR pszText = GetText();
     const CSize size = CMixedFont::GetTextExtent(&dc, pszText);
     const CPoint point = PlaceInCell(rect, size, GetFormat());
-    if (size.cx <= rect.Width() && size.cy <= rect.Height())
+    std::optional<CSavedDC> clipped; // costs, and most texts fit
+    if (size.cx > rect.Width() || size.cy > rect.Height())
     {
-        CMixedFont::TextOut(&dc, point, pszText);
-        return;
+        clipped.emplace(dc);
+        dc.IntersectClipRect(rect.left, rect.top, rect.right + 1, rect.bottom + 1);
     }
-    const CCellClip clip(dc, rect);
     CMixedFont::TextOut(&dc, point, pszText);
 }

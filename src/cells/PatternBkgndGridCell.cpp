@@ -3,27 +3,14 @@
 #include "cells/PatternBkgndGridCell.h"
 
 #include "cells/GridCellPainter.h"
+#include "cells/SubtractiveMix.h"
 #include "module/GdiScope.h"
-
-#include <algorithm>
 
 IMPLEMENT_DYNCREATE(CPatternBkgndGridCell, CAnsiGridCell)
 
 namespace
 {
 constexpr DWORD kNone = 0xFFFFFFFF;
-
-int MixedChannel(int a, int b)
-{
-    return 255 - std::min(255, (255 - a) + (255 - b));
-}
-
-/// What each of two colours takes from white light is gone.
-COLORREF SubtractiveMix(COLORREF cr1, COLORREF cr2)
-{
-    return RGB(MixedChannel(GetRValue(cr1), GetRValue(cr2)), MixedChannel(GetGValue(cr1), GetGValue(cr2)),
-               MixedChannel(GetBValue(cr1), GetBValue(cr2)));
-}
 } // namespace
 
 /// Fills with the pattern where a plain cell fills with its colour.
@@ -88,7 +75,7 @@ BOOL CPatternBkgndGridCell::FillPatternBkgnd(CDC* pDC, const CRect& rect)
 {
     const COLORREF crBack = GetBackClr();
     CBrush brush;
-    if (!brush.CreateHatchBrush(m_nPatternStyle, SubtractiveMix(m_crPattern, crBack)))
+    if (!brush.CreateHatchBrush(m_nPatternStyle, gfnSubtractiveMix(m_crPattern, crBack)))
         return FALSE;
     const CBkColorScope backColor(*pDC, crBack);
     const CBkModeScope opaque(*pDC, OPAQUE);

@@ -8,9 +8,9 @@
 //     cell.SetPatternStyle(HS_BDIAGONAL);
 //     m_grid.RedrawCell(1, 2);
 //
-// The lines are in the subtractive mix of the pattern's and the background's colour, as of two transparent sheets,
-// and so darker than either; the gaps show the background. Give the cell a background of its own: an inherited one
-// is not resolved, and counts as black.
+// The lines are in the subtractive mix of the pattern's and the background's colour, as of two transparent
+// sheets, and so darker than either; the gaps show the background. Give the cell a background of its own:
+// an inherited one is not resolved, and counts as black.
 //
 // A cell that is selected and has not the focus shows the highlight colour without the pattern.
 //
@@ -27,7 +27,8 @@ public:
     /// Takes over the pattern, too.
     void operator=(const CPatternBkgndGridCell& cell);
 
-    // The setters do not repaint. 0xFFFFFFFF as colour or -1 as style, which both are at first, means no pattern.
+    // The setters do not repaint. 0xFFFFFFFF as colour or -1 as style, which both are at first, means no
+    // pattern.
 
     COLORREF GetPatternColor() const;
     void SetPatternColor(COLORREF clr);
@@ -41,7 +42,8 @@ public:
 protected:
     /// Whether there are both a colour and a style.
     bool IsPatternBkgnd() const;
-    /// Fills a rectangle with exclusive corners; FALSE, with nothing painted, if the system has no such hatch.
+    /// Fills a rectangle with exclusive corners; FALSE, with nothing painted, if the system has no such
+    /// hatch.
     BOOL FillPatternBkgnd(CDC* pDC, const CRect& rect);
 
     COLORREF m_crPattern = 0xFFFFFFFF;
