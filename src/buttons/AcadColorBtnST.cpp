@@ -3,12 +3,15 @@
 #include "buttons/AcadColorBtnST.h"
 
 #include "buttons/ColorSwatch.h"
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 #include "module/AssertReport.h"
 #include "module/GdiScope.h"
+#include "module/HasWindow.h"
 #include "module/ResourceIdPool.h"
 
 #include <aced.h>
+
+#include <utility>
 
 namespace
 {
@@ -73,7 +76,8 @@ void CAcadColorBtnST::OnClicked()
             *this, [this] { OnClickedHook(); }, m_pColorHandler,
             &AAcadColorBtnSTNotificationHandler::OnAcadColorChosen, nCurrent);
     }
-    UpdateNum();
+    if (gfnHasWindow(this, hWnd)) // the handler may have taken it away
+        UpdateNum();
 }
 
 void CAcadColorBtnST::OnEnable(BOOL bEnable)

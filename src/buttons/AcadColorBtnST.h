@@ -1,6 +1,7 @@
 #pragma once
-// A button with a swatch of one of the CAD host's colours, and the colour's number beside it. A click opens the host's
-// colour dialog; the index that the user chooses is written into a variable of the owner, and a handler hears of it.
+// A button with a swatch of one of the CAD host's colours, and the colour's number beside it. A click opens
+// the host's colour dialog; the index that the user chooses is written into a variable of the owner, and a
+// handler hears of it.
 //
 //     class CLayerDialog : public CDialog, public AAcadColorBtnSTNotificationHandler
 //     {
@@ -16,28 +17,30 @@
 //         void OnAcadColorChosen(int nId, int nColor) override { PaintPreview(m_nInk); }
 //     };
 //
-// At most 200 of these objects can be made in the life of a process. Each takes a control id for its number from
-// ResourceIdPool when it is constructed, and keeps it for good: destroying the object does not give it back. The
-// next object after the last id ends the process, and number boxes draw on the same pool. So do not make the button
-// anew each time a dialog opens: keep the dialog object, or the button alone, and attach it again. The number is
-// then made anew beside the new window, and shows the source that the button still has.
+// At most 200 of these objects can be made in the life of a process. Each takes a control id for its number
+// from ResourceIdPool when it is constructed, and keeps it for good: destroying the object does not give it
+// back. The next object after the last id ends the process, and number boxes draw on the same pool. So do
+// not make the button anew each time a dialog opens: keep the dialog object, or the button alone, and
+// attach it again. The number is then made anew beside the new window, and shows the source that the button
+// still has.
 //
-// Look. The swatch is that of CColorBtnST; an index that is no colour shows as an empty one. A disabled button shows an
-// engraved arrow and an empty engraved frame.
+// Look. The swatch is that of CColorBtnST; an index that is no colour shows as an empty one. A disabled
+// button shows an engraved arrow and an empty engraved frame.
 //
-// Number. A label of its own, a child of the button's parent in the parent's font, made when the button is attached and
-// gone with the button's window. It stands right of the button by the width of a blank, is as wide as "888" and as
-// high as the button: leave that room in the template. It is visible if the button is visible at that moment, and
-// is enabled and disabled with it; it does not move when the button is moved.
+// Number. A label of its own, a child of the button's parent in the parent's font, made when the button is
+// attached and gone with the button's window. It stands right of the button by the width of a blank, is as
+// wide as "888" and as high as the button: leave that room in the template. It is visible if the button is
+// visible at that moment, and is enabled and disabled with it; it does not move when the button is moved.
 //
-// Source. The variable is the caller's and must outlive its use here. A button that is painted or clicked without
-// one is a broken assumption and ends the process (AssertReport.h): call SetColorSource before the dialog shows.
-// After changing the variable yourself call SetColorSource again.
+// Source. The variable is the caller's and must outlive its use here. A button that is painted or clicked
+// without one is a broken assumption and ends the process (AssertReport.h): call SetColorSource before the
+// dialog shows. After changing the variable yourself call SetColorSource again.
 //
-// Clicks. Mouse, Space and Enter open the dialog, without ByLayer and ByBlock. If another colour was chosen, it is in
-// the variable, the parent has been invalidated, and then come OnClickedHook and the handler; the number follows. If
-// the dialog is cancelled, the same colour chosen, or the button's window gone when it closes, nobody is told and
-// nothing is written. The parent does not receive the click, as it does from CButtonST.
+// Clicks. Mouse, Space and Enter open the dialog, without ByLayer and ByBlock. If another colour was
+// chosen, it is in the variable, the parent has been invalidated, and then come OnClickedHook and the
+// handler; the number follows. If the dialog is cancelled, the same colour chosen, or the button's window
+// gone when it closes, nobody is told and nothing is written. The parent does not receive the click, as it
+// does from CButtonST.
 
 #include "buttons/ButtonST.h"
 

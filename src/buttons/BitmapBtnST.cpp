@@ -2,7 +2,7 @@
 
 #include "buttons/BitmapBtnST.h"
 
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 #include "buttons/DropMenu.h"
 #include "module/HostResourceScope.h"
 
@@ -97,11 +97,9 @@ END_MESSAGE_MAP()
 void CBitmapBtnST::OnClicked()
 {
     CButtonST::OnClicked();
-    const HWND hWnd = m_hWnd;
     m_bMenuIsOpen = true;
-    gfnTrackDropMenu(*this, m_popupMenu);
-    if (!::IsWindow(hWnd))
-        return; // and the button may have gone with its window
+    if (!gfnTrackDropMenu(*this, m_popupMenu))
+        return;
     m_bMenuIsOpen = false;
     if (m_bMenuIsStale)
         CreateMenusAndBitmaps();
@@ -119,12 +117,11 @@ void CBitmapBtnST::OnSysColorChange()
 
 // ---- Messages outside the map -----------------------------------------------------------------------------
 
-// Made a push button before the base looks at the type.
 void CBitmapBtnST::PreSubclassWindow()
 {
     m_bMenuIsOpen = false; // a menu of an earlier window
     CreateMenusAndBitmaps();
-    SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+    gfnBecomePushButton(*this);
     CButtonST::PreSubclassWindow();
 }
 
@@ -132,13 +129,13 @@ void CBitmapBtnST::PreSubclassWindow()
 // every command is told to the handler, whether it was stored or not.
 BOOL CBitmapBtnST::OnCommand(WPARAM wParam, LPARAM lParam)
 {
+    const HWND hWnd = m_hWnd;
     const int nStart = static_cast<int>(GetStartWindowMsg());
     if (m_pnEnumSource && wParam < static_cast<WPARAM>(nStart + BitmapCount()))
         *m_pnEnumSource = LOWORD(wParam) - nStart;
     if (m_pChoiceHandler)
         m_pChoiceHandler->OnBitmapChosen(GetDlgCtrlID(), GetEnumSource());
-    gfnEndDropChoice(*this);
-    return CButtonST::OnCommand(wParam, lParam);
+    return gfnEndDropChoice(*this, hWnd) ? CButtonST::OnCommand(wParam, lParam) : TRUE;
 }
 
 // ---- Source -----------------------------------------------------------------------------------------------
@@ -244,11 +241,10 @@ void CBitmapBtnST::DrawPicture(CDC& dc, const CRect& face) const
         return;
     const Placing across = PlaceInMiddle(m_bitmapSizes[nIndex].cx, area.Width());
     const Placing down = PlaceInMiddle(m_bitmapSizes[nIndex].cy, area.Height());
-    const COLORREF crOldText = dc.SetTextColor(RGB(0, 0, 0));
+    const CTextColorScope text(dc, RGB(0, 0, 0));
     const CBkColorScope background(dc, FaceColor(dc, face, area));
     dc.BitBlt(area.left + across.target, area.top + down.target, across.extent, down.extent, &dcPicture,
               across.source, down.source, SRCCOPY);
-    dc.SetTextColor(crOldText);
 }
 
 // ---- The classes of the family ----------------------------------------------------------------------------

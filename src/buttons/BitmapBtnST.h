@@ -27,13 +27,14 @@
 //     CBitmapBtnSTSimbolPresekaLinija      13  lines of a section symbol      48 by 16
 //     CBitmapBtnSTSimbolPresekaZavrsetak   11  ends of a section symbol       32 by 24
 //
-// Size. The picture has the room that DropFace.h shows: a button 19 pixels wider and 10 higher than the
+// Size. The picture has the room that DropButton.h shows: a button 19 pixels wider and 10 higher than the
 // picture shows all of it, a smaller one its middle. A raised button without a visual style takes 2 pixels
 // more in each direction while it has the focus.
 //
 // Choosing. A click, Space or Enter opens the menu; arrow keys and Enter, or the mouse, choose; Escape leaves
 // everything as it was. The value is stored first, then the handler is called, also for the picture that was
-// chosen already. The parent is painted anew afterwards. The parent hears nothing of clicks and choices.
+// chosen already. The handler may close the dialog; otherwise the parent is painted anew afterwards. It hears
+// nothing of clicks and choices.
 //
 // Look. Pictures of one bit take on the colour of the button's face and of the menu; their black stays black.
 // While pressed, picture and arrow move by one pixel (the arrow of an even height only sideways). A disabled
@@ -51,7 +52,6 @@
 //   arrow.
 // - Send WM_COMMAND to the button by other hands than its menu's. Whatever it says, the handler is called; an
 //   id below those of the menu is stored as a negative index, one above them is not stored.
-// - Destroy the button in the handler.
 //
 // The pictures themselves are loaded by start-up, once for the process, and belong to their class.
 // UnloadBitmaps frees them, and LoadBitmaps, which does not look whether they are there already, loads them

@@ -6,6 +6,7 @@
 #include "buttons/ButtonST.h"
 
 #include "buttons/ThemeHelperST.h"
+#include "module/HasWindow.h"
 
 #include <shellapi.h>
 
@@ -151,9 +152,10 @@ void CButtonST::OnSysColorChange()
     Repaint();
 }
 
-// False: the parent receives the command, too.
+// False: the parent receives the command, too, unless the handler has closed it.
 BOOL CButtonST::OnClicked()
 {
+    const HWND hWnd = m_hWnd;
     SetFocus();
     if (m_bIsCheckBox)
     {
@@ -164,7 +166,7 @@ BOOL CButtonST::OnClicked()
         OpenUrl();
     if (m_pHandler)
         m_pHandler->OnButtonClicked(GetDlgCtrlID());
-    return FALSE;
+    return !gfnHasWindow(this, hWnd);
 }
 
 void CButtonST::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)

@@ -4,12 +4,12 @@
 
 #include "buttons/ColorSelectDialog.h"
 #include "buttons/ColorSwatch.h"
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 #include "module/AssertReport.h"
+#include "module/HasWindow.h"
 #include "module/HostResourceScope.h"
 
 #include <algorithm>
-#include <optional>
 #include <utility>
 
 namespace
@@ -36,31 +36,16 @@ BOOL WriteTable(CWinApp& app, LPCTSTR pszEntry, Table& table)
     return app.WriteProfileBinary(kSection, pszEntry, reinterpret_cast<BYTE*>(table.data()), sizeof(table));
 }
 
-/// Nothing if there is no such entry, or one of another length.
+/// As much of an entry as there is, and as the table has room for; false if there is no such entry.
 template <class Table>
-std::optional<Table> ReadTable(CWinApp& app, LPCTSTR pszEntry)
+bool ReadTable(CWinApp& app, LPCTSTR pszEntry, Table& table)
 {
     BYTE* pData = nullptr;
     UINT nBytes = 0;
     if (!app.GetProfileBinary(kSection, pszEntry, &pData, &nBytes))
-        return std::nullopt;
+        return false;
     const std::unique_ptr<BYTE[]> data(pData);
-    Table table;
-    if (nBytes != sizeof(table))
-        return std::nullopt;
-    memcpy(table.data(), pData, sizeof(table));
-    return table;
-}
-
-/// Whether each rank is there once.
-bool IsRanking(Ranks ranks)
-{
-    std::ranges::sort(ranks);
-    for (size_t i = 0; i < ranks.size(); ++i)
-    {
-        if (ranks[i] != i + 1)
-            return false;
-    }
+    memcpy(table.data(), pData, std::min<size_t>(nBytes, sizeof(table)));
     return true;
 }
 } // namespace
@@ -100,11 +85,9 @@ BOOL CColorBtnST::OnClicked()
         return FALSE; // a program clicked once more: the pop-up is open already
     pDialog->SetInitialColor(*m_pCurrentColor);
     const bool bChosen = pDialog->DoModal() == IDOK;
-    if (!gfnHasWindow(this, hWnd))
-        return TRUE;
-    if (bChosen)
+    if (bChosen && gfnHasWindow(this, hWnd))
         TakeColor(s_colorTable[pDialog->GetSelectedIndex()]);
-    return FALSE;
+    return !gfnHasWindow(this, hWnd);
 }
 
 void CColorBtnST::OnDestroy()
@@ -158,17 +141,9 @@ int CColorBtnST::Store()
 
 int CColorBtnST::Load()
 {
-    if (CWinApp* const pApp = AfxGetApp())
-    {
-        const auto colors = ReadTable<Colors>(*pApp, kColorsEntry);
-        const auto ranks = ReadTable<Ranks>(*pApp, kRanksEntry);
-        if (colors && ranks && IsRanking(*ranks))
-        {
-            s_colorTable = *colors;
-            s_colorRecency = *ranks;
-            return 1;
-        }
-    }
+    CWinApp* const pApp = AfxGetApp();
+    if (pApp && ReadTable(*pApp, kColorsEntry, s_colorTable) && ReadTable(*pApp, kRanksEntry, s_colorRecency))
+        return 1;
     Reset();
     return 0;
 }

@@ -1,6 +1,6 @@
 #pragma once
-// A button with a swatch of an RGB colour. A click opens a pop-up of twenty colours below it; the one that the user
-// chooses is written into a variable of the owner, and a handler hears of it.
+// A button with a swatch of an RGB colour. A click opens a pop-up of twenty colours below it; the one that
+// the user chooses is written into a variable of the owner, and a handler hears of it.
 //
 //     class CLayerDialog : public CDialog, public AColorBtnSTNotificationHandler
 //     {
@@ -16,23 +16,25 @@
 //         void OnColorChosen(int nId, int nColor) override { PaintPreview(m_crFill); }
 //     };
 //
-// Look. The swatch ends 14 pixels from the right and 5 from the other edges; the arrow stands right of it (see
-// DropFace.h). A disabled button shows an engraved arrow and no swatch, and one that is smaller than 20 by 11 pixels
-// no swatch either. All else is as with CButtonST, except that a colour button is always a push button.
+// Look. The swatch ends 14 pixels from the right and 5 from the other edges; the arrow stands right of it
+// (see DropButton.h). A disabled button shows an engraved arrow and no swatch, and one that is smaller than
+// 20 by 11 pixels no swatch either. All else is as with CButtonST, except that a colour button is always a
+// push button.
 //
-// Source. The variable is the caller's and must outlive its use here. A button that is painted or clicked without
-// one is a broken assumption and ends the process (AssertReport.h): call SetColorSource before the dialog shows.
-// After changing the variable yourself call SetColorSource again, or Invalidate.
+// Source. The variable is the caller's and must outlive its use here. A button that is painted or clicked
+// without one is a broken assumption and ends the process (AssertReport.h): call SetColorSource before the
+// dialog shows. After changing the variable yourself call SetColorSource again, or Invalidate.
 //
-// Clicks. Mouse, Space and Enter open the pop-up, a CColorSelectDialog, over a dialog that is disabled meanwhile. If
-// another colour was chosen, it is in the variable, the parent has been invalidated, and then come OnClickedHook
-// and the handler. A choice of the same colour tells nobody. At last the click goes to the parent as BN_CLICKED, as
-// with CButtonST. If the button loses its window while the pop-up is open, the pop-up closes and the choice counts
-// for nothing; nobody is told.
+// Clicks. Mouse, Space and Enter open the pop-up, a CColorSelectDialog, over a dialog that is disabled
+// meanwhile. If another colour was chosen, it is in the variable, the parent has been invalidated, and then
+// come OnClickedHook and the handler. A choice of the same colour tells nobody. At last the click goes to
+// the parent as BN_CLICKED, as with CButtonST. If the button loses its window while the pop-up is open, the
+// pop-up closes and the choice counts for nothing; nobody is told.
 //
-// Palette. The twenty colours are the same for all buttons of the process, and begin as Reset makes them. "Other..."
-// puts a colour in the place of the one that was chosen longest ago. Store and Load keep the palette in the
-// application's profile, section "ColorData", entries "ColorTable" and "MRU". The library calls neither of them:
+// Palette. The twenty colours are the same for all buttons of the process, and begin as Reset makes them.
+// "Other..." puts a colour in the place of the one that was chosen longest ago. Store and Load keep the
+// palette in the application's profile, section "ColorData", entries "ColorTable" and "MRU". The library
+// calls neither of them:
 //
 //     BOOL CAddOnApp::InitInstance() { ...; CColorBtnST::Load(); ... }
 //     int CAddOnApp::ExitInstance() { CColorBtnST::Store(); ... }
@@ -63,8 +65,9 @@ public:
     static void Reset();
     /// Writes the palette to the application's profile. 1, or 0 if a part of it could not be written.
     static int Store();
-    /// Reads it from there: 1. If an entry is missing or damaged (another length than Store writes, or ranks that are
-    /// not 1 to 20 each once), Reset runs, and the answer is 0.
+    /// Reads it from there: 1. If an entry is missing, Reset runs, and the answer is 0. The entries are
+    /// taken as they are; one that is too short leaves the end of its table as it was, and of one that is
+    /// too long the rest does not count.
     static int Load();
 
     static std::array<COLORREF, paletteSize> s_colorTable;

@@ -38,7 +38,7 @@ int IndexOf(COLORREF cr)
     return found == colors.end() ? -1 : static_cast<int>(found - colors.begin());
 }
 
-/// Puts a colour in the place of the one that was not used for the longest time, that of rank 20.
+/// Puts a colour in the place of the one that was not used for the longest time, that of the last rank.
 int ReplaceOldest(COLORREF cr)
 {
     const auto& ranks = CColorBtnST::s_colorRecency;

@@ -6,29 +6,32 @@
 //     if (dialog.DoModal() == IDOK)
 //         m_crFill = CColorBtnST::s_colorTable[dialog.GetSelectedIndex()];
 //
-// A CColorBtnST has one of its own; few clients use the pop-up by itself. Its template is a resource of the library:
-// have the library's resources pushed around DoModal if MFC does not know the library as an extension module.
+// A CColorBtnST has one of its own; few clients use the pop-up by itself. Its template is a resource of the
+// library: have the library's resources pushed around DoModal if MFC does not know the library as an
+// extension module.
 //
-// Place. Left and top at the owner's left bottom corner; above the owner if it does not fit below it on the screen,
-// and moved left if it does not fit at the right. The screen is the primary one.
+// Place. Left and top at the owner's left bottom corner; above the owner if it does not fit below it on the
+// screen, and moved left if it does not fit at the right. The screen is the primary one.
 //
-// Mouse. The pop-up has the capture while it is open: a press outside cancels, a press on a cell chooses when it is
-// let go. It cancels as well when another window takes the capture or another application comes to the front.
+// Mouse. The pop-up has the capture while it is open: a press outside cancels, a press on a cell chooses
+// when it is let go. It cancels as well when another window takes the capture or another application comes
+// to the front.
 //
-// Keys. The cell of the initial colour has the focus in the beginning, or the first one if the palette does not have
-// that colour. Arrows move between the cells, and down to "Other..."; Tab goes from the cells to "Other..." and
-// back. Space and Enter choose, Escape cancels. A key that is still held from opening the pop-up does nothing.
+// Keys. The cell of the initial colour has the focus in the beginning, or the first one if the palette does
+// not have that colour. Arrows move between the cells, and down to "Other..."; Tab goes from the cells to
+// "Other..." and back. Space and Enter choose, Escape cancels. A key that is still held from opening the
+// pop-up does nothing.
 //
-// Palette. What is chosen becomes the most recently used colour. A colour of "Other..." that the palette does not
-// have replaces the least recently used one.
+// Palette. What is chosen becomes the most recently used colour. A colour of "Other..." that the palette
+// does not have replaces the least recently used one.
 
 #include "buttons/ColorBtnST.h"
 
 class OW_DIALOGCONTROLS_API CColorSelectDialog : public CDialog
 {
 public:
-    /// Neither pointer is owned; both are looked at when the pop-up opens, and may be null. Without an owner the
-    /// rectangle, in screen coordinates, takes its place, and without that the mouse pointer.
+    /// Neither pointer is owned; both are looked at when the pop-up opens, and may be null. Without an
+    /// owner the rectangle, in screen coordinates, takes its place, and without that the mouse pointer.
     explicit CColorSelectDialog(CWnd* pOwnerButton, const RECT* pAnchorRect = nullptr);
     ~CColorSelectDialog() override;
 
@@ -86,6 +89,6 @@ private:
 
     CPart m_parts[nParts]; ///< in reading order
     int m_nTabStop = 0;    ///< the cell that Tab goes to
-    bool m_bInUse =
-        false; ///< the pop-up is open, and no other dialog stands over it: mouse and keys are its own
+    /// The pop-up is open, and no other dialog stands over it: mouse and keys are its own.
+    bool m_bInUse = false;
 };

@@ -2,13 +2,8 @@
 
 #include "buttons/ColorSwatch.h"
 
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 #include "module/GdiScope.h"
-
-void gfnBecomePushButton(CButton& button)
-{
-    button.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
-}
 
 void gfnDrawColorFace(CDC& dc, const CRect& face, COLORREF cr, BOOL bDisabled)
 {
@@ -30,9 +25,4 @@ void gfnDrawSwatchBox(CDC& dc, const CRect& area, HGDIOBJ hPen, HGDIOBJ hBrush)
     const CGdiSelection pen(dc, hPen);
     const CGdiSelection brush(dc, hBrush);
     dc.Rectangle(area);
-}
-
-bool gfnHasWindow(const CWnd* pObject, HWND hWnd)
-{
-    return CWnd::FromHandlePermanent(hWnd) == pObject;
 }

@@ -2,6 +2,8 @@
 
 #include "buttons/DropMenu.h"
 
+#include "module/HasWindow.h"
+
 namespace
 {
 /// A key clicks when it goes down, and its character is still to come: the menu would take it for a choice.
@@ -12,7 +14,7 @@ void DropCharacterOfKey(HWND hWnd)
 }
 } // namespace
 
-void gfnTrackDropMenu(CButton& button, CMenu& menu)
+bool gfnTrackDropMenu(CButton& button, CMenu& menu)
 {
     const HWND hWnd = button.m_hWnd;
     button.SendMessage(WM_KILLFOCUS);
@@ -22,16 +24,22 @@ void gfnTrackDropMenu(CButton& button, CMenu& menu)
     button.ClientToScreen(&corner);
     DropCharacterOfKey(hWnd);
     menu.TrackPopupMenu(TPM_RIGHTBUTTON, corner.x, corner.y, &button);
+    if (!gfnHasWindow(&button, hWnd))
+        return false;
     // A menu that was closed without a choice leaves nothing behind that would show the focus again.
-    if (::IsWindow(hWnd) && ::GetFocus() == hWnd)
-        ::SendMessage(hWnd, WM_SETFOCUS, 0, 0);
+    if (::GetFocus() == hWnd)
+        button.SendMessage(WM_SETFOCUS);
+    return true;
 }
 
-// A handler may have closed the dialog.
-void gfnEndDropChoice(CButton& button)
+// The handler may have given the focus away, as a box does that inserts a text: the mark goes with it.
+bool gfnEndDropChoice(CButton& button, HWND hWnd)
 {
-    if (!button.m_hWnd)
-        return;
+    if (!gfnHasWindow(&button, hWnd))
+        return false;
     button.SendMessage(WM_SETFOCUS);
     button.GetParent()->Invalidate(FALSE);
+    if (::GetFocus() != hWnd)
+        button.SendMessage(WM_KILLFOCUS);
+    return true;
 }

@@ -2,6 +2,8 @@
 
 #include "buttons/ExtButton.h"
 
+#include "module/HasWindow.h"
+
 CExtButton::CExtButton() = default;
 
 CExtButton::CExtButton(AButtonSTNotificationHandler* pHandler) : m_pHandler(pHandler)
@@ -12,12 +14,13 @@ BEGIN_MESSAGE_MAP(CExtButton, CButton)
     ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClicked)
 END_MESSAGE_MAP()
 
-// False: the parent receives the command, too.
+// False: the parent receives the command, too, unless the handler has closed it.
 BOOL CExtButton::OnClicked()
 {
+    const HWND hWnd = m_hWnd;
     if (m_pHandler)
         m_pHandler->OnButtonClicked(GetDlgCtrlID());
-    return FALSE;
+    return !gfnHasWindow(this, hWnd);
 }
 
 void CExtButton::SetNotificationHandler(AButtonSTNotificationHandler* pHandler)

@@ -2,7 +2,7 @@
 
 #include "buttons/TextBtnST.h"
 
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 #include "buttons/DropMenu.h"
 
 namespace
@@ -28,15 +28,18 @@ CTextBtnST::CTextBtnST(ATextBtnSTNotificationHandler* pHandler) : m_pHandler(pHa
 }
 
 BEGIN_MESSAGE_MAP(CTextBtnST, CButtonST)
-    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClicked)
     ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
-void CTextBtnST::OnClicked()
+// False: the parent receives the command, too, unless it may have gone with the button.
+BOOL CTextBtnST::OnClicked()
 {
     CButtonST::OnClicked();
-    if (::GetMenuItemCount(m_menu) > 0) // -1 before there is a menu
-        gfnTrackDropMenu(*this, m_menu);
+    const std::shared_ptr<CMenu> pOpen = m_pMenu;
+    if (!pOpen || pOpen->GetMenuItemCount() == 0)
+        return FALSE;
+    return !gfnTrackDropMenu(*this, *pOpen);
 }
 
 void CTextBtnST::OnSysColorChange()
@@ -48,25 +51,21 @@ void CTextBtnST::OnSysColorChange()
 
 // ---- Messages outside the map -----------------------------------------------------------------------------
 
-// A template's type counts for nothing here: BS_OWNERDRAW would make a check box.
 void CTextBtnST::PreSubclassWindow()
 {
-    SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+    gfnBecomePushButton(*this);
     CButtonST::PreSubclassWindow();
 }
 
 BOOL CTextBtnST::OnCommand(WPARAM wParam, LPARAM lParam)
 {
+    const HWND hWnd = m_hWnd;
     const int nIndex = ChosenIndex(static_cast<UINT>(wParam));
     if (m_pnSource)
         *m_pnSource = nIndex;
     if (m_pHandler)
         m_pHandler->OnTextChosen(GetDlgCtrlID(), nIndex);
-    gfnEndDropChoice(*this);
-    // The handler may have given the focus away, as a box does that inserts the text: the mark goes with it.
-    if (GetFocus() != this)
-        SendMessage(WM_KILLFOCUS);
-    return CButtonST::OnCommand(wParam, lParam);
+    return gfnEndDropChoice(*this, hWnd) ? CButtonST::OnCommand(wParam, lParam) : TRUE;
 }
 
 // Wanted: commands below the first are not looked for, and give a negative index.
@@ -111,17 +110,18 @@ const CString& CTextBtnST::GetText(int nIndex) const
 
 void CTextBtnST::CreateTextMenu()
 {
-    m_menu.CreatePopupMenu();
+    m_pMenu = std::make_shared<CMenu>();
+    m_pMenu->CreatePopupMenu();
     for (int i = 0; i < TextCount(); ++i)
     {
         const CString strDescription = i < m_descriptions.GetSize() ? m_descriptions[i] : CString();
-        m_menu.AppendMenu(MF_STRING, kFirstCommand + i, MenuLabel(m_texts[i], strDescription));
+        m_pMenu->AppendMenu(MF_STRING, kFirstCommand + i, MenuLabel(m_texts[i], strDescription));
     }
 }
 
 void CTextBtnST::DeleteTextMenu()
 {
-    m_menu.DestroyMenu(); // answers that there is none, if so
+    m_pMenu.reset();
 }
 
 // ---- Drawing ----------------------------------------------------------------------------------------------

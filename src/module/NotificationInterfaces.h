@@ -14,7 +14,8 @@
 // - The control changes its own state first and calls then. The call is synchronous, on the dialog's thread.
 // - nId is the control id (GetDlgCtrlID), so one handler can serve many controls. A group gives itself instead.
 // - Handlers are not owned, are never deleted by a control, and must outlive it. No handler means silence.
-// - A handler may change the control. It must not destroy it.
+// - A handler may change the control. It must not destroy it, except that a button's handler may close the
+//   dialog.
 //
 // Interfaces with an A in front are pure. Those with a C have an empty default for every operation, and a control
 // of their families that was given no handler asks its parent window's class for the interface.

@@ -7,6 +7,7 @@
 
 #include "resource.h"
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -105,7 +106,13 @@ public:
     std::vector<std::string> calls;
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
-    void OnButtonClicked(int nId) override { calls.push_back("handler " + std::to_string(nId)); }
+    std::function<void()> then = [] {}; ///< at the end of the handler
+
+    void OnButtonClicked(int nId) override
+    {
+        calls.push_back("handler " + std::to_string(nId));
+        then();
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override

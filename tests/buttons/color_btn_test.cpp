@@ -14,6 +14,7 @@
 #include <afxdlgs.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 
 namespace
@@ -67,12 +68,14 @@ public:
     OpenAcadButton acad{this};
     DWORD color = RGB(255, 0, 0);
     int index = 30;
+    std::function<void()> then = [] {}; ///< at the end of the handlers
     std::vector<std::string> calls;
     std::vector<std::string> Take() { return std::exchange(calls, {}); }
 
     void OnColorChosen(int nId, int nColor) override
     {
         calls.push_back(std::to_string(nId) + ' ' + std::to_string(nColor));
+        then();
     }
     void OnAcadColorChosen(int nId, int nColor) override
     {
@@ -506,6 +509,13 @@ TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
     }
 }
 
+TEST_F(ColorPopup, TheHandlerMayCloseTheDialogWhichThenHearsNoMore)
+{
+    m_dialog.then = [&] { m_dialog.DestroyWindow(); };
+    Visit([](CWnd& popup) { owtest::Click(Part(popup, 4)); });
+    EXPECT_EQ(m_dialog.Take(), (Calls{"hook", "1001 " + std::to_string(0x800000)}));
+}
+
 TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
 {
     const auto use = [&](CWnd& popup)
@@ -525,31 +535,41 @@ TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
 
 // ---- The palette in the profile ---------------------------------------------------------------------------
 
-TEST(ColorProfile, KeepsThePaletteAndADamagedOneIsAsDelivered)
+TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
 {
     CWinApp& app = *AfxGetApp();
-    const auto colors = CColorBtnST::s_colorTable;
-    const auto ranks = CColorBtnST::s_colorRecency;
-    const auto loads = [&](LPCTSTR pszEntry, std::vector<BYTE> bytes)
+    auto& colors = CColorBtnST::s_colorTable;
+    auto& ranks = CColorBtnST::s_colorRecency;
+    const auto delivered = std::pair(colors, ranks);
+    const auto loads = [&](LPCTSTR pszEntry = nullptr, std::vector<BYTE> bytes = {})
     {
-        CColorBtnST::s_colorTable[3] = kNewColor;
-        std::swap(CColorBtnST::s_colorRecency[0], CColorBtnST::s_colorRecency[19]);
-        EXPECT_EQ(CColorBtnST::Store(), 1);
-        CColorBtnST::s_colorTable.fill(0);
-        if (pszEntry)
-            app.WriteProfileBinary(L"ColorData", pszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
-        const int nLoaded = CColorBtnST::Load();
-        EXPECT_EQ(CColorBtnST::s_colorTable[3], nLoaded ? kNewColor : colors[3]);
-        EXPECT_EQ(CColorBtnST::s_colorRecency[19], nLoaded ? 1 : 2);
         CColorBtnST::Reset();
-        EXPECT_TRUE(CColorBtnST::s_colorTable == colors && CColorBtnST::s_colorRecency == ranks);
-        return nLoaded;
+        EXPECT_TRUE(std::pair(colors, ranks) == delivered);
+        colors[3] = kNewColor;
+        std::swap(ranks[0], ranks[19]);
+        EXPECT_EQ(CColorBtnST::Store(), 1);
+        if (pszEntry && bytes.empty())
+            app.WriteProfileString(L"ColorData", pszEntry, nullptr);
+        else if (pszEntry)
+            app.WriteProfileBinary(L"ColorData", pszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
+        colors.fill(0);
+        ranks.fill(0);
+        return CColorBtnST::Load();
     };
-    EXPECT_EQ(loads(nullptr, {}), 1);
-    for (const size_t nBytes : {0, 79, 1000})
-        EXPECT_EQ(loads(L"ColorTable", std::vector<BYTE>(nBytes)), 0) << nBytes;
-    for (const size_t nBytes : {0, 19, 20, 21}) // 20, but not one rank each
-        EXPECT_EQ(loads(L"MRU", std::vector<BYTE>(nBytes, 20)), 0) << nBytes;
+    EXPECT_EQ(loads(), 1);
+    EXPECT_TRUE(colors[3] == kNewColor && ranks[19] == 1);
+    for (const LPCTSTR pszEntry : {L"ColorTable", L"MRU"})
+    {
+        EXPECT_EQ(loads(pszEntry), 0);
+        EXPECT_TRUE(std::pair(colors, ranks) == delivered) << "an entry is missing";
+    }
+    EXPECT_EQ(loads(L"ColorTable", {1, 2, 3, 0, 9}), 1);
+    EXPECT_TRUE(colors[0] == kNewColor && colors[1] == 9 && colors[2] == 0 && ranks[19] == 1);
+    EXPECT_EQ(loads(L"MRU", std::vector<BYTE>(30000, 7)), 1);
+    EXPECT_EQ(std::ranges::count(ranks, 7), std::ssize(ranks));
+    EXPECT_EQ(colors[3], kNewColor);
+    CColorBtnST::Reset();
+
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
     const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\folder\\x.ini");
     EXPECT_EQ(CColorBtnST::Store(), 0);

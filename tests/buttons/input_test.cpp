@@ -74,6 +74,17 @@ TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
     EXPECT_EQ(m_dialog.Take(), Calls{"dialog 1005"});
 }
 
+TEST_F(ButtonInput, TheHandlerMayCloseTheDialogWhichThenHearsNoMore)
+{
+    m_dialog.then = [&] { m_dialog.DestroyWindow(); };
+    for (const int nId : {IDC_PUSH, IDC_EXT})
+    {
+        owtest::Click(*m_dialog.GetDlgItem(nId));
+        EXPECT_EQ(m_dialog.Take(), Calls{"handler " + std::to_string(nId)});
+        ASSERT_TRUE(m_dialog.Create(IDD_BUTTONS) && owtest::Activate(m_dialog));
+    }
+}
+
 TEST_F(ButtonInput, FastClicksAreAllClicks)
 {
     for (int i = 0; i < 4; ++i)

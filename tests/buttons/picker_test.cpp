@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <climits>
+#include <functional>
 #include <memory>
 
 using owtest::MenuVisit;
@@ -68,8 +69,8 @@ public:
     Open<CBitmapBtnSTSrafura> hatch{this};
     CBitmapBtnSTTekstKote text{this};
     int values[3] = {1, 1, 1};
-    bool closes = false;
-    int clicks = 0; ///< that reached the dialog
+    std::function<void()> then = [] {}; ///< at the end of the handler
+    int clicks = 0;                     ///< that reached the dialog
 
     Choices Take() { return std::exchange(m_choices, {}); }
 
@@ -78,8 +79,8 @@ protected:
     {
         EXPECT_EQ(values[nId - kFirst], nIndex) << "the value is stored first";
         m_choices.emplace_back(nId, nIndex);
-        if (closes)
-            DestroyWindow();
+        const auto last = then; // which may be the end of this dialog
+        last();
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
@@ -142,6 +143,9 @@ TEST(PickerInput, TheMouseChoosesAndAChosenPictureMayBeChosenAgain)
         owtest::Click(dialog.ends);
         EXPECT_EQ(dialog.Take(), (Choices{{kFirst, 20}}));
     }
+    dialog.then = [&] { dialog.text.SetFocus(); };
+    Pick(dialog.ends, {VK_DOWN, VK_RETURN});
+    EXPECT_FALSE(dialog.ends.GetState() & BST_FOCUS) << "the mark follows a handler that moves the focus";
 }
 
 TEST(PickerInput, PickersStandSideBySideWithTheSameMenuIdsOrOthers)
@@ -173,9 +177,13 @@ TEST(PickerInput, TheDialogMayGoInTheHandlerAndWhileTheMenuIsOpen)
     owtest::Click(pDialog->ends);
     EXPECT_EQ(visit.Count(), 1);
     owtest::Activate(other);
-    other.closes = true;
+    other.then = [&] { other.DestroyWindow(); };
     Pick(other.ends, {VK_DOWN, VK_RETURN});
     EXPECT_EQ(other.Take(), (Choices{{kFirst, 0}}));
+    pDialog = std::make_unique<PickersDialog>();
+    pDialog->then = [&] { pDialog.reset(); };
+    Pick(pDialog->hatch, {VK_DOWN, VK_RETURN});
+    EXPECT_FALSE(pDialog);
 }
 
 TEST(PickerInput, GivesBackWhatItTook)

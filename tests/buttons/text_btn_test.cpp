@@ -33,7 +33,7 @@ OCArray<CString> Texts(std::initializer_list<LPCWSTR> texts)
     return array;
 }
 
-/// Writes down "chosen 1001: 2 (2)", the bound variable in brackets, and the clicks that come through to it.
+/// Writes down "chosen 1001: 2 (2)", the bound variable in brackets, and the clicks that go to it.
 class TextButtonDialog : public CDialog, public ATextBtnSTNotificationHandler
 {
 public:
@@ -59,7 +59,8 @@ protected:
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
-        calls.push_back("dialog");
+        if (nCode == BN_CLICKED && !pHandlerInfo)
+            calls.push_back("dialog " + std::to_string(nID));
         return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
 };
@@ -77,7 +78,7 @@ protected:
     }
     void TearDown() override { m_dialog.DestroyWindow(); }
 
-    /// Opens the menu by a key, or by a click, works on it, and answers what was told meanwhile.
+    /// Opens the menu by a key, or by a click, works on it, and answers what was told after the click.
     Calls Visit(const std::function<void(const owtest::OpenMenu&)>& visitor, WORD opener = 0)
     {
         owtest::MenuVisit visit(visitor);
@@ -86,7 +87,10 @@ protected:
         else
             owtest::Click(m_button);
         EXPECT_EQ(visit.Count(), 1);
-        return m_dialog.Take();
+        Calls calls = m_dialog.Take();
+        EXPECT_EQ(calls.at(0), "dialog 1001");
+        calls.erase(calls.begin());
+        return calls;
     }
     Calls VisitAndPress(std::initializer_list<WORD> keys, WORD opener = 0)
     {
@@ -143,9 +147,10 @@ TEST_F(TextButton, AChoiceIsStoredAndThenTold)
         EXPECT_FALSE(ShowsFocus()) << "while the menu has the keys";
         menu.Click(1);
     };
-    EXPECT_EQ(Visit(clickSecond), Calls{"chosen 1001: 1 (1)"}) << "and the dialog hears of no click";
+    EXPECT_EQ(Visit(clickSecond), Calls{"chosen 1001: 1 (1)"});
     EXPECT_EQ(menuRect.TopLeft(), CPoint(rect.right + 1, rect.top));
     EXPECT_TRUE(ShowsFocus());
+    owtest::MoveTo(m_dialog, CPoint(1, 1)); // or a menu opens under it
     EXPECT_EQ(VisitAndPress({VK_DOWN, VK_RETURN}, VK_SPACE), Calls{"chosen 1001: 0 (0)"});
     EXPECT_EQ(VisitAndPress({VK_UP, VK_RETURN}, VK_RETURN), Calls{"chosen 1001: 2 (2)"});
     EXPECT_EQ(VisitAndPress({VK_UP, VK_RETURN}), Calls{"chosen 1001: 2 (2)"}) << "the same once more";
@@ -157,6 +162,19 @@ TEST_F(TextButton, AChoiceIsStoredAndThenTold)
     m_dialog.then = [&] { m_dialog.GetDlgItem(IDC_OTHER)->SetFocus(); };
     EXPECT_EQ(VisitAndPress({VK_DOWN, VK_RETURN}), Calls{"chosen 1001: 0 (2)"});
     EXPECT_FALSE(ShowsFocus()) << "the mark follows a handler that moves the focus";
+}
+
+TEST_F(TextButton, AnOpenMenuStaysWhenColoursOrTextsChange)
+{
+    const auto change = [&](const owtest::OpenMenu& menu)
+    {
+        m_button.SendMessage(WM_SYSCOLORCHANGE);
+        m_button.SetTexts(Texts({L"%i"}));
+        EXPECT_EQ(menu.Labels().size(), 3u);
+        menu.Press({VK_DOWN, VK_RETURN});
+    };
+    EXPECT_EQ(Visit(change), Calls{"chosen 1001: 0 (0)"});
+    EXPECT_EQ(ShownLabels(), Labels{L"%i"}) << "from the next time on";
 }
 
 TEST_F(TextButton, EveryCommandCountsAsAChoice)
@@ -188,6 +206,8 @@ TEST_F(TextButton, WithNothingToOfferAClickOnlyTakesTheFocus)
     owtest::Click(m_button);
     EXPECT_EQ(visit.Count(), 0);
     EXPECT_TRUE(ShowsFocus());
+    const std::string empty = "dialog " + std::to_string(IDC_OWNER_DRAWN);
+    EXPECT_EQ(m_dialog.Take(), (Calls{empty, empty, "dialog 1001"})) << "the dialog hears of clicks";
 }
 
 TEST_F(TextButton, GivesBackItsMenus)

@@ -1,6 +1,6 @@
 #include <afxwin.h>
 
-#include "buttons/DropFace.h"
+#include "buttons/DropButton.h"
 
 #include "module/GdiScope.h"
 
@@ -15,6 +15,11 @@ void DrawRow(CDC& dc, int fromX, int toX, int y)
     dc.LineTo(toX, y);
 }
 } // namespace
+
+void gfnBecomePushButton(CButton& button)
+{
+    button.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+}
 
 CRect gfnDropFace(const CRect& rect, BOOL bPressed)
 {

@@ -1,5 +1,6 @@
 #pragma once
-// The face that all buttons with a drop-down arrow share: a picture or a swatch at the left, the arrow at the right.
+// What all buttons with a drop-down arrow share: they are push buttons, and their face has a picture or a
+// swatch at the left and the arrow at the right.
 //
 //     CButtonST::OnDrawBackground(pDC, rect);
 //     const CRect face = gfnDropFace(rect, m_bIsPressed);
@@ -13,8 +14,14 @@
 //     |  +--------------------------+  \_/  |   stands 8 pixels from the right, half-way down
 //     |                               5     |
 //     +-------------------------------------+
+//
+// Private to the library.
 
 #include <afxwin.h>
+
+/// To be called before CButtonST looks at the control: whatever button the template has there becomes a push
+/// button. CButtonST takes owner-drawn ones for check boxes.
+void gfnBecomePushButton(CButton& button);
 
 /// What is left of the button's rectangle for picture and arrow; moved by one pixel while pressed.
 CRect gfnDropFace(const CRect& rect, BOOL bPressed);
