@@ -87,9 +87,11 @@ void CEditN::OnDestroy()
     CEdit::OnDestroy();
 }
 
+// The I-beam is wanted over the whole of a box that can be typed into, its border included. A read-only one keeps it
+// off its text.
 BOOL CEditN::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
-    if (nHitTest != HTCLIENT)
+    if (IsReadOnly() && nHitTest != HTCLIENT)
         return CEdit::OnSetCursor(pWnd, nHitTest, message);
     ::SetCursor(::LoadCursor(nullptr, IsReadOnly() ? IDC_ARROW : IDC_IBEAM));
     return TRUE;

@@ -4,6 +4,8 @@
 
 #include "ModalVisit.h"
 
+#include <tuple>
+
 namespace
 {
 class EditBox : public Edits
@@ -80,12 +82,14 @@ TEST_F(EditBox, ATextThatTheProgramSetsIsSilentOnlyIfSetTheSafeWay)
 
 TEST_F(EditBox, ShowsTheIBeamUnlessItIsReadOnly)
 {
-    for (CEditN* pBox : {&box, &m_dialog.readOnly})
+    const std::tuple<CEditN*, int, LPCTSTR> cases[] = {
+        {&box, HTCLIENT, IDC_IBEAM}, {&box, HTBORDER, IDC_IBEAM}, {&m_dialog.readOnly, HTCLIENT, IDC_ARROW}};
+    for (const auto& [pBox, nHitTest, pszCursor] : cases)
     {
         ::SetCursor(nullptr);
         EXPECT_TRUE(pBox->SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(pBox->m_hWnd),
-                                      MAKELPARAM(HTCLIENT, WM_MOUSEMOVE)));
-        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pBox->IsReadOnly() ? IDC_ARROW : IDC_IBEAM));
+                                      MAKELPARAM(nHitTest, WM_MOUSEMOVE)));
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pszCursor)) << nHitTest;
     }
     EXPECT_TRUE(m_dialog.readOnly.IsReadOnly());
 }
