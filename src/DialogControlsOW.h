@@ -1,5 +1,5 @@
 #pragma once
-// Every public header of the library. A client includes MFC first and then this one.
+// Every public header of the library. Each includes what it needs, MFC among it, and may be included alone.
 
 #include "DlgPage/Page.h"
 #include "DlgPage/PageComboButtonSTCtrlGroup.h"

@@ -17,6 +17,8 @@
 // members by then, or SetStateIcons gives others. The button shows them from the first selection by code or
 // click on; until then it is as the template has it.
 
+#include <afxwin.h>
+
 #include "DlgPage/PageComboCtrlGroup.h"
 #include "buttons/ButtonST.h"
 

@@ -11,6 +11,8 @@
 // How to wire it, and what it asks of pages and controls: PageComboCtrlGroup.h. In the dialog template the
 // check box is a BS_AUTOCHECKBOX: the group reads its state and leaves the change to it.
 
+#include <afxwin.h>
+
 #include "DlgPage/PageComboCtrlGroup.h"
 #include "buttons/ExtButton.h"
 

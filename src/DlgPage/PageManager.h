@@ -25,8 +25,8 @@
 //
 // Misuse (a null page or dialog, a parent that was not added) is a failed assertion that ends the process.
 
-#include <afxtempl.h>
 #include <afxwin.h>
+#include <afxtempl.h>
 
 #include "DlgPage/ClientList.h"
 #include "DlgPage/Page.h"

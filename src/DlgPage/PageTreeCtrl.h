@@ -16,6 +16,7 @@
 // Limit. An item carries its page in a word of 32 bits, so every page added must lie below 4 GiB. Pages made
 // by `new` do; see Page.h. What GetCurrentPage and the clients are given for any other page is not that page.
 
+#include <afxwin.h>
 #include <afxcmn.h>
 #include <afxtempl.h>
 

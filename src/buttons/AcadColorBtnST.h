@@ -42,6 +42,8 @@
 // gone when it closes, nobody is told and nothing is written. The parent does not receive the click, as it
 // does from CButtonST.
 
+#include <afxwin.h>
+
 #include "buttons/ButtonST.h"
 
 class OW_DIALOGCONTROLS_API CAcadColorBtnST : public CButtonST

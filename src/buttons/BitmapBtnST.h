@@ -59,6 +59,8 @@
 // picture that did not load is a null handle: it has an empty place in the menu, which can be chosen, and
 // leaves the button empty.
 
+#include <afxwin.h>
+
 #include "buttons/ButtonST.h"
 
 #include <vector>

@@ -29,6 +29,8 @@
 //                                     system says so of windows without WS_EX_NOPARENTNOTIFY; the controls of
 //                                     a dialog template have it.
 
+#include <afxwin.h>
+
 #include "buttons/ButtonReflection.h"
 #include "module/Export.h"
 

@@ -39,6 +39,8 @@
 //     BOOL CAddOnApp::InitInstance() { ...; CColorBtnST::Load(); ... }
 //     int CAddOnApp::ExitInstance() { CColorBtnST::Store(); ... }
 
+#include <afxwin.h>
+
 #include "buttons/ButtonST.h"
 
 #include <array>

@@ -25,6 +25,8 @@
 // Palette. What is chosen becomes the most recently used colour. A colour of "Other..." that the palette
 // does not have replaces the least recently used one.
 
+#include <afxwin.h>
+
 #include "buttons/ColorBtnST.h"
 
 class OW_DIALOGCONTROLS_API CColorSelectDialog : public CDialog

@@ -41,6 +41,8 @@
 // With WS_EX_TRANSPARENT the text has no ground and wipes nothing: the parent erases before a new text is
 // set.
 
+#include <afxwin.h>
+
 #include "buttons/ExtButton.h"
 
 class OW_DIALOGCONTROLS_API CMixedFontButton : public CExtButton

@@ -37,6 +37,8 @@
 // Look. The title stands in the middle as in every CButtonST, the arrow at the right; there is no check
 // box. A transparent button has no arrow, as it has no face.
 
+#include <afxwin.h>
+
 #include "buttons/ButtonST.h"
 #include "module/OCArray.h"
 

@@ -14,7 +14,7 @@
 //
 // One object serves the process: CButtonST::pLocalTheme.
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <uxtheme.h>
 

@@ -10,6 +10,8 @@
 // anew. While it is edited its editor stands under a CEditCtrlAnsiMsgHook, which gives it the font. Nothing
 // that the user types is lost by that, however long.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 #include "edits/EditCtrlAnsiMsgHook.h"
 

@@ -5,6 +5,8 @@
 // A cell that inherits everything holds nothing but its text; a font description is allocated only for a cell
 // that was given one.
 
+#include <afxwin.h>
+
 #include "cells/GridCellBase.h"
 
 class CInPlaceEditor;

@@ -15,6 +15,8 @@
 // A click into the box flips it, in a cell that is read-only and in a grid that is not editable, too. A click
 // beside it edits the text as in any cell.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 /// WM_NOTIFY to the owner of the grid, or its parent: a click has flipped the box of the grid's focus cell,

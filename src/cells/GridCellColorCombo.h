@@ -13,6 +13,8 @@
 // the host's colour dialog, in a grid that is not editable, too; the choice shows at once and is not
 // notified: whoever needs the colour asks for it.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CGridCellColorCombo : public CGridCell

@@ -13,6 +13,7 @@
 // The style is CBS_DROPDOWN: the user may type what the list lacks. A derived class may set m_dwStyle to
 // CBS_DROPDOWNLIST; such a cell can only be chosen from, and its list opens as the edit begins.
 
+#include <afxwin.h>
 #include <afxcoll.h>
 
 #include "cells/GridCell.h"

@@ -16,6 +16,8 @@
 //
 // Rectangles hold their last pixel, except where a step says otherwise.
 
+#include <afxwin.h>
+
 #include "cells/GridCellBase.h"
 
 class OW_DIALOGCONTROLS_API CGridCellPainter

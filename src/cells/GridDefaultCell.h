@@ -2,6 +2,8 @@
 // What cells inherit: font, format, colours, margin and the size of a new row or column. A grid holds four of
 // these, one for each kind of place; see CGridCtrl::GetDefaultCell.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CGridDefaultCell : public CGridCell

@@ -14,6 +14,8 @@
 // that a plain cell gives it: right of where an image at the left edge would end. So use a text with images
 // on the left.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CImageGridCell : public CGridCell

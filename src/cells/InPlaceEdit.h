@@ -7,6 +7,8 @@
 // and never delete it. An edit that a mouse click began keeps the arrow keys for the caret, unless Ctrl is
 // held.
 
+#include <afxwin.h>
+
 #include "cells/InPlaceEditor.h"
 
 class OW_DIALOGCONTROLS_API CInPlaceEdit : public CEdit, public CInPlaceEditor

@@ -6,6 +6,7 @@
 // of the key that has opened it; on a choice from the list; and on the loss of the focus. With
 // CBS_DROPDOWNLIST the list opens at once and a text that it lacks is lost.
 
+#include <afxwin.h>
 #include <afxcoll.h>
 
 #include "cells/ComboEdit.h"

@@ -28,6 +28,8 @@
 //
 // A font given to the cell is dropped: all cells of a column of numbers look alike.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class CComplexUnit;

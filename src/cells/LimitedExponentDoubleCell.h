@@ -9,6 +9,8 @@
 // Like CLimitedDoubleCell, whose units, bounds and failures it has, but for two things: the user may type an
 // exponent, with E or e, and there are always four decimals, whatever SetBrojDecimala says.
 
+#include <afxwin.h>
+
 #include "cells/LimitedDoubleCell.h"
 
 class OW_DIALOGCONTROLS_API CLimitedExponentDoubleCell : public CLimitedDoubleCell

@@ -14,6 +14,8 @@
 // The bounds bind the user only: Set takes any number. Neither can be taken away again. A text given by
 // SetItemText is shown and leaves the value alone. A font given to the cell is dropped.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CLimitedIntCell : public CGridCell

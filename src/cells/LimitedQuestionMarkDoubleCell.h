@@ -13,6 +13,8 @@
 // means -1, whatever stands behind the mark, and in front of it if that could stand in a number. A typed -5
 // shows as a question mark and stays -5. The bounds of this cell are never looked at.
 
+#include <afxwin.h>
+
 #include "cells/LimitedDoubleCell.h"
 
 class OW_DIALOGCONTROLS_API CLimitedQuestionMarkDoubleCell : public CLimitedDoubleCell

@@ -7,6 +7,8 @@
 // The cell only keeps the length: it takes whatever the user types, an empty text, too, and whoever needs the
 // limit checks it, in LVN_ENDLABELEDITW for instance. A font given to the cell is dropped.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CLimitedTextCell : public CGridCell

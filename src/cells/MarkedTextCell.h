@@ -7,6 +7,8 @@
 // The star is only painted. GetText, measuring and editing know the plain text; while a marked cell is
 // painted, its text is set with the star and set back.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CMarkedTextCell : public CGridCell

@@ -12,6 +12,8 @@
 //
 // The user edits the text with its marks in it.
 
+#include <afxwin.h>
+
 #include "cells/GridCell.h"
 
 class OW_DIALOGCONTROLS_API CMixedFontGridCell : public CGridCell

@@ -16,6 +16,8 @@
 //
 // Edited like a CAnsiGridCell, by gOtSubLang.
 
+#include <afxwin.h>
+
 #include "cells/AnsiGridCell.h"
 
 class OW_DIALOGCONTROLS_API CPatternBkgndGridCell : public CAnsiGridCell

@@ -14,6 +14,9 @@
 // Language. The caption is shown as given; with an empty one it is "Snimi". That and the buttons are shown
 // through gOtLang; the names are not translated.
 
+#include <afxwin.h>
+#include <afxcoll.h>
+
 #include "dialogs/NazivDlgBase.h"
 
 /// To be opened by gfnStartNazivComboDlg, which makes the library's resources current.

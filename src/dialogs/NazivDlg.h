@@ -12,6 +12,8 @@
 // Language. The caption is shown as given; with an empty one it is "Naziv". That and the buttons are shown
 // through gOtLang.
 
+#include <afxwin.h>
+
 #include "dialogs/NazivDlgBase.h"
 
 /// To be opened by gfnStartNazivDlg, which makes the library's resources current.

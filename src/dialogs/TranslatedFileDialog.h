@@ -24,6 +24,7 @@
 //
 // All pointers may be null.
 
+#include <afxwin.h>
 #include <afxdlgs.h>
 
 #include "module/Export.h"

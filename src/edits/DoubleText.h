@@ -5,8 +5,8 @@
 //     double dForce = 0.0;
 //     gfnParseDouble(L"12.5 kN", dForce);                                    // true, 12.5
 //
-// The decimal sign is a point, whatever the locale of the process. Texts are bounded: however large the number and however many the decimals, no
-// text is longer than c_nDoubleTextSize - 1 characters.
+// The decimal sign is a point, whatever the locale of the process. Texts are bounded: however large the number and
+// however many the decimals, no text is longer than c_nDoubleTextSize - 1 characters.
 
 #include <afxwin.h>
 

@@ -43,6 +43,9 @@
 // The forcing argument of the setters does their work, the writing of the text included, where nothing
 // changes, too.
 
+#include <afxwin.h>
+#include <afxcmn.h>
+
 #include <ComplexUnit.h>
 
 #include "edits/ChildControlId.h"

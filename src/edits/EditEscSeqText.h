@@ -31,6 +31,8 @@
 // Values. Every text is one, unless a subclass says otherwise in IsTextValid. A typed text that it refuses
 // is not stored, and vanishes when the user leaves the box.
 
+#include <afxwin.h>
+
 #include "buttons/TextBtnST.h"
 #include "edits/EditWithValidation.h"
 

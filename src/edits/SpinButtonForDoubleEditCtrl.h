@@ -2,6 +2,7 @@
 // The spin control of a CEditDoubleWithRange. It hands each press to the box that is its buddy, which does
 // the rest.
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 #include "module/Export.h"

@@ -50,6 +50,8 @@
 //
 // A row past the end is ignored.
 
+#include <afxwin.h>
+
 #include <memory>
 
 #include "grid/GridCtrl.h"

@@ -58,6 +58,8 @@
 //
 // A cell past the last row or column is ignored.
 
+#include <afxwin.h>
+
 #include <memory>
 
 #include "grid/GridCtrl.h"

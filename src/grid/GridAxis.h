@@ -16,6 +16,7 @@
 // the sizes one after the other, or adding items at the front, does not sum up all the others each time.
 
 #include <afxcoll.h>
+#include <afxtempl.h>
 
 #include <climits>
 

@@ -102,8 +102,10 @@
 //
 // Everything runs on the thread of the window.
 
+#include <afxwin.h>
 #include <afxcmn.h>
 #include <afxcoll.h>
+#include <afxtempl.h>
 
 #include <ComplexUnit.h>
 

@@ -6,6 +6,8 @@
 // 65535 is looked up under the same key in every operation. Asking, adding and removing take constant time,
 // whatever is selected.
 
+#include <afxwin.h>
+
 #include "grid/GridTypes.h"
 
 #include <unordered_map>

@@ -30,6 +30,8 @@
 // Without a set the combo box has "Default" alone, and the buttons do nothing. Set and handler are not owned,
 // and must outlive the group. Texts are shown through gOtLang.
 
+#include <afxwin.h>
+
 #include "buttons/ButtonST.h"
 #include "combos/ExtComboBox.h"
 #include "groups/ConfigSet.h"

@@ -16,6 +16,7 @@
 // calls what.
 
 #include <afxwin.h>
+#include <afxcoll.h>
 
 class AConfigSet
 {

@@ -40,6 +40,8 @@
 // How many. A group holds a CAcadColorBtnST, and so takes an id of ResourceIdPool for good, and two more while it
 // lives. Keep the dialog object or the group, and let it open again; see AcadColorBtnST.h.
 
+#include <afxwin.h>
+
 #include <epgFont.h>
 
 #include "buttons/AcadColorBtnST.h"

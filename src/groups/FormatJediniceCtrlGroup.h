@@ -40,6 +40,8 @@
 // record by SetFormatSource(nullptr). Without the controls' windows, before the dialog is there or after it,
 // operations on the controls do nothing, and records stay as they are.
 
+#include <afxwin.h>
+
 #include <FormatJedinice.h>
 
 #include "buttons/ExtButton.h"

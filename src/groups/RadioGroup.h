@@ -40,6 +40,7 @@
 // A copy has the same dialog, handler and ids. It shows and changes the same buttons, and hears no clicks.
 
 #include <afxwin.h>
+#include <afxtempl.h>
 
 #include "buttons/ExtButton.h"
 #include "module/Export.h"

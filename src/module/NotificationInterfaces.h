@@ -20,7 +20,7 @@
 // Interfaces with an A in front are pure. Those with a C have an empty default for every operation, and a control
 // of their families that was given no handler asks its parent window's class for the interface.
 
-#include <windows.h>
+#include <afxwin.h>
 
 #include <FontManager.h>
 
