@@ -4,6 +4,7 @@
 
 #include "Bench.h"
 #include "module/GdiScope.h"
+#include "module/MemorySurface.h"
 
 #include <string>
 #include <vector>
@@ -64,7 +65,7 @@ static void MeasurePaint(Comparison& compare, const Benchmark::Measure& measure,
 {
     const CRect rectCell(0, 0, 200, 18);
     CClientDC screen(nullptr);
-    CMemorySurface surface;
+    ow::CMemorySurface surface;
     surface.Create(screen, CSize(210, 30));
     CColumn ours(RUNTIME_CLASS(Cell), kPainted);
     CColumn plain(RUNTIME_CLASS(CGridCell), kPainted);

@@ -1,5 +1,6 @@
 #pragma once
 // Every public header of the library. Each includes what it needs, MFC among it, and may be included alone.
+// What stands in the namespace ow is the library's own.
 
 #include "DlgPage/Page.h"
 #include "DlgPage/PageComboButtonSTCtrlGroup.h"
@@ -41,7 +42,6 @@
 #include "cells/LimitedTextCell.h"
 #include "cells/MarkedTextCell.h"
 #include "cells/MixedFontGridCell.h"
-#include "cells/NumberLimits.h"
 #include "cells/PatternBkgndGridCell.h"
 #include "combos/ComboBoxReflected.h"
 #include "combos/ExtComboBox.h"

@@ -2,6 +2,9 @@
 
 #include "DrawingPreview.h"
 
+#include "module/GdiScope.h"
+#include "module/MemorySurface.h"
+
 #include <algorithm>
 
 namespace
@@ -218,7 +221,7 @@ void CDrawingPreview::OnPaint()
     CPaintDC dc(this);
     CRect room;
     GetClientRect(room);
-    CMemorySurface surface;
+    ow::CMemorySurface surface;
     if (!surface.Create(dc, room.Size()))
         return;
     const CGdiSelection font(surface.DC(), GetFont()->m_hObject);

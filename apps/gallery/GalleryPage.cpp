@@ -2,6 +2,8 @@
 
 #include "GalleryPage.h"
 
+#include "module/MemorySurface.h"
+
 void CGalleryPage::Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...)
 {
     va_list arguments;
@@ -32,7 +34,7 @@ void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc,
 {
     CDC& dc = *CDC::FromHandle(item.hDC);
     const CRect area(item.rcItem);
-    CMemorySurface surface;
+    ow::CMemorySurface surface;
     if (!surface.Create(dc, area.Size()))
         return;
     paint(surface.DC(), CRect(CPoint(0, 0), area.Size()));

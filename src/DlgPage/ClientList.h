@@ -3,6 +3,8 @@
 
 #include <afxtempl.h>
 
+namespace ow
+{
 /// Clients in the order in which they were registered; not owned.
 template <class Client>
 using CClientList = CArray<Client*, Client*>;
@@ -30,3 +32,4 @@ void RegisterClient(CClientList<Client>& clients, Client* pClient, bool bRegiste
     if (const INT_PTR i = IndexOf(clients, pClient); i > 0)
         clients.RemoveAt(i);
 }
+} // namespace ow

@@ -4,6 +4,8 @@
 
 #include "DlgPage/Page.h"
 
+using namespace ow;
+
 CPageComboCtrlGroup::CPageComboCtrlGroup(int nComboId, int nToggleId)
     : comboId(nComboId), toggleId(nToggleId), combo(this)
 {

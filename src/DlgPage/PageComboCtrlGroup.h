@@ -100,8 +100,8 @@ private:
     int comboId;
     int toggleId;
     CExtComboBox combo;
-    CClientList<ASelectPageNotificationClient> selectClients;
-    CPageComboRows rows;
+    ow::CClientList<ASelectPageNotificationClient> selectClients;
+    ow::CPageComboRows rows;
     int currentRow = -1;      ///< as last told to the clients
     int currentSecondary = 0; ///< the toggle's state, as last told by a click or by SetCurrentPage
 };

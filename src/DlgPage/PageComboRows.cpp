@@ -4,6 +4,8 @@
 
 #include "DlgPage/Page.h"
 
+using namespace ow;
+
 void CPageComboRows::AddPrimary(CPage* pPage, int nRow)
 {
     primaryOfRow.Add(Add(pPage, nullptr, nRow, 1));

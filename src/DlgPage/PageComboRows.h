@@ -6,6 +6,8 @@
 
 class CPage;
 
+namespace ow
+{
 class CPageComboRows
 {
 public:
@@ -42,3 +44,4 @@ private:
     IntArray primaryOfRow;   ///< index of a page
     IntArray secondaryOfRow; ///< index of a page; -1 for none
 };
+} // namespace ow

@@ -5,6 +5,8 @@
 #include "DlgPage/PageDialog.h"
 #include "module/AssertReport.h"
 
+using namespace ow;
+
 namespace
 {
 constexpr char kSource[] = ".\\DlgPage\\PageManager";

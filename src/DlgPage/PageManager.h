@@ -77,7 +77,7 @@ private:
     CArray<CPageDialog*, CPageDialog*> dialogs; ///< owned
     CArray<CPage*, CPage*> pages;               ///< owned
     CArray<CPage*, CPage*> parents;             ///< for each page its parent, or null
-    CClientList<AAddPageNotificationClient> addPageClients;
-    CClientList<AAttributeChangeNotificationClient> attributeClients;
+    ow::CClientList<AAddPageNotificationClient> addPageClients;
+    ow::CClientList<AAttributeChangeNotificationClient> attributeClients;
     CDialog* hostDialog; ///< not owned
 };

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+using namespace ow;
+
 IMPLEMENT_DYNCREATE(CPageTreeCtrl, CTreeCtrl)
 
 CPageTreeCtrl::CPageTreeCtrl() = default;

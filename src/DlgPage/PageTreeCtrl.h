@@ -63,5 +63,5 @@ protected:
 
 private:
     CMap<CPage*, CPage*, HTREEITEM, HTREEITEM> pageToItem; ///< the complete record, with the whole pointers
-    CClientList<ASelectPageNotificationClient> selectClients;
+    ow::CClientList<ASelectPageNotificationClient> selectClients;
 };

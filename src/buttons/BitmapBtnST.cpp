@@ -4,6 +4,7 @@
 
 #include "buttons/DropButton.h"
 #include "buttons/DropMenu.h"
+#include "module/GdiScope.h"
 #include "module/HostResourceScope.h"
 
 #include <span>

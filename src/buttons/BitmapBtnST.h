@@ -115,13 +115,16 @@ private:
     bool m_bMenuIsStale = false; ///< colours have changed while it was open
 };
 
+namespace ow
+{
 /// The pictures of one class. A handle is null where the resource did not load.
 template <int Count>
-struct OwPictureTable
+struct PictureTable
 {
     HBITMAP handles[Count] = {};
     bool loaded = false;
 };
+} // namespace ow
 
 // What each class of the family declares.
 #define OW_DECLARE_PICTURES(Count)                                                                           \
@@ -130,7 +133,7 @@ public:                                                                         
                                                                                                              \
     static void LoadBitmaps(HINSTANCE hInstance);                                                            \
     static void UnloadBitmaps();                                                                             \
-    static OwPictureTable<Count> s_pictures;                                                                 \
+    static ow::PictureTable<Count> s_pictures;                                                               \
                                                                                                              \
     HBITMAP GetBitmap(int index) const override;                                                             \
     int BitmapCount() const override;

@@ -34,7 +34,7 @@
 #include "buttons/ButtonReflection.h"
 #include "module/Export.h"
 
-class OW_DIALOGCONTROLS_API CButtonReflected : public CButtonReflection<CButton>
+class OW_DIALOGCONTROLS_API CButtonReflected : public ow::CButtonReflection<CButton>
 {
 public:
     CButtonReflected();

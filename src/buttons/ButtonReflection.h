@@ -7,6 +7,8 @@
 #include "module/NotificationHandler.h"
 #include "module/NotificationInterfaces.h"
 
+namespace ow
+{
 template <class Base>
 class CButtonReflection : public Base
 {
@@ -85,3 +87,4 @@ CButtonReflectedNotificationHandler* CButtonReflection<Base>::GetSafeNotificatio
 {
     return GetNotificationHandler();
 }
+} // namespace ow

@@ -52,7 +52,7 @@ CRect RectInParent(const CWnd& window)
 }
 
 /// Makes the surface anew, with what the parent's context shows in the place of the window.
-void CopyBehind(const CWnd& window, CDC& dcParent, CMemorySurface& surface)
+void CopyBehind(const CWnd& window, CDC& dcParent, ow::CMemorySurface& surface)
 {
     CRect rectClient;
     window.GetClientRect(rectClient);

@@ -78,7 +78,7 @@
 
 #include "buttons/ButtonSTIcons.h"
 #include "module/Export.h"
-#include "module/GdiScope.h"
+#include "module/MemorySurface.h"
 #include "module/NotificationInterfaces.h"
 
 class CThemeHelperST;
@@ -345,7 +345,7 @@ protected:
     // Images: [0] "in", [1] "out"
     ButtonIcon m_icons[2];
     ButtonBitmap m_bitmaps[2];
-    CMemorySurface m_background; ///< what lies behind a transparent button
+    ow::CMemorySurface m_background; ///< what lies behind a transparent button
 
 private:
     void Repaint();

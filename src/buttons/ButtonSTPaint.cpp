@@ -6,6 +6,7 @@
 
 #include "buttons/ButtonSTImages.h"
 #include "buttons/ThemeHelperST.h"
+#include "module/GdiScope.h"
 
 #include <vsstyle.h>
 

@@ -20,7 +20,7 @@
 #include "buttons/ButtonST.h"
 #include "module/Export.h"
 
-class OW_DIALOGCONTROLS_API CButtonSTReflected : public CButtonReflection<CButtonST>
+class OW_DIALOGCONTROLS_API CButtonSTReflected : public ow::CButtonReflection<CButtonST>
 {
 public:
     CButtonSTReflected();

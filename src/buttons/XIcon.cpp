@@ -3,6 +3,7 @@
 #include "buttons/XIcon.h"
 
 #include "module/GdiScope.h"
+#include "module/MemorySurface.h"
 
 #include <cstdlib>
 
@@ -316,7 +317,7 @@ void CXIcon::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
     CDC* pDC = CDC::FromHandle(lpDrawItemStruct->hDC);
     const CRect rect(lpDrawItemStruct->rcItem);
 
-    CMemorySurface surface;
+    ow::CMemorySurface surface;
     if (!surface.Create(*pDC, rect.Size()))
         return;
     surface.DC().FillSolidRect(rect, ::GetBkColor(pDC->m_hAttribDC));

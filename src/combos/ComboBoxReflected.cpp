@@ -86,7 +86,7 @@ bool CComboBoxReflected::DoesNotificationHandlerExist() const
 
 CComboBoxReflectedNotificationHandler* CComboBoxReflected::GetNotificationHandler() const
 {
-    return FindNotificationHandler(*this, m_pHandler);
+    return ow::FindNotificationHandler(*this, m_pHandler);
 }
 
 CComboBoxReflectedNotificationHandler* CComboBoxReflected::GetSafeNotificationHandler() const

@@ -3,6 +3,7 @@
 #include "dialogs/ProgressCtrlEx.h"
 
 #include "module/GdiScope.h"
+#include "module/MemorySurface.h"
 
 namespace
 {
@@ -36,7 +37,7 @@ void CProgressCtrlEx::OnPaint()
     CPaintDC dc(this);
     CRect rect;
     GetClientRect(rect);
-    CMemorySurface surface;
+    ow::CMemorySurface surface;
     if (rect.IsRectEmpty() || !surface.Create(dc, rect.Size()))
         return;
     Draw(surface.DC(), rect.Size());

@@ -3,6 +3,8 @@
 
 #include "module/ResourceIdPool.h"
 
+namespace ow
+{
 /// Either the id of a control of the dialog template, or 0 for none, or an id drawn from the pool for a
 /// control that the box creates itself; the last one is given back at the end.
 class CChildControlId
@@ -30,3 +32,4 @@ private:
     bool m_bOwn;
     unsigned int m_nId;
 };
+} // namespace ow

@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <optional>
 
+using namespace ow;
+
 namespace
 {
 // Stands for "no value". Computed when the library is loaded, and told from other NaNs by its bits.

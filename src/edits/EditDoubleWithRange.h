@@ -58,7 +58,7 @@ class OW_DIALOGCONTROLS_API CEditDoubleWithRange : public CEditWithValidation
 {
 public:
     /// Given to the constructor in place of an id: the box creates the control itself.
-    static constexpr unsigned int c_nCreateControl = CChildControlId::c_nCreate;
+    static constexpr unsigned int c_nCreateControl = ow::CChildControlId::c_nCreate;
 
     /// The handler is not owned; null: the parent is asked.
     explicit CEditDoubleWithRange(CEditNNotificationHandler* pHandler, unsigned int nUnitLabelId = 0,
@@ -144,19 +144,19 @@ private:
     bool ParseText(double& dGlobal) const;
     double SpinBase() const;
     double ToLocal(double dGlobal) const;
-    CValueRange<double> LocalRange() const;
+    ow::CValueRange<double> LocalRange() const;
     CString UnitSymbol() const;
 
     double m_dValue = 0.0; ///< in the global unit, or the empty value
-    CValueRange<double> m_range;
+    ow::CValueRange<double> m_range;
     EDoubleFormat m_eFormat = eDoubleFormatFixed;
     int m_nDecimals = 2;
     bool m_bUnitEnabled = false;
     CComplexUnit m_unit;
-    CChildControlId m_unitLabelId;
+    ow::CChildControlId m_unitLabelId;
     const CUnitsConvertor* m_pConvertor = &CUnitsConvertor::Object;
     double m_dSpinStep = 0.01;
     CSpinButtonForDoubleEditCtrl m_spin;
-    CChildControlId m_spinId;
+    ow::CChildControlId m_spinId;
     CStatic m_unitLabel; ///< attached only if it is the box's own
 };

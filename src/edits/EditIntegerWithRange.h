@@ -65,6 +65,6 @@ private:
     bool ParseText(int& n) const;
 
     int m_nValue = 0;
-    CValueRange<int> m_range;
+    ow::CValueRange<int> m_range;
     bool m_bEmpty = false;
 };

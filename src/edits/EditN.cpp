@@ -197,7 +197,7 @@ bool CEditN::DoesNotificationHandlerExist() const
 
 CEditNNotificationHandler* CEditN::GetNotificationHandler() const
 {
-    return FindNotificationHandler(*this, m_pHandler);
+    return ow::FindNotificationHandler(*this, m_pHandler);
 }
 
 CEditNNotificationHandler* CEditN::GetSafeNotificationHandler() const

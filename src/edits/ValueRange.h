@@ -1,6 +1,8 @@
 #pragma once
 // The two bounds of a number box.
 
+namespace ow
+{
 /// Limits numbers while its minimum is not above its maximum. A new range is the pair 0 and -1 and limits
 /// nothing; so does any other inverted pair, and one that holds a NaN.
 template <class Number>
@@ -42,3 +44,4 @@ private:
     Number m_min = 0;
     Number m_max = -1;
 };
+} // namespace ow

@@ -7,6 +7,7 @@
 #include "Handles.h"
 #include "Input.h"
 #include "ModalVisit.h"
+#include "module/GdiScope.h"
 
 #include <gtest/gtest.h>
 

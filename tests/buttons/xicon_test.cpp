@@ -6,6 +6,7 @@
 #include "Images.h"
 #include "Input.h"
 #include "Picture.h"
+#include "module/GdiScope.h"
 
 #include "xicon_resource.h"
 
