@@ -6,6 +6,8 @@
 #include "Shelf.h"
 #include "resource.h"
 
+#include "module/GdiScope.h"
+
 #include <aced.h>
 
 namespace

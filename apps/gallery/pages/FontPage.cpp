@@ -7,6 +7,8 @@
 #include "Shelf.h"
 #include "resource.h"
 
+#include "module/GdiScope.h"
+
 #include <aced.h>
 
 #include <array>
