@@ -270,7 +270,7 @@ void CFontPage::PaintSheet(CDC& dc, const CRect& sheet)
 void CFontPage::PaintStyle(CDC& dc, CRect room, const STextStyle& style)
 {
     room.DeflateRect(12, 4);
-    dc.SetTextColor(::GetSysColor(COLOR_BTNSHADOW));
+    dc.SetTextColor(::GetSysColor(COLOR_GRAYTEXT));
     room.top += dc.DrawText(style.pszName, room, DT_SINGLELINE | DT_NOPREFIX);
     CFont font;
     const LOGFONT logFont = OnScreen(style.font, dc);
