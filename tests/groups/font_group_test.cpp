@@ -191,6 +191,7 @@ TEST_F(FontGroup, ShowsARecordAndTellsNobody)
 {
     EXPECT_EQ(dialog.Seen(), dialog.FontOfRow(1) + L", 3.5, 30");
     EXPECT_EQ(dialog.Boxes(), "1+0+") << "the third never shows";
+    EXPECT_EQ(dialog.IsDlgButtonChecked(idCheck3), 1u) << "but follows its field";
     epgFont other{L"No such font", 0.0125, 7, 0, -1, 1, eFontTrueType};
     group.SetFontSource(&other);
     EXPECT_EQ(dialog.Seen(), dialog.FontOfRow(1) + L", 12.5, 7") << "the selection stays";
