@@ -53,7 +53,7 @@ private:
     EPageID m_id = NextID(); ///< a number of its own
 };
 
-/// Paints an owner-drawn control, with its corner at (0, 0), in memory first: it follows each change without a flicker.
+/// Paints an owner-drawn control, its corner at (0, 0), in memory first: it follows each change without a flicker.
 void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint);
 
 /// Adds a dialog that serves one page only, and the page.

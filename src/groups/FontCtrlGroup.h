@@ -66,7 +66,7 @@ public:
     /// Binds the seven controls. Throws CNotSupportedException if the dialog lacks one, as DDX_Control does.
     void DoDataExchange(CDataExchange* pDX);
 
-    /// Sets up the controls and loads the icons of the font list; shows the record if there is one already. Answers 1.
+    /// Sets up the controls and loads the icons of the font list; shows the record if there is one. Answers 1.
     int OnInitDialog();
 
     /// The record to edit; null for none. A font that is not in the list leaves the selection as it is; a height

@@ -1,5 +1,5 @@
-// Fonts: the font combo box alone, chosen from by hand and by name; and the group that edits one of three text styles,
-// drawn as on a sheet.
+// Fonts: the font combo box alone, chosen from by hand and by name; and the group that edits one of three text
+// styles, drawn as on a sheet.
 
 #include <afxwin.h>
 
