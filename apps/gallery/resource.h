@@ -215,6 +215,7 @@
 #define IDC_PICK_VALUE_FIRST 1810 // what is picked, beside them
 #define IDC_PICK_BY_LAYER 1820
 #define IDC_PICK_PREVIEW 1821
+#define IDC_PICK_COLOR 1822
 
 // Choices
 #define IDD_PAGE_CHOICES 200

@@ -1,4 +1,4 @@
-// Pickers: one for each set of pictures, at work on a drawing.
+// Pickers: one for each set of pictures, and a colour, at work on a drawing.
 
 #include <afxwin.h>
 
@@ -8,7 +8,9 @@
 
 namespace
 {
-class CPickersPage : public CGalleryPage, public ABitmapBtnSTNotificationHandler
+class CPickersPage : public CGalleryPage,
+                     public ABitmapBtnSTNotificationHandler,
+                     public AColorBtnSTNotificationHandler
 {
 public:
     explicit CPickersPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_PICKERS, host) {}
@@ -18,6 +20,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     void OnBitmapChosen(int nId, int nIndex) override;
+    void OnColorChosen(int nId, int nColor) override;
 
     afx_msg void OnByLayer();
     DECLARE_MESSAGE_MAP()
@@ -43,6 +46,7 @@ private:
     CBitmapBtnSTSimbolPresekaLinija m_btnSectionLine{this};
     CBitmapBtnSTSimbolPresekaZavrsetak m_btnLeftEnd{this}, m_btnRightEnd{this};
     CBitmapBtnSTLinija m_btnGroundLine{this};
+    CColorBtnST m_btnColor{this};
     CDrawingPreview m_preview;
 
     DrawingStyle m_style;
@@ -75,6 +79,8 @@ void CPickersPage::DoDataExchange(CDataExchange* pDX)
     CGalleryPage::DoDataExchange(pDX);
     for (int i = 0; i < kChoices; ++i)
         DDX_Control(pDX, IDC_PICK_FIRST + i, m_choices[i].picker);
+    m_btnColor.SetColorSource(&m_style.color);
+    DDX_Control(pDX, IDC_PICK_COLOR, m_btnColor);
     DDX_Control(pDX, IDC_PICK_PREVIEW, m_preview);
 }
 
@@ -88,6 +94,7 @@ int CPickersPage::OnInitPageDialog()
         m_choices[i].picker.DrawFlatFocus(TRUE); // for those who go by keyboard
         ShowValue(i);
     }
+    m_btnColor.DrawFlatFocus(TRUE);
     CheckDlgButton(IDC_PICK_BY_LAYER, BST_CHECKED);
     OnByLayer();
     return TRUE;
@@ -98,6 +105,12 @@ void CPickersPage::OnBitmapChosen(int nId, int nIndex)
     const int nChoice = nId - IDC_PICK_FIRST;
     Log(m_choices[nChoice].pszName, _T("OnBitmapChosen(%d, %d)"), nId, nIndex);
     ShowValue(nChoice);
+    ShowDrawing();
+}
+
+void CPickersPage::OnColorChosen(int nId, int nColor)
+{
+    Log(_T("Colour"), _T("OnColorChosen(%d, 0x%06X)"), nId, nColor);
     ShowDrawing();
 }
 

@@ -5,6 +5,7 @@
 #include "resource.h"
 
 #include "MenuVisit.h"
+#include "ModalVisit.h"
 #include "Picture.h"
 
 #include <memory>
@@ -84,9 +85,25 @@ void PickWithPicture(CWnd& page)
     Require(bSaved, L"the picture of the menu was not written");
 }
 
+/// A colour out of the pop-up, by keys.
+void PickColor(CWnd& page)
+{
+    const auto pBefore = DrawingOf(page);
+    const owtest::ModalVisit visit(
+        [](CWnd&)
+        {
+            owtest::Press(VK_DOWN);
+            owtest::Press(VK_RETURN);
+        });
+    owtest::Click(*page.GetDlgItem(IDC_PICK_COLOR));
+    Require(visit.Count() == 1, L"no colours to choose from");
+    Require(!(*DrawingOf(page) == *pBefore), L"the drawing keeps its colour");
+}
+
 void UsePickers(CWnd& page)
 {
     PickByKeyboard(page);
+    PickColor(page);
     PickWithPicture(page);
     for (int n = 1; n <= kLast; ++n)
         Pick(page, n, [&] { owtest::Click(Picker(page, n)); },
