@@ -7,7 +7,6 @@
 #include "edits/DoubleText.h"
 #include "grid/GridCtrl.h"
 
-#include <algorithm>
 #include <cmath>
 
 IMPLEMENT_DYNCREATE(CLimitedDoubleCell, CGridCell)
@@ -95,14 +94,11 @@ void CLimitedDoubleCell::ShowDecimal()
 {
     constexpr int kFewDecimals = 40;
     constexpr double kFewDigits = 1e50; // with those decimals it fits any bounded text
-    constexpr int kMostDecimals = 0xFFFF;
-    if (!std::isfinite(m_dValue) || (std::fabs(m_dValue) < kFewDigits && m_nBrojDecimala <= kFewDecimals))
+    if (std::fabs(m_dValue) < kFewDigits && m_nBrojDecimala <= kFewDecimals)
     {
         wchar_t szText[c_nDoubleTextSize];
         SetText(gfnFormatFixed(szText, m_nBrojDecimala, m_dValue));
         return;
     }
-    CString strText;
-    strText.Format(L"%.*f", std::clamp(m_nBrojDecimala, 0, kMostDecimals), m_dValue);
-    SetText(strText);
+    SetText(gfnFormatAllDigits(m_nBrojDecimala, m_dValue));
 }

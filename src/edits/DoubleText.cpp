@@ -5,6 +5,7 @@
 #include "edits/LocalNumber.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
@@ -120,6 +121,20 @@ const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimal
     if (std::signbit(dValue))
         *--pszText = L'-';
     return pszText;
+}
+
+CString gfnFormatAllDigits(int nDecimals, double dValue)
+{
+    if (!std::isfinite(dValue))
+        return NameOfNonNumber(dValue);
+    constexpr int kMostDecimals = 0xFFFF;
+    constexpr int kRoomBeforeDecimals = DBL_MAX_10_EXP + 4; // sign, whole digits, point and null
+    const int nShown = std::clamp(nDecimals, 0, kMostDecimals);
+    const int nSize = kRoomBeforeDecimals + nShown;
+    CString strText;
+    _snwprintf_s_l(strText.GetBuffer(nSize), nSize, _TRUNCATE, L"%.*f", PointLocale(), nShown, dValue);
+    strText.ReleaseBuffer();
+    return strText;
 }
 
 CLocalNumber::CLocalNumber(const wchar_t* pszText) : m_pszText(pszText)

@@ -5,8 +5,9 @@
 //     double dForce = 0.0;
 //     gfnParseDouble(L"12.5 kN", dForce);                                    // true, 12.5
 //
-// The decimal sign is a point, whatever the locale of the process. Texts are bounded: however large the number and
-// however many the decimals, no text is longer than c_nDoubleTextSize - 1 characters.
+// The decimal sign is a point, whatever the locale of the process. Texts are bounded, but for those of
+// gfnFormatAllDigits: however large the number and however many the decimals, no text is longer than
+// c_nDoubleTextSize - 1 characters.
 
 #include <afxwin.h>
 
@@ -40,6 +41,9 @@ OW_DIALOGCONTROLS_API CString gfnFormatDouble(const wchar_t* pszFormat, double d
 /// without its cost, for those who write thousands. Answers where in `szText` it begins.
 OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals,
                                                     double dValue);
+
+/// Writes a number with the fixed format and so many decimals, at most 65535, however long the text becomes.
+OW_DIALOGCONTROLS_API CString gfnFormatAllDigits(int nDecimals, double dValue);
 
 /// Reads the number at the beginning of a text; white space before it and anything behind it are passed over.
 /// False, with the value as it was, if there is none, or if it lies beyond what a double holds.

@@ -93,6 +93,15 @@ TEST_F(LimitedCells, ADoubleHasAPointInALocaleWithAComma)
     auto& cell = Make<CLimitedDoubleCell>();
     EXPECT_EQ(Typed(L"2.25"), L"2.25");
     EXPECT_EQ(cell.Get(kCol), 2.25);
+    for (const auto& [value, decimals] : {std::pair{1e60, 2}, std::pair{0.5, 50}})
+    {
+        cell.SetBrojDecimala(decimals);
+        cell.Set(kCol, value);
+        const CString text = cell.GetText();
+        EXPECT_EQ(text.Find(L'.'), text.GetLength() - 1 - decimals) << "long texts, too";
+        EXPECT_TRUE(cell.ValidateEdit(text));
+        EXPECT_EQ(cell.Get(kCol), value);
+    }
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
@@ -280,7 +289,7 @@ struct OpenInt : public CLimitedIntCell
 TEST(LimitedCellsAlone, ADoubleShowsAllItsDigitsAndTakesThemAgain)
 {
     OpenDouble cell;
-    const std::pair<double, int> cases[] = {{DBL_MAX, 2}, {-1e50, 0}, {1e49, 40}, {0.1, 60}, {0.1, 1200}};
+    const std::pair<double, int> cases[] = {{-DBL_MAX, 2}, {1e50, 0}, {1e49, 40}, {0.1, 60}, {0.1, 1200}};
     for (const auto& [value, decimals] : cases)
     {
         cell.SetBrojDecimala(decimals);
@@ -293,8 +302,14 @@ TEST(LimitedCellsAlone, ADoubleShowsAllItsDigitsAndTakesThemAgain)
         EXPECT_EQ(cell.Get(kCol), value);
         EXPECT_EQ(cell.GetText(), text);
     }
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    cell.Set(kCol, infinity);
+    EXPECT_STREQ(cell.GetText(), L"inf");
+    cell.SetBrojDecimala(-1);
+    cell.Set(kCol, 1e50);
+    EXPECT_EQ(wcslen(cell.GetText()), 51u) << "fewer than no decimals are none";
     CLimitedExponentDoubleCell exponent;
-    exponent.Set(kCol, -std::numeric_limits<double>::infinity());
+    exponent.Set(kCol, -infinity);
     EXPECT_STREQ(exponent.GetText(), L"-INF") << "upper case, as the sign of an exponent";
 
     cell.SetBrojDecimala(7);
