@@ -316,8 +316,14 @@ TEST(LimitedCellsAlone, ADoubleShowsAllItsDigitsAndTakesThemAgain)
     cell.SetLocalMin(-2.0, FALSE);
     cell.SetLocalMax(9.0, TRUE);
     EXPECT_TRUE(cell.Holds(-2.0, 9.0, 7));
+    OpenDouble copy;
+    copy = cell;
+    EXPECT_TRUE(copy.Holds(-2.0, 9.0, 7));
     OpenInt count;
     count.SetMin(-2, TRUE);
     count.SetMax(9, FALSE);
     EXPECT_TRUE(count.Holds(-2, 9));
+    OpenInt sameCount;
+    sameCount = count;
+    EXPECT_TRUE(sameCount.Holds(-2, 9));
 }
