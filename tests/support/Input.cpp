@@ -1,6 +1,7 @@
 #include "Input.h"
 
 #include <algorithm>
+#include <chrono>
 #include <vector>
 
 namespace owtest
@@ -151,11 +152,21 @@ void MoveTo(HWND window, CPoint client)
         kSettleMs);
 }
 
+/// Two presses in one tick of the clock count as a double click, however short the double-click time is.
+static void PressLeft(const std::vector<INPUT>& inputs)
+{
+    using Clock = std::chrono::steady_clock;
+    static Clock::time_point s_last;
+    PumpUntil([] { return Clock::now() - s_last > std::chrono::milliseconds(3); });
+    Send(inputs);
+    s_last = Clock::now();
+    Pump();
+}
+
 void ButtonDown(HWND window, CPoint client)
 {
     MoveTo(window, client);
-    Send({Mouse(MOUSEEVENTF_LEFTDOWN, {})});
-    Pump();
+    PressLeft({Mouse(MOUSEEVENTF_LEFTDOWN, {})});
 }
 
 void ButtonUp()
@@ -168,8 +179,7 @@ void Click(HWND window, CPoint client)
 {
     // Down and up together: a control may run a message loop of its own between them.
     MoveTo(window, client);
-    Send({Mouse(MOUSEEVENTF_LEFTDOWN, {}), Mouse(MOUSEEVENTF_LEFTUP, {})});
-    Pump();
+    PressLeft({Mouse(MOUSEEVENTF_LEFTDOWN, {}), Mouse(MOUSEEVENTF_LEFTUP, {})});
 }
 
 void Click(HWND window)
