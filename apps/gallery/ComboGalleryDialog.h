@@ -1,6 +1,6 @@
 #pragma once
-// The same pages where there is no room for a tree: selected by a combo box with a toggle for a row's second page,
-// once with a button for the toggle and once with a check box. The two selectors follow each other.
+// The same pages where there is no room for a tree: selected by a combo box with a toggle for a row's second
+// page, once with a button for the toggle and once with a check box. The two selectors follow each other.
 
 #include "GalleryHostDialog.h"
 

@@ -1,5 +1,5 @@
 #pragma once
-// The gallery's main window: a tree of pages at the left, the selected page under its caption, notifications below.
+// The gallery's main window: a tree of pages at the left, the selected page under its caption, a log below.
 
 #include "GalleryHostDialog.h"
 

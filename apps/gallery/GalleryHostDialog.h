@@ -1,6 +1,6 @@
 #pragma once
-// What the gallery's two dialogs share: they host pages in a frame, and write down what happens. Each adds its own
-// way to select a page.
+// What the gallery's two dialogs share: they host pages in a frame, and write down what happens. Each adds
+// its own way to select a page.
 
 #include "NotificationLog.h"
 #include "Pages.h"

@@ -1,6 +1,7 @@
 #pragma once
-// What every page of the gallery is made of: a page dialog that writes down what its handlers hear, and a page with
-// a title. Common ground of the files in pages/, each of which is the example of one family of controls.
+// What every page of the gallery is made of: a page dialog that writes down what its handlers hear, and a
+// page with a title. Common ground of the files in pages/, each of which is the example of one family of
+// controls.
 
 #include <DialogControlsOW.h>
 
@@ -53,7 +54,7 @@ private:
     EPageID m_id = NextID(); ///< a number of its own
 };
 
-/// Paints an owner-drawn control, its corner at (0, 0), in memory first: it follows each change without a flicker.
+/// Paints an owner-drawn control in memory first, its corner at (0, 0): it follows changes without a flicker.
 void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint);
 
 /// Adds a dialog that serves one page only, and the page.

@@ -1,5 +1,6 @@
 #pragma once
-// A page with a pair of radio buttons, IDC_LANG_SERBIAN and IDC_LANG_ENGLISH, for the language of the whole program.
+// A page with a pair of radio buttons, IDC_LANG_SERBIAN and IDC_LANG_ENGLISH, for the language of the
+// whole program.
 
 #include "GalleryPage.h"
 
@@ -9,8 +10,8 @@ public:
     CLanguagePage(UINT nTemplateId, AGalleryHost& host) : CGalleryPage(nTemplateId, host) {}
 
 protected:
-    /// The language may be another one, by this page or by one that was shown before. Texts that the program translates
-    /// when it shows them need nothing.
+    /// The language may be another one, by this page or by one that was shown before. Texts that the program
+    /// translates when it shows them need nothing.
     virtual void OnLanguage() {}
 
     void BindControlsToSources(bool bBind, CPage* pPage) override;

@@ -1,7 +1,7 @@
 #pragma once
 // The pages of the gallery. To add one: write pages/NamePage.cpp with AddNamePage and its template
-// pages/NamePage.rc, and add a line here. CHILD makes a page the child of the last top-level one, which should have
-// one at most: the selectors made of combo boxes reach no more.
+// pages/NamePage.rc, and add a line here. CHILD makes a page the child of the last top-level one, which
+// should have one at most: the selectors made of combo boxes reach no more.
 
 #include "GalleryPage.h"
 

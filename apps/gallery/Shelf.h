@@ -1,12 +1,12 @@
 #pragma once
-// Things that outlive the pages that show them. A host colour button takes a control id for the life of the process,
-// and so does each group that has one, while pages come and go: so pages borrow them and give them back.
+// Things that outlive the pages that show them. A host colour button takes a control id for the life of the
+// process, and so does each group that has one, while pages come and go: so pages borrow and return them.
 //
 //     struct CShelvedButton : AAcadColorBtnSTNotificationHandler  // passes on what it hears to the borrower
 //     {
 //         CAcadColorBtnST button{this};
 //         AAcadColorBtnSTNotificationHandler* pBorrower = nullptr;
-//         void PutBack();                                         // lets go of the page's window and variables
+//         void PutBack();                                         // lets go of the page's variables
 //         ...
 //     };
 //     CBorrowed<CShelvedButton> m_outline{this};                  // in the page

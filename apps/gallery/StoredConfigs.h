@@ -1,5 +1,5 @@
 #pragma once
-// The caller's side of a configuration group: bolt patterns by name, kept in a file from one start to the next.
+// The caller's side of a configuration group: bolt patterns by name, kept in a file from start to start.
 
 #include <DialogControlsOW.h>
 
@@ -19,9 +19,9 @@ struct BoltPattern
 class CStoredConfigs : public AConfigSet
 {
 public:
-    /// `values` is the record that the dialog edits: it is stored from there, and a choice is put there. Every change
-    /// is written to the file at once; entries that another window has put there stay. The user is told of a file that
-    /// cannot be read or written.
+    /// `values` is the record that the dialog edits: it is stored from there, and a choice is put there.
+    /// Every change is written to the file at once; entries that another window has put there stay. The user
+    /// is told of a file that cannot be read or written.
     CStoredConfigs(BoltPattern& values, const CString& strPath);
 
     /// No file means no entries.

@@ -19,9 +19,9 @@
 //
 // Attaching. The button takes over a control of a dialog template. The type of the control decides what it
 // becomes: BS_DEFPUSHBUTTON the default button; any type with the bit 0x2 (BS_CHECKBOX, BS_AUTOCHECKBOX,
-// BS_AUTO3STATE, but also BS_GROUPBOX and BS_OWNERDRAW) a check box; the rest, BS_3STATE and the radio buttons
-// among it, a push button. From then on the
-// control is owner-drawn and stays so, whatever button style a dialog sends it.
+// BS_AUTO3STATE, but also BS_GROUPBOX and BS_OWNERDRAW) a check box; the rest, BS_3STATE and the radio
+// buttons among it, a push button. From then on the control is owner-drawn and stays so, whatever button
+// style a dialog sends it.
 //
 // Clicks. A click takes the focus, toggles a check box, opens the address of a push button that has one,
 // calls the handler and then goes to the parent as BN_CLICKED. Space clicks when it goes down; so does Enter,
@@ -45,15 +45,16 @@
 //     m_btn.SetIcon(IDI_BEAM, CButtonST::copyDarker);
 //
 // Ownership of images.
-// - Icons: the button lets go of them with DeleteObject, which does nothing to an icon. So an icon that is given
-//   to SetIcon stays the caller's, may show on any number of buttons, and outlives them all; this is what makes
-//   the shared icons below work. By the same rule the icons that the button makes or loads itself (the copies,
-//   and those given by resource id) are never released: set them once per button, not at each change of state.
-// - Bitmaps: the button owns the first from the call on, whatever the call answers, and deletes it with the next
-//   image setter and in its destructor; and so the second, unless the call failed over the first (resultNoImage
-//   for a first that cannot be read, resultNoMask for its mask): then the second was not taken and stays the
-//   caller's. The pixels of the transparent colour are made black in the bitmap itself. A bitmap must not be
-//   given to two buttons.
+// - Icons: the button lets go of them with DeleteObject, which does nothing to an icon. So an icon that is
+//   given to SetIcon stays the caller's, may show on any number of buttons, and outlives them all; this is
+//   what makes the shared icons below work. By the same rule the icons that the button makes or loads itself
+//   (the copies, and those given by resource id) are never released: set them once per button, not at each
+//   change of state.
+// - Bitmaps: the button owns the first from the call on, whatever the call answers, and deletes it with the
+//   next image setter and in its destructor; and so the second, unless the call failed over the first
+//   (resultNoImage for a first that cannot be read, resultNoMask for its mask): then the second was not taken
+//   and stays the caller's. The pixels of the transparent colour are made black in the bitmap itself. A
+//   bitmap must not be given to two buttons.
 // - The cursor of SetBtnCursor is loaded and destroyed by the button.
 //
 // Place of the image beside a title, by SetAlign. The origin is 3 pixels; SizeToContent makes it 0.
@@ -201,9 +202,9 @@ public:
     /// Whether Enter clicks a focused button. On at first.
     void SetKbdSensitive(BOOL bSensitive);
     /// With exactly 1 the button sends WM_COMMAND over and over while the mouse holds it, pausing `nPeriod`
-    /// milliseconds, and always an even number of times. A hold replaces the click; it ends with the release of
-    /// the mouse, wherever that is, and when a handler disables, hides or destroys the button. It keeps the
-    /// thread's message pump waiting, so a handler must not open a window that has a message loop.
+    /// milliseconds, and always an even number of times. A hold replaces the click; it ends with the release
+    /// of the mouse, wherever that is, and when a handler disables, hides or destroys the button. It keeps
+    /// the thread's message pump waiting, so a handler must not open a window that has a message loop.
     DWORD SetAutoRepeat(BOOL bRepeat, DWORD nPeriod = 100);
     /// An address or file that a click opens; null for none. Holds 260 characters; more are cut off. A check
     /// box never opens it.

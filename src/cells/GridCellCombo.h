@@ -7,8 +7,8 @@
 //     profiles.Add(L"HEA 240");
 //     static_cast<CGridCellCombo&>(*m_grid.GetCell(1, 1)).SetOptions(profiles);
 //
-// The editor is a CInPlaceList: a choice from its list ends the edit at once. An arrow at the right edge tells
-// of the list, in cells that may be edited and have room for it, and goes while the edit runs.
+// The editor is a CInPlaceList: a choice from its list ends the edit at once. An arrow at the right edge
+// tells of the list, in cells that may be edited and have room for it, and goes while the edit runs.
 //
 // The style is CBS_DROPDOWN: the user may type what the list lacks. A derived class may set m_dwStyle to
 // CBS_DROPDOWNLIST; such a cell can only be chosen from, and its list opens as the edit begins.

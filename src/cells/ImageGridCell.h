@@ -8,7 +8,7 @@
 //
 //     +-----------------------------------------+
 //     |<margin>          [image]        <margin>|   DT_CENTER, DT_RIGHT or else left;
-//     +-----------------------------------------+   DT_VCENTER, DT_BOTTOM or else top, where no margin is kept
+//     +-----------------------------------------+   DT_VCENTER, DT_BOTTOM or else top, with no margin kept
 //
 // An image that does not fit, the margins counted as room, is not drawn. A text is drawn, too, in the place
 // that a plain cell gives it: right of where an image at the left edge would end. So use a text with images

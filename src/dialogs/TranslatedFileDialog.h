@@ -19,7 +19,7 @@
 //                   characters that the system's dialog takes
 //     dwFlags       OFN_ flags
 //     pszFilter     pairs of a text and a pattern, each ended by '|', the whole by "||". A missing end is
-//                   added, and the pattern *.* to a last text that has none. Null or empty: no choice of types
+//                   added, and the pattern *.* to a last text that has none. Null or empty: no choice
 //     parent        null, or a window that is gone: the application's main window
 //
 // All pointers may be null.

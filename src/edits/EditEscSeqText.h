@@ -5,7 +5,7 @@
 //
 //     class CPlateDialog : public CDialog, public CEditNNotificationHandler
 //     {
-//         CEditAcadEscSeqSpecLima m_editLabel{this, IDC_LABEL_INSERT}; // the id of the button, any push button
+//         CEditAcadEscSeqSpecLima m_editLabel{this, IDC_LABEL_INSERT}; // the id of any push button
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_LABEL, m_editLabel); }
 //         BOOL OnInitDialog() override
 //         {

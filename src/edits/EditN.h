@@ -8,15 +8,15 @@
 //         void OnEditNChange(int nId) override { ... }
 //     };
 //
-// Reports. The handler given to the constructor is called; without one the box's parent window is, if its class
-// implements CEditNNotificationHandler; without either the box is silent. The handler is not owned and must
-// outlive the box. A handler may change the box, and must not destroy it.
+// Reports. The handler given to the constructor is called; without one the box's parent window is, if its
+// class implements CEditNNotificationHandler; without either the box is silent. The handler is not owned and
+// must outlive the box. A handler may change the box, and must not destroy it.
 //
-// Keys. In every box Tab and Enter move the focus to the next control and Shift+Tab to the one before, so Enter
-// does not press the dialog's default button; Escape sends IDCANCEL to the parent.
+// Keys. In every box Tab and Enter move the focus to the next control and Shift+Tab to the one before, so
+// Enter does not press the dialog's default button; Escape sends IDCANCEL to the parent.
 //
-// Texts. SafeSetWindowText is the way for a program to set a text without a notification. A plain SetWindowText
-// counts as typing: it sets the changed flag and calls the handler.
+// Texts. SafeSetWindowText is the way for a program to set a text without a notification. A plain
+// SetWindowText counts as typing: it sets the changed flag and calls the handler.
 //
 // A box may come from a dialog template (DDX_Control, SubclassDlgItem) or be made by Create.
 
@@ -36,7 +36,7 @@ public:
     /// Whether the control has ES_READONLY.
     bool IsReadOnly() const;
 
-    /// Whether the text was changed since the box last received the focus. Stays as it is when the focus leaves.
+    /// Whether the text was changed since the box last received the focus. Stays so when the focus leaves.
     bool HasChangedSinceLastSetFocus() const;
 
     /// Whether texts go through CEditCtrlAnsiInterface. Off at first.

@@ -3,8 +3,8 @@
 
 #include <afxwin.h>
 
-/// A text as those readers want it: the locale's decimal sign stands for the point, and where it stood itself the
-/// text ends.
+/// A text as those readers want it: the locale's decimal sign stands for the point, and where it stood itself
+/// the text ends.
 class CLocalNumber
 {
 public:

@@ -47,8 +47,8 @@
 // has the plain colour.
 //
 // SelectCellEx remembers a fixed address as it came. The first cell of the body, although it has the cross,
-// then counts as another one, and the fixed row and column get the colours of rest when they are left: a fixed
-// row that of the band.
+// then counts as another one, and the fixed row and column get the colours of rest when they are left: a
+// fixed row that of the band.
 //
 // The colours stay in the cells: rows that are added, or a band that grows, show it once the cross has passed
 // over them. In virtual mode there are no cells, and so no colours. Each change of cell switches drawing on

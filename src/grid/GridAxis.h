@@ -9,8 +9,8 @@
 //      0        FixedExtent()                                  client end
 //      | 0 | 1 |  nFirst  | nFirst + 1 |  ...       | last, partly shown
 //
-// Sizes and sums go as far as an int does. What lies further is answered as the furthest that an int can name:
-// a grid of such sizes still has its scroll bars, and shows what they reach.
+// Sizes and sums go as far as an int does. What lies further is answered as the furthest that an int can
+// name: a grid of such sizes still has its scroll bars, and shows what they reach.
 //
 // Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing
 // the sizes one after the other, or adding items at the front, does not sum up all the others each time.

@@ -1,6 +1,6 @@
 #pragma once
-// Seven controls of a dialog that together edit an epgFont: the font's name, its height, its colour, three check
-// boxes, and a button that applies the record further.
+// Seven controls of a dialog that together edit an epgFont: the font's name, its height, its colour, three
+// check boxes, and a button that applies the record further.
 //
 //     class CTextStyleDialog : public CDialog, public AFontCtrlGroupNotificationHandler
 //     {
@@ -19,26 +19,27 @@
 //         void OnFontGroupButton(CFontCtrlGroup*, epgFont* pFont) override { ApplyToAll(*pFont); }
 //     };
 //
-// Template. The font's combo box as CFontSelectionComboBox wants it; an edit for the height, with room at its right
-// for a spin and the unit; a button for the colour, with room for its number; three check boxes; a push button. The
-// group gives the last one its icon and takes its text away.
+// Template. The font's combo box as CFontSelectionComboBox wants it; an edit for the height, with room at its
+// right for a spin and the unit; a button for the colour, with room for its number; three check boxes; a push
+// button. The group gives the last one its icon and takes its text away.
 //
 // Height. Shown in millimetres with one decimal, and kept within 0.001 and 0.02 of the record's metres.
 //
-// Check boxes. They count for TrueType fonts only: with a record or a choice of another class they are cleared and
-// disabled, while the record's fields stay as they are. So a box that is enabled again by a TrueType font is clear at
-// first, whatever the record says. The third box never shows: wanted, although its field and its control exist.
+// Check boxes. They count for TrueType fonts only: with a record or a choice of another class they are
+// cleared and disabled, while the record's fields stay as they are. So a box that is enabled again by a
+// TrueType font is clear at first, whatever the record says. The third box never shows: wanted, although its
+// field and its control exist.
 //
-// Reports. A change by the user is stored in the record first, and OnFontGroupChanged is called then: a chosen font,
-// the height when its edit is left, changed or not, or its spin pressed, a colour, a check box. The apply button
-// stores nothing and calls OnFontGroupButton. What the program sets is not reported.
+// Reports. A change by the user is stored in the record first, and OnFontGroupChanged is called then: a
+// chosen font, the height when its edit is left, changed or not, or its spin pressed, a colour, a check box.
+// The apply button stores nothing and calls OnFontGroupButton. What the program sets is not reported.
 //
-// Ownership. Neither the record nor the handler is owned. Both must outlive the group, or the record be taken away by
-// SetFontSource(nullptr): without one nothing is stored, nobody is called, and the colour button paints no swatch and
-// opens nothing. The controls keep showing what they showed.
+// Ownership. Neither the record nor the handler is owned. Both must outlive the group, or the record be taken
+// away by SetFontSource(nullptr): without one nothing is stored, nobody is called, and the colour button
+// paints no swatch and opens nothing. The controls keep showing what they showed.
 //
-// How many. A group holds a CAcadColorBtnST, and so takes an id of ResourceIdPool for good, and two more while it
-// lives. Keep the dialog object or the group, and let it open again; see AcadColorBtnST.h.
+// How many. A group holds a CAcadColorBtnST, and so takes an id of ResourceIdPool for good, and two more
+// while it lives. Keep the dialog object or the group, and let it open again; see AcadColorBtnST.h.
 
 #include <afxwin.h>
 
@@ -66,11 +67,11 @@ public:
     /// Binds the seven controls. Throws CNotSupportedException if the dialog lacks one, as DDX_Control does.
     void DoDataExchange(CDataExchange* pDX);
 
-    /// Sets up the controls and loads the icons of the font list; shows the record if there is one. Answers 1.
+    /// Sets up the controls and loads the icons of the font list; shows the record, if any. Answers 1.
     int OnInitDialog();
 
-    /// The record to edit; null for none. A font that is not in the list leaves the selection as it is; a height
-    /// outside the limits shows as the nearest that is inside, and stays in the record until the edit is left.
+    /// The record to edit; null for none. A font that is not in the list leaves the selection as it is; a
+    /// height outside the limits shows as the nearest inside, and stays in the record until the edit is left.
     void SetFontSource(epgFont* pFont);
 
     void OnFontSelected(int nId, const CString& strFont, EFontClass eClass) override;

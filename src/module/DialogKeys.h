@@ -1,6 +1,6 @@
 #pragma once
-// The three keys that mean the same in every text box and combo box of the library: Tab and Enter go to the next
-// control (Shift+Tab to the one before), Escape cancels the dialog.
+// The three keys that mean the same in every text box and combo box of the library: Tab and Enter go to the
+// next control (Shift+Tab to the one before), Escape cancels the dialog.
 
 #include <afxwin.h>
 

@@ -20,8 +20,8 @@ private:
     HGDIOBJ m_hOld;
 };
 
-/// Selects a font into a context for the length of a scope. Choosing a font costs: one that the context has already
-/// is not chosen again. Null leaves the context as it is.
+/// Selects a font into a context for the length of a scope. Choosing a font costs: one that the context has
+/// already is not chosen again. Null leaves the context as it is.
 class CFontSelection
 {
 public:

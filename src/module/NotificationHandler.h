@@ -5,9 +5,9 @@
 
 namespace ow
 {
-/// The handler that the control was given, or else the control's parent, if its class implements the interface;
-/// null if neither is there. A dialog that derives from the interface so needs no registration. Looked up anew at
-/// each call: the parent may change.
+/// The handler that the control was given, or else the control's parent, if its class implements the
+/// interface; null if neither is there. A dialog that derives from the interface so needs no registration.
+/// Looked up anew at each call: the parent may change.
 template <class Handler>
 Handler* FindNotificationHandler(const CWnd& control, Handler* given)
 {

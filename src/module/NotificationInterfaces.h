@@ -1,8 +1,8 @@
 #pragma once
 // How the library's controls report: every notification interface, in one place.
 //
-// A control tells its dialog of a user's action by calling a typed interface, not by sending it a window message.
-// The dialog, or a group that stands between, implements the interface and gives itself to the control.
+// A control tells its dialog of a user's action by calling a typed interface, not by a window message. The
+// dialog, or a group that stands between, implements the interface and gives itself to the control.
 //
 //     class CBeamDialog : public CDialog, public AButtonSTNotificationHandler
 //     {
@@ -12,13 +12,14 @@
 //
 // Rules that hold for all of them:
 // - The control changes its own state first and calls then. The call is synchronous, on the dialog's thread.
-// - nId is the control id (GetDlgCtrlID), so one handler can serve many controls. A group gives itself instead.
+// - nId is the control id (GetDlgCtrlID), so one handler can serve many controls. A group gives itself
+//   instead.
 // - Handlers are not owned, are never deleted by a control, and must outlive it. No handler means silence.
 // - A handler may change the control. It must not destroy it, except that a button's handler may close the
 //   dialog.
 //
-// Interfaces with an A in front are pure. Those with a C have an empty default for every operation, and a control
-// of their families that was given no handler asks its parent window's class for the interface.
+// Interfaces with an A in front are pure. Those with a C have an empty default for every operation, and a
+// control of their families that was given no handler asks its parent window's class for the interface.
 
 #include <afxwin.h>
 
@@ -77,7 +78,7 @@ class AAcadColorBtnSTNotificationHandler
 {
 public:
     virtual ~AAcadColorBtnSTNotificationHandler() {}
-    /// Another colour was chosen. `nColor` is the host's colour index, which now stands in the bound variable.
+    /// Another colour was chosen. `nColor` is the host's colour index, now in the bound variable.
     virtual void OnAcadColorChosen(int nId, int nColor) = 0;
 };
 
@@ -125,8 +126,8 @@ public:
     virtual void OnExtGrid2RClick(int nId, CCellID cell) = 0;
 };
 
-/// Colours of the extended grid's selection cross, asked while it is painted. Rows whose distance from the fixed
-/// rows is below the count form a band of the header colour; columns have no such band.
+/// Colours of the extended grid's selection cross, asked while it is painted. Rows whose distance from the
+/// fixed rows is below the count form a band of the header colour; columns have no such band.
 class AExtGridCtrl2ExtraHeaderSupport
 {
 public:
@@ -163,8 +164,8 @@ class AFormatJediniceCtrlGroupNotificationHandler
 {
 public:
     virtual ~AFormatJediniceCtrlGroupNotificationHandler() {}
-    /// The format changed. `nSource`: 0 by the combo box, 1 by the button, 2 by a change in the edit, 3 when the
-    /// edit lost the focus.
+    /// The format changed. `nSource`: 0 by the combo box, 1 by the button, 2 by a change in the edit, 3 when
+    /// the edit lost the focus.
     virtual void OnFormatGroupChanged(CFormatJediniceCtrlGroup* pGroup, CFormatJedinice* pFormat,
                                       int nSource) = 0;
 };

@@ -6,9 +6,9 @@
 //     ...
 //     ResourceIdPool::Object().ReleaseId(id);
 //
-// One pool serves the process. It holds the ids 11000 to 11199, which no dialog template may use, and hands out
-// 11199 first. An id that is given back comes out again first. Running dry means that controls are being leaked,
-// and is fatal. Only the thread of the dialogs may call it.
+// One pool serves the process. It holds the ids 11000 to 11199, which no dialog template may use, and hands
+// out 11199 first. An id that is given back comes out again first. Running dry means that controls are being
+// leaked, and is fatal. Only the thread of the dialogs may call it.
 
 #include <afxtempl.h>
 

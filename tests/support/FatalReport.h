@@ -3,7 +3,8 @@
 //
 //     OW_CHILD_SCENARIO(null_page) { CPageManager(nullptr).AddPage(nullptr, nullptr); }
 //     ...
-//     owtest::ExpectFailedAssert(owtest::RunChild("null_page"), L"ASSERT(pPage)\n[.\\DlgPage\\PageManager : 63]\n");
+//     owtest::ExpectFailedAssert(owtest::RunChild("null_page"),
+//                                L"ASSERT(pPage)\n[.\\DlgPage\\PageManager : 63]\n");
 
 #include "ChildProcess.h"
 

@@ -42,8 +42,8 @@ void Click(HWND window);
 void ButtonDown(HWND window, CPoint client);
 void ButtonUp();
 
-/// Presses and releases a key, or clicks a point of the screen or the middle of a window, and leaves it in the
-/// queue: for a loop that takes its input itself, as a menu's, or that the program runs itself.
+/// Presses and releases a key, or clicks a point of the screen or the middle of a window, and leaves it in
+/// the queue: for a loop that takes its input itself, as a menu's, or that the program runs itself.
 void QueueKey(WORD virtualKey);
 void QueueClick(CPoint screen);
 void QueueClick(HWND window);

@@ -5,11 +5,11 @@
 //     owtest::Click(button);
 //     EXPECT_EQ(visit.Count(), 1);
 //
-// The visitor is called once, for the first menu that this thread shows after the object was made; several visitors
-// one after the other, each when what the one before did has been worked off. A menu takes its input from the queue in
-// a loop of its own, so a visitor must not pump: what it presses and clicks is worked off when it has returned; and no
-// exception may leave it. A menu that is open long after the last visit is closed, so that a test fails and does not
-// hang.
+// The visitor is called once, for the first menu that this thread shows after the object was made; several
+// visitors one after the other, each when what the one before did has been worked off. A menu takes its input
+// from the queue in a loop of its own, so a visitor must not pump: what it presses and clicks is worked off
+// when it has returned; and no exception may leave it. A menu that is open long after the last visit is
+// closed, so that a test fails and does not hang.
 
 #include <afxwin.h>
 
@@ -89,7 +89,7 @@ private:
     static constexpr UINT kPollMs = 5;
     static constexpr ULONGLONG kPatienceMs = 10000;
 
-    // A timer is served when no input waits and nothing is to be painted: the menu has worked off what came before.
+    // A timer is served when no input waits and nothing is to be painted: what came before is worked off.
     static void CALLBACK Poll(HWND, UINT, UINT_PTR, DWORD)
     {
         if (HWND window = OpenMenuWindow(); window && s_current)

@@ -6,9 +6,9 @@
 //     EXPECT_EQ(visit.Count(), 1);
 //
 // The visitor is called once: for the first dialog that this thread shows and lets be used after the object
-// was made. With several visitors, each has the next dialog, whether it opens over the last one or after it. A
-// dialog that is still open after its visit is cancelled, so that a test fails and does not hang.
-// Visits nest. Exceptions must not leave a visitor, which is called by the system.
+// was made. With several visitors, each has the next dialog, whether it opens over the last one or after it.
+// A dialog that is still open after its visit is cancelled, so that a test fails and does not hang. Visits
+// nest. Exceptions must not leave a visitor, which is called by the system.
 
 #include <afxwin.h>
 

@@ -1,8 +1,13 @@
 #pragma once
-// What a user does on a page of the gallery, for the walk that takes a picture of each page afterwards. One file
-// for each page, in uses/:
+// What a user does on a page of the gallery, for the walk that takes a picture of each page afterwards. One
+// file for each page, in uses/:
 //
-//     void UseNumbers(CWnd& page) { Focus(page, IDC_LENGTH); owtest::Type(L"5"); Require(..., L"no length"); }
+//     void UseNumbers(CWnd& page)
+//     {
+//         Focus(page, IDC_LENGTH);
+//         owtest::Type(L"5");
+//         Require(..., L"no length");
+//     }
 //     const PageUse s_use(L"Numbers", &UseNumbers);
 
 #include <DialogControlsOW.h>
