@@ -243,7 +243,10 @@ public:
     virtual void ButtonReflectedOnClicked(int /*nId*/) {}
     virtual void ButtonReflectedOnDoubleclicked(int /*nId*/) {}
     /// The brush for the button's background, not owned by the button; null leaves the choice to the system.
-    virtual HBRUSH ButtonReflectedOnCtlColor(int /*nId*/, CDC* /*pDC*/, unsigned int /*nCtlColor*/) { return nullptr; }
+    virtual HBRUSH ButtonReflectedOnCtlColor(int /*nId*/, CDC* /*pDC*/, unsigned int /*nCtlColor*/)
+    {
+        return nullptr;
+    }
     virtual void ButtonReflectedOnParentNotify(int /*nId*/, unsigned int /*message*/, __int64 /*lParam*/) {}
 };
 
