@@ -3,6 +3,7 @@
 #include "GalleryDialog.h"
 
 #include "ComboGalleryDialog.h"
+#include "PageIds.h"
 #include "resource.h"
 
 CGalleryDialog::CGalleryDialog(CWnd* pParent) : CGalleryHostDialog(IDD_GALLERY, pParent)
@@ -15,7 +16,8 @@ END_MESSAGE_MAP()
 
 void CGalleryDialog::OnByCombos()
 {
-    CComboGalleryDialog(this).DoModal();
+    const CPage* pShown = m_tree.GetCurrentPage();
+    CComboGalleryDialog(this, pShown ? pShown->GetPageID() : ePageTextBoxes).DoModal();
 }
 
 void CGalleryDialog::DoDataExchange(CDataExchange* pDX)
@@ -33,10 +35,21 @@ BOOL CGalleryDialog::OnInitDialog()
     m_tree.RegisterSelectPageNotification(this, true);
     m_tree.RegisterSelectPageNotification(&m_manager, true);
     m_tree.RegisterSelectPageNotification(&m_caption, true);
-    CPage* pFirst = AddAllPages(*this);
+    AddAllPages(m_manager, *this);
+    PreSetPages();
     ExpandAll();
-    m_tree.SetCurrentPage(pFirst);
+    m_tree.SetCurrentPage(m_manager.GetPage(ePageTextBoxes));
     return FALSE; // the tree has the focus
+}
+
+// What a page's controls start from, if whoever shows the page wants it otherwise: columns are long.
+void CGalleryDialog::PreSetPages()
+{
+    CFormatJedinice metres;
+    metres.nUnitIndex = CMeasurementUnit::eMetre;
+    metres.nEditValue = 3;
+    metres.nCheckFlag = 1;
+    m_manager.GetPage(ePageColumn)->SetDuzina(metres);
 }
 
 void CGalleryDialog::ExpandAll()

@@ -16,6 +16,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void PreSetPages();
     void ExpandAll();
 
     CPageTreeCtrl m_tree;

@@ -2,32 +2,36 @@
 
 #include "GalleryPage.h"
 
+#include "GalleryHostDialog.h"
+#include "resource.h"
+
 #include "module/MemorySurface.h"
 
-void CGalleryPage::Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...)
+CGalleryPageDialog::CGalleryPageDialog(UINT nTemplateId, CGalleryHostDialog& host)
+    : CPageDialog(nTemplateId, &host), m_host(host)
+{
+}
+
+BOOL CGalleryPageDialog::OnInitDialog()
+{
+    gOtLang.TranslateDialog(this); // before the controls are bound and filled
+    SetWindowPos(m_host.GetDlgItem(IDC_PAGE_FRAME), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    return CPageDialog::OnInitDialog();
+}
+
+void CGalleryPageDialog::Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...)
 {
     va_list arguments;
     va_start(arguments, pszFormat);
     CString strCall;
-    strCall.FormatV(pszFormat, arguments);
+    strCall.FormatV(gOtLang.Do(pszFormat), arguments);
     va_end(arguments);
-    m_host.Write(pszControl, strCall);
+    m_host.Write(gOtLang.Do(pszControl), strCall);
 }
 
-BOOL CGalleryPage::PreTranslateMessage(MSG* pMsg)
+BOOL CGalleryPageDialog::PreTranslateMessage(MSG* pMsg)
 {
-    if (pMsg->message != WM_KEYDOWN || pMsg->wParam != VK_F6)
-        return CPageDialog::PreTranslateMessage(pMsg);
-    const bool bBack = ::GetKeyState(VK_SHIFT) < 0;
-    CDialog& host = m_host.Window();
-    host.GotoDlgCtrl(host.GetNextDlgTabItem(bBack ? GetWindow(GW_HWNDPREV) : GetWindow(GW_HWNDNEXT), bBack));
-    return TRUE;
-}
-
-CPage::EPageID CTitledPage::NextID()
-{
-    static int s_nLast = 0;
-    return static_cast<EPageID>(++s_nLast);
+    return m_host.GoByKey(*pMsg) || CPageDialog::PreTranslateMessage(pMsg);
 }
 
 void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint)
@@ -39,10 +43,4 @@ void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc,
         return;
     paint(surface.DC(), CRect(CPoint(0, 0), area.Size()));
     dc.BitBlt(area.left, area.top, area.Width(), area.Height(), &surface.DC(), 0, 0, SRCCOPY);
-}
-
-CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent)
-{
-    host.AddDialog(pDialog);
-    return host.AddPage(new CTitledPage(pszTitle, pDialog), pParent);
 }

@@ -2,60 +2,58 @@
 // What every page of the gallery is made of: a page dialog that writes down what its handlers hear, and a
 // page with a title. Common ground of the files in pages/, each of which is the example of one family of
 // controls.
+//
+//     void AddNumbersPage(CPageManager& manager, CGalleryHostDialog& host)
+//     {
+//         auto* pDialog = new CNumbersPageDialog(host);                        // the manager owns both
+//         manager.AddDialog(pDialog);
+//         manager.AddPage(new CGalleryPage(ePageNumbers, _T("Numbers"), pDialog), nullptr);
+//     }
+//
+// Texts go through gOtLang, as the library's own do: those of a template when its window is made, any other
+// where it is shown. A window keeps the language that it was opened in.
 
-#include <DialogControlsOW.h>
+#include "PageIds.h"
+
+#include <Translator.h>
 
 #include <functional>
 
-class CGalleryPage;
+class CGalleryHostDialog;
 
-/// The dialog that shows the pages, as they see it.
-class AGalleryHost
+class CGalleryPageDialog : public CPageDialog
 {
 public:
-    virtual ~AGalleryHost() {}
-    virtual CDialog& Window() = 0;
-    /// Takes over a page dialog, and makes its window.
-    virtual void AddDialog(CGalleryPage* pDialog) = 0;
-    /// Takes over a page; a null parent makes a top-level one. The answer is the page.
-    virtual CPage* AddPage(CPage* pPage, CPage* pParent) = 0;
-    /// Adds a line to the log of notifications.
-    virtual void Write(LPCTSTR pszControl, LPCTSTR pszCall) = 0;
-};
-
-class CGalleryPage : public CPageDialog
-{
-public:
-    CGalleryPage(UINT nTemplateId, AGalleryHost& host)
-        : CPageDialog(nTemplateId, &host.Window()), m_host(host)
-    {
-    }
+    CGalleryPageDialog(UINT nTemplateId, CGalleryHostDialog& host);
 
 protected:
-    /// Writes down a handler's call, as Log("Remark", "OnEditNChange(%d)", nId).
+    /// Translates the template and takes the page frame's place in the tab order of the host.
+    BOOL OnInitDialog() override;
+
+    /// Writes down a handler's call, as Log("Remark", "OnEditNChange(%d)", nId). Name and format
+    /// are translated.
     void Log(LPCTSTR pszControl, LPCTSTR pszFormat, ...);
 
-    /// F6 leaves the page, for the control behind it in the host. Tab goes round inside.
+    /// F6 and Shift+F6 leave the page, see CGalleryHostDialog. Tab goes round inside.
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 private:
-    AGalleryHost& m_host;
+    CGalleryHostDialog& m_host;
 };
 
-/// A page with a title and nothing to remember.
-class CTitledPage : public CPage
+/// A page with a title, which is translated, and nothing to remember.
+class CGalleryPage : public CPage
 {
 public:
-    CTitledPage(LPCTSTR pszTitle, CPageDialog* pDialog) : CPage(pszTitle, pDialog) {}
+    CGalleryPage(EPageID id, LPCTSTR pszTitle, CPageDialog* pDialog)
+        : CPage(gOtLang.Do(pszTitle), pDialog), m_id(id)
+    {
+    }
     EPageID GetPageID() const override { return m_id; }
 
 private:
-    static EPageID NextID();
-    EPageID m_id = NextID(); ///< a number of its own
+    EPageID m_id;
 };
 
 /// Paints an owner-drawn control in memory first, its corner at (0, 0): it follows changes without a flicker.
 void PaintInMemory(const DRAWITEMSTRUCT& item, const std::function<void(CDC& dc, const CRect& area)>& paint);
-
-/// Adds a dialog that serves one page only, and the page.
-CPage* AddTitledPage(AGalleryHost& host, CGalleryPage* pDialog, LPCTSTR pszTitle, CPage* pParent);

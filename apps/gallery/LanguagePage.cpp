@@ -17,18 +17,18 @@ CString CataloguePath()
 }
 } // namespace
 
-BEGIN_MESSAGE_MAP(CLanguagePage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CLanguagePageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_LANG_SERBIAN, OnSerbian)
     ON_BN_CLICKED(IDC_LANG_ENGLISH, OnEnglish)
 END_MESSAGE_MAP()
 
-void CLanguagePage::OnSerbian()
+void CLanguagePageDialog::OnSerbian()
 {
     gOtLang.Unload();
     ShowLanguage();
 }
 
-void CLanguagePage::OnEnglish()
+void CLanguagePageDialog::OnEnglish()
 {
     ClCatalogueError error;
     if (!gOtLang.Load(CataloguePath(), &error))
@@ -36,14 +36,14 @@ void CLanguagePage::OnEnglish()
     ShowLanguage();
 }
 
-void CLanguagePage::BindControlsToSources(bool bBind, CPage* pPage)
+void CLanguagePageDialog::BindControlsToSources(bool bBind, CPage* pPage)
 {
-    CGalleryPage::BindControlsToSources(bBind, pPage);
+    CGalleryPageDialog::BindControlsToSources(bBind, pPage);
     if (bBind)
         ShowLanguage();
 }
 
-void CLanguagePage::ShowLanguage()
+void CLanguagePageDialog::ShowLanguage()
 {
     CheckRadioButton(IDC_LANG_SERBIAN, IDC_LANG_ENGLISH,
                      gOtLang.IsLoaded() ? IDC_LANG_ENGLISH : IDC_LANG_SERBIAN);

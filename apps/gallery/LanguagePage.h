@@ -4,10 +4,10 @@
 
 #include "GalleryPage.h"
 
-class CLanguagePage : public CGalleryPage
+class CLanguagePageDialog : public CGalleryPageDialog
 {
 public:
-    CLanguagePage(UINT nTemplateId, AGalleryHost& host) : CGalleryPage(nTemplateId, host) {}
+    CLanguagePageDialog(UINT nTemplateId, CGalleryHostDialog& host) : CGalleryPageDialog(nTemplateId, host) {}
 
 protected:
     /// The language may be another one, by this page or by one that was shown before. Texts that the program

@@ -2,14 +2,16 @@
 
 #include "NotificationLog.h"
 
+#include <Translator.h>
+
 void CNotificationLog::MakeColumns()
 {
     SetExtendedStyle(LVS_EX_FULLROWSELECT);
     CRect rect;
     GetClientRect(rect);
     const int nControl = rect.Width() * 3 / 10;
-    InsertColumn(0, _T("Control"), LVCFMT_LEFT, nControl);
-    InsertColumn(1, _T("Handler call"), LVCFMT_LEFT,
+    InsertColumn(0, gOtLang.Do(_T("Control")), LVCFMT_LEFT, nControl);
+    InsertColumn(1, gOtLang.Do(_T("Handler call")), LVCFMT_LEFT,
                  rect.Width() - nControl - ::GetSystemMetrics(SM_CXVSCROLL));
 }
 

@@ -9,6 +9,8 @@
 #define IDC_PAGE_FRAME 1002
 #define IDC_LOG 1003
 #define IDC_BY_COMBOS 1004
+#define IDC_PREVIEW 1009
+#define IDC_CLOSE 999
 
 // The window with combo boxes in place of the tree
 #define IDD_GALLERY_COMBOS 101

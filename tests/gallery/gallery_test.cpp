@@ -1,36 +1,20 @@
 // The gallery as a host of pages: what it takes it gives back, also when it closes while a page is in use.
 
+#include "GalleryVisit.h"
+
 #include "ComboGalleryDialog.h"
-#include "GalleryDialog.h"
-#include "resource.h"
 
 #include "Handles.h"
 #include "Input.h"
-#include "ModalVisit.h"
+#include "Picture.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
+#include <set>
+#include <string>
+#include <typeinfo>
 
 namespace
 {
 constexpr size_t kSystemsShare = 32; ///< bytes that Wine keeps of each window for good, rounded up
-
-using Visit = std::function<void(CWnd&)>;
-
-/// Shows the dialog, and closes it as a user does.
-template <class Dialog>
-void OpenAndClose(const Visit& visit)
-{
-    Dialog dialog(nullptr);
-    owtest::ModalVisit modal(
-        [&](CWnd& window)
-        {
-            visit(window);
-            window.GetDlgItem(IDCANCEL)->SendMessage(BM_CLICK);
-        });
-    EXPECT_EQ(IDCANCEL, dialog.DoModal());
-}
 
 /// Opens the dialog many times, and expects to find everything as it was.
 template <class Dialog>
@@ -63,17 +47,7 @@ void ExpectNothingKept(int nOpenings, const Visit& useIt)
 
 TEST(GalleryDialog, GivesBackWhatItTook)
 {
-    ExpectNothingKept<CGalleryDialog>(50,
-                                      [](CWnd& window)
-                                      {
-                                          auto& tree = static_cast<CTreeCtrl&>(*window.GetDlgItem(IDC_PAGES));
-                                          for (HTREEITEM item = tree.GetRootItem(); item;
-                                               item = tree.GetNextVisibleItem(item))
-                                          {
-                                              tree.SelectItem(item);
-                                              window.UpdateWindow();
-                                          }
-                                      });
+    ExpectNothingKept<CGalleryDialog>(50, [](CWnd& window) { ForEachPage(window, [](CWnd&) {}); });
 }
 
 TEST(ComboGalleryDialog, GivesBackWhatItTook)
@@ -84,6 +58,63 @@ TEST(ComboGalleryDialog, GivesBackWhatItTook)
                                                owtest::Press(VK_DOWN);
                                                window.GetDlgItem(IDC_PAGE_CHECK)->SendMessage(BM_CLICK);
                                            });
+}
+
+// Escape asks, and takes No for an answer; the button does not ask.
+TEST(GalleryDialog, AsksBeforeEscapeLosesTheLog)
+{
+    for (const WORD answer : {VK_ESCAPE, VK_RETURN})
+    {
+        CGalleryDialog dialog(nullptr);
+        bool bClosed = false;
+        owtest::ModalVisit visit({[&](CWnd& window)
+                                  {
+                                      owtest::Press(VK_ESCAPE); // in the tree
+                                      bClosed = !window.IsWindowVisible();
+                                      window.GetDlgItem(IDC_CLOSE)->SendMessage(BM_CLICK);
+                                  },
+                                  [&](CWnd&) { owtest::Press(answer); }});
+        EXPECT_EQ(IDCANCEL, dialog.DoModal());
+        EXPECT_EQ(2, visit.Count());
+        EXPECT_EQ(answer == VK_RETURN, bClosed);
+    }
+}
+
+TEST(GalleryDialog, F6GoesToTheLogFromEveryKindOfControlAndBack)
+{
+    std::set<std::string> kinds; // one control of each is enough
+    const auto goAndComeBack = [&](CWnd& window, CWnd& control)
+    {
+        wchar_t szClass[32] = L"";
+        ::GetClassNameW(control, szClass, 32);
+        const std::string kind = std::string(typeid(control).name()) + CStringA(szClass).GetString();
+        if (!kinds.insert(kind).second)
+            return;
+        control.SetFocus();
+        const HWND hFocus = ::GetFocus(); // an edit inside, for a combo box that has one
+        if (control.IsKindOf(RUNTIME_CLASS(CGridCtrl)))
+            owtest::Press(VK_F2); // the editor of a cell
+        owtest::Press(VK_F6);
+        EXPECT_EQ(::GetFocus(), window.GetDlgItem(IDC_LOG)->m_hWnd) << kind;
+        owtest::Press(VK_F6);
+        EXPECT_EQ(::GetFocus(), hFocus) << kind;
+    };
+    OpenAndClose<CGalleryDialog>(
+        [&](CWnd& window)
+        {
+            goAndComeBack(window, *window.GetDlgItem(IDC_PAGES));
+            ForEachPage(window,
+                        [&](CWnd& page)
+                        {
+                            CWnd* const pFirst = page.GetNextDlgTabItem(nullptr);
+                            CWnd* pControl = pFirst;
+                            do
+                                if (pControl)
+                                    goAndComeBack(window, *pControl);
+                            while (pControl && (pControl = page.GetNextDlgTabItem(pControl)) != pFirst);
+                        });
+        });
+    EXPECT_GT(kinds.size(), 20u);
 }
 
 // Boxes report that they lose the focus while their dialog goes down.
@@ -97,5 +128,110 @@ TEST(GalleryDialog, ClosesWhileAPageIsInUse)
             CString strText;
             CWnd::GetFocus()->GetWindowText(strText);
             EXPECT_EQ(L"HEB 300", strText);
+        });
+}
+
+// The focus stays with the selector that is worked with; and the toggle answers each press of Space.
+TEST(ComboGalleryDialog, LeavesTheFocusInTheSelector)
+{
+    OpenAndClose<CComboGalleryDialog>(
+        [](CWnd& window)
+        {
+            const auto title = [&] { return owtest::TextOf(*window.GetDlgItem(IDC_PAGE_TITLE)); };
+            for (const int id : {IDC_PAGE_COMBO_BUTTON, IDC_PAGE_COMBO_CHECK})
+            {
+                CWnd& combo = *window.GetDlgItem(id);
+                combo.SetFocus();
+                for (const WORD key : {VK_DOWN, VK_UP})
+                {
+                    const std::wstring before = title();
+                    owtest::Press(key);
+                    EXPECT_NE(title(), before);
+                    EXPECT_EQ(::GetFocus(), combo.m_hWnd);
+                }
+            }
+            for (const int id : {IDC_PAGE_BUTTON, IDC_PAGE_CHECK})
+            {
+                CWnd& toggle = *window.GetDlgItem(id);
+                toggle.SetFocus();
+                for (int i = 1; i <= 4; ++i)
+                {
+                    owtest::Press(VK_SPACE);
+                    EXPECT_EQ(title(), i % 2 ? L"Numbers" : L"Text boxes");
+                    EXPECT_EQ(::GetFocus(), toggle.m_hWnd);
+                }
+            }
+        });
+}
+
+TEST(GalleryDialog, OpensTheOtherWindowAtTheSamePage)
+{
+    OpenAndClose<CGalleryDialog>(
+        [](CWnd& window)
+        {
+            owtest::Press(VK_DOWN);
+            owtest::ModalVisit other(
+                [&](CWnd& second)
+                {
+                    EXPECT_EQ(owtest::TextOf(*second.GetDlgItem(IDC_PAGE_TITLE)), L"Numbers");
+                    second.GetDlgItem(IDC_CLOSE)->SendMessage(BM_CLICK);
+                });
+            window.GetDlgItem(IDC_BY_COMBOS)->SendMessage(BM_CLICK);
+            EXPECT_EQ(other.Count(), 1);
+        });
+}
+
+// Column and Beam: the host pre-sets the unit of one, and both are drawn by the values that the boxes hold.
+TEST(GalleryDialog, ShowsPreSetValuesAndThePreview)
+{
+    OpenAndClose<CGalleryDialog>(
+        [](CWnd& window)
+        {
+            CWnd& preview = *window.GetDlgItem(IDC_PREVIEW);
+            EXPECT_FALSE(preview.IsWindowVisible()) << "the first page has none";
+            const auto drawn = [&]
+            {
+                preview.UpdateWindow();
+                owtest::Surface picture(120, 80);
+                owtest::Capture(preview, picture);
+                return picture.extent(RGB(24, 52, 104));
+            };
+            auto& tree = static_cast<CPageTreeCtrl&>(*window.GetDlgItem(IDC_PAGES));
+            while (tree.GetCurrentPage()->GetPageID() != ePageColumn)
+                owtest::Press(VK_DOWN);
+            EXPECT_TRUE(preview.IsWindowVisible());
+            const CRect before = drawn();
+            owtest::Press(VK_F6);
+            owtest::Press(VK_F6, true); // by the log to the tree, and from there
+            owtest::Press(VK_TAB);      // into the page
+            EXPECT_EQ(owtest::TextOf(*CWnd::GetFocus()), L"3.400");
+            owtest::Press('A', false, true);
+            owtest::Type(L"7");
+            EXPECT_GT(drawn().Width(), before.Width());
+        });
+}
+
+TEST(GalleryDialog, LeavesListsWithNothingChosenAlone)
+{
+    OpenAndClose<CGalleryDialog>(
+        [](CWnd& window)
+        {
+            ForEachPage(
+                window,
+                [](CWnd& page)
+                {
+                    for (CWnd* pChild = page.GetWindow(GW_CHILD); pChild; pChild = pChild->GetNextWindow())
+                    {
+                        wchar_t szClass[16] = L"";
+                        ::GetClassNameW(*pChild, szClass, 16);
+                        if (CString(szClass) != L"ComboBox")
+                            continue;
+                        pChild->SendMessage(CB_SETCURSEL, WPARAM(-1));
+                        page.SendMessage(WM_COMMAND, MAKEWPARAM(pChild->GetDlgCtrlID(), CBN_SELCHANGE),
+                                         reinterpret_cast<LPARAM>(pChild->m_hWnd));
+                    }
+                    if (CWnd* pChosen = page.GetDlgItem(IDC_CHOSEN))
+                        EXPECT_EQ(owtest::TextOf(*pChosen), L"none; none");
+                });
         });
 }

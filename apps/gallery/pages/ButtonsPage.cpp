@@ -59,10 +59,10 @@ public:
     }
 };
 
-class CButtonsPage : public CGalleryPage, public AButtonSTNotificationHandler
+class CButtonsPageDialog : public CGalleryPageDialog, public AButtonSTNotificationHandler
 {
 public:
-    explicit CButtonsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_BUTTONS, host)
+    explicit CButtonsPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_BUTTONS, host)
     {
         for (int i = 0; i < rowCount * kColumns; ++i)
             m_buttons.push_back(std::make_unique<CPageButton>(this));
@@ -95,7 +95,7 @@ private:
     std::vector<std::unique_ptr<CPageButton>> m_buttons; ///< row by row
 };
 
-BEGIN_MESSAGE_MAP(CButtonsPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CButtonsPageDialog, CGalleryPageDialog)
     ON_WM_ERASEBKGND()
     ON_BN_CLICKED(IDC_BTN_FLAT, OnSwitch)
     ON_BN_CLICKED(IDC_BTN_THEME, OnSwitch)
@@ -104,9 +104,9 @@ BEGIN_MESSAGE_MAP(CButtonsPage, CGalleryPage)
 END_MESSAGE_MAP()
 
 // The ground of transparent buttons has a pattern that shows how well they let it through.
-BOOL CButtonsPage::OnEraseBkgnd(CDC* pDC)
+BOOL CButtonsPageDialog::OnEraseBkgnd(CDC* pDC)
 {
-    const BOOL bErased = CGalleryPage::OnEraseBkgnd(pDC);
+    const BOOL bErased = CGalleryPageDialog::OnEraseBkgnd(pDC);
     if (IsOn(IDC_BTN_TRANSPARENT))
         PaintPattern(*pDC, RowRect(rowRaised) | RowRect(rowAlignments));
     else
@@ -114,26 +114,26 @@ BOOL CButtonsPage::OnEraseBkgnd(CDC* pDC)
     return bErased;
 }
 
-void CButtonsPage::OnSwitch()
+void CButtonsPageDialog::OnSwitch()
 {
     ForEachButton([&](CPageButton& button, Row row, int column) { Apply(button, row, column); });
     Invalidate();
 }
 
-void CButtonsPage::DoDataExchange(CDataExchange* pDX)
+void CButtonsPageDialog::DoDataExchange(CDataExchange* pDX)
 {
-    CGalleryPage::DoDataExchange(pDX);
+    CGalleryPageDialog::DoDataExchange(pDX);
     for (size_t i = 0; i < m_buttons.size(); ++i)
         DDX_Control(pDX, IDC_BTN_FIRST + static_cast<int>(i), *m_buttons[i]);
 }
 
-int CButtonsPage::OnInitPageDialog()
+int CButtonsPageDialog::OnInitPageDialog()
 {
     CheckDlgButton(IDC_BTN_THEME, BST_CHECKED);
     auto* pAlign = static_cast<CComboBox*>(GetDlgItem(IDC_BTN_ALIGN));
     for (LPCTSTR pszAlign :
          {_T("Left of the title"), _T("Above the title"), _T("Right of the title"), _T("In the corner")})
-        pAlign->AddString(pszAlign);
+        pAlign->AddString(gOtLang.Do(pszAlign));
     pAlign->SetCurSel(0);
     ForEachButton(
         [&](CPageButton& button, Row row, int column)
@@ -144,13 +144,13 @@ int CButtonsPage::OnInitPageDialog()
     return TRUE;
 }
 
-void CButtonsPage::OnButtonClicked(int nId)
+void CButtonsPageDialog::OnButtonClicked(int nId)
 {
     Log(_T("Button"), _T("OnButtonClicked(%d)"), nId);
 }
 
 /// What a button is for good: images, tooltip, state.
-void CButtonsPage::Dress(CPageButton& button, Row row, int column)
+void CButtonsPageDialog::Dress(CPageButton& button, Row row, int column)
 {
     if (row == rowAlignments)
         return DressAlignment(button, column);
@@ -173,33 +173,35 @@ void CButtonsPage::Dress(CPageButton& button, Row row, int column)
         button.SetColor(CButtonST::colorTextFocus, RGB(150, 60, 0));
     }
     button.DrawAsToolbar(row == rowToolbar);
-    button.SetTooltipText(column < kColumns / 2 ? _T("The visual style draws face and border.")
-                                                : _T("Face and border are drawn by lines."));
+    button.SetTooltipText(gOtLang.Do(column < kColumns / 2 ? _T("The visual style draws face and border.")
+                                                           : _T("Face and border are drawn by lines.")));
 }
 
-void CButtonsPage::DressAlignment(CPageButton& button, int column)
+void CButtonsPageDialog::DressAlignment(CPageButton& button, int column)
 {
     if (column == kColumns - 1) // a picture: the grey copy of an icon would never be released
         button.SetBitmaps(MakePicture(), kKey, reinterpret_cast<HBITMAP>(CButtonST::copyGray));
     else
         button.SetIcon(CButtonST::hIconPogled, nullptr);
     button.SetAlign(column <= CButtonST::alignNone ? static_cast<BYTE>(column) : BYTE(CButtonST::alignLeft));
-    button.SetTooltipText(column == kColumns - 1 ? _T("The picture takes its colours under the mouse.")
-                                                 : _T("The place of the image beside the title."));
+    button.SetTooltipText(gOtLang.Do(column == kColumns - 1
+                                         ? _T("The picture takes its colours under the mouse.")
+                                         : _T("The place of the image beside the title.")));
 }
 
 /// What the switches at the top decide.
-void CButtonsPage::Apply(CPageButton& button, Row row, int column)
+void CButtonsPageDialog::Apply(CPageButton& button, Row row, int column)
 {
     const bool bThemed = column < kColumns / 2 && IsOn(IDC_BTN_THEME);
     button.SetThemeHelper(bThemed ? CButtonST::pLocalTheme : nullptr);
     button.SetFlat(IsOn(IDC_BTN_FLAT) || row == rowFlat || row == rowTransparent);
     button.ShowTransparent(IsOn(IDC_BTN_TRANSPARENT) || row == rowTransparent);
     if (row != rowAlignments)
-        button.SetAlign(static_cast<BYTE>(static_cast<CComboBox*>(GetDlgItem(IDC_BTN_ALIGN))->GetCurSel()));
+        if (const int nAlign = static_cast<CComboBox*>(GetDlgItem(IDC_BTN_ALIGN))->GetCurSel(); nAlign >= 0)
+            button.SetAlign(static_cast<BYTE>(nAlign));
 }
 
-CRect CButtonsPage::RowRect(Row row) const
+CRect CButtonsPageDialog::RowRect(Row row) const
 {
     CRect first, last;
     m_buttons[row * kColumns]->GetWindowRect(first);
@@ -210,7 +212,7 @@ CRect CButtonsPage::RowRect(Row row) const
     return rect;
 }
 
-void CButtonsPage::PaintPattern(CDC& dc, CRect rect) const
+void CButtonsPageDialog::PaintPattern(CDC& dc, CRect rect) const
 {
     CBrush brush(HS_BDIAGONAL, RGB(120, 165, 215));
     dc.SetBkColor(RGB(232, 241, 251));
@@ -218,7 +220,9 @@ void CButtonsPage::PaintPattern(CDC& dc, CRect rect) const
 }
 } // namespace
 
-CPage* AddButtonsPage(AGalleryHost& host, CPage* pParent)
+void AddButtonsPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CButtonsPage(host), _T("Buttons"), pParent);
+    auto* pDialog = new CButtonsPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageButtons, _T("Buttons"), pDialog), nullptr);
 }

@@ -19,10 +19,10 @@ enum Rule
     ruleCount
 };
 
-class CChoicesPage : public CGalleryPage, public AButtonSTNotificationHandler
+class CChoicesPageDialog : public CGalleryPageDialog, public AButtonSTNotificationHandler
 {
 public:
-    explicit CChoicesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_CHOICES, host) {}
+    explicit CChoicesPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_CHOICES, host) {}
 
     // The groups need the dialog's window, and so are set here and not in the constructor.
     int OnInitPageDialog() override
@@ -42,7 +42,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_CAMBERED, m_checkCambered);
         DDX_Control(pDX, IDC_DIMENSIONS, m_checkDimensions);
         DDX_Control(pDX, IDC_TOLERANCES, m_checkTolerances);
@@ -99,7 +99,7 @@ private:
     void ShowOption(int nLabelId, const CRadioGroup& group)
     {
         CString strText;
-        strText.Format(_T("Option %d of %d"), group.GetOption(), group.Count());
+        strText.Format(gOtLang.Do(_T("Option %d of %d")), group.GetOption(), group.Count());
         SetDlgItemText(nLabelId, strText);
     }
 
@@ -141,7 +141,7 @@ private:
     int m_values[ruleCount] = {1, 1, 0, 2};
 };
 
-BEGIN_MESSAGE_MAP(CChoicesPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CChoicesPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_COATING_CLEAR, OnClearCoating)
     ON_BN_CLICKED(IDC_COATING_ENABLE, OnEnableCoating)
     ON_BN_CLICKED(IDC_COATING_SHOW, OnShowCoating)
@@ -154,7 +154,9 @@ BEGIN_MESSAGE_MAP(CChoicesPage, CGalleryPage)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddChoicesPage(AGalleryHost& host, CPage* pParent)
+void AddChoicesPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CChoicesPage(host), _T("Choices"), pParent);
+    auto* pDialog = new CChoicesPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageChoices, _T("Choices"), pDialog), nullptr);
 }

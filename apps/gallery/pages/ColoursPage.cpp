@@ -29,12 +29,12 @@ private:
     void OnAcadColorChosen(int nId, int nColor) override { pBorrower->OnAcadColorChosen(nId, nColor); }
 };
 
-class CColoursPage : public CGalleryPage,
-                     public AColorBtnSTNotificationHandler,
-                     public AAcadColorBtnSTNotificationHandler
+class CColoursPageDialog : public CGalleryPageDialog,
+                           public AColorBtnSTNotificationHandler,
+                           public AAcadColorBtnSTNotificationHandler
 {
 public:
-    explicit CColoursPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_COLOURS, host) {}
+    explicit CColoursPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_COLOURS, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -61,44 +61,44 @@ private:
     int m_nOutline = 5, m_nAxes = 1; ///< blue and red
 };
 
-BEGIN_MESSAGE_MAP(CColoursPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CColoursPageDialog, CGalleryPageDialog)
     ON_WM_DRAWITEM()
     ON_BN_CLICKED(IDC_COL_RESET, OnReset)
     ON_BN_CLICKED(IDC_COL_STORE, OnStore)
     ON_BN_CLICKED(IDC_COL_LOAD, OnLoad)
 END_MESSAGE_MAP()
 
-void CColoursPage::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+void CColoursPageDialog::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     if (nIDCtl == IDC_COL_PREVIEW)
         PaintInMemory(*lpDrawItemStruct, [this](CDC& dc, const CRect& area) { PaintPreview(dc, area); });
     else
-        CGalleryPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
+        CGalleryPageDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
-void CColoursPage::OnReset()
+void CColoursPageDialog::OnReset()
 {
     CColorBtnST::Reset();
     ShowPalette(_T("Reset()"), _T("The palette is as delivered."));
 }
 
-void CColoursPage::OnStore()
+void CColoursPageDialog::OnStore()
 {
     const bool bStored = CColorBtnST::Store() != 0;
     ShowPalette(bStored ? _T("Store() = 1") : _T("Store() = 0"),
                 bStored ? _T("Stored in the application's profile.") : _T("The profile cannot be written."));
 }
 
-void CColoursPage::OnLoad()
+void CColoursPageDialog::OnLoad()
 {
     const bool bLoaded = CColorBtnST::Load() != 0;
     ShowPalette(bLoaded ? _T("Load() = 1") : _T("Load() = 0"),
                 bLoaded ? _T("Loaded from the profile.") : _T("Nothing was stored: as delivered."));
 }
 
-void CColoursPage::DoDataExchange(CDataExchange* pDX)
+void CColoursPageDialog::DoDataExchange(CDataExchange* pDX)
 {
-    CGalleryPage::DoDataExchange(pDX);
+    CGalleryPageDialog::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_COL_FLANGES, m_btnFlanges);
     DDX_Control(pDX, IDC_COL_WEB, m_btnWeb);
     DDX_Control(pDX, IDC_COL_LOCKED, m_btnLocked);
@@ -107,7 +107,7 @@ void CColoursPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_COL_LOCKED_OUTLINE, m_lockedOutline->button);
 }
 
-int CColoursPage::OnInitPageDialog()
+int CColoursPageDialog::OnInitPageDialog()
 {
     m_btnFlanges.SetColorSource(&m_crFlanges);
     m_btnWeb.SetColorSource(&m_crWeb);
@@ -115,33 +115,33 @@ int CColoursPage::OnInitPageDialog()
     m_outline->button.SetColorSource(&m_nOutline);
     m_axes->button.SetColorSource(&m_nAxes);
     m_lockedOutline->button.SetColorSource(&m_nOutline);
-    m_btnFlanges.SetTooltipText(_T("Any colour: twenty at hand, others by \"Other...\""));
-    m_outline->button.SetTooltipText(_T("One of the host's colours, by number"));
+    m_btnFlanges.SetTooltipText(gOtLang.Do(_T("Any colour: twenty at hand, others by \"Other...\"")));
+    m_outline->button.SetTooltipText(gOtLang.Do(_T("One of the host's colours, by number")));
     return TRUE;
 }
 
 // The colour is in its variable already. Of the preview the button knows nothing.
-void CColoursPage::OnColorChosen(int nId, int nColor)
+void CColoursPageDialog::OnColorChosen(int nId, int nColor)
 {
     Log(nId == IDC_COL_WEB ? _T("Web") : _T("Flanges"), _T("OnColorChosen(%d, 0x%06X)"), nId, nColor);
     GetDlgItem(IDC_COL_PREVIEW)->Invalidate(FALSE);
 }
 
-void CColoursPage::OnAcadColorChosen(int nId, int nColor)
+void CColoursPageDialog::OnAcadColorChosen(int nId, int nColor)
 {
     Log(nId == IDC_COL_AXES ? _T("Axes") : _T("Outline"), _T("OnAcadColorChosen(%d, %d)"), nId, nColor);
     m_lockedOutline->button.SetColorSource(&m_nOutline); // its number does not follow by itself
     GetDlgItem(IDC_COL_PREVIEW)->Invalidate(FALSE);
 }
 
-void CColoursPage::ShowPalette(LPCTSTR pszCall, LPCTSTR pszState)
+void CColoursPageDialog::ShowPalette(LPCTSTR pszCall, LPCTSTR pszState)
 {
     Log(_T("Palette"), pszCall);
-    SetDlgItemText(IDC_COL_STATE, pszState);
+    SetDlgItemText(IDC_COL_STATE, gOtLang.Do(pszState));
 }
 
 /// The section of a rolled beam: flanges and web filled, their outline and the axes drawn, as on a sheet.
-void CColoursPage::PaintPreview(CDC& dc, const CRect& area) const
+void CColoursPageDialog::PaintPreview(CDC& dc, const CRect& area) const
 {
     dc.FillSolidRect(area, RGB(255, 255, 255));
     dc.Draw3dRect(area, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
@@ -175,7 +175,7 @@ void CColoursPage::PaintPreview(CDC& dc, const CRect& area) const
     PaintAxes(dc, area);
 }
 
-void CColoursPage::PaintAxes(CDC& dc, const CRect& area) const
+void CColoursPageDialog::PaintAxes(CDC& dc, const CRect& area) const
 {
     constexpr int kMargin = 12; // pixels
     const CPoint middle = area.CenterPoint();
@@ -189,7 +189,9 @@ void CColoursPage::PaintAxes(CDC& dc, const CRect& area) const
 }
 } // namespace
 
-CPage* AddColoursPage(AGalleryHost& host, CPage* pParent)
+void AddColoursPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CColoursPage(host), _T("Colours"), pParent);
+    auto* pDialog = new CColoursPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageColours, _T("Colours"), pDialog), manager.GetPage(ePagePickers));
 }

@@ -7,12 +7,12 @@
 
 namespace
 {
-class CCombosPage : public CGalleryPage,
-                    public AExtComboBoxNotificationHandler,
-                    public CComboBoxReflectedNotificationHandler
+class CCombosPageDialog : public CGalleryPageDialog,
+                          public AExtComboBoxNotificationHandler,
+                          public CComboBoxReflectedNotificationHandler
 {
 public:
-    explicit CCombosPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_COMBOS, host) {}
+    explicit CCombosPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_COMBOS, host) {}
 
     int OnInitPageDialog() override
     {
@@ -29,7 +29,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_GRADE, m_comboGrade);
         DDX_Control(pDX, IDC_LAYER, m_comboLayer);
         DDX_Control(pDX, IDC_HATCH, m_comboHatch);
@@ -59,7 +59,7 @@ private:
     static void Fill(CComboBox& combo, std::initializer_list<LPCTSTR> entries)
     {
         for (LPCTSTR pszEntry : entries)
-            combo.AddString(pszEntry);
+            combo.AddString(gOtLang.Do(pszEntry));
         combo.SetCurSel(0);
     }
 
@@ -70,10 +70,16 @@ private:
 
     void ShowChosen()
     {
-        CString strGrade, strConnection;
-        m_comboGrade.GetLBText(m_comboGrade.GetCurSel(), strGrade);
-        m_comboConnection.GetLBText(m_comboConnection.GetCurSel(), strConnection);
-        SetDlgItemText(IDC_CHOSEN, strGrade + _T("; ") + strConnection);
+        SetDlgItemText(IDC_CHOSEN, ChosenIn(m_comboGrade) + _T("; ") + ChosenIn(m_comboConnection));
+    }
+
+    /// The chosen entry; a combo box may have none, and then its selection is -1.
+    static CString ChosenIn(const CComboBox& combo)
+    {
+        CString strEntry = gOtLang.Do(_T("none"));
+        if (const int nSel = combo.GetCurSel(); nSel >= 0)
+            combo.GetLBText(nSel, strEntry);
+        return strEntry;
     }
 
     CExtComboBox m_comboGrade{this};
@@ -84,7 +90,9 @@ private:
 };
 } // namespace
 
-CPage* AddCombosPage(AGalleryHost& host, CPage* pParent)
+void AddCombosPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CCombosPage(host), _T("Combo boxes"), pParent);
+    auto* pDialog = new CCombosPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageCombos, _T("Combo boxes"), pDialog), nullptr);
 }

@@ -19,13 +19,16 @@ CString StoragePath()
     return strFolder + _T('\\') + AfxGetApp()->m_pszExeName + _T(" bolt patterns.txt");
 }
 
-class CConfigurationsPage : public CGalleryPage,
-                            public AConfigCtrlGroupNotificationHandler,
-                            public CEditDWRNotificationHandler,
-                            public AExtComboBoxNotificationHandler
+class CConfigurationsPageDialog : public CGalleryPageDialog,
+                                  public AConfigCtrlGroupNotificationHandler,
+                                  public CEditDWRNotificationHandler,
+                                  public AExtComboBoxNotificationHandler
 {
 public:
-    explicit CConfigurationsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_CONFIGURATIONS, host) {}
+    explicit CConfigurationsPageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_CONFIGURATIONS, host)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -53,19 +56,19 @@ private:
     CExtComboBox m_comboGrade{this};
 };
 
-BEGIN_MESSAGE_MAP(CConfigurationsPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CConfigurationsPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_CONFIG_SAVE, OnSaved)
 END_MESSAGE_MAP()
 
 // The group has heard of the click first: the dialogs are closed.
-void CConfigurationsPage::OnSaved()
+void CConfigurationsPageDialog::OnSaved()
 {
     ShowState();
 }
 
-void CConfigurationsPage::DoDataExchange(CDataExchange* pDX)
+void CConfigurationsPageDialog::DoDataExchange(CDataExchange* pDX)
 {
-    CGalleryPage::DoDataExchange(pDX);
+    CGalleryPageDialog::DoDataExchange(pDX);
     m_configs.DoDataExchange(pDX);
     DDX_Control(pDX, IDC_PATTERN_ROWS, m_editRows);
     DDX_Control(pDX, IDC_PATTERN_PITCH, m_editPitch);
@@ -73,7 +76,7 @@ void CConfigurationsPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_PATTERN_GRADE, m_comboGrade);
 }
 
-int CConfigurationsPage::OnInitPageDialog()
+int CConfigurationsPageDialog::OnInitPageDialog()
 {
     m_editRows.SetRange(1, 20);
     InitLength(m_editPitch, 0.02, 0.5);
@@ -88,7 +91,7 @@ int CConfigurationsPage::OnInitPageDialog()
     return TRUE;
 }
 
-void CConfigurationsPage::InitLength(CEditDoubleWithRange& edit, double dMin, double dMax)
+void CConfigurationsPageDialog::InitLength(CEditDoubleWithRange& edit, double dMin, double dMax)
 {
     edit.SetComplexUnit(
         CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMillimetre, CMeasurementUnit::eLength)));
@@ -97,25 +100,25 @@ void CConfigurationsPage::InitLength(CEditDoubleWithRange& edit, double dMin, do
 }
 
 // The set has put the values of the chosen entry into the pattern.
-void CConfigurationsPage::OnConfigGroupChanged(CConfigCtrlGroup*)
+void CConfigurationsPageDialog::OnConfigGroupChanged(CConfigCtrlGroup*)
 {
     Log(_T("Configurations"), _T("OnConfigGroupChanged(), current entry %d"), m_stored.GetCurrentConfig());
     ShowValues();
 }
 
-void CConfigurationsPage::OnEditNChange(int nId)
+void CConfigurationsPageDialog::OnEditNChange(int nId)
 {
     Log(_T("Bolt pattern"), _T("OnEditNChange(%d)"), nId);
     TakeValues();
 }
 
-void CConfigurationsPage::OnExtComboBoxSelChanged(int nId, int nSel)
+void CConfigurationsPageDialog::OnExtComboBoxSelChanged(int nId, int nSel)
 {
     Log(_T("Grade"), _T("OnExtComboBoxSelChanged(%d, %d)"), nId, nSel);
     TakeValues();
 }
 
-void CConfigurationsPage::ShowValues()
+void CConfigurationsPageDialog::ShowValues()
 {
     m_editRows.SetValue(m_pattern.nRows);
     m_editPitch.SetValue(m_pattern.dPitch);
@@ -124,26 +127,30 @@ void CConfigurationsPage::ShowValues()
     ShowState();
 }
 
-void CConfigurationsPage::TakeValues()
+void CConfigurationsPageDialog::TakeValues()
 {
+    const int nGrade =
+        m_comboGrade.GetCurSel(); // none, if the file that the pattern came from had an unknown one
     m_pattern = {m_editRows.GetValue(), m_editPitch.GetValue(), m_editEdge.GetValue(),
-                 m_comboGrade.GetCurSel()};
+                 nGrade < 0 ? m_pattern.nGrade : nGrade};
     m_configs.Refresh(); // shows no entry while the values are those of none
     ShowState();
 }
 
-void CConfigurationsPage::ShowState()
+void CConfigurationsPageDialog::ShowState()
 {
     CString strLength;
     strLength.Format(_T("%.0f mm"),
                      1000.0 * ((m_pattern.nRows - 1) * m_pattern.dPitch + 2.0 * m_pattern.dEdge));
     SetDlgItemText(IDC_PATTERN_LENGTH, strLength);
     SetDlgItemText(IDC_PATTERN_STATE,
-                   m_stored.IsConfigChanged() ? _T("Changed, not saved") : _T("As stored"));
+                   gOtLang.Do(m_stored.IsConfigChanged() ? _T("Changed, not saved") : _T("As stored")));
 }
 } // namespace
 
-CPage* AddConfigurationsPage(AGalleryHost& host, CPage* pParent)
+void AddConfigurationsPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CConfigurationsPage(host), _T("Configurations"), pParent);
+    auto* pDialog = new CConfigurationsPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageConfigurations, _T("Configurations"), pDialog), nullptr);
 }

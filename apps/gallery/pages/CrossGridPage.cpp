@@ -22,17 +22,17 @@ enum EBandRow
 constexpr COLORREF c_crBand = RGB(255, 244, 214);
 constexpr COLORREF c_crBody = RGB(255, 255, 255);
 
-class CCrossGridPage : public CGalleryPage,
-                       public AExtGridCtrl2NotificationHandler,
-                       public AExtGridCtrl2ExtraHeaderSupport
+class CCrossGridPageDialog : public CGalleryPageDialog,
+                             public AExtGridCtrl2NotificationHandler,
+                             public AExtGridCtrl2ExtraHeaderSupport
 {
 public:
-    explicit CCrossGridPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_CROSS_GRID, host) {}
+    explicit CCrossGridPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_CROSS_GRID, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_CROSS_GRID, m_grid);
     }
     int OnInitPageDialog() override;
@@ -64,11 +64,11 @@ private:
     CExtGridCtrl2 m_grid{this, this};
 };
 
-BEGIN_MESSAGE_MAP(CCrossGridPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CCrossGridPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_CROSS_GRID_GO, OnGoToLargest)
 END_MESSAGE_MAP()
 
-int CCrossGridPage::OnInitPageDialog()
+int CCrossGridPageDialog::OnInitPageDialog()
 {
     m_grid.InstallMessageHook(); // the window is the dialog template's
     m_grid.SetDoubleBuffering();
@@ -87,19 +87,19 @@ int CCrossGridPage::OnInitPageDialog()
 }
 
 /// Takes numbers only, and works out the column's extremes again.
-bool CCrossGridPage::OnExtGrid2EndEdit(int nId, CCellID cell, const CString* pText)
+bool CCrossGridPageDialog::OnExtGrid2EndEdit(int nId, CCellID cell, const CString* pText)
 {
     double dForce = 0.0;
     const bool bAccepted = gfnParseDouble(*pText, dForce);
     Log(_T("Forces"), _T("OnExtGrid2EndEdit(%d, cell %d,%d, \"%s\")   %s"), nId, cell.row, cell.col,
-        pText->GetString(), bAccepted ? _T("accepted") : _T("refused"));
+        pText->GetString(), gOtLang.Do(bAccepted ? _T("accepted") : _T("refused")).GetString());
     if (bAccepted)
         ShowExtremes(cell.col);
     return bAccepted;
 }
 
 /// To the largest force of the current column.
-void CCrossGridPage::OnGoToLargest()
+void CCrossGridPageDialog::OnGoToLargest()
 {
     const int nCol = std::max(m_grid.GetFocusCell().col, 1);
     int nLargest = eFirstMember;
@@ -115,20 +115,20 @@ void CCrossGridPage::OnGoToLargest()
 
 // ---- Contents ---------------------------------------------------------------------------------------------
 
-void CCrossGridPage::MakeHeadings()
+void CCrossGridPageDialog::MakeHeadings()
 {
-    m_grid.SetItemText(0, 0, _T("Forces [kN]"));
-    m_grid.SetItemText(eLargest, 0, _T("Largest"));
-    m_grid.SetItemText(eSmallest, 0, _T("Smallest"));
+    m_grid.SetItemText(0, 0, gOtLang.Do(_T("Forces [kN]")));
+    m_grid.SetItemText(eLargest, 0, gOtLang.Do(_T("Largest")));
+    m_grid.SetItemText(eSmallest, 0, gOtLang.Do(_T("Smallest")));
     for (int nRow = eFirstMember; nRow < m_grid.GetRowCount(); ++nRow)
-        m_grid.SetItemTextFmt(nRow, 0, _T("Member %d"), nRow - eFirstMember + 1);
+        m_grid.SetItemTextFmt(nRow, 0, gOtLang.Do(_T("Member %d")), nRow - eFirstMember + 1);
     for (int nCol = 1; nCol <= c_nCases; ++nCol)
-        m_grid.SetItemTextFmt(0, nCol, _T("LC %d"), nCol);
+        m_grid.SetItemTextFmt(0, nCol, gOtLang.Do(_T("LC %d")), nCol);
     for (int nCol = 0; nCol <= c_nCases; ++nCol)
         m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
 }
 
-void CCrossGridPage::FillBody()
+void CCrossGridPageDialog::FillBody()
 {
     for (int nCol = 1; nCol <= c_nCases; ++nCol)
     {
@@ -145,7 +145,7 @@ void CCrossGridPage::FillBody()
     }
 }
 
-void CCrossGridPage::ShowExtremes(int nCol)
+void CCrossGridPageDialog::ShowExtremes(int nCol)
 {
     double dLargest = ForceAt(eFirstMember, nCol);
     double dSmallest = dLargest;
@@ -160,7 +160,10 @@ void CCrossGridPage::ShowExtremes(int nCol)
 }
 } // namespace
 
-CPage* AddCrossGridPage(AGalleryHost& host, CPage* pParent)
+void AddCrossGridPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CCrossGridPage(host), _T("Cross grid"), pParent);
+    auto* pDialog = new CCrossGridPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageCrossGrid, _T("Cross grid"), pDialog),
+                    manager.GetPage(ePageSteelSchedule));
 }

@@ -95,18 +95,21 @@ void WriteDrawingsIn(WORD nLanguage)
                                                             : MAKELANGID(nLanguage, SUBLANG_DEFAULT));
 }
 
-class CDisplayCellsPage : public CGalleryPage,
-                          public AExtGridCtrlNotificationHandler,
-                          public AExtComboBoxNotificationHandler,
-                          public CEditNNotificationHandler
+class CDisplayCellsPageDialog : public CGalleryPageDialog,
+                                public AExtGridCtrlNotificationHandler,
+                                public AExtComboBoxNotificationHandler,
+                                public CEditNNotificationHandler
 {
 public:
-    explicit CDisplayCellsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_DISPLAY_CELLS, host) {}
+    explicit CDisplayCellsPageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_DISPLAY_CELLS, host)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_DISPLAY_GRID, m_grid);
         DDX_Control(pDX, IDC_DISPLAY_HATCH, m_comboHatch);
         DDX_Control(pDX, IDC_DISPLAY_LANGUAGE, m_comboLanguage);
@@ -169,19 +172,19 @@ private:
     int m_nRow = 1;
 };
 
-BEGIN_MESSAGE_MAP(CDisplayCellsPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CDisplayCellsPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_DISPLAY_CHANGED, OnChanged)
     ON_COMMAND_RANGE(IDC_DISPLAY_LEFT, IDC_DISPLAY_BOTTOM, OnPlaceImages)
     ON_WM_SHOWWINDOW()
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
-int CDisplayCellsPage::OnInitPageDialog()
+int CDisplayCellsPageDialog::OnInitPageDialog()
 {
     for (const SHatch& hatch : c_hatches)
-        m_comboHatch.AddString(hatch.pszName);
+        m_comboHatch.AddString(gOtLang.Do(hatch.pszName));
     for (const SLanguage& language : c_languages)
-        m_comboLanguage.AddString(language.pszLanguage);
+        m_comboLanguage.AddString(gOtLang.Do(language.pszLanguage));
     m_comboLanguage.SetCurSel(0);
 
     m_grid.InstallMessageHook(); // the window is the dialog template's
@@ -206,10 +209,12 @@ int CDisplayCellsPage::OnInitPageDialog()
     return TRUE;
 }
 
-void CDisplayCellsPage::OnExtComboBoxSelChanged(int nId, int nSel)
+void CDisplayCellsPageDialog::OnExtComboBoxSelChanged(int nId, int nSel)
 {
     Log(nId == IDC_DISPLAY_HATCH ? _T("Hatch") : _T("Language"), _T("OnExtComboBoxSelChanged(%d, %d)"), nId,
         nSel);
+    if (nSel < 0)
+        return;
     if (nId == IDC_DISPLAY_LANGUAGE)
     {
         WriteIn(c_languages[nSel]);
@@ -219,7 +224,7 @@ void CDisplayCellsPage::OnExtComboBoxSelChanged(int nId, int nSel)
     m_grid.RedrawCell(m_nRow, eSection);
 }
 
-void CDisplayCellsPage::OnPlaceImages(UINT /*nId*/)
+void CDisplayCellsPageDialog::OnPlaceImages(UINT /*nId*/)
 {
     static constexpr DWORD c_across[] = {DT_LEFT, DT_CENTER, DT_RIGHT};
     static constexpr DWORD c_down[] = {DT_TOP, DT_VCENTER, DT_BOTTOM};
@@ -231,21 +236,21 @@ void CDisplayCellsPage::OnPlaceImages(UINT /*nId*/)
 }
 
 // The language is that of this page only while it shows.
-void CDisplayCellsPage::OnShowWindow(BOOL bShow, UINT nStatus)
+void CDisplayCellsPageDialog::OnShowWindow(BOOL bShow, UINT nStatus)
 {
-    CGalleryPage::OnShowWindow(bShow, nStatus);
+    CGalleryPageDialog::OnShowWindow(bShow, nStatus);
     WriteDrawingsIn(bShow ? m_pLanguage->nLanguage : LANG_NEUTRAL);
 }
 
-void CDisplayCellsPage::OnDestroy()
+void CDisplayCellsPageDialog::OnDestroy()
 {
-    CGalleryPage::OnDestroy();
+    CGalleryPageDialog::OnDestroy();
     WriteDrawingsIn(LANG_NEUTRAL);
 }
 
 // ---- The legend -------------------------------------------------------------------------------------------
 
-void CDisplayCellsPage::MakeHeadings()
+void CDisplayCellsPageDialog::MakeHeadings()
 {
     static constexpr LPCTSTR c_headings[] = {_T("No."),     _T("Name"), _T("Section"),
                                              _T("Profile"), _T("Plan"), _T("Symbol")};
@@ -255,12 +260,12 @@ void CDisplayCellsPage::MakeHeadings()
     m_grid.SetFixedColumnCount(1);
     for (int nCol = 0; nCol < eColumnCount; ++nCol)
     {
-        m_grid.SetItemText(0, nCol, c_headings[nCol]);
+        m_grid.SetItemText(0, nCol, gOtLang.Do(c_headings[nCol]));
         m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
     }
 }
 
-void CDisplayCellsPage::AddItem(const SItem& item)
+void CDisplayCellsPageDialog::AddItem(const SItem& item)
 {
     constexpr int c_nRowHeight = 29; // pixels: an image of 16 has room to move
     CString strNumber;
@@ -290,7 +295,7 @@ void CDisplayCellsPage::AddItem(const SItem& item)
 
 /// The cells for names are made anew, as each finds out once whether it needs another character set. Their editors
 /// and the title's box get it by hooks, what is painted by the fonts of the grid.
-void CDisplayCellsPage::WriteIn(const SLanguage& language)
+void CDisplayCellsPageDialog::WriteIn(const SLanguage& language)
 {
     m_pLanguage = &language;
     WriteDrawingsIn(language.nLanguage);
@@ -308,7 +313,7 @@ void CDisplayCellsPage::WriteIn(const SLanguage& language)
     m_editTitle.SafeSetWindowText(language.pszTitle);
 }
 
-void CDisplayCellsPage::ShowCurrentRow()
+void CDisplayCellsPageDialog::ShowCurrentRow()
 {
     const auto& section = CellAt<CPatternBkgndGridCell>(m_nRow, eSection);
     for (int i = 0; i < static_cast<int>(std::size(c_hatches)); ++i)
@@ -320,7 +325,9 @@ void CDisplayCellsPage::ShowCurrentRow()
 }
 } // namespace
 
-CPage* AddDisplayCellsPage(AGalleryHost& host, CPage* pParent)
+void AddDisplayCellsPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CDisplayCellsPage(host), _T("Display cells"), pParent);
+    auto* pDialog = new CDisplayCellsPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageDisplayCells, _T("Display cells"), pDialog), nullptr);
 }

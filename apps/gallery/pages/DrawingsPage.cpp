@@ -9,11 +9,12 @@
 
 namespace
 {
-class CDrawingsPage : public CTitledPage
+class CDrawingsPage : public CGalleryPage
 {
 public:
-    CDrawingsPage(LPCTSTR pszTitle, CPageDialog* pDialog, std::vector<Drawing> drawings, CSize cell)
-        : CTitledPage(pszTitle, pDialog), drawings(std::move(drawings)), cell(cell)
+    CDrawingsPage(EPageID id, LPCTSTR pszTitle, CPageDialog* pDialog, std::vector<Drawing> drawings,
+                  CSize cell)
+        : CGalleryPage(id, pszTitle, pDialog), drawings(std::move(drawings)), cell(cell)
     {
     }
 
@@ -21,10 +22,10 @@ public:
     const CSize cell;
 };
 
-class CDrawingsDialog : public CGalleryPage
+class CDrawingsDialog : public CGalleryPageDialog
 {
 public:
-    explicit CDrawingsDialog(AGalleryHost& host) : CGalleryPage(IDD_PAGE_DRAWINGS, host) {}
+    explicit CDrawingsDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_DRAWINGS, host) {}
 
     void BindControlsToSources(bool bBind, CPage* pPage) override
     {
@@ -40,7 +41,7 @@ private:
     CDrawingsPage* m_pPage = nullptr; ///< the page that is shown
 };
 
-BEGIN_MESSAGE_MAP(CDrawingsDialog, CGalleryPage)
+BEGIN_MESSAGE_MAP(CDrawingsDialog, CGalleryPageDialog)
     ON_WM_PAINT()
 END_MESSAGE_MAP()
 
@@ -54,11 +55,13 @@ void CDrawingsDialog::OnPaint()
 }
 } // namespace
 
-CPage* AddDrawingsPage(AGalleryHost& host, CPage* pParent)
+// One dialog serves both pages.
+void AddDrawingsPage(CPageManager& manager, CGalleryHostDialog& host)
 {
     auto* pDialog = new CDrawingsDialog(host);
-    host.AddDialog(pDialog);
-    CPage* pIcons = host.AddPage(new CDrawingsPage(_T("Icons"), pDialog, AllIcons(), CSize(38, 42)), pParent);
-    host.AddPage(new CDrawingsPage(_T("Pictures"), pDialog, AllPictures(), CSize(72, 42)), pIcons);
-    return pIcons;
+    manager.AddDialog(pDialog);
+    CPage* pIcons = new CDrawingsPage(ePageIcons, _T("Icons"), pDialog, AllIcons(), CSize(38, 42));
+    manager.AddPage(pIcons, nullptr);
+    manager.AddPage(new CDrawingsPage(ePagePictures, _T("Pictures"), pDialog, AllPictures(), CSize(72, 42)),
+                    pIcons);
 }

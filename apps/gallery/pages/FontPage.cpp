@@ -70,8 +70,10 @@ struct STextStyle
 CString TextOf(const epgFont& font)
 {
     CString strText;
-    strText.Format(_T("%s, %.1f mm, colour %d%s%s"), font.strName.GetString(), font.dHeight * 1000,
-                   font.nColor, font.nCheck1 ? _T(", bold") : _T(""), font.nCheck2 ? _T(", italic") : _T(""));
+    strText.Format(gOtLang.Do(_T("%s, %.1f mm, colour %d%s%s")), font.strName.GetString(),
+                   font.dHeight * 1000, font.nColor,
+                   gOtLang.Do(font.nCheck1 ? _T(", bold") : _T("")).GetString(),
+                   gOtLang.Do(font.nCheck2 ? _T(", italic") : _T("")).GetString());
     return strText;
 }
 
@@ -96,17 +98,17 @@ COLORREF OnPaper(int nColor)
     return nColor == kForeground ? RGB(0, 0, 0) : acedGetRGB(nColor);
 }
 
-class CFontPage : public CGalleryPage,
-                  public AFontSelectionNotificationHandler,
-                  public AFontCtrlGroupNotificationHandler
+class CFontPageDialog : public CGalleryPageDialog,
+                        public AFontSelectionNotificationHandler,
+                        public AFontCtrlGroupNotificationHandler
 {
 public:
-    explicit CFontPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_FONT, host)
+    explicit CFontPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_FONT, host)
     {
         IntroduceShxFonts();
         CFontSelectionComboBox::LoadIcons();
     }
-    ~CFontPage() override { DestroyWindow(); } // while it still has its group
+    ~CFontPageDialog() override { DestroyWindow(); } // while it still has its group
 
     int OnInitPageDialog() override
     {
@@ -124,7 +126,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_FONT_NAME, m_comboFont);
         m_styleGroup->group.DoDataExchange(pDX);
     }
@@ -194,39 +196,39 @@ private:
     CBorrowed<CShelvedFontGroup> m_styleGroup{this};
 };
 
-BEGIN_MESSAGE_MAP(CFontPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CFontPageDialog, CGalleryPageDialog)
     ON_WM_DRAWITEM()
     ON_CONTROL_RANGE(BN_CLICKED, IDC_STYLE_FIRST, IDC_STYLE_LAST, OnStyle)
     ON_BN_CLICKED(IDC_FONT_SELECT, OnSelect)
 END_MESSAGE_MAP()
 
-void CFontPage::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
+void CFontPageDialog::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     if (nIDCtl == IDC_STYLE_SHEET)
         PaintInMemory(*lpDrawItemStruct, [this](CDC& dc, const CRect& area) { PaintSheet(dc, area); });
     else
-        CGalleryPage::OnDrawItem(nIDCtl, lpDrawItemStruct);
+        CGalleryPageDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 
 // One group for all three: it edits the record that it is given.
-void CFontPage::OnStyle(UINT nId)
+void CFontPageDialog::OnStyle(UINT nId)
 {
     m_nStyle = nId - IDC_STYLE_FIRST;
     m_styleGroup->group.SetFontSource(&m_styles[m_nStyle].font);
     ShowStyles();
 }
 
-void CFontPage::OnSelect()
+void CFontPageDialog::OnSelect()
 {
     CString strWanted;
     GetDlgItemText(IDC_FONT_WANTED, strWanted);
     const bool bFound = m_comboFont.SetSelection(strWanted); // reports nothing
-    SetDlgItemText(IDC_FONT_FOUND, bFound ? _T("Selected.") : _T("There is no such font."));
+    SetDlgItemText(IDC_FONT_FOUND, gOtLang.Do(bFound ? _T("Selected.") : _T("There is no such font.")));
     ShowSelection();
 }
 
 // In fonts that the system has.
-void CFontPage::InitStyles()
+void CFontPageDialog::InitStyles()
 {
     const bool bArial = m_comboFont.FindStringExact(-1, _T("Arial")) >= 0;
     const LPCTSTR pszSans = bArial ? _T("Arial") : _T("Liberation Sans");
@@ -236,17 +238,18 @@ void CFontPage::InitStyles()
     m_styles[2].font = {pszSerif, 0.0035, 94, 0, 1, 0, eFontTrueType};
 }
 
-void CFontPage::ShowStyles()
+void CFontPageDialog::ShowStyles()
 {
     const epgFont& font = m_styles[m_nStyle].font;
-    SetDlgItemText(IDC_STYLE_RECORD, font.eClass == eFontSHX
-                                         ? TextOf(font) + _T(" (the host's own: another font stands in here)")
-                                         : TextOf(font));
+    SetDlgItemText(IDC_STYLE_RECORD,
+                   font.eClass == eFontSHX
+                       ? TextOf(font) + gOtLang.Do(_T(" (the host's own: another font stands in here)"))
+                       : TextOf(font));
     GetDlgItem(IDC_STYLE_SHEET)->Invalidate(FALSE);
 }
 
 /// The styles one below the other, with a bar beside the one that is edited.
-void CFontPage::PaintSheet(CDC& dc, const CRect& sheet)
+void CFontPageDialog::PaintSheet(CDC& dc, const CRect& sheet)
 {
     constexpr int kBar = 4; // pixels
     const CGdiSelection font(dc, GetFont()->m_hObject);
@@ -267,11 +270,11 @@ void CFontPage::PaintSheet(CDC& dc, const CRect& sheet)
 }
 
 /// A style's name, and a text in its font, height and colour below.
-void CFontPage::PaintStyle(CDC& dc, CRect room, const STextStyle& style)
+void CFontPageDialog::PaintStyle(CDC& dc, CRect room, const STextStyle& style)
 {
     room.DeflateRect(12, 4);
     dc.SetTextColor(::GetSysColor(COLOR_GRAYTEXT));
-    room.top += dc.DrawText(style.pszName, room, DT_SINGLELINE | DT_NOPREFIX);
+    room.top += dc.DrawText(gOtLang.Do(style.pszName), room, DT_SINGLELINE | DT_NOPREFIX);
     CFont font;
     const LOGFONT logFont = OnScreen(style.font, dc);
     font.CreateFontIndirect(&logFont);
@@ -281,7 +284,9 @@ void CFontPage::PaintStyle(CDC& dc, CRect room, const STextStyle& style)
 }
 } // namespace
 
-CPage* AddFontPage(AGalleryHost& host, CPage* pParent)
+void AddFontPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CFontPage(host), _T("Font"), pParent);
+    auto* pDialog = new CFontPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageFont, _T("Font"), pDialog), manager.GetPage(ePageCombos));
 }

@@ -43,15 +43,15 @@ const Part kParts[] = {
     {_T("HEA 240"), 0, 60.3, 5100, 4, _T("")},
 };
 
-class CGridPage : public CGalleryPage
+class CGridPageDialog : public CGalleryPageDialog
 {
 public:
-    explicit CGridPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_GRID, host) {}
+    explicit CGridPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_GRID, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_GRID, m_grid);
     }
     int OnInitPageDialog() override
@@ -171,7 +171,7 @@ private:
         m_grid.SetFixedColumnCount(1);
         for (int nCol = 0; nCol < eColumnCount; ++nCol)
         {
-            m_grid.SetItemText(0, nCol, kHeadings[nCol]);
+            m_grid.SetItemText(0, nCol, gOtLang.Do(kHeadings[nCol]));
             m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
         }
     }
@@ -208,7 +208,7 @@ private:
     CGridCtrl m_grid;
 };
 
-BEGIN_MESSAGE_MAP(CGridPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CGridPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_GRID_ADD, OnAdd)
     ON_BN_CLICKED(IDC_GRID_DELETE, OnDelete)
     ON_BN_CLICKED(IDC_GRID_FIT, OnFit)
@@ -225,7 +225,9 @@ BEGIN_MESSAGE_MAP(CGridPage, CGalleryPage)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddGridPage(AGalleryHost& host, CPage* pParent)
+void AddGridPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CGridPage(host), _T("Grid"), pParent);
+    auto* pDialog = new CGridPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageGrid, _T("Grid"), pDialog), nullptr);
 }

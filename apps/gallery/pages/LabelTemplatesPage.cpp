@@ -75,10 +75,11 @@ constexpr SKind c_kinds[] = {
 };
 constexpr int c_nKinds = static_cast<int>(std::size(c_kinds));
 
-class CLabelTemplatesPage : public CLanguagePage, public CEditNNotificationHandler
+class CLabelTemplatesPageDialog : public CLanguagePageDialog, public CEditNNotificationHandler
 {
 public:
-    explicit CLabelTemplatesPage(AGalleryHost& host) : CLanguagePage(IDD_PAGE_LABEL_TEMPLATES, host)
+    explicit CLabelTemplatesPageDialog(CGalleryHostDialog& host)
+        : CLanguagePageDialog(IDD_PAGE_LABEL_TEMPLATES, host)
     {
         m_editBarePlate.m_bNoDimensions = true; // before the box takes over its window
     }
@@ -86,7 +87,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CLanguagePage::DoDataExchange(pDX);
+        CLanguagePageDialog::DoDataExchange(pDX);
         for (int i = 0; i < c_nKinds; ++i)
             DDX_Control(pDX, IDC_LABEL_FIRST + i, *m_edits[i]); // and with the box its button
     }
@@ -138,12 +139,14 @@ private:
                                                 &m_editProduction};
 };
 
-BEGIN_MESSAGE_MAP(CLabelTemplatesPage, CLanguagePage)
+BEGIN_MESSAGE_MAP(CLabelTemplatesPageDialog, CLanguagePageDialog)
     ON_BN_CLICKED(IDC_LABELS_LOCKED, OnLock)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddLabelTemplatesPage(AGalleryHost& host, CPage* pParent)
+void AddLabelTemplatesPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CLabelTemplatesPage(host), _T("Label templates"), pParent);
+    auto* pDialog = new CLabelTemplatesPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageLabelTemplates, _T("Label templates"), pDialog), nullptr);
 }

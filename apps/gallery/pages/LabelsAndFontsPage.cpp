@@ -13,12 +13,13 @@ namespace
 constexpr int kPlaces = 18;
 constexpr int kLoads = 3;
 
-class CLabelsAndFontsPage : public CGalleryPage,
-                            public AButtonSTNotificationHandler,
-                            public CButtonReflectedNotificationHandler
+class CLabelsAndFontsPageDialog : public CGalleryPageDialog,
+                                  public AButtonSTNotificationHandler,
+                                  public CButtonReflectedNotificationHandler
 {
 public:
-    explicit CLabelsAndFontsPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_LABELS_AND_FONTS, host)
+    explicit CLabelsAndFontsPageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_LABELS_AND_FONTS, host)
     {
         for (CMixedFontButton& place : m_places)
             place.SetNotificationHandler(this);
@@ -46,7 +47,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_LABEL_SHOWN, m_labelShown);
         DDX_Control(pDX, IDC_LABEL_LEFT, m_labelLeft);
         DDX_Control(pDX, IDC_LABEL_CENTER, m_labelCenter);
@@ -91,7 +92,7 @@ protected:
         if (nId == IDC_REFLECTED)
             return m_checkReflected.Invalidate(); // in its other colour
         CString strCount;
-        strCount.Format(_T("Picks: %d"), ++m_nPicks);
+        strCount.Format(gOtLang.Do(_T("Picks: %d")), ++m_nPicks);
         SetDlgItemText(IDC_REFLECTED_COUNT, strCount);
     }
     void ButtonReflectedOnDoubleclicked(int nId) override
@@ -149,12 +150,15 @@ private:
     int m_nPicks = 0;
 };
 
-BEGIN_MESSAGE_MAP(CLabelsAndFontsPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CLabelsAndFontsPageDialog, CGalleryPageDialog)
     ON_EN_CHANGE(IDC_LABEL_MARKUP, OnChangeMarkup)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddLabelsAndFontsPage(AGalleryHost& host, CPage* pParent)
+void AddLabelsAndFontsPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CLabelsAndFontsPage(host), _T("Labels and fonts"), pParent);
+    auto* pDialog = new CLabelsAndFontsPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageLabelsAndFonts, _T("Labels and fonts"), pDialog),
+                    manager.GetPage(ePageButtons));
 }

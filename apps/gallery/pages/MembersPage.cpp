@@ -1,19 +1,38 @@
 // Members: how pages work. Two pages, a beam and a column, share one dialog; each has values of its own, and the
-// dialog's controls are bound to those of the page that is selected. Every change is told to the host.
+// dialog's controls are bound to those of the page that is selected. Every change is told to the host, which shows
+// the preview that the page draws. Lengths are written as the host pre-sets it, or else in millimetres.
 
 #include <afxwin.h>
 
 #include "GalleryPage.h"
 #include "resource.h"
 
+#include <CmndGraphicContext.h>
+
+#include <algorithm>
+
 namespace
 {
-class CMemberPage : public CTitledPage
+class CMemberPage : public CGalleryPage
 {
 public:
-    CMemberPage(LPCTSTR pszTitle, CPageDialog* pDialog, double dLength, int nPieces, LPCTSTR pszRemark)
-        : CTitledPage(pszTitle, pDialog), dLength(dLength), nPieces(nPieces), strRemark(pszRemark)
+    CMemberPage(EPageID id, LPCTSTR pszTitle, CPageDialog* pDialog, double dLength, int nPieces,
+                LPCTSTR pszRemark)
+        : CGalleryPage(id, pszTitle, pDialog), dLength(dLength), nPieces(nPieces),
+          strRemark(gOtLang.Do(pszRemark))
     {
+    }
+
+    EPagePreviewID GetPreviewID() const override { return ePreviewMember; }
+    /// The members side by side, a metre as long in each preview, and how long they are.
+    void DrawPreview(CCmndGraphicContext* pContext) const override;
+
+    /// How lengths are written: as was pre-set, or else in whole millimetres.
+    CFormatJedinice LengthFormat() const
+    {
+        CFormatJedinice millimetres;
+        millimetres.nCheckFlag = 1;
+        return duzinaSet ? duzina : millimetres;
     }
 
     double dLength; ///< metres
@@ -21,16 +40,29 @@ public:
     CString strRemark;
 };
 
-class CMemberDialog : public CGalleryPage, public CEditDWRNotificationHandler
+void CMemberPage::DrawPreview(CCmndGraphicContext* pContext) const
+{
+    constexpr int kMetre = 8, kFlange = 5, kPitch = 8; // pixels
+    constexpr int kMost = 3;
+    CDC& dc = pContext->DC();
+    CRect area = pContext->Area();
+    area.DeflateRect(6, 4);
+    dc.SetBkMode(TRANSPARENT);
+    CString strText;
+    strText.Format(_T("%d x %s"), nPieces, LengthFormat().Format(dLength).GetString());
+    area.top += dc.DrawText(strText, area, DT_SINGLELINE | DT_NOPREFIX) + 3;
+    const int nLength = std::min(static_cast<int>(dLength * kMetre), area.Width());
+    for (int i = 0; i < std::min(nPieces, kMost); ++i)
+        dc.FillSolidRect(area.left, area.top + i * kPitch, nLength, kFlange, RGB(24, 52, 104));
+}
+
+class CMemberDialog : public CGalleryPageDialog, public CEditDWRNotificationHandler
 {
 public:
-    explicit CMemberDialog(AGalleryHost& host) : CGalleryPage(IDD_PAGE_MEMBERS, host) {}
+    explicit CMemberDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_MEMBERS, host) {}
 
     int OnInitPageDialog() override
     {
-        m_editLength.SetComplexUnit(
-            CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMillimetre, CMeasurementUnit::eLength)));
-        m_editLength.SetFormat(eDoubleFormatFixed, 0);
         m_editLength.SetMinRange(0.1);
         m_editPieces.SetRange(1, 999);
         return TRUE;
@@ -43,6 +75,9 @@ public:
         if (!bBind)
             return;
         auto* pMember = static_cast<CMemberPage*>(pPage);
+        const CFormatJedinice format = pMember->LengthFormat();
+        m_editLength.SetComplexUnit(format.Unit());
+        m_editLength.SetFormat(eDoubleFormatFixed, format.nEditValue);
         m_editLength.SetValue(pMember->dLength);
         m_editPieces.SetValue(pMember->nPieces);
         SetDlgItemText(IDC_MEMBER_REMARK, pMember->strRemark);
@@ -53,7 +88,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_MEMBER_LENGTH, m_editLength);
         DDX_Control(pDX, IDC_MEMBER_PIECES, m_editPieces);
     }
@@ -96,18 +131,19 @@ private:
     CMemberPage* m_pPage = nullptr; ///< the page whose values are shown
 };
 
-BEGIN_MESSAGE_MAP(CMemberDialog, CGalleryPage)
+BEGIN_MESSAGE_MAP(CMemberDialog, CGalleryPageDialog)
     ON_EN_CHANGE(IDC_MEMBER_REMARK, OnRemarkChange)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddMembersPage(AGalleryHost& host, CPage* pParent)
+// One dialog serves both pages.
+void AddMembersPage(CPageManager& manager, CGalleryHostDialog& host)
 {
     auto* pDialog = new CMemberDialog(host);
-    host.AddDialog(pDialog);
-    CPage* pBeam =
-        host.AddPage(new CMemberPage(_T("Beam"), pDialog, 6.25, 4, _T("Primed, one coat")), pParent);
-    host.AddPage(new CMemberPage(_T("Column"), pDialog, 3.4, 12, _T("Base plates welded in the shop")),
-                 pBeam);
-    return pBeam;
+    manager.AddDialog(pDialog);
+    CPage* pBeam = new CMemberPage(ePageBeam, _T("Beam"), pDialog, 6.25, 4, _T("Primed, one coat"));
+    manager.AddPage(pBeam, nullptr);
+    manager.AddPage(
+        new CMemberPage(ePageColumn, _T("Column"), pDialog, 3.4, 12, _T("Base plates welded in the shop")),
+        pBeam);
 }

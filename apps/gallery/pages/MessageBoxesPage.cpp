@@ -37,7 +37,7 @@ CString ResultName(int nResult)
 CString ButtonName(int nButton)
 {
     CString strName;
-    strName.Format(_T("button %d"), nButton);
+    strName.Format(gOtLang.Do(_T("button %d")), nButton);
     return strName;
 }
 
@@ -94,7 +94,7 @@ CString ShowLong()
 CString ShowSystemError()
 {
     COstrelMessageBox::ErrorBox(ERROR_ACCESS_DENIED);
-    return _T("closed");
+    return gOtLang.Do(_T("closed"));
 }
 
 CString PostFromThread()
@@ -103,7 +103,7 @@ CString PostFromThread()
         COstrelMessenger::Instance(); // on the main thread, which owns the host's window
     std::thread([&messenger] { messenger.PostMsg(kPostedCode); }).join();
     CString strPosted;
-    strPosted.Format(_T("posted %d"), kPostedCode);
+    strPosted.Format(gOtLang.Do(_T("posted %d")), kPostedCode);
     return strPosted;
 }
 
@@ -112,15 +112,18 @@ constexpr CString (*kBoxes[])() = {ShowOk,       ShowOkCancel, ShowYesNo,       
                                    ShowPrepared, ShowLong,     ShowSystemError, PostFromThread};
 constexpr int kLastBox = IDC_BOX_FIRST + static_cast<int>(std::size(kBoxes)) - 1;
 
-class CMessageBoxesPage : public CLanguagePage
+class CMessageBoxesPageDialog : public CLanguagePageDialog
 {
 public:
-    explicit CMessageBoxesPage(AGalleryHost& host) : CLanguagePage(IDD_PAGE_MESSAGE_BOXES, host) {}
+    explicit CMessageBoxesPageDialog(CGalleryHostDialog& host)
+        : CLanguagePageDialog(IDD_PAGE_MESSAGE_BOXES, host)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CLanguagePage::DoDataExchange(pDX);
+        CLanguagePageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_XICON_FIXED, m_fixed);
         DDX_Control(pDX, IDC_XICON_FITTED, m_fitted);
         DDX_Control(pDX, IDC_XICON_BOLD, m_bold);
@@ -129,7 +132,7 @@ protected:
     int OnInitPageDialog() override
     {
         m_fixed.SetAutoResize(FALSE).SetIcon(CButtonST::hIconOk, 16);
-        m_fitted.SetIcon(CButtonST::hIconOk, 16).SetWindowText(_T("Fitted to its text"));
+        m_fitted.SetIcon(CButtonST::hIconOk, 16).SetWindowText(gOtLang.Do(_T("Fitted to its text")));
         m_bold.SetIcon(CButtonST::hIconWarning, 32).SetBold(TRUE);
         m_behind.SetIcon(CButtonST::hIconRightAlt, 16).SetTextColor(::GetSysColor(COLOR_HIGHLIGHT));
         return TRUE;
@@ -145,11 +148,11 @@ private:
     CXIcon m_behind;
 };
 
-BEGIN_MESSAGE_MAP(CMessageBoxesPage, CLanguagePage)
+BEGIN_MESSAGE_MAP(CMessageBoxesPageDialog, CLanguagePageDialog)
     ON_CONTROL_RANGE(BN_CLICKED, IDC_BOX_FIRST, kLastBox, OnBox)
 END_MESSAGE_MAP()
 
-void CMessageBoxesPage::OnBox(UINT nId)
+void CMessageBoxesPageDialog::OnBox(UINT nId)
 {
     const int nBox = static_cast<int>(nId) - IDC_BOX_FIRST;
     const CString strResult = kBoxes[nBox]();
@@ -162,7 +165,9 @@ void CMessageBoxesPage::OnBox(UINT nId)
 }
 } // namespace
 
-CPage* AddMessageBoxesPage(AGalleryHost& host, CPage* pParent)
+void AddMessageBoxesPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CMessageBoxesPage(host), _T("Message boxes"), pParent);
+    auto* pDialog = new CMessageBoxesPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageMessageBoxes, _T("Message boxes"), pDialog), nullptr);
 }

@@ -19,10 +19,13 @@ CString ReadFirstLine(const CString& strPath)
     return nEnd < 0 ? strText : strText.Left(nEnd);
 }
 
-class CNamesAndFilesPage : public CGalleryPage
+class CNamesAndFilesPageDialog : public CGalleryPageDialog
 {
 public:
-    explicit CNamesAndFilesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_NAMES_AND_FILES, host) {}
+    explicit CNamesAndFilesPageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_NAMES_AND_FILES, host)
+    {
+    }
 
 protected:
     int OnInitPageDialog() override;
@@ -45,21 +48,21 @@ private:
     CString m_strPath; ///< of the file used last
 };
 
-BEGIN_MESSAGE_MAP(CNamesAndFilesPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CNamesAndFilesPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_ASK_MARK, OnMark)
     ON_BN_CLICKED(IDC_ASK_LAYER, OnLayer)
     ON_BN_CLICKED(IDC_OPEN_FILE, OnOpenFile)
     ON_BN_CLICKED(IDC_SAVE_FILE, OnSaveFile)
 END_MESSAGE_MAP()
 
-void CNamesAndFilesPage::OnMark()
+void CNamesAndFilesPageDialog::OnMark()
 {
     const int nResult = gfnStartNazivDlg(m_strMark, TextOf(IDC_NAME_CAPTION));
     ShowAnswer(IDC_MARK_ANSWER, _T("gfnStartNazivDlg"), nResult, m_strMark);
 }
 
 // A layer that is typed is in the list the next time.
-void CNamesAndFilesPage::OnLayer()
+void CNamesAndFilesPageDialog::OnLayer()
 {
     const int nResult = gfnStartNazivComboDlg(m_strLayer, m_layers, TextOf(IDC_NAME_CAPTION), this);
     ShowAnswer(IDC_LAYER_ANSWER, _T("gfnStartNazivComboDlg"), nResult, m_strLayer);
@@ -69,18 +72,18 @@ void CNamesAndFilesPage::OnLayer()
     m_layers.Add(m_strLayer);
 }
 
-void CNamesAndFilesPage::OnOpenFile()
+void CNamesAndFilesPageDialog::OnOpenFile()
 {
     UseFile(true, IDC_OPEN_ANSWER,
             [this](const CString& strPath) { SetDlgItemText(IDC_FIRST_LINE, ReadFirstLine(strPath)); });
 }
 
-void CNamesAndFilesPage::OnSaveFile()
+void CNamesAndFilesPageDialog::OnSaveFile()
 {
     UseFile(false, IDC_SAVE_ANSWER, [this](const CString& strPath) { WriteText(strPath, TextOf(IDC_NOTE)); });
 }
 
-int CNamesAndFilesPage::OnInitPageDialog()
+int CNamesAndFilesPageDialog::OnInitPageDialog()
 {
     for (LPCTSTR pszLayer : {_T("0"), _T("Axes"), _T("Columns"), _T("Walls")})
         m_layers.Add(pszLayer);
@@ -88,14 +91,14 @@ int CNamesAndFilesPage::OnInitPageDialog()
     return TRUE;
 }
 
-CString CNamesAndFilesPage::TextOf(int nId) const
+CString CNamesAndFilesPageDialog::TextOf(int nId) const
 {
     CString strText;
     GetDlgItemText(nId, strText);
     return strText;
 }
 
-void CNamesAndFilesPage::ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, const CString& strText)
+void CNamesAndFilesPageDialog::ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, const CString& strText)
 {
     CString strAnswer;
     strAnswer.Format(_T("%s: \"%s\""), nResult == IDOK ? _T("IDOK") : _T("IDCANCEL"), strText.GetString());
@@ -105,13 +108,13 @@ void CNamesAndFilesPage::ShowAnswer(int nId, LPCTSTR pszStarter, int nResult, co
 
 /// Asks for a file, and uses it.
 template <class Use>
-void CNamesAndFilesPage::UseFile(bool bOpen, int nAnswerId, Use use)
+void CNamesAndFilesPageDialog::UseFile(bool bOpen, int nAnswerId, Use use)
 {
     const DWORD dwFlags =
         OFN_HIDEREADONLY | OFN_NOCHANGEDIR | (bOpen ? OFN_FILEMUSTEXIST : OFN_OVERWRITEPROMPT);
     CString strPath;
-    const int nResult =
-        gfnStartTranslatedFileDialog(strPath, bOpen, _T("txt"), m_strPath, dwFlags, kFilter, m_hWnd, nullptr);
+    const int nResult = gfnStartTranslatedFileDialog(strPath, bOpen, _T("txt"), m_strPath, dwFlags,
+                                                     gOtLang.Do(kFilter), m_hWnd, nullptr);
     ShowAnswer(nAnswerId, _T("gfnStartTranslatedFileDialog"), nResult, strPath);
     if (nResult != IDOK)
         return;
@@ -120,7 +123,10 @@ void CNamesAndFilesPage::UseFile(bool bOpen, int nAnswerId, Use use)
 }
 } // namespace
 
-CPage* AddNamesAndFilesPage(AGalleryHost& host, CPage* pParent)
+void AddNamesAndFilesPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CNamesAndFilesPage(host), _T("Names and files"), pParent);
+    auto* pDialog = new CNamesAndFilesPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageNamesAndFiles, _T("Names and files"), pDialog),
+                    manager.GetPage(ePageMessageBoxes));
 }

@@ -30,10 +30,10 @@ CComplexUnit Force(CMeasurementUnit::EForceUnit eUnit)
     return CComplexUnit(CMeasurementUnit(eUnit, CMeasurementUnit::eForce));
 }
 
-class CNumbersPage : public CGalleryPage, public CEditDWRNotificationHandler
+class CNumbersPageDialog : public CGalleryPageDialog, public CEditDWRNotificationHandler
 {
 public:
-    explicit CNumbersPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_NUMBERS, host) {}
+    explicit CNumbersPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_NUMBERS, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -72,13 +72,13 @@ private:
     CEditIntegerWithRange m_editStorey{nullptr};
 };
 
-BEGIN_MESSAGE_MAP(CNumbersPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CNumbersPageDialog, CGalleryPageDialog)
     ON_COMMAND_RANGE(IDC_UNIT_MM, IDC_UNIT_IN, OnLengthUnit)
 END_MESSAGE_MAP()
 
-void CNumbersPage::DoDataExchange(CDataExchange* pDX)
+void CNumbersPageDialog::DoDataExchange(CDataExchange* pDX)
 {
-    CGalleryPage::DoDataExchange(pDX);
+    CGalleryPageDialog::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_THICKNESS, m_editThickness);
     DDX_Control(pDX, IDC_GAP, m_editGap);
     DDX_Control(pDX, IDC_LENGTH, m_editLength);
@@ -91,7 +91,7 @@ void CNumbersPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_STOREY, m_editStorey);
 }
 
-int CNumbersPage::OnInitPageDialog()
+int CNumbersPageDialog::OnInitPageDialog()
 {
     CheckRadioButton(IDC_UNIT_MM, IDC_UNIT_IN, IDC_UNIT_MM);
     ShowLengthsIn(c_lengthUnits[0]);
@@ -126,7 +126,7 @@ int CNumbersPage::OnInitPageDialog()
     return TRUE;
 }
 
-void CNumbersPage::OnLengthUnit(UINT nId)
+void CNumbersPageDialog::OnLengthUnit(UINT nId)
 {
     for (const SLengthUnit& unit : c_lengthUnits)
     {
@@ -135,7 +135,7 @@ void CNumbersPage::OnLengthUnit(UINT nId)
     }
 }
 
-void CNumbersPage::ShowLengthsIn(const SLengthUnit& unit)
+void CNumbersPageDialog::ShowLengthsIn(const SLengthUnit& unit)
 {
     const CComplexUnit local(CMeasurementUnit(unit.eUnit, CMeasurementUnit::eLength));
     for (auto* pEdit : {&m_editThickness, &m_editGap, &m_editLength, &m_editCamber, &m_editOverall})
@@ -146,7 +146,7 @@ void CNumbersPage::ShowLengthsIn(const SLengthUnit& unit)
     }
 }
 
-void CNumbersPage::LogCall(LPCTSTR pszOperation, int nId)
+void CNumbersPageDialog::LogCall(LPCTSTR pszOperation, int nId)
 {
     CString strLabel;
     GetDlgItem(nId)->GetWindow(GW_HWNDPREV)->GetWindowText(strLabel); // the label in front of the box
@@ -155,9 +155,9 @@ void CNumbersPage::LogCall(LPCTSTR pszOperation, int nId)
         StoredValue(nId).GetString());
 }
 
-CString CNumbersPage::StoredValue(int nId) const
+CString CNumbersPageDialog::StoredValue(int nId) const
 {
-    CString strValue(_T("nothing"));
+    CString strValue = gOtLang.Do(_T("nothing"));
     if (auto* pInteger = dynamic_cast<CEditIntegerWithRange*>(GetDlgItem(nId)))
     {
         if (!pInteger->IsEmpty())
@@ -172,7 +172,9 @@ CString CNumbersPage::StoredValue(int nId) const
 }
 } // namespace
 
-CPage* AddNumbersPage(AGalleryHost& host, CPage* pParent)
+void AddNumbersPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CNumbersPage(host), _T("Numbers"), pParent);
+    auto* pDialog = new CNumbersPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageNumbers, _T("Numbers"), pDialog), manager.GetPage(ePageTextBoxes));
 }

@@ -8,12 +8,12 @@
 
 namespace
 {
-class CPickersPage : public CGalleryPage,
-                     public ABitmapBtnSTNotificationHandler,
-                     public AColorBtnSTNotificationHandler
+class CPickersPageDialog : public CGalleryPageDialog,
+                           public ABitmapBtnSTNotificationHandler,
+                           public AColorBtnSTNotificationHandler
 {
 public:
-    explicit CPickersPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_PICKERS, host) {}
+    explicit CPickersPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_PICKERS, host) {}
 
     int OnInitPageDialog() override;
 
@@ -63,20 +63,20 @@ private:
     };
 };
 
-BEGIN_MESSAGE_MAP(CPickersPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CPickersPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_PICK_BY_LAYER, OnByLayer)
 END_MESSAGE_MAP()
 
 // The layer's line is the continuous one; what was picked comes back with the picker.
-void CPickersPage::OnByLayer()
+void CPickersPageDialog::OnByLayer()
 {
     m_btnGroundLine.EnableWindow(IsDlgButtonChecked(IDC_PICK_BY_LAYER) != BST_CHECKED);
     ShowDrawing();
 }
 
-void CPickersPage::DoDataExchange(CDataExchange* pDX)
+void CPickersPageDialog::DoDataExchange(CDataExchange* pDX)
 {
-    CGalleryPage::DoDataExchange(pDX);
+    CGalleryPageDialog::DoDataExchange(pDX);
     for (int i = 0; i < kChoices; ++i)
         DDX_Control(pDX, IDC_PICK_FIRST + i, m_choices[i].picker);
     m_btnColor.SetColorSource(&m_style.color);
@@ -84,7 +84,7 @@ void CPickersPage::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_PICK_PREVIEW, m_preview);
 }
 
-int CPickersPage::OnInitPageDialog()
+int CPickersPageDialog::OnInitPageDialog()
 {
     m_style.sectionLine = 5;
     m_style.leftEnd = m_style.rightEnd = 1;
@@ -100,7 +100,7 @@ int CPickersPage::OnInitPageDialog()
     return TRUE;
 }
 
-void CPickersPage::OnBitmapChosen(int nId, int nIndex)
+void CPickersPageDialog::OnBitmapChosen(int nId, int nIndex)
 {
     const int nChoice = nId - IDC_PICK_FIRST;
     Log(m_choices[nChoice].pszName, _T("OnBitmapChosen(%d, %d)"), nId, nIndex);
@@ -108,21 +108,21 @@ void CPickersPage::OnBitmapChosen(int nId, int nIndex)
     ShowDrawing();
 }
 
-void CPickersPage::OnColorChosen(int nId, int nColor)
+void CPickersPageDialog::OnColorChosen(int nId, int nColor)
 {
     Log(_T("Colour"), _T("OnColorChosen(%d, 0x%06X)"), nId, nColor);
     ShowDrawing();
 }
 
-void CPickersPage::ShowValue(int nChoice)
+void CPickersPageDialog::ShowValue(int nChoice)
 {
     const auto& [picker, value, pszName] = m_choices[nChoice];
     CString strText;
-    strText.Format(_T("%d of %d"), value + 1, picker.BitmapCount());
+    strText.Format(gOtLang.Do(_T("%d of %d")), value + 1, picker.BitmapCount());
     SetDlgItemText(IDC_PICK_VALUE_FIRST + nChoice, strText);
 }
 
-void CPickersPage::ShowDrawing()
+void CPickersPageDialog::ShowDrawing()
 {
     DrawingStyle shown = m_style;
     if (!m_btnGroundLine.IsWindowEnabled())
@@ -131,7 +131,9 @@ void CPickersPage::ShowDrawing()
 }
 } // namespace
 
-CPage* AddPickersPage(AGalleryHost& host, CPage* pParent)
+void AddPickersPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CPickersPage(host), _T("Pickers"), pParent);
+    auto* pDialog = new CPickersPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePagePickers, _T("Pickers"), pDialog), nullptr);
 }

@@ -13,10 +13,10 @@ constexpr int kSteps[] = {1, 2, 10}; // in the order of their buttons
 constexpr int kWhole = 100;
 constexpr ULONGLONG kMillisecondsEach = 20; // for one of a hundred parts
 
-class CProgressPage : public CGalleryPage
+class CProgressPageDialog : public CGalleryPageDialog
 {
 public:
-    explicit CProgressPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_PROGRESS, host) {}
+    explicit CProgressPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_PROGRESS, host) {}
 
 protected:
     int OnInitPageDialog() override
@@ -37,17 +37,17 @@ private:
     double m_dMoment = 0;
 };
 
-BEGIN_MESSAGE_MAP(CProgressPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CProgressPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_PROGRESS_RUN, OnRun)
 END_MESSAGE_MAP()
 
-void CProgressPage::OnRun()
+void CProgressPageDialog::OnRun()
 {
     m_nCalls = 0;
     bool bGoOn = true;
     int nReached = 0;
     {
-        CSingleThreadProgress progress(_T("Calculation"), m_hWnd,
+        CSingleThreadProgress progress(gOtLang.Do(_T("Calculation")), m_hWnd,
                                        IsDlgButtonChecked(IDC_PROGRESS_CANCELLABLE) == BST_CHECKED);
         progress.SetStep(
             kSteps[GetCheckedRadioButton(IDC_PROGRESS_STEP_1, IDC_PROGRESS_STEP_10) - IDC_PROGRESS_STEP_1]);
@@ -61,7 +61,7 @@ void CProgressPage::OnRun()
 }
 
 /// A hundredth of the work; false if it is to stop.
-bool CProgressPage::WorkOn(int nPart, CSingleThreadProgress& progress)
+bool CProgressPageDialog::WorkOn(int nPart, CSingleThreadProgress& progress)
 {
     const ULONGLONG nEnd = ::GetTickCount64() + kMillisecondsEach;
     while (::GetTickCount64() < nEnd)
@@ -75,7 +75,7 @@ bool CProgressPage::WorkOn(int nPart, CSingleThreadProgress& progress)
     return true;
 }
 
-void CProgressPage::ShowResult(int nReached, bool bAnswer)
+void CProgressPageDialog::ShowResult(int nReached, bool bAnswer)
 {
     const LPCTSTR pszAnswer = bAnswer ? _T("true") : _T("false");
     CString strReached;
@@ -87,7 +87,9 @@ void CProgressPage::ShowResult(int nReached, bool bAnswer)
 }
 } // namespace
 
-CPage* AddProgressPage(AGalleryHost& host, CPage* pParent)
+void AddProgressPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CProgressPage(host), _T("Progress"), pParent);
+    auto* pDialog = new CProgressPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageProgress, _T("Progress"), pDialog), nullptr);
 }

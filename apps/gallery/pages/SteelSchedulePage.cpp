@@ -61,15 +61,18 @@ constexpr SUnitChoice c_weightUnits[] = {
     {IDC_SCHEDULE_KN, CMeasurementUnit::eKilonewton, CMeasurementUnit::eForce, 3},
 };
 
-class CSteelSchedulePage : public CGalleryPage, public AExtGridCtrlNotificationHandler
+class CSteelSchedulePageDialog : public CGalleryPageDialog, public AExtGridCtrlNotificationHandler
 {
 public:
-    explicit CSteelSchedulePage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_STEEL_SCHEDULE, host) {}
+    explicit CSteelSchedulePageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_STEEL_SCHEDULE, host)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_SCHEDULE, m_grid);
     }
     int OnInitPageDialog() override;
@@ -113,13 +116,13 @@ private:
     CStringArray m_profiles;
 };
 
-BEGIN_MESSAGE_MAP(CSteelSchedulePage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CSteelSchedulePageDialog, CGalleryPageDialog)
     ON_COMMAND_RANGE(IDC_SCHEDULE_MM, IDC_SCHEDULE_FT, OnLengthUnit)
     ON_COMMAND_RANGE(IDC_SCHEDULE_N, IDC_SCHEDULE_KN, OnWeightUnit)
     ON_NOTIFY(GVN_CHECKCLICKED, IDC_SCHEDULE, OnCheckClicked)
 END_MESSAGE_MAP()
 
-int CSteelSchedulePage::OnInitPageDialog()
+int CSteelSchedulePageDialog::OnInitPageDialog()
 {
     for (const SMember& member : c_members)
         m_profiles.Add(member.pszProfile);
@@ -143,17 +146,17 @@ int CSteelSchedulePage::OnInitPageDialog()
 }
 
 // The cell has looked at a number by itself; what is left is a profile without a name.
-bool CSteelSchedulePage::OnExtGridEndEdit(int nId, int nRow, int nCol, const CString* pText)
+bool CSteelSchedulePageDialog::OnExtGridEndEdit(int nId, int nRow, int nCol, const CString* pText)
 {
     const bool bAccepted = !pText->IsEmpty();
     Log(_T("Steel schedule"), _T("OnExtGridEndEdit(%d, row %d, column %d, \"%s\")   %s"), nId, nRow, nCol,
-        pText->GetString(), bAccepted ? _T("accepted") : _T("refused"));
+        pText->GetString(), gOtLang.Do(bAccepted ? _T("accepted") : _T("refused")).GetString());
     if (bAccepted)
         ShowStored(nRow);
     return bAccepted;
 }
 
-void CSteelSchedulePage::OnCheckClicked(NMHDR* pHeader, LRESULT* pResult)
+void CSteelSchedulePageDialog::OnCheckClicked(NMHDR* pHeader, LRESULT* pResult)
 {
     const int nRow = reinterpret_cast<GridNotify&>(*pHeader).iRow;
     *pResult = 0;
@@ -163,22 +166,22 @@ void CSteelSchedulePage::OnCheckClicked(NMHDR* pHeader, LRESULT* pResult)
 
 // ---- The schedule -----------------------------------------------------------------------------------------
 
-void CSteelSchedulePage::MakeHeadings()
+void CSteelSchedulePageDialog::MakeHeadings()
 {
     m_grid.SetRowCount(1);
     m_grid.SetColumnCount(eColumnCount);
     m_grid.SetFixedRowCount(1);
     m_grid.SetFixedColumnCount(1);
-    m_grid.SetItemText(0, eNumber, _T("No."));
-    m_grid.SetItemText(0, eProfile, _T("Profile"));
-    m_grid.SetItemText(0, eCount, _T("Pieces"));
-    m_grid.SetItemText(0, eGalvanised, _T("Galvanised"));
-    m_grid.SetItemText(0, eColor, _T("Layer colour"));
+    m_grid.SetItemText(0, eNumber, gOtLang.Do(_T("No.")));
+    m_grid.SetItemText(0, eProfile, gOtLang.Do(_T("Profile")));
+    m_grid.SetItemText(0, eCount, gOtLang.Do(_T("Pieces")));
+    m_grid.SetItemText(0, eGalvanised, gOtLang.Do(_T("Galvanised")));
+    m_grid.SetItemText(0, eColor, gOtLang.Do(_T("Layer colour")));
     for (int nCol = 0; nCol < eColumnCount; ++nCol)
         m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
 }
 
-void CSteelSchedulePage::AddMember(const SMember& member)
+void CSteelSchedulePageDialog::AddMember(const SMember& member)
 {
     constexpr int c_nRowHeight = 20; // pixels: room for swatch and arrow
     CString strNumber;
@@ -195,7 +198,7 @@ void CSteelSchedulePage::AddMember(const SMember& member)
     CellAt<CGridCellColorCombo>(nRow, eColor).PostaviMastAci(member.nColor);
 }
 
-void CSteelSchedulePage::MakeCells(int nRow)
+void CSteelSchedulePageDialog::MakeCells(int nRow)
 {
     m_grid.SetCellType(nRow, eProfile, RUNTIME_CLASS(CGridCellCombo));
     m_grid.SetCellType(nRow, eLength, RUNTIME_CLASS(CLimitedDoubleCell));
@@ -219,7 +222,7 @@ void CSteelSchedulePage::MakeCells(int nRow)
         m_grid.SetItemState(nRow, nCol, m_grid.GetItemState(nRow, nCol) | CELL_READONLY);
 }
 
-void CSteelSchedulePage::SizeColumns()
+void CSteelSchedulePageDialog::SizeColumns()
 {
     constexpr int c_widths[] = {34, 104, 92, 92, 64, 82};
     for (int nCol = 0; nCol < eColor; ++nCol)
@@ -230,7 +233,7 @@ void CSteelSchedulePage::SizeColumns()
 // ---- Units ------------------------------------------------------------------------------------------------
 
 /// The values stay and their texts change: each is got in the column's old unit and set in the new one.
-void CSteelSchedulePage::ShowColumnIn(const SUnitChoice& choice, int nCol, LPCTSTR pszHeading)
+void CSteelSchedulePageDialog::ShowColumnIn(const SUnitChoice& choice, int nCol, LPCTSTR pszHeading)
 {
     std::vector<double> values;
     for (int nRow = 1; nRow < m_grid.GetRowCount(); ++nRow)
@@ -245,7 +248,7 @@ void CSteelSchedulePage::ShowColumnIn(const SUnitChoice& choice, int nCol, LPCTS
     m_grid.Refresh();
 }
 
-void CSteelSchedulePage::ShowLengthsIn(const SUnitChoice& choice)
+void CSteelSchedulePageDialog::ShowLengthsIn(const SUnitChoice& choice)
 {
     ShowColumnIn(choice, eLength, _T("Length"));
     const CComplexUnit unit(CMeasurementUnit(choice.nUnit, choice.nKind));
@@ -254,20 +257,24 @@ void CSteelSchedulePage::ShowLengthsIn(const SUnitChoice& choice)
 }
 
 /// What the cells hold, in global units.
-void CSteelSchedulePage::ShowStored(int nRow)
+void CSteelSchedulePageDialog::ShowStored(int nRow)
 {
     CString strText;
-    strText.Format(_T("Stored: %s, %g m, %g N, %d pieces, %s, colour %d"),
+    strText.Format(gOtLang.Do(_T("Stored: %s, %g m, %g N, %d pieces, %s, colour %d")),
                    m_grid.GetItemText(nRow, eProfile).GetString(), Number(nRow, eLength).Get(eLength),
                    Number(nRow, eWeight).Get(eWeight), CellAt<CLimitedIntCell>(nRow, eCount).Get(),
-                   CellAt<CGridCellCheck>(nRow, eGalvanised).GetCheck() ? _T("galvanised")
-                                                                        : _T("not galvanised"),
+                   gOtLang
+                       .Do(CellAt<CGridCellCheck>(nRow, eGalvanised).GetCheck() ? _T("galvanised")
+                                                                                : _T("not galvanised"))
+                       .GetString(),
                    CellAt<CGridCellColorCombo>(nRow, eColor).DajMastAci());
     SetDlgItemText(IDC_SCHEDULE_STORED, strText);
 }
 } // namespace
 
-CPage* AddSteelSchedulePage(AGalleryHost& host, CPage* pParent)
+void AddSteelSchedulePage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CSteelSchedulePage(host), _T("Steel schedule"), pParent);
+    auto* pDialog = new CSteelSchedulePageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageSteelSchedule, _T("Steel schedule"), pDialog), nullptr);
 }

@@ -51,15 +51,15 @@ private:
     CString m_strMark = _T("IPE 200");
 };
 
-class CTextBoxesPage : public CGalleryPage, public CEditNNotificationHandler
+class CTextBoxesPageDialog : public CGalleryPageDialog, public CEditNNotificationHandler
 {
 public:
-    explicit CTextBoxesPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_TEXT_BOXES, host) {}
+    explicit CTextBoxesPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_TEXT_BOXES, host) {}
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_MARK, m_editMark);
         DDX_Control(pDX, IDC_REMARK, m_editRemark);
         DDX_Control(pDX, IDC_LOCKED, m_editLocked);
@@ -94,7 +94,9 @@ private:
 };
 } // namespace
 
-CPage* AddTextBoxesPage(AGalleryHost& host, CPage* pParent)
+void AddTextBoxesPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CTextBoxesPage(host), _T("Text boxes"), pParent);
+    auto* pDialog = new CTextBoxesPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageTextBoxes, _T("Text boxes"), pDialog), nullptr);
 }

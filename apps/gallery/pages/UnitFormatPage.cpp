@@ -36,10 +36,12 @@ void CopyChanged(CFormatJedinice& to, const CFormatJedinice& from, int nSource)
         to.nEditValue = from.nEditValue;
 }
 
-class CUnitFormatPage : public CGalleryPage, public AFormatJediniceCtrlGroupNotificationHandler
+class CUnitFormatPageDialog : public CGalleryPageDialog, public AFormatJediniceCtrlGroupNotificationHandler
 {
 public:
-    explicit CUnitFormatPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_UNIT_FORMAT, host) {}
+    explicit CUnitFormatPageDialog(CGalleryHostDialog& host) : CGalleryPageDialog(IDD_PAGE_UNIT_FORMAT, host)
+    {
+    }
 
     int OnInitPageDialog() override
     {
@@ -56,7 +58,7 @@ public:
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         m_group.DoDataExchange(pDX);
         m_axesGroup.DoDataExchange(pDX);
     }
@@ -67,7 +69,7 @@ protected:
         static constexpr LPCTSTR c_sources[] = {_T("the unit"), _T("the box"), _T("typing"),
                                                 _T("leaving the edit")};
         Log(pGroup == &m_group ? _T("One format") : _T("Three axes"), _T("OnFormatGroupChanged(%d: %s)   %s"),
-            nSource, c_sources[nSource], TextOf(*pFormat).GetString());
+            nSource, gOtLang.Do(c_sources[nSource]).GetString(), TextOf(*pFormat).GetString());
         if (pGroup == &m_group)
             ShowFormat();
         else
@@ -101,8 +103,8 @@ private:
     static CString TextOf(const CFormatJedinice& format)
     {
         CString strText;
-        strText.Format(_T("unit %d, symbol %d, decimals %d"), format.nUnitIndex, format.nCheckFlag,
-                       format.nEditValue);
+        strText.Format(gOtLang.Do(_T("unit %d, symbol %d, decimals %d")), format.nUnitIndex,
+                       format.nCheckFlag, format.nEditValue);
         return strText;
     }
 
@@ -111,7 +113,7 @@ private:
     {
         SetDlgItemText(IDC_FORMAT_PREVIEW, m_group.GetCtrlState().Format(6.25));
         SetDlgItemText(IDC_FORMAT_RECORD,
-                       IsDlgButtonChecked(IDC_FORMAT_NO_RECORD) ? CString(_T("none")) : TextOf(m_format));
+                       IsDlgButtonChecked(IDC_FORMAT_NO_RECORD) ? gOtLang.Do(_T("none")) : TextOf(m_format));
     }
 
     // Leaving the edit says nothing new: what was typed has been reported, and an edit that was only passed holds
@@ -139,7 +141,7 @@ private:
     CFormatJediniceCtrlGroup m_axesGroup{IDC_AXES_UNIT, IDC_AXES_SYMBOL, IDC_AXES_DECIMALS, this};
 };
 
-BEGIN_MESSAGE_MAP(CUnitFormatPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CUnitFormatPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_FORMAT_NO_RECORD, OnNoRecord)
     ON_BN_CLICKED(IDC_FORMAT_ENABLE, OnEnable)
     ON_BN_CLICKED(IDC_FORMAT_SHOW, OnShow)
@@ -147,7 +149,10 @@ BEGIN_MESSAGE_MAP(CUnitFormatPage, CGalleryPage)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddUnitFormatPage(AGalleryHost& host, CPage* pParent)
+void AddUnitFormatPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CUnitFormatPage(host), _T("Unit format"), pParent);
+    auto* pDialog = new CUnitFormatPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageUnitFormat, _T("Unit format"), pDialog),
+                    manager.GetPage(ePageChoices));
 }

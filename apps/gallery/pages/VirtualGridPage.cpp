@@ -12,15 +12,18 @@ namespace
 constexpr int kNodes = 1000000;
 constexpr int kColumns = 6;
 
-class CVirtualGridPage : public CGalleryPage
+class CVirtualGridPageDialog : public CGalleryPageDialog
 {
 public:
-    explicit CVirtualGridPage(AGalleryHost& host) : CGalleryPage(IDD_PAGE_VIRTUAL_GRID, host) {}
+    explicit CVirtualGridPageDialog(CGalleryHostDialog& host)
+        : CGalleryPageDialog(IDD_PAGE_VIRTUAL_GRID, host)
+    {
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CGalleryPage::DoDataExchange(pDX);
+        CGalleryPageDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_VIRTUAL_GRID, m_grid);
     }
     int OnInitPageDialog() override
@@ -63,7 +66,7 @@ protected:
         if (range == CCellRange())
             return;
         CString strText;
-        strText.Format(_T("About to be asked for rows %d to %d"), range.minRow, range.maxRow);
+        strText.Format(gOtLang.Do(_T("About to be asked for rows %d to %d")), range.minRow, range.maxRow);
         SetDlgItemText(IDC_VIRTUAL_ASKED, strText);
     }
     DECLARE_MESSAGE_MAP()
@@ -87,7 +90,7 @@ private:
         GV_ITEM& item = pInfo->item;
         if (item.row == 0)
         {
-            item.strText = kHeadings[item.col];
+            item.strText = gOtLang.Do(kHeadings[item.col]);
             item.nFormat = GV_HEADING_FORMAT;
             return 0;
         }
@@ -113,7 +116,7 @@ private:
                 item.crFgClr = RGB(176, 32, 32);
             break;
         default:
-            item.strText = nNode < 10000 && nNode % 25 == 0 ? _T("fixed") : _T("");
+            item.strText = gOtLang.Do(nNode < 10000 && nNode % 25 == 0 ? _T("fixed") : _T(""));
         }
         return 0;
     }
@@ -121,14 +124,17 @@ private:
     CNodesGrid m_grid;
 };
 
-BEGIN_MESSAGE_MAP(CVirtualGridPage, CGalleryPage)
+BEGIN_MESSAGE_MAP(CVirtualGridPageDialog, CGalleryPageDialog)
     ON_BN_CLICKED(IDC_VIRTUAL_GO, OnGo)
     ON_NOTIFY(LVN_ITEMCHANGED, IDC_VIRTUAL_GRID, OnFocusMoved)
     ON_NOTIFY(LVN_ODCACHEHINT, IDC_VIRTUAL_GRID, OnCacheHint)
 END_MESSAGE_MAP()
 } // namespace
 
-CPage* AddVirtualGridPage(AGalleryHost& host, CPage* pParent)
+void AddVirtualGridPage(CPageManager& manager, CGalleryHostDialog& host)
 {
-    return AddTitledPage(host, new CVirtualGridPage(host), _T("Virtual grid"), pParent);
+    auto* pDialog = new CVirtualGridPageDialog(host);
+    manager.AddDialog(pDialog);
+    manager.AddPage(new CGalleryPage(ePageVirtualGrid, _T("Virtual grid"), pDialog),
+                    manager.GetPage(ePageGrid));
 }

@@ -8,10 +8,10 @@ namespace
 {
 std::wstring s_directory; ///< of the pictures, with a backslash at its end
 
-/// By the pages' names. Files register before main, in any order.
-std::map<std::wstring, PageUse::Function>& Uses()
+/// Files register before main, in any order.
+std::map<CPage::EPageID, PageUse::Function>& Uses()
 {
-    static std::map<std::wstring, PageUse::Function> s_uses;
+    static std::map<CPage::EPageID, PageUse::Function> s_uses;
     return s_uses;
 }
 } // namespace
@@ -54,13 +54,13 @@ std::wstring PicturePath(const std::wstring& name)
     return s_directory + name;
 }
 
-PageUse::PageUse(const wchar_t* pszTitle, Function use)
+PageUse::PageUse(CPage::EPageID id, Function use)
 {
-    Uses()[pszTitle] = use;
+    Uses()[id] = use;
 }
 
-void PageUse::Run(const std::wstring& title, CWnd& page)
+void PageUse::Run(CPage::EPageID id, CWnd& page)
 {
-    if (const auto use = Uses().find(title); use != Uses().end())
+    if (const auto use = Uses().find(id); use != Uses().end())
         use->second(page);
 }

@@ -8,9 +8,9 @@
 //         owtest::Type(L"5");
 //         Require(..., L"no length");
 //     }
-//     const PageUse s_use(L"Numbers", &UseNumbers);
+//     const PageUse s_use(ePageNumbers, &UseNumbers);
 
-#include <DialogControlsOW.h>
+#include "PageIds.h"
 
 #include "Input.h"
 
@@ -39,13 +39,13 @@ void SetPictureDirectory(const std::wstring& directory);
 /// Where a picture of this name is to be saved.
 std::wstring PicturePath(const std::wstring& name);
 
-/// Registers what is done on a page before its picture is taken, by the page's name in the tree.
+/// Registers what is done on a page before its picture is taken.
 class PageUse
 {
 public:
     using Function = void (*)(CWnd& page);
-    PageUse(const wchar_t* pszTitle, Function use);
+    PageUse(CPage::EPageID id, Function use);
 
     /// Does what is registered for the page; nothing if there is none.
-    static void Run(const std::wstring& title, CWnd& page);
+    static void Run(CPage::EPageID id, CWnd& page);
 };

@@ -56,7 +56,7 @@ void Open(CDialog& dialog, UINT nTemplateId)
     dialog.SendMessage(WM_NCACTIVATE, TRUE); // Wine leaves the caption of a program's first window grey
 }
 
-void VisitPage(CWnd& gallery, CTreeCtrl& tree, HTREEITEM item)
+void VisitPage(CWnd& gallery, CPageTreeCtrl& tree, HTREEITEM item)
 {
     CRect rect;
     tree.EnsureVisible(item);
@@ -65,7 +65,7 @@ void VisitPage(CWnd& gallery, CTreeCtrl& tree, HTREEITEM item)
     const CString strTitle = tree.GetItemText(item);
     Require(owtest::PumpUntil([&] { return TextOf(gallery, IDC_PAGE_TITLE) == strTitle; }),
             L"the page does not show");
-    PageUse::Run(strTitle.GetString(), ShownPage(gallery));
+    PageUse::Run(tree.GetCurrentPage()->GetPageID(), ShownPage(gallery));
     SavePicture(gallery, strTitle.GetString());
 }
 
@@ -73,7 +73,7 @@ void WalkPages()
 {
     CGalleryDialog gallery;
     Open(gallery, IDD_GALLERY);
-    auto& tree = static_cast<CTreeCtrl&>(*gallery.GetDlgItem(IDC_PAGES));
+    auto& tree = static_cast<CPageTreeCtrl&>(*gallery.GetDlgItem(IDC_PAGES));
     for (HTREEITEM item = tree.GetRootItem(); item; item = tree.GetNextVisibleItem(item))
         VisitPage(gallery, tree, item);
     gallery.DestroyWindow();

@@ -24,5 +24,5 @@ void UseButtons(CWnd& page)
     Focus(page, IDC_BTN_FIRST + 5); // a raised one without a theme shows what focus looks like
 }
 
-const PageUse s_use(L"Buttons", &UseButtons);
+const PageUse s_use(ePageButtons, &UseButtons);
 } // namespace

@@ -50,5 +50,5 @@ void UseChoices(CWnd& page)
     RequireText(page, IDC_PROFILE_OPTION, _T("Option 2 of 4"));
 }
 
-const PageUse s_use(L"Choices", &UseChoices);
+const PageUse s_use(ePageChoices, &UseChoices);
 } // namespace

@@ -83,5 +83,5 @@ void UseColours(CWnd& page)
     Focus(page, IDC_COL_RESET);
 }
 
-const PageUse s_use(L"Colours", &UseColours);
+const PageUse s_use(ePageColours, &UseColours);
 } // namespace

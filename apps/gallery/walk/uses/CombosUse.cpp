@@ -47,5 +47,5 @@ void UseCombos(CWnd& page)
     ChooseConnection(page);
 }
 
-const PageUse s_use(L"Combo boxes", &UseCombos);
+const PageUse s_use(ePageCombos, &UseCombos);
 } // namespace

@@ -96,5 +96,5 @@ void UseConfigurations(CWnd& page)
     Retype(page, IDC_PATTERN_ROWS, L"4");
 }
 
-const PageUse s_use(L"Configurations", &UseConfigurations);
+const PageUse s_use(ePageConfigurations, &UseConfigurations);
 } // namespace

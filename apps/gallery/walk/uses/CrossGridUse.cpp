@@ -21,5 +21,5 @@ void UseCrossGrid(CWnd& page)
             L"no cross");
 }
 
-const PageUse s_use(L"Cross grid", &UseCrossGrid);
+const PageUse s_use(ePageCrossGrid, &UseCrossGrid);
 } // namespace

@@ -44,5 +44,5 @@ void UseDisplayCells(CWnd& page)
     owtest::Click(grid, CellIn(grid, 3, kName));
 }
 
-const PageUse s_use(L"Display cells", &UseDisplayCells);
+const PageUse s_use(ePageDisplayCells, &UseDisplayCells);
 } // namespace

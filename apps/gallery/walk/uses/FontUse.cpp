@@ -141,5 +141,5 @@ void UseFont(CWnd& page)
     ApplyByKeyboard(page);
 }
 
-const PageUse s_use(L"Font", &UseFont);
+const PageUse s_use(ePageFont, &UseFont);
 } // namespace

@@ -24,5 +24,5 @@ void UseGrid(CWnd& page)
     Require(owtest::PumpUntil([&] { return grid.GetSelectedCount() == 9; }), L"the drag does not select");
 }
 
-const PageUse s_use(L"Grid", &UseGrid);
+const PageUse s_use(ePageGrid, &UseGrid);
 } // namespace

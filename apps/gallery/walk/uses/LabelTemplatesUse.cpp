@@ -59,5 +59,5 @@ void UseLabelTemplates(CWnd& page)
     owtest::Press(VK_END);
 }
 
-const PageUse s_use(L"Label templates", &UseLabelTemplates);
+const PageUse s_use(ePageLabelTemplates, &UseLabelTemplates);
 } // namespace

@@ -46,5 +46,5 @@ void UseLabelsAndFonts(CWnd& page)
     RequireChecked(page, IDC_LOAD_FIRST + 2, BST_UNCHECKED);
 }
 
-const PageUse s_use(L"Labels and fonts", &UseLabelsAndFonts);
+const PageUse s_use(ePageLabelsAndFonts, &UseLabelsAndFonts);
 } // namespace

@@ -21,6 +21,7 @@ void UseMembers(CWnd& page)
     owtest::Type(L"drilled");
     Require(owtest::PumpUntil([&] { return TextOf(page, IDC_MEMBER_TOTAL) == _T("21.600 m"); }),
             L"no total length");
+    Require(page.GetParent()->GetDlgItem(IDC_PREVIEW)->IsWindowVisible(), L"no preview");
     CWnd& tree = *page.GetParent()->GetDlgItem(IDC_PAGES);
     owtest::Press(VK_F6, true);
     Require(owtest::PumpUntil([&] { return ::GetFocus() == tree.m_hWnd; }), L"F6 does not leave the page");
@@ -32,5 +33,5 @@ void UseMembers(CWnd& page)
             L"the values are lost");
 }
 
-const PageUse s_use(L"Beam", &UseMembers);
+const PageUse s_use(ePageBeam, &UseMembers);
 } // namespace

@@ -40,5 +40,5 @@ void UseMessageBoxes(CWnd& page)
     UseBox(page, 6, VK_RETURN, L"IDOK", PicturePath(L"message_box_long.png"));
 }
 
-const PageUse s_use(L"Message boxes", &UseMessageBoxes);
+const PageUse s_use(ePageMessageBoxes, &UseMessageBoxes);
 } // namespace

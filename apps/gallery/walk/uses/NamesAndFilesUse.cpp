@@ -88,5 +88,5 @@ void UseNamesAndFiles(CWnd& page)
     std::filesystem::remove(note);
 }
 
-const PageUse s_use(L"Names and files", &UseNamesAndFiles);
+const PageUse s_use(ePageNamesAndFiles, &UseNamesAndFiles);
 } // namespace

@@ -29,5 +29,5 @@ void UseNumbers(CWnd& page)
             L"the arrow key does not step");
 }
 
-const PageUse s_use(L"Numbers", &UseNumbers);
+const PageUse s_use(ePageNumbers, &UseNumbers);
 } // namespace

@@ -112,5 +112,5 @@ void UsePickers(CWnd& page)
     Picker(page, 1).SetFocus(); // shows what focus looks like
 }
 
-const PageUse s_use(L"Pickers", &UsePickers);
+const PageUse s_use(ePagePickers, &UsePickers);
 } // namespace

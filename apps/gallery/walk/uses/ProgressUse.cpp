@@ -94,5 +94,5 @@ void UseProgress(CWnd& page)
     Require(TextOf(page, IDC_PROGRESS_REACHED) == _T("100 %"), L"the work is not whole");
 }
 
-const PageUse s_use(L"Progress", &UseProgress);
+const PageUse s_use(ePageProgress, &UseProgress);
 } // namespace

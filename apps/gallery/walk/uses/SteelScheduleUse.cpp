@@ -33,5 +33,5 @@ void UseSteelSchedule(CWnd& page)
             L"the box does not flip");
 }
 
-const PageUse s_use(L"Steel schedule", &UseSteelSchedule);
+const PageUse s_use(ePageSteelSchedule, &UseSteelSchedule);
 } // namespace

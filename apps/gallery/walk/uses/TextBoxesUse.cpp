@@ -17,5 +17,5 @@ void UseTextBoxes(CWnd& page)
     owtest::Type(L"shop primer");
 }
 
-const PageUse s_use(L"Text boxes", &UseTextBoxes);
+const PageUse s_use(ePageTextBoxes, &UseTextBoxes);
 } // namespace

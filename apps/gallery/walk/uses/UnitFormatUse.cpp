@@ -67,5 +67,5 @@ void UseUnitFormat(CWnd& page)
     UseAxes(page);
 }
 
-const PageUse s_use(L"Unit format", &UseUnitFormat);
+const PageUse s_use(ePageUnitFormat, &UseUnitFormat);
 } // namespace

@@ -17,5 +17,5 @@ void UseVirtualGrid(CWnd& page)
             L"the page key does not move");
 }
 
-const PageUse s_use(L"Virtual grid", &UseVirtualGrid);
+const PageUse s_use(ePageVirtualGrid, &UseVirtualGrid);
 } // namespace

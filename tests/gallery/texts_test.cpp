@@ -1,0 +1,107 @@
+// The gallery's texts: what a user reads has passed through the translator, and stands in the catalogue.
+
+#include "GalleryVisit.h"
+
+#include <Translator.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace
+{
+constexpr wchar_t kMark = L'\u00AB';
+
+/// The English catalogue with a mark in front of each translation, for the length of a scope.
+class CMarkedTexts
+{
+public:
+    CMarkedTexts()
+    {
+        std::ifstream english(L"locale\\en.po");
+        {
+            std::ofstream marked(m_path);
+            for (std::string line; std::getline(english, line);)
+                marked << (line.starts_with("msgstr \"") && line != "msgstr \"\""
+                               ? "msgstr \"\u00AB" + line.substr(8)
+                               : line)
+                       << '\n';
+        }
+        EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
+    }
+    ~CMarkedTexts()
+    {
+        gOtLang.Unload();
+        std::filesystem::remove(m_path);
+    }
+
+private:
+    const std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"marked.po";
+};
+
+/// Numbers, profiles and formulas are the same in every language.
+bool IsWords(const CString& strText)
+{
+    int nLetters = 0;
+    for (int i = 0; i < strText.GetLength() && nLetters < 3; ++i)
+        nLetters = ::IsCharLowerW(strText[i]) ? nLetters + 1 : 0;
+    return nLetters == 3;
+}
+
+void ExpectTranslated(const CString& strText)
+{
+    EXPECT_TRUE(!IsWords(strText) || strText.Find(kMark) >= 0) << CStringA(strText);
+}
+
+void ExpectEntriesTranslated(CComboBox& combo)
+{
+    for (int i = 0; i < combo.GetCount(); ++i)
+    {
+        CString strEntry;
+        combo.GetLBText(i, strEntry);
+        ExpectTranslated(strEntry);
+    }
+}
+
+void ExpectHeadingsTranslated(const CGridCtrl& grid)
+{
+    for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+        ExpectTranslated(grid.GetItemText(0, nCol));
+}
+
+/// The controls of a window; not what a user's own data fill: edits and the bodies of grids.
+void ExpectControlsTranslated(CWnd& window)
+{
+    for (CWnd* pChild = window.GetWindow(GW_CHILD); pChild; pChild = pChild->GetNextWindow())
+    {
+        wchar_t szClass[16] = L"";
+        ::GetClassNameW(*pChild, szClass, 16);
+        const CString strClass(szClass);
+        CString strText;
+        pChild->GetWindowText(strText);
+        if (strClass == L"Static" || strClass == L"Button")
+            ExpectTranslated(strText);
+        else if (strClass == L"ComboBox")
+            ExpectEntriesTranslated(static_cast<CComboBox&>(*pChild));
+        else if (auto* pGrid = dynamic_cast<CGridCtrl*>(pChild))
+            ExpectHeadingsTranslated(*pGrid);
+    }
+}
+} // namespace
+
+TEST(GalleryTexts, GoThroughTheTranslator)
+{
+    const CMarkedTexts marked;
+    OpenAndClose<CGalleryDialog>(
+        [](CWnd& window)
+        {
+            CString strText;
+            window.GetWindowText(strText);
+            ExpectTranslated(strText);
+            ForEachPage(window, [](CWnd& page) { ExpectControlsTranslated(page); });
+            ExpectControlsTranslated(window);
+            auto& log = static_cast<CListCtrl&>(*window.GetDlgItem(IDC_LOG));
+            for (int i = 0; i < log.GetItemCount(); ++i)
+                ExpectTranslated(log.GetItemText(i, 0));
+        });
+}
