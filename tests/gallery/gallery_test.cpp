@@ -211,27 +211,22 @@ TEST(GalleryDialog, ShowsPreSetValuesAndThePreview)
         });
 }
 
-TEST(GalleryDialog, LeavesListsWithNothingChosenAlone)
+// Each list is left with nothing chosen, and says so.
+TEST(GalleryDialog, TakesListsWithNothingChosen)
 {
-    OpenAndClose<CGalleryDialog>(
-        [](CWnd& window)
+    const auto chooseNothing = [](CWnd& page)
+    {
+        for (CWnd* pChild = page.GetWindow(GW_CHILD); pChild; pChild = pChild->GetNextWindow())
         {
-            ForEachPage(
-                window,
-                [](CWnd& page)
-                {
-                    for (CWnd* pChild = page.GetWindow(GW_CHILD); pChild; pChild = pChild->GetNextWindow())
-                    {
-                        wchar_t szClass[16] = L"";
-                        ::GetClassNameW(*pChild, szClass, 16);
-                        if (CString(szClass) != L"ComboBox")
-                            continue;
-                        pChild->SendMessage(CB_SETCURSEL, WPARAM(-1));
-                        page.SendMessage(WM_COMMAND, MAKEWPARAM(pChild->GetDlgCtrlID(), CBN_SELCHANGE),
-                                         reinterpret_cast<LPARAM>(pChild->m_hWnd));
-                    }
-                    if (CWnd* pChosen = page.GetDlgItem(IDC_CHOSEN))
-                        EXPECT_EQ(owtest::TextOf(*pChosen), L"none; none");
-                });
-        });
+            pChild->SendMessage(CB_SETCURSEL, WPARAM(-1)); // only a combo box knows it
+            if (pChild->SendMessage(CB_GETCOUNT) > 0)
+                page.SendMessage(WM_COMMAND, MAKEWPARAM(pChild->GetDlgCtrlID(), CBN_SELCHANGE),
+                                 reinterpret_cast<LPARAM>(pChild->m_hWnd));
+        }
+        if (CWnd* pChosen = page.GetDlgItem(IDC_CHOSEN))
+        {
+            EXPECT_EQ(owtest::TextOf(*pChosen), L"none; none");
+        }
+    };
+    OpenAndClose<CGalleryDialog>([&](CWnd& window) { ForEachPage(window, chooseNothing); });
 }
