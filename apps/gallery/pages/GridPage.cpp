@@ -138,7 +138,8 @@ private:
     {
         const auto& record = reinterpret_cast<GridNotify&>(*pHeader);
         *pResult = 0;
-        Log(_T("Parts list"), _T("%s  row %d, column %d"), pszWhat, record.iRow, record.iColumn);
+        Log(_T("Parts list"), _T("%s  row %d, column %d"), gOtLang.Do(pszWhat).GetString(), record.iRow,
+            record.iColumn);
     }
 
     /// As wide as the contents and the sort arrow want, and the last one up to the edge.

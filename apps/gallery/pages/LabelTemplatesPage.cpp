@@ -95,7 +95,7 @@ protected:
     {
         for (int i = 0; i < c_nKinds; ++i)
         {
-            m_edits[i]->SetValue(c_kinds[i].pszTemplate);
+            m_edits[i]->SetValue(gOtLang.Do(c_kinds[i].pszTemplate));
             ShowPreview(i);
         }
         return TRUE;
