@@ -42,7 +42,7 @@ BOOL CGalleryDialog::OnInitDialog()
     return FALSE; // the tree has the focus
 }
 
-// What a page's controls start from, if whoever shows the page wants it otherwise: columns are long.
+// What a page starts from may be decided by whoever shows it: the lengths of columns stand in metres.
 void CGalleryDialog::PreSetPages()
 {
     CFormatJedinice metres;
