@@ -1,156 +1,150 @@
-// Combo boxes: reports, keys, the width of the list.
+// The combo boxes: reports, keys, the width of the list; of the font combo box also what it lists, and how it paints.
 
 #include <DialogControlsOW.h>
 
 #include "DialogTemplate.h"
+#include "FatalReport.h"
+#include "Handles.h"
 #include "Input.h"
+#include "Picture.h"
+
+#include <acdocman.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
 
-using Calls = std::vector<std::string>;
-
 namespace
 {
+using FontCombo = CFontSelectionComboBox;
+using Calls = std::vector<std::string>;
+
 enum Id : WORD
 {
     idBefore = 1001,
     idExt,
+    idFont,
     idReflected, ///< with an edit part
     idAfter
 };
 
-constexpr wchar_t kLong[] = L"Stahlbetonkonsolen mit hochliegender Last am Rand";
+constexpr wchar_t kFile[] = L"only a file", kNoFont[] = L"No such font";
+constexpr DWORD kFontStyle =
+    WS_CHILD | WS_VISIBLE | WS_TABSTOP | CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT;
 
-/// Writes down each call as "dropdown 1003"; a selection as "select 1002: 0".
-class RecordingHandler : public AExtComboBoxNotificationHandler, public CComboBoxReflectedNotificationHandler
+class CombosDialog : public CDialog,
+                     public AExtComboBoxNotificationHandler,
+                     public AFontSelectionNotificationHandler,
+                     public CComboBoxReflectedNotificationHandler
 {
 public:
-    Calls calls;
-    Calls Take() { return std::exchange(calls, {}); }
-
-    void OnExtComboBoxSelChanged(int nId, int nSel) override
+    /// Another one as the handler of the combo boxes.
+    explicit CombosDialog(CombosDialog* pHandler = nullptr)
+        : ext(pHandler), font(pHandler), reflected(pHandler)
     {
-        Record("select", nId);
-        calls.back() += ": " + std::to_string(nSel);
     }
-    void ComboBoxReflectedOnEditchange(int nId) override { Record("editchange", nId); }
-    void ComboBoxReflectedOnCloseup(int nId) override { Record("closeup", nId); }
-    void ComboBoxReflectedOnDblclk(int nId) override { Record("dblclk", nId); }
-    void ComboBoxReflectedOnDropdown(int nId) override { Record("dropdown", nId); }
-    void ComboBoxReflectedOnEditupdate(int nId) override { Record("editupdate", nId); }
-    void ComboBoxReflectedOnErrspace(int nId) override { Record("errspace", nId); }
-    void ComboBoxReflectedOnKillfocus(int nId) override { Record("killfocus", nId); }
-    void ComboBoxReflectedOnSelchange(int nId) override { Record("selchange", nId); }
-    void ComboBoxReflectedOnSelendcancel(int nId) override { Record("selendcancel", nId); }
-    void ComboBoxReflectedOnSelendok(int nId) override { Record("selendok", nId); }
-    void ComboBoxReflectedOnSetfocus(int nId) override { Record("setfocus", nId); }
 
-private:
-    void Record(const char* what, int nId) { calls.push_back(what + (' ' + std::to_string(nId))); }
-};
-
-/// Counts how often it is asked for the text of an entry.
-class AskedComboBox : public CExtComboBox
-{
-public:
-    using CExtComboBox::CExtComboBox;
-    int texts = 0;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        texts += message == CB_GETLBTEXT;
-        return CExtComboBox::WindowProc(message, wParam, lParam);
-    }
-};
-
-class CombosDialog : public CDialog
-{
-public:
-    explicit CombosDialog(RecordingHandler* pHandler) : ext(pHandler), reflected(pHandler) {}
-
-    AskedComboBox ext;
+    CExtComboBox ext;
+    CFontSelectionComboBox font;
     CComboBoxReflected reflected;
-    int oks = 0;
-    int cancels = 0;
-    int commands = 0; ///< notifications that the combo boxes let through
+    Calls calls; ///< as "dropdown 1004", "select 1002: 0", "font 1003: Arial, 0", "command 2"
+    Calls Take() { return std::exchange(calls, {}); }
 
     bool Open()
     {
         const auto form =
             owtest::DialogTemplate(L"Combos", 160, 100)
-                .Edit(idBefore, 4, 4, 60, 12, ES_AUTOHSCROLL | WS_TABSTOP)
+                .Edit(idBefore, 4, 4, 60, 12, WS_TABSTOP)
                 .Item(L"COMBOBOX", L"", idExt, CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, 4, 20, 60, 80)
-                .Item(L"COMBOBOX", L"", idReflected, CBS_DROPDOWN | WS_TABSTOP, 4, 40, 60, 80)
-                .Edit(idAfter, 4, 60, 60, 12, ES_AUTOHSCROLL | WS_TABSTOP)
+                .Item(L"COMBOBOX", L"", idFont, kFontStyle, 4, 40, 60, 80)
+                .Item(L"COMBOBOX", L"", idReflected, CBS_DROPDOWN | WS_TABSTOP, 4, 60, 60, 80)
+                .Edit(idAfter, 4, 80, 60, 12, WS_TABSTOP)
                 .DefaultButton(L"OK", IDOK, 100, 4, 40, 14);
-        return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
+        return CreateIndirect(form.get()) && (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
     }
-    bool HasFocus(int nId) const
+    CComboBox& operator[](int nId) { return static_cast<CComboBox&>(*GetDlgItem(nId)); }
+    void Notify(int nId, int nCode)
     {
-        const CWnd& control = *GetDlgItem(nId);
-        return ::GetFocus() == control.m_hWnd || control.IsChild(CWnd::GetFocus());
+        SendMessage(WM_COMMAND, MAKEWPARAM(nId, nCode), LPARAM((*this)[nId].m_hWnd));
     }
-    void Notify(const CComboBox& combo, int nCode)
+    void OnExtComboBoxSelChanged(int nId, int nSel) override
     {
-        SendMessage(WM_COMMAND, MAKEWPARAM(combo.GetDlgCtrlID(), nCode),
-                    reinterpret_cast<LPARAM>(combo.m_hWnd));
+        Note("select", nId, ": " + std::to_string(nSel));
     }
+    void OnFontSelected(int nId, const CString& strFont, EFontClass eClass) override
+    {
+        Note("font", nId, ": " + std::string(CStringA(strFont)) + ", " + std::to_string(eClass));
+    }
+    void ComboBoxReflectedOnEditchange(int nId) override { Note("editchange", nId); }
+    void ComboBoxReflectedOnCloseup(int nId) override { Note("closeup", nId); }
+    void ComboBoxReflectedOnDblclk(int nId) override { Note("dblclk", nId); }
+    void ComboBoxReflectedOnDropdown(int nId) override { Note("dropdown", nId); }
+    void ComboBoxReflectedOnEditupdate(int nId) override { Note("editupdate", nId); }
+    void ComboBoxReflectedOnErrspace(int nId) override { Note("errspace", nId); }
+    void ComboBoxReflectedOnKillfocus(int nId) override { Note("killfocus", nId); }
+    void ComboBoxReflectedOnSelchange(int nId) override { Note("selchange", nId); }
+    void ComboBoxReflectedOnSelendcancel(int nId) override { Note("selendcancel", nId); }
+    void ComboBoxReflectedOnSelendok(int nId) override { Note("selendok", nId); }
+    void ComboBoxReflectedOnSetfocus(int nId) override { Note("setfocus", nId); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
         DDX_Control(pDX, idExt, ext);
+        DDX_Control(pDX, idFont, font);
         DDX_Control(pDX, idReflected, reflected);
     }
-    BOOL OnInitDialog() override
+    void OnOK() override { Note("command", IDOK); }
+    void OnCancel() override { Note("command", IDCANCEL); }
+
+private:
+    void Note(const char* what, int nId, const std::string& more = {})
     {
-        CDialog::OnInitDialog();
-        for (const wchar_t* entry : {L"S235", L"S275", L"S355"})
-        {
-            ext.AddString(entry);
-            reflected.AddString(entry);
-        }
-        ext.SetCurSel(0);
-        ShowWindow(SW_SHOW);
-        return TRUE;
+        calls.push_back(what + (' ' + std::to_string(nId)) + more);
     }
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
-    {
-        const BOOL handled = CDialog::OnCommand(wParam, lParam);
-        const bool bExtPasses = HIWORD(wParam) != CBN_SELCHANGE && HIWORD(wParam) != CBN_DROPDOWN;
-        commands += !handled && (LOWORD(wParam) == idReflected || (LOWORD(wParam) == idExt && !bExtPasses));
-        return handled;
-    }
-    void OnOK() override { ++oks; }
-    void OnCancel() override { ++cancels; }
 };
 
-/// A dialog that implements the interface itself.
-class TellingDialog : public CombosDialog, public RecordingHandler
-{
-public:
-    using CombosDialog::CombosDialog;
-};
-
+/// With an SHX font in a file of its own, and no icons loaded.
 class Combos : public ::testing::Test
 {
 protected:
     void SetUp() override
     {
+        const auto directory = std::filesystem::temp_directory_path() / L"combos_test";
+        std::filesystem::create_directories(directory);
+        std::ofstream(directory / (kFile + std::wstring(L".shx"))) << "shapes";
+        CStringArray directories;
+        directories.Add(directory.c_str());
+        gFontManager.SetSHXDirectories(directories);
+        gFontManager.Initialize(CWindowDC(nullptr));
+        std::filesystem::remove_all(directory);
+        for (int i = 0; i < gFontManager.Count(); ++i)
+            if (gFontManager.Class(i) != eFontSHX)
+                m_names.push_back(gFontManager.Name(i));
+        ASSERT_GT(m_names.size(), 3u);
+        FontCombo::s_hIconTTF = FontCombo::s_hIconSHX = nullptr;
+        FontCombo::s_szIconTTF = FontCombo::s_szIconSHX = CSize(0, 0);
         ASSERT_TRUE(m_dialog.Open());
         owtest::MoveTo(m_dialog, CPoint(1, 1)); // a list that opens under the mouse takes the row below it
-        Enter(idExt);
+        for (const wchar_t* entry : {L"S235", L"S275", L"S355"})
+            m_ext.AddString(entry);
+        m_font.AddString(kFile);
+        m_font.AddString(kNoFont);
     }
     void TearDown() override
     {
-        EXPECT_EQ(m_dialog.commands, 0) << "the dialog hears of nothing";
+        EXPECT_EQ(m_dialog.Take(), Calls{}) << "told to the handler alone";
         m_dialog.DestroyWindow();
+    }
+    bool FocusArrives(int nId)
+    {
+        const CWnd& control = *m_dialog.GetDlgItem(nId);
+        const auto arrived = [&] { return ::GetFocus() == control || control.IsChild(CWnd::GetFocus()); };
+        return owtest::PumpUntil(arrived);
     }
     void Enter(int nId)
     {
@@ -158,164 +152,329 @@ protected:
         ASSERT_TRUE(FocusArrives(nId));
         m_handler.Take();
     }
-    bool FocusArrives(int nId)
-    {
-        return owtest::PumpUntil([&] { return m_dialog.HasFocus(nId); });
-    }
-    void OpenList()
+    /// The window of the list that opens by F4.
+    HWND OpenList(const CComboBox& combo)
     {
         owtest::Press(VK_F4);
-        ASSERT_TRUE(owtest::PumpUntil([&] { return m_ext.GetDroppedState() != FALSE; }));
-    }
-    HWND List()
-    {
+        EXPECT_TRUE(owtest::PumpUntil([&] { return combo.GetDroppedState() != FALSE; }));
         COMBOBOXINFO info{};
         info.cbSize = sizeof(info);
-        m_ext.GetComboBoxInfo(&info);
+        ::GetComboBoxInfo(combo, &info);
         return info.hwndList;
     }
-    int WidthWantedFor(const wchar_t* pszText)
+    /// The width of a list with that as its longest text.
+    static int WidthFor(CComboBox& combo, const wchar_t* pszText)
     {
-        CClientDC dc(&m_ext);
-        dc.SelectObject(m_ext.GetFont());
+        CClientDC dc(&combo);
+        dc.SelectObject(combo.GetFont());
         return dc.GetTextExtent(pszText).cx + ::GetSystemMetrics(SM_CXVSCROLL) + dc.GetTextExtent(L"0").cx;
     }
 
-    RecordingHandler m_handler;
+    int RowOf(const wchar_t* name) { return m_font.FindStringExact(-1, name); }
+    LOGFONT* RecordOf(const wchar_t* name)
+    {
+        return static_cast<LOGFONT*>(m_font.GetItemDataPtr(RowOf(name)));
+    }
+
+    /// Whether a row looks as it should: a text of 9 points behind the icon, which may be null.
+    bool LooksLike(const wchar_t* name, const CString& text, UINT state, COLORREF back, COLORREF color,
+                   HICON icon = nullptr)
+    {
+        owtest::Surface seen(200, 20), wanted(200, 20);
+        CDC& dc = wanted.dc();
+        CRect rect(3, 1, 190, 19);
+        const auto row = static_cast<UINT>(RowOf(name));
+        DRAWITEMSTRUCT item{ODT_COMBOBOX, idFont, row, ODA_DRAWENTIRE, state, m_font, seen.dc(), rect, 0};
+        m_font.DrawItem(&item);
+        dc.FillSolidRect(rect, back);
+        if (icon)
+            dc.DrawState(rect.TopLeft(), CSize(16, 16), icon, DSS_NORMAL, static_cast<CBrush*>(nullptr));
+        CFont font;
+        font.CreatePointFont(90, name, &dc);
+        CFont* old = dc.SelectObject(&font);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(color);
+        rect.left += icon ? 20 : 4;
+        dc.DrawText(text, rect, DT_SINGLELINE | DT_VCENTER);
+        dc.SelectObject(old);
+        return seen == wanted;
+    }
+
+    CombosDialog m_handler;
     CombosDialog m_dialog{&m_handler};
-    AskedComboBox& m_ext = m_dialog.ext;
+    CExtComboBox& m_ext = m_dialog.ext;
+    CFontSelectionComboBox& m_font = m_dialog.font;
+    std::vector<CString> m_names; ///< of the system's fonts, each once
 };
 } // namespace
 
 TEST_F(Combos, TabEnterAndEscapeAreThoseOfTheTextBoxesAlsoOverAnOpenList)
 {
-    m_ext.AddString(L"\tindented"); // which a Tab that comes through as a character would choose
-    for (bool bOpen : {false, true})
+    for (const int nId : {idExt, idFont})
     {
-        for (const auto& [key, bShift, nTarget] : {std::tuple(VK_TAB, false, idReflected),
-                                                   {VK_TAB, true, idBefore},
-                                                   {VK_RETURN, false, idReflected}})
-        {
-            Enter(idExt);
-            if (bOpen)
-                OpenList();
-            owtest::Press(static_cast<WORD>(key), bShift);
-            EXPECT_TRUE(FocusArrives(nTarget)) << key << ' ' << bOpen;
-            EXPECT_FALSE(m_ext.GetDroppedState());
-            EXPECT_EQ(m_ext.GetCurSel(), 0);
-        }
-        Enter(idExt);
-        if (bOpen)
-            OpenList();
-        m_dialog.cancels = 0;
-        owtest::Press(VK_ESCAPE);
-        EXPECT_TRUE(owtest::PumpUntil([&] { return m_dialog.cancels == 1; }));
-        EXPECT_EQ(m_ext.GetDroppedState() != FALSE, bOpen) << "the key is not the list's";
+        CComboBox& combo = m_dialog[nId];
+        EXPECT_EQ(combo.SendMessage(WM_GETDLGCODE), DLGC_WANTALLKEYS | DLGC_WANTARROWS | DLGC_WANTCHARS);
+        combo.AddString(L"\tindented"); // which a Tab that comes through as a character would choose
+        combo.SetCurSel(1);
+        const std::tuple<WORD, bool, int> keys[] = {{VK_TAB, false, nId + 1},
+                                                    {VK_TAB, true, nId - 1},
+                                                    {VK_RETURN, false, nId + 1},
+                                                    {VK_ESCAPE, false, nId}};
+        for (const bool bOpen : {false, true})
+            for (const auto& [key, bShift, nTarget] : keys)
+            {
+                Enter(nId);
+                if (bOpen)
+                    OpenList(combo);
+                owtest::Press(key, bShift);
+                EXPECT_TRUE(FocusArrives(nTarget)) << nId << ' ' << key << ' ' << bOpen;
+                EXPECT_EQ(m_dialog.Take(), key == VK_ESCAPE ? Calls{"command 2"} : Calls{});
+                EXPECT_EQ(combo.GetDroppedState() != FALSE, bOpen && key == VK_ESCAPE);
+                EXPECT_EQ(combo.GetCurSel(), 1);
+            }
     }
-    EXPECT_EQ(m_dialog.oks, 0) << "Enter does not press the default button";
 }
 
 TEST_F(Combos, ASelectionIsReportedAtEachStepOfTheKeysAndOnceByMouse)
 {
-    owtest::Press(VK_DOWN);
-    owtest::Press(VK_DOWN);
-    owtest::Press(VK_UP);
+    m_ext.SetCurSel(0);
+    Enter(idExt);
+    for (const WORD key : {VK_DOWN, VK_DOWN, VK_UP})
+        owtest::Press(key);
     EXPECT_EQ(m_handler.Take(), (Calls{"select 1002: 1", "select 1002: 2", "select 1002: 1"}));
-
-    owtest::Click(m_ext);
-    owtest::Click(List(), CPoint(10, 2 * m_ext.GetItemHeight(0) + 5));
-    EXPECT_EQ(m_handler.Take(), (Calls{"select 1002: 2"}));
-
+    owtest::Click(OpenList(m_ext), CPoint(10, 2 * m_ext.GetItemHeight(0) + 5));
+    EXPECT_EQ(m_handler.Take(), Calls{"select 1002: 2"});
     m_ext.SetCurSel(-1);
     EXPECT_EQ(m_handler.Take(), Calls{}) << "the program's own choice is silent";
-    m_dialog.Notify(m_ext, CBN_SELCHANGE);
+    m_dialog.Notify(idExt, CBN_SELCHANGE);
     EXPECT_EQ(m_handler.Take(), Calls{"select 1002: -1"});
 }
 
 TEST_F(Combos, TheListGrowsToItsLongestEntryAndNeverShrinks)
 {
-    CRect control;
+    CRect control, list;
     m_ext.GetWindowRect(control);
-    OpenList();
-    EXPECT_EQ(m_ext.GetDroppedWidth(), control.Width()) << "short entries need no more";
-    m_ext.ShowDropDown(FALSE);
-
-    LOGFONT logFont{};
-    m_ext.GetFont()->GetLogFont(&logFont);
-    logFont.lfHeight *= 2;
-    CFont large;
-    large.CreateFontIndirect(&logFont);
-    m_ext.SetFont(&large);
-    m_ext.AddString(kLong);
-    m_ext.texts = 0;
-    OpenList();
-    EXPECT_EQ(m_ext.texts, m_ext.GetCount()) << "each entry is read once";
-    CRect list;
-    ::GetWindowRect(List(), list);
-    EXPECT_EQ(m_ext.GetDroppedWidth(), WidthWantedFor(kLong));
-    EXPECT_GE(list.Width(), WidthWantedFor(kLong)) << "the list that opens is the wide one already";
-    m_ext.ShowDropDown(FALSE);
-
-    m_ext.ResetContent();
-    OpenList();
-    EXPECT_EQ(m_ext.GetDroppedWidth(), WidthWantedFor(kLong)) << "it stays, with no entries, too";
-    CRect after;
-    m_ext.GetWindowRect(after);
-    EXPECT_EQ(after.Width(), control.Width());
-    m_dialog.DestroyWindow(); // before the font goes
+    const CString strLong(L'W', 30), strLonger(L'W', 40);
+    const int nLong = WidthFor(m_ext, strLong), nLonger = WidthFor(m_ext, strLonger);
+    const std::tuple<CString, int, int> entries[] = {
+        {L"W", 0, control.Width()}, {strLong, 0, nLong}, {strLonger, -1, nLonger}, {L"", 0, nLonger}};
+    for (const auto& [strEntry, nRow, nWidth] : entries)
+    {
+        if (strEntry.IsEmpty())
+            m_ext.ResetContent();
+        else
+            m_ext.InsertString(nRow, strEntry);
+        Enter(idExt);
+        ::GetWindowRect(OpenList(m_ext), list);
+        EXPECT_EQ(m_ext.GetDroppedWidth(), nWidth);
+        EXPECT_GE(list.Width(), nWidth) << "the list that opens is the wide one already";
+        m_ext.ShowDropDown(FALSE);
+    }
 }
 
 TEST_F(Combos, TheReflectedOnePassesOnEachNotification)
 {
     const std::pair<int, const char*> notifications[] = {
-        {CBN_EDITCHANGE, "editchange 1003"}, {CBN_CLOSEUP, "closeup 1003"},
-        {CBN_DBLCLK, "dblclk 1003"},         {CBN_DROPDOWN, "dropdown 1003"},
-        {CBN_EDITUPDATE, "editupdate 1003"}, {CBN_ERRSPACE, "errspace 1003"},
-        {CBN_KILLFOCUS, "killfocus 1003"},   {CBN_SELCHANGE, "selchange 1003"},
-        {CBN_SELENDOK, "selendok 1003"},     {CBN_SELENDCANCEL, "selendcancel 1003"},
-        {CBN_SETFOCUS, "setfocus 1003"},
+        {CBN_EDITCHANGE, "editchange"}, {CBN_CLOSEUP, "closeup"},           {CBN_DBLCLK, "dblclk"},
+        {CBN_DROPDOWN, "dropdown"},     {CBN_EDITUPDATE, "editupdate"},     {CBN_ERRSPACE, "errspace"},
+        {CBN_KILLFOCUS, "killfocus"},   {CBN_SELCHANGE, "selchange"},       {CBN_SELENDOK, "selendok"},
+        {CBN_SETFOCUS, "setfocus"},     {CBN_SELENDCANCEL, "selendcancel"},
     };
-    for (const auto& [nCode, call] : notifications)
+    for (const auto& [nCode, name] : notifications)
     {
-        m_dialog.Notify(m_dialog.reflected, nCode);
-        EXPECT_EQ(m_handler.Take(), Calls{call});
+        m_dialog.Notify(idReflected, nCode);
+        EXPECT_EQ(m_handler.Take(), Calls{name + std::string(" 1004")});
     }
-}
-
-TEST_F(Combos, TheReflectedOneTellsOfTypingAndChoosing)
-{
     Enter(idReflected);
     owtest::Type(L"S");
-    EXPECT_EQ(m_handler.Take(), (Calls{"editupdate 1003", "editchange 1003"}));
-    owtest::Press(VK_F4);
-    owtest::Press(VK_DOWN);
-    owtest::Press(VK_RETURN);
-    const Calls calls = m_handler.Take();
-    for (const char* call : {"dropdown 1003", "selchange 1003", "selendok 1003", "closeup 1003"})
-        EXPECT_NE(std::find(calls.begin(), calls.end(), call), calls.end()) << call;
+    EXPECT_EQ(m_handler.Take(), (Calls{"editupdate 1004", "editchange 1004"}));
 }
 
-TEST(ComboHandler, OfTheReflectedOneIsTheParentWhereNoneWasGiven)
+TEST_F(Combos, WithoutAHandlerOnlyTheReflectedOneTellsTheParent)
 {
-    RecordingHandler given;
-    for (RecordingHandler* pGiven : {static_cast<RecordingHandler*>(nullptr), &given})
-    {
-        TellingDialog dialog(pGiven);
-        ASSERT_TRUE(dialog.Open());
-        dialog.Take();
-        given.Take();
-        dialog.Notify(dialog.reflected, CBN_SELCHANGE);
-        if (!pGiven)
-            dialog.Notify(dialog.ext, CBN_SELCHANGE); // has only the handler that it was given
-        const Calls wanted{"selchange 1003"};
-        EXPECT_EQ(dialog.Take(), pGiven ? Calls{} : wanted);
-        EXPECT_EQ(given.Take(), pGiven ? wanted : Calls{}) << "a handler that was given takes precedence";
-        dialog.DestroyWindow();
-    }
+    CombosDialog dialog;
+    ASSERT_TRUE(dialog.Open());
+    dialog.Take();
+    for (const int nId : {idReflected, idExt, idFont})
+        dialog.Notify(nId, CBN_SELCHANGE);
+    EXPECT_EQ(dialog.Take(), Calls{"selchange 1004"});
+    dialog.DestroyWindow();
 
-    CombosDialog silent(nullptr);
-    ASSERT_TRUE(silent.Open());
-    silent.Notify(silent.reflected, CBN_SELCHANGE);
-    EXPECT_EQ(silent.commands, 0);
-    silent.DestroyWindow();
+    CDialog deaf; // of a class that is no handler
+    ASSERT_TRUE(deaf.CreateIndirect(owtest::DialogTemplate(L"", 90, 90).get()));
+    ASSERT_TRUE(dialog.reflected.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 60, 60), &deaf, 1));
+    deaf.SendMessage(WM_COMMAND, MAKEWPARAM(1, CBN_SELCHANGE), LPARAM(dialog.reflected.m_hWnd));
+    EXPECT_EQ(dialog.Take(), Calls{});
+    deaf.DestroyWindow();
+}
+
+// ---- The font combo box ------------------------------------------------------------------------------------
+
+TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
+{
+    const int count = static_cast<int>(m_names.size());
+    m_font.InitFonts();
+    EXPECT_EQ(m_font.GetCount(), count);
+    for (const CString& name : m_names)
+    {
+        const LOGFONT* record = RecordOf(name);
+        EXPECT_TRUE(record->lfFaceName == name && record->lfHeight > 0 && record->lfWeight > 0);
+        EXPECT_EQ(*reinterpret_cast<const int*>(record + 1), gFontManager.Find(name));
+    }
+    LOGFONT own{};
+    own.lfWeight = 123;
+    ::lstrcpy(own.lfFaceName, kNoFont);
+    for (int type :
+         {RASTER_FONTTYPE, TRUETYPE_FONTTYPE | DEVICE_FONTTYPE, TRUETYPE_FONTTYPE, TRUETYPE_FONTTYPE})
+        EXPECT_EQ(FontCombo::EnumFontProc(&own, nullptr, type, reinterpret_cast<LPARAM>(&m_font)), 1);
+    EXPECT_EQ(m_font.GetCount(), count + 2) << "the same name, too, but no other type";
+    m_font.DeleteString(RowOf(kNoFont));
+    EXPECT_EQ(RecordOf(kNoFont)->lfWeight, 123);
+}
+
+TEST_F(Combos, AFontOneThatIsMadePostsAMessageThatItDoesNotHandle)
+{
+    FontCombo plain;
+    ASSERT_TRUE(plain.Create(kFontStyle, CRect(0, 0, 90, 90), &m_dialog, 1));
+    MSG msg;
+    const auto posted = [&] { return ::PeekMessage(&msg, plain, 1147, 1147, PM_NOREMOVE) != FALSE; };
+    EXPECT_TRUE(posted());
+    owtest::Pump();
+    EXPECT_TRUE(plain.GetCount() == 0 && !posted());
+    plain.FillFonts();
+    EXPECT_TRUE(posted());
+    plain.DestroyWindow();
+}
+
+TEST_F(Combos, TheFontOneTellsTheSelectedFontAndItsClass)
+{
+    LOGFONT font{};
+    EFontClass fontClass = eFontSHX;
+    CString name = L"as it was";
+    EXPECT_TRUE(m_font.GetSelFont(font, fontClass) == -1 && !m_font.GetSelection(name, fontClass));
+    EXPECT_TRUE(font.lfFaceName[0] == 0 && name == L"as it was" && fontClass == eFontSHX);
+    for (const CString& wanted : {m_names[0], m_names[2], CString(kNoFont), CString(kFile)})
+    {
+        const bool listed = wanted != kNoFont && wanted != kFile; // of others only the name is known
+        EXPECT_TRUE(m_font.SetSelection(CString(wanted).MakeUpper()));
+        EXPECT_TRUE(m_font.GetSelection(name, fontClass) && name == wanted);
+        EXPECT_EQ(fontClass, wanted == kFile ? eFontSHX : eFontTrueType);
+        EXPECT_EQ(m_font.GetSelFont(font, fontClass), RowOf(wanted));
+        EXPECT_TRUE(font.lfFaceName == wanted && (font.lfWeight > 0) == listed);
+        EXPECT_EQ(font.lfCharSet == DEFAULT_CHARSET, !listed);
+    }
+    EXPECT_FALSE(m_font.SetSelection(L"only a"));
+    EXPECT_EQ(m_font.GetCurSel(), RowOf(kFile)) << "the selection stays";
+    m_font.SetCurSel(RowOf(kFile) - 1);
+    Enter(idFont);
+    owtest::Press(VK_DOWN);
+    m_font.SetCurSel(-1);
+    m_dialog.Notify(idFont, CBN_SELCHANGE);
+    EXPECT_EQ(m_handler.Take(), (Calls{"font 1003: only a file, 1", "font 1003: , 0"}))
+        << "the user's choices alone";
+}
+
+TEST_F(Combos, TheListOfFontsGrowsByTheIconsToo)
+{
+    const CString name(L'W', 40);
+    m_font.AddString(name);
+    const std::tuple<int, int, int> widths[] = {
+        {0, 0, 4}, {16, 9, 20}, {16, 24, 28}, {0, 0, 28}}; // never shrinks
+    for (const auto& [ttf, shx, beside] : widths)
+    {
+        FontCombo::s_szIconTTF.cx = ttf;
+        FontCombo::s_szIconSHX.cx = shx;
+        m_font.ShowDropDown(TRUE);
+        m_font.ShowDropDown(FALSE);
+        EXPECT_EQ(m_font.GetDroppedWidth(), WidthFor(m_font, name) + beside);
+    }
+}
+
+TEST_F(Combos, ARowOfFontsIsItsNameInItsFontAtNinePointsWithAMarkOrAnIcon)
+{
+    const COLORREF back = ::GetSysColor(COLOR_WINDOW), text = ::GetSysColor(COLOR_WINDOWTEXT);
+    const COLORREF hiBack = ::GetSysColor(COLOR_HIGHLIGHT), hiText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    const CString name = m_names[2], marked = L"only a file (SHX)";
+    const int objects = owtest::CountHandles().gdi;
+    RecordOf(name)->lfWidth = 40;
+    EXPECT_TRUE(LooksLike(name, name, 0, back, text));
+    EXPECT_TRUE(RecordOf(name)->lfHeight == 90 && RecordOf(name)->lfWidth == 0) << "left in the record";
+    m_font.SetItemData(RowOf(kNoFont), 0x12345); // the caller's own
+    EXPECT_TRUE(LooksLike(name, name, ODS_SELECTED, hiBack, hiText));
+    EXPECT_TRUE(LooksLike(name, name, ODS_DISABLED, back, ::GetSysColor(COLOR_GRAYTEXT)));
+    EXPECT_TRUE(LooksLike(m_names[0], m_names[0], 0, back, text));
+    EXPECT_TRUE(LooksLike(kFile, marked, 0, back, text));
+    EXPECT_TRUE(LooksLike(kNoFont, kNoFont, 0, back, text));
+    EXPECT_TRUE(LooksLike(L"no row", L"", ODS_SELECTED, hiBack, hiText));
+    EXPECT_EQ(owtest::CountHandles().gdi, objects) << "made for the paint only";
+
+    FontCombo::LoadIcons();
+    const HICON ttf = FontCombo::s_hIconTTF, shx = FontCombo::s_hIconSHX;
+    FontCombo::LoadIcons();
+    EXPECT_TRUE(ttf == FontCombo::s_hIconTTF && shx == FontCombo::s_hIconSHX && ttf != shx) << "loaded once";
+    EXPECT_TRUE(FontCombo::s_szIconTTF == CSize(16, 16) && FontCombo::s_szIconSHX == CSize(16, 16));
+    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    EXPECT_TRUE(LooksLike(name, name, 0, back, text, ttf));
+    EXPECT_TRUE(LooksLike(kFile, kFile, 0, back, text, shx));
+    for (HICON* missing : {&FontCombo::s_hIconTTF, &FontCombo::s_hIconSHX}) // one alone is not used
+    {
+        const HICON icon = std::exchange(*missing, nullptr);
+        EXPECT_TRUE(LooksLike(kFile, marked, 0, back, text));
+        *missing = icon;
+    }
+    m_font.UpdateWindow();
+    m_font.SetNormalColors(1, 2);
+    EXPECT_TRUE(m_font.GetUpdateRect(nullptr) && LooksLike(name, name, 0, 1, 2, ttf));
+    m_font.UpdateWindow();
+    m_font.SetHilightColors(3, 4);
+    EXPECT_TRUE(m_font.GetUpdateRect(nullptr) && LooksLike(name, name, ODS_SELECTED, 3, 4, ttf));
+    FontCombo().SetNormalColors(1, 2); // before there is a window
+}
+
+TEST_F(Combos, ARecordOfAFontGoesWithItsRowOrWithTheWindow)
+{
+    // A window that is not the framework's does not pass on that rows are deleted.
+    const HWND parents[] = {
+        m_dialog, ::CreateWindow(L"STATIC", L"", 0, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr)};
+    FontCombo combo; // the same object for one window after another
+    for (int window = 0; window < 16; ++window)
+    {
+        const size_t bare = owtest::CountHeapBytes(), records = (m_names.size() - 1) * sizeof(LOGFONT);
+        const owtest::HandleCount handles = owtest::CountHandles();
+        combo.SubclassWindow(::CreateWindow(L"COMBOBOX", L"", kFontStyle, 0, 0, 9, 9, parents[window % 2],
+                                            nullptr, nullptr, nullptr));
+        ASSERT_EQ(combo.GetCount(), static_cast<int>(m_names.size()));
+        if (window & 2)
+            combo.InitFonts();
+        const size_t full = owtest::CountHeapBytes();
+        while (window & 4 && combo.GetCount() > 1)
+            combo.DeleteString(combo.GetCount() / 2);
+        EXPECT_TRUE(!(window & 4) || window & 1 || owtest::CountHeapBytes() + records < full)
+            << "with its row";
+        combo.SetItemData(0, 77); // the caller's own, in place of a record
+        combo.DestroyWindow();
+        EXPECT_TRUE(window < 8 || owtest::CountHeapBytes() < bare + sizeof(LOGFONT))
+            << "with the window " << window;
+        EXPECT_TRUE(window < 8 || owtest::CountHandles() == handles);
+    }
+    ::DestroyWindow(parents[1]);
+}
+
+// Without the pictures in the icon's group, in this process.
+OW_CHILD_SCENARIO(no_shx_icon)
+{
+    const HINSTANCE library = AfxFindResourceHandle(MAKEINTRESOURCE(10100), RT_GROUP_ICON);
+    const HRSRC found = ::FindResource(library, MAKEINTRESOURCE(10100), RT_GROUP_ICON);
+    auto* header = static_cast<WORD*>(::LockResource(::LoadResource(library, found)));
+    DWORD before;
+    ::VirtualProtect(header, 6, PAGE_READWRITE, &before);
+    header[2] = 0;
+    FontCombo::LoadIcons();
+}
+
+TEST(FontComboIcons, EndTheProcessWhereOneIsMissing)
+{
+    owtest::ExpectFailedAssert(
+        owtest::RunChild("no_shx_icon"),
+        L"ASSERT(s_hIconSHX = gfnLoadIconResource(IDI_OW_SHX))\n[.\\FontSelectionComboBox : 33]\n");
 }
