@@ -1,5 +1,5 @@
 #pragma once
-// A host dialog for pages, page dialogs and pages that write down what happens to them.
+// A host dialog for pages, with page dialogs, pages and clients that write down what happens to them.
 
 #include <DialogControlsOW.h>
 
@@ -13,18 +13,17 @@
 #include <vector>
 
 /// What happened, in order: "bind Alpha", "show plain". One list for pages, dialogs and clients.
+using Calls = std::vector<std::string>;
 struct CallLog
 {
-    std::vector<std::string> calls;
-
+    Calls calls;
     void Add(std::string text) { calls.push_back(std::move(text)); }
-    std::vector<std::string> Take() { return std::exchange(calls, {}); }
+    Calls Take() { return std::exchange(calls, {}); }
 };
-using Calls = std::vector<std::string>;
 
-inline std::string Narrow(const CString& text)
+inline std::string NameOf(const CPage* pPage)
 {
-    return std::string(CStringA(text));
+    return pPage ? std::string(CStringA(pPage->GetTreeItemName())) : "-";
 }
 
 class RecordingPage : public CPage
@@ -34,29 +33,24 @@ public:
         : CPage(strName, pDialog), m_nId(nId), m_log(&log)
     {
     }
-    ~RecordingPage() override { m_log->Add("delete " + Narrow(name)); }
-
+    ~RecordingPage() override { m_log->Add("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
 
-    int nCount = 0; ///< what FieldsDialog shows
+    int nCount = 0; ///< what its dialog shows
 
-    using CPage::debljina, CPage::debljinaSet;
-    using CPage::duzina, CPage::duzinaSet;
-    using CPage::formatDole, CPage::formatDoleSet;
-    using CPage::formatGore, CPage::formatGoreSet;
-    using CPage::formatIzvor, CPage::formatIzvorSet;
-    using CPage::idConf, CPage::name;
-    using CPage::polozaj, CPage::polozajSet;
-    using CPage::separator, CPage::separatorSet;
-    using CPage::sirina, CPage::sirinaSet;
+    using CPage::debljina, CPage::debljinaSet, CPage::duzina, CPage::duzinaSet, CPage::sirina,
+        CPage::sirinaSet;
+    using CPage::formatDole, CPage::formatDoleSet, CPage::formatGore, CPage::formatGoreSet;
+    using CPage::formatIzvor, CPage::formatIzvorSet, CPage::idConf;
+    using CPage::polozaj, CPage::polozajSet, CPage::separator, CPage::separatorSet;
 
 private:
     int m_nId;
     CallLog* m_log;
 };
 
-/// Writes down what the manager and the pages do to it.
-class RecordingDialog : public CPageDialog
+/// A dialog for the count of one page or of several. The page takes the count over when the user leaves the box.
+class RecordingDialog : public CPageDialog, public CEditNNotificationHandler
 {
 public:
     RecordingDialog(UINT nTemplateId, std::string strName, CWnd* pHost, CallLog& log)
@@ -65,204 +59,182 @@ public:
     }
     ~RecordingDialog() override { m_log.Add("delete " + m_strName); }
 
+    CEditIntegerWithRange count{this};
+    RecordingPage* bound = nullptr; ///< whose count it shows
+
+    BOOL OnInitDialog() override
+    {
+        MyAttributeChanged(); // while the window is being made
+        return CPageDialog::OnInitDialog();
+    }
     int OnInitPageDialog() override
     {
+        count.SubclassDlgItem(IDC_COUNT, this);
         m_log.Add("init " + m_strName);
         return FALSE; // as good as any other answer
     }
     void BindControlsToSources(bool bBind, CPage* pPage) override
     {
-        m_log.Add((bBind ? "bind " : "unbind ") + Narrow(pPage->GetTreeItemName()));
-        bound = bBind ? pPage : nullptr;
-    }
-
-    CPage* bound = nullptr; ///< whose values it shows
-
-    using CPageDialog::MyAttributeChanged;
-    using CPageDialog::PreTranslateMessage;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        switch (message)
-        {
-        case WM_ENABLE:
-            m_log.Add((wParam ? "enable " : "disable ") + m_strName);
-            break;
-        case WM_SHOWWINDOW:
-            m_log.Add((wParam ? "show " : "hide ") + m_strName);
-            break;
-        case WM_SETFOCUS:
-            m_log.Add("focus " + m_strName);
-            break;
-        }
-        return CPageDialog::WindowProc(message, wParam, lParam);
-    }
-
-    std::string m_strName;
-    CallLog& m_log;
-};
-
-/// A dialog for the count of several pages. The page takes the count over when the user leaves the box.
-class FieldsDialog : public RecordingDialog, public CEditNNotificationHandler
-{
-public:
-    FieldsDialog(CWnd* pHost, CallLog& log) : RecordingDialog(IDD_FIELDS, "fields", pHost, log) {}
-
-    CEditIntegerWithRange count{this};
-    CEdit plain;
-    CEdit notes;
-
-    int OnInitPageDialog() override
-    {
-        count.SubclassDlgItem(IDC_COUNT, this);
-        plain.SubclassDlgItem(IDC_PLAIN, this);
-        notes.SubclassDlgItem(IDC_NOTES, this);
-        return RecordingDialog::OnInitPageDialog();
-    }
-    void BindControlsToSources(bool bBind, CPage* pPage) override
-    {
-        RecordingDialog::BindControlsToSources(bBind, pPage);
+        m_log.Add((bBind ? "bind " : "unbind ") + NameOf(pPage));
+        bound = bBind ? static_cast<RecordingPage*>(pPage) : nullptr;
         if (bound)
-            count.SetValue(BoundCount());
+            count.SetValue(bound->nCount);
     }
     void OnEditNChange(int) override { MyAttributeChanged(); }
     void OnEditNKillFocus(int) override
     {
         if (bound)
-            BoundCount() = count.GetValue();
+            bound->nCount = count.GetValue();
     }
+    using CPageDialog::MyAttributeChanged;
 
-private:
-    int& BoundCount() const { return static_cast<RecordingPage*>(bound)->nCount; }
-};
-
-/// Writes down what a selector tells: "select Alpha after -".
-class RecordingSelectClient : public ASelectPageNotificationClient
-{
-public:
-    explicit RecordingSelectClient(CallLog& log) : m_log(log) {}
-    void PageSelected(CPage* pNew, CPage* pOld) override
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        m_log.Add("select " + Name(pNew) + " after " + Name(pOld));
+        if (message == WM_ENABLE)
+            m_log.Add((wParam ? "enable " : "disable ") + m_strName);
+        else if (message == WM_SHOWWINDOW)
+            m_log.Add((wParam ? "show " : "hide ") + m_strName);
+        else if (message == WM_SETFOCUS)
+            m_log.Add("focus " + m_strName);
+        return CPageDialog::WindowProc(message, wParam, lParam);
     }
 
 private:
-    static std::string Name(CPage* pPage) { return pPage ? Narrow(pPage->GetTreeItemName()) : "-"; }
+    std::string m_strName;
     CallLog& m_log;
 };
 
-/// A tree whose inner operations a test may call.
-class OpenPageTree : public CPageTreeCtrl
+/// Writes down what managers and selectors tell: "first: Gamma below Alpha", "first: changed", "Alpha after -".
+class RecordingClient : public AAddPageNotificationClient,
+                        public ASelectPageNotificationClient,
+                        public AAttributeChangeNotificationClient
 {
 public:
-    using CPageTreeCtrl::ItemToPage;
-    using CPageTreeCtrl::PageToItem;
+    RecordingClient(CallLog& log, std::string strName) : m_log(log), m_strName(std::move(strName)) {}
+    void PageAdded(CPage* pPage, CPage* pParent) override
+    {
+        m_log.Add(m_strName + ": " + NameOf(pPage) + " below " + NameOf(pParent));
+    }
+    void PageSelected(CPage* pNew, CPage* pOld) override
+    {
+        m_log.Add(NameOf(pNew) + " after " + NameOf(pOld));
+    }
+    void AttributeChangedUsingGUI() override { m_log.Add(m_strName + ": changed"); }
+
+private:
+    CallLog& m_log;
+    std::string m_strName;
+};
+
+/// Identities of the host's pages, in the order of adding.
+enum Identity
+{
+    idAlpha = 1, ///< on the dialog of the fields, as beta and delta
+    idGamma,     ///< below alpha, on the plain dialog, as the other children
+    idBeta,
+    idDelta,
+    idEarlier, ///< below delta, as the next
+    idLater,
+    idStranger ///< never added
 };
 
 /// A host with a manager. What selects pages is added by those who derive from it.
 class PagesHost : public CDialog, public APageFrameProvider
 {
 public:
-    explicit PagesHost(UINT nTemplateId) : CDialog(nTemplateId), m_nTemplateId(nTemplateId) {}
+    explicit PagesHost(UINT nTemplateId = IDD_HOST) : CDialog(nTemplateId), m_nTemplateId(nTemplateId) {}
     ~PagesHost() override { DestroyWindow(); }
 
     CallLog log;
     CPageManager manager{this};
+    RecordingClient selects{log, "selects"};
     CRect frame{CPoint(200, 40), CSize(300, 180)};
     int oks = 0;
     int cancels = 0;
+    RecordingDialog* fields = nullptr;
+    RecordingDialog* plain = nullptr;
 
+    bool Open() { return Create(m_nTemplateId) && owtest::Activate(m_hWnd); }
+    RecordingPage* Page(Identity id) const
+    {
+        return static_cast<RecordingPage*>(manager.GetPage(static_cast<CPage::EPageID>(id)));
+    }
+    RecordingPage* AddPage(const wchar_t* pszName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
+    {
+        auto* pPage = new RecordingPage(pszName, pDialog, nId, log);
+        manager.AddPage(pPage, pParent);
+        return pPage;
+    }
+    RecordingDialog* AddDialog(UINT nTemplateId, const char* name)
+    {
+        auto* pDialog = new RecordingDialog(nTemplateId, name, this, log);
+        manager.AddDialog(pDialog);
+        return pDialog;
+    }
     /// What the select clients were told since the last question.
     Calls TakeSelections()
     {
         Calls calls = log.Take();
-        std::erase_if(calls, [](const std::string& call) { return !call.starts_with("select "); });
+        std::erase_if(calls,
+                      [](const std::string& call) { return call.find(" after ") == std::string::npos; });
         return calls;
     }
-
-    bool Open() { return Create(m_nTemplateId) && owtest::Activate(m_hWnd); }
-
     CRect GetPageFrame() override
     {
         log.Add("frame");
         return frame;
     }
 
-    /// Adds a page whose identity is its place among the pages added by this.
-    RecordingPage* AddPage(CString strName, CPageDialog* pDialog, CPage* pParent = nullptr)
-    {
-        auto* pPage = new RecordingPage(strName, pDialog, ++m_nPages, log);
-        manager.AddPage(pPage, pParent);
-        return pPage;
-    }
-    RecordingDialog* AddPlainDialog(std::string strName = "plain")
-    {
-        auto* pDialog = new RecordingDialog(IDD_PLAIN, std::move(strName), this, log);
-        manager.AddDialog(pDialog);
-        return pDialog;
-    }
-    FieldsDialog* AddFieldsDialog()
-    {
-        auto* pDialog = new FieldsDialog(this, log);
-        manager.AddDialog(pDialog);
-        return pDialog;
-    }
-
 protected:
+    template <class Selector>
+    void Fill(Selector& selector)
+    {
+        manager.RegisterAddPageNotification(&selector, true);
+        selector.RegisterSelectPageNotification(&selects, true);
+        selector.RegisterSelectPageNotification(&manager, true);
+        fields = AddDialog(IDD_FIELDS, "fields");
+        plain = AddDialog(IDD_PLAIN, "plain");
+        AddPage(L"Gamma", plain, idGamma, AddPage(L"Alpha", fields, idAlpha));
+        AddPage(L"Beta", fields, idBeta);
+        CPage* pDelta = AddPage(L"Delta", fields, idDelta);
+        AddPage(L"Earlier", plain, idEarlier, pDelta);
+        AddPage(L"Later", plain, idLater, pDelta);
+        ShowWindow(SW_SHOW);
+    }
     void OnOK() override { ++oks; }
     void OnCancel() override { ++cancels; }
 
 private:
     UINT m_nTemplateId;
-    int m_nPages = 0;
 };
 
-/// The usual host: tree, caption, and pages that share a dialog and do not.
+/// A tree whose inner operations a test may call.
+class OpenPageTree : public CPageTreeCtrl
+{
+public:
+    using CPageTreeCtrl::ItemToPage, CPageTreeCtrl::PageToItem;
+};
+
+/// The usual host: with a tree and a caption.
 class TreeHost : public PagesHost
 {
 public:
-    TreeHost() : PagesHost(IDD_HOST) {}
-
     OpenPageTree tree;
     CPageGradientCaptionStatic caption{tree};
-    RecordingSelectClient selects{log};
-
-    FieldsDialog* fields = nullptr;   ///< of alpha and beta
-    RecordingDialog* plain = nullptr; ///< of gamma
-    RecordingPage* alpha = nullptr;
-    RecordingPage* beta = nullptr;
-    RecordingPage* gamma = nullptr; ///< below alpha
 
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        manager.RegisterAddPageNotification(&tree, true);
-        tree.RegisterSelectPageNotification(&selects, true);
-        tree.RegisterSelectPageNotification(&manager, true);
+        Fill(tree);
         tree.RegisterSelectPageNotification(&caption, true);
-        fields = AddFieldsDialog();
-        plain = AddPlainDialog();
-        alpha = AddPage(L"Alpha", fields);
-        beta = AddPage(L"Beta", fields);
-        gamma = AddPage(L"Gamma", plain, alpha);
         GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
         return FALSE;
-    }
-
-    /// Clicks the text of a page's item.
-    void ClickPage(CPage* pPage)
-    {
-        CRect rect;
-        tree.EnsureVisible(tree.PageToItem(pPage));
-        tree.GetItemRect(tree.PageToItem(pPage), rect, TRUE);
-        owtest::Click(tree, rect.CenterPoint());
     }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
-        CDialog::DoDataExchange(pDX);
         DDX_Control(pDX, IDC_TREE, tree);
         DDX_Control(pDX, IDC_CAPTION, caption);
     }
@@ -274,4 +246,22 @@ protected:
         tree.SelectItem(tree.GetNextSiblingItem(tree.GetSelectedItem()));
         return TRUE;
     }
+};
+
+/// An open host.
+class Pages : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_host.Open());
+        m_log.Take();
+    }
+    static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
+
+    TreeHost m_host;
+    CallLog& m_log = m_host.log;
+    CPageManager& m_manager = m_host.manager;
+    OpenPageTree& m_tree = m_host.tree;
+    RecordingPage* Page(Identity id) { return m_host.Page(id); }
 };

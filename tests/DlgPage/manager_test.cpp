@@ -4,73 +4,18 @@
 
 #include "FatalReport.h"
 
-namespace
-{
-/// Writes down each page: "added Gamma below Alpha".
-class RecordingAddClient : public AAddPageNotificationClient
-{
-public:
-    RecordingAddClient(CallLog& log, std::string strName) : m_log(log), m_strName(std::move(strName)) {}
-    void PageAdded(CPage* pPage, CPage* pParent) override
-    {
-        m_log.Add(m_strName + " " + Narrow(pPage->GetTreeItemName()) + " below " +
-                  (pParent ? Narrow(pParent->GetTreeItemName()) : "-"));
-    }
-
-private:
-    CallLog& m_log;
-    std::string m_strName;
-};
-
-class RecordingChangeClient : public AAttributeChangeNotificationClient
-{
-public:
-    RecordingChangeClient(CallLog& log, std::string strName) : m_log(log), m_strName(std::move(strName)) {}
-    void AttributeChangedUsingGUI() override { m_log.Add("changed " + m_strName); }
-
-private:
-    CallLog& m_log;
-    std::string m_strName;
-};
-
-class Manager : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(m_host.Open());
-        m_host.log.Take();
-    }
-
-    TreeHost m_host;
-    CPageManager& m_manager = m_host.manager;
-    CallLog& m_log = m_host.log;
-};
-} // namespace
-
 // ---- Adding -----------------------------------------------------------------------------------------------
 
-TEST_F(Manager, SetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
+TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 {
-    // Reports a change while its window is being made: the manager hears of it already.
-    struct EarlyDialog : RecordingDialog
-    {
-        using RecordingDialog::RecordingDialog;
-        BOOL OnInitDialog() override
-        {
-            MyAttributeChanged();
-            return RecordingDialog::OnInitDialog();
-        }
-    };
-    RecordingChangeClient client(m_log, "early");
+    RecordingClient client(m_log, "early");
     m_manager.RegisterAttributeChangedNotification(&client, true);
-    auto* pDialog = new EarlyDialog(IDD_PLAIN, "plain", &m_host, m_log);
+    auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", &m_host, m_log);
     pDialog->MyAttributeChanged();
     EXPECT_EQ(m_log.Take(), Calls{}) << "nobody to tell yet";
-
-    m_manager.AddDialog(pDialog);
+    m_manager.AddDialog(pDialog); // reports a change while its window is being made
     EXPECT_EQ(m_log.Take(),
-              (Calls{"changed early", "show plain", "init plain", "frame", "disable plain", "hide plain"}));
+              (Calls{"early: changed", "show new", "init new", "frame", "disable new", "hide new"}));
     CRect rect;
     pDialog->GetWindowRect(rect);
     m_host.ScreenToClient(rect);
@@ -78,7 +23,7 @@ TEST_F(Manager, SetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
     EXPECT_EQ(pDialog->GetParent(), &m_host);
 }
 
-TEST_F(Manager, ADialogWithoutATemplateRaisesAndIsOwnedAllTheSame)
+TEST_F(Pages, TheManagerOwnsADialogThatHasNoTemplate)
 {
     const auto addMissing = [&]
     {
@@ -89,10 +34,10 @@ TEST_F(Manager, ADialogWithoutATemplateRaisesAndIsOwnedAllTheSame)
     EXPECT_EQ(m_log.Take(), Calls{"delete missing"});
 }
 
-TEST_F(Manager, DeletesPagesBeforeDialogsInTheOrderOfAdding)
+TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 {
     {
-        PagesHost host(IDD_HOST);
+        PagesHost host;
         ASSERT_TRUE(host.Open());
         CPageManager manager(&host);
         for (const char* name : {"one", "two"})
@@ -107,70 +52,88 @@ TEST_F(Manager, DeletesPagesBeforeDialogsInTheOrderOfAdding)
 
 // ---- Selection --------------------------------------------------------------------------------------------
 
-TEST_F(Manager, ShowsTheNewPageBeforeItHidesTheOldOne)
+// The new page shows before the old one is hidden; pages that share a dialog are rebound, and stay on screen.
+TEST_F(Pages, TheManagerShowsWhatIsSelected)
 {
-    m_manager.PageSelected(m_host.alpha, nullptr);
-    EXPECT_EQ(m_log.Take(), (Calls{"enable fields", "show fields", "bind Alpha", "focus fields"}));
-    m_manager.PageSelected(m_host.gamma, m_host.alpha);
-    EXPECT_EQ(m_log.Take(), (Calls{"enable plain", "show plain", "bind Gamma", "focus plain",
-                                   "disable fields", "hide fields", "unbind Alpha"}));
-    m_manager.PageSelected(nullptr, m_host.gamma);
-    EXPECT_EQ(m_log.Take(), (Calls{"disable plain", "hide plain", "unbind Gamma"}));
-    m_manager.PageSelected(nullptr, nullptr);
-    EXPECT_EQ(m_log.Take(), Calls{});
-}
-
-TEST_F(Manager, PagesOfOneTemplateAreReboundAndStayOnScreen)
-{
-    m_manager.PageSelected(m_host.alpha, nullptr);
-    m_log.Take();
-    m_manager.PageSelected(m_host.beta, m_host.alpha);
-    EXPECT_EQ(m_log.Take(), (Calls{"bind Beta", "focus fields"}));
-    m_manager.PageSelected(m_host.beta, m_host.beta);
-    EXPECT_EQ(m_log.Take(), (Calls{"bind Beta", "focus fields"}));
-    EXPECT_TRUE(m_host.fields->IsWindowVisible());
-}
-
-TEST_F(Manager, AHostThatClosesWhileAPageIsShownMayStillSelect)
-{
-    m_host.tree.SetCurrentPage(m_host.alpha);
+    RecordingPage *pAlpha = Page(idAlpha), *pBeta = Page(idBeta), *pGamma = Page(idGamma);
+    const std::tuple<CPage*, CPage*, Calls> selections[] = {
+        {pAlpha, nullptr, {"enable fields", "show fields", "bind Alpha", "focus fields"}},
+        {pGamma,
+         pAlpha,
+         {"enable plain", "show plain", "bind Gamma", "focus plain", "disable fields", "hide fields",
+          "unbind Alpha"}},
+        {nullptr, pGamma, {"disable plain", "hide plain", "unbind Gamma"}},
+        {nullptr, nullptr, {}},
+        {pAlpha, nullptr, {"enable fields", "show fields", "bind Alpha", "focus fields"}},
+        {pBeta, pAlpha, {"bind Beta", "focus fields"}},
+        {pBeta, pBeta, {"bind Beta", "focus fields"}},
+    };
+    for (const auto& [pNew, pOld, calls] : selections)
+    {
+        m_manager.PageSelected(pNew, pOld);
+        EXPECT_EQ(m_log.Take(), calls) << NameOf(pNew) << " after " << NameOf(pOld);
+    }
     owtest::Click(m_host.fields->count);
     owtest::Type(L"5");
-    m_host.DestroyWindow();
-    EXPECT_EQ(m_host.fields->m_hWnd, nullptr);
+    m_host.DestroyWindow(); // while a page is shown
     m_log.Take();
-    m_manager.PageSelected(m_host.gamma, m_host.alpha);
-    m_manager.PageSelected(m_host.alpha, m_host.beta);
-    m_host.tree.SetCurrentPage(nullptr);
+    m_manager.PageSelected(pGamma, pAlpha);
+    m_manager.PageSelected(pAlpha, pBeta);
+    m_tree.SetCurrentPage(nullptr);
     EXPECT_EQ(m_log.Take(), Calls{});
+}
+
+TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
+{
+    CPageManager manager(&m_host);
+    const auto id = static_cast<CPage::EPageID>(3);
+    EXPECT_EQ(manager.GetPage(id), nullptr);
+    auto* pFirst = new RecordingPage(L"first", nullptr, id, m_log);
+    for (RecordingPage* pPage : {new RecordingPage(L"other", nullptr, 2, m_log), pFirst,
+                                 new RecordingPage(L"second", nullptr, id, m_log)})
+        manager.AddPage(pPage, nullptr);
+    EXPECT_EQ(manager.GetPage(id), pFirst);
+    EXPECT_EQ(manager.GetPage(CPage::EPageID{}), nullptr);
 }
 
 // ---- Clients ----------------------------------------------------------------------------------------------
 
 // The first client of a list stays; of those who hear of changed values all stay, and an unknown one is an error.
-TEST_F(Manager, ClientsLeaveByUnequalRules)
+TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
+    /// Finds the page already.
+    struct Finder : RecordingClient
+    {
+        using RecordingClient::RecordingClient;
+        CPageManager* pManager = nullptr;
+        void PageAdded(CPage* pPage, CPage* pParent) override
+        {
+            EXPECT_EQ(pManager->GetPage(pPage->GetPageID()), pPage);
+            RecordingClient::PageAdded(pPage, pParent);
+        }
+    };
     CPageManager manager(&m_host);
-    RecordingAddClient first(m_log, "first"), second(m_log, "second"), unknown(m_log, "unknown");
-    for (auto* pClient : {&first, &second, &second})
+    Finder first(m_log, "first");
+    first.pManager = &manager;
+    RecordingClient second(m_log, "second"), unknown(m_log, "unknown");
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
     auto* pParent = new RecordingPage(L"A", nullptr, 1, m_log);
     manager.AddPage(pParent, nullptr);
-    EXPECT_EQ(m_log.Take(), (Calls{"first A below -", "second A below -", "second A below -"}));
-    for (auto* pClient : {&first, &second, &unknown})
+    EXPECT_EQ(m_log.Take(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second, &unknown})
         manager.RegisterAddPageNotification(pClient, false);
     manager.AddPage(new RecordingPage(L"B", nullptr, 2, m_log), pParent);
-    EXPECT_EQ(m_log.Take(), (Calls{"first B below A", "second B below A"}))
-        << "registered twice, removed once";
+    EXPECT_EQ(m_log.Take(), (Calls{"first: B below A", "second: B below A"}))
+        << "twice registered, removed once";
 
-    RecordingChangeClient one(m_log, "one"), two(m_log, "two"), stranger(m_log, "stranger");
-    for (auto* pClient : {&one, &two, &one})
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second})
         manager.RegisterAttributeChangedNotification(pClient, true);
-    for (auto* pClient : {&one, &two})
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second})
         manager.RegisterAttributeChangedNotification(pClient, false);
     manager.AttributeChangedUsingGUI();
-    EXPECT_EQ(m_log.Take(), (Calls{"changed one", "changed two", "changed one"}));
-    EXPECT_THROW(manager.RegisterAttributeChangedNotification(&stranger, false), CInvalidArgException*);
+    EXPECT_EQ(m_log.Take(), (Calls{"first: changed", "second: changed"}));
+    EXPECT_THROW(manager.RegisterAttributeChangedNotification(&unknown, false), CInvalidArgException*);
 }
 
 // ---- Misuse ends the process ------------------------------------------------------------------------------
@@ -183,8 +146,10 @@ OW_CHILD_SCENARIO(null_page)
 OW_CHILD_SCENARIO(parent_that_was_not_added)
 {
     CallLog log;
+    CPageManager manager(nullptr);
+    manager.AddPage(new RecordingPage(L"twin", nullptr, 1, log), nullptr);
     RecordingPage parent(L"parent", nullptr, 1, log), child(L"child", nullptr, 2, log);
-    CPageManager(nullptr).AddPage(&child, &parent);
+    manager.AddPage(&child, &parent);
 }
 
 OW_CHILD_SCENARIO(null_dialog)
@@ -199,11 +164,12 @@ OW_CHILD_SCENARIO(page_dialog_by_class_name)
 
 TEST(PageMisuse, EndsTheProcessWithAReportOfItsPlace)
 {
-    using owtest::RunChild;
-    owtest::ExpectFailedAssert(RunChild("null_page"), L"ASSERT(pPage)\n[.\\DlgPage\\PageManager : 63]\n");
-    owtest::ExpectFailedAssert(RunChild("parent_that_was_not_added"),
-                               L"ASSERT(bNasao)\n[.\\DlgPage\\PageManager : 71]\n");
-    owtest::ExpectFailedAssert(RunChild("null_dialog"), L"ASSERT(pDlg)\n[.\\DlgPage\\PageManager : 82]\n");
-    owtest::ExpectInternalError(RunChild("page_dialog_by_class_name"),
+    const std::pair<const char*, const wchar_t*> asserts[] = {
+        {"null_page", L"ASSERT(pPage)\n[.\\DlgPage\\PageManager : 63]\n"},
+        {"parent_that_was_not_added", L"ASSERT(bNasao)\n[.\\DlgPage\\PageManager : 71]\n"},
+        {"null_dialog", L"ASSERT(pDlg)\n[.\\DlgPage\\PageManager : 82]\n"}};
+    for (const auto& [scenario, report] : asserts)
+        owtest::ExpectFailedAssert(owtest::RunChild(scenario), report);
+    owtest::ExpectInternalError(owtest::RunChild("page_dialog_by_class_name"),
                                 L"[.\\DlgPage\\PageDialog : 30]\nCPageDialog def c-tor !");
 }

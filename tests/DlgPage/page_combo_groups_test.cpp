@@ -13,89 +13,49 @@ enum Id : WORD
     idToggle
 };
 
-/// Identities of the pages. The rows are Geometry, Loads and Steel.
-enum Identity
-{
-    geometry = 1,
-    geometryMore,
-    loads,
-    steel,
-    steelEarlier, ///< Steel's first child, which the next one replaces
-    steelMore,
-    stranger
-};
-
 /// A group with its inner questions opened.
 template <class Group>
-class OpenGroup : public Group
+struct OpenGroup : Group
 {
-public:
-    using Group::FindPage;
-    using Group::FindParent;
-    using Group::Group;
+    using Group::FindPage, Group::FindParent, Group::Group;
 };
-
 using ButtonGroup = OpenGroup<CPageComboButtonSTCtrlGroup>;
 using CheckGroup = OpenGroup<CPageComboCheckCtrlGroup>;
-
-template <class Group>
-constexpr DWORD kToggleStyle = std::is_same_v<Group, CheckGroup> ? BS_AUTOCHECKBOX : BS_PUSHBUTTON;
 
 template <class Group>
 class GroupHost : public PagesHost
 {
 public:
-    GroupHost() : PagesHost(0) {}
-
     Group group{idCombo, idToggle};
-    RecordingSelectClient selects{log};
-    FieldsDialog* fields = nullptr;   ///< of the rows
-    RecordingDialog* plain = nullptr; ///< of their children
 
     bool Open()
     {
-        using owtest::DialogTemplate;
-        const DialogTemplate form =
-            DialogTemplate(L"Pages", 160, 90)
-                .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 4, 80, 80)
-                .Item(L"BUTTON", L"More", idToggle, kToggleStyle<Group> | WS_TABSTOP, 90, 4, 60, 14);
+        constexpr DWORD kToggleStyle = std::is_same_v<Group, CheckGroup> ? BS_AUTOCHECKBOX : BS_PUSHBUTTON;
+        const auto form = owtest::DialogTemplate(L"Pages", 160, 90)
+                              .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 4, 80, 80)
+                              .Item(L"BUTTON", L"More", idToggle, kToggleStyle | WS_TABSTOP, 90, 4, 60, 14);
         return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
     }
     CComboBox& Combo() { return static_cast<CComboBox&>(*GetDlgItem(idCombo)); }
     CWnd& Toggle() { return *GetDlgItem(idToggle); }
-    CPage* Page(Identity id) const { return manager.GetPage(static_cast<CPage::EPageID>(id)); }
 
-    /// What the user sees in the page frame.
-    std::string Shown() const
+    /// What the user sees: the page in the frame, the row, and the toggle if there is one.
+    std::string Shown()
     {
-        std::string names;
-        for (const RecordingDialog* pDialog : {static_cast<RecordingDialog*>(fields), plain})
+        std::string text;
+        for (const RecordingDialog* pDialog : {fields, plain})
             if (pDialog->IsWindowVisible())
-                names += Narrow(pDialog->bound->GetTreeItemName());
-        return names;
+                text += NameOf(pDialog->bound) + " ";
+        EXPECT_EQ(Toggle().IsWindowVisible(), Toggle().IsWindowEnabled());
+        return text + std::to_string(Combo().GetCurSel()) + (Toggle().IsWindowVisible() ? "+" : "");
     }
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        PagesHost::DoDataExchange(pDX);
-        group.DoDataExchange(pDX);
-    }
+    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
     BOOL OnInitDialog() override
     {
         PagesHost::OnInitDialog();
-        manager.RegisterAddPageNotification(&group, true);
-        group.RegisterSelectPageNotification(&manager, true);
-        group.RegisterSelectPageNotification(&selects, true);
-        fields = AddFieldsDialog();
-        plain = AddPlainDialog();
-        RecordingPage* pGeometry = AddPage(L"Geometry", fields);
-        AddPage(L"Geometry more", plain, pGeometry);
-        AddPage(L"Loads", fields);
-        RecordingPage* pSteel = AddPage(L"Steel", fields);
-        AddPage(L"Steel earlier", plain, pSteel);
-        AddPage(L"Steel more", plain, pSteel);
-        ShowWindow(SW_SHOW);
+        Fill(group);
         return TRUE;
     }
 };
@@ -105,37 +65,17 @@ class PageComboGroups : public ::testing::Test
 {
 protected:
     void SetUp() override { ASSERT_TRUE(host.Open()); }
-    void TearDown() override { host.DestroyWindow(); }
-
-    bool ToggleOffered() { return host.Toggle().IsWindowVisible() && host.Toggle().IsWindowEnabled(); }
-    bool ToggleGone() { return !host.Toggle().IsWindowVisible() && !host.Toggle().IsWindowEnabled(); }
-
-    /// One selection was told since the last question, and the user sees its page.
-    void ExpectMoved(const std::string& from, const std::string& to)
-    {
-        EXPECT_EQ(host.TakeSelections(), Calls{"select " + to + " after " + from});
-        EXPECT_EQ(host.Shown(), to);
-        EXPECT_EQ(Narrow(group.GetCurrentPage()->GetTreeItemName()), to);
-    }
-
-    /// Chooses the next or the former row, as a user does.
-    void PressInCombo(WORD key)
-    {
-        host.group.SetFocus();
-        owtest::Press(key);
-    }
-    void ClickToggle() { owtest::Click(host.Toggle()); }
 
     GroupHost<Group> host;
     Group& group = host.group;
+    CPage* Page(Identity id) { return host.Page(id); }
+    void ClickToggle() { owtest::Click(host.Toggle()); }
 };
-
 using PageComboButtonGroup = PageComboGroups<ButtonGroup>;
 using PageComboCheckGroup = PageComboGroups<CheckGroup>;
 
-class Names
+struct Names
 {
-public:
     template <class Group>
     static std::string GetName(int)
     {
@@ -146,117 +86,132 @@ using Groups = ::testing::Types<ButtonGroup, CheckGroup>;
 TYPED_TEST_SUITE(PageComboGroups, Groups, Names);
 } // namespace
 
-TYPED_TEST(PageComboGroups, ShowThePageOfTheRowThatTheUserChooses)
+TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
 {
+    using Move = std::function<void()>;
+    const auto key = [this](WORD nKey) -> Move
+    { return [this, nKey] { this->group.SetFocus(), owtest::Press(nKey); }; };
+    const auto code = [this](Identity id) -> Move
+    { return [this, id] { this->group.SetCurrentPage(this->Page(id)); }; };
+    const Move click = [this] { this->ClickToggle(); };
+    const Move space = [this] { this->host.Toggle().SetFocus(), owtest::Press(VK_SPACE); };
+    struct Step
+    {
+        Move move;
+        const char *from, *to,
+            *row; ///< the pages that are told of; and the row, with a plus if there is a toggle
+    };
+    const Step steps[] = {
+        {key(VK_DOWN), "-", "Alpha", "0+"},
+        {click, "Alpha", "Gamma", "0+"},
+        {space, "Gamma", "Alpha", "0+"},
+        {key(VK_DOWN), "Alpha", "Beta", "1"},
+        {key(VK_DOWN), "Beta", "Delta", "2+"},
+        {code(idAlpha), "Delta", "Alpha", "0+"},
+        {click, "Alpha", "Gamma", "0+"},
+        {code(idBeta), "Gamma", "Beta", "1"}, // the click was noted
+        {code(idGamma), "Beta", "Gamma", "0+"},
+        {key(VK_END), "Gamma", "Later", "2+"}, // the toggle stays as it is
+        {key(VK_UP), "Later", "Beta", "1"},    // and does not count while it is hidden
+        {key(VK_UP), "Beta", "Gamma", "0+"},
+        {code(idDelta), "Gamma", "Delta", "2+"},
+        {code(idBeta), "Delta", "Beta", "1"},
+        {code(idEarlier), "Beta", "Later", "2+"}, // only the later child can be reached
+        {click, "Later", "Delta", "2+"},          // the toggle was on
+        {code(idAlpha), "Delta", "Alpha", "0+"},
+    };
     EXPECT_EQ(this->host.Combo().GetCount(), 3) << "children have no row";
     EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
-    this->PressInCombo(VK_DOWN);
-    this->ExpectMoved("-", "Geometry");
-    EXPECT_TRUE(this->ToggleOffered());
-    this->PressInCombo(VK_DOWN);
-    this->ExpectMoved("Geometry", "Loads");
-    EXPECT_TRUE(this->ToggleGone());
-    this->PressInCombo(VK_END);
-    this->ExpectMoved("Loads", "Steel");
-    EXPECT_TRUE(this->ToggleOffered());
-}
-
-TYPED_TEST(PageComboGroups, GoToTheChildAndBackByMouseAndBySpace)
-{
-    this->PressInCombo(VK_DOWN);
-    this->ExpectMoved("-", "Geometry");
-    this->ClickToggle();
-    this->ExpectMoved("Geometry", "Geometry more");
-    this->host.Toggle().SetFocus();
-    owtest::Press(VK_SPACE);
-    this->ExpectMoved("Geometry more", "Geometry");
-}
-
-TYPED_TEST(PageComboGroups, KeepTheToggleFromRowToRow)
-{
-    this->group.SetCurrentPage(this->host.Page(geometryMore));
-    this->ExpectMoved("-", "Geometry more");
-    this->PressInCombo(VK_END);
-    this->ExpectMoved("Geometry more", "Steel more"); // the later child
-    this->PressInCombo(VK_UP);
-    this->ExpectMoved("Steel more", "Loads"); // a hidden toggle does not count
-    this->PressInCombo(VK_UP);
-    this->ExpectMoved("Loads", "Geometry more");
-}
-
-TYPED_TEST(PageComboGroups, SelectAPageByCode)
-{
-    this->group.SetCurrentPage(this->host.Page(steel));
-    this->ExpectMoved("-", "Steel");
-    EXPECT_EQ(this->host.Combo().GetCurSel(), 2);
-    EXPECT_TRUE(this->ToggleOffered());
-    this->group.SetCurrentPage(this->host.Page(loads));
-    this->ExpectMoved("Steel", "Loads");
-    EXPECT_TRUE(this->ToggleGone());
-    this->group.SetCurrentPage(this->host.Page(steelEarlier));
-    this->ExpectMoved("Loads", "Steel more"); // only the latest child can be reached
-    this->ClickToggle();
-    this->ExpectMoved("Steel more", "Steel"); // the toggle was on
+    for (const Step& step : steps)
+    {
+        const std::string told = step.to + std::string(" after ") + step.from;
+        step.move();
+        EXPECT_EQ(this->host.TakeSelections(), Calls{told});
+        EXPECT_EQ(this->host.Shown(), step.to + std::string(" ") + step.row) << told;
+        EXPECT_EQ(NameOf(this->group.GetCurrentPage()), step.to) << told;
+    }
+    this->group.OnExtComboBoxSelChanged(idToggle, 1);
+    this->group.OnButtonClicked(idCombo);
+    EXPECT_EQ(this->host.TakeSelections(), Calls{}) << "other controls";
+    this->group.OnExtComboBoxSelChanged(idCombo, -1);
+    EXPECT_EQ(this->host.TakeSelections(), Calls{"- after Alpha"});
+    EXPECT_EQ(this->host.Shown(), "0");
+    this->group.OnButtonClicked(idToggle);
+    EXPECT_EQ(this->host.TakeSelections(), Calls{"- after -"}) << "no row";
 }
 
 TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
 {
-    RecordingPage twin(_T("Another object"), nullptr, geometryMore, this->host.log);
-    RecordingPage unknown(_T("Stranger"), nullptr, stranger, this->host.log);
+    RecordingPage twin(_T("Another object"), nullptr, idGamma, this->host.log);
+    RecordingPage unknown(_T("Stranger"), nullptr, idStranger, this->host.log);
     for (CPage* pUnknown : {static_cast<CPage*>(nullptr), static_cast<CPage*>(&unknown)})
     {
         this->group.SetCurrentPage(&twin);
-        EXPECT_EQ(this->host.TakeSelections(), Calls{"select Geometry more after -"})
-            << "the one that was added";
+        EXPECT_EQ(this->host.TakeSelections(), Calls{"Gamma after -"}) << "the one that was added";
         this->group.SetCurrentPage(pUnknown);
         EXPECT_EQ(this->host.TakeSelections(), Calls{});
-        EXPECT_EQ(this->host.Combo().GetCurSel(), -1);
-        EXPECT_TRUE(this->ToggleGone());
+        EXPECT_EQ(this->host.Shown(), "Gamma -1");
         EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
     }
     EXPECT_EQ(this->group.FindPage(&twin), 1);
-    EXPECT_EQ(this->group.FindParent(this->host.Page(steel)), 4) << "its first child";
-    EXPECT_EQ(this->group.FindParent(this->host.Page(loads)), -1);
+    EXPECT_EQ(this->group.FindParent(this->Page(idDelta)), 4) << "its first child";
+    EXPECT_EQ(this->group.FindParent(this->Page(idBeta)), -1);
     EXPECT_THROW(this->group.PageAdded(&twin, &unknown), CInvalidArgException*);
+    EXPECT_EQ(TypeParam(1, 2).GetCurrentPage(), nullptr) << "without controls";
+}
+
+TYPED_TEST(PageComboGroups, TellTheClientsBeforeTheRowChangesByCode)
+{
+    struct Watch : ASelectPageNotificationClient
+    {
+        explicit Watch(const ACurrentPageProvider& provider) : provider(provider) {}
+        void PageSelected(CPage*, CPage*) override { seen += NameOf(provider.GetCurrentPage()) + " "; }
+        const ACurrentPageProvider& provider;
+        std::string seen;
+    } watch(this->group);
+    for (ASelectPageNotificationClient* pClient : {&watch, static_cast<Watch*>(nullptr)})
+        this->group.RegisterSelectPageNotification(pClient, true);
+    this->group.SetCurrentPage(this->Page(idBeta));
+    this->group.SetCurrentPage(this->Page(idDelta));
+    EXPECT_EQ(watch.seen, "- Beta ");
+    for (ASelectPageNotificationClient* pClient :
+         {static_cast<ASelectPageNotificationClient*>(&this->host.selects),
+          static_cast<ASelectPageNotificationClient*>(&watch)})
+        this->group.RegisterSelectPageNotification(pClient, false);
+    this->host.TakeSelections();
+    this->group.SetCurrentPage(this->Page(idBeta));
+    EXPECT_EQ(this->host.TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";
+    EXPECT_EQ(watch.seen, "- Beta ");
 }
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
 {
-    group.SetCurrentPage(host.Page(geometryMore));
-    group.SetCurrentPage(host.Page(loads)); // hides the box, and leaves it checked
-    PressInCombo(VK_DOWN);
-    EXPECT_EQ(host.Shown(), "Steel more");
+    group.SetCurrentPage(Page(idGamma));
+    group.SetCurrentPage(Page(idBeta)); // hides the box, and leaves it checked
+    group.SetFocus();
+    owtest::Press(VK_DOWN);
+    EXPECT_EQ(host.Shown(), "Later 2+");
     host.TakeSelections();
-    group.SetCurrentPage(host.Page(loads));
-    EXPECT_EQ(host.TakeSelections(), Calls{"select Loads after Steel"});
+    group.SetCurrentPage(Page(idBeta));
+    EXPECT_EQ(host.TakeSelections(), Calls{"Beta after Delta"});
 }
 
-TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIcon)
+TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUsable)
 {
     const auto text = [&] { return owtest::TextOf(host.Toggle()); };
     EXPECT_EQ(text(), _T("More")) << "the template's, until something is selected by code or clicked";
-    group.SetCurrentPage(host.Page(geometry));
+    group.SetCurrentPage(Page(idAlpha));
     EXPECT_EQ(text(), _T("Napred"));
     ClickToggle();
     EXPECT_EQ(text(), _T("Nazad"));
-
     group.SetStateTexts(_T("Close"), _T("Details"));
+    group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
     EXPECT_EQ(text(), _T("Nazad")) << "from the next change on";
     ClickToggle();
     EXPECT_EQ(text(), _T("Details"));
-    group.SetCurrentPage(host.Page(geometryMore));
+    group.SetCurrentPage(Page(idGamma));
     EXPECT_EQ(text(), _T("Close"));
-    group.SetCurrentPage(nullptr);
-    EXPECT_EQ(text(), _T("Details"));
-}
-
-TEST_F(PageComboButtonGroup, LeavesTheSharedIconsUsable)
-{
-    group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
-    group.SetCurrentPage(host.Page(geometry));
-    ClickToggle();
-    ClickToggle();
     const int nBefore = owtest::CountHandles().gdi;
     for (int i = 0; i < 20; ++i)
     {
@@ -264,6 +219,7 @@ TEST_F(PageComboButtonGroup, LeavesTheSharedIconsUsable)
         host.UpdateWindow();
     }
     EXPECT_EQ(owtest::CountHandles().gdi, nBefore);
-    CButtonST other;
-    EXPECT_EQ(other.SetIcon(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt), CButtonST::resultOk);
+    EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt), CButtonST::resultOk);
+    group.SetCurrentPage(nullptr);
+    EXPECT_EQ(text(), _T("Details"));
 }

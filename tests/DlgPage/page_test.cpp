@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <set>
 
 namespace
 {
@@ -15,43 +14,44 @@ CFormatTekstaKote TextFormat(int nTekstKote)
     return format;
 }
 
-/// The flags of what is pre-set, in the order of the fields.
-std::vector<int> Flags(const RecordingPage& page)
+bool LiesLow(const void* pPage)
 {
-    return {page.formatGoreSet, page.formatDoleSet, page.formatIzvorSet, page.duzinaSet,
-            page.sirinaSet,     page.debljinaSet,   page.separatorSet,   page.polozajSet};
+    return reinterpret_cast<std::uintptr_t>(pPage) < std::uintptr_t{1} << 32;
 }
-
 } // namespace
 
 TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
 {
     CallLog log;
     RecordingPage page(L"Beams", nullptr, 1, log);
-    EXPECT_EQ(Flags(page), std::vector<int>(8, 0));
-    page.SetFormatGore(TextFormat(1));
-    page.SetFormatDole(TextFormat(2));
-    page.SetFormatIzvor(TextFormat(3));
-    page.SetDuzina({});
-    page.SetSirina({});
-    page.SetDebljina({});
+    const auto flags = [&]
+    {
+        return std::vector{page.formatGoreSet, page.formatDoleSet, page.formatIzvorSet, page.duzinaSet,
+                           page.sirinaSet,     page.debljinaSet,   page.separatorSet,   page.polozajSet};
+    };
+    const auto preSet = [&](int nGore, int nDole, int nIzvor)
+    {
+        page.SetFormatGore(TextFormat(nGore));
+        page.SetFormatDole(TextFormat(nDole));
+        page.SetFormatIzvor(TextFormat(nIzvor));
+    };
+    constexpr int kNotSet = CFormatTekstaKote::c_nNotSet;
+    preSet(kNotSet, kNotSet, kNotSet);
+    EXPECT_EQ(flags(), std::vector<int>(8, 0)) << "a text format that is not set is ignored";
+    preSet(1, 2, 3);
+    page.SetDuzina({4, 1, 0});
+    page.SetSirina({5, 1, 0});
+    page.SetDebljina({6, 1, 0});
     page.SetSeparator(7);
     page.SetPolozaj(-1); // no marker: any position is one
-    EXPECT_EQ(Flags(page), std::vector<int>(8, 1));
-
-    const CFormatTekstaKote notSet = TextFormat(CFormatTekstaKote::c_nNotSet);
-    page.SetFormatGore(notSet);
-    page.SetFormatDole(notSet);
-    page.SetFormatIzvor(notSet);
-    EXPECT_EQ(Flags(page), std::vector<int>(8, 1)) << "a text format that is not set is ignored";
-    EXPECT_EQ(page.formatGore, TextFormat(1));
-    EXPECT_EQ(page.formatDole, TextFormat(2));
-    EXPECT_EQ(page.formatIzvor, TextFormat(3));
-
+    preSet(kNotSet, kNotSet, kNotSet);
+    EXPECT_EQ(flags(), std::vector<int>(8, 1));
     page.SetIdConf(12);
-    EXPECT_EQ(page.idConf, 12);
-    EXPECT_EQ(Flags(page), std::vector<int>(8, 0));
-    EXPECT_EQ(page.separator, 7) << "only the flag goes";
+    EXPECT_EQ(flags(), std::vector<int>(8, 0)) << "only the flags go";
+    EXPECT_EQ((std::vector{page.formatGore.nTekstKote, page.formatDole.nTekstKote,
+                           page.formatIzvor.nTekstKote, page.duzina.nUnitIndex, page.sirina.nUnitIndex,
+                           page.debljina.nUnitIndex, page.separator, page.polozaj, page.idConf}),
+              (std::vector{1, 2, 3, 4, 5, 6, 7, -1, 12}));
 }
 
 TEST(Page, WithoutADialogItIsANameOnly)
@@ -62,7 +62,7 @@ TEST(Page, WithoutADialogItIsANameOnly)
     page.ChangeVisibility(false);
     page.SendFocusedControlKillFocusMessage();
     page.DrawPreview(nullptr);
-    EXPECT_EQ(page.GetTreeItemName(), L"Beams");
+    EXPECT_EQ(NameOf(&page), "Beams");
     EXPECT_EQ(page.GetPreviewID(), 0);
     EXPECT_EQ(page.GetDialogTemplateID(), 0u);
     EXPECT_EQ(log.Take(), Calls{});
@@ -81,34 +81,29 @@ TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApart)
     std::vector<std::unique_ptr<RecordingPage>> pages;
     for (int i = 0; i < 400; ++i)
     {
-        pages.emplace_back(i % 40 == 0 ? new LargePage(L"large", nullptr, i, log)
-                                       : new RecordingPage(L"small", nullptr, i, log));
-        ASSERT_LT(reinterpret_cast<std::uintptr_t>(pages.back().get()), std::uintptr_t{1} << 32);
+        pages.emplace_back(i % 40 == 0   ? new LargePage(L"large", nullptr, i, log)
+                           : i % 40 == 1 ? new (std::nothrow) RecordingPage(L"nothrow", nullptr, i, log)
+                                         : new RecordingPage(L"small", nullptr, i, log));
+        ASSERT_TRUE(pages.back() && LiesLow(pages.back().get()));
     }
     for (int i = 0; i < 400; ++i)
         ASSERT_EQ(pages[i]->GetPageID(), i) << "overwritten by another page";
     EXPECT_THROW(CPage::operator new (std::size_t{1} << 33), CMemoryException*);
+    EXPECT_EQ(CPage::operator new (std::size_t{1} << 33, std::nothrow), nullptr) << "no room below 4 GiB";
 }
 
 TEST(PageMemory, WhatIsFreedServesTheNextPages)
 {
-    CallLog log;
-    std::set<const void*> places;
-    for (int i = 0; i < 1000; ++i)
-        places.insert(std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get());
-    EXPECT_EQ(places.size(), 1u);
-}
-
-TEST(PageMemory, ANothrowNewLiesThereToo)
-{
-    struct CHugePage : RecordingPage
+    struct FailingPage : RecordingPage
     {
-        using RecordingPage::RecordingPage;
-        char room[100'000];
+        explicit FailingPage(CallLog& log) : RecordingPage(L"failing", nullptr, 1, log) { throw 1; }
     };
     CallLog log;
-    const std::unique_ptr<CHugePage> page(new (std::nothrow) CHugePage(L"Huge", nullptr, 1, log));
-    ASSERT_TRUE(page);
-    EXPECT_LT(reinterpret_cast<std::uintptr_t>(page.get()), std::uintptr_t{1} << 32);
-    EXPECT_EQ(CPage::operator new (std::size_t{1} << 33, std::nothrow), nullptr) << "no room below 4 GiB";
+    const void* pPlace = std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get();
+    for (int i = 0; i < 10; ++i)
+    {
+        EXPECT_THROW(new FailingPage(log), int);
+        EXPECT_THROW(new (std::nothrow) FailingPage(log), int);
+        ASSERT_EQ(std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get(), pPlace);
+    }
 }

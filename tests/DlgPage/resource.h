@@ -7,12 +7,9 @@
 #define ID_NEXT_PAGE 1004
 
 #define IDD_FIELDS 101
+#define IDD_PLAIN 102
 #define IDC_COUNT 1010
 #define IDC_PLAIN 1011
 #define IDC_NOTES 1012
-#define IDC_NEARLY_EDIT 1013
-
-#define IDD_PLAIN 102
-#define IDC_TEXT 1020
 
 #define IDD_MISSING 199 // no such template
