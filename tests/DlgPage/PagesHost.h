@@ -111,9 +111,14 @@ class RecordingClient : public AAddPageNotificationClient,
                         public AAttributeChangeNotificationClient
 {
 public:
-    RecordingClient(CallLog& log, std::string strName) : m_log(log), m_strName(std::move(strName)) {}
+    /// A manager that is named has the page already when it tells of it.
+    RecordingClient(CallLog& log, std::string strName, const CPageManager* pManager = nullptr)
+        : m_log(log), m_strName(std::move(strName)), m_pManager(pManager)
+    {
+    }
     void PageAdded(CPage* pPage, CPage* pParent) override
     {
+        EXPECT_TRUE(!m_pManager || m_pManager->GetPage(pPage->GetPageID()));
         m_log.Add(m_strName + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
     void PageSelected(CPage* pNew, CPage* pOld) override
@@ -125,6 +130,7 @@ public:
 private:
     CallLog& m_log;
     std::string m_strName;
+    const CPageManager* m_pManager;
 };
 
 /// Identities of the host's pages, in the order of adding.

@@ -2,6 +2,7 @@
 
 #include "PagesHost.h"
 
+#include "Handles.h"
 #include "Picture.h"
 
 #include <DlgPage/GradientFill.h>
@@ -12,27 +13,13 @@ namespace
 {
 constexpr COLORREF kDark = 0x404040;
 
-/// A window with a font.
-class FontWindow : public CWnd
-{
-public:
-    HFONT font = nullptr;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        return message == WM_GETFONT ? reinterpret_cast<LRESULT>(font)
-                                     : CWnd::WindowProc(message, wParam, lParam);
-    }
-};
-
 /// A caption by itself on a window in front, with the pixels that the user sees.
 class Caption : public ::testing::Test, protected ACurrentPageProvider
 {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_parent.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), _T(""), WS_POPUP | WS_VISIBLE,
+        ASSERT_TRUE(m_parent.CreateEx(WS_EX_TOPMOST, _T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE,
                                       CRect(CPoint(30, 30), CSize(300, 60)), nullptr, 0));
         ASSERT_TRUE(m_caption.Create(_T("not kept here"), WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), m_size),
                                      &m_parent));
@@ -48,7 +35,7 @@ protected:
         picture.dc().BitBlt(0, 0, m_size.cx, m_size.cy, &dc, 0, 0, SRCCOPY);
     }
     const CSize m_size{240, 30};
-    FontWindow m_parent;
+    CStatic m_parent;
     CPageGradientCaptionStatic m_caption{*this};
 };
 } // namespace
@@ -59,13 +46,14 @@ TEST_F(Caption, KeepsTheTextOfTheWindowItself)
     { return m_caption.SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(pszText)); };
     EXPECT_EQ(set(L"%d st"), 1);
     EXPECT_EQ(m_caption.SendMessage(WM_GETTEXTLENGTH), 5);
-    using Copied = std::pair<size_t, std::wstring>; // into a room of so many characters
-    for (const auto& [nRoom, text] : {Copied(8, L"%d st"), Copied(4, L"%d "), Copied(1, L""), Copied(0, L"")})
+    const std::pair<size_t, std::wstring> copies[] = {
+        {8, L"%d st"}, {4, L"%d "}, {1, L""}, {0, L""}}; // by room
+    for (const auto& [nRoom, text] : copies)
     {
         std::wstring buffer(8, L'#');
-        const LPARAM lBuffer = reinterpret_cast<LPARAM>(buffer.data());
+        const auto lBuffer = reinterpret_cast<LPARAM>(buffer.data());
         EXPECT_EQ(m_caption.SendMessage(WM_GETTEXT, nRoom, lBuffer), static_cast<LRESULT>(text.size()));
-        EXPECT_EQ(std::wstring(buffer.substr(0, nRoom).c_str()), text) << "with a terminator";
+        EXPECT_EQ(buffer.substr(0, nRoom).c_str(), text) << "with a terminator";
         EXPECT_EQ(buffer.substr(nRoom), std::wstring(8 - nRoom, L'#'));
     }
     EXPECT_EQ(m_caption.SendMessage(WM_GETTEXT, 8, 0), 0);
@@ -73,56 +61,35 @@ TEST_F(Caption, KeepsTheTextOfTheWindowItself)
     EXPECT_EQ(m_caption.GetWindowTextLength(), 0);
 }
 
-TEST_F(Caption, ShowsTheNameOfThePageOnTheGradientAndNothingWithoutOne)
-{
-    owtest::Surface bare(m_size.cx, m_size.cy), named(m_size.cx, m_size.cy), again(m_size.cx, m_size.cy);
-    m_caption.PageSelected(nullptr, nullptr);
-    Look(bare);
-    const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
-    EXPECT_EQ(bare.at(0, 0), kDark);
-    EXPECT_NEAR(GetRValue(bare.at(m_size.cx - 1, m_size.cy - 1)), GetRValue(crFace), 2);
-    EXPECT_NEAR(GetBValue(bare.at(m_size.cx - 1, 0)), GetBValue(crFace), 2);
-    for (int x = 1; x < m_size.cx; ++x)
-    {
-        ASSERT_GE(GetGValue(bare.at(x, 5)), GetGValue(bare.at(x - 1, 5)));
-        ASSERT_EQ(bare.at(x, 0), bare.at(x, m_size.cy - 1));
-    }
-
-    CallLog log;
-    RecordingPage page(L"WWWW", nullptr, 1, log);
-    m_caption.PageSelected(&page, nullptr);
-    Look(named);
-    const CRect left(0, 0, m_size.cx / 2, m_size.cy);
-    EXPECT_GT(named.count(left, crFace), 40) << "the text, in the colour of a dialog's face";
-    EXPECT_EQ(named.at(0, 15), kDark) << "the margin";
-    m_caption.PageSelected(nullptr, &page);
-    Look(again);
-    EXPECT_TRUE(bare == again);
-}
-
-TEST_F(Caption, WritesInTheParentsFontBoldAndAFifthLarger)
+TEST_F(Caption, ShowsTheNameOfThePageInTheParentsFontBoldAndAFifthLarger)
 {
     const auto makeFont = [](int nHeight, int nWeight)
     { return ::CreateFont(nHeight, 0, 0, 0, nWeight, 0, 0, 0, 0, 0, 0, 0, 0, _T("Liberation Serif")); };
-    owtest::Surface shown(m_size.cx, m_size.cy), wanted(m_size.cx, m_size.cy);
-    for (auto [nParent, nCaption] : {std::pair(-13, -16), {14, 17}})
+    const std::tuple<int, int, CString> titles[] = {
+        {-13, -16, L"Beams && pillars"}, {14, 17, L"W"}, {14, 17, L""}};
+    const int nFonts = owtest::CountGdiObjects(0x0A);
+    for (const auto& [nParent, nCaption, strTitle] : titles)
     {
+        CallLog log;
+        RecordingPage page(strTitle, nullptr, 1, log);
         CFont parent, bold;
         parent.Attach(makeFont(nParent, FW_NORMAL));
         bold.Attach(makeFont(nCaption, FW_BOLD));
-        m_parent.font = parent;
-        m_caption.SetWindowText(L"Beams && pillars");
+        m_parent.SetFont(&parent, FALSE);
+        m_caption.PageSelected(strTitle.IsEmpty() ? nullptr : &page, &page);
+        owtest::Surface shown(m_size.cx, m_size.cy), wanted(m_size.cx, m_size.cy);
         Look(shown);
-
         CRect rect(CPoint(0, 0), m_size);
         gfnFillGradient(wanted.dc(), rect, kDark);
         const HGDIOBJ hOld = wanted.dc().SelectObject(&bold)->m_hObject;
         wanted.dc().SetBkMode(TRANSPARENT);
         wanted.dc().SetTextColor(::GetSysColor(COLOR_BTNFACE));
-        wanted.dc().DrawText(L" Beams && pillars", rect, DT_SINGLELINE | DT_VCENTER);
+        if (!strTitle.IsEmpty())
+            wanted.dc().DrawText(L" " + strTitle, rect, DT_SINGLELINE | DT_VCENTER);
         ::SelectObject(wanted.dc(), hOld);
-        EXPECT_TRUE(shown == wanted) << nParent;
+        EXPECT_TRUE(shown == wanted) << nParent << CStringA(strTitle);
     }
+    EXPECT_EQ(owtest::CountGdiObjects(0x0A), nFonts);
 }
 
 // A repaint brings back the picture that was made before, whatever has changed since but the text.
@@ -131,19 +98,13 @@ TEST_F(Caption, ARepaintCopiesThePictureThatIsThere)
     owtest::Surface first(m_size.cx, m_size.cy), second(m_size.cx, m_size.cy);
     m_caption.SetWindowText(L"Beams");
     Look(first);
-
-    // Scribbled over, and everything that a new drawing would take from has changed.
-    {
-        CClientDC dc(&m_caption);
-        dc.PatBlt(0, 0, m_size.cx, m_size.cy, WHITENESS);
-    }
+    CClientDC(&m_caption).PatBlt(0, 0, m_size.cx, m_size.cy, WHITENESS);
     const int nFace = COLOR_BTNFACE;
     const COLORREF crFace = ::GetSysColor(nFace), crOther = RGB(0, 0, 160);
     ::SetSysColors(1, &nFace, &crOther);
     m_caption.Invalidate();
     Look(second);
     EXPECT_TRUE(first == second);
-
     m_caption.SetWindowText(L"Beams");
     Look(second);
     EXPECT_FALSE(first == second) << "a text set anew is drawn in the new colour";
@@ -181,19 +142,34 @@ COLORREF FaceMinus(int n)
 }
 } // namespace
 
-TEST(GradientBands, AreAsManyAsTheStepsBetweenTheColours)
+TEST(Gradient, GoesFromTheColourToThatOfADialogsFace)
+{
+    owtest::Surface surface(200, 12);
+    const CRect rect(3, 2, 195, 10);
+    gfnFillGradient(surface.dc(), rect, RGB(16, 64, 128));
+    const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
+    const int from[] = {16, 64, 128}, to[] = {GetRValue(crFace), GetGValue(crFace), GetBValue(crFace)};
+    for (int x = rect.left; x < rect.right; ++x)
+    {
+        const COLORREF cr = surface.at(x, rect.top);
+        const int seen[] = {GetRValue(cr), GetGValue(cr), GetBValue(cr)};
+        for (int i = 0; i < 3; ++i)
+            ASSERT_NEAR(seen[i], from[i] + (to[i] - from[i]) * (x - rect.left) / rect.Width(), 2) << x;
+        ASSERT_EQ(surface.at(x, rect.bottom - 1), cr);
+    }
+    EXPECT_EQ(surface.count(CRect(0, 0, 200, 12), RGB(255, 0, 255)), 200 * 12 - rect.Width() * rect.Height());
+}
+
+TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)
 {
     using Band = std::pair<COLORREF, int>;
     const CRect rect(3, 2, 103, 12);
     EXPECT_EQ(Bands(rect, FaceMinus(0)), std::vector<Band>({{FaceMinus(0), 100}})) << "no step: one band";
     EXPECT_EQ(Bands(rect, FaceMinus(3)), (std::vector<Band>{{FaceMinus(3), 50}, {FaceMinus(2), 50}}));
     EXPECT_EQ(Bands(rect, RGB(255, 255, 255)).size(), 1u) << "downwards counts as no step";
-
-    const auto narrow = Bands(rect, FaceMinus(100));
-    ASSERT_EQ(narrow.size(), 25u) << "bands are at least 4 wide";
-    EXPECT_EQ(narrow.front(), Band(FaceMinus(100), 4));
-    EXPECT_EQ(narrow.back(), Band(FaceMinus(4), 4));
-    const auto cut = Bands(CRect(0, 0, 10, 4), FaceMinus(100));
-    EXPECT_EQ(cut, (std::vector<Band>{{FaceMinus(100), 4}, {FaceMinus(67), 4}, {FaceMinus(34), 2}}));
+    for (const COLORREF crFar : {RGB(1, 0, 0), RGB(0, 1, 0), RGB(0, 0, 1)}) // the channel with the most steps
+        EXPECT_EQ(Bands(rect, FaceMinus(3) - 20 * crFar).size(), 13u);
+    EXPECT_EQ(Bands(CRect(0, 0, 10, 4), FaceMinus(100)), // bands are at least 4 wide
+              (std::vector<Band>{{FaceMinus(100), 4}, {FaceMinus(67), 4}, {FaceMinus(34), 2}}));
     EXPECT_EQ(Bands(CRect(2, 0, 2, 4), FaceMinus(100)).size(), 0u);
 }

@@ -101,35 +101,22 @@ TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
 // The first client of a list stays; of those who hear of changed values all stay, and an unknown one is an error.
 TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
-    /// Finds the page already.
-    struct Finder : RecordingClient
-    {
-        using RecordingClient::RecordingClient;
-        CPageManager* pManager = nullptr;
-        void PageAdded(CPage* pPage, CPage* pParent) override
-        {
-            EXPECT_EQ(pManager->GetPage(pPage->GetPageID()), pPage);
-            RecordingClient::PageAdded(pPage, pParent);
-        }
-    };
     CPageManager manager(&m_host);
-    Finder first(m_log, "first");
-    first.pManager = &manager;
-    RecordingClient second(m_log, "second"), unknown(m_log, "unknown");
-    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second, &second})
+    RecordingClient first(m_log, "first", &manager), second(m_log, "second"), unknown(m_log, "unknown");
+    for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
     auto* pParent = new RecordingPage(L"A", nullptr, 1, m_log);
     manager.AddPage(pParent, nullptr);
     EXPECT_EQ(m_log.Take(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));
-    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second, &unknown})
+    for (RecordingClient* pClient : {&first, &second, &unknown})
         manager.RegisterAddPageNotification(pClient, false);
     manager.AddPage(new RecordingPage(L"B", nullptr, 2, m_log), pParent);
     EXPECT_EQ(m_log.Take(), (Calls{"first: B below A", "second: B below A"}))
         << "twice registered, removed once";
 
-    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second})
+    for (RecordingClient* pClient : {&first, &second})
         manager.RegisterAttributeChangedNotification(pClient, true);
-    for (RecordingClient* pClient : {static_cast<RecordingClient*>(&first), &second})
+    for (RecordingClient* pClient : {&first, &second})
         manager.RegisterAttributeChangedNotification(pClient, false);
     manager.AttributeChangedUsingGUI();
     EXPECT_EQ(m_log.Take(), (Calls{"first: changed", "second: changed"}));
