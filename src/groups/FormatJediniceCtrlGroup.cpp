@@ -8,18 +8,10 @@ constexpr int c_nUnits = 6;       // of length, numbered from 0
 constexpr int c_nDefaultUnit = 2; // the millimetre
 constexpr int c_nLength = 0;      // kind of a measurement unit
 constexpr int c_nMaxNumber = 15;  // in the edit
+constexpr int c_nAtEnd = -1;      // of a list, also of a sorted one
 
 /// The bits that mark a three-state button that leaves its state to us.
 constexpr DWORD c_dwStateByHand = BS_3STATE;
-
-/// The `nSource` of reports.
-enum ESource
-{
-    sourceCombo,
-    sourceButton,
-    sourceTyping,
-    sourceEditLeft,
-};
 } // namespace
 
 CFormatJediniceCtrlGroup::CFormatJediniceCtrlGroup(int nComboId, int nButtonId, int nEditId,
@@ -108,7 +100,7 @@ void CFormatJediniceCtrlGroup::OnExtComboBoxSelChanged(int nId, int /*nSel*/)
         return;
     if (m_pFormat && m_combo.m_hWnd)
         m_pFormat->nUnitIndex = m_combo.GetCurSel();
-    Report(sourceCombo);
+    Report(eSourceCombo);
 }
 
 // Wanted: a three-state button is toggled for any id, and the record gets the state before the toggle. Other check
@@ -124,14 +116,14 @@ void CFormatJediniceCtrlGroup::OnButtonClicked(int nId)
         return;
     if (m_pFormat)
         m_pFormat->nCheckFlag = nState == BST_CHECKED;
-    Report(sourceButton);
+    Report(eSourceButton);
 }
 
 // Wanted: what is being typed does not go to the record yet.
 void CFormatJediniceCtrlGroup::OnEditNChange(int nId)
 {
     if (nId == m_nEditId)
-        Report(sourceTyping);
+        Report(eSourceTyping);
 }
 
 void CFormatJediniceCtrlGroup::OnEditNKillFocus(int nId)
@@ -140,7 +132,7 @@ void CFormatJediniceCtrlGroup::OnEditNKillFocus(int nId)
         return;
     if (m_pFormat)
         m_pFormat->nEditValue = m_edit.GetValue();
-    Report(sourceEditLeft);
+    Report(eSourceEditLeft);
 }
 
 bool CFormatJediniceCtrlGroup::HasWindows() const
@@ -154,7 +146,7 @@ void CFormatJediniceCtrlGroup::ListUnits()
     if (!m_pFormat)
         return;
     for (int nUnit = 0; nUnit < c_nUnits; ++nUnit)
-        m_combo.AddString(CComplexUnit(CMeasurementUnit(nUnit, c_nLength)).Symbol());
+        m_combo.InsertString(c_nAtEnd, CComplexUnit(CMeasurementUnit(nUnit, c_nLength)).Symbol());
     SelectUnit(m_pFormat->nUnitIndex);
 }
 
@@ -182,10 +174,10 @@ void CFormatJediniceCtrlGroup::StoreControls()
     m_pFormat->nEditValue = shown.nEditValue;
 }
 
-void CFormatJediniceCtrlGroup::Report(int nSource)
+void CFormatJediniceCtrlGroup::Report(ESource eSource)
 {
     if (m_pHandler && m_pFormat)
-        m_pHandler->OnFormatGroupChanged(this, m_pFormat, nSource);
+        m_pHandler->OnFormatGroupChanged(this, m_pFormat, eSource);
 }
 
 template <class Function>

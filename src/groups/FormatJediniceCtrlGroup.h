@@ -20,21 +20,15 @@
 //         }
 //     };
 //
-// In the dialog template the combo box is a CBS_DROPDOWNLIST without CBS_SORT: its six entries are the units
-// by number, m, cm, mm, dm, in and ft. The edit takes 0 to 15. The button is a BS_AUTOCHECKBOX, or a
-// BS_3STATE where a selection of objects may have no common value: only that one can show it. A click takes
-// it from indeterminate to on, and never back.
+// In the dialog template the combo box is a CBS_DROPDOWNLIST: its six entries are the units by number, m, cm,
+// mm, dm, in and ft, sorted or not. The edit takes 0 to 15. The button is a BS_AUTOCHECKBOX, or a BS_3STATE
+// where a selection of objects may have no common value: only that one can show it. A click takes it from
+// indeterminate to on, and never back.
 //
 // Reports. A change by the user is stored in the record first, and the handler is called then, with its
-// source:
-//
-//     0 the combo box     nUnitIndex is stored
-//     1 the button        nCheckFlag is stored. Wanted: with BS_3STATE it is the state before the click
-//     2 typing            nothing is stored yet
-//     3 the edit was left nEditValue is stored, whether or not it was typed in
-//
-// Where the record lags behind the controls, in 1 and 2, GetCtrlState answers what the user sees. Without a
-// record nothing is stored and nobody is called. What the program sets is not reported.
+// source, an ESource. Where the record lags behind the controls, at the button and while typing, GetCtrlState
+// answers what the user sees. Without a record nothing is stored and nobody is called. What the program sets
+// is not reported.
 //
 // Ownership. Neither the record nor the handler is owned. Both must outlive the group, or be taken away: the
 // record by SetFormatSource(nullptr). Without the controls' windows, before the dialog is there or after it,
@@ -55,6 +49,15 @@ class OW_DIALOGCONTROLS_API CFormatJediniceCtrlGroup : public AExtComboBoxNotifi
                                                        public AButtonSTNotificationHandler
 {
 public:
+    /// Where a change came from: the `nSource` of OnFormatGroupChanged.
+    enum ESource
+    {
+        eSourceCombo = 0,  ///< nUnitIndex is stored
+        eSourceButton = 1, ///< nCheckFlag is stored. Wanted: with BS_3STATE it is the state before the click
+        eSourceTyping = 2, ///< in the edit; nothing is stored yet
+        eSourceEditLeft = 3, ///< nEditValue is stored, whether or not it was typed in
+    };
+
     /// The handler may be null.
     CFormatJediniceCtrlGroup(int nComboId, int nButtonId, int nEditId,
                              AFormatJediniceCtrlGroupNotificationHandler* pHandler);
@@ -99,7 +102,7 @@ private:
     void SelectUnit(int nUnit);
     void ShowNoCommonValue();
     void StoreControls();
-    void Report(int nSource);
+    void Report(ESource eSource);
     template <class Function>
     void ForEachControl(Function function);
 

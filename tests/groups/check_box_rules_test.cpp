@@ -1,14 +1,8 @@
 // The four rules by which a number goes to check boxes and comes back.
 
-#include <DialogControlsOW.h>
-
-#include "DialogTemplate.h"
-#include "Input.h"
-
-#include <gtest/gtest.h>
+#include "GroupDialog.h"
 
 #include <climits>
-#include <string>
 
 namespace
 {
@@ -26,19 +20,17 @@ protected:
     void SetUp() override
     {
         const auto form = owtest::DialogTemplate(L"Rules", 160, 20)
-                              .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
                               .Item(L"BUTTON", L"", idFirst, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 4, 12, 12)
                               .Item(L"BUTTON", L"", idSecond, BS_AUTO3STATE | WS_TABSTOP, 24, 4, 12, 12)
                               .Item(L"BUTTON", L"", idOption, BS_AUTORADIOBUTTON | WS_GROUP, 44, 4, 12, 12)
                               .Item(L"BUTTON", L"", idOption + 1, BS_AUTORADIOBUTTON, 64, 4, 12, 12)
                               .Button(L"", idEnd, 84, 4, 12, 12);
-        ASSERT_TRUE(dialog.CreateIndirect(form.get()) && owtest::Activate(dialog));
+        ASSERT_TRUE(dialog.Open(form));
         first.SubclassDlgItem(idFirst, &dialog);
         second.SubclassDlgItem(idSecond, &dialog);
         options.Set(&dialog, idOption);
         ASSERT_EQ(options.Count(), 2);
     }
-    void TearDown() override { dialog.DestroyWindow(); }
 
     /// A box or group as a user sees it: its state, and "off" behind it while it is disabled.
     static std::string Seen(int nState, const CWnd& control)
@@ -49,13 +41,14 @@ protected:
     std::string Boxes() const { return First() + ", " + Seen(second.GetCheck(), second); }
     std::string BoxAndOption() const
     {
-        return First() + ", " + Seen(options.GetOption(), *dialog.GetDlgItem(idOption + 1));
+        return First() + ", " + Seen(options.GetOption(), dialog[idOption + 1]);
     }
 
-    CDialog dialog;
+    GroupDialog dialog;
     CButton first, second;
     CRadioGroup options{nullptr, 0};
 };
+using Levels = std::vector<std::pair<int, std::string>>; ///< values, and what shows
 } // namespace
 
 TEST_F(CheckBoxRules, OneBoxIsAFlag)
@@ -76,30 +69,27 @@ TEST_F(CheckBoxRules, OneBoxIsAFlag)
 
 TEST_F(CheckBoxRules, TwoBoxesAreThreeLevels)
 {
-    const std::pair<int, const char*> levels[] = {{1, "1, 0"}, {0, "0, 0 off"}, {2, "1, 1"}, {3, "1, 0"}};
-    for (auto [nValue, seen] : levels)
+    for (auto [nValue, seen] : Levels{{1, "1, 0"}, {0, "0, 0 off"}, {3, "1, 0"}, {2, "1, 1"}})
     {
         gfnObradiDvaCheckBoxa(&first, &second, true, &nValue);
         EXPECT_EQ(Boxes(), seen) << nValue;
     }
-    const auto click = [&](CButton& box)
+    const std::tuple<Id, int, const char*> clicks[] = {
+        {idSecond, 3, "1, 2"}, {idFirst, 0, "0, 0 off"}, {idFirst, 1, "1, 0"}, {idSecond, 2, "1, 1"}};
+    for (const auto& [nId, nRead, seen] : clicks)
     {
         int nValue = -1;
-        owtest::Click(box);
+        dialog.Click(nId);
         gfnObradiDvaCheckBoxa(&first, &second, false, &nValue);
-        return std::to_string(nValue) + ": " + Boxes();
-    };
-    EXPECT_EQ(click(second), "2: 1, 1");
-    EXPECT_EQ(click(second), "3: 1, 2") << "the third state reads 3";
-    EXPECT_EQ(click(first), "0: 0, 0 off");
-    EXPECT_EQ(click(first), "1: 1, 0");
+        EXPECT_EQ(nValue, nRead); // 3 in the third state
+        EXPECT_EQ(Boxes(), seen);
+    }
 }
 
 TEST_F(CheckBoxRules, AConditionDecidesWhetherABoxIsRead)
 {
     for (int nCondition : {0, 1, -2})
-    {
-        for (int nSet : {0, 5})
+        for (const int nSet : {0, 5})
         {
             int nValue = nSet;
             const std::string seen = std::to_string(nSet != 0) + (nCondition ? "" : " off");
@@ -110,53 +100,51 @@ TEST_F(CheckBoxRules, AConditionDecidesWhetherABoxIsRead)
             EXPECT_EQ(nValue, nCondition && nSet ? 1 : nSet) << "without the condition it stays as it was";
             EXPECT_EQ(First(), seen);
         }
-    }
 }
 
 TEST_F(CheckBoxRules, ABoxSwitchesARadioGroup)
 {
-    const std::pair<int, const char*> values[] = {{2, "1, 1"},  {0, "0, -1 off"}, {1, "1, 0"},
-                                                  {3, "1, -1"}, {-1, "1, -1"},    {INT_MIN, "1, -1"}};
-    for (auto [nValue, seen] : values)
+    const Levels levels{{2, "1, 1"},  {0, "0, -1 off"}, {1, "1, 0"},
+                        {3, "1, -1"}, {-1, "1, -1"},    {INT_MIN, "1, -1"}};
+    for (auto [nValue, seen] : levels)
     {
         gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, true, &nValue);
         EXPECT_EQ(BoxAndOption(), seen) << nValue;
     }
-    int nValue = -1;
-    const auto click = [&](int nId)
+    const std::tuple<int, int, const char*> clicks[] = {
+        {idOption + 1, 2, "1, 1"},
+        {idFirst, 0, "0, -1 off"},
+        {idFirst, 1, "1, 0"}, // on always gives an option
+        {idEnd, 1, "1, -1"}}; // and an empty group has no other
+    for (const auto& [nId, nRead, seen] : clicks)
     {
-        owtest::Click(*dialog.GetDlgItem(nId));
+        int nValue = -1;
+        dialog.Click(nId);
+        if (nId == idEnd)
+            options.Empty();
         gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, false, &nValue);
-        return std::to_string(nValue) + ": " + BoxAndOption();
-    };
-    EXPECT_EQ(click(idOption + 1), "2: 1, 1");
-    EXPECT_EQ(click(idFirst), "0: 0, -1 off");
-    EXPECT_EQ(click(idFirst), "1: 1, 0") << "on always gives an option";
-    options.Empty();
-    EXPECT_EQ(click(idEnd), "1: 1, -1") << "an empty group has no other";
+        EXPECT_EQ(nValue, nRead);
+        EXPECT_EQ(BoxAndOption(), seen);
+    }
 }
 
 TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
 {
     int nValue = 7, nCondition = 1;
     CButton noWindow;
-    CButton* const pNone = &noWindow;
+    const std::pair<CButton*, int*> lacking[] = {{nullptr, &nValue}, {&noWindow, &nValue}, {&first, nullptr}};
     first.SetCheck(1);
     second.EnableWindow(FALSE);
-    for (bool bSet : {true, false})
-    {
-        gfnObradiCheckBox(nullptr, bSet, &nValue);
-        gfnObradiCheckBox(pNone, bSet, &nValue);
-        gfnObradiCheckBox(&first, bSet, nullptr);
-        gfnObradiDvaCheckBoxa(pNone, &second, bSet, &nValue);
-        gfnObradiDvaCheckBoxa(&first, pNone, bSet, &nValue);
-        gfnObradiDvaCheckBoxa(&first, &second, bSet, nullptr);
-        gfnObradiUslovniCheckBox(pNone, bSet, &nCondition, &nValue);
-        gfnObradiUslovniCheckBox(&first, bSet, nullptr, &nValue);
-        gfnObradiUslovniCheckBox(&first, bSet, &nCondition, nullptr);
-        gfnObradiChkBoxSaGrupomRadioDugmica(pNone, options, bSet, &nValue);
-        gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, bSet, nullptr);
-    }
+    for (const bool bSet : {true, false})
+        for (const auto& [pCheck, pnValue] : lacking)
+        {
+            gfnObradiCheckBox(pCheck, bSet, pnValue);
+            gfnObradiDvaCheckBoxa(pCheck, &second, bSet, pnValue);
+            gfnObradiDvaCheckBoxa(&second, pCheck, bSet, pnValue);
+            gfnObradiUslovniCheckBox(pCheck, bSet, &nCondition, pnValue);
+            gfnObradiUslovniCheckBox(&first, bSet, nullptr, &nValue);
+            gfnObradiChkBoxSaGrupomRadioDugmica(pCheck, options, bSet, pnValue);
+        }
     EXPECT_EQ(nValue, 7);
     EXPECT_EQ(Boxes(), "1, 0 off");
     EXPECT_EQ(options.GetOption(), -1);

@@ -1,15 +1,6 @@
 // The unit format group: reports of each source, several objects, no record, windows that are not there.
 
-#include <DialogControlsOW.h>
-
-#include "DialogTemplate.h"
-#include "Input.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <utility>
-#include <vector>
+#include "GroupDialog.h"
 
 using Calls = std::vector<std::string>;
 
@@ -33,14 +24,13 @@ std::string Text(const CFormatJedinice& format)
 owtest::DialogTemplate Form(DWORD buttonStyle)
 {
     return owtest::DialogTemplate(L"Format", 160, 30)
-        .Style(WS_POPUP | WS_CAPTION | WS_VISIBLE)
-        .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 8, 40, 90)
+        .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | CBS_SORT | WS_TABSTOP, 4, 8, 40, 90)
         .Item(L"BUTTON", L"Unit", idButton, buttonStyle | WS_TABSTOP, 48, 8, 40, 12)
         .Edit(idEdit, 90, 8, 24, 12)
         .Edit(idElsewhere, 120, 8, 24, 12);
 }
 
-class FormatDialog : public CDialog, public AFormatJediniceCtrlGroupNotificationHandler
+class FormatDialog : public GroupDialog, public AFormatJediniceCtrlGroupNotificationHandler
 {
 public:
     CFormatJediniceCtrlGroup group{idCombo, idButton, idEdit, this};
@@ -48,17 +38,14 @@ public:
     Calls calls; ///< as "source: record"
     Calls Take() { return std::exchange(calls, {}); }
 
-    bool Open(DWORD buttonStyle)
-    {
-        return CreateIndirect(Form(buttonStyle).get()) && owtest::Activate(m_hWnd);
-    }
-    CWnd& operator[](int nId) { return *GetDlgItem(nId); }
-
-    /// What the user sees: "unit symbol, state, number".
+    /// What the user sees: "unit symbol, state, number", and "-" for each control that is hidden or disabled.
     std::wstring Seen()
     {
-        return owtest::TextOf((*this)[idCombo]) + L", " + std::to_wstring(IsDlgButtonChecked(idButton)) +
-               L", " + owtest::TextOf((*this)[idEdit]);
+        std::wstring off;
+        for (const int nId : {idCombo, idButton, idEdit})
+            off.append(!(*this)[nId].IsWindowVisible() + !(*this)[nId].IsWindowEnabled(), L'-');
+        return TextOf(idCombo) + L", " + std::to_wstring(IsDlgButtonChecked(idButton)) + L", " +
+               TextOf(idEdit) + off;
     }
 
 protected:
@@ -83,23 +70,18 @@ class UnitFormatGroup : public ::testing::Test
 {
 protected:
     void SetUp() override { Open(BS_AUTOCHECKBOX); }
-    void TearDown() override { dialog.DestroyWindow(); }
     void Open(DWORD buttonStyle)
     {
-        dialog.DestroyWindow();
-        ASSERT_TRUE(dialog.Open(buttonStyle));
+        ASSERT_TRUE(dialog.Open(Form(buttonStyle)));
         dialog.Take();
     }
     /// A change of each control by the user: the next unit, the button, and 7 decimals.
     void ChangeAll()
     {
-        dialog[idCombo].SetFocus();
-        owtest::Press(VK_DOWN);
-        owtest::Click(dialog[idButton]);
-        owtest::Click(dialog[idEdit]);
-        dialog[idEdit].SendMessage(EM_SETSEL, 0, -1);
-        owtest::Type(L"7");
-        owtest::Click(dialog[idElsewhere]);
+        dialog.Press(idCombo, VK_DOWN);
+        dialog.Click(idButton);
+        dialog.TypeInto(idEdit, L"7");
+        dialog.Click(idElsewhere);
     }
 
     FormatDialog dialog;
@@ -129,10 +111,9 @@ TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
 TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
 {
     ChangeAll();
-    EXPECT_EQ(dialog.Take(), (Calls{"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7"}));
-    owtest::Click(dialog[idEdit]);
-    owtest::Click(dialog[idElsewhere]);
-    EXPECT_EQ(dialog.Take(), Calls{"3: 4, 0, 7"}) << "also if nothing was typed";
+    dialog.Click(idEdit);
+    dialog.Click(idElsewhere); // is told also if nothing was typed
+    EXPECT_EQ(dialog.Take(), (Calls{"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7", "3: 4, 0, 7"}));
 }
 
 TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverIndeterminateAgain)
@@ -142,7 +123,7 @@ TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverI
     const std::pair<UINT, const char*> clicks[] = {{1, "1: 3, 0, 4"}, {0, "1: 3, 1, 4"}, {1, "1: 3, 0, 4"}};
     for (const auto& [nShown, call] : clicks)
     {
-        owtest::Click(dialog[idButton]);
+        dialog.Click(idButton);
         EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), nShown);
         EXPECT_EQ(dialog.Take(), Calls{call});
     }
@@ -152,7 +133,7 @@ TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverI
 
     Open(BS_AUTO3STATE);
     group.Update(true, false);
-    owtest::Click(dialog[idButton]);
+    dialog.Click(idButton);
     EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "the one that toggles by itself is left alone";
 }
 
@@ -184,7 +165,6 @@ TEST_F(UnitFormatGroup, IsSilentWithoutARecordAndForOtherControls)
     EXPECT_EQ(Text(group.GetCtrlState()), "-1, 0, 7") << "the controls work";
     group.SetFormatSource(&record);
     EXPECT_EQ(dialog.Seen(), L"dm, 0, 7") << "the unit at once, the others by Update";
-
     group.OnExtComboBoxSelChanged(idElsewhere, 0);
     group.OnButtonClicked(idElsewhere);
     group.OnEditNChange(idElsewhere);
@@ -195,20 +175,12 @@ TEST_F(UnitFormatGroup, IsSilentWithoutARecordAndForOtherControls)
 
 TEST_F(UnitFormatGroup, EnablesAndShowsAllThree)
 {
-    const auto states = [&]
-    {
-        std::string text;
-        for (int nId : {idCombo, idButton, idEdit})
-            text +=
-                std::to_string(dialog[nId].IsWindowVisible()) + std::to_string(dialog[nId].IsWindowEnabled());
-        return text;
-    };
     group.Enable(FALSE);
-    EXPECT_EQ(states(), "101010");
+    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4---");
     group.Display(TRUE);
-    EXPECT_EQ(states(), "111111") << "a group that is shown is enabled, too";
+    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4") << "a group that is shown is enabled, too";
     group.Display(FALSE);
-    EXPECT_EQ(states(), "000000");
+    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4------");
 }
 
 TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
@@ -234,14 +206,14 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
 
 TEST_F(UnitFormatGroup, LeavesTheListAloneUntilThereIsARecord)
 {
-    CDialog plain;
-    ASSERT_TRUE(plain.CreateIndirect(Form(BS_AUTOCHECKBOX).get()));
+    GroupDialog plain;
+    ASSERT_TRUE(plain.Open(Form(BS_AUTOCHECKBOX)));
     plain.SendDlgItemMessage(idCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"any unit"));
     CFormatJediniceCtrlGroup unbound(idCombo, idButton, idEdit, nullptr);
     CDataExchange exchange(&plain, FALSE);
     unbound.DoDataExchange(&exchange);
     unbound.SetCtrlState({0, 1, 4});
-    EXPECT_EQ(owtest::TextOf(*plain.GetDlgItem(idCombo)), L"any unit");
+    EXPECT_EQ(plain.TextOf(idCombo), L"any unit");
     unbound.SetFormatSource(&record);
     EXPECT_EQ(plain.SendDlgItemMessage(idCombo, CB_GETCOUNT), 6);
     plain.DestroyWindow();

@@ -28,9 +28,9 @@ CFormatJedinice MakeFormat(int nUnit, bool bSymbol, int nDecimals)
 /// Copies the field that a report's source stands for.
 void CopyChanged(CFormatJedinice& to, const CFormatJedinice& from, int nSource)
 {
-    if (nSource == 0)
+    if (nSource == CFormatJediniceCtrlGroup::eSourceCombo)
         to.nUnitIndex = from.nUnitIndex;
-    else if (nSource == 1)
+    else if (nSource == CFormatJediniceCtrlGroup::eSourceButton)
         to.nCheckFlag = from.nCheckFlag;
     else
         to.nEditValue = from.nEditValue;
@@ -120,7 +120,7 @@ private:
     // a number that is none of the axes'.
     void ChangeAxes(int nSource)
     {
-        if (nSource == 3)
+        if (nSource == CFormatJediniceCtrlGroup::eSourceEditLeft)
             return;
         for (SAxis& axis : m_axes)
             CopyChanged(axis.format, m_axesGroup.GetCtrlState(), nSource);
