@@ -2,7 +2,6 @@
 
 #include "DlgPage/LowMemory.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <map>
 #include <new>
@@ -23,17 +22,13 @@ std::byte* TakePiece(std::size_t size)
 {
     MEMORY_BASIC_INFORMATION region{};
     for (std::uintptr_t address = kPiece; address + size <= kLimit;
-         address = reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize)
+         address = RoundUp(reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize, kPiece))
     {
-        if (!::VirtualQuery(reinterpret_cast<void*>(address), &region, sizeof(region)))
-            return nullptr;
-        const auto end = reinterpret_cast<std::uintptr_t>(region.BaseAddress) + region.RegionSize;
-        const std::uintptr_t start = RoundUp(address, kPiece);
-        if (region.State != MEM_FREE || start + size > std::min(end, kLimit))
-            continue;
-        if (void* piece = ::VirtualAlloc(reinterpret_cast<void*>(start), size, MEM_RESERVE | MEM_COMMIT,
-                                         PAGE_READWRITE))
+        void* place = reinterpret_cast<void*>(address);
+        if (void* piece = ::VirtualAlloc(place, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE))
             return static_cast<std::byte*>(piece);
+        if (!::VirtualQuery(place, &region, sizeof(region)))
+            return nullptr;
     }
     return nullptr;
 }

@@ -4,6 +4,7 @@
 
 #include "DialogTemplate.h"
 #include "Handles.h"
+#include "Picture.h"
 
 namespace
 {
@@ -193,8 +194,13 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
     owtest::Press(VK_DOWN);
     EXPECT_EQ(host.Shown(), "Later 2+");
     host.TakeSelections();
+    host.ShowWindow(SW_HIDE);
+    EXPECT_EQ(group.GetCurrentPage(), Page(idDelta)) << "a box that is not seen does not count";
+    host.ShowWindow(SW_SHOW);
     group.SetCurrentPage(Page(idBeta));
     EXPECT_EQ(host.TakeSelections(), Calls{"Beta after Delta"});
+    host.Toggle().ShowWindow(SW_SHOW);
+    EXPECT_EQ(group.GetCurrentPage(), nullptr);
 }
 
 TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUsable)
@@ -206,20 +212,32 @@ TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUs
     ClickToggle();
     EXPECT_EQ(text(), _T("Nazad"));
     group.SetStateTexts(_T("Close"), _T("Details"));
-    group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
     EXPECT_EQ(text(), _T("Nazad")) << "from the next change on";
-    ClickToggle();
+    group.SetCurrentPage(Page(idAlpha));
     EXPECT_EQ(text(), _T("Details"));
     group.SetCurrentPage(Page(idGamma));
     EXPECT_EQ(text(), _T("Close"));
-    const int nBefore = owtest::CountHandles().gdi;
+    host.ShowWindow(SW_HIDE);
+    EXPECT_EQ(group.GetCurrentPage(), Page(idGamma)) << "whether the button is seen or not";
+    host.ShowWindow(SW_SHOW);
+    host.Toggle().ShowWindow(SW_SHOW);
+    host.Combo().SetCurSel(1);
+    EXPECT_EQ(group.GetCurrentPage(), nullptr) << "no child, with the button on";
+
+    group.SetStateTexts(_T(""), _T(""));
+    group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
+    owtest::Surface on(100, 30), off(100, 30);
+    int nBefore = 0;
     for (int i = 0; i < 20; ++i)
     {
-        ClickToggle();
-        host.UpdateWindow();
+        group.SetCurrentPage(Page(i % 2 ? idAlpha : idGamma));
+        host.Toggle().UpdateWindow();
+        owtest::Capture(host.Toggle(), i % 2 ? off : on);
+        EXPECT_TRUE(i == 0 || !(on == off)) << "its icon";
+        nBefore = i == 1 ? owtest::CountHandles().gdi : nBefore;
     }
     EXPECT_EQ(owtest::CountHandles().gdi, nBefore);
     EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt), CButtonST::resultOk);
     group.SetCurrentPage(nullptr);
-    EXPECT_EQ(text(), _T("Details"));
+    EXPECT_EQ(text(), _T(""));
 }

@@ -300,6 +300,13 @@ TEST_F(Combos, WithoutAHandlerOnlyTheReflectedOneTellsTheParent)
     EXPECT_EQ(dialog.Take(), Calls{"selchange 1004"});
     dialog.DestroyWindow();
 
+    struct OpenCombo : CComboBoxReflected
+    {
+        using CComboBoxReflected::CComboBoxReflected, CComboBoxReflected::DoesNotificationHandlerExist,
+            CComboBoxReflected::GetSafeNotificationHandler;
+    } given(&dialog);
+    EXPECT_TRUE(given.DoesNotificationHandlerExist() && given.GetSafeNotificationHandler() == &dialog);
+    EXPECT_FALSE(OpenCombo(nullptr).DoesNotificationHandlerExist());
     CDialog deaf; // of a class that is no handler
     ASSERT_TRUE(deaf.CreateIndirect(owtest::DialogTemplate(L"", 90, 90).get()));
     ASSERT_TRUE(dialog.reflected.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 60, 60), &deaf, 1));

@@ -1,13 +1,10 @@
 // The configuration group as a user works with it: choosing, saving and deleting by mouse and keyboard.
 
-#include <DialogControlsOW.h>
+#include "GroupDialog.h"
 
-#include "DialogTemplate.h"
 #include "EnglishTexts.h"
 #include "Handles.h"
 #include "ModalVisit.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <optional>
@@ -77,28 +74,28 @@ public:
     void OnConfigGroupChanged(CConfigCtrlGroup*) override { calls += L"told;"; }
 };
 
-class ConfigDialog : public CDialog
+class ConfigDialog : public GroupDialog
 {
 public:
     ConfigDialog(AConfigSet* set, AConfigCtrlGroupNotificationHandler* handler)
         : group(idCombo, idSave, idDelete, set, handler)
     {
-        const auto form = owtest::DialogTemplate(L"Configurations", 160, 60)
-                              .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 4, 80, 80)
-                              .Button(L"", idSave, 90, 4, 16, 14)
-                              .Button(L"", idDelete, 110, 4, 16, 14)
-                              .Edit(idAfter, 4, 30, 80, 12);
+        const auto form =
+            owtest::DialogTemplate(L"Configurations", 160, 60)
+                .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | CBS_SORT | WS_TABSTOP, 4, 4, 80, 80)
+                .Button(L"", idSave, 90, 4, 16, 14)
+                .Button(L"", idDelete, 110, 4, 16, 14)
+                .Edit(idAfter, 4, 30, 80, 12);
         group.Refresh(); // does nothing yet
-        EXPECT_TRUE(CreateIndirect(form.get()) && owtest::Activate(m_hWnd));
+        EXPECT_TRUE(Open(form));
     }
-    ~ConfigDialog() override { DestroyWindow(); }
 
     CConfigCtrlGroup group;
 
     /// The rows of the combo box, the selected one in brackets.
     std::wstring Rows() const
     {
-        const auto& combo = static_cast<const CComboBox&>(*GetDlgItem(idCombo));
+        const auto& combo = static_cast<const CComboBox&>((*this)[idCombo]);
         std::wstring rows;
         for (int i = 0; i < combo.GetCount(); ++i)
         {
@@ -111,12 +108,7 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        ShowWindow(SW_SHOW);
-        return group.OnInitDialog();
-    }
+    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && group.OnInitDialog() == 1; }
 };
 
 /// Types a name in place of what the name dialog begins with, and accepts; expects that beginning.
@@ -167,13 +159,8 @@ protected:
     std::wstring Click(int id, const std::vector<Visitor>& visitors)
     {
         owtest::ModalVisit visit(visitors);
-        owtest::Click(*dialog->GetDlgItem(id));
+        dialog->Click(id);
         EXPECT_EQ(visit.Count(), static_cast<int>(visitors.size()));
-        return std::exchange(set.calls, {});
-    }
-    std::wstring Press(WORD key)
-    {
-        owtest::Press(key);
         return std::exchange(set.calls, {});
     }
 };
@@ -183,17 +170,15 @@ TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
 {
     Open({L"Roof", L"Floor"}, 1);
     EXPECT_EQ(dialog->Rows(), L" Default  Roof [Floor]");
-    CWnd& combo = *dialog->GetDlgItem(idCombo);
-    combo.SetFocus();
-    EXPECT_EQ(Press(VK_HOME), L"current -1;told;");
-    EXPECT_EQ(Press(VK_DOWN), L"current 0;told;");
-
+    dialog->Press(idCombo, VK_HOME);
+    owtest::Press(VK_DOWN);
+    EXPECT_EQ(std::exchange(set.calls, {}), L"current -1;told;current 0;told;");
     Change();
     EXPECT_EQ(dialog->Rows(), L" Default  Roof  Floor ");
-    dialog->GetDlgItem(idAfter)->SetFocus();
+    (*dialog)[idAfter].SetFocus();
     dialog->group.OnExtComboBoxSelChanged(idCombo, -1);
     EXPECT_EQ(set.calls, L"told;") << "no row is no entry";
-    EXPECT_EQ(::GetFocus(), combo.m_hWnd);
+    EXPECT_EQ(::GetFocus(), (*dialog)[idCombo].m_hWnd);
 }
 
 TEST_F(ConfigGroup, SavesUnderATypedNameWithoutTellingTheHandler)

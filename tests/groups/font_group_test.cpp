@@ -1,16 +1,11 @@
 // The font group: reports of each control, classes of fonts and the check boxes, no record, windows that come again.
 
-#include <DialogControlsOW.h>
+#include "GroupDialog.h"
 
-#include "DialogTemplate.h"
-#include "Input.h"
 #include "ModalVisit.h"
-
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <set>
-#include <utility>
 
 namespace
 {
@@ -27,7 +22,7 @@ std::wstring Text(const epgFont& font)
     return strText.GetString();
 }
 
-class FontDialog : public CDialog, public AFontCtrlGroupNotificationHandler
+class FontDialog : public GroupDialog, public AFontCtrlGroupNotificationHandler
 {
 public:
     CFontCtrlGroup group{idFont, idHeight, idColor, idCheck1, idCheck2, idCheck3, idApply, this};
@@ -37,23 +32,17 @@ public:
 
     bool Open()
     {
+        constexpr DWORD kFontStyle = CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT;
         owtest::DialogTemplate form(L"Font", 200, 130);
-        form.Item(L"COMBOBOX", L"", idFont,
-                  CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT | WS_TABSTOP, 4, 4, 120,
-                  90)
-            .Edit(idHeight, 4, 24, 30, 12)
-            .Item(L"BUTTON", L"", idColor, WS_TABSTOP, 4, 40, 40, 14);
+        form.Item(L"COMBOBOX", L"", idFont, kFontStyle | WS_TABSTOP, 4, 4, 120, 90)
+            .Edit(idHeight, 4, 24, 30, 12);
+        form.Item(L"BUTTON", L"", idColor, WS_TABSTOP, 4, 40, 40, 14);
         for (const WORD id : {idCheck1, idCheck2, idCheck3})
             form.Item(L"BUTTON", L"x", id, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 58 + 12 * (id - idCheck1), 40,
                       10);
         form.Button(L"Apply", idApply, 4, 100, 40, 16).Edit(idElsewhere, 100, 100, 40, 12);
-        DestroyWindow();
-        if (!CreateIndirect(form.get()))
-            return false;
-        ShowWindow(SW_SHOW);
-        return owtest::Activate(m_hWnd);
+        return GroupDialog::Open(form);
     }
-    CWnd& operator[](int nId) { return *GetDlgItem(nId); }
     CComboBox& Combo() { return static_cast<CComboBox&>((*this)[idFont]); }
     std::wstring FontOfRow(int nRow)
     {
@@ -64,16 +53,13 @@ public:
     /// The user chooses a row by keys.
     void Choose(int nRow)
     {
-        Combo().SetFocus();
         Combo().SetCurSel(nRow - 1);
-        owtest::Press(VK_DOWN);
+        Press(idFont, VK_DOWN);
     }
     void TypeHeight(const wchar_t* pszText)
     {
-        owtest::Click((*this)[idHeight]);
-        (*this)[idHeight].SendMessage(EM_SETSEL, 0, -1);
-        owtest::Type(pszText);
-        owtest::Click((*this)[idElsewhere]);
+        TypeInto(idHeight, pszText);
+        Click(idElsewhere);
     }
     void PressSpin(bool bUp)
     {
@@ -86,7 +72,7 @@ public:
     bool ChooseColor(const wchar_t* pszNumber)
     {
         const owtest::ModalVisit visit([=](CWnd&) { owtest::Type(pszNumber), owtest::Press(VK_RETURN); });
-        owtest::Click((*this)[idColor]);
+        Click(idColor);
         return visit.Count() == 1;
     }
     /// What the visible check boxes show, each with a sign: whether it is enabled.
@@ -105,7 +91,7 @@ public:
         for (int id = 11000; id < 11200; ++id)
             if (CWnd* pOwn = GetDlgItem(id); pOwn && ::iswdigit(owtest::TextOf(*pOwn)[0]))
                 number = owtest::TextOf(*pOwn);
-        return owtest::TextOf(Combo()) + L", " + owtest::TextOf((*this)[idHeight]) + L", " + number;
+        return TextOf(idFont) + L", " + TextOf(idHeight) + L", " + number;
     }
 
 protected:
@@ -135,7 +121,6 @@ protected:
         record = expected = {dialog.FontOfRow(1).c_str(), 0.0035, 30, 1, 0, 1, eFontTrueType};
         group.SetFontSource(&record);
     }
-    void TearDown() override { dialog.DestroyWindow(); }
     /// Expects that only this has changed in the record since the last time, and that it was told once.
     template <class Value>
     void ExpectChange(Value epgFont::*field, Value value)
@@ -159,25 +144,23 @@ TEST_F(FontGroup, StoresEachChangeOfTheUserAndThenTellsIt)
     ExpectChange(&epgFont::dHeight, 0.007); // not before the edit is left
     dialog.PressSpin(true);
     ExpectChange(&epgFont::dHeight, 0.0075); // at once
-    dialog[idHeight].SetFocus();
-    owtest::Press(VK_DOWN);
+    dialog.Press(idHeight, VK_DOWN);
     ExpectChange(&epgFont::dHeight, 0.007);
     dialog[idColor].SetFocus();
     dialog.Take(); // the edit is left
     EXPECT_TRUE(dialog.ChooseColor(L"142"));
     ExpectChange(&epgFont::nColor, 142);
-    owtest::Click(dialog[idCheck1]);
+    dialog.Click(idCheck1);
     ExpectChange(&epgFont::nCheck1, 0);
-    dialog[idCheck2].SetFocus();
-    owtest::Press(VK_SPACE);
+    dialog.Press(idCheck2, VK_SPACE);
     ExpectChange(&epgFont::nCheck2, 1);
     dialog[idCheck3].SendMessage(BM_SETCHECK, 0);
     group.OnButtonClicked(idCheck3); // it never shows, and works
     ExpectChange(&epgFont::nCheck3, 0);
     EXPECT_EQ(dialog.Seen(), dialog.FontOfRow(2) + L", 7.0, 142");
-    owtest::Click(dialog[idApply]);
+    dialog.Click(idApply);
     EXPECT_EQ(dialog.Take(), Calls{L"apply " + Text(expected)}) << "nothing is stored";
-    EXPECT_EQ(owtest::TextOf(dialog[idApply]), L"") << "an icon in place of the text";
+    EXPECT_EQ(dialog.TextOf(idApply), L"") << "an icon in place of the text";
 
     group.OnFontSelected(idElsewhere, L"x", eFontSHX);
     group.OnEditNKillFocus(idElsewhere);
@@ -232,11 +215,11 @@ TEST_F(FontGroup, OnlyAnotherClassTouchesTheCheckBoxesAndNeverTheirFields)
     group.OnFontSelected(idFont, L"romans", eFontSHX);
     EXPECT_EQ(dialog.Boxes(), "0-0-");
     EXPECT_EQ(Text(record), L"romans, 3.50, 30, 101, 1");
-    owtest::Click(dialog[idCheck1]);
+    dialog.Click(idCheck1);
     dialog.Choose(3);
     EXPECT_EQ(dialog.Boxes(), "0+0+") << "clear, whatever the record says";
     EXPECT_EQ(Text(record), dialog.FontOfRow(3) + L", 3.50, 30, 101, 0");
-    owtest::Click(dialog[idCheck2]);
+    dialog.Click(idCheck2);
     EXPECT_EQ(record.nCheck2, 1);
 
     record.eClass = eFontSHX;
@@ -258,7 +241,7 @@ TEST_F(FontGroup, WithoutARecordStoresNothingAndCallsNobody)
     dialog.TypeHeight(L"7");
     dialog.PressSpin(true);
     for (const int id : {idCheck1, idCheck2, idApply})
-        owtest::Click(dialog[id]);
+        dialog.Click(id);
     group.OnAcadColorChosen(idColor, 9);
     EXPECT_EQ(Text(record), before);
     EXPECT_EQ(dialog.Take(), Calls{});
@@ -276,8 +259,7 @@ TEST_F(FontGroup, ComesBackWithTheNextWindow)
     EXPECT_EQ(dialog.Boxes(), "1+0+");
     dialog.PressSpin(true);
     EXPECT_EQ(Text(record), dialog.FontOfRow(1) + L", 4.00, 30, 101, 0");
-    dialog[idCheck2].SetFocus();
-    owtest::Press(VK_TAB);
+    dialog.Press(idCheck2, VK_TAB);
     group.SetFontSource(nullptr);
     ASSERT_TRUE(dialog.Open());
     EXPECT_EQ(dialog.Boxes(), "1+0+") << "the third never shows, without a record, too";
