@@ -2,6 +2,8 @@
 
 #include "BoxParts.h"
 
+#include "ChildProcess.h"
+
 #include <acadhost.h>
 #include <rxmfcapi.h>
 
@@ -30,23 +32,22 @@ protected:
 class Messenger : public ::testing::Test
 {
 protected:
-    // One host's window for all tests, as the messenger stays at its first. The tests send the timer's
+    // One host's window for the whole program, as the messenger stays at its first. The tests send the timer's
     // message themselves, whenever they want one.
-    static void SetUpTestSuite()
+    static void SetUpTestSuite() { acadhostUseFrame(TheFrame()); }
+    static void TearDownTestSuite() { acadhostUseFrame(nullptr); }
+    static HostFrame* TheFrame()
     {
-        auto* frame = new HostFrame; // deletes itself with its window
-        ASSERT_TRUE(frame->Create(nullptr, L"Host"));
-        acadhostUseFrame(frame);
-        COstrelMessenger::Instance();
-        EXPECT_TRUE(::KillTimer(*frame, kTimer)) << "the messenger had started its timer";
-    }
-    static void TearDownTestSuite()
-    {
-        CFrameWnd* frame = acedGetAcadFrame();
-        acadhostUseFrame(nullptr);
-        frame->DestroyWindow();
-        EXPECT_FALSE(COstrelMessenger::Instance().IsHooked());
-        COstrelMessenger::Instance().PostMsg(1); // is dropped, as nobody will look for it
+        static HostFrame* const frame = []
+        {
+            auto* host = new HostFrame; // deletes itself with its window
+            EXPECT_TRUE(host->Create(nullptr, L"Host"));
+            acadhostUseFrame(host);
+            COstrelMessenger::Instance();
+            EXPECT_TRUE(::KillTimer(*host, kTimer)) << "the messenger had started its timer";
+            return host;
+        }();
+        return frame;
     }
 
     static void Post(int code)
@@ -78,6 +79,23 @@ protected:
     }
 };
 } // namespace
+
+OW_CHILD_SCENARIO(messenger_outlives_the_frame)
+{
+    auto* frame = new HostFrame;
+    frame->Create(nullptr, L"Host");
+    acadhostUseFrame(frame);
+    const bool hooked = COstrelMessenger::Instance().IsHooked();
+    acadhostUseFrame(nullptr);
+    frame->DestroyWindow();
+    COstrelMessenger::Instance().PostMsg(1); // is dropped, as nobody will look for it
+    std::printf("hooked %d, then %d", hooked, COstrelMessenger::Instance().IsHooked());
+}
+
+TEST(MessengerOfAClosedHost, LetsGoOfItsWindow)
+{
+    EXPECT_EQ(owtest::RunChild("messenger_outlives_the_frame").output, "hooked 1, then 0");
+}
 
 TEST_F(Messenger, StandsBeforeTheHostsWindowAndPassesItsMessagesOn)
 {

@@ -14,7 +14,6 @@ protected:
 
     void SetUp() override
     {
-        ::SetDoubleClickTime(1); // two clicks in a row are two clicks; a double one is sent as a message
         grid.SetRowCount(kRows);
         grid.SetColumnCount(kCols);
         grid.SetFixedRowCount(1);
@@ -29,11 +28,7 @@ protected:
         parent.Take();
         parent.commands = 0;
     }
-    void TearDown() override
-    {
-        grid.DestroyWindow();
-        ::SetDoubleClickTime(m_nDoubleClickTime);
-    }
+    void TearDown() override { grid.DestroyWindow(); }
 
     void ClickCell(int nRow, int nCol)
     {
@@ -76,7 +71,4 @@ protected:
 
     GridParent& parent = SharedParent();
     OpenGrid grid;
-
-private:
-    const UINT m_nDoubleClickTime = ::GetDoubleClickTime();
 };

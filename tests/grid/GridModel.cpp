@@ -5,9 +5,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <random>
-#include <set>
-#include <sstream>
 
 namespace
 {
@@ -127,12 +124,12 @@ struct Model
     }
 };
 
-class Sequence
+class GridSequence : public owtest::Sequence
 {
 public:
-    Sequence(unsigned seed, const SequenceOptions& options)
-        : m_random(seed), m_withInput(options.withInput), m_mixedCells(options.mixedCells),
-          m_inside(options.makeGrid()), m_grid(m_inside->Grid())
+    explicit GridSequence(const SequenceOptions& options)
+        : m_withInput(options.withInput), m_mixedCells(options.mixedCells), m_inside(options.makeGrid()),
+          m_grid(m_inside->Grid())
     {
         m_parent.Open(360, 280, m_withInput);
         PlaceGrid(m_grid, m_parent, CSize(300, 220));
@@ -141,29 +138,9 @@ public:
         if (m_withInput)
             owtest::Activate(m_parent);
     }
-    ~Sequence() { m_parent.DestroyWindow(); }
-
-    SequenceResult Run(unsigned seed, int steps)
-    {
-        SequenceResult result;
-        for (; result.stepsDone < steps; ++result.stepsDone)
-        {
-            Step();
-            Check();
-            if (m_problem.str().empty())
-                continue;
-            std::ostringstream text;
-            text << "seed " << seed << (m_withInput ? " with input" : "") << (m_mixedCells ? " mixed" : "")
-                 << ", step " << result.stepsDone << ": " << m_problem.str() << "\nsteps:\n"
-                 << m_log.str();
-            result.failure = text.str();
-            break;
-        }
-        return result;
-    }
+    ~GridSequence() override { m_parent.DestroyWindow(); }
 
 private:
-    int Pick(int below) { return below > 0 ? static_cast<int>(m_random() % below) : 0; }
     /// An index, now and then one out of range on either side.
     int Index(int count) { return Pick(12) == 0 ? Pick(count + 4) - 2 : Pick(count); }
     std::wstring Text()
@@ -172,24 +149,7 @@ private:
                                                     L"12", L"7", L"Zeta", L"0,5 m"};
         return kTexts[Pick(std::size(kTexts))];
     }
-    template <class... Parts>
-    void Say(const Parts&... parts)
-    {
-        ((m_log << ' ' << parts), ...);
-        m_log << '\n';
-    }
-    template <class... Parts>
-    void Problem(const Parts&... parts)
-    {
-        ((m_problem << parts), ...) << "; ";
-    }
-    void Expect(bool condition, const char* what)
-    {
-        if (!condition)
-            Problem(what);
-    }
-
-    void Step()
+    void Step() override
     {
         if (m_model.ColCount() > 12 || m_model.RowCount() > 40)
             return SetCounts();
@@ -699,7 +659,7 @@ private:
 
     // ---- What must hold after every step
 
-    void Check()
+    void Check() override
     {
         Expect(m_grid.GetRowCount() == m_model.RowCount(), "row count");
         Expect(m_grid.GetColumnCount() == m_model.ColCount(), "column count");
@@ -709,7 +669,7 @@ private:
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
         Expect(m_inside->MouseMode() == 0, "mouse mode");
         Expect(m_grid.GetDlgItem(InPlaceControlId) == nullptr, "an editor is left");
-        if (!m_problem.str().empty())
+        if (m_grid.GetRowCount() != m_model.RowCount() || m_grid.GetColumnCount() != m_model.ColCount())
             return;
         CheckCells();
         CheckSizes();
@@ -796,7 +756,6 @@ private:
             Expect(m_grid.GetCellFromPt(origin, FALSE) == CCellID(row, col), "cell at the body's origin");
     }
 
-    std::mt19937 m_random;
     bool m_withInput;
     bool m_mixedCells;
     GridParent m_parent;
@@ -805,13 +764,46 @@ private:
     Model m_model;
     int m_height = 0;
     int m_width = 0;
-    std::ostringstream m_log;
-    std::ostringstream m_problem;
+};
+
+/// What the parent would have answered if there were no handler: the model decides there about an edit.
+bool ParentAccepts(CWnd& grid)
+{
+    const auto& parent = static_cast<GridParent&>(*grid.GetParent());
+    NMHDR header{grid.m_hWnd, kGridId, static_cast<UINT>(LVN_ENDLABELEDITW)};
+    return !parent.answer || parent.answer(header) >= 0;
+}
+
+class CModelExtGrid : public CExtGridCtrl, public AExtGridCtrlNotificationHandler
+{
+public:
+    CModelExtGrid() : CExtGridCtrl(this) {}
+    void OnExtGridRowChanged(int, int, int) override {}
+    bool OnExtGridEndEdit(int, int, int, const CString*) override { return ParentAccepts(*this); }
+    void OnExtGridRClick(int, int) override {}
+};
+
+class CModelExtGrid2 : public CExtGridCtrl2, public AExtGridCtrl2NotificationHandler
+{
+public:
+    CModelExtGrid2() : CExtGridCtrl2(this, nullptr) {}
+    void OnExtGrid2CellChanged(int, CCellID, CCellID) override {}
+    bool OnExtGrid2EndEdit(int, CCellID, const CString*) override { return ParentAccepts(*this); }
+    void OnExtGrid2RClick(int, CCellID) override {}
 };
 } // namespace
 
-SequenceResult RunGridSequence(unsigned seed, int steps, const SequenceOptions& options)
+owtest::SequenceResult RunGridSequence(const owtest::Steps& steps, const SequenceOptions& options)
 {
-    Sequence sequence(seed, options);
-    return sequence.Run(seed, steps);
+    return GridSequence(options).Run(steps);
+}
+
+std::unique_ptr<ModelGrid> MakeModelExtGrid()
+{
+    return MakeModelGrid<CModelExtGrid>();
+}
+
+std::unique_ptr<ModelGrid> MakeModelExtGrid2()
+{
+    return MakeModelGrid<CModelExtGrid2>();
 }

@@ -2,17 +2,15 @@
 // Random sequences of operations and input messages on a grid, checked after each step against a small model
 // of what the grid must hold.
 //
-//     RunGridSequence(seed, 1000, {.withInput = true});
-//     RunGridSequence(seed, 1000, {.mixedCells = true, .makeGrid = &MakeModelGrid<CMyGrid>});
-//
-// A sequence is its seed: the same seed gives the same steps. A sequence that fails tells its steps, so that
-// it can be read as well as run again.
+//     RunGridSequence(owtest::StepsOf(seed, 1000), {.withInput = true});
+//     RunGridSequence(steps, {.mixedCells = true, .makeGrid = &MakeModelGrid<CMyGrid>});
 
 #include <DialogControlsOW.h>
 
+#include "../soak/Sequence.h"
+
 #include <functional>
 #include <memory>
-#include <string>
 
 /// A grid of whatever class, with what the model asks beyond its public operations.
 class ModelGrid
@@ -44,11 +42,8 @@ struct SequenceOptions
     std::function<std::unique_ptr<ModelGrid>()> makeGrid = &MakeModelGrid<CGridCtrl>;
 };
 
-struct SequenceResult
-{
-    int stepsDone = 0;
-    /// Empty if all went well; otherwise what differed, the seed and the steps up to there.
-    std::string failure;
-};
+owtest::SequenceResult RunGridSequence(const owtest::Steps& steps, const SequenceOptions& options = {});
 
-SequenceResult RunGridSequence(unsigned seed, int steps, const SequenceOptions& options = {});
+/// An extended grid for the model: the parent decides about an edit, as if there were no handler.
+std::unique_ptr<ModelGrid> MakeModelExtGrid();
+std::unique_ptr<ModelGrid> MakeModelExtGrid2();

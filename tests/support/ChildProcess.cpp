@@ -113,8 +113,18 @@ void AnswerBox(DWORD processId, ChildResult& result)
     PostMessageW(search.second, WM_COMMAND, IDOK, 0);
 }
 
+/// Takes what the child has written so far: a full pipe would stop it.
+void ReadOutput(HANDLE pipe, ChildResult& result)
+{
+    char buffer[4096];
+    DWORD waiting = 0, read = 0;
+    while (PeekNamedPipe(pipe, nullptr, 0, nullptr, &waiting, nullptr) && waiting &&
+           ReadFile(pipe, buffer, sizeof(buffer), &read, nullptr))
+        result.output.append(buffer, read);
+}
+
 /// Lets the child run under our eyes; true when it has ended.
-bool ServeDebugEvents(DWORD processId, ChildResult& result)
+bool ServeDebugEvents(DWORD processId, ChildResult& result, int& breakpoints)
 {
     DEBUG_EVENT event;
     while (WaitForDebugEvent(&event, 20))
@@ -126,8 +136,11 @@ bool ServeDebugEvents(DWORD processId, ChildResult& result)
         case EXCEPTION_DEBUG_EVENT:
             if (event.u.Exception.ExceptionRecord.ExceptionCode != EXCEPTION_BREAKPOINT)
                 answer = DBG_EXCEPTION_NOT_HANDLED;
-            else if (!result.boxText.empty()) // the loader's own breakpoint comes before any box
+            else if (++breakpoints > 1) // the first is the loader's own
                 result.brokeIntoDebugger = true;
+            if (!event.u.Exception.dwFirstChance)
+                std::fprintf(stderr, "The child ends by exception %08lX.\n",
+                             event.u.Exception.ExceptionRecord.ExceptionCode);
             break;
         case CREATE_PROCESS_DEBUG_EVENT:
             if (event.u.CreateProcessInfo.hFile)
@@ -159,7 +172,10 @@ int RunScenario(const char* name)
 {
     auto found = Scenarios().find(std::string_view(name));
     if (found == Scenarios().end())
+    {
+        std::fprintf(stderr, "There is no scenario %s.\n", name);
         return 97;
+    }
     found->second();
     std::fflush(stdout);
     return 0;
@@ -195,27 +211,30 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
     const DWORD flags = DEBUG_ONLY_THIS_PROCESS | CREATE_UNICODE_ENVIRONMENT;
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, flags, environment.data(),
                         options.directory.empty() ? nullptr : options.directory.c_str(), &start, &created))
+    {
+        std::fprintf(stderr, "The child for %s did not start: error %lu.\n", scenario, GetLastError());
         return result;
+    }
     Handle process(created.hProcess), thread(created.hThread);
     writeEnd.Close();
     result.started = true;
 
     const ULONGLONG deadline = GetTickCount64() + options.timeoutMs;
-    while (!ServeDebugEvents(created.dwProcessId, result))
+    int breakpoints = 0;
+    while (!ServeDebugEvents(created.dwProcessId, result, breakpoints))
     {
+        ReadOutput(readEnd.get(), result);
         if (result.boxText.empty())
             AnswerBox(created.dwProcessId, result);
         if (GetTickCount64() > deadline)
         {
             result.timedOut = true;
+            std::fprintf(stderr, "The child for %s did not end in time.\n", scenario);
             TerminateProcess(created.hProcess, 98);
         }
     }
 
-    char buffer[512];
-    DWORD read = 0;
-    while (ReadFile(readEnd.get(), buffer, sizeof(buffer), &read, nullptr) && read)
-        result.output.append(buffer, read);
+    ReadOutput(readEnd.get(), result);
     return result;
 }
 } // namespace owtest

@@ -2,9 +2,7 @@
 
 #include <malloc.h>
 
-#include <algorithm>
 #include <cstdint>
-#include <vector>
 
 namespace owtest
 {
@@ -63,22 +61,28 @@ BOOL CALLBACK CountTopLevel(HWND window, LPARAM count)
     return TRUE;
 }
 
-/// New user handles take free places first, the latest first. A batch that is larger than all the places that a
-/// dialog has freed reaches as high as the leaks have pushed it.
-int UserHandleWaterline()
+bool IsMenuIconOrTable(HANDLE handle)
 {
-    constexpr int kProbes = 1024;
-    int highest = 0;
-    std::vector<HMENU> probes;
-    for (int i = 0; i < kProbes; ++i)
-    {
-        HMENU menu = CreateMenu();
-        probes.push_back(menu);
-        highest = std::max(highest, static_cast<int>(LOWORD(reinterpret_cast<std::uintptr_t>(menu))));
-    }
-    for (HMENU menu : probes)
-        DestroyMenu(menu);
-    return highest / 2;
+    if (IsMenu(static_cast<HMENU>(handle)) || CopyAcceleratorTableW(static_cast<HACCEL>(handle), nullptr, 0))
+        return true;
+    ICONINFO info{};
+    if (!GetIconInfo(static_cast<HICON>(handle), &info))
+        return false;
+    DeleteObject(info.hbmMask);
+    DeleteObject(info.hbmColor);
+    return true;
+}
+
+/// Where the system does not count user objects, its handles are tried one by one: their low word is a place in a
+/// table, and with no high word a handle stands for whatever this process has there.
+int CountUserObjects()
+{
+    if (const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS))
+        return static_cast<int>(counted);
+    int count = 0;
+    for (std::uintptr_t place = 0x20; place < 0xFFF0; place += 2)
+        count += IsMenuIconOrTable(reinterpret_cast<HANDLE>(place));
+    return count;
 }
 } // namespace
 
@@ -100,7 +104,7 @@ HandleCount CountHandles()
         GetWindowThreadProcessId(only, &process);
         count.windows += process == GetCurrentProcessId();
     }
-    count.user = UserHandleWaterline();
+    count.user = CountUserObjects();
     return count;
 }
 

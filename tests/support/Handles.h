@@ -10,7 +10,7 @@ struct HandleCount
 {
     int gdi = 0;     ///< GDI objects of all types
     int windows = 0; ///< windows of this process, top-level, child and message-only
-    int user = 0; ///< the highest place of a user handle: one more for each menu, icon or window not released
+    int user = 0;    ///< menus, icons, cursors and accelerator tables; windows, too, where the system counts
 
     friend bool operator==(const HandleCount&, const HandleCount&) = default;
 };

@@ -1,15 +1,12 @@
 #include "Input.h"
 
 #include <algorithm>
-#include <chrono>
 #include <vector>
 
 namespace owtest
 {
 namespace
 {
-constexpr DWORD kSettleMs = 2000;
-
 void Send(std::vector<INPUT> inputs)
 {
     ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
@@ -55,10 +52,49 @@ INPUT Mouse(DWORD flags, CPoint screen)
     return input;
 }
 
+/// A left click that carries a time of its own: the system tells a double click by the times of its presses.
+std::vector<INPUT> LeftClick(DWORD time)
+{
+    std::vector<INPUT> inputs{Mouse(MOUSEEVENTF_LEFTDOWN, {}), Mouse(MOUSEEVENTF_LEFTUP, {})};
+    for (INPUT& input : inputs)
+        input.mi.time = time;
+    return inputs;
+}
+
+/// So late after the press before, whenever that was, that the two make no double click.
+DWORD TimeOfNextPress()
+{
+    static DWORD s_last = ::GetTickCount();
+    const DWORD now = ::GetTickCount();
+    s_last += ::GetDoubleClickTime() + 1;
+    if (static_cast<int>(now - s_last) > 0)
+        s_last = now;
+    return s_last;
+}
+
 CPoint ToScreen(HWND window, CPoint client)
 {
     ::ClientToScreen(window, &client);
     return client;
+}
+
+CPoint MiddleOf(HWND window)
+{
+    CRect client;
+    ::GetClientRect(window, &client);
+    return client.CenterPoint();
+}
+
+void MoveToScreen(CPoint screen)
+{
+    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
+    PumpUntil(
+        [&]
+        {
+            CPoint now;
+            ::GetCursorPos(&now);
+            return now == screen;
+        });
 }
 } // namespace
 
@@ -140,33 +176,14 @@ void Type(std::wstring_view text)
 
 void MoveTo(HWND window, CPoint client)
 {
-    const CPoint screen = ToScreen(window, client);
-    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
-    PumpUntil(
-        [&]
-        {
-            CPoint now;
-            ::GetCursorPos(&now);
-            return now == screen;
-        },
-        kSettleMs);
-}
-
-/// Two presses in one tick of the clock count as a double click, however short the double-click time is.
-static void PressLeft(const std::vector<INPUT>& inputs)
-{
-    using Clock = std::chrono::steady_clock;
-    static Clock::time_point s_last;
-    PumpUntil([] { return Clock::now() - s_last > std::chrono::milliseconds(3); });
-    Send(inputs);
-    s_last = Clock::now();
-    Pump();
+    MoveToScreen(ToScreen(window, client));
 }
 
 void ButtonDown(HWND window, CPoint client)
 {
     MoveTo(window, client);
-    PressLeft({Mouse(MOUSEEVENTF_LEFTDOWN, {})});
+    Send({LeftClick(TimeOfNextPress()).front()});
+    Pump();
 }
 
 void ButtonUp()
@@ -179,14 +196,23 @@ void Click(HWND window, CPoint client)
 {
     // Down and up together: a control may run a message loop of its own between them.
     MoveTo(window, client);
-    PressLeft({Mouse(MOUSEEVENTF_LEFTDOWN, {}), Mouse(MOUSEEVENTF_LEFTUP, {})});
+    Send(LeftClick(TimeOfNextPress()));
+    Pump();
 }
 
 void Click(HWND window)
 {
-    CRect client;
-    ::GetClientRect(window, &client);
-    Click(window, client.CenterPoint());
+    Click(window, MiddleOf(window));
+}
+
+void DoubleClick(HWND window, CPoint client)
+{
+    MoveTo(window, client);
+    const DWORD time = TimeOfNextPress();
+    Send(LeftClick(time));
+    Pump();
+    Send(LeftClick(time));
+    Pump();
 }
 
 void QueueKey(WORD virtualKey)
@@ -196,15 +222,27 @@ void QueueKey(WORD virtualKey)
 
 void QueueClick(CPoint screen)
 {
-    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen), Mouse(MOUSEEVENTF_LEFTDOWN, {}),
-          Mouse(MOUSEEVENTF_LEFTUP, {})});
+    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
+    Send(LeftClick(TimeOfNextPress()));
 }
 
 void QueueClick(HWND window)
 {
-    CRect client;
-    ::GetClientRect(window, &client);
-    QueueClick(ToScreen(window, client.CenterPoint()));
+    QueueClick(ToScreen(window, MiddleOf(window)));
+}
+
+void Rest()
+{
+    for (WORD key : {VK_SHIFT, VK_CONTROL, VK_MENU})
+        if (::GetAsyncKeyState(key) < 0)
+            Send({Key(key, true)});
+    if (::GetAsyncKeyState(VK_LBUTTON) < 0)
+        Send({Mouse(MOUSEEVENTF_LEFTUP, {})});
+    MSG quit;
+    while (::PeekMessage(&quit, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) && quit.message == WM_QUIT)
+    {
+    }
+    MoveToScreen(CPoint(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1));
 }
 
 std::wstring TextOf(const CWnd& window)

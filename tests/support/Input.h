@@ -20,8 +20,9 @@ namespace owtest
 /// Dispatches what waits in the queue, through the PreTranslateMessage walk, and returns.
 void Pump();
 
-/// Pumps until the condition holds; false after `timeoutMs` milliseconds without it.
-bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs = 5000);
+/// Pumps until the condition holds; false after `timeoutMs` milliseconds without it, which only a busy machine
+/// or a fault comes near to.
+bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs = 20000);
 
 /// Presses and releases one key; with `shift` or `control` held around it.
 void Press(WORD virtualKey, bool shift = false, bool control = false);
@@ -32,11 +33,15 @@ void Type(std::wstring_view text);
 /// Moves the cursor to a point of the window's client area.
 void MoveTo(HWND window, CPoint client);
 
-/// Presses and releases the left button at a point of the window's client area.
+/// Presses and releases the left button at a point of the window's client area. However fast they follow each
+/// other, two clicks are never a double click.
 void Click(HWND window, CPoint client);
 
 /// Clicks the middle of the window.
 void Click(HWND window);
+
+/// However slow the machine is, this is a double click.
+void DoubleClick(HWND window, CPoint client);
 
 /// Presses the left button and leaves it down; `ButtonUp` lets it go.
 void ButtonDown(HWND window, CPoint client);
@@ -47,6 +52,10 @@ void ButtonUp();
 void QueueKey(WORD virtualKey);
 void QueueClick(CPoint screen);
 void QueueClick(HWND window);
+
+/// What every test starts from: no key and no button is down, nothing waits in the queue, and the mouse rests in
+/// the far corner of the screen, where no list or menu opens under it.
+void Rest();
 
 /// What a window or control shows as its text.
 std::wstring TextOf(const CWnd& window);

@@ -1,6 +1,8 @@
 // The entry point of every test program: an MFC application in a console program.
 
 #include "ChildScenario.h"
+#include "Ending.h"
+#include "Input.h"
 
 #include <afxwin.h>
 
@@ -9,7 +11,18 @@
 namespace
 {
 CWinApp theApp;
+
+class RestBeforeEachTest : public ::testing::EmptyTestEventListener
+{
+    void OnTestStart(const ::testing::TestInfo&) override { owtest::Rest(); }
+};
+
+std::string PresentTest()
+{
+    const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
+    return test ? std::string("in ") + test->test_suite_name() + '.' + test->name() : "outside of its tests";
 }
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -22,5 +35,7 @@ int main(int argc, char** argv)
         return owtest::RunScenario(argv[2]);
 
     ::testing::InitGoogleTest(&argc, argv);
+    ::testing::UnitTest::GetInstance()->listeners().Append(new RestBeforeEachTest); // the list owns it
+    const owtest::EndingGuard guard(&PresentTest);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,108 @@
+#pragma once
+// Random sequences of operations, each of which can be run again, whole or in part.
+//
+//     class CountSequence : public owtest::Sequence
+//     {
+//         void Step() override
+//         {
+//             const int n = Pick(10);
+//             Say("add", n);
+//             m_counter.Add(n);
+//         }
+//         void Check() override { Expect(m_counter.Sum() >= 0, "the sum has run over"); }
+//         Counter m_counter;
+//     };
+//     EXPECT_EQ(CountSequence().Run(owtest::StepsOf(seed, 1000)).failure, "");
+//
+// A step is a number, from which it draws all its choices. So a sequence is a list of numbers, and what a step
+// does hardly changes when others are left out: a sequence that fails can be made shorter (soak.cpp).
+
+#include <cstdio>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace owtest
+{
+using Steps = std::vector<unsigned>;
+
+inline Steps StepsOf(unsigned seed, int count)
+{
+    std::mt19937 random(seed);
+    Steps steps(count);
+    for (unsigned& step : steps)
+        step = random();
+    return steps;
+}
+
+struct SequenceResult
+{
+    int stepsDone = 0;
+    std::string failure; ///< empty if all went well; otherwise what differed, and the steps up to there
+};
+
+class Sequence
+{
+public:
+    virtual ~Sequence() = default;
+    Sequence() = default;
+    Sequence(const Sequence&) = delete;
+    Sequence& operator=(const Sequence&) = delete;
+
+    SequenceResult Run(const Steps& steps)
+    {
+        SequenceResult result;
+        for (const unsigned step : steps)
+        {
+            m_random.seed(step);
+            Step();
+            Check();
+            if (!m_problem.str().empty())
+            {
+                result.failure = "step " + std::to_string(result.stepsDone) + ": " + m_problem.str() +
+                                 "\nsteps:\n" + m_log.str();
+                break;
+            }
+            ++result.stepsDone;
+        }
+        return result;
+    }
+
+    /// Where steps are written as they begin, so that they are known also when one of them ends the program.
+    static inline std::FILE* trace = nullptr;
+
+protected:
+    /// Does one thing, which it has said before.
+    virtual void Step() = 0;
+    /// What must hold after each step.
+    virtual void Check() = 0;
+
+    int Pick(int below) { return below > 0 ? static_cast<int>(m_random() % below) : 0; }
+    template <class... Parts>
+    void Say(const Parts&... parts)
+    {
+        std::ostringstream line;
+        ((line << ' ' << parts), ...);
+        line << '\n';
+        m_log << line.str();
+        if (trace)
+            std::fputs(line.str().c_str(), trace);
+    }
+    template <class... Parts>
+    void Problem(const Parts&... parts)
+    {
+        ((m_problem << parts), ...) << "; ";
+    }
+    void Expect(bool condition, const char* what)
+    {
+        if (!condition)
+            Problem(what);
+    }
+
+private:
+    std::minstd_rand m_random;
+    std::ostringstream m_log;
+    std::ostringstream m_problem;
+};
+} // namespace owtest
