@@ -84,17 +84,20 @@ void CPageManager::RegisterAttributeChangedNotification(AAttributeChangeNotifica
         AfxThrowInvalidArgException();
 }
 
+// A dialog may select another page while it is told of this one: what that one shows stays.
 void CPageManager::PageSelected(CPage* pNew, CPage* pOld)
 {
+    selectedPage = pNew;
     if (ShareDialog(pNew, pOld))
     {
         pOld->SendFocusedControlKillFocusMessage();
-        pNew->ChangeVisibility(true);
+        if (pNew == selectedPage)
+            pNew->ChangeVisibility(true);
         return;
     }
     if (pNew)
         pNew->ChangeVisibility(true);
-    if (pOld)
+    if (pOld && pOld != selectedPage && !ShareDialog(selectedPage, pOld))
         pOld->ChangeVisibility(false);
 }
 

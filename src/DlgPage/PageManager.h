@@ -79,5 +79,6 @@ private:
     CArray<CPage*, CPage*> parents;             ///< for each page its parent, or null
     ow::CClientList<AAddPageNotificationClient> addPageClients;
     ow::CClientList<AAttributeChangeNotificationClient> attributeClients;
-    CDialog* hostDialog; ///< not owned
+    CPage* selectedPage = nullptr; ///< the last one; also while an earlier selection is still at work
+    CDialog* hostDialog;           ///< not owned
 };

@@ -83,6 +83,34 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
     EXPECT_EQ(m_log.Take(), Calls{});
 }
 
+TEST(ManagerOfARedirectingDialog, WhatTheDialogSelectsWhileItIsBoundStaysShown)
+{
+    struct RedirectingDialog : RecordingDialog
+    {
+        using RecordingDialog::RecordingDialog;
+        std::function<void()> redirect;
+        void BindControlsToSources(bool bBind, CPage*) override
+        {
+            if (bBind)
+                redirect();
+        }
+    };
+    PagesHost host(IDD_HOST);
+    ASSERT_TRUE(host.Open());
+    auto* pRedirecting = new RedirectingDialog(IDD_PLAIN, "redirecting", &host, host.log);
+    host.manager.AddDialog(pRedirecting);
+    CPageDialog* const pFields = host.AddDialog(IDD_FIELDS, "fields");
+    CPage* const pFirst = host.AddPage(L"First", pFields, 1);
+    CPage* const pSecond = host.AddPage(L"Second", pFields, 2);
+    CPage* const pThird = host.AddPage(L"Third", pRedirecting, 3);
+    pRedirecting->redirect = [&] { host.manager.PageSelected(pSecond, pThird); };
+
+    host.manager.PageSelected(pFirst, nullptr);
+    host.manager.PageSelected(pThird, pFirst);
+    EXPECT_TRUE(pFields->IsWindowVisible() && pFields->IsWindowEnabled());
+    EXPECT_FALSE(pRedirecting->IsWindowVisible() || pRedirecting->IsWindowEnabled());
+}
+
 TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
 {
     CPageManager manager(&m_host);

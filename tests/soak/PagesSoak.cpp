@@ -38,8 +38,8 @@ private:
 class SoakPageDialog : public CPageDialog, public CEditNNotificationHandler
 {
 public:
-    SoakPageDialog(CWnd* pHost, std::function<void()> react)
-        : CPageDialog(IDD_FIELDS, pHost), m_react(std::move(react))
+    SoakPageDialog(UINT nTemplateId, CWnd* pHost, std::function<void()> react)
+        : CPageDialog(nTemplateId, pHost), m_react(std::move(react))
     {
     }
 
@@ -200,10 +200,13 @@ class PagesSequence : public owtest::Sequence
     }
     void AddDialog()
     {
-        if (m_pHost->dialogs.size() > 5)
+        static constexpr UINT kTemplates[] = {IDD_FIELDS,
+                                              IDD_PLAIN}; // a dialog for each: pages know theirs by it
+        const size_t nDialog = m_pHost->dialogs.size();
+        if (nDialog == std::size(kTemplates))
             return;
         Say("add a dialog");
-        auto* const pDialog = new SoakPageDialog(m_pHost.get(), [this] { React(); });
+        auto* const pDialog = new SoakPageDialog(kTemplates[nDialog], m_pHost.get(), [this] { React(); });
         m_pHost->dialogs.push_back(pDialog);
         m_pHost->manager.AddDialog(pDialog);
     }
