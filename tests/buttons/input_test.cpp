@@ -221,7 +221,7 @@ protected:
         std::thread finger(
             [&]
             {
-                const ULONGLONG deadline = ::GetTickCount64() + 5000;
+                const ULONGLONG deadline = ::GetTickCount64() + 20000;
                 while (m_nCommands < nReleaseAfter && !m_bOver && ::GetTickCount64() < deadline)
                     ::Sleep(1);
                 INPUT release{};

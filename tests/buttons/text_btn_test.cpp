@@ -218,7 +218,7 @@ TEST_F(TextButton, GivesBackItsMenus)
         m_button.SetTexts(Texts({L"%l"}));
         CTextBtnST().SetTexts(Texts({L"%l"}));
     }
-    EXPECT_LE(owtest::CountHandles().user, nBefore + 1);
+    EXPECT_EQ(owtest::CountHandles().user, nBefore);
 }
 
 TEST_F(TextButton, IsAPushButtonWithAnArrowWhateverTheTemplateSays)

@@ -74,7 +74,7 @@ protected:
     /// Works, with nothing but Update to take messages, until the condition holds; false if it never does.
     bool WorkUntil(const std::function<bool()>& condition)
     {
-        const ULONGLONG deadline = ::GetTickCount64() + 5000;
+        const ULONGLONG deadline = ::GetTickCount64() + 20000;
         while (!condition() && ::GetTickCount64() < deadline)
             m_answer = m_progress->Update(m_done++ / 1000);
         return condition();

@@ -1,6 +1,8 @@
 #pragma once
 // Counts of what the process holds, for tests that open and close things many times.
 
+#include <ostream>
+
 #include <windows.h>
 
 namespace owtest
@@ -13,6 +15,11 @@ struct HandleCount
     int user = 0;    ///< menus, icons, cursors and accelerator tables; windows, too, where the system counts
 
     friend bool operator==(const HandleCount&, const HandleCount&) = default;
+    friend std::ostream& operator<<(std::ostream& out, const HandleCount& count)
+    {
+        return out << count.gdi << " GDI objects, " << count.windows << " windows, " << count.user
+                   << " user objects";
+    }
 };
 
 HandleCount CountHandles();
