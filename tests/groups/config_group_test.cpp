@@ -3,7 +3,6 @@
 #include "GroupDialog.h"
 
 #include "EnglishTexts.h"
-#include "Handles.h"
 #include "ModalVisit.h"
 
 #include <algorithm>
@@ -150,11 +149,6 @@ protected:
         set.current = current;
         dialog.emplace(&set, withHandler ? &set : nullptr);
     }
-    void Change()
-    {
-        set.changed = true;
-        dialog->group.Refresh();
-    }
     /// Clicks a button and goes through all the dialogs that this opens; what set and handler were told.
     std::wstring Click(int id, const std::vector<Visitor>& visitors)
     {
@@ -173,52 +167,64 @@ TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
     dialog->Press(idCombo, VK_HOME);
     owtest::Press(VK_DOWN);
     EXPECT_EQ(std::exchange(set.calls, {}), L"current -1;told;current 0;told;");
-    Change();
+    set.changed = true;
+    dialog->group.Refresh();
     EXPECT_EQ(dialog->Rows(), L" Default  Roof  Floor ");
     (*dialog)[idAfter].SetFocus();
     dialog->group.OnExtComboBoxSelChanged(idCombo, -1);
     EXPECT_EQ(set.calls, L"told;") << "no row is no entry";
     EXPECT_EQ(::GetFocus(), (*dialog)[idCombo].m_hWnd);
+    dialog->group.OnButtonClicked(idAfter); // no button of the group
 }
 
-TEST_F(ConfigGroup, SavesUnderATypedNameWithoutTellingTheHandler)
+TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUserAgrees)
 {
-    Open({L"Roof"}, 0);
-    Change();
-    EXPECT_EQ(Click(idSave, {TypeOver(L"Roof", L"Floor")}), L"store Floor;");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof [Floor]");
-    // The group does not judge names.
-    EXPECT_EQ(Click(idSave, {TypeOver(L"Floor", L"")}), L"store ;");
-    EXPECT_EQ(Click(idSave, {TypeOver(L"", L"default")}), L"store default;");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof  Floor   [default]");
-}
-
-TEST_F(ConfigGroup, AsksAgainFromTheCurrentNameUntilANameSuits)
-{
-    Open({L"Roof", L"Floor"}, 0);
-    Change();
-    const Visitor typeFloor = TypeOver(L"Roof", L"Floor");
-    EXPECT_EQ(Click(idSave, {typeFloor, Answer(kOverwrite, kNo), kEscape}), L"");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof  Floor ");
-    EXPECT_EQ(Click(idSave, {TypeOver(L"Roof", L"Default"), Answer(kUnsuitable, kYes), typeFloor,
-                             Answer(kOverwrite, kYes)}),
-              L"store Floor;");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof [Floor]");
-}
-
-TEST_F(ConfigGroup, DeletesTheCurrentEntryWhenTheUserAgrees)
-{
+    struct Step
+    {
+        bool changed; ///< nothing shows as current before the step, and yet there is a current entry
+        int button;
+        std::vector<Visitor> visitors;
+        const wchar_t *calls, *rows;
+    };
+    const Visitor typeWall = TypeOver(L"default", L"Wall"), agree = Answer(kDelete, kYes);
+    const Step steps[] = {
+        {true, idSave, {kEscape}, L"", L" Default  Roof  Floor  Wall "},
+        {false, idSave, {TypeOver(L"Floor", L"Gate")}, L"store Gate;", L" Default  Roof  Floor  Wall [Gate]"},
+        {true,
+         idSave,
+         {TypeOver(L"Gate", L"default")},
+         L"store default;", // the group does not judge names
+         L" Default  Roof  Floor  Wall  Gate [default]"},
+        {true,
+         idSave,
+         {typeWall, Answer(kOverwrite, kNo), kEscape},
+         L"",
+         L" Default  Roof  Floor  Wall  Gate  default "},
+        {true,
+         idSave,
+         {TypeOver(L"default", L"Default"), Answer(kUnsuitable, kYes), typeWall, Answer(kOverwrite, kYes)},
+         L"store Wall;",
+         L" Default  Roof  Floor [Wall] Gate  default "},
+        {false, idDelete, {Answer(kDelete, kNo)}, L"", L" Default  Roof  Floor [Wall] Gate  default "},
+        {true, idDelete, {agree}, L"delete 2;told;", L" Default  Roof [Floor] Gate  default "},
+        {false, idDelete, {agree}, L"delete 1;told;", L" Default [Roof] Gate  default "},
+        {false, idDelete, {agree}, L"delete 0;told;", L"[Default] Gate  default "},
+        {false, idDelete, {Answer(kProtected, kYes)}, L"", L"[Default] Gate  default "},
+    };
     Open({L"Roof", L"Floor", L"Wall"}, 1);
-    EXPECT_EQ(Click(idDelete, {Answer(kDelete, kNo)}), L"");
-    Change(); // nothing shows as current, and yet there is a current entry
-    EXPECT_EQ(Click(idDelete, {Answer(kDelete, kYes)}), L"delete 1;told;");
-    EXPECT_EQ(dialog->Rows(), L" Default [Roof] Wall ");
-    EXPECT_EQ(Click(idDelete, {Answer(kDelete, kYes)}), L"delete 0;told;");
-    EXPECT_EQ(Click(idDelete, {Answer(kProtected, kYes)}), L"");
-    EXPECT_EQ(dialog->Rows(), L"[Default] Wall ");
+    for (const Step& step : steps)
+    {
+        set.changed = step.changed;
+        dialog->group.Refresh();
+        EXPECT_EQ(Click(step.button, step.visitors), step.calls);
+        EXPECT_EQ(dialog->Rows(), step.rows);
+    }
+    const owtest::EnglishTexts english;
+    for (const wchar_t* text : {L"Default", L"Snimi", kUnsuitable, kOverwrite, kProtected, kDelete})
+        EXPECT_TRUE(gOtLang.Has(text)) << CStringA(text).GetString();
 }
 
-TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandler)
+TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandlerAndNoSet)
 {
     Open({L"Roof"}, 0, false);
     set.names = {L"Roof", L"Floor", L"Wall"};
@@ -229,30 +235,9 @@ TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandler)
     EXPECT_EQ(dialog->Rows(), L" Default  Roof ");
     EXPECT_EQ(Click(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate;");
     EXPECT_EQ(dialog->Rows(), L" Default  Roof  Gate ") << "entry 2 has no row yet";
-}
 
-TEST_F(ConfigGroup, ShowsDefaultAloneWithoutASet)
-{
     dialog.emplace(nullptr, &set);
     EXPECT_EQ(Click(idSave, {}) + Click(idDelete, {}), L"");
     dialog->group.OnExtComboBoxSelChanged(idCombo, 0);
     EXPECT_EQ(dialog->Rows(), L"[Default]");
-}
-
-TEST_F(ConfigGroup, HasAllTextsInTheCatalogueAndKeepsNothing)
-{
-    const owtest::EnglishTexts english;
-    for (const wchar_t* text : {L"Default", L"Snimi", kUnsuitable, kOverwrite, kProtected, kDelete})
-        EXPECT_TRUE(gOtLang.Has(text)) << CStringA(text).GetString();
-    const auto round = [&]
-    {
-        Open({L"Roof"}, 0);
-        dialog->group.OnButtonClicked(idAfter); // no button of the group
-        EXPECT_EQ(Click(idSave, {kEscape}), L"");
-    };
-    round();
-    const owtest::HandleCount before = owtest::CountHandles();
-    for (int i = 0; i < 10; ++i)
-        round();
-    EXPECT_EQ(owtest::CountHandles(), before);
 }
