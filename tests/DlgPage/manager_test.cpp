@@ -23,17 +23,6 @@ TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
     EXPECT_EQ(pDialog->GetParent(), &m_host);
 }
 
-TEST_F(Pages, TheManagerOwnsADialogThatHasNoTemplate)
-{
-    const auto addMissing = [&]
-    {
-        CPageManager manager(&m_host);
-        manager.AddDialog(new RecordingDialog(IDD_MISSING, "missing", &m_host, m_log));
-    };
-    EXPECT_THROW(addMissing(), CResourceException*);
-    EXPECT_EQ(m_log.Take(), Calls{"delete missing"});
-}
-
 TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 {
     {
@@ -42,12 +31,15 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
         CPageManager manager(&host);
         for (const char* name : {"one", "two"})
             manager.AddDialog(new RecordingDialog(IDD_PLAIN, name, &host, m_log));
+        EXPECT_THROW(manager.AddDialog(new RecordingDialog(IDD_MISSING, "no template", &host, m_log)),
+                     CResourceException*);
         for (const wchar_t* name : {L"A", L"B"})
             manager.AddPage(new RecordingPage(name, nullptr, 1, m_log), nullptr);
         host.DestroyWindow();
         m_log.Take();
     }
-    EXPECT_EQ(m_log.Take(), (Calls{"delete A", "delete B", "delete one", "delete two"}));
+    EXPECT_EQ(m_log.Take(),
+              (Calls{"delete A", "delete B", "delete one", "delete two", "delete no template"}));
 }
 
 // ---- Selection --------------------------------------------------------------------------------------------
@@ -56,15 +48,15 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 TEST_F(Pages, TheManagerShowsWhatIsSelected)
 {
     RecordingPage *pAlpha = Page(idAlpha), *pBeta = Page(idBeta), *pGamma = Page(idGamma);
+    const Calls showAlpha{"enable fields", "show fields", "bind Alpha", "focus fields"};
+    const Calls showGamma{"enable plain",   "show plain",  "bind Gamma",  "focus plain",
+                          "disable fields", "hide fields", "unbind Alpha"};
     const std::tuple<CPage*, CPage*, Calls> selections[] = {
-        {pAlpha, nullptr, {"enable fields", "show fields", "bind Alpha", "focus fields"}},
-        {pGamma,
-         pAlpha,
-         {"enable plain", "show plain", "bind Gamma", "focus plain", "disable fields", "hide fields",
-          "unbind Alpha"}},
+        {pAlpha, nullptr, showAlpha},
+        {pGamma, pAlpha, showGamma},
         {nullptr, pGamma, {"disable plain", "hide plain", "unbind Gamma"}},
         {nullptr, nullptr, {}},
-        {pAlpha, nullptr, {"enable fields", "show fields", "bind Alpha", "focus fields"}},
+        {pAlpha, nullptr, showAlpha},
         {pBeta, pAlpha, {"bind Beta", "focus fields"}},
         {pBeta, pBeta, {"bind Beta", "focus fields"}},
     };
@@ -142,10 +134,9 @@ TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
     EXPECT_EQ(m_log.Take(), (Calls{"first: B below A", "second: B below A"}))
         << "twice registered, removed once";
 
-    for (RecordingClient* pClient : {&first, &second})
-        manager.RegisterAttributeChangedNotification(pClient, true);
-    for (RecordingClient* pClient : {&first, &second})
-        manager.RegisterAttributeChangedNotification(pClient, false);
+    for (const bool bRegister : {true, false})
+        for (RecordingClient* pClient : {&first, &second})
+            manager.RegisterAttributeChangedNotification(pClient, bRegister);
     manager.AttributeChangedUsingGUI();
     EXPECT_EQ(m_log.Take(), (Calls{"first: changed", "second: changed"}));
     EXPECT_THROW(manager.RegisterAttributeChangedNotification(&unknown, false), CInvalidArgException*);

@@ -78,7 +78,7 @@ TEST_F(Pages, TheFirstClientOfTheTreeStaysAndNullIsPassedOver)
     for (RecordingClient* pClient : {&other, static_cast<RecordingClient*>(nullptr)})
         m_tree.RegisterSelectPageNotification(pClient, true);
     m_tree.SetCurrentPage(Page(idAlpha));
-    EXPECT_EQ(m_host.TakeSelections().size(), 2u);
+    EXPECT_EQ(m_host.TakeSelections(), (Calls{"Alpha after -", "Alpha after -"}));
     for (RecordingClient* pClient : {&m_host.selects, &other, &unknown})
         m_tree.RegisterSelectPageNotification(pClient, false);
     m_tree.SetCurrentPage(Page(idBeta));
