@@ -5,6 +5,7 @@
 
 #include "DialogTemplate.h"
 #include "Input.h"
+#include "Picture.h"
 
 #include <gtest/gtest.h>
 
@@ -30,6 +31,17 @@ public:
     {
         (*this)[nId].SetFocus();
         owtest::Press(key);
+    }
+    /// Whether there is anything to be seen in the middle of a button.
+    bool ShowsPicture(int nId) const
+    {
+        owtest::Surface picture(9, 9);
+        CRect rect;
+        (*this)[nId].UpdateWindow();
+        (*this)[nId].GetClientRect(rect);
+        CClientDC dc(&(*this)[nId]);
+        picture.dc().BitBlt(0, 0, 9, 9, &dc, rect.CenterPoint().x - 4, rect.CenterPoint().y - 4, SRCCOPY);
+        return picture.count(CRect(0, 0, 9, 9), picture.at(0, 0)) < 81;
     }
     /// Types a new text into an edit, and stays there.
     void TypeInto(int nId, const wchar_t* pszText) const

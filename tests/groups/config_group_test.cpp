@@ -164,6 +164,7 @@ TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
 {
     Open({L"Roof", L"Floor"}, 1);
     EXPECT_EQ(dialog->Rows(), L" Default  Roof [Floor]");
+    EXPECT_TRUE(dialog->ShowsPicture(idSave) && dialog->ShowsPicture(idDelete)) << "their icons";
     dialog->Press(idCombo, VK_HOME);
     owtest::Press(VK_DOWN);
     EXPECT_EQ(std::exchange(set.calls, {}), L"current -1;told;current 0;told;");
