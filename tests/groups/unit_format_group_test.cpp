@@ -84,6 +84,14 @@ protected:
         dialog.Click(idElsewhere);
     }
 
+    /// What the user sees, the record, and what was told since the last time.
+    void Expect(const wchar_t* pszSeen, const char* record, const Calls& told = {})
+    {
+        EXPECT_EQ(dialog.Seen(), pszSeen);
+        EXPECT_EQ(Text(dialog.record), record);
+        EXPECT_EQ(dialog.Take(), told);
+    }
+
     FormatDialog dialog;
     CFormatJediniceCtrlGroup& group = dialog.group;
     CFormatJedinice& record = dialog.record;
@@ -101,11 +109,9 @@ TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
     for (const auto& [format, seen] : formats)
     {
         group.SetCtrlState(format);
-        EXPECT_EQ(dialog.Seen(), seen);
-        EXPECT_EQ(Text(record), "3, 1, 4") << "the record is not touched";
+        Expect(seen, "3, 1, 4");
     }
     EXPECT_EQ(Text(group.GetCtrlState()), "-1, 1, 4") << "no fallback for no unit";
-    EXPECT_EQ(dialog.Take(), Calls{}) << "what the program does is not reported";
 }
 
 TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
@@ -113,28 +119,29 @@ TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
     ChangeAll();
     dialog.Click(idEdit);
     dialog.Click(idElsewhere); // is told also if nothing was typed
-    EXPECT_EQ(dialog.Take(), (Calls{"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7", "3: 4, 0, 7"}));
+    Expect(L"in, 0, 7", "4, 0, 7", {"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7", "3: 4, 0, 7"});
+    group.OnExtComboBoxSelChanged(idElsewhere, 0);
+    group.OnEditNChange(idElsewhere);
+    group.OnEditNKillFocus(idElsewhere);
+    dialog.CheckDlgButton(idButton, 1);
+    group.OnButtonClicked(idElsewhere);
+    Expect(L"in, 1, 7", "4, 0, 7");
 }
 
 TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverIndeterminateAgain)
 {
     Open(BS_3STATE);
     group.Update(true, false);
-    const std::pair<UINT, const char*> clicks[] = {{1, "1: 3, 0, 4"}, {0, "1: 3, 1, 4"}, {1, "1: 3, 0, 4"}};
-    for (const auto& [nShown, call] : clicks)
-    {
-        dialog.Click(idButton);
-        EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), nShown);
-        EXPECT_EQ(dialog.Take(), Calls{call});
-    }
+    dialog.Click(idButton);
+    Expect(L", 1, ", "3, 0, 4", {"1: 3, 0, 4"});
+    dialog.Click(idButton);
+    Expect(L", 0, ", "3, 1, 4", {"1: 3, 1, 4"});
     group.OnButtonClicked(idElsewhere);
-    EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "toggled for any id";
-    EXPECT_EQ(dialog.Take(), Calls{});
-
+    Expect(L", 1, ", "3, 1, 4"); // toggled for any id
     Open(BS_AUTO3STATE);
     group.Update(true, false);
     dialog.Click(idButton);
-    EXPECT_EQ(dialog.IsDlgButtonChecked(idButton), 0u) << "the one that toggles by itself is left alone";
+    EXPECT_EQ(dialog.Seen(), L", 0, ") << "the one that toggles by itself is left alone";
 }
 
 TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
@@ -142,51 +149,43 @@ TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
     Open(BS_3STATE);
     record.nCheckFlag = 0;
     group.Update(true, false);
-    EXPECT_EQ(dialog.Seen(), L", 2, ");
-    EXPECT_EQ(Text(record), "3, 0, 4");
+    Expect(L", 2, ", "3, 0, 4");
     group.Update(false, false);
-    EXPECT_EQ(Text(record), "2, 1, 4") << "entry 2, on, and the last number";
-    EXPECT_EQ(dialog.Seen(), L"mm, 2, ");
+    Expect(L"mm, 2, ", "2, 1, 4"); // entry 2, on, and the last number
     record.nUnitIndex = 5;
     group.Update(true, true);
-    EXPECT_EQ(dialog.Seen(), L"ft, 1, 4") << "the same number ends the empty state";
+    Expect(L"ft, 1, 4", "5, 1, 4"); // the same number ends the empty state
     record.nUnitIndex = 0;
     group.Update(false, true);
-    EXPECT_EQ(Text(record), "5, 1, 4");
+    Expect(L"ft, 1, 4", "5, 1, 4");
 }
 
-TEST_F(UnitFormatGroup, IsSilentWithoutARecordAndForOtherControls)
+TEST_F(UnitFormatGroup, IsSilentWithoutARecord)
 {
     group.SetFormatSource(nullptr);
     EXPECT_EQ(dialog[idCombo].SendMessage(CB_GETCOUNT), 0);
     ChangeAll();
     group.Update(true, true);
     group.Update(false, true);
+    Expect(L", 0, 7", "3, 1, 4");
     EXPECT_EQ(Text(group.GetCtrlState()), "-1, 0, 7") << "the controls work";
     group.SetFormatSource(&record);
-    EXPECT_EQ(dialog.Seen(), L"dm, 0, 7") << "the unit at once, the others by Update";
-    group.OnExtComboBoxSelChanged(idElsewhere, 0);
-    group.OnButtonClicked(idElsewhere);
-    group.OnEditNChange(idElsewhere);
-    group.OnEditNKillFocus(idElsewhere);
-    EXPECT_EQ(Text(record), "3, 1, 4");
-    EXPECT_EQ(dialog.Take(), Calls{});
+    Expect(L"dm, 0, 7", "3, 1, 4"); // the unit at once, the others by Update
 }
 
 TEST_F(UnitFormatGroup, EnablesAndShowsAllThree)
 {
     group.Enable(FALSE);
-    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4---");
+    Expect(L"dm, 1, 4---", "3, 1, 4");
     group.Display(TRUE);
-    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4") << "a group that is shown is enabled, too";
+    Expect(L"dm, 1, 4", "3, 1, 4"); // a group that is shown is enabled, too
     group.Display(FALSE);
-    EXPECT_EQ(dialog.Seen(), L"dm, 1, 4------");
+    Expect(L"dm, 1, 4------", "3, 1, 4");
 }
 
-TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
+TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndTheListWithoutARecord)
 {
     dialog.DestroyWindow();
-    dialog.Take();
     group.Update(false, true);
     group.SetCtrlState({0, 0, 0});
     group.OnExtComboBoxSelChanged(idCombo, 0);
@@ -195,26 +194,21 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndComesBackWithThem)
     EXPECT_EQ(Text(record), "3, 1, 4");
     EXPECT_EQ(group.GetCtrlState(), CFormatJedinice());
 
-    Open(BS_AUTOCHECKBOX);
-    CFormatJediniceCtrlGroup lost(idElsewhere, 999, idEdit, nullptr);
-    CDataExchange exchange(&dialog, FALSE);
-    EXPECT_THROW(lost.DoDataExchange(&exchange), CNotSupportedException*) << "the dialog has no such control";
-    lost.SetFormatSource(&record);
-    lost.OnEditNKillFocus(idEdit);
-    EXPECT_EQ(Text(record), "3, 1, 0") << "no handler is no fault";
-}
-
-TEST_F(UnitFormatGroup, LeavesTheListAloneUntilThereIsARecord)
-{
     GroupDialog plain;
     ASSERT_TRUE(plain.Open(Form(BS_AUTOCHECKBOX)));
     plain.SendDlgItemMessage(idCombo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"any unit"));
-    CFormatJediniceCtrlGroup unbound(idCombo, idButton, idEdit, nullptr);
+    CFormatJediniceCtrlGroup unbound(idCombo, idButton, idEdit, nullptr),
+        lost(idElsewhere, 999, idEdit, nullptr);
     CDataExchange exchange(&plain, FALSE);
+    EXPECT_THROW(lost.DoDataExchange(&exchange), CNotSupportedException*) << "the dialog has no such control";
     unbound.DoDataExchange(&exchange);
     unbound.SetCtrlState({0, 1, 4});
     EXPECT_EQ(plain.TextOf(idCombo), L"any unit");
     unbound.SetFormatSource(&record);
     EXPECT_EQ(plain.SendDlgItemMessage(idCombo, CB_GETCOUNT), 6);
+    unbound.OnExtComboBoxSelChanged(idCombo, 3); // no handler is no fault
+    lost.SetFormatSource(&record);
+    lost.OnEditNKillFocus(idEdit);
+    EXPECT_EQ(Text(record), "3, 1, 0") << "nor is no window";
     plain.DestroyWindow();
 }
