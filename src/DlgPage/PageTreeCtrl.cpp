@@ -48,12 +48,10 @@ BOOL CPageTreeCtrl::PreTranslateMessage(MSG* pMsg)
 void CPageTreeCtrl::PageAdded(CPage* pPage, CPage* pParent)
 {
     const HTREEITEM hParent = pParent ? PageToItem(pParent) : TVI_ROOT; // null goes to the root as well
-    const HTREEITEM hItem = InsertItem(TVIF_TEXT, pPage->GetTreeItemName(), 0, 0, 0, 0, 0, hParent, TVI_LAST);
+    const HTREEITEM hItem = InsertItem(pPage->GetTreeItemName(), hParent, TVI_LAST);
     pageToItem.SetAt(pPage, hItem);
-
     // Wanted: the low 32 bits only.
-    const auto nWord = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(pPage));
-    SetItem(hItem, TVIF_PARAM, nullptr, 0, 0, 0, 0, static_cast<LPARAM>(nWord));
+    SetItemData(hItem, static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(pPage)));
 }
 
 CPage* CPageTreeCtrl::GetCurrentPage() const

@@ -107,7 +107,11 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && group.OnInitDialog() == 1; }
+    BOOL OnInitDialog() override
+    {
+        EXPECT_TRUE(CDialog::OnInitDialog() && group.OnInitDialog() == 1);
+        return TRUE;
+    }
 };
 
 /// Types a name in place of what the name dialog begins with, and accepts; expects that beginning.

@@ -88,7 +88,7 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && group.OnInitDialog() == 1; }
+    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && group.OnInitDialog(); }
     void OnFontGroupChanged(CFontCtrlGroup* pGroup, epgFont* pFont) override
     {
         EXPECT_TRUE(pGroup == &group && pFont == &record);
