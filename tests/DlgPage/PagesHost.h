@@ -17,7 +17,7 @@ using Calls = std::vector<std::string>;
 struct CallLog
 {
     Calls calls;
-    void Add(std::string text) { calls.push_back(std::move(text)); }
+    void Add(const std::string& text) { calls.push_back(text); }
     Calls Take() { return std::exchange(calls, {}); }
 };
 

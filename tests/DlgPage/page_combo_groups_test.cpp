@@ -75,16 +75,8 @@ protected:
 using PageComboButtonGroup = PageComboGroups<ButtonGroup>;
 using PageComboCheckGroup = PageComboGroups<CheckGroup>;
 
-struct Names
-{
-    template <class Group>
-    static std::string GetName(int)
-    {
-        return std::is_same_v<Group, CheckGroup> ? "Check" : "Button";
-    }
-};
 using Groups = ::testing::Types<ButtonGroup, CheckGroup>;
-TYPED_TEST_SUITE(PageComboGroups, Groups, Names);
+TYPED_TEST_SUITE(PageComboGroups, Groups);
 } // namespace
 
 TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
@@ -99,8 +91,8 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     struct Step
     {
         Move move;
-        const char *from, *to,
-            *row; ///< the pages that are told of; and the row, with a plus if there is a toggle
+        const char *from, *to; ///< the pages that are told of
+        const char* row;       ///< with a plus if there is a toggle
     };
     const Step steps[] = {
         {key(VK_DOWN), "-", "Alpha", "0+"},
@@ -166,20 +158,18 @@ TYPED_TEST(PageComboGroups, TellTheClientsBeforeTheRowChangesByCode)
 {
     struct Watch : ASelectPageNotificationClient
     {
-        explicit Watch(const ACurrentPageProvider& provider) : provider(provider) {}
-        void PageSelected(CPage*, CPage*) override { seen += NameOf(provider.GetCurrentPage()) + " "; }
-        const ACurrentPageProvider& provider;
+        const ACurrentPageProvider* pProvider = nullptr;
         std::string seen;
-    } watch(this->group);
-    for (ASelectPageNotificationClient* pClient : {&watch, static_cast<Watch*>(nullptr)})
-        this->group.RegisterSelectPageNotification(pClient, true);
+        void PageSelected(CPage*, CPage*) override { seen += NameOf(pProvider->GetCurrentPage()) + " "; }
+    } watch;
+    watch.pProvider = &this->group;
+    this->group.RegisterSelectPageNotification(&watch, true);
+    this->group.RegisterSelectPageNotification(nullptr, true);
     this->group.SetCurrentPage(this->Page(idBeta));
     this->group.SetCurrentPage(this->Page(idDelta));
     EXPECT_EQ(watch.seen, "- Beta ");
-    for (ASelectPageNotificationClient* pClient :
-         {static_cast<ASelectPageNotificationClient*>(&this->host.selects),
-          static_cast<ASelectPageNotificationClient*>(&watch)})
-        this->group.RegisterSelectPageNotification(pClient, false);
+    this->group.RegisterSelectPageNotification(&this->host.selects, false);
+    this->group.RegisterSelectPageNotification(&watch, false);
     this->host.TakeSelections();
     this->group.SetCurrentPage(this->Page(idBeta));
     EXPECT_EQ(this->host.TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";

@@ -112,9 +112,9 @@ TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
         EXPECT_EQ(watch.commits, nCommits) << CStringA(pszClass);
     }
     ::SetFocus(nullptr);
+    m_host.fields->SendFocusedControlKillFocusMessage();
     MSG enter{m_host, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
     EXPECT_FALSE(m_host.fields->PreTranslateMessage(&enter));
-    m_host.fields->SendFocusedControlKillFocusMessage();
 }
 
 TEST_F(PageInput, ATypedValueIsKeptWhenThePageChangesWithoutLeavingTheBox)

@@ -75,8 +75,8 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
 TEST_F(Pages, TheFirstClientOfTheTreeStaysAndNullIsPassedOver)
 {
     RecordingClient other(m_log, "other"), unknown(m_log, "unknown");
-    for (RecordingClient* pClient : {&other, static_cast<RecordingClient*>(nullptr)})
-        m_tree.RegisterSelectPageNotification(pClient, true);
+    m_tree.RegisterSelectPageNotification(&other, true);
+    m_tree.RegisterSelectPageNotification(nullptr, true);
     m_tree.SetCurrentPage(Page(idAlpha));
     EXPECT_EQ(m_host.TakeSelections(), (Calls{"Alpha after -", "Alpha after -"}));
     for (RecordingClient* pClient : {&m_host.selects, &other, &unknown})
