@@ -1,6 +1,6 @@
 // The hook for texts in another character set: its font, its text messages, and who goes first.
 
-#include "NumbersDialog.h"
+#include "Boxes.h"
 
 #include "Handles.h"
 #include "SubLanguage.h"
@@ -9,7 +9,6 @@
 
 namespace
 {
-constexpr int kFonts = 0x0A;                                    ///< type of a GDI object
 constexpr wchar_t kGreek[] = L"\u0394\u03bf\u03ba\u03cc\u03c2"; // five letters
 
 class OpenHook : public CEditCtrlAnsiMsgHook
@@ -36,6 +35,7 @@ protected:
         ASSERT_TRUE(made.Create(WS_CHILD | style, CRect(0, 0, 200, 60), &parent, 1));
         made.SetFont(&font);
     }
+    static int CountFonts() { return owtest::CountGdiObjects(0x0A); }
     static BYTE CharSetOf(const CWnd& window) { return owtest::FontOf(window).lfCharSet; }
     static bool HasNoFont(const CWnd& window) { return ::SendMessageW(window.m_hWnd, WM_GETFONT, 0, 0) == 0; }
 
@@ -48,7 +48,7 @@ protected:
 
 TEST_F(AnsiHook, GivesABoxItsFontInTheOtherCharacterSetAndAfterwardsTheParents)
 {
-    const int fonts = owtest::CountGdiObjects(kFonts);
+    const int fonts = CountFonts();
     OpenHook hook;
     for (int i = 0; i < 2; ++i) // the same box again gets a font again
     {
@@ -56,7 +56,7 @@ TEST_F(AnsiHook, GivesABoxItsFontInTheOtherCharacterSetAndAfterwardsTheParents)
         EXPECT_EQ(CharSetOf(box), GREEK_CHARSET);
         EXPECT_STREQ(owtest::FontOf(box).lfFaceName,
                      i ? owtest::FontOf(parent).lfFaceName : L"Liberation Sans");
-        EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts + 1);
+        EXPECT_EQ(CountFonts(), fonts + 1);
         hook._CreateCustomFont(RUSSIAN_CHARSET);
         EXPECT_EQ(CharSetOf(box), GREEK_CHARSET) << "there is one already";
         EXPECT_EQ(hook.HookWindow(&parent), 0) << "one box at a time";
@@ -66,14 +66,21 @@ TEST_F(AnsiHook, GivesABoxItsFontInTheOtherCharacterSetAndAfterwardsTheParents)
         EXPECT_TRUE(HasNoFont(box)) << "no other one for this box";
         hook.Unhook();
         EXPECT_FALSE(hook.IsHooked());
-        EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
+        EXPECT_EQ(CountFonts(), fonts);
     }
+    owtest::SubLanguage::SetDisplays();
+    EXPECT_EQ(hook.HookWindow(&box), 1);
+    EXPECT_FALSE(hook.IsHooked()) << "no need where the character set is the display's";
+    EXPECT_TRUE(HasNoFont(box));
 }
 
 TEST_F(AnsiHook, GoesBeforeOrAfterItsBoxWithoutAFontLeft)
 {
-    const int fonts = owtest::CountGdiObjects(kFonts);
+    const int fonts = CountFonts();
     auto hook = std::make_unique<OpenHook>();
+    EXPECT_EQ(hook->HookWindow(nullptr), 0);
+    hook->_CreateCustomFont(GREEK_CHARSET);
+    hook->_DeleteCustomFont();
     for (int i = 0; i < 2; ++i)
     {
         CEdit next;
@@ -82,20 +89,16 @@ TEST_F(AnsiHook, GoesBeforeOrAfterItsBoxWithoutAFontLeft)
         EXPECT_EQ(CharSetOf(next), GREEK_CHARSET) << i;
         next.DestroyWindow();
         EXPECT_FALSE(hook->IsHooked());
-        EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "at once, and not with the hook";
+        EXPECT_EQ(CountFonts(), fonts) << "at once, and not with the hook";
     }
-    for (int i = 0; i < 2; ++i)
+    for (int i = 0; i < 3; ++i) // left through the base class, through the hook, and with the hook
     {
-        hook->HookWindow(&box);
+        ASSERT_EQ(hook->HookWindow(&box), 1);
         EXPECT_EQ(CharSetOf(box), GREEK_CHARSET);
-        i ? hook->Unhook() : static_cast<CMsgHook&>(*hook).Unhook();
+        i == 0 ? static_cast<CMsgHook&>(*hook).Unhook() : i == 1 ? hook->Unhook() : hook.reset();
+        EXPECT_EQ(CountFonts(), i == 0 ? fonts + 1 : fonts);
     }
     EXPECT_TRUE(HasNoFont(box));
-    EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
-    hook->HookWindow(&box);
-    static_cast<CMsgHook&>(*hook).Unhook();
-    hook.reset();
-    EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
 
     CEdit alone; // no parent to take a font from
     ASSERT_TRUE(alone.CreateEx(0, L"EDIT", L"", WS_POPUP, CRect(0, 0, 50, 20), nullptr, 0));
@@ -103,18 +106,6 @@ TEST_F(AnsiHook, GoesBeforeOrAfterItsBoxWithoutAFontLeft)
     OpenHook().HookWindow(&alone);
     EXPECT_TRUE(HasNoFont(alone));
     alone.DestroyWindow();
-}
-
-TEST_F(AnsiHook, StaysAwayWhereTheCharacterSetIsTheDisplays)
-{
-    OpenHook hook;
-    EXPECT_EQ(hook.HookWindow(nullptr), 0);
-    hook._CreateCustomFont(GREEK_CHARSET);
-    hook._DeleteCustomFont();
-    owtest::SubLanguage::SetDisplays();
-    EXPECT_EQ(hook.HookWindow(&box), 1);
-    EXPECT_FALSE(hook.IsHooked());
-    EXPECT_NE(CharSetOf(box), GREEK_CHARSET);
 }
 
 TEST_F(AnsiHook, FillsHalfOfABufferAndTheWholeTextIsReadAllTheSame)
@@ -129,12 +120,11 @@ TEST_F(AnsiHook, FillsHalfOfABufferAndTheWholeTextIsReadAllTheSame)
             std::wstring buffer(20, L'~');
             EXPECT_EQ(box.SendMessage(WM_GETTEXT, room, reinterpret_cast<LPARAM>(buffer.data())), 5);
             std::wstring expected = std::wstring(kGreek).substr(0, room / 2);
-            if (room > 0)
-                expected += L'\0';
-            EXPECT_EQ(buffer, expected + std::wstring(20 - expected.size(), L'~')) << room;
+            expected.append(room > 0, L'\0').resize(20, L'~');
+            EXPECT_EQ(buffer, expected) << room;
         }
         EXPECT_EQ(box.SendMessage(WM_GETTEXT, 10, 0), 5) << "no buffer";
-        EXPECT_EQ(owtest::TextOf(box), std::wstring(kGreek, 3)) << "half of a text and its end";
+        EXPECT_EQ(TextOf(box), std::wstring(kGreek, 3)) << "half of a text and its end";
         EXPECT_EQ(gfnWholeText(box), kGreek);
         EXPECT_EQ(CEditCtrlAnsiInterface(box).GetText(), kGreek);
     }
@@ -156,34 +146,33 @@ TEST_F(AnsiHook, FillsHalfOfABufferAndTheWholeTextIsReadAllTheSame)
     ASSERT_TRUE(label.Create(L"", WS_CHILD, CRect(0, 0, 50, 20), &parent));
     ASSERT_EQ(other.HookWindow(&label), 1);
     label.SetWindowText(L"all of it");
-    EXPECT_EQ(owtest::TextOf(label), L"all of it") << "no edit control";
+    EXPECT_EQ(TextOf(label), L"all of it") << "no edit control";
     EXPECT_EQ(CharSetOf(label), GREEK_CHARSET);
 }
 
-TEST_F(Numbers, LoseNothingThatIsTypedUnderAHook)
+TEST_F(Boxes, LoseNothingThatIsTypedUnderAHook)
 {
     const owtest::SubLanguage russian(LANG_RUSSIAN);
     CEditCtrlAnsiMsgHook hooks[2];
     dialog.own.SetFormat(eDoubleFormatFixed, 4);
     ASSERT_EQ(hooks[0].HookWindow(&dialog.own), 1);
-    ASSERT_EQ(hooks[1].HookWindow(&dialog.count), 1);
+    ASSERT_EQ(hooks[1].HookWindow(&dialog.whole), 1);
     for (const bool ansi : {false, true})
     {
         dialog.own.SetAnsiInterface(ansi);
-        dialog.count.SetAnsiInterface(ansi);
-        TypeInto(dialog.own, L"123456.7891");
-        EXPECT_EQ(dialog.own.GetValue(), 123456.7891);
-        EXPECT_EQ(handler.Take().size(), 11u) << "one call for each key";
-        Leave(dialog.own);
-        EXPECT_EQ(gfnWholeText(dialog.own), L"123456.7891");
-        TypeInto(dialog.count, L"-1234567");
-        EXPECT_EQ(dialog.count.GetValue(), -1234567);
+        dialog.whole.SetAnsiInterface(ansi);
+        TypeInto(dialog.own, L"12345.789");
+        EXPECT_EQ(dialog.own.GetValue(), 12345.789);
+        CallsWhenLeft(dialog.own);
+        EXPECT_EQ(gfnWholeText(dialog.own), L"12345.7890");
+        owtest::Press(VK_UP);
+        TypeInto(dialog.whole, L"-1234567");
+        EXPECT_EQ(dialog.whole.GetValue(), -1234567);
+        EXPECT_EQ(gfnWholeText(dialog.whole), L"-1234567");
 
         dialog.own.SetSpinStep(1);
-        NM_UPDOWN press{};
-        press.iDelta = 1;
-        LRESULT lResult = 0;
-        dialog.own.OnSpinDeltapos(&press, &lResult);
-        EXPECT_EQ(dialog.own.GetValue(), 123458.0) << "from all of the text to the next whole number and on";
+        dialog.own.SetFocus();
+        owtest::Press(VK_UP);
+        EXPECT_EQ(dialog.own.GetValue(), 12347.0) << "from all of the text to the next whole number and on";
     }
 }

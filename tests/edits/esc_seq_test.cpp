@@ -1,38 +1,32 @@
 // Boxes for label templates: what their buttons offer, where a code is inserted, what is told and stored.
 
-#include "EditsDialog.h"
+#include "Boxes.h"
 
-#include "DialogTemplate.h"
+#include "EnglishTexts.h"
 #include "MenuVisit.h"
 #include "SubLanguage.h"
 
-#include <Translator.h>
-
 #include <memory>
+#include <optional>
 
 namespace
 {
 constexpr int kBox = 1001, kButton = 1002, kNext = 1003;
 
 /// Refuses texts with a "!".
-class StrictBox : public CEditAcadEscSeqSpecLima
+struct StrictBox : CEditAcadEscSeqSpecLima
 {
-public:
     using CEditAcadEscSeqSpecLima::CEditAcadEscSeqSpecLima;
     bool IsTextValid(const CString& strText) const override { return strText.Find(L'!') < 0; }
 };
 
-/// A box, its button, and a plain box behind them.
+/// A box, its button, and a plain box behind them, which has the focus.
 class EscSeq : public ::testing::Test
 {
 protected:
-    EscSeq()
-    {
-        m_handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
-    }
     ~EscSeq() override { m_dialog.DestroyWindow(); }
 
-    template <class Box>
+    template <class Box = StrictBox>
     Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kButton, bool bNoDimensions = false)
     {
         m_dialog.DestroyWindow();
@@ -45,24 +39,20 @@ protected:
                               .Edit(kBox, 4, 4, 80, 40, dwStyle)
                               .Button(L"Insert", kButton, 90, 4, 50, 14)
                               .Edit(kNext, 4, 50, 80, 14);
-        EXPECT_TRUE(m_dialog.CreateIndirect(form.get(), nullptr));
-        EXPECT_TRUE(m_box->SubclassDlgItem(kBox, &m_dialog));
+        EXPECT_TRUE(m_dialog.CreateIndirect(form.get()) && m_box->SubclassDlgItem(kBox, &m_dialog));
         m_dialog.ShowWindow(SW_SHOW);
         EXPECT_TRUE(owtest::Activate(m_dialog));
         m_dialog.GetDlgItem(kNext)->SetFocus();
         m_handler.Take();
+        m_handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
         return shown;
     }
     HWND Button() { return m_dialog.GetDlgItem(kButton)->m_hWnd; }
-    bool FocusArrives(HWND hWnd)
-    {
-        return owtest::PumpUntil([=] { return ::GetFocus() == hWnd; });
-    }
     /// Goes to the box by a click, and then to a place in it.
     void Enter(int nPlace, BOOL bNoScroll = FALSE)
     {
         owtest::Click(*m_box, CPoint(40, 8));
-        EXPECT_TRUE(FocusArrives(*m_box));
+        EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_box->m_hWnd; }));
         m_box->SetSel(nPlace, nPlace, bNoScroll);
     }
     /// Chooses from the menu of the button with the mouse; the text afterwards.
@@ -72,7 +62,7 @@ protected:
         owtest::Click(Button());
         EXPECT_EQ(visit.Count(), 1);
         EXPECT_EQ(::GetFocus(), m_box->m_hWnd);
-        EXPECT_EQ(owtest::TextOf(*m_box), m_box->GetValue().GetString());
+        EXPECT_EQ(TextOf(*m_box), m_box->GetValue().GetString());
         return m_box->GetValue();
     }
     std::wstring Menu()
@@ -89,7 +79,7 @@ protected:
         return text;
     }
 
-    RecordingHandler m_handler;
+    Recorder m_handler;
     std::unique_ptr<CEditEscSeqText> m_box;
     CDialog m_dialog;
 };
@@ -113,7 +103,7 @@ std::wstring Codes(const CEditEscSeqText& box)
 
 TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
 {
-    ASSERT_TRUE(gOtLang.Load(L"locale\\en.po"));
+    std::optional<owtest::EnglishTexts> english(std::in_place);
     CEditAcadEscSeqSpecStapa member;
     CEditAcadEscSeqSpecLima plate;
     EXPECT_EQ(Codes(CEditAcadEscSeqText()), L"%%c");
@@ -122,12 +112,11 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     EXPECT_EQ(Codes(CEditAcadEscSeqSpecProizvStapa()), L"%i%f%m%o%d%a%n%k%l%p%s%h");
     EXPECT_EQ(Codes(CEditEscSeqText(nullptr, 0)), L"");
     member.m_bNoDimensions = plate.m_bNoDimensions = true;
-    EXPECT_EQ(Codes(member), L"%i%f%m%o");
-    EXPECT_EQ(Codes(plate), L"%i%h");
+    EXPECT_EQ(Codes(member) + Codes(plate), L"%i%f%m%o%i%h");
 
     auto& box = Show<CEditAcadEscSeqSpecLima>(0, kButton, true);
     EXPECT_EQ(Menu(), L"%i - dimension symbol\n%h - plate thickness\n");
-    gOtLang.Unload();
+    english.reset();
     box.m_bNoDimensions = false;
     EXPECT_EQ(Menu(), L"%i - dimension symbol\n%h - plate thickness\n") << "read once";
     box.UpdateEscSeqList();
@@ -139,7 +128,7 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
 
 TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
 {
-    Show<CEditAcadEscSeqSpecLima>();
+    Show();
     EXPECT_EQ(Insert(1), L"%l") << "never focused: at the beginning";
     Enter(2);
     owtest::Type(L"ab");
@@ -147,7 +136,7 @@ TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
     m_handler.Take();
     EXPECT_EQ(Insert(2), L"%la%wb");
     EXPECT_EQ(m_handler.Take(),
-              (Calls{"leave 1001: %lab", "enter 1001: %lab", "change 1001: %la%wb", "change 1001: %la%wb"}));
+              "leave 1001: %lab; enter 1001: %lab; change 1001: %la%wb; change 1001: %la%wb; ");
     EXPECT_EQ(Insert(3), L"%la%w%hb") << "behind the code before";
     owtest::Type(L"x");
     owtest::Press(VK_LEFT, true); // the caret at the left end of a selection, and then at the right one
@@ -160,7 +149,7 @@ TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
 
 TEST_F(EscSeq, WorksByKeysAlone)
 {
-    Show<CEditAcadEscSeqSpecLima>();
+    Show();
     m_box->SetValue(L"ab");
     for (const auto& [last, pszText] : {std::pair<WORD, LPCWSTR>(VK_ESCAPE, L"ab"), {VK_RETURN, L"a%ib"}})
     {
@@ -168,19 +157,18 @@ TEST_F(EscSeq, WorksByKeysAlone)
         m_box->SetFocus();
         m_box->SetSel(1, 1);
         owtest::Press(VK_TAB);
-        ASSERT_TRUE(FocusArrives(Button()));
+        ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }));
         owtest::Press(VK_SPACE);
         EXPECT_STREQ(m_box->GetValue(), pszText);
         EXPECT_EQ(::GetFocus(), last == VK_ESCAPE ? Button() : m_box->m_hWnd);
-        const LRESULT nCode = ::SendMessage(Button(), WM_GETDLGCODE, 0, 0);
-        EXPECT_EQ((nCode & DLGC_DEFPUSHBUTTON) != 0, last == VK_ESCAPE)
-            << "the default button is where the focus is";
+        const bool bDefault = (::SendMessage(Button(), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
+        EXPECT_EQ(bDefault, last == VK_ESCAPE) << "the default button is where the focus is";
     }
 }
 
 TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
 {
-    Show<CEditAcadEscSeqSpecLima>(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
+    Show(ES_MULTILINE | ES_AUTOVSCROLL | ES_AUTOHSCROLL);
     for (const CString& strFirst : {CString(L"a long first line\r\nx"), CString(L'-', 70000) + L"\r\n"})
     {
         const int nFirst = strFirst.GetLength();
@@ -192,61 +180,56 @@ TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
     }
 }
 
-TEST_F(EscSeq, LosesNothingUnderAHookForAnotherCharacterSet)
+TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedText)
 {
-    const owtest::SubLanguage greek(LANG_GREEK);
-    CEditCtrlAnsiMsgHook hook;
-    auto& box = Show<StrictBox>();
-    ASSERT_EQ(hook.HookWindow(&box), 1);
-    Enter(0);
-    owtest::Type(L"abcdef!");
-    EXPECT_STREQ(box.GetValue(), L"abcdef");
-    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid());
-    box.OnTextChosen(kButton, 0);
-    EXPECT_EQ(gfnWholeText(box), L"%iabcdef!");
-}
-
-TEST_F(EscSeq, ARefusedTextIsNotStoredAndNotOverwritten)
-{
-    auto& box = Show<StrictBox>();
+    auto& box = Show();
     box.SetValue(L"ok");
     box.SetValue(L"no!");
-    EXPECT_EQ(owtest::TextOf(box), L"ok");
+    EXPECT_EQ(TextOf(box), L"ok");
     EXPECT_TRUE(box.IsDataCurrentlyInGUIValid());
     box.SafeSetWindowText(L"shown");
     box.OnTextChosen(kButton, 3);
     EXPECT_STREQ(box.GetValue(), L"%hok") << "what the program showed without storing it does not count";
     Enter(0);
     owtest::Type(L"!");
-    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid());
     box.OnTextChosen(kButton, 1); // without leaving the box
-    EXPECT_EQ(owtest::TextOf(box), L"%l!%hok");
+    EXPECT_EQ(TextOf(box), L"%l!%hok");
     EXPECT_STREQ(box.GetValue(), L"%hok");
-    EXPECT_FALSE(box.ValidateAndStoreDataFromGUI());
+    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid() || box.ValidateAndStoreDataFromGUI());
     EXPECT_EQ(Insert(1), L"%h%lok") << "leaving the box took the refused text away";
     EXPECT_TRUE(box.ValidateAndStoreDataFromGUI());
+
+    const owtest::SubLanguage greek(LANG_GREEK);
+    CEditCtrlAnsiMsgHook hook;
+    ASSERT_EQ(hook.HookWindow(&Show()), 1);
+    Enter(0);
+    owtest::Type(L"abcdef!");
+    EXPECT_STREQ(m_box->GetValue(), L"abcdef") << "all of it also under a hook, which hands out the half";
+    EXPECT_FALSE(m_box->IsDataCurrentlyInGUIValid());
+    m_box->OnTextChosen(kButton, 0);
+    EXPECT_EQ(gfnWholeText(*m_box), L"%iabcdef!");
 }
 
 TEST_F(EscSeq, IgnoresWhatItCannotInsert)
 {
-    auto& box = Show<CEditAcadEscSeqSpecLima>();
+    auto& box = Show();
     box.SetValue(L"ab");
     for (const auto& [nId, nIndex] : {std::pair(kButton, -1), {kButton, 4}, {kNext, 0}})
         box.OnTextChosen(nId, nIndex);
     box.SetReadOnly();
     box.OnTextChosen(kButton, 0);
-    EXPECT_EQ(m_handler.Take(), Calls{});
-    EXPECT_EQ(owtest::TextOf(box), L"ab");
+    EXPECT_EQ(m_handler.Take(), "");
+    EXPECT_EQ(TextOf(box), L"ab");
     box.SetReadOnly(FALSE);
     box.SetAnsiInterface(true);
     box.OnTextChosen(kButton, 0);
-    EXPECT_EQ(owtest::TextOf(box), L"%iab");
-
-    box.SafeSetWindowText(L"new");
-    box.SetValue(L"%iab");
-    EXPECT_EQ(owtest::TextOf(box), L"new") << "an equal value is not written";
-    box.SetValue(L"%iab", true);
-    EXPECT_EQ(owtest::TextOf(box), L"%iab");
+    EXPECT_EQ(TextOf(box), L"%iab");
+    for (const bool bForce : {false, true})
+    {
+        box.SafeSetWindowText(L"new");
+        box.SetValue(L"%iab", bForce);
+        EXPECT_EQ(TextOf(box), bForce ? L"%iab" : L"new");
+    }
     m_dialog.DestroyWindow();
     box.OnTextChosen(kButton, 0);
     EXPECT_FALSE(box.IsDataCurrentlyInGUIValid() || box.ValidateAndStoreDataFromGUI());
@@ -257,7 +240,7 @@ TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
 {
     for (const int nButton : {kButton, 0, 1999, kBox})
     {
-        auto& box = Show<CEditAcadEscSeqText>(ES_AUTOHSCROLL | WS_DISABLED, nButton);
+        auto& box = Show(ES_AUTOHSCROLL | WS_DISABLED, nButton);
         const bool bOwn = nButton == kButton;
         EXPECT_EQ(CWnd::FromHandlePermanent(Button()) != nullptr, bOwn);
         EXPECT_EQ(!::IsWindowEnabled(Button()), bOwn);
@@ -275,18 +258,18 @@ TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
 
 TEST_F(EscSeq, MayBeMadeByCreateAndMoreThanOnce)
 {
-    Show<CEditAcadEscSeqText>(ES_AUTOHSCROLL, 0);
+    Show(ES_AUTOHSCROLL, 0);
     CEditAcadEscSeqText box(nullptr, kButton);
     box.SetValue(L"ab");
-    const auto create = [&]
-    { return box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &m_dialog, 1010); };
-    ASSERT_TRUE(create());
-    box.SetFocus();
-    box.SetSel(2, 2);
-    m_dialog.GetDlgItem(kNext)->SetFocus();
-    box.DestroyWindow();
-    ASSERT_TRUE(create());
-    box.OnTextChosen(kButton, 0);
+    for (const bool bAgain : {false, true})
+    {
+        ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &m_dialog, 1010));
+        if (bAgain)
+            box.OnTextChosen(kButton, 0);
+        box.SetFocus();
+        box.SetSel(2, 2);
+        m_dialog.GetDlgItem(kNext)->SetFocus();
+        box.DestroyWindow();
+    }
     EXPECT_STREQ(box.GetValue(), L"%%cab") << "a new window has had no caret yet";
-    box.DestroyWindow();
 }

@@ -1,0 +1,126 @@
+#pragma once
+// A dialog with the boxes of this room, and a handler that writes down what it is told.
+
+#include <DialogControlsOW.h>
+
+#include "DialogTemplate.h"
+#include "Input.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+#include <utility>
+
+using owtest::TextOf;
+
+constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006;
+constexpr WORD kGivenUnit = 1007, kGivenSpin = 1008, kFree = 1009;
+
+inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)};
+inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
+
+/// Writes down each call as "change 1001; ", with what the test wants to know at that moment behind the id.
+class Recorder : public CEditDWRNotificationHandler
+{
+public:
+    std::function<std::string()> look = [] { return ""; };
+    std::string Take() { return std::exchange(m_calls, {}); }
+
+    void OnEditNChange(int nId) override { Record("change ", nId); }
+    void OnEditNSetFocus(int nId) override { Record("enter ", nId); }
+    void OnEditNKillFocus(int nId) override { Record("leave ", nId); }
+    void OnEditDWRSpinDeltaPos(int nId) override { Record("spin ", nId); }
+
+private:
+    void Record(const char* what, int nId) { m_calls += what + std::to_string(nId) + look() + "; "; }
+
+    std::string m_calls;
+};
+
+/// Makes its label and its spin itself.
+struct OwnControlsBox : CEditDoubleWithRange
+{
+    explicit OwnControlsBox(CEditNNotificationHandler* pHandler = nullptr)
+        : CEditDoubleWithRange(pHandler, c_nCreateControl, c_nCreateControl)
+    {
+    }
+    CWnd& Label() const { return *GetParent()->GetDlgItem(GetComplexUnitStaticId()); }
+    CWnd& Spin() const { return *GetParent()->GetDlgItem(GetSpinCtrlId()); }
+};
+
+struct BoxesDialog : CDialog
+{
+    explicit BoxesDialog(CEditNNotificationHandler* pHandler)
+        : whole(pHandler), lines(pHandler), plain(pHandler), readOnly(pHandler), own(pHandler),
+          given(pHandler, kGivenUnit, kGivenSpin)
+    {
+    }
+
+    CEditIntegerWithRange whole;
+    CEditN lines, plain, readOnly;
+    OwnControlsBox own;
+    CEditDoubleWithRange given; ///< finds its label and its spin in the template
+    int oks = 0, cancels = 0;
+
+    bool Open()
+    {
+        const auto form = owtest::DialogTemplate(L"Boxes", 180, 120)
+                              .Style(WS_POPUP | WS_VISIBLE | WS_CAPTION)
+                              .Edit(kWhole, 10, 10, 70, 14)
+                              .Edit(kLines, 10, 26, 70, 14, ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL)
+                              .Edit(kPlain, 10, 42, 70, 14)
+                              .Edit(kReadOnly, 10, 58, 70, 14, ES_READONLY)
+                              .Edit(kOwn, 10, 74, 70, 14)
+                              .Edit(kGiven, 10, 90, 70, 14)
+                              .Item(UPDOWN_CLASSW, L"", kGivenSpin, UDS_ARROWKEYS, 80, 90, 10, 14)
+                              .Item(L"Static", L"", kGivenUnit, SS_LEFT, 94, 92, 30, 9)
+                              .DefaultButton(L"OK", IDOK, 130, 10, 40, 14);
+        return CreateIndirect(form.get());
+    }
+    void DoDataExchange(CDataExchange* pDX) override
+    {
+        DDX_Control(pDX, kWhole, whole);
+        DDX_Control(pDX, kLines, lines);
+        DDX_Control(pDX, kPlain, plain);
+        DDX_Control(pDX, kReadOnly, readOnly);
+        DDX_Control(pDX, kOwn, own);
+        DDX_Control(pDX, kGiven, given);
+    }
+    void OnOK() override { ++oks; }
+    void OnCancel() override { ++cancels; }
+};
+
+class Boxes : public ::testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(dialog.Open() && owtest::Activate(dialog));
+        handler.Take();
+    }
+    void TearDown() override { dialog.DestroyWindow(); }
+
+    static bool HasFocus(const CWnd& wnd)
+    {
+        return owtest::PumpUntil([&] { return ::GetFocus() == wnd.m_hWnd; });
+    }
+    /// Enters the box and types over what stands in it; the calls since it was entered wait to be taken.
+    void TypeInto(CEdit& box, std::wstring_view text)
+    {
+        box.SetFocus();
+        box.SetSel(0, -1);
+        handler.Take();
+        owtest::Type(text);
+    }
+    /// Leaves the box by Tab; also what the next one has been told.
+    std::string CallsWhenLeft(const CWnd& box)
+    {
+        owtest::Press(VK_TAB);
+        EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() != box.m_hWnd; }));
+        return handler.Take();
+    }
+
+    Recorder handler;
+    BoxesDialog dialog{&handler};
+};

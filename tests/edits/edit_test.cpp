@@ -1,0 +1,197 @@
+// What all boxes share: reports, keys, flags, cursor, creation, and the contract of those with a value.
+
+#include "Boxes.h"
+
+#include <tuple>
+
+namespace
+{
+/// Counts its creations, and may refuse to be created, or write a text inside of writing another one.
+struct OddBox : CEditN
+{
+    using CEditN::CEditN;
+    int made = 0;
+    bool refuse = false, nest = false;
+
+    void HandlerOnCreate() override { ++made; }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SETTEXT && std::exchange(nest, false))
+            SafeSetWindowText(L"inner");
+        return message == WM_CREATE && refuse ? -1 : CEditN::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+bool HasCaret(const CWnd& box)
+{
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && info.hwndCaret == box.m_hWnd;
+}
+} // namespace
+
+TEST_F(Boxes, TellWhatHappensWithTheirOwnStateSetBefore)
+{
+    CEditN& box = dialog.plain;
+    const auto changed = [&] { return box.HasChangedSinceLastSetFocus() ? " changed" : ""; };
+    handler.look = [&] { return std::string(HasCaret(box) ? " |" : "") + changed(); };
+    for (const std::string before : {"", " changed"})
+    {
+        owtest::Click(box);
+        ASSERT_TRUE(HasFocus(box));
+        owtest::Type(L"ab");
+        owtest::Press(VK_LEFT);
+        owtest::Click(dialog.whole);
+        ASSERT_TRUE(HasFocus(dialog.whole));
+        EXPECT_EQ(handler.Take(), "leave 1001" + before +
+                                      "; enter 1003 |; change 1003 | changed; "
+                                      "change 1003 | changed; leave 1003 changed; enter 1001 changed; ");
+    }
+    EXPECT_EQ(TextOf(box), L"abab");
+}
+
+TEST_F(Boxes, StoreAValueBeforeTheyTellOfItAndShowItBeforeTheyTellOfLeaving)
+{
+    CEditIntegerWithRange& box = dialog.whole;
+    handler.look = [&]
+    {
+        const std::wstring text = L" '" + TextOf(box) + L"'";
+        return ": " + std::to_string(box.GetValue()) + std::string(text.begin(), text.end());
+    };
+    box.SetRange(0, 99);
+    TypeInto(box, L"2x");
+    EXPECT_EQ(CallsWhenLeft(box),
+              "change 1001: 2 '2'; change 1001: 2 '2x'; leave 1001: 2 '2'; enter 1002: 2 '2'; ");
+    TypeInto(box, L"123");
+    EXPECT_EQ(handler.Take(), "change 1001: 1 '1'; change 1001: 12 '12'; change 1001: 99 '123'; ");
+    EXPECT_EQ(CallsWhenLeft(box), "leave 1001: 99 '99'; enter 1002: 99 '99'; ");
+    TypeInto(box, L"-");
+    owtest::Press(VK_BACK);
+    EXPECT_EQ(CallsWhenLeft(box),
+              "change 1001: 99 '-'; change 1001: 99 ''; leave 1001: 99 '99'; enter 1002: 99 '99'; ");
+    EXPECT_FALSE(box.IsEmpty()) << "clearing the text does not empty the box";
+
+    box.SafeSetWindowText(L"as it was");
+    TypeInto(box, L"");
+    EXPECT_EQ(CallsWhenLeft(box), "leave 1001: 99 'as it was'; enter 1002: 99 'as it was'; ");
+}
+
+TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDone)
+{
+    CEditN& box = dialog.lines;
+    const std::tuple<WORD, bool, CWnd*, int> pressed[] = {
+        {VK_TAB, false, &dialog.plain, 0},    {VK_TAB, true, &dialog.whole, 0},
+        {VK_RETURN, false, &dialog.plain, 0}, {VK_RETURN, true, &dialog.plain, 0},
+        {VK_ESCAPE, false, &box, 1},          {VK_ESCAPE, true, &box, 1}};
+    for (const auto& [key, shift, pTo, cancels] : pressed)
+    {
+        SCOPED_TRACE(key + shift);
+        box.SetFocus();
+        dialog.cancels = 0;
+        owtest::Press(key, shift);
+        EXPECT_TRUE(HasFocus(*pTo));
+        EXPECT_TRUE(owtest::PumpUntil([&] { return dialog.cancels == cancels; }));
+
+        box.SetFocus();
+        box.SendMessage(WM_KEYDOWN, key);
+        EXPECT_TRUE(::GetFocus() == box.m_hWnd && dialog.cancels == cancels) << "posted, not sent";
+        owtest::Pump();
+        EXPECT_EQ(dialog.cancels, 2 * cancels);
+    }
+    EXPECT_EQ(TextOf(box), L"") << "none of the keys leaves a character";
+    EXPECT_EQ(dialog.oks, 0) << "Enter does not press the default button";
+
+    dialog.readOnly.SetFocus();
+    owtest::Press(VK_TAB);
+    EXPECT_TRUE(HasFocus(dialog.own)) << "a read-only box can be left, too";
+    const LRESULT keys = dialog.plain.SendMessage(WM_GETDLGCODE);
+    EXPECT_TRUE(keys & DLGC_WANTALLKEYS && keys & DLGC_HASSETSEL) << "what an edit answers stays";
+}
+
+TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
+{
+    dialog.plain.UnsubclassWindow();
+    OddBox box(&handler);
+    ASSERT_TRUE(box.SubclassDlgItem(kPlain, &dialog));
+    for (const bool again : {false, true}) // the second time on a box that has changed, through the interface
+    {
+        box.SetAnsiInterface(again);
+        EXPECT_EQ(box.GetAnsiInterface(), again);
+        box.nest = true;
+        box.SafeSetWindowText(L"\u0160rafura \u010d");
+        EXPECT_EQ(handler.Take(), "") << "nor behind a write inside of a write";
+        EXPECT_EQ(TextOf(box), L"\u0160rafura \u010d") << "the texts stay wide";
+        EXPECT_EQ(box.HasChangedSinceLastSetFocus(), again);
+        box.SetWindowText(L"loud");
+        EXPECT_EQ(handler.Take(), "change 1003; ");
+        EXPECT_TRUE(box.HasChangedSinceLastSetFocus());
+    }
+}
+
+TEST_F(Boxes, ShowTheIBeamUnlessTheyAreReadOnly)
+{
+    const std::tuple<CEditN*, int, LPCTSTR> cases[] = {{&dialog.plain, HTCLIENT, IDC_IBEAM},
+                                                       {&dialog.plain, HTLEFT, IDC_IBEAM},
+                                                       {&dialog.readOnly, HTCLIENT, IDC_ARROW},
+                                                       {&dialog.readOnly, HTLEFT, IDC_SIZEWE}};
+    for (const auto& [pBox, nHitTest, pszCursor] : cases)
+    {
+        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+        const auto nWindow = reinterpret_cast<WPARAM>(pBox->m_hWnd);
+        const bool answer = pBox->SendMessage(WM_SETCURSOR, nWindow, MAKELPARAM(nHitTest, WM_MOUSEMOVE)) != 0;
+        EXPECT_TRUE(answer || pszCursor == IDC_SIZEWE) << "that one is the system's own";
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pszCursor)) << nHitTest;
+    }
+    EXPECT_TRUE(dialog.readOnly.IsReadOnly());
+}
+
+TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
+{
+    const CRect place(0, 0, 50, 20);
+    OddBox box(nullptr);
+    EXPECT_FALSE(box.Create(WS_CHILD, place, CWnd::FromHandle(reinterpret_cast<HWND>(0x1235)), kFree));
+    box.refuse = true;
+    EXPECT_FALSE(box.Create(WS_CHILD, place, &dialog, kFree));
+    EXPECT_EQ(box.made, 0);
+    box.refuse = false;
+    dialog.plain.UnsubclassWindow();
+    EXPECT_TRUE(box.SubclassDlgItem(kPlain, &dialog));
+    EXPECT_EQ(box.made, 1) << "what failed before leaves no trace";
+    box.DestroyWindow();
+    ASSERT_TRUE(box.Create(WS_CHILD, place, &dialog, kFree));
+    EXPECT_EQ(box.made, 2);
+    box.DestroyWindow();
+
+    CEditIntegerWithRange typed(&handler);
+    ASSERT_TRUE(typed.Create(WS_CHILD, place, &dialog, kFree));
+    EXPECT_EQ(TextOf(typed), L"0");
+    EXPECT_EQ(TextOf(dialog.whole), L"0");
+    EXPECT_EQ(TextOf(dialog.own), L"0.00");
+    EXPECT_EQ(handler.Take(), "") << "the first text is not reported";
+    typed.DestroyWindow();
+}
+
+TEST(BoxHandler, IsTheParentWhereNoneWasGiven)
+{
+    struct TellingDialog : BoxesDialog, Recorder
+    {
+        using BoxesDialog::BoxesDialog;
+    };
+    Recorder given;
+    for (Recorder* pGiven : {static_cast<Recorder*>(nullptr), &given})
+    {
+        TellingDialog telling(pGiven);
+        BoxesDialog silent(pGiven);
+        for (BoxesDialog* pDialog : {static_cast<BoxesDialog*>(&telling), &silent})
+        {
+            ASSERT_TRUE(pDialog->Open());
+            telling.Take();
+            given.Take();
+            pDialog->plain.SetWindowText(L"x");
+            EXPECT_EQ(telling.Take(), !pGiven && pDialog == &telling ? "change 1003; " : "");
+            EXPECT_EQ(given.Take(), pGiven ? "change 1003; " : "");
+            EXPECT_TRUE(pDialog->plain.HasChangedSinceLastSetFocus());
+            pDialog->DestroyWindow();
+        }
+    }
+}
