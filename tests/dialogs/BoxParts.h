@@ -1,17 +1,39 @@
 #pragma once
-// The parts of an open message box or name dialog.
+// The parts of an open message box or name dialog, and a window for it to stand over.
 
 #include <DialogControlsOW.h>
 
 #include "ModalVisit.h"
 #include "Picture.h"
 
+#include <Translator.h>
+
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
 
 using owtest::TextOf;
+using Visitor = owtest::ModalVisit::Visitor;
+
+inline void PressEscape(CWnd&)
+{
+    owtest::Press(VK_ESCAPE);
+}
+
+inline void PressEnter(CWnd&)
+{
+    owtest::Press(VK_RETURN);
+}
+
+inline Visitor ClickOn(int id)
+{
+    return [id](CWnd& box) { owtest::Click(*box.GetDlgItem(id)); };
+}
 
 /// Where a control stands in its dialog's client area.
 inline CRect PlaceOf(const CWnd& dialog, int id)
@@ -37,13 +59,40 @@ inline int CountColoured(CWnd& box, int id)
 
     int found = 0;
     for (int y = kEdge; y < picture.height() - kEdge; ++y)
-    {
         for (int x = kEdge; x < picture.width() - kEdge; ++x)
         {
             const COLORREF pixel = picture.at(x, y);
             const auto [low, high] = std::minmax({GetRValue(pixel), GetGValue(pixel), GetBValue(pixel)});
             found += high > 2 * low;
         }
-    }
     return found;
 }
+
+/// A window of the program, over which dialogs stand.
+struct OwnerWindow : CWnd
+{
+    OwnerWindow()
+    {
+        const DWORD style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
+        CreateEx(0, AfxRegisterWndClass(0), L"Owner", style, 200, 200, 401, 301, nullptr, nullptr);
+    }
+    ~OwnerWindow() override { DestroyWindow(); }
+};
+
+/// A catalogue with one other word for "Cancel", for the length of a scope.
+struct OtherCancel
+{
+    explicit OtherCancel(const char* word)
+    {
+        std::ofstream(m_path) << "msgid \"Cancel\"\nmsgstr \"" << word << "\"\n";
+        EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
+    }
+    ~OtherCancel()
+    {
+        gOtLang.Unload();
+        std::filesystem::remove(m_path);
+    }
+
+private:
+    std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"ow cancel.po";
+};

@@ -1,15 +1,14 @@
 // The message box as a user meets it: keys, clicks, sizes, languages; and what ends the process.
 
 #include "BoxParts.h"
-#include "OwnerWindow.h"
 
 #include "EnglishTexts.h"
 #include "FatalReport.h"
 #include "Handles.h"
 
-#include <acdocman.h>
+#include <dialogs/MessageBoxLayout.h>
 
-#include <gtest/gtest.h>
+#include <acdocman.h>
 
 namespace
 {
@@ -24,56 +23,19 @@ CString Repeat(const wchar_t* text, int count)
     return repeated;
 }
 
-using Visitor = std::function<void(CWnd&)>;
-
-void PressEscape(CWnd&)
-{
-    owtest::Press(VK_ESCAPE);
-}
-
-void PressEnter(CWnd&)
-{
-    owtest::Press(VK_RETURN);
-}
-
-Visitor ClickOn(int id)
-{
-    return [id](CWnd& box) { owtest::Click(*box.GetDlgItem(id)); };
-}
-
-int Show(unsigned int type, const Visitor& visitor, const wchar_t* text = kOneLine)
-{
-    owtest::ModalVisit visit(visitor);
-    const int result = COstrelMessageBox::MessageBox(text, L"Caption", type);
-    EXPECT_EQ(visit.Count(), 1);
-    return result;
-}
-
-int ShowFree(std::initializer_list<const wchar_t*> texts, const Visitor& visitor)
-{
-    owtest::ModalVisit visit(visitor);
-    const wchar_t* const* text = texts.begin();
-    const int result = COstrelMessageBox::MessageBox(kOneLine, L"Caption", MB_ICONQUESTION, text[0], text[1],
-                                                     text[2], text[3]);
-    EXPECT_EQ(visit.Count(), 1);
-    return result;
-}
-
 CEdit& MessageOf(CWnd& box)
 {
     return *static_cast<CEdit*>(box.GetDlgItem(kMessage));
 }
 
-/// The captions of the buttons that are shown, each after a bar.
-std::wstring Buttons(CWnd& box)
+/// Caption, text and the captions of the buttons that are shown, with bars between.
+std::wstring TextsOf(CWnd& box)
 {
-    std::wstring captions;
+    std::wstring texts = TextOf(box) + L'|' + TextOf(MessageOf(box));
     for (int id : {kFirst, kSecond, kThird, kFourth})
-    {
         if (box.GetDlgItem(id)->IsWindowVisible())
-            captions += L'|' + TextOf(*box.GetDlgItem(id));
-    }
-    return captions;
+            texts += L'|' + TextOf(*box.GetDlgItem(id));
+    return texts;
 }
 
 CSize ClientSize(CWnd& box)
@@ -83,158 +45,148 @@ CSize ClientSize(CWnd& box)
     return client.Size();
 }
 
-int LinesAt(CEdit& message, int width)
+/// Answer and texts of a box that `open` opens.
+using Outcome = std::pair<int, std::wstring>;
+
+Outcome Visit(const std::function<int()>& open, const Visitor& visitor)
 {
-    message.SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
-    return message.GetLineCount();
+    std::wstring texts;
+    owtest::ModalVisit visit(
+        [&](CWnd& box)
+        {
+            texts = TextsOf(box);
+            visitor(box);
+        });
+    const int answer = open();
+    EXPECT_EQ(visit.Count(), 1);
+    return {answer, texts};
+}
+
+Outcome Show(unsigned int type, const Visitor& visitor, const wchar_t* text = L"Text")
+{
+    return Visit([=] { return COstrelMessageBox::MessageBox(text, L"Caption", type); }, visitor);
+}
+
+Outcome ShowFree(std::initializer_list<CString> texts, const Visitor& visitor)
+{
+    const CString* b = texts.begin();
+    const auto open = [=]
+    { return COstrelMessageBox::MessageBox(L"Greska", L"Snimi", 0, b[0], b[1], b[2], b[3]); };
+    return Visit(open, visitor);
 }
 } // namespace
 
-TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
+TEST(MessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
 {
     const Visitor close = [](CWnd& box) { box.SendMessage(WM_SYSCOMMAND, SC_CLOSE); };
     const Visitor tabAndEnter = [](CWnd&)
     {
         owtest::Press(VK_TAB);
-        owtest::Press(VK_RETURN);
+        owtest::Press(VK_RETURN); // presses what has the focus
     };
-    const struct
+    const std::wstring ok = L"|OK", okCancel = L"|OK|Cancel", yesNo = L"|Yes|No",
+                       yesNoCancel = L"|Yes|No|Cancel";
+    const std::tuple<unsigned int, std::wstring, Visitor, int> cases[] = {
+        {MB_OK, ok, PressEnter, IDOK},
+        {MB_OK, ok, PressEscape, IDOK}, // there is no other answer
+        {MB_OKCANCEL, okCancel, PressEnter, IDOK},
+        {MB_OKCANCEL, okCancel, PressEscape, IDCANCEL},
+        {MB_OKCANCEL, okCancel, ClickOn(kSecond), IDCANCEL},
+        {MB_YESNO, yesNo, PressEnter, IDYES},
+        {MB_YESNO, yesNo, close, IDNO},
+        {MB_YESNO, yesNo, ClickOn(kSecond), IDNO},
+        {MB_YESNOCANCEL, yesNoCancel, ClickOn(kFirst), IDYES},
+        {MB_YESNOCANCEL, yesNoCancel, tabAndEnter, IDNO},
+        {MB_YESNOCANCEL, yesNoCancel, ClickOn(kThird), IDCANCEL},
+        {MB_YESNOCANCEL, yesNoCancel, PressEscape, IDCANCEL},
+        {MB_ABORTRETRYIGNORE, ok, PressEscape, IDOK}, // buttons that it does not have: OK alone
+    };
+    for (const auto& [type, buttons, visitor, answer] : cases)
+        EXPECT_EQ(Show(type, visitor), Outcome(answer, L"Caption|Text" + buttons)) << type;
+
+    EXPECT_EQ(ShowFree({L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kThird)),
+              Outcome(3, L"Snimi|Greska|Zameni|Sve|Ne|Cancel"));
+    EXPECT_EQ(ShowFree({L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kFourth)).first, 4);
+    EXPECT_EQ(ShowFree({L"A", L"B", L"", L""}, PressEscape).first, 2) << "the last one";
+    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEnter), Outcome(1, L"Snimi|Greska|OK"));
+    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEscape).first, 0) << "no button has a text";
+    EXPECT_EQ(ShowFree({L"", L"", L"C", L""}, PressEscape), Outcome(3, L"Snimi|Greska|OK||C"))
+        << "a blank one";
+
+    const owtest::EnglishTexts english;
+    EXPECT_EQ(ShowFree({L"Ucitaj", L"Cancel", L"", L""}, PressEnter), Outcome(1, L"Save|Error|Load|Cancel"));
+}
+
+TEST(MessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
+{
+    const auto look = [](CWnd& box)
     {
-        unsigned int type;
-        Visitor visitor;
-        int answer;
-    } cases[] = {
-        {MB_OK, PressEnter, IDOK},
-        {MB_OK, PressEscape, IDOK}, // there is no other answer
-        {MB_OKCANCEL, PressEnter, IDOK},
-        {MB_OKCANCEL, PressEscape, IDCANCEL},
-        {MB_OKCANCEL, ClickOn(kSecond), IDCANCEL},
-        {MB_YESNO, PressEnter, IDYES},
-        {MB_YESNO, PressEscape, IDNO},
-        {MB_YESNO, close, IDNO},
-        {MB_YESNO, ClickOn(kSecond), IDNO},
-        {MB_YESNOCANCEL, ClickOn(kFirst), IDYES},
-        {MB_YESNOCANCEL, tabAndEnter, IDNO}, // Enter presses what has the focus
-        {MB_YESNOCANCEL, ClickOn(kThird), IDCANCEL},
-        {MB_YESNOCANCEL, PressEscape, IDCANCEL},
-        {MB_ABORTRETRYIGNORE, PressEscape, IDOK}, // buttons that it does not have: OK alone
+        for (const int id : {kFirst, kThird})
+            EXPECT_GT(CountColoured(box, id), 10) << id;
+        for (const int id : {kSecond, kFourth})
+            EXPECT_EQ(CountColoured(box, id), 0) << id;
+        EXPECT_EQ(::SendMessage(box, WM_GETICON, ICON_SMALL, 0),
+                  reinterpret_cast<LRESULT>(CButtonST::hIconBlueOn));
+        const auto hasFocus = [&](int id)
+        { return owtest::PumpUntil([&, id] { return ::GetFocus() == box.GetDlgItem(id)->m_hWnd; }); };
+        EXPECT_TRUE(hasFocus(kFirst));
+        owtest::Press(VK_TAB);
+        EXPECT_TRUE(hasFocus(kSecond));
+        owtest::Click(MessageOf(box));
+        EXPECT_TRUE(hasFocus(kFirst)) << "a click on the text gives it back";
     };
-    for (const auto& row : cases)
-        EXPECT_EQ(Show(row.type, row.visitor), row.answer) << "row " << &row - cases;
-}
-
-TEST(OstrelMessageBox, HasTheButtonsOfItsType)
-{
-    for (const auto& [type, captions] : {std::pair(MB_OK, L"|OK"),
-                                         {MB_OKCANCEL, L"|OK|Cancel"},
-                                         {MB_YESNO, L"|Yes|No"},
-                                         {MB_YESNOCANCEL, L"|Yes|No|Cancel"}})
-        Show(type, [=](CWnd& box) { EXPECT_EQ(Buttons(box), captions); });
-}
-
-TEST(OstrelMessageBox, WithFreeButtonsAnswersTheirNumbers)
-{
-    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"Sve", L"Cancel"}, ClickOn(kThird)), 3);
-    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"Sve", L"Cancel"}, ClickOn(kFourth)), 4);
-    EXPECT_EQ(ShowFree({L"Zameni", L"Preskoci", L"", L""}, PressEscape), 2) << "the last one";
-    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEnter), 1);
-    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEscape), 0) << "no button has a text";
-
-    const Visitor lookAndEscape = [](CWnd& box)
-    {
-        EXPECT_EQ(Buttons(box), L"|OK||Dalje") << "an empty text between others leaves a blank button";
-        owtest::Press(VK_ESCAPE);
-    };
-    EXPECT_EQ(ShowFree({L"", L"", L"Dalje", L""}, lookAndEscape), 3);
-}
-
-TEST(OstrelMessageBox, OnlyOkAndCancelHaveIcons)
-{
-    ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"},
-             [](CWnd& box)
-             {
-                 EXPECT_GT(CountColoured(box, kFirst), 10);
-                 EXPECT_EQ(CountColoured(box, kSecond), 0);
-                 EXPECT_GT(CountColoured(box, kThird), 10);
-                 EXPECT_EQ(CountColoured(box, kFourth), 0);
-             });
-}
-
-TEST(OstrelMessageBox, AClickOnTheTextGivesTheFocusBackToTheFirstButton)
-{
-    Show(MB_YESNO,
-         [](CWnd& box)
-         {
-             EXPECT_EQ(::GetFocus(), box.GetDlgItem(kFirst)->m_hWnd) << "at the beginning";
-             owtest::Press(VK_TAB);
-             ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == box.GetDlgItem(kSecond)->m_hWnd; }));
-             owtest::Click(MessageOf(box));
-             EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == box.GetDlgItem(kFirst)->m_hWnd; }));
-         });
+    ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"}, look);
 }
 
 // ---- Size -----------------------------------------------------------------------------------------------
 
-TEST(MessageBoxSize, OfAOneLineTextIsTheLeastWhateverTheButtons)
-{
-    Show(MB_OK,
-         [](CWnd& box)
-         {
-             const CRect button = PlaceOf(box, kFirst);
-             EXPECT_EQ(PlaceOf(box, kMessage), CRect(12, 12, 212, 51));
-             EXPECT_EQ(ClientSize(box), CSize(224, 39 + button.Height() + 36));
-             EXPECT_EQ(button.TopLeft(), CPoint(112 - button.Width() / 2, 63));
-         });
-    Show(MB_YESNOCANCEL,
-         [](CWnd& box)
-         {
-             const int row = 3 * (PlaceOf(box, kFirst).Width() + 8) - 8;
-             EXPECT_EQ(PlaceOf(box, kMessage), CRect(CPoint(12, 12), CSize(row, 39)))
-                 << "as wide as the buttons";
-             EXPECT_EQ(ClientSize(box).cx, row + 24);
-             EXPECT_EQ(PlaceOf(box, kThird).right, 12 + row);
-         });
-}
-
 TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
 {
-    const auto expectLeastWidth = [](const CString& text)
+    const auto plain = [](CWnd& box)
     {
-        const Visitor look = [](CWnd& box)
-        {
-            CEdit& message = MessageOf(box);
-            const CRect place = PlaceOf(box, kMessage);
-            const int fewest = LinesAt(message, 500);
-            EXPECT_GT(place.Width(), 200);
-            EXPECT_LE(place.Width(), 500);
-            EXPECT_EQ(place.Width() % 5, 0);
-            EXPECT_EQ(place.Height(), std::max(39, 13 * fewest));
-            EXPECT_EQ(LinesAt(message, place.Width()), fewest);
-            EXPECT_NE(LinesAt(message, place.Width() - 5), fewest);
-            EXPECT_EQ(PlaceOf(box, kFirst).top, 12 + place.Height() + 12)
-                << "the box has grown with the text";
-        };
-        Show(MB_OK, look, text);
+        const CRect button = PlaceOf(box, kFirst);
+        EXPECT_EQ(PlaceOf(box, kMessage), CRect(12, 12, 212, 51));
+        EXPECT_EQ(ClientSize(box), CSize(224, 39 + button.Height() + 36));
+        EXPECT_EQ(button.TopLeft(), CPoint(112 - button.Width() / 2, 63));
     };
-    expectLeastWidth(kPangram);
-    expectLeastWidth(Repeat(kPangram, 8));
-    Show(
-        MB_OK,
-        [](CWnd& box)
-        { EXPECT_EQ(PlaceOf(box, kMessage).Size(), CSize(205, 39)) << "no width makes one line of two"; },
-        L"One\r\nTwo");
-}
+    const auto wide = [](CWnd& box)
+    {
+        const int row = 3 * (PlaceOf(box, kFirst).Width() + 8) - 8;
+        EXPECT_EQ(PlaceOf(box, kMessage), CRect(CPoint(12, 12), CSize(row, 39))) << "as wide as the buttons";
+        EXPECT_EQ(ClientSize(box).cx, row + 24);
+        EXPECT_EQ(PlaceOf(box, kThird).right, 12 + row);
+    };
+    const auto least = [](CWnd& box)
+    {
+        const auto linesAt = [&](int width)
+        {
+            MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
+            return MessageOf(box).GetLineCount();
+        };
+        const CRect place = PlaceOf(box, kMessage);
+        const int fewest = linesAt(500);
+        EXPECT_TRUE(place.Width() > 200 && place.Width() <= 500 && place.Width() % 5 == 0) << place.Width();
+        EXPECT_EQ(place.Height(), std::max(39, 13 * fewest));
+        EXPECT_EQ(linesAt(place.Width()), fewest);
+        EXPECT_NE(linesAt(place.Width() - 5), fewest);
+        EXPECT_EQ(PlaceOf(box, kFirst).top, 12 + place.Height() + 12) << "the box has grown with the text";
+    };
+    Show(MB_OK, plain, kOneLine);
+    Show(MB_YESNOCANCEL, wide, kOneLine);
+    Show(MB_OK, least, kPangram);
+    Show(MB_OK, least, Repeat(kPangram, 8));
+    const auto twoLines = [](CWnd& box) { EXPECT_EQ(PlaceOf(box, kMessage).Size(), CSize(205, 39)); };
+    Show(MB_OK, twoLines, L"One\r\nTwo"); // no width makes one line of two
 
-TEST(MessageBoxSize, MakesRoomForAnIconAndDrawsIt)
-{
-    for (const auto& [type, icon] : {std::pair(MB_ICONERROR, CButtonST::hIconError),
-                                     {MB_ICONQUESTION, CButtonST::hIconQuestion},
-                                     {MB_ICONWARNING, CButtonST::hIconWarning},
-                                     {MB_ICONINFORMATION, CButtonST::hIconInformation}})
+    const std::pair<unsigned int, HICON> icons[] = {{MB_ICONERROR, CButtonST::hIconError},
+                                                    {MB_ICONQUESTION, CButtonST::hIconQuestion},
+                                                    {MB_ICONWARNING, CButtonST::hIconWarning},
+                                                    {MB_ICONINFORMATION, CButtonST::hIconInformation}};
+    for (const auto& [type, icon] : icons)
     {
         owtest::Surface expected(32, 32, ::GetSysColor(COLOR_BTNFACE)), seen(32, 32);
         expected.dc().DrawIcon(0, 0, icon);
-        const Visitor look = [&](CWnd& box)
+        const auto withIcon = [&](CWnd& box)
         {
             EXPECT_EQ(PlaceOf(box, kMessage), CRect(56, 12, 256, 51));
             EXPECT_EQ(ClientSize(box).cx, 268);
@@ -243,80 +195,74 @@ TEST(MessageBoxSize, MakesRoomForAnIconAndDrawsIt)
             { return seen.dc().BitBlt(0, 0, 32, 32, &dc, 12, 12, SRCCOPY) && seen == expected; };
             EXPECT_TRUE(owtest::PumpUntil(drawn));
         };
-        Show(MB_OK | type, look);
+        Show(MB_OK | type, withIcon, kOneLine);
     }
 }
 
 TEST(MessageBoxSize, StaysOnTheScreenWithATextThatIsTooLongForIt)
 {
     const CString text = Repeat(kPangram, 10000 / 65 + 1) + L"END";
-    ASSERT_GT(text.GetLength(), 10000);
-    Show(
-        MB_YESNO | MB_ICONWARNING,
-        [&](CWnd& box)
+    const auto look = [&](CWnd& box)
+    {
+        CRect window, work;
+        box.GetWindowRect(window);
+        ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+        EXPECT_EQ(window & work, window) << "nothing of it is outside";
+        EXPECT_EQ(PlaceOf(box, kSecond).bottom, ClientSize(box).cy - 12);
+
+        CEdit& message = MessageOf(box);
+        EXPECT_EQ(TextOf(message), text.GetString());
+        EXPECT_NE(message.GetStyle() & WS_VSCROLL, 0u);
+        EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
+        EXPECT_EQ(message.GetFirstVisibleLine(), 0);
+        owtest::Press(VK_NEXT);
+        EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() > 10; }));
+        owtest::Press(VK_PRIOR);
+        EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() == 0; }));
+        box.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)));
+        EXPECT_EQ(message.GetFirstVisibleLine(), 3);
+    };
+    Show(MB_YESNO | MB_ICONWARNING, look, text);
+}
+
+// The arrangement as numbers, on screens that are not at hand.
+TEST(MessageBoxSize, FollowsTheScreensResolution)
+{
+    const auto layout = [](int nButtons, double dScale, int nTextWidth, int nTextHeight)
+    {
+        CMessageBoxLayout made(CSize(81, 26), nButtons, dScale, CSize(6, 25), false);
+        made.SetText(nTextWidth, nTextHeight);
+        return made;
+    };
+    const auto box = layout(3, 1.25, 200, 39); // 120 dots per inch
+    EXPECT_EQ(box.Text(), CRect(12, 12, 12 + 323, 51)) << "as wide as the scaled row of 259";
+    EXPECT_EQ(box.Window(), CSize(441, 157)) << "353 by 126 scaled";
+    // 347 / 2 - 323 / 2 is 12, a step is 89 scaled to 111; both are scaled again to where the button goes.
+    EXPECT_EQ(box.Button(0), CPoint(15, 78));
+    EXPECT_EQ(CPoint(box.Button(1).x, box.Button(2).x), CPoint(153, 292));
+    for (const int nHeight : {600, 768, 1024})
+        for (const double dScale : {1.0, 1.25, 2.0})
         {
-            CRect window, work;
-            box.GetWindowRect(window);
-            ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-            EXPECT_EQ(window & work, window) << "nothing of it is outside";
-            EXPECT_EQ(PlaceOf(box, kSecond).bottom, ClientSize(box).cy - 12);
-
-            CEdit& message = MessageOf(box);
-            EXPECT_EQ(TextOf(message), text.GetString());
-            EXPECT_NE(message.GetStyle() & WS_VSCROLL, 0u);
-            EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
-            EXPECT_EQ(message.GetFirstVisibleLine(), 0);
-            owtest::Press(VK_NEXT);
-            EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() > 10; }));
-            owtest::Press(VK_PRIOR);
-            EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() == 0; }));
-            box.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)));
-            EXPECT_EQ(message.GetFirstVisibleLine(), 3);
-        },
-        text);
+            const int nLines = layout(1, dScale, 500, 39).MaxLines(nHeight);
+            EXPECT_LE(layout(1, dScale, 500, nLines * 13).Window().cy, nHeight);
+            EXPECT_GT(layout(1, dScale, 500, (nLines + 1) * 13).Window().cy, nHeight);
+        }
+    EXPECT_EQ(layout(1, 1.0, 200, 39).MaxLines(50), 3) << "the least text stays, whatever the screen";
 }
 
-// ---- Language -------------------------------------------------------------------------------------------
+// ---- Errors ---------------------------------------------------------------------------------------------
 
-TEST(MessageBoxLanguage, IsThatOfTheCatalogue)
+TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
 {
-    const wchar_t* const text = L"Brisanje tekuce konfiguracije?";
-    const auto look = [&]
+    const auto boxP = [] { return COstrelMessageBox::ErrorBoxP(12); };
+    const auto boxL = [] { return COstrelMessageBox::ErrorBoxL(12); };
+    EXPECT_EQ(Visit(boxP, PressEscape), Outcome(0, L"Greska|Provera zastite programa nije uspela (12).|OK"));
+    EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Greska|Provera licence programa nije uspela (12).|OK"));
     {
-        std::wstring seen;
-        owtest::ModalVisit visit(
-            [&](CWnd& box)
-            {
-                seen = TextOf(box) + L'|' + TextOf(MessageOf(box)) + L'|' + TextOf(*box.GetDlgItem(kFirst)) +
-                       L'|' + TextOf(*box.GetDlgItem(kSecond));
-            });
-        COstrelMessageBox::MessageBox(text, L"Greska", 0, L"Snimi", L"Cancel", L"", L"");
-        return seen;
-    };
-    EXPECT_EQ(look(), L"Greska|Brisanje tekuce konfiguracije?|Snimi|Cancel");
-    const owtest::EnglishTexts english;
-    EXPECT_EQ(look(), L"Error|Delete the current configuration?|Save|Cancel");
-}
-
-TEST(MessageBoxLanguage, TheErrorBoxesAreTranslatedWithTheCodeInThem)
-{
-    const auto look = [](auto open)
-    {
-        std::wstring seen;
-        owtest::ModalVisit visit([&](CWnd& box) { seen = TextOf(box) + L'|' + TextOf(MessageOf(box)); });
-        EXPECT_EQ(open(12), 0);
-        EXPECT_EQ(visit.Count(), 1);
-        return seen;
-    };
-    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxP), L"Greska|Provera zastite programa nije uspela (12).");
-    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Greska|Provera licence programa nije uspela (12).");
-    const owtest::EnglishTexts english;
-    EXPECT_EQ(look(&COstrelMessageBox::ErrorBoxL), L"Error|The licence check failed (12).");
-}
-
-TEST(MessageBoxLanguage, TheSystemsErrorsAreShownInTheSystemsBox)
-{
-    const auto look = [](unsigned long error)
+        const owtest::EnglishTexts english;
+        EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Error|The licence check failed (12).|OK"));
+    }
+    const auto systems = [](unsigned long error)
     {
         std::wstring seen;
         owtest::ModalVisit visit(
@@ -324,63 +270,32 @@ TEST(MessageBoxLanguage, TheSystemsErrorsAreShownInTheSystemsBox)
             {
                 seen = TextOf(box) + L'|';
                 for (CWnd* child = box.GetWindow(GW_CHILD); child; child = child->GetNextWindow())
-                {
                     if (child->GetDlgCtrlID() == 0xFFFF)
                         seen += TextOf(*child);
-                }
                 owtest::Press(VK_RETURN);
             });
         EXPECT_EQ(COstrelMessageBox::ErrorBox(error), 0);
-        EXPECT_EQ(visit.Count(), 1);
         return seen;
     };
-    EXPECT_EQ(look(ERROR_FILE_NOT_FOUND).substr(0, 7), L"Greska|");
-    EXPECT_NE(look(ERROR_FILE_NOT_FOUND), look(ERROR_ACCESS_DENIED));
-    EXPECT_EQ(look(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
+    EXPECT_EQ(systems(ERROR_FILE_NOT_FOUND).substr(0, 7), L"Greska|");
+    EXPECT_NE(systems(ERROR_FILE_NOT_FOUND), systems(ERROR_ACCESS_DENIED));
+    EXPECT_EQ(systems(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
 }
 
 // ---- A box that is prepared piece by piece --------------------------------------------------------------
 
 TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
 {
-    COstrelMessageBox box(nullptr);
-    box.Set(kOneLine, L"Caption");
+    auto owner = std::make_unique<OwnerWindow>();
+    COstrelMessageBox box(owner.get());
     box.SetButtonText(3, L"Treci");
+    EXPECT_EQ(box.DoModal(), 0) << "opens nothing without a text";
+    box.Set(kOneLine, L"Caption");
     box.SetButtonText(2, L"Drugi");
-    for (int round = 0; round < 2; ++round)
-    {
-        owtest::ModalVisit click(
-            [](CWnd& shown)
-            {
-                EXPECT_EQ(TextOf(shown), L"Caption");
-                EXPECT_EQ(TextOf(MessageOf(shown)), kOneLine);
-                EXPECT_EQ(TextOf(*shown.GetDlgItem(kFirst)), L"OK");
-                EXPECT_EQ(TextOf(*shown.GetDlgItem(kSecond)), L"Drugi");
-                owtest::Click(*shown.GetDlgItem(kThird));
-            });
-        EXPECT_EQ(box.DoModal(), 3);
-        owtest::ModalVisit escape(&PressEscape);
-        EXPECT_EQ(box.DoModal(), 0) << "whatever was pressed the last time";
-    }
-}
-
-TEST(PreparedMessageBox, OpensNothingWithoutAText)
-{
-    owtest::ModalVisit visit(&PressEscape);
-    COstrelMessageBox box(nullptr);
-    box.SetButtonText(1, L"Prvi");
-    EXPECT_EQ(box.DoModal(), 0);
-    EXPECT_EQ(visit.Count(), 0);
-}
-
-TEST(PreparedMessageBox, OpensWhenItsParentIsGone)
-{
-    OwnerWindow owner;
-    COstrelMessageBox box(&owner);
-    box.Set(kOneLine, L"");
-    owner.DestroyWindow();
-    owtest::ModalVisit visit(&PressEnter);
-    EXPECT_EQ(box.DoModal(), 1);
+    const auto show = [&] { return box.DoModal(); };
+    EXPECT_EQ(Visit(show, ClickOn(kThird)), Outcome(3, L"Caption|Short message|OK|Drugi|Treci"));
+    owner->DestroyWindow();
+    EXPECT_EQ(Visit(show, PressEscape).first, 0) << "whatever was pressed the last time";
 }
 
 // ---- Surroundings ---------------------------------------------------------------------------------------
@@ -390,29 +305,21 @@ TEST(MessageBoxOwner, IsTheWindowWithTheFocusAndWaits)
     OwnerWindow owner;
     ASSERT_TRUE(owtest::Activate(owner));
     owner.SetFocus();
-    Show(MB_OK,
-         [&](CWnd& box)
-         {
-             EXPECT_EQ(box.GetWindow(GW_OWNER), &owner);
-             EXPECT_FALSE(owner.IsWindowEnabled());
-             CRect over, window;
-             owner.GetWindowRect(over);
-             box.GetWindowRect(window);
-             EXPECT_LE(std::abs(over.CenterPoint().x - window.CenterPoint().x), 1) << "centred";
-         });
+    const HINSTANCE before = AfxGetResourceHandle();
+    const auto look = [&](CWnd& box)
+    {
+        EXPECT_EQ(box.GetWindow(GW_OWNER), &owner);
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        CRect over, window;
+        owner.GetWindowRect(over);
+        box.GetWindowRect(window);
+        EXPECT_LE(std::abs(over.CenterPoint().x - window.CenterPoint().x), 1) << "centred";
+        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
+        EXPECT_NE(AfxGetResourceHandle(), before);
+    };
+    Show(MB_YESNO | MB_ICONQUESTION, look);
     EXPECT_TRUE(owner.IsWindowEnabled());
     EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
-}
-
-TEST(MessageBoxResources, AreTheHostsOwnAgainAfterwards)
-{
-    const HINSTANCE before = AfxGetResourceHandle();
-    Show(MB_YESNO | MB_ICONQUESTION,
-         [&](CWnd&)
-         {
-             EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
-             EXPECT_NE(AfxGetResourceHandle(), before);
-         });
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
     EXPECT_EQ(AfxGetResourceHandle(), before);
 }
@@ -422,9 +329,8 @@ TEST(MessageBoxResources, AreGivenBackByManyBoxes)
     const CString longText = Repeat(kPangram, 160);
     const auto round = [&](bool bLong)
     {
-        owtest::ModalVisit visit([](CWnd& box) { box.SendMessage(WM_COMMAND, IDCANCEL); });
-        COstrelMessageBox::MessageBox(bLong ? longText : CString(kOneLine), L"Caption",
-                                      MB_YESNOCANCEL | MB_ICONERROR);
+        Show(
+            MB_YESNOCANCEL | MB_ICONERROR, [](CWnd&) {}, bLong ? longText.GetString() : kOneLine);
     };
     round(true); // what is made once for the process
     round(false);
@@ -432,69 +338,42 @@ TEST(MessageBoxResources, AreGivenBackByManyBoxes)
     for (int i = 0; i < 30; ++i)
         round(i == 0);
     EXPECT_EQ(owtest::CountHandles(), before);
-
     CButtonST button;
     EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), CButtonST::resultOk) << "the shared icons live on";
 }
 
 // ---- Misuse ends the process ----------------------------------------------------------------------------
 
-OW_CHILD_SCENARIO(button_number_0)
-{
-    COstrelMessageBox(nullptr).SetButtonText(0, L"");
-}
-
-OW_CHILD_SCENARIO(button_number_5)
-{
-    COstrelMessageBox(nullptr).SetButtonText(5, L"");
-}
-
-OW_CHILD_SCENARIO(icon_of_standard_box)
-{
-    COstrelMessageBox::MessageBox(kOneLine, L"", MB_OK | 0x50);
-}
-
-OW_CHILD_SCENARIO(icon_of_free_box)
-{
-    COstrelMessageBox::MessageBox(kOneLine, L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L"");
-}
-
 /// A box of the type in which a button is pressed that it does not show.
 static void PressHidden(unsigned int type, int button)
 {
-    owtest::ModalVisit visit([=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
-    COstrelMessageBox::MessageBox(kOneLine, L"", type);
+    Show(type, [=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
 }
 
-OW_CHILD_SCENARIO(hidden_button_of_ok_cancel)
-{
-    PressHidden(MB_OKCANCEL, kThird);
-}
+static const std::pair<std::function<void()>, const wchar_t*> kMisuses[] = {
+    {[] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
+    {[] { COstrelMessageBox(nullptr).SetButtonText(5, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
+    {[] { COstrelMessageBox::MessageBox(kOneLine, L"", MB_OK | 0x50); }, L"194]\nNedozvoljena vrednost."},
+    {[] { COstrelMessageBox::MessageBox(kOneLine, L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); },
+     L"194]\nNedozvoljena vrednost."},
+    {[] { PressHidden(MB_OKCANCEL, kThird); }, L"324]\nNedozvoljena vrednost."},
+    {[] { PressHidden(MB_YESNO, kThird); }, L"330]\nNedozvoljena vrednost."},
+    {[] { PressHidden(MB_YESNOCANCEL, kFourth); }, L"337]\nNedozvoljena vrednost."},
+};
 
-OW_CHILD_SCENARIO(hidden_button_of_yes_no)
+OW_CHILD_SCENARIO(misuse)
 {
-    PressHidden(MB_YESNO, kThird);
-}
-
-OW_CHILD_SCENARIO(hidden_button_of_yes_no_cancel)
-{
-    PressHidden(MB_YESNOCANCEL, kFourth);
+    wchar_t number[4] = L"";
+    ::GetEnvironmentVariableW(L"OW_MISUSE", number, ARRAYSIZE(number));
+    kMisuses[_wtoi(number)].first();
 }
 
 TEST(MessageBoxMisuse, EndsTheProcessWithAReportOfItsPlace)
 {
-    const std::pair<const char*, const wchar_t*> cases[] = {
-        {"button_number_0", L"[.\\OstrelMessageBox : 273]\nVrednost za <n> mora biti od 1 do 4!"},
-        {"button_number_5", L"[.\\OstrelMessageBox : 273]\nVrednost za <n> mora biti od 1 do 4!"},
-        {"icon_of_standard_box", L"[.\\OstrelMessageBox : 194]\nNedozvoljena vrednost."},
-        {"icon_of_free_box", L"[.\\OstrelMessageBox : 194]\nNedozvoljena vrednost."},
-        {"hidden_button_of_ok_cancel", L"[.\\OstrelMessageBox : 324]\nNedozvoljena vrednost."},
-        {"hidden_button_of_yes_no", L"[.\\OstrelMessageBox : 330]\nNedozvoljena vrednost."},
-        {"hidden_button_of_yes_no_cancel", L"[.\\OstrelMessageBox : 337]\nNedozvoljena vrednost."},
-    };
-    for (const auto& [scenario, report] : cases)
+    for (size_t i = 0; i < std::size(kMisuses); ++i)
     {
-        SCOPED_TRACE(scenario);
-        owtest::ExpectInternalError(owtest::RunChild(scenario), report);
+        SCOPED_TRACE(i);
+        const auto result = owtest::RunChild("misuse", {.environment = {{L"OW_MISUSE", std::to_wstring(i)}}});
+        owtest::ExpectInternalError(result, std::wstring(L"[.\\OstrelMessageBox : ") + kMisuses[i].second);
     }
 }

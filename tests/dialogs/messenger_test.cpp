@@ -3,11 +3,10 @@
 #include "BoxParts.h"
 
 #include "ChildProcess.h"
+#include "ImportStandIn.h"
 
 #include <acadhost.h>
 #include <rxmfcapi.h>
-
-#include <gtest/gtest.h>
 
 #include <thread>
 
@@ -16,24 +15,23 @@ namespace
 constexpr UINT_PTR kTimer = 3025;
 
 /// The host's window: counts the ticks that come through to it.
-class HostFrame : public CFrameWnd
+struct HostFrame : CFrameWnd
 {
-public:
-    static inline int ticks = 0;
-
-protected:
+    static inline int s_ticks = 0;
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        ticks += message == WM_TIMER && wParam == kTimer;
+        s_ticks += message == WM_TIMER && wParam == kTimer;
         return CFrameWnd::WindowProc(message, wParam, lParam);
     }
 };
 
+UINT s_period = 0; ///< of the messenger's timer
+
 class Messenger : public ::testing::Test
 {
 protected:
-    // One host's window for the whole program, as the messenger stays at its first. The tests send the timer's
-    // message themselves, whenever they want one.
+    // One host's window for the whole program, as the messenger stays at its first. There is no timer: the tests
+    // send its message whenever they want one.
     static void SetUpTestSuite() { acadhostUseFrame(TheFrame()); }
     static void TearDownTestSuite() { acadhostUseFrame(nullptr); }
     static HostFrame* TheFrame()
@@ -43,8 +41,13 @@ protected:
             auto* host = new HostFrame; // deletes itself with its window
             EXPECT_TRUE(host->Create(nullptr, L"Host"));
             acadhostUseFrame(host);
+            const auto standIn = [](HWND, UINT_PTR timer, UINT period, TIMERPROC) -> UINT_PTR
+            {
+                s_period = timer == kTimer ? period : 0;
+                return timer;
+            };
+            const owtest::ImportStandIn noTimer(L"mfcow.dll", "SetTimer", +standIn);
             COstrelMessenger::Instance();
-            EXPECT_TRUE(::KillTimer(*host, kTimer)) << "the messenger had started its timer";
             return host;
         }();
         return frame;
@@ -54,28 +57,23 @@ protected:
     {
         std::thread([code] { COstrelMessenger::Instance().PostMsg(code); }).join();
     }
-
     static void Tick(UINT_PTR timer = kTimer) { acedGetAcadFrame()->SendMessage(WM_TIMER, timer); }
 
-    /// The text of the box that a tick opens; empty if it opens none. `inside` is done while the box is open.
-    static std::wstring ShownByTick(
+    /// The code in the box that a tick opens; 0 if it opens none. `inside` is done while the box is open.
+    static int ShownByTick(
         const std::function<void()>& inside = [] {}, UINT_PTR timer = kTimer)
     {
-        std::wstring text;
+        int code = 0;
         owtest::ModalVisit visit(
             [&](CWnd& box)
             {
-                text = TextOf(*box.GetDlgItem(kMessage));
+                swscanf(TextOf(*box.GetDlgItem(kMessage)).c_str(),
+                        L"Provera zastite programa nije uspela (%d).", &code);
                 inside();
                 owtest::Press(VK_ESCAPE);
             });
         Tick(timer);
-        return text;
-    }
-
-    static std::wstring Text(int code)
-    {
-        return L"Provera zastite programa nije uspela (" + std::to_wstring(code) + L").";
+        return code;
     }
 };
 } // namespace
@@ -97,59 +95,44 @@ TEST(MessengerOfAClosedHost, LetsGoOfItsWindow)
     EXPECT_EQ(owtest::RunChild("messenger_outlives_the_frame").output, "hooked 1, then 0");
 }
 
-TEST_F(Messenger, StandsBeforeTheHostsWindowAndPassesItsMessagesOn)
+TEST_F(Messenger, LooksEveryFiveSecondsAndPassesTheHostsMessagesOn)
 {
+    EXPECT_EQ(s_period, 5000u);
     COstrelMessenger& messenger = COstrelMessenger::Instance();
     EXPECT_EQ(&messenger, &COstrelMessenger::Instance());
     EXPECT_EQ(messenger.GetHookedWindow(), acedGetAcadFrame());
-
-    HostFrame::ticks = 0;
+    HostFrame::s_ticks = 0;
     Tick();
-    EXPECT_EQ(HostFrame::ticks, 1);
     Post(4);
     ShownByTick();
-    EXPECT_EQ(HostFrame::ticks, 2) << "the message that opened a box, too";
+    EXPECT_EQ(HostFrame::s_ticks, 2) << "the message that opened a box, too";
 }
 
 TEST_F(Messenger, ShowsACodeOfAnotherThreadOnceAtTheNextTick)
 {
-    EXPECT_EQ(ShownByTick(), L"");
+    EXPECT_EQ(ShownByTick(), 0);
     Post(17);
-    EXPECT_EQ(ShownByTick([] {}, kTimer + 1), L"") << "another timer";
-    EXPECT_EQ(ShownByTick(), Text(17));
-    EXPECT_EQ(ShownByTick(), L"");
-}
+    EXPECT_EQ(ShownByTick([] {}, kTimer + 1), 0) << "another timer";
+    EXPECT_EQ(ShownByTick(), 17);
+    EXPECT_EQ(ShownByTick(), 0);
+    for (const int code : {0, -1}) // mean nothing, and block nothing
+    {
+        Post(code);
+        EXPECT_EQ(ShownByTick(), 0);
+    }
 
-TEST_F(Messenger, DropsWhatComesWhileACodeWaitsOrItsBoxIsOpen)
-{
     Post(5);
-    Post(6);
-    EXPECT_EQ(ShownByTick([] { Post(7); }), Text(5));
-    EXPECT_EQ(ShownByTick(), L"");
-    Post(8);
-    EXPECT_EQ(ShownByTick(), Text(8)) << "it takes codes again";
-}
+    Post(6); // is dropped, and so is what comes while a box is open
+    EXPECT_EQ(ShownByTick([] { Post(7); }), 5);
+    EXPECT_EQ(ShownByTick(), 0);
 
-TEST_F(Messenger, TakesCodesAgainAfterATickWhileTheBoxIsStillOpen)
-{
     const auto secondBox = []
     {
         Tick();
         Post(2);
-        EXPECT_EQ(ShownByTick(), Text(2)) << "over the first box";
+        EXPECT_EQ(ShownByTick(), 2) << "over the first box, that has stood for a tick";
     };
     Post(1);
-    EXPECT_EQ(ShownByTick(secondBox), Text(1));
-    EXPECT_EQ(ShownByTick(), L"");
-}
-
-TEST_F(Messenger, NeverShowsTheTwoCodesThatMeanNothing)
-{
-    for (int code : {0, -1})
-    {
-        Post(code);
-        EXPECT_EQ(ShownByTick(), L"");
-    }
-    Post(3);
-    EXPECT_EQ(ShownByTick(), Text(3)) << "and neither blocks it";
+    EXPECT_EQ(ShownByTick(secondBox), 1);
+    EXPECT_EQ(ShownByTick(), 0);
 }

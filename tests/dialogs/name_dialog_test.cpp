@@ -1,19 +1,13 @@
 // The two dialogs that ask for a name, through the functions that open them.
 
 #include "BoxParts.h"
-#include "OwnerWindow.h"
 
 #include "EnglishTexts.h"
 #include "Handles.h"
 
 #include <acdocman.h>
 
-#include <gtest/gtest.h>
-
-#include <fstream>
 #include <stdexcept>
-
-using Visitor = owtest::ModalVisit::Visitor;
 
 namespace
 {
@@ -44,11 +38,8 @@ struct Kind
 {
     int box;
     int (*start)(CString& name, const CString& caption);
-    std::wstring caption;
-    std::wstring english;
+    std::wstring caption, english;
 };
-
-const Kind kByEdit{kEdit, &StartEdit, L"Naziv", L"Name"}, kByCombo{kCombo, &StartCombo, L"Snimi", L"Save"};
 
 class NameDialog : public testing::TestWithParam<Kind>
 {
@@ -63,17 +54,14 @@ protected:
     }
     static CWnd& Box(CWnd& dialog) { return *dialog.GetDlgItem(GetParam().box); }
 };
-INSTANTIATE_TEST_SUITE_P(Both, NameDialog, testing::Values(kByEdit, kByCombo));
-
-void PressEnter(CWnd&)
-{
-    owtest::Press(VK_RETURN);
-}
+INSTANTIATE_TEST_SUITE_P(Both, NameDialog,
+                         testing::Values(Kind{kEdit, &StartEdit, L"Naziv", L"Name"},
+                                         Kind{kCombo, &StartCombo, L"Snimi", L"Save"}));
 } // namespace
 
 TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
 {
-    const auto typing = [](const wchar_t* text, const Visitor& then)
+    const auto typing = [](const std::wstring& text, const Visitor& then)
     {
         return [=](CWnd& dialog)
         {
@@ -82,38 +70,23 @@ TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
             then(dialog);
         };
     };
-    const auto clickOn = [](int id) { return [id](CWnd& dialog) { owtest::Click(*dialog.GetDlgItem(id)); }; };
-    const Visitor escape = [](CWnd&) { owtest::Press(VK_ESCAPE); };
     const Visitor close = [](CWnd& dialog) { dialog.SendMessage(WM_SYSCOMMAND, SC_CLOSE); };
     EXPECT_EQ(Ask(L"Roof", PressEnter), Outcome(IDOK, L"Roof"));
     EXPECT_EQ(Ask(L"", typing(L"Floor 2", PressEnter)), Outcome(IDOK, L"Floor 2")) << "not in the list";
-    EXPECT_EQ(Ask(L"Roof", typing(L"Floor", clickOn(IDOK))), Outcome(IDOK, L"Floor")) << "typed over";
-    for (const Visitor& leave : {escape, close, Visitor(clickOn(IDCANCEL))})
+    EXPECT_EQ(Ask(L"Roof", typing(L"Floor", ClickOn(IDOK))), Outcome(IDOK, L"Floor")) << "typed over";
+    for (const Visitor& leave : {Visitor(PressEscape), close, ClickOn(IDCANCEL)})
         EXPECT_EQ(Ask(L"Roof", typing(L"Floor", leave)), Outcome(IDCANCEL, L"Roof"));
     EXPECT_EQ(Ask(L"Roof", typing(L" \b", PressEnter)), Outcome(IDOK, L"")) << "an empty name is a name";
-}
 
-TEST_P(NameDialog, LosesNothingOfALongName)
-{
-    std::wstring longName;
-    while (longName.size() < 40000)
-        longName += L"Beam " + std::to_wstring(longName.size()) + L' ';
-    EXPECT_EQ(Ask(longName, PressEnter), Outcome(IDOK, longName));
-
-    const Visitor paste = [&](CWnd&)
+    const std::wstring wide(60, L'W'), longer(40000, L'l'); // than the box, and than its limit
+    EXPECT_EQ(Ask(L"", typing(wide, PressEnter)), Outcome(IDOK, wide));
+    EXPECT_EQ(Ask(longer, PressEnter), Outcome(IDOK, longer));
+    const Visitor paste = [&](CWnd& dialog)
     {
-        ::SendMessage(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(longName.c_str()));
-        owtest::Press(VK_RETURN);
+        ::SendMessage(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(longer.c_str()));
+        PressEnter(dialog);
     };
-    EXPECT_EQ(Ask(L"Roof", paste), Outcome(IDOK, longName));
-
-    const std::wstring wide(60, L'W'); // wider than the box
-    const Visitor type = [&](CWnd&)
-    {
-        owtest::Type(wide);
-        owtest::Press(VK_RETURN);
-    };
-    EXPECT_EQ(Ask(L"", type), Outcome(IDOK, wide));
+    EXPECT_EQ(Ask(L"Roof", paste), Outcome(IDOK, longer));
 }
 
 TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
@@ -122,27 +95,21 @@ TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
     const Visitor look = [&](CWnd& dialog) { seen = TextOf(dialog) + L'|' + TextOf(Box(dialog)); };
     Ask(L"Naziv", look);
     EXPECT_EQ(seen, GetParam().caption + L"|Naziv");
-    const owtest::EnglishTexts english;
-    Ask(L"Naziv", look);
-    EXPECT_EQ(seen, GetParam().english + L"|Naziv");
-    Ask(L"", look, L"Ucitaj");
-    EXPECT_EQ(seen, L"Ucitaj|");
-}
-
-TEST_P(NameDialog, HasTranslatedButtonsWithIcons)
-{
-    const auto path = std::filesystem::temp_directory_path() / L"ow buttons.po";
-    std::ofstream(path) << "msgid \"Cancel\"\nmsgstr \"Odustani\"\n";
-    ASSERT_TRUE(gOtLang.Load(path.c_str()));
-    Ask(L"",
-        [](CWnd& dialog)
-        {
-            EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDCANCEL)), L"Odustani");
-            EXPECT_GT(CountColoured(dialog, IDOK), 10);
-            EXPECT_GT(CountColoured(dialog, IDCANCEL), 10);
-        });
-    gOtLang.Unload();
-    std::filesystem::remove(path);
+    {
+        const owtest::EnglishTexts english;
+        Ask(L"Naziv", look);
+        EXPECT_EQ(seen, GetParam().english + L"|Naziv");
+        Ask(L"", look, L"Ucitaj");
+        EXPECT_EQ(seen, L"Ucitaj|");
+    }
+    const OtherCancel other("Odustani");
+    const auto buttons = [](CWnd& dialog)
+    {
+        EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDCANCEL)), L"Odustani");
+        EXPECT_GT(CountColoured(dialog, IDOK), 10);
+        EXPECT_GT(CountColoured(dialog, IDCANCEL), 10);
+    };
+    Ask(L"", buttons);
 }
 
 TEST_P(NameDialog, StandsOverTheWindowInFrontWithTheLibrarysResources)
@@ -164,12 +131,8 @@ TEST_P(NameDialog, StandsOverTheWindowInFrontWithTheLibrarysResources)
         Ask(L"", look);
     EXPECT_EQ(owtest::CountHandles(), handles);
     AfxGetApp()->m_pMainWnd = nullptr;
-}
 
-TEST_P(NameDialog, PutsTheResourcesBackWhenAnExceptionEndsIt)
-{
-    /// Breaks out of the message loop.
-    class Thrower : public OwnerWindow
+    struct Thrower : OwnerWindow // breaks out of the message loop
     {
         BOOL PreTranslateMessage(MSG* message) override
         {
@@ -193,15 +156,14 @@ TEST(NameComboDialog, StandsOverItsParentAndListsTheNamesAsGiven)
             EXPECT_EQ(combo.GetCount(), 3);
             EXPECT_EQ(combo.FindStringExact(-1, L"Walls"), 0);
             EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";
-            owtest::Press(VK_DOWN);
-            owtest::Press(VK_DOWN);
-            owtest::Press(VK_RETURN);
+            for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
+                owtest::Press(key);
         });
     CString name = L"Walls";
     EXPECT_EQ(StartComboOver(&owner, name, L""), IDOK);
     EXPECT_EQ(name, L"Axes");
 
     owner.DestroyWindow();
-    owtest::ModalVisit escape([](CWnd&) { owtest::Press(VK_ESCAPE); });
+    owtest::ModalVisit escape(PressEscape);
     EXPECT_EQ(StartComboOver(&owner, name, L""), IDCANCEL) << "a parent without a window is none";
 }

@@ -7,14 +7,9 @@
 
 #include <dialogs/ProgressCtrlEx.h>
 
-#include <Translator.h>
 #include <acdocman.h>
 
-#include <gtest/gtest.h>
-
 #include <climits>
-#include <filesystem>
-#include <fstream>
 #include <optional>
 
 namespace
@@ -60,16 +55,9 @@ class Progress : public ::testing::Test
 protected:
     void SetUp() override
     {
-        const DWORD style = WS_OVERLAPPEDWINDOW | WS_VISIBLE;
-        m_work.CreateEx(0, AfxRegisterWndClass(0), L"", style, 200, 200, 401, 301, nullptr, nullptr);
         ASSERT_TRUE(owtest::Activate(m_work));
         m_progress.emplace(kTitle, m_work, true);
         ASSERT_TRUE(WorkUntil([] { return ::GetActiveWindow() == Box()->m_hWnd; }));
-    }
-    void TearDown() override
-    {
-        m_progress.reset();
-        m_work.DestroyWindow();
     }
     /// Works, with nothing but Update to take messages, until the condition holds; false if it never does.
     bool WorkUntil(const std::function<bool()>& condition)
@@ -94,20 +82,20 @@ protected:
         return WorkUntil([&] { return visit.Count() == 1; });
     }
 
-    CWnd m_work;
+    OwnerWindow m_work;
     std::optional<CSingleThreadProgress> m_progress;
     int m_done = 0;
     bool m_answer = true; ///< of the last Update
 };
 
-const auto Click = [] { owtest::QueueClick(Cancel()); };
-const auto PressEscape = [] { owtest::QueueKey(VK_ESCAPE); };
+const auto ClickCancel = [] { owtest::QueueClick(Cancel()); };
+const auto QueueEscape = [] { owtest::QueueKey(VK_ESCAPE); };
 } // namespace
 
 TEST_F(Progress, MouseAndKeysAskAndARefusalLetsTheWorkGoOn)
 {
     m_work.EnableWindow(FALSE);
-    const std::function<void()> ways[] = {Click, PressEscape, [] { owtest::QueueKey(VK_RETURN); },
+    const std::function<void()> ways[] = {ClickCancel, QueueEscape, [] { owtest::QueueKey(VK_RETURN); },
                                           [] { Box()->PostMessage(WM_CLOSE); }};
     for (const auto& way : ways)
     {
@@ -131,13 +119,13 @@ TEST_F(Progress, TheFirstAgreementCountsForGood)
         EXPECT_EQ(another.Count(), 0) << "one question at a time";
         owtest::Press(VK_RETURN);
     };
-    EXPECT_TRUE(Ask(Click, agree));
+    EXPECT_TRUE(Ask(ClickCancel, agree));
     EXPECT_TRUE(m_work.IsWindowEnabled());
     EXPECT_FALSE(m_answer) << "the very call in which the user agreed";
     EXPECT_TRUE(Box()->IsWindowVisible());
 
     owtest::ModalVisit second([](CWnd&) {});
-    Click();
+    ClickCancel();
     for (int i = 0; i < 100; ++i)
         EXPECT_FALSE(m_progress->Update(i) || m_progress->DispatchPendingWindowMessages());
     EXPECT_EQ(second.Count(), 0);
@@ -147,7 +135,7 @@ TEST_F(Progress, TheFirstAgreementCountsForGood)
 
 TEST_F(Progress, TheBoxMayGoWhileTheQuestionStands)
 {
-    EXPECT_TRUE(Ask(PressEscape, [](CWnd&) { Box()->DestroyWindow(); }));
+    EXPECT_TRUE(Ask(QueueEscape, [](CWnd&) { Box()->DestroyWindow(); }));
     EXPECT_TRUE(m_answer);
     EXPECT_EQ(Box(), nullptr);
     EXPECT_TRUE(m_work.IsWindowEnabled());
@@ -173,14 +161,10 @@ TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
 
 TEST_F(Progress, SpeaksTheUsersLanguageAndStandsOverItsParent)
 {
-    const auto catalogue = std::filesystem::temp_directory_path() / L"progress_test.po";
-    std::ofstream(catalogue) << "msgid \"Cancel\"\nmsgstr \"Stop\"\n";
-    EXPECT_TRUE(gOtLang.Load(catalogue.c_str()));
+    const OtherCancel other("Stop");
     m_progress.emplace(kTitle, nullptr, true);
     EXPECT_EQ(TextOf(Cancel()), L"Stop");
     EXPECT_GT(CountColoured(*Box(), IDCANCEL), 20) << "the icon";
-    gOtLang.Unload();
-    std::filesystem::remove(catalogue);
     m_work.SetWindowPos(nullptr, -300, 200, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     CRect area, parent, box;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);

@@ -89,6 +89,7 @@ TEST(DoubleText, HasAPointInALocaleWithAComma)
     EXPECT_EQ(Read(L"2.25"), 2.25);
     EXPECT_EQ(Read(L"7,5"), 7.0) << "a comma ends the number";
     EXPECT_EQ(Read(L"1.5,5"), 1.5);
+    EXPECT_EQ(Read(L",5"), kNothing);
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
