@@ -64,8 +64,11 @@ private:
 
 using Script = std::function<void(const OpenDialog&)>;
 
-/// Opens the dialog on `color` and lets the script work it until it is closed; whether it was accepted.
-bool Choose(int& color, const Script& script, bool metaColors = false, int layerColor = 0)
+/// Whether the dialog was accepted, and the colour afterwards.
+using Outcome = std::pair<bool, int>;
+
+/// Opens the dialog on a colour and lets the script work it until it is closed.
+Outcome Choose(int color, const Script& script, bool metaColors = false, int layerColor = 0)
 {
     const owtest::ModalVisit visit(
         [&](CWnd& window)
@@ -77,13 +80,18 @@ bool Choose(int& color, const Script& script, bool metaColors = false, int layer
         });
     const bool accepted = acedSetColorDialog(color, metaColors, layerColor) == Adesk::kTrue;
     EXPECT_EQ(visit.Count(), 1);
-    return accepted;
+    return {accepted, color};
+}
+
+void Cancel(const OpenDialog&)
+{
+    owtest::Press(VK_ESCAPE);
 }
 } // namespace
 
-TEST(ColorDialog, EnterTakesTheSwatchThatWasClicked)
+TEST(ColorDialog, TakesTheSwatchThatWasClicked)
 {
-    const auto script = [](const OpenDialog& dialog)
+    const auto enter = [](const OpenDialog& dialog)
     {
         EXPECT_EQ(dialog.Text(), L"5") << "it opens on the start value";
         dialog.ClickSwatch(30);
@@ -94,46 +102,20 @@ TEST(ColorDialog, EnterTakesTheSwatchThatWasClicked)
         EXPECT_EQ(dialog.NewColor(), RGB(255, 127, 0));
         owtest::Press(VK_RETURN);
     };
-    int color = 5;
-    EXPECT_TRUE(Choose(color, script));
-    EXPECT_EQ(color, 30);
-}
-
-TEST(ColorDialog, EscapeAndCancelLeaveTheColor)
-{
-    const Script closings[] = {[](const OpenDialog&) { owtest::Press(VK_ESCAPE); },
-                               [](const OpenDialog& dialog) { owtest::Click(dialog.Item(IDCANCEL)); }};
-    for (const Script& close : closings)
+    EXPECT_EQ(Choose(5, enter), Outcome(true, 30));
+    const auto escape = [](const OpenDialog& dialog)
     {
-        const auto script = [&](const OpenDialog& dialog)
-        {
-            dialog.ClickSwatch(30);
-            close(dialog);
-        };
-        int color = 5;
-        EXPECT_FALSE(Choose(color, script));
-        EXPECT_EQ(color, 5);
-    }
-}
-
-TEST(ColorDialog, ArrowsMoveTheChoice)
-{
-    const auto script = [](const OpenDialog& dialog)
-    {
-        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_COLOR_GRID));
-        for (WORD key : {VK_RIGHT, VK_RIGHT, VK_DOWN})
-            owtest::Press(key);
-        EXPECT_EQ(dialog.Text(), L"31");
-        owtest::Click(dialog.Item(IDOK));
+        dialog.ClickSwatch(30);
+        owtest::Press(VK_ESCAPE);
     };
-    int color = 10;
-    EXPECT_TRUE(Choose(color, script));
-    EXPECT_EQ(color, 31);
-}
-
-TEST(ColorDialog, DoubleClickAccepts)
-{
-    const auto script = [](const OpenDialog& dialog)
+    EXPECT_EQ(Choose(5, escape), Outcome(false, 5));
+    const auto cancel = [](const OpenDialog& dialog)
+    {
+        dialog.ClickSwatch(30);
+        owtest::Click(dialog.Item(IDCANCEL));
+    };
+    EXPECT_EQ(Choose(5, cancel), Outcome(false, 5));
+    const auto doubleClick = [](const OpenDialog& dialog)
     {
         for (int click = 0; click < 2; ++click)
         {
@@ -142,29 +124,31 @@ TEST(ColorDialog, DoubleClickAccepts)
         }
         owtest::PumpUntil([&] { return !dialog.IsOpen(); });
     };
-    int color = 1;
-    EXPECT_TRUE(Choose(color, script));
-    EXPECT_EQ(color, 252);
+    EXPECT_EQ(Choose(1, doubleClick), Outcome(true, 252));
 }
 
-TEST(ColorDialog, NumberTypedOverTheSwatchesGoesToTheBox)
+TEST(ColorDialog, IsWorkedByKeys)
 {
-    const auto script = [](const OpenDialog& dialog)
+    const auto arrows = [](const OpenDialog& dialog)
+    {
+        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_COLOR_GRID));
+        for (WORD key : {VK_RIGHT, VK_RIGHT, VK_DOWN})
+            owtest::Press(key);
+        EXPECT_EQ(dialog.Text(), L"31");
+        owtest::Click(dialog.Item(IDOK));
+    };
+    EXPECT_EQ(Choose(10, arrows), Outcome(true, 31));
+    const auto number = [](const OpenDialog& dialog)
     {
         owtest::Type(L"142");
-        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_COLOR_TEXT));
+        EXPECT_EQ(::GetFocus(), dialog.Item(IDC_COLOR_TEXT))
+            << "a number typed over the swatches goes to the box";
         EXPECT_EQ(dialog.Text(), L"142");
         EXPECT_EQ(dialog.Text(IDC_COLOR_INDEX), L"Index color: 142");
         owtest::Press(VK_RETURN);
     };
-    int color = 7;
-    EXPECT_TRUE(Choose(color, script));
-    EXPECT_EQ(color, 142);
-}
-
-TEST(ColorDialog, NumberThatIsNoColorIsNotAccepted)
-{
-    const auto script = [](const OpenDialog& dialog)
+    EXPECT_EQ(Choose(7, number), Outcome(true, 142));
+    const auto wrongNumbers = [](const OpenDialog& dialog)
     {
         for (const wchar_t* text : {L"256", L"0"})
         {
@@ -178,22 +162,25 @@ TEST(ColorDialog, NumberThatIsNoColorIsNotAccepted)
         owtest::Type(L"9"); // the wrong text was selected, so this replaces it
         owtest::Press(VK_RETURN);
     };
-    int color = 7;
-    EXPECT_TRUE(Choose(color, script));
-    EXPECT_EQ(color, 9);
+    EXPECT_EQ(Choose(7, wrongNumbers), Outcome(true, 9));
+    const auto noChoice = [](const OpenDialog& dialog)
+    {
+        EXPECT_EQ(dialog.Text(), L"");
+        owtest::Press(VK_RETURN);
+        EXPECT_TRUE(dialog.IsOpen()) << "there is nothing to accept";
+        owtest::Press(VK_ESCAPE);
+    };
+    EXPECT_EQ(Choose(999, noChoice), Outcome(false, 999));
 }
 
 TEST(ColorDialog, LayerAndBlockAreOfferedOnlyWhereAllowed)
 {
     const auto lookForThem = [](const OpenDialog& dialog)
     {
-        EXPECT_FALSE(dialog.IsShown(IDC_COLOR_BYLAYER));
-        EXPECT_FALSE(dialog.IsShown(IDC_COLOR_BYBLOCK));
+        EXPECT_FALSE(dialog.IsShown(IDC_COLOR_BYLAYER) || dialog.IsShown(IDC_COLOR_BYBLOCK));
         owtest::Press(VK_ESCAPE);
     };
-    int color = 7;
-    EXPECT_FALSE(Choose(color, lookForThem));
-
+    EXPECT_EQ(Choose(7, lookForThem), Outcome(false, 7));
     const auto chooseLayer = [](const OpenDialog& dialog)
     {
         owtest::Click(dialog.Item(IDC_COLOR_BYLAYER));
@@ -201,17 +188,14 @@ TEST(ColorDialog, LayerAndBlockAreOfferedOnlyWhereAllowed)
         EXPECT_EQ(dialog.NewColor(), RGB(0, 255, 0)) << "in the layer's colour";
         owtest::Click(dialog.Item(IDOK));
     };
-    EXPECT_TRUE(Choose(color, chooseLayer, true, 3));
-    EXPECT_EQ(color, 256);
-
+    EXPECT_EQ(Choose(7, chooseLayer, true, 3), Outcome(true, 256));
     const auto chooseBlock = [](const OpenDialog& dialog)
     {
         EXPECT_EQ(dialog.Text(), L"ByLayer");
         owtest::Click(dialog.Item(IDC_COLOR_BYBLOCK));
         owtest::Click(dialog.Item(IDOK));
     };
-    EXPECT_TRUE(Choose(color, chooseBlock, true));
-    EXPECT_EQ(color, 0);
+    EXPECT_EQ(Choose(256, chooseBlock, true), Outcome(true, 0));
 }
 
 TEST(ColorDialog, ReadoutFollowsTheMouse)
@@ -226,36 +210,18 @@ TEST(ColorDialog, ReadoutFollowsTheMouse)
         EXPECT_EQ(readout(), L"Index color: 2") << "a new choice counts more";
         dialog.Hover(dialog.Swatch(50) + CSize(40, 0));
         dialog.MoveOff();
-        EXPECT_TRUE(owtest::PumpUntil([&] { return readout() == L"Index color: 2"; }))
-            << "the mouse has left";
+        EXPECT_TRUE(owtest::PumpUntil([&] { return readout() == L"Index color: 2"; })) << "it has left";
         owtest::Press(VK_ESCAPE);
     };
-    int color = 1;
-    EXPECT_FALSE(Choose(color, script));
-}
-
-TEST(ColorDialog, StartValueWithoutASwatchOpensWithoutAChoice)
-{
-    const auto script = [](const OpenDialog& dialog)
-    {
-        EXPECT_EQ(dialog.Text(), L"");
-        owtest::Press(VK_RETURN);
-        EXPECT_TRUE(dialog.IsOpen()) << "there is nothing to accept";
-        owtest::Press(VK_ESCAPE);
-    };
-    int color = 999;
-    EXPECT_FALSE(Choose(color, script));
-    EXPECT_EQ(color, 999);
+    Choose(1, script);
 }
 
 TEST(ColorDialog, GivesBackWhatItTook)
 {
-    const auto cancel = [](const OpenDialog&) { owtest::Press(VK_ESCAPE); };
-    int color = 1;
-    Choose(color, cancel); // what the first use sets up stays
+    Choose(1, Cancel); // what the first use sets up stays
     const HINSTANCE resources = AfxGetResourceHandle();
     const int gdiObjects = owtest::CountHandles().gdi;
-    Choose(color, cancel);
+    Choose(1, Cancel);
     EXPECT_EQ(owtest::CountHandles().gdi, gdiObjects);
     EXPECT_EQ(AfxGetResourceHandle(), resources);
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);

@@ -10,11 +10,7 @@
 
 TEST(ColorIndex, HasItsKnownColors)
 {
-    struct
-    {
-        int index;
-        COLORREF color;
-    } const cases[] = {
+    const std::pair<int, COLORREF> cases[] = {
         // clang-format off
         {1, RGB(255, 0, 0)},          {2, RGB(255, 255, 0)},        {3, RGB(0, 255, 0)},
         {4, RGB(0, 255, 255)},        {5, RGB(0, 0, 255)},          {6, RGB(255, 0, 255)},
@@ -24,18 +20,12 @@ TEST(ColorIndex, HasItsKnownColors)
         {31, RGB(255, 191, 127)},     {90, RGB(0, 255, 0)},         {150, RGB(0, 127, 255)},
         {210, RGB(255, 0, 255)},      {240, RGB(255, 0, 63)},       {250, RGB(51, 51, 51)},
         {251, RGB(91, 91, 91)},       {254, RGB(214, 214, 214)},    {255, RGB(255, 255, 255)},
+        {0, RGB(255, 255, 255)},      {256, RGB(255, 255, 255)}, // the foreground
+        {-1, CLR_INVALID},            {257, CLR_INVALID},
         // clang-format on
     };
     for (const auto& [index, color] : cases)
         EXPECT_EQ(acedGetRGB(index), color) << "index " << index;
-}
-
-TEST(ColorIndex, WithoutAColorOfItsOwnAnswersTheForegroundAndBeyondThoseNone)
-{
-    for (int index : {0, 256})
-        EXPECT_EQ(acedGetRGB(index), RGB(255, 255, 255));
-    for (int index : {-1, 257})
-        EXPECT_EQ(acedGetRGB(index), CLR_INVALID);
 }
 
 TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
@@ -59,35 +49,25 @@ TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
 TEST(ColorGrid, ArrowsReachEveryColor)
 {
     std::set<int> reached = {1};
-    std::vector<int> open = {1};
-    while (!open.empty())
-    {
-        const int color = open.back();
-        open.pop_back();
-        for (int next : {ColorGridLayout::Sideways(color, -1), ColorGridLayout::Sideways(color, +1),
-                         ColorGridLayout::Vertically(color, -1), ColorGridLayout::Vertically(color, +1)})
-        {
-            if (reached.insert(next).second)
-                open.push_back(next);
-        }
-    }
+    for (size_t before = 0; before != std::exchange(before, reached.size());)
+        for (const int color : std::set(reached))
+            for (const int step : {-1, +1})
+                reached.insert(
+                    {ColorGridLayout::Sideways(color, step), ColorGridLayout::Vertically(color, step)});
     EXPECT_EQ(reached.size(), 255u);
 }
 
 TEST(ColorGrid, ArrowsGoToTheNeighbour)
 {
-    EXPECT_EQ(ColorGridLayout::Sideways(10, +1), 20);
-    EXPECT_EQ(ColorGridLayout::Sideways(10, -1), 10) << "stays at the border";
-    EXPECT_EQ(ColorGridLayout::Vertically(10, -1), 12);
-    EXPECT_EQ(ColorGridLayout::Vertically(10, +1), 11);
-    EXPECT_EQ(ColorGridLayout::Vertically(18, -1), 18);
-
-    EXPECT_EQ(ColorGridLayout::Sideways(9, +1), 250) << "over the gap";
-    EXPECT_EQ(ColorGridLayout::Sideways(250, -1), 9);
-    EXPECT_EQ(ColorGridLayout::Sideways(255, +1), 255);
-    EXPECT_EQ(ColorGridLayout::Vertically(19, +1), 1);
-    EXPECT_EQ(ColorGridLayout::Vertically(249, +1), 255);
-    EXPECT_EQ(ColorGridLayout::Vertically(119, +1), 9) << "above the gap, nearer to the standard colours";
-    EXPECT_EQ(ColorGridLayout::Vertically(179, +1), 250) << "above the gap, nearer to the greys";
-    EXPECT_EQ(ColorGridLayout::Vertically(1, +1), 1);
+    constexpr auto sideways = &ColorGridLayout::Sideways, vertically = &ColorGridLayout::Vertically;
+    const std::tuple<int (*)(int, int), int, int, int> cases[] = {
+        {sideways, 10, +1, 20},     {sideways, 10, -1, 10}, // stays at the border
+        {vertically, 10, -1, 12},   {vertically, 10, +1, 11}, {vertically, 18, -1, 18},
+        {sideways, 9, +1, 250}, // over the gap
+        {sideways, 250, -1, 9},     {sideways, 255, +1, 255}, {vertically, 19, +1, 1},
+        {vertically, 249, +1, 255}, {vertically, 119, +1, 9}, // above the gap, nearer to the standard colours
+        {vertically, 179, +1, 250},                           // above the gap, nearer to the greys
+        {vertically, 1, +1, 1}};
+    for (const auto& [arrow, from, step, to] : cases)
+        EXPECT_EQ(arrow(from, step), to) << from;
 }

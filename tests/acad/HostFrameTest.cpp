@@ -15,27 +15,18 @@ struct HostFrame : testing::Test
 };
 } // namespace
 
-TEST_F(HostFrame, IsMadeHiddenWhenFirstAskedFor)
+TEST_F(HostFrame, IsMadeHiddenWhenFirstAskedForUnlessTheProgramHasMadeIt)
 {
     ASSERT_FALSE(acadhostHasFrame());
-    CFrameWnd* frame = acedGetAcadFrame();
-    ASSERT_NE(frame, nullptr);
-    EXPECT_TRUE(::IsWindow(frame->m_hWnd));
-    EXPECT_FALSE(frame->IsWindowVisible());
-    EXPECT_EQ(acedGetAcadFrame(), frame);
-}
+    EXPECT_FALSE(acedGetAcadFrame()->IsWindowVisible());
+    acadhostDestroyFrame();
 
-TEST_F(HostFrame, OfTheProgramIsTheOneAnswered)
-{
     CFrameWnd* frame = acadhostCreateFrame(L"Drawing", SW_SHOW);
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->IsWindowVisible());
     EXPECT_EQ(acedGetAcadFrame(), frame);
-
     EXPECT_EQ(acadhostCreateFrame(L"Other drawing", SW_HIDE), frame);
-    CString title;
-    frame->GetWindowText(title);
-    EXPECT_STREQ(title, L"Other drawing");
+    EXPECT_EQ(owtest::TextOf(*frame), L"Other drawing");
     EXPECT_FALSE(frame->IsWindowVisible());
 }
 

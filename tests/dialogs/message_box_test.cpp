@@ -56,6 +56,8 @@ Outcome Visit(const std::function<int()>& open, const Visitor& visitor)
         {
             texts = TextsOf(box);
             visitor(box);
+            if (box.IsWindowVisible())
+                texts += L" - still open";
         });
     const int answer = open();
     EXPECT_EQ(visit.Count(), 1);

@@ -16,23 +16,13 @@ HMODULE Library()
     return ::GetModuleHandle(L"DialogControlsOW.dll");
 }
 
-template <class T>
-const T* At(HMODULE module, DWORD offset)
-{
-    return reinterpret_cast<const T*>(reinterpret_cast<const BYTE*>(module) + offset);
-}
-
-const IMAGE_NT_HEADERS64& Headers(HMODULE module)
-{
-    return *At<IMAGE_NT_HEADERS64>(module, At<IMAGE_DOS_HEADER>(module, 0)->e_lfanew);
-}
-
-using EntryPoint = BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID);
-
 BOOL CallEntryPoint(DWORD reason)
 {
-    const DWORD offset = Headers(Library()).OptionalHeader.AddressOfEntryPoint;
-    const auto entry = reinterpret_cast<EntryPoint>(reinterpret_cast<ULONG_PTR>(Library()) + offset);
+    const auto base = reinterpret_cast<ULONG_PTR>(Library());
+    const auto* headers =
+        reinterpret_cast<IMAGE_NT_HEADERS64*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    using EntryPoint = BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID);
+    const auto entry = reinterpret_cast<EntryPoint>(base + headers->OptionalHeader.AddressOfEntryPoint);
     return entry(Library(), reason, nullptr);
 }
 
@@ -52,17 +42,30 @@ std::vector<BYTE> Pixels(HBITMAP bitmap)
 }
 
 template <class Picker>
-void ExpectPictures(std::vector<int> ids)
+void ExpectPictures(const std::vector<int>& ids)
 {
     const Picker picker;
     ASSERT_EQ(picker.BitmapCount(), static_cast<int>(ids.size()));
     for (int i = 0; i < picker.BitmapCount(); ++i)
     {
-        ASSERT_TRUE(IsBitmap(picker.GetBitmap(i))) << "picture " << i;
         CBitmap expected;
         expected.Attach(::LoadBitmap(Library(), MAKEINTRESOURCE(ids[i])));
+        ASSERT_TRUE(IsBitmap(picker.GetBitmap(i))) << "picture " << i;
         EXPECT_EQ(Pixels(picker.GetBitmap(i)), Pixels(expected)) << "picture " << i;
     }
+}
+
+/// How many of the classes have their last picture.
+template <class... Pickers>
+int CountLoaded()
+{
+    return (IsBitmap(Pickers().GetBitmap(Pickers().BitmapCount() - 1)) + ...);
+}
+
+template <class... Pickers>
+void LoadAll()
+{
+    (Pickers::LoadBitmaps(Library()), ...);
 }
 
 std::vector<int> Ids(int first, int last)
@@ -76,7 +79,7 @@ const std::vector<int> kLineIds = {10076, 10077, 10078, 10079, 10080, 10183, 101
                                    10182, 10185, 10187, 10189, 10190, 10191};
 } // namespace
 
-TEST(ModuleInterface, IsOneObjectThatRegistersNothing)
+TEST(ModuleInterface, IsOneObjectThatRegistersNothingUnderPlainNames)
 {
     OwDllInterface* pInterface = OwGetDllInterface();
     EXPECT_EQ(pInterface, OwGetDllInterface());
@@ -84,10 +87,7 @@ TEST(ModuleInterface, IsOneObjectThatRegistersNothing)
     pInterface->InitDocument(nullptr);
     EXPECT_EQ(pInterface->GetClassRegistry(), nullptr);
     EXPECT_EQ(pInterface->GetCommandRegistry(), nullptr);
-}
 
-TEST(ModuleInterface, EntryPointsAreExportedUnderPlainNames)
-{
     const auto address = [](const char* name)
     { return reinterpret_cast<void*>(::GetProcAddress(Library(), name)); };
     EXPECT_EQ(address("OwGetDllInterface"), reinterpret_cast<void*>(&OwGetDllInterface));
@@ -97,7 +97,7 @@ TEST(ModuleInterface, EntryPointsAreExportedUnderPlainNames)
     EXPECT_NE(version(17), version(18));
 }
 
-TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoaded)
+TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoadedInTheirSizes)
 {
     int exported = 0, loaded = 0; // what is counted here is imported
 #define OW_COUNT(member) ++exported, loaded += CButtonST::member != nullptr;
@@ -107,11 +107,10 @@ TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoaded)
 #undef OW_COUNT
     EXPECT_EQ(exported, 336);
     EXPECT_EQ(loaded, 102);
-}
 
-TEST(SharedGraphics, IconsHaveTheirOwnSizeAndTheirHotSpotInTheMiddle)
-{
-    const auto size = [](HICON icon)
+    const std::pair<HICON, LONG> sizes[] = {
+        {CButtonST::hIconError, 32}, {CButtonST::h24IconOpen, 24}, {CButtonST::hIconPrfGrI0, 16}};
+    for (const auto& [icon, size] : sizes)
     {
         ICONINFO info{};
         EXPECT_TRUE(::GetIconInfo(icon, &info));
@@ -119,13 +118,9 @@ TEST(SharedGraphics, IconsHaveTheirOwnSizeAndTheirHotSpotInTheMiddle)
         ::GetObject(info.hbmColor, sizeof(bitmap), &bitmap);
         ::DeleteObject(info.hbmColor);
         ::DeleteObject(info.hbmMask);
-        EXPECT_EQ(static_cast<LONG>(info.xHotspot * 2), bitmap.bmWidth);
-        EXPECT_EQ(static_cast<LONG>(info.yHotspot * 2), bitmap.bmHeight);
-        return bitmap.bmWidth;
-    };
-    EXPECT_EQ(size(CButtonST::hIconError), 32);
-    EXPECT_EQ(size(CButtonST::h24IconOpen), 24);
-    EXPECT_EQ(size(CButtonST::hIconPrfGrI0), 16);
+        EXPECT_EQ(CSize(bitmap.bmWidth, bitmap.bmHeight), CSize(size, size));
+        EXPECT_EQ(CSize(2 * info.xHotspot, 2 * info.yHotspot), CSize(size, size)) << "in the middle";
+    }
 }
 
 TEST(SharedGraphics, PicturesStandInTheOrderOfTheirTables)
@@ -144,31 +139,28 @@ TEST(SharedGraphics, PicturesStandInTheOrderOfTheirTables)
 // Kept: Cleanup gives back four tables and leaves three, the icons and the theme helper.
 TEST(SharedGraphics, CleanupGivesBackFourTablesOfSeven)
 {
+    const auto given = &CountLoaded<CBitmapBtnSTKotnaLinija, CBitmapBtnSTTekstKote, CBitmapBtnSTSrafura,
+                                    CBitmapBtnSTVisinskaKota>;
+    const auto left =
+        &CountLoaded<CBitmapBtnSTLinija, CBitmapBtnSTSimbolPresekaLinija, CBitmapBtnSTSimbolPresekaZavrsetak>;
     const HINSTANCE resources = AfxGetResourceHandle();
     const HBITMAP hatch = CBitmapBtnSTSrafura().GetBitmap(0);
+    EXPECT_EQ(given() + left(), 7);
     for (int round = 0; round < 2; ++round) // a second time there is nothing to do
     {
         OwGetDllInterface()->Cleanup(nullptr);
-        EXPECT_EQ(CBitmapBtnSTKotnaLinija().GetBitmap(20), nullptr);
-        EXPECT_EQ(CBitmapBtnSTTekstKote().GetBitmap(0), nullptr);
-        EXPECT_EQ(CBitmapBtnSTSrafura().GetBitmap(0), nullptr);
-        EXPECT_EQ(CBitmapBtnSTVisinskaKota().GetBitmap(2), nullptr);
+        EXPECT_EQ(given(), 0);
         EXPECT_FALSE(IsBitmap(hatch)) << "the handle is freed, not just forgotten";
-        EXPECT_TRUE(IsBitmap(CBitmapBtnSTLinija().GetBitmap(0)));
-        EXPECT_TRUE(IsBitmap(CBitmapBtnSTSimbolPresekaLinija().GetBitmap(0)));
-        EXPECT_TRUE(IsBitmap(CBitmapBtnSTSimbolPresekaZavrsetak().GetBitmap(0)));
-        EXPECT_NE(CButtonST::hIconOk, nullptr);
-        EXPECT_NE(CButtonST::pLocalTheme, nullptr);
+        EXPECT_EQ(left(), 3);
+        EXPECT_TRUE(CButtonST::hIconOk && CButtonST::pLocalTheme);
     }
     CBitmapBtnSTLinija::UnloadBitmaps();
-    EXPECT_EQ(CBitmapBtnSTLinija().GetBitmap(0), nullptr) << "these are freed by their own class";
+    EXPECT_EQ(left(), 2) << "these are freed by their own class";
 
-    CBitmapBtnSTKotnaLinija::LoadBitmaps(Library());
-    CBitmapBtnSTTekstKote::LoadBitmaps(Library());
-    CBitmapBtnSTSrafura::LoadBitmaps(Library());
-    CBitmapBtnSTVisinskaKota::LoadBitmaps(Library());
-    CBitmapBtnSTLinija::LoadBitmaps(Library());
+    LoadAll<CBitmapBtnSTKotnaLinija, CBitmapBtnSTTekstKote, CBitmapBtnSTSrafura, CBitmapBtnSTVisinskaKota,
+            CBitmapBtnSTLinija>();
     ExpectPictures<CBitmapBtnSTSrafura>(Ids(10139, 10148));
+    EXPECT_EQ(given() + left(), 7);
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
     EXPECT_EQ(AfxGetResourceHandle(), resources) << "loading leaves the host's as it was";
 }

@@ -25,23 +25,19 @@ TEST(ObjectArray, CopiesObjectsThatCanBeCopied)
 
 TEST(ObjectArray, HoldsObjectsThatCannotBeCopied)
 {
+    static int s_nCount = 0;
     struct Counted
     {
-        Counted() { ++Count(); }
-        ~Counted() { --Count(); }
+        Counted() { ++s_nCount; }
+        ~Counted() { --s_nCount; }
         Counted(const Counted&) = delete;
-        static int& Count()
-        {
-            static int s_nCount = 0;
-            return s_nCount;
-        }
     };
     {
         OCArray<Counted> array;
         array.SetSize(3);
-        EXPECT_EQ(Counted::Count(), 3);
+        EXPECT_EQ(s_nCount, 3);
         array.SetSize(1);
-        EXPECT_EQ(Counted::Count(), 1);
+        EXPECT_EQ(s_nCount, 1);
     }
-    EXPECT_EQ(Counted::Count(), 0);
+    EXPECT_EQ(s_nCount, 0);
 }

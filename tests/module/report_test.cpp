@@ -38,17 +38,16 @@ protected:
     fs::path TmpLog() const { return m_base / L"tmp" / L"owserror.log"; }
     fs::path CurrentLog() const { return m_base / L"current" / L"owserror.log"; }
 
-    /// A directory of the log's name is in the way of a file of that name.
-    void BlockRoot() { fs::create_directory(RootLog()); }
-
-    owtest::ChildResult Run(const char* scenario) const
+    owtest::ChildResult Run(const char* scenario, const fs::path& program = {}) const
     {
         return owtest::RunChild(scenario, {.environment = {{L"TMP", (m_base / L"tmp").wstring()}},
-                                           .directory = (m_base / L"current").wstring()});
+                                           .directory = (m_base / L"current").wstring(),
+                                           .program = program.wstring()});
     }
-    owtest::ChildResult RunWithoutTmp(const char* scenario) const
+    owtest::ChildResult RunWithoutTmp() const
     {
-        return owtest::RunChild(scenario, {.unset = {L"TMP"}, .directory = (m_base / L"current").wstring()});
+        return owtest::RunChild("failed_assert",
+                                {.unset = {L"TMP"}, .directory = (m_base / L"current").wstring()});
     }
 
     static std::string Read(const fs::path& path)
@@ -62,6 +61,7 @@ protected:
     fs::path m_base;
 };
 
+constexpr wchar_t kAssertText[] = L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n";
 constexpr char kAssertReportStart[] =
     R"(##### BEGINING OF STACK DUMP\n\nDate \[\d\d\.\d\d\.\d{4}\]\nLocal System Time \[\d\d:\d\d\]\n\n)"
     R"(ASSERT\(1 \+ 1 == 3\)\nFILE: \.\\Sums\nLINE: 12\n\n)";
@@ -97,7 +97,7 @@ OW_CHILD_SCENARIO(assert_of_long_expression)
 TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
 {
     const owtest::ChildResult result = Run("failed_assert");
-    owtest::ExpectFailedAssert(result, L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n");
+    owtest::ExpectFailedAssert(result, kAssertText);
     EXPECT_EQ(result.output, "") << "nothing runs after the report";
     const std::string log = Read(RootLog());
     ExpectAssertReport(log);
@@ -115,38 +115,29 @@ TEST_F(FatalReport, PercentSignsInTheNameOfAModuleAreWrittenAsTheyStand)
 {
     const fs::path program = fs::path(owtest::ProgramPath()).parent_path() / L"100%s%n.exe";
     fs::copy_file(owtest::ProgramPath(), program, fs::copy_options::overwrite_existing);
-    const owtest::ChildResult result =
-        owtest::RunChild("failed_assert", {.environment = {{L"TMP", (m_base / L"tmp").wstring()}},
-                                           .directory = (m_base / L"current").wstring(),
-                                           .program = program.wstring()});
+    const owtest::ChildResult result = Run("failed_assert", program);
     fs::remove(program);
-    owtest::ExpectFailedAssert(result, L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n");
+    owtest::ExpectFailedAssert(result, kAssertText);
     const std::string log = Read(RootLog());
     ExpectAssertReport(log);
     EXPECT_NE(log.find("100%s%n.exe"), log.npos) << log;
 }
 
-TEST_F(FatalReport, TheLogGoesToTheTmpDirectoryWhereTheRootCannotBeWritten)
+TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeWritten)
 {
-    BlockRoot();
+    fs::create_directory(RootLog()); // a directory of that name is in the way
     Run("failed_assert");
     ExpectAssertReport(Read(TmpLog()));
     EXPECT_FALSE(fs::exists(CurrentLog()));
-}
 
-TEST_F(FatalReport, WithoutTmpTheCurrentDirectoryStaysTheCurrentOne)
-{
-    BlockRoot();
-    RunWithoutTmp("failed_assert");
+    fs::remove(TmpLog());
+    RunWithoutTmp();
     ExpectAssertReport(Read(CurrentLog()));
     EXPECT_FALSE(fs::exists(TmpLog()));
-}
 
-TEST_F(FatalReport, WithoutAnyLogTheBoxIsShownAllTheSame)
-{
-    BlockRoot();
+    fs::remove(CurrentLog());
     fs::create_directory(CurrentLog());
-    owtest::ExpectFailedAssert(RunWithoutTmp("failed_assert"), L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n");
+    owtest::ExpectFailedAssert(RunWithoutTmp(), kAssertText); // the box is shown all the same
 }
 
 TEST_F(FatalReport, ALongExpressionIsCutInTheBoxAndWholeInTheLog)

@@ -76,29 +76,18 @@ private:
     std::vector<char> m_bytes;
 };
 
-/// A copy of the library that lacks one resource; removed when the test is over.
-class CutLibrary
+/// Loads a copy of the library that lacks one resource.
+owtest::ChildResult LoadWithout(LPCWSTR type, int id)
 {
-public:
-    CutLibrary(LPCWSTR type, int id) : m_path(fs::temp_directory_path() / L"ow_cut_library.dll")
-    {
-        LibraryImage image(Library());
-        EXPECT_TRUE(image.Hide(type, id));
-        image.Write(m_path);
-    }
-    ~CutLibrary()
-    {
-        std::error_code ignored;
-        fs::remove(m_path, ignored);
-    }
-    owtest::ChildResult LoadInChild() const
-    {
-        return owtest::RunChild("load_library", {.environment = {{kCopyVariable, m_path.wstring()}}});
-    }
-
-private:
-    fs::path m_path;
-};
+    const fs::path path = fs::temp_directory_path() / L"ow_cut_library.dll";
+    LibraryImage image(Library());
+    EXPECT_TRUE(image.Hide(type, id));
+    image.Write(path);
+    auto result = owtest::RunChild("load_library", {.environment = {{kCopyVariable, path.wstring()}}});
+    std::error_code ignored;
+    fs::remove(path, ignored);
+    return result;
+}
 } // namespace
 
 OW_CHILD_SCENARIO(load_library)
@@ -118,7 +107,7 @@ TEST(LoadingTheLibrary, AttachesItToTheResourceChainAndDetachesIt)
     EXPECT_NE(AfxFindResourceHandle(icon, RT_GROUP_ICON), library);
 }
 
-TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissing)
+TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissingAndDoesWithoutABitmap)
 {
     const std::pair<int, const wchar_t*> ends[] = {
         {10004, L"ASSERT(CButtonST::hIconInformation = LoadSharedIcon(10004))\n[.\\Initialize : 77]\n"},
@@ -126,15 +115,11 @@ TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissing)
     };
     for (const auto& [id, report] : ends)
     {
-        const owtest::ChildResult result = CutLibrary(RT_GROUP_ICON, id).LoadInChild();
+        const owtest::ChildResult result = LoadWithout(RT_GROUP_ICON, id);
         owtest::ExpectFailedAssert(result, report);
         EXPECT_EQ(result.output, "");
     }
-}
-
-TEST(LoadingTheLibrary, DoesWithoutAMissingBitmap)
-{
-    const owtest::ChildResult result = CutLibrary(RT_BITMAP, 10139).LoadInChild();
+    const owtest::ChildResult result = LoadWithout(RT_BITMAP, 10139);
     EXPECT_EQ(result.output, "loaded");
     EXPECT_EQ(result.boxText, L"");
 }
