@@ -78,9 +78,13 @@ Outcome ShowFree(std::initializer_list<CString> texts, const Visitor& visitor)
 }
 } // namespace
 
-TEST(MessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
+TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
 {
-    const Visitor close = [](CWnd& box) { box.SendMessage(WM_SYSCOMMAND, SC_CLOSE); };
+    const Visitor close = [](CWnd& box)
+    {
+        box.SendMessage(WM_SYSCOMMAND, SC_CLOSE);
+        owtest::Pump();
+    };
     const Visitor tabAndEnter = [](CWnd&)
     {
         owtest::Press(VK_TAB);
@@ -119,7 +123,7 @@ TEST(MessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
     EXPECT_EQ(ShowFree({L"Ucitaj", L"Cancel", L"", L""}, PressEnter), Outcome(1, L"Save|Error|Load|Cancel"));
 }
 
-TEST(MessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
+TEST(OstrelMessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
 {
     const auto look = [](CWnd& box)
     {

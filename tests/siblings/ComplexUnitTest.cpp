@@ -25,19 +25,6 @@ CComplexUnit Force(int number)
 const CComplexUnit c_dimensionless(CMeasurementUnit(), 0);
 } // namespace
 
-TEST(MeasurementUnit, UnknownNumberIsNotValidAndConvertsAsTheGlobalUnit)
-{
-    for (const CMeasurementUnit& unit :
-         {CMeasurementUnit(6, 0), CMeasurementUnit(-1, 0), CMeasurementUnit(0, 3)})
-    {
-        EXPECT_FALSE(unit.IsValid());
-        EXPECT_STREQ(unit.Symbol(), L"?");
-        EXPECT_EQ(CComplexUnit(unit).ToGlobal(2.5), 2.5);
-        EXPECT_EQ(CComplexUnit(unit).ToLocal(2.5), 2.5);
-    }
-    EXPECT_EQ(CMeasurementUnit::Count(3), 0);
-}
-
 TEST(ComplexUnit, LengthsHaveTheirSymbolsAndExactSizes)
 {
     const std::pair<LPCWSTR, double> lengths[] = {{L"m", 1.0},  {L"cm", 0.01},   {L"mm", 0.001},
@@ -50,80 +37,63 @@ TEST(ComplexUnit, LengthsHaveTheirSymbolsAndExactSizes)
         EXPECT_EQ(unit.ToGlobal(1.0), metres);
         EXPECT_EQ(unit.ToLocal(metres), 1.0);
     }
+    for (const CMeasurementUnit& unknown :
+         {CMeasurementUnit(6, 0), CMeasurementUnit(-1, 0), CMeasurementUnit(0, 3)})
+    {
+        EXPECT_FALSE(unknown.IsValid());
+        EXPECT_STREQ(unknown.Symbol(), L"?");
+        EXPECT_EQ(CComplexUnit(unknown).ToGlobal(2.5), 2.5);
+        EXPECT_EQ(CComplexUnit(unknown).ToLocal(2.5), 2.5);
+    }
+    EXPECT_EQ(CMeasurementUnit::Count(3), 0);
 }
 
 TEST(ComplexUnit, TypedValuesComeBackAsTheyWereTyped)
 {
     for (int number = 0; number < 6; ++number)
-    {
         for (int exponent : {1, 2, 3, -1})
         {
             const CComplexUnit unit = Length(number, exponent);
             for (int whole = -20000; whole <= 20000; ++whole)
-            {
-                ASSERT_EQ(unit.ToLocal(unit.ToGlobal(whole)), whole)
-                    << number << " to the power of " << exponent;
-                const double decimal = whole / 1000.0;
-                ASSERT_EQ(unit.ToLocal(unit.ToGlobal(decimal)), decimal) << number << ", " << exponent;
-            }
+                for (const double typed : {static_cast<double>(whole), whole / 1000.0})
+                    ASSERT_EQ(unit.ToLocal(unit.ToGlobal(typed)), typed) << number << ", " << exponent;
         }
-    }
-    const double large = 123456789012345.0;
+    const double large = 123456789012345.0, third = 1.0 / 3.0;
     EXPECT_EQ(Length(4).ToLocal(Length(4).ToGlobal(large)), large);
-}
-
-TEST(ComplexUnit, ValueThatIsNoShortDecimalIsNotRounded)
-{
-    const double third = 1.0 / 3.0;
-    EXPECT_EQ(Length(0).ToLocal(third), third);
+    EXPECT_EQ(Length(0).ToLocal(third), third) << "what is no short decimal is not rounded";
     EXPECT_DOUBLE_EQ(Length(2).ToLocal(third), 1000.0 / 3.0);
-}
-
-TEST(ComplexUnit, NotANumberAndInfinityPassUnchanged)
-{
-    const double marker = std::bit_cast<double>(0xFFF8000000001234ull);
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(Length(2).ToLocal(marker)), 0xFFF8000000001234ull);
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(Length(2).ToGlobal(marker)), 0xFFF8000000001234ull);
-    EXPECT_EQ(Length(2).ToLocal(std::numeric_limits<double>::infinity()),
-              std::numeric_limits<double>::infinity());
+    for (const std::uint64_t bits : {0xFFF8000000001234ull, 0x7FF0000000000000ull}) // no number, and infinity
+    {
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(Length(2).ToLocal(std::bit_cast<double>(bits))), bits);
+        EXPECT_EQ(std::bit_cast<std::uint64_t>(Length(2).ToGlobal(std::bit_cast<double>(bits))), bits);
+    }
 }
 
 TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
 {
-    const CComplexUnit load = Force(CMeasurementUnit::eKilonewton) / Length(0, 2);
-    EXPECT_STREQ(load.Symbol(), L"kN/m²");
-    EXPECT_EQ(load.ToGlobal(2.5), 2500.0);
-
-    const CComplexUnit stress = Force(CMeasurementUnit::eKilonewton) / Length(1, 2);
-    EXPECT_STREQ(stress.Symbol(), L"kN/cm²");
-    EXPECT_EQ(stress.ToGlobal(24.0), 240e6);
-
-    const CComplexUnit moment = Force(CMeasurementUnit::eKilonewton) * Length(0);
-    EXPECT_STREQ(moment.Symbol(), L"kN·m");
-    EXPECT_STREQ(Length(1, 4).Symbol(), L"cm⁴");
-    EXPECT_STREQ(Length(2, 12).Symbol(), L"mm¹²");
-    EXPECT_STREQ(Length(0, -1).Symbol(), L"1/m");
-    EXPECT_STREQ((moment / Length(0)).Symbol(), L"kN") << "a unit can cancel out";
-    EXPECT_STREQ(c_dimensionless.Symbol(), L"");
-    EXPECT_EQ(c_dimensionless.ToGlobal(3.0), 3.0);
-
+    const CComplexUnit kN = Force(CMeasurementUnit::eKilonewton), moment = kN * Length(0);
     const CComplexUnit degree(CMeasurementUnit(CMeasurementUnit::eDegree, CMeasurementUnit::eAngle));
-    EXPECT_STREQ(degree.Symbol(), L"°");
-    EXPECT_DOUBLE_EQ(degree.ToGlobal(180.0), std::numbers::pi);
-}
-
-TEST(ComplexUnit, ProductOfTooManyUnitsIsRefused)
-{
+    const std::tuple<CComplexUnit, LPCWSTR, double> cases[] = {
+        {kN / Length(0, 2), L"kN/m²", 1e3},
+        {kN / Length(1, 2), L"kN/cm²", 1e7},
+        {moment, L"kN·m", 1e3},
+        {moment / Length(0), L"kN", 1e3}, // a unit can cancel out
+        {Length(1, 4), L"cm⁴", 1e-8},
+        {Length(2, 12), L"mm¹²", 1e-36},
+        {Length(0, -1), L"1/m", 1.0},
+        {c_dimensionless, L"", 1.0},
+        {degree, L"°", std::numbers::pi / 180}};
+    for (const auto& [unit, symbol, size] : cases)
+    {
+        EXPECT_STREQ(unit.Symbol(), symbol);
+        EXPECT_DOUBLE_EQ(unit.ToGlobal(2.5), 2.5 * size) << CStringA(symbol);
+    }
     const CComplexUnit four = Length(0) * Length(1) * Length(2) * Length(3);
-    EXPECT_THROW(four * Length(4), CInvalidArgException*);
-}
+    EXPECT_THROW(four * Length(4), CInvalidArgException*) << "too many units";
 
-TEST(ComplexUnit, EqualityLooksAtUnitsAndPowersOnly)
-{
     EXPECT_TRUE(CComplexUnit() == Length(0));
-    EXPECT_TRUE(Length(0) != Length(1));
-    EXPECT_TRUE(Length(0) != Length(0, 2));
-    EXPECT_TRUE(Force(1) * Length(0) == Length(0) * Force(1));
+    EXPECT_TRUE(Length(0) != Length(1) && Length(0) != Length(0, 2));
+    EXPECT_TRUE(kN * Length(0) == Length(0) * kN);
     EXPECT_TRUE(Length(2) / Length(2) == c_dimensionless);
 }
 

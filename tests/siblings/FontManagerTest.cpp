@@ -36,32 +36,17 @@ struct FontManager : testing::Test
         m_manager.SetSHXDirectories(paths);
     }
 
-    /// A TrueType face that this machine has: every machine has the first that is enumerated.
-    CString SomeFace()
-    {
-        CFontManager plain;
-        plain.Initialize(m_dc);
-        return plain.Name(0);
-    }
-
     std::filesystem::path m_directory;
     CDC m_dc;
     CFontManager m_manager;
 };
 } // namespace
 
-TEST_F(FontManager, KnowsNothingUntilItIsInitialised)
+TEST_F(FontManager, FindsTheInstalledFacesWhenItIsInitialised)
 {
-    EXPECT_FALSE(m_manager.m_bInitialized);
+    EXPECT_FALSE(m_manager.Initialize(nullptr) || m_manager.m_bInitialized);
     EXPECT_EQ(m_manager.Count(), 0);
-    EXPECT_FALSE(m_manager.Initialize(nullptr));
-    EXPECT_FALSE(m_manager.m_bInitialized);
-}
-
-TEST_F(FontManager, FindsTheInstalledFaces)
-{
-    ASSERT_TRUE(m_manager.Initialize(m_dc));
-    EXPECT_TRUE(m_manager.m_bInitialized);
+    ASSERT_TRUE(m_manager.Initialize(m_dc) && m_manager.m_bInitialized);
     ASSERT_GT(m_manager.Count(), 0);
     for (int i = 0; i < m_manager.Count(); ++i)
     {
@@ -77,38 +62,20 @@ TEST_F(FontManager, FindsTheInstalledFaces)
 
 TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
 {
-    AddFile(L"romans.shx");
-    AddFile(L"TXT.SHX");
-    AddFile(L"readme.txt");
+    m_manager.Initialize(m_dc);
+    const CString face = m_manager.Name(0), other = m_manager.Name(1);
+    for (const CString& file :
+         {CString(L"romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
+        AddFile(file);
     UseDirectories({m_directory / L"absent", m_directory});
+    EXPECT_FALSE(m_manager.m_bInitialized) << "is to be read anew";
     m_manager.Initialize(m_dc);
-
-    EXPECT_EQ(m_manager.Class(m_manager.Find(L"romans")), eFontSHX);
-    EXPECT_EQ(m_manager.Class(m_manager.Find(L"txt")), eFontSHX);
+    for (const CString& name : {CString(L"romans"), CString(L"txt"), face}) // a file counts more than a face
+        EXPECT_EQ(m_manager.Class(m_manager.Find(name)), eFontSHX) << CStringA(name);
     EXPECT_EQ(m_manager.Find(L"readme"), -1);
-    EXPECT_EQ(m_manager.Class(m_manager.Find(SomeFace())), eFontTrueType);
-}
-
-TEST_F(FontManager, NameOfAFaceAndAFileStandsForTheFile)
-{
-    const CString face = SomeFace();
-    AddFile(face + L".shx");
-    UseDirectories({m_directory});
-    m_manager.Initialize(m_dc);
-    EXPECT_EQ(m_manager.Class(m_manager.Find(face)), eFontSHX);
-
+    EXPECT_EQ(m_manager.Class(m_manager.Find(other)), eFontTrueType);
     int listed = 0;
     for (int i = 0; i < m_manager.Count(); ++i)
         listed += m_manager.Name(i).CompareNoCase(face) == 0;
     EXPECT_EQ(listed, 1);
-}
-
-TEST_F(FontManager, IsReadAnewWhenTheDirectoriesChange)
-{
-    m_manager.Initialize(m_dc);
-    AddFile(L"romans.shx");
-    UseDirectories({m_directory});
-    EXPECT_FALSE(m_manager.m_bInitialized);
-    m_manager.Initialize(m_dc);
-    EXPECT_NE(m_manager.Find(L"romans"), -1);
 }

@@ -18,14 +18,10 @@ constexpr LRESULT c_windowsAnswer = 77;
 std::string s_log;
 
 /// The window: logs a 'w' for a probe.
-class CProbedWnd : public CWnd
+struct CProbedWnd : CWnd
 {
-public:
     ~CProbedWnd() override { DestroyWindow(); }
-
     BOOL Open() { return CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr); }
-
-protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message != c_probe)
@@ -36,28 +32,22 @@ protected:
 };
 
 /// A hook: logs its letter for a probe, does what the test wants, and passes the probe on.
-class CProbeHook : public CMsgHook
+struct CProbeHook : CMsgHook
 {
-public:
     explicit CProbeHook(char letter) : m_letter(letter) {}
     using CMsgHook::Default;
 
-    std::function<void()> m_action;
+    std::function<void()> m_action = [] {};
+    char m_letter;
 
-protected:
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
     {
-        if (message == c_probe)
-        {
-            s_log += m_letter;
-            if (m_action)
-                m_action();
-        }
+        if (message != c_probe)
+            return Default();
+        s_log += m_letter;
+        m_action();
         return Default();
     }
-
-private:
-    char m_letter;
 };
 
 WNDPROC ProcedureOf(HWND window)
@@ -90,16 +80,6 @@ struct MsgHook : testing::Test
 };
 } // namespace
 
-TEST_F(MsgHook, LastHookIsAskedFirst)
-{
-    EXPECT_FALSE(a.IsHooked());
-    HookBoth();
-    EXPECT_TRUE(a.IsHooked());
-    EXPECT_EQ(a.GetHookedWindow(), &m_window);
-    EXPECT_EQ(Probe(), "baw");
-    EXPECT_EQ(m_answer, c_windowsAnswer);
-}
-
 TEST_F(MsgHook, LeavesInAnyOrder)
 {
     const WNDPROC original = ProcedureOf(m_window);
@@ -125,55 +105,48 @@ TEST_F(MsgHook, LeavesInAnyOrder)
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
-TEST_F(MsgHook, RefusesWhatItCannotHook)
+TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
 {
     CWnd noWindow;
-    EXPECT_FALSE(a.HookWindow(nullptr));
-    EXPECT_FALSE(a.HookWindow(&noWindow));
-    EXPECT_FALSE(a.IsHooked());
+    EXPECT_FALSE(a.HookWindow(nullptr) || a.HookWindow(&noWindow) || a.IsHooked());
     a.Unhook();
-
     ASSERT_TRUE(a.HookWindow(&m_window));
+    EXPECT_EQ(a.GetHookedWindow(), &m_window);
     EXPECT_FALSE(a.HookWindow(&m_window)) << "it has a window already";
     EXPECT_EQ(Probe(), "aw");
+    EXPECT_EQ(m_answer, c_windowsAnswer);
     EXPECT_EQ(a.Default(), 0) << "there is no current message";
-}
 
-TEST_F(MsgHook, WindowMayDieBeforeItsHooks)
-{
-    HookBoth();
     m_window.DestroyWindow();
     EXPECT_FALSE(a.IsHooked());
-    EXPECT_FALSE(b.IsHooked());
-
-    ASSERT_TRUE(m_window.Open()) << "the hook can take another window";
-    EXPECT_TRUE(a.HookWindow(&m_window));
-    EXPECT_EQ(Probe(), "aw");
+    ASSERT_TRUE(m_window.Open());
+    HookBoth();
+    EXPECT_EQ(Probe(), "baw") << "it can take another window";
+    b.m_action = [&] { m_window.DestroyWindow(); };
+    EXPECT_EQ(Probe(), "b") << "the window may die inside a hook";
+    EXPECT_EQ(m_answer, 0);
+    EXPECT_FALSE(a.IsHooked() || b.IsHooked());
 }
 
-TEST_F(MsgHook, HooksMayLeaveWhileAMessageIsOnItsWay)
+TEST_F(MsgHook, HooksMayJoinAndLeaveWhileAMessageIsOnItsWay)
 {
     CProbeHook c('c');
     HookBoth();
-    c.HookWindow(&m_window);
-
+    b.m_action = [&] { c.HookWindow(&m_window); };
+    EXPECT_EQ(Probe(), "baw");
+    EXPECT_EQ(Probe(), "cbaw") << "one that joins sees the next message";
     c.m_action = [&] { b.Unhook(); };
     EXPECT_EQ(Probe(), "caw") << "one that has not seen the message yet";
-
-    c.m_action = nullptr;
+    c.m_action = [] {};
     a.m_action = [&] { c.Unhook(); };
     EXPECT_EQ(Probe(), "caw") << "one that has";
     EXPECT_EQ(Probe(), "aw");
-
     a.m_action = [&] { a.Unhook(); };
     EXPECT_EQ(Probe(), "aw") << "the hook itself: Default still passes on";
     EXPECT_EQ(m_answer, c_windowsAnswer);
     EXPECT_EQ(Probe(), "w");
-}
 
-TEST_F(MsgHook, HookMayDestroyItselfInItsWindowProc)
-{
-    class CSuicide : public CMsgHook
+    struct CSuicide : CMsgHook
     {
         LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
         {
@@ -183,46 +156,23 @@ TEST_F(MsgHook, HookMayDestroyItselfInItsWindowProc)
             return answer;
         }
     };
-    a.HookWindow(&m_window);
     (new CSuicide)->HookWindow(&m_window);
-    EXPECT_EQ(Probe(), "aw");
+    EXPECT_EQ(Probe(), "w");
     EXPECT_EQ(m_answer, c_windowsAnswer);
-    EXPECT_EQ(Probe(), "aw");
+    EXPECT_EQ(Probe(), "w");
 }
 
-TEST_F(MsgHook, HookThatJoinsSeesTheNextMessage)
+TEST_F(MsgHook, AMessageInsideAMessageGoesThroughTheWholeLine)
 {
-    a.m_action = [&] { b.HookWindow(&m_window); };
-    a.HookWindow(&m_window);
-    EXPECT_EQ(Probe(), "aw");
-    EXPECT_EQ(Probe(), "baw");
-}
-
-TEST_F(MsgHook, WindowMayDieInsideAHook)
-{
-    HookBoth();
-    b.m_action = [&] { m_window.DestroyWindow(); };
-    EXPECT_EQ(Probe(), "b");
-    EXPECT_EQ(m_answer, 0);
-    EXPECT_FALSE(a.IsHooked());
-    EXPECT_FALSE(b.IsHooked());
-}
-
-TEST_F(MsgHook, MessageInsideAMessageGoesThroughTheWholeLine)
-{
-    int depth = 0;
-    a.m_action = [&]
+    a.m_action = [&, depth = 0]() mutable
     {
         if (++depth == 1)
             m_window.SendMessage(c_probe);
     };
     HookBoth();
     EXPECT_EQ(Probe(), "babaww") << "and Default then means the outer one again";
-}
 
-TEST_F(MsgHook, HookCanLetItsOwnMessagesGoToTheWindow)
-{
-    class CShout : public CMsgHook
+    struct CShout : CMsgHook // lets its own message go to the window
     {
         LRESULT WindowProc(UINT message, WPARAM, LPARAM lParam) override
         {

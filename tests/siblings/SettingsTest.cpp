@@ -5,20 +5,16 @@
 
 #include <gtest/gtest.h>
 
-TEST(FormatJedinice, WritesLengthsInItsUnit)
+TEST(FormatJedinice, WritesLengthsInItsUnitWithTheNearestSenseOfItsFields)
 {
     CFormatJedinice format;
     EXPECT_STREQ(format.Format(1.25), L"1250");
-
     format.nUnitIndex = CMeasurementUnit::eCentimetre;
     format.nEditValue = 1;
     format.nCheckFlag = 1;
     EXPECT_STREQ(format.Format(0.125), L"12.5 cm");
-}
 
-TEST(FormatJedinice, TakesTheNearestSenseOfFieldsOutOfRange)
-{
-    CFormatJedinice format;
+    format = {};
     format.nUnitIndex = -1;
     EXPECT_STREQ(format.Unit().Symbol(), L"mm");
     format.nEditValue = -3;
