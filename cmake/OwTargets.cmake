@@ -24,6 +24,15 @@ else()
   add_compile_options(-Wall -Wextra -Werror -finput-charset=UTF-8)
   add_compile_definitions(WINVER=0x0600 _WIN32_WINNT=0x0600 _WIN32_IE=0x0700)
 endif()
+if(OW_CHECK)
+  # What a fault in arithmetic or in the use of a container would only sometimes show, ends the program at once. Left
+  # out: null, as MFC documents calls of GetSafeHwnd and the like through null pointers; vptr, which wants a run-time
+  # library that this compiler does not bring.
+  add_compile_definitions(_GLIBCXX_ASSERTIONS)
+  add_compile_options(-g1 -fsanitize=undefined -fsanitize-undefined-trap-on-error -fno-sanitize=null,vptr)
+  add_library(ow_heap_check OBJECT ${PROJECT_SOURCE_DIR}/tests/check/HeapCheck.cpp)
+  link_libraries(ow_heap_check)
+endif()
 if(OW_COVERAGE)
   add_compile_options(--coverage)
   add_link_options(--coverage)

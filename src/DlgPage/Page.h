@@ -2,6 +2,7 @@
 // A page of a settings dialog: a named node of the page selectors, backed by a dialog that shows its
 // controls.
 //
+// ```cpp
 //     class CBeamPage : public CPage
 //     {
 //     public:
@@ -9,8 +10,11 @@
 //         EPageID GetPageID() const override { return ePageBeams; }    // one of the module's own identities
 //         double dSpan = 0;                                            // what the dialog's controls show
 //     };
+// ```
 //
-//     manager.AddPage(new CBeamPage(pDialog), nullptr);                // the manager owns it from here on
+// ```cpp
+//     m_manager.AddPage(new CBeamPage(pDialog), nullptr);              // the manager owns it from here on
+// ```
 //
 // Several pages may share one dialog, which then shows the values of whichever is selected.
 //

@@ -2,11 +2,13 @@
 // A page selector made of a combo box and a button: the button leads from a row's page to its child page and
 // back, and changes its text and icon with it.
 //
+// ```cpp
 //     class CSettingsDialog : public CDialog, public APageFrameProvider
 //     {
 //         CPageManager m_manager{this};
 //         CPageComboButtonSTCtrlGroup m_group{IDC_PAGES, IDC_MORE};
 //     };
+// ```
 //
 // How to wire it, and what it asks of pages and controls: PageComboCtrlGroup.h. In the dialog template the
 // button is a push button.

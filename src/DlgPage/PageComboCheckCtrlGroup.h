@@ -2,11 +2,13 @@
 // A page selector made of a combo box and a check box: while the box is checked, rows that have a child page
 // show it.
 //
+// ```cpp
 //     class CSettingsDialog : public CDialog, public APageFrameProvider
 //     {
 //         CPageManager m_manager{this};
 //         CPageComboCheckCtrlGroup m_group{IDC_PAGES, IDC_DETAILS};
 //     };
+// ```
 //
 // How to wire it, and what it asks of pages and controls: PageComboCtrlGroup.h. In the dialog template the
 // check box is a BS_AUTOCHECKBOX: the group reads its state and leaves the change to it.

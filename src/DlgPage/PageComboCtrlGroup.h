@@ -8,11 +8,13 @@
 // A group is a member of the host dialog, and serves a CPageManager as the tree does. The wiring must come in
 // this order, as nothing is replayed:
 //
+// ```cpp
 //     m_group.DoDataExchange(pDX);                               // in the host's DoDataExchange
 //     m_manager.RegisterAddPageNotification(&m_group, true);
 //     m_group.RegisterSelectPageNotification(&m_manager, true);
-//     m_manager.AddDialog(...); m_manager.AddPage(...);          // the rows fill themselves
+//     m_manager.AddDialog(pDialog); m_manager.AddPage(pFirst, nullptr); // the rows fill themselves
 //     m_group.SetCurrentPage(pFirst);                            // nothing is selected until then
+// ```
 //
 // The combo box must be a CBS_DROPDOWNLIST without CBS_SORT: rows count in the order of adding.
 //

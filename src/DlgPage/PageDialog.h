@@ -1,8 +1,12 @@
 #pragma once
 // The base of the dialogs that show the controls of pages: a modeless child dialog inside the host's.
 //
+// ```cpp
 //     class CBeamDialog : public CPageDialog, public CEditNNotificationHandler
 //     {
+//         CEditDoubleWithRange m_editSpan{this};
+//         CBeamPage* m_pPage = nullptr;
+//
 //     public:
 //         explicit CBeamDialog(CWnd* pHost) : CPageDialog(IDD_BEAMS, pHost) {}
 //         int OnInitPageDialog() override { m_editSpan.SetMinRange(0); return TRUE; }
@@ -13,6 +17,7 @@
 //         }
 //         void OnEditNChange(int) override { m_pPage->dSpan = m_editSpan.GetValue(); MyAttributeChanged(); }
 //     };
+// ```
 //
 // Template: a child (WS_CHILD, DS_CONTROL) without a frame, not visible. CPageManager::AddDialog owns the
 // object, creates its window in the host and leaves it hidden; it lives as long as the host.

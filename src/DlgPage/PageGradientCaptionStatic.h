@@ -1,9 +1,11 @@
 #pragma once
 // The title strip above the page frame: the name of the current page in bold on a horizontal gradient.
 //
+// ```cpp
 //     CPageGradientCaptionStatic m_caption{m_tree};              // a static control of the template
 //     ...
 //     m_tree.RegisterSelectPageNotification(&m_caption, true);   // follows the selection by itself
+// ```
 //
 // A page without a name, and no page, show the bare gradient. Any other text can be set as the window's text.
 //

@@ -1,10 +1,12 @@
 #pragma once
 // The part of a host dialog that owns pages and their dialogs, and shows the page that is selected.
 //
+// ```cpp
 //     class CSettingsDialog : public CDialog, public APageFrameProvider
 //     {
 //         CPageManager m_manager{this};
 //         CPageTreeCtrl m_tree;
+//         CRect m_rectPages;                                      // in pixels of the client area
 //
 //         BOOL OnInitDialog() override
 //         {
@@ -19,6 +21,7 @@
 //         }
 //         CRect GetPageFrame() override { return m_rectPages; }
 //     };
+// ```
 //
 // The host dialog must implement APageFrameProvider, and must still have its window, or never get one again,
 // when the manager goes. Two pages that name one template must be given one dialog object.

@@ -4,10 +4,12 @@
 //
 // The tree needs no code of its host but the wiring, which must come in this order, as nothing is replayed:
 //
+// ```cpp
 //     m_manager.RegisterAddPageNotification(&m_tree, true);
 //     m_tree.RegisterSelectPageNotification(&m_manager, true);
-//     m_manager.AddDialog(...); m_manager.AddPage(...);         // the tree fills itself
+//     m_manager.AddDialog(pDialog); m_manager.AddPage(pFirst, nullptr); // the tree fills itself
 //     m_tree.SetCurrentPage(pFirst);                            // nothing is selected until then
+// ```
 //
 // Pages stand in the order of adding below their parents, and stay as long as the control. Enter moves the
 // focus to the next control. After a change of selection the tree has the focus, not the page. A tree that

@@ -3,6 +3,7 @@
 // the host's colour dialog; the index that the user chooses is written into a variable of the owner, and a
 // handler hears of it.
 //
+// ```cpp
 //     class CLayerDialog : public CDialog, public AAcadColorBtnSTNotificationHandler
 //     {
 //         CAcadColorBtnST m_btnInk{this};
@@ -16,6 +17,7 @@
 //         }
 //         void OnAcadColorChosen(int nId, int nColor) override { PaintPreview(m_nInk); }
 //     };
+// ```
 //
 // At most 200 of these objects can be made in the life of a process. Each takes a control id for its number
 // from ResourceIdPool when it is constructed, and keeps it for good: destroying the object does not give it

@@ -3,6 +3,7 @@
 // picture that is chosen and an arrow; a click drops a menu of all pictures down at the button's right, and
 // the index of the choice, counted from 0, is written into an integer of the caller's.
 //
+// ```cpp
 //     class CDimensionDialog : public CDialog, public ABitmapBtnSTNotificationHandler
 //     {
 //         int m_nEnds = 0;
@@ -16,6 +17,7 @@
 //         }
 //         void OnBitmapChosen(int nId, int nIndex) override { RedrawPreview(); } // m_nEnds == nIndex
 //     };
+// ```
 //
 // There is a class for each set of pictures:
 //

@@ -1,6 +1,7 @@
 #pragma once
 // A button that passes its notifications to a typed handler.
 //
+// ```cpp
 //     class CPickDialog : public CDialog, public CButtonReflectedNotificationHandler
 //     {
 //         CButtonReflected m_btnPick;                       // no handler: the dialog itself is asked
@@ -8,6 +9,7 @@
 //         void ButtonReflectedOnClicked(int nId) override { ... }
 //         void ButtonReflectedOnDoubleclicked(int nId) override { ... }
 //     };
+// ```
 //
 // The handler given to the constructor is called; without one the button's parent window is, if its class
 // implements CButtonReflectedNotificationHandler; without either the notification is dropped. The handler is

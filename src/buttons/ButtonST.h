@@ -3,6 +3,7 @@
 // beside its title, in a flat or a raised style, and tells a handler of its clicks. It is also the home of
 // the icons that all buttons share.
 //
+// ```cpp
 //     class CBeamDialog : public CDialog, public AButtonSTNotificationHandler
 //     {
 //         CButtonST m_btnPick{this};
@@ -16,6 +17,7 @@
 //         }
 //         void OnButtonClicked(int nId) override { if (nId == IDC_PICK) PickBeam(); }
 //     };
+// ```
 //
 // Attaching. The button takes over a control of a dialog template. The type of the control decides what it
 // becomes: BS_DEFPUSHBUTTON the default button; any type with the bit 0x2 (BS_CHECKBOX, BS_AUTOCHECKBOX,
@@ -41,8 +43,10 @@
 // the second otherwise. Without a second the first shows always. The second may be asked for as a grey or a
 // darker copy of the first:
 //
+// ```cpp
 //     m_btn.SetIcon(hIcon, reinterpret_cast<HICON>(CButtonST::copyGray));
 //     m_btn.SetIcon(IDI_BEAM, CButtonST::copyDarker);
+// ```
 //
 // Ownership of images.
 // - Icons: the button lets go of them with DeleteObject, which does nothing to an icon. So an icon that is

@@ -1,9 +1,11 @@
 #pragma once
 // A self-painting button with images and colours that passes its notifications to a typed handler.
 //
-//     CButtonSTReflected m_btnPick{&handler};               // a CButtonReflectedNotificationHandler
+// ```cpp
+//     CButtonSTReflected m_btnPick{this};                   // this: a CButtonReflectedNotificationHandler
 //     DDX_Control(pDX, IDC_PICK, m_btnPick);
 //     m_btnPick.SetIcon(CButtonST::hIconPogled, nullptr);
+// ```
 //
 // Looks, attaching, keys and images are those of CButtonST; who is called and what for, CButtonReflected's.
 // What differs from both:

@@ -2,6 +2,7 @@
 // A button with a swatch of an RGB colour. A click opens a pop-up of twenty colours below it; the one that
 // the user chooses is written into a variable of the owner, and a handler hears of it.
 //
+// ```cpp
 //     class CLayerDialog : public CDialog, public AColorBtnSTNotificationHandler
 //     {
 //         CColorBtnST m_btnFill{this};
@@ -15,6 +16,7 @@
 //         }
 //         void OnColorChosen(int nId, int nColor) override { PaintPreview(m_crFill); }
 //     };
+// ```
 //
 // Look. The swatch ends 14 pixels from the right and 5 from the other edges; the arrow stands right of it
 // (see DropButton.h). A disabled button shows an engraved arrow and no swatch, and one that is smaller than
@@ -36,8 +38,13 @@
 // palette in the application's profile, section "ColorData", entries "ColorTable" and "MRU". The library
 // calls neither of them:
 //
-//     BOOL CAddOnApp::InitInstance() { ...; CColorBtnST::Load(); ... }
-//     int CAddOnApp::ExitInstance() { CColorBtnST::Store(); ... }
+// ```cpp
+//     class CAddOnApp : public CWinApp
+//     {
+//         BOOL InitInstance() override { CColorBtnST::Load(); return CWinApp::InitInstance(); }
+//         int ExitInstance() override { CColorBtnST::Store(); return CWinApp::ExitInstance(); }
+//     };
+// ```
 
 #include <afxwin.h>
 

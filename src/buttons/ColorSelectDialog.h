@@ -1,10 +1,12 @@
 #pragma once
 // The pop-up of a colour button: the twenty colours of the palette, and "Other..." for any colour.
 //
+// ```cpp
 //     CColorSelectDialog dialog(&m_btnFill);   // opens below the button
 //     dialog.SetInitialColor(m_crFill);
 //     if (dialog.DoModal() == IDOK)
 //         m_crFill = CColorBtnST::s_colorTable[dialog.GetSelectedIndex()];
+// ```
 //
 // A CColorBtnST has one of its own; few clients use the pop-up by itself. Its template is a resource of the
 // library: have the library's resources pushed around DoModal if MFC does not know the library as an

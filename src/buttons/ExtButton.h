@@ -1,8 +1,10 @@
 #pragma once
 // A standard button that tells a handler of its clicks.
 //
+// ```cpp
 //     CExtButton m_btnApply{this};                          // this: an AButtonSTNotificationHandler
 //     DDX_Control(pDX, IDC_APPLY, m_btnApply);
+// ```
 //
 // The system paints it, so a push button, a check box or a radio button looks as anywhere else. The parent's
 // own handling of BN_CLICKED runs as well, after the handler's.

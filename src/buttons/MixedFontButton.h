@@ -1,12 +1,14 @@
 #pragma once
 // A check box, or a button that looks like a radio button, whose label has several fonts on one line.
 //
+// ```cpp
 //     class CLoadDialog : public CDialog, public AButtonSTNotificationHandler
 //     {
 //         CMixedFontButton m_checkWind{this};               // "<i>q</i><sub>w</sub> [kN/m<sup>2</sup>]"
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_WIND, m_checkWind); }
 //         void OnButtonClicked(int) override { m_checkWind.SetCheck(!m_checkWind.GetCheck()); }
 //     };
+// ```
 //
 // Clicks. A click by mouse, Space or BM_CLICK calls the handler and then goes to the parent as BN_CLICKED, as
 // with CExtButton; two fast clicks are two. The check state is the caller's: nothing toggles by itself, and a

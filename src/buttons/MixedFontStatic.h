@@ -1,9 +1,11 @@
 #pragma once
 // A label in several fonts on one line.
 //
+// ```cpp
 //     CMixedFontStatic m_labelStress;
 //     DDX_Control(pDX, IDC_STRESS_LABEL, m_labelStress);    // a static control of the template
 //     m_labelStress.SetWindowText(L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]");
+// ```
 //
 // The mark-up is told in MixedFont.h: <f Face>, <b>, <i>, <sub>, <sup>. What is no mark shows as it stands, a
 // mark without its end reaches to the end of the text, and there are no mnemonics: an & is an &. The fonts go

@@ -2,6 +2,7 @@
 // A button with a drop-down arrow that offers a list of texts in a pop-up menu, and tells a handler which
 // was chosen.
 //
+// ```cpp
 //     class CLabelDialog : public CDialog, public ATextBtnSTNotificationHandler
 //     {
 //         CTextBtnST m_btnInsert{this};
@@ -17,6 +18,7 @@
 //         }
 //         void OnTextChosen(int, int nIndex) override { Insert(m_btnInsert.GetText(nIndex)); }
 //     };
+// ```
 //
 // For text boxes that insert what is chosen there is CEditEscSeqText, which has a button of this kind.
 //

@@ -1,12 +1,15 @@
 #pragma once
 // Run-time binding to the visual-style library. A system without it is no failure.
 //
+// ```cpp
+//     CThemeHelperST* pTheme = CButtonST::pLocalTheme;
 //     if (pTheme->IsAppThemed())
 //     {
 //         HTHEME hTheme = pTheme->OpenThemeData(hWnd, L"BUTTON");
 //         pTheme->DrawThemeBackground(hTheme, hDC, BP_PUSHBUTTON, PBS_HOT, &rect, nullptr);
 //         pTheme->CloseThemeData(hTheme);
 //     }
+// ```
 //
 // Each operation is the library's entry point of the same name, looked up anew at every call. On a system
 // without the library the application is simply not themed: the operations do nothing and answer as told

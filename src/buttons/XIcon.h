@@ -2,9 +2,11 @@
 // A label with an icon and a line of text in a font of its own, which can make its window as wide as what it
 // shows.
 //
+// ```cpp
 //     CXIcon m_icon;
 //     DDX_Control(pDX, IDC_STATE, m_icon);        // in the template: a button with BS_OWNERDRAW
 //     m_icon.SetIcon(CButtonST::hIconOk, 16).SetBold(TRUE).SetWindowText(L"Saved");
+// ```
 //
 // It is an owner-drawn button that only displays: it reacts to no click of its own. Lengths are pixels.
 //

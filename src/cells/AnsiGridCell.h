@@ -2,9 +2,11 @@
 // A text cell that is edited in the character set of the texts that go into drawings (gOtSubLang), where that
 // differs from the display's.
 //
+// ```cpp
 //     gOtSubLang.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT));
 //     CAnsiGridCell::InitializeAnsiGrid(m_grid, nullptr); // before the cells are made
 //     m_grid.SetRowCount(10);                             // cells whose editors write Greek
+// ```
 //
 // A cell finds out when it is made whether it needs this, and no later: for another language make the cells
 // anew. While it is edited its editor stands under a CEditCtrlAnsiMsgHook, which gives it the font. Nothing

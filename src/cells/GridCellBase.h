@@ -7,12 +7,16 @@
 // inherit. A kind of cell of one's own derives from CGridCell, is made with DECLARE_DYNCREATE, and is given
 // to the grid by its class:
 //
+// ```cpp
 //     class CStarCell : public CGridCell
 //     {
 //         DECLARE_DYNCREATE(CStarCell)
 //         BOOL Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd) override;
 //     };
+// ```
+// ```cpp
 //     m_grid.SetCellType(2, 3, RUNTIME_CLASS(CStarCell));
+// ```
 //
 // Inheritance. The format and the margin GV_INHERIT, the colour CLR_INHERIT and a null font mean that the
 // grid's default cell for this kind of place decides: one each for the body, fixed columns, fixed rows and

@@ -1,10 +1,11 @@
 #pragma once
 // A cell with a check box in front of its text.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 6, RUNTIME_CLASS(CGridCellCheck));
 //     static_cast<CGridCellCheck&>(*m_grid.GetCell(1, 6)).SetCheck(TRUE);
-//     ...
-//     ON_NOTIFY(GVN_CHECKCLICKED, IDC_GRID, OnCheckClicked)                    // a GridNotify record
+//     // ON_NOTIFY(GVN_CHECKCLICKED, IDC_GRID, OnCheckClicked) in the dialog's map: a GridNotify record
+// ```
 //
 //         +-----------------------------------------+
 //         | margin                                  |   The box is 13 by 13 pixels. The text stands clear of

@@ -1,11 +1,13 @@
 #pragma once
 // A cell with a swatch of one of the CAD host's colours, which a click lets the user choose.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 7, RUNTIME_CLASS(CGridCellColorCombo));
 //     auto& ink = static_cast<CGridCellColorCombo&>(*m_grid.GetCell(1, 7));
 //     ink.PostaviMastAci(30);
 //     ...
 //     Plot(ink.DajMastAci());
+// ```
 //
 //      |<- 7 ->+--------- 41 ---------+<- 10 ->v        3 pixels below the top, 12 high
 //

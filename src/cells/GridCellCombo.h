@@ -1,11 +1,13 @@
 #pragma once
 // A cell whose text is typed or chosen from a list.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 1, RUNTIME_CLASS(CGridCellCombo));
 //     CStringArray profiles;
 //     profiles.Add(L"IPE 200");
 //     profiles.Add(L"HEA 240");
 //     static_cast<CGridCellCombo&>(*m_grid.GetCell(1, 1)).SetOptions(profiles);
+// ```
 //
 // The editor is a CInPlaceList: a choice from its list ends the edit at once. An arrow at the right edge
 // tells of the list, in cells that may be edited and have room for it, and goes while the edit runs.

@@ -4,15 +4,20 @@
 // CGridCellBase::Draw runs one of these. A kind of cell that differs in a step overrides that step and runs
 // its own:
 //
+// ```cpp
 //     class CHatchPainter : public CGridCellPainter
 //     {
 //         using CGridCellPainter::CGridCellPainter;
 //         void FillBackground(const CRect& rect, COLORREF clr) override;
 //     };
-//     BOOL CHatchCell::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
+//     class CHatchCell : public CGridCell
 //     {
-//         return CHatchPainter(*this, nRow, nCol).Paint(pDC, rect, bEraseBkgnd);
-//     }
+//         BOOL Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd) override
+//         {
+//             return CHatchPainter(*this, nRow, nCol).Paint(pDC, rect, bEraseBkgnd);
+//         }
+//     };
+// ```
 //
 // Rectangles hold their last pixel, except where a step says otherwise.
 

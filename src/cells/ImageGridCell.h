@@ -1,10 +1,12 @@
 #pragma once
 // A cell that places its image by its format.
 //
+// ```cpp
 //     m_grid.SetImageList(&m_images);
 //     m_grid.SetCellType(1, 3, RUNTIME_CLASS(CImageGridCell));
 //     m_grid.SetItemImage(1, 3, 0);
 //     m_grid.SetItemFormat(1, 3, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+// ```
 //
 //     +-----------------------------------------+
 //     |<margin>          [image]        <margin>|   DT_CENTER, DT_RIGHT or else left;

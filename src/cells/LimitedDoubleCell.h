@@ -1,6 +1,7 @@
 #pragma once
 // A cell for a number that the user types, kept in the unit of its column and within bounds.
 //
+// ```cpp
 //     m_grid.SetColComplexUnit(2, CComplexUnit(CMeasurementUnit(2, 0)));      // millimetres
 //     m_grid.SetCellType(1, 2, RUNTIME_CLASS(CLimitedDoubleCell));
 //     auto& length = static_cast<CLimitedDoubleCell&>(*m_grid.GetCell(1, 2));
@@ -9,6 +10,7 @@
 //     length.Set(2, 6.0);                                                     // metres; shows 6000
 //     ...
 //     Order(length.Get(2));                                                   // metres again
+// ```
 //
 // UNITS. Set and Get speak in the global unit, the metre for lengths. The value in the cell and its bounds
 // are in the unit of the column that they are told, and the cell does not follow a change of that unit: Get

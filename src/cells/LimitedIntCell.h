@@ -1,10 +1,12 @@
 #pragma once
 // A cell for a whole number of 32 bits that the user types, kept within bounds.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 5, RUNTIME_CLASS(CLimitedIntCell));
 //     auto& count = static_cast<CLimitedIntCell&>(*m_grid.GetCell(1, 5));
 //     count.SetMin(1, TRUE);
 //     count.Set(24);
+// ```
 //
 // The user may type digits and signs; anything else, a point among it, and an empty text is refused, and the
 // grid puts the old text back without a word. The text is read from its beginning as far as it is a number:

@@ -1,8 +1,10 @@
 #pragma once
 // A cell for a text with a length that its owner may ask for.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 1, RUNTIME_CLASS(CLimitedTextCell));
 //     static_cast<CLimitedTextCell&>(*m_grid.GetCell(1, 1)).SetMax(31);
+// ```
 //
 // The cell only keeps the length: it takes whatever the user types, an empty text, too, and whoever needs the
 // limit checks it, in LVN_ENDLABELEDITW for instance. A font given to the cell is dropped.

@@ -1,8 +1,10 @@
 #pragma once
 // A text cell that can be marked: it then shows a star behind its text.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 1, RUNTIME_CLASS(CMarkedTextCell));
 //     static_cast<CMarkedTextCell&>(*m_grid.GetCell(1, 1)).Mark(true); // changed and not saved yet, say
+// ```
 //
 // The star is only painted. GetText, measuring and editing know the plain text; while a marked cell is
 // painted, its text is set with the star and set back.

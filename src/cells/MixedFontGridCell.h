@@ -1,8 +1,10 @@
 #pragma once
 // A cell with a text in several fonts, with lowered and raised parts: the mark-up of CMixedFont.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 4, RUNTIME_CLASS(CMixedFontGridCell));
 //     m_grid.SetItemText(1, 4, L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]");
+// ```
 //
 // The text outside all marks is in the font of the grid's window, and without one in the context's; a font
 // of the cell's own makes no difference. The text stands on one line in the middle of the cell's height,

@@ -1,12 +1,14 @@
 #pragma once
 // A text cell with a hatch on its background, for sections, layers and the like.
 //
+// ```cpp
 //     m_grid.SetCellType(1, 2, RUNTIME_CLASS(CPatternBkgndGridCell));
 //     auto& cell = static_cast<CPatternBkgndGridCell&>(*m_grid.GetCell(1, 2));
 //     cell.SetBackClr(RGB(255, 240, 200)); // the gaps
 //     cell.SetPatternColor(RGB(160, 160, 255));
 //     cell.SetPatternStyle(HS_BDIAGONAL);
 //     m_grid.RedrawCell(1, 2);
+// ```
 //
 // The lines are in the subtractive mix of the pattern's and the background's colour, as of two transparent
 // sheets, and so darker than either; the gaps show the background. Give the cell a background of its own:

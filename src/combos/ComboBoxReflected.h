@@ -1,12 +1,14 @@
 #pragma once
 // A combo box that passes all of its notifications to a typed handler.
 //
+// ```cpp
 //     class CLayerDialog : public CDialog, public CComboBoxReflectedNotificationHandler
 //     {
 //         CComboBoxReflected m_comboLayer{nullptr};         // null: the dialog itself is asked
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_LAYER, m_comboLayer); }
 //         void ComboBoxReflectedOnDropdown(int nId) override { ... }
 //     };
+// ```
 //
 // The handler given to the constructor is called; without one the combo box's parent window is, if its class
 // implements CComboBoxReflectedNotificationHandler; without either the combo box is silent. The handler is

@@ -2,12 +2,14 @@
 // The combo box of most dialogs: tells a handler of each change of selection, treats Tab, Enter and Escape as
 // the text boxes do, and opens a list in which the longest entry can be read.
 //
+// ```cpp
 //     class CSteelDialog : public CDialog, public AExtComboBoxNotificationHandler
 //     {
 //         CExtComboBox m_comboGrade{this};
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_GRADE, m_comboGrade); }
 //         void OnExtComboBoxSelChanged(int nId, int nSel) override { if (nId == IDC_GRADE) SetGrade(nSel); }
 //     };
+// ```
 //
 // Reports. Each selection that the user makes is reported, by mouse, or by the arrow keys in the closed list
 // at every step; SetCurSel is silent. The parent receives neither CBN_SELCHANGE nor CBN_DROPDOWN. Without a

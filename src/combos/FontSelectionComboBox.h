@@ -2,12 +2,14 @@
 // A combo box of the fonts that a text style of a drawing can use: each row a font's name written in that
 // font, behind an icon that tells a TrueType font from an SHX font.
 //
+// ```cpp
 //     class CTextStyleDialog : public CDialog, public AFontSelectionNotificationHandler
 //     {
 //         CFontSelectionComboBox m_comboFont{this};
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_FONT, m_comboFont); }
-//         void OnFontSelected(int, const CString& strFont, EFontClass eClass) override { SetFont(strFont); }
+//         void OnFontSelected(int, const CString& strFont, EFontClass eClass) override { UseFont(strFont); }
 //     };
+// ```
 //
 //     COMBOBOX IDC_FONT, 92, 7, 120, 150, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT |
 //                                         WS_VSCROLL | WS_TABSTOP

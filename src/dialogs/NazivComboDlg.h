@@ -1,11 +1,13 @@
 #pragma once
 // Asks the user for a name, to be typed or picked from a list.
 //
+// ```cpp
 //     CStringArray names;
 //     m_layers.GetNames(names);
 //     CString strLayer = L"Axes";
 //     if (gfnStartNazivComboDlg(strLayer, names, L"Sloj", this) == IDOK)
 //         SaveTo(strLayer);                         // one of the list or another one
+// ```
 //
 // The name stands selected in the box, so that typing replaces it; the list shows the names in the order
 // given. A name may be of any length, and may be empty: no check is made, so a caller that wants one tests it

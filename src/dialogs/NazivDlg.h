@@ -1,9 +1,11 @@
 #pragma once
 // Asks the user for a name.
 //
+// ```cpp
 //     CString strMark = L"B1";
 //     if (gfnStartNazivDlg(strMark, L"Oznaka grede") == IDOK && !strMark.IsEmpty())
 //         SetMark(strMark);
+// ```
 //
 // The name stands selected in the box, so that typing replaces it. Enter accepts, Escape and the close box
 // cancel. A name may be of any length, and may be empty: no check is made, so a caller that wants one tests

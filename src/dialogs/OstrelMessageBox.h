@@ -1,6 +1,7 @@
 #pragma once
 // The add-on's message box: texts in the user's language, up to four buttons with captions of one's own.
 //
+// ```cpp
 //     if (COstrelMessageBox::MessageBox(L"Brisanje tekuce konfiguracije?", L"Konfiguracije",
 //                                       MB_YESNO | MB_ICONQUESTION) == IDYES) ...
 //
@@ -15,6 +16,7 @@
 //     box.SetButtonText(1, L"Napred");
 //     box.SetButtonText(2, L"Nazad");
 //     if (box.DoModal() == 1) ...
+// ```
 //
 // Language. Text, caption and captions of buttons are handed over in the source language and shown through
 // gOtLang. The icons of OK and Cancel go by the captions "OK" and "Cancel" as handed over. Lines of a text

@@ -1,9 +1,11 @@
 #pragma once
 // Lets code that must not open a window, on whatever thread, leave a code that the user is shown later.
 //
+// ```cpp
 //     COstrelMessenger::Instance();              // once, on the main thread
 //     ...
 //     COstrelMessenger::Instance().PostMsg(17);  // from any thread
+// ```
 //
 // A timer on the CAD host's main window looks for a code every five seconds and shows it with
 // COstrelMessageBox::ErrorBoxP, from the host's own message loop.

@@ -3,16 +3,15 @@
 // calls Update now and then, which moves the bar and, if the box may be cancelled, lets its Cancel button
 // live.
 //
-//     void CModelDialog::OnCalculate()
+// ```cpp
+//     CSingleThreadProgress progress(L"Calculation", m_hWnd, true);
+//     for (int i = 0; i < nBeams; ++i)
 //     {
-//         CSingleThreadProgress progress(L"Calculation", m_hWnd, true);
-//         for (int i = 0; i < nBeams; ++i)
-//         {
-//             if (!progress.Update(100 * i / nBeams))
-//                 return;                                   // the user has cancelled
-//             Calculate(i);
-//         }
+//         if (!progress.Update(100 * i / nBeams))
+//             return;                                       // the user has cancelled
+//         Calculate(i);
 //     }                                                     // the box goes with the object
+// ```
 //
 // Life. The box shows from the constructor to the destructor, also when an exception or an early return ends
 // the work. It stands over the middle of the parent, perhaps partly off the screen; without a parent (null,

@@ -1,10 +1,12 @@
 #pragma once
 // The system's dialog to open or save a file, with its texts in the user's language.
 //
+// ```cpp
 //     CString strPath;
 //     if (gfnStartTranslatedFileDialog(strPath, TRUE, L"txt", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST,
 //                                      L"Text (*.txt)|*.txt|All files (*.*)|*.*||", m_hWnd, nullptr) == IDOK)
 //         Read(strPath);
+// ```
 //
 // Translated through gOtLang: the caption, the two buttons, and the labels of folder, file name and file
 // type. Without a title the caption is "Ucitaj" (load) or "Snimi kao..." (save as); a title is shown as it

@@ -1,9 +1,11 @@
 #pragma once
 // Numbers as text: how a box or a cell writes a double, and how it reads one back.
 //
+// ```cpp
 //     gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatFixed, 2), 12.5);   // "12.50"
 //     double dForce = 0.0;
 //     gfnParseDouble(L"12.5 kN", dForce);                                    // true, 12.5
+// ```
 //
 // The decimal sign is a point, whatever the locale of the process. Texts are bounded, but for those of
 // gfnFormatAllDigits: however large the number and however many the decimals, no text is longer than

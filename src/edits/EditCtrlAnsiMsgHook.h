@@ -2,10 +2,12 @@
 // Gives a text box a font with the character set of the language that gOtSubLang stands at, and takes the
 // box's text messages through CEditCtrlAnsiInterface.
 //
+// ```cpp
 //     CEditCtrlAnsiMsgHook m_hook;
 //     ...
 //     gOtSubLang.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT));
 //     m_hook.HookWindow(&m_editLabel); // the box now writes Greek
+// ```
 //
 // A hook is for one box at a time. When its box has gone, or after Unhook, it can take another one, which
 // is given a font of its own. The hook owns that font and deletes it with the box, with itself, or in

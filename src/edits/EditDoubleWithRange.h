@@ -1,16 +1,24 @@
 #pragma once
 // A text box for a number with a unit, a range, an empty state, and a spin and a unit label beside it.
 //
+// ```cpp
 //     class CPlateDialog : public CDialog, public CEditDWRNotificationHandler
 //     {
 //         CEditDoubleWithRange m_editThickness{this, CEditDoubleWithRange::c_nCreateControl,
 //                                              CEditDoubleWithRange::c_nCreateControl};
-//         ...
-//         m_editThickness.SetComplexUnit(CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)));
-//         m_editThickness.SetRange(0.004, 0.04);       // metres: 4 mm to 40 mm
-//         m_editThickness.SetSpinStep(1.0);            // millimetres
-//         m_editThickness.SetValue(0.01);              // the box shows "10.00" and "mm" beside it
+//         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_THICKNESS, m_editThickness); }
+//         BOOL OnInitDialog() override
+//         {
+//             CDialog::OnInitDialog();
+//             m_editThickness.SetComplexUnit(CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)));
+//             m_editThickness.SetRange(0.004, 0.04);   // metres: 4 mm to 40 mm
+//             m_editThickness.SetSpinStep(1.0);        // millimetres
+//             m_editThickness.SetValue(0.01);          // the box shows "10.00" and "mm" beside it
+//             return TRUE;
+//         }
+//         void OnEditNChange(int) override { UsePlate(m_editThickness.GetValue()); }
 //     };
+// ```
 //
 // Units. The value and the range are in the program's global unit. The text and the spin step are in the
 // local one, which is the box's CComplexUnit, or, without one, the global unit. The unit label names the

@@ -3,6 +3,7 @@
 // which the module that draws the label replaces later. A button beside the box offers the sequences that
 // the label may use; choosing one inserts its code where the caret stood when the box lost the focus.
 //
+// ```cpp
 //     class CPlateDialog : public CDialog, public CEditNNotificationHandler
 //     {
 //         CEditAcadEscSeqSpecLima m_editLabel{this, IDC_LABEL_INSERT}; // the id of any push button
@@ -15,6 +16,7 @@
 //         }
 //         void OnEditNChange(int) override { Preview(m_editLabel.GetValue()); }
 //     };
+// ```
 //
 // The box only offers and inserts: it neither checks nor expands sequences. The same code means different
 // things in different classes.

@@ -1,11 +1,21 @@
 #pragma once
 // A text box for a whole number of 32 bits, with an optional range and an empty state.
 //
-//     CEditIntegerWithRange m_editBolts{this};
-//     m_editBolts.SetRange(2, 24);
-//     m_editBolts.SetValue(8);
-//     ...
-//     void OnEditNChange(int nId) override { if (!m_editBolts.IsEmpty()) Use(m_editBolts.GetValue()); }
+// ```cpp
+//     class CJointDialog : public CDialog, public CEditNNotificationHandler
+//     {
+//         CEditIntegerWithRange m_editBolts{this};
+//         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_BOLTS, m_editBolts); }
+//         BOOL OnInitDialog() override
+//         {
+//             CDialog::OnInitDialog();
+//             m_editBolts.SetRange(2, 24);
+//             m_editBolts.SetValue(8);
+//             return TRUE;
+//         }
+//         void OnEditNChange(int) override { if (!m_editBolts.IsEmpty()) UseBolts(m_editBolts.GetValue()); }
+//     };
+// ```
 //
 // Texts. A number is digits with an optional "-" in front; white space around it is passed over. Anything
 // else does not parse, a "+", a point, and a number that 32 bits do not hold among it. The user can type 11

@@ -1,12 +1,14 @@
 #pragma once
 // The base of the library's text boxes: an edit control that reports to a typed handler.
 //
+// ```cpp
 //     class CSizeDialog : public CDialog, public CEditNNotificationHandler
 //     {
 //         CEditN m_editName{nullptr};                       // null: the dialog itself is asked
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_NAME, m_editName); }
 //         void OnEditNChange(int nId) override { ... }
 //     };
+// ```
 //
 // Reports. The handler given to the constructor is called; without one the box's parent window is, if its
 // class implements CEditNNotificationHandler; without either the box is silent. The handler is not owned and

@@ -5,6 +5,7 @@
 // value; when the user leaves the box, the text is rewritten from the value, so that it stands normalised. A
 // text that does not parse changes nothing, and vanishes when the user leaves.
 //
+// ```cpp
 //     class CEditMark : public CEditWithValidation
 //     {
 //         CString m_strMark;
@@ -12,6 +13,7 @@
 //         bool ValidateAndStoreDataFromGUI() override;   // text -> m_strMark; false if it does not parse
 //         void UpdateGUIWithStoredData() override { if (m_hWnd) SafeSetWindowText(m_strMark); }
 //     };
+// ```
 //
 // A handler's OnEditNChange finds the value stored already. A value that the program sets is stored by the
 // subclass, which then calls UpdateGUIWithStoredData; no notification follows.

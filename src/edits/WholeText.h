@@ -1,7 +1,9 @@
 #pragma once
 // Reads the text of a box, all of it, whoever else answers for the box.
 //
+// ```cpp
 //     const CString strTyped = gfnWholeText(m_edit);
+// ```
 //
 // A CEditCtrlAnsiMsgHook in front of an edit control fills only half of the buffer that a reader offers, so
 // that GetWindowText gives half of the text. Whoever needs what the user has typed reads it here: there is

@@ -2,6 +2,7 @@
 // CExtGridCtrl: a grid with one current row, which is painted in a colour, and a handler that is called in
 // place of three of the grid's notifications.
 //
+// ```cpp
 //     class CMembersDialog : public CDialog, public AExtGridCtrlNotificationHandler
 //     {
 //         CExtGridCtrl m_grid{this};
@@ -20,6 +21,7 @@
 //         }
 //         void OnExtGridRClick(int nId, int nRow) override { ShowMenu(nRow); }
 //     };
+// ```
 //
 // HANDLER
 //

@@ -3,6 +3,7 @@
 // that is called in place of three of the grid's notifications. The first rows of the body can have a colour
 // of their own, as an extra header under the fixed one.
 //
+// ```cpp
 //     class CLoadsDialog : public CDialog,
 //                          public AExtGridCtrl2NotificationHandler,
 //                          public AExtGridCtrl2ExtraHeaderSupport
@@ -19,6 +20,7 @@
 //         int GetExtraHeaderCount() override { return 2; } // the first two rows below the fixed ones
 //         int GetBodyColor() override { return RGB(255, 255, 255); }
 //     };
+// ```
 //
 // HANDLER
 //

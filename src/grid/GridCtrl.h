@@ -2,6 +2,7 @@
 // CGridCtrl: a table of cells that scrolls under fixed rows and columns, to be looked at, selected, sorted
 // and edited.
 //
+// ```cpp
 //     class CPartsDialog : public CDialog
 //     {
 //         CGridCtrl m_grid;
@@ -20,6 +21,7 @@
 //         afx_msg void OnEndEdit(NMHDR* pHeader, LRESULT* pResult);
 //         // ON_NOTIFY(LVN_ENDLABELEDITW, IDC_GRID, &CPartsDialog::OnEndEdit)
 //     };
+// ```
 //
 // Where there is no template, m_grid.Create(...) makes the window.
 //

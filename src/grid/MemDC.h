@@ -1,9 +1,11 @@
 #pragma once
 // A device context on an off-screen bitmap, for the length of one paint.
 //
+// ```cpp
 //     CPaintDC dc(this);
 //     CMemDC buffer(&dc);
 //     OnDraw(&buffer);      // in client coordinates, as on the window; shown when `buffer` goes
+// ```
 //
 // Only the target's clip box is buffered. A printer's context is not buffered at all: the object then hands
 // everything on to it.

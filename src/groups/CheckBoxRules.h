@@ -1,14 +1,21 @@
 #pragma once
 // Four rules by which a number goes to check boxes and comes back, in the manner of a dialog's data exchange.
 //
-//     void CDetailDialog::ShowDimensions()                      // bSet true: the value goes to the controls
+// ```cpp
+//     class CDetailDialog : public CDialog
 //     {
-//         gfnObradiDvaCheckBoxa(&m_checkDimensions, &m_checkTolerances, true, &m_nDimensions);
-//     }
-//     void CDetailDialog::OnDimensionsClicked()                 // bSet false: the controls go to the value
-//     {
-//         gfnObradiDvaCheckBoxa(&m_checkDimensions, &m_checkTolerances, false, &m_nDimensions);
-//     }
+//         CButton m_checkDimensions, m_checkTolerances;
+//         int m_nDimensions = 0;
+//         void ShowDimensions()                                 // bSet true: the value goes to the controls
+//         {
+//             gfnObradiDvaCheckBoxa(&m_checkDimensions, &m_checkTolerances, true, &m_nDimensions);
+//         }
+//         void OnDimensionsClicked()                            // bSet false: the controls go to the value
+//         {
+//             gfnObradiDvaCheckBoxa(&m_checkDimensions, &m_checkTolerances, false, &m_nDimensions);
+//         }
+//     };
+// ```
 //
 // Reading enables, clears and checks what depends on a box as well: a dialog calls it from the click handlers
 // of all boxes of the rule, and they stay in step.

@@ -1,6 +1,7 @@
 #pragma once
 // A combo box and two buttons to choose, save and delete named configurations of what a dialog edits.
 //
+// ```cpp
 //     class CBoltDialog : public CDialog, public AConfigCtrlGroupNotificationHandler
 //     {
 //         CPatternSet m_set;                                            // an AConfigSet
@@ -10,6 +11,7 @@
 //         void OnConfigGroupChanged(CConfigCtrlGroup*) override { ShowValues(); }
 //         void OnValueChanged() { m_configs.Refresh(); }                // a value is no longer as stored
 //     };
+// ```
 //
 // The group holds no configurations: it asks the caller's AConfigSet. The first row of the combo box is
 // "Default", which nobody can delete or overwrite, and row n + 1 is entry n of the set. The combo box must be

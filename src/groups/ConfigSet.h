@@ -1,15 +1,18 @@
 #pragma once
 // The caller's side of a configuration group: a list of named configurations of whatever a dialog edits.
 //
+// ```cpp
 //     class CPatternSet : public AConfigSet
 //     {
+//         CStringArray m_names;
 //         int GetConfigNames(CStringArray& names) override
 //         {
 //             names.Copy(m_names);
 //             return static_cast<int>(names.GetSize());
 //         }
-//         ...
+//         // and the other operations
 //     };
+// ```
 //
 // Entries count from 0. Index -1 is "Default", which is always there and is not in the list. What an entry
 // stores is the set's own affair, and so is when it is written to a file. CConfigCtrlGroup tells when it

@@ -2,6 +2,7 @@
 // Seven controls of a dialog that together edit an epgFont: the font's name, its height, its colour, three
 // check boxes, and a button that applies the record further.
 //
+// ```cpp
 //     class CTextStyleDialog : public CDialog, public AFontCtrlGroupNotificationHandler
 //     {
 //         epgFont m_font;
@@ -18,6 +19,7 @@
 //         void OnFontGroupChanged(CFontCtrlGroup*, epgFont* pFont) override { DrawPreview(*pFont); }
 //         void OnFontGroupButton(CFontCtrlGroup*, epgFont* pFont) override { ApplyToAll(*pFont); }
 //     };
+// ```
 //
 // Template. The font's combo box as CFontSelectionComboBox wants it; an edit for the height, with room at its
 // right for a spin and the unit; a button for the colour, with room for its number; three check boxes; a push

@@ -2,6 +2,7 @@
 // A combo box of length units, a check button and a box for a whole number, which together edit a
 // CFormatJedinice: how a length is written.
 //
+// ```cpp
 //     class CDimensionDialog : public CDialog, public AFormatJediniceCtrlGroupNotificationHandler
 //     {
 //         CFormatJedinice m_format;
@@ -19,6 +20,7 @@
 //             Redraw();
 //         }
 //     };
+// ```
 //
 // In the dialog template the combo box is a CBS_DROPDOWNLIST: its six entries are the units by number, m, cm,
 // mm, dm, in and ft, sorted or not. The edit takes 0 to 15. The button is a BS_AUTOCHECKBOX, or a BS_3STATE

@@ -1,9 +1,11 @@
 #pragma once
 // The radio buttons of a dialog that belong together, as one object: the choice is an index.
 //
+// ```cpp
 //     class CCoatingDialog : public CDialog, public AButtonSTNotificationHandler
 //     {
 //         CRadioGroup m_coating{nullptr, 0};
+//         int m_nCoating = 0;
 //         BOOL OnInitDialog() override
 //         {
 //             CDialog::OnInitDialog();
@@ -13,6 +15,7 @@
 //         }
 //         void OnButtonClicked(int nId) override { m_nCoating = m_coating.GetOption(); }
 //     };
+// ```
 //
 // Which controls. The group begins with the given control and goes on with those that follow it in the dialog
 // group (WS_GROUP) and are no tab stop of their own (WS_TABSTOP). It ends before

@@ -4,11 +4,13 @@
 // A control tells its dialog of a user's action by calling a typed interface, not by a window message. The
 // dialog, or a group that stands between, implements the interface and gives itself to the control.
 //
+// ```cpp
 //     class CBeamDialog : public CDialog, public AButtonSTNotificationHandler
 //     {
 //         CButtonST m_btnPick{this};
 //         void OnButtonClicked(int nId) override { if (nId == IDC_PICK) PickBeam(); }
 //     };
+// ```
 //
 // Rules that hold for all of them:
 // - The control changes its own state first and calls then. The call is synchronous, on the dialog's thread.

@@ -1,12 +1,14 @@
 #pragma once
 // An array of objects held by value: CArray with copying.
 //
+// ```cpp
 //     OCArray<CString> names;
 //     names.SetSize(3);                   // three empty strings, constructed in place
 //     OCArray<CString> copy = names;      // element by element
 //
 //     OCArray<CExtButton> buttons;        // windows: they cannot be copied, and this array neither
 //     buttons.SetSize(nButtons);
+// ```
 //
 // The array owns its elements: they are constructed when it grows and destroyed when it shrinks or goes. A
 // bad index throws CInvalidArgException, and so does a negative size; without memory CMemoryException is

@@ -1,9 +1,11 @@
 #pragma once
 // What a module of the add-on gives to its loader.
 //
+// ```cpp
 //     OwDllInterface* pInterface = OwGetDllInterface();
 //     if (pInterface->Setup(nullptr)) ...
 //     pInterface->Cleanup(nullptr);
+// ```
 //
 // The object belongs to the module, is never deleted by the caller, and is the same at every call.
 

@@ -1,10 +1,12 @@
 #pragma once
 // Control ids for child windows that the library's controls create at run time.
 //
+// ```cpp
 //     const unsigned int id = ResourceIdPool::Object().AcquireId();
 //     m_label.Create(L"", WS_CHILD, rect, GetParent(), id);
 //     ...
 //     ResourceIdPool::Object().ReleaseId(id);
+// ```
 //
 // One pool serves the process. It holds the ids 11000 to 11199, which no dialog template may use, and hands
 // out 11199 first. An id that is given back comes out again first. Running dry means that controls are being

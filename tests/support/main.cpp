@@ -8,6 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#ifdef OW_CHECK
+#include "check/FaultReport.h"
+#endif
+
 namespace
 {
 CWinApp theApp;
@@ -37,5 +41,8 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     ::testing::UnitTest::GetInstance()->listeners().Append(new RestBeforeEachTest); // the list owns it
     const owtest::EndingGuard guard(&PresentTest);
+#ifdef OW_CHECK
+    owtest::ReportFaults();
+#endif
     return RUN_ALL_TESTS();
 }

@@ -1,8 +1,10 @@
-// Walks through the gallery with real mouse and keyboard and leaves a PNG of every page, and of all drawings.
+// Walks through the gallery with real mouse and keyboard and leaves a PNG of every page, and of all drawings, with an
+// index.html that shows them.
 //
 //     gallery_walk DIRECTORY
 //
-// Ends with 1 and a line that says why if a page cannot be reached or a picture cannot be written.
+// Prints "[done/all] title" for each picture. Ends with 1 and a line that says why if a page cannot be reached or a
+// picture cannot be written.
 
 #include <afxwin.h>
 
@@ -11,6 +13,7 @@
 #include "ComboGalleryDialog.h"
 #include "ContactSheet.h"
 #include "GalleryDialog.h"
+#include "PictureIndex.h"
 #include "resource.h"
 
 #include "Picture.h"
@@ -20,6 +23,8 @@
 namespace
 {
 CWinApp theApp;
+PictureIndex s_index;
+int s_done = 0, s_all = 0; ///< pictures
 
 std::wstring FileName(const std::wstring& title)
 {
@@ -29,13 +34,37 @@ std::wstring FileName(const std::wstring& title)
     return name + L".png";
 }
 
-void SavePicture(CWnd& dialog, const std::wstring& title)
+void Enter(const std::wstring& title, const std::wstring& file, std::vector<HandlerCall> calls = {})
+{
+    s_index.Add(title, file, std::move(calls));
+    std::printf("[%d/%d] %ls\n", ++s_done, s_all, title.c_str());
+    std::fflush(stdout);
+}
+
+void SavePicture(CWnd& dialog, const std::wstring& title, std::vector<HandlerCall> calls = {})
 {
     owtest::MoveTo(dialog, CPoint(0, 0));
     dialog.UpdateWindow();
     owtest::Pump();
-    Require(owtest::SaveWindowPng(dialog, PicturePath(FileName(title))), L"the picture was not written");
+    const std::wstring file = FileName(title);
+    Require(owtest::SaveWindowPng(dialog, PicturePath(file)), L"the picture was not written");
+    Enter(title, file, std::move(calls));
 }
+
+CNotificationLog& LogOf(CWnd& gallery)
+{
+    return static_cast<CNotificationLog&>(*gallery.GetDlgItem(IDC_LOG));
+}
+
+std::vector<HandlerCall> CallsFrom(CNotificationLog& log, int first)
+{
+    std::vector<HandlerCall> calls;
+    for (int line = first; line < log.GetItemCount(); ++line)
+        calls.push_back({log.GetItemText(line, 0).GetString(), log.GetItemText(line, 1).GetString()});
+    return calls;
+}
+
+constexpr int kOtherPictures = 4; ///< than those of the tree's pages: the combo boxes, three sheets
 
 /// The page dialog that the user sees.
 CWnd& ShownPage(CWnd& dialog)
@@ -58,6 +87,8 @@ void Open(CDialog& dialog, UINT nTemplateId)
 
 void VisitPage(CWnd& gallery, CPageTreeCtrl& tree, HTREEITEM item)
 {
+    CNotificationLog& log = LogOf(gallery);
+    const int callsBefore = log.GetItemCount();
     CRect rect;
     tree.EnsureVisible(item);
     Require(tree.GetItemRect(item, rect, TRUE), L"the page is not in the tree");
@@ -66,7 +97,7 @@ void VisitPage(CWnd& gallery, CPageTreeCtrl& tree, HTREEITEM item)
     Require(owtest::PumpUntil([&] { return TextOf(gallery, IDC_PAGE_TITLE) == strTitle; }),
             L"the page does not show");
     PageUse::Run(tree.GetCurrentPage()->GetPageID(), ShownPage(gallery));
-    SavePicture(gallery, strTitle.GetString());
+    SavePicture(gallery, strTitle.GetString(), CallsFrom(log, callsBefore));
 }
 
 void WalkPages()
@@ -74,6 +105,7 @@ void WalkPages()
     CGalleryDialog gallery;
     Open(gallery, IDD_GALLERY);
     auto& tree = static_cast<CPageTreeCtrl&>(*gallery.GetDlgItem(IDC_PAGES));
+    s_all = static_cast<int>(tree.GetCount()) + kOtherPictures;
     for (HTREEITEM item = tree.GetRootItem(); item; item = tree.GetNextVisibleItem(item))
         VisitPage(gallery, tree, item);
     gallery.DestroyWindow();
@@ -113,7 +145,7 @@ void WalkPagesByCombos()
 }
 
 /// A sheet of drawings on its own, larger than any window: as they are, and enlarged with names.
-void SaveSheet(const std::wstring& path, const std::vector<Drawing>& drawings, COLORREF background,
+void SaveSheet(const std::wstring& title, const std::vector<Drawing>& drawings, COLORREF background,
                bool icons)
 {
     constexpr int kWidth = 1240, kMargin = 10, kGap = 12;
@@ -133,15 +165,18 @@ void SaveSheet(const std::wstring& path, const std::vector<Drawing>& drawings, C
     owtest::Surface measure(kWidth, 1);
     owtest::Surface sheet(kWidth, paint(measure), background);
     paint(sheet);
-    Require(owtest::SavePng(static_cast<HBITMAP>(::GetCurrentObject(sheet.dc(), OBJ_BITMAP)), path),
-            L"the sheet was not written");
+    const std::wstring file = FileName(title);
+    Require(
+        owtest::SavePng(static_cast<HBITMAP>(::GetCurrentObject(sheet.dc(), OBJ_BITMAP)), PicturePath(file)),
+        L"the sheet was not written");
+    Enter(title, file);
 }
 
 void SaveSheets()
 {
-    SaveSheet(PicturePath(L"sheet_icons.png"), AllIcons(), RGB(240, 240, 240), true);
-    SaveSheet(PicturePath(L"sheet_icons_on_white.png"), AllIcons(), RGB(255, 255, 255), true);
-    SaveSheet(PicturePath(L"sheet_pictures.png"), AllPictures(), RGB(240, 240, 240), false);
+    SaveSheet(L"Sheet icons", AllIcons(), RGB(240, 240, 240), true);
+    SaveSheet(L"Sheet icons on white", AllIcons(), RGB(255, 255, 255), true);
+    SaveSheet(L"Sheet pictures", AllPictures(), RGB(240, 240, 240), false);
 }
 } // namespace
 
@@ -160,6 +195,7 @@ int wmain(int argc, wchar_t** argv)
         WalkPages();
         WalkPagesByCombos();
         SaveSheets();
+        Require(s_index.Save(PicturePath(L"index.html")), L"the index was not written");
     }
     catch (const WalkFailure& failure)
     {
