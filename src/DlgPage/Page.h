@@ -58,6 +58,7 @@ public:
 
     /// Draws a preview of what the page's values mean. Draws nothing here.
     virtual void DrawPreview(CCmndGraphicContext* pContext) const;
+    /// Which of the module's previews belongs to the page.
     virtual EPagePreviewID GetPreviewID() const;
     /// The text that page selectors and captions show.
     virtual CString GetTreeItemName() const;
@@ -80,15 +81,21 @@ public:
     /// The text above and below the dimension line, and the source text. A format that is not set is ignored:
     /// what was pre-set before stays.
     void SetFormatGore(const CFormatTekstaKote& format);
+    /// Below the line.
     void SetFormatDole(const CFormatTekstaKote& format);
+    /// The source text.
     void SetFormatIzvor(const CFormatTekstaKote& format);
 
     /// Unit formats of length, width and thickness.
     void SetDuzina(const CFormatJedinice& format);
+    /// Width.
     void SetSirina(const CFormatJedinice& format);
+    /// Thickness.
     void SetDebljina(const CFormatJedinice& format);
 
+    /// The separator of the page's texts, by number.
     void SetSeparator(int nSeparator);
+    /// The position of its texts, by number.
     void SetPolozaj(int nPolozaj);
 
     /// Pages are made below 4 GiB. Raises MFC's memory exception if there is no room; the nothrow form

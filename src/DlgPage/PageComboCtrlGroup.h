@@ -91,6 +91,7 @@ protected:
     /// The top-level page of a row, and the child behind it; null where there is none, and for a row that
     /// there is not.
     CPage* GetPrimary(int nRow) const;
+    /// The child.
     CPage* GetSecondary(int nRow) const;
 
 private:

@@ -49,6 +49,7 @@ public:
     /// one comes without the other going first. Does nothing here.
     virtual void BindControlsToSources(bool bBind, CPage* pPage);
 
+    /// The template that the dialog was made with.
     UINT GetDialogTemplateID() const;
 
     /// Whom MyAttributeChanged tells; not owned. Null: nobody.

@@ -85,6 +85,7 @@ public:
     /// The picture at an index from 0 to BitmapCount() - 1; the index is not checked. Not owned by the
     /// caller. Null if there is none.
     virtual HBITMAP GetBitmap(int index) const = 0;
+    /// Entries of the menu.
     virtual int BitmapCount() const = 0;
     /// Id of the menu's first item; the others follow.
     virtual UINT GetStartWindowMsg() const;
@@ -92,6 +93,7 @@ public:
 protected:
     /// Makes the menu, with copies of the pictures on the menu's colour. What was there before is freed.
     void CreateMenusAndBitmaps();
+    /// Frees the menu and its pictures.
     void DeleteMenusAndBitmaps();
 
     void PreSubclassWindow() override;

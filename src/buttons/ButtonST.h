@@ -115,6 +115,7 @@ public:
         colorCount
     };
 
+    /// Where the image stands.
     enum EAlign : BYTE
     {
         alignLeft,
@@ -123,6 +124,7 @@ public:
         alignNone
     };
 
+    /// What moves while the button is pressed.
     enum EPressedStyle : BYTE
     {
         pressedAside, ///< image and title move by (1, 1)

@@ -58,6 +58,7 @@ class CColorSelectDialog;
 class OW_DIALOGCONTROLS_API CColorBtnST : public CButtonST
 {
 public:
+    /// Colours that the pop-up offers.
     static constexpr int paletteSize = 20;
 
     CColorBtnST();

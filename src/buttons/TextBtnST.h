@@ -62,6 +62,7 @@ public:
     /// the shorter one, leaves its text bare; surplus ones are not shown.
     void SetTexts(const OCArray<CString>& texts, const OCArray<CString>& descriptions);
 
+    /// Entries of the menu.
     int TextCount() const;
     /// The text at an index from 0 to TextCount() - 1; the index is not checked here. Good until the next
     /// SetTexts.

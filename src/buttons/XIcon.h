@@ -50,6 +50,7 @@ public:
     CXIcon& SetTextColor(DWORD crText, int bRepaint = TRUE);
     DWORD GetTextColor() const;
 
+    /// Whether Resize runs by itself after each change. Off at first.
     CXIcon& SetAutoResize(int bAutoResize, int bRepaint = TRUE);
     int GetAutoResize() const;
 
@@ -62,6 +63,7 @@ public:
     /// text.
     CXIcon& SetWindowTextW(const wchar_t* pszText, int bRepaint = TRUE);
 
+    /// The weight of the font.
     CXIcon& SetBold(int bBold, int bRepaint = TRUE);
     int GetBold();
 
@@ -73,10 +75,13 @@ public:
     /// The described font; null does nothing.
     CXIcon& SetFont(LOGFONTW* pLogFont, int bRepaint = TRUE);
 
+    /// The font in use; not owned by the caller.
     CFont* GetFont();
     /// Describes the font; 0 for a null pointer, else 1.
     int GetFont(LOGFONTW* pLogFont);
+    /// Its face.
     CString GetFontFaceName();
+    /// Its size.
     int GetFontPointSize();
 
     /// Fits the width of the window to what it shows.

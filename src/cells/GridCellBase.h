@@ -53,6 +53,7 @@ public:
     void Dump(CDumpContext& dc) const override;
 #endif
 
+    // What a cell holds. This class holds but a state; kinds of cells override what they have.
     virtual void SetText(LPCWSTR pszText);
     virtual void SetImage(int nImage);
     virtual void SetData(LPARAM lParam);
@@ -67,6 +68,7 @@ public:
     /// Tells the cell where it stands now.
     virtual void SetCoords(int nRow, int nCol);
 
+    // The same, read: nothing, or zero, for what the kind of cell does not hold.
     virtual LPCWSTR GetText();
     virtual LPCWSTR GetTipText();
     virtual int GetImage();
@@ -85,6 +87,7 @@ public:
     /// The grid's default cell for a place like this one; null without a grid.
     virtual CGridCellBase* GetDefaultCell();
 
+    // Not bits of the state.
     virtual BOOL IsDefaultFont();
     virtual BOOL IsEditing();
 
@@ -101,12 +104,14 @@ public:
     /// Takes over what the other shows. An inherited format or margin arrives as a value; an inherited font
     /// stays so.
     virtual void operator=(const CGridCellBase& cell);
+    /// Clears the state; kinds of cells clear what they hold as well.
     virtual void Reset();
 
     /// `rect` holds the cell's last pixel. FALSE if there is nothing to draw or no grid to ask.
     virtual BOOL Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd);
     /// Leaves of the cell's rectangle what the text may take.
     virtual BOOL GetTextRect(LPRECT pRect);
+    /// The part that a text tip covers.
     virtual BOOL GetTipTextRect(LPRECT pRect);
     /// Room for a text in this cell's font and format, margins included. Without `pDC` the grid's window is
     /// asked.

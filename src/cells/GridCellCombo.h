@@ -33,6 +33,7 @@ public:
 
     /// Replaces the list, from the next edit on.
     void SetOptions(const CStringArray& options);
+    /// Window style of the editor: CBS_ flags.
     DWORD GetStyle() const;
     /// The editor; null while no edit runs. It is not owned, and deletes itself.
     CComboBox* DajKomboBoks() const;

@@ -29,11 +29,16 @@ public:
     LOGFONTW* GetFont() override;
     CFont* GetFontObject() override;
 
+    /// The caller's own value: the grid does not look at it.
     virtual DWORD GetStyle() const;
     virtual void SetStyle(DWORD dwStyle);
+    /// Pixels of a new column.
     virtual int GetWidth() const;
+    /// Pixels of a new row.
     virtual int GetHeight() const;
+    /// Pixels of columns made from now on.
     virtual void SetWidth(int nWidth);
+    /// Pixels of rows made from now on.
     virtual void SetHeight(int nHeight);
 
 protected:

@@ -51,6 +51,7 @@ public:
     /// The smallest number that the user may type, in the column's unit. With `bInclusive` 0 it is just too
     /// small.
     void SetLocalMin(double dMin, int bInclusive);
+    /// The greatest, likewise.
     void SetLocalMax(double dMax, int bInclusive);
 
     /// Shows a number given in the global unit. `nCol`: the cell's column, whose unit counts.
@@ -64,7 +65,9 @@ public:
 protected:
     /// Makes a typed number the value if the bounds allow it.
     bool Accept(double dLocal);
+    /// A number in the column's unit.
     double ToLocal(int nCol, double dGlobal) const;
+    /// Writes the text from the value.
     void ShowDecimal();
 
     double m_dValue = 0.0; ///< these three in the column's unit

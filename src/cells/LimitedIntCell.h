@@ -31,9 +31,12 @@ public:
 
     /// The smallest number that the user may type. With `bInclusive` 0 it is just too small.
     void SetMin(int nMin, int bInclusive);
+    /// The greatest, likewise.
     void SetMax(int nMax, int bInclusive);
 
+    /// Shows a number.
     void Set(int nValue);
+    /// The number.
     int Get() const;
 
     BOOL ValidateEdit(LPCWSTR pszText) override;

@@ -22,6 +22,7 @@ public:
     /// Takes over the length, too.
     void operator=(const CLimitedTextCell& cell);
 
+    /// Characters that the user may type.
     void SetMax(unsigned nMax);
     /// Characters. 100 for a cell without a limit; but a new cell has one, which is 0 until SetMax.
     unsigned GetMax() const;

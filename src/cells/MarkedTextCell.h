@@ -24,6 +24,7 @@ public:
 
     /// A change has the whole grid repainted.
     void Mark(bool bMark);
+    /// Whether the cell has its mark.
     bool IsMarked() const;
 
     BOOL Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd) override;

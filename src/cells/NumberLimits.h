@@ -4,12 +4,14 @@
 
 #include <afxwin.h>
 
+/// Whether the value keeps to the lower bound.
 template <class Number>
 bool gfnKeepsMin(Number value, BOOL bHasMin, Number min, BOOL bInclusive)
 {
     return !bHasMin || !(bInclusive ? min > value : min >= value);
 }
 
+/// Whether the value keeps to the upper bound.
 template <class Number>
 bool gfnKeepsMax(Number value, BOOL bHasMax, Number max, BOOL bInclusive)
 {

@@ -34,6 +34,7 @@ public:
     // The setters do not repaint. 0xFFFFFFFF as colour or -1 as style, which both are at first, means no
     // pattern.
 
+    /// Colour of the lines.
     COLORREF GetPatternColor() const;
     void SetPatternColor(COLORREF clr);
     /// A style of CreateHatchBrush: HS_HORIZONTAL to HS_DIAGCROSS. One that the system does not know shows as

@@ -74,11 +74,13 @@ public:
 
     /// Colours of the rows, in place of the system's.
     void SetNormalColors(COLORREF crBackground, COLORREF crText);
+    /// Colours of the selected row, in place of the system's.
     void SetHilightColors(COLORREF crBackground, COLORREF crText);
 
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
     /// Does nothing: rows keep the height that the system gives them.
     void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct) override;
+    /// Gives back what the row kept.
     void DeleteItem(LPDELETEITEMSTRUCT lpDeleteItemStruct) override;
 
     /// For EnumFonts: adds a row for a TrueType font. `lParam` is the combo box. Always 1, to go on.

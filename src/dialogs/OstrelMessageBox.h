@@ -50,6 +50,7 @@ public:
     COstrelMessageBox(const COstrelMessageBox&) = delete;
     COstrelMessageBox& operator=(const COstrelMessageBox&) = delete;
 
+    /// The text and the caption that DoModal shows.
     void Set(const CString& strText, const CString& strCaption);
 
     /// The caption of a button, `nButton` from 1 to 4; any other number is an internal error and ends the
@@ -82,6 +83,7 @@ public:
     /// Tell that the copy-protection check found the protection (P) or the licence (L) wanting, with the
     /// check's code. Always 0.
     static int ErrorBoxP(int nCode);
+    /// The licence.
     static int ErrorBoxL(int nCode);
 
 private:

@@ -28,6 +28,7 @@
 class OW_DIALOGCONTROLS_API COstrelMessenger : public CMsgHook
 {
 public:
+    /// The one of the process, made by the first call.
     static COstrelMessenger& Instance();
 
     /// Leaves a code to be shown. 0 and -1 are never shown.

@@ -15,6 +15,7 @@
 
 #include "module/Export.h"
 
+/// How a number is written.
 enum EDoubleFormat : int
 {
     eDoubleFormatGeneral = 0,  ///< 1250, 0.1 or 1.25E+009, whichever is shorter; at most six digits

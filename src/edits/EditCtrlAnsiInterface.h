@@ -15,9 +15,11 @@ public:
     explicit CEditCtrlAnsiInterface(CEdit& edit);
     virtual ~CEditCtrlAnsiInterface();
 
+    /// The code page that texts go through from now on.
     void SetCodePage(unsigned int nCodePage);
     unsigned int GetCodePage() const;
 
+    /// Writes a text by way of the code page.
     void SetText(const CString& strText);
     /// All of the text, also of a box under a CEditCtrlAnsiMsgHook. The argument makes no difference.
     CString GetText(bool bUnused = false) const;

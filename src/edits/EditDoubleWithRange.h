@@ -78,6 +78,7 @@ public:
     /// In the global unit; while the box is empty, the empty value.
     double GetValue() const;
 
+    /// Shows nothing, and holds no value.
     void SetEmpty(bool bForce = false);
     bool IsEmpty() const;
     /// Whether a number is the one that stands for "no value".
@@ -89,17 +90,22 @@ public:
     void SetMinRange(double dMin, bool bForce = false);
     /// Replaces the whole range: the minimum is the most negative double afterwards.
     void SetMaxRange(double dMax, bool bForce = false);
+    /// The bounds as they are stored.
     void GetRange(double& dMin, double& dMax) const;
+    /// As GetRange.
     double GetMinRange() const;
+    /// As GetRange.
     double GetMaxRange() const;
     /// Touches neither the value nor the text.
     void DisableRangeChecking();
+    /// Whether there is a range.
     bool IsRangeCheckingEnabled() const;
 
     /// Fixed with two decimals at first.
     void SetFormat(EDoubleFormat eFormat, int nDecimals, bool bForce = false);
     EDoubleFormat GetFormat() const;
     void GetFormat(EDoubleFormat& eFormat, int& nDecimals) const;
+    /// As SetFormat.
     int GetDecimals() const;
 
     /// Shows the value in another unit. The text is taken first, under the old one, so that a value with more
@@ -107,13 +113,16 @@ public:
     void SetComplexUnit(const CComplexUnit& unit);
     /// Shows the value in the global unit, with no symbol. The text is taken first, as in SetComplexUnit.
     void DisableComplexUnit();
+    /// The unit, of use while there is one.
     const CComplexUnit& GetComplexUnit() const;
+    /// Whether the text stands in a unit of its own.
     bool IsComplexUnitEnabled() const;
     /// Kept for clients that store one; the box converts by its unit alone. Not owned.
     void AttachCustomUnitConvertor(const CUnitsConvertor* pConvertor);
 
     /// 0 for none.
     unsigned int GetComplexUnitStaticId() const;
+    /// 0 for none.
     unsigned int GetSpinCtrlId() const;
 
     /// In the local unit, 0.01 at first. Any number is stored.

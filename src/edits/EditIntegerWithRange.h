@@ -44,6 +44,7 @@ public:
     /// The last number, also while the box is empty.
     int GetValue() const;
 
+    /// Shows nothing, and holds no value.
     void SetEmpty(bool bForce = false);
     bool IsEmpty() const;
 
@@ -53,11 +54,15 @@ public:
     void SetMinRange(int nMin, bool bForce = false);
     /// Replaces the whole range: there is no minimum afterwards.
     void SetMaxRange(int nMax, bool bForce = false);
+    /// The bounds as they are stored.
     void GetRange(int& nMin, int& nMax) const;
+    /// As GetRange.
     int GetMinRange() const;
+    /// As GetRange.
     int GetMaxRange() const;
     /// Touches neither the value nor the text.
     void DisableRangeChecking();
+    /// Whether there is a range.
     bool IsRangeCheckingEnabled() const;
 
     bool IsDataCurrentlyInGUIValid() const override;

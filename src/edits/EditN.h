@@ -50,7 +50,9 @@ protected:
     virtual void HandlerOnCreate();
     /// The text was changed, and not by SafeSetWindowText.
     virtual void HandlerOnChange();
+    /// The box has received the focus.
     virtual void HandlerOnSetFocus();
+    /// The box has lost the focus.
     virtual void HandlerOnKillFocus();
 
     bool DoesNotificationHandlerExist() const;
@@ -79,9 +81,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool m_bSettingText = false;   ///< the box itself is writing; its notification is ignored
+    bool m_bSettingText = false; ///< the box itself is writing; its notification is ignored
     bool m_bChanged = false;
     bool m_bAnsiInterface = false;
-    bool m_bBeingCreated = false;  ///< between PreCreateWindow and the window: WM_CREATE is still to come
+    bool m_bBeingCreated = false; ///< between PreCreateWindow and the window: WM_CREATE is still to come
     CEditNNotificationHandler* m_pHandler;
 };

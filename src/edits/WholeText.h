@@ -14,4 +14,5 @@
 
 #include "module/Export.h"
 
+/// All that stands in the box.
 OW_DIALOGCONTROLS_API CString gfnWholeText(const CWnd& wnd);

@@ -35,15 +35,22 @@ public:
     /// could not be scrolled to.
     static constexpr int c_nMostItems = 0x07FFFFFF;
 
+    /// How many items there are, the fixed ones included.
     int Count() const { return m_nCount; }
+    /// How many are fixed: the first ones.
     int Fixed() const { return m_nFixed; }
+    /// Whether there is such an item.
     bool Has(int nItem) const { return nItem >= 0 && nItem < m_nCount; }
+    /// Whether the item is one of the fixed.
     bool IsFixed(int nItem) const { return nItem < m_nFixed; }
+    /// Whether there is such an item, and it is not hidden.
     bool IsShown(int nItem) const { return Has(nItem) && Size(nItem) > 0; }
+    /// Pixels of an item that there is; 0 is hidden.
     int Size(int nItem) const { return static_cast<int>(m_sizes[nItem]); }
 
     /// Fixed items beyond the count cannot be: the caller sees to that.
     void SetFixed(int nFixed) { m_nFixed = nFixed; }
+    /// Pixels; 0 hides the item.
     void SetSize(int nItem, int nSize);
     /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if
     /// need be. Memory exceptions leave everything as it was.
@@ -51,15 +58,20 @@ public:
     /// Makes room, so that SetCount and Insert up to that number cannot fail. Items that are taken away take
     /// the room with them.
     void Reserve(LONGLONG nCount);
+    /// Gives all items one size.
     void SetAllSizes(int nSize);
+    /// Makes an item in front of this one.
     void Insert(int nItem, int nSize);
     /// Takes an item away; one less is fixed if it was.
     void Remove(int nItem);
+    /// Two items change places, and take their sizes with them.
     void Swap(int nItem, int nOther);
 
     /// Pixels of all items before this one; `nItem` may be the count.
     int Offset(int nItem) const;
+    /// Pixels of all items.
     int Extent() const { return gfnSaturated(m_nExtent); }
+    /// Pixels of the fixed items.
     int FixedExtent() const { return Offset(m_nFixed); }
 
     /// The first item that shows behind the fixed ones at a scroll position. A position inside an item gives
@@ -79,6 +91,7 @@ public:
         int nEnd;  ///< where the items end: the end of the last one, which may lie beyond the client area
         bool bReachesEnd; ///< the items fill the client area
     };
+    /// What shows between the fixed items and the end of the client area, from the item `nFirst` on.
     SVisible Visible(int nFirst, int nClientEnd) const;
 
 private:

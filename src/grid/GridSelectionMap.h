@@ -16,16 +16,23 @@
 class CGridSelectionMap
 {
 public:
+    /// A cell's place in the map.
     static DWORD KeyOf(int nRow, int nCol)
     {
         return (static_cast<DWORD>(nCol) << 16) | (static_cast<DWORD>(nRow) & 0xFFFF);
     }
 
+    /// How many cells are selected.
     int Count() const { return static_cast<int>(m_cells.size()); }
+    /// Whether none is.
     bool IsEmpty() const { return m_cells.empty(); }
+    /// Whether the cell is.
     bool Has(int nRow, int nCol) const { return m_cells.contains(KeyOf(nRow, nCol)); }
+    /// Selects a cell.
     void Add(int nRow, int nCol) { m_cells[KeyOf(nRow, nCol)] = CCellID(nRow, nCol); }
+    /// Takes a cell out; one that is not in does nothing.
     void Remove(int nRow, int nCol) { m_cells.erase(KeyOf(nRow, nCol)); }
+    /// Takes all out.
     void RemoveAll() { m_cells = {}; }
 
     /// A copy, so that the map may change while a caller walks over it. In any order.

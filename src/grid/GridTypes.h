@@ -10,8 +10,8 @@
 class CCellID
 {
 public:
-    int row;
-    int col;
+    int row; ///< from 0
+    int col; ///< from 0
 
     CCellID() : row(-1), col(-1) {}
     CCellID(int nRow, int nCol) : row(nRow), col(nCol) {}
@@ -25,10 +25,10 @@ public:
 class CCellRange
 {
 public:
-    int minRow;
-    int minCol;
-    int maxRow;
-    int maxCol;
+    int minRow; ///< top
+    int minCol; ///< left
+    int maxRow; ///< bottom, the last row of the range
+    int maxCol; ///< right, the last column of the range
 
     CCellRange() : minRow(-1), minCol(-1), maxRow(-1), maxCol(-1) {}
     CCellRange(int nMinRow, int nMinCol, int nMaxRow, int nMaxCol)
@@ -36,6 +36,7 @@ public:
     {
     }
 
+    /// Whether the cell lies inside.
     bool InRange(int nRow, int nCol) const
     {
         return nRow >= minRow && nRow <= maxRow && nCol >= minCol && nCol <= maxCol;
@@ -45,14 +46,14 @@ public:
 
 // ---- State of a cell: bits of GetItemState ----------------------------------------------------------------
 
-constexpr DWORD CELL_FOCUSED = 0x01;
-constexpr DWORD CELL_SELECTED = 0x02;
-constexpr DWORD CELL_DROPHILITED = 0x04;
-constexpr DWORD CELL_READONLY = 0x08;
-constexpr DWORD CELL_FIXED = 0x10; ///< in a fixed row or a fixed column
-constexpr DWORD CELL_FIXEDROW = 0x20;
-constexpr DWORD CELL_FIXEDCOL = 0x40;
-constexpr DWORD CELL_MODIFIED = 0x80;
+constexpr DWORD CELL_FOCUSED = 0x01;     ///< has the focus of the grid
+constexpr DWORD CELL_SELECTED = 0x02;    ///< is selected
+constexpr DWORD CELL_DROPHILITED = 0x04; ///< is shown as the target of a drop
+constexpr DWORD CELL_READONLY = 0x08;    ///< cannot be edited by the user
+constexpr DWORD CELL_FIXED = 0x10;       ///< in a fixed row or a fixed column
+constexpr DWORD CELL_FIXEDROW = 0x20;    ///< in a fixed row
+constexpr DWORD CELL_FIXEDCOL = 0x40;    ///< in a fixed column
+constexpr DWORD CELL_MODIFIED = 0x80;    ///< was changed by the user
 
 /// The colour that stands for the default cell's; no colour that could be shown.
 constexpr COLORREF CLR_INHERIT = 0xFF000000;
@@ -62,32 +63,34 @@ constexpr UINT GV_INHERIT = 0xFFFFFFFF;
 
 // ---- One cell, described ----------------------------------------------------------------------------------
 
-constexpr UINT GV_MASK_TEXT = 0x001;
-constexpr UINT GV_MASK_IMAGE = 0x002;
-constexpr UINT GV_MASK_PARAM = 0x004;
-constexpr UINT GV_MASK_STATE = 0x008;
-constexpr UINT GV_MASK_BKCLR = 0x010;
-constexpr UINT GV_MASK_FGCLR = 0x020;
-constexpr UINT GV_MASK_FORMAT = 0x040;
-constexpr UINT GV_MASK_FONT = 0x080;
-constexpr UINT GV_MASK_MARGIN = 0x100;
-constexpr UINT GV_MASK_ALL = 0xFFFFFFFF;
+constexpr UINT GV_MASK_TEXT = 0x001;     ///< strText
+constexpr UINT GV_MASK_IMAGE = 0x002;    ///< iImage
+constexpr UINT GV_MASK_PARAM = 0x004;    ///< lParam
+constexpr UINT GV_MASK_STATE = 0x008;    ///< nState
+constexpr UINT GV_MASK_BKCLR = 0x010;    ///< crBkClr
+constexpr UINT GV_MASK_FGCLR = 0x020;    ///< crFgClr
+constexpr UINT GV_MASK_FORMAT = 0x040;   ///< nFormat
+constexpr UINT GV_MASK_FONT = 0x080;     ///< lfFont
+constexpr UINT GV_MASK_MARGIN = 0x100;   ///< nMargin
+constexpr UINT GV_MASK_ALL = 0xFFFFFFFF; ///< all of them
 
+/// A cell, or what a caller sets or asks of one.
 struct _GV_ITEM
 {
-    int row = 0;
-    int col = 0;
-    UINT mask = 0;    ///< GV_MASK_ bits: which of the fields below count
-    UINT nState = 0;  ///< CELL_ bits
-    UINT nFormat = 0; ///< DT_ flags of DrawText
-    int iImage = -1;  ///< index in the grid's image list, -1 for none
-    COLORREF crBkClr = CLR_INHERIT;
-    COLORREF crFgClr = CLR_INHERIT;
-    LPARAM lParam = 0;
-    LOGFONTW lfFont{};
-    UINT nMargin = 0; ///< pixels between the cell's edge and its text
-    CString strText;
+    int row = 0;                    ///< of the cell, from 0
+    int col = 0;                    ///< of the cell, from 0
+    UINT mask = 0;                  ///< GV_MASK_ bits: which of the fields below count
+    UINT nState = 0;                ///< CELL_ bits
+    UINT nFormat = 0;               ///< DT_ flags of DrawText
+    int iImage = -1;                ///< index in the grid's image list, -1 for none
+    COLORREF crBkClr = CLR_INHERIT; ///< of the background
+    COLORREF crFgClr = CLR_INHERIT; ///< of the text
+    LPARAM lParam = 0;              ///< the caller's own value
+    LOGFONTW lfFont{};              ///< of the text
+    UINT nMargin = 0;               ///< pixels between the cell's edge and its text
+    CString strText;                ///< what the cell shows
 };
+/// The record's name in callers.
 using GV_ITEM = _GV_ITEM;
 
 // ---- Records of WM_NOTIFY ---------------------------------------------------------------------------------
@@ -95,24 +98,25 @@ using GV_ITEM = _GV_ITEM;
 /// LVN_GETDISPINFOW of a virtual grid, and LVN_ENDLABELEDITW from an in-place editor to its grid.
 struct tagGV_DISPINFO
 {
-    NMHDR hdr{};
-    GV_ITEM item;
+    NMHDR hdr{};  ///< the sender, its id, the notification
+    GV_ITEM item; ///< the cell, and what is asked of it or known
 };
+/// The record's name in callers.
 using GV_DISPINFO = tagGV_DISPINFO;
 
 /// All other notifications of a grid.
 struct GridNotify
 {
-    NMHDR hdr;
-    int iRow;
-    int iColumn;
+    NMHDR hdr;   ///< the sender, its id, the notification
+    int iRow;    ///< of the cell, -1 for none
+    int iColumn; ///< of the cell, -1 for none
 };
 
 /// LVN_ODCACHEHINT: the cells that the grid is about to ask for; the empty range when it is done.
 struct GridCacheHint
 {
-    NMHDR hdr;
-    CCellRange range;
+    NMHDR hdr;        ///< the sender, its id, the notification
+    CCellRange range; ///< of cells
 };
 
 /// Fills in the cell of a virtual grid; see CGridCtrl::SetCallbackFunc.

@@ -28,6 +28,7 @@ public:
 
     /// For the caller's own use at the beginning and at the end: the group does not call them.
     virtual void LoadConfigs() {}
+    /// As LoadConfigs, at the end.
     virtual void StoreConfigs() {}
 
     /// Fills `names` with the names of the entries, in their order, and answers how many there are.

@@ -89,6 +89,7 @@ public:
     /// windows.
     CFormatJedinice GetCtrlState();
 
+    /// Enables or disables the controls.
     void Enable(int bEnable);
     /// Shows and enables the controls, or hides and disables them.
     void Display(int bShow);

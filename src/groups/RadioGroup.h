@@ -73,6 +73,7 @@ public:
 
     /// The id of the first control; 0 for an empty group.
     int GetUniqueId() const;
+    /// How many controls the group has.
     int Count() const;
     /// The index of a control's id; -1 if it is no member.
     int Find(int nId) const;
@@ -82,7 +83,9 @@ public:
     /// Checks one button and clears the others; an index that is none clears all.
     void SetOption(int nOption);
 
+    /// Shows or hides all controls.
     void Show(bool bShow);
+    /// Enables or disables all controls.
     void Enable(bool bEnable);
 
 protected:

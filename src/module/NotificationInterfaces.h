@@ -134,8 +134,11 @@ class AExtGridCtrl2ExtraHeaderSupport
 {
 public:
     virtual ~AExtGridCtrl2ExtraHeaderSupport() {}
+    /// Colour of the band.
     virtual int GetExtraHeaderColor() = 0;
+    /// Rows of the band.
     virtual int GetExtraHeaderCount() = 0;
+    /// Colour of the rows below it.
     virtual int GetBodyColor() = 0;
 };
 
@@ -179,6 +182,7 @@ class ASelectPageNotificationClient
 {
 public:
     virtual ~ASelectPageNotificationClient() {}
+    /// `pOld` was shown until now, and may be null.
     virtual void PageSelected(CPage* pNew, CPage* pOld) = 0;
 };
 
@@ -187,6 +191,7 @@ class AAddPageNotificationClient
 {
 public:
     virtual ~AAddPageNotificationClient() {}
+    /// `pParent` is null for a page at the top.
     virtual void PageAdded(CPage* pPage, CPage* pParent) = 0;
 };
 
@@ -195,6 +200,7 @@ class ACurrentPageProvider
 {
 public:
     virtual ~ACurrentPageProvider() {}
+    /// Null before a page was selected.
     virtual CPage* GetCurrentPage() const = 0;
 };
 
@@ -203,6 +209,7 @@ class AAttributeChangeNotificationClient
 {
 public:
     virtual ~AAttributeChangeNotificationClient() {}
+    /// The value is stored already.
     virtual void AttributeChangedUsingGUI() = 0;
 };
 
@@ -224,6 +231,7 @@ public:
     virtual ~CEditNNotificationHandler() {}
     /// The user changed the text; a typed box has stored the new value already.
     virtual void OnEditNChange(int /*nId*/) {}
+    /// The box received the focus.
     virtual void OnEditNSetFocus(int /*nId*/) {}
     /// The box lost the focus; a typed box has rewritten its text already.
     virtual void OnEditNKillFocus(int /*nId*/) {}
@@ -242,13 +250,16 @@ class CButtonReflectedNotificationHandler
 {
 public:
     virtual ~CButtonReflectedNotificationHandler() {}
+    /// BN_CLICKED.
     virtual void ButtonReflectedOnClicked(int /*nId*/) {}
+    /// BN_DOUBLECLICKED.
     virtual void ButtonReflectedOnDoubleclicked(int /*nId*/) {}
     /// The brush for the button's background, not owned by the button; null leaves the choice to the system.
     virtual HBRUSH ButtonReflectedOnCtlColor(int /*nId*/, CDC* /*pDC*/, unsigned int /*nCtlColor*/)
     {
         return nullptr;
     }
+    /// WM_PARENTNOTIFY.
     virtual void ButtonReflectedOnParentNotify(int /*nId*/, unsigned int /*message*/, __int64 /*lParam*/) {}
 };
 
@@ -257,15 +268,26 @@ class CComboBoxReflectedNotificationHandler
 {
 public:
     virtual ~CComboBoxReflectedNotificationHandler() {}
+    /// CBN_EDITCHANGE.
     virtual void ComboBoxReflectedOnEditchange(int /*nId*/) {}
+    /// CBN_CLOSEUP.
     virtual void ComboBoxReflectedOnCloseup(int /*nId*/) {}
+    /// CBN_DBLCLK.
     virtual void ComboBoxReflectedOnDblclk(int /*nId*/) {}
+    /// CBN_DROPDOWN.
     virtual void ComboBoxReflectedOnDropdown(int /*nId*/) {}
+    /// CBN_EDITUPDATE.
     virtual void ComboBoxReflectedOnEditupdate(int /*nId*/) {}
+    /// CBN_ERRSPACE.
     virtual void ComboBoxReflectedOnErrspace(int /*nId*/) {}
+    /// CBN_KILLFOCUS.
     virtual void ComboBoxReflectedOnKillfocus(int /*nId*/) {}
+    /// CBN_SELCHANGE.
     virtual void ComboBoxReflectedOnSelchange(int /*nId*/) {}
+    /// CBN_SELENDCANCEL.
     virtual void ComboBoxReflectedOnSelendcancel(int /*nId*/) {}
+    /// CBN_SELENDOK.
     virtual void ComboBoxReflectedOnSelendok(int /*nId*/) {}
+    /// CBN_SETFOCUS.
     virtual void ComboBoxReflectedOnSetfocus(int /*nId*/) {}
 };

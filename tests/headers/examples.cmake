@@ -1,7 +1,7 @@
-# Makes one source of all examples in the public headers: the blocks between "// ```cpp" and "// ```". What a reader
-# fills in stands there as three dots. A block that opens with a class or the head of a function stands as it is, any
+# Makes one source of all examples in the public headers and the pages of tasks: the blocks between "// ```cpp" and
+# "// ```", or without slashes. What a reader fills in stands there as three dots. A block that opens with a class or the head of a function stands as it is, any
 # other becomes the body of a dialog's function.
-#   cmake -DSOURCE_DIR=... -DHEADERS="room/Header.h ..." -DOUTPUT=... -P examples.cmake
+#   cmake -DSOURCE_DIR=... -DHEADERS="room/Header.h ... ../docs/page.md ..." -DOUTPUT=... -P examples.cmake
 cmake_minimum_required(VERSION 3.21)
 string(REPLACE " " ";" HEADERS "${HEADERS}")
 set(code "// Made from the headers by examples.cmake.\n#include \"surroundings.h\"\n")
@@ -10,17 +10,22 @@ set(count 0)
 foreach(header IN LISTS HEADERS)
   file(READ ${SOURCE_DIR}/${header} text)
   string(MAKE_C_IDENTIFIER ${header} name)
+  set(slashes "// ")
+  if(header MATCHES "[.]md$")
+    set(slashes "")
+  endif()
+  string(LENGTH "${slashes}```cpp\n" mark)
   set(line 1)
   set(body "")
   while(TRUE)
-    string(FIND "${text}" "// ```cpp\n" begin)
+    string(FIND "${text}" "${slashes}```cpp\n" begin)
     if(begin EQUAL -1)
       break()
     endif()
-    math(EXPR begin "${begin} + 10")
+    math(EXPR begin "${begin} + ${mark}")
     string(SUBSTRING "${text}" 0 ${begin} before)
     string(SUBSTRING "${text}" ${begin} -1 text)
-    string(FIND "${text}" "// ```\n" end)
+    string(FIND "${text}" "${slashes}```\n" end)
     if(end EQUAL -1)
       message(FATAL_ERROR "${header}: an example has no end")
     endif()
