@@ -3,7 +3,10 @@
 include(CMakePackageConfigHelpers)
 
 set(package_dir lib/cmake/DialogControlsOW)
-set(modules DialogControlsOW acadhost BaseSvcOW SettingsOW AcadOleSvcOW)
+set(modules DialogControlsOW)
+if(NOT OW_GROUND)
+  list(APPEND modules acadhost BaseSvcOW SettingsOW AcadOleSvcOW)
+endif()
 if(OW_MFC STREQUAL bundled)
   list(APPEND modules mfcow mfcow_main)
   install(DIRECTORY platform/mfc/include/ DESTINATION include/mfcow)
@@ -14,11 +17,13 @@ install(TARGETS ${modules} EXPORT DialogControlsOWTargets
 install(FILES ${OW_RUNTIME_DLLS} DESTINATION bin)
 install(EXPORT DialogControlsOWTargets NAMESPACE DialogControlsOW:: DESTINATION ${package_dir})
 
-install(DIRECTORY platform/acad/include/ DESTINATION include/acad)
-foreach(sibling BaseSvcOW SettingsOW AcadOleSvcOW)
-  install(DIRECTORY platform/siblings/${sibling}/include/ DESTINATION include/${sibling})
-endforeach()
-install(DIRECTORY platform/siblings/locale/ DESTINATION bin/locale FILES_MATCHING PATTERN *.po)
+if(NOT OW_GROUND)
+  install(DIRECTORY platform/acad/include/ DESTINATION include/acad)
+  foreach(sibling BaseSvcOW SettingsOW AcadOleSvcOW)
+    install(DIRECTORY platform/siblings/${sibling}/include/ DESTINATION include/${sibling})
+  endforeach()
+  install(DIRECTORY platform/siblings/locale/ DESTINATION bin/locale FILES_MATCHING PATTERN *.po)
+endif()
 
 # What the library keeps to itself is left out.
 install(DIRECTORY src/ DESTINATION include/DialogControlsOW
@@ -38,3 +43,21 @@ install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfigVersion.cmake
   cmake/mingw-w64-x86_64.cmake
   DESTINATION ${package_dir})
+
+# The gallery, ready to be started, and the examples with their sources.
+install(TARGETS gallery RUNTIME DESTINATION bin)
+install(DIRECTORY examples/ DESTINATION examples)
+install(DIRECTORY apps/gallery/ DESTINATION examples/gallery
+  PATTERN walk EXCLUDE PATTERN CMakeLists.txt EXCLUDE)
+install(FILES README.md CHANGELOG.md DESTINATION .)
+install(FILES docs/guide.md DESTINATION docs)
+
+# What the compiler's run-time DLLs are given under.
+foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)
+  if(EXISTS /usr/share/doc/${package}/copyright)
+    install(FILES /usr/share/doc/${package}/copyright DESTINATION licences RENAME ${package}.txt)
+  endif()
+endforeach()
+if(EXISTS /usr/share/common-licenses/GPL-3)
+  install(FILES /usr/share/common-licenses/GPL-3 DESTINATION licences RENAME GPL-3.txt)
+endif()

@@ -48,9 +48,11 @@ function(ow_glob_sources out)
   set(${out} ${sources} PARENT_SCOPE)
 endfunction()
 
-# A DLL whose file name is exactly the module's name, with no "lib" in front.
-function(ow_add_module name)
-  add_library(${name} SHARED ${ARGN})
+# A DLL whose file name is exactly the module's name, with no "lib" in front, and which says its version.
+function(ow_add_module name description)
+  set(version ${CMAKE_CURRENT_BINARY_DIR}/${name}_version.rc)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/version.rc.in ${version} @ONLY)
+  add_library(${name} SHARED ${ARGN} ${version})
   set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "")
   add_library(DialogControlsOW::${name} ALIAS ${name})
 endfunction()

@@ -1,5 +1,8 @@
-# Installs the package into an empty folder, builds the client of examples/client against it, and runs it.
-#   cmake -DBUILD_DIR=... -DSOURCE_DIR=... -DWORK_DIR=... -DEMULATOR=... -P client.cmake
+# Makes the package, unpacks it into a folder with a blank in its name, holds every file against its checksum, builds the
+# client of examples/client against it, runs it, and looks whether the gallery starts.
+#   cmake -DBUILD_DIR=... -DVERSION=... -DPACKAGE_SCRIPT=... -DWORK_DIR=... -DEMULATOR=... [-DZIP=...] -P client.cmake
+# With ZIP that package is taken, and none is made.
+cmake_minimum_required(VERSION 3.21)
 file(REMOVE_RECURSE ${WORK_DIR})
 
 function(run)
@@ -11,13 +14,43 @@ function(run)
   set(output "${output}" PARENT_SCOPE)
 endfunction()
 
-set(package ${WORK_DIR}/package/lib/cmake/DialogControlsOW)
-run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK_DIR}/package)
-run(${CMAKE_COMMAND} -S ${SOURCE_DIR}/examples/client -B ${WORK_DIR}/build -G Ninja
+set(name DialogControlsOW-${VERSION}-x64)
+if(NOT ZIP)
+  run(${CMAKE_COMMAND} -DBUILD_DIR=${BUILD_DIR} -DVERSION=${VERSION} -DOUTPUT_DIR=${WORK_DIR} -P ${PACKAGE_SCRIPT})
+  set(ZIP ${WORK_DIR}/${name}.zip)
+endif()
+file(ARCHIVE_EXTRACT INPUT ${ZIP} DESTINATION "${WORK_DIR}/add on")
+set(root "${WORK_DIR}/add on/${name}")
+
+# What is listed is there as it was, and nothing else is.
+file(STRINGS ${root}/SHA256SUMS sums)
+file(GLOB_RECURSE files RELATIVE ${root} ${root}/*)
+list(REMOVE_ITEM files SHA256SUMS)
+foreach(line IN LISTS sums)
+  string(SUBSTRING "${line}" 0 64 listed)
+  string(SUBSTRING "${line}" 66 -1 file)
+  file(SHA256 "${root}/${file}" sum)
+  if(NOT sum STREQUAL listed)
+    message(FATAL_ERROR "${file} is not the file that was packed")
+  endif()
+  list(REMOVE_ITEM files "${file}")
+endforeach()
+if(files)
+  message(FATAL_ERROR "not in the list of files: ${files}")
+endif()
+foreach(needed bin/gallery.exe bin/libstdc++-6.dll licences/GPL-3.txt CHANGELOG.md examples/gallery/main.cpp)
+  if(NOT EXISTS ${root}/${needed})
+    message(FATAL_ERROR "${needed} is missing")
+  endif()
+endforeach()
+
+set(package "${root}/lib/cmake/DialogControlsOW")
+set(build "${WORK_DIR}/add on/client-build")
+run(${CMAKE_COMMAND} -S ${root}/examples/client -B ${build} -G Ninja
   -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE=${package}/mingw-w64-x86_64.cmake
   -DDialogControlsOW_DIR=${package})
-run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
-run(${EMULATOR} ${WORK_DIR}/build/client.exe --check)
+run(${CMAKE_COMMAND} --build ${build})
+run(${EMULATOR} ${build}/client.exe --check)
 
 string(REPLACE "\r" "" output "${output}")
 if(NOT output STREQUAL "box 1: I\nbox 1: IP\nbox 1: IPE\n")
