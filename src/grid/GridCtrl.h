@@ -97,10 +97,11 @@
 //
 //     GridCtrl.cpp       construction, message map, settings      GridSelection.cpp  focus and selection
 //     GridStorage.cpp    rows, columns, cells, virtual mode       GridMouse.cpp      mouse state machine
-//     GridItems.cpp      text, state, colours of single cells     GridKeyboard.cpp   keys, edits
+//     GridItems.cpp      text, state, colours of single cells     GridKeyboard.cpp   keys
 //     GridGeometry.cpp   cells to pixels and back, sizing to fit  GridSort.cpp       sorting
 //     GridScroll.cpp     scroll bars and the wheel                GridFile.cpp       text files, saved widths
 //     GridDraw.cpp       painting                                 GridUnits.cpp      units of columns
+//     GridEdit.cpp       the start and the end of an edit
 //
 // Everything runs on the thread of the window.
 
@@ -779,6 +780,8 @@ private:
     void SelectByKey(const SKeyMove& move);
     bool ScrollForKey(SKeyMove& move);
     bool StartsEdit(UINT nChar) const;
+
+    // Editing
     bool OfferText(int nRow, int nCol, const CString& str);
 
     // Sorting and files
