@@ -14,7 +14,6 @@ class CInPlaceEditor;
 class OW_DIALOGCONTROLS_API CGridCell : public CGridCellBase
 {
     DECLARE_DYNCREATE(CGridCell)
-    friend class CGridCtrl;      ///< fills its one cell of virtual mode past the setters
     friend class CInPlaceEditor; ///< lets go of the cell when it is destroyed
 
 public:

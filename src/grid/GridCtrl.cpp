@@ -7,8 +7,10 @@
 
 #include "buttons/ButtonST.h"
 #include "grid/GridLifeWatch.h"
+#include "grid/SavedWidths.h"
+#include "grid/WheelLines.h"
 
-#include <cstdlib>
+#include <span>
 
 CImageList CGridCtrl::GridImageList;
 int CGridCtrl::nFirstGridIconIdx = 0;
@@ -37,41 +39,22 @@ HICON* const kProfileIcons[] = {
 };
 // clang-format on
 
-/// Windows 95 itself does not tell the wheel's lines otherwise.
-bool IsWindows95()
+void AddIcons(CImageList& list, std::span<HICON* const> icons)
 {
-    OSVERSIONINFOW version{};
-    version.dwOSVersionInfoSize = sizeof version;
-    if (!::GetVersionExW(&version))
-        return true;
-    return version.dwPlatformId == VER_PLATFORM_WIN32_WINDOWS && version.dwMinorVersion == 0;
+    for (const HICON* const pIcon : icons)
+        list.Add(*pIcon);
 }
 
-int WheelLinesFromRegistry(int nDefault)
+void FillGridImageList()
 {
-    HKEY hKey = nullptr;
-    if (::RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel\\Desktop", 0, KEY_QUERY_VALUE, &hKey) !=
-        ERROR_SUCCESS)
-        return nDefault;
-    wchar_t text[128] = {};
-    DWORD nBytes = sizeof text - sizeof *text; // a value without its terminator still ends
-    DWORD nType = 0;
-    const LSTATUS nStatus = ::RegQueryValueExW(hKey, L"WheelScrollLines", nullptr, &nType,
-                                               reinterpret_cast<BYTE*>(text), &nBytes);
-    ::RegCloseKey(hKey);
-    return nStatus == ERROR_SUCCESS && nType == REG_SZ ? static_cast<int>(std::wcstoul(text, nullptr, 10))
-                                                       : nDefault;
-}
-
-/// Lines for one notch of the wheel; -1 stands for a page.
-int MouseWheelLines()
-{
-    constexpr int kUsual = 3;
-    if (IsWindows95())
-        return WheelLinesFromRegistry(kUsual);
-    UINT nLines = kUsual;
-    ::SystemParametersInfoW(SPI_GETWHEELSCROLLLINES, 0, &nLines, 0);
-    return static_cast<int>(nLines);
+    CImageList& list = CGridCtrl::GridImageList;
+    if (!list.GetSafeHandle())
+        list.Create(16, 16, ILC_COLOR32, 16, 4);
+    if (list.GetImageCount() > 0)
+        return;
+    AddIcons(list, kMarkIcons);
+    CGridCtrl::nFirstGridIconIdx = list.GetImageCount();
+    AddIcons(list, kProfileIcons);
 }
 } // namespace
 
@@ -83,7 +66,7 @@ CGridCtrl::CGridCtrl(int nRows, int nCols, int nFixedRows, int nFixedCols)
     RegisterWindowClass();
     ReadSystemColors();
     m_crGridLine = kLineColor;
-    m_nWheelLines = MouseWheelLines();
+    m_nWheelLines = gfnMouseWheelLines();
     SetupDefaultCells();
     m_crGridBk = m_crShadow;
 
@@ -100,8 +83,7 @@ CGridCtrl::CGridCtrl(int nRows, int nCols, int nFixedRows, int nFixedCols)
 CGridCtrl::~CGridCtrl()
 {
     CLifeWatch::TellAll(m_pFirstWatch);
-    if (!m_strPersistKey.IsEmpty())
-        WriteSavedWidths();
+    CSavedWidths(m_strPersistKey).Write(m_cols);
     DeleteAllItems();
     DestroyWindow();
 }
@@ -210,30 +192,19 @@ BOOL CGridCtrl::Initialise()
     return TRUE;
 }
 
+std::array<CGridDefaultCell*, 4> CGridCtrl::DefaultCells()
+{
+    return {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol};
+}
+
 void CGridCtrl::SetupDefaultCells()
 {
-    m_cellDefault.SetGrid(this);
-    m_cellFixedCol.SetGrid(this);
-    m_cellFixedRow.SetGrid(this);
-    m_cellFixedRowCol.SetGrid(this);
-
+    for (CGridDefaultCell* const pCell : DefaultCells())
+        pCell->SetGrid(this);
     m_cellDefault.SetTextClr(m_crWindowText);
     m_cellDefault.SetBackClr(m_crWindow);
     SetFixedTextColor(m_crWindowText);
     SetFixedBkColor(m_cr3DFace);
-}
-
-void CGridCtrl::FillGridImageList()
-{
-    if (GridImageList.GetSafeHandle() && GridImageList.GetImageCount() > 0)
-        return;
-    if (!GridImageList.GetSafeHandle())
-        GridImageList.Create(16, 16, ILC_COLOR32, 16, 4);
-    for (const HICON* const pIcon : kMarkIcons)
-        GridImageList.Add(*pIcon);
-    nFirstGridIconIdx = GridImageList.GetImageCount();
-    for (const HICON* const pIcon : kProfileIcons)
-        GridImageList.Add(*pIcon);
 }
 
 // ---- Colours and fonts of the system ----------------------------------------------------------------------
@@ -251,8 +222,7 @@ void CGridCtrl::ReadSystemColors()
 // the old one.
 void CGridCtrl::FollowSystemColors()
 {
-    for (CGridDefaultCell* const pCell :
-         {&m_cellDefault, &m_cellFixedRow, &m_cellFixedCol, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell : DefaultCells())
     {
         if (pCell->GetTextClr() == m_crWindowText)
             pCell->SetTextClr(::GetSysColor(COLOR_WINDOWTEXT));
@@ -274,7 +244,7 @@ void CGridCtrl::OnSettingChange(UINT uFlags, LPCWSTR lpszSection)
 {
     CWnd::OnSettingChange(uFlags, lpszSection);
     FollowSystemColors();
-    m_nWheelLines = MouseWheelLines();
+    m_nWheelLines = gfnMouseWheelLines();
 }
 
 LRESULT CGridCtrl::OnSetFont(WPARAM wParam, LPARAM /*lParam*/)
@@ -283,8 +253,7 @@ LRESULT CGridCtrl::OnSetFont(WPARAM wParam, LPARAM /*lParam*/)
     LOGFONTW lf;
     if (::GetObjectW(reinterpret_cast<HFONT>(wParam), sizeof lf, &lf))
     {
-        for (CGridDefaultCell* const pCell :
-             {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+        for (CGridDefaultCell* const pCell : DefaultCells())
             pCell->SetFont(&lf);
         if (::IsWindow(m_hWnd))
             Invalidate();
@@ -316,22 +285,19 @@ void CGridCtrl::SetFixedBkColor(COLORREF clr)
 
 void CGridCtrl::SetDefCellMargin(int nMargin)
 {
-    for (CGridDefaultCell* const pCell :
-         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell : DefaultCells())
         pCell->SetMargin(static_cast<UINT>(nMargin));
 }
 
 void CGridCtrl::SetDefCellHeight(int nHeight)
 {
-    for (CGridDefaultCell* const pCell :
-         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell : DefaultCells())
         pCell->SetHeight(nHeight);
 }
 
 void CGridCtrl::SetDefCellWidth(int nWidth)
 {
-    for (CGridDefaultCell* const pCell :
-         {&m_cellDefault, &m_cellFixedCol, &m_cellFixedRow, &m_cellFixedRowCol})
+    for (CGridDefaultCell* const pCell : DefaultCells())
         pCell->SetWidth(nWidth);
 }
 

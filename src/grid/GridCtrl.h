@@ -96,12 +96,12 @@
 // SOURCES
 //
 //     GridCtrl.cpp       construction, message map, settings      GridSelection.cpp  focus and selection
-//     GridStorage.cpp    rows, columns, cells, virtual mode       GridMouse.cpp      mouse state machine
+//     GridStorage.cpp    rows, columns, cells                     GridMouse.cpp      mouse state machine
 //     GridItems.cpp      text, state, colours of single cells     GridKeyboard.cpp   keys
 //     GridGeometry.cpp   cells to pixels and back, sizing to fit  GridSort.cpp       sorting
 //     GridScroll.cpp     scroll bars and the wheel                GridFile.cpp       text files, saved widths
 //     GridDraw.cpp       painting                                 GridUnits.cpp      units of columns
-//     GridEdit.cpp       the start and the end of an edit
+//     GridEdit.cpp       the start and the end of an edit         GridVirtual.cpp    virtual mode, notifications
 //
 // Everything runs on the thread of the window.
 
@@ -112,8 +112,11 @@
 
 #include <ComplexUnit.h>
 
+#include <array>
+
 #include "cells/GridDefaultCell.h"
 #include "grid/GridAxis.h"
+#include "grid/GridCells.h"
 #include "grid/GridSelectionMap.h"
 #include "grid/GridTypes.h"
 #include "module/Export.h"
@@ -634,8 +637,7 @@ protected:
     mutable CGridDefaultCell m_cellFixedRow;
     mutable CGridDefaultCell m_cellFixedRowCol;
     CImageList* m_pImageList = nullptr; ///< not owned
-    using CGridRow = CTypedPtrArray<CObArray, CGridCellBase*>;
-    CTypedPtrArray<CObArray, CGridRow*> m_rowData; ///< owned, as are the cells in them; empty in virtual mode
+    CGridCells m_rowData;               ///< without rows in virtual mode
 
     // ---- Mouse
     int m_nMouseMode = MODE_NOTHING;
@@ -669,9 +671,10 @@ private:
     friend class CGridCellColorCombo; ///< asks after the grid when its dialog closes
     class CLifeWatch;
     class CCellWatch;
-    class CRowSorter;
+    class CSortedRows;
     struct SDirection;
     struct SKeyMove;
+    struct SLines;
     struct SSelectPass;
 
     /// Rows and columns as the subject of a gesture.
@@ -682,33 +685,40 @@ private:
     };
 
     // Construction and settings
+    std::array<CGridDefaultCell*, 4> DefaultCells();
     void SetupDefaultCells();
-    void FillGridImageList();
     void ReadSystemColors();
     void FollowSystemColors();
     void InvalidateGrid();
     void ForgetLastWindow();
 
     // Storage
-    void DropRows(int nRows);
-    void AppendRows(int nRows);
-    void DropColumns(int nCols);
-    bool AppendColumns(int nCols);
-    void SizeRows(int nCols);
+    SLines Rows();
+    SLines Columns();
     bool EndEditFirst();
-    bool HasEditorFocus() const;
     bool CountsChanged();
-    void MakeCellFixed(int nRow, int nCol, DWORD nBit);
-    void MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed);
-    void PlaceNewColumn(int nIndex);
-    void PlaceNewRow(int nIndex);
-    void CloseRow(int nRow);
-    void DeleteRowCells(int nRow);
-    void RemoveCell(int nRow, int nCol);
+    BOOL SetCount(const SLines& lines, int nCount);
+    void DropLines(const SLines& lines, int nCount);
+    bool AppendRows(int nRows);
+    bool AppendColumns(int nCols);
+    BOOL SetFixedCount(const SLines& lines, int nFixed);
+    void MarkFixedCells(const SLines& lines, int nFixed);
+    template <class Prepare>
+    int InsertLine(const SLines& lines, int nAt, LPCWSTR strHeading, Prepare prepare);
+    void PlaceLine(const SLines& lines, int nIndex);
+    BOOL DeleteLine(const SLines& lines, int nLine);
+    void RemoveLine(const SLines& lines, int nLine);
+    void RemoveCells(const CCellRange& range);
+    CGridCells::MakeCell CellMaker();
     CGridCellBase* MakeVirtualCell(int nRow, int nCol) const;
-    void FillDisplayRequest(GV_DISPINFO& info, int nRow, int nCol) const;
+
+    // Items
     CGridCellBase* GetCellToChange(int nRow, int nCol) const;
     void ItemChanged(CGridCellBase& cell, int nCol);
+    template <class Value>
+    BOOL ChangeContents(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
+    template <class Value>
+    BOOL ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
 
     // Geometry. `nBar` names a direction by its scroll bar: SB_HORZ the columns, SB_VERT the rows.
     CGridAxis& AxisOf(int nBar) { return nBar == SB_HORZ ? m_cols : m_rows; }
@@ -784,15 +794,8 @@ private:
     // Editing
     bool OfferText(int nRow, int nCol, const CString& str);
 
-    // Sorting and files
-    void InvalidateHeader(int nCol);
+    // Sorting
     bool PrepareSort(int nCol, BOOL bAscending);
-    void SwapRows(int nRow, int nOther);
-    void WriteRows(CStdioFile& file, wchar_t chSeparator);
-    void ReadRows(CStdioFile& file, wchar_t chSeparator);
-    CString WidthEntry(int nCol) const;
-    int SavedWidth(int nCol, int nDefault) const;
-    void WriteSavedWidths();
 
     CLifeWatch* m_pFirstWatch = nullptr; ///< the watches that stand on the stack now
     CCellWatch* m_pFirstCellWatch = nullptr;

@@ -6,6 +6,7 @@
 
 #include "grid/GridClientArea.h"
 #include "grid/GridLifeWatch.h"
+#include "grid/SavedWidths.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -212,7 +213,7 @@ BOOL CGridCtrl::SetColumnWidth(int nCol, int nWidth, int bIgnoreSaved)
 {
     if (!m_cols.Has(nCol) || nWidth < 0)
         return FALSE;
-    m_cols.SetSize(nCol, bIgnoreSaved ? nWidth : SavedWidth(nCol, nWidth));
+    m_cols.SetSize(nCol, bIgnoreSaved ? nWidth : CSavedWidths(m_strPersistKey).Read(nCol, nWidth));
     ResetScrollBars();
     return TRUE;
 }

@@ -24,14 +24,43 @@ void CGridCtrl::ItemChanged(CGridCellBase& cell, int nCol)
     m_bModified = TRUE;
 }
 
-BOOL CGridCtrl::SetItemText(int nRow, int nCol, LPCWSTR str)
+/// Looks do not count as a modification.
+template <class Value>
+BOOL CGridCtrl::ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value)
 {
     CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
     if (!pCell)
         return FALSE;
-    pCell->SetText(str);
+    (pCell->*set)(value);
+    return TRUE;
+}
+
+template <class Value>
+BOOL CGridCtrl::ChangeContents(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value)
+{
+    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
+    if (!pCell)
+        return FALSE;
+    (pCell->*set)(value);
     ItemChanged(*pCell, nCol);
     return TRUE;
+}
+
+namespace
+{
+/// `none` where there is no cell.
+template <class Value>
+Value Ask(CGridCellBase* pCell, Value (CGridCellBase::*get)(), Value none)
+{
+    return pCell ? (pCell->*get)() : none;
+}
+} // namespace
+
+// ---- Contents ---------------------------------------------------------------------------------------------
+
+BOOL CGridCtrl::SetItemText(int nRow, int nCol, LPCWSTR str)
+{
+    return ChangeContents(nRow, nCol, &CGridCellBase::SetText, str);
 }
 
 BOOL CGridCtrl::SetItemTextFmt(int nRow, int nCol, LPCWSTR szFmt, ...)
@@ -60,108 +89,75 @@ BOOL CGridCtrl::SetItemTextFmtID(int nRow, int nCol, UINT nID, ...)
 
 CString CGridCtrl::GetItemText(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? CString(pCell->GetText()) : CString();
+    return CString(Ask<LPCWSTR>(GetCell(nRow, nCol), &CGridCellBase::GetText, L""));
 }
 
 BOOL CGridCtrl::SetItemData(int nRow, int nCol, LPARAM lParam)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetData(lParam);
-    ItemChanged(*pCell, nCol);
-    return TRUE;
+    return ChangeContents(nRow, nCol, &CGridCellBase::SetData, lParam);
 }
 
 LPARAM CGridCtrl::GetItemData(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetData() : 0;
+    return Ask<LPARAM>(GetCell(nRow, nCol), &CGridCellBase::GetData, 0);
 }
 
 BOOL CGridCtrl::SetItemImage(int nRow, int nCol, int iImage)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetImage(iImage);
-    ItemChanged(*pCell, nCol);
-    return TRUE;
+    return ChangeContents(nRow, nCol, &CGridCellBase::SetImage, iImage);
 }
 
 int CGridCtrl::GetItemImage(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetImage() : -1;
+    return Ask(GetCell(nRow, nCol), &CGridCellBase::GetImage, -1);
 }
 
+// SetItemState stands with the selection, which it keeps in step.
 UINT CGridCtrl::GetItemState(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetState() : 0;
+    return Ask<DWORD>(GetCell(nRow, nCol), &CGridCellBase::GetState, 0);
 }
 
-// Looks do not count as a modification.
+// ---- Looks ------------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::SetItemFormat(int nRow, int nCol, UINT nFormat)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetFormat(nFormat);
-    return TRUE;
+    return ChangeLook<DWORD>(nRow, nCol, &CGridCellBase::SetFormat, nFormat);
 }
 
 UINT CGridCtrl::GetItemFormat(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetFormat() : 0;
+    return Ask<DWORD>(GetCell(nRow, nCol), &CGridCellBase::GetFormat, 0);
 }
 
 BOOL CGridCtrl::SetItemBkColour(int nRow, int nCol, COLORREF cr)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetBackClr(cr);
-    return TRUE;
+    return ChangeLook(nRow, nCol, &CGridCellBase::SetBackClr, cr);
 }
 
 COLORREF CGridCtrl::GetItemBkColour(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetBackClr() : 0;
+    return Ask<COLORREF>(GetCell(nRow, nCol), &CGridCellBase::GetBackClr, 0);
 }
 
 BOOL CGridCtrl::SetItemFgColour(int nRow, int nCol, COLORREF cr)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetTextClr(cr);
-    return TRUE;
+    return ChangeLook(nRow, nCol, &CGridCellBase::SetTextClr, cr);
 }
 
 COLORREF CGridCtrl::GetItemFgColour(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell ? pCell->GetTextClr() : 0;
+    return Ask<COLORREF>(GetCell(nRow, nCol), &CGridCellBase::GetTextClr, 0);
 }
 
 BOOL CGridCtrl::SetItemFont(int nRow, int nCol, const LOGFONTW* plf)
 {
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    pCell->SetFont(plf);
-    return TRUE;
+    return ChangeLook(nRow, nCol, &CGridCellBase::SetFont, plf);
 }
 
 const LOGFONTW* CGridCtrl::GetItemFont(int nRow, int nCol) const
 {
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    const LOGFONTW* const plf = pCell ? pCell->GetFont() : nullptr;
+    const LOGFONTW* const plf = Ask<LOGFONTW*>(GetCell(nRow, nCol), &CGridCellBase::GetFont, nullptr);
     return plf ? plf : GetDefaultCell(m_rows.IsFixed(nRow), m_cols.IsFixed(nCol))->GetFont();
 }
 

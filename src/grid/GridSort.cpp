@@ -5,27 +5,22 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridLifeWatch.h"
+#include "grid/RowSorter.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cwchar>
-#include <utility>
-#include <vector>
 
 // ---- The sort column --------------------------------------------------------------------------------------
 
+// Row 0 only, however many rows are fixed: that is where the arrow stands.
 void CGridCtrl::SetSortColumn(int nCol)
 {
     if (nCol == m_nSortColumn && nCol < 0)
         return; // no header to repaint
-    InvalidateHeader(m_nSortColumn);
+    InvalidateCellRect(0, m_nSortColumn);
     m_nSortColumn = nCol;
-    InvalidateHeader(m_nSortColumn);
-}
-
-/// Row 0 only, however many rows are fixed: that is where the arrow stands.
-void CGridCtrl::InvalidateHeader(int nCol)
-{
-    InvalidateCellRect(0, nCol);
+    InvalidateCellRect(0, m_nSortColumn);
 }
 
 // ---- Entry points -----------------------------------------------------------------------------------------
@@ -67,115 +62,59 @@ BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, 
 
 // ---- The sort ---------------------------------------------------------------------------------------------
 
-/// A quicksort around the cell in the middle. The parts that are still to be sorted wait on a list and not on
-/// the stack, so that no order of the rows can exhaust it; they come up in the order of the recursion.
-///
-/// Rows move by their pointers; their cells are told the new places at the end. A comparison that adds or
-/// removes rows or columns ends the sort.
-class CGridCtrl::CRowSorter
+/// The rows of a grid, to be sorted. They move by their pointers, with their heights; their cells are told the
+/// new places at the end. In virtual mode there are only the heights. A comparison that adds or removes rows or
+/// columns ends the sort.
+class CGridCtrl::CSortedRows
 {
 public:
-    CRowSorter(CGridCtrl& grid, PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, LPARAM data)
+    CSortedRows(CGridCtrl& grid, PFNGRIDCOMPARE pfnCompare, int nCol, LPARAM data)
         : m_grid(grid), m_life(grid), m_nStructure(grid.m_nStructure), m_pfnCompare(pfnCompare), m_nCol(nCol),
-          m_bAscending(bAscending), m_data(data), m_nFirstMoved(grid.GetRowCount())
+          m_data(data), m_nFirstMoved(grid.GetRowCount())
     {
     }
-    ~CRowSorter() { TellMovedCells(); }
-    CRowSorter(const CRowSorter&) = delete;
-    CRowSorter& operator=(const CRowSorter&) = delete;
-
-    void Sort(int low, int high)
+    ~CSortedRows()
     {
-        m_parts.push_back({low, high});
-        while (!m_parts.empty() && !m_bBroken)
-        {
-            const SPart part = m_parts.back();
-            m_parts.pop_back();
-            Partition(part.low, part.high);
-        }
-    }
-
-private:
-    struct SPart
-    {
-        int low;
-        int high;
-    };
-
-    /// The pivot is held as a cell: it stays the same cell wherever its row goes.
-    void Partition(int low, int high)
-    {
-        CGridCellBase* const pPivot = CellAt((low + high) / 2);
-        int lo = low;
-        int hi = high;
-        while (lo <= hi)
-        {
-            while (lo < high && Before(CellAt(lo), pPivot))
-                ++lo;
-            while (hi > low && Before(pPivot, CellAt(hi), true))
-                --hi;
-            if (lo <= hi)
+        if (m_bBroken || m_grid.m_bVirtualMode)
+            return;
+        const CCellRange moved(m_nFirstMoved, 0, m_nLastMoved, m_grid.GetColumnCount() - 1);
+        moved.ForEach(
+            [this](int nRow, int nCol)
             {
-                if (Compare(CellAt(lo), CellAt(hi)) != 0 && !m_bBroken)
-                    Swap(lo, hi);
-                ++lo;
-                --hi;
-            }
-            if (m_bBroken)
-                return;
-        }
-        if (lo < high)
-            m_parts.push_back({lo, high});
-        if (low < hi)
-            m_parts.push_back({low, hi});
+                if (CGridCellBase* const pCell = m_grid.GetCell(nRow, nCol))
+                    pCell->SetCoords(nRow, nCol);
+            });
     }
+    CSortedRows(const CSortedRows&) = delete;
+    CSortedRows& operator=(const CSortedRows&) = delete;
 
-    /// Whether the first belongs before the second. `bSwapped` hands the second to the comparison first.
-    bool Before(CGridCellBase* pFirst, CGridCellBase* pSecond, bool bSwapped = false)
-    {
-        const int nOrder = bSwapped ? -Sign(Compare(pSecond, pFirst)) : Sign(Compare(pFirst, pSecond));
-        return !m_bBroken && (m_bAscending ? nOrder < 0 : nOrder > 0);
-    }
-
-    static int Sign(int n) { return (n > 0) - (n < 0); }
+    CGridCellBase* CellAt(int nRow) const { return m_bBroken ? nullptr : m_grid.GetCell(nRow, m_nCol); }
+    bool Broken() const { return m_bBroken; }
 
     int Compare(CGridCellBase* pFirst, CGridCellBase* pSecond)
     {
-        if (m_bBroken)
-            return 0;
         const int nOrder =
             m_pfnCompare(reinterpret_cast<LPARAM>(pFirst), reinterpret_cast<LPARAM>(pSecond), m_data);
         m_bBroken = !m_life.ObjectLives() || m_grid.m_nStructure != m_nStructure;
         return nOrder;
     }
 
-    CGridCellBase* CellAt(int nRow) const { return m_bBroken ? nullptr : m_grid.GetCell(nRow, m_nCol); }
-
     void Swap(int nRow, int nOther)
     {
-        m_grid.SwapRows(nRow, nOther);
+        if (!m_grid.m_bVirtualMode)
+            m_grid.m_rowData.SwapRows(nRow, nOther);
+        m_grid.m_rows.Swap(nRow, nOther);
         m_nFirstMoved = std::min(m_nFirstMoved, std::min(nRow, nOther));
         m_nLastMoved = std::max(m_nLastMoved, std::max(nRow, nOther));
     }
 
-    void TellMovedCells()
-    {
-        if (m_bBroken || m_grid.m_bVirtualMode)
-            return;
-        for (int nRow = m_nFirstMoved; nRow <= m_nLastMoved; ++nRow)
-            for (int nCol = 0; nCol < m_grid.GetColumnCount(); ++nCol)
-                if (CGridCellBase* const pCell = m_grid.GetCell(nRow, nCol))
-                    pCell->SetCoords(nRow, nCol);
-    }
-
+private:
     CGridCtrl& m_grid;
     const CLifeWatch m_life;
     const unsigned m_nStructure;
     PFNGRIDCOMPARE m_pfnCompare;
     int m_nCol;
-    BOOL m_bAscending;
     LPARAM m_data;
-    std::vector<SPart> m_parts;
     bool m_bBroken = false; ///< the comparison changed the grid
     int m_nFirstMoved;
     int m_nLastMoved = -1;
@@ -190,16 +129,9 @@ BOOL CGridCtrl::SortItems(PFNGRIDCOMPARE pfnCompare, int nCol, BOOL bAscending, 
         high = GetRowCount() - 1;
     if (low >= high)
         return FALSE;
-    CRowSorter(*this, pfnCompare, nCol, bAscending, data).Sort(low, high);
+    CSortedRows rows(*this, pfnCompare, nCol, data);
+    CRowSorter(rows, bAscending != FALSE).Sort(low, high);
     return TRUE;
-}
-
-/// Whole rows with their heights. In virtual mode there are only the heights.
-void CGridCtrl::SwapRows(int nRow, int nOther)
-{
-    if (!m_bVirtualMode)
-        std::swap(m_rowData[nRow], m_rowData[nOther]);
-    m_rows.Swap(nRow, nOther);
 }
 
 // ---- Comparisons ------------------------------------------------------------------------------------------

@@ -1,15 +1,13 @@
-// Rows, columns and the cells in them; virtual mode.
+// Rows, columns and the cells in them.
 
 #include <afxwin.h>
 
 #include "grid/GridCtrl.h"
 
 #include "grid/GridLifeWatch.h"
-#include "grid/NotifyOwner.h"
 
 #include <algorithm>
 #include <memory>
-#include <new>
 
 namespace
 {
@@ -30,172 +28,81 @@ bool Guarded(Work work)
     }
 }
 
-/// Deletes a row that did not make it into the grid, with the cells made for it so far.
-struct CRowDeleter
+/// The focus is in an in-place editor of this grid, or in a part of one.
+bool HasEditorFocus(HWND hGrid)
 {
-    template <class Row>
-    void operator()(Row* pRow) const
-    {
-        for (INT_PTR nCol = 0; nCol < pRow->GetSize(); ++nCol)
-            delete pRow->GetAt(nCol);
-        delete pRow;
-    }
-};
+    HWND hWnd = ::IsWindow(hGrid) ? ::GetFocus() : nullptr;
+    if (!::IsChild(hGrid, hWnd))
+        return false;
+    while (::GetParent(hWnd) != hGrid)
+        hWnd = ::GetParent(hWnd);
+    return ::GetDlgCtrlID(hWnd) == static_cast<int>(InPlaceControlId);
+}
+
+void InheritColours(CGridCtrl& grid, int nRow, int nCol)
+{
+    grid.SetItemBkColour(nRow, nCol, CLR_INHERIT);
+    grid.SetItemFgColour(nRow, nCol, CLR_INHERIT);
+}
+
+void MakeFixed(CGridCtrl& grid, int nRow, int nCol, DWORD nBit)
+{
+    grid.SetItemState(nRow, nCol, grid.GetItemState(nRow, nCol) | CELL_FIXED | nBit);
+    InheritColours(grid, nRow, nCol);
+}
+
+/// A cell that stays fixed in the other direction keeps its colours.
+void MakeLoose(CGridCtrl& grid, int nRow, int nCol, DWORD nBit, bool bStaysFixed)
+{
+    const DWORD nState = grid.GetItemState(nRow, nCol) & ~nBit;
+    grid.SetItemState(nRow, nCol, bStaysFixed ? nState : nState & ~CELL_FIXED);
+    if (!bStaysFixed)
+        InheritColours(grid, nRow, nCol);
+}
 } // namespace
 
-// ---- Before every change ----------------------------------------------------------------------------------
+// ---- Rows, or columns -------------------------------------------------------------------------------------
+
+/// What is done to rows and to columns alike is written once, for lines.
+struct CGridCtrl::SLines
+{
+    CGridAxis& axis;
+    CGridAxis& across; ///< the other direction
+    int CCellID::*index;
+    DWORD fixedBit; ///< of a cell in a fixed line
+    bool areRows;
+
+    /// The cells of the lines from one to before another.
+    CCellRange Cells(int nFirst, int nEnd) const
+    {
+        if (areRows)
+            return CCellRange(nFirst, 0, nEnd - 1, across.Count() - 1);
+        return CCellRange(0, nFirst, across.Count() - 1, nEnd - 1);
+    }
+};
+
+CGridCtrl::SLines CGridCtrl::Rows()
+{
+    return {m_rows, m_cols, &CCellID::row, CELL_FIXEDROW, true};
+}
+
+CGridCtrl::SLines CGridCtrl::Columns()
+{
+    return {m_cols, m_rows, &CCellID::col, CELL_FIXEDCOL, false};
+}
+
+// ---- Before and after every change ------------------------------------------------------------------------
 
 /// An edit ends here as by a click elsewhere, before its cell can move away from under it. False if the grid
 /// did not outlive what its parent did about it. Indices are to be checked after it.
 bool CGridCtrl::EndEditFirst()
 {
     const CLifeWatch life(*this);
-    if (HasEditorFocus())
+    if (HasEditorFocus(m_hWnd))
         SetFocus();
     if (life.WindowLives() && !m_bVirtualMode)
         EndEditing();
     return life.ObjectLives();
-}
-
-/// The focus is in an in-place editor of this grid, or in a part of one.
-bool CGridCtrl::HasEditorFocus() const
-{
-    HWND hWnd = ::IsWindow(m_hWnd) ? ::GetFocus() : nullptr;
-    if (!::IsChild(m_hWnd, hWnd))
-        return false;
-    while (::GetParent(hWnd) != m_hWnd)
-        hWnd = ::GetParent(hWnd);
-    return ::GetDlgCtrlID(hWnd) == static_cast<int>(InPlaceControlId);
-}
-
-// ---- Counts -----------------------------------------------------------------------------------------------
-
-BOOL CGridCtrl::SetRowCount(int nRows)
-{
-    if (nRows == GetRowCount())
-        return TRUE;
-    if (nRows < 0 || !EndEditFirst())
-        return FALSE;
-    if (nRows == GetRowCount())
-        return TRUE;
-    m_topLeftCell.col = -1;
-    if (nRows < m_rows.Fixed())
-        m_rows.SetFixed(nRows);
-    if (m_focusCell.row >= nRows)
-        SetFocusCell(CCellID());
-
-    bool bDone = true;
-    if (nRows < GetRowCount())
-        DropRows(nRows);
-    else
-        bDone = Guarded([&] { AppendRows(nRows); });
-    SetSortColumn(-1); // here before the bars are reset, elsewhere after
-    m_bModified = TRUE;
-    if (CountsChanged())
-        InvalidateGrid();
-    return bDone;
-}
-
-// Differs from SetRowCount in the size of what is new, which is that of the fixed columns' default cell, and
-// in that the count changes only when all cells have been made.
-BOOL CGridCtrl::SetColumnCount(int nCols)
-{
-    if (nCols == GetColumnCount())
-        return TRUE;
-    if (nCols < 0 || !EndEditFirst())
-        return FALSE;
-    if (nCols == GetColumnCount())
-        return TRUE;
-    m_topLeftCell.col = -1;
-    if (nCols < m_cols.Fixed())
-        m_cols.SetFixed(nCols);
-    if (m_focusCell.col >= nCols)
-        SetFocusCell(CCellID());
-
-    bool bDone = true;
-    if (nCols < GetColumnCount())
-        DropColumns(nCols);
-    else
-        bDone = AppendColumns(nCols);
-    SetSortColumn(-1); // here before the bars are reset, elsewhere after
-    m_bModified = TRUE;
-    if (CountsChanged())
-        InvalidateGrid();
-    return bDone;
-}
-
-void CGridCtrl::DropRows(int nRows)
-{
-    if (!m_bVirtualMode)
-    {
-        for (int nRow = nRows; nRow < GetRowCount(); ++nRow)
-            DeleteRowCells(nRow);
-        m_rowData.SetSize(nRows);
-    }
-    m_rows.SetCount(nRows, 0);
-}
-
-/// Each row counts as soon as it is complete, so that an exception leaves a grid of those that were built.
-void CGridCtrl::AppendRows(int nRows)
-{
-    const int nHeight = m_cellDefault.GetHeight();
-    m_rows.Reserve(nRows);
-    if (m_bVirtualMode)
-    {
-        m_rows.SetCount(nRows, nHeight);
-        return;
-    }
-    for (int nRow = GetRowCount(); nRow < nRows; ++nRow)
-    {
-        std::unique_ptr<CGridRow, CRowDeleter> pRow(new CGridRow);
-        pRow->SetSize(GetColumnCount());
-        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-            pRow->SetAt(nCol, CreateCell(nRow, nCol));
-        m_rowData.Add(pRow.get());
-        pRow.release();
-        m_rows.SetCount(nRow + 1, nHeight);
-    }
-}
-
-void CGridCtrl::DropColumns(int nCols)
-{
-    for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-        for (int nCol = nCols; nCol < GetColumnCount(); ++nCol)
-            RemoveCell(nRow, nCol);
-    SizeRows(nCols);
-    m_cols.SetCount(nCols, 0);
-}
-
-/// A cell that could not be made leaves its place empty; rows that could not all be made longer go back to
-/// the old count.
-bool CGridCtrl::AppendColumns(int nCols)
-{
-    const bool bSized = Guarded(
-        [&]
-        {
-            m_cols.Reserve(nCols);
-            SizeRows(nCols);
-        });
-    if (!bSized)
-    {
-        SizeRows(GetColumnCount());
-        return false;
-    }
-    const bool bFilled = Guarded(
-        [&]
-        {
-            for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-                for (int nCol = GetColumnCount(); nCol < nCols; ++nCol)
-                    m_rowData[nRow]->SetAt(nCol, CreateCell(nRow, nCol));
-        });
-    m_cols.SetCount(nCols, m_cellFixedCol.GetWidth());
-    return bFilled;
-}
-
-void CGridCtrl::SizeRows(int nCols)
-{
-    for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-        m_rowData[nRow]->SetSize(nCols);
 }
 
 /// What follows every change of the counts. False if the grid did not outlive the end of an edit that a
@@ -212,243 +119,252 @@ bool CGridCtrl::CountsChanged()
     return true;
 }
 
+// ---- Counts -----------------------------------------------------------------------------------------------
+
+BOOL CGridCtrl::SetRowCount(int nRows)
+{
+    return SetCount(Rows(), nRows);
+}
+
+BOOL CGridCtrl::SetColumnCount(int nCols)
+{
+    return SetCount(Columns(), nCols);
+}
+
+BOOL CGridCtrl::SetCount(const SLines& lines, int nCount)
+{
+    CGridAxis& axis = lines.axis;
+    if (nCount == axis.Count())
+        return TRUE;
+    if (nCount < 0 || !EndEditFirst())
+        return FALSE;
+    if (nCount == axis.Count())
+        return TRUE;
+    m_topLeftCell.col = -1;
+    axis.SetFixed(std::min(axis.Fixed(), nCount));
+    if (m_focusCell.*lines.index >= nCount)
+        SetFocusCell(CCellID());
+
+    bool bDone = true;
+    if (nCount < axis.Count())
+        DropLines(lines, nCount);
+    else
+        bDone = lines.areRows ? AppendRows(nCount) : AppendColumns(nCount);
+    SetSortColumn(-1); // here before the bars are reset, elsewhere after
+    m_bModified = TRUE;
+    if (CountsChanged())
+        InvalidateGrid();
+    return bDone;
+}
+
+void CGridCtrl::DropLines(const SLines& lines, int nCount)
+{
+    RemoveCells(lines.Cells(nCount, lines.axis.Count()));
+    if (lines.areRows)
+        m_rowData.CutRows(std::min(nCount, m_rowData.RowCount()));
+    else
+        m_rowData.SetColumns(nCount);
+    lines.axis.SetCount(nCount, 0);
+}
+
+/// Each row counts as soon as it is complete, so that an exception leaves a grid of those that were built.
+bool CGridCtrl::AppendRows(int nRows)
+{
+    const int nHeight = m_cellDefault.GetHeight();
+    return Guarded(
+        [&]
+        {
+            m_rows.Reserve(nRows);
+            for (int nRow = GetRowCount(); nRow < nRows && !m_bVirtualMode; ++nRow)
+            {
+                m_rowData.InsertRow(nRow, GetColumnCount(), CellMaker());
+                m_rows.SetCount(nRow + 1, nHeight);
+            }
+            m_rows.SetCount(nRows, nHeight);
+        });
+}
+
+/// The count changes when all cells have been made, or one could not be made, which leaves its place empty.
+/// Rows that could not all be made longer go back to the old count. The width is that of the fixed columns'
+/// default cell.
+bool CGridCtrl::AppendColumns(int nCols)
+{
+    const int nOld = GetColumnCount();
+    const bool bSized = Guarded(
+        [&]
+        {
+            m_cols.Reserve(nCols);
+            m_rowData.SetColumns(nCols);
+        });
+    if (!bSized)
+        return false;
+    const bool bFilled = Guarded([&] { m_rowData.FillFrom(nOld, CellMaker()); });
+    m_cols.SetCount(nCols, m_cellFixedCol.GetWidth());
+    return bFilled;
+}
+
 BOOL CGridCtrl::SetFixedRowCount(int nFixedRows)
 {
-    if (nFixedRows == m_rows.Fixed())
-        return TRUE;
-    if (nFixedRows < 0 || !EndEditFirst())
-        return FALSE;
-    const int nOldFixed = m_rows.Fixed();
-    ResetSelectedRange();
-    m_topLeftCell.col = -1;
-    if (nFixedRows > GetRowCount() && !SetRowCount(nFixedRows))
-        return FALSE;
-    if (m_focusCell.row < nFixedRows)
-        SetFocusCell(CCellID());
-
-    for (int nRow = nOldFixed; nRow < nFixedRows; ++nRow)
-        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-            MakeCellFixed(nRow, nCol, CELL_FIXEDROW);
-    for (int nRow = nFixedRows; nRow < nOldFixed; ++nRow)
-        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-            MakeCellLoose(nRow, nCol, CELL_FIXEDROW, m_cols.IsFixed(nCol));
-    m_rows.SetFixed(nFixedRows);
-    m_topLeftCell.col = -1; // growing may have worked it out for the old count
-    ++m_nStructure;
-    InvalidateGrid();
-    return TRUE;
+    return SetFixedCount(Rows(), nFixedRows);
 }
 
-// The mirror of SetFixedRowCount, but the selection goes last: a column count that cannot grow leaves it.
 BOOL CGridCtrl::SetFixedColumnCount(int nFixedCols)
 {
-    if (nFixedCols == m_cols.Fixed())
-        return TRUE;
-    if (nFixedCols < 0 || !EndEditFirst())
-        return FALSE;
-    const int nOldFixed = m_cols.Fixed();
-    const CLifeWatch life(*this);
-    if (nFixedCols > GetColumnCount() && (!SetColumnCount(nFixedCols) || !life.ObjectLives()))
-        return FALSE;
-    if (m_focusCell.col < nFixedCols)
-        SetFocusCell(CCellID());
-    ResetSelectedRange();
-    m_topLeftCell.col = -1;
+    return SetFixedCount(Columns(), nFixedCols);
+}
 
-    for (int nRow = 0; nRow < GetRowCount(); ++nRow)
-    {
-        for (int nCol = nOldFixed; nCol < nFixedCols; ++nCol)
-            MakeCellFixed(nRow, nCol, CELL_FIXEDCOL);
-        for (int nCol = nFixedCols; nCol < nOldFixed; ++nCol)
-            MakeCellLoose(nRow, nCol, CELL_FIXEDCOL, m_rows.IsFixed(nRow));
-    }
-    m_cols.SetFixed(nFixedCols);
+// The selection goes first for rows and last for columns: a column count that cannot grow leaves it. Wanted.
+BOOL CGridCtrl::SetFixedCount(const SLines& lines, int nFixed)
+{
+    if (nFixed == lines.axis.Fixed())
+        return TRUE;
+    if (nFixed < 0 || !EndEditFirst())
+        return FALSE;
+    if (lines.areRows)
+        ResetSelectedRange();
+    const CLifeWatch life(*this);
+    if (nFixed > lines.axis.Count() && (!SetCount(lines, nFixed) || !life.ObjectLives()))
+        return FALSE;
+    ResetSelectedRange();
+    if (!m_bVirtualMode)
+        MarkFixedCells(lines, nFixed);
+    lines.axis.SetFixed(nFixed);
     m_topLeftCell.col = -1;
     ++m_nStructure;
     InvalidateGrid();
     return TRUE;
 }
 
-void CGridCtrl::MakeCellFixed(int nRow, int nCol, DWORD nBit)
+/// Tells the cells of which the fixed count is about to change what they are from then on.
+void CGridCtrl::MarkFixedCells(const SLines& lines, int nFixed)
 {
-    if (m_bVirtualMode)
-        return;
-    SetItemState(nRow, nCol, GetItemState(nRow, nCol) | CELL_FIXED | nBit);
-    SetItemBkColour(nRow, nCol, CLR_INHERIT);
-    SetItemFgColour(nRow, nCol, CLR_INHERIT);
-}
-
-/// A cell that stays fixed in the other direction keeps its colours.
-void CGridCtrl::MakeCellLoose(int nRow, int nCol, DWORD nBit, bool bStaysFixed)
-{
-    if (m_bVirtualMode)
-        return;
-    const DWORD nState = GetItemState(nRow, nCol);
-    if (bStaysFixed)
-    {
-        SetItemState(nRow, nCol, nState & ~nBit);
-        return;
-    }
-    SetItemState(nRow, nCol, nState & ~(CELL_FIXED | nBit));
-    SetItemBkColour(nRow, nCol, CLR_INHERIT);
-    SetItemFgColour(nRow, nCol, CLR_INHERIT);
+    const int nOld = lines.axis.Fixed();
+    lines.Cells(nOld, nFixed)
+        .ForEach([&](int nRow, int nCol) { MakeFixed(*this, nRow, nCol, lines.fixedBit); });
+    lines.Cells(nFixed, nOld)
+        .ForEach(
+            [&](int nRow, int nCol)
+            {
+                const bool bStaysFixed = lines.across.IsFixed(lines.areRows ? nCol : nRow);
+                MakeLoose(*this, nRow, nCol, lines.fixedBit, bStaysFixed);
+            });
 }
 
 // ---- Insert and delete ------------------------------------------------------------------------------------
 
 int CGridCtrl::InsertColumn(LPCWSTR strHeading, UINT nFormat, int nColumn)
 {
-    const auto isWrong = [&]
-    { return nColumn >= 0 && (nColumn < m_cols.Fixed() || nColumn > GetColumnCount()); };
-    if (isWrong() || !EndEditFirst() || isWrong())
-        return -1;
-    m_topLeftCell.col = -1;
-    ResetSelectedRange();
-    if (GetRowCount() == 0)
-        SetRowCount(1);
-
-    const int nIndex = nColumn < 0 ? GetColumnCount() : nColumn;
-    if (!Guarded([&] { PlaceNewColumn(nIndex); }))
-        return 0; // not to be told from a new column 0, and kept so
-
-    SetItemText(0, nIndex, strHeading);
-    for (int nRow = 0; nRow < GetRowCount(); ++nRow)
-        SetItemFormat(nRow, nIndex, nFormat);
-    m_cols.SetSize(nIndex, GetTextExtent(0, nIndex, strHeading).cx);
-    if (nIndex < m_focusCell.col)
-        ++m_focusCell.col;
-    CountsChanged();
-    return nIndex;
+    return InsertLine(Columns(), nColumn, strHeading,
+                      [&](int nCol)
+                      {
+                          for (int nRow = 0; nRow < GetRowCount(); ++nRow)
+                              SetItemFormat(nRow, nCol, nFormat);
+                          return GetTextExtent(0, nCol, strHeading).cx;
+                      });
 }
 
-/// Puts a column of new cells of width 0 in; an exception takes out again what had been put in.
-void CGridCtrl::PlaceNewColumn(int nIndex)
-{
-    int nRow = 0;
-    try
-    {
-        for (; nRow < m_rowData.GetSize(); ++nRow)
-        {
-            std::unique_ptr<CGridCellBase> pCell(CreateCell(nRow, nIndex));
-            m_rowData[nRow]->InsertAt(nIndex, pCell.get());
-            pCell.release();
-        }
-        m_cols.Insert(nIndex, 0);
-    }
-    catch (CException*)
-    {
-        while (--nRow >= 0)
-        {
-            delete m_rowData[nRow]->GetAt(nIndex);
-            m_rowData[nRow]->RemoveAt(nIndex);
-        }
-        throw;
-    }
-}
-
-// Differs from InsertColumn in that the count itself is refused as an index, and in the size: a heading
-// decides it, and without one the fixed rows' default cell.
+// Without a heading, a row is as high as the fixed rows' default cell.
 int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
 {
-    const auto isWrong = [&] { return nRow >= 0 && (nRow < m_rows.Fixed() || nRow >= GetRowCount()); };
+    const bool bHeading = strHeading && *strHeading;
+    return InsertLine(Rows(), nRow, strHeading,
+                      [&](int nNew) {
+                          return bHeading ? GetTextExtent(nNew, 0, strHeading).cy
+                                          : m_cellFixedRow.GetHeight();
+                      });
+}
+
+/// `prepare` is called with the index of the new line and answers its size.
+template <class Prepare>
+int CGridCtrl::InsertLine(const SLines& lines, int nAt, LPCWSTR strHeading, Prepare prepare)
+{
+    CGridAxis& axis = lines.axis;
+    const auto isWrong = [&]
+    {
+        const int nLast =
+            axis.Count() - (lines.areRows ? 1 : 0); // the count itself is a place for columns only
+        return nAt >= 0 && (nAt < axis.Fixed() || nAt > nLast);
+    };
     if (isWrong() || !EndEditFirst() || isWrong())
         return -1;
     m_topLeftCell.col = -1;
     ResetSelectedRange();
-    if (GetColumnCount() == 0)
-        SetColumnCount(1);
+    SetCount(lines.areRows ? Columns() : Rows(), std::max(1, lines.across.Count()));
 
-    const int nIndex = nRow < 0 ? GetRowCount() : nRow;
-    if (!Guarded([&] { PlaceNewRow(nIndex); }))
-        return 0;
-    SetItemText(nIndex, 0, strHeading);
-    const bool bHeading = strHeading && *strHeading;
-    m_rows.SetSize(nIndex, bHeading ? GetTextExtent(nIndex, 0, strHeading).cy : m_cellFixedRow.GetHeight());
-    if (nIndex < m_focusCell.row)
-        ++m_focusCell.row;
+    const int nIndex = nAt < 0 ? axis.Count() : nAt;
+    if (!Guarded([&] { PlaceLine(lines, nIndex); }))
+        return 0; // not to be told from a new line 0, and kept so
+    CCellID heading(0, 0);
+    heading.*lines.index = nIndex;
+    SetItemText(heading.row, heading.col, strHeading);
+    axis.SetSize(nIndex, prepare(nIndex));
     CountsChanged();
     return nIndex;
 }
 
-/// Puts a row of new cells of height 0 in; an exception takes it out again.
-void CGridCtrl::PlaceNewRow(int nIndex)
+/// Puts a line of new cells of size 0 in; an exception takes it out again. A row counts before its cells are
+/// made, a column after it.
+void CGridCtrl::PlaceLine(const SLines& lines, int nIndex)
 {
-    m_rows.Reserve(LONGLONG(GetRowCount()) + 1);
-    if (m_bVirtualMode)
-    {
-        m_rows.Insert(nIndex, 0);
+    lines.axis.Reserve(LONGLONG(lines.axis.Count()) + 1);
+    if (!lines.areRows)
+        m_rowData.InsertColumn(nIndex, CellMaker());
+    lines.axis.Insert(nIndex, 0);
+    if (!lines.areRows || m_bVirtualMode)
         return;
-    }
-    std::unique_ptr<CGridRow> pRow(new CGridRow);
-    pRow->SetSize(GetColumnCount());
-    m_rowData.InsertAt(nIndex, pRow.get());
-    pRow.release();
-    m_rows.Insert(nIndex, 0);
     try
     {
-        for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-            m_rowData[nIndex]->SetAt(nCol, CreateCell(nIndex, nCol));
+        m_rowData.InsertRow(nIndex, GetColumnCount(), CellMaker());
     }
     catch (CException*)
     {
-        CloseRow(nIndex);
+        m_rows.Remove(nIndex);
         throw;
     }
 }
 
 BOOL CGridCtrl::DeleteRow(int nRow)
 {
-    if (!m_rows.Has(nRow) || !EndEditFirst() || !m_rows.Has(nRow))
-        return FALSE;
-    ResetSelectedRange();
-    CloseRow(nRow);
-    if (m_focusCell.row == nRow)
-        m_focusCell = CCellID();
-    else if (m_focusCell.row > nRow)
-        --m_focusCell.row;
-    CountsChanged();
-    return TRUE;
-}
-
-/// Takes a row and its cells out.
-void CGridCtrl::CloseRow(int nRow)
-{
-    if (!m_bVirtualMode)
-    {
-        DeleteRowCells(nRow);
-        m_rowData.RemoveAt(nRow);
-    }
-    m_rows.Remove(nRow);
+    return DeleteLine(Rows(), nRow);
 }
 
 BOOL CGridCtrl::DeleteColumn(int nColumn)
 {
-    if (!m_cols.Has(nColumn) || !EndEditFirst() || !m_cols.Has(nColumn))
+    return DeleteLine(Columns(), nColumn);
+}
+
+BOOL CGridCtrl::DeleteLine(const SLines& lines, int nLine)
+{
+    if (!lines.axis.Has(nLine) || !EndEditFirst() || !lines.axis.Has(nLine))
         return FALSE;
     ResetSelectedRange();
-    for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-    {
-        RemoveCell(nRow, nColumn);
-        m_rowData[nRow]->RemoveAt(nColumn);
-    }
-    m_cols.Remove(nColumn);
-    if (m_focusCell.col == nColumn)
-        m_focusCell = CCellID();
-    else if (m_focusCell.col > nColumn)
-        --m_focusCell.col;
+    RemoveLine(lines, nLine);
     CountsChanged();
     return TRUE;
 }
 
-// From the end, so that the indices ahead stay right. The first call is for the row past the end and does
-// nothing.
+/// Takes a line and its cells out.
+void CGridCtrl::RemoveLine(const SLines& lines, int nLine)
+{
+    RemoveCells(lines.Cells(nLine, nLine + 1));
+    if (!lines.areRows)
+        m_rowData.RemoveColumn(nLine);
+    else if (!m_bVirtualMode)
+        m_rowData.RemoveRow(nLine);
+    lines.axis.Remove(nLine);
+}
+
+// From the end, so that the indices ahead stay right, and with the bars set once for all of them.
 BOOL CGridCtrl::DeleteNonFixedRows()
 {
     if (!EndEditFirst())
         return FALSE;
     ResetSelectedRange();
-    for (int nRow = GetRowCount(); nRow >= m_rows.Fixed(); --nRow)
-        DeleteRow(nRow);
+    if (GetRowCount() == m_rows.Fixed())
+        return TRUE;
+    for (int nRow = GetRowCount() - 1; nRow >= m_rows.Fixed(); --nRow)
+        RemoveLine(Rows(), nRow);
+    CountsChanged();
     return TRUE;
 }
 
@@ -457,31 +373,24 @@ BOOL CGridCtrl::DeleteAllItems()
     if (!EndEditFirst())
         return FALSE;
     ResetSelectedRange();
-    for (int nRow = 0; nRow < m_rowData.GetSize(); ++nRow)
-        DeleteRowCells(nRow);
-    m_rowData.SetSize(0);
-    m_rows.SetCount(0, 0);
-    m_cols.SetCount(0, 0);
-    m_focusCell = CCellID();
+    DropLines(Rows(), 0);
+    DropLines(Columns(), 0);
     CountsChanged();
     return TRUE;
 }
 
-/// All cells of a row and the row itself; its place stays for the caller to close.
-void CGridCtrl::DeleteRowCells(int nRow)
+/// Destroys cells and leaves their places empty, so that nobody finds one there while its neighbours go.
+void CGridCtrl::RemoveCells(const CCellRange& range)
 {
-    for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-        RemoveCell(nRow, nCol);
-    delete m_rowData[nRow];
-    m_rowData[nRow] = nullptr;
-}
-
-/// Destroys a cell and leaves its place empty, so that nobody finds it there while its neighbours go.
-void CGridCtrl::RemoveCell(int nRow, int nCol)
-{
-    CCellWatch::TellAll(m_pFirstCellWatch, GetCellToChange(nRow, nCol));
-    DestroyCell(nRow, nCol);
-    m_rowData[nRow]->SetAt(nCol, nullptr);
+    if (m_bVirtualMode)
+        return;
+    range.ForEach(
+        [&](int nRow, int nCol)
+        {
+            CCellWatch::TellAll(m_pFirstCellWatch, GetCell(nRow, nCol));
+            DestroyCell(nRow, nCol);
+            m_rowData.Put(nRow, nCol, nullptr);
+        });
 }
 
 void CGridCtrl::AutoFill()
@@ -501,6 +410,12 @@ void CGridCtrl::AutoFill()
 }
 
 // ---- Cells ------------------------------------------------------------------------------------------------
+
+/// CreateCell, for whoever places cells.
+CGridCells::MakeCell CGridCtrl::CellMaker()
+{
+    return [this](int nRow, int nCol) { return CreateCell(nRow, nCol); };
+}
 
 CGridCellBase* CGridCtrl::CreateCell(int nRow, int nCol)
 {
@@ -529,11 +444,11 @@ void CGridCtrl::DestroyCell(int nRow, int nCol)
 
 BOOL CGridCtrl::SetCell(int nRow, int nCol, CGridCellBase* pCell)
 {
-    if (m_bVirtualMode || !IsValid(nRow, nCol) || !m_rowData[nRow])
+    if (m_bVirtualMode || !IsValid(nRow, nCol))
         return FALSE;
     if (pCell)
         pCell->SetCoords(nRow, nCol);
-    m_rowData[nRow]->SetAt(nCol, pCell);
+    m_rowData.Put(nRow, nCol, pCell);
     ++m_nStructure;
     return TRUE;
 }
@@ -566,12 +481,9 @@ BOOL CGridCtrl::SetDefaultCellType(CRuntimeClass* pClass)
 
 CGridCellBase* CGridCtrl::GetCell(int nRow, int nCol) const
 {
-    if (!m_rows.Has(nRow) || !m_cols.Has(nCol))
+    if (!IsValid(nRow, nCol))
         return nullptr;
-    if (m_bVirtualMode)
-        return MakeVirtualCell(nRow, nCol);
-    const CGridRow* const pRow = m_rowData[nRow];
-    return pRow ? pRow->GetAt(nCol) : nullptr;
+    return m_bVirtualMode ? MakeVirtualCell(nRow, nCol) : m_rowData.At(nRow, nCol);
 }
 
 CGridDefaultCell* CGridCtrl::GetDefaultCell(BOOL bFixedRow, BOOL bFixedCol) const
@@ -611,103 +523,4 @@ BOOL CGridCtrl::IsItemEditing(int nRow, int nCol)
 {
     CGridCellBase* const pCell = GetCell(nRow, nCol);
     return pCell ? pCell->IsEditing() : FALSE;
-}
-
-// ---- Virtual mode -----------------------------------------------------------------------------------------
-
-void CGridCtrl::SetVirtualMode(BOOL bVirtual)
-{
-    if (!DeleteAllItems())
-        return;
-    m_bVirtualMode = bVirtual;
-    if (!m_bVirtualMode)
-        return;
-    m_nAutoSizeStyle = GVS_HEADER;
-    m_bEditable = FALSE;
-    m_bHeaderSort = FALSE;
-    m_bFixedColumnSelection = FALSE;
-    m_bFixedRowSelection = FALSE;
-}
-
-void CGridCtrl::SetCallbackFunc(GRIDCALLBACK pCallback, LPARAM lParam)
-{
-    m_pfnCallback = pCallback;
-    m_lCallbackParam = lParam;
-}
-
-// One request and one cell for the process: the next call overwrites both, and nothing is allocated after the
-// first.
-CGridCellBase* CGridCtrl::MakeVirtualCell(int nRow, int nCol) const
-{
-    static GV_DISPINFO gvdi;
-    static CGridCell cell;
-
-    FillDisplayRequest(gvdi, nRow, nCol);
-    if (m_pfnCallback)
-        m_pfnCallback(&gvdi, m_lCallbackParam);
-    else
-        SendDisplayRequestToParent(&gvdi);
-
-    // Past the setters, which a derived class cannot have changed here.
-    cell.m_nState = gvdi.item.nState;
-    cell.m_nFormat = gvdi.item.nFormat;
-    cell.m_nImage = gvdi.item.iImage;
-    cell.m_crBkClr = gvdi.item.crBkClr;
-    cell.m_crFgClr = gvdi.item.crFgClr;
-    cell.m_lParam = gvdi.item.lParam;
-    if (!cell.m_plfFont)
-        cell.m_plfFont = new (std::nothrow) LOGFONTW;
-    if (cell.m_plfFont)
-        *cell.m_plfFont = gvdi.item.lfFont;
-    cell.m_nMargin = gvdi.item.nMargin;
-    cell.SetText(gvdi.item.strText);
-    cell.SetGrid(const_cast<CGridCtrl*>(this));
-    return &cell;
-}
-
-/// What the cell is as long as nobody says otherwise.
-void CGridCtrl::FillDisplayRequest(GV_DISPINFO& info, int nRow, int nCol) const
-{
-    CGridDefaultCell& defaultCell = *GetDefaultCell(m_rows.IsFixed(nRow), m_cols.IsFixed(nCol));
-    GV_ITEM& item = info.item;
-    item.row = nRow;
-    item.col = nCol;
-    item.mask = GV_MASK_ALL;
-    item.nFormat = defaultCell.GetFormat();
-    item.iImage = defaultCell.GetImage();
-    item.crBkClr = defaultCell.GetBackClr();
-    item.crFgClr = defaultCell.GetTextClr();
-    item.lParam = defaultCell.GetData();
-    const LOGFONTW* const plf = defaultCell.GetFont(); // none after a Reset
-    item.lfFont = plf ? *plf : LOGFONTW{};
-    item.nMargin = defaultCell.GetMargin();
-    item.strText.Truncate(0); // keeps its buffer for the answer
-
-    item.nState = 0;
-    if (IsCellSelected(nRow, nCol))
-        item.nState |= CELL_SELECTED;
-    if (m_rows.IsFixed(nRow))
-        item.nState |= CELL_FIXED | CELL_FIXEDROW;
-    if (m_cols.IsFixed(nCol))
-        item.nState |= CELL_FIXED | CELL_FIXEDCOL;
-    if (m_focusCell == CCellID(nRow, nCol))
-        item.nState |= CELL_FOCUSED;
-}
-
-LRESULT CGridCtrl::SendDisplayRequestToParent(GV_DISPINFO* pDispInfo) const
-{
-    return gfnNotifyOwner(this, pDispInfo->hdr, LVN_GETDISPINFOW);
-}
-
-LRESULT CGridCtrl::SendCacheHintToParent(const CCellRange& range) const
-{
-    if (!m_bVirtualMode)
-        return 0;
-    GridCacheHint hint{{}, range};
-    return gfnNotifyOwner(this, hint.hdr, LVN_ODCACHEHINT);
-}
-
-LRESULT CGridCtrl::SendMessageToParent(int nRow, int nCol, int nCode) const
-{
-    return gfnNotifyOwner(this, nRow, nCol, static_cast<UINT>(nCode));
 }

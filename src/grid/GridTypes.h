@@ -41,6 +41,14 @@ public:
     {
         return nRow >= minRow && nRow <= maxRow && nCol >= minCol && nCol <= maxCol;
     }
+    /// Calls the work with each row and column, row by row.
+    template <class Work>
+    void ForEach(Work work) const
+    {
+        for (int nRow = minRow; nRow <= maxRow; ++nRow)
+            for (int nCol = minCol; nCol <= maxCol; ++nCol)
+                work(nRow, nCol);
+    }
     friend bool operator==(const CCellRange&, const CCellRange&) = default;
 };
 
