@@ -90,6 +90,7 @@ CGridCtrl::~CGridCtrl()
 
 BEGIN_MESSAGE_MAP(CGridCtrl, CWnd)
     ON_WM_PAINT()
+    ON_WM_NCPAINT()
     ON_WM_ERASEBKGND()
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SETTINGCHANGE()
@@ -163,7 +164,9 @@ void CGridCtrl::PreSubclassWindow()
 void CGridCtrl::ForgetLastWindow()
 {
     m_topLeftCell = CCellID();
-    m_nBarState = (HasBar(SB_HORZ) ? BAR_HORIZONTAL : 0) | (HasBar(SB_VERT) ? BAR_VERTICAL : 0);
+    m_nBarState = (m_bars.IsInWindow(EGridWay::eColumns) ? BAR_HORIZONTAL : 0) |
+                  (m_bars.IsInWindow(EGridWay::eRows) ? BAR_VERTICAL : 0);
+    m_bars.Forget();
     m_nVScrollMax = 0;
     m_nHScrollMax = 0;
     m_nMouseMode = MODE_NOTHING;

@@ -117,8 +117,10 @@
 #include "cells/GridDefaultCell.h"
 #include "grid/GridAxis.h"
 #include "grid/GridCells.h"
+#include "grid/GridScrollBars.h"
 #include "grid/GridSelectionMap.h"
 #include "grid/GridTypes.h"
+#include "grid/GridView.h"
 #include "module/Export.h"
 
 // ---- Values of settings -----------------------------------------------------------------------------------
@@ -151,6 +153,10 @@ constexpr int GVNI_AREA = GVNI_BELOW | GVNI_TORIGHT;              ///< row by ro
 
 /// The format of headings: centred, on one line.
 constexpr UINT GV_HEADING_FORMAT = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
+
+class CGridDividers;
+class CGridPainter;
+struct SGridColors;
 
 class OW_DIALOGCONTROLS_API CGridCtrl : public CWnd
 {
@@ -551,6 +557,7 @@ protected:
     // ---- Messages -----------------------------------------------------------------------------------------
 
     afx_msg void OnPaint();
+    afx_msg void OnNcPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnSysColorChange();
     afx_msg void OnSettingChange(UINT uFlags, LPCWSTR lpszSection);
@@ -672,17 +679,10 @@ private:
     class CLifeWatch;
     class CCellWatch;
     class CSortedRows;
-    struct SDirection;
+    class CSelectPass;
+    class CScrollRun;
     struct SKeyMove;
     struct SLines;
-    struct SSelectPass;
-
-    /// Rows and columns as the subject of a gesture.
-    enum class EDirection
-    {
-        eColumns,
-        eRows
-    };
 
     // Construction and settings
     std::array<CGridDefaultCell*, 4> DefaultCells();
@@ -720,72 +720,60 @@ private:
     template <class Value>
     BOOL ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
 
-    // Geometry. `nBar` names a direction by its scroll bar: SB_HORZ the columns, SB_VERT the rows.
-    CGridAxis& AxisOf(int nBar) { return nBar == SB_HORZ ? m_cols : m_rows; }
+    // Geometry
+    CGridAxis& Axis(EGridWay way) { return way == EGridWay::eColumns ? m_cols : m_rows; }
     CSize GetClientSize() const;
-    int ClientExtent(int nBar) const;
+    CGridView GetView(BOOL bForceRecalculation = FALSE);
     CCellRange AutoSizeSpan(UINT nStyle) const;
     void FitColumnAndRows(int nCol, const CCellRange& span, CDC* pDC);
-    void Expand(int nBar, BOOL bExpandFixed);
+    void Expand(EGridWay way, BOOL bExpandFixed);
 
     // Scrolling
-    void OnScroll(int nBar, UINT nSBCode);
-    void ScrollLineBack(int nBar, int nPos);
-    void ScrollLineOn(int nBar, int nPos, int nMax);
-    void ScrollTo(int nBar, int nPos);
-    void InvalidateScrolling(int nBar);
-    bool HasBar(int nBar) const;
-    void ShowBar(int nBar, bool bShow);
-    void SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask);
-    bool SendScroll(int nBar, UINT nSBCode);
+    bool ShowBar(EGridWay way, bool bShow, const CLifeWatch& life);
+    CSize AreaWithoutBars() const;
+    void OnScroll(EGridWay way, UINT nSBCode);
+    void RepaintScrolled(const CRect& rect);
+    bool SendScroll(EGridWay way, UINT nSBCode);
     bool ScrollBySteps(int nRow, int nCol);
-    bool ScrollCellEndIntoView(int nRow, int nCol);
+    bool ScrollByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem);
+    bool ScrollCellEndIntoView(const CCellID& cell);
 
     // Drawing
-    void DrawCells(CDC* pDC, const CRect& rectClip, const CCellRange& visible);
-    void DrawPass(CDC* pDC, const CRect& rectClip, const CCellRange& range, CPoint origin);
-    void DrawGridLines(CDC* pDC, const CCellRange& visible, const CRect& rectVisible);
+    SGridColors RegionColors() const;
+    void DrawCells(CDC& dc, const CGridPainter& painter);
     BOOL RedrawCellOn(CDC& dc, int nRow, int nCol, const CRect& rect);
 
     // Selection
     bool IsRecordedSelected(int nRow, int nCol) const;
     void RedrawHeadersOf(const CCellID& cell, bool bRow, bool bCol);
-    void UnselectAll(const CCellRange& newRange, SSelectPass& pass);
-    void SelectAgain(SSelectPass& pass);
-    void ChangeRange(const CCellRange& range, bool bSelect, SSelectPass& pass);
-    void RepaintSelection(int nRow, int nCol, SSelectPass& pass);
 
     // Mouse
     bool PressGoesOn();
     bool IsInText(const CCellID& cell, CPoint point);
     bool IsBodyCell(const CCellID& cell) const;
     bool FindDivider(CPoint point);
+    bool IsOverDivider() const;
     void DeselectPressed();
     void BeginGesture(UINT nFlags, CPoint point);
     void BeginSelecting(UINT nFlags);
-    void BeginSizing(EDirection direction, CPoint point);
-    bool PassHiddenItems(const SDirection& way, bool bBefore);
-    void ClipCursorForSizing(EDirection direction, CPoint start);
-    void InvertMarker(EDirection direction, CPoint point);
-    bool EndSizing(EDirection direction, CPoint point);
+    CGridDividers Dividers();
+    void BeginSizing(CPoint point);
+    void InvertMarker(CPoint point);
+    bool EndSizing(CPoint point);
     void Hover(CPoint point);
     bool Drag(CPoint point);
     bool DragSelection(const CCellID& cell);
     void TellClick(CPoint pointInCell);
     void TellDoubleClick(const CCellID& cell, CPoint point);
-    bool FitAtDivider(EDirection direction, CCellID cell, CPoint point);
+    bool FitAtDivider(const CCellID& cell, CPoint point);
     void StepSelection(UINT nKey, CPoint pointAtEdge);
     void StopAutoScroll();
 
     // Keyboard
     bool MoveByKey(SKeyMove& move);
-    void MoveVertically(SKeyMove& move, int nStep);
-    bool IsStop(int nRow, int nCol) const;
-    void MoveRight(SKeyMove& move);
-    void MoveLeft(SKeyMove& move);
-    void MoveByPage(SKeyMove& move);
-    void MoveHome(SKeyMove& move);
-    void MoveToEnd(SKeyMove& move);
+    std::optional<int> ScrollPage(SKeyMove& move);
+    bool ScrollToEdge(SKeyMove& move, UINT nSBCode);
+    bool ScrollByKey(SKeyMove& move, EGridWay way, UINT nSBCode);
     void FollowKey(SKeyMove& move);
     void SelectByKey(const SKeyMove& move);
     bool ScrollForKey(SKeyMove& move);
@@ -797,6 +785,8 @@ private:
     // Sorting
     bool PrepareSort(int nCol, BOOL bAscending);
 
+    CGridScrollBars m_bars{*this};
+    CScrollRun* m_pScrollRun = nullptr;  ///< the operation that scrolls many steps now
     CLifeWatch* m_pFirstWatch = nullptr; ///< the watches that stand on the stack now
     CCellWatch* m_pFirstCellWatch = nullptr;
     unsigned m_nStructure = 0; ///< raised whenever rows, columns or cells come or go

@@ -5,7 +5,9 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridClientArea.h"
+#include "grid/GridPainter.h"
 #include "grid/MemDC.h"
+#include "module/GdiScope.h"
 
 #include <algorithm>
 
@@ -13,7 +15,10 @@
 
 void CGridCtrl::OnPaint()
 {
+    m_bars.Paint();
     CPaintDC dc(this);
+    if (::IsRectEmpty(&dc.m_ps.rcPaint))
+        return; // only the bars
     if (!m_bDoubleBuffering)
     {
         OnDraw(&dc);
@@ -21,6 +26,12 @@ void CGridCtrl::OnPaint()
     }
     CMemDC buffer(&dc);
     OnDraw(&buffer);
+}
+
+void CGridCtrl::OnNcPaint()
+{
+    CWnd::OnNcPaint();
+    m_bars.FramePainted();
 }
 
 // OnDraw erases, region by region.
@@ -33,132 +44,39 @@ BOOL CGridCtrl::OnEraseBkgnd(CDC* /*pDC*/)
 
 void CGridCtrl::OnDraw(CDC* pDC)
 {
-    CRect rectClip;
-    if (!m_bAllowDraw || pDC->GetClipBox(&rectClip) == ERROR)
+    const CGridPainter painter(*pDC, GetView());
+    if (!m_bAllowDraw || !painter.CanPaint())
         return;
-    EraseBkgnd(pDC);
-
-    CRect rectVisible;
-    const CCellRange visible = GetVisibleNonFixedCellRange(&rectVisible);
-    SendCacheHintToParent(visible);
-    CFont* const pOldFont = pDC->GetCurrentFont();
-    if (!pDC->IsPrinting())
-        pDC->SelectObject(m_cellDefault.GetFontObject()); // of most cells: they find it there
-    DrawCells(pDC, rectClip, visible);
-    pDC->SelectObject(pOldFont);
-    DrawGridLines(pDC, visible, rectVisible);
+    painter.Erase(RegionColors());
+    SendCacheHintToParent(painter.Visible());
+    DrawCells(*pDC, painter);
+    painter.DrawLines(m_nGridLines, m_crGridLine);
     SendCacheHintToParent(CCellRange());
-}
-
-/// Corner, fixed columns, fixed rows, body.
-void CGridCtrl::DrawCells(CDC* pDC, const CRect& rectClip, const CCellRange& visible)
-{
-    const CPoint body(GetFixedColumnWidth(), GetFixedRowHeight());
-    const int nLastFixedRow = m_rows.Fixed() - 1;
-    const int nLastFixedCol = m_cols.Fixed() - 1;
-    const CRect rectAll(INT_MIN, INT_MIN, INT_MAX,
-                        INT_MAX); // the corner is drawn without asking the clip box
-
-    DrawPass(pDC, rectAll, CCellRange(0, 0, nLastFixedRow, nLastFixedCol), CPoint(0, 0));
-    DrawPass(pDC, rectClip, CCellRange(visible.minRow, 0, visible.maxRow, nLastFixedCol), CPoint(0, body.y));
-    DrawPass(pDC, rectClip, CCellRange(0, visible.minCol, nLastFixedRow, visible.maxCol), CPoint(body.x, 0));
-    DrawPass(pDC, rectClip, visible, body);
-}
-
-/// The cells of a range, the first of them at a point, as far as they touch the clip box. A hidden row or
-/// column gives cells without an extent, which are drawn all the same.
-void CGridCtrl::DrawPass(CDC* pDC, const CRect& rectClip, const CCellRange& range, CPoint origin)
-{
-    CRect rect;
-    rect.bottom = origin.y - 1;
-    for (int nRow = range.minRow; nRow <= range.maxRow && m_rows.Has(nRow); ++nRow)
-    {
-        rect.top = rect.bottom + 1;
-        rect.bottom = gfnSaturated(LONGLONG(rect.top) + m_rows.Size(nRow)) - 1;
-        if (rect.top > rectClip.bottom)
-            break;
-        if (rect.bottom < rectClip.top)
-            continue;
-
-        rect.right = origin.x - 1;
-        for (int nCol = range.minCol; nCol <= range.maxCol && m_cols.Has(nCol); ++nCol)
-        {
-            rect.left = rect.right + 1;
-            rect.right = gfnSaturated(LONGLONG(rect.left) + m_cols.Size(nCol)) - 1;
-            if (rect.left > rectClip.right)
-                break;
-            if (rect.right < rectClip.left)
-                continue;
-            if (CGridCellBase* const pCell = GetCell(nRow, nCol))
-                pCell->Draw(pDC, nRow, nCol, rect, FALSE);
-        }
-    }
-}
-
-// Along the last pixel of each row and column; headers draw edges of their own.
-void CGridCtrl::DrawGridLines(CDC* pDC, const CCellRange& visible, const CRect& rectVisible)
-{
-    CPen pen(PS_SOLID, 0, m_crGridLine);
-    pDC->SelectObject(&pen);
-    const CPoint body(GetFixedColumnWidth(), GetFixedRowHeight());
-    if (m_nGridLines & GVL_VERT)
-    {
-        int x = body.x;
-        for (int nCol = visible.minCol; nCol <= visible.maxCol && m_cols.Has(nCol); ++nCol)
-        {
-            x = gfnSaturated(LONGLONG(x) + m_cols.Size(nCol));
-            pDC->MoveTo(x - 1, body.y);
-            pDC->LineTo(x - 1, rectVisible.bottom);
-        }
-    }
-    if (m_nGridLines & GVL_HORZ)
-    {
-        int y = body.y;
-        for (int nRow = visible.minRow; nRow <= visible.maxRow && m_rows.Has(nRow); ++nRow)
-        {
-            y = gfnSaturated(LONGLONG(y) + m_rows.Size(nRow));
-            pDC->MoveTo(body.x, y - 1);
-            pDC->LineTo(rectVisible.right, y - 1);
-        }
-    }
-    pDC->SelectStockObject(NULL_PEN); // so that the pen can go
 }
 
 void CGridCtrl::EraseBkgnd(CDC* pDC)
 {
-    CRect clip;
-    if (pDC->GetClipBox(&clip) == ERROR)
-        return;
-    CRect visible;
-    GetVisibleNonFixedCellRange(&visible);
-    const int nFixedWidth = GetFixedColumnWidth();
-    const int nFixedHeight = GetFixedRowHeight();
-    const auto fill = [pDC](const CRect& rect, COLORREF clr)
-    {
-        CBrush brush(clr);
-        pDC->FillRect(&rect, &brush);
-    };
+    const CGridPainter painter(*pDC, GetView());
+    if (painter.CanPaint())
+        painter.Erase(RegionColors());
+}
 
-    if (clip.left < nFixedWidth && clip.top < nFixedHeight)
-        fill(CRect(clip.left, clip.top, nFixedWidth, nFixedHeight), m_cellFixedRowCol.GetBackClr());
-    // From the top of the clip box, over the corner just painted, which its cells paint again.
-    if (clip.left < nFixedWidth && clip.top < visible.bottom)
-        fill(CRect(clip.left, clip.top, nFixedWidth, visible.bottom), m_cellFixedCol.GetBackClr());
-    // One pixel into the corner.
-    if (clip.top < nFixedHeight && clip.right > nFixedWidth && clip.left < visible.right)
-        fill(CRect(nFixedWidth - 1, clip.top, visible.right, nFixedHeight), m_cellFixedRow.GetBackClr());
+SGridColors CGridCtrl::RegionColors() const
+{
+    return {m_cellDefault.GetBackClr(), m_cellFixedRow.GetBackClr(), m_cellFixedCol.GetBackClr(),
+            m_cellFixedRowCol.GetBackClr(), m_crGridBk};
+}
 
-    CRect body;
-    if (body.IntersectRect(&visible, &clip))
-    {
-        body.left = std::max<int>(body.left, nFixedWidth);
-        body.top = std::max<int>(body.top, nFixedHeight);
-        fill(body, m_cellDefault.GetBackClr());
-    }
-    if (visible.right < clip.right)
-        fill(CRect(visible.right, clip.top, clip.right, clip.bottom), m_crGridBk);
-    if (visible.bottom < clip.bottom && clip.left < visible.right)
-        fill(CRect(clip.left, visible.bottom, visible.right, clip.bottom), m_crGridBk);
+/// The font of most cells is on the context meanwhile: they find it there.
+void CGridCtrl::DrawCells(CDC& dc, const CGridPainter& painter)
+{
+    const CFontSelection font(dc, dc.IsPrinting() ? nullptr : m_cellDefault.GetFontObject()->GetSafeHandle());
+    painter.DrawCells(
+        [&](int nRow, int nCol, const CRect& rect)
+        {
+            if (CGridCellBase* const pCell = GetCell(nRow, nCol))
+                pCell->Draw(&dc, nRow, nCol, rect, FALSE);
+        });
 }
 
 // ---- At once ----------------------------------------------------------------------------------------------
@@ -191,19 +109,7 @@ BOOL CGridCtrl::RedrawCellOn(CDC& dc, int nRow, int nCol, const CRect& rect)
     if (IsCellFixed(nRow, nCol))
         return bDrawn;
 
-    CPen pen(PS_SOLID, 0, m_crGridLine);
-    CPen* const pOldPen = dc.SelectObject(&pen);
-    if (m_nGridLines & GVL_HORZ)
-    {
-        dc.MoveTo(rect.left, rect.bottom);
-        dc.LineTo(rect.right + 1, rect.bottom);
-    }
-    if (m_nGridLines & GVL_VERT)
-    {
-        dc.MoveTo(rect.right, rect.top);
-        dc.LineTo(rect.right, rect.bottom + 1);
-    }
-    dc.SelectObject(pOldPen);
+    CGridPainter::DrawLinesOf(dc, rect, m_nGridLines, m_crGridLine);
     return bDrawn;
 }
 

@@ -5,6 +5,7 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridClientArea.h"
+#include "grid/GridDivider.h"
 #include "grid/GridLifeWatch.h"
 #include "grid/SavedWidths.h"
 
@@ -14,15 +15,9 @@
 namespace
 {
 const CCellRange kNoCells;
-
-/// The last pixel of what begins at a place, or the furthest that has a pixel behind it.
-int LastPixel(int nStart, int nSize)
-{
-    return gfnSaturated(LONGLONG(nStart) + nSize) - 1;
-}
 } // namespace
 
-// ---- The top-left cell and what shows ---------------------------------------------------------------------
+// ---- The view ---------------------------------------------------------------------------------------------
 
 CCellID CGridCtrl::GetTopleftNonFixedCell(BOOL bForceRecalculation)
 {
@@ -42,84 +37,51 @@ CSize CGridCtrl::GetClientSize() const
     return rect.Size();
 }
 
-// A cell that shows only in part counts.
-CCellRange CGridCtrl::GetVisibleNonFixedCellRange(RECT* pRect, BOOL bForceRecalculation)
+/// What shows now, and where.
+CGridView CGridCtrl::GetView(BOOL bForceRecalculation)
 {
-    const CSize client = GetClientSize();
     const CCellID topLeft = GetTopleftNonFixedCell(bForceRecalculation);
-    const CGridAxis::SVisible rows = m_rows.Visible(topLeft.row, client.cy);
-    const CGridAxis::SVisible cols = m_cols.Visible(topLeft.col, client.cx);
-    if (pRect)
-        ::SetRect(pRect, 0, 0, cols.bReachesEnd ? client.cx : cols.nEnd,
-                  rows.bReachesEnd ? client.cy : rows.nEnd);
-    return CCellRange(topLeft.row, topLeft.col, rows.nLast, cols.nLast);
+    return CGridView(m_rows, m_cols, topLeft, GetClientSize());
 }
 
-// One that ends exactly on the edge of the window stays in.
+CCellRange CGridCtrl::GetVisibleNonFixedCellRange(RECT* pRect, BOOL bForceRecalculation)
+{
+    return GetView(bForceRecalculation).Visible(pRect);
+}
+
 CCellRange CGridCtrl::GetUnobstructedNonFixedCellRange(BOOL bForceRecalculation)
 {
-    const CSize client = GetClientSize();
-    const CCellID topLeft = GetTopleftNonFixedCell(bForceRecalculation);
-    const auto lastWhole = [](const CGridAxis& axis, int nFirst, int nClientEnd)
-    {
-        const CGridAxis::SVisible visible = axis.Visible(nFirst, nClientEnd);
-        return visible.nLast > 0 && visible.nEnd > nClientEnd ? visible.nLast - 1 : visible.nLast;
-    };
-    return CCellRange(topLeft.row, topLeft.col, lastWhole(m_rows, topLeft.row, client.cy),
-                      lastWhole(m_cols, topLeft.col, client.cx));
+    return GetView(bForceRecalculation).VisibleWhole();
 }
 
 BOOL CGridCtrl::IsCellVisible(CCellID cell)
 {
-    return IsCellVisible(cell.row, cell.col);
+    return ::IsWindow(m_hWnd) && GetView().Shows(cell);
 }
 
-// Its top and left edges lie in the window.
 BOOL CGridCtrl::IsCellVisible(int nRow, int nCol)
 {
-    if (!::IsWindow(m_hWnd) || nRow < 0 || nCol < 0)
-        return FALSE;
-    CPoint origin;
-    if (!GetCellOrigin(nRow, nCol, &origin))
-        return FALSE;
-    const CSize client = GetClientSize();
-    return origin.x < client.cx && origin.y < client.cy;
+    return IsCellVisible(CCellID(nRow, nCol));
 }
-
-// ---- Cells to pixels --------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::GetCellOrigin(const CCellID& cell, POINT* p)
 {
-    return GetCellOrigin(cell.row, cell.col, p);
+    return GetView().Origin(cell, *p);
 }
 
 BOOL CGridCtrl::GetCellOrigin(int nRow, int nCol, POINT* p)
 {
-    if (!IsValid(nRow, nCol))
-        return FALSE;
-    CCellID topLeft;
-    if (!m_rows.IsFixed(nRow) || !m_cols.IsFixed(nCol))
-        topLeft = GetTopleftNonFixedCell();
-    if ((!m_rows.IsFixed(nRow) && nRow < topLeft.row) || (!m_cols.IsFixed(nCol) && nCol < topLeft.col))
-        return FALSE;
-    p->x = m_cols.Origin(nCol, topLeft.col);
-    p->y = m_rows.Origin(nRow, topLeft.row);
-    return TRUE;
+    return GetCellOrigin(CCellID(nRow, nCol), p);
 }
 
 BOOL CGridCtrl::GetCellRect(const CCellID& cell, RECT* pRect)
 {
-    return GetCellRect(cell.row, cell.col, pRect);
+    return GetView().CellRect(cell, *pRect);
 }
 
 BOOL CGridCtrl::GetCellRect(int nRow, int nCol, RECT* pRect)
 {
-    CPoint origin;
-    if (!GetCellOrigin(nRow, nCol, &origin))
-        return FALSE;
-    ::SetRect(pRect, origin.x, origin.y, LastPixel(origin.x, m_cols.Size(nCol)),
-              LastPixel(origin.y, m_rows.Size(nRow)));
-    return TRUE;
+    return GetCellRect(CCellID(nRow, nCol), pRect);
 }
 
 BOOL CGridCtrl::GetTextRect(const CCellID& cell, RECT* pRect)
@@ -137,55 +99,30 @@ BOOL CGridCtrl::GetTextRect(int nRow, int nCol, RECT* pRect)
 
 BOOL CGridCtrl::GetCellRangeRect(const CCellRange& range, RECT* pRect)
 {
-    CPoint first, last;
-    if (!GetCellOrigin(range.minRow, range.minCol, &first) ||
-        !GetCellOrigin(range.maxRow, range.maxCol, &last))
-        return FALSE;
-    ::SetRect(pRect, first.x, first.y, LastPixel(last.x, m_cols.Size(range.maxCol)),
-              LastPixel(last.y, m_rows.Size(range.maxRow)));
-    return TRUE;
+    return GetView().RangeRect(range, *pRect);
 }
-
-// ---- Pixels to cells --------------------------------------------------------------------------------------
 
 CCellID CGridCtrl::GetCellFromPt(CPoint point, BOOL bAllowFixedCellCheck)
 {
-    const CCellID topLeft = GetTopleftNonFixedCell();
-    if (!bAllowFixedCellCheck && !IsValid(topLeft))
+    const CGridView view = GetView();
+    if (!bAllowFixedCellCheck && !IsValid(view.TopLeft()))
         return CCellID();
-    return CCellID(m_rows.ItemAt(point.y, topLeft.row, bAllowFixedCellCheck != FALSE),
-                   m_cols.ItemAt(point.x, topLeft.col, bAllowFixedCellCheck != FALSE));
+    return view.CellAt(point, bAllowFixedCellCheck != FALSE);
 }
 
 CPoint CGridCtrl::GetPointClicked(int nRow, int nCol, const CPoint& point)
 {
-    CPoint origin;
-    return GetCellOrigin(nRow, nCol, &origin) ? CPoint(point.x - origin.x, point.y - origin.y) : CPoint(0, 0);
+    return GetView().FromOrigin(CCellID(nRow, nCol), point);
 }
 
-// Dividers are alive over the headers only.
 BOOL CGridCtrl::MouseOverRowResizeArea(CPoint& point)
 {
-    if (point.x >= GetFixedColumnWidth())
-        return FALSE;
-    const CCellID cell = GetCellFromPt(point);
-    CPoint start;
-    if (!GetCellOrigin(cell, &start))
-        return FALSE;
-    const int nBelow = LastPixel(start.y, m_rows.Size(cell.row)) + 1 - point.y;
-    return (point.y - start.y < m_nResizeCaptureRange && cell.row != 0) || nBelow < m_nResizeCaptureRange;
+    return CGridDividers(EGridWay::eRows, GetView(), m_nResizeCaptureRange).IsAt(point);
 }
 
 BOOL CGridCtrl::MouseOverColumnResizeArea(CPoint& point)
 {
-    if (point.y >= GetFixedRowHeight())
-        return FALSE;
-    const CCellID cell = GetCellFromPt(point);
-    CPoint start;
-    if (!GetCellOrigin(cell, &start))
-        return FALSE;
-    const int nBehind = LastPixel(start.x, m_cols.Size(cell.col)) + 1 - point.x;
-    return (point.x - start.x < m_nResizeCaptureRange && cell.col != 0) || nBehind < m_nResizeCaptureRange;
+    return CGridDividers(EGridWay::eColumns, GetView(), m_nResizeCaptureRange).IsAt(point);
 }
 
 // ---- Sizes ------------------------------------------------------------------------------------------------
@@ -334,25 +271,25 @@ void CGridCtrl::FitColumnAndRows(int nCol, const CCellRange& span, CDC* pDC)
 
 void CGridCtrl::ExpandColumnsToFit(BOOL bExpandFixed)
 {
-    Expand(SB_HORZ, bExpandFixed);
+    Expand(EGridWay::eColumns, bExpandFixed);
 }
 
 void CGridCtrl::ExpandRowsToFit(BOOL bExpandFixed)
 {
-    Expand(SB_VERT, bExpandFixed);
+    Expand(EGridWay::eRows, bExpandFixed);
 }
 
 // Each gets an equal share of what is free, or missing; what the division leaves goes to the first ones, a
 // pixel each. A hidden one among those takes up a place without taking the pixel, so that the total can stay
 // some pixels short. Where there is too little room, one that shows keeps one pixel, and so can come back.
-void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
+void CGridCtrl::Expand(EGridWay way, BOOL bExpandFixed)
 {
-    CGridAxis& axis = AxisOf(nBar);
+    CGridAxis& axis = Axis(way);
     const int nFirst = bExpandFixed ? 0 : axis.Fixed();
     if (axis.Count() <= nFirst || !::IsWindow(m_hWnd))
         return;
     const CLifeWatch life(*this);
-    EnableScrollBars(nBar, FALSE); // which may end an edit
+    EnableScrollBars(gfnBarOf(way), FALSE); // which may end an edit
     if (!life.WindowLives())
         return;
 
@@ -361,7 +298,7 @@ void CGridCtrl::Expand(int nBar, BOOL bExpandFixed)
         nShown += axis.IsShown(nItem);
     if (nShown == 0)
         return;
-    const int nFree = ClientExtent(nBar) - axis.Extent();
+    const int nFree = gfnAlong(way, GetClientSize()) - axis.Extent();
     const int nShare = nFree / nShown;
     const int nRest = std::abs(nFree) % nShown;
     const int nStep = nFree > 0 ? 1 : -1;
@@ -399,13 +336,7 @@ void CGridCtrl::ExpandLastColumn()
     if (!life.WindowLives() || !m_cols.Has(nCol))
         return;
     const int nOthers = m_cols.Extent() - m_cols.Size(nCol);
-    m_cols.SetSize(nCol, std::max(1, ClientExtent(SB_HORZ) - nOthers)); // it goes on showing
+    m_cols.SetSize(nCol, std::max(1, static_cast<int>(GetClientSize().cx) - nOthers)); // it goes on showing
     Invalidate();
     ResetScrollBars();
-}
-
-int CGridCtrl::ClientExtent(int nBar) const
-{
-    const CSize client = GetClientSize();
-    return nBar == SB_HORZ ? client.cx : client.cy;
 }

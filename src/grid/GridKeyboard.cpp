@@ -4,6 +4,7 @@
 
 #include "grid/GridCtrl.h"
 
+#include "grid/GridKeyWalk.h"
 #include "grid/GridLifeWatch.h"
 
 #include <algorithm>
@@ -31,7 +32,13 @@ struct CGridCtrl::SKeyMove
     bool scrolledH = false;
     bool scrolledV = false;
 
-    bool Tabs() const { return key == VK_TAB; }
+    /// 1 on, to the right or down, -1 back.
+    int Step() const
+    {
+        if (key == VK_TAB)
+            return shift ? -1 : 1;
+        return key == VK_RIGHT || key == VK_DOWN || key == VK_NEXT ? 1 : -1;
+    }
 };
 
 UINT CGridCtrl::OnGetDlgCode()
@@ -73,34 +80,42 @@ void CGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 /// False for a key that means nothing here.
 bool CGridCtrl::MoveByKey(SKeyMove& move)
 {
+    const auto mayEdit = [this](const CCellID& cell)
+    {
+        CGridCellBase* const pCell = GetCell(cell.row, cell.col);
+        return pCell && !pCell->IsFixed() && !pCell->IsReadOnly();
+    };
+    const CGridKeyWalk walk(m_rows, m_cols, m_bEnterIsTab ? CGridKeyWalk::CTest(mayEdit) : nullptr);
     switch (move.key)
     {
     case VK_DELETE: // does not clear cells: ClearCells is for callers
         return true;
     case VK_DOWN:
-        MoveVertically(move, 1);
-        return true;
     case VK_UP:
-        MoveVertically(move, -1);
+        move.next = walk.Vertically(move.next, move.Step());
         return true;
     case VK_RIGHT:
-        MoveRight(move);
-        return true;
     case VK_LEFT:
-        MoveLeft(move);
+        move.next = walk.Sideways(move.next, move.Step());
         return true;
     case VK_TAB:
-        move.shift ? MoveLeft(move) : MoveRight(move);
+        move.wrapped = walk.TabWraps(move.next, move.Step());
+        if (!move.wrapped) // a Tab that stays in its row also gets the default handling
+            CWnd::OnKeyDown(move.key, move.repeat, move.flags);
+        move.next = walk.Tab(move.next, move.Step());
         return true;
     case VK_NEXT:
     case VK_PRIOR:
-        MoveByPage(move);
+        if (const std::optional<int> moved = ScrollPage(move))
+            move.next = walk.ByPage(move.next, move.Step(), *moved);
         return true;
     case VK_HOME:
-        MoveHome(move);
+        if (ScrollToEdge(move, SB_LEFT))
+            move.next = walk.ToStart(move.next, move.control);
         return true;
     case VK_END:
-        MoveToEnd(move);
+        if (ScrollToEdge(move, SB_RIGHT))
+            move.next = walk.ToEnd(move.next, move.control);
         return true;
     case VK_F2:
         if (!m_bEnterIsTab)
@@ -112,129 +127,26 @@ bool CGridCtrl::MoveByKey(SKeyMove& move)
     }
 }
 
-void CGridCtrl::MoveVertically(SKeyMove& move, int nStep)
+/// By how many rows the view has moved; nothing if the window did not outlive it.
+std::optional<int> CGridCtrl::ScrollPage(SKeyMove& move)
 {
-    int nRow = move.next.row + nStep;
-    while (m_rows.Has(nRow) && !m_rows.IsFixed(nRow) && !m_rows.IsShown(nRow))
-        nRow += nStep;
-    if (m_rows.Has(nRow) && !m_rows.IsFixed(nRow))
-        move.next.row = nRow;
-}
-
-/// Whether a move sideways may end on a cell: it shows, and with Enter as Tab it can be edited, too.
-bool CGridCtrl::IsStop(int nRow, int nCol) const
-{
-    if (!m_cols.IsShown(nCol))
-        return false;
-    if (!m_bEnterIsTab)
-        return true;
-    CGridCellBase* const pCell = GetCell(nRow, nCol);
-    return pCell && !pCell->IsFixed() && !pCell->IsReadOnly();
-}
-
-// Tab goes on in the next row. A Tab that stays in its row also gets the default handling.
-void CGridCtrl::MoveRight(SKeyMove& move)
-{
-    const int nOldCol = move.next.col;
-    ++move.next.col;
-    if (move.Tabs())
-    {
-        if (move.next.col >= GetColumnCount() && move.next.row < GetRowCount() - 1)
-        {
-            move.next = CCellID(move.next.row + 1, m_cols.Fixed());
-            move.wrapped = true;
-        }
-        else
-            CWnd::OnKeyDown(move.key, move.repeat, move.flags);
-    }
-    for (; move.next.col < GetColumnCount(); ++move.next.col)
-        if (IsStop(move.next.row, move.next.col))
-            return;
-    if (m_bEnterIsTab)
-        for (move.next.col = 0; move.next.col < nOldCol; ++move.next.col)
-            if (IsStop(move.next.row, move.next.col))
-                return;
-    move.next.col = nOldCol;
-}
-
-void CGridCtrl::MoveLeft(SKeyMove& move)
-{
-    const int nOldCol = move.next.col;
-    --move.next.col;
-    if (move.Tabs())
-    {
-        if (move.next.col < m_cols.Fixed() && move.next.row > m_rows.Fixed())
-        {
-            move.next = CCellID(move.next.row - 1, GetColumnCount() - 1);
-            move.wrapped = true;
-        }
-        else
-            CWnd::OnKeyDown(move.key, move.repeat, move.flags);
-    }
-    for (; move.next.col >= m_cols.Fixed(); --move.next.col)
-        if (IsStop(move.next.row, move.next.col))
-            return;
-    if (m_bEnterIsTab)
-        for (move.next.col = GetColumnCount() - 1; move.next.col > nOldCol; --move.next.col)
-            if (IsStop(move.next.row, move.next.col))
-                return;
-    move.next.col = nOldCol;
-}
-
-/// As many rows as the view moves; where it cannot move, to the last or the first.
-void CGridCtrl::MoveByPage(SKeyMove& move)
-{
-    const bool bDown = move.key == VK_NEXT;
     const int nTopBefore = GetTopleftNonFixedCell().row;
-    move.scrolledV = true;
-    if (!SendScroll(SB_VERT, bDown ? SB_PAGEDOWN : SB_PAGEUP))
-        return;
-    const int nMoved = GetTopleftNonFixedCell().row - nTopBefore;
-    const int nFirst = m_rows.Fixed();
-    const int nLast = GetRowCount() - 1;
-    if (nMoved == 0)
-        move.next.row = bDown ? nLast : nFirst;
-    else
-        move.next.row = std::max(nFirst, std::min(nLast, move.next.row + nMoved));
+    if (!ScrollByKey(move, EGridWay::eRows, move.Step() > 0 ? SB_PAGEDOWN : SB_PAGEUP))
+        return {};
+    return GetTopleftNonFixedCell().row - nTopBefore;
 }
 
-void CGridCtrl::MoveHome(SKeyMove& move)
+/// To an end of the row or, with Ctrl, of the grid. False if the window did not outlive it.
+bool CGridCtrl::ScrollToEdge(SKeyMove& move, UINT nSBCode)
 {
-    if (move.control)
-    {
-        move.scrolledV = true;
-        if (!SendScroll(SB_VERT, SB_TOP))
-            return;
-        move.next.row = m_rows.Fixed();
-    }
-    move.scrolledH = true;
-    if (!SendScroll(SB_HORZ, SB_LEFT))
-        return;
-    move.next.col = m_cols.Fixed();
-    while (move.next.col < GetColumnCount() - 1 && !m_cols.IsShown(move.next.col))
-        ++move.next.col;
-    while (move.next.row < GetRowCount() - 1 && !m_rows.IsShown(move.next.row))
-        ++move.next.row;
+    return (!move.control || ScrollByKey(move, EGridWay::eRows, nSBCode)) &&
+           ScrollByKey(move, EGridWay::eColumns, nSBCode);
 }
 
-// The walk back past hidden ones stops behind the second body column and row.
-void CGridCtrl::MoveToEnd(SKeyMove& move)
+bool CGridCtrl::ScrollByKey(SKeyMove& move, EGridWay way, UINT nSBCode)
 {
-    if (move.control)
-    {
-        move.scrolledV = true;
-        if (!SendScroll(SB_VERT, SB_BOTTOM))
-            return;
-        move.next.row = GetRowCount() - 1;
-    }
-    move.scrolledH = true;
-    if (!SendScroll(SB_HORZ, SB_RIGHT))
-        return;
-    move.next.col = GetColumnCount() - 1;
-    while (move.next.col > m_cols.Fixed() + 1 && !m_cols.IsShown(move.next.col))
-        --move.next.col;
-    while (move.next.row > m_rows.Fixed() + 1 && !m_rows.IsShown(move.next.row))
-        --move.next.row;
+    (way == EGridWay::eColumns ? move.scrolledH : move.scrolledV) = true;
+    return SendScroll(way, nSBCode);
 }
 
 /// Takes selection, focus and view along.
@@ -256,9 +168,9 @@ void CGridCtrl::FollowKey(SKeyMove& move)
     }
     EnsureVisible(move.next);
     if (move.scrolledH && life.WindowLives())
-        SendScroll(SB_HORZ, SB_ENDSCROLL);
+        SendScroll(EGridWay::eColumns, SB_ENDSCROLL);
     if (move.scrolledV && life.WindowLives())
-        SendScroll(SB_VERT, SB_ENDSCROLL);
+        SendScroll(EGridWay::eRows, SB_ENDSCROLL);
 }
 
 /// With Shift from the anchor, otherwise just the new cell. While the mouse selects, that is the mouse's
@@ -269,7 +181,7 @@ void CGridCtrl::SelectByKey(const SKeyMove& move)
         return;
     m_mapPrevSelected.RemoveAll();
     m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
-    if (!move.shift || move.Tabs())
+    if (!move.shift || move.key == VK_TAB)
         m_selectionStart = move.next;
     OnSelecting(move.next);
     m_nMouseMode = MODE_NOTHING;
@@ -278,27 +190,22 @@ void CGridCtrl::SelectByKey(const SKeyMove& move)
 /// A line in the direction of the key; for a Tab into another row also to the other end of it.
 bool CGridCtrl::ScrollForKey(SKeyMove& move)
 {
-    const auto scroll = [&](int nBar, UINT nSBCode)
-    {
-        (nBar == SB_HORZ ? move.scrolledH : move.scrolledV) = true;
-        return SendScroll(nBar, nSBCode);
-    };
+    const bool bOn = move.Step() > 0;
+    const UINT nLine = bOn ? SB_LINEDOWN : SB_LINEUP;
     switch (move.key)
     {
-    case VK_LEFT:
-        return scroll(SB_HORZ, SB_LINELEFT);
-    case VK_RIGHT:
-        return scroll(SB_HORZ, SB_LINERIGHT);
     case VK_UP:
-        return scroll(SB_VERT, SB_LINEUP);
     case VK_DOWN:
-        return scroll(SB_VERT, SB_LINEDOWN);
+        return ScrollByKey(move, EGridWay::eRows, nLine);
+    case VK_LEFT:
+    case VK_RIGHT:
+        return ScrollByKey(move, EGridWay::eColumns, nLine);
     case VK_TAB:
         if (!move.wrapped)
-            return scroll(SB_HORZ, move.shift ? SB_LINELEFT : SB_LINERIGHT);
-        if (!scroll(SB_VERT, move.shift ? SB_LINEUP : SB_LINEDOWN))
+            return ScrollByKey(move, EGridWay::eColumns, nLine);
+        if (!ScrollByKey(move, EGridWay::eRows, nLine))
             return false;
-        SetScrollPos32(SB_HORZ, move.shift ? m_nHScrollMax : 0);
+        SetScrollPos32(SB_HORZ, bOn ? 0 : m_nHScrollMax);
         return true;
     default:
         return true;

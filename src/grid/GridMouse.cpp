@@ -12,35 +12,23 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridClientArea.h"
+#include "grid/GridDivider.h"
 #include "grid/GridLifeWatch.h"
 
 #include <algorithm>
 
 namespace
 {
-constexpr int kMarkerWidth = 2; ///< pixels of the line that shows where a divider would go
-
 void ShowCursor(LPCWSTR pszCursor)
 {
     ::SetCursor(::LoadCursor(nullptr, pszCursor));
 }
-} // namespace
 
-/// One way of the two: what along is for rows and columns.
-struct CGridCtrl::SDirection
+void ShowDividerCursor(EGridWay way)
 {
-    CGridAxis& axis;
-    int& item; ///< of m_clickDownCell
-    bool columns;
-
-    int Along(CPoint point) const { return columns ? point.x : point.y; }
-    static SDirection Of(CGridCtrl& grid, EDirection direction)
-    {
-        if (direction == EDirection::eColumns)
-            return {grid.m_cols, grid.m_clickDownCell.col, true};
-        return {grid.m_rows, grid.m_clickDownCell.row, false};
-    }
-};
+    ShowCursor(way == EGridWay::eColumns ? IDC_SIZEWE : IDC_SIZENS);
+}
+} // namespace
 
 // ---- Press ------------------------------------------------------------------------------------------------
 
@@ -85,7 +73,7 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
             return;
         }
     }
-    else if (m_nMouseMode != MODE_OVER_COL_DIVIDE && m_nMouseMode != MODE_OVER_ROW_DIVIDE)
+    else if (!IsOverDivider())
     {
         SetFocusCell(CCellID(), TRUE);
         if (m_rows.Count() > m_rows.Fixed() && m_cols.Count() > m_cols.Fixed())
@@ -136,10 +124,8 @@ void CGridCtrl::BeginGesture(UINT nFlags, CPoint point)
 {
     if (m_nMouseMode == MODE_NOTHING)
         FindDivider(point);
-    if (m_nMouseMode == MODE_OVER_COL_DIVIDE)
-        BeginSizing(EDirection::eColumns, point);
-    else if (m_nMouseMode == MODE_OVER_ROW_DIVIDE)
-        BeginSizing(EDirection::eRows, point);
+    if (IsOverDivider())
+        BeginSizing(point);
     else
         BeginSelecting(nFlags);
 }
@@ -170,17 +156,21 @@ void CGridCtrl::BeginSelecting(UINT nFlags)
 /// The mode and the cursor of the divider at a point; false if there is none that may be dragged.
 bool CGridCtrl::FindDivider(CPoint point)
 {
-    int nMode = MODE_NOTHING;
-    if (m_bAllowColumnResize && MouseOverColumnResizeArea(point))
-        nMode = MODE_OVER_COL_DIVIDE;
-    else if (m_bAllowRowResize && MouseOverRowResizeArea(point))
-        nMode = MODE_OVER_ROW_DIVIDE;
-    else
+    EGridWay way = EGridWay::eColumns;
+    if (!m_bAllowColumnResize || !MouseOverColumnResizeArea(point))
+        way = EGridWay::eRows;
+    if (way == EGridWay::eRows && (!m_bAllowRowResize || !MouseOverRowResizeArea(point)))
         return false;
+    const int nMode = way == EGridWay::eColumns ? MODE_OVER_COL_DIVIDE : MODE_OVER_ROW_DIVIDE;
     if (m_nMouseMode != nMode)
-        ShowCursor(nMode == MODE_OVER_COL_DIVIDE ? IDC_SIZEWE : IDC_SIZENS);
+        ShowDividerCursor(way);
     m_nMouseMode = nMode;
     return true;
+}
+
+bool CGridCtrl::IsOverDivider() const
+{
+    return m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_OVER_ROW_DIVIDE;
 }
 
 bool CGridCtrl::IsInText(const CCellID& cell, CPoint point)
@@ -205,106 +195,50 @@ CCellID CGridCtrl::RaisedToBody(CCellID cell) const
 
 // ---- Sizing -----------------------------------------------------------------------------------------------
 
-// The early returns leave the mode as it is and the cursor free; the release puts that right.
-void CGridCtrl::BeginSizing(EDirection direction, CPoint point)
+/// Those that the mouse is at, over or dragging.
+CGridDividers CGridCtrl::Dividers()
 {
-    const SDirection way = SDirection::Of(*this, direction);
-    m_nMouseMode = way.columns ? MODE_SIZING_COL : MODE_SIZING_ROW;
-    const int nLast = way.axis.Count() - 1;
-    const bool bLastNearlyClosed = way.axis.Size(nLast) < m_nResizeCaptureRange;
-    CRect rectVisible;
-    GetVisibleNonFixedCellRange(&rectVisible);
-    if (bLastNearlyClosed && way.Along(rectVisible.BottomRight()) - way.Along(point) < m_nResizeCaptureRange)
-        way.item = nLast;
+    const bool bColumns = m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_SIZING_COL;
+    return CGridDividers(bColumns ? EGridWay::eColumns : EGridWay::eRows, GetView(), m_nResizeCaptureRange);
+}
 
-    // A column is looked up in row 0, a row in the column of the press.
-    CPoint start;
-    if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, m_clickDownCell.col, &start))
+// The early returns leave the mode as it is and the cursor free; the release puts that right.
+void CGridCtrl::BeginSizing(CPoint point)
+{
+    const bool bColumn = m_nMouseMode == MODE_OVER_COL_DIVIDE;
+    m_nMouseMode = bColumn ? MODE_SIZING_COL : MODE_SIZING_ROW;
+    const bool bOpensHidden = (bColumn ? m_bHiddenColUnhide : m_bHiddenRowUnhide) != FALSE;
+    CGridDividers::STaken taken = Dividers().Take(m_clickDownCell, point, bOpensHidden);
+    if (taken.bMarked)
+        InvertMarker(point);
+    if (!taken.bHeld)
         return;
-    const bool bBefore = way.Along(point) - way.Along(start) < m_nResizeCaptureRange;
-    const bool bUnhide = (way.columns ? m_bHiddenColUnhide : m_bHiddenRowUnhide) != FALSE;
-    if (!bUnhide && (bBefore || way.item != nLast) && !PassHiddenItems(way, bBefore))
-        return;
-
-    InvertMarker(direction, point);
-    if (bBefore && (way.item != nLast || !bLastNearlyClosed))
-    {
-        --way.item;
-        if (!GetCellOrigin(way.columns ? 0 : m_clickDownCell.row, way.columns ? m_clickDownCell.col : 0,
-                           &start))
-            return;
-    }
-    ClipCursorForSizing(direction, start);
+    ClientToScreen(&taken.rectHeld);
+    ::ClipCursor(&taken.rectHeld);
     m_ptLastMouse = point;
 }
 
-/// Steps back to where the item at the divider, or with `bBefore` the one before it, shows. False past the
-/// first.
-bool CGridCtrl::PassHiddenItems(const SDirection& way, bool bBefore)
-{
-    const int nBack = bBefore ? 1 : 0;
-    while (!way.axis.IsShown(way.item - nBack))
-    {
-        --way.item;
-        if (way.item - nBack < 0)
-            return false;
-    }
-    return true;
-}
-
-/// Not before the start of what is being sized, and at most as far as the scrolling part is wide.
-void CGridCtrl::ClipCursorForSizing(EDirection direction, CPoint start)
-{
-    CRect rect(CPoint(0, 0), GetClientSize());
-    if (direction == EDirection::eColumns)
-    {
-        rect.left = start.x + 1;
-        rect.right = rect.left + GetClientSize().cx - GetFixedColumnWidth();
-    }
-    else
-    {
-        rect.top = start.y + 1;
-        rect.bottom = rect.top + GetClientSize().cy - GetFixedRowHeight();
-    }
-    ClientToScreen(&rect);
-    ::ClipCursor(&rect);
-}
-
-void CGridCtrl::InvertMarker(EDirection direction, CPoint point)
+void CGridCtrl::InvertMarker(CPoint point)
 {
     const CClientArea area(*this);
-    if (!area.DC())
-        return;
-    CRect rect(CPoint(0, 0), GetClientSize());
-    if (direction == EDirection::eColumns)
-    {
-        rect.left = point.x;
-        rect.right = point.x + kMarkerWidth;
-    }
-    else
-    {
-        rect.top = point.y;
-        rect.bottom = point.y + kMarkerWidth;
-    }
-    area.DC()->InvertRect(&rect);
+    if (area.DC())
+        area.DC()->InvertRect(CRect(Dividers().Marker(point)));
 }
 
 /// The new size from the release. False if what was sized is not in view any more.
-bool CGridCtrl::EndSizing(EDirection direction, CPoint point)
+bool CGridCtrl::EndSizing(CPoint point)
 {
-    const SDirection way = SDirection::Of(*this, direction);
-    InvertMarker(direction, m_ptLastMouse);
+    const bool bColumn = m_nMouseMode == MODE_SIZING_COL;
+    InvertMarker(m_ptLastMouse);
     if (point == m_ptClickClient || point == CPoint(0, 0))
         return true;
-    CPoint start;
-    if (!GetCellOrigin(m_clickDownCell, &start))
+    int nSize = 0;
+    if (!Dividers().Drop(m_clickDownCell, point, (bColumn ? m_bColumnHide : m_bRowHide) != FALSE, nSize))
         return false;
-    const BOOL bMayHide = way.columns ? m_bColumnHide : m_bRowHide;
-    const int nSize = std::max(bMayHide ? 0 : 1, way.Along(point) - way.Along(start));
-    if (way.columns)
-        SetColumnWidth(way.item, nSize, TRUE);
+    if (bColumn)
+        SetColumnWidth(m_clickDownCell.col, nSize, TRUE);
     else
-        SetRowHeight(way.item, nSize);
+        SetRowHeight(m_clickDownCell.row, nSize);
     ResetScrollBars();
     Invalidate();
     return true;
@@ -347,12 +281,9 @@ bool CGridCtrl::Drag(CPoint point)
     case MODE_SELECT_CELLS:
         return DragSelection(GetCellFromPt(point));
     case MODE_SIZING_ROW:
-        InvertMarker(EDirection::eRows, m_ptLastMouse);
-        InvertMarker(EDirection::eRows, point);
-        return true;
     case MODE_SIZING_COL:
-        InvertMarker(EDirection::eColumns, m_ptLastMouse);
-        InvertMarker(EDirection::eColumns, point);
+        InvertMarker(m_ptLastMouse);
+        InvertMarker(point);
         return true;
     default:
         return true;
@@ -392,8 +323,7 @@ void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
         OnEditCell(m_focusCell.row, m_focusCell.col, pointInCell, VK_LBUTTON);
     else if (m_nMouseMode == MODE_SIZING_COL || m_nMouseMode == MODE_SIZING_ROW)
     {
-        const bool bColumn = m_nMouseMode == MODE_SIZING_COL;
-        if (!EndSizing(bColumn ? EDirection::eColumns : EDirection::eRows, point))
+        if (!EndSizing(point))
             return;
     }
     else
@@ -436,11 +366,8 @@ void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
     switch (m_nMouseMode)
     {
     case MODE_OVER_COL_DIVIDE:
-        if (!FitAtDivider(EDirection::eColumns, cell, point))
-            return;
-        break;
     case MODE_OVER_ROW_DIVIDE:
-        if (!FitAtDivider(EDirection::eRows, cell, point))
+        if (!FitAtDivider(cell, point))
             return;
         break;
     case MODE_NOTHING:
@@ -453,22 +380,13 @@ void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
         CWnd::OnLButtonDblClk(nFlags, point);
 }
 
-/// Sizes the column or row at a divider to its contents. For both, the place is that of the cell in row 0:
-/// that is right for columns, and makes a row's divider mean the row under the pointer in all but the top few
-/// pixels.
-bool CGridCtrl::FitAtDivider(EDirection direction, CCellID cell, CPoint point)
+/// Sizes the column or row at a divider to its contents.
+bool CGridCtrl::FitAtDivider(const CCellID& cell, CPoint point)
 {
-    CPoint start;
-    if (!GetCellOrigin(0, cell.col, &start))
-        return false;
-    const bool bColumn = direction == EDirection::eColumns;
-    const int nFromStart = bColumn ? point.x - start.x : point.y - start.y;
-    int nItem = (bColumn ? cell.col : cell.row) - (nFromStart < m_nResizeCaptureRange ? 1 : 0);
-    while (nItem >= 0 && !(bColumn ? m_cols : m_rows).IsShown(nItem))
-        --nItem;
+    const int nItem = Dividers().Fit(cell, point);
     if (nItem < 0)
         return false;
-    if (bColumn)
+    if (m_nMouseMode == MODE_OVER_COL_DIVIDE)
         AutoSizeColumn(nItem, m_nAutoSizeStyle, TRUE);
     else
         AutoSizeRow(nItem, TRUE);
@@ -574,9 +492,9 @@ BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
     if (nHitTest != HTCLIENT)
         return CWnd::OnSetCursor(pWnd, nHitTest, message);
-    if (m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_OVER_ROW_DIVIDE)
+    if (IsOverDivider())
     {
-        ShowCursor(m_nMouseMode == MODE_OVER_COL_DIVIDE ? IDC_SIZEWE : IDC_SIZENS);
+        ShowDividerCursor(m_nMouseMode == MODE_OVER_COL_DIVIDE ? EGridWay::eColumns : EGridWay::eRows);
         return TRUE;
     }
     if (!m_bVirtualMode)

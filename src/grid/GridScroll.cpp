@@ -8,134 +8,122 @@
 #include "grid/GridLifeWatch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
 constexpr int kWheelNotch = 120;
 constexpr int kWheelPage = -1; ///< the system's setting for a page instead of lines
 
-UINT ScrollMessage(int nBar)
+EGridWay WayOf(int nBar)
 {
-    return nBar == SB_HORZ ? WM_HSCROLL : WM_VSCROLL;
+    return nBar == SB_HORZ ? EGridWay::eColumns : EGridWay::eRows;
 }
 } // namespace
+
+/// Stands on the stack of an operation that scrolls many steps: what they uncover is repainted once.
+class CGridCtrl::CScrollRun
+{
+public:
+    explicit CScrollRun(CGridCtrl& grid)
+        : m_grid(grid), m_life(grid), m_pOuter(std::exchange(grid.m_pScrollRun, this))
+    {
+    }
+    ~CScrollRun()
+    {
+        if (!m_life.ObjectLives())
+            return;
+        m_grid.m_pScrollRun = m_pOuter;
+        if (m_life.WindowLives() && !m_rect.IsRectEmpty())
+            m_grid.RepaintScrolled(m_rect);
+    }
+    CScrollRun(const CScrollRun&) = delete;
+    CScrollRun& operator=(const CScrollRun&) = delete;
+
+    void Add(const CRect& rect) { m_rect.UnionRect(&m_rect, &rect); }
+
+private:
+    CGridCtrl& m_grid;
+    const CLifeWatch m_life;
+    CScrollRun* m_pOuter;
+    CRect m_rect;
+};
 
 // ---- The bars ---------------------------------------------------------------------------------------------
 
 int CGridCtrl::GetScrollPos32(int nBar, BOOL bGetTrackPos)
 {
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = bGetTrackPos ? SIF_TRACKPOS : SIF_POS;
-    if (!GetScrollInfo(nBar, &info, info.fMask))
-        return 0;
-    return bGetTrackPos ? info.nTrackPos : info.nPos;
+    return bGetTrackPos ? m_bars.TrackPos(WayOf(nBar)) : m_bars.Pos(WayOf(nBar));
 }
 
 BOOL CGridCtrl::SetScrollPos32(int nBar, int nPos, BOOL bRedraw)
 {
     m_topLeftCell.row = -1;
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    info.fMask = SIF_POS;
-    info.nPos = nPos;
-    return SetScrollInfo(nBar, &info, bRedraw);
+    return m_bars.SetPos(WayOf(nBar), nPos, bRedraw != FALSE);
 }
 
 void CGridCtrl::EnableScrollBars(int nBar, BOOL bEnable)
 {
-    if ((nBar == SB_HORZ || nBar == SB_BOTH) && (IsVisibleHScroll() != FALSE) != (bEnable != FALSE))
-    {
-        m_nBarState ^= BAR_HORIZONTAL;
-        CWnd::ShowScrollBar(SB_HORZ, bEnable);
-    }
-    if ((nBar == SB_VERT || nBar == SB_BOTH) && (IsVisibleVScroll() != FALSE) != (bEnable != FALSE))
-    {
-        m_nBarState ^= BAR_VERTICAL;
-        CWnd::ShowScrollBar(SB_VERT, bEnable);
-    }
+    for (const auto& [nEach, nBit] : {std::pair(SB_HORZ, BAR_HORIZONTAL), std::pair(SB_VERT, BAR_VERTICAL)})
+        if ((nBar == nEach || nBar == SB_BOTH) && ((m_nBarState & nBit) != 0) != (bEnable != FALSE))
+        {
+            m_nBarState ^= nBit;
+            CWnd::ShowScrollBar(nEach, bEnable);
+        }
 }
 
-bool CGridCtrl::HasBar(int nBar) const
+/// In the books and in the window, which disagree when only the headers have fitted before. False if the
+/// window did not outlive it: a bar that comes or goes changes the size of the window, and with that ends an
+/// edit, and whoever hears of that may destroy the window.
+bool CGridCtrl::ShowBar(EGridWay way, bool bShow, const CLifeWatch& life)
 {
-    return (GetStyle() & (nBar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
+    EnableScrollBars(gfnBarOf(way), bShow);
+    if (life.WindowLives() && m_bars.IsInWindow(way) != bShow)
+        CWnd::ShowScrollBar(gfnBarOf(way), bShow);
+    return life.WindowLives();
 }
 
-/// In the books and in the window, which disagree when only the headers have fitted before.
-void CGridCtrl::ShowBar(int nBar, bool bShow)
+/// The client area as it would be without bars.
+CSize CGridCtrl::AreaWithoutBars() const
 {
-    const CLifeWatch life(*this);
-    EnableScrollBars(nBar, bShow);
-    if (life.WindowLives() && HasBar(nBar) != bShow)
-        CWnd::ShowScrollBar(nBar, bShow);
+    CSize area = GetClientSize();
+    if (area.cx == 0 || area.cy == 0)
+        return CSize(0, 0);
+    if (m_bars.IsInWindow(EGridWay::eRows))
+        area.cx += ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER);
+    if (m_bars.IsInWindow(EGridWay::eColumns))
+        area.cy += ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER);
+    return area;
 }
 
-// The vertical bar is decided first; the horizontal one takes height away and may make it necessary after
-// all.
-//
-// A bar that comes or goes changes the size of the window, and with that ends an edit: whoever hears of that
-// may destroy the window.
 void CGridCtrl::ResetScrollBars()
 {
     m_topLeftCell.row = -1;
     if (!m_bAllowDraw || !::IsWindow(m_hWnd))
         return;
-    CSize area = GetClientSize();
-    if (area.cx == 0 || area.cy == 0)
+    const CSize area = AreaWithoutBars();
+    if (area == CSize(0, 0))
         return;
 
-    // The area as it would be without bars
-    if (HasBar(SB_VERT))
-        area.cx += ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER);
-    if (HasBar(SB_HORZ))
-        area.cy += ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER);
-
-    const CSize fixed(GetFixedColumnWidth(), GetFixedRowHeight());
-    if (fixed.cx >= area.cx || fixed.cy >= area.cy)
+    const CSize thickness(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
+    const SGridBarPlan plan = gfnPlanGridBars(area, CSize(GetFixedColumnWidth(), GetFixedRowHeight()),
+                                              CSize(GetVirtualWidth(), GetVirtualHeight()), thickness);
+    if (plan.bOnlyHeadersFit)
     {
-        // Only headers fit. The books of the bars stay as they were; the next full pass puts them right.
+        // The books of the bars stay as they were; the next full pass puts them right.
         const HWND hWnd = m_hWnd;
         ::ShowScrollBar(hWnd, SB_HORZ, FALSE);
         ::ShowScrollBar(hWnd, SB_VERT, FALSE);
         return;
     }
-
-    const CSize needed(GetVirtualWidth() - fixed.cx, GetVirtualHeight() - fixed.cy);
-    CSize available(area.cx - fixed.cx, area.cy - fixed.cy);
-    if (available.cy < needed.cy)
-        available.cx -= ::GetSystemMetrics(SM_CXVSCROLL);
-    if (available.cx < needed.cx)
-        available.cy -= ::GetSystemMetrics(SM_CYHSCROLL);
-
-    const bool bVertical = available.cy < needed.cy;
-    const bool bHorizontal = available.cx < needed.cx;
-    m_nVScrollMax = bVertical ? needed.cy - 1 : 0;
-    m_nHScrollMax = bHorizontal ? needed.cx - 1 : 0;
+    m_nVScrollMax = plan.vertical.nMax;
+    m_nHScrollMax = plan.horizontal.nMax;
     const CLifeWatch life(*this);
-    ShowBar(SB_VERT, bVertical);
-    if (life.WindowLives())
-        ShowBar(SB_HORZ, bHorizontal);
-    if (!life.WindowLives())
+    if (!ShowBar(EGridWay::eRows, plan.vertical.bShows, life) ||
+        !ShowBar(EGridWay::eColumns, plan.horizontal.bShows, life))
         return;
-    SetScrollRange32(SB_HORZ, m_nHScrollMax, available.cx, SIF_PAGE | SIF_RANGE);
-    SetScrollRange32(SB_VERT, m_nVScrollMax, available.cy, SIF_PAGE | SIF_RANGE | SIF_DISABLENOSCROLL);
-}
-
-/// The masks of the two bars differ by design: a vertical bar is greyed where a horizontal one goes.
-void CGridCtrl::SetScrollRange32(int nBar, int nMax, int nPage, UINT nMask)
-{
-    const UINT nNewPage = nMax > 0 ? static_cast<UINT>(nPage) : 0;
-    SCROLLINFO info{};
-    info.cbSize = sizeof info;
-    if (GetScrollInfo(nBar, &info, SIF_PAGE | SIF_RANGE) && info.nMin == 0 && info.nMax == nMax &&
-        info.nPage == nNewPage)
-        return; // setting it again would repaint the bar: most of what a change of a row's height costs
-    info = {};
-    info.cbSize = sizeof info;
-    info.fMask = nMask;
-    info.nMax = nMax;
-    info.nPage = nNewPage;
-    SetScrollInfo(nBar, &info, TRUE);
+    m_bars.SetRange(EGridWay::eColumns, plan.horizontal);
+    m_bars.SetRange(EGridWay::eRows, plan.vertical);
 }
 
 // ---- Messages ---------------------------------------------------------------------------------------------
@@ -159,107 +147,49 @@ void CGridCtrl::OnSize(UINT nType, int cx, int cy)
 
 void CGridCtrl::OnHScroll(UINT nSBCode, UINT /*nPos*/, CScrollBar* /*pScrollBar*/)
 {
-    OnScroll(SB_HORZ, nSBCode);
+    OnScroll(EGridWay::eColumns, nSBCode);
 }
 
 void CGridCtrl::OnVScroll(UINT nSBCode, UINT /*nPos*/, CScrollBar* /*pScrollBar*/)
 {
-    OnScroll(SB_VERT, nSBCode);
+    OnScroll(EGridWay::eRows, nSBCode);
 }
 
 // The position in the message has 16 bits only; the bar itself is asked.
-void CGridCtrl::OnScroll(int nBar, UINT nSBCode)
+void CGridCtrl::OnScroll(EGridWay way, UINT nSBCode)
 {
     const CLifeWatch life(*this);
     EndEditing();
     if (!life.WindowLives())
         return;
 
-    const int nPos = GetScrollPos32(nBar);
-    const int nMax = nBar == SB_HORZ ? m_nHScrollMax : m_nVScrollMax;
     const CCellID oldTopLeft = GetTopleftNonFixedCell();
-    const int nPage = ClientExtent(nBar) - AxisOf(nBar).FixedExtent();
-    switch (nSBCode)
-    {
-    case SB_LINELEFT:
-        ScrollLineBack(nBar, nPos);
-        break;
-    case SB_LINERIGHT:
-        ScrollLineOn(nBar, nPos, nMax);
-        break;
-    case SB_PAGELEFT:
-        if (nPos > 0)
-            ScrollTo(nBar, std::max(0, nPos - nPage));
-        break;
-    case SB_PAGERIGHT:
-        if (nPos < nMax)
-            ScrollTo(nBar, gfnSaturated(std::min<LONGLONG>(nMax, LONGLONG(nPos) + nPage)));
-        break;
-    case SB_THUMBPOSITION:
-    case SB_THUMBTRACK:
-        SetScrollPos32(nBar, GetScrollPos32(nBar, TRUE));
-        if (GetTopleftNonFixedCell() != oldTopLeft)
-            InvalidateScrolling(nBar);
-        break;
-    case SB_LEFT:
-        if (nPos > 0)
-        {
-            SetScrollPos32(nBar, 0);
-            Invalidate();
-        }
-        break;
-    case SB_RIGHT:
-        if (nPos < nMax)
-        {
-            SetScrollPos32(nBar, nMax);
-            Invalidate();
-        }
-        break;
-    default:
-        break;
-    }
-}
-
-/// Back by the item before the first that shows, hidden ones left out. Left or up.
-void CGridCtrl::ScrollLineBack(int nBar, int nPos)
-{
-    const CGridAxis& axis = AxisOf(nBar);
-    const CCellID topLeft = GetTopleftNonFixedCell();
-    int nItem = (nBar == SB_HORZ ? topLeft.col : topLeft.row) - 1;
-    if (nPos <= 0 || nItem < axis.Fixed())
+    const bool bThumb = nSBCode == SB_THUMBPOSITION || nSBCode == SB_THUMBTRACK;
+    const int nOldPos = m_bars.Pos(way);
+    const SGridScrollState state{nOldPos, way == EGridWay::eColumns ? m_nHScrollMax : m_nVScrollMax,
+                                 gfnAlong(way, GetClientSize()) - Axis(way).FixedExtent(),
+                                 gfnItemAlong(way, oldTopLeft)};
+    const std::optional<int> nPos = bThumb ? m_bars.TrackPos(way) : gfnScrolledPos(nSBCode, Axis(way), state);
+    if (!nPos)
         return;
-    while (nItem > axis.Fixed() && axis.Size(nItem) <= 0)
-        --nItem;
-    ScrollTo(nBar, std::max(0, nPos - axis.Size(nItem)));
+    if (bThumb)
+        m_bars.Tracked(way);
+    SetScrollPos32(gfnBarOf(way), *nPos);
+
+    if (nSBCode == SB_LEFT || nSBCode == SB_RIGHT)
+        RepaintScrolled(CRect(CPoint(0, 0), GetClientSize()));
+    else if (bThumb ? GetTopleftNonFixedCell() != oldTopLeft
+                    : nSBCode != SB_LINERIGHT || m_bars.Pos(way) != nOldPos) // the bar limits a line on
+        RepaintScrolled(GetView().ScrollingPart(way));
 }
 
-/// On by the first item that shows. The bar itself limits the position, and only a real step repaints.
-void CGridCtrl::ScrollLineOn(int nBar, int nPos, int nMax)
+/// At the end of a run of steps, or now.
+void CGridCtrl::RepaintScrolled(const CRect& rect)
 {
-    const CGridAxis& axis = AxisOf(nBar);
-    const CCellID topLeft = GetTopleftNonFixedCell();
-    int nItem = nBar == SB_HORZ ? topLeft.col : topLeft.row;
-    if (nPos >= nMax || !axis.Has(nItem))
-        return;
-    while (nItem < axis.Count() - 1 && axis.Size(nItem) <= 0)
-        ++nItem;
-    SetScrollPos32(nBar, gfnSaturated(LONGLONG(nPos) + axis.Size(nItem)));
-    if (GetScrollPos32(nBar) != nPos)
-        InvalidateScrolling(nBar);
-}
-
-void CGridCtrl::ScrollTo(int nBar, int nPos)
-{
-    SetScrollPos32(nBar, nPos);
-    InvalidateScrolling(nBar);
-}
-
-/// The headers at the side of the bar's direction stay as they are.
-void CGridCtrl::InvalidateScrolling(int nBar)
-{
-    CRect rect(CPoint(0, 0), GetClientSize());
-    (nBar == SB_HORZ ? rect.left : rect.top) = AxisOf(nBar).FixedExtent();
-    InvalidateRect(&rect, TRUE);
+    if (m_pScrollRun)
+        m_pScrollRun->Add(rect);
+    else
+        InvalidateRect(&rect, TRUE);
 }
 
 // Posted: the scrolling runs when this message is done with.
@@ -274,10 +204,10 @@ BOOL CGridCtrl::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
 }
 
 /// Scrolls at once. False if the window did not outlive what the end of a running edit set off.
-bool CGridCtrl::SendScroll(int nBar, UINT nSBCode)
+bool CGridCtrl::SendScroll(EGridWay way, UINT nSBCode)
 {
     const CLifeWatch life(*this);
-    SendMessage(ScrollMessage(nBar), MAKEWPARAM(nSBCode, 0));
+    SendMessage(way == EGridWay::eColumns ? WM_HSCROLL : WM_VSCROLL, MAKEWPARAM(nSBCode, 0));
     return life.WindowLives();
 }
 
@@ -288,13 +218,15 @@ void CGridCtrl::EnsureVisible(CCellID& cell)
     EnsureVisible(cell.row, cell.col);
 }
 
-// A fixed cell scrolls, too, by the distance from the visible range: it is not made an exception of.
+// A fixed cell scrolls, too, by the distance from the visible range: it is not made an exception of. However
+// many steps it takes, their repaint is asked for once.
 void CGridCtrl::EnsureVisible(int nRow, int nCol)
 {
     if (!m_bAllowDraw || !::IsWindow(m_hWnd))
         return;
     const HWND hFocus = ::GetFocus(); // each step ends any edit
-    if (!ScrollBySteps(nRow, nCol) || !ScrollCellEndIntoView(nRow, nCol))
+    const CScrollRun run(*this);
+    if (!ScrollBySteps(nRow, nCol) || !ScrollCellEndIntoView(CCellID(nRow, nCol)))
         return;
     if (::IsWindow(hFocus))
         ::SetFocus(hFocus);
@@ -304,48 +236,48 @@ void CGridCtrl::EnsureVisible(int nRow, int nCol)
 /// would those beyond the ends, to which nothing can be scrolled.
 bool CGridCtrl::ScrollBySteps(int nRow, int nCol)
 {
-    nRow = std::clamp(nRow, -1, GetRowCount());
-    nCol = std::clamp(nCol, -1, GetColumnCount());
     const CCellRange visible = GetVisibleNonFixedCellRange();
-    for (int nStep = visible.maxCol + 1; nStep <= nCol; ++nStep)
-        if (m_cols.IsShown(nStep) && !SendScroll(SB_HORZ, SB_LINERIGHT))
+    return ScrollByStepsAlong(EGridWay::eColumns, visible.minCol, visible.maxCol, nCol) &&
+           ScrollByStepsAlong(EGridWay::eRows, visible.minRow, visible.maxRow, nRow);
+}
+
+bool CGridCtrl::ScrollByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem)
+{
+    const CGridAxis& axis = Axis(way);
+    nItem = std::clamp(nItem, -1, axis.Count());
+    for (int nStep = nLast + 1; nStep <= nItem; ++nStep)
+        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINERIGHT))
             return false;
-    for (int nStep = visible.minCol - 1; nStep >= nCol; --nStep)
-        if (m_cols.IsShown(nStep) && !SendScroll(SB_HORZ, SB_LINELEFT))
-            return false;
-    for (int nStep = visible.maxRow + 1; nStep <= nRow; ++nStep)
-        if (m_rows.IsShown(nStep) && !SendScroll(SB_VERT, SB_LINEDOWN))
-            return false;
-    for (int nStep = visible.minRow - 1; nStep >= nRow; --nStep)
-        if (m_rows.IsShown(nStep) && !SendScroll(SB_VERT, SB_LINEUP))
+    for (int nStep = nFirst - 1; nStep >= nItem; --nStep)
+        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINELEFT))
             return false;
     return true;
 }
 
 /// A cell cut off by the right or bottom edge, as far as its own start stays in view.
-bool CGridCtrl::ScrollCellEndIntoView(int nRow, int nCol)
+bool CGridCtrl::ScrollCellEndIntoView(const CCellID& cell)
 {
     CRect rect;
-    if (!GetCellRect(nRow, nCol, &rect))
+    if (!GetCellRect(cell, &rect))
         return true;
     // Sideways only the bar's end and the headers stop it: the rectangle may stand still for a step and go
     // on.
     while (rect.right > GetClientSize().cx && rect.left > GetFixedColumnWidth())
     {
-        const int nPos = GetScrollPos32(SB_HORZ);
-        if (!SendScroll(SB_HORZ, SB_LINERIGHT))
+        const int nPos = m_bars.Pos(EGridWay::eColumns);
+        if (!SendScroll(EGridWay::eColumns, SB_LINERIGHT))
             return false;
-        if (!GetCellRect(nRow, nCol, &rect))
+        if (!GetCellRect(cell, &rect))
             return true;
-        if (GetScrollPos32(SB_HORZ) == nPos)
+        if (m_bars.Pos(EGridWay::eColumns) == nPos)
             break;
     }
     while (rect.bottom > GetClientSize().cy && rect.top > GetFixedRowHeight())
     {
         const CRect rectBefore = rect;
-        if (!SendScroll(SB_VERT, SB_LINEDOWN))
+        if (!SendScroll(EGridWay::eRows, SB_LINEDOWN))
             return false;
-        if (!GetCellRect(nRow, nCol, &rect) || rect == rectBefore)
+        if (!GetCellRect(cell, &rect) || rect == rectBefore)
             return true;
     }
     return true;

@@ -6,9 +6,10 @@
 
 #include "grid/GridClientArea.h"
 #include "grid/GridLifeWatch.h"
+#include "grid/GridStateWalk.h"
 
 #include <algorithm>
-#include <optional>
+#include <memory>
 
 // ---- The selection's books --------------------------------------------------------------------------------
 
@@ -48,15 +49,13 @@ BOOL CGridCtrl::IsCellSelected(int nRow, int nCol) const
 
 CCellRange CGridCtrl::GetSelectedCellRange()
 {
-    CCellRange range(GetRowCount(), GetColumnCount(), -1, -1);
-    for (const CCellID& cell : m_mapSelected.Cells())
-    {
-        range.minRow = std::min(range.minRow, cell.row);
-        range.minCol = std::min(range.minCol, cell.col);
-        range.maxRow = std::max(range.maxRow, cell.row);
-        range.maxCol = std::max(range.maxCol, cell.col);
-    }
-    return range;
+    return m_mapSelected.Around(GetRowCount(), GetColumnCount());
+}
+
+CCellID CGridCtrl::GetNextItem(CCellID& start, int nFlags) const
+{
+    return gfnNextCell(m_rows, m_cols, start, nFlags,
+                       [this](int nRow, int nCol) { return GetItemState(nRow, nCol); });
 }
 
 // ---- Focus ------------------------------------------------------------------------------------------------
@@ -109,12 +108,67 @@ void CGridCtrl::RedrawHeadersOf(const CCellID& cell, bool bRow, bool bCol)
 
 // ---- Ranges -----------------------------------------------------------------------------------------------
 
-/// One pass of SetSelectedRange: what shows, and how a change is brought to the screen.
-struct CGridCtrl::SSelectPass
+/// One change of the selection: the cells, the books, and what of it shows on the screen.
+class CGridCtrl::CSelectPass
 {
-    CCellRange visible;
-    std::optional<CClientArea> area; ///< only when repainting at once
-    CDC* DC() const { return area ? area->DC() : nullptr; }
+public:
+    CSelectPass(CGridCtrl& grid, bool bAtOnce) : m_grid(grid)
+    {
+        if (!::IsWindow(grid.m_hWnd))
+            return;
+        if (bAtOnce)
+            m_pArea = std::make_unique<CClientArea>(grid);
+        m_visible = grid.GetVisibleNonFixedCellRange();
+    }
+
+    /// Everything, in the books and in the cells. What lies in the new range is repainted when that is
+    /// selected.
+    void UnselectAll(const CCellRange& newRange)
+    {
+        for (const CCellID& cell : m_grid.m_mapSelected.Cells())
+        {
+            if (!m_grid.IsValid(cell))
+                m_grid.m_mapSelected.Remove(cell.row, cell.col);
+            else
+                Mark(cell, false, !newRange.InRange(cell.row, cell.col));
+        }
+    }
+
+    /// What was selected before a gesture with Ctrl began.
+    void SelectAgain()
+    {
+        for (const CCellID& cell : m_grid.m_mapPrevSelected.Cells())
+            if (m_grid.IsValid(cell))
+                Mark(cell, true, true);
+    }
+
+    void Change(const CCellRange& range, bool bSelect)
+    {
+        for (int nRow = range.minRow; nRow <= range.maxRow; ++nRow)
+            for (int nCol = range.minCol; nCol <= range.maxCol; ++nCol)
+                if ((m_grid.IsCellSelected(nRow, nCol) != FALSE) != bSelect)
+                    Mark(CCellID(nRow, nCol), bSelect, true);
+    }
+
+private:
+    void Mark(const CCellID& cell, bool bSelected, bool bRepaint)
+    {
+        const UINT nState = m_grid.GetItemState(cell.row, cell.col);
+        m_grid.SetItemState(cell.row, cell.col, bSelected ? nState | CELL_SELECTED : nState & ~CELL_SELECTED);
+        if (bRepaint && m_visible.InRange(cell.row, cell.col))
+            Repaint(cell);
+    }
+    void Repaint(const CCellID& cell)
+    {
+        if (CDC* const pDC = m_pArea ? m_pArea->DC() : nullptr)
+            m_grid.RedrawCell(cell, pDC);
+        else
+            m_grid.InvalidateCellRect(cell);
+    }
+
+    CGridCtrl& m_grid;
+    CCellRange m_visible;
+    std::unique_ptr<CClientArea> m_pArea; ///< only when repainting at once
 };
 
 void CGridCtrl::SetSelectedRange(const CCellRange& range, BOOL bForceRepaint, BOOL bSelectCells)
@@ -127,14 +181,7 @@ void CGridCtrl::SetSelectedRange(int nMinRow, int nMinCol, int nMaxRow, int nMax
 {
     if (!m_bEnableSelection)
         return;
-    SSelectPass pass;
-    if (::IsWindow(m_hWnd))
-    {
-        if (bForceRepaint)
-            pass.area.emplace(*this);
-        pass.visible = GetVisibleNonFixedCellRange();
-    }
-
+    CSelectPass pass(*this, bForceRepaint != FALSE);
     // A negative bound stays: it means that nothing is to be selected.
     const auto raised = [](int nItem, const CGridAxis& axis)
     { return nItem >= 0 ? std::max(nItem, axis.Fixed()) : nItem; };
@@ -144,68 +191,17 @@ void CGridCtrl::SetSelectedRange(int nMinRow, int nMinCol, int nMaxRow, int nMax
 
     if (bSelectCells)
     {
-        UnselectAll(range, pass);
+        pass.UnselectAll(range);
         if (!GetSingleRowSelection())
         {
             if (range.minRow < 0)
                 return;
             if (bAllBounds)
-                SelectAgain(pass);
+                pass.SelectAgain();
         }
     }
     if (IsValid(range))
-        ChangeRange(range, bSelectCells != FALSE, pass);
-}
-
-/// Everything, in the books and in the cells. What lies in the new range is repainted when that is selected.
-void CGridCtrl::UnselectAll(const CCellRange& newRange, SSelectPass& pass)
-{
-    for (const CCellID& cell : m_mapSelected.Cells())
-    {
-        if (!IsValid(cell))
-        {
-            m_mapSelected.Remove(cell.row, cell.col);
-            continue;
-        }
-        SetItemState(cell.row, cell.col, GetItemState(cell.row, cell.col) & ~CELL_SELECTED);
-        if (!newRange.InRange(cell.row, cell.col))
-            RepaintSelection(cell.row, cell.col, pass);
-    }
-}
-
-/// What was selected before a gesture with Ctrl began.
-void CGridCtrl::SelectAgain(SSelectPass& pass)
-{
-    for (const CCellID& cell : m_mapPrevSelected.Cells())
-    {
-        if (!IsValid(cell))
-            continue;
-        SetItemState(cell.row, cell.col, GetItemState(cell.row, cell.col) | CELL_SELECTED);
-        RepaintSelection(cell.row, cell.col, pass);
-    }
-}
-
-void CGridCtrl::ChangeRange(const CCellRange& range, bool bSelect, SSelectPass& pass)
-{
-    for (int nRow = range.minRow; nRow <= range.maxRow; ++nRow)
-        for (int nCol = range.minCol; nCol <= range.maxCol; ++nCol)
-        {
-            if ((IsCellSelected(nRow, nCol) != FALSE) == bSelect)
-                continue;
-            const UINT nState = GetItemState(nRow, nCol);
-            SetItemState(nRow, nCol, bSelect ? nState | CELL_SELECTED : nState & ~CELL_SELECTED);
-            RepaintSelection(nRow, nCol, pass);
-        }
-}
-
-void CGridCtrl::RepaintSelection(int nRow, int nCol, SSelectPass& pass)
-{
-    if (!pass.visible.InRange(nRow, nCol))
-        return;
-    if (pass.DC())
-        RedrawCell(nRow, nCol, pass.DC());
-    else
-        InvalidateCellRect(nRow, nCol);
+        pass.Change(range, bSelectCells != FALSE);
 }
 
 void CGridCtrl::ResetSelectedRange()
@@ -336,66 +332,4 @@ void CGridCtrl::SetListMode(BOOL bEnableListMode)
     m_bListMode = bEnableListMode;
     m_bFixedRowSelection = FALSE;
     InvalidateGrid();
-}
-
-// ---- Walking by state -------------------------------------------------------------------------------------
-
-namespace
-{
-/// The state bits that a word of GVNI_ flags asks for.
-UINT StatesAskedFor(int nFlags)
-{
-    UINT nStates = nFlags & (CELL_FOCUSED | CELL_SELECTED | CELL_DROPHILITED | CELL_READONLY | CELL_FIXED);
-    if (nFlags & GVNI_MODIFIED)
-        nStates |= CELL_MODIFIED;
-    return nStates;
-}
-} // namespace
-
-CCellID CGridCtrl::GetNextItem(CCellID& start, int nFlags) const
-{
-    // Outside there is nothing to be found; just so far outside that the next cell can still be named.
-    const CCellID cell(std::clamp(start.row, -1, GetRowCount()), std::clamp(start.col, -1, GetColumnCount()));
-    const UINT nStates = StatesAskedFor(nFlags);
-    const auto matches = [&](int nRow, int nCol) { return (GetItemState(nRow, nCol) & nStates) != 0; };
-
-    if ((nFlags & GVNI_AREA) == GVNI_AREA)
-    {
-        // With all three flags the rows below are searched from their start, otherwise from the start column
-        // on.
-        const bool bWholeRows = (nFlags & GVNI_ALL) == GVNI_ALL;
-        const int nStartRow = cell.row < 1 ? m_rows.Fixed() : cell.row;
-        const int nStartCol = cell.col + 1 < 1 ? m_cols.Fixed() : cell.col + 1;
-        for (int nRow = nStartRow; nRow < GetRowCount(); ++nRow)
-            for (int nCol = bWholeRows && nRow > nStartRow ? m_cols.Fixed() : nStartCol;
-                 nCol < GetColumnCount(); ++nCol)
-                if (matches(nRow, nCol))
-                    return CCellID(nRow, nCol);
-        return CCellID();
-    }
-    if (nFlags & GVNI_ABOVE)
-    {
-        for (int nRow = cell.row - 1; nRow >= m_rows.Fixed(); --nRow)
-            if (matches(nRow, cell.col))
-                return CCellID(nRow, cell.col);
-    }
-    else if (nFlags & GVNI_BELOW)
-    {
-        for (int nRow = cell.row + 1; nRow < GetRowCount(); ++nRow)
-            if (matches(nRow, cell.col))
-                return CCellID(nRow, cell.col);
-    }
-    else if (nFlags & GVNI_TOLEFT)
-    {
-        for (int nCol = cell.col - 1; nCol >= m_cols.Fixed(); --nCol)
-            if (matches(cell.row, nCol))
-                return CCellID(cell.row, nCol);
-    }
-    else if (nFlags & GVNI_TORIGHT)
-    {
-        for (int nCol = cell.col + 1; nCol < GetColumnCount(); ++nCol)
-            if (matches(cell.row, nCol))
-                return CCellID(cell.row, nCol);
-    }
-    return CCellID();
 }

@@ -10,6 +10,7 @@
 
 #include "grid/GridTypes.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <vector>
 
@@ -43,6 +44,20 @@ public:
         for (const auto& entry : m_cells)
             cells.push_back(entry.second);
         return cells;
+    }
+
+    /// The smallest range around all of them; with none of them the counts as minima, and maxima of -1.
+    CCellRange Around(int nRowCount, int nColCount) const
+    {
+        CCellRange range(nRowCount, nColCount, -1, -1);
+        for (const auto& [nKey, cell] : m_cells)
+        {
+            range.minRow = std::min(range.minRow, cell.row);
+            range.minCol = std::min(range.minCol, cell.col);
+            range.maxRow = std::max(range.maxRow, cell.row);
+            range.maxCol = std::max(range.maxCol, cell.col);
+        }
+        return range;
     }
 
 private:
