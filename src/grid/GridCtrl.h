@@ -95,13 +95,22 @@
 //
 // SOURCES
 //
-//     GridCtrl.cpp       construction, message map, settings      GridSelection.cpp  focus and selection
-//     GridStorage.cpp    rows, columns, cells                     GridMouse.cpp      mouse state machine
-//     GridItems.cpp      text, state, colours of single cells     GridKeyboard.cpp   keys
-//     GridGeometry.cpp   cells to pixels and back, sizing to fit  GridSort.cpp       sorting
-//     GridScroll.cpp     scroll bars and the wheel                GridFile.cpp       text files, saved widths
-//     GridDraw.cpp       painting                                 GridUnits.cpp      units of columns
-//     GridEdit.cpp       the start and the end of an edit         GridVirtual.cpp    virtual mode, notifications
+// The grid answers messages, and hands the work to parts that know no grid:
+//
+//     GridCtrl.cpp       construction, message map, settings
+//     GridStorage.cpp    rows, columns, cells                     GridCells
+//     GridItems.cpp      text, state, colours of single cells
+//     GridVirtual.cpp    virtual mode, notifications
+//     GridGeometry.cpp   cells to pixels and back, sizing to fit  GridView on two GridAxis
+//     GridScroll.cpp     scroll bars and the wheel                GridScrollBars
+//     GridDraw.cpp       painting                                 GridPainter
+//     GridSelection.cpp  focus and selection                      GridSelectionMap, GridStateWalk
+//     GridMouse.cpp      mouse state machine                      GridDivider
+//     GridKeyboard.cpp   keys                                     GridKeyWalk
+//     GridEdit.cpp       the start and the end of an edit
+//     GridSort.cpp       sorting                                  RowSorter
+//     GridFile.cpp       text files, saved widths                 TextFields, SavedWidths
+//     GridUnits.cpp      units of columns
 //
 // Everything runs on the thread of the window.
 
@@ -154,7 +163,6 @@ constexpr int GVNI_AREA = GVNI_BELOW | GVNI_TORIGHT;              ///< row by ro
 /// The format of headings: centred, on one line.
 constexpr UINT GV_HEADING_FORMAT = DT_CENTER | DT_VCENTER | DT_SINGLELINE;
 
-class CGridDividers;
 class CGridPainter;
 struct SGridColors;
 
@@ -681,7 +689,8 @@ private:
     class CSortedRows;
     class CSelectPass;
     class CScrollRun;
-    struct SKeyMove;
+    class CSizing;
+    class CKeyStroke;
     struct SLines;
 
     // Construction and settings
@@ -725,6 +734,7 @@ private:
     CSize GetClientSize() const;
     CGridView GetView(BOOL bForceRecalculation = FALSE);
     CCellRange AutoSizeSpan(UINT nStyle) const;
+    BOOL SizeToCells(EGridWay way, const CCellRange& cells, const CCellRange& hint, BOOL bResetScroll);
     void FitColumnAndRows(int nCol, const CCellRange& span, CDC* pDC);
     void Expand(EGridWay way, BOOL bExpandFixed);
 
@@ -752,31 +762,18 @@ private:
     bool IsInText(const CCellID& cell, CPoint point);
     bool IsBodyCell(const CCellID& cell) const;
     bool FindDivider(CPoint point);
-    bool IsOverDivider() const;
     void DeselectPressed();
     void BeginGesture(UINT nFlags, CPoint point);
     void BeginSelecting(UINT nFlags);
-    CGridDividers Dividers();
-    void BeginSizing(CPoint point);
-    void InvertMarker(CPoint point);
-    bool EndSizing(CPoint point);
     void Hover(CPoint point);
     bool Drag(CPoint point);
     bool DragSelection(const CCellID& cell);
     void TellClick(CPoint pointInCell);
     void TellDoubleClick(const CCellID& cell, CPoint point);
-    bool FitAtDivider(const CCellID& cell, CPoint point);
     void StepSelection(UINT nKey, CPoint pointAtEdge);
     void StopAutoScroll();
 
     // Keyboard
-    bool MoveByKey(SKeyMove& move);
-    std::optional<int> ScrollPage(SKeyMove& move);
-    bool ScrollToEdge(SKeyMove& move, UINT nSBCode);
-    bool ScrollByKey(SKeyMove& move, EGridWay way, UINT nSBCode);
-    void FollowKey(SKeyMove& move);
-    void SelectByKey(const SKeyMove& move);
-    bool ScrollForKey(SKeyMove& move);
     bool StartsEdit(UINT nChar) const;
 
     // Editing

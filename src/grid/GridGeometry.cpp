@@ -168,45 +168,40 @@ CCellRange CGridCtrl::AutoSizeSpan(UINT nStyle) const
 
 BOOL CGridCtrl::AutoSizeColumn(int nCol, UINT nAutoSizeStyle, BOOL bResetScroll)
 {
-    if (!m_cols.IsShown(nCol))
-        return FALSE;
-    const CClientArea area(*this);
-    if (!area.DC())
-        return FALSE;
-
     const CCellRange span = AutoSizeSpan(nAutoSizeStyle);
-    SendCacheHintToParent(CCellRange(span.minRow, nCol, span.maxRow, nCol));
-    int nWidth = 0;
-    for (int nRow = span.minRow; nRow <= span.maxRow; ++nRow)
-        if (CGridCellBase* const pCell = GetCell(nRow, nCol))
-            nWidth = std::max<int>(nWidth, pCell->GetCellExtent(area.DC()).cx);
-    SendCacheHintToParent(kNoCells);
-
-    if (m_cols.Has(nCol))
-        m_cols.SetSize(nCol, nWidth);
-    if (bResetScroll)
-        ResetScrollBars();
-    return TRUE;
+    const CCellRange cells(span.minRow, nCol, span.maxRow, nCol);
+    return SizeToCells(EGridWay::eColumns, cells, cells, bResetScroll);
 }
 
 // The hint names one column more than there is; receivers have to bear it.
 BOOL CGridCtrl::AutoSizeRow(int nRow, BOOL bResetScroll)
 {
-    if (!m_rows.IsShown(nRow))
+    const int nCols = GetColumnCount();
+    return SizeToCells(EGridWay::eRows, CCellRange(nRow, 0, nRow, nCols - 1),
+                       CCellRange(nRow, 0, nRow, nCols), bResetScroll);
+}
+
+/// One column, or row, as large as the largest of its cells.
+BOOL CGridCtrl::SizeToCells(EGridWay way, const CCellRange& cells, const CCellRange& hint, BOOL bResetScroll)
+{
+    CGridAxis& axis = Axis(way);
+    const int nItem = gfnItemAlong(way, CCellID(cells.minRow, cells.minCol));
+    if (!axis.IsShown(nItem))
         return FALSE;
     const CClientArea area(*this);
     if (!area.DC())
         return FALSE;
 
-    SendCacheHintToParent(CCellRange(nRow, 0, nRow, GetColumnCount()));
-    int nHeight = 0;
-    for (int nCol = 0; nCol < GetColumnCount(); ++nCol)
-        if (CGridCellBase* const pCell = GetCell(nRow, nCol))
-            nHeight = std::max<int>(nHeight, pCell->GetCellExtent(area.DC()).cy);
+    SendCacheHintToParent(hint);
+    int nSize = 0;
+    for (int nRow = cells.minRow; nRow <= cells.maxRow; ++nRow)
+        for (int nCol = cells.minCol; nCol <= cells.maxCol; ++nCol)
+            if (CGridCellBase* const pCell = GetCell(nRow, nCol))
+                nSize = std::max(nSize, gfnAlong(way, pCell->GetCellExtent(area.DC())));
     SendCacheHintToParent(kNoCells);
 
-    if (m_rows.Has(nRow))
-        m_rows.SetSize(nRow, nHeight);
+    if (axis.Has(nItem))
+        axis.SetSize(nItem, nSize);
     if (bResetScroll)
         ResetScrollBars();
     return TRUE;

@@ -19,28 +19,6 @@ bool IsDown(int nVirtualKey)
 }
 } // namespace
 
-/// One key stroke on its way: where it leads, and what it has scrolled.
-struct CGridCtrl::SKeyMove
-{
-    UINT key;
-    UINT repeat;
-    UINT flags;
-    bool shift;
-    bool control;
-    CCellID next;
-    bool wrapped = false;
-    bool scrolledH = false;
-    bool scrolledV = false;
-
-    /// 1 on, to the right or down, -1 back.
-    int Step() const
-    {
-        if (key == VK_TAB)
-            return shift ? -1 : 1;
-        return key == VK_RIGHT || key == VK_DOWN || key == VK_NEXT ? 1 : -1;
-    }
-};
-
 UINT CGridCtrl::OnGetDlgCode()
 {
     if (!m_bHandleTabKey || IsDown(VK_CONTROL)) // Tab leaves the grid
@@ -48,7 +26,50 @@ UINT CGridCtrl::OnGetDlgCode()
     return DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTTAB;
 }
 
-// ---- Key down ---------------------------------------------------------------------------------------------
+// ---- Key down
+// ---------------------------------------------------------------------------------------------
+
+/// One key on its way: where it leads, what it scrolls, and what it takes
+/// along.
+class CGridCtrl::CKeyStroke
+{
+public:
+    CKeyStroke(CGridCtrl& grid, UINT nChar, UINT nRepCnt, UINT nFlags)
+        : m_grid(grid), m_life(grid), m_nKey(grid.m_bEnterIsTab && nChar == VK_RETURN ? VK_TAB : nChar),
+          m_nRepCnt(nRepCnt), m_nFlags(nFlags), m_next(grid.m_focusCell)
+    {
+    }
+
+    bool IsSelectAll() const { return m_bControl && m_nKey == kSelectAllKey; }
+
+    /// False for a key that means nothing here.
+    bool Go();
+    void DoDefault() { m_grid.CWnd::OnKeyDown(m_nKey, m_nRepCnt, m_nFlags); }
+
+    /// Takes selection, focus and view along.
+    void Follow();
+
+private:
+    int Step() const;
+    CGridKeyWalk Walk() const;
+    void GoTab();
+    void GoPage();
+    bool ScrollToEdge(UINT nSBCode);
+    bool Scroll(EGridWay way, UINT nSBCode);
+    bool ScrollTowards();
+    void Select() const;
+
+    CGridCtrl& m_grid;
+    const CLifeWatch m_life;
+    const UINT m_nKey;
+    const UINT m_nRepCnt;
+    const UINT m_nFlags;
+    const bool m_bShift = IsDown(VK_SHIFT);
+    const bool m_bControl = IsDown(VK_CONTROL);
+    CCellID m_next;
+    bool m_bWrapped = false; ///< a Tab has gone into another row
+    bool m_bScrolled[2] = {};
+};
 
 void CGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
@@ -58,154 +79,167 @@ void CGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
         return;
     }
     const CLifeWatch life(*this);
-    SKeyMove move{nChar, nRepCnt, nFlags, IsDown(VK_SHIFT), IsDown(VK_CONTROL), m_focusCell};
-    if (move.control && nChar == kSelectAllKey)
+    CKeyStroke stroke(*this, nChar, nRepCnt, nFlags);
+    if (stroke.IsSelectAll())
         OnEditSelectAll();
     if (!life.WindowLives())
         return;
-    if (m_bEnterIsTab && nChar == VK_RETURN)
-        move.key = VK_TAB;
-
-    if (!MoveByKey(move))
-    {
-        CWnd::OnKeyDown(move.key, nRepCnt, nFlags);
-        return;
-    }
-    if (!life.WindowLives())
-        return;
-    if (move.next != m_focusCell)
-        FollowKey(move);
+    if (!stroke.Go())
+        stroke.DoDefault();
+    else if (life.WindowLives())
+        stroke.Follow();
 }
 
-/// False for a key that means nothing here.
-bool CGridCtrl::MoveByKey(SKeyMove& move)
+// ---- Where a key leads
+// ------------------------------------------------------------------------------------
+
+/// 1 on, to the right or down, -1 back.
+int CGridCtrl::CKeyStroke::Step() const
 {
-    const auto mayEdit = [this](const CCellID& cell)
+    if (m_nKey == VK_TAB)
+        return m_bShift ? -1 : 1;
+    return m_nKey == VK_RIGHT || m_nKey == VK_DOWN || m_nKey == VK_NEXT ? 1 : -1;
+}
+
+CGridKeyWalk CGridCtrl::CKeyStroke::Walk() const
+{
+    const auto mayEdit = [&grid = m_grid](const CCellID& cell)
     {
-        CGridCellBase* const pCell = GetCell(cell.row, cell.col);
+        CGridCellBase* const pCell = grid.GetCell(cell.row, cell.col);
         return pCell && !pCell->IsFixed() && !pCell->IsReadOnly();
     };
-    const CGridKeyWalk walk(m_rows, m_cols, m_bEnterIsTab ? CGridKeyWalk::CTest(mayEdit) : nullptr);
-    switch (move.key)
+    return CGridKeyWalk(m_grid.m_rows, m_grid.m_cols,
+                        m_grid.m_bEnterIsTab ? CGridKeyWalk::CTest(mayEdit) : nullptr);
+}
+
+bool CGridCtrl::CKeyStroke::Go()
+{
+    switch (m_nKey)
     {
     case VK_DELETE: // does not clear cells: ClearCells is for callers
         return true;
     case VK_DOWN:
     case VK_UP:
-        move.next = walk.Vertically(move.next, move.Step());
+        m_next = Walk().Vertically(m_next, Step());
         return true;
     case VK_RIGHT:
     case VK_LEFT:
-        move.next = walk.Sideways(move.next, move.Step());
+        m_next = Walk().Sideways(m_next, Step());
         return true;
     case VK_TAB:
-        move.wrapped = walk.TabWraps(move.next, move.Step());
-        if (!move.wrapped) // a Tab that stays in its row also gets the default handling
-            CWnd::OnKeyDown(move.key, move.repeat, move.flags);
-        move.next = walk.Tab(move.next, move.Step());
+        GoTab();
         return true;
     case VK_NEXT:
     case VK_PRIOR:
-        if (const std::optional<int> moved = ScrollPage(move))
-            move.next = walk.ByPage(move.next, move.Step(), *moved);
+        GoPage();
         return true;
     case VK_HOME:
-        if (ScrollToEdge(move, SB_LEFT))
-            move.next = walk.ToStart(move.next, move.control);
+        if (ScrollToEdge(SB_LEFT))
+            m_next = Walk().ToStart(m_next, m_bControl);
         return true;
     case VK_END:
-        if (ScrollToEdge(move, SB_RIGHT))
-            move.next = walk.ToEnd(move.next, move.control);
+        if (ScrollToEdge(SB_RIGHT))
+            m_next = Walk().ToEnd(m_next, m_bControl);
         return true;
     case VK_F2:
-        if (!m_bEnterIsTab)
+        if (!m_grid.m_bEnterIsTab)
             return false;
-        OnEditCell(m_focusCell.row, m_focusCell.col, CPoint(-1, -1), VK_LBUTTON);
+        m_grid.StartEditCell();
         return true;
     default:
         return false;
     }
 }
 
-/// By how many rows the view has moved; nothing if the window did not outlive it.
-std::optional<int> CGridCtrl::ScrollPage(SKeyMove& move)
+// A Tab that stays in its row also gets the default handling.
+void CGridCtrl::CKeyStroke::GoTab()
 {
-    const int nTopBefore = GetTopleftNonFixedCell().row;
-    if (!ScrollByKey(move, EGridWay::eRows, move.Step() > 0 ? SB_PAGEDOWN : SB_PAGEUP))
-        return {};
-    return GetTopleftNonFixedCell().row - nTopBefore;
+    m_bWrapped = Walk().TabWraps(m_next, Step());
+    if (!m_bWrapped)
+        DoDefault();
+    m_next = Walk().Tab(m_next, Step());
 }
 
-/// To an end of the row or, with Ctrl, of the grid. False if the window did not outlive it.
-bool CGridCtrl::ScrollToEdge(SKeyMove& move, UINT nSBCode)
+void CGridCtrl::CKeyStroke::GoPage()
 {
-    return (!move.control || ScrollByKey(move, EGridWay::eRows, nSBCode)) &&
-           ScrollByKey(move, EGridWay::eColumns, nSBCode);
+    const int nTopBefore = m_grid.GetTopleftNonFixedCell().row;
+    if (Scroll(EGridWay::eRows, Step() > 0 ? SB_PAGEDOWN : SB_PAGEUP))
+        m_next = Walk().ByPage(m_next, Step(), m_grid.GetTopleftNonFixedCell().row - nTopBefore);
 }
 
-bool CGridCtrl::ScrollByKey(SKeyMove& move, EGridWay way, UINT nSBCode)
+/// To an end of the row or, with Ctrl, of the grid.
+bool CGridCtrl::CKeyStroke::ScrollToEdge(UINT nSBCode)
 {
-    (way == EGridWay::eColumns ? move.scrolledH : move.scrolledV) = true;
-    return SendScroll(way, nSBCode);
+    return (!m_bControl || Scroll(EGridWay::eRows, nSBCode)) && Scroll(EGridWay::eColumns, nSBCode);
 }
 
-/// Takes selection, focus and view along.
-void CGridCtrl::FollowKey(SKeyMove& move)
+/// False if the window did not outlive it.
+bool CGridCtrl::CKeyStroke::Scroll(EGridWay way, UINT nSBCode)
 {
-    const CLifeWatch life(*this);
-    SelectByKey(move);
-    SetFocusCell(move.next, TRUE);
-    if (!life.WindowLives())
+    m_bScrolled[gfnBarOf(way)] = true;
+    return m_grid.SendScroll(way, nSBCode);
+}
+
+// ---- What a key takes along
+// -------------------------------------------------------------------------------
+
+void CGridCtrl::CKeyStroke::Follow()
+{
+    if (m_next == m_grid.m_focusCell)
         return;
-    if (!IsCellVisible(move.next))
+    Select();
+    m_grid.SetFocusCell(m_next, TRUE);
+    if (!m_life.WindowLives())
+        return;
+    if (!m_grid.IsCellVisible(m_next))
     {
-        if (!ScrollForKey(move))
+        if (!ScrollTowards())
             return;
-        EnsureVisible(move.next);
-        if (!life.WindowLives())
+        m_grid.EnsureVisible(m_next);
+        if (!m_life.WindowLives())
             return;
-        Invalidate();
+        m_grid.Invalidate();
     }
-    EnsureVisible(move.next);
-    if (move.scrolledH && life.WindowLives())
-        SendScroll(EGridWay::eColumns, SB_ENDSCROLL);
-    if (move.scrolledV && life.WindowLives())
-        SendScroll(EGridWay::eRows, SB_ENDSCROLL);
+    m_grid.EnsureVisible(m_next);
+    for (const EGridWay way : {EGridWay::eColumns, EGridWay::eRows})
+        if (m_bScrolled[gfnBarOf(way)] && m_life.WindowLives())
+            m_grid.SendScroll(way, SB_ENDSCROLL);
 }
 
-/// With Shift from the anchor, otherwise just the new cell. While the mouse selects, that is the mouse's
-/// business.
-void CGridCtrl::SelectByKey(const SKeyMove& move)
+/// With Shift from the anchor, otherwise just the new cell. While the mouse
+/// selects, that is the mouse's business.
+void CGridCtrl::CKeyStroke::Select() const
 {
-    if (m_nMouseMode != MODE_NOTHING)
+    if (m_grid.m_nMouseMode != MODE_NOTHING)
         return;
-    m_mapPrevSelected.RemoveAll();
-    m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
-    if (!move.shift || move.key == VK_TAB)
-        m_selectionStart = move.next;
-    OnSelecting(move.next);
-    m_nMouseMode = MODE_NOTHING;
+    m_grid.m_mapPrevSelected.RemoveAll();
+    m_grid.m_nMouseMode = m_grid.m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
+    if (!m_bShift || m_nKey == VK_TAB)
+        m_grid.m_selectionStart = m_next;
+    m_grid.OnSelecting(m_next);
+    m_grid.m_nMouseMode = MODE_NOTHING;
 }
 
-/// A line in the direction of the key; for a Tab into another row also to the other end of it.
-bool CGridCtrl::ScrollForKey(SKeyMove& move)
+/// A line in the direction of the key; for a Tab into another row also to the
+/// other end of it.
+bool CGridCtrl::CKeyStroke::ScrollTowards()
 {
-    const bool bOn = move.Step() > 0;
+    const bool bOn = Step() > 0;
     const UINT nLine = bOn ? SB_LINEDOWN : SB_LINEUP;
-    switch (move.key)
+    switch (m_nKey)
     {
     case VK_UP:
     case VK_DOWN:
-        return ScrollByKey(move, EGridWay::eRows, nLine);
+        return Scroll(EGridWay::eRows, nLine);
     case VK_LEFT:
     case VK_RIGHT:
-        return ScrollByKey(move, EGridWay::eColumns, nLine);
+        return Scroll(EGridWay::eColumns, nLine);
     case VK_TAB:
-        if (!move.wrapped)
-            return ScrollByKey(move, EGridWay::eColumns, nLine);
-        if (!ScrollByKey(move, EGridWay::eRows, nLine))
+        if (!m_bWrapped)
+            return Scroll(EGridWay::eColumns, nLine);
+        if (!Scroll(EGridWay::eRows, nLine))
             return false;
-        SetScrollPos32(SB_HORZ, bOn ? 0 : m_nHScrollMax);
+        m_grid.SetScrollPos32(SB_HORZ, bOn ? 0 : m_grid.m_nHScrollMax);
         return true;
     default:
         return true;
@@ -222,7 +256,8 @@ void CGridCtrl::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
     CWnd::OnSysKeyDown(nChar, nRepCnt, nFlags);
 }
 
-// ---- Characters start an edit -----------------------------------------------------------------------------
+// ---- Characters start an edit
+// -----------------------------------------------------------------------------
 
 bool CGridCtrl::StartsEdit(UINT nChar) const
 {

@@ -4,8 +4,8 @@
 //                  -> selecting all, columns, rows or cells -> over nothing
 //                  -> prepared to edit -> over nothing, with an editor open
 //
-// A move changes the mode only between nothing and the two dividers; a press enters a gesture; the release
-// ends it.
+// A move changes the mode only between nothing and the two dividers; a press
+// enters a gesture; the release ends it.
 
 #include <afxwin.h>
 
@@ -16,21 +16,112 @@
 #include "grid/GridLifeWatch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
-void ShowCursor(LPCWSTR pszCursor)
+void ShowStandardCursor(LPCWSTR pszCursor)
 {
     ::SetCursor(::LoadCursor(nullptr, pszCursor));
 }
-
-void ShowDividerCursor(EGridWay way)
-{
-    ShowCursor(way == EGridWay::eColumns ? IDC_SIZEWE : IDC_SIZENS);
-}
 } // namespace
 
-// ---- Press ------------------------------------------------------------------------------------------------
+/// The dividers that the mouse is over or drags, by the mode.
+class CGridCtrl::CSizing
+{
+public:
+    explicit CSizing(CGridCtrl& grid)
+        : m_grid(grid),
+          m_bColumns(grid.m_nMouseMode == MODE_OVER_COL_DIVIDE || grid.m_nMouseMode == MODE_SIZING_COL),
+          m_dividers(m_bColumns ? EGridWay::eColumns : EGridWay::eRows, grid.GetView(),
+                     grid.m_nResizeCaptureRange)
+    {
+    }
+
+    static bool IsOver(const CGridCtrl& grid)
+    {
+        return grid.m_nMouseMode == MODE_OVER_COL_DIVIDE || grid.m_nMouseMode == MODE_OVER_ROW_DIVIDE;
+    }
+    static bool IsOn(const CGridCtrl& grid)
+    {
+        return grid.m_nMouseMode == MODE_SIZING_COL || grid.m_nMouseMode == MODE_SIZING_ROW;
+    }
+
+    void ShowCursor() const { ShowStandardCursor(m_bColumns ? IDC_SIZEWE : IDC_SIZENS); }
+
+    // What does not come to its end leaves the mode as it is and the cursor free;
+    // the release puts that right.
+    void Begin(CPoint point) const
+    {
+        m_grid.m_nMouseMode = m_bColumns ? MODE_SIZING_COL : MODE_SIZING_ROW;
+        const BOOL bOpensHidden = m_bColumns ? m_grid.m_bHiddenColUnhide : m_grid.m_bHiddenRowUnhide;
+        CGridDividers::STaken taken = m_dividers.Take(m_grid.m_clickDownCell, point, bOpensHidden != FALSE);
+        if (taken.bMarked)
+            InvertMarker(point);
+        if (!taken.bHeld)
+            return;
+        m_grid.ClientToScreen(&taken.rectHeld);
+        ::ClipCursor(&taken.rectHeld);
+        m_grid.m_ptLastMouse = point;
+    }
+
+    void Drag(CPoint point) const
+    {
+        InvertMarker(m_grid.m_ptLastMouse);
+        InvertMarker(point);
+    }
+
+    /// The new size from the release. False if what was sized is not in view any
+    /// more.
+    bool End(CPoint point) const
+    {
+        InvertMarker(m_grid.m_ptLastMouse);
+        if (point == m_grid.m_ptClickClient || point == CPoint(0, 0))
+            return true;
+        const CCellID sized = m_grid.m_clickDownCell;
+        const BOOL bMayHide = m_bColumns ? m_grid.m_bColumnHide : m_grid.m_bRowHide;
+        int nSize = 0;
+        if (!m_dividers.Drop(sized, point, bMayHide != FALSE, nSize))
+            return false;
+        if (m_bColumns)
+            m_grid.SetColumnWidth(sized.col, nSize, TRUE);
+        else
+            m_grid.SetRowHeight(sized.row, nSize);
+        m_grid.ResetScrollBars();
+        m_grid.Invalidate();
+        return true;
+    }
+
+    /// Sizes the column or row at a divider to its contents. False where there is
+    /// none.
+    bool Fit(const CCellID& cell, CPoint point) const
+    {
+        const int nItem = m_dividers.Fit(cell, point);
+        if (nItem < 0)
+            return false;
+        if (m_bColumns)
+            m_grid.AutoSizeColumn(nItem, m_grid.m_nAutoSizeStyle, TRUE);
+        else
+            m_grid.AutoSizeRow(nItem, TRUE);
+        m_grid.Invalidate();
+        return true;
+    }
+
+private:
+    void InvertMarker(CPoint point) const
+    {
+        const CClientArea area(m_grid);
+        if (area.DC())
+            area.DC()->InvertRect(CRect(m_dividers.Marker(point)));
+    }
+
+    CGridCtrl& m_grid;
+    const bool m_bColumns;
+    const CGridDividers m_dividers;
+};
+
+// ---- Press
+// ------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
 {
@@ -73,7 +164,7 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
             return;
         }
     }
-    else if (!IsOverDivider())
+    else if (!CSizing::IsOver(*this))
     {
         SetFocusCell(CCellID(), TRUE);
         if (m_rows.Count() > m_rows.Fixed() && m_cols.Count() > m_cols.Fixed())
@@ -87,8 +178,9 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         m_ptLastMouse = point;
 }
 
-/// Whoever is told of a press may show a message box, and the button is up again when it closes: whatever the
-/// press was going to begin would then have no end.
+/// Whoever is told of a press may show a message box, and the button is up
+/// again when it closes: whatever the press was going to begin would then have
+/// no end.
 bool CGridCtrl::PressGoesOn()
 {
     if (!m_bPressLost && (!m_bRealPress || ::GetKeyState(VK_LBUTTON) < 0))
@@ -107,7 +199,8 @@ void CGridCtrl::OnKillFocus(CWnd* pNewWnd)
         m_bPressLost = true;
 }
 
-/// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
+/// Ctrl on a selected cell takes it, or in list mode its row, out of the
+/// selection.
 void CGridCtrl::DeselectPressed()
 {
     const CLifeWatch life(*this);
@@ -124,8 +217,8 @@ void CGridCtrl::BeginGesture(UINT nFlags, CPoint point)
 {
     if (m_nMouseMode == MODE_NOTHING)
         FindDivider(point);
-    if (IsOverDivider())
-        BeginSizing(point);
+    if (CSizing::IsOver(*this))
+        CSizing(*this).Begin(point);
     else
         BeginSelecting(nFlags);
 }
@@ -146,31 +239,28 @@ void CGridCtrl::BeginSelecting(UINT nFlags)
         OnFixedColumnClick(m_clickDownCell);
     else
     {
-        // Only here a drag beyond the edge scrolls; one that began on a header does not.
+        // Only here a drag beyond the edge scrolls; one that began on a header does
+        // not.
         m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
         OnSelecting(m_clickDownCell);
         m_nTimerId = SetTimer(AutoScrollTimerId, m_nTimerInterval, nullptr);
     }
 }
 
-/// The mode and the cursor of the divider at a point; false if there is none that may be dragged.
+/// The mode and the cursor of the divider at a point; false if there is none
+/// that may be dragged.
 bool CGridCtrl::FindDivider(CPoint point)
 {
-    EGridWay way = EGridWay::eColumns;
-    if (!m_bAllowColumnResize || !MouseOverColumnResizeArea(point))
-        way = EGridWay::eRows;
-    if (way == EGridWay::eRows && (!m_bAllowRowResize || !MouseOverRowResizeArea(point)))
+    int nMode = MODE_NOTHING;
+    if (m_bAllowColumnResize && MouseOverColumnResizeArea(point))
+        nMode = MODE_OVER_COL_DIVIDE;
+    else if (m_bAllowRowResize && MouseOverRowResizeArea(point))
+        nMode = MODE_OVER_ROW_DIVIDE;
+    else
         return false;
-    const int nMode = way == EGridWay::eColumns ? MODE_OVER_COL_DIVIDE : MODE_OVER_ROW_DIVIDE;
-    if (m_nMouseMode != nMode)
-        ShowDividerCursor(way);
-    m_nMouseMode = nMode;
+    if (std::exchange(m_nMouseMode, nMode) != nMode)
+        CSizing(*this).ShowCursor();
     return true;
-}
-
-bool CGridCtrl::IsOverDivider() const
-{
-    return m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_OVER_ROW_DIVIDE;
 }
 
 bool CGridCtrl::IsInText(const CCellID& cell, CPoint point)
@@ -193,58 +283,8 @@ CCellID CGridCtrl::RaisedToBody(CCellID cell) const
     return CCellID(std::max(cell.row, m_rows.Fixed()), std::max(cell.col, m_cols.Fixed()));
 }
 
-// ---- Sizing -----------------------------------------------------------------------------------------------
-
-/// Those that the mouse is at, over or dragging.
-CGridDividers CGridCtrl::Dividers()
-{
-    const bool bColumns = m_nMouseMode == MODE_OVER_COL_DIVIDE || m_nMouseMode == MODE_SIZING_COL;
-    return CGridDividers(bColumns ? EGridWay::eColumns : EGridWay::eRows, GetView(), m_nResizeCaptureRange);
-}
-
-// The early returns leave the mode as it is and the cursor free; the release puts that right.
-void CGridCtrl::BeginSizing(CPoint point)
-{
-    const bool bColumn = m_nMouseMode == MODE_OVER_COL_DIVIDE;
-    m_nMouseMode = bColumn ? MODE_SIZING_COL : MODE_SIZING_ROW;
-    const bool bOpensHidden = (bColumn ? m_bHiddenColUnhide : m_bHiddenRowUnhide) != FALSE;
-    CGridDividers::STaken taken = Dividers().Take(m_clickDownCell, point, bOpensHidden);
-    if (taken.bMarked)
-        InvertMarker(point);
-    if (!taken.bHeld)
-        return;
-    ClientToScreen(&taken.rectHeld);
-    ::ClipCursor(&taken.rectHeld);
-    m_ptLastMouse = point;
-}
-
-void CGridCtrl::InvertMarker(CPoint point)
-{
-    const CClientArea area(*this);
-    if (area.DC())
-        area.DC()->InvertRect(CRect(Dividers().Marker(point)));
-}
-
-/// The new size from the release. False if what was sized is not in view any more.
-bool CGridCtrl::EndSizing(CPoint point)
-{
-    const bool bColumn = m_nMouseMode == MODE_SIZING_COL;
-    InvertMarker(m_ptLastMouse);
-    if (point == m_ptClickClient || point == CPoint(0, 0))
-        return true;
-    int nSize = 0;
-    if (!Dividers().Drop(m_clickDownCell, point, (bColumn ? m_bColumnHide : m_bRowHide) != FALSE, nSize))
-        return false;
-    if (bColumn)
-        SetColumnWidth(m_clickDownCell.col, nSize, TRUE);
-    else
-        SetRowHeight(m_clickDownCell.row, nSize);
-    ResetScrollBars();
-    Invalidate();
-    return true;
-}
-
-// ---- Move -------------------------------------------------------------------------------------------------
+// ---- Move
+// -------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnMouseMove(UINT /*nFlags*/, CPoint point)
 {
@@ -262,7 +302,7 @@ void CGridCtrl::Hover(CPoint point)
     if (!FindDivider(point) && m_nMouseMode != MODE_NOTHING)
     {
         m_nMouseMode = MODE_NOTHING;
-        ShowCursor(IDC_ARROW);
+        ShowStandardCursor(IDC_ARROW);
     }
     if (m_nMouseMode != MODE_NOTHING || (m_bVirtualMode && !m_bTitleTips))
         return;
@@ -271,7 +311,8 @@ void CGridCtrl::Hover(CPoint point)
         pCell->OnMouseOver();
 }
 
-/// Goes on with the gesture. False where it has nothing to go to: the last position then stays.
+/// Goes on with the gesture. False where it has nothing to go to: the last
+/// position then stays.
 bool CGridCtrl::Drag(CPoint point)
 {
     switch (m_nMouseMode)
@@ -282,15 +323,15 @@ bool CGridCtrl::Drag(CPoint point)
         return DragSelection(GetCellFromPt(point));
     case MODE_SIZING_ROW:
     case MODE_SIZING_COL:
-        InvertMarker(m_ptLastMouse);
-        InvertMarker(point);
+        CSizing(*this).Drag(point);
         return true;
     default:
         return true;
     }
 }
 
-/// A drag inside one row moves the focus quietly: the parent hears of it only when the row changes.
+/// A drag inside one row moves the focus quietly: the parent hears of it only
+/// when the row changes.
 bool CGridCtrl::DragSelection(const CCellID& cell)
 {
     if (!IsValid(cell))
@@ -303,7 +344,8 @@ bool CGridCtrl::DragSelection(const CCellID& cell)
     return true;
 }
 
-// ---- Release ----------------------------------------------------------------------------------------------
+// ---- Release
+// ----------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
 {
@@ -321,9 +363,9 @@ void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
     const CPoint pointInCell = GetPointClicked(m_focusCell.row, m_focusCell.col, point);
     if (m_nMouseMode == MODE_PREPARE_EDIT)
         OnEditCell(m_focusCell.row, m_focusCell.col, pointInCell, VK_LBUTTON);
-    else if (m_nMouseMode == MODE_SIZING_COL || m_nMouseMode == MODE_SIZING_ROW)
+    else if (CSizing::IsOn(*this))
     {
-        if (!EndSizing(point))
+        if (!CSizing(*this).End(point))
             return;
     }
     else
@@ -332,7 +374,7 @@ void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
         return;
 
     m_nMouseMode = MODE_NOTHING;
-    ShowCursor(IDC_ARROW);
+    ShowStandardCursor(IDC_ARROW);
     if (!IsValid(m_clickDownCell))
         return;
     const CWnd* const pOwner = GetOwner();
@@ -355,7 +397,8 @@ void CGridCtrl::StopAutoScroll()
     m_nTimerId = 0;
 }
 
-// ---- Double click -----------------------------------------------------------------------------------------
+// ---- Double click
+// -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
@@ -367,7 +410,7 @@ void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
     {
     case MODE_OVER_COL_DIVIDE:
     case MODE_OVER_ROW_DIVIDE:
-        if (!FitAtDivider(cell, point))
+        if (!CSizing(*this).Fit(cell, point))
             return;
         break;
     case MODE_NOTHING:
@@ -378,20 +421,6 @@ void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
     }
     if (life.WindowLives())
         CWnd::OnLButtonDblClk(nFlags, point);
-}
-
-/// Sizes the column or row at a divider to its contents.
-bool CGridCtrl::FitAtDivider(const CCellID& cell, CPoint point)
-{
-    const int nItem = Dividers().Fit(cell, point);
-    if (nItem < 0)
-        return false;
-    if (m_nMouseMode == MODE_OVER_COL_DIVIDE)
-        AutoSizeColumn(nItem, m_nAutoSizeStyle, TRUE);
-    else
-        AutoSizeRow(nItem, TRUE);
-    Invalidate();
-    return true;
 }
 
 void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
@@ -408,7 +437,8 @@ void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
         SendMessageToParent(cell.row, cell.col, NM_DBLCLK);
 }
 
-// ---- Right button -----------------------------------------------------------------------------------------
+// ---- Right button
+// -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnRButtonDown(UINT nFlags, CPoint point)
 {
@@ -439,13 +469,16 @@ void CGridCtrl::OnRButtonUp(UINT nFlags, CPoint point)
     if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
         pCell->OnRClick(GetPointClicked(cell.row, cell.col, point));
     if (life.WindowLives())
-        SendMessageToParent(cell.row, cell.col, NM_RCLICK); // the real cell, fixed or not
+        SendMessageToParent(cell.row, cell.col,
+                            NM_RCLICK); // the real cell, fixed or not
 }
 
-// ---- Drag beyond the edge ---------------------------------------------------------------------------------
+// ---- Drag beyond the edge
+// ---------------------------------------------------------------------------------
 
-// The grid sends itself arrow keys, which move the focus and scroll, and selects up to the edge. The mode is
-// not looked at: the timer lives during a gesture only.
+// The grid sends itself arrow keys, which move the focus and scroll, and
+// selects up to the edge. The mode is not looked at: the timer lives during a
+// gesture only.
 void CGridCtrl::OnTimer(UINT_PTR nIDEvent)
 {
     CPoint point;
@@ -486,15 +519,16 @@ void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
         StopAutoScroll();
 }
 
-// ---- Cursor -----------------------------------------------------------------------------------------------
+// ---- Cursor
+// -----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
     if (nHitTest != HTCLIENT)
         return CWnd::OnSetCursor(pWnd, nHitTest, message);
-    if (IsOverDivider())
+    if (CSizing::IsOver(*this))
     {
-        ShowDividerCursor(m_nMouseMode == MODE_OVER_COL_DIVIDE ? EGridWay::eColumns : EGridWay::eRows);
+        CSizing(*this).ShowCursor();
         return TRUE;
     }
     if (!m_bVirtualMode)
@@ -506,6 +540,6 @@ BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
         if (CGridCellBase* const pCell = GetCell(cell.row, cell.col))
             return pCell->OnSetCursor();
     }
-    ShowCursor(IDC_ARROW);
+    ShowStandardCursor(IDC_ARROW);
     return TRUE;
 }
