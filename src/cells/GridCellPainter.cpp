@@ -5,6 +5,8 @@
 #include "grid/GridCtrl.h"
 #include "module/GdiScope.h"
 
+#include <algorithm>
+
 namespace
 {
 /// The fills do not paint the right and bottom edges that the rectangle of a cell holds.
@@ -63,30 +65,93 @@ bool IsPlain(wchar_t ch)
            (ch >= 0x370 && ch < 0x483);
 }
 
-/// A line that fits, put where DrawText would put it, for half of its cost: it is measured once, and not
-/// searched for letters that change their order or shape. False if it does not fit, or is not plain.
+/// A line of plain characters with its measure, taken once for the fit, the place and the painting.
+class CPlainLine
+{
+public:
+    /// The start of the text, if that is longer than a line is ever wide.
+    bool Measure(CDC& dc, LPCWSTR pszText)
+    {
+        for (m_nLength = 0; m_nLength < kMostChars && pszText[m_nLength]; ++m_nLength)
+        {
+            if (!IsPlain(pszText[m_nLength]))
+                return false;
+            m_text[m_nLength] = pszText[m_nLength];
+        }
+        m_bWhole = !pszText[m_nLength];
+        SIZE size;
+        if (!::GetTextExtentExPointW(dc.m_hDC, m_text, m_nLength, 0, nullptr, m_ends, &size))
+            return false;
+        m_nHeight = size.cy;
+        return true;
+    }
+
+    bool IsWhole() const { return m_bWhole; }
+    int Width() const { return m_nLength > 0 ? m_ends[m_nLength - 1] : 0; }
+    int Height() const { return m_nHeight; }
+
+    /// Puts three points in place of the end, as many as it takes. False if not even two characters stay: what
+    /// is to be done then, DrawText knows.
+    bool Shorten(CDC& dc, int nWidth)
+    {
+        SIZE dots;
+        int dotEnds[kDots];
+        if (!::GetTextExtentExPointW(dc.m_hDC, L"...", kDots, 0, nullptr, dotEnds, &dots))
+            return false;
+        int nKept = std::min(m_nLength, kMostChars - kDots);
+        while (nKept > 1 && m_ends[nKept - 1] + dotEnds[kDots - 1] > nWidth)
+            --nKept;
+        if (nKept <= 1)
+            return false;
+        for (int nDot = 0; nDot < kDots; ++nDot)
+        {
+            m_text[nKept + nDot] = L'.';
+            m_ends[nKept + nDot] = m_ends[nKept - 1] + dotEnds[nDot];
+        }
+        m_nLength = nKept + kDots;
+        return true;
+    }
+
+    void Draw(CDC& dc, CPoint point, const CRect& rect)
+    {
+        for (int i = m_nLength - 1; i > 0; --i) // from ends to widths, which ExtTextOut takes
+            m_ends[i] -= m_ends[i - 1];
+        dc.ExtTextOut(point.x, point.y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, m_text, m_nLength, m_ends);
+    }
+
+private:
+    static constexpr int kDots = 3;
+    static constexpr int kMostChars = 256;
+
+    wchar_t m_text[kMostChars];
+    int m_ends[kMostChars]; ///< where each character ends
+    int m_nLength = 0;
+    int m_nHeight = 0;
+    bool m_bWhole = true;
+};
+
+/// A line put where DrawText would put it, for half of its cost: it is measured once, and not searched for
+/// letters that change their order or shape. False if it is not plain.
 bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
 {
-    if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE))
+    if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE) || ::GetTextAlign(dc.m_hDC) != TA_LEFT)
         return false;
-    int nLength = 0;
-    for (; pszText[nLength]; ++nLength)
-        if (!IsPlain(pszText[nLength]))
-            return false;
-    if (nLength == 0)
+    if (!*pszText)
         return true;
-
-    SIZE size;
-    if (::GetTextAlign(dc.m_hDC) != TA_LEFT || !::GetTextExtentPoint32W(dc.m_hDC, pszText, nLength, &size) ||
-        size.cx > rect.Width())
+    CPlainLine line;
+    if (!line.Measure(dc, pszText))
         return false;
+    const bool bShorten = (nFormat & DT_END_ELLIPSIS) && line.Width() > rect.Width();
+    if (bShorten ? !line.Shorten(dc, rect.Width()) : !line.IsWhole())
+        return false;
+
     int x = rect.left;
     if (nFormat & DT_RIGHT)
-        x = rect.right - size.cx;
+        x = rect.right - line.Width();
     else if (nFormat & DT_CENTER)
-        x = (rect.left + rect.right - size.cx) / 2;
-    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - size.cy / 2 : rect.top;
-    dc.ExtTextOut(x, y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, pszText, nLength, nullptr);
+        x = (rect.left + rect.right - line.Width()) / 2;
+    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - line.Height() / 2 : rect.top;
+    line.Draw(dc, CPoint(x, y), rect);
     return true;
 }
 } // namespace

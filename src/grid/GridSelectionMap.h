@@ -1,16 +1,20 @@
 #pragma once
 // The cells of a grid that are selected, by address.
 //
-// The key of an entry holds the column in its high and the low half of the row in its low 16 bits, so rows
-// 65536 apart share an entry; the value keeps the true address. That is wanted: the selection of a row beyond
-// 65535 is looked up under the same key in every operation. Asking, adding and removing take constant time,
-// whatever is selected.
+// The key of an entry holds the low half of the column in its high and the low half of the row in its low 16
+// bits, so rows 65536 apart share an entry; the value keeps the true address. That is wanted: the selection of
+// a row beyond 65535 is looked up under the same key in every operation.
+//
+// Asking, adding and removing take constant time, whatever is selected. Entries of one column stand together
+// in pages, so that a selection of many rows is a walk through memory and not a jump for each cell.
 
 #include <afxwin.h>
 
 #include "grid/GridTypes.h"
 
 #include <algorithm>
+#include <array>
+#include <bitset>
 #include <unordered_map>
 #include <vector>
 
@@ -24,25 +28,51 @@ public:
     }
 
     /// How many cells are selected.
-    int Count() const { return static_cast<int>(m_cells.size()); }
+    int Count() const { return m_nCount; }
     /// Whether none is.
-    bool IsEmpty() const { return m_cells.empty(); }
+    bool IsEmpty() const { return m_nCount == 0; }
     /// Whether the cell is.
-    bool Has(int nRow, int nCol) const { return m_cells.contains(KeyOf(nRow, nCol)); }
+    bool Has(int nRow, int nCol) const
+    {
+        const auto found = m_pages.find(KeyOf(nRow, nCol) / kPageSize);
+        return found != m_pages.end() && found->second.used[PlaceOf(nRow)];
+    }
     /// Selects a cell.
-    void Add(int nRow, int nCol) { m_cells[KeyOf(nRow, nCol)] = CCellID(nRow, nCol); }
+    void Add(int nRow, int nCol)
+    {
+        SPage& page = m_pages[KeyOf(nRow, nCol) / kPageSize];
+        const size_t nPlace = PlaceOf(nRow);
+        m_nCount += !page.used[nPlace];
+        page.used.set(nPlace);
+        page.cells[nPlace] = CCellID(nRow, nCol);
+    }
     /// Takes a cell out; one that is not in does nothing.
-    void Remove(int nRow, int nCol) { m_cells.erase(KeyOf(nRow, nCol)); }
+    void Remove(int nRow, int nCol)
+    {
+        const auto found = m_pages.find(KeyOf(nRow, nCol) / kPageSize);
+        if (found == m_pages.end() || !found->second.used[PlaceOf(nRow)])
+            return;
+        --m_nCount;
+        found->second.used.reset(PlaceOf(nRow));
+        if (found->second.used.none())
+            m_pages.erase(found);
+    }
     /// Takes all out.
-    void RemoveAll() { m_cells = {}; }
+    void RemoveAll()
+    {
+        m_pages = {};
+        m_nCount = 0;
+    }
 
     /// A copy, so that the map may change while a caller walks over it. In any order.
     std::vector<CCellID> Cells() const
     {
         std::vector<CCellID> cells;
-        cells.reserve(m_cells.size());
-        for (const auto& entry : m_cells)
-            cells.push_back(entry.second);
+        cells.reserve(m_nCount);
+        for (const auto& [nKey, page] : m_pages)
+            for (size_t nPlace = 0; nPlace < kPageSize; ++nPlace)
+                if (page.used[nPlace])
+                    cells.push_back(page.cells[nPlace]);
         return cells;
     }
 
@@ -50,7 +80,7 @@ public:
     CCellRange Around(int nRowCount, int nColCount) const
     {
         CCellRange range(nRowCount, nColCount, -1, -1);
-        for (const auto& [nKey, cell] : m_cells)
+        for (const CCellID& cell : Cells())
         {
             range.minRow = std::min(range.minRow, cell.row);
             range.minCol = std::min(range.minCol, cell.col);
@@ -61,5 +91,15 @@ public:
     }
 
 private:
-    std::unordered_map<DWORD, CCellID> m_cells;
+    static constexpr size_t kPageSize = 64; ///< rows of one column
+    struct SPage
+    {
+        std::bitset<kPageSize> used;
+        std::array<CCellID, kPageSize> cells;
+    };
+
+    static size_t PlaceOf(int nRow) { return static_cast<DWORD>(nRow) % kPageSize; }
+
+    std::unordered_map<DWORD, SPage> m_pages;
+    int m_nCount = 0;
 };
