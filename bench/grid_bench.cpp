@@ -167,33 +167,56 @@ void CompareFill(Comparison& compare, const std::function<void()>& measure, int 
     measure();
 }
 
-/// A filled rectangle and a text for each cell that shows in the grid, and nothing else.
-void PaintBare(CGridCtrl& grid, CWnd& window, CFont& font)
+/// Answers a paint with a filled rectangle and a text for each cell that shows in a grid, and nothing else.
+class CBareWindow : public CStage
 {
-    CClientDC dc(&window);
-    CFont* const pOldFont = dc.SelectObject(&font);
-    dc.SetBkMode(TRANSPARENT);
-    CBrush brush(RGB(255, 255, 255));
-    const int nHeight = grid.GetRowHeight(1), nWidth = grid.GetColumnWidth(1);
-    for (int y = 0, nRow = 0; y < kClient.cy; y += nHeight, ++nRow)
-        for (int x = 0, nCol = 0; x < kClient.cx && nCol < kCols; x += nWidth, ++nCol)
-        {
-            const CRect rect(x, y, x + nWidth, y + nHeight);
-            dc.FillRect(&rect, &brush);
-            dc.ExtTextOut(x + 3, y + 3, ETO_CLIPPED, &rect, TextAt(nRow, nCol), 6, nullptr);
-        }
-    dc.SelectObject(pOldFont);
-}
+public:
+    explicit CBareWindow(CGridCtrl& grid) : m_grid(grid) {}
+    void Repaint() { RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW); }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_ERASEBKGND)
+            return TRUE;
+        if (message != WM_PAINT)
+            return CStage::WindowProc(message, wParam, lParam);
+        CPaintDC dc(this);
+        Paint(dc);
+        return 0;
+    }
+
+private:
+    void Paint(CDC& dc)
+    {
+        CFont* const pOldFont = dc.SelectObject(m_grid.GetFont());
+        dc.SetBkMode(TRANSPARENT);
+        CBrush brush(RGB(255, 255, 255));
+        const int nHeight = m_grid.GetRowHeight(1), nWidth = m_grid.GetColumnWidth(1);
+        for (int y = 0, nRow = 0; y < kClient.cy; y += nHeight, ++nRow)
+            for (int x = 0, nCol = 0; x < kClient.cx && nCol < kCols; x += nWidth, ++nCol)
+            {
+                const CRect rect(x, y, x + nWidth, y + nHeight);
+                dc.FillRect(&rect, &brush);
+                dc.ExtTextOut(x + 3, y + 3, ETO_CLIPPED, &rect, TextAt(nRow, nCol), 6, nullptr);
+            }
+        dc.SelectObject(pOldFont);
+    }
+
+    CGridCtrl& m_grid;
+};
 
 /// Both filled, painted and warm.
 struct Pair
 {
-    explicit Pair(DWORD dwListStyle = 0) : grid(gridStage), list(listStage, dwListStyle)
+    explicit Pair(int nRows = 1000) : grid(gridStage), list(listStage)
     {
-        grid.Fill(1000);
+        grid.Fill(nRows);
         for (int nCol = 0; nCol < kCols; ++nCol)
             grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
-        list.Fill(1000);
+        list.SetRedraw(FALSE);
+        list.Fill(nRows);
+        list.SetRedraw(TRUE);
         for (int nCol = 0; nCol < kCols; ++nCol)
             list.SetColumnWidth(nCol, kClient.cx / kCols);
     }
@@ -204,9 +227,9 @@ struct Pair
 
 /// A step on and a step back, by some of what the step is made of, beside the list view's whole steps.
 void CompareSteps(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack,
-                  void (*step)(Pair&, UINT))
+                  void (*step)(Pair&, UINT), int nRows = 1000)
 {
-    Pair pair;
+    Pair pair(nRows);
     compare.Ours(
         [&]
         {
@@ -225,9 +248,10 @@ void CompareSteps(Comparison& compare, const std::function<void()>& measure, UIN
     measure();
 }
 
-void CompareScroll(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack)
+void CompareScroll(Comparison& compare, const std::function<void()>& measure, UINT nOn, UINT nBack, int nRows)
 {
-    CompareSteps(compare, measure, nOn, nBack, [](Pair& pair, UINT nCode) { pair.grid.Scroll(nCode); });
+    CompareSteps(
+        compare, measure, nOn, nBack, [](Pair& pair, UINT nCode) { pair.grid.Scroll(nCode); }, nRows);
 }
 
 void CompareLineStep(Comparison& compare, const std::function<void()>& measure, void (*step)(Pair&, UINT))
@@ -283,13 +307,17 @@ static const Benchmark bytes("grid/bytes_per_cell", 200, MeasureBytes);
 
 static void MeasureRepaintBare(Comparison& compare, const Benchmark::Measure& measure)
 {
-    Pair pair;
-    compare.Ours([&] { pair.grid.Repaint(); });
-    compare.Bare([&] { PaintBare(pair.grid, pair.listStage, *pair.grid.GetFont()); });
-    pair.list.ShowWindow(SW_HIDE);
+    CStage stage;
+    CBenchGrid grid(stage);
+    grid.Fill(1000);
+    for (int nCol = 0; nCol < kCols; ++nCol)
+        grid.SetColumnWidth(nCol, kClient.cx / kCols, TRUE);
+    CBareWindow bare(grid);
+    compare.Ours([&] { grid.Repaint(); });
+    compare.Bare([&] { bare.Repaint(); });
     measure();
 }
-static const Benchmark repaintBare("grid/repaint/bare_loop", 2, MeasureRepaintBare);
+static const Benchmark repaintBare("grid/repaint/bare_loop", 1.05, MeasureRepaintBare);
 
 static void MeasureRepaintList(Comparison& compare, const Benchmark::Measure& measure)
 {
@@ -298,19 +326,72 @@ static void MeasureRepaintList(Comparison& compare, const Benchmark::Measure& me
     compare.Bare([&] { pair.list.Repaint(); });
     measure();
 }
-static const Benchmark repaintList("grid/repaint/list_view", 0.125, MeasureRepaintList);
+static const Benchmark repaintList("grid/repaint/list_view", 0.12, MeasureRepaintList);
+
+/// The same long texts in columns that are too narrow for them, and in columns that are not.
+static void MeasureRepaintLong(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CStage stage, other;
+    CBenchGrid narrow(stage), wide(other);
+    for (CBenchGrid* const pGrid : {&narrow, &wide})
+    {
+        pGrid->Fill(100);
+        for (int nRow = 0; nRow < 100; ++nRow)
+            for (int nCol = 0; nCol < kCols; ++nCol)
+            {
+                pGrid->SetItemTextFmt(nRow, nCol, L"section %s", TextAt(nRow, nCol));
+                pGrid->SetColumnWidth(nCol, pGrid == &wide ? 110 : 60, TRUE);
+            }
+    }
+    compare.Ours([&] { narrow.Repaint(); });
+    compare.Bare([&] { wide.Repaint(); });
+    measure();
+}
+static const Benchmark repaintLong("grid/repaint/text_that_does_not_fit", 1, MeasureRepaintLong);
 
 static void MeasureScrollLine(Comparison& compare, const Benchmark::Measure& measure)
 {
-    CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP);
+    CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP, 1000);
 }
-static const Benchmark scrollLine("grid/scroll/line", 0.5, MeasureScrollLine);
+static const Benchmark scrollLine("grid/scroll/line/1000", 1.15, MeasureScrollLine);
+
+// A line of so many rows moves the thumb by less than a pixel: the bar need not be painted.
+static void MeasureScrollLineOfMany(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP, kMany);
+}
+static const Benchmark scrollLineOfMany("grid/scroll/line/50000", 0.8, MeasureScrollLineOfMany);
 
 static void MeasureScrollPage(Comparison& compare, const Benchmark::Measure& measure)
 {
-    CompareScroll(compare, measure, SB_PAGEDOWN, SB_PAGEUP);
+    CompareScroll(compare, measure, SB_PAGEDOWN, SB_PAGEUP, kMany);
 }
-static const Benchmark scrollPage("grid/scroll/page", 0.5, MeasureScrollPage);
+static const Benchmark scrollPage("grid/scroll/page/50000", 0.45, MeasureScrollPage);
+
+// Line by line, with a message for each, beside twenty lines that are each brought to the screen.
+static void MeasureEnsureVisible(Comparison& compare, const Benchmark::Measure& measure)
+{
+    constexpr int kRows = 10100, kFar = 10000, kLines = 20;
+    CStage stage;
+    CBenchGrid grid(stage);
+    grid.Fill(kRows);
+    compare.Ours(
+        [&]
+        {
+            grid.EnsureVisible(kFar, 0);
+            grid.EnsureVisible(0, 0);
+            grid.UpdateWindow();
+        });
+    compare.Bare(
+        [&]
+        {
+            for (const UINT nCode : {SB_LINEDOWN, SB_LINEUP})
+                for (int nLine = 0; nLine < kLines; ++nLine)
+                    grid.Scroll(nCode);
+        });
+    measure();
+}
+static const Benchmark ensureVisible("grid/scroll/to_10000_rows_away", 1, MeasureEnsureVisible);
 
 // What a line's step is made of, each part beside the list view's whole step. The system's painting of the
 // scroll bar is the same for both; beside it the grid repaints its body, where the list view copies the
@@ -409,7 +490,7 @@ static void MeasureVirtualMillion(Comparison& compare, const Benchmark::Measure&
     compare.Bare([&] { use(1000); });
     measure();
 }
-static const Benchmark virtualMillion("grid/virtual/million_rows", 1.5, MeasureVirtualMillion);
+static const Benchmark virtualMillion("grid/virtual/million_rows", 1.2, MeasureVirtualMillion);
 
 static void MeasureVirtualList(Comparison& compare, const Benchmark::Measure& measure)
 {
@@ -439,6 +520,25 @@ static void MeasureVirtualList(Comparison& compare, const Benchmark::Measure& me
     measure();
 }
 static const Benchmark virtualList("grid/virtual/repaint_list_view", 0.5, MeasureVirtualList);
+
+static void MeasureDrawnLoad(Comparison& compare, const Benchmark::Measure& measure)
+{
+    wchar_t directory[MAX_PATH], path[MAX_PATH];
+    ::GetTempPath(MAX_PATH, directory);
+    ::GetTempFileName(directory, L"ow", 0, path);
+    CStage stage, other;
+    CBenchGrid drawn(stage), silent(other);
+    drawn.Fill(10000);
+    drawn.Save(path);
+    silent.SetRedraw(FALSE);
+    compare.Rounds(5);
+    compare.Prepare([&] { drawn.Repaint(); });
+    compare.Ours([&] { drawn.Load(path); });
+    compare.Bare([&] { silent.Load(path); });
+    measure();
+    ::DeleteFile(path);
+}
+static const Benchmark drawnLoad("grid/drawing/load", 1.5, MeasureDrawnLoad);
 
 static void MeasureGrowSelect(Comparison& compare, const Benchmark::Measure& measure)
 {

@@ -65,93 +65,83 @@ bool IsPlain(wchar_t ch)
            (ch >= 0x370 && ch < 0x483);
 }
 
-/// A line of plain characters with its measure, taken once for the fit, the place and the painting.
-class CPlainLine
+/// The length of a text of plain characters, or -1.
+int PlainLength(LPCWSTR pszText)
+{
+    int nLength = 0;
+    for (; pszText[nLength]; ++nLength)
+        if (!IsPlain(pszText[nLength]))
+            return -1;
+    return nLength;
+}
+
+/// A line that is cut off, with three points in place of its end, as DrawText cuts it.
+class CShortLine
 {
 public:
-    /// The start of the text, if that is longer than a line is ever wide.
-    bool Measure(CDC& dc, LPCWSTR pszText)
+    /// False if not even two characters and the points fit: what is to be done then, DrawText knows.
+    bool Make(CDC& dc, LPCWSTR pszText, int nLength, int nWidth)
     {
-        for (m_nLength = 0; m_nLength < kMostChars && pszText[m_nLength]; ++m_nLength)
-        {
-            if (!IsPlain(pszText[m_nLength]))
-                return false;
-            m_text[m_nLength] = pszText[m_nLength];
-        }
-        m_bWhole = !pszText[m_nLength];
-        SIZE size;
-        if (!::GetTextExtentExPointW(dc.m_hDC, m_text, m_nLength, 0, nullptr, m_ends, &size))
+        SIZE dots, all;
+        int ends[kMostChars];
+        const int nMeasured = std::min(nLength, kMostChars);
+        if (!::GetTextExtentPoint32W(dc.m_hDC, L"...", kDots, &dots) ||
+            !::GetTextExtentExPointW(dc.m_hDC, pszText, nMeasured, 0, nullptr, ends, &all))
             return false;
-        m_nHeight = size.cy;
-        return true;
-    }
-
-    bool IsWhole() const { return m_bWhole; }
-    int Width() const { return m_nLength > 0 ? m_ends[m_nLength - 1] : 0; }
-    int Height() const { return m_nHeight; }
-
-    /// Puts three points in place of the end, as many as it takes. False if not even two characters stay: what
-    /// is to be done then, DrawText knows.
-    bool Shorten(CDC& dc, int nWidth)
-    {
-        SIZE dots;
-        int dotEnds[kDots];
-        if (!::GetTextExtentExPointW(dc.m_hDC, L"...", kDots, 0, nullptr, dotEnds, &dots))
+        const int nKept = static_cast<int>(
+            std::upper_bound(ends, ends + nMeasured, nWidth - static_cast<int>(dots.cx)) - ends);
+        if (nKept <= 1 || nKept == kMostChars)
             return false;
-        int nKept = std::min(m_nLength, kMostChars - kDots);
-        while (nKept > 1 && m_ends[nKept - 1] + dotEnds[kDots - 1] > nWidth)
-            --nKept;
-        if (nKept <= 1)
-            return false;
-        for (int nDot = 0; nDot < kDots; ++nDot)
-        {
-            m_text[nKept + nDot] = L'.';
-            m_ends[nKept + nDot] = m_ends[nKept - 1] + dotEnds[nDot];
-        }
+        std::copy_n(pszText, nKept, m_text);
+        std::fill_n(m_text + nKept, kDots, L'.');
         m_nLength = nKept + kDots;
+        m_nWidth = ends[nKept - 1] + dots.cx;
         return true;
     }
 
-    void Draw(CDC& dc, CPoint point, const CRect& rect)
-    {
-        for (int i = m_nLength - 1; i > 0; --i) // from ends to widths, which ExtTextOut takes
-            m_ends[i] -= m_ends[i - 1];
-        dc.ExtTextOut(point.x, point.y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, m_text, m_nLength, m_ends);
-    }
+    LPCWSTR Text() const { return m_text; }
+    int Length() const { return m_nLength; }
+    int Width() const { return m_nWidth; }
 
 private:
     static constexpr int kDots = 3;
-    static constexpr int kMostChars = 256;
+    static constexpr int kMostChars = 256; ///< more do not show in a cell
 
-    wchar_t m_text[kMostChars];
-    int m_ends[kMostChars]; ///< where each character ends
+    wchar_t m_text[kMostChars + kDots];
     int m_nLength = 0;
-    int m_nHeight = 0;
-    bool m_bWhole = true;
+    int m_nWidth = 0;
 };
 
-/// A line put where DrawText would put it, for half of its cost: it is measured once, and not searched for
-/// letters that change their order or shape. False if it is not plain.
+/// A line put where DrawText would put it, for less than half of its cost: it is not searched for letters that
+/// change their order or shape, and not measured anew for each character that does not fit. False if it is not
+/// plain.
 bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
 {
     if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE) || ::GetTextAlign(dc.m_hDC) != TA_LEFT)
         return false;
-    if (!*pszText)
-        return true;
-    CPlainLine line;
-    if (!line.Measure(dc, pszText))
+    int nLength = PlainLength(pszText);
+    if (nLength <= 0)
+        return nLength == 0;
+    SIZE size;
+    if (!::GetTextExtentPoint32W(dc.m_hDC, pszText, nLength, &size))
         return false;
-    const bool bShorten = (nFormat & DT_END_ELLIPSIS) && line.Width() > rect.Width();
-    if (bShorten ? !line.Shorten(dc, rect.Width()) : !line.IsWhole())
-        return false;
+    CShortLine shortened;
+    if (size.cx > rect.Width() && (nFormat & DT_END_ELLIPSIS))
+    {
+        if (!shortened.Make(dc, pszText, nLength, rect.Width()))
+            return false;
+        pszText = shortened.Text();
+        nLength = shortened.Length();
+        size.cx = shortened.Width();
+    }
 
     int x = rect.left;
     if (nFormat & DT_RIGHT)
-        x = rect.right - line.Width();
+        x = rect.right - size.cx;
     else if (nFormat & DT_CENTER)
-        x = (rect.left + rect.right - line.Width()) / 2;
-    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - line.Height() / 2 : rect.top;
-    line.Draw(dc, CPoint(x, y), rect);
+        x = (rect.left + rect.right - size.cx) / 2;
+    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - size.cy / 2 : rect.top;
+    dc.ExtTextOut(x, y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, pszText, nLength, nullptr);
     return true;
 }
 } // namespace

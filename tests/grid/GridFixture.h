@@ -7,6 +7,38 @@
 
 #include <gtest/gtest.h>
 
+/// A cell that writes down what the grid tells it, as "click 5,3" with the point in the cell.
+class NotedCell : public CGridCell
+{
+    DECLARE_DYNCREATE(NotedCell)
+public:
+    static inline std::vector<std::string> notes;
+    static std::vector<std::string> Take() { return std::exchange(notes, {}); }
+
+    BOOL Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd) override
+    {
+        Note("draw", CPoint(nRow, nCol));
+        return CGridCell::Draw(pDC, nRow, nCol, rect, bEraseBkgnd);
+    }
+    void OnMouseOver() override { notes.push_back("over"); }
+    void OnClick(CPoint point) override { Note("click", point); }
+    void OnClickDown(CPoint point) override { Note("down", point); }
+    void OnRClick(CPoint point) override { Note("rclick", point); }
+    void OnDblClick(CPoint point) override { Note("dblclick", point); }
+    BOOL OnSetCursor() override
+    {
+        notes.push_back("cursor");
+        ::SetCursor(::LoadCursor(nullptr, IDC_CROSS));
+        return TRUE;
+    }
+
+private:
+    static void Note(const char* name, CPoint point)
+    {
+        notes.push_back(std::string(name) + ' ' + std::to_string(point.x) + ',' + std::to_string(point.y));
+    }
+};
+
 class GridTest : public ::testing::Test
 {
 protected:

@@ -43,6 +43,17 @@ public:
     using CGridCtrl::SelectRows;
     using CGridCtrl::SetScrollPos32;
     using CGridCtrl::ValidateAndModifyCellContents;
+
+    std::vector<std::string> scrolls; ///< the scroll messages, as "v1" for one line down
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_VSCROLL || message == WM_HSCROLL)
+            scrolls.push_back(std::string(message == WM_VSCROLL ? "v" : "h") +
+                              std::to_string(LOWORD(wParam)));
+        return CGridCtrl::WindowProc(message, wParam, lParam);
+    }
 };
 
 constexpr UINT kGridId = 77;

@@ -150,6 +150,22 @@ TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
     }
     EXPECT_GT(up.count(header, shadow), 8);
     EXPECT_GT(down.count(header, shadow), 8);
+
+    // A text at the right makes room for it.
+    constexpr COLORREF kText = RGB(1, 2, 3);
+    grid.SetItemText(0, 1, L"H");
+    grid.SetItemFormat(0, 1, DT_RIGHT | DT_SINGLELINE | DT_VCENTER);
+    grid.SetItemFgColour(0, 1, kText);
+    grid.SetSortColumn(1); // the text has taken it away
+    owtest::Surface with(300, 200), without(300, 200);
+    Draw(with);
+    grid.SetSortColumn(-1);
+    Draw(without);
+    TEXTMETRIC metrics;
+    with.dc().SelectObject(grid.GetFont());
+    with.dc().GetTextMetrics(&metrics);
+    const int room = kRowHeight - 3 - static_cast<int>(grid.GetDefCellMargin()), size = metrics.tmHeight - 4;
+    EXPECT_EQ(without.extent(kText).right - with.extent(kText).right, size < room ? size : room - 4);
 }
 
 TEST_F(GridDrawing, TheImageMakesRoomForTheText)
@@ -169,6 +185,17 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     grid.SetItemImage(2, 2, 9);
     grid.GetTextRect(2, 2, &text);
     EXPECT_EQ(text.left, cell.left) << "an image that is not there takes no room";
+
+    // It is left out where it does not fit, the margin counted in on all sides.
+    grid.SetItemImage(2, 2, 0);
+    for (const auto& [size, shows] :
+         {std::pair(CSize(14, 40), true), std::pair(CSize(13, 40), false),
+          std::pair(CSize(60, 14 - margin), true), std::pair(CSize(60, 13 - margin), false)})
+    {
+        owtest::Surface drawn(80, 60, kBack);
+        grid.GetCell(2, 2)->Draw(&drawn.dc(), 2, 2, CRect(CPoint(2, 2), size - CSize(1, 1)), FALSE);
+        EXPECT_EQ(drawn.count(CRect(0, 0, 80, 60), RGB(255, 0, 0)) > 0, shows) << size.cx << ',' << size.cy;
+    }
     grid.SetImageList(nullptr);
 }
 

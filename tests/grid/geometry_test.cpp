@@ -2,6 +2,8 @@
 
 #include "GridFixture.h"
 
+#include "Picture.h"
+
 class GridGeometry : public GridTest
 {
 protected:
@@ -9,6 +11,20 @@ protected:
     {
         for (; times > 0; --times)
             grid.SendMessage(message, code);
+    }
+    CSize ClientSize()
+    {
+        CRect rect;
+        grid.GetClientRect(&rect);
+        return rect.Size();
+    }
+    /// What is to be repainted, and repaints it.
+    CRect ToRepaint()
+    {
+        CRect rect;
+        ::GetUpdateRect(grid, &rect, FALSE);
+        grid.UpdateWindow();
+        return rect;
     }
     int WaitingMessages(UINT message)
     {
@@ -20,54 +36,25 @@ protected:
     }
 };
 
-TEST_F(GridGeometry, PlacesHoldTheLastPixel)
-{
-    CRect rect;
-    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
-    EXPECT_EQ(rect, CRect(180, 40, 239, 59));
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(239, 59)), CCellID(2, 3));
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(240, 60)), CCellID(3, 4));
-    grid.SetColumnWidth(3, 0, TRUE);
-    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
-    EXPECT_EQ(rect.right, rect.left - 1) << "hidden";
-    ASSERT_TRUE(grid.GetCellRangeRect(CCellRange(1, 1, 2, 2), &rect));
-    EXPECT_EQ(rect, CRect(60, 20, 179, 59));
-    EXPECT_EQ(grid.GetPointClicked(2, 2, CPoint(125, 43)), CPoint(5, 3));
-}
-
-TEST_F(GridGeometry, PointsOutsideGiveNoCellInTheirDirection)
-{
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(-1, 45)), CCellID(2, -1));
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(5000, 45)), CCellID(2, -1));
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 45), FALSE), CCellID(2, -1)) << "fixed cells are not asked for";
-    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 5), TRUE), CCellID(0, 0));
-}
-
-TEST_F(GridGeometry, ACellScrolledAwayHasNoPlaceAndOneFarBelowHas)
+TEST_F(GridGeometry, TheGridAsksItsViewWhereItIsScrolledTo)
 {
     Scroll(WM_VSCROLL, SB_LINEDOWN, 3);
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(4, 1));
-    CPoint origin;
-    EXPECT_FALSE(grid.GetCellOrigin(3, 1, &origin));
-    EXPECT_TRUE(grid.GetCellOrigin(3, 0, &origin) == FALSE && grid.GetCellOrigin(0, 1, &origin));
-    ASSERT_TRUE(grid.GetCellOrigin(20, 1, &origin));
-    EXPECT_EQ(origin.y, 20 + 16 * 20);
-    EXPECT_FALSE(grid.IsCellVisible(20, 1));
-}
-
-TEST_F(GridGeometry, VisibleCountsPartsAndUnobstructedDoesNot)
-{
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(90, 30)), CCellID(4, 1));
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 30), FALSE), CCellID(4, -1));
+    CRect rect;
+    EXPECT_FALSE(grid.GetCellRect(3, 1, &rect));
+    ASSERT_TRUE(grid.GetCellRangeRect(CCellRange(5, 1, 6, 2), &rect));
+    EXPECT_EQ(rect, CRect(60, 40, 179, 79));
+    EXPECT_EQ(grid.GetPointClicked(5, 2, CPoint(125, 43)), CPoint(5, 3));
+    EXPECT_TRUE(grid.IsCellVisible(12, 1) && !grid.IsCellVisible(20, 1));
     CRect client;
     grid.GetClientRect(&client);
-    const int rowsBelow = (client.Height() - 20 + 19) / 20, colsRight = (client.Width() - 60 + 59) / 60;
-    CRect covered;
-    EXPECT_EQ(grid.GetVisibleNonFixedCellRange(&covered), CCellRange(1, 1, rowsBelow, colsRight));
-    EXPECT_EQ(covered, client);
     EXPECT_EQ(grid.GetUnobstructedNonFixedCellRange(),
-              CCellRange(1, 1, (client.Height() - 20) / 20, (client.Width() - 60) / 60));
-    grid.SetRowCount(3);
-    grid.GetVisibleNonFixedCellRange(&covered);
-    EXPECT_EQ(covered.bottom, 60);
+              CCellRange(4, 1, 3 + (client.Height() - 20) / 20, (client.Width() - 60) / 60));
+    grid.SetRowCount(1);
+    grid.SetColumnCount(1);
+    EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 5), FALSE), CCellID()) << "there is no body";
 }
 
 TEST_F(GridGeometry, TheBarsFollowTheContents)
@@ -94,30 +81,72 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     EXPECT_TRUE(grid.GetStyle() & WS_VSCROLL) << "as before, and so must the bar be";
 }
 
-TEST_F(GridGeometry, ScrollMessagesMoveByLinesPagesAndEnds)
+TEST_F(GridGeometry, WithoutHeightTheBarsStayAsTheyAre)
 {
-    grid.SetRowHeight(2, 0);
-    Scroll(WM_VSCROLL, SB_LINEDOWN);
-    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 20);
-    EXPECT_EQ(grid.GetTopleftNonFixedCell().row, 2);
-    Scroll(WM_VSCROLL, SB_LINEDOWN);
-    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 40) << "over the hidden row";
-    Scroll(WM_VSCROLL, SB_LINEUP);
-    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 20);
-    Scroll(WM_VSCROLL, SB_BOTTOM);
-    const int nEnd = grid.GetScrollPos32(SB_VERT);
-    EXPECT_GT(nEnd, 150);
-    Scroll(WM_VSCROLL, SB_LINEDOWN);
-    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), nEnd);
+    grid.SetWindowPos(nullptr, 0, 0, 304, 0, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(grid.GetStyle() & WS_HSCROLL);
+    EXPECT_EQ(grid.m_nHScrollMax, 6 * 60 - 1);
+}
+
+TEST_F(GridGeometry, ScrollMessagesMoveTheirBarAndRepaintWhatScrolls)
+{
+    grid.UpdateWindow();
+    Scroll(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 60);
+    EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 2));
+    EXPECT_EQ(ToRepaint(), CRect(60, 0, ClientSize().cx, ClientSize().cy));
+    Scroll(WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), ClientSize().cy - 20);
+    EXPECT_EQ(ToRepaint(), CRect(0, 20, ClientSize().cx, ClientSize().cy));
     Scroll(WM_VSCROLL, SB_TOP);
     EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 0);
-    CRect client;
-    grid.GetClientRect(&client);
-    Scroll(WM_HSCROLL, SB_PAGERIGHT);
-    EXPECT_EQ(grid.GetTopleftNonFixedCell().col,
-              1 + (std::min(client.Width() - 60, grid.GetScrollPos32(SB_HORZ)) + 59) / 60);
-    Scroll(WM_HSCROLL, SB_PAGELEFT);
-    EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 0);
+    EXPECT_EQ(ToRepaint(), CRect(CPoint(0, 0), ClientSize()));
+    Scroll(WM_VSCROLL, SB_LINEUP);
+    EXPECT_TRUE(ToRepaint().IsRectEmpty()) << "nothing moves";
+}
+
+// The bars are painted with the window, and only where the thumb is another.
+TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
+{
+    grid.SetRowCount(50000);
+    grid.UpdateWindow();
+    const auto barOnScreen = [&]
+    {
+        CRect window;
+        grid.GetWindowRect(&window);
+        owtest::Surface whole(window.Width(), window.Height());
+        owtest::Capture(grid, whole);
+        std::vector<COLORREF> pixels;
+        for (int y = 20; y < 180; ++y)
+            pixels.push_back(whole.at(window.Width() - 8, y));
+        return pixels;
+    };
+    const auto atTop = barOnScreen();
+    for (int nTurn = 0; nTurn < 3; ++nTurn)
+        Scroll(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_TRUE(barOnScreen() == atTop);
+    Scroll(WM_VSCROLL, SB_BOTTOM);
+    EXPECT_TRUE(barOnScreen() == atTop) << "not before the paint";
+    grid.UpdateWindow();
+    const auto atBottom = barOnScreen();
+    EXPECT_FALSE(atBottom == atTop);
+    Scroll(WM_VSCROLL, SB_TOP);
+    Scroll(WM_VSCROLL, SB_BOTTOM);
+    grid.UpdateWindow();
+    EXPECT_TRUE(barOnScreen() == atBottom);
+
+    // A change of the range alone repaints nothing of the client area, and yet the bar.
+    grid.SendMessage(WM_VSCROLL, SB_TOP);
+    grid.UpdateWindow();
+    grid.SetRowCount(100);
+    grid.UpdateWindow();
+    const auto shorter = barOnScreen();
+    EXPECT_FALSE(shorter == atTop);
+    for (int nRow = 60; nRow > 0; --nRow)
+        grid.DeleteRow(30);
+    EXPECT_TRUE(ToRepaint().IsRectEmpty());
+    owtest::Pump();
+    EXPECT_FALSE(barOnScreen() == shorter);
 }
 
 TEST_F(GridGeometry, AtTheEndALineRepaintsNothing)

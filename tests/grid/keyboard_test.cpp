@@ -24,53 +24,55 @@ protected:
     }
 };
 
-TEST_F(GridKeyboard, ArrowsMoveOverHiddenOnesAndSelectOneCell)
+TEST_F(GridKeyboard, AKeyMovesTheFocusTellsAndSelects)
 {
     EXPECT_EQ(After(VK_DOWN), CCellID(3, 2));
     EXPECT_EQ(parent.Take(), Calls{"changed 3,2"});
     EXPECT_EQ(Selected(), CCellRange(3, 2, 3, 2));
-    grid.SetColumnWidth(3, 0, TRUE);
-    EXPECT_EQ(After(VK_RIGHT), CCellID(3, 4));
-    grid.SetRowHeight(2, 0);
-    EXPECT_EQ(After(VK_UP), CCellID(1, 4));
-    EXPECT_EQ(After(VK_UP), CCellID(1, 4)) << "not into the headings";
-    EXPECT_EQ(After(VK_LEFT), CCellID(1, 2));
-}
-
-TEST_F(GridKeyboard, ShiftExtendsFromTheAnchor)
-{
     After(VK_DOWN, true);
-    EXPECT_EQ(After(VK_RIGHT, true), CCellID(3, 3));
-    EXPECT_EQ(Selected(), CCellRange(2, 2, 3, 3));
-    After(VK_RIGHT);
-    EXPECT_EQ(Selected(), CCellRange(3, 4, 3, 4));
+    EXPECT_EQ(After(VK_RIGHT, true), CCellID(4, 3));
+    EXPECT_EQ(Selected(), CCellRange(3, 2, 4, 3)) << "from the anchor";
+    After(VK_TAB, true);
+    EXPECT_EQ(Selected(), CCellRange(4, 2, 4, 2)) << "Shift with Tab does not extend";
+    EXPECT_EQ(grid.scrolls, std::vector<std::string>{}) << "all that shows";
+    grid.SetListMode();
+    FocusOn(4, 2);
+    After(VK_UP);
+    EXPECT_EQ(Selected(), CCellRange(3, 1, 3, kCols - 1));
 }
 
-TEST_F(GridKeyboard, TabWrapsIntoTheNextRowAndBack)
+TEST_F(GridKeyboard, EachKeyScrollsInItsWay)
 {
-    FocusOn(2, kCols - 1);
-    EXPECT_EQ(After(VK_TAB), CCellID(3, 1));
-    EXPECT_EQ(After(VK_TAB, true), CCellID(2, kCols - 1));
-    EXPECT_EQ(Selected(), CCellRange(2, kCols - 1, 2, kCols - 1)) << "Shift with Tab does not extend";
-    FocusOn(kRows - 1, kCols - 1);
-    EXPECT_EQ(After(VK_TAB), CCellID(kRows - 1, kCols - 1));
-    FocusOn(1, 1);
-    EXPECT_EQ(After(VK_TAB, true), CCellID(1, 1));
-}
-
-TEST_F(GridKeyboard, PagesHomeAndEnd)
-{
-    // Nine whole rows show below the headings.
-    const int nPage = 9;
-    EXPECT_EQ(After(VK_NEXT).row, 2 + nPage);
-    EXPECT_EQ(After(VK_PRIOR).row, 2);
-    EXPECT_EQ(After(VK_PRIOR).row, 1) << "where the view cannot move, the first row";
-    EXPECT_EQ(After(VK_END), CCellID(1, kCols - 1));
-    EXPECT_EQ(After(VK_HOME), CCellID(1, 1));
-    EXPECT_EQ(After(VK_END, false, true), CCellID(kRows - 1, kCols - 1));
-    EXPECT_TRUE(grid.IsCellVisible(kRows - 1, kCols - 1));
-    EXPECT_EQ(After(VK_NEXT).row, kRows - 1);
-    EXPECT_EQ(After(VK_HOME, false, true), CCellID(1, 1));
+    const int nLastRow = kRows - 1, nLastCol = kCols - 1;
+    const int nPage = 9; // whole rows below the headings
+    struct Case
+    {
+        CCellID from;
+        WORD key;
+        bool shift, control;
+        CCellID to;
+        std::vector<std::string> scrolls;
+    };
+    const Case cases[] = {
+        {{2, 2}, VK_NEXT, false, false, {2 + nPage, 2}, {"v3", "v8"}},
+        {{2 + nPage, 2}, VK_PRIOR, false, false, {2, 2}, {"v2", "v8"}},
+        {{2, 2}, VK_PRIOR, false, false, {1, 2}, {"v2", "v8"}},
+        {{1, 2}, VK_END, false, false, {1, nLastCol}, {"h7", "h8"}},
+        {{1, nLastCol}, VK_TAB, false, false, {2, 1}, {"v1", "v8"}},
+        {{2, 1}, VK_TAB, true, false, {1, nLastCol}, {"v0", "v8"}},
+        {{1, 2}, VK_HOME, false, false, {1, 1}, {"h6", "h8"}},
+        {{1, 1}, VK_END, false, true, {nLastRow, nLastCol}, {"v7", "h7", "h8", "v8"}},
+        {{nLastRow, nLastCol}, VK_NEXT, false, false, {nLastRow, nLastCol}, {"v3"}},
+        {{nLastRow, nLastCol}, VK_HOME, false, true, {1, 1}, {"v6", "h6", "h8", "v8"}},
+    };
+    for (const Case& c : cases)
+    {
+        FocusOn(c.from.row, c.from.col);
+        grid.scrolls.clear();
+        EXPECT_EQ(After(c.key, c.shift, c.control), c.to);
+        EXPECT_TRUE(grid.IsCellVisible(c.to));
+        EXPECT_EQ(grid.scrolls, c.scrolls) << "key " << c.key << " from " << c.from.row << ',' << c.from.col;
+    }
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 1));
 }
 

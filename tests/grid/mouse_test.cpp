@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+IMPLEMENT_DYNCREATE(NotedCell, CGridCell)
+
 class GridMouse : public GridTest
 {
 protected:
@@ -173,45 +175,76 @@ TEST_F(GridMouse, ADragOnADividerSizes)
     EXPECT_EQ(grid.GetMouseMode(), 8) << "the pointer stands on the divider that it has moved";
     Drag(RowDivider(2), CPoint(30, 75));
     EXPECT_EQ(grid.GetRowHeight(2), 75 - 2 * kRowHeight);
-
-    // From the left side of a divider and from its right side the same column is meant.
     SetSizes(grid);
-    Drag(CPoint(kColWidth * 2 + 1, 10), CPoint(140, 10));
-    EXPECT_EQ(grid.GetColumnWidth(1), 80);
-    EXPECT_EQ(grid.GetColumnWidth(2), kColWidth);
+    Drag(ColumnDivider(1), CPoint(kColWidth - 30, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 1) << "the cursor is held one pixel behind the column's start";
 
-    // Without a way there is nothing to size.
+    // Without a way, and at the very corner, there is nothing to size.
     SetSizes(grid);
     Drag(ColumnDivider(1), ColumnDivider(1));
+    DragByMessages(ColumnDivider(1), CPoint(0, 0));
     EXPECT_EQ(grid.GetColumnWidth(1), kColWidth);
 }
 
-TEST_F(GridMouse, ADragHidesWhereItMayAndOpensAgain)
+TEST_F(GridMouse, ADragHidesWhereItMayAndOpensWhatMayBeOpened)
 {
-    Drag(ColumnDivider(1), CPoint(kColWidth - 30, 10));
-    EXPECT_EQ(grid.GetColumnWidth(1), 1) << "the cursor is held one pixel behind the column's start";
-    SetSizes(grid);
     DragByMessages(ColumnDivider(1), CPoint(kColWidth - 30, 10));
     EXPECT_EQ(grid.GetColumnWidth(1), 0);
     Drag(CPoint(kColWidth + 1, 10), CPoint(kColWidth + 41, 10));
     EXPECT_EQ(grid.GetColumnWidth(1), 41) << "the divider opens what it hid";
-
+    DragByMessages(RowDivider(3), CPoint(20, 40));
+    EXPECT_EQ(grid.GetRowHeight(3), 0);
     grid.EnableColumnHide(FALSE);
     DragByMessages(CPoint(kColWidth + 40, 10), CPoint(kColWidth - 30, 10));
     EXPECT_EQ(grid.GetColumnWidth(1), 1);
-    DragByMessages(RowDivider(3), CPoint(20, 40));
-    EXPECT_EQ(grid.GetRowHeight(3), 0);
     grid.EnableRowHide(FALSE);
     DragByMessages(RowDivider(2), CPoint(20, 5));
     EXPECT_EQ(grid.GetRowHeight(2), 1);
 
-    // With opening switched off the nearest column that shows is sized instead.
+    // With opening switched off the nearest one that shows is sized instead.
     SetSizes(grid);
     grid.SetColumnWidth(2, 0, TRUE);
+    grid.SetRowHeight(2, 0);
     grid.EnableHiddenColUnhide(FALSE);
+    grid.EnableHiddenRowUnhide(FALSE);
     Drag(CPoint(kColWidth * 2 + 1, 10), CPoint(150, 10));
-    EXPECT_EQ(grid.GetColumnWidth(2), 0);
-    EXPECT_EQ(grid.GetColumnWidth(1), 90);
+    Drag(CPoint(30, kRowHeight * 2 + 1), CPoint(30, 50));
+    EXPECT_EQ(CSize(grid.GetColumnWidth(1), grid.GetRowHeight(1)), CSize(90, 30));
+    EXPECT_EQ(CSize(grid.GetColumnWidth(2), grid.GetRowHeight(2)), CSize(0, 0));
+}
+
+TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
+{
+    using Notes = std::vector<std::string>;
+    for (const int nRow : {3, 5})
+        grid.SetCellType(nRow, 2, RUNTIME_CLASS(NotedCell));
+    grid.UpdateWindow();
+    const CPoint point(125, 63);
+    owtest::MoveTo(grid, point);
+    grid.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(grid.m_hWnd), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_CROSS));
+    const Notes hover = NotedCell::Take();
+    EXPECT_TRUE(std::find(hover.begin(), hover.end(), "over") != hover.end());
+    const auto told = [&](UINT message, CPoint at)
+    {
+        NotedCell::Take();
+        grid.SendMessage(message, 0, MAKELPARAM(at.x, at.y));
+        Notes notes = NotedCell::Take();
+        std::erase_if(notes, [](const std::string& note) { return note.starts_with("draw"); });
+        return notes;
+    };
+    EXPECT_EQ(told(WM_LBUTTONDOWN, point), Notes{"down 5,3"});
+    EXPECT_EQ(told(WM_LBUTTONUP, point), Notes{"click 5,3"});
+    EXPECT_EQ(told(WM_LBUTTONDBLCLK, point), Notes{"dblclick 5,3"});
+    EXPECT_EQ(told(WM_RBUTTONUP, point), Notes{"rclick 5,3"});
+    grid.EndEditing();
+
+    // A drag ends with a click of the cell that has the focus by then, and tells the one that was pressed.
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(125, 103));
+    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(125, 63));
+    parent.Take();
+    EXPECT_EQ(told(WM_LBUTTONUP, CPoint(126, 64)), Notes{"click 6,4"});
+    EXPECT_EQ(parent.Take(), Calls{"click 5,2"});
 }
 
 TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
@@ -288,6 +321,9 @@ TEST_F(GridMouse, TheRightButtonFocusesAndTellsUnlessItIsSwitchedOff)
     EXPECT_EQ(parent.Take(), (Calls{"changed 1,3", "rclick 0,3"}))
         << "the real cell is told, the raised one focused";
     EXPECT_EQ(grid.GetFocusCell(), CCellID(1, 3));
+
+    rightClick(MiddleOf(grid, 1, 3));
+    EXPECT_EQ(parent.Take(), (Calls{"changed 1,3", "rclick 1,3"})) << "the focus is given anew";
 
     grid.SetColumnCount(2);
     parent.Take();

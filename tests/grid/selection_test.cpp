@@ -64,26 +64,59 @@ TEST_F(GridSelection, ListModeSwitchesHeadersOff)
     EXPECT_FALSE(grid.GetFixedRowSelection()) << "whatever the argument";
 }
 
+TEST_F(GridSelection, TheHeadersOfTheOldFocusAndTheNewAreRedrawnAtOnce)
+{
+    using Notes = std::vector<std::string>;
+    for (int nItem = 0; nItem < 5; ++nItem)
+    {
+        grid.SetCellType(0, nItem, RUNTIME_CLASS(NotedCell));
+        grid.SetCellType(nItem, 0, RUNTIME_CLASS(NotedCell));
+    }
+    grid.SetFocusCell(2, 2);
+    NotedCell::Take();
+    grid.SetFocusCell(2, 4);
+    EXPECT_EQ(NotedCell::Take(), (Notes{"draw 0,2", "draw 0,4"}));
+    grid.SetFocusCell(3, 4);
+    EXPECT_EQ(NotedCell::Take(), (Notes{"draw 2,0", "draw 3,0"}));
+    grid.SetTrackFocusCell(FALSE);
+    grid.SetFocusCell(4, 2);
+    EXPECT_EQ(NotedCell::Take(), Notes{});
+}
+
+TEST_F(GridSelection, AVirtualCellIsAskedForWithFocusAndSelection)
+{
+    grid.SetVirtualMode(TRUE);
+    grid.SetColumnCount(4);
+    grid.SetRowCount(9);
+    grid.SetFocusCell(2, 2);
+    grid.SetItemState(3, 2, CELL_SELECTED);
+    for (int nRow = 1; nRow < 5; ++nRow)
+        EXPECT_EQ(grid.GetItemState(nRow, 2), nRow == 2 ? CELL_FOCUSED : nRow == 3 ? CELL_SELECTED : 0u);
+}
+
 TEST_F(GridSelection, WalksByState)
 {
-    const auto next = [&](int r, int c, int flags)
-    {
-        CCellID cell(r, c);
-        return grid.GetNextItem(cell, flags);
-    };
     grid.SetSelectedRange(3, 3, 3, 4);
-    grid.SetItemState(6, 2, grid.GetItemState(6, 2) | CELL_SELECTED);
-    EXPECT_EQ(next(-1, -1, GVNI_SELECTED | GVNI_ALL), CCellID(3, 3));
-    EXPECT_EQ(next(3, 3, GVNI_SELECTED | GVNI_ALL), CCellID(3, 4));
-    EXPECT_EQ(next(3, 4, GVNI_SELECTED | GVNI_ALL), CCellID(6, 2));
-    EXPECT_EQ(next(3, 4, GVNI_SELECTED | GVNI_AREA), CCellID()) << "only right of the start column";
-    EXPECT_EQ(next(6, 3, GVNI_SELECTED | GVNI_ABOVE), CCellID(3, 3));
-    EXPECT_EQ(next(1, 2, GVNI_SELECTED | GVNI_BELOW), CCellID(6, 2));
-    EXPECT_EQ(next(3, 6, GVNI_SELECTED | GVNI_TOLEFT), CCellID(3, 4));
-    EXPECT_EQ(next(3, 1, GVNI_SELECTED | GVNI_TORIGHT), CCellID(3, 3));
-    EXPECT_EQ(next(3, 1, GVNI_TORIGHT), CCellID()) << "no state asked for";
-    grid.SetItemText(8, 4, L"x");
-    EXPECT_EQ(next(-1, -1, GVNI_MODIFIED | GVNI_ALL), CCellID(8, 4));
-    EXPECT_EQ(next(INT_MAX, 2, GVNI_SELECTED | GVNI_ABOVE), CCellID(6, 2));
-    EXPECT_EQ(next(INT_MAX, INT_MAX, GVNI_SELECTED | GVNI_ALL), CCellID());
+    CCellID cell;
+    EXPECT_EQ(grid.GetNextItem(cell, GVNI_SELECTED | GVNI_ALL), CCellID(3, 3));
+}
+
+TEST(GridSelectionMap, KeepsTrueAddressesUnderSharedKeys)
+{
+    CGridSelectionMap map;
+    EXPECT_EQ(map.Around(9, 8), CCellRange(9, 8, -1, -1));
+    for (int nRow = 0; nRow < 200; ++nRow)
+        map.Add(nRow, 1 + nRow % 3);
+    map.Add(7, 2);
+    EXPECT_EQ(map.Count(), 200);
+    EXPECT_EQ(map.Around(9, 8), CCellRange(0, 1, 199, 3));
+    EXPECT_TRUE(map.Has(65536 + 7, 2) && !map.Has(7, 1) && !map.Has(7, 65536));
+    map.Add(65536 + 7, 2);
+    EXPECT_EQ(map.Count(), 200);
+    map.Remove(9, 9);
+    for (int nRow = 0; nRow < 199; ++nRow)
+        map.Remove(nRow, 1 + nRow % 3);
+    EXPECT_EQ(map.Cells(), std::vector<CCellID>{CCellID(199, 2)});
+    map.RemoveAll();
+    EXPECT_TRUE(map.IsEmpty() && map.Cells().empty());
 }
