@@ -26,11 +26,9 @@ UINT CGridCtrl::OnGetDlgCode()
     return DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTTAB;
 }
 
-// ---- Key down
-// ---------------------------------------------------------------------------------------------
+// ---- Key down ---------------------------------------------------------------------------------------------
 
-/// One key on its way: where it leads, what it scrolls, and what it takes
-/// along.
+/// One key on its way: where it leads, what it scrolls, and what it takes along.
 class CGridCtrl::CKeyStroke
 {
 public:
@@ -90,8 +88,7 @@ void CGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
         stroke.Follow();
 }
 
-// ---- Where a key leads
-// ------------------------------------------------------------------------------------
+// ---- Where a key leads ------------------------------------------------------------------------------------
 
 /// 1 on, to the right or down, -1 back.
 int CGridCtrl::CKeyStroke::Step() const
@@ -180,8 +177,7 @@ bool CGridCtrl::CKeyStroke::Scroll(EGridWay way, UINT nSBCode)
     return m_grid.SendScroll(way, nSBCode);
 }
 
-// ---- What a key takes along
-// -------------------------------------------------------------------------------
+// ---- What a key takes along -------------------------------------------------------------------------------
 
 void CGridCtrl::CKeyStroke::Follow()
 {
@@ -206,8 +202,8 @@ void CGridCtrl::CKeyStroke::Follow()
             m_grid.SendScroll(way, SB_ENDSCROLL);
 }
 
-/// With Shift from the anchor, otherwise just the new cell. While the mouse
-/// selects, that is the mouse's business.
+/// With Shift from the anchor, otherwise just the new cell. While the mouse selects, that is the mouse's
+/// business.
 void CGridCtrl::CKeyStroke::Select() const
 {
     if (m_grid.m_nMouseMode != MODE_NOTHING)
@@ -220,8 +216,7 @@ void CGridCtrl::CKeyStroke::Select() const
     m_grid.m_nMouseMode = MODE_NOTHING;
 }
 
-/// A line in the direction of the key; for a Tab into another row also to the
-/// other end of it.
+/// A line in the direction of the key; for a Tab into another row also to the other end of it.
 bool CGridCtrl::CKeyStroke::ScrollTowards()
 {
     const bool bOn = Step() > 0;
@@ -256,8 +251,7 @@ void CGridCtrl::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
     CWnd::OnSysKeyDown(nChar, nRepCnt, nFlags);
 }
 
-// ---- Characters start an edit
-// -----------------------------------------------------------------------------
+// ---- Characters start an edit -----------------------------------------------------------------------------
 
 bool CGridCtrl::StartsEdit(UINT nChar) const
 {

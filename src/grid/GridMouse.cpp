@@ -4,8 +4,8 @@
 //                  -> selecting all, columns, rows or cells -> over nothing
 //                  -> prepared to edit -> over nothing, with an editor open
 //
-// A move changes the mode only between nothing and the two dividers; a press
-// enters a gesture; the release ends it.
+// A move changes the mode only between nothing and the two dividers; a press enters a gesture; the release
+// ends it.
 
 #include <afxwin.h>
 
@@ -49,8 +49,8 @@ public:
 
     void ShowCursor() const { ShowStandardCursor(m_bColumns ? IDC_SIZEWE : IDC_SIZENS); }
 
-    // What does not come to its end leaves the mode as it is and the cursor free;
-    // the release puts that right.
+    // What does not come to its end leaves the mode as it is and the cursor free; the release puts that
+    // right.
     void Begin(CPoint point) const
     {
         m_grid.m_nMouseMode = m_bColumns ? MODE_SIZING_COL : MODE_SIZING_ROW;
@@ -71,8 +71,7 @@ public:
         InvertMarker(point);
     }
 
-    /// The new size from the release. False if what was sized is not in view any
-    /// more.
+    /// The new size from the release. False if what was sized is not in view any more.
     bool End(CPoint point) const
     {
         InvertMarker(m_grid.m_ptLastMouse);
@@ -92,8 +91,7 @@ public:
         return true;
     }
 
-    /// Sizes the column or row at a divider to its contents. False where there is
-    /// none.
+    /// Sizes the column or row at a divider to its contents. False where there is none.
     bool Fit(const CCellID& cell, CPoint point) const
     {
         const int nItem = m_dividers.Fit(cell, point);
@@ -120,8 +118,7 @@ private:
     const CGridDividers m_dividers;
 };
 
-// ---- Press
-// ------------------------------------------------------------------------------------------------
+// ---- Press ------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
 {
@@ -178,9 +175,8 @@ void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
         m_ptLastMouse = point;
 }
 
-/// Whoever is told of a press may show a message box, and the button is up
-/// again when it closes: whatever the press was going to begin would then have
-/// no end.
+/// Whoever is told of a press may show a message box, and the button is up again when it closes: whatever the
+/// press was going to begin would then have no end.
 bool CGridCtrl::PressGoesOn()
 {
     if (!m_bPressLost && (!m_bRealPress || ::GetKeyState(VK_LBUTTON) < 0))
@@ -199,8 +195,7 @@ void CGridCtrl::OnKillFocus(CWnd* pNewWnd)
         m_bPressLost = true;
 }
 
-/// Ctrl on a selected cell takes it, or in list mode its row, out of the
-/// selection.
+/// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
 void CGridCtrl::DeselectPressed()
 {
     const CLifeWatch life(*this);
@@ -239,16 +234,14 @@ void CGridCtrl::BeginSelecting(UINT nFlags)
         OnFixedColumnClick(m_clickDownCell);
     else
     {
-        // Only here a drag beyond the edge scrolls; one that began on a header does
-        // not.
+        // Only here a drag beyond the edge scrolls; one that began on a header does not.
         m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
         OnSelecting(m_clickDownCell);
         m_nTimerId = SetTimer(AutoScrollTimerId, m_nTimerInterval, nullptr);
     }
 }
 
-/// The mode and the cursor of the divider at a point; false if there is none
-/// that may be dragged.
+/// The mode and the cursor of the divider at a point; false if there is none that may be dragged.
 bool CGridCtrl::FindDivider(CPoint point)
 {
     int nMode = MODE_NOTHING;
@@ -283,8 +276,7 @@ CCellID CGridCtrl::RaisedToBody(CCellID cell) const
     return CCellID(std::max(cell.row, m_rows.Fixed()), std::max(cell.col, m_cols.Fixed()));
 }
 
-// ---- Move
-// -------------------------------------------------------------------------------------------------
+// ---- Move -------------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnMouseMove(UINT /*nFlags*/, CPoint point)
 {
@@ -311,8 +303,7 @@ void CGridCtrl::Hover(CPoint point)
         pCell->OnMouseOver();
 }
 
-/// Goes on with the gesture. False where it has nothing to go to: the last
-/// position then stays.
+/// Goes on with the gesture. False where it has nothing to go to: the last position then stays.
 bool CGridCtrl::Drag(CPoint point)
 {
     switch (m_nMouseMode)
@@ -330,8 +321,7 @@ bool CGridCtrl::Drag(CPoint point)
     }
 }
 
-/// A drag inside one row moves the focus quietly: the parent hears of it only
-/// when the row changes.
+/// A drag inside one row moves the focus quietly: the parent hears of it only when the row changes.
 bool CGridCtrl::DragSelection(const CCellID& cell)
 {
     if (!IsValid(cell))
@@ -344,8 +334,7 @@ bool CGridCtrl::DragSelection(const CCellID& cell)
     return true;
 }
 
-// ---- Release
-// ----------------------------------------------------------------------------------------------
+// ---- Release ----------------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
 {
@@ -397,8 +386,7 @@ void CGridCtrl::StopAutoScroll()
     m_nTimerId = 0;
 }
 
-// ---- Double click
-// -----------------------------------------------------------------------------------------
+// ---- Double click -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
@@ -437,8 +425,7 @@ void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
         SendMessageToParent(cell.row, cell.col, NM_DBLCLK);
 }
 
-// ---- Right button
-// -----------------------------------------------------------------------------------------
+// ---- Right button -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnRButtonDown(UINT nFlags, CPoint point)
 {
@@ -473,12 +460,10 @@ void CGridCtrl::OnRButtonUp(UINT nFlags, CPoint point)
                             NM_RCLICK); // the real cell, fixed or not
 }
 
-// ---- Drag beyond the edge
-// ---------------------------------------------------------------------------------
+// ---- Drag beyond the edge ---------------------------------------------------------------------------------
 
-// The grid sends itself arrow keys, which move the focus and scroll, and
-// selects up to the edge. The mode is not looked at: the timer lives during a
-// gesture only.
+// The grid sends itself arrow keys, which move the focus and scroll, and selects up to the edge. The mode is
+// not looked at: the timer lives during a gesture only.
 void CGridCtrl::OnTimer(UINT_PTR nIDEvent)
 {
     CPoint point;
@@ -519,8 +504,7 @@ void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
         StopAutoScroll();
 }
 
-// ---- Cursor
-// -----------------------------------------------------------------------------------------------
+// ---- Cursor -----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
 {
