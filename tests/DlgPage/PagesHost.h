@@ -12,28 +12,32 @@
 #include <utility>
 #include <vector>
 
-/// What happened, in order: "bind Alpha", "show plain". One list for pages, dialogs and clients.
+/// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain".
 using Calls = std::vector<std::string>;
-struct CallLog
+inline Calls calls;
+
+inline Calls TakeCalls()
 {
-    Calls calls;
-    void Add(const std::string& text) { calls.push_back(text); }
-    Calls Take() { return std::exchange(calls, {}); }
-};
+    return std::exchange(calls, {});
+}
 
 inline std::string NameOf(const CPage* pPage)
 {
     return pPage ? std::string(CStringA(pPage->GetTreeItemName())) : "-";
 }
 
+/// What the select clients were told since the last question.
+inline Calls TakeSelections()
+{
+    std::erase_if(calls, [](const std::string& call) { return call.find(" after ") == std::string::npos; });
+    return TakeCalls();
+}
+
 class RecordingPage : public CPage
 {
 public:
-    RecordingPage(CString strName, CPageDialog* pDialog, int nId, CallLog& log)
-        : CPage(strName, pDialog), m_nId(nId), m_log(&log)
-    {
-    }
-    ~RecordingPage() override { m_log->Add("delete " + NameOf(this)); }
+    RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
+    ~RecordingPage() override { calls.push_back("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
 
     int nCount = 0; ///< what its dialog shows
@@ -46,18 +50,17 @@ public:
 
 private:
     int m_nId;
-    CallLog* m_log;
 };
 
 /// A dialog for the count of one page or of several. The page takes the count over when the user leaves the box.
 class RecordingDialog : public CPageDialog, public CEditNNotificationHandler
 {
 public:
-    RecordingDialog(UINT nTemplateId, std::string strName, CWnd* pHost, CallLog& log)
-        : CPageDialog(nTemplateId, pHost), m_strName(std::move(strName)), m_log(log)
+    RecordingDialog(UINT nTemplateId, std::string strName, CWnd* pHost)
+        : CPageDialog(nTemplateId, pHost), m_strName(std::move(strName))
     {
     }
-    ~RecordingDialog() override { m_log.Add("delete " + m_strName); }
+    ~RecordingDialog() override { calls.push_back("delete " + m_strName); }
 
     CEditIntegerWithRange count{this};
     RecordingPage* bound = nullptr; ///< whose count it shows
@@ -70,12 +73,12 @@ public:
     int OnInitPageDialog() override
     {
         count.SubclassDlgItem(IDC_COUNT, this);
-        m_log.Add("init " + m_strName);
+        calls.push_back("init " + m_strName);
         return FALSE; // as good as any other answer
     }
     void BindControlsToSources(bool bBind, CPage* pPage) override
     {
-        m_log.Add((bBind ? "bind " : "unbind ") + NameOf(pPage));
+        calls.push_back((bBind ? "bind " : "unbind ") + NameOf(pPage));
         bound = bBind ? static_cast<RecordingPage*>(pPage) : nullptr;
         if (bound)
             count.SetValue(bound->nCount);
@@ -92,17 +95,16 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_ENABLE)
-            m_log.Add((wParam ? "enable " : "disable ") + m_strName);
+            calls.push_back((wParam ? "enable " : "disable ") + m_strName);
         else if (message == WM_SHOWWINDOW)
-            m_log.Add((wParam ? "show " : "hide ") + m_strName);
+            calls.push_back((wParam ? "show " : "hide ") + m_strName);
         else if (message == WM_SETFOCUS)
-            m_log.Add("focus " + m_strName);
+            calls.push_back("focus " + m_strName);
         return CPageDialog::WindowProc(message, wParam, lParam);
     }
 
 private:
     std::string m_strName;
-    CallLog& m_log;
 };
 
 /// Writes down what managers and selectors tell: "first: Gamma below Alpha", "first: changed", "Alpha after -".
@@ -112,23 +114,22 @@ class RecordingClient : public AAddPageNotificationClient,
 {
 public:
     /// A manager that is named has the page already when it tells of it.
-    RecordingClient(CallLog& log, std::string strName, const CPageManager* pManager = nullptr)
-        : m_log(log), m_strName(std::move(strName)), m_pManager(pManager)
+    explicit RecordingClient(std::string strName, const CPageManager* pManager = nullptr)
+        : m_strName(std::move(strName)), m_pManager(pManager)
     {
     }
     void PageAdded(CPage* pPage, CPage* pParent) override
     {
         EXPECT_TRUE(!m_pManager || m_pManager->GetPage(pPage->GetPageID()));
-        m_log.Add(m_strName + ": " + NameOf(pPage) + " below " + NameOf(pParent));
+        calls.push_back(m_strName + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
     void PageSelected(CPage* pNew, CPage* pOld) override
     {
-        m_log.Add(NameOf(pNew) + " after " + NameOf(pOld));
+        calls.push_back(NameOf(pNew) + " after " + NameOf(pOld));
     }
-    void AttributeChangedUsingGUI() override { m_log.Add(m_strName + ": changed"); }
+    void AttributeChangedUsingGUI() override { calls.push_back(m_strName + ": changed"); }
 
 private:
-    CallLog& m_log;
     std::string m_strName;
     const CPageManager* m_pManager;
 };
@@ -152,9 +153,8 @@ public:
     explicit PagesHost(UINT nTemplateId = IDD_HOST) : CDialog(nTemplateId), m_nTemplateId(nTemplateId) {}
     ~PagesHost() override { DestroyWindow(); }
 
-    CallLog log;
     CPageManager manager{this};
-    RecordingClient selects{log, "selects"};
+    RecordingClient selects{"selects"};
     CRect frame{CPoint(200, 40), CSize(300, 180)};
     int oks = 0;
     int cancels = 0;
@@ -168,27 +168,19 @@ public:
     }
     RecordingPage* AddPage(const wchar_t* pszName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
     {
-        auto* pPage = new RecordingPage(pszName, pDialog, nId, log);
+        auto* pPage = new RecordingPage(pszName, pDialog, nId);
         manager.AddPage(pPage, pParent);
         return pPage;
     }
     RecordingDialog* AddDialog(UINT nTemplateId, const char* name)
     {
-        auto* pDialog = new RecordingDialog(nTemplateId, name, this, log);
+        auto* pDialog = new RecordingDialog(nTemplateId, name, this);
         manager.AddDialog(pDialog);
         return pDialog;
     }
-    /// What the select clients were told since the last question.
-    Calls TakeSelections()
-    {
-        Calls calls = log.Take();
-        std::erase_if(calls,
-                      [](const std::string& call) { return call.find(" after ") == std::string::npos; });
-        return calls;
-    }
     CRect GetPageFrame() override
     {
-        log.Add("frame");
+        calls.push_back("frame");
         return frame;
     }
 
@@ -261,12 +253,11 @@ protected:
     void SetUp() override
     {
         ASSERT_TRUE(m_host.Open());
-        m_log.Take();
+        TakeCalls();
     }
     static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
 
     TreeHost m_host;
-    CallLog& m_log = m_host.log;
     CPageManager& m_manager = m_host.manager;
     OpenPageTree& m_tree = m_host.tree;
     RecordingPage* Page(Identity id) { return m_host.Page(id); }

@@ -70,8 +70,7 @@ TEST_F(Caption, ShowsTheNameOfThePageInTheParentsFontBoldAndAFifthLarger)
     const int nFonts = owtest::CountGdiObjects(0x0A);
     for (const auto& [nParent, nCaption, strTitle] : titles)
     {
-        CallLog log;
-        RecordingPage page(strTitle, nullptr, 1, log);
+        RecordingPage page(strTitle, nullptr, 1);
         CFont parent, bold;
         parent.Attach(makeFont(nParent, FW_NORMAL));
         bold.Attach(makeFont(nCaption, FW_BOLD));

@@ -8,13 +8,13 @@
 
 TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 {
-    RecordingClient client(m_log, "early");
+    RecordingClient client("early");
     m_manager.RegisterAttributeChangedNotification(&client, true);
-    auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", &m_host, m_log);
+    auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", &m_host);
     pDialog->MyAttributeChanged();
-    EXPECT_EQ(m_log.Take(), Calls{}) << "nobody to tell yet";
+    EXPECT_EQ(TakeCalls(), Calls{}) << "nobody to tell yet";
     m_manager.AddDialog(pDialog); // reports a change while its window is being made
-    EXPECT_EQ(m_log.Take(),
+    EXPECT_EQ(TakeCalls(),
               (Calls{"early: changed", "show new", "init new", "frame", "disable new", "hide new"}));
     CRect rect;
     pDialog->GetWindowRect(rect);
@@ -30,16 +30,15 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
         ASSERT_TRUE(host.Open());
         CPageManager manager(&host);
         for (const char* name : {"one", "two"})
-            manager.AddDialog(new RecordingDialog(IDD_PLAIN, name, &host, m_log));
-        EXPECT_THROW(manager.AddDialog(new RecordingDialog(IDD_MISSING, "no template", &host, m_log)),
+            manager.AddDialog(new RecordingDialog(IDD_PLAIN, name, &host));
+        EXPECT_THROW(manager.AddDialog(new RecordingDialog(IDD_MISSING, "no template", &host)),
                      CResourceException*);
         for (const wchar_t* name : {L"A", L"B"})
-            manager.AddPage(new RecordingPage(name, nullptr, 1, m_log), nullptr);
+            manager.AddPage(new RecordingPage(name, nullptr, 1), nullptr);
         host.DestroyWindow();
-        m_log.Take();
+        TakeCalls();
     }
-    EXPECT_EQ(m_log.Take(),
-              (Calls{"delete A", "delete B", "delete one", "delete two", "delete no template"}));
+    EXPECT_EQ(TakeCalls(), (Calls{"delete A", "delete B", "delete one", "delete two", "delete no template"}));
 }
 
 // ---- Selection --------------------------------------------------------------------------------------------
@@ -63,16 +62,16 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
     for (const auto& [pNew, pOld, calls] : selections)
     {
         m_manager.PageSelected(pNew, pOld);
-        EXPECT_EQ(m_log.Take(), calls) << NameOf(pNew) << " after " << NameOf(pOld);
+        EXPECT_EQ(TakeCalls(), calls) << NameOf(pNew) << " after " << NameOf(pOld);
     }
     owtest::Click(m_host.fields->count);
     owtest::Type(L"5");
     m_host.DestroyWindow(); // while a page is shown
-    m_log.Take();
+    TakeCalls();
     m_manager.PageSelected(pGamma, pAlpha);
     m_manager.PageSelected(pAlpha, pBeta);
     m_tree.SetCurrentPage(nullptr);
-    EXPECT_EQ(m_log.Take(), Calls{});
+    EXPECT_EQ(TakeCalls(), Calls{});
 }
 
 TEST(ManagerOfARedirectingDialog, WhatTheDialogSelectsWhileItIsBoundStaysShown)
@@ -108,9 +107,9 @@ TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
     CPageManager manager(&m_host);
     const auto id = static_cast<CPage::EPageID>(3);
     EXPECT_EQ(manager.GetPage(id), nullptr);
-    auto* pFirst = new RecordingPage(L"first", nullptr, id, m_log);
-    for (RecordingPage* pPage : {new RecordingPage(L"other", nullptr, 2, m_log), pFirst,
-                                 new RecordingPage(L"second", nullptr, id, m_log)})
+    auto* pFirst = new RecordingPage(L"first", nullptr, id);
+    for (RecordingPage* pPage :
+         {new RecordingPage(L"other", nullptr, 2), pFirst, new RecordingPage(L"second", nullptr, id)})
         manager.AddPage(pPage, nullptr);
     EXPECT_EQ(manager.GetPage(id), pFirst);
     EXPECT_EQ(manager.GetPage(CPage::EPageID{}), nullptr);
@@ -122,23 +121,23 @@ TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
 TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
     CPageManager manager(&m_host);
-    RecordingClient first(m_log, "first", &manager), second(m_log, "second"), unknown(m_log, "unknown");
+    RecordingClient first("first", &manager), second("second"), unknown("unknown");
     for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
-    auto* pParent = new RecordingPage(L"A", nullptr, 1, m_log);
+    auto* pParent = new RecordingPage(L"A", nullptr, 1);
     manager.AddPage(pParent, nullptr);
-    EXPECT_EQ(m_log.Take(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));
+    EXPECT_EQ(TakeCalls(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));
     for (RecordingClient* pClient : {&first, &second, &unknown})
         manager.RegisterAddPageNotification(pClient, false);
-    manager.AddPage(new RecordingPage(L"B", nullptr, 2, m_log), pParent);
-    EXPECT_EQ(m_log.Take(), (Calls{"first: B below A", "second: B below A"}))
+    manager.AddPage(new RecordingPage(L"B", nullptr, 2), pParent);
+    EXPECT_EQ(TakeCalls(), (Calls{"first: B below A", "second: B below A"}))
         << "twice registered, removed once";
 
     for (const bool bRegister : {true, false})
         for (RecordingClient* pClient : {&first, &second})
             manager.RegisterAttributeChangedNotification(pClient, bRegister);
     manager.AttributeChangedUsingGUI();
-    EXPECT_EQ(m_log.Take(), (Calls{"first: changed", "second: changed"}));
+    EXPECT_EQ(TakeCalls(), (Calls{"first: changed", "second: changed"}));
     EXPECT_THROW(manager.RegisterAttributeChangedNotification(&unknown, false), CInvalidArgException*);
 }
 
@@ -151,10 +150,9 @@ OW_CHILD_SCENARIO(null_page)
 
 OW_CHILD_SCENARIO(parent_that_was_not_added)
 {
-    CallLog log;
     CPageManager manager(nullptr);
-    manager.AddPage(new RecordingPage(L"twin", nullptr, 1, log), nullptr);
-    RecordingPage parent(L"parent", nullptr, 1, log), child(L"child", nullptr, 2, log);
+    manager.AddPage(new RecordingPage(L"twin", nullptr, 1), nullptr);
+    RecordingPage parent(L"parent", nullptr, 1), child(L"child", nullptr, 2);
     manager.AddPage(&child, &parent);
 }
 

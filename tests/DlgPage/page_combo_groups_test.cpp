@@ -65,7 +65,11 @@ template <class Group>
 class PageComboGroups : public ::testing::Test
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(host.Open()); }
+    void SetUp() override
+    {
+        ASSERT_TRUE(host.Open());
+        TakeCalls();
+    }
 
     GroupHost<Group> host;
     Group& group = host.group;
@@ -119,30 +123,30 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     {
         const std::string told = step.to + std::string(" after ") + step.from;
         step.move();
-        EXPECT_EQ(this->host.TakeSelections(), Calls{told});
+        EXPECT_EQ(TakeSelections(), Calls{told});
         EXPECT_EQ(this->host.Shown(), step.to + std::string(" ") + step.row) << told;
         EXPECT_EQ(NameOf(this->group.GetCurrentPage()), step.to) << told;
     }
     this->group.OnExtComboBoxSelChanged(idToggle, 1);
     this->group.OnButtonClicked(idCombo);
-    EXPECT_EQ(this->host.TakeSelections(), Calls{}) << "other controls";
+    EXPECT_EQ(TakeSelections(), Calls{}) << "other controls";
     this->group.OnExtComboBoxSelChanged(idCombo, -1);
-    EXPECT_EQ(this->host.TakeSelections(), Calls{"- after Alpha"});
+    EXPECT_EQ(TakeSelections(), Calls{"- after Alpha"});
     EXPECT_EQ(this->host.Shown(), "0");
     this->group.OnButtonClicked(idToggle);
-    EXPECT_EQ(this->host.TakeSelections(), Calls{"- after -"}) << "no row";
+    EXPECT_EQ(TakeSelections(), Calls{"- after -"}) << "no row";
 }
 
 TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
 {
-    RecordingPage twin(_T("Another object"), nullptr, idGamma, this->host.log);
-    RecordingPage unknown(_T("Stranger"), nullptr, idStranger, this->host.log);
+    RecordingPage twin(_T("Another object"), nullptr, idGamma);
+    RecordingPage unknown(_T("Stranger"), nullptr, idStranger);
     for (CPage* pUnknown : {static_cast<CPage*>(nullptr), static_cast<CPage*>(&unknown)})
     {
         this->group.SetCurrentPage(&twin);
-        EXPECT_EQ(this->host.TakeSelections(), Calls{"Gamma after -"}) << "the one that was added";
+        EXPECT_EQ(TakeSelections(), Calls{"Gamma after -"}) << "the one that was added";
         this->group.SetCurrentPage(pUnknown);
-        EXPECT_EQ(this->host.TakeSelections(), Calls{});
+        EXPECT_EQ(TakeSelections(), Calls{});
         EXPECT_EQ(this->host.Shown(), "Gamma -1");
         EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
@@ -170,9 +174,9 @@ TYPED_TEST(PageComboGroups, TellTheClientsBeforeTheRowChangesByCode)
     EXPECT_EQ(watch.seen, "- Beta ");
     this->group.RegisterSelectPageNotification(&this->host.selects, false);
     this->group.RegisterSelectPageNotification(&watch, false);
-    this->host.TakeSelections();
+    TakeSelections();
     this->group.SetCurrentPage(this->Page(idBeta));
-    EXPECT_EQ(this->host.TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";
+    EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";
     EXPECT_EQ(watch.seen, "- Beta ");
 }
 
@@ -183,12 +187,12 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
     group.SetFocus();
     owtest::Press(VK_DOWN);
     EXPECT_EQ(host.Shown(), "Later 2+");
-    host.TakeSelections();
+    TakeSelections();
     host.ShowWindow(SW_HIDE);
     EXPECT_EQ(group.GetCurrentPage(), Page(idDelta)) << "a box that is not seen does not count";
     host.ShowWindow(SW_SHOW);
     group.SetCurrentPage(Page(idBeta));
-    EXPECT_EQ(host.TakeSelections(), Calls{"Beta after Delta"});
+    EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"});
     host.Toggle().ShowWindow(SW_SHOW);
     EXPECT_EQ(group.GetCurrentPage(), nullptr);
 }

@@ -137,13 +137,13 @@ TEST_F(PageInput, ATypedValueIsKeptWhenThePageChangesWithoutLeavingTheBox)
 
 TEST_F(PageInput, AChangeTravelsFromTheBoxToTheHost)
 {
-    RecordingClient preview(m_log, "preview");
+    RecordingClient preview("preview");
     m_manager.RegisterAttributeChangedNotification(&preview, true);
     Field(IDC_COUNT).SetFocus();
-    m_log.Take();
+    TakeCalls();
     owtest::Type(L"17");
-    EXPECT_EQ(m_log.Take(), (Calls{"preview: changed", "preview: changed"})) << "one for each key";
+    EXPECT_EQ(TakeCalls(), (Calls{"preview: changed", "preview: changed"})) << "one for each key";
     m_host.fields->AttachAttributeChangeNotificationClient(nullptr);
     owtest::Type(L"8");
-    EXPECT_EQ(m_log.Take(), Calls{});
+    EXPECT_EQ(TakeCalls(), Calls{});
 }

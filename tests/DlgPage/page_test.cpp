@@ -22,8 +22,7 @@ bool LiesLow(const void* pPage)
 
 TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
 {
-    CallLog log;
-    RecordingPage page(L"Beams", nullptr, 1, log);
+    RecordingPage page(L"Beams", nullptr, 1);
     const auto flags = [&]
     {
         return std::vector{page.formatGoreSet, page.formatDoleSet, page.formatIzvorSet, page.duzinaSet,
@@ -56,8 +55,8 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
 
 TEST(Page, WithoutADialogItIsANameOnly)
 {
-    CallLog log;
-    RecordingPage page(L"Beams", nullptr, 1, log);
+    RecordingPage page(L"Beams", nullptr, 1);
+    TakeCalls();
     page.ChangeVisibility(true);
     page.ChangeVisibility(false);
     page.SendFocusedControlKillFocusMessage();
@@ -65,7 +64,7 @@ TEST(Page, WithoutADialogItIsANameOnly)
     EXPECT_EQ(NameOf(&page), "Beams");
     EXPECT_EQ(page.GetPreviewID(), 0);
     EXPECT_EQ(page.GetDialogTemplateID(), 0u);
-    EXPECT_EQ(log.Take(), Calls{});
+    EXPECT_EQ(TakeCalls(), Calls{});
 }
 
 // ---- Memory below 4 GiB -----------------------------------------------------------------------------------
@@ -77,13 +76,12 @@ TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApart)
         using RecordingPage::RecordingPage;
         char values[100000] = {1}; // more than the memory is taken in
     };
-    CallLog log;
     std::vector<std::unique_ptr<RecordingPage>> pages;
     for (int i = 0; i < 400; ++i)
     {
-        pages.emplace_back(i % 40 == 0   ? new LargePage(L"large", nullptr, i, log)
-                           : i % 40 == 1 ? new (std::nothrow) RecordingPage(L"nothrow", nullptr, i, log)
-                                         : new RecordingPage(L"small", nullptr, i, log));
+        pages.emplace_back(i % 40 == 0   ? new LargePage(L"large", nullptr, i)
+                           : i % 40 == 1 ? new (std::nothrow) RecordingPage(L"nothrow", nullptr, i)
+                                         : new RecordingPage(L"small", nullptr, i));
         ASSERT_TRUE(pages.back() && LiesLow(pages.back().get()));
     }
     for (int i = 0; i < 400; ++i)
@@ -96,14 +94,13 @@ TEST(PageMemory, WhatIsFreedServesTheNextPages)
 {
     struct FailingPage : RecordingPage
     {
-        explicit FailingPage(CallLog& log) : RecordingPage(L"failing", nullptr, 1, log) { throw 1; }
+        FailingPage() : RecordingPage(L"failing", nullptr, 1) { throw 1; }
     };
-    CallLog log;
-    const void* pPlace = std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get();
+    const void* pPlace = std::make_unique<RecordingPage>(L"one", nullptr, 1).get();
     for (int i = 0; i < 10; ++i)
     {
-        EXPECT_THROW(new FailingPage(log), int);
-        EXPECT_THROW(new (std::nothrow) FailingPage(log), int);
-        ASSERT_EQ(std::make_unique<RecordingPage>(L"one", nullptr, 1, log).get(), pPlace);
+        EXPECT_THROW(new FailingPage, int);
+        EXPECT_THROW(new (std::nothrow) FailingPage, int);
+        ASSERT_EQ(std::make_unique<RecordingPage>(L"one", nullptr, 1).get(), pPlace);
     }
 }

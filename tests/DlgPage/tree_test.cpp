@@ -11,8 +11,8 @@ TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
     constexpr DWORD kStyles =
         TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_DISABLEDRAGDROP | TVS_SHOWSELALWAYS;
     EXPECT_EQ(m_tree.GetStyle() & (kStyles | TVS_NOSCROLL), kStyles) << "whatever the template says";
-    RecordingPage strange(L"strange", nullptr, idStranger, m_log);
-    const auto pLost = std::make_unique<RecordingPage>(L"lost", nullptr, idStranger, m_log);
+    RecordingPage strange(L"strange", nullptr, idStranger);
+    const auto pLost = std::make_unique<RecordingPage>(L"lost", nullptr, idStranger);
     m_tree.PageAdded(pLost.get(), &strange);
     EXPECT_EQ(m_tree.GetItemData(m_tree.PageToItem(pLost.get())), reinterpret_cast<DWORD_PTR>(pLost.get()));
     const std::function<std::string(HTREEITEM)> branch = [&](HTREEITEM hItem)
@@ -28,17 +28,17 @@ TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
     };
     EXPECT_EQ(branch(m_tree.GetRootItem()), "Alpha(Gamma())Beta()Delta(Earlier()Later())lost()");
     EXPECT_EQ(m_tree.GetCurrentPage(), nullptr);
-    EXPECT_EQ(m_host.TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), Calls{});
 }
 
 TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
 {
     m_tree.SetCurrentPage(Page(idAlpha));
-    m_log.Take();
+    TakeCalls();
     CRect rect;
     m_tree.GetItemRect(m_tree.PageToItem(Page(idBeta)), rect, TRUE);
     owtest::Click(m_tree, rect.CenterPoint());
-    EXPECT_EQ(m_log.Take(), (Calls{"Beta after Alpha", "bind Beta", "focus fields"}))
+    EXPECT_EQ(TakeCalls(), (Calls{"Beta after Alpha", "bind Beta", "focus fields"}))
         << "in the order of registering";
     EXPECT_TRUE(HasFocus(m_tree));
     EXPECT_EQ(m_tree.GetCurrentPage(), Page(idBeta));
@@ -46,43 +46,43 @@ TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
 
     for (const WORD key : {VK_UP, VK_RIGHT, VK_DOWN}) // the second opens the branch
         owtest::Press(key);
-    EXPECT_EQ(m_host.TakeSelections(), (Calls{"Alpha after Beta", "Gamma after Alpha"}));
+    EXPECT_EQ(TakeSelections(), (Calls{"Alpha after Beta", "Gamma after Alpha"}));
     EXPECT_TRUE(HasFocus(m_tree));
     EXPECT_TRUE(m_host.plain->IsWindowVisible() && !m_host.fields->IsWindowVisible());
 
     owtest::Press(VK_RETURN);
     EXPECT_TRUE(HasFocus(*m_host.GetDlgItem(IDC_NAME))) << "Enter moves on";
     EXPECT_EQ(m_host.oks, 0);
-    EXPECT_EQ(m_host.TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), Calls{});
 }
 
 TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
 {
     m_tree.SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(m_host.TakeSelections(), Calls{"Gamma after -"});
+    EXPECT_EQ(TakeSelections(), Calls{"Gamma after -"});
     EXPECT_TRUE(HasFocus(m_tree));
-    RecordingPage strange(L"strange", nullptr, idStranger, m_log);
+    RecordingPage strange(L"strange", nullptr, idStranger);
     for (CPage* pPage : {Page(idGamma), &strange, static_cast<RecordingPage*>(nullptr)})
         m_tree.SetCurrentPage(pPage);
     CPageTreeCtrl().SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(m_host.TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), Calls{});
     m_tree.SelectItem(nullptr);
-    EXPECT_EQ(m_host.TakeSelections(), Calls{"- after Gamma"});
+    EXPECT_EQ(TakeSelections(), Calls{"- after Gamma"});
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"");
     EXPECT_FALSE(m_host.plain->IsWindowVisible());
 }
 
 TEST_F(Pages, TheFirstClientOfTheTreeStaysAndNullIsPassedOver)
 {
-    RecordingClient other(m_log, "other"), unknown(m_log, "unknown");
+    RecordingClient other("other"), unknown("unknown");
     m_tree.RegisterSelectPageNotification(&other, true);
     m_tree.RegisterSelectPageNotification(nullptr, true);
     m_tree.SetCurrentPage(Page(idAlpha));
-    EXPECT_EQ(m_host.TakeSelections(), (Calls{"Alpha after -", "Alpha after -"}));
+    EXPECT_EQ(TakeSelections(), (Calls{"Alpha after -", "Alpha after -"}));
     for (RecordingClient* pClient : {&m_host.selects, &other, &unknown})
         m_tree.RegisterSelectPageNotification(pClient, false);
     m_tree.SetCurrentPage(Page(idBeta));
-    EXPECT_EQ(m_host.TakeSelections(), Calls{"Beta after Alpha"});
+    EXPECT_EQ(TakeSelections(), Calls{"Beta after Alpha"});
 }
 
 TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
@@ -98,6 +98,7 @@ TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
             host.UpdateWindow();
             owtest::Pump();
         }
+        TakeCalls();
         for (LONG nIdle = 0; AfxGetApp()->OnIdle(nIdle); ++nIdle) // what MFC keeps until then
             ;
     };
