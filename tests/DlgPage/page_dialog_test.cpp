@@ -67,12 +67,18 @@ TEST_F(PageInput, TabGoesThroughThePageAndOnToTheHost)
     Field(IDC_COUNT).SetFocus();
     owtest::Press(VK_TAB);
     EXPECT_TRUE(HasFocus(Field(IDC_PLAIN)));
-    for (const bool bShift : {false, true})
-    {
-        Field(bShift ? IDC_COUNT : IDC_NOTES).SetFocus();
-        owtest::Press(VK_TAB, bShift);
-        EXPECT_TRUE(HasFocus(Field(bShift ? IDC_NOTES : IDC_COUNT))) << "round the page";
-    }
+    MSG tab{Field(IDC_PLAIN), WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    EXPECT_TRUE(m_host.fields->PreTranslateMessage(&tab)) << "translated by the page";
+    EXPECT_TRUE(HasFocus(Field(IDC_NOTES)));
+    owtest::Press(VK_TAB);
+    EXPECT_TRUE(HasFocus(Field(IDC_COUNT))) << "round the page, from a box that moves the focus itself";
+
+    m_tree.SetCurrentPage(Page(idGamma));
+    m_host.plain->GetDlgItem(IDC_PLAIN)->SetFocus();
+    owtest::Press(VK_TAB);
+    EXPECT_TRUE(HasFocus(m_tree)) << "from the page's last box, past the page that is hidden";
+    owtest::Press(VK_TAB, true);
+    EXPECT_TRUE(HasFocus(*m_host.plain->GetDlgItem(IDC_PLAIN)));
 }
 
 TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
