@@ -24,11 +24,11 @@
 //
 // Keys. Escape does nothing in a page: it closes neither the page nor the host. Enter makes a line break in a
 // multi-line edit with ES_WANTRETURN; with any other control it goes on as if the page were no dialog, to the
-// host's default button in the end. Tab goes from the page's last control on to the host's next one, and back;
-// but the library's own boxes, as multi-line edits, move the focus within the page: where one of them stands
-// last, Tab goes round, and a host offers a key of its own to leave. Every other key is translated by the page,
-// so that PreTranslateMessage of the host never sees it: an accelerator that must work in a page too belongs to
-// the frame or the application.
+// host's default button in the end. Tab goes from the page's last control on to the host's next one, and back.
+// But the library's own boxes, like multi-line edits, move the focus within the page: where one of them stands
+// last, Tab goes round, and a host offers a key of its own to leave. Every other key is translated by the
+// page, so that PreTranslateMessage of the host never sees it: an accelerator that must work in a page too
+// belongs to the frame or the application.
 
 #include <afxwin.h>
 
