@@ -211,7 +211,7 @@ private:
 class OpenPageTree : public CPageTreeCtrl
 {
 public:
-    using CPageTreeCtrl::ItemToPage, CPageTreeCtrl::PageToItem;
+    using CPageTreeCtrl::OnTvnSelchanged, CPageTreeCtrl::PageToItem;
 };
 
 /// The usual host: with a tree and a caption.

@@ -69,6 +69,10 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     m_tree.SelectItem(nullptr);
     EXPECT_EQ(TakeSelections(), Calls{"- after Gamma"});
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"");
+    NMTREEVIEW nothing{};
+    LRESULT result = 1;
+    m_tree.OnTvnSelchanged(&nothing.hdr, &result);
+    EXPECT_TRUE(result == 0 && TakeSelections() == Calls{"- after -"});
     EXPECT_FALSE(m_host.plain->IsWindowVisible());
 }
 
