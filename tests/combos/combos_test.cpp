@@ -337,6 +337,17 @@ TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
     EXPECT_EQ(m_font.GetCount(), count + 2) << "the same name, too, but no other type";
     m_font.DeleteString(RowOf(kNoFont));
     EXPECT_EQ(RecordOf(kNoFont)->lfWeight, 123);
+    const auto look = [&](owtest::Surface& picture)
+    {
+        m_font.UpdateWindow();
+        CClientDC dc(&m_font);
+        picture.dc().BitBlt(0, 0, 60, 18, &dc, 0, 0, SRCCOPY);
+    };
+    owtest::Surface none(60, 18), first(60, 18);
+    look(none);
+    m_font.SetCurSel(0);
+    look(first);
+    EXPECT_FALSE(none == first) << "it draws again once it is filled";
 }
 
 TEST_F(Combos, AFontOneThatIsMadePostsAMessageThatItDoesNotHandle)
