@@ -62,6 +62,7 @@ struct BoxesDialog : CDialog
     OwnControlsBox own;
     CEditDoubleWithRange given; ///< finds its label and its spin in the template
     int oks = 0, cancels = 0;
+    int changesSeen = 0; ///< notifications that a box has let through
 
     bool Open()
     {
@@ -86,6 +87,11 @@ struct BoxesDialog : CDialog
         DDX_Control(pDX, kReadOnly, readOnly);
         DDX_Control(pDX, kOwn, own);
         DDX_Control(pDX, kGiven, given);
+    }
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override
+    {
+        changesSeen += nCode == EN_CHANGE;
+        return CDialog::OnCmdMsg(nID, nCode, pExtra, pInfo);
     }
     void OnOK() override { ++oks; }
     void OnCancel() override { ++cancels; }

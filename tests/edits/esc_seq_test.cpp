@@ -55,28 +55,28 @@ protected:
         EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_box->m_hWnd; }));
         m_box->SetSel(nPlace, nPlace, bNoScroll);
     }
-    /// Chooses from the menu of the button with the mouse; the text afterwards.
-    CString Insert(int nItem)
+    /// Chooses from the menu of the button with the mouse, or closes it for -1; its labels.
+    std::wstring Choose(int nItem)
     {
-        owtest::MenuVisit visit([&](const owtest::OpenMenu& menu) { menu.Click(nItem); });
-        owtest::Click(Button());
-        EXPECT_EQ(visit.Count(), 1);
-        EXPECT_EQ(::GetFocus(), m_box->m_hWnd);
-        EXPECT_EQ(TextOf(*m_box), m_box->GetValue().GetString());
-        return m_box->GetValue();
-    }
-    std::wstring Menu()
-    {
-        std::wstring text;
+        std::wstring labels;
         owtest::MenuVisit visit(
             [&](const owtest::OpenMenu& menu)
             {
                 for (const std::wstring& label : menu.Labels())
-                    text += label + L'\n';
-                menu.Press({VK_ESCAPE});
+                    labels += label + L'\n';
+                nItem < 0 ? menu.Press({VK_ESCAPE}) : menu.Click(nItem);
             });
         owtest::Click(Button());
-        return text;
+        EXPECT_EQ(visit.Count(), 1);
+        return labels;
+    }
+    /// The text after a choice.
+    CString Insert(int nItem)
+    {
+        Choose(nItem);
+        EXPECT_EQ(::GetFocus(), m_box->m_hWnd);
+        EXPECT_EQ(TextOf(*m_box), m_box->GetValue().GetString());
+        return m_box->GetValue();
     }
 
     Recorder m_handler;
@@ -88,7 +88,6 @@ std::wstring Codes(const CEditEscSeqText& box)
 {
     OCArray<CString> codes, descriptions;
     codes.Add(L"old");
-    descriptions.Add(L"old");
     const int nCount = box.EnumEscSeq(codes, descriptions);
     EXPECT_TRUE(codes.GetSize() == nCount && descriptions.GetSize() == nCount);
     std::wstring line;
@@ -115,12 +114,12 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     EXPECT_EQ(Codes(member) + Codes(plate), L"%i%f%m%o%i%h");
 
     auto& box = Show<CEditAcadEscSeqSpecLima>(0, kButton, true);
-    EXPECT_EQ(Menu(), L"%i - dimension symbol\n%h - plate thickness\n");
+    EXPECT_EQ(Choose(-1), L"%i - dimension symbol\n%h - plate thickness\n");
     english.reset();
     box.m_bNoDimensions = false;
-    EXPECT_EQ(Menu(), L"%i - dimension symbol\n%h - plate thickness\n") << "read once";
+    EXPECT_EQ(Choose(-1), L"%i - dimension symbol\n%h - plate thickness\n") << "read once";
     box.UpdateEscSeqList();
-    EXPECT_EQ(Menu(), L"%i - simbol za kotu\n%l - duzina lima\n%w - sirina lima\n%h - debljina lima\n");
+    EXPECT_EQ(Choose(-1), L"%i - simbol za kotu\n%l - duzina lima\n%w - sirina lima\n%h - debljina lima\n");
     Show<CEditEscSeqText>();
     owtest::Click(Button());
     EXPECT_EQ(::GetFocus(), Button()) << "an empty list opens no menu";
