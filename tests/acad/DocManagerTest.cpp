@@ -4,28 +4,18 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-HINSTANCE Module(const wchar_t* name)
-{
-    return ::GetModuleHandleW(name);
-}
-} // namespace
-
 TEST(DocManager, NestedPushesAreUndoneInReverse)
 {
     AcApDocManager* manager = acDocManagerPtr();
     ASSERT_EQ(manager, acDocManager);
     const HINSTANCE start = AfxGetResourceHandle();
-
-    manager->pushResourceHandle(Module(L"user32.dll"));
-    EXPECT_EQ(AfxGetResourceHandle(), Module(L"user32.dll"));
-    manager->pushResourceHandle(Module(L"gdi32.dll"));
-    EXPECT_EQ(AfxGetResourceHandle(), Module(L"gdi32.dll"));
+    const HINSTANCE user = ::GetModuleHandleW(L"user32.dll"), gdi = ::GetModuleHandleW(L"gdi32.dll");
+    manager->pushResourceHandle(user);
+    manager->pushResourceHandle(gdi);
+    EXPECT_EQ(AfxGetResourceHandle(), gdi);
     EXPECT_EQ(manager->resourceHandleDepth(), 2);
-
     EXPECT_EQ(manager->popResourceHandle(), Acad::eOk);
-    EXPECT_EQ(AfxGetResourceHandle(), Module(L"user32.dll"));
+    EXPECT_EQ(AfxGetResourceHandle(), user);
     EXPECT_EQ(manager->popResourceHandle(), Acad::eOk);
     EXPECT_EQ(AfxGetResourceHandle(), start);
     EXPECT_EQ(manager->popResourceHandle(), Acad::eNotApplicable) << "nothing is pushed";

@@ -65,6 +65,10 @@ TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
     };
     EXPECT_EQ(texts(TRUE, nullptr), L"Ucitaj|Ucitaj|Cancel|Lokacija|Ime fajla|Tip fajla");
     EXPECT_EQ(texts(FALSE, nullptr), L"Snimi kao...|Snimi|Cancel|Lokacija|Ime fajla|Tip fajla");
+    {
+        const OtherCancel other("Odustani");
+        EXPECT_EQ(texts(TRUE, nullptr), L"Ucitaj|Ucitaj|Odustani|Lokacija|Ime fajla|Tip fajla");
+    }
     const owtest::EnglishTexts english;
     EXPECT_EQ(texts(TRUE, nullptr), L"Load|Load|Cancel|Look in|File name|File type");
     EXPECT_EQ(texts(FALSE, L"Snimi"), L"Snimi|Save|Cancel|Look in|File name|File type") << "as it stands";

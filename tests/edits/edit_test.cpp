@@ -9,7 +9,7 @@ namespace
 /// Counts its creations, and may refuse to be created, or write a text inside of writing another one.
 struct OddBox : CEditN
 {
-    using CEditN::CEditN;
+    using CEditN::CEditN, CEditN::DoesNotificationHandlerExist, CEditN::GetSafeNotificationHandler;
     int made = 0;
     bool refuse = false, nest = false;
 
@@ -114,6 +114,7 @@ TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
     dialog.plain.UnsubclassWindow();
     OddBox box(&handler);
     ASSERT_TRUE(box.SubclassDlgItem(kPlain, &dialog));
+    EXPECT_TRUE(box.DoesNotificationHandlerExist() && box.GetSafeNotificationHandler() == &handler);
     for (const bool again : {false, true}) // the second time on a box that has changed, through the interface
     {
         box.SetAnsiInterface(again);
@@ -158,9 +159,13 @@ TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
     dialog.plain.UnsubclassWindow();
     EXPECT_TRUE(box.SubclassDlgItem(kPlain, &dialog));
     EXPECT_EQ(box.made, 1) << "what failed before leaves no trace";
+    box.UnsubclassWindow();
+    EXPECT_TRUE(box.SubclassDlgItem(kPlain, &dialog));
+    EXPECT_EQ(box.made, 2);
     box.DestroyWindow();
     ASSERT_TRUE(box.Create(WS_CHILD, place, &dialog, kFree));
-    EXPECT_EQ(box.made, 2);
+    EXPECT_EQ(box.made, 3);
+    EXPECT_FALSE(box.DoesNotificationHandlerExist() || box.GetSafeNotificationHandler());
     box.DestroyWindow();
 
     CEditIntegerWithRange typed(&handler);

@@ -12,31 +12,20 @@ namespace
 {
 struct FontManager : testing::Test
 {
-    void SetUp() override
+    FontManager()
     {
-        m_directory =
-            std::filesystem::temp_directory_path() / (L"shx" + std::to_wstring(::GetCurrentProcessId()));
         std::filesystem::create_directories(m_directory);
         m_dc.CreateCompatibleDC(nullptr);
     }
-
-    void TearDown() override
+    ~FontManager() override
     {
         std::error_code ignored;
         std::filesystem::remove_all(m_directory, ignored);
     }
-
     void AddFile(const CString& name) { std::ofstream(m_directory / name.GetString()) << "shapes"; }
 
-    void UseDirectories(std::initializer_list<std::filesystem::path> directories)
-    {
-        CStringArray paths;
-        for (const auto& directory : directories)
-            paths.Add(directory.c_str());
-        m_manager.SetSHXDirectories(paths);
-    }
-
-    std::filesystem::path m_directory;
+    const std::filesystem::path m_directory =
+        std::filesystem::temp_directory_path() / (L"shx" + std::to_wstring(::GetCurrentProcessId()));
     CDC m_dc;
     CFontManager m_manager;
 };
@@ -67,7 +56,10 @@ TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
     for (const CString& file :
          {CString(L"romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
         AddFile(file);
-    UseDirectories({m_directory / L"absent", m_directory});
+    CStringArray directories;
+    directories.Add((m_directory / L"absent").c_str());
+    directories.Add(m_directory.c_str());
+    m_manager.SetSHXDirectories(directories);
     EXPECT_FALSE(m_manager.m_bInitialized) << "is to be read anew";
     m_manager.Initialize(m_dc);
     for (const CString& name : {CString(L"romans"), CString(L"txt"), face}) // a file counts more than a face

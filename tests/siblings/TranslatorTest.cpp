@@ -13,18 +13,11 @@ namespace
 {
 struct Translator : testing::Test
 {
-    void SetUp() override
-    {
-        m_path = std::filesystem::temp_directory_path() /
-                 (L"catalogue" + std::to_wstring(::GetCurrentProcessId()) + L".po");
-    }
-
-    void TearDown() override
+    ~Translator() override
     {
         std::error_code ignored;
         std::filesystem::remove(m_path, ignored);
     }
-
     bool Load(const std::string& catalogue)
     {
         std::ofstream(m_path, std::ios::binary) << catalogue;
@@ -32,7 +25,8 @@ struct Translator : testing::Test
         return m_translator.Load(m_path.c_str(), &m_error);
     }
 
-    std::filesystem::path m_path;
+    const std::filesystem::path m_path =
+        std::filesystem::temp_directory_path() / (std::to_wstring(::GetCurrentProcessId()) + L"catalogue.po");
     ClTranslator m_translator;
     ClCatalogueError m_error;
 };
