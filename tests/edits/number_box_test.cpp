@@ -1,5 +1,5 @@
-// The boxes for numbers. What they hold and show is what a simple model says, whatever is done to them in whatever
-// order; beside that, what only one of the two has.
+// The boxes for numbers. What they hold and show is what a simple model says, whatever is done to them in
+// whatever order; beside that, what only one of the two has.
 
 #include "Boxes.h"
 
@@ -141,9 +141,10 @@ TEST_F(Boxes, ForWholeNumbersTakeDigitsWithAnOptionalMinus)
     constexpr int none = 4; // stands in the box before
     // clang-format off
     const std::pair<const wchar_t*, int> cases[] = {
-        {L"7", 7}, {L" -12\t", -12}, {L"007", 7}, {L"-0", 0}, {L"90", 90}, {L"", none}, {L"  ", none}, {L"-", none},
-        {L"+5", none}, {L"5-", none}, {L"--5", none}, {L"- 5", none}, {L"1 2", none}, {L"1.0", none}, {L"1e3", none},
-        {L"0x1", none}, {L"12x", none}, {L"\u0663", none}, {L"2147483647", INT_MAX}, {L"-2147483648", INT_MIN},
+        {L"7", 7}, {L" -12\t", -12}, {L"007", 7}, {L"-0", 0}, {L"90", 90}, {L"", none}, {L"  ", none},
+        {L"-", none}, {L"+5", none}, {L"5-", none}, {L"--5", none}, {L"- 5", none}, {L"1 2", none},
+        {L"1.0", none}, {L"1e3", none}, {L"0x1", none}, {L"12x", none}, {L"\u0663", none},
+        {L"2147483647", INT_MAX}, {L"-2147483648", INT_MIN},
         {L"2147483648", none}, {L"-2147483649", none}, {L"99999999999999999999", none},
         {L"00000000000000000000000000000000000000005", 5}};
     // clang-format on
@@ -185,23 +186,22 @@ TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShow)
 {
     CEditDoubleWithRange& box = dialog.own;
     box.SetValue(1234.5678);
-    EDoubleFormat format = eDoubleFormatFixed;
-    int decimals = 3;
-    for (const wchar_t* text : {L"1234.568", L"typed", L"1234.57"})
+    const auto shown = [&](EDoubleFormat format, int decimals, bool force = false)
     {
-        box.SetFormat(format, decimals);
-        EXPECT_EQ(TextOf(box), text);
-        EXPECT_EQ(box.GetFormat(), format);
-        EXPECT_EQ(box.GetDecimals(), 3);
-        if (*text == L't')
-            format = eDoubleFormatGeneral; // with the same decimals
         box.SafeSetWindowText(L"typed");
-    }
-    box.SetFormat(format, decimals, true);
-    EXPECT_EQ(TextOf(box), L"1234.57");
-    box.SetFormat(eDoubleFormatFixed, 1);
+        box.SetFormat(format, decimals, force);
+        return TextOf(box);
+    };
+    EXPECT_EQ(shown(eDoubleFormatFixed, 3), L"1234.568");
+    EXPECT_EQ(shown(eDoubleFormatFixed, 3), L"typed") << "nothing changes";
+    EXPECT_EQ(shown(eDoubleFormatFixed, 3, true), L"1234.568");
+    EXPECT_EQ(shown(eDoubleFormatGeneral, 3), L"1234.57");
+    EDoubleFormat format{};
+    int decimals = 0;
     box.GetFormat(format, decimals);
-    EXPECT_TRUE(format == eDoubleFormatFixed && decimals == 1 && box.GetValue() == 1234.5678);
+    EXPECT_TRUE(format == eDoubleFormatGeneral && box.GetFormat() == format);
+    EXPECT_TRUE(decimals == 3 && box.GetDecimals() == 3);
+    EXPECT_EQ(box.GetValue(), 1234.5678);
 }
 
 TEST_F(Boxes, ShowAGlobalValueInItsLocalUnit)

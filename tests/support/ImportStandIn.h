@@ -2,9 +2,9 @@
 // Puts a function of the test in place of one that a module imports, for the length of a scope: for what has no
 // other trace, such as a program that the system would start.
 //
-//     static UINT s_period = 0;
-//     const owtest::ImportStandIn standIn(L"mfc.dll", "SetTimer", +[](HWND, UINT_PTR, UINT period, TIMERPROC) -> UINT_PTR
-//                                         { s_period = period; return 1; });
+//     BOOL WINAPI NoteAddress(SHELLEXECUTEINFOW* info) { s_opened = info->lpFile; return TRUE; }
+//     ...
+//     const owtest::ImportStandIn noShell(L"DialogControlsOW.dll", "ShellExecuteExW", &NoteAddress);
 
 #include <windows.h>
 
