@@ -6,35 +6,29 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-ResourceIdPool& Pool()
-{
-    return ResourceIdPool::Object();
-}
-} // namespace
+static ResourceIdPool& s_pool = ResourceIdPool::Object();
 
 TEST(ResourceIdPool, IsAStackOfTwoHundredThatSurvivesBeingEmptied)
 {
     for (int round = 0; round < 2; ++round)
     {
         for (unsigned int id = 11199; id >= 11000; --id)
-            EXPECT_EQ(Pool().AcquireId(), id) << "the highest first";
+            EXPECT_EQ(s_pool.AcquireId(), id) << "the highest first";
         for (unsigned int id = 11000; id <= 11199; ++id)
-            Pool().ReleaseId(id);
+            s_pool.ReleaseId(id);
     }
-    const unsigned int a = Pool().AcquireId(), b = Pool().AcquireId();
-    Pool().ReleaseId(a);
-    EXPECT_EQ(Pool().AcquireId(), a) << "the last one in comes out first";
-    Pool().ReleaseId(b);
-    Pool().ReleaseId(a);
+    const unsigned int a = s_pool.AcquireId(), b = s_pool.AcquireId();
+    s_pool.ReleaseId(a);
+    EXPECT_EQ(s_pool.AcquireId(), a) << "the last one in comes out first";
+    s_pool.ReleaseId(b);
+    s_pool.ReleaseId(a);
 }
 
 OW_CHILD_SCENARIO(pool_exhausted)
 {
     for (int i = 0; i < 201; ++i)
     {
-        Pool().AcquireId();
+        s_pool.AcquireId();
         std::printf("%d ", i);
         std::fflush(stdout);
     }

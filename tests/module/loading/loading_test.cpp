@@ -1,4 +1,4 @@
-// Loading the library at run time, whole and with resources missing. This program does not link to it.
+// Loading the library at run time, whole and with resources spoilt. This program does not link to it.
 
 #include <afxwin.h>
 
@@ -6,17 +6,14 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <vector>
 
 namespace fs = std::filesystem;
 
 namespace
 {
 constexpr wchar_t kCopyVariable[] = L"OW_TEST_LIBRARY";
+constexpr WORD kLanguage = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US); // of the resources
 
 fs::path Library()
 {
@@ -25,64 +22,15 @@ fs::path Library()
     return fs::path(program).parent_path() / L"DialogControlsOW.dll";
 }
 
-/// The bytes of a library, with a way into its tree of resources: type, then id.
-class LibraryImage
+/// Loads a copy of the library in which one resource is two bytes of nothing.
+owtest::ChildResult LoadSpoilt(LPCWSTR type, int id)
 {
-public:
-    explicit LibraryImage(const fs::path& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        m_bytes.assign(std::istreambuf_iterator<char>(file), {});
-    }
-    void Write(const fs::path& path) const
-    {
-        std::ofstream(path, std::ios::binary)
-            .write(m_bytes.data(), static_cast<std::streamsize>(m_bytes.size()));
-    }
-    /// Gives a resource the id of its neighbour below, so that its own is not to be found; false if there is none.
-    bool Hide(LPCWSTR type, int id)
-    {
-        IMAGE_RESOURCE_DIRECTORY_ENTRY* typeEntry =
-            Find(Resources(), LOWORD(reinterpret_cast<ULONG_PTR>(type)));
-        IMAGE_RESOURCE_DIRECTORY_ENTRY* entry =
-            typeEntry ? Find(Resources() + typeEntry->OffsetToDirectory, static_cast<WORD>(id)) : nullptr;
-        if (entry)
-            --entry->Id;
-        return entry != nullptr;
-    }
-
-private:
-    char* Resources()
-    {
-        const auto* dos = reinterpret_cast<IMAGE_DOS_HEADER*>(m_bytes.data());
-        auto* headers = reinterpret_cast<IMAGE_NT_HEADERS64*>(m_bytes.data() + dos->e_lfanew);
-        const DWORD address =
-            headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_RESOURCE].VirtualAddress;
-        const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(headers);
-        while (section->VirtualAddress != address)
-            ++section;
-        return m_bytes.data() + section->PointerToRawData;
-    }
-    static IMAGE_RESOURCE_DIRECTORY_ENTRY* Find(char* directory, WORD id)
-    {
-        const auto* header = reinterpret_cast<IMAGE_RESOURCE_DIRECTORY*>(directory);
-        auto* first = reinterpret_cast<IMAGE_RESOURCE_DIRECTORY_ENTRY*>(directory + sizeof(*header));
-        auto* end = first + header->NumberOfNamedEntries + header->NumberOfIdEntries;
-        auto* found = std::find_if(first, end,
-                                   [id](const auto& entry) { return !entry.NameIsString && entry.Id == id; });
-        return found == end ? nullptr : found;
-    }
-
-    std::vector<char> m_bytes;
-};
-
-/// Loads a copy of the library that lacks one resource.
-owtest::ChildResult LoadWithout(LPCWSTR type, int id)
-{
-    const fs::path path = fs::temp_directory_path() / L"ow_cut_library.dll";
-    LibraryImage image(Library());
-    EXPECT_TRUE(image.Hide(type, id));
-    image.Write(path);
+    const fs::path path = fs::temp_directory_path() / L"ow_spoilt_library.dll";
+    fs::copy_file(Library(), path, fs::copy_options::overwrite_existing);
+    const HANDLE update = ::BeginUpdateResourceW(path.c_str(), FALSE);
+    WORD nothing = 0;
+    EXPECT_TRUE(::UpdateResourceW(update, type, MAKEINTRESOURCE(id), kLanguage, &nothing, sizeof nothing));
+    EXPECT_TRUE(::EndUpdateResourceW(update, FALSE));
     auto result = owtest::RunChild("load_library", {.environment = {{kCopyVariable, path.wstring()}}});
     std::error_code ignored;
     fs::remove(path, ignored);
@@ -107,7 +55,7 @@ TEST(LoadingTheLibrary, AttachesItToTheResourceChainAndDetachesIt)
     EXPECT_NE(AfxFindResourceHandle(icon, RT_GROUP_ICON), library);
 }
 
-TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissingAndDoesWithoutABitmap)
+TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconCannotBeLoadedAndDoesWithoutABitmap)
 {
     const std::pair<int, const wchar_t*> ends[] = {
         {10004, L"ASSERT(CButtonST::hIconInformation = LoadSharedIcon(10004))\n[.\\Initialize : 77]\n"},
@@ -115,11 +63,11 @@ TEST(LoadingTheLibrary, EndsTheProcessWhereAnIconIsMissingAndDoesWithoutABitmap)
     };
     for (const auto& [id, report] : ends)
     {
-        const owtest::ChildResult result = LoadWithout(RT_GROUP_ICON, id);
+        const owtest::ChildResult result = LoadSpoilt(RT_GROUP_ICON, id);
         owtest::ExpectFailedAssert(result, report);
         EXPECT_EQ(result.output, "");
     }
-    const owtest::ChildResult result = LoadWithout(RT_BITMAP, 10139);
+    const owtest::ChildResult result = LoadSpoilt(RT_BITMAP, 10139);
     EXPECT_EQ(result.output, "loaded");
     EXPECT_EQ(result.boxText, L"");
 }
