@@ -85,10 +85,7 @@ CBitmapBtnST::CBitmapBtnST(ABitmapBtnSTNotificationHandler* pHandler) : m_pChoic
 {
 }
 
-CBitmapBtnST::~CBitmapBtnST()
-{
-    DeleteMenusAndBitmaps();
-}
+CBitmapBtnST::~CBitmapBtnST() = default;
 
 BEGIN_MESSAGE_MAP(CBitmapBtnST, CButtonST)
     ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
@@ -98,29 +95,21 @@ END_MESSAGE_MAP()
 void CBitmapBtnST::OnClicked()
 {
     CButtonST::OnClicked();
-    m_bMenuIsOpen = true;
-    if (!gfnTrackDropMenu(*this, m_popupMenu))
-        return;
-    m_bMenuIsOpen = false;
-    if (m_bMenuIsStale)
-        CreateMenusAndBitmaps();
+    const std::shared_ptr<PictureMenu> pOpen = m_pMenu;
+    gfnTrackDropMenu(*this, pOpen->popup);
 }
 
-// The menu's pictures lie on the former colour of menus. An open menu must not be destroyed: it keeps its
-// pictures until it opens again.
+// The menu's pictures lie on the former colour of menus.
 void CBitmapBtnST::OnSysColorChange()
 {
     CButtonST::OnSysColorChange();
-    m_bMenuIsStale = true;
-    if (!m_bMenuIsOpen)
-        CreateMenusAndBitmaps();
+    CreateMenusAndBitmaps();
 }
 
 // ---- Messages outside the map -----------------------------------------------------------------------------
 
 void CBitmapBtnST::PreSubclassWindow()
 {
-    m_bMenuIsOpen = false; // a menu of an earlier window
     CreateMenusAndBitmaps();
     gfnBecomePushButton(*this);
     CButtonST::PreSubclassWindow();
@@ -163,25 +152,22 @@ UINT CBitmapBtnST::GetStartWindowMsg() const
 void CBitmapBtnST::CreateMenusAndBitmaps()
 {
     DeleteMenusAndBitmaps();
-    CopyPictures();
-    AppendItems();
-    m_bMenuIsStale = false;
+    CopyPictures(*m_pMenu);
+    AppendItems(*m_pMenu);
 }
 
 void CBitmapBtnST::DeleteMenusAndBitmaps()
 {
-    m_menuBitmaps.clear();
-    m_bitmapSizes.clear();
-    m_popupMenu.DestroyMenu();
+    m_pMenu = std::make_shared<PictureMenu>();
 }
 
 // A picture of one bit takes on the colours of the context that it is copied to: black, as every new context
 // has it, on the colour of menus. A picture that is missing leaves an empty bitmap and size.
-void CBitmapBtnST::CopyPictures()
+void CBitmapBtnST::CopyPictures(PictureMenu& menu)
 {
     const int nCount = BitmapCount();
-    m_menuBitmaps = std::vector<CBitmap>(nCount);
-    m_bitmapSizes.assign(nCount, CSize(0, 0));
+    menu.bitmaps = std::vector<CBitmap>(nCount);
+    menu.sizes.assign(nCount, CSize(0, 0));
 
     CClientDC dcButton(this);
     CDC dcSource, dcTarget;
@@ -193,25 +179,25 @@ void CBitmapBtnST::CopyPictures()
         BITMAP info{};
         if (!::GetObject(GetBitmap(i), sizeof(info), &info))
             continue;
-        m_bitmapSizes[i].SetSize(info.bmWidth, info.bmHeight);
-        m_menuBitmaps[i].CreateCompatibleBitmap(&dcButton, info.bmWidth, info.bmHeight);
+        menu.sizes[i].SetSize(info.bmWidth, info.bmHeight);
+        menu.bitmaps[i].CreateCompatibleBitmap(&dcButton, info.bmWidth, info.bmHeight);
         const CGdiSelection source(dcSource, GetBitmap(i));
-        const CGdiSelection target(dcTarget, m_menuBitmaps[i]);
+        const CGdiSelection target(dcTarget, menu.bitmaps[i]);
         dcTarget.BitBlt(0, 0, info.bmWidth, info.bmHeight, &dcSource, 0, 0, SRCCOPY);
     }
 }
 
 // An item without a picture keeps its place, so that the ids of the others stay what they are.
-void CBitmapBtnST::AppendItems()
+void CBitmapBtnST::AppendItems(PictureMenu& menu)
 {
-    m_popupMenu.CreatePopupMenu();
+    menu.popup.CreatePopupMenu();
     UINT nId = GetStartWindowMsg();
-    for (const CBitmap& bitmap : m_menuBitmaps)
+    for (const CBitmap& bitmap : menu.bitmaps)
     {
         if (bitmap.GetSafeHandle())
-            m_popupMenu.AppendMenu(MF_BITMAP, nId, &bitmap);
+            menu.popup.AppendMenu(MF_BITMAP, nId, &bitmap);
         else
-            m_popupMenu.AppendMenu(MF_STRING, nId, _T(""));
+            menu.popup.AppendMenu(MF_STRING, nId, _T(""));
         ++nId;
     }
 }
@@ -233,15 +219,16 @@ void CBitmapBtnST::DrawPicture(CDC& dc, const CRect& face) const
 {
     const CRect area = gfnDropPictureArea(face);
     const int nIndex = m_pnEnumSource ? *m_pnEnumSource : -1;
-    if (nIndex < 0 || nIndex >= static_cast<int>(m_bitmapSizes.size()) || area.IsRectEmpty())
+    const auto& sizes = m_pMenu->sizes;
+    if (nIndex < 0 || nIndex >= static_cast<int>(sizes.size()) || area.IsRectEmpty())
         return;
     CDC dcPicture;
     dcPicture.CreateCompatibleDC(&dc);
     const CGdiSelection picture(dcPicture, GetBitmap(nIndex));
     if (!picture)
         return;
-    const Placing across = PlaceInMiddle(m_bitmapSizes[nIndex].cx, area.Width());
-    const Placing down = PlaceInMiddle(m_bitmapSizes[nIndex].cy, area.Height());
+    const Placing across = PlaceInMiddle(sizes[nIndex].cx, area.Width());
+    const Placing down = PlaceInMiddle(sizes[nIndex].cy, area.Height());
     const CTextColorScope text(dc, RGB(0, 0, 0));
     const CBkColorScope background(dc, FaceColor(dc, face, area));
     dc.BitBlt(area.left + across.target, area.top + down.target, across.extent, down.extent, &dcPicture,

@@ -34,9 +34,9 @@
 // more in each direction while it has the focus.
 //
 // Choosing. A click, Space or Enter opens the menu; arrow keys and Enter, or the mouse, choose; Escape leaves
-// everything as it was. The value is stored first, then the handler is called, also for the picture that was
-// chosen already. The handler may close the dialog; otherwise the parent is painted anew afterwards. It hears
-// nothing of clicks and choices.
+// everything as it was. A key that is still held from opening the menu does nothing in it. The value is
+// stored first, then the handler is called, also for the picture that was chosen already. The handler may
+// close the dialog; otherwise the parent is painted anew afterwards. It hears nothing of clicks and choices.
 //
 // Look. Pictures of one bit take on the colour of the button's face and of the menu; their black stays black.
 // While pressed, picture and arrow move by one pixel (the arrow of an even height only sideways). A disabled
@@ -65,6 +65,7 @@
 
 #include "buttons/ButtonST.h"
 
+#include <memory>
 #include <vector>
 
 /// A button that chooses from pictures. To have a set of your own, derive and answer the pictures.
@@ -104,19 +105,23 @@ protected:
     afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
+    /// A menu and the pictures that it shows.
+    struct PictureMenu
+    {
+        std::vector<CBitmap> bitmaps; ///< on the menu's colour, selected into no context
+        std::vector<CSize> sizes;     ///< of each picture, in pixels; zero where there is none
+        CMenu popup;
+    };
+
     int* m_pnEnumSource = nullptr; ///< not owned
-    CMenu m_popupMenu;
-    std::vector<CBitmap> m_menuBitmaps; ///< the pictures as the menu shows them, selected into no context
-    std::vector<CSize> m_bitmapSizes;   ///< of each picture, in pixels; zero where there is none
+    /// Empty before there is a window. One that is open stays till it closes, whatever is made meanwhile.
+    std::shared_ptr<PictureMenu> m_pMenu = std::make_shared<PictureMenu>();
     ABitmapBtnSTNotificationHandler* m_pChoiceHandler = nullptr;
 
 private:
-    void CopyPictures();
-    void AppendItems();
+    void CopyPictures(PictureMenu& menu);
+    void AppendItems(PictureMenu& menu);
     void DrawPicture(CDC& dc, const CRect& face) const;
-
-    bool m_bMenuIsOpen = false;
-    bool m_bMenuIsStale = false; ///< colours have changed while it was open
 };
 
 namespace ow

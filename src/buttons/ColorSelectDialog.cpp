@@ -3,6 +3,7 @@
 
 #include "buttons/ColorSelectDialog.h"
 
+#include "buttons/DropButton.h"
 #include "module/GdiScope.h"
 #include "resources/resource.h"
 
@@ -14,7 +15,6 @@ namespace
 {
 constexpr int kCellsInRow = 4;
 constexpr UINT kTakeCapture = WM_APP; ///< posted: nobody has the capture any more
-constexpr LPARAM kKeyWasDown = KF_REPEAT << 16;
 
 CRect WindowRectOf(const CWnd& wnd)
 {
@@ -76,12 +76,6 @@ int StepOf(UINT nKey)
     default:
         return 0;
     }
-}
-
-/// Whether a key that chooses is held down since before, as Space is that has just opened the pop-up.
-bool IsHeldChoice(const MSG& msg)
-{
-    return (msg.wParam == VK_SPACE || msg.wParam == VK_RETURN) && (msg.lParam & kKeyWasDown) != 0;
 }
 
 /// A black frame with a white one inside, of which one shows on any colour.
@@ -254,7 +248,9 @@ CRect CColorSelectDialog::Anchor() const
 
 BOOL CColorSelectDialog::PreTranslateMessage(MSG* pMsg)
 {
-    if (pMsg->message == WM_KEYDOWN && (IsHeldChoice(*pMsg) || MoveFocus(static_cast<UINT>(pMsg->wParam))))
+    if (gfnIsHeldChoice(*pMsg)) // Space, as a rule, that has just opened the pop-up
+        return TRUE;
+    if (pMsg->message == WM_KEYDOWN && MoveFocus(static_cast<UINT>(pMsg->wParam)))
         return TRUE;
     return CDialog::PreTranslateMessage(pMsg);
 }

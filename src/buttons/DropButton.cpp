@@ -21,6 +21,13 @@ void gfnBecomePushButton(CButton& button)
     button.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
 }
 
+bool gfnIsHeldChoice(const MSG& msg)
+{
+    constexpr LPARAM kWasDown = KF_REPEAT << 16;
+    const bool bChoice = msg.wParam == VK_SPACE || msg.wParam == VK_RETURN;
+    return msg.message == WM_KEYDOWN && bChoice && (msg.lParam & kWasDown) != 0;
+}
+
 CRect gfnDropFace(const CRect& rect, BOOL bPressed)
 {
     return bPressed ? rect + CPoint(1, 1) : rect;

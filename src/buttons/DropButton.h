@@ -1,6 +1,6 @@
 #pragma once
-// What all buttons with a drop-down arrow share: they are push buttons, and their face has a picture or a
-// swatch at the left and the arrow at the right.
+// What all buttons with a drop-down arrow share: they are push buttons, a held key that has opened them does
+// not choose, and their face has a picture or a swatch at the left and the arrow at the right.
 //
 //     CButtonST::OnDrawBackground(pDC, rect);
 //     const CRect face = gfnDropFace(rect, m_bIsPressed);
@@ -22,6 +22,10 @@
 /// To be called before CButtonST looks at the control: whatever button the template has there becomes a push
 /// button. CButtonST takes owner-drawn ones for check boxes.
 void gfnBecomePushButton(CButton& button);
+
+/// Whether a message says that a key which chooses, Space or Enter, is held since before: most likely since
+/// it opened what stands open now.
+bool gfnIsHeldChoice(const MSG& msg);
 
 /// What is left of the button's rectangle for picture and arrow; moved by one pixel while pressed.
 CRect gfnDropFace(const CRect& rect, BOOL bPressed);

@@ -2,10 +2,31 @@
 
 #include "buttons/DropMenu.h"
 
+#include "buttons/DropButton.h"
 #include "module/HasWindow.h"
 
 namespace
 {
+/// While a menu is open: the key that opened it, and is held, does nothing in it.
+class CHeldKeyFilter
+{
+public:
+    CHeldKeyFilter() : m_hHook(::SetWindowsHookEx(WH_MSGFILTER, &Filter, nullptr, ::GetCurrentThreadId())) {}
+    ~CHeldKeyFilter() { ::UnhookWindowsHookEx(m_hHook); }
+    CHeldKeyFilter(const CHeldKeyFilter&) = delete;
+    CHeldKeyFilter& operator=(const CHeldKeyFilter&) = delete;
+
+private:
+    static LRESULT CALLBACK Filter(int nCode, WPARAM wParam, LPARAM lParam)
+    {
+        if (nCode == MSGF_MENU && gfnIsHeldChoice(*reinterpret_cast<const MSG*>(lParam)))
+            return TRUE;
+        return ::CallNextHookEx(nullptr, nCode, wParam, lParam);
+    }
+
+    HHOOK m_hHook;
+};
+
 /// A key clicks when it goes down, and its character is still to come: the menu would take it for a choice.
 void DropCharacterOfKey(HWND hWnd)
 {
@@ -23,7 +44,10 @@ bool gfnTrackDropMenu(CButton& button, CMenu& menu)
     CPoint corner(rect.right + 1, rect.top);
     button.ClientToScreen(&corner);
     DropCharacterOfKey(hWnd);
-    menu.TrackPopupMenu(TPM_RIGHTBUTTON, corner.x, corner.y, &button);
+    {
+        const CHeldKeyFilter heldKey;
+        menu.TrackPopupMenu(TPM_RIGHTBUTTON, corner.x, corner.y, &button);
+    }
     if (!gfnHasWindow(&button, hWnd))
         return false;
     // A menu that was closed without a choice leaves nothing behind that would show the focus again.

@@ -28,8 +28,8 @@
 // BN_CLICKED, as with CButtonST; a choice comes after that.
 //
 // Choice. It is stored in the bound variable, if there is one, and then the handler is called, also for the
-// entry that was chosen before. Escape or a click elsewhere closes the menu and changes nothing. The handler
-// may close the dialog.
+// entry that was chosen before. Escape or a click elsewhere closes the menu and changes nothing; a key that
+// is still held from opening the menu does nothing in it. The handler may close the dialog.
 //
 // The commands of the menu are 36914 and the following, one for each text. Every command that reaches the
 // button counts as a choice, and only the upper end is looked at: for one behind the last text the index is

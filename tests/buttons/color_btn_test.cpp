@@ -1,129 +1,35 @@
-// The two colour buttons: look, number, palette, broken assumptions, and the pop-up in a user's hands.
+// The two colour buttons: number, palette, broken assumptions, and the pop-up in a user's hands.
 
-#include "ButtonsDialog.h"
-
-#include "DialogTemplate.h"
 #include "FatalReport.h"
-#include "Handles.h"
-#include "Input.h"
 #include "ModalVisit.h"
+#include "Room.h"
 #include "module/GdiScope.h"
-
-#include <gtest/gtest.h>
 
 #include <acdocman.h>
 #include <afxdlgs.h>
 
 #include <algorithm>
-#include <functional>
-#include <memory>
 
 namespace
 {
-constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255), kFace = RGB(180, 200, 180);
 constexpr COLORREF kNewColor = RGB(1, 2, 3);
-const CSize kSize(60, 26);
 constexpr UINT kFirstCell = 10153;
-constexpr int kRed = 13, kOther = 20; ///< parts of the pop-up
+constexpr int kRedCell = 13, kOther = 20; ///< parts of the pop-up
 
-using Calls = std::vector<std::string>;
 using Script = std::function<void(CWnd&)>;
 
-class OpenAcadButton : public CAcadColorBtnST
+struct OpenAcadButton : Open<CAcadColorBtnST>
 {
-public:
-    using CAcadColorBtnST::CAcadColorBtnST;
-    using CAcadColorBtnST::m_bIsCheckBox;
-    using CAcadColorBtnST::m_bMouseOnButton;
     using CAcadColorBtnST::m_nNumberLabelId;
     using CAcadColorBtnST::m_numberLabel;
+    using Open::Open;
 };
 
-/// A dialog with a colour button of each kind, everything that they tell written down.
-class ColorsDialog : public CDialog,
-                     public AColorBtnSTNotificationHandler,
-                     public AAcadColorBtnSTNotificationHandler
+struct RgbButton : Open<CColorBtnST>
 {
-public:
-    static constexpr int nRgb = 1001, nAcad = 1002;
-
-    ~ColorsDialog() override { DestroyWindow(); }
-
-    bool Open(DWORD dwAcadStyle = BS_PUSHBUTTON)
-    {
-        owtest::DialogTemplate form(L"Colours", 120, 60);
-        form.Item(L"BUTTON", L"", nRgb, BS_OWNERDRAW | WS_TABSTOP, 4, 4, 40, 14)
-            .Item(L"BUTTON", L"", nAcad, dwAcadStyle | WS_TABSTOP, 4, 24, 40, 14);
-        if (!CreateIndirect(form.get(), nullptr))
-            return false;
-        ModifyStyle(0, WS_CLIPCHILDREN);
-        SetWindowPos(nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
-        return owtest::Activate(m_hWnd);
-    }
-
-    struct Rgb : CColorBtnST
-    {
-        using CColorBtnST::CColorBtnST;
-        void OnClickedHook() override { static_cast<ColorsDialog*>(GetParent())->calls.push_back("hook"); }
-    } rgb{this};
-    OpenAcadButton acad{this};
-    DWORD color = RGB(255, 0, 0);
-    int index = 30;
-    std::function<void()> then = [] {}; ///< at the end of the handlers
-    std::vector<std::string> calls;
-    std::vector<std::string> Take() { return std::exchange(calls, {}); }
-
-    void OnColorChosen(int nId, int nColor) override
-    {
-        calls.push_back(std::to_string(nId) + ' ' + std::to_string(nColor));
-        then();
-    }
-    void OnAcadColorChosen(int nId, int nColor) override
-    {
-        OnColorChosen(nId, nColor);
-        EXPECT_TRUE(acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls";
-    }
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        CDialog::DoDataExchange(pDX);
-        rgb.SetColorSource(&color); // before there is a window
-        acad.SetColorSource(&index);
-        DDX_Control(pDX, nRgb, rgb);
-        DDX_Control(pDX, nAcad, acad);
-    }
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
-    {
-        if (nCode == BN_CLICKED && !pHandlerInfo)
-            calls.push_back("dialog " + std::to_string(nID));
-        return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
-    }
+    using Open::Open;
+    void OnClickedHook() override { static_cast<Room*>(GetParent())->calls.push_back("hook"); }
 };
-
-/// A button without a theme, painted in a state.
-template <class Button, class Value>
-std::unique_ptr<owtest::Surface> Paint(Value value, UINT nItemState)
-{
-    Lone<Button> lone(kSize);
-    lone.button.SetThemeHelper(nullptr);
-    lone.button.SetFlat(FALSE);
-    for (const BYTE back : {CButtonST::colorBackIn, CButtonST::colorBackOut, CButtonST::colorBackFocus})
-        lone.button.SetColor(back, kFace);
-    lone.button.SetColorSource(&value);
-    auto pPicture = std::make_unique<owtest::Surface>(kSize.cx, kSize.cy);
-    PaintButton(lone.button, *pPicture, nItemState);
-    return pPicture;
-}
-
-/// Expects a closed outline, and that all inside it has one colour.
-void ExpectBox(const owtest::Surface& picture, CRect rect, COLORREF line, COLORREF fill)
-{
-    const int nAll = picture.count(rect, line), nArea = rect.Width() * rect.Height();
-    rect.DeflateRect(1, 1);
-    EXPECT_EQ(nAll - picture.count(rect, line), nArea - rect.Width() * rect.Height());
-    EXPECT_EQ(picture.count(rect, fill), rect.Width() * rect.Height());
-}
 
 HWND Part(CWnd& popup, int nIndex)
 {
@@ -137,23 +43,37 @@ bool Becomes(bool bOpen, CWnd& popup)
         [&] { return !popup.ContinueModal() == !bOpen && (CWnd::GetCapture() == &popup) == bOpen; });
 }
 
+/// What chooses the nth part by the mouse, and by "Other...".
+Script ClickOn(int nPart)
+{
+    return [=](CWnd& popup) { owtest::Click(Part(popup, nPart)); };
+}
+
 void VisitOther(CWnd& popup, const Script& script)
 {
     const owtest::ModalVisit visit(script);
-    owtest::Click(Part(popup, kOther));
+    ClickOn(kOther)(popup);
     EXPECT_EQ(visit.Count(), 1);
 }
 
-class ColorButtons : public ::testing::Test
+class ColorButtons : public InRoom
 {
 protected:
-    void SetUp() override { ASSERT_TRUE(m_dialog.Open()); }
+    void SetUp() override { Reopen(BS_PUSHBUTTON); }
     void TearDown() override
     {
+        InRoom::TearDown();
         EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
         CColorBtnST::Reset();
     }
-
+    void Reopen(DWORD dwStyle)
+    {
+        m_room.DestroyWindow();
+        m_rgb.SetColorSource(&m_color); // before there is a window
+        m_acad.SetColorSource(&m_index);
+        m_room.controls = {{&m_rgb, dwStyle}, {&m_acad, dwStyle}};
+        InRoom::SetUp();
+    }
     /// Opens the pop-up by a click, and closes it by what the script does, or else by Escape.
     void Visit(const Script& script)
     {
@@ -163,19 +83,18 @@ protected:
                 EXPECT_TRUE(Becomes(true, popup));
                 script(popup);
             });
-        owtest::Click(m_dialog.rgb);
+        owtest::Click(m_rgb);
         EXPECT_EQ(visit.Count(), 1);
         EXPECT_EQ(::GetCapture(), nullptr);
     }
-
     /// From red; what stands in the variable afterwards, and which entry was used last.
     void ExpectChoice(const Script& script, COLORREF cr, int nFirst)
     {
-        m_dialog.color = RGB(255, 0, 0);
+        m_color = kRed;
         Visit(script);
-        EXPECT_EQ(m_dialog.color, cr);
-        const Calls told{"hook", "1001 " + std::to_string(cr), "dialog 1001"};
-        EXPECT_EQ(m_dialog.Take(), cr != RGB(255, 0, 0) ? told : Calls{"dialog 1001"});
+        EXPECT_EQ(m_color, cr);
+        const Calls told{"hook", "told 1001 " + std::to_string(cr), "dialog 1001"};
+        EXPECT_EQ(m_room.Take(), cr != kRed ? told : Calls{"dialog 1001"});
         auto ranks = CColorBtnST::s_colorRecency;
         EXPECT_EQ(ranks[nFirst], 1);
         std::ranges::sort(ranks);
@@ -185,105 +104,73 @@ protected:
     void ExpectCancel(const Script& script)
     {
         const auto ranks = CColorBtnST::s_colorRecency;
-        ExpectChoice(script, RGB(255, 0, 0), 0);
+        ExpectChoice(script, kRed, 0);
         EXPECT_EQ(CColorBtnST::s_colorRecency, ranks);
     }
 
-    ColorsDialog m_dialog;
-    CWnd& m_label = m_dialog.acad.m_numberLabel;
+    DWORD m_color = kRed;
+    int m_index = 30;
+    RgbButton m_rgb{&m_room};
+    OpenAcadButton m_acad{&m_room};
+    CWnd& m_label = m_acad.m_numberLabel;
 };
 using ColorPopup = ColorButtons;
 } // namespace
 
-// ---- Look and number ---------------------------------------------------------------------------------------
-
-TEST(ColorButtonPaint, ShowsASwatchAndAnArrow)
-{
-    const struct
-    {
-        UINT nState;
-        CRect swatch;
-        CPoint tip;
-    } states[] = {{0, {5, 5, 46, 21}, {52, 14}},
-                  {ODS_SELECTED, {6, 6, 47, 22}, {53, 14}},
-                  {ODS_FOCUS, {6, 6, 45, 20}, {51, 13}}}; // inside the frame of the focused button
-    for (const auto& [nState, swatch, tip] : states)
-    {
-        const auto expect = [&](const owtest::Surface& picture, COLORREF cr)
-        {
-            ExpectBox(picture, swatch, kBlack, cr);
-            EXPECT_TRUE(picture.at(tip.x, tip.y) == kBlack && picture.at(tip.x, tip.y + 1) == kFace);
-        };
-        expect(*Paint<CColorBtnST>(DWORD{kNewColor}, nState), kNewColor);
-        expect(*Paint<CAcadColorBtnST>(30, nState), RGB(255, 127, 0));
-        expect(*Paint<CAcadColorBtnST>(999, nState), kFace); // no colour
-    }
-}
-
-TEST(ColorButtonPaint, DisabledShowsNoColor)
-{
-    const CRect area(5, 5, 46, 21);
-    const auto pRgb = Paint<CColorBtnST>(DWORD{kNewColor}, ODS_DISABLED);
-    const auto pAcad = Paint<CAcadColorBtnST>(30, ODS_DISABLED);
-    EXPECT_TRUE(pRgb->at(52, 14) == kWhite && pAcad->at(52, 14) == kWhite) << "the arrow is engraved";
-    ExpectBox(*pRgb, area, kFace, kFace);
-    ExpectBox(*pAcad, {7, 7, 45, 20}, kFace, kFace);
-    EXPECT_EQ(pAcad->count(area, ::GetSysColor(COLOR_BTNSHADOW)), 2 * (41 + 16) - 4) << "a dark frame";
-    EXPECT_EQ(pAcad->count(area + CPoint(1, 1), kWhite), 2 * (41 + 16) - 6) << "over a light one";
-}
+// ---- Number ---------------------------------------------------------------------------------------
 
 TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysAndMakeTheNumberAnewEachTime)
 {
     for (const long dwStyle : {long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX), BS_DEFPUSHBUTTON | WS_DISABLED})
     {
-        m_dialog.DestroyWindow();
-        ASSERT_TRUE(m_dialog.Open(dwStyle));
-        EXPECT_FALSE(m_dialog.acad.m_bIsCheckBox || m_dialog.acad.GetDefault());
-        EXPECT_EQ(m_dialog.rgb.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
-        EXPECT_EQ(m_label.m_hWnd, m_dialog.GetDlgItem(m_dialog.acad.m_nNumberLabelId)->m_hWnd);
+        Reopen(dwStyle);
+        EXPECT_FALSE(m_acad.m_bIsCheckBox || m_acad.GetDefault() || m_rgb.m_bIsCheckBox ||
+                     m_rgb.GetDefault());
+        EXPECT_TRUE(m_acad.GetButtonStyle() == BS_OWNERDRAW && m_rgb.GetButtonStyle() == BS_OWNERDRAW);
+        EXPECT_EQ(m_label.m_hWnd, m_room.GetDlgItem(m_acad.m_nNumberLabelId)->m_hWnd);
         EXPECT_EQ(owtest::TextOf(m_label), L"30");
-        EXPECT_EQ(m_label.IsWindowEnabled(), dwStyle != (BS_DEFPUSHBUTTON | WS_DISABLED));
+        EXPECT_EQ(m_label.IsWindowEnabled(), !(dwStyle & WS_DISABLED));
     }
-    const HWND hButton = m_dialog.acad.UnsubclassWindow();
+    const HWND hButton = m_acad.UnsubclassWindow();
     ::ShowWindow(hButton, SW_HIDE);
-    m_dialog.acad.SetColorSource(nullptr);
-    m_dialog.acad.SubclassWindow(hButton); // the same window once more
+    m_acad.SetColorSource(nullptr);
+    m_acad.SubclassWindow(hButton); // the same window once more
     EXPECT_EQ(owtest::TextOf(m_label), L"") << "no source, no number";
     EXPECT_FALSE(m_label.GetStyle() & WS_VISIBLE);
-    m_dialog.acad.DestroyWindow();
-    EXPECT_EQ(m_dialog.GetDlgItem(m_dialog.acad.m_nNumberLabelId), nullptr) << "nor an older one";
+    m_acad.DestroyWindow();
+    EXPECT_EQ(m_room.GetDlgItem(m_acad.m_nNumberLabelId), nullptr) << "nor an older one";
 }
 
 TEST_F(ColorButtons, TheNumberStandsBesideTheButtonInTheParentsFontAndFollowsIt)
 {
     EXPECT_EQ(m_label.GetStyle() & (WS_VISIBLE | 0xFFFF), static_cast<DWORD>(WS_VISIBLE | SS_CENTERIMAGE));
-    EXPECT_EQ(m_label.GetFont()->m_hObject, m_dialog.GetFont()->m_hObject);
-    CClientDC dc(&m_dialog);
-    const CGdiSelection font(dc, m_dialog.GetFont()->m_hObject);
+    EXPECT_EQ(m_label.GetFont()->m_hObject, m_room.GetFont()->m_hObject);
+    CClientDC dc(&m_room);
+    const CGdiSelection font(dc, m_room.GetFont()->m_hObject);
     CRect button, rect;
-    m_dialog.acad.GetWindowRect(button);
+    m_acad.GetWindowRect(button);
     m_label.GetWindowRect(rect);
     EXPECT_EQ(rect, CRect(CPoint(button.right + dc.GetTextExtent(L" ").cx, button.top),
                           CSize(dc.GetTextExtent(L"888").cx, button.Height())));
 
-    m_dialog.acad.SetFlat(TRUE);
-    m_dialog.acad.m_bMouseOnButton = TRUE;
-    m_dialog.acad.EnableWindow(FALSE);
-    EXPECT_FALSE(m_label.IsWindowEnabled() || m_dialog.acad.m_bMouseOnButton);
-    m_dialog.acad.EnableWindow(TRUE);
+    m_acad.m_bMouseOnButton = TRUE;
+    m_acad.EnableWindow(FALSE);
+    EXPECT_FALSE(m_label.IsWindowEnabled() || m_acad.m_bMouseOnButton);
+    m_acad.EnableWindow(TRUE);
     EXPECT_TRUE(m_label.IsWindowEnabled());
 
-    m_dialog.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    m_dialog.acad.SetColorSource(&(m_dialog.index = 7));
-    m_dialog.rgb.SetColorSource(&m_dialog.color);
+    EXPECT_TRUE(Repaints(m_acad, [&] { m_acad.SetColorSource(&(m_index = 7)); }));
     EXPECT_EQ(owtest::TextOf(m_label), L"7");
-    EXPECT_TRUE(m_dialog.acad.GetUpdateRect(nullptr) && m_dialog.rgb.GetUpdateRect(nullptr));
+    EXPECT_TRUE(Repaints(m_rgb, [&] { m_rgb.SetColorSource(&m_color); }));
+    EXPECT_FALSE(Repaints(m_rgb, [&] { m_rgb.SetColorSource(nullptr); }));
+    EXPECT_FALSE(Repaints(m_acad, [&] { m_acad.SetColorSource(nullptr); }));
+    m_rgb.SetColorSource(&m_color);
+    m_acad.SetColorSource(&m_index);
 }
 
 TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
 {
-    OpenAcadButton& acad = m_dialog.acad;
-    const auto visit = [&](const wchar_t* pszTyped, WORD nKey, const std::function<void()>& meanwhile)
+    const auto choose = [&](const wchar_t* pszTyped, WORD nKey, const std::function<void()>& meanwhile)
     {
         const owtest::ModalVisit visit(
             [&](CWnd&)
@@ -293,27 +180,35 @@ TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
                 owtest::Press(nKey);
             });
         m_label.SetWindowText(L"before");
-        owtest::Click(acad);
+        owtest::Click(m_acad);
         EXPECT_EQ(visit.Count(), 1);
-        return acad.m_hWnd ? owtest::TextOf(m_label) : L"gone";
+        return m_acad.m_hWnd ? owtest::TextOf(m_label) : L"gone";
     };
-    EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142");
-    EXPECT_EQ(m_dialog.index, 142);
-    EXPECT_EQ(m_dialog.Take(), Calls{"1002 142"}) << "and the dialog does not receive the click";
+    m_room.ModifyStyle(0, WS_CLIPCHILDREN);
+    m_room.then = [&]
+    {
+        EXPECT_TRUE(m_acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls";
+        m_room.erases = 0;
+    };
+    EXPECT_EQ(choose(L"142", VK_RETURN, [] {}), L"142");
+    m_room.UpdateWindow();
+    EXPECT_EQ(m_room.erases, 0);
+    EXPECT_EQ(m_index, 142);
+    EXPECT_EQ(m_room.Take(), Calls{"told 1002 142"}) << "and the dialog does not receive the click";
 
-    EXPECT_EQ(visit(L"7", VK_ESCAPE, [] {}), L"before");
-    EXPECT_EQ(visit(L"142", VK_RETURN, [] {}), L"142") << "the same colour";
+    EXPECT_EQ(choose(L"7", VK_ESCAPE, [] {}), L"before");
+    EXPECT_EQ(choose(L"142", VK_RETURN, [] {}), L"142") << "the same colour";
     const auto takeSourceAway = [&]
     {
-        acad.ShowWindow(SW_HIDE); // it must not be painted now
-        acad.SetColorSource(nullptr);
+        m_acad.ShowWindow(SW_HIDE); // it must not be painted now
+        m_acad.SetColorSource(nullptr);
     };
-    EXPECT_EQ(visit(L"7", VK_RETURN, takeSourceAway), L"before");
-    acad.SetColorSource(&m_dialog.index);
-    acad.ShowWindow(SW_SHOW);
-    EXPECT_EQ(visit(L"7", VK_RETURN, [&] { acad.DestroyWindow(); }), L"gone");
-    EXPECT_EQ(m_dialog.index, 142);
-    EXPECT_EQ(m_dialog.Take(), Calls{});
+    EXPECT_EQ(choose(L"7", VK_RETURN, takeSourceAway), L"before");
+    m_acad.SetColorSource(&m_index);
+    m_acad.ShowWindow(SW_SHOW);
+    EXPECT_EQ(choose(L"7", VK_RETURN, [&] { m_acad.DestroyWindow(); }), L"gone");
+    EXPECT_EQ(m_index, 142);
+    EXPECT_EQ(m_room.Take(), Calls{});
 }
 
 // ---- The pop-up --------------------------------------------------------------------------------------------
@@ -322,7 +217,7 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
 {
     CRect button, rect;
     const Script look = [&](CWnd& popup) { popup.GetWindowRect(rect); };
-    m_dialog.rgb.GetWindowRect(button);
+    m_rgb.GetWindowRect(button);
     Visit(look);
     EXPECT_EQ(rect.TopLeft(), CPoint(button.left, button.bottom));
 
@@ -340,7 +235,7 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
         CColorSelectDialog dialog(nullptr, anchor.IsRectNull() ? nullptr : &anchor);
         const owtest::ModalVisit visit(look);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-        EXPECT_EQ(rect.TopLeft(), corner);
+        EXPECT_EQ(rect, CRect(corner, size));
     }
 }
 
@@ -349,31 +244,39 @@ TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
     Visit(
         [&](CWnd& popup)
         {
-            EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + kRed)), L"255, 0, 0") << "read aloud";
             for (int i = 0; i < CColorBtnST::paletteSize; ++i)
             {
+                const COLORREF cr = CColorBtnST::s_colorTable[i];
+                CString strName;
+                strName.Format(L"%d, %d, %d", GetRValue(cr), GetGValue(cr), GetBValue(cr));
+                EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + i)), strName.GetString())
+                    << "read aloud";
                 CRect rect;
                 ::GetClientRect(Part(popup, i), rect);
-                owtest::Surface picture(rect.Width(), rect.Height());
+                Surface picture(rect.Width(), rect.Height());
                 owtest::Capture(Part(popup, i), picture);
-                EXPECT_EQ(picture.at(0, 0) == 0 && picture.at(1, 1) == RGB(255, 255, 255), i == kRed) << i;
-                if (i == kRed)
+                EXPECT_EQ(picture.at(0, 0) == kBlack && picture.at(1, 1) == kWhite, i == kRedCell) << i;
+                if (i == kRedCell)
                     rect.DeflateRect(2, 2);
-                EXPECT_EQ(picture.extent(CColorBtnST::s_colorTable[i]), rect) << i;
+                EXPECT_EQ(picture.extent(cr), rect) << i;
             }
         });
 }
 
-TEST_F(ColorPopup, AClickOnACellChoosesIt)
+TEST_F(ColorPopup, AClickOnACellChoosesItAndOneOutsideCancelsWhateverCameBefore)
 {
-    ExpectChoice([](CWnd& popup) { owtest::Click(Part(popup, 4)); }, 0x800000, 4);
+    ExpectChoice(ClickOn(4), 0x800000, 4);
     EXPECT_EQ(CColorBtnST::s_colorRecency[0], 2) << "those before it move on";
     EXPECT_EQ(CColorBtnST::s_colorRecency[5], 11) << "those behind it stay";
-    ExpectChoice([](CWnd& popup) { owtest::Click(Part(popup, kRed)); }, 0xFF, kRed); // tells nobody
-}
-
-TEST_F(ColorPopup, AClickOutsideCancelsWhateverCameBefore)
-{
+    ExpectChoice(ClickOn(kRedCell), kRed, kRedCell); // tells nobody
+    const auto cancelOther = [](CWnd& window)
+    {
+        const auto& dialog = static_cast<CColorDialog&>(window);
+        EXPECT_EQ(dialog.m_cc.rgbResult, kRed) << "where it begins";
+        EXPECT_TRUE(dialog.m_cc.Flags & CC_FULLOPEN);
+        owtest::Press(VK_ESCAPE);
+    };
+    CColorBtnST::Reset();
     ExpectCancel(
         [&](CWnd& popup)
         {
@@ -385,79 +288,60 @@ TEST_F(ColorPopup, AClickOutsideCancelsWhateverCameBefore)
             EXPECT_EQ(::GetCapture(), Part(popup, 6)) << "to the cell it was a press";
             owtest::Click(Part(popup, 9));
             EXPECT_TRUE(Becomes(true, popup)) << "it was left, and gives the mouse back";
-            VisitOther(popup,
-                       [](CWnd& window)
-                       {
-                           const auto& dialog = static_cast<CColorDialog&>(window);
-                           EXPECT_EQ(dialog.m_cc.rgbResult, RGB(255, 0, 0)) << "where it begins";
-                           EXPECT_TRUE(dialog.m_cc.Flags & CC_FULLOPEN);
-                           owtest::Press(VK_ESCAPE);
-                       });
+            VisitOther(popup, cancelOther);
             EXPECT_TRUE(Becomes(true, popup)) << "the pop-up stays";
-            owtest::Click(m_dialog, CPoint(100, 60));
+            owtest::Click(m_room, CPoint(100, 100));
             EXPECT_TRUE(Becomes(false, popup));
         });
 }
 
-TEST_F(ColorPopup, IsOverWhenAnotherWindowTakesTheMouseOrTheForeground)
+TEST_F(ColorPopup, IsOverWhenAnotherWindowTakesTheMouseOrTheForegroundButNotByAHeldKey)
 {
-    for (const auto& steal : {std::function<void()>([&] { m_dialog.rgb.SetCapture(); }),
-                              {[] { ::SetForegroundWindow(::GetDesktopWindow()); }}})
+    const auto hold = [](CWnd& popup, WPARAM nKey)
     {
+        ::PostMessage(Part(popup, kRedCell), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
+        ::PostMessage(Part(popup, kRedCell), WM_KEYUP, nKey, 1 | (KF_REPEAT | KF_UP) << 16);
+        owtest::Pump();
+    };
+    const std::pair<bool, Script> rows[] = {
+        {false, [&](CWnd&) { m_rgb.SetCapture(); }},
+        {false, [](CWnd&) { ::SetForegroundWindow(::GetDesktopWindow()); }},
+        {true, [&](CWnd& popup) { hold(popup, VK_RETURN); }},
+        {true, [&](CWnd& popup) { hold(popup, VK_SPACE); }}};
+    for (const auto& [bOpen, act] : rows)
         ExpectCancel(
-            [&](CWnd& popup)
+            [&, bOpen = bOpen, &act = act](CWnd& popup)
             {
-                steal();
-                EXPECT_TRUE(Becomes(false, popup));
+                act(popup);
+                EXPECT_TRUE(Becomes(bOpen, popup));
                 ::ReleaseCapture();
             });
-    }
 }
 
 TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
 {
-    const auto press = [&](CWnd& popup, std::initializer_list<std::pair<WORD, int>> keys)
+    constexpr WORD L = VK_LEFT, R = VK_RIGHT, U = VK_UP, D = VK_DOWN, T = VK_TAB;
+    const auto press = [](std::vector<std::pair<WORD, int>> keys, WORD nChooser)
     {
-        for (const auto& [nKey, nPart] : keys)
+        return [=](CWnd& popup)
         {
-            owtest::Press(nKey);
-            EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Part(popup, nPart); })) << nPart;
-        }
-    };
-    ExpectChoice(
-        [&](CWnd& popup)
-        {
-            press(popup, {{VK_LEFT, 12}, {VK_LEFT, 11}, {VK_RIGHT, 12}, {VK_UP, 8}, {VK_UP, 4}, {VK_UP, 0}});
-            press(popup, {{VK_UP, 0}, {VK_LEFT, 0}, {VK_RIGHT, 1}, {VK_TAB, kOther}, {VK_TAB, 1}});
-            press(popup, {{VK_DOWN, 5}, {VK_DOWN, 9}, {VK_DOWN, 13}, {VK_DOWN, 17}, {VK_DOWN, kOther}});
-            press(popup, {{VK_DOWN, kOther}, {VK_LEFT, 19}, {VK_RIGHT, kOther}, {VK_UP, 16}});
-            owtest::Press(VK_RETURN);
-        },
-        0xFF0000, 16);
-    CColorBtnST::s_colorTable[kRed] = kNewColor; // without the button's colour the first cell has the focus
-    ExpectChoice(
-        [&](CWnd& popup)
-        {
-            press(popup, {{VK_RIGHT, 1}});
-            owtest::Press(VK_SPACE);
-        },
-        0x000080, 1);
-}
-
-// As the system sends it while the key that opened the pop-up is still down.
-TEST_F(ColorPopup, AKeyThatIsHeldFromOpeningItDoesNothing)
-{
-    for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
-    {
-        ExpectCancel(
-            [=](CWnd& popup)
+            for (const auto& [nKey, nPart] : keys)
             {
-                ::PostMessage(Part(popup, kRed), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
-                ::PostMessage(Part(popup, kRed), WM_KEYUP, nKey, 1 | (KF_REPEAT | KF_UP) << 16);
-                owtest::Pump();
-                EXPECT_TRUE(Becomes(true, popup));
-            });
-    }
+                owtest::Press(nKey);
+                EXPECT_TRUE(owtest::PumpUntil([&, n = nPart] { return ::GetFocus() == Part(popup, n); }))
+                    << nPart;
+            }
+            owtest::Press(nChooser);
+        };
+    };
+    ExpectChoice(press({{L, 12}, {L, 11}, {R, 12}, {U, 8},  {U, 4},  {U, 0},  {U, 0},  {L, 0},
+                        {R, 1},  {T, 20}, {T, 1},  {D, 5},  {D, 9},  {D, 13}, {D, 17}, {D, 20},
+                        {T, 17}, {D, 20}, {D, 20}, {L, 19}, {R, 20}, {U, 16}},
+                       VK_RETURN),
+                 0xFF0000, 16);
+    CColorBtnST::s_colorTable[kRedCell] =
+        kNewColor; // without the button's colour the focus begins at the first
+    ExpectChoice(press({{R, 1}}, VK_SPACE), 0x000080, 1);
 }
 
 TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
@@ -477,25 +361,27 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
     ExpectChoice(acceptNew, kNewColor, 10);
     EXPECT_EQ(CColorBtnST::s_colorTable[10], kNewColor);
     EXPECT_EQ(CColorBtnST::s_colorRecency[9], 20);
-
-    CColorBtnST::s_colorTable.fill(RGB(9, 9, 9));
-    CColorBtnST::s_colorTable[7] = CColorBtnST::s_colorTable[8] = kNewColor;
-    const auto before = CColorBtnST::s_colorTable;
-    ExpectChoice(acceptNew, kNewColor, 7);
-    EXPECT_EQ(CColorBtnST::s_colorTable, before);
+    for (const int nFirst : {7, 0})
+    {
+        CColorBtnST::s_colorTable.fill(RGB(9, 9, 9));
+        CColorBtnST::s_colorTable[nFirst] = CColorBtnST::s_colorTable[8] = kNewColor;
+        const auto before = CColorBtnST::s_colorTable;
+        ExpectChoice(acceptNew, kNewColor, nFirst);
+        EXPECT_EQ(CColorBtnST::s_colorTable, before);
+    }
 }
 
 TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
 {
     std::unique_ptr<CColorBtnST> pButton;
     const Script endings[] = {[&](CWnd&) { pButton->DestroyWindow(); },
-                              [&](CWnd&) { m_dialog.DestroyWindow(); }, [&](CWnd&) { pButton.reset(); }};
+                              [&](CWnd&) { m_room.DestroyWindow(); }, [&](CWnd&) { pButton.reset(); }};
     for (const Script& end : endings)
     {
-        m_dialog.rgb.UnsubclassWindow();
-        pButton = std::make_unique<CColorBtnST>(&m_dialog);
-        ASSERT_TRUE(pButton->SubclassDlgItem(ColorsDialog::nRgb, &m_dialog));
-        pButton->SetColorSource(&m_dialog.color);
+        m_rgb.UnsubclassWindow();
+        pButton = std::make_unique<CColorBtnST>(&m_room);
+        ASSERT_TRUE(pButton->SubclassDlgItem(1001, &m_room));
+        pButton->SetColorSource(&m_color);
         const owtest::ModalVisit visit(
             [&](CWnd& popup)
             {
@@ -503,35 +389,35 @@ TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
                 EXPECT_TRUE(Becomes(false, popup));
             });
         owtest::Click(*pButton);
-        EXPECT_EQ(m_dialog.color, RGB(255, 0, 0));
-        EXPECT_EQ(m_dialog.Take(), Calls{});
-        m_dialog.DestroyWindow();
-        ASSERT_TRUE(m_dialog.Open());
+        EXPECT_EQ(m_color, kRed);
+        EXPECT_EQ(m_room.Take(), Calls{});
+        Reopen(BS_PUSHBUTTON);
     }
 }
 
-TEST_F(ColorPopup, TheHandlerMayCloseTheDialogWhichThenHearsNoMore)
+TEST_F(ColorPopup, AClickByAProgramTakesTheFocusToo)
 {
-    m_dialog.then = [&] { m_dialog.DestroyWindow(); };
-    Visit([](CWnd& popup) { owtest::Click(Part(popup, 4)); });
-    EXPECT_EQ(m_dialog.Take(), (Calls{"hook", "1001 " + std::to_string(0x800000)}));
+    for (CWnd* const pButton : {static_cast<CWnd*>(&m_rgb), static_cast<CWnd*>(&m_acad)})
+    {
+        const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });
+        m_room.SendMessage(WM_COMMAND, 0, reinterpret_cast<LPARAM>(pButton->m_hWnd));
+        EXPECT_EQ(visit.Count(), 1);
+        EXPECT_EQ(::GetFocus(), pButton->m_hWnd);
+    }
 }
 
-TEST_F(ColorPopup, IsThereOnceAndGivesBackWhatItTook)
+TEST_F(ColorPopup, IsThereOnceAndTheHandlerMayCloseTheDialogWhichThenHearsNoMore)
 {
-    const auto use = [&](CWnd& popup)
-    {
-        m_dialog.SendMessage(WM_COMMAND, ColorsDialog::nRgb, reinterpret_cast<LPARAM>(m_dialog.rgb.m_hWnd));
-        EXPECT_EQ(m_dialog.Take().back(), "dialog 1001");
-        VisitOther(popup, [](CWnd&) { owtest::Press(VK_ESCAPE); });
-        owtest::Click(Part(popup, 4));
-        AfxGetApp()->OnIdle(1);
-    };
-    Visit(use);
-    const owtest::HandleCount before = owtest::CountHandles();
-    for (int i = 0; i < 5; ++i)
-        Visit(use);
-    EXPECT_EQ(owtest::CountHandles(), before);
+    m_room.then = [&] { m_room.DestroyWindow(); };
+    Visit(
+        [&](CWnd& popup)
+        {
+            m_room.SendMessage(WM_COMMAND, 1001, reinterpret_cast<LPARAM>(m_rgb.m_hWnd)); // once more
+            EXPECT_EQ(m_room.Take(), Calls{"dialog 1001"});
+            EXPECT_TRUE(Becomes(true, popup));
+            ClickOn(4)(popup);
+        });
+    EXPECT_EQ(m_room.Take(), (Calls{"hook", "told 1001 " + std::to_string(0x800000)}));
 }
 
 // ---- The palette in the profile ---------------------------------------------------------------------------
@@ -542,35 +428,32 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     auto& colors = CColorBtnST::s_colorTable;
     auto& ranks = CColorBtnST::s_colorRecency;
     const auto delivered = std::pair(colors, ranks);
-    const auto loads = [&](LPCTSTR pszEntry = nullptr, std::vector<BYTE> bytes = {})
+    const auto loads = [&](LPCTSTR pszEntry, std::vector<BYTE> bytes)
     {
         CColorBtnST::Reset();
         EXPECT_TRUE(std::pair(colors, ranks) == delivered);
         colors[3] = kNewColor;
         std::swap(ranks[0], ranks[19]);
         EXPECT_EQ(CColorBtnST::Store(), 1);
-        if (pszEntry && bytes.empty())
+        if (bytes.empty())
             app.WriteProfileString(L"ColorData", pszEntry, nullptr);
-        else if (pszEntry)
+        else
             app.WriteProfileBinary(L"ColorData", pszEntry, bytes.data(), static_cast<UINT>(bytes.size()));
         colors.fill(0);
         ranks.fill(0);
         return CColorBtnST::Load();
     };
-    EXPECT_EQ(loads(), 1);
+    EXPECT_EQ(loads(L"other", {}), 1);
     EXPECT_TRUE(colors[3] == kNewColor && ranks[19] == 1);
-    for (const LPCTSTR pszEntry : {L"ColorTable", L"MRU"})
-    {
-        EXPECT_EQ(loads(pszEntry), 0);
-        EXPECT_TRUE(std::pair(colors, ranks) == delivered) << "an entry is missing";
-    }
     EXPECT_EQ(loads(L"ColorTable", {1, 2, 3, 0, 9}), 1);
     EXPECT_TRUE(colors[0] == kNewColor && colors[1] == 9 && colors[2] == 0 && ranks[19] == 1);
     EXPECT_EQ(loads(L"MRU", std::vector<BYTE>(30000, 7)), 1);
-    EXPECT_EQ(std::ranges::count(ranks, 7), std::ssize(ranks));
-    EXPECT_EQ(colors[3], kNewColor);
-    CColorBtnST::Reset();
-
+    EXPECT_TRUE(std::ranges::count(ranks, 7) == 20 && colors[3] == kNewColor);
+    for (const LPCTSTR pszEntry : {L"ColorTable", L"MRU"})
+    {
+        EXPECT_EQ(loads(pszEntry, {}), 0);
+        EXPECT_TRUE(std::pair(colors, ranks) == delivered) << "an entry is missing";
+    }
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
     const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\folder\\x.ini");
     EXPECT_EQ(CColorBtnST::Store(), 0);
@@ -581,40 +464,34 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
 
 namespace
 {
-void Click(const CButton& button)
-{
-    button.GetParent()->SendMessage(WM_COMMAND, 0, reinterpret_cast<LPARAM>(button.m_hWnd));
-}
-
+/// Does something with a button that has no source, or loses it in the pop-up.
 template <class Button>
-void UseWithoutSource(bool bClick)
+void UseWithoutSource(bool bClick, DWORD* pColor = nullptr)
 {
-    Lone<Button> lone(kSize);
-    owtest::Surface surface(kSize.cx, kSize.cy);
-    bClick ? Click(lone.button) : PaintButton(lone.button, surface);
+    Lone<Button> lone(CSize(60, 26));
+    if constexpr (std::is_same_v<Button, CColorBtnST>)
+        lone.button.SetColorSource(pColor);
+    const auto loseSource = [&](CWnd&)
+    {
+        lone.button.SetColorSource(nullptr);
+        owtest::Press(VK_RETURN);
+    };
+    const auto pVisit = pColor ? std::make_unique<owtest::ModalVisit>(loseSource) : nullptr;
+    Surface surface(60, 26);
+    if (bClick)
+        lone.button.GetParent()->SendMessage(WM_COMMAND, 0, reinterpret_cast<LPARAM>(lone.button.m_hWnd));
+    else
+        PaintButton(lone.button, surface);
 }
 } // namespace
 
 // clang-format off
 OW_CHILD_SCENARIO(rgb_paint) { UseWithoutSource<CColorBtnST>(false); }
 OW_CHILD_SCENARIO(rgb_click) { UseWithoutSource<CColorBtnST>(true); }
+OW_CHILD_SCENARIO(rgb_choose) { DWORD color = 0; UseWithoutSource<CColorBtnST>(true, &color); }
 OW_CHILD_SCENARIO(acad_paint) { UseWithoutSource<CAcadColorBtnST>(false); }
 OW_CHILD_SCENARIO(acad_click) { UseWithoutSource<CAcadColorBtnST>(true); }
 // clang-format on
-
-OW_CHILD_SCENARIO(rgb_choose)
-{
-    Lone<CColorBtnST> lone(kSize);
-    DWORD color = 0;
-    lone.button.SetColorSource(&color);
-    const owtest::ModalVisit visit(
-        [&](CWnd&)
-        {
-            lone.button.SetColorSource(nullptr);
-            owtest::Press(VK_RETURN);
-        });
-    Click(lone.button);
-}
 
 // Wanted: an id is never given back.
 OW_CHILD_SCENARIO(too_many_buttons)
@@ -629,15 +506,13 @@ OW_CHILD_SCENARIO(too_many_buttons)
 
 TEST(ColorButton, WithoutASourceOrAnIdItIsFatal)
 {
-    const std::pair<const char*, std::wstring> cases[] = {{"rgb_paint", L".\\ColorBtnST : 198"},
-                                                          {"rgb_click", L".\\ColorBtnST : 273"},
-                                                          {"rgb_choose", L".\\ColorBtnST : 276"},
-                                                          {"acad_paint", L".\\AcadColorBtnST : 147"},
-                                                          {"acad_click", L".\\AcadColorBtnST : 249"}};
-    for (const auto& [pszScenario, place] : cases)
+    for (const auto& [pszScenario, place] : {std::pair("rgb_paint", L"ColorBtnST : 198"),
+                                             {"rgb_click", L"ColorBtnST : 273"},
+                                             {"rgb_choose", L"ColorBtnST : 276"},
+                                             {"acad_paint", L"AcadColorBtnST : 147"},
+                                             {"acad_click", L"AcadColorBtnST : 249"}})
         owtest::ExpectFailedAssert(owtest::RunChild(pszScenario),
-                                   L"ASSERT(m_pCurrentColor)\n[" + place + L"]\n");
-
+                                   std::wstring(L"ASSERT(m_pCurrentColor)\n[.\\") + place + L"]\n");
     const owtest::ChildResult result = owtest::RunChild("too_many_buttons");
     EXPECT_TRUE(result.output.ends_with("200 ")) << result.output;
     owtest::ExpectFailedAssert(result, L"ASSERT(!m_listId.IsEmpty())\n[.\\ResourceIdPool : 37]\n");

@@ -1,105 +1,113 @@
-// A dialog with buttons of every kind, opened and closed many times, gives back what it took.
-
-#include "ButtonsDialog.h"
-#include "Images.h"
+// Buttons of every kind give back what they took, however often they are made, used and closed.
 
 #include "Handles.h"
-#include "Input.h"
-
-#include <gtest/gtest.h>
-
-#include <array>
+#include "Images.h"
+#include "ModalVisit.h"
+#include "Room.h"
 
 namespace
 {
-constexpr int kOpenings = 20;
-constexpr COLORREF kKey = RGB(255, 0, 255);
+constexpr int kRounds = 6;
+const CSize kSize(60, 30);
 const HICON kGrayCopy = reinterpret_cast<HICON>(CButtonST::copyGray);
 
-/// Buttons with images of every kind, tooltips, cursors and transparency; one of them copies an icon.
-class ManyButtonsDialog : public CDialog
+HBITMAP Make()
 {
-public:
-    void Open()
-    {
-        ASSERT_TRUE(Create(IDD_EMPTY));
-        for (int i = 0; i < static_cast<int>(m_buttons.size()); ++i)
-        {
-            const CRect rect(CPoint(i * 40, 0), CSize(36, 36));
-            const DWORD dwType = i % 2 ? BS_AUTOCHECKBOX : BS_PUSHBUTTON;
-            m_buttons[i].Create(_T("Title"), WS_CHILD | WS_VISIBLE | dwType, rect, this, 2000 + i);
-            Dress(m_buttons[i], i);
-        }
-        UpdateWindow();
-        for (OpenButton& button : m_buttons)
-        {
-            MSG msg{button, WM_MOUSEMOVE, 0, MAKELPARAM(5, 5), 0, {}};
-            button.PreTranslateMessage(&msg);
-        }
-        owtest::Pump();
-    }
-    ~ManyButtonsDialog() override { DestroyWindow(); }
+    return testimages::MakeBitmap(CSize(20, 20), kBlue, kKey);
+}
 
-private:
-    static void Dress(OpenButton& button, int i)
-    {
-        const auto bitmap = [] { return testimages::MakeFramedBitmap(20, 20, RGB(0, 0, 255), kKey); };
-        switch (i)
-        {
-        case 0:
-            button.SetIcon(CButtonST::hIconOk, CButtonST::hIconCancel);
-            button.SetIcon(CButtonST::hIconOk, kGrayCopy);
-            break;
-        case 1:
-            button.SetBitmaps(bitmap(), kKey);
-            break;
-        case 2:
-            button.SetBitmaps(bitmap(), kKey, reinterpret_cast<HBITMAP>(CButtonST::copyGray));
-            button.EnableWindow(FALSE);
-            break;
-        case 3:
-            button.SetBitmaps(10101, kKey, CButtonST::copyDarker);
-            button.SetIcon(CButtonST::hIconError);
-            button.EnableWindow(FALSE);
-            break;
-        case 4:
-            button.DrawTransparent();
-            button.SetBtnCursor(IDC_CROSSHAIR);
-            button.SetThemeHelper(nullptr);
-            break;
-        }
-        button.SetTooltipText(_T("tip"));
-    }
-
-    std::array<OpenButton, 5> m_buttons;
-};
-
-void OpenAndClose(int nTimes)
+/// Makes a button by itself, does something with it and paints it in all states.
+template <class Button>
+void Use(const std::function<void(Button&)>& action, DWORD dwType = BS_PUSHBUTTON)
 {
-    for (int i = 0; i < nTimes; ++i)
+    Lone<Button> lone(kSize, _T("a<sub>b</sub>"), dwType);
+    action(lone.button);
+    for (const UINT nState : {0, ODS_FOCUS, ODS_SELECTED, ODS_DISABLED})
     {
-        ManyButtonsDialog dialog;
-        dialog.Open();
+        Surface surface(kSize.cx, kSize.cy);
+        PaintButton(lone.button, surface, nState);
     }
+}
+
+void ChooseColor(CColorBtnST& button)
+{
+    static DWORD cr = kRed;
+    button.SetColorSource(&cr);
+    const owtest::ModalVisit visit([](CWnd& popup) { popup.SendMessage(WM_COMMAND, 10157); });
+    button.GetParent()->SendMessage(WM_COMMAND, 0, reinterpret_cast<LPARAM>(button.m_hWnd));
+    AfxGetApp()->OnIdle(1);
+}
+
+void OfferTexts(CTextBtnST& button)
+{
+    OCArray<CString> texts;
+    texts.SetSize(3);
+    button.SetTexts(texts, texts);
+    button.SendMessage(WM_SYSCOLORCHANGE);
+    button.SetTexts(texts);
+}
+
+void ChangeFontAndIcon(CXIcon& label)
+{
+    static const testimages::Icon given(16, kBlue);
+    label.SetIcon(IDI_STATE, 16).SetIcon(given, 16).SetIcon(IDI_STATE, 32).SetIcon(IDI_STATE, 16);
+    label.SetBold(TRUE).SetFont(L"Arial", 12);
+    EXPECT_TRUE(testimages::IsIcon(given));
+}
+
+void ChangeCursorAndBackground(CButtonST& button)
+{
+    button.DrawTransparent();
+    button.SetTooltipText(_T("tip"));
+    button.SetBtnCursor(IDC_CROSSHAIR);
+    button.SetBtnCursor(IDC_CROSSHAIR);
+}
+
+void SetImages(CButtonST& button)
+{
+    const HBITMAP hGray = reinterpret_cast<HBITMAP>(CButtonST::copyGray);
+    button.SetBitmaps(Make(), kKey, hGray);
+    button.SetBitmaps(Make(), kKey, Make(), kKey);
+    button.SetBitmaps(10101, kKey, CButtonST::copyDarker);
+    button.SetBitmaps(10101, kKey, 31999);
+    button.SetBitmaps(10101, kKey, 10122, kKey);
+}
+
+void UseAll()
+{
+    Use<CButtonST>(&SetImages);
+    Use<CButtonST>([](CButtonST& button) { button.SetIcon(CButtonST::hIconOk, CButtonST::hIconCancel); });
+    Use<CButtonST>([](CButtonST& button) { button.SetThemeHelper(nullptr); });
+    Use<CButtonST>(&ChangeCursorAndBackground);
+    Use<CBitmapBtnSTLinija>([](CButtonST& button) { button.SendMessage(WM_SYSCOLORCHANGE); });
+    Use<CTextBtnST>(&OfferTexts);
+    Use<CColorBtnST>(&ChooseColor);
+    Use<CXIcon>(&ChangeFontAndIcon, BS_OWNERDRAW);
+    Use<CMixedFontButton>([](CMixedFontButton& button) { button.SetCheck(1); });
+    const CThemeHelperST helper;
 }
 } // namespace
 
-// Wanted: an icon that a button made itself is let go of with DeleteObject, which does nothing to an icon. So
-// each copy stays, and that is all that stays.
-TEST(ButtonHandles, OnlyTheCopiesOfIconsStay)
+TEST(ButtonHandles, AreGivenBack)
 {
-    OpenAndClose(2);
-
-    auto before = owtest::CountHandles();
-    CButtonST().SetIcon(CButtonST::hIconOk, kGrayCopy);
-    const int nGdiOfOneCopy = owtest::CountHandles().gdi - before.gdi;
-
-    before = owtest::CountHandles();
-    OpenAndClose(kOpenings);
-    const auto after = owtest::CountHandles();
-    EXPECT_EQ(after.gdi - before.gdi, kOpenings * nGdiOfOneCopy);
-    EXPECT_EQ(after.user - before.user, kOpenings);
-    EXPECT_EQ(after.windows, before.windows);
+    UseAll();
+    const owtest::HandleCount before = owtest::CountHandles();
+    for (int i = 0; i < kRounds; ++i)
+        UseAll();
+    EXPECT_EQ(owtest::CountHandles(), before);
     EXPECT_TRUE(testimages::IsIcon(CButtonST::hIconOk) && testimages::IsIcon(CButtonST::hIconCancel))
         << "shared";
+}
+
+// Wanted: an icon that a button made itself is let go of with DeleteObject, which does nothing to an icon.
+TEST(ButtonHandles, OfCopiedIconsStay)
+{
+    const auto copy = [](CButtonST& button) { button.SetIcon(CButtonST::hIconOk, kGrayCopy); };
+    Use<CButtonST>(copy);
+    const owtest::HandleCount before = owtest::CountHandles();
+    for (int i = 0; i < kRounds; ++i)
+        Use<CButtonST>(copy);
+    EXPECT_EQ(owtest::CountHandles().user - before.user, kRounds)
+        << "one for each, however often it is painted";
+    EXPECT_EQ(owtest::CountHandles().windows, before.windows);
 }

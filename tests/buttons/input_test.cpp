@@ -1,57 +1,41 @@
 // What a user does to buttons, with real mouse and keyboard.
 
-#include "ButtonsDialog.h"
+#include "Room.h"
 
-#include "Input.h"
-
-#include <gtest/gtest.h>
+#include <shellapi.h>
 
 #include <algorithm>
-#include <atomic>
-#include <functional>
-#include <thread>
 #include <tuple>
-
-using Calls = std::vector<std::string>;
 
 namespace
 {
-class ButtonInput : public ::testing::Test
+class ButtonInput : public InRoom
 {
 protected:
-    void SetUp() override
+    ButtonInput()
     {
-        ASSERT_TRUE(m_dialog.Create(IDD_BUTTONS));
-        ASSERT_TRUE(owtest::Activate(m_dialog));
-        Leave();
-        m_dialog.Take();
+        constexpr DWORD kDefault = BS_DEFPUSHBUTTON, kCheck = BS_CHECKBOX, kAuto = BS_AUTOCHECKBOX;
+        m_room.controls = {{&m_push}, {&m_other}, {&m_ok, kDefault}, {&m_check, kCheck}, {&m_ext, kAuto}};
     }
-    void TearDown() override { m_dialog.DestroyWindow(); }
-
-    /// Moves the mouse to a place of the dialog where there is no button, and waits until all buttons know.
-    void Leave()
+    bool HoverBecomes(const Open<>& button, bool bHover)
     {
-        owtest::MoveTo(m_dialog, CPoint(2, 2));
-        EXPECT_TRUE(
-            Becomes([&] { return !m_dialog.push.m_bMouseOnButton && !m_dialog.other.m_bMouseOnButton; }));
-    }
-
-    bool Becomes(const std::function<bool()>& condition) { return owtest::PumpUntil(condition); }
-    bool HasFocus(CWnd& wnd)
-    {
-        return Becomes([&] { return ::GetFocus() == wnd.m_hWnd; });
+        return owtest::PumpUntil([&] { return button.m_bMouseOnButton == bHover; }, 3000);
     }
     /// Moves the mouse over a button; whether the button knows it.
-    bool Hover(OpenButton& button)
+    bool Hover(Open<>& button)
     {
         owtest::MoveTo(button, CPoint(10, 10));
-        return Becomes([&] { return button.m_bMouseOnButton; });
+        return HoverBecomes(button, true);
+    }
+    Calls CallsOf(const std::function<void()>& action)
+    {
+        action();
+        return m_room.Take();
     }
 
-    ButtonsDialog m_dialog;
-    OpenButton& m_push = m_dialog.push;
-    OpenButton& m_other = m_dialog.other;
-    const Calls m_pushClick{"handler 1001", "dialog 1001"};
+    Open<> m_push{&m_room}, m_other{&m_room}, m_ok{&m_room}, m_check{&m_room};
+    CExtButton m_ext{&m_room};
+    const Calls m_pushClick{"told 1001", "dialog 1001"};
 };
 } // namespace
 
@@ -59,146 +43,188 @@ protected:
 
 TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
 {
-    owtest::Click(m_push);
-    EXPECT_EQ(m_dialog.Take(), m_pushClick);
-    EXPECT_TRUE(HasFocus(m_push));
-    m_push.SetURL((L"x:\\" + std::wstring(300, L'?')).c_str());
-    owtest::Click(m_push);
-    EXPECT_EQ(m_dialog.Take(), m_pushClick) << "an address that cannot be opened changes nothing";
+    for (int i = 0; i < 4; ++i) // fast ones
+    {
+        owtest::Click(m_push);
+        EXPECT_EQ(m_room.Take(), m_pushClick);
+    }
+    EXPECT_EQ(::GetFocus(), m_push.m_hWnd);
+    m_room.behind = 0;
+    m_push.RedrawWindow();
+    EXPECT_EQ(m_room.behind, 1) << "the parent paints behind a themed button";
+    for (const UINT message : {WM_LBUTTONDBLCLK, WM_LBUTTONUP}) // not by way of the message loop
+        m_push.SendMessage(message, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(m_room.Take(), m_pushClick);
 
-    owtest::Click(m_dialog.ext);
-    EXPECT_EQ(m_dialog.Take(), (Calls{"handler 1005", "dialog 1005"}));
-    EXPECT_EQ(m_dialog.ext.GetCheck(), 1) << "the system's own check box";
-    m_dialog.ext.SetNotificationHandler(nullptr);
-    owtest::Click(m_dialog.ext);
-    EXPECT_EQ(m_dialog.Take(), Calls{"dialog 1005"});
+    owtest::Click(m_ext);
+    EXPECT_EQ(m_room.Take(), (Calls{"told 1005", "dialog 1005"}));
+    EXPECT_EQ(m_ext.GetCheck(), 1) << "the system's own check box";
+    m_ext.SetNotificationHandler(nullptr);
+    owtest::Click(m_ext);
+    EXPECT_EQ(m_room.Take(), Calls{"dialog 1005"});
 }
 
 TEST_F(ButtonInput, TheHandlerMayCloseTheDialogWhichThenHearsNoMore)
 {
-    m_dialog.then = [&] { m_dialog.DestroyWindow(); };
-    for (const int nId : {IDC_PUSH, IDC_EXT})
+    m_room.then = [&] { m_room.DestroyWindow(); };
+    for (const int nId : {1001, 1005})
     {
-        owtest::Click(*m_dialog.GetDlgItem(nId));
-        EXPECT_EQ(m_dialog.Take(), Calls{"handler " + std::to_string(nId)});
-        ASSERT_TRUE(m_dialog.Create(IDD_BUTTONS) && owtest::Activate(m_dialog));
+        owtest::Click(*m_room.GetDlgItem(nId));
+        EXPECT_EQ(m_room.Take(), Calls{"told " + std::to_string(nId)});
+        m_room.Open();
     }
-}
-
-TEST_F(ButtonInput, FastClicksAreAllClicks)
-{
-    for (int i = 0; i < 2; ++i)
-        owtest::DoubleClick(m_push, CPoint(10, 10));
-    EXPECT_EQ(m_dialog.Take().size(), 8u);
-
-    // The same for a double click that does not come by way of the message loop.
-    m_push.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(5, 5));
-    m_push.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
-    EXPECT_EQ(m_dialog.Take(), m_pushClick);
 }
 
 TEST_F(ButtonInput, ACheckBoxTogglesBeforeItTells)
 {
-    struct Looking : AButtonSTNotificationHandler
-    {
-        OpenButton box{this};
-        std::vector<int> seen;
-        void OnButtonClicked(int) override { seen.push_back(box.GetCheck()); }
-    } handler;
-    m_dialog.check.UnsubclassWindow();
-    ASSERT_TRUE(handler.box.SubclassDlgItem(IDC_CHECK, &m_dialog)); // owner-drawn by now: a check box still
+    std::vector<int> seen;
+    m_room.then = [&] { seen.push_back(m_check.GetCheck()); };
     for (int i = 0; i < 3; ++i)
-        owtest::Click(handler.box);
-    EXPECT_EQ(handler.seen, (std::vector<int>{1, 0, 1}));
+        EXPECT_TRUE(Repaints(m_check, [&] { m_check.SendMessage(BM_CLICK); }));
+    EXPECT_EQ(seen, (std::vector<int>{1, 0, 1}));
 }
 
-TEST_F(ButtonInput, SpaceAndEnterClickAtOnce)
+namespace
+{
+std::vector<std::wstring> g_opened;
+
+BOOL WINAPI NoteShellExecute(SHELLEXECUTEINFOW* pInfo)
+{
+    EXPECT_EQ(pInfo->cbSize, sizeof(*pInfo));
+    EXPECT_EQ(pInfo->fMask, static_cast<ULONG>(SEE_MASK_FLAG_NO_UI));
+    EXPECT_STREQ(pInfo->lpVerb, L"open");
+    EXPECT_EQ(pInfo->nShow, SW_SHOWMAXIMIZED);
+    g_opened.push_back(pInfo->lpFile);
+    return FALSE;
+}
+
+/// The place where the library keeps the system's ShellExecuteExW, found in its table of imported functions.
+void** ShellExecuteOfLibrary()
+{
+    BYTE* const pBase = reinterpret_cast<BYTE*>(::GetModuleHandle(_T("DialogControlsOW.dll")));
+    const auto* pDos = reinterpret_cast<IMAGE_DOS_HEADER*>(pBase);
+    const auto* pHeaders = reinterpret_cast<IMAGE_NT_HEADERS*>(pBase + pDos->e_lfanew);
+    const auto& table = pHeaders->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IAT];
+    void** const ppFirst = reinterpret_cast<void**>(pBase + table.VirtualAddress);
+    const FARPROC pWanted = ::GetProcAddress(::GetModuleHandle(_T("shell32.dll")), "ShellExecuteExW");
+    return std::find(ppFirst, ppFirst + table.Size / sizeof(void*), reinterpret_cast<void*>(pWanted));
+}
+
+void Replace(void** ppFunction, void* pFunction)
+{
+    DWORD nProtection = 0;
+    ::VirtualProtect(ppFunction, sizeof(void*), PAGE_READWRITE, &nProtection);
+    *ppFunction = pFunction;
+    ::VirtualProtect(ppFunction, sizeof(void*), nProtection, &nProtection);
+}
+} // namespace
+
+TEST_F(ButtonInput, AClickOpensTheAddressOfAPushButton)
+{
+    void** const ppShellExecute = ShellExecuteOfLibrary();
+    void* const pOriginal = *ppShellExecute;
+    Replace(ppShellExecute, reinterpret_cast<void*>(&NoteShellExecute));
+    const std::wstring filling(260, L'?');
+    for (const std::wstring& url : {std::wstring(L"http://x"), filling})
+        for (Open<>* pButton : {&m_push, &m_check})
+        {
+            pButton->SetURL(url.c_str());
+            owtest::Click(*pButton);
+            EXPECT_EQ(m_room.Take().size(), 2u) << "whatever comes of it";
+        }
+    m_push.SetURL(nullptr);
+    owtest::Click(m_push);
+    Replace(ppShellExecute, pOriginal);
+    EXPECT_EQ(std::exchange(g_opened, {}), (std::vector<std::wstring>{L"http://x", filling}))
+        << "a check box never does";
+}
+
+TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonIsAnothers)
 {
     m_push.SetFocus();
-    for (WORD key : {VK_SPACE, VK_RETURN})
-    {
-        owtest::Press(key);
-        EXPECT_EQ(m_dialog.Take(), m_pushClick) << "and not the dialog's default button";
-    }
+    for (const WORD nKey : {VK_SPACE, VK_RETURN})
+        EXPECT_EQ(CallsOf([&] { owtest::Press(nKey); }), m_pushClick);
     m_push.SetKbdSensitive(FALSE);
     m_push.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
-    owtest::Press(VK_RETURN);
-    const Calls calls = m_dialog.Take();
-    EXPECT_EQ(std::count(calls.begin(), calls.end(), "handler 1001"), 0) << "the dialog takes it";
-    EXPECT_EQ(calls.empty() ? "" : calls.back(), "dialog 1");
+    EXPECT_EQ(CallsOf([&] { owtest::Press(VK_RETURN); }), (Calls{"told 1003", "dialog 1003"}))
+        << "the dialog takes it";
+    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_RETURN); }), m_pushClick);
+    m_push.SetFocus();
+    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_F1); }), Calls{});
 }
 
 TEST_F(ButtonInput, TheDefaultButtonMovesWithTheFocus)
 {
-    EXPECT_TRUE(m_dialog.ok.GetDefault());
-    EXPECT_TRUE(m_dialog.ok.SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
+    EXPECT_TRUE(m_ok.GetDefault());
+    EXPECT_TRUE(m_ok.SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
     EXPECT_TRUE(m_push.SendMessage(WM_GETDLGCODE) & DLGC_UNDEFPUSHBUTTON);
-
     m_push.SetFocus();
     for (const auto& [bShift, pNow, pBefore] :
          {std::tuple(false, &m_other, &m_push), {true, &m_push, &m_other}})
     {
         owtest::Press(VK_TAB, bShift);
-        ASSERT_TRUE(HasFocus(*pNow));
+        EXPECT_TRUE(owtest::PumpUntil([&, pButton = pNow] { return ::GetFocus() == pButton->m_hWnd; }));
         EXPECT_TRUE(pNow->GetDefault());
-        EXPECT_FALSE(pBefore->GetDefault());
-        EXPECT_FALSE(m_dialog.ok.GetDefault());
+        EXPECT_FALSE(pBefore->GetDefault() || m_ok.GetDefault());
         EXPECT_EQ(pNow->GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
     }
 }
 
 // ---- Hover ------------------------------------------------------------------------------------------------
 
-TEST_F(ButtonInput, AFlatButtonKnowsThatTheMouseIsOverIt)
+TEST_F(ButtonInput, HoverEndsWithWhatTakesTheMouseAway)
 {
-    EXPECT_TRUE(Hover(m_push));
-    Leave();
+    using Row = std::tuple<UINT, WPARAM, bool>; // message, its parameter, and whether the hover stays
     // clang-format off
-    for (const auto& [message, wParam] : {std::pair<UINT, WPARAM>(WM_KILLFOCUS, 0), {WM_CANCELMODE, 0},
-                                          {WM_ACTIVATE, WA_INACTIVE}, {WM_ENABLE, FALSE}, {WM_MOUSELEAVE, 0}})
+    for (const auto& [message, wParam, bStays] : {
+             Row{WM_KILLFOCUS, 0, false}, Row{WM_CANCELMODE, 0, false}, Row{WM_ACTIVATE, WA_INACTIVE, false},
+             Row{WM_ENABLE, FALSE, false}, Row{WM_MOUSELEAVE, 0, false}, Row{WM_ACTIVATE, WA_ACTIVE, true},
+             Row{WM_ACTIVATE, WA_CLICKACTIVE, true}, Row{WM_ENABLE, TRUE, true}, Row{WM_CAPTURECHANGED, 0, true}})
     // clang-format on
     {
         ASSERT_TRUE(Hover(m_push));
-        m_push.SendMessage(message, wParam);
-        EXPECT_FALSE(m_push.m_bMouseOnButton) << message;
-        Leave();
+        m_push.SetCapture();
+        const bool bRepaints = Repaints(m_push, [&, m = message, w = wParam] { m_push.SendMessage(m, w); });
+        EXPECT_EQ(m_push.m_bMouseOnButton, bStays) << message;
+        EXPECT_EQ(bRepaints, !bStays || message == WM_CAPTURECHANGED) << message;
+        EXPECT_EQ(::GetCapture() == nullptr, message == WM_CAPTURECHANGED || message == WM_CANCELMODE);
+        ::ReleaseCapture();
+        owtest::MoveTo(m_room, CPoint(1, 1));
+        EXPECT_TRUE(HoverBecomes(m_push, false)) << "the mouse has left";
     }
     ASSERT_TRUE(Hover(m_push));
-    m_push.SendMessage(WM_ACTIVATE, WA_ACTIVE);
-    m_push.SendMessage(WM_ENABLE, TRUE);
-    m_push.SendMessage(WM_CAPTURECHANGED);
-    EXPECT_TRUE(m_push.m_bMouseOnButton) << "these leave it as it is";
+    const HWND hButton = m_push.UnsubclassWindow();
+    m_push.SubclassWindow(hButton);
+    EXPECT_FALSE(m_push.m_bMouseOnButton) << "what a former window was at its end is over";
 }
 
 TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouse)
 {
-    m_push.SetFlat(FALSE);
-    owtest::MoveTo(m_push, CPoint(10, 10));
-    m_push.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(10, 10));
-    EXPECT_FALSE(m_push.m_bMouseOnButton);
-
-    ASSERT_TRUE(Hover(m_other));
-    m_other.SendMessage(WM_MOUSELEAVE);
-    const auto hovers = [&](WPARAM buttons, int x)
+    const auto move = [&](WPARAM buttons, int x)
+    { return Repaints(m_other, [&] { m_other.SendMessage(WM_MOUSEMOVE, buttons, MAKELPARAM(x, 10)); }); };
+    using Row = std::tuple<bool, WPARAM, int, bool>; // flat, mouse buttons, place, and whether it hovers then
+    for (const auto& [bFlat, buttons, x, bHovers] :
+         {Row{true, MK_LBUTTON, 10, false}, Row{false, 0, 10, false}, Row{true, 0, 10, true},
+          Row{true, 0, -30, false}})
     {
-        m_other.SendMessage(WM_MOUSEMOVE, buttons, MAKELPARAM(x, 10));
-        return m_other.m_bMouseOnButton;
-    };
-    EXPECT_FALSE(hovers(MK_LBUTTON, 10)) << "the mouse came with its button pressed";
-    EXPECT_TRUE(hovers(0, 11));
-    EXPECT_FALSE(hovers(0, -30));
+        m_other.SetFlat(bFlat);
+        const BOOL bBefore = m_other.m_bMouseOnButton;
+        EXPECT_EQ(move(buttons, x), bBefore != bHovers);
+        EXPECT_EQ(m_other.m_bMouseOnButton, bHovers);
+        EXPECT_FALSE(move(buttons, x)) << "once";
+    }
 }
 
 TEST_F(ButtonInput, HoverNeedsAnActiveWindowUnlessItIsAlwaysTracked)
 {
     ::SetForegroundWindow(::GetDesktopWindow());
-    ASSERT_TRUE(Becomes([] { return ::GetActiveWindow() == nullptr; }));
+    ASSERT_TRUE(owtest::PumpUntil([] { return ::GetActiveWindow() == nullptr; }));
     m_push.SetAlwaysTrack(FALSE);
     EXPECT_TRUE(Hover(m_other));
     owtest::MoveTo(m_push, CPoint(12, 10));
-    EXPECT_TRUE(Becomes([&] { return !m_other.m_bMouseOnButton; }));
+    EXPECT_TRUE(HoverBecomes(m_other, false));
     EXPECT_FALSE(m_push.m_bMouseOnButton);
-    owtest::Activate(m_dialog);
+    owtest::Activate(m_room);
     EXPECT_TRUE(Hover(m_push));
 }
 
@@ -206,121 +232,94 @@ TEST_F(ButtonInput, HoverNeedsAnActiveWindowUnlessItIsAlwaysTracked)
 
 namespace
 {
-/// Counts commands, and lets the mouse button go, from another thread, when it has seen so many of them.
-class Repeating : public ButtonInput, protected AButtonSTNotificationHandler
+void SendMouse(DWORD dwFlags)
+{
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = dwFlags;
+    input.mi.dx = input.mi.dy = 0xFFF0; // the far corner of the screen
+    ::SendInput(1, &input, sizeof(input));
+}
+
+class Repeating : public ButtonInput
 {
 protected:
-    int CommandsOfAHold(int nReleaseAfter, BOOL bFlat = FALSE)
+    /// Holds the button until so many commands have been seen; how many there were in the end.
+    int CommandsOfAHold(
+        int nHeldFor, const std::function<void()>& onClick = [] {})
     {
-        m_push.UnsubclassWindow();
-        OpenButton button(this);
-        EXPECT_TRUE(button.SubclassDlgItem(IDC_PUSH, &m_dialog));
-        button.SetFlat(bFlat);
-        button.SetAutoRepeat(1, 20);
-        EXPECT_TRUE(!bFlat || Hover(button));
-        std::thread finger(
-            [&]
-            {
-                const ULONGLONG deadline = ::GetTickCount64() + 20000;
-                while (m_nCommands < nReleaseAfter && !m_bOver && ::GetTickCount64() < deadline)
-                    ::Sleep(1);
-                INPUT release{};
-                release.type = INPUT_MOUSE;
-                release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-                ::SendInput(1, &release, sizeof(release));
-            });
-        owtest::ButtonDown(button, CPoint(10, 10));
-        m_bOver = true;
-        finger.join();
-        m_bOver = false;
-        owtest::PumpUntil([] { return ::GetAsyncKeyState(VK_LBUTTON) >= 0; });
+        m_push.SetAutoRepeat(1, 20);
+        int nCommands = 0;
+        m_room.then = [&]
+        {
+            onClick();
+            if (++nCommands == nHeldFor)
+                SendMouse(MOUSEEVENTF_LEFTUP);
+        };
+        owtest::ButtonDown(m_push, CPoint(10, 10));
+        if (nCommands < nHeldFor)
+            owtest::ButtonUp();
         EXPECT_EQ(::GetCapture(), nullptr);
-        if (button.m_hWnd)
-            button.UnsubclassWindow();
-        return m_nCommands.exchange(0);
+        EXPECT_FALSE(m_push.m_hWnd && (m_push.GetState() & BST_PUSHED));
+        return nCommands;
     }
-    void OnButtonClicked(int) override
-    {
-        ++m_nCommands;
-        m_onClick();
-    }
-
-    std::atomic<int> m_nCommands = 0;
-    std::atomic<bool> m_bOver = false; ///< the hold has ended, released or not
-    std::function<void()> m_onClick = [] {};
 };
 } // namespace
 
-TEST_F(Repeating, SendsCommandsWhileHeldAndAnEvenNumberOfThem)
+TEST_F(Repeating, SendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoAnywhere)
 {
+    m_push.SetFlat(FALSE);
     EXPECT_EQ(CommandsOfAHold(1), 2) << "one cycle";
-    const int nCommands = CommandsOfAHold(5);
-    EXPECT_GE(nCommands, 6);
-    EXPECT_EQ(nCommands % 2, 0);
+    EXPECT_EQ(CommandsOfAHold(5), 6);
+    EXPECT_EQ(CommandsOfAHold(6), 6);
+    EXPECT_EQ(CommandsOfAHold(3, [] { ::ReleaseCapture(); }), 4);
+    m_push.SetFlat(TRUE);
+    EXPECT_EQ(CommandsOfAHold(3, [&] { m_push.SendMessage(WM_MOUSELEAVE); }), 4);
+    EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
+    EXPECT_EQ(CommandsOfAHold(3, [] { SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE); }), 4);
 }
 
 TEST_F(Repeating, IsForExactlyOneAndAReleaseThatWaitsAlreadySendsNothing)
 {
     m_push.SetAutoRepeat(1, 20);
-    owtest::Click(m_push);
-    EXPECT_EQ(m_dialog.Take(), Calls{});
+    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), Calls{});
     m_push.SetAutoRepeat(2, 20);
-    owtest::Click(m_push);
-    EXPECT_EQ(m_dialog.Take(), m_pushClick) << "an ordinary click";
-}
-
-// The thread would hang if it waited for a release that goes to another window.
-TEST_F(Repeating, EndsWithAReleaseElsewhere)
-{
-    m_onClick = []
-    {
-        INPUT aside{};
-        aside.type = INPUT_MOUSE;
-        aside.mi.dwFlags = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-        aside.mi.dx = aside.mi.dy = 0xFFF0; // the far corner of the screen
-        ::SendInput(1, &aside, sizeof(aside));
-    };
-    EXPECT_EQ(CommandsOfAHold(3, TRUE) % 2, 0);
-    m_onClick = [] { ::ReleaseCapture(); };
-    EXPECT_EQ(CommandsOfAHold(3) % 2, 0);
+    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), m_pushClick) << "an ordinary click";
 }
 
 TEST_F(Repeating, EndsWhenTheButtonCannotBeUsedAnyMore)
 {
-    constexpr int kNever = 1000;
-    const auto push = [&] { return m_dialog.GetDlgItem(IDC_PUSH); };
-    m_onClick = [&] { push()->EnableWindow(FALSE); };
-    EXPECT_EQ(CommandsOfAHold(kNever), 2) << "an even number all the same";
-    push()->EnableWindow();
-    m_onClick = [&] { push()->ShowWindow(SW_HIDE); };
-    EXPECT_EQ(CommandsOfAHold(kNever), 2);
-}
-
-TEST_F(Repeating, EndsWhenTheWindowGoes)
-{
-    m_onClick = [&] { m_dialog.GetDlgItem(IDC_PUSH)->DestroyWindow(); };
-    EXPECT_EQ(CommandsOfAHold(1), 1);
-    EXPECT_EQ(m_dialog.GetDlgItem(IDC_PUSH), nullptr);
+    constexpr int kNever = 100;
+    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2)
+        << "an even number all the same";
+    m_push.EnableWindow();
+    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.ShowWindow(SW_HIDE); }), 2);
+    m_push.ShowWindow(SW_SHOW);
+    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.DestroyWindow(); }), 1);
 }
 
 // ---- Tooltip and cursor -----------------------------------------------------------------------------------
 
 TEST_F(ButtonInput, TheTooltipShowsOnceItHasAText)
 {
+    MSG msg{m_push, WM_NULL, 0, 0, 0, {}};
+    m_push.PreTranslateMessage(&msg);
+    m_push.ActivateTooltip(TRUE); // there is no text
     m_push.SetTooltipText(_T("first"), FALSE);
-    m_push.SetTooltipText(IDS_TIP);
+    m_push.SetTooltipText(IDS_TEXT);
     m_push.SetTooltipText(31999); // no such string
     m_push.SetTooltipText(nullptr);
     EXPECT_EQ(m_push.m_toolTip.GetToolCount(), 1);
+    EXPECT_EQ(m_push.m_toolTip.SendMessage(TTM_GETMAXTIPWIDTH), 400);
     CString strText;
     m_push.m_toolTip.GetText(strText, &m_push, 1);
-    EXPECT_STREQ(strText, _T("Tip from the resources"));
-    m_push.EnableBalloonTooltip();
+    EXPECT_STREQ(strText, _T("From the resources"));
+    EXPECT_EQ(m_push.EnableBalloonTooltip(), 0u);
     EXPECT_FALSE(m_push.m_toolTip.GetStyle() & TTS_BALLOON) << "kept: balloons have no effect";
 
     owtest::MoveTo(m_push, CPoint(20, 10));
     owtest::MoveTo(m_push, CPoint(22, 10));
-    EXPECT_TRUE(Becomes([&] { return m_push.m_toolTip.IsWindowVisible() != FALSE; }));
+    EXPECT_TRUE(owtest::PumpUntil([&] { return m_push.m_toolTip.IsWindowVisible() != FALSE; }));
     m_push.ActivateTooltip(FALSE);
     EXPECT_FALSE(m_push.m_toolTip.IsWindowVisible());
 }
@@ -342,6 +341,6 @@ TEST_F(ButtonInput, ShowsTheCursorThatItWasGiven)
         EXPECT_EQ(m_push.SetBtnCursor(IDC_CROSSHAIR), 0u);
         EXPECT_FALSE(showsArrow());
         EXPECT_EQ(m_push.SetBtnCursor(nId), result) << "and the former cursor is gone";
-        EXPECT_TRUE(showsArrow());
     }
+    EXPECT_TRUE(showsArrow());
 }

@@ -1,30 +1,22 @@
 // Buttons and labels in several fonts: where everything stands, what is wiped, who keeps the check state.
 
-#include "ButtonsDialog.h"
-
-#include "Input.h"
-
-#include <gtest/gtest.h>
+#include "Room.h"
 
 #include <MixedFont.h>
 
 #include <algorithm>
-#include <memory>
 #include <tuple>
-
-using owtest::Surface;
-using Calls = std::vector<std::string>;
 
 namespace
 {
-constexpr wchar_t kText[] = L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]";
-constexpr COLORREF kGround = RGB(255, 0, 255);
+constexpr wchar_t kText[] = L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]",
+                  kLabel[] = L"kN/cm<sup>2</sup>";
 const COLORREF kFace = ::GetSysColor(COLOR_BTNFACE);
 const CRect kItem(10, 6, 211, 47); ///< odd sizes, and not from the corner
 
 struct MixedFontSurface : Surface
 {
-    explicit MixedFontSurface(COLORREF crFill = kGround) : Surface(230, 60, crFill) {}
+    explicit MixedFontSurface(COLORREF crFill = kKey) : Surface(230, 60, crFill) {}
 };
 
 /// A button by itself, painted onto a surface, and what it ought to look like.
@@ -53,7 +45,7 @@ protected:
         item.hDC = surface.dc();
         item.rcItem = kItem;
         m_lone->button.DrawItem(&item);
-        EXPECT_EQ(surface.dc().GetTextColor(), RGB(0, 0, 0)) << "the context is as it was";
+        EXPECT_EQ(surface.dc().GetTextColor(), kBlack) << "the context is as it was";
         EXPECT_EQ(::GetCurrentObject(item.hDC, OBJ_PEN), ::GetStockObject(BLACK_PEN));
     }
     void ExpectLook(CPoint boxAt, CPoint textAt, const std::string& what, UINT frame = DFCS_BUTTONCHECK,
@@ -73,8 +65,8 @@ protected:
         CMixedFont::TextOutW(&dc, textAt, kText);
         dc.DrawFrameControl(CRect(boxAt, CSize(13, 13)), DFC_BUTTON, frame);
         ::FrameRect(dc, mark, ::GetSysColorBrush(COLOR_BTNFACE));
-        dc.SetTextColor(RGB(0, 0, 0));
-        dc.SetBkColor(RGB(255, 255, 255));
+        dc.SetTextColor(kBlack);
+        dc.SetBkColor(kWhite);
         if (bFocus)
             dc.DrawFocusRect(mark);
         EXPECT_TRUE(ours == expected) << what;
@@ -82,6 +74,33 @@ protected:
 
     std::unique_ptr<Lone<Button>> m_lone;
     const CSize m_text = CMixedFont::GetTextExtent(&MixedFontSurface().dc(), kText);
+};
+
+class MixedFontInRoom : public InRoom
+{
+protected:
+    MixedFontInRoom()
+    {
+        m_room.controls = {{&m_button, BS_AUTOCHECKBOX, L"a<sub>max</sub>"},
+                           {&m_other, BS_AUTOCHECKBOX, L"b"},
+                           {&m_label, SS_RIGHT, kLabel, L"STATIC"},
+                           {&m_clearLabel, SS_RIGHT, kLabel, L"STATIC", WS_EX_TRANSPARENT}};
+    }
+    /// What the control shows, row by row.
+    static std::vector<COLORREF> Shown(CWnd& control)
+    {
+        control.UpdateWindow();
+        CRect rect;
+        control.GetClientRect(rect);
+        CClientDC dc(&control);
+        std::vector<COLORREF> pixels;
+        for (int i = 0; i < rect.right * rect.bottom; ++i)
+            pixels.push_back(dc.GetPixel(i % rect.right, i / rect.right));
+        return pixels;
+    }
+
+    CMixedFontButton m_button{&m_room}, m_other{&m_room};
+    CMixedFontStatic m_label, m_clearLabel;
 };
 } // namespace
 
@@ -110,33 +129,35 @@ TEST_F(PaintedMixedFont, BoxAndTextStandByTheStyles)
 TEST_F(PaintedMixedFont, LooksAsItsState)
 {
     const CPoint box(kItem.left, kItem.bottom - 15), text(kItem.left + 20, kItem.bottom - m_text.cy - 2);
+    constexpr UINT kBox = DFCS_BUTTONCHECK | DFCS_CHECKED, kRadio = DFCS_BUTTONRADIO | DFCS_CHECKED;
     Button& button = Open(BS_BOTTOM);
-    button.SetCheck(1);
-    ExpectLook(box, text, "checked", DFCS_BUTTONCHECK | DFCS_CHECKED);
-    button.SendMessage(WM_SETFOCUS);
-    ExpectLook(box, text, "focused", DFCS_BUTTONCHECK | DFCS_CHECKED, true);
-    button.SendMessage(WM_KILLFOCUS);
-    button.SetState(TRUE);
-    ExpectLook(box, text, "pressed", DFCS_BUTTONCHECK | DFCS_CHECKED | DFCS_INACTIVE, true);
-    button.SetState(FALSE);
-    button.bThirdState = true;
-    ExpectLook(box, text, "third state", DFCS_BUTTONCHECK | DFCS_INACTIVE);
-    button.bThirdState = false;
-    button.RadioButtonLook(0);
-    ExpectLook(box, text, "radio, whatever the argument", DFCS_BUTTONRADIO | DFCS_CHECKED);
-    button.EnableWindow(FALSE);
-    ExpectLook(box, text, "disabled", DFCS_BUTTONRADIO | DFCS_CHECKED | DFCS_INACTIVE, false, false);
+    const std::tuple<std::function<void()>, UINT, bool> rows[] = {
+        {[&] { button.SetCheck(1); }, kBox, false},
+        {[&] { button.SendMessage(WM_SETFOCUS); }, kBox, true},
+        {[&] { button.SendMessage(WM_KILLFOCUS); }, kBox, false},
+        {[&] { button.SetState(TRUE); }, kBox | DFCS_INACTIVE, true},
+        {[&] { button.SetState(FALSE); }, kBox, false},
+        {[&] { button.bThirdState = true; }, DFCS_BUTTONCHECK | DFCS_INACTIVE, false},
+        {[&] { button.bThirdState = false; }, kBox, false},
+        {[&] { button.RadioButtonLook(0); }, kRadio, false}, // whatever the argument
+        {[&] { button.EnableWindow(FALSE); }, kRadio | DFCS_INACTIVE, false}};
+    for (const auto& [change, frame, bFocus] : rows)
+    {
+        change();
+        ExpectLook(box, text, std::to_string(&change - &std::get<0>(rows[0])), frame, bFocus,
+                   button.IsWindowEnabled());
+    }
 
     Open(BS_BOTTOM, WS_EX_TRANSPARENT);
     MixedFontSurface surface;
     Paint(surface);
-    EXPECT_GT(surface.count(CRect(text, m_text), kGround), 0) << "a transparent one has no ground";
+    EXPECT_GT(surface.count(CRect(text, m_text), kKey), 0) << "a transparent one has no ground";
 }
 
 TEST_F(PaintedMixedFont, AShorterTextWipesWhatStoodThereUnlessItIsTransparent)
 {
-    for (DWORD dwExStyle : {0L, WS_EX_TRANSPARENT})
-        for (BOOL bEnabled : {TRUE, FALSE})
+    for (const DWORD dwExStyle : {0L, WS_EX_TRANSPARENT})
+        for (const BOOL bEnabled : {TRUE, FALSE})
         {
             Button& button = Open(0, dwExStyle);
             button.SendMessage(WM_SETFOCUS);
@@ -151,8 +172,17 @@ TEST_F(PaintedMixedFont, AShorterTextWipesWhatStoodThereUnlessItIsTransparent)
         }
 }
 
-TEST_F(PaintedMixedFont, KeepsItsOwnCheckState)
+TEST_F(PaintedMixedFont, KeepsItsOwnCheckStateAndBecomesOwnerDrawn)
 {
+    for (const auto& [style, type] : {std::pair(BS_PUSHBUTTON, BS_OWNERDRAW),
+                                      {BS_AUTORADIOBUTTON | BS_LEFTTEXT, BS_OWNERDRAW | BS_LEFTTEXT},
+                                      {BS_RADIOBUTTON, 0xFL /* kept: a bit of this type stays */}})
+    {
+        CMixedFontButton created;
+        created.Create(L"", WS_CHILD | style, CRect(0, 0, 9, 9), Open(style).GetParent(), 5);
+        EXPECT_EQ(m_lone->button.GetButtonStyle(), static_cast<UINT>(type));
+        EXPECT_EQ(created.GetButtonStyle(), static_cast<UINT>(type));
+    }
     Button& button = Open(0);
     for (const auto& [set, now] : {std::pair(1, 1), {2, 1}, {0, 0}, {-1, 0}, {1, 1}})
     {
@@ -164,66 +194,25 @@ TEST_F(PaintedMixedFont, KeepsItsOwnCheckState)
     EXPECT_EQ(button.GetCheck(), 1) << "a disabled one keeps it";
 }
 
-TEST_F(PaintedMixedFont, BecomesOwnerDrawnFromATemplateAndByCreate)
-{
-    for (const auto& [style, type] : {std::pair(BS_PUSHBUTTON, BS_OWNERDRAW),
-                                      {BS_AUTORADIOBUTTON | BS_LEFTTEXT, BS_OWNERDRAW | BS_LEFTTEXT},
-                                      {BS_RADIOBUTTON, 0xFL /* kept: a bit of this type stays */}})
-    {
-        CMixedFontButton created;
-        created.Create(L"", WS_CHILD | style, CRect(0, 0, 9, 9), Open(style).GetParent(), 5);
-        EXPECT_EQ(m_lone->button.GetButtonStyle(), static_cast<UINT>(type));
-        EXPECT_EQ(created.GetButtonStyle(), static_cast<UINT>(type));
-    }
-}
-
 // ---- In a dialog ------------------------------------------------------------------------------------------
 
-namespace
+TEST_F(MixedFontInRoom, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
 {
-class MixedFontInDialog : public ::testing::Test
-{
-protected:
-    void SetUp() override { ASSERT_TRUE(m_dialog.Create(IDD_BUTTONS) && owtest::Activate(m_dialog)); }
-    void TearDown() override { m_dialog.DestroyWindow(); }
-
-    /// What the control shows, row by row.
-    static std::vector<COLORREF> Shown(CWnd& control)
+    for (int i = 0; i < 2; ++i)
     {
-        control.UpdateWindow();
-        CRect rect;
-        control.GetClientRect(rect);
-        CClientDC dc(&control);
-        std::vector<COLORREF> pixels;
-        for (int y = 0; y < rect.bottom; ++y)
-            for (int x = 0; x < rect.right; ++x)
-                pixels.push_back(dc.GetPixel(x, y));
-        return pixels;
+        owtest::Click(m_button);
+        EXPECT_EQ(m_room.Take(), (Calls{"told 1001", "dialog 1001"})) << "fast clicks are all clicks";
     }
-
-    ButtonsDialog m_dialog;
-    CMixedFontButton& m_button = m_dialog.mixed;
-    CMixedFontButton& m_other = m_dialog.mixedOther;
-    CMixedFontStatic& m_label = m_dialog.label;
-};
-} // namespace
-
-TEST_F(MixedFontInDialog, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
-{
-    owtest::Click(m_button);
-    EXPECT_EQ(m_dialog.Take(), (Calls{"handler 1006", "dialog 1006"}));
-    owtest::Click(m_button);
-    EXPECT_EQ(m_dialog.Take(), (Calls{"handler 1006", "dialog 1006"})) << "fast clicks are all clicks";
     EXPECT_EQ(m_button.GetCheck(), 0) << "nobody toggles it";
     owtest::Press(VK_TAB);
     EXPECT_EQ(::GetFocus(), m_other.m_hWnd);
     owtest::Press(VK_SPACE);
-    EXPECT_EQ(m_dialog.Take(), (Calls{"handler 1007", "dialog 1007"}));
+    EXPECT_EQ(m_room.Take(), (Calls{"told 1002", "dialog 1002"}));
     owtest::Press(VK_RETURN);
-    EXPECT_EQ(m_dialog.Take().back(), "dialog 1") << "Enter is the default button's";
+    EXPECT_EQ(m_room.Take().back(), "dialog 1") << "Enter is the default button's";
 }
 
-TEST_F(MixedFontInDialog, CheckAndFocusAreShownAtOnce)
+TEST_F(MixedFontInRoom, CheckAndFocusAreShownAtOnce)
 {
     m_other.SetFocus();
     const auto before = Shown(m_button);
@@ -241,9 +230,11 @@ TEST_F(MixedFontInDialog, CheckAndFocusAreShownAtOnce)
     m_button.SendMessage(WM_KILLFOCUS);
     m_button.EnableWindow(TRUE);
     EXPECT_EQ(Shown(m_button), before) << "the focus went while it was disabled";
+    m_button.RadioButtonLook(TRUE);
+    EXPECT_NE(Shown(m_button), before);
 }
 
-TEST_F(MixedFontInDialog, APressEndsWithTheFocusAndIsNoClick)
+TEST_F(MixedFontInRoom, APressEndsWithTheFocusAndIsNoClick)
 {
     m_button.SetFocus();
     m_button.SendMessage(WM_KEYDOWN, VK_SPACE);
@@ -251,30 +242,36 @@ TEST_F(MixedFontInDialog, APressEndsWithTheFocusAndIsNoClick)
     m_other.SetFocus();
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_FALSE(m_button.GetState() & BST_PUSHED);
-    EXPECT_EQ(m_dialog.Take(), Calls{});
+    EXPECT_EQ(m_room.Take(), Calls{});
 }
 
-TEST_F(MixedFontInDialog, ALabelShowsTheTextItWasMadeWithAtTheTopByItsStyle)
+TEST_F(MixedFontInRoom, ALabelShowsTheTextItWasMadeWithAtTheTopByItsStyle)
 {
-    constexpr wchar_t kLabel[] = L"kN/cm<sup>2</sup>";
     CMixedFontStatic created;
-    ASSERT_TRUE(created.Create(kLabel, WS_CHILD, CRect(0, 0, 200, 30), &m_dialog));
+    ASSERT_TRUE(created.Create(kLabel, WS_CHILD, CRect(0, 0, 200, 30), &m_room));
     m_label.MoveWindow(0, 0, 200, 30);
     for (CMixedFontStatic* pLabel : {&m_label, &created})
-        for (DWORD dwStyle : {SS_LEFT, SS_CENTER, SS_RIGHT})
+        for (const DWORD dwStyle : {SS_LEFT, SS_CENTER, SS_RIGHT})
         {
             EXPECT_EQ(owtest::TextOf(*pLabel), kLabel);
             pLabel->ModifyStyle(SS_TYPEMASK, dwStyle);
             MixedFontSurface ours, expected;
             for (CDC* pDC : {&ours.dc(), &expected.dc()})
-                pDC->SetTextColor(RGB(0, 0, 160)); // the context's own
-            pLabel->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(ours.dc().m_hDC), PRF_CLIENT);
+                pDC->SetTextColor(kBlue); // the context's own
+            const WPARAM dc = reinterpret_cast<WPARAM>(ours.dc().m_hDC);
+            EXPECT_EQ(pLabel->SendMessage(WM_ERASEBKGND, dc), 1) << "it erases by itself";
+            ours.dc().FillSolidRect(0, 0, ours.width(), ours.height(), kKey);
+            EXPECT_EQ(pLabel->SendMessage(WM_PRINTCLIENT, dc, PRF_CLIENT), 0);
 
-            const HGDIOBJ hOld = ::SelectObject(expected.dc(), *m_dialog.GetFont());
+            const HGDIOBJ hOld = ::SelectObject(expected.dc(), *m_room.GetFont());
             const int nRoom = 200 - CMixedFont::GetTextExtent(&expected.dc(), kLabel).cx;
-            const int x = dwStyle == SS_LEFT ? 0 : dwStyle == SS_CENTER ? nRoom / 2 : nRoom;
             expected.dc().SetBkColor(kFace);
-            CMixedFont::TextOutW(&expected.dc(), CPoint(x, 0), kLabel);
+            CMixedFont::TextOutW(&expected.dc(),
+                                 CPoint(dwStyle == SS_LEFT     ? 0
+                                        : dwStyle == SS_CENTER ? nRoom / 2
+                                                               : nRoom,
+                                        0),
+                                 kLabel);
             ::SelectObject(expected.dc(), hOld);
             EXPECT_TRUE(ours == expected) << dwStyle;
         }
@@ -282,22 +279,22 @@ TEST_F(MixedFontInDialog, ALabelShowsTheTextItWasMadeWithAtTheTopByItsStyle)
     EXPECT_TRUE(pByClass && pByClass->IsKindOf(RUNTIME_CLASS(CStatic)));
 }
 
-TEST_F(MixedFontInDialog, ALabelsTextIsReadInFullOrCut)
+TEST_F(MixedFontInRoom, ALabelsTextIsReadInFullOrCut)
 {
     EXPECT_EQ(m_label.SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"100% %s <b>")), 1);
     EXPECT_EQ(owtest::TextOf(m_label), L"100% %s <b>");
     wchar_t buffer[] = L"#####";
     EXPECT_EQ(m_label.SendMessage(WM_GETTEXT, 4, reinterpret_cast<LPARAM>(buffer)), 3);
     EXPECT_EQ(std::wstring(buffer, 5), std::wstring(L"100\0#", 5));
-    for (LPARAM nowhere : {reinterpret_cast<LPARAM>(buffer), LPARAM(0)})
+    for (const LPARAM nowhere : {reinterpret_cast<LPARAM>(buffer), LPARAM(0)})
         EXPECT_EQ(m_label.SendMessage(WM_GETTEXT, nowhere ? 0 : 9, nowhere), 0);
     m_label.SendMessage(WM_SETTEXT);
     EXPECT_EQ(m_label.SendMessage(WM_GETTEXTLENGTH), 0);
 }
 
-TEST_F(MixedFontInDialog, ALabelWipesItsTextAndItsGroundUnlessItIsTransparent)
+TEST_F(MixedFontInRoom, ALabelWipesItsTextAndItsGroundUnlessItIsTransparent)
 {
-    for (CMixedFontStatic* pLabel : {&m_label, &m_dialog.clearLabel})
+    for (CMixedFontStatic* pLabel : {&m_label, &m_clearLabel})
     {
         const auto before = Shown(*pLabel);
         pLabel->EnableWindow(FALSE);
@@ -308,9 +305,9 @@ TEST_F(MixedFontInDialog, ALabelWipesItsTextAndItsGroundUnlessItIsTransparent)
         auto after = Shown(*pLabel);
         EXPECT_EQ(std::count(after.begin(), after.end(), kFace) == std::ssize(after), pLabel == &m_label);
 
-        CClientDC(pLabel).FillSolidRect(0, 0, 1000, 100, kGround); // as a window that stood over it leaves it
+        CClientDC(pLabel).FillSolidRect(0, 0, 1000, 100, kKey); // as a window that stood over it leaves it
         pLabel->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
         after = Shown(*pLabel);
-        EXPECT_EQ(std::count(after.begin(), after.end(), kGround) == 0, pLabel == &m_label);
+        EXPECT_EQ(std::count(after.begin(), after.end(), kKey) == 0, pLabel == &m_label);
     }
 }

@@ -1,440 +1,350 @@
 // What a button looks like, read back pixel by pixel.
 
-#include "ButtonsDialog.h"
 #include "Images.h"
+#include "Room.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
+#include <random>
 
 #include <uxtheme.h>
 
 #include <vsstyle.h>
 
-using owtest::Surface;
+using testimages::Icon;
 
 namespace
 {
-constexpr COLORREF kFaceIn = RGB(200, 220, 255);
-constexpr COLORREF kFaceOut = RGB(180, 200, 180);
-constexpr COLORREF kFaceFocus = RGB(255, 230, 200);
-constexpr COLORREF kTextIn = RGB(0, 0, 200);
-constexpr COLORREF kTextOut = RGB(0, 100, 0);
-constexpr COLORREF kTextFocus = RGB(120, 0, 0);
-constexpr COLORREF kRed = RGB(255, 0, 0);
-constexpr COLORREF kGreen = RGB(0, 255, 0);
-constexpr COLORREF kKey = RGB(255, 0, 255); ///< transparent colour of the bitmaps
-const CSize kSize(100, 40);
+constexpr COLORREF kFaceIn = RGB(200, 220, 255), kFaceOut = RGB(180, 200, 180),
+                   kFaceFocus = RGB(255, 230, 200);
+constexpr COLORREF kTextIn = RGB(0, 0, 200), kTextOut = RGB(0, 100, 0), kTextFocus = RGB(120, 0, 0);
+constexpr COLORREF kSecond = RGB(60, 0, 0); ///< colour of the second image; the first one's is red
+const CSize kSize(100, 41), kIconSize(16, 16), kBitmapSize(20, 11);
+constexpr UINT kTitle = DT_WORDBREAK | DT_CENTER;
 
-/// A button without a theme, with colours of its own, and a surface of its size.
-class PaintedButton : public ::testing::Test
+enum EImage
 {
-protected:
-    explicit PaintedButton(LPCTSTR pszTitle = _T(""), DWORD dwType = BS_PUSHBUTTON)
-        : m_lone(kSize, pszTitle, dwType), m_button(m_lone.button)
+    noImage,
+    icon,
+    bitmap
+};
+
+/// Everything that a look depends on.
+struct Look
+{
+    bool bCheckBox, bChecked, bFlat, bBorder, bFlatFocus, bDefault, bHover, bPressed, bFocused, bDisabled,
+        bEngraves;
+    bool bSecondImage, bPressedDown, bToolbar, bThemed;
+    EImage image;
+    BYTE nAlign;
+    LPCTSTR pszTitle;
+
+    bool LooksPressed() const { return bPressed || (bCheckBox && bChecked); }
+    CPoint Offset() const
     {
-        m_button.SetThemeHelper(nullptr);
-        m_button.SetFlat(FALSE);
-        const COLORREF colors[] = {kFaceIn, kTextIn, kFaceOut, kTextOut, kFaceFocus, kTextFocus};
-        for (BYTE i = 0; i < CButtonST::colorCount; ++i)
-            m_button.SetColor(i, colors[i]);
+        return bPressed && !bCheckBox ? (bPressedDown ? CPoint(0, 2) : CPoint(1, 1)) : CPoint(0, 0);
     }
-
-    const Surface& Paint(UINT nItemState = 0)
+    template <class Value>
+    Value ByState(Value in, Value focus, Value out) const
     {
-        m_surface = std::make_unique<Surface>(kSize.cx, kSize.cy);
-        m_button.PaintOn(*m_surface, nItemState);
-        return *m_surface;
+        return bHover || LooksPressed() ? in : bFocused ? focus : out;
     }
-    COLORREF Face(UINT nItemState = 0) { return Paint(nItemState).at(kSize.cx / 2, kSize.cy / 2); }
-
-    LoneButton m_lone;
-    OpenButton& m_button;
-    std::unique_ptr<Surface> m_surface;
 };
 
-class TitledButton : public PaintedButton
+CRect Inside(const CRect& rect, int leftTop, int rightBottom)
 {
-protected:
-    TitledButton() : PaintedButton(_T("HHHH")) {}
-};
-
-class PaintedCheckBox : public PaintedButton
-{
-protected:
-    PaintedCheckBox() : PaintedButton(_T("HHHH"), BS_AUTOCHECKBOX) {}
-};
-} // namespace
-
-// ---- Face and border --------------------------------------------------------------------------------------
-
-TEST_F(PaintedButton, RaisedHasAnEdgeOfFourLines)
-{
-    const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT), soft = ::GetSysColor(COLOR_3DLIGHT);
-    const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW), shadow = ::GetSysColor(COLOR_BTNSHADOW);
-    const int right = kSize.cx - 1, bottom = kSize.cy - 1;
-    const struct
-    {
-        const char* name;
-        CRect area;
-        COLORREF color;
-    } parts[] = {
-        {"left", {0, 0, 1, bottom}, light},
-        {"top", {0, 0, right - 1, 1}, light},
-        {"left, inside", {1, 1, 2, bottom - 1}, soft},
-        {"top, inside", {1, 1, right - 1, 2}, soft},
-        {"bottom", {0, bottom, right + 1, bottom + 1}, dark},
-        {"right, over the light corner", {right, 0, right + 1, bottom}, dark},
-        {"bottom, inside", {1, bottom - 1, right, bottom}, shadow},
-        {"right, inside", {right - 1, 1, right, bottom}, shadow},
-        {"face", {2, 2, right - 1, bottom - 1}, kFaceOut},
-    };
-    const Surface& picture = Paint();
-    for (const auto& part : parts)
-        EXPECT_EQ(picture.count(part.area, part.color), part.area.Width() * part.area.Height()) << part.name;
-
-    Paint(ODS_SELECTED);
-    EXPECT_EQ(m_surface->extent(shadow), CRect(CPoint(0, 0), kSize)) << "one dark frame while it is pressed";
-    EXPECT_EQ(m_surface->extent(kFaceIn), CRect(1, 1, right, bottom));
+    return CRect(rect.left + leftTop, rect.top + leftTop, rect.right - rightBottom,
+                 rect.bottom - rightBottom);
 }
 
-TEST_F(PaintedButton, RaisedShrinksIntoABlackFrameWhenFocusedOrDefault)
-{
-    const auto expectFrame = [](const Surface& picture)
-    {
-        EXPECT_EQ(picture.count(CRect(0, 0, kSize.cx, 1), RGB(0, 0, 0)), kSize.cx);
-        EXPECT_EQ(picture.at(kSize.cx - 1, kSize.cy - 1), RGB(0, 0, 0));
-        EXPECT_EQ(picture.at(1, 1), ::GetSysColor(COLOR_BTNHIGHLIGHT))
-            << "the edge goes by the smaller rectangle";
-        EXPECT_EQ(picture.at(kSize.cx - 2, kSize.cy - 2), ::GetSysColor(COLOR_3DDKSHADOW));
-    };
-    expectFrame(Paint(ODS_FOCUS));
-    m_button.m_bIsDefault = TRUE;
-    expectFrame(Paint());
-
-    m_button.SetFlat(TRUE);
-    EXPECT_EQ(Paint().at(0, 0), kFaceOut) << "a flat one has no frame";
-}
-
-TEST_F(PaintedButton, FlatHasABorderOnlyWhileHoveredOrPressed)
+/// Face and edges: rectangles that lie one over the other. What is left for the focus mark.
+CRect PaintFace(CDC& dc, const Look& look, HWND hButton)
 {
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT), shadow = ::GetSysColor(COLOR_BTNSHADOW);
-    const auto corners = [](const Surface& picture)
-    { return std::pair(picture.at(0, 5), picture.at(kSize.cx - 1, 5)); };
-    m_button.SetFlat(TRUE);
-    EXPECT_EQ(corners(Paint()), std::pair(kFaceOut, kFaceOut));
-    EXPECT_EQ(corners(Paint(ODS_SELECTED)), std::pair(shadow, light));
-    m_button.m_bMouseOnButton = TRUE;
-    EXPECT_EQ(corners(Paint()), std::pair(light, shadow));
-    EXPECT_EQ(Face(ODS_FOCUS), kFaceIn) << "hover comes before focus";
-
-    m_button.DrawBorder(FALSE);
-    EXPECT_EQ(corners(Paint()), std::pair(kFaceIn, kFaceIn));
-    EXPECT_EQ(corners(Paint(ODS_SELECTED)), std::pair(kFaceIn, kFaceIn));
-}
-
-TEST_F(PaintedButton, FocusIsShownThreePixelsInside)
-{
-    const auto dots = [&](int inset)
+    const COLORREF face = look.ByState(kFaceIn, kFaceFocus, kFaceOut);
+    const bool bPressed = look.LooksPressed();
+    CRect rect(CPoint(0, 0), kSize);
+    if (look.bThemed)
     {
-        const Surface& picture = *m_surface;
-        const CRect top(inset, inset, kSize.cx - inset, inset + 1);
-        return top.Width() - picture.count(top, kFaceFocus);
-    };
-    Paint(ODS_FOCUS);
-    EXPECT_GT(dots(4), 10) << "three pixels inside of the black frame";
-    EXPECT_EQ(dots(5), 0);
-
-    m_button.SetFlat(TRUE);
-    Paint(ODS_FOCUS);
-    EXPECT_EQ(dots(3), 0) << "a flat one does not show it";
-    m_button.DrawFlatFocus(TRUE);
-    Paint(ODS_FOCUS);
-    EXPECT_GT(dots(3), 10);
-}
-
-// ---- Theme ------------------------------------------------------------------------------------------------
-
-TEST(ThemedButton, IsDrawnByTheThemeInTheStateThatComesFirst)
-{
-    LoneButton lone(kSize);
-    OpenButton& button = lone.button;
-    const auto looks = [&](UINT nItemState, LPCWSTR pszClass, int nState)
-    {
-        Surface ours(kSize.cx, kSize.cy), expected(kSize.cx, kSize.cy);
-        button.PaintOn(ours, nItemState);
-        const HTHEME hTheme = ::OpenThemeData(button, pszClass);
-        RECT rect{0, 0, kSize.cx, kSize.cy};
-        ::DrawThemeParentBackground(button, expected.dc(), &rect);
-        ::DrawThemeBackground(hTheme, expected.dc(), BP_PUSHBUTTON, nState, &rect, nullptr);
+        const bool bDefault = look.bDefault && (!look.bToolbar || look.bBorder);
+        const int nEnabled = bPressed      ? PBS_PRESSED
+                             : look.bHover ? PBS_HOT
+                             : bDefault    ? PBS_DEFAULTED
+                                           : PBS_NORMAL;
+        const HTHEME hTheme = ::OpenThemeData(hButton, look.bToolbar ? L"TOOLBAR" : L"BUTTON");
+        ::DrawThemeParentBackground(hButton, dc, rect);
+        ::DrawThemeBackground(hTheme, dc, BP_PUSHBUTTON, look.bDisabled ? PBS_DISABLED : nEnabled, rect,
+                              nullptr);
         ::CloseThemeData(hTheme);
-        return ours == expected;
-    };
-    EXPECT_TRUE(looks(0, L"BUTTON", PBS_NORMAL));
-    button.m_bIsDefault = TRUE;
-    EXPECT_TRUE(looks(0, L"BUTTON", PBS_DEFAULTED));
-    button.m_bMouseOnButton = TRUE;
-    EXPECT_TRUE(looks(0, L"BUTTON", PBS_HOT));
-    EXPECT_TRUE(looks(ODS_SELECTED, L"BUTTON", PBS_PRESSED));
-    EXPECT_TRUE(looks(ODS_SELECTED | ODS_DISABLED, L"BUTTON", PBS_DISABLED));
-
-    button.m_bMouseOnButton = FALSE;
-    button.DrawAsToolbar(TRUE);
-    EXPECT_TRUE(looks(0, L"TOOLBAR", TS_NORMAL)) << "the default button of a toolbar needs a border";
-    button.DrawBorder(TRUE);
-    EXPECT_TRUE(looks(0, L"TOOLBAR", TS_CHECKED));
+        return rect;
+    }
+    if (!look.bFlat && (look.bFocused || look.bDefault))
+    {
+        dc.FillSolidRect(rect, kBlack);
+        rect.DeflateRect(1, 1);
+    }
+    dc.FillSolidRect(rect, face);
+    if (!look.bFlat && bPressed)
+    {
+        dc.FillSolidRect(rect, shadow);
+        dc.FillSolidRect(Inside(rect, 1, 1), face);
+    }
+    else if (!look.bFlat)
+    {
+        dc.FillSolidRect(rect, ::GetSysColor(COLOR_3DDKSHADOW));
+        dc.FillSolidRect(Inside(rect, 0, 1), light);
+        dc.FillSolidRect(Inside(rect, 1, 1), shadow);
+        dc.FillSolidRect(Inside(rect, 1, 2), ::GetSysColor(COLOR_3DLIGHT));
+        dc.FillSolidRect(Inside(rect, 2, 2), face);
+    }
+    else if (look.bBorder && (bPressed || look.bHover))
+    {
+        dc.FillSolidRect(rect, bPressed ? light : shadow);
+        dc.FillSolidRect(Inside(rect, 0, 1), bPressed ? shadow : light);
+        dc.FillSolidRect(Inside(rect, 1, 1), face);
+    }
+    return rect;
 }
 
-// ---- Images -----------------------------------------------------------------------------------------------
-
-TEST_F(TitledButton, ImageAndTitleStandByTheAlignment)
+/// The image is one colour in a transparent frame. What is left for the title.
+CRect PaintImage(CDC& dc, const Look& look)
 {
-    constexpr int kIcon = 16;
-    const HICON hIcon = testimages::MakeIcon(kIcon, kIcon, [](int, int) { return testimages::Opaque(kRed); });
-    m_button.SetFlat(TRUE);
-    m_button.SetIcon(hIcon, nullptr);
-    struct Row
-    {
-        BYTE align;
-        CPoint withTitle;
-        CRect caption;
-        CPoint alone;
-    };
+    CRect caption(CPoint(0, 0), kSize);
+    if (look.image == noImage)
+        return caption;
+    const CSize size = look.image == icon ? kIconSize : kBitmapSize;
+    const int middleX = (kSize.cx - size.cx) / 2, middleY = (kSize.cy - size.cy) / 2;
     const int right = kSize.cx, bottom = kSize.cy;
-    const int middleX = (right - kIcon) / 2, middleY = (bottom - kIcon) / 2;
-    // clang-format off
-    for (const Row& row : {
-             Row{CButtonST::alignLeft, {3, middleY}, {3 + kIcon, 0, right, bottom}, {middleX, middleY}},
-             Row{CButtonST::alignTop, {middleX, 3}, {0, kIcon, right, bottom}, {middleX, middleY}},
-             Row{CButtonST::alignRight, {right - 3 - kIcon, middleY}, {3, 0, right - 3 - kIcon, bottom}, {middleX, 0}},
-             Row{CButtonST::alignNone, {0, 0}, {0, 0, right, bottom}, {0, 0}}})
-    // clang-format on
+    const struct
     {
-        m_button.SetAlign(row.align);
-        m_button.SetWindowText(_T("HHHH"));
-        EXPECT_EQ(Paint().extent(kRed), CRect(row.withTitle, CSize(kIcon, kIcon))) << int(row.align);
-        EXPECT_EQ(m_button.captionRect, row.caption) << int(row.align);
-        const CPoint text = m_surface->extent(kTextOut).CenterPoint();
-        EXPECT_NEAR(text.x, row.caption.CenterPoint().x, 2) << int(row.align);
-        EXPECT_NEAR(text.y, row.caption.CenterPoint().y, 3) << int(row.align);
-
-        m_button.SetWindowText(_T(""));
-        EXPECT_EQ(Paint().extent(kRed).TopLeft(), row.alone) << int(row.align);
-        EXPECT_TRUE(m_button.captionRect.IsRectEmpty()) << "without a title none is drawn";
+        CPoint besideTitle;
+        CRect title;
+        CPoint alone;
+    } places[] = {{{3, middleY}, {3 + size.cx, 0, right, bottom}, {middleX, middleY}},
+                  {{middleX, 3}, {0, size.cy, right, bottom}, {middleX, middleY}},
+                  {{right - 3 - size.cx, middleY}, {3, 0, right - 3 - size.cx, bottom}, {middleX, 0}},
+                  {{0, 0}, caption, {0, 0}}};
+    const auto& place = places[look.nAlign];
+    const bool bFirst = !look.bSecondImage || look.LooksPressed() || (look.bHover && !look.bCheckBox);
+    const CRect image(CRect((*look.pszTitle ? place.besideTitle : place.alone) + look.Offset(), size));
+    const CRect inside = Inside(image, 2, 2);
+    if (look.image == icon)
+        dc.FillSolidRect(inside, look.bDisabled ? (bFirst ? RGB(155, 155, 155) : RGB(132, 132, 132))
+                                                : (bFirst ? kRed : kSecond));
+    else if (look.bDisabled && look.bEngraves)
+    {
+        dc.FillSolidRect(inside + CPoint(1, 1), ::GetSysColor(COLOR_BTNHIGHLIGHT));
+        dc.FillSolidRect(inside, ::GetSysColor(COLOR_BTNSHADOW));
     }
-    ::DestroyIcon(hIcon);
+    else
+        dc.FillSolidRect(inside, bFirst ? kRed : kSecond);
+    return place.title;
 }
 
-TEST_F(TitledButton, ImageAndTitleMoveWhilePressed)
+void PaintTitle(CDC& dc, const Look& look, const CRect& room)
 {
-    const HICON hIcon = testimages::MakeFramedIcon(16, kRed);
-    m_button.SetFlat(TRUE);
-    m_button.SetIcon(hIcon, nullptr);
-    const CRect image = Paint().extent(kRed), text = m_surface->extent(kTextOut);
-    EXPECT_EQ(Paint(ODS_SELECTED).extent(kRed), image + CPoint(1, 1));
-    EXPECT_EQ(m_surface->extent(kTextIn), text + CPoint(1, 1));
-    m_button.SetPressedStyle(CButtonST::pressedDown);
-    EXPECT_EQ(Paint(ODS_SELECTED).extent(kRed), image + CPoint(0, 2));
-    EXPECT_EQ(m_surface->extent(kTextIn), text + CPoint(0, 2));
-    ::DestroyIcon(hIcon);
+    CRect rect = room + look.Offset();
+    dc.DrawText(look.pszTitle, -1, rect, kTitle | DT_CALCRECT);
+    rect.OffsetRect((room.Width() - rect.Width()) / 2, (room.Height() - rect.Height()) / 2);
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(look.bDisabled ? ::GetSysColor(COLOR_BTNHIGHLIGHT)
+                                   : look.ByState(kTextIn, kTextFocus, kTextOut));
+    dc.DrawText(look.pszTitle, -1, rect + CPoint(look.bDisabled, look.bDisabled), kTitle);
+    dc.SetTextColor(::GetSysColor(COLOR_BTNSHADOW));
+    if (look.bDisabled)
+        dc.DrawText(look.pszTitle, -1, rect, kTitle);
 }
 
-TEST_F(PaintedCheckBox, LooksPressedWhileCheckedAndMovesNothing)
+void PaintModel(CDC& dc, const Look& look, HWND hButton)
 {
-    const HICON hIn = testimages::MakeFramedIcon(16, kRed), hOut = testimages::MakeFramedIcon(16, kGreen);
-    m_button.SetIcon(hIn, hOut);
-    const CRect image = Paint().extent(kGreen), text = m_surface->extent(kTextOut);
-    EXPECT_TRUE(m_surface->extent(kRed).IsRectEmpty());
-    m_button.m_bMouseOnButton = TRUE;
-    EXPECT_EQ(Paint().extent(kGreen), image) << "the mouse alone does not change the image of a check box";
-    m_button.m_bMouseOnButton = FALSE;
-
-    m_button.SetCheck(1);
-    EXPECT_EQ(Paint().extent(kRed), image);
-    EXPECT_EQ(m_surface->extent(kTextIn), text);
-    EXPECT_EQ(m_surface->at(0, 0), ::GetSysColor(COLOR_BTNSHADOW)) << "the frame of a pressed button";
-    ::DestroyIcon(hIn);
-    ::DestroyIcon(hOut);
+    const CRect face = PaintFace(dc, look, hButton);
+    const CRect caption = PaintImage(dc, look);
+    if (*look.pszTitle)
+        PaintTitle(dc, look, caption);
+    dc.SetTextColor(kBlack);
+    dc.SetBkColor(kWhite);
+    if (look.bFocused && (!look.bFlat || look.bFlatFocus))
+        dc.DrawFocusRect(Inside(face, 3, 3));
 }
 
-TEST_F(PaintedButton, FirstImageShowsUnderTheMouseAndEverywhereIfItIsAlone)
+/// A button without a theme, with colours of its own.
+struct Plain : Lone<Open<>>
 {
-    const auto shown = [&]
+    explicit Plain(DWORD dwType = BS_PUSHBUTTON) : Lone(kSize, _T(""), dwType)
     {
-        std::vector<COLORREF> colors;
-        for (const auto& [nItemState, bHover] : {std::pair(0, FALSE), {0, TRUE}, {ODS_SELECTED, FALSE}})
-        {
-            m_button.m_bMouseOnButton = bHover;
-            colors.push_back(Face(nItemState));
-        }
-        return colors;
-    };
-    const auto bitmap = [](COLORREF cr) { return testimages::MakeFramedBitmap(12, 12, cr, kKey); };
-    const HICON hIn = testimages::MakeFramedIcon(16, kRed), hOut = testimages::MakeFramedIcon(16, kGreen);
-    using Colors = std::vector<COLORREF>;
-    m_button.SetIcon(hIn, hOut);
-    EXPECT_EQ(shown(), (Colors{kGreen, kRed, kRed}));
-    m_button.SetIcon(hIn, nullptr);
-    EXPECT_EQ(shown(), Colors(3, kRed));
-    m_button.SetBitmaps(bitmap(kRed), kKey, bitmap(kGreen), kKey);
-    EXPECT_EQ(shown(), (Colors{kGreen, kRed, kRed}));
-    m_button.SetBitmaps(bitmap(kRed), kKey);
-    EXPECT_EQ(shown(), Colors(3, kRed));
-    ::DestroyIcon(hIn);
-    ::DestroyIcon(hOut);
-}
-
-TEST_F(PaintedButton, ABitmapLetsTheFaceThroughWhereItIsTransparent)
-{
-    m_button.SetBitmaps(testimages::MakeFramedBitmap(20, 12, kRed, kKey), kKey);
-    const Surface& picture = Paint();
-    const CRect inside(CPoint((kSize.cx - 20) / 2 + 2, (kSize.cy - 12) / 2 + 2), CSize(16, 8));
-    EXPECT_EQ(picture.extent(kRed), inside);
-    EXPECT_EQ(picture.count(inside, kRed), 16 * 8);
-    EXPECT_EQ(picture.at(inside.left - 1, inside.top - 1), kFaceOut);
-    EXPECT_TRUE(picture.extent(kKey).IsRectEmpty());
-}
-
-// ---- Disabled ---------------------------------------------------------------------------------------------
-
-TEST_F(PaintedButton, ADisabledIconTurnsGreyWhereItStands)
-{
-    for (const auto& [cr, nGrey] : {std::pair(RGB(0, 0, 0), 125), {kRed, 155}, {RGB(255, 255, 255), 214}})
-    {
-        const HICON hIcon = testimages::MakeFramedIcon(16, cr);
-        m_button.SetIcon(hIcon, nullptr);
-        EXPECT_EQ(Face(ODS_DISABLED), RGB(nGrey, nGrey, nGrey));
-        EXPECT_EQ(m_surface->at((kSize.cx - 16) / 2 + 1, kSize.cy / 2), kFaceOut)
-            << "the face around it stays";
-        ::DestroyIcon(hIcon);
+        button.SetThemeHelper(nullptr);
+        button.SetFlat(TRUE);
+        const COLORREF colors[] = {kFaceIn, kTextIn, kFaceOut, kTextOut, kFaceFocus, kTextFocus};
+        for (BYTE i = 0; i < CButtonST::colorCount; ++i)
+            button.SetColor(i, colors[i]);
     }
-}
-
-// Kept: the colour of the corner counts as background, so an icon that fills its corner keeps that colour.
-TEST_F(PaintedButton, ADisabledIconKeepsTheColorOfItsCorner)
-{
-    const HICON hIcon = testimages::MakeIcon(
-        16, 16, [](int x, int) { return testimages::Opaque(x < 8 ? kRed : RGB(0, 0, 0)); });
-    m_button.SetIcon(hIcon, nullptr);
-    const Surface& picture = Paint(ODS_DISABLED);
-    EXPECT_EQ(picture.at(kSize.cx / 2 - 4, kSize.cy / 2), kRed);
-    EXPECT_EQ(picture.at(kSize.cx / 2 + 4, kSize.cy / 2), RGB(125, 125, 125));
-    ::DestroyIcon(hIcon);
-}
-
-// A corner outside the button has no colour, so nothing counts as background: the face turns grey, too.
-TEST_F(PaintedButton, ADisabledIconThatIsLargerThanItsButtonTurnsEverythingGrey)
-{
-    const HICON hIcon = testimages::MakeFramedIcon(static_cast<int>(kSize.cx) + 20, kRed);
-    m_button.SetIcon(hIcon, nullptr);
-    const Surface& picture = Paint(ODS_DISABLED);
-    EXPECT_EQ(picture.at(kSize.cx / 2, kSize.cy / 2), RGB(155, 155, 155));
-    EXPECT_NE(picture.at(kSize.cx / 2, 1), kFaceOut);
-    ::DestroyIcon(hIcon);
-}
-
-TEST_F(PaintedButton, ADisabledBitmapIsEngravedUnlessToldOtherwise)
-{
-    m_button.SetFlat(TRUE);
-    m_button.SetBitmaps(testimages::MakeFramedBitmap(20, 12, kRed, kKey), kKey);
-    const Surface& engraved = Paint(ODS_DISABLED);
-    EXPECT_TRUE(engraved.extent(kRed).IsRectEmpty());
-    // Kept: the ground of the engraving is filled with a brush that does not exist. The system takes white
-    // for it, and so the transparent frame stays out. Were the ground not filled at all, the frame would be
-    // engraved, too.
-    const CRect inside(CPoint((kSize.cx - 20) / 2 + 2, (kSize.cy - 12) / 2 + 2), CSize(16, 8));
-    EXPECT_EQ(engraved.extent(::GetSysColor(COLOR_BTNSHADOW)), inside);
-    EXPECT_EQ(engraved.at(inside.right, inside.bottom), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-
-    m_button.m_bShowDisabledBitmap = FALSE;
-    EXPECT_EQ(Face(ODS_DISABLED), kRed);
-}
-
-TEST_F(TitledButton, ADisabledTitleIsEngraved)
-{
-    const CRect text = Paint().extent(kTextOut);
-    m_button.SetFlat(TRUE);
-    const Surface& picture = Paint(ODS_DISABLED);
-    EXPECT_EQ(picture.extent(::GetSysColor(COLOR_BTNSHADOW)), text);
-    EXPECT_EQ(picture.extent(::GetSysColor(COLOR_BTNHIGHLIGHT)).BottomRight(),
-              text.BottomRight() + CPoint(1, 1));
-}
-
-TEST_F(TitledButton, TheTitleFollowsTheStateAndBreaksIntoLines)
-{
-    EXPECT_FALSE(Paint(ODS_FOCUS).extent(kTextFocus).IsRectEmpty());
-    EXPECT_FALSE(Paint(ODS_SELECTED).extent(kTextIn).IsRectEmpty());
-
-    const int oneLine = Paint().extent(kTextOut).Height();
-    m_button.SetWindowText(_T("HHHHHH HHHHHH HHHHHH"));
-    const CRect lines = Paint().extent(kTextOut);
-    EXPECT_GT(lines.Height(), oneLine * 2 - 2);
-    EXPECT_NEAR(lines.CenterPoint().y, kSize.cy / 2, 3) << "both lines together are centred";
-}
-
-// ---- Size and transparency --------------------------------------------------------------------------------
-
-TEST_F(PaintedButton, SizesItselfToItsImage)
-{
-    const auto size = [&]
+    std::unique_ptr<Surface> Paint(UINT nItemState = 0)
+    {
+        auto pSurface = std::make_unique<Surface>(kSize.cx, kSize.cy);
+        PaintButton(button, *pSurface, nItemState);
+        pSurface->dc().SetTextColor(kBlack);
+        return pSurface;
+    }
+    CSize Size() const
     {
         CRect rect;
-        m_button.GetWindowRect(rect);
+        button.GetWindowRect(rect);
         return rect.Size();
-    };
-    m_button.SizeToContent();
-    EXPECT_EQ(size(), kSize) << "without an image nothing happens";
-    m_button.SetBitmaps(testimages::MakeFramedBitmap(30, 18, kRed, kKey), kKey);
-    m_button.SizeToContent();
-    EXPECT_EQ(size(), CSize(30, 18));
-    EXPECT_EQ(m_button.m_ptImageOrigin, CPoint(0, 0));
-}
+    }
+};
 
-TEST_F(PaintedButton, TransparentShowsWhatTheCallerOrTheParentHasBehindIt)
+void Dress(Open<>& button, const Look& look, HICON hFirst, HICON hSecond)
 {
-    EXPECT_EQ(m_button.SetBk(&Surface(10, 10).dc()), 5u) << "needs DrawTransparent";
-    m_button.SetFlat(TRUE);
-    m_button.DrawTransparent();
-    EXPECT_EQ(m_button.SetBk(nullptr), 5u);
+    const auto make = [](COLORREF cr) { return testimages::MakeBitmap(kBitmapSize, cr, kKey); };
+    if (look.image == bitmap)
+        button.SetBitmaps(make(kRed), kKey, look.bSecondImage ? make(kSecond) : nullptr, kKey);
+    else
+        button.SetIcon(look.image == icon ? hFirst : nullptr, look.bSecondImage ? hSecond : nullptr);
+    button.SetWindowText(look.pszTitle);
+    button.SetThemeHelper(look.bThemed ? CButtonST::pLocalTheme : nullptr);
+    button.DrawAsToolbar(look.bToolbar);
+    button.SetFlat(look.bFlat);
+    button.DrawBorder(look.bBorder);
+    button.DrawFlatFocus(look.bFlatFocus);
+    button.SetAlign(look.nAlign);
+    button.SetPressedStyle(look.bPressedDown ? CButtonST::pressedDown : CButtonST::pressedAside);
+    button.SetCheck(look.bChecked);
+    button.m_bIsDefault = look.bDefault;
+    button.m_bMouseOnButton = look.bHover;
+    button.m_bShowDisabledBitmap = look.bEngraves;
+}
+} // namespace
 
-    Surface behind(300, 200, kGreen);
-    behind.dc().FillSolidRect(10, 10, 1, 1, kRed); // the button's place in its parent
-    EXPECT_EQ(m_button.SetBk(&behind.dc()), 0u);
-    EXPECT_EQ(Paint().at(0, 0), kRed);
-    EXPECT_EQ(m_surface->at(1, 1), kGreen);
-
-    behind.dc().FillSolidRect(0, 0, 300, 200, kRed);
-    EXPECT_EQ(Paint().at(1, 1), kGreen) << "it is a copy";
-    EXPECT_EQ(m_button.SetBk(&behind.dc()), 0u);
-    EXPECT_EQ(Paint().at(1, 1), kRed);
-
-    m_button.SendMessage(WM_SYSCOLORCHANGE);
-    EXPECT_FALSE(m_button.m_background) << "the next paint takes it from the parent";
-    COLORREF cr = 0;
-    m_button.GetColor(CButtonST::colorBackOut, &cr);
-    EXPECT_EQ(cr, ::GetSysColor(COLOR_BTNFACE)) << "new system colours take the place of all six";
+TEST(ButtonPaint, IsThatOfTheModelInEveryState)
+{
+    const Icon first(kIconSize.cx, kRed), second(kIconSize.cx, kSecond);
+    const LPCTSTR titles[] = {_T(""), _T("HHHH"), _T("HHHHHH HHHHHH HHHHHH")};
+    Plain push, box(BS_AUTOCHECKBOX);
+    std::mt19937 random(1);
+    const auto draw = [&](auto&... flags) { ((flags = random() % 2 != 0), ...); };
+    for (int i = 0; i < 300; ++i)
+    {
+        Look look{};
+        draw(look.bCheckBox, look.bChecked, look.bFlat, look.bBorder, look.bFlatFocus, look.bDefault,
+             look.bHover, look.bPressed, look.bFocused, look.bDisabled, look.bEngraves, look.bSecondImage,
+             look.bPressedDown, look.bToolbar);
+        look.bThemed = random() % 4 == 0;
+        look.image = EImage(random() % 3);
+        look.nAlign = BYTE(random() % 4);
+        look.pszTitle = titles[random() % 3];
+        if (look.bDisabled && look.image == icon) // an edge or a theme's face would turn grey, too
+        {
+            look.bThemed = look.bBorder = false;
+            look.bFlat |= look.nAlign >= CButtonST::alignRight;
+        }
+        Plain& plain = look.bCheckBox ? box : push;
+        Dress(plain.button, look, first, second);
+        const auto ours = plain.Paint((look.bPressed ? ODS_SELECTED : 0) | (look.bFocused ? ODS_FOCUS : 0) |
+                                      (look.bDisabled ? ODS_DISABLED : 0));
+        Surface expected(kSize.cx, kSize.cy);
+        PaintModel(expected.dc(), look, plain.button);
+        ASSERT_TRUE(*ours == expected) << "case " << i;
+    }
 }
 
-TEST(TransparentButton, ShowsItsParentsPixelsAsTheyWereAtTheFirstPaint)
+// Kept: the colour of the corner counts as background, and stays.
+TEST(ButtonPaint, ADisabledIconTurnsGreyExceptForTheColourOfItsCorner)
+{
+    const auto pixel = [](int x, int) { return testimages::Opaque(x < 8 ? kRed : kBlack); };
+    const Icon black(16, kBlack), white(16, kWhite), filled(16, 16, pixel), large(kSize.cx + 20, kRed);
+    const int x = kSize.cx / 2, y = kSize.cy / 2;
+    const struct
+    {
+        const Icon& icon;
+        CPoint at;
+        COLORREF color;
+    } rows[] = {{black, {x, y}, RGB(125, 125, 125)},
+                {white, {x, y}, RGB(214, 214, 214)},
+                {black, {x - 7, y}, kFaceOut},
+                {filled, {x - 4, y}, kRed},
+                {filled, {x + 4, y}, RGB(125, 125, 125)},
+                {large, {x, y}, RGB(155, 155, 155)}};
+    Plain plain;
+    for (const auto& [icon, at, color] : rows)
+    {
+        plain.button.SetIcon(icon, nullptr);
+        EXPECT_EQ(plain.Paint(ODS_DISABLED)->at(at.x, at.y), color);
+    }
+    EXPECT_NE(plain.Paint(ODS_DISABLED)->at(x, 1), kFaceOut)
+        << "a corner outside has no colour: the face turns, too";
+}
+
+TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
+{
+    struct Hooks : CButtonST
+    {
+        using CButtonST::DrawItemHook_CalcRect;
+        using CButtonST::DrawItemHook_DrawText;
+    } hooks;
+    const CString strText(_T("HHHHHH HHHHHH"));
+    Surface ours(60, 40), expected(60, 40);
+    CRect rect(2, 2, 58, 9), expectedRect(rect);
+    hooks.DrawItemHook_CalcRect(&ours.dc(), strText, rect);
+    hooks.DrawItemHook_DrawText(&ours.dc(), strText, rect);
+    expected.dc().DrawText(strText, expectedRect, kTitle | DT_CALCRECT);
+    expected.dc().DrawText(strText, expectedRect, kTitle);
+    EXPECT_EQ(rect, expectedRect);
+    EXPECT_TRUE(ours == expected);
+}
+
+TEST(ButtonPaint, SizesItselfToItsImage)
+{
+    Plain plain;
+    plain.button.SizeToContent();
+    EXPECT_EQ(plain.Size(), kSize) << "without an image nothing happens";
+    plain.button.SetBitmaps(testimages::MakeBitmap(CSize(30, 18), kRed, kKey), kKey);
+    plain.button.SizeToContent();
+    EXPECT_EQ(plain.Size(), CSize(30, 18));
+    EXPECT_EQ(plain.button.m_ptImageOrigin, CPoint(0, 0));
+    plain.button.SetIcon(10000, 24, 24, 0, 0, 0);
+    plain.button.SizeToContent();
+    EXPECT_EQ(plain.Size(), CSize(24, 24));
+    EXPECT_EQ(plain.button.GetParent()->GetTopWindow()->m_hWnd, plain.button.m_hWnd);
+}
+
+// ---- Transparency -----------------------------------------------------------------------------------------
+
+TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGives)
 {
     CWnd parent;
-    CBrush green(kGreen);
-    parent.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0, nullptr, green), _T(""), WS_POPUP | WS_VISIBLE,
+    parent.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), _T(""), WS_POPUP | WS_VISIBLE,
                     CRect(40, 40, 240, 140), nullptr, 0);
-    OpenButton button;
+    Open button;
     button.Create(_T(""), WS_CHILD, CRect(CPoint(10, 10), kSize), &parent,
                   1); // hidden: only what is behind shows
-    button.DrawTransparent();
-    parent.UpdateWindow();
-
-    Surface surface(kSize.cx, kSize.cy);
-    button.PaintOn(surface);
-    EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), kGreen), kSize.cx * kSize.cy);
-    CClientDC(&parent).FillSolidRect(0, 0, 200, 100, kRed);
-    button.PaintOn(surface);
-    EXPECT_EQ(surface.at(5, 5), kGreen) << "the copy is made once";
-    button.DrawTransparent();
-    button.PaintOn(surface);
-    EXPECT_EQ(surface.at(5, 5), kRed);
+    Surface given(300, 200);
+    CClientDC dcParent(&parent);
+    EXPECT_EQ(button.SetBk(&given.dc()), 5u) << "needs DrawTransparent";
+    const auto drawBehind = [&](CDC& dc, COLORREF cr)
+    {
+        dc.FillSolidRect(0, 0, 300, 200, cr);
+        dc.FillSolidRect(10, 10, 1, 1, kRed); // the button's place
+    };
+    const auto expectBehind = [&](COLORREF cr)
+    {
+        Surface surface(kSize.cx, kSize.cy);
+        PaintButton(button, surface);
+        EXPECT_EQ(surface.at(0, 0), kRed);
+        EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), cr), kSize.cx * kSize.cy - 1);
+    };
+    for (const COLORREF cr : {kGreen, kBlue})
+        for (CDC* const pDC : {static_cast<CDC*>(&dcParent), &given.dc()})
+        {
+            drawBehind(*pDC, cr);
+            button.DrawTransparent();
+            EXPECT_EQ(button.SetBk(nullptr), 5u);
+            EXPECT_EQ(pDC == &dcParent ? 0u : button.SetBk(pDC), 0u);
+            expectBehind(cr);
+            drawBehind(*pDC, kWhite);
+            expectBehind(cr); // a copy, made once
+        }
+    button.SendMessage(WM_SYSCOLORCHANGE);
+    expectBehind(kWhite);
+    for (BYTE i = 0; i < CButtonST::colorCount; ++i)
+        EXPECT_EQ(ColorOf(button, i), ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE))
+            << "new system colours";
     parent.DestroyWindow();
 }

@@ -1,33 +1,23 @@
 // Buttons that pass their notifications to a handler.
 
-#include <DialogControlsOW.h>
-
-#include "DialogTemplate.h"
-#include "Input.h"
-
-#include <gtest/gtest.h>
-
-using Calls = std::vector<std::string>;
+#include "Room.h"
 
 namespace
 {
-constexpr WORD idReflected = 1001, idReflectedST = 1002, idLate = 1003;
-
 /// Writes down each call as "clicked 1001"; of questions for a colour only how many there were.
 class RecordingHandler : public CButtonReflectedNotificationHandler
 {
 public:
-    Calls calls;
+    Calls told;
     int colors = 0;
     HBRUSH hBrush = nullptr; ///< the answer to CtlColor
-    Calls Take() { return std::exchange(calls, {}); }
 
-    void Record(const char* what, int nId) { calls.push_back(what + (' ' + std::to_string(nId))); }
+    void Record(const char* what, int nId) { told.push_back(what + (' ' + std::to_string(nId))); }
     void ButtonReflectedOnClicked(int nId) override { Record("clicked", nId); }
     void ButtonReflectedOnDoubleclicked(int nId) override { Record("doubleclicked", nId); }
-    HBRUSH ButtonReflectedOnCtlColor(int, CDC* pDC, unsigned int nCtlColor) override
+    HBRUSH ButtonReflectedOnCtlColor(int nId, CDC* pDC, unsigned int nCtlColor) override
     {
-        colors += pDC && nCtlColor == CTLCOLOR_BTN;
+        colors += pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1002;
         return hBrush;
     }
     void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
@@ -44,30 +34,20 @@ struct OpenReflected : CButtonReflected
     using CButtonReflected::GetSafeNotificationHandler;
 };
 
-class ReflectedDialog : public CDialog
+/// One button of each kind.
+struct ReflectedRoom : Room
 {
-public:
-    explicit ReflectedDialog(CButtonReflectedNotificationHandler* pHandler = nullptr, DWORD dwStyle = 0)
+    explicit ReflectedRoom(CButtonReflectedNotificationHandler* pHandler, DWORD dwStyle = BS_PUSHBUTTON)
         : reflected(pHandler), reflectedST(pHandler)
     {
-        const auto form = owtest::DialogTemplate(L"Reflected", 120, 60)
-                              .Item(L"BUTTON", L"", idReflected, dwStyle | WS_TABSTOP, 4, 4, 60, 14)
-                              .Item(L"BUTTON", L"", idReflectedST, dwStyle | WS_TABSTOP, 4, 20, 60, 14);
-        EXPECT_TRUE(CreateIndirect(form.get()));
-        reflected.SubclassDlgItem(idReflected, this);
-        reflectedST.SubclassDlgItem(idReflectedST, this);
-        ShowWindow(SW_SHOW);
+        controls = {{&reflected, dwStyle}, {&reflectedST, dwStyle}};
+        Room::Open();
     }
-    ~ReflectedDialog() override
+    ~ReflectedRoom() override
     {
-        EXPECT_EQ(heard, 0) << "the notifications do not go on to the dialog";
+        EXPECT_EQ(calls, Calls{}) << "the notifications do not go on to the dialog";
         DestroyWindow();
     }
-
-    OpenReflected reflected;
-    CButtonSTReflected reflectedST;
-    int heard = 0; ///< notifications that reached the dialog's map
-
     void ClickTwiceAndPress()
     {
         EXPECT_TRUE(owtest::Activate(m_hWnd));
@@ -78,24 +58,20 @@ public:
             owtest::Press(VK_SPACE);
         }
     }
-    HBRUSH BrushOf(int nId)
+    HBRUSH BrushOf(const CWnd& button)
     {
         CClientDC dc(this);
         return reinterpret_cast<HBRUSH>(SendMessage(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
-                                                    reinterpret_cast<LPARAM>(GetDlgItem(nId)->m_hWnd)));
+                                                    reinterpret_cast<LPARAM>(button.m_hWnd)));
     }
 
-protected:
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
-    {
-        heard += nCode == BN_CLICKED || nCode == BN_DOUBLECLICKED;
-        return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
-    }
+    OpenReflected reflected;
+    CButtonSTReflected reflectedST;
 };
 
-class TellingDialog : public ReflectedDialog, public RecordingHandler
+struct TellingRoom : ReflectedRoom, RecordingHandler
 {
-    using ReflectedDialog::ReflectedDialog;
+    using ReflectedRoom::ReflectedRoom;
 };
 
 const Calls kClicks{"clicked 1001", "clicked 1001", "clicked 1001",
@@ -105,65 +81,58 @@ const Calls kClicks{"clicked 1001", "clicked 1001", "clicked 1001",
 TEST(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
 {
     RecordingHandler handler;
-    TellingDialog given(&handler), parent;
-    ReflectedDialog nobody;
-    for (ReflectedDialog* pDialog :
-         {static_cast<ReflectedDialog*>(&given), static_cast<ReflectedDialog*>(&parent), &nobody})
-        pDialog->ClickTwiceAndPress();
-    EXPECT_EQ(handler.calls, kClicks);
-    EXPECT_EQ(given.calls, Calls{}) << "the parent is not asked while there is a handler";
-    EXPECT_EQ(parent.calls, kClicks);
+    TellingRoom given(&handler), parent(nullptr), notified(nullptr, BS_NOTIFY);
+    ReflectedRoom nobody(nullptr);
+    for (ReflectedRoom* pRoom : {static_cast<ReflectedRoom*>(&given), static_cast<ReflectedRoom*>(&parent),
+                                 static_cast<ReflectedRoom*>(&notified), &nobody})
+        pRoom->ClickTwiceAndPress();
+    EXPECT_EQ(handler.told, kClicks);
+    EXPECT_EQ(given.told, Calls{}) << "the parent is not asked while there is a handler";
+    EXPECT_EQ(parent.told, kClicks);
+    Calls withDoubleClick = kClicks;
+    withDoubleClick[1] = "doubleclicked 1001";
+    EXPECT_EQ(notified.told, withDoubleClick) << "not of a button that paints itself";
     EXPECT_EQ(given.reflected.GetSafeNotificationHandler(), &handler);
     EXPECT_TRUE(parent.reflected.DoesNotificationHandlerExist());
     EXPECT_FALSE(nobody.reflected.DoesNotificationHandlerExist());
 }
 
-TEST(ReflectedButtons, TellOfADoubleClickIfTheyHaveItsStyleAndDoNotPaintThemselves)
-{
-    TellingDialog dialog(nullptr, BS_NOTIFY);
-    dialog.ClickTwiceAndPress();
-    Calls expected = kClicks;
-    expected[1] = "doubleclicked 1001";
-    EXPECT_EQ(dialog.calls, expected);
-}
-
 TEST(ReflectedButtons, TakeTheHandlersBrushOrElseTheParents)
 {
     RecordingHandler handler;
-    ReflectedDialog dialog(&handler), nobody;
-    CBrush brush(RGB(0, 200, 0));
-    for (int nId : {idReflected, idReflectedST})
-    {
-        const int nAsked = handler.colors;
-        handler.hBrush = nullptr;
-        EXPECT_EQ(dialog.BrushOf(nId), ::GetSysColorBrush(COLOR_BTNFACE));
-        EXPECT_EQ(handler.colors, nAsked + 1);
-        EXPECT_EQ(nobody.BrushOf(nId), ::GetSysColorBrush(COLOR_BTNFACE));
-        handler.hBrush = brush;
-        EXPECT_EQ(dialog.BrushOf(nId), handler.hBrush);
-    }
+    ReflectedRoom room(&handler), nobody(nullptr);
+    CBrush brush(kGreen);
+    for (const HBRUSH hBrush : {static_cast<HBRUSH>(nullptr), static_cast<HBRUSH>(brush)})
+        for (CWnd* pButton : {static_cast<CWnd*>(&room.reflected), static_cast<CWnd*>(&room.reflectedST)})
+        {
+            const int nAsked = handler.colors;
+            handler.hBrush = hBrush;
+            EXPECT_EQ(room.BrushOf(*pButton), hBrush ? hBrush : ::GetSysColorBrush(COLOR_BTNFACE));
+            EXPECT_EQ(handler.colors, nAsked + 1);
+        }
+    EXPECT_EQ(nobody.BrushOf(nobody.reflectedST), ::GetSysColorBrush(COLOR_BTNFACE));
 }
 
 TEST(ReflectedButtons, TellThatTheirWindowComesAndGoes)
 {
     RecordingHandler handler;
-    ReflectedDialog dialog;
+    ReflectedRoom room(nullptr);
     CButtonReflected late(&handler);
     CButtonSTReflected lateST(&handler);
     for (CButton* pButton : {static_cast<CButton*>(&late), static_cast<CButton*>(&lateST)})
     {
-        ASSERT_TRUE(pButton->Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &dialog, idLate));
+        ASSERT_TRUE(pButton->Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &room, 1003));
         pButton->DestroyWindow();
-        EXPECT_EQ(handler.Take(), (Calls{"created 1003", "destroyed 1003"}));
+        EXPECT_EQ(std::exchange(handler.told, {}), (Calls{"created 1003", "destroyed 1003"}));
     }
 }
 
 TEST(ReflectedButtons, DoNothingOfTheirOwnWhenTheyPaintThemselves)
 {
-    TellingDialog dialog(nullptr, BS_AUTOCHECKBOX);
-    dialog.reflected.SetFocus();
-    dialog.SendMessage(WM_COMMAND, idReflectedST, reinterpret_cast<LPARAM>(dialog.reflectedST.m_hWnd));
-    EXPECT_EQ(dialog.calls, Calls{"clicked 1002"});
-    EXPECT_EQ(dialog.reflectedST.GetCheck(), 0);
-    EXPECT_EQ(::GetFocus(), dialog.reflected.m_hWnd);
+    TellingRoom room(nullptr, BS_AUTOCHECKBOX);
+    room.reflected.SetFocus();
+    room.SendMessage(WM_COMMAND, 1002, reinterpret_cast<LPARAM>(room.reflectedST.m_hWnd));
+    EXPECT_EQ(room.told, Calls{"clicked 1002"});
+    EXPECT_EQ(room.reflectedST.GetCheck(), 0);
+    EXPECT_EQ(::GetFocus(), room.reflected.m_hWnd);
 }

@@ -1,17 +1,5 @@
 #pragma once
 
-#define IDD_BUTTONS 100
-#define IDD_EMPTY 101
-
-#define IDC_PUSH 1001
-#define IDC_OTHER 1002
-#define IDC_CHECK 1003
-#define IDC_OWNER_DRAWN 1004
-#define IDC_EXT 1005
-#define IDC_MIXED 1006
-#define IDC_MIXED_OTHER 1007
-#define IDC_LABEL 1008
-#define IDC_CLEAR_LABEL 1009
-
 #define IDC_CROSSHAIR 200
-#define IDS_TIP 300
+#define IDS_TEXT 300
+#define IDI_STATE 400

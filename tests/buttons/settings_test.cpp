@@ -1,67 +1,56 @@
-// What a button can be told, and what it answers; none of it needs a window.
+// What a button can be told, and what it answers.
 
-#include "ButtonsDialog.h"
-
-#include <gtest/gtest.h>
+#include "Room.h"
 
 namespace
 {
 constexpr COLORREF kColor = RGB(240, 10, 10);
+const CSize kSize(40, 20);
 
 /// A system without visual styles: the library did not load.
-class NoThemeHelper : public CThemeHelperST
+struct NoThemeHelper : CThemeHelperST
 {
-public:
     NoThemeHelper()
     {
         ::FreeLibrary(m_hThemeModule);
         m_hThemeModule = nullptr;
     }
 };
-
-COLORREF ColorOf(const CButtonST& button, BYTE nIndex)
-{
-    COLORREF cr = CLR_INVALID;
-    EXPECT_EQ(button.GetColor(nIndex, &cr), CButtonST::resultOk);
-    return cr;
-}
 } // namespace
 
 TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
 {
-    ASSERT_TRUE(CButtonST::pLocalTheme->IsAppThemed());
-    OpenButton themed;
-    EXPECT_EQ(themed.m_bIsFlat, 1);
-    EXPECT_EQ(themed.m_bDrawBorder, 0);
-    for (CThemeHelperST* pTheme : {static_cast<CThemeHelperST*>(nullptr), CButtonST::pLocalTheme})
-    {
-        themed.SetThemeHelper(pTheme);
-        EXPECT_EQ(themed.m_bDrawBorder, 1) << "another helper brings the border and never takes it";
-        EXPECT_EQ(themed.m_bIsFlat, 1) << "flat stays flat";
-    }
-
     NoThemeHelper noTheme;
     CThemeHelperST* const pProcessTheme = CButtonST::pLocalTheme;
-    for (CThemeHelperST* pTheme :
+    for (CThemeHelperST* pNone :
          {static_cast<CThemeHelperST*>(nullptr), static_cast<CThemeHelperST*>(&noTheme)})
     {
-        CButtonST::pLocalTheme = pTheme;
-        OpenButton plain;
-        EXPECT_EQ(plain.m_bIsFlat, 0);
-        EXPECT_EQ(plain.m_bDrawBorder, 1);
-    }
-    CButtonST::pLocalTheme = pProcessTheme;
-}
+        Open themed;
+        EXPECT_TRUE(themed.m_bIsFlat && !themed.m_bDrawBorder);
+        themed.SetThemeHelper(pProcessTheme);
+        EXPECT_FALSE(themed.m_bDrawBorder);
+        for (CThemeHelperST* pTheme : {pNone, pProcessTheme})
+        {
+            themed.SetThemeHelper(pTheme);
+            EXPECT_TRUE(themed.m_bDrawBorder) << "a helper may bring the border, and never takes it";
+            EXPECT_TRUE(themed.m_bIsFlat) << "flat stays flat";
+        }
 
-TEST(ButtonSettings, ThemeHelperWithoutTheLibraryDoesNothing)
-{
-    const NoThemeHelper helper;
+        CButtonST::pLocalTheme = pNone;
+        Open plain;
+        EXPECT_TRUE(plain.m_bDrawBorder && !plain.m_bIsFlat);
+        for (BYTE i = 0; i < CButtonST::colorCount; ++i)
+            EXPECT_EQ(ColorOf(plain, i), ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE));
+        CButtonST::pLocalTheme = pProcessTheme;
+    }
+
     RECT rect{0, 0, 10, 10};
-    EXPECT_EQ(helper.IsAppThemed(), FALSE);
-    EXPECT_EQ(helper.OpenThemeData(nullptr, L"BUTTON"), nullptr);
-    EXPECT_EQ(helper.CloseThemeData(nullptr), E_FAIL);
-    EXPECT_EQ(helper.DrawThemeBackground(nullptr, nullptr, 1, 1, &rect, nullptr), E_FAIL);
-    helper.DrawThemeParentBackground(nullptr, nullptr, &rect);
+    EXPECT_EQ(noTheme.IsAppThemed(), FALSE);
+    EXPECT_EQ(noTheme.OpenThemeData(nullptr, L"BUTTON"), nullptr);
+    EXPECT_EQ(noTheme.CloseThemeData(nullptr), E_FAIL);
+    EXPECT_EQ(noTheme.DrawThemeBackground(nullptr, nullptr, 1, 1, &rect, nullptr), E_FAIL);
+    noTheme.DrawThemeParentBackground(::GetDesktopWindow(), nullptr, &rect);
+    pProcessTheme->DrawThemeParentBackground(nullptr, nullptr, &rect);
 }
 
 TEST(ButtonSettings, ABadValueIsAnsweredWithItsCodeAndChangesNothing)
@@ -77,101 +66,114 @@ TEST(ButtonSettings, ABadValueIsAnsweredWithItsCodeAndChangesNothing)
     EXPECT_EQ(button.GetColor(6, &cr), 3u);
     EXPECT_EQ(cr, kColor);
     EXPECT_EQ(button.GetColor(0, nullptr), 5u);
+    EXPECT_EQ(button.OffsetColor(0, 256), 5u);
+    EXPECT_EQ(button.OffsetColor(0, -256), 5u);
+    EXPECT_EQ(CButtonST::GetVersionI(), 12);
 }
 
-// Before a window is there a setter must not repaint either: invalidating no window means all windows.
+// Invalidating no window would mean all windows.
 TEST(ButtonSettings, MayBeMadeWithoutAWindow)
 {
-    OpenButton button;
-    button.SetTooltipText(_T("tip"));
-    button.SetTooltipText(IDS_TIP);
-    button.SetTooltipText(nullptr);
+    Open button;
+    for (const LPCTSTR pszText : {_T("tip"), static_cast<LPCTSTR>(nullptr)})
+        button.SetTooltipText(pszText);
+    button.SetTooltipText(IDS_TEXT);
     button.ActivateTooltip(TRUE);
     EXPECT_EQ(button.m_toolTip.m_hWnd, nullptr);
-    button.SizeToContent();
     button.DrawTransparent();
     CDC dc;
     EXPECT_EQ(button.SetBk(&dc), 5u);
-    EXPECT_EQ(button.SetIcon(CButtonST::hIconOk, nullptr), 0u);
+    EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), 0u);
     button.SizeToContent();
     EXPECT_EQ(button.m_ptImageOrigin, CPoint(3, 3)) << "without a window nothing is sized";
 }
 
 TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
 {
-    CButtonST button;
-    const auto offset = [&](COLORREF cr, short nShade)
+    const struct
     {
-        button.SetColor(CButtonST::colorBackOut, cr);
+        COLORREF before;
+        short nShade;
+        COLORREF after;
+    } rows[] = {{kColor, 40, RGB(255, 25, 25)},
+                {kColor, 5, RGB(245, 15, 15)},
+                {kColor, -40, RGB(230, 0, 0)},
+                {kColor, -255, RGB(230, 0, 0)},
+                {kBlack, 255, kWhite},
+                {RGB(30, 20, 10), -5, RGB(25, 15, 5)},
+                {RGB(10, 20, 240), 255, RGB(25, 35, 255)},
+                {kWhite, -255, kBlack}};
+    CButtonST button;
+    for (const auto& [before, nShade, after] : rows)
+    {
+        button.SetColor(CButtonST::colorBackOut, before);
         EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, nShade), 0u);
-        return ColorOf(button, CButtonST::colorBackOut);
-    };
-    EXPECT_EQ(offset(kColor, 40), RGB(255, 25, 25));
-    EXPECT_EQ(offset(kColor, 5), RGB(245, 15, 15));
-    EXPECT_EQ(offset(kColor, -40), RGB(230, 0, 0));
-    EXPECT_EQ(offset(kColor, -255), RGB(230, 0, 0));
-    EXPECT_EQ(offset(RGB(255, 0, 0), 255), RGB(255, 0, 0));
-    EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, 256), 5u);
-    EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, -256), 5u);
+        EXPECT_EQ(ColorOf(button), after) << nShade;
+    }
 }
 
 TEST(ButtonSettings, TheAddressFieldKeepsWhatFitsAndNeedsNoTerminator)
 {
-    OpenButton button;
-    button.SetURL(L"x:\\nothing");
-    EXPECT_STREQ(button.m_szUrl, L"x:\\nothing");
-    button.SetURL(L"y");
-    EXPECT_EQ(button.m_szUrl[2], L'\0') << "nothing of the former one is left";
-    button.SetURL(nullptr);
-    EXPECT_EQ(button.m_szUrl[0], L'\0');
-
-    // Kept: a text that fills the field has no terminator, and the button works with it all the same.
+    Open button;
+    for (const LPCWSTR pszUrl : {L"x:\\nothing", L"y", L""})
+    {
+        button.SetURL(*pszUrl ? pszUrl : nullptr);
+        const std::wstring field(button.m_szUrl, std::size(button.m_szUrl));
+        EXPECT_EQ(field, pszUrl + std::wstring(260 - wcslen(pszUrl), L'\0'))
+            << "nothing of the former one is left";
+    }
     button.SetURL(std::wstring(300, L'?').c_str());
-    EXPECT_EQ(button.m_szUrl[259], L'?');
-    EXPECT_EQ(sizeof(button.m_szUrl), 260 * sizeof(wchar_t));
+    EXPECT_EQ(std::wstring(button.m_szUrl, 260), std::wstring(260, L'?')) << "kept: no terminator";
 }
 
 TEST(ButtonSettings, OnlyACheckBoxCanBeChecked)
 {
-    LoneButton push(CSize(40, 20));
-    EXPECT_EQ(push.button.SetCheck(1), 0u);
-    EXPECT_EQ(push.button.GetCheck(), 0);
-    push.button.SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_EQ(push.button.SendMessage(BM_GETCHECK), 0);
-
-    LoneButton box(CSize(40, 20), _T(""), BS_CHECKBOX);
-    EXPECT_EQ(box.button.SetCheck(7), 0u);
-    EXPECT_EQ(box.button.GetCheck(), 1);
-    for (const auto& [set, expected] : {std::pair(0, 0), std::pair(1, 1), std::pair(2, 1), std::pair(3, 0)})
+    for (const DWORD dwType : {BS_PUSHBUTTON, BS_CHECKBOX})
     {
-        EXPECT_EQ(box.button.SendMessage(BM_SETCHECK, set), 0);
-        EXPECT_EQ(box.button.SendMessage(BM_GETCHECK), expected) << set;
+        Lone<CButtonST> lone(kSize, _T(""), dwType);
+        EXPECT_EQ(lone.button.SetCheck(7), 0u);
+        EXPECT_EQ(lone.button.GetCheck(), dwType == BS_CHECKBOX);
+        for (const auto& [set, expected] : {std::pair(0, 0), {1, 1}, {2, 1}, {3, 0}})
+        {
+            EXPECT_EQ(lone.button.SendMessage(BM_SETCHECK, set), 0);
+            EXPECT_EQ(lone.button.SendMessage(BM_GETCHECK), dwType == BS_CHECKBOX ? expected : 0) << set;
+        }
     }
 }
 
 TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
 {
-    LoneButton lone(CSize(40, 20));
+    Lone<CButtonST> lone(kSize, _T(""), BS_CHECKBOX);
     CButtonST& button = lone.button;
     button.GetParent()->ShowWindow(SW_SHOWNA);
-    const auto repaints = [&](const auto& set)
-    {
-        button.ValidateRect(nullptr);
-        set();
-        return button.GetUpdateRect(nullptr) != FALSE;
+    const std::function<void(BOOL)> settings[] = {
+        [&](BOOL bRepaint) { button.SetFlat(TRUE, bRepaint); },
+        [&](BOOL bRepaint) { button.DrawBorder(TRUE, bRepaint); },
+        [&](BOOL bRepaint) { button.DrawFlatFocus(TRUE, bRepaint); },
+        [&](BOOL bRepaint) { button.DrawAsToolbar(FALSE, bRepaint); },
+        [&](BOOL bRepaint) { button.SetAlign(CButtonST::alignTop, bRepaint); },
+        [&](BOOL bRepaint) { button.SetPressedStyle(CButtonST::pressedDown, bRepaint); },
+        [&](BOOL bRepaint) { button.SetCheck(1, bRepaint); },
+        [&](BOOL bRepaint) { button.OffsetColor(0, 1, bRepaint); },
+        [&](BOOL bRepaint) { button.SetBtnCursor(IDC_CROSSHAIR, bRepaint); },
+        // Kept: these look for exactly 1.
+        [&](BOOL bRepaint) { button.SetFlatFocus(TRUE, bRepaint); },
+        [&](BOOL bRepaint) { button.SetColor(0, kColor, bRepaint); },
+        [&](BOOL bRepaint) { button.SetDefaultColors(bRepaint); },
+        [&](BOOL bRepaint) { button.DrawTransparent(bRepaint); },
     };
-    EXPECT_TRUE(repaints([&] { button.SetFlat(TRUE, 2); }));
-    EXPECT_FALSE(repaints([&] { button.SetFlat(TRUE, 0); }));
-    EXPECT_TRUE(repaints([&] { button.SetIcon(static_cast<HICON>(nullptr)); })) << "always";
+    for (size_t i = 0; i < std::size(settings); ++i)
+        for (const BOOL bRepaint : {0, 1, 2})
+            EXPECT_EQ(Repaints(button, [&] { settings[i](bRepaint); }),
+                      bRepaint == 1 || (bRepaint == 2 && i < 9))
+                << "setting " << i << ", " << bRepaint;
 
-    // Kept: these look for exactly 1.
-    for (const int repaint : {1, 2})
-    {
-        EXPECT_EQ(repaints([&] { button.SetFlatFocus(TRUE, repaint); }), repaint == 1);
-        EXPECT_EQ(repaints([&] { button.SetColor(0, kColor, repaint); }), repaint == 1);
-        EXPECT_EQ(repaints([&] { button.SetDefaultColors(repaint); }), repaint == 1);
-        EXPECT_EQ(repaints([&] { button.DrawTransparent(repaint); }), repaint == 1);
-    }
+    // Always, on a button that shows its pixels as they were unless it is told otherwise.
+    EXPECT_TRUE(Repaints(button, [&] { button.SetIcon(static_cast<HICON>(nullptr)); }));
+    EXPECT_TRUE(Repaints(button, [&] { button.SetBitmaps(static_cast<HBITMAP>(nullptr), 0); }));
+    EXPECT_TRUE(Repaints(button, [&] { button.SetBitmaps(10101, 0); }));
+    EXPECT_TRUE(Repaints(button, [&] { button.SendMessage(BM_SETCHECK, 1); }));
+    EXPECT_TRUE(Repaints(button, [&] { button.SendMessage(WM_SYSCOLORCHANGE); }));
 }
 
 TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSays)
@@ -189,25 +191,17 @@ TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSays)
                            {BS_RADIOBUTTON, 0, 0, BS_RADIOBUTTON}, {BS_OWNERDRAW, 1, 0, BS_OWNERDRAW}})
     // clang-format on
     {
-        LoneButton lone(CSize(40, 20), _T(""), row.dwType);
+        Lone<Open<>> lone(kSize, _T(""), row.dwType);
         EXPECT_EQ(lone.button.m_bIsCheckBox, row.bCheckBox) << row.dwType;
         EXPECT_EQ(lone.button.GetDefault(), row.bDefault) << row.dwType;
         EXPECT_EQ(lone.button.m_nTypeStyle, row.nTypeStyle) << row.dwType;
-        EXPECT_EQ(lone.button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << row.dwType;
+        for (const auto& [style, bDefault] :
+             {std::pair(BS_DEFPUSHBUTTON, 1), {BS_CHECKBOX, 1}, {BS_PUSHBUTTON, 0}})
+        {
+            EXPECT_EQ(lone.button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << row.dwType;
+            lone.button.SendMessage(BM_SETSTYLE, style, FALSE);
+            EXPECT_EQ(lone.button.GetDefault(), bDefault) << "only the push button styles say so";
+        }
+        EXPECT_EQ(lone.button.m_bIsCheckBox, row.bCheckBox);
     }
-}
-
-TEST(ButtonSettings, WhateverStyleIsSentTheButtonStaysOwnerDrawn)
-{
-    LoneButton lone(CSize(40, 20));
-    const auto send = [&](DWORD dwStyle)
-    {
-        lone.button.SendMessage(BM_SETSTYLE, dwStyle, FALSE);
-        EXPECT_EQ(lone.button.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
-        return lone.button.GetDefault();
-    };
-    EXPECT_TRUE(send(BS_DEFPUSHBUTTON));
-    EXPECT_TRUE(send(BS_CHECKBOX)) << "only the two push button styles say whether it is the default";
-    EXPECT_FALSE(send(BS_PUSHBUTTON));
-    EXPECT_FALSE(lone.button.m_bIsCheckBox);
 }

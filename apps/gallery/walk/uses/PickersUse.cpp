@@ -60,7 +60,12 @@ void PickByKeyboard(CWnd& page)
     {
         Require(HasFocus(Picker(page, n)), L"Tab does not come to a picker");
         const WORD opener = n % 2 ? VK_RETURN : VK_SPACE;
-        Pick(page, n, [=] { owtest::Press(opener); }, {[](const owtest::OpenMenu& menu) {
+        const auto open = [=]
+        {
+            owtest::QueueKey(opener); // the key is up again when the menu is asked
+            owtest::Pump();
+        };
+        Pick(page, n, open, {[](const owtest::OpenMenu& menu) {
                  menu.Press({VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN});
              }});
         owtest::Press(VK_TAB);

@@ -1,0 +1,312 @@
+// Buttons that drop a menu: what the user does with it, and what stands in it.
+
+#include "Images.h"
+#include "Room.h"
+
+#include <algorithm>
+#include <tuple>
+
+using owtest::OpenMenu;
+using testimages::Pixels;
+using testimages::PixelsOf;
+using Keys = std::vector<WORD>;
+
+namespace
+{
+OCArray<CString> Texts(std::initializer_list<LPCWSTR> texts)
+{
+    OCArray<CString> array;
+    for (LPCWSTR pszText : texts)
+        array.Add(pszText);
+    return array;
+}
+
+/// Adds what a picker has to what every button has.
+template <class Picker>
+class OpenPicker : public Open<Picker>
+{
+public:
+    using Open<Picker>::Open;
+    using Picker::m_pMenu;
+};
+
+/// A picker or a text button of six entries, beside a plain button.
+template <class Button>
+class DropMenus : public InRoom
+{
+protected:
+    static constexpr bool kIsText = std::is_same_v<Button, CTextBtnST>;
+    static constexpr int kFirstCommand = kIsText ? 36914 : 36874, kCount = 6;
+    /// A click is told to the dialog by text buttons only.
+    const Calls m_click{kIsText ? Calls{"dialog 1001"} : Calls{}};
+
+    void SetUp() override
+    {
+        m_pButton = std::make_unique<Open<Button>>(&m_room);
+        m_room.controls = {{m_pButton.get(), BS_AUTOCHECKBOX}, {&m_other}};
+        InRoom::SetUp();
+        m_pButton->SetEnumSource(&m_nValue);
+        if constexpr (kIsText)
+            m_pButton->SetTexts(Texts({L"1", L"2", L"3", L"4", L"5", L"6"}));
+        m_pButton->SetFocus();
+    }
+    /// What is told of a choice.
+    Calls Choice(int nIndex) const
+    {
+        Calls calls = m_click;
+        calls.push_back("told 1001 " + std::to_string(nIndex));
+        return calls;
+    }
+
+    int m_nValue = 1;
+    std::unique_ptr<Open<Button>> m_pButton;
+    CButtonST m_other;
+};
+using Kinds = ::testing::Types<CBitmapBtnSTTekstKote, CTextBtnST>;
+TYPED_TEST_SUITE(DropMenus, Kinds);
+} // namespace
+
+// ---- The user ---------------------------------------------------------------------------------------------
+
+TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEverything)
+{
+    auto& button = *this->m_pButton;
+    CRect rect;
+    button.GetWindowRect(rect);
+    const std::tuple<WORD, Keys, int> rows[] = {{VK_SPACE, {VK_DOWN, VK_DOWN, VK_DOWN, VK_UP, VK_RETURN}, 1},
+                                                {VK_SPACE, {VK_UP, VK_RETURN}, 5},
+                                                {VK_RETURN, {VK_UP, VK_RETURN}, 5}, // the same once more
+                                                {VK_RETURN, {VK_DOWN, VK_ESCAPE}, -1},
+                                                {0, {VK_DOWN, VK_ESCAPE}, -1},
+                                                {0, {}, 2}};
+    for (const auto& [nOpener, keys, nIndex] : rows)
+    {
+        const auto choose = [&, &keys = keys, nIndex = nIndex](const OpenMenu& menu)
+        {
+            CRect menuRect;
+            ::GetWindowRect(menu.Window(), menuRect);
+            EXPECT_EQ(menuRect.TopLeft(), CPoint(rect.right + 1, rect.top));
+            EXPECT_FALSE(this->ShowsFocus(button)) << "while the menu has the keys";
+            if (keys.size() == 0)
+                menu.Click(nIndex);
+            for (const WORD nKey : keys)
+                menu.Press({nKey});
+        };
+        this->m_nValue = -1;
+        EXPECT_EQ(this->Visit(button, {choose}, nOpener), nIndex < 0 ? this->m_click : this->Choice(nIndex));
+        EXPECT_EQ(this->m_nValue, nIndex);
+        EXPECT_TRUE(this->ShowsFocus(button));
+    }
+    this->m_room.then = [&] { this->m_other.SetFocus(); };
+    this->Pick(button, {VK_DOWN, VK_RETURN});
+    EXPECT_FALSE(button.GetState() & BST_FOCUS) << "the mark follows a handler that moves the focus";
+}
+
+TYPED_TEST(DropMenus, AKeyThatIsHeldFromOpeningItDoesNothing)
+{
+    for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
+    {
+        const auto hold = [&](const OpenMenu&)
+        { ::PostMessage(*this->m_pButton, WM_KEYDOWN, nKey, KF_REPEAT << 16 | 1); };
+        EXPECT_EQ(this->Visit(*this->m_pButton, {[](const OpenMenu& menu) { menu.Press({VK_DOWN}); }, hold,
+                                                 [](const OpenMenu& menu) { menu.Press({VK_ESCAPE}); }}),
+                  this->m_click);
+    }
+}
+
+TYPED_TEST(DropMenus, AnOpenMenuStaysWhileAnotherIsMade)
+{
+    const auto change = [&](const OpenMenu& menu)
+    {
+        this->m_pButton->SetColor(CButtonST::colorBackOut, kRed);
+        this->m_pButton->SendMessage(WM_SYSCOLORCHANGE);
+        if constexpr (this->kIsText)
+            this->m_pButton->SetTexts(Texts({L"other"}));
+        menu.Press({VK_DOWN, VK_RETURN});
+    };
+    EXPECT_EQ(this->Visit(*this->m_pButton, {change}), this->Choice(0));
+    EXPECT_EQ(ColorOf(*this->m_pButton), ::GetSysColor(COLOR_BTNFACE)) << "as every button";
+}
+
+TYPED_TEST(DropMenus, DialogAndButtonMayGoInTheHandlerAndWhileTheMenuIsOpen)
+{
+    const auto close = [&] { this->m_room.DestroyWindow(); };
+    const auto closeAndDelete = [&]
+    {
+        close();
+        this->m_pButton.reset();
+    };
+    for (const std::function<void()>& end :
+         {std::function<void()>(close), std::function<void()>(closeAndDelete)})
+    {
+        EXPECT_EQ(this->Visit(*this->m_pButton, {[&](const OpenMenu&) { end(); }}), Calls{})
+            << "nobody hears";
+        this->TearDown();
+        this->SetUp();
+        this->m_room.then = end;
+        EXPECT_EQ(this->Pick(*this->m_pButton, {VK_DOWN, VK_RETURN}), this->Choice(0));
+        this->m_room.then = [] {};
+        this->TearDown();
+        this->SetUp();
+    }
+}
+
+TYPED_TEST(DropMenus, TakeEveryCommandForAChoice)
+{
+    auto& button = *this->m_pButton;
+    const WPARAM nFirst = this->kFirstCommand, nEnd = nFirst + this->kCount;
+    const bool bIsText = this->kIsText;
+    const std::pair<WPARAM, int> rows[] = {
+        {nFirst, 0},
+        {nEnd - 1, 5},
+        {nEnd, 3},        // behind the last: what stands there
+        {nFirst - 1, -1}, // wanted: there is no lower bound
+        {IDOK, IDOK - static_cast<int>(nFirst)},
+        {MAKEWPARAM(nFirst, 1), 3},
+        {nFirst + (1ull << 32), bIsText ? 0 : 3}}; // text buttons: the low 32 bits
+    for (const auto& [command, stored] : rows)
+    {
+        this->m_nValue = 3;
+        this->m_other.SetFocus();
+        button.SetFocus();
+        button.SendMessage(WM_KILLFOCUS);
+        this->m_room.erases = 0;
+        EXPECT_TRUE(Repaints(this->m_room, [&, command = command]
+                             { EXPECT_EQ(button.SendMessage(WM_COMMAND, command), 0); }));
+        this->m_room.UpdateWindow();
+        EXPECT_EQ(this->m_room.erases, 0) << "the parent is painted anew without being erased";
+        EXPECT_TRUE(this->ShowsFocus(button));
+        EXPECT_EQ(this->m_room.Take(), Calls{"told 1001 " + std::to_string(stored)}) << command;
+        EXPECT_EQ(this->m_nValue, stored);
+    }
+    EXPECT_FALSE(Repaints(button, [&] { button.SetEnumSource(nullptr); }));
+    for (const WPARAM command : {nFirst + 2, nEnd})
+    {
+        button.SendMessage(WM_COMMAND, command);
+        EXPECT_EQ(this->m_room.Take(), Calls{bIsText && command < nEnd ? "told 1001 2" : "told 1001 0"})
+            << "no source";
+    }
+    EXPECT_TRUE(Repaints(button, [&] { button.SetEnumSource(&this->m_nValue); })) << "and a new source shows";
+    EXPECT_FALSE(button.m_bIsCheckBox || button.GetDefault()) << "a push button, whatever it takes over";
+    EXPECT_EQ(button.GetButtonStyle(), static_cast<UINT>(BS_OWNERDRAW));
+
+    Lone<TypeParam> lone(CSize(70, 30), L"", BS_DEFPUSHBUTTON);
+    lone.button.SetEnumSource(&this->m_nValue);
+    lone.button.SendMessage(WM_COMMAND, nFirst); // there is no handler
+    EXPECT_EQ(this->m_nValue, 0);
+    EXPECT_FALSE(lone.button.GetDefault());
+}
+
+// ---- Pictures ---------------------------------------------------------------------------------------------
+
+namespace
+{
+template <class Picker>
+void ExpectMenu(UINT nFirstId, CSize size)
+{
+    const Lone<OpenPicker<Picker>> lone(CSize(70, 30));
+    const auto& picker = lone.button;
+    const auto& menu = *picker.m_pMenu;
+    ASSERT_EQ(menu.popup.GetMenuItemCount(), static_cast<UINT>(picker.BitmapCount()));
+    for (int i = 0; i < picker.BitmapCount(); ++i)
+    {
+        MENUITEMINFO item{};
+        item.cbSize = sizeof(item);
+        item.fMask = MIIM_ID | MIIM_BITMAP;
+        ::GetMenuItemInfo(menu.popup, i, TRUE, &item);
+        EXPECT_EQ(item.wID, nFirstId + i);
+        EXPECT_EQ(menu.sizes.at(i), size);
+
+        Pixels wanted = PixelsOf(picker.GetBitmap(i));
+        for (DWORD& pixel : wanted)
+            pixel = pixel == kBlack ? kBlack : ::GetSysColor(COLOR_MENU);
+        EXPECT_EQ(PixelsOf(item.hbmpItem), wanted) << "picture " << i;
+        EXPECT_GT(std::count(wanted.begin(), wanted.end(), kBlack), 10) << "picture " << i;
+    }
+}
+} // namespace
+
+TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
+{
+    ExpectMenu<CBitmapBtnSTKotnaLinija>(36864, CSize(48, 16));
+    ExpectMenu<CBitmapBtnSTTekstKote>(36874, CSize(48, 16));
+    ExpectMenu<CBitmapBtnSTSrafura>(36864, CSize(32, 24));
+    ExpectMenu<CBitmapBtnSTVisinskaKota>(36864, CSize(32, 24));
+    ExpectMenu<CBitmapBtnSTLinija>(36864, CSize(48, 16));
+    ExpectMenu<CBitmapBtnSTSimbolPresekaLinija>(36864, CSize(48, 16));
+    ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864, CSize(32, 24));
+}
+
+TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
+{
+    using Hatches = CBitmapBtnSTSrafura;
+    Lone<OpenPicker<Hatches>> lone(CSize(80, 30));
+    const auto& pMenu = lone.button.m_pMenu;
+    for (const COLORREF cr : {RGB(200, 240, 200), ::GetSysColor(COLOR_MENU)})
+    {
+        const int nMenu = COLOR_MENU;
+        ::SetSysColors(1, &nMenu, &cr);
+        lone.button.SendMessage(WM_SYSCOLORCHANGE);
+        EXPECT_EQ(PixelsOf(pMenu->bitmaps.at(0)).at(33) & 0xFFFFFF, testimages::Opaque(cr) & 0xFFFFFF);
+    }
+    const HBITMAP hLast = lone.button.GetBitmap(9);
+    Hatches::UnloadBitmaps();
+    Hatches::UnloadBitmaps(); // they are gone already
+    EXPECT_FALSE(testimages::IsBitmap(hLast));
+    lone.button.SendMessage(WM_SYSCOLORCHANGE);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_TRUE(pMenu->popup.GetMenuItemID(i) == 36864u + i && pMenu->sizes[i] == CSize(0, 0)) << i;
+    Hatches::LoadBitmaps(::GetModuleHandle(_T("DialogControlsOW.dll")));
+    EXPECT_TRUE(Hatches::s_pictures.loaded && testimages::IsBitmap(Hatches::s_pictures.handles[9]));
+}
+
+// ---- Texts ------------------------------------------------------------------------------------------------
+
+using TextMenu = DropMenus<CTextBtnST>;
+
+TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGiven)
+{
+    using Labels = std::vector<std::wstring>;
+    const auto shown = [&]
+    {
+        Labels labels;
+        const auto look = [&](const OpenMenu& menu)
+        {
+            labels = menu.Labels();
+            menu.Press({VK_ESCAPE});
+        };
+        Visit(*m_pButton, {look});
+        return labels;
+    };
+    m_pButton->SetTexts(Texts({L"%l", L"R&D", L"%h", L"%i"}), Texts({L"plate length", L"A & B", L""}));
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_EQ(shown(), (Labels{L"%l - plate length", L"R&&D - A && B", L"%h", L"%i"}));
+        m_pButton->SendMessage(WM_SYSCOLORCHANGE);
+    }
+    EXPECT_EQ(m_pButton->TextCount(), 4);
+    EXPECT_EQ(m_pButton->GetText(1), L"R&D");
+    m_pButton->SetTexts(Texts({L"%l"}), Texts({L"length", L"of nothing"}));
+    EXPECT_EQ(shown(), Labels{L"%l - length"});
+    m_pButton->SetTexts(Texts({L"%w", L"%h"}));
+    EXPECT_EQ(shown(), (Labels{L"%w", L"%h"})) << "no descriptions left";
+}
+
+TEST_F(TextMenu, WithNothingToOfferAClickOnlyTakesTheFocus)
+{
+    m_pButton->UnsubclassWindow();
+    CTextBtnST button;
+    button.SubclassDlgItem(1001, &m_room);
+    for (int i = 0; i < 3; ++i)
+    {
+        m_other.SetFocus();
+        owtest::Click(button);
+        EXPECT_TRUE(ShowsFocus(button));
+        EXPECT_EQ(m_room.Take(), m_click) << "the dialog hears of clicks";
+        if (i == 0)
+            button.SendMessage(WM_SYSCOLORCHANGE);
+        else
+            button.SetTexts({});
+    }
+    button.UnsubclassWindow();
+}
