@@ -19,7 +19,7 @@ protected:
     }
     bool HoverBecomes(const Open<>& button, bool bHover)
     {
-        return owtest::PumpUntil([&] { return button.m_bMouseOnButton == bHover; }, 3000);
+        return owtest::PumpUntil([&] { return button.m_bMouseOnButton == bHover; });
     }
     /// Moves the mouse over a button; whether the button knows it.
     bool Hover(Open<>& button)
