@@ -668,7 +668,9 @@ private:
         Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
         Expect(m_inside->MouseMode() == 0, "mouse mode");
-        Expect(m_grid.GetDlgItem(InPlaceControlId) == nullptr, "an editor is left");
+        if (CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId))
+            Problem("an editor is left; focus: ", ::GetFocus(), ", editor: ", editor->m_hWnd,
+                    ", parent: ", m_parent.m_hWnd, ", active: ", ::GetActiveWindow());
         if (m_grid.GetRowCount() != m_model.RowCount() || m_grid.GetColumnCount() != m_model.ColCount())
             return;
         CheckCells();
