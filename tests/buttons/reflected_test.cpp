@@ -53,8 +53,7 @@ struct ReflectedRoom : Room
         EXPECT_TRUE(owtest::Activate(m_hWnd));
         for (CWnd* pButton : {static_cast<CWnd*>(&reflected), static_cast<CWnd*>(&reflectedST)})
         {
-            owtest::Click(*pButton);
-            owtest::Click(*pButton);
+            owtest::DoubleClick(*pButton, CPoint(5, 5));
             owtest::Press(VK_SPACE);
         }
     }

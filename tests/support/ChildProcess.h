@@ -22,7 +22,7 @@ struct ChildOptions
     std::vector<std::wstring> unset = {};                  ///< taken out of the child's environment
     std::wstring directory = {}; ///< current directory of the child; empty keeps ours
     std::wstring program = {};   ///< a copy of this program to run in its place
-    DWORD timeoutMs = 60000;
+    DWORD timeoutMs = 240000;    ///< far more than a busy machine takes
 };
 
 /// What the parent saw. A message box of the child is read and then closed by its OK button.
