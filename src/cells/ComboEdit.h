@@ -6,15 +6,13 @@
 #include "module/Export.h"
 
 /// The id that Windows gives to the edit part of a combo box.
-constexpr int ComboEditId = 1001;
+constexpr int c_nComboEditId = 1001;
 
 class OW_DIALOGCONTROLS_API CComboEdit : public CEdit
 {
-
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);

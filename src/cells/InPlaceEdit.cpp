@@ -31,8 +31,7 @@ constexpr UINT CharMessage(UINT nChar)
 
 CInPlaceEdit::CInPlaceEdit(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
                            CString sInitText, UINT nFirstChar)
-    : m_nRow(nRow), m_nColumn(nColumn), m_sInitText(sInitText), m_bExitOnArrows(nFirstChar != VK_LBUTTON),
-      m_Rect(rect)
+    : CInPlaceEditor(*this, nRow, nColumn, sInitText, nFirstChar != VK_LBUTTON), m_Rect(rect)
 {
     if (Create(dwStyle | WS_CHILD | WS_VISIBLE | WS_BORDER | ES_AUTOHSCROLL, rect, pParent, nID))
     {
@@ -41,18 +40,15 @@ CInPlaceEdit::CInPlaceEdit(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
         SetFocus();
         TakeFirstChar(nFirstChar);
     }
-    m_bConstructed = true;
+    Constructed();
 }
 
-// A mouse click or Enter leaves the text as it is with the caret behind it; a key that moves about selects
-// all; any other character replaces the text.
+// A key that moves about, Tab or the blank only selects; any other character replaces the text.
 void CInPlaceEdit::TakeFirstChar(UINT nChar)
 {
-    const bool bToEnd = nChar == VK_LBUTTON || nChar == VK_RETURN || nChar == VK_BACK;
+    SelectForFirstChar(*this, nChar);
     const bool bDropped = nChar == VK_TAB || nChar == VK_SPACE || (nChar >= VK_PRIOR && nChar <= VK_DOWN);
-    SendMessage(EM_SETSEL, bToEnd ? GetWindowTextLength() : 0, -1);
-    SendMessage(EM_SCROLLCARET);
-    if (nChar == VK_BACK || (!bToEnd && !bDropped))
+    if (nChar == VK_BACK || !(gfnKeepsText(nChar) || bDropped))
         PostMessage(CharMessage(nChar), nChar);
 }
 
@@ -88,9 +84,7 @@ void CInPlaceEdit::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
 
 void CInPlaceEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
-    if (gfnIsCellMoveKey(nChar) && (m_bExitOnArrows || ::GetKeyState(VK_CONTROL) < 0))
-        Leave(nChar);
-    else
+    if (!LeaveByMoveKey(nChar))
         CEdit::OnKeyDown(nChar, nRepCnt, nFlags);
 }
 
@@ -111,8 +105,7 @@ BOOL CInPlaceEdit::PreTranslateMessage(MSG* pMsg)
 void CInPlaceEdit::PostNcDestroy()
 {
     CEdit::PostNcDestroy();
-    if (m_bConstructed)
-        delete this;
+    DeleteWithWindow();
 }
 
 void CInPlaceEdit::EndEdit()
@@ -120,15 +113,7 @@ void CInPlaceEdit::EndEdit()
     if (s_bEnding)
         return;
     const CEndingScope ending;
-    NotifyEnd(*this, m_nRow, m_nColumn, m_nLastChar, gfnWholeText(*this));
-}
-
-/// Giving the focus away is what ends the edit; the editor may be gone when this returns.
-void CInPlaceEdit::Leave(UINT nLastChar)
-{
-    m_nLastChar = nLastChar;
-    if (CWnd* const pParent = GetParent())
-        pParent->SetFocus();
+    NotifyEnd(gfnWholeText(*this));
 }
 
 // Room for two blanks more than the text, as far as the grid reaches; never less than before.

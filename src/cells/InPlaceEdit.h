@@ -32,17 +32,9 @@ protected:
     afx_msg UINT OnGetDlgCode();
     DECLARE_MESSAGE_MAP()
 
-    int m_nRow;
-    int m_nColumn;
-    CString m_sInitText;
-    UINT m_nLastChar = 0; ///< the key that ended the edit; 0 until one does
-    BOOL m_bExitOnArrows;
     CRect m_Rect; ///< in the grid's client area; grows with the text
 
 private:
-    bool m_bConstructed =
-        false; ///< the window may be gone before that, and nobody must delete the object then
     void TakeFirstChar(UINT nChar);
-    void Leave(UINT nLastChar);
     void GrowToText();
 };

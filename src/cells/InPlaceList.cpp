@@ -21,7 +21,7 @@ UINT EndingKeyThatIsDown()
 CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, int nRow, int nColumn,
                            COLORREF crFore, COLORREF crBack, CStringArray& Items, CString sInitText,
                            UINT nFirstChar)
-    : m_sInitText(sInitText), m_nRow(nRow), m_nColumn(nColumn), m_crForeClr(crFore), m_crBackClr(crBack),
+    : CInPlaceEditor(*this, nRow, nColumn, sInitText, FALSE), m_crForeClr(crFore), m_crBackClr(crBack),
       m_nOpeningKey(EndingKeyThatIsDown())
 {
     // The height of a combo box is that of its open list.
@@ -40,7 +40,7 @@ CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
             SetWindowText(sInitText);
         TakeFirstChar(nFirstChar);
     }
-    m_bConstructed = true;
+    Constructed();
 }
 
 // The character is sent, not posted, and Tab and the blank count as characters, unlike in CInPlaceEdit.
@@ -52,13 +52,12 @@ void CInPlaceList::TakeFirstChar(UINT nChar)
         SetFocus();
         return;
     }
-    m_edit.SubclassDlgItem(ComboEditId, this);
+    m_edit.SubclassDlgItem(c_nComboEditId, this);
     SetFocus();
 
-    const bool bToEnd = nChar == VK_LBUTTON || nChar == VK_RETURN || nChar == VK_BACK;
+    SelectForFirstChar(m_edit, nChar);
     const bool bDropped = nChar >= VK_PRIOR && nChar <= VK_DOWN;
-    m_edit.SendMessage(EM_SETSEL, bToEnd ? m_edit.GetWindowTextLength() : 0, -1);
-    if (nChar == VK_BACK || (!bToEnd && !bDropped))
+    if (nChar == VK_BACK || !(gfnKeepsText(nChar) || bDropped))
         SendMessage(WM_CHAR, nChar);
 }
 
@@ -83,9 +82,7 @@ void CInPlaceList::OnKillFocus(CWnd* pNewWnd)
 
 void CInPlaceList::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
-    if (gfnIsCellMoveKey(nChar) && (m_bExitOnArrows || ::GetKeyState(VK_CONTROL) < 0))
-        Leave(nChar);
-    else
+    if (!LeaveByMoveKey(nChar))
         CComboBox::OnKeyDown(nChar, nRepCnt, nFlags);
 }
 
@@ -130,15 +127,13 @@ void CInPlaceList::OnSelendok()
         if (!IsDropList())
             m_edit.SetWindowText(strText);
     }
-    if (CWnd* const pParent = GetParent())
-        pParent->SetFocus();
+    Leave();
 }
 
 void CInPlaceList::PostNcDestroy()
 {
     CComboBox::PostNcDestroy();
-    if (m_bConstructed)
-        delete this;
+    DeleteWithWindow();
 }
 
 void CInPlaceList::EndEdit()
@@ -146,7 +141,7 @@ void CInPlaceList::EndEdit()
     CString strText;
     if (::IsWindow(m_hWnd))
         GetWindowText(strText);
-    NotifyEnd(*this, m_nRow, m_nColumn, m_nLastChar, strText);
+    NotifyEnd(strText);
 }
 
 int CInPlaceList::GetCorrectDropWidth()
@@ -158,12 +153,4 @@ int CInPlaceList::GetCorrectDropWidth()
 bool CInPlaceList::IsDropList() const
 {
     return (GetStyle() & 3) == CBS_DROPDOWNLIST;
-}
-
-/// Giving the focus away is what ends the edit; the list may be gone when this returns.
-void CInPlaceList::Leave(UINT nLastChar)
-{
-    m_nLastChar = nLastChar;
-    if (CWnd* const pParent = GetParent())
-        pParent->SetFocus();
 }

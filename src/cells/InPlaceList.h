@@ -38,19 +38,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     int m_nNumLines = 4; ///< lines of room in the open list
-    CString m_sInitText;
-    int m_nRow;
-    int m_nColumn;
-    UINT m_nLastChar = 0;
-    BOOL m_bExitOnArrows = FALSE;
     COLORREF m_crForeClr;
     COLORREF m_crBackClr;
 
 private:
-    bool m_bConstructed =
-        false;              ///< the window may be gone before that, and nobody must delete the object then
     UINT m_nOpeningKey = 0; ///< Tab, Enter or Escape while it is still down from before the edit
     bool IsDropList() const;
     void TakeFirstChar(UINT nChar);
-    void Leave(UINT nLastChar);
 };
