@@ -10,49 +10,22 @@ class CExtGridMsgHook : public CExtGridHook<CExtGridCtrl>
 };
 
 CExtGridCtrl::CExtGridCtrl(AExtGridCtrlNotificationHandler* pHandler)
-    : m_pHandler(pHandler), m_pHook(std::make_unique<CExtGridMsgHook>(this))
+    : CExtGrid(pHandler, std::make_unique<CExtGridMsgHook>(this))
 {
-}
-
-CExtGridCtrl::~CExtGridCtrl()
-{
-}
-
-BEGIN_MESSAGE_MAP(CExtGridCtrl, CGridCtrl)
-    ON_WM_CREATE()
-END_MESSAGE_MAP()
-
-int CExtGridCtrl::OnCreate(LPCREATESTRUCTW lpCreateStruct)
-{
-    if (CGridCtrl::OnCreate(lpCreateStruct) == -1)
-        return -1;
-    InstallMessageHook();
-    return 0;
-}
-
-void CExtGridCtrl::InstallMessageHook()
-{
-    m_pHook->HookParent();
-}
-
-AExtGridCtrlNotificationHandler& CExtGridCtrl::Handler() const
-{
-    ASSERT(m_pHandler);
-    return *m_pHandler;
 }
 
 void CExtGridCtrl::OnGridEndEdit(NMHDR* pNMHDR, LRESULT* pResult)
 {
     const CCellID cell = gfnCellOf(pNMHDR);
     const CString strText = GetItemText(cell.row, cell.col);
-    *pResult = Handler().OnExtGridEndEdit(gfnControlId(*this), cell.row, cell.col, &strText) ? 0 : -1;
+    *pResult = GetHandler().OnExtGridEndEdit(gfnControlId(*this), cell.row, cell.col, &strText) ? 0 : -1;
 }
 
 void CExtGridCtrl::OnGridRClick(NMHDR* pNMHDR, LRESULT* /*pResult*/)
 {
     const int nRow = RaisedToBody(gfnCellOf(pNMHDR)).row;
     if (nRow < GetRowCount())
-        Handler().OnExtGridRClick(gfnControlId(*this), nRow);
+        GetHandler().OnExtGridRClick(gfnControlId(*this), nRow);
 }
 
 void CExtGridCtrl::OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult)
@@ -63,7 +36,7 @@ void CExtGridCtrl::OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult)
         return;
     if (nRow != m_nCurrentRow)
     {
-        Handler().OnExtGridRowChanged(gfnControlId(*this), nRow, m_nCurrentRow);
+        GetHandler().OnExtGridRowChanged(gfnControlId(*this), nRow, m_nCurrentRow);
         if (m_crSelectedRow != CLR_NONE)
             ShowCurrentRow(nRow, cell.col);
         // As it came, so that a fixed row is remembered while the body's first is painted, and selecting that
@@ -84,7 +57,7 @@ void CExtGridCtrl::ShowCurrentRow(int nRow, int nCol)
 {
     const CGridDrawingStop stop(*this);
     if (m_nCurrentRow != -1)
-        gfnPaintRow(*this, m_nCurrentRow, kRestingColor);
+        gfnPaintRow(*this, m_nCurrentRow, c_crRestingColor);
     gfnPaintRow(*this, nRow, m_crSelectedRow);
     EnsureVisible(nRow, nCol); // here, with drawing stopped, it does not scroll: wanted
 }

@@ -54,25 +54,16 @@
 
 #include <afxwin.h>
 
-#include <memory>
-
-#include "grid/GridCtrl.h"
+#include "grid/ExtGrid.h"
 #include "module/NotificationInterfaces.h"
 
-class CExtGridMsgHook;
-
-class OW_DIALOGCONTROLS_API CExtGridCtrl : public CGridCtrl
+class OW_DIALOGCONTROLS_API CExtGridCtrl : public CExtGrid<AExtGridCtrlNotificationHandler>
 {
     template <class Grid>
     friend class CExtGridHook;
 
 public:
     explicit CExtGridCtrl(AExtGridCtrlNotificationHandler* pHandler);
-    ~CExtGridCtrl() override;
-
-    /// Hooks the parent, for a grid that took over the window of a dialog template. Does nothing without a
-    /// parent, or if it is hooked already; Create does it by itself.
-    void InstallMessageHook();
 
     /// Makes a row current, with the handler called as for the user. The row that is current already is left
     /// alone. Neither the focus cell nor the scroll position moves.
@@ -84,15 +75,9 @@ protected:
     void OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult); ///< 1; left as it is for a row past the end
     void OnGridRClick(NMHDR* pNMHDR, LRESULT* pResult);     ///< no result
 
-    afx_msg int OnCreate(LPCREATESTRUCTW lpCreateStruct);
-    DECLARE_MESSAGE_MAP()
-
-    AExtGridCtrlNotificationHandler* m_pHandler; ///< not owned
-    std::unique_ptr<CExtGridMsgHook> m_pHook;
     COLORREF m_crSelectedRow = RGB(0xE0, 0xE0, 0xFF); ///< of the current row; CLR_NONE paints nothing
     int m_nCurrentRow = -1;                           ///< -1 for none; may name a fixed row
 
 private:
-    AExtGridCtrlNotificationHandler& Handler() const;
     void ShowCurrentRow(int nRow, int nCol);
 };

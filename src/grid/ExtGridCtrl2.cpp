@@ -30,56 +30,29 @@ public:
 
 private:
     int m_nBandRows = 0;
-    COLORREF m_crBand = kRestingColor;
-    COLORREF m_crBody = kRestingColor;
+    COLORREF m_crBand = c_crRestingColor;
+    COLORREF m_crBody = c_crRestingColor;
 };
 } // namespace
 
 CExtGridCtrl2::CExtGridCtrl2(AExtGridCtrl2NotificationHandler* pHandler,
                              AExtGridCtrl2ExtraHeaderSupport* pExtraHeader)
-    : m_pHandler(pHandler), m_pExtraHeader(pExtraHeader), m_pHook(std::make_unique<CExtGrid2MsgHook>(this))
+    : CExtGrid(pHandler, std::make_unique<CExtGrid2MsgHook>(this)), m_pExtraHeader(pExtraHeader)
 {
-}
-
-CExtGridCtrl2::~CExtGridCtrl2()
-{
-}
-
-BEGIN_MESSAGE_MAP(CExtGridCtrl2, CGridCtrl)
-    ON_WM_CREATE()
-END_MESSAGE_MAP()
-
-int CExtGridCtrl2::OnCreate(LPCREATESTRUCTW lpCreateStruct)
-{
-    if (CGridCtrl::OnCreate(lpCreateStruct) == -1)
-        return -1;
-    InstallMessageHook();
-    return 0;
-}
-
-void CExtGridCtrl2::InstallMessageHook()
-{
-    m_pHook->HookParent();
-}
-
-AExtGridCtrl2NotificationHandler& CExtGridCtrl2::Handler() const
-{
-    ASSERT(m_pHandler);
-    return *m_pHandler;
 }
 
 void CExtGridCtrl2::OnGridEndEdit(NMHDR* pNMHDR, LRESULT* pResult)
 {
     const CCellID cell = gfnCellOf(pNMHDR);
     const CString strText = GetItemText(cell.row, cell.col);
-    *pResult = Handler().OnExtGrid2EndEdit(gfnControlId(*this), cell, &strText) ? 0 : -1;
+    *pResult = GetHandler().OnExtGrid2EndEdit(gfnControlId(*this), cell, &strText) ? 0 : -1;
 }
 
 void CExtGridCtrl2::OnGridRClick(NMHDR* pNMHDR, LRESULT* /*pResult*/)
 {
     const CCellID cell = RaisedToBody(gfnCellOf(pNMHDR));
     if (IsValid(cell))
-        Handler().OnExtGrid2RClick(gfnControlId(*this), cell);
+        GetHandler().OnExtGrid2RClick(gfnControlId(*this), cell);
 }
 
 void CExtGridCtrl2::OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult)
@@ -89,7 +62,7 @@ void CExtGridCtrl2::OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult)
         return;
     if (cell != CurrentCell())
     {
-        Handler().OnExtGrid2CellChanged(gfnControlId(*this), cell, CurrentCell());
+        GetHandler().OnExtGrid2CellChanged(gfnControlId(*this), cell, CurrentCell());
         if (m_crSelected != CLR_NONE)
             ShowCross(cell);
         // As it came, so that a fixed address is remembered while the body's first cell has the cross, and

@@ -62,25 +62,16 @@
 
 #include <afxwin.h>
 
-#include <memory>
-
-#include "grid/GridCtrl.h"
+#include "grid/ExtGrid.h"
 #include "module/NotificationInterfaces.h"
 
-class CExtGrid2MsgHook;
-
-class OW_DIALOGCONTROLS_API CExtGridCtrl2 : public CGridCtrl
+class OW_DIALOGCONTROLS_API CExtGridCtrl2 : public CExtGrid<AExtGridCtrl2NotificationHandler>
 {
     template <class Grid>
     friend class CExtGridHook;
 
 public:
     CExtGridCtrl2(AExtGridCtrl2NotificationHandler* pHandler, AExtGridCtrl2ExtraHeaderSupport* pExtraHeader);
-    ~CExtGridCtrl2() override;
-
-    /// Hooks the parent, for a grid that took over the window of a dialog template. Does nothing without a
-    /// parent, or if it is hooked already; Create does it by itself.
-    void InstallMessageHook();
 
     /// Makes a cell current, with the handler called as for the user. Unlike CExtGridCtrl::SelectRowEx, and
     /// unlike a click, it does so also if the cell is current already; the former cell is then told as (-1,
@@ -93,18 +84,12 @@ protected:
     void OnGridSelChanged(NMHDR* pNMHDR, LRESULT* pResult); ///< 1; left as it is for a cell past the end
     void OnGridRClick(NMHDR* pNMHDR, LRESULT* pResult);     ///< no result
 
-    afx_msg int OnCreate(LPCREATESTRUCTW lpCreateStruct);
-    DECLARE_MESSAGE_MAP()
-
-    AExtGridCtrl2NotificationHandler* m_pHandler;    ///< not owned
     AExtGridCtrl2ExtraHeaderSupport* m_pExtraHeader; ///< not owned; may be null
-    std::unique_ptr<CExtGrid2MsgHook> m_pHook;
-    COLORREF m_crSelected = RGB(0xE0, 0xE0, 0xFF); ///< of the cross; CLR_NONE paints nothing
-    int m_nCurrentRow = -1;                        ///< -1 for none; may name a fixed row
-    int m_nCurrentCol = -1;                        ///< -1 for none; may name a fixed column
+    COLORREF m_crSelected = RGB(0xE0, 0xE0, 0xFF);   ///< of the cross; CLR_NONE paints nothing
+    int m_nCurrentRow = -1;                          ///< -1 for none; may name a fixed row
+    int m_nCurrentCol = -1;                          ///< -1 for none; may name a fixed column
 
 private:
-    AExtGridCtrl2NotificationHandler& Handler() const;
     CCellID CurrentCell() const { return CCellID(m_nCurrentRow, m_nCurrentCol); }
     void SetCurrentCell(const CCellID& cell);
     void ShowCross(const CCellID& cell);

@@ -75,9 +75,10 @@ public:
         m_calls.push_back(Join(nId, " rclick ", Place(cell)));
     }
 
-    int GetExtraHeaderColor() override { return kBand; }
-    int GetExtraHeaderCount() override { return bandRows; }
-    int GetBodyColor() override { return kBody; }
+    std::string asked; ///< about the extra header: 'n', 'h', 'b'
+    int GetExtraHeaderColor() override { return asked += 'h', kBand; }
+    int GetExtraHeaderCount() override { return asked += 'n', bandRows; }
+    int GetBodyColor() override { return asked += 'b', kBody; }
 
 private:
     bool EndEdit(int nId, const CCellID& cell, const CString* pText)
@@ -141,6 +142,25 @@ void Enter(CGridCtrl& grid, const wchar_t* text)
     owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
 }
 
+/// Sends the parent a notification as the grid would.
+LRESULT Notify(const CGridCtrl& grid, UINT nCode, int nRow, int nCol)
+{
+    GridNotify record{{grid.m_hWnd, kGridId, nCode}, nRow, nCol};
+    return grid.GetParent()->SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
+}
+
+struct RowGrid : public CExtGridCtrl
+{
+    using CExtGridCtrl::CExtGridCtrl;
+    using CExtGridCtrl::IsVisibleVScroll;
+    using CExtGridCtrl::m_crSelectedRow;
+};
+struct CrossGrid : public CExtGridCtrl2
+{
+    using CExtGridCtrl2::CExtGridCtrl2;
+    using CExtGridCtrl2::m_crSelected;
+};
+
 struct ExtGrid : testing::Test
 {
     void SetUp() override { ASSERT_TRUE(Open(grid)); }
@@ -154,7 +174,7 @@ struct ExtGrid : testing::Test
 
     GridParent& parent = SharedParent();
     Handler handler;
-    CExtGridCtrl grid{&handler};
+    RowGrid grid{&handler};
 };
 
 struct ExtGrid2 : testing::Test
@@ -162,7 +182,7 @@ struct ExtGrid2 : testing::Test
     void SetUp() override { ASSERT_TRUE(Open(grid)); }
 
     Handler handler;
-    CExtGridCtrl2 grid{&handler, &handler};
+    CrossGrid grid{&handler, &handler};
 };
 } // namespace
 
@@ -214,19 +234,6 @@ TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
     EXPECT_EQ(Received("begin"), 3);
 }
 
-TEST_F(ExtGrid, ARightClickReportsARowOfTheBody)
-{
-    RightClick(grid, MiddleOf(grid, 3, 2));
-    RightClick(grid, MiddleOf(grid, 0, 2));
-    RightClick(grid, CPoint(290, 190));
-    EXPECT_EQ(handler.Take(),
-              (Calls{"77 row 3 after -1", "77 rclick 3", "77 row 1 after 3", "77 rclick 1", "77 rclick 1"}));
-    grid.SetRowCount(1);
-    RightClick(grid, MiddleOf(grid, 0, 2));
-    EXPECT_EQ(handler.Take(), Calls{}) << "there is no body";
-    EXPECT_EQ(Received("rclick"), 0);
-}
-
 TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
 {
     grid.SelectRowEx(3, 1);
@@ -245,10 +252,12 @@ TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
 
 TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
 {
-    grid.SetRowCount(100);
     grid.SetRedraw(FALSE);
+    grid.SetRowCount(100);
     grid.ValidateRect(nullptr);
+    EXPECT_FALSE(grid.IsVisibleVScroll());
     grid.SelectRowEx(90, 1);
+    EXPECT_TRUE(grid.IsVisibleVScroll()) << "the bars are brought up to date, too";
     CRect update;
     EXPECT_TRUE(grid.GetUpdateRect(&update));
     CRect client;
@@ -283,6 +292,26 @@ TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
     GridNotify foreign{{nullptr, 0, NM_RCLICK}, 1, 1};
     parent.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&foreign));
     EXPECT_EQ(handler.Take(), Calls{}) << "and nobody else's notification is the grid's";
+}
+
+TEST_F(ExtGrid, TheHookAnswersForTheParent)
+{
+    parent.answer = [](NMHDR&) { return 77; };
+    handler.accepts = [](const CString& text) { return text == L"2/1"; };
+    EXPECT_EQ(Notify(grid, LVN_ENDLABELEDITW, 2, 1), 0);
+    EXPECT_EQ(Notify(grid, LVN_ENDLABELEDITW, 2, 2), -1);
+    for (const UINT nCode : {LVN_ITEMCHANGED, NM_RCLICK})
+        for (const int nRow : {3, 0, 5})
+            EXPECT_EQ(Notify(grid, nCode, nRow, 1), 1);
+    RightClick(grid, CPoint(290, 190)); // outside all cells
+    EXPECT_EQ(Notify(grid, NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
+    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,1 2/1", "77 text 2,2 2/2", "77 row 3 after -1", "77 row 1 after 3",
+                                     "77 rclick 3", "77 rclick 1", "77 rclick 1"}));
+    grid.m_crSelectedRow = CLR_NONE;
+    grid.SelectRowEx(1, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 0"}) << "a fixed row is remembered as it came";
+    grid.SelectRowEx(4, 1);
+    EXPECT_EQ(Colours(grid), ".... .### .... .www ....") << "told, and not painted";
 }
 
 // ---- The hook ---------------------------------------------------------------------------------------------
@@ -383,6 +412,11 @@ TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
         << "both old directions rest, both new ones are crossed";
     ClickCell(grid, 3, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,1 after 3,2"}) << "a click on the current cell is no change";
+    EXPECT_EQ(handler.asked, "nhbnhbnhb") << "once for each change, the count first";
+    grid.m_crSelected = CLR_NONE;
+    grid.SelectCellEx(1, 3);
+    EXPECT_EQ(handler.Take(), Calls{"77 cell 1,3 after 3,1"});
+    EXPECT_EQ(Colours(grid), ".... .bB. .bBB .ggg .gG.") << "told, and not painted";
 }
 
 TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
@@ -399,6 +433,10 @@ TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
     RightClick(grid, MiddleOf(grid, 3, 0));
     EXPECT_EQ(handler.Take(),
               (Calls{"77 cell 1,2 after 2,3", "77 rclick 1,2", "77 cell 3,1 after 1,2", "77 rclick 3,1"}));
+    EXPECT_EQ(Notify(grid, NM_RCLICK, 5, 1), 1);
+    EXPECT_EQ(Notify(grid, NM_RCLICK, 1, 4), 1);
+    EXPECT_EQ(Notify(grid, LVN_ITEMCHANGED, 1, 4), 1);
+    EXPECT_EQ(handler.Take(), Calls{}) << "past the end";
 }
 
 TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
