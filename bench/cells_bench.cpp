@@ -27,21 +27,27 @@ public:
     }
 };
 
-/// In metres, with two decimals in millimetres.
-double LengthAt(int nRow)
+/// In metres, with two decimals in millimetres. Made beforehand, as the texts are, so that only setting them is
+/// measured.
+std::vector<double> Lengths()
 {
-    return (nRow * 7919 % 1000003) / 100000.0;
+    std::vector<double> lengths;
+    for (int nRow = 0; nRow < kRows; ++nRow)
+        lengths.push_back((nRow * 7919 % 1000003) / 100000.0);
+    return lengths;
 }
 } // namespace
 
-static void MeasureLimitedSet(Comparison& compare, const Benchmark::Measure& measure)
+/// `set` gives each cell of a kind its value; beside it, plain cells get the same texts.
+template <class Cell, class Set>
+static void MeasureSet(Comparison& compare, const Benchmark::Measure& measure, Set set)
 {
-    CColumn numbers(RUNTIME_CLASS(CLimitedDoubleCell));
+    CColumn numbers(RUNTIME_CLASS(Cell));
     CColumn texts(RUNTIME_CLASS(CGridCell));
     const auto fill = [&]
     {
         for (int nRow = 0; nRow < kRows; ++nRow)
-            static_cast<CLimitedDoubleCell&>(*numbers.GetCell(nRow, 0)).Set(0, LengthAt(nRow));
+            set(static_cast<Cell&>(*numbers.GetCell(nRow, 0)), nRow);
     };
     fill();
     std::vector<std::wstring> same;
@@ -56,7 +62,47 @@ static void MeasureLimitedSet(Comparison& compare, const Benchmark::Measure& mea
         });
     measure();
 }
-static const Benchmark limitedSet("cells/limited_set", 2, MeasureLimitedSet);
+
+static void MeasureLimitedSet(Comparison& compare, const Benchmark::Measure& measure)
+{
+    const std::vector<double> lengths = Lengths();
+    MeasureSet<CLimitedDoubleCell>(compare, measure,
+                                   [&](CLimitedDoubleCell& cell, int nRow) { cell.Set(0, lengths[nRow]); });
+}
+static const Benchmark limitedSet("cells/limited_set", 1.9, MeasureLimitedSet);
+
+// Eighths: every other one lies in the middle between two texts.
+static void MeasureTiesSet(Comparison& compare, const Benchmark::Measure& measure)
+{
+    MeasureSet<CLimitedDoubleCell>(compare, measure,
+                                   [](CLimitedDoubleCell& cell, int nRow) { cell.Set(1, nRow + 0.125); });
+}
+static const Benchmark tiesSet("cells/limited_set_ties", 2, MeasureTiesSet);
+
+static void MeasureIntSet(Comparison& compare, const Benchmark::Measure& measure)
+{
+    MeasureSet<CLimitedIntCell>(compare, measure,
+                                [](CLimitedIntCell& cell, int nRow) { cell.Set(nRow * 7919 - 1000000); });
+}
+static const Benchmark intSet("cells/int_set", 2, MeasureIntSet);
+
+static void MeasureExponentSet(Comparison& compare, const Benchmark::Measure& measure)
+{
+    const std::vector<double> lengths = Lengths();
+    MeasureSet<CLimitedExponentDoubleCell>(
+        compare, measure, [&](CLimitedExponentDoubleCell& cell, int nRow) { cell.Set(0, lengths[nRow]); });
+}
+static const Benchmark exponentSet("cells/exponent_set", 12, MeasureExponentSet);
+
+static void MeasureValidate(Comparison& compare, const Benchmark::Measure& measure)
+{
+    std::vector<CString> typed;
+    for (const double length : Lengths())
+        typed.emplace_back().Format(L"%.3f", 1000 * length);
+    MeasureSet<CLimitedDoubleCell>(
+        compare, measure, [&](CLimitedDoubleCell& cell, int nRow) { cell.ValidateEdit(typed[nRow]); });
+}
+static const Benchmark validate("cells/validate_edit", 12, MeasureValidate);
 
 /// A thousand cells of a kind beside a thousand plain ones with the same texts, each painted once. `prepare` is
 /// called for all of them.

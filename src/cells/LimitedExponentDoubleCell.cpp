@@ -5,6 +5,8 @@
 #include "cells/TypedNumber.h"
 #include "edits/DoubleText.h"
 
+#include <cmath>
+
 IMPLEMENT_DYNCREATE(CLimitedExponentDoubleCell, CLimitedDoubleCell)
 
 void CLimitedExponentDoubleCell::Set(int nCol, double dValue)
@@ -24,6 +26,12 @@ BOOL CLimitedExponentDoubleCell::ValidateEdit(LPCWSTR pszText)
 void CLimitedExponentDoubleCell::ShowWithExponent()
 {
     constexpr int kDecimals = 4;
-    CString strText = gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatExponent, kDecimals), m_dValue);
+    if (std::isfinite(m_dValue))
+    {
+        wchar_t szText[c_nDoubleTextSize];
+        SetText(gfnFormatExponent(szText, kDecimals, m_dValue));
+        return;
+    }
+    CString strText = gfnFormatAllDigits(0, m_dValue);
     SetText(strText.MakeUpper()); // what is no number, too
 }

@@ -4,6 +4,9 @@
 
 #include "cells/NumberLimits.h"
 #include "cells/TypedNumber.h"
+#include "edits/Digits.h"
+
+#include <cstdlib>
 
 IMPLEMENT_DYNCREATE(CLimitedIntCell, CGridCell)
 
@@ -36,9 +39,14 @@ void CLimitedIntCell::SetMax(int nMax, int bInclusive)
 void CLimitedIntCell::Set(int nValue)
 {
     m_nValue = nValue;
-    CString strText;
-    strText.Format(L"%d", nValue);
-    SetText(strText);
+    constexpr int kSize = 12; // with sign and terminator
+    wchar_t szText[kSize];
+    wchar_t* const pszEnd = szText + kSize - 1;
+    *pszEnd = L'\0';
+    wchar_t* pszText = ow::gfnWriteDigits(pszEnd, static_cast<std::uint64_t>(std::llabs(nValue)));
+    if (nValue < 0)
+        *--pszText = L'-';
+    SetText(pszText);
 }
 
 int CLimitedIntCell::Get() const

@@ -2,6 +2,7 @@
 
 #include "edits/DoubleText.h"
 
+#include "edits/Digits.h"
 #include "edits/LocalNumber.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@
 namespace
 {
 /// As many digits as tell any double from its neighbours.
-constexpr wchar_t c_szExactFormat[] = L"%.17G";
+constexpr wchar_t kExactFormat[] = L"%.17G";
 
 /// The locale in which numbers are written: that with a point.
 _locale_t PointLocale()
@@ -40,36 +41,116 @@ CString NameOfNonNumber(double dValue)
     return dValue < 0.0 ? L"-inf" : L"inf";
 }
 
-constexpr double c_powersOfTen[] = {1.0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6};
+/// All that a double holds exactly.
+constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                                   1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-/// How many units of its last decimal a number has, without its sign; nothing where that does not say beyond
-/// doubt how the number is rounded.
+/// Whether the run-time library writes 2.5 as 3, and not as the even 2.
+bool RoundsTiesUp()
+{
+    static const bool s_bUp = []
+    {
+        wchar_t szText[c_nDoubleTextSize];
+        return FormatInto(szText, L"%.0f", 2.5) && *szText == L'3';
+    }();
+    return s_bUp;
+}
+
+/// What a product with a number of at most 26 bits lacks to the true one, which a double holds exactly: the
+/// factor is taken apart into halves whose products are exact.
+double ErrorOfProduct(double dFactor, double dShort, double dProduct)
+{
+    constexpr double kHalves = 134217729.0; // 2^27 + 1
+    const double dSpread = dFactor * kHalves;
+    const double dHigh = dSpread - (dSpread - dFactor);
+    return (dHigh * dShort - dProduct) + (dFactor - dHigh) * dShort;
+}
+
+/// How many units of its last decimal a number has, without its sign, rounded as the run-time library does:
+/// by the true value, which a double holds in full. Nothing for numbers that are too large for that.
 std::optional<std::uint64_t> CountLastDecimals(double dAbsolute, int nDecimals)
 {
-    constexpr double dExact = 4503599627370496.0; // 2^52: below it a double has room for a half
-    if (nDecimals < 0 || nDecimals >= static_cast<int>(std::size(c_powersOfTen)))
+    constexpr double kExact = 4503599627370496.0; // 2^52: below it a double has room for a half
+    constexpr int kMostDecimals = 6;              // their power has few enough bits
+    if (nDecimals < 0 || nDecimals > kMostDecimals)
         return std::nullopt;
-    const double dScaled = dAbsolute * c_powersOfTen[nDecimals];
-    if (!(dScaled < dExact))
+    const double dScaled = dAbsolute * kPowersOfTen[nDecimals];
+    if (!(dScaled < kExact))
         return std::nullopt;
     const auto nWhole = static_cast<std::int64_t>(dScaled); // signed: that is one instruction
-    const double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5;
-    if (std::fabs(dBeyondHalf) <= dScaled / dExact) // twice what the product may be off
-        return std::nullopt;
+    double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5;
+    if (std::fabs(dBeyondHalf) <= dScaled / kExact) // twice what the product may be off
+        dBeyondHalf += ErrorOfProduct(dAbsolute, kPowersOfTen[nDecimals], dScaled);
+    if (dBeyondHalf == 0.0)
+        return RoundsTiesUp() ? nWhole + 1 : nWhole + (nWhole & 1);
     return dBeyondHalf > 0.0 ? nWhole + 1 : nWhole;
 }
 
-/// Writes a count of last decimals backwards; where the text begins.
-wchar_t* WriteBackwards(wchar_t* pszEnd, std::uint64_t nCount, int nDecimals)
+/// A number without its sign as so many digits, one of them before the point, and a power of ten.
+struct SScientific
 {
-    for (int nDigits = 0; nCount > 0 || nDigits <= nDecimals; ++nDigits)
+    std::uint64_t digits;
+    int exponent;
+};
+
+/// Nothing where powers of ten are not exact, or where the result does not say beyond doubt how it is rounded.
+std::optional<SScientific> ToScientific(double dAbsolute, int nDecimals)
+{
+    constexpr int kMostPower = static_cast<int>(std::size(kPowersOfTen)) - 1;
+    constexpr int kMostDecimals = 9;
+    constexpr double kLog2 = 0.30102999566398120;
+    constexpr double kDoubt = 1.0 / 1125899906842624.0; // 2^-50: more than the one operation may be off
+    if (nDecimals < 0 || nDecimals > kMostDecimals)
+        return std::nullopt;
+    if (dAbsolute == 0.0)
+        return SScientific{0, 0};
+
+    int nBinary = 0;
+    std::frexp(dAbsolute, &nBinary);
+    // Up to one too low, which shows in the digits.
+    for (int nExponent = static_cast<int>(std::floor((nBinary - 1) * kLog2));; ++nExponent)
     {
-        if (nDigits == nDecimals && nDecimals > 0)
-            *--pszEnd = L'.';
-        *--pszEnd = static_cast<wchar_t>(L'0' + nCount % 10);
-        nCount /= 10;
+        const int nPower = nDecimals - nExponent;
+        if (nPower > kMostPower || nPower < -kMostPower)
+            return std::nullopt;
+        const double dScaled =
+            nPower >= 0 ? dAbsolute * kPowersOfTen[nPower] : dAbsolute / kPowersOfTen[-nPower];
+        const auto nWhole = static_cast<std::int64_t>(dScaled);
+        const double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5;
+        if (std::fabs(dBeyondHalf) <= dScaled * kDoubt)
+            return std::nullopt;
+        const std::int64_t nDigits = dBeyondHalf > 0.0 ? nWhole + 1 : nWhole;
+        if (static_cast<double>(nDigits) < kPowersOfTen[nDecimals + 1])
+            return SScientific{static_cast<std::uint64_t>(nDigits), nExponent};
     }
-    return pszEnd;
+}
+
+/// The run-time library says how many digits an exponent has at least.
+int ExponentDigits()
+{
+    static const int s_nDigits = []
+    {
+        wchar_t szText[c_nDoubleTextSize];
+        return FormatInto(szText, L"%.0E", 1.0) ? static_cast<int>(wcslen(szText)) - 3 : 2; // behind 1E+
+    }();
+    return s_nDigits;
+}
+const wchar_t* CopyText(wchar_t (&szText)[c_nDoubleTextSize], const CString& strText)
+{
+    wcscpy_s(szText, c_nDoubleTextSize, strText);
+    return szText;
+}
+
+/// `write` writes a number without its sign, its end before the given place, and answers where it begins.
+template <class Write>
+const wchar_t* SignedText(wchar_t (&szText)[c_nDoubleTextSize], double dValue, Write write)
+{
+    wchar_t* const pszEnd = szText + c_nDoubleTextSize - 1;
+    *pszEnd = L'\0';
+    wchar_t* pszText = write(pszEnd);
+    if (std::signbit(dValue))
+        *--pszText = L'-';
+    return pszText;
 }
 } // namespace
 
@@ -100,7 +181,7 @@ CString gfnFormatDouble(const wchar_t* pszFormat, double dValue)
         return NameOfNonNumber(dValue);
     wchar_t szText[c_nDoubleTextSize];
     if (!FormatInto(szText, pszFormat, dValue))
-        FormatInto(szText, c_szExactFormat, dValue);
+        FormatInto(szText, kExactFormat, dValue);
     return szText;
 }
 
@@ -110,17 +191,30 @@ const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimal
 {
     const std::optional<std::uint64_t> count = CountLastDecimals(std::fabs(dValue), nDecimals);
     if (!count)
-    {
-        const CString strText = gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatFixed, nDecimals), dValue);
-        wcscpy_s(szText, c_nDoubleTextSize, strText);
-        return szText;
-    }
-    wchar_t* const pszEnd = szText + c_nDoubleTextSize - 1;
-    *pszEnd = L'\0';
-    wchar_t* pszText = WriteBackwards(pszEnd, *count, nDecimals);
-    if (std::signbit(dValue))
-        *--pszText = L'-';
-    return pszText;
+        return CopyText(szText,
+                        gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatFixed, nDecimals), dValue));
+    return SignedText(szText, dValue,
+                      [&](wchar_t* psz) { return ow::gfnWriteDecimals(psz, *count, nDecimals); });
+}
+
+const wchar_t* gfnFormatExponent(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals, double dValue)
+{
+    const std::optional<SScientific> parts =
+        std::isfinite(dValue) ? ToScientific(std::fabs(dValue), nDecimals) : std::nullopt;
+    if (!parts)
+        return CopyText(szText,
+                        gfnFormatDouble(gfnDoublePrintfFormat(eDoubleFormatExponent, nDecimals), dValue));
+    return SignedText(szText, dValue,
+                      [&](wchar_t* psz)
+                      {
+                          wchar_t* const pszEnd = psz;
+                          psz = ow::gfnWriteDigits(psz, static_cast<unsigned>(std::abs(parts->exponent)));
+                          while (pszEnd - psz < ExponentDigits())
+                              *--psz = L'0';
+                          *--psz = parts->exponent < 0 ? L'-' : L'+';
+                          *--psz = L'E';
+                          return ow::gfnWriteDecimals(psz, parts->digits, nDecimals);
+                      });
 }
 
 CString gfnFormatAllDigits(int nDecimals, double dValue)

@@ -45,6 +45,10 @@ OW_DIALOGCONTROLS_API CString gfnFormatDouble(const wchar_t* pszFormat, double d
 OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals,
                                                     double dValue);
 
+/// The same with the exponent format.
+OW_DIALOGCONTROLS_API const wchar_t* gfnFormatExponent(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals,
+                                                       double dValue);
+
 /// Writes a number with the fixed format and so many decimals, at most 65535, however long the text becomes.
 OW_DIALOGCONTROLS_API CString gfnFormatAllDigits(int nDecimals, double dValue);
 

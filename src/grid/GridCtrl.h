@@ -119,11 +119,10 @@
 #include <afxcoll.h>
 #include <afxtempl.h>
 
-#include <ComplexUnit.h>
-
 #include <array>
 
 #include "cells/GridDefaultCell.h"
+#include "grid/ColumnUnits.h"
 #include "grid/GridAxis.h"
 #include "grid/GridCells.h"
 #include "grid/GridScrollBars.h"
@@ -428,7 +427,7 @@ public:
     void SetColComplexUnit(int nCol); ///< the column has no unit any more
     BOOL GetColComplexUnit(int nCol, CComplexUnit& unit);
     /// Null for a column without a unit; good until the units change.
-    const CComplexUnit* FindColComplexUnit(int nCol) const;
+    const CComplexUnit* FindColComplexUnit(int nCol) const { return m_mapColUnit.Find(nCol); }
     void ResetAllComplexUnits();
     /// Heads a column with a translated description and its unit, if there is one.
     void SetColDescription(int nCol, CComplexUnit* pUnit, CString desc);
@@ -611,7 +610,7 @@ protected:
     BOOL m_bVirtualMode = FALSE;
     LPARAM m_lCallbackParam = 0;
     GRIDCALLBACK m_pfnCallback = nullptr;
-    CMap<int, int, CComplexUnit, const CComplexUnit&> m_mapColUnit;
+    CColumnUnits m_mapColUnit;
 
     // ---- Settings
     BOOL m_bEnterIsTab = FALSE;

@@ -8,23 +8,20 @@
 
 void CGridCtrl::SetColComplexUnit(int nCol, const CComplexUnit& unit)
 {
-    m_mapColUnit.SetAt(nCol, unit);
+    m_mapColUnit.Set(nCol, unit);
 }
 
 void CGridCtrl::SetColComplexUnit(int nCol)
 {
-    m_mapColUnit.RemoveKey(nCol);
+    m_mapColUnit.Remove(nCol);
 }
 
 BOOL CGridCtrl::GetColComplexUnit(int nCol, CComplexUnit& unit)
 {
-    return m_mapColUnit.Lookup(nCol, unit);
-}
-
-const CComplexUnit* CGridCtrl::FindColComplexUnit(int nCol) const
-{
-    const auto* const pPair = m_mapColUnit.PLookup(nCol);
-    return pPair ? &pPair->value : nullptr;
+    const CComplexUnit* const pUnit = FindColComplexUnit(nCol);
+    if (pUnit)
+        unit = *pUnit;
+    return pUnit != nullptr;
 }
 
 void CGridCtrl::ResetAllComplexUnits()

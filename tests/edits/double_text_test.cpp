@@ -34,6 +34,14 @@ std::wstring WrittenFast(int decimals, double value)
     wchar_t text[c_nDoubleTextSize];
     return gfnFormatFixed(text, decimals, value);
 }
+
+void ExpectSameFast(int decimals, double value)
+{
+    EXPECT_EQ(WrittenFast(decimals, value), Written(eDoubleFormatFixed, decimals, value)) << decimals;
+    wchar_t text[c_nDoubleTextSize];
+    EXPECT_EQ(gfnFormatExponent(text, decimals, value), Written(eDoubleFormatExponent, decimals, value))
+        << decimals;
+}
 } // namespace
 
 TEST(DoubleText, IsBoundedWhateverTheNumberAndTheDecimals)
@@ -102,14 +110,13 @@ TEST(DoubleText, IsTheSameWhereItIsWrittenFast)
     // clang-format on
     for (const double value : special)
         for (const int decimals : {-1, 0, 1, 2, 3, 6, 7, 40, 1000})
-            EXPECT_EQ(WrittenFast(decimals, value), Written(eDoubleFormatFixed, decimals, value)) << decimals;
+            ExpectSameFast(decimals, value);
 
     std::mt19937_64 random(1);
     for (int i = 0; i < 20000 && !testing::Test::HasFailure(); ++i)
     {
         const int decimals = static_cast<int>(random() % 7);
         const double digits = static_cast<double>(random() % 2000000000000) - 1e12;
-        const double value = digits / std::pow(10.0, decimals + 1); // every tenth is a tie, or nearly so
-        EXPECT_EQ(WrittenFast(decimals, value), Written(eDoubleFormatFixed, decimals, value)) << decimals;
+        ExpectSameFast(decimals, digits / std::pow(10.0, decimals + 1)); // every tenth is a tie, or nearly so
     }
 }

@@ -62,7 +62,9 @@ private:
     void MultiplyBy(const CMeasurementUnit& unit, int nExponent);
     CComplexUnit Combined(const CComplexUnit& other, int nSign) const;
     CUnitsConvertor::SRatio Ratio(const CUnitsConvertor& convertor) const;
+    CUnitsConvertor::SRatio Product(const CUnitsConvertor& convertor) const;
 
     std::array<STerm, c_nMaxTerms> m_terms; ///< in the order in which they are written
     int m_nTerms = 0;
+    CUnitsConvertor::SRatio m_ratio; ///< by CUnitsConvertor::Object, which nearly every conversion asks
 };

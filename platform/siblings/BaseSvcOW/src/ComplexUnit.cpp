@@ -68,6 +68,7 @@ CComplexUnit::CComplexUnit() : CComplexUnit(CMeasurementUnit())
 CComplexUnit::CComplexUnit(const CMeasurementUnit& unit, int nExponent)
 {
     MultiplyBy(unit, nExponent);
+    m_ratio = Product(CUnitsConvertor::Object);
 }
 
 double CComplexUnit::ToLocal(double dGlobal, const CUnitsConvertor& convertor) const
@@ -80,8 +81,9 @@ double CComplexUnit::ToLocal(double dGlobal, const CUnitsConvertor& convertor) c
     // Both ways round, so the way back may miss by a last bit the number that was typed. If the decimal
     // number next to the result leads to the very same global value, it is the one that was meant.
     const double dDecimal = NearestDecimal(dLocal);
-    const bool bSameGlobal = ApplyRatio(dDecimal, ratio.dNumerator, ratio.dDenominator) == dGlobal;
-    return bSameGlobal ? dDecimal : dLocal;
+    if (ApplyRatio(dDecimal, ratio.dNumerator, ratio.dDenominator) == dGlobal) [[likely]]
+        return dDecimal;
+    return dLocal;
 }
 
 double CComplexUnit::ToGlobal(double dLocal, const CUnitsConvertor& convertor) const
@@ -166,10 +168,17 @@ CComplexUnit CComplexUnit::Combined(const CComplexUnit& other, int nSign) const
     CComplexUnit result(*this);
     for (int i = 0; i < other.m_nTerms; ++i)
         result.MultiplyBy(other.m_terms[i].unit, nSign * other.m_terms[i].nExponent);
+    result.m_ratio = result.Product(CUnitsConvertor::Object);
     return result;
 }
 
 CUnitsConvertor::SRatio CComplexUnit::Ratio(const CUnitsConvertor& convertor) const
+{
+    return &convertor == &CUnitsConvertor::Object ? m_ratio : Product(convertor);
+}
+
+/// Of all terms, as one fraction.
+CUnitsConvertor::SRatio CComplexUnit::Product(const CUnitsConvertor& convertor) const
 {
     CUnitsConvertor::SRatio product;
     for (int i = 0; i < m_nTerms; ++i)
