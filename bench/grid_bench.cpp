@@ -549,7 +549,7 @@ static void MeasureGrowSelect(Comparison& compare, const Benchmark::Measure& mea
                       grid.SetSelectedRange(-1, -1, -1, -1);
                   });
 }
-static const Benchmark growSelect("grid/growth/select_all_and_none", 6, MeasureGrowSelect);
+static const Benchmark growSelect("grid/growth/select_all_and_none", 5.5, MeasureGrowSelect);
 
 static void MeasureGrowHeights(Comparison& compare, const Benchmark::Measure& measure)
 {
@@ -560,7 +560,7 @@ static void MeasureGrowHeights(Comparison& compare, const Benchmark::Measure& me
                           grid.SetRowHeight(nRow, grid.GetRowHeight(nRow) ^ 1);
                   });
 }
-static const Benchmark growHeights("grid/growth/every_row_height", 6, MeasureGrowHeights);
+static const Benchmark growHeights("grid/growth/every_row_height", 5.5, MeasureGrowHeights);
 
 static void MeasureGrowRows(Comparison& compare, const Benchmark::Measure& measure)
 {
@@ -573,4 +573,45 @@ static void MeasureGrowRows(Comparison& compare, const Benchmark::Measure& measu
                           grid.DeleteRow(0);
                   });
 }
-static const Benchmark growRows("grid/growth/rows_at_the_front", 6, MeasureGrowRows);
+static const Benchmark growRows("grid/growth/rows_at_the_front", 5.5, MeasureGrowRows);
+
+/// Work on ten thousand rows with drawing on, beside the same with drawing off. No message is pumped meanwhile.
+static void CompareDrawing(Comparison& compare, const Benchmark::Measure& measure, int nRows,
+                           void (*work)(CBenchGrid&))
+{
+    CStage stage, other;
+    CBenchGrid drawn(stage), silent(other);
+    compare.Rounds(3);
+    compare.Prepare(
+        [&]
+        {
+            for (CBenchGrid* const pGrid : {&drawn, &silent})
+            {
+                pGrid->SetRedraw(TRUE);
+                pGrid->DeleteAllItems();
+                pGrid->Fill(nRows);
+                pGrid->Repaint();
+            }
+            silent.SetRedraw(FALSE);
+        });
+    compare.Ours([&] { work(drawn); });
+    compare.Bare([&] { work(silent); });
+    measure();
+}
+
+static void MeasureDrawnInsert(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareDrawing(compare, measure, 1,
+                   [](CBenchGrid& grid)
+                   {
+                       for (int i = 0; i < 10000; ++i)
+                           grid.InsertRow(L"new");
+                   });
+}
+static const Benchmark drawnInsert("grid/drawing/insert_rows", 3, MeasureDrawnInsert);
+
+static void MeasureDrawnDelete(Comparison& compare, const Benchmark::Measure& measure)
+{
+    CompareDrawing(compare, measure, 10000, [](CBenchGrid& grid) { grid.DeleteNonFixedRows(); });
+}
+static const Benchmark drawnDelete("grid/drawing/delete_rows", 3, MeasureDrawnDelete);

@@ -96,6 +96,23 @@ TEST_F(GridOrder, TextsByCodeUnitsAndWholeRows)
     EXPECT_EQ(grid.GetSortColumn(), -1) << "may not be sorted any more";
 }
 
+TEST_F(GridOrder, TheHeadersOfTheOldAndTheNewColumnAreRepainted)
+{
+    ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
+    SetSizes(grid);
+    const auto repainted = [&](int nCol)
+    {
+        grid.UpdateWindow();
+        grid.SetSortColumn(nCol);
+        CRect update;
+        grid.GetUpdateRect(&update);
+        return update;
+    };
+    EXPECT_EQ(repainted(1), CRect(kColWidth, 0, 2 * kColWidth, kRowHeight));
+    EXPECT_EQ(repainted(0), CRect(0, 0, 2 * kColWidth, kRowHeight));
+    EXPECT_EQ(repainted(-1), CRect(0, 0, kColWidth, kRowHeight));
+}
+
 TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
 {
     Fill({L"10", L"9 mm", L"no digits", L"-3", L"100"});
@@ -137,17 +154,6 @@ TEST_F(GridOrder, AComparisonThatDeletesRowsEndsTheSort)
     EXPECT_EQ(grid.GetRowCount(), 5);
 }
 
-TEST_F(GridOrder, ManyEqualAndPresortedRowsDoNotExhaustTheStack)
-{
-    grid.SetRowCount(20001);
-    for (int nRow = 1; nRow <= 20000; ++nRow)
-        grid.SetItemTextFmt(nRow, 1, L"%05d", nRow / 7);
-    EXPECT_TRUE(grid.SortTextItems(1, TRUE));
-    EXPECT_TRUE(grid.SortTextItems(1, FALSE));
-    EXPECT_EQ(grid.GetItemText(1, 1), L"02857");
-    EXPECT_EQ(grid.GetItemText(20000, 1), L"00000");
-}
-
 TEST_F(GridFile, WritesALineForEachRow)
 {
     grid.SetColumnCount(2);
@@ -164,39 +170,47 @@ TEST_F(GridFile, WritesALineForEachRow)
     EXPECT_EQ(grid.GetFixedRowCount(), 0);
 }
 
-TEST_F(GridFile, ReadsEmptyFieldsAndLines)
+TEST_F(GridFile, ReadsLinesOfAnyLengthAndSizesTheColumns)
 {
-    Write("h1;h2;h3\nx;;y\n\nz\n");
+    Write("h1;h2;heading 3\nx;;y\n\nz\n");
     ASSERT_TRUE(grid.Load(path.c_str(), L';'));
     EXPECT_EQ(All(), L"h1||y/x||/||/z||/");
-}
-
-TEST_F(GridFile, WithoutALastLineFeedTheSearchGoesOnBehindIt)
-{
-    Write("h1,h2,h3,h4\naaaa,bbbb,cccc\nxy,z");
-    ASSERT_TRUE(grid.Load(path.c_str(), L','));
-    EXPECT_EQ(Text(2, 0), L"xy");
-    EXPECT_EQ(Text(1, 1), L"z");
-    EXPECT_EQ(Text(1, 2), L"bbbb") << "left in the buffer by the longer line before";
-}
-
-TEST_F(GridFile, LinesOfAnyLengthAreReadInPieces)
-{
-    for (const int length : {1021, 1022, 1023, 1024, 1025, 2046, 2047, 5000})
+    EXPECT_EQ(grid.GetColumnWidth(0), grid.GetTextExtent(0, 0, L"h1").cx);
+    EXPECT_EQ(grid.GetColumnWidth(2), grid.GetTextExtent(0, 2, L"y").cx) << "by what has come into it";
+    EXPECT_EQ(grid.GetItemFormat(0, 0), GV_HEADING_FORMAT);
+    for (const int length : {1022, 1023, 1024, 2046, 5000})
     {
         Write("head\n" + std::string(length, 'x') + "\n");
         ASSERT_TRUE(grid.Load(path.c_str(), L','));
         size_t total = 0;
         for (int nRow = 1; nRow < grid.GetRowCount(); ++nRow)
             total += Text(nRow, 0).size();
-        EXPECT_EQ(total, static_cast<size_t>(length));
-        Write(std::string(length, 'x'));
-        ASSERT_TRUE(grid.Load(path.c_str(), L','));
-        EXPECT_EQ(Text(0, 0).size(), std::min<size_t>(length, 1023));
-        Write(std::string(length, ','));
-        ASSERT_TRUE(grid.Load(path.c_str(), L','));
-        EXPECT_LE(grid.GetColumnCount(), 1023);
+        EXPECT_EQ(total, static_cast<size_t>(length)) << "in pieces, each a line";
     }
+}
+
+TEST_F(GridFile, ABrokenOneIsReported)
+{
+    // A pipe that its reader closes as soon as the first cell is asked for.
+    constexpr wchar_t kPipe[] = L"\\\\.\\pipe\\ow_grid_test";
+    static HANDLE s_hReader = INVALID_HANDLE_VALUE;
+    s_hReader = ::CreateNamedPipe(kPipe, PIPE_ACCESS_INBOUND, PIPE_TYPE_BYTE, 1, 0, 64, 0, nullptr);
+    ASSERT_NE(s_hReader, INVALID_HANDLE_VALUE);
+    grid.SetVirtualMode(TRUE);
+    grid.SetCallbackFunc(
+        [](GV_DISPINFO* pInfo, LPARAM)
+        {
+            ::CloseHandle(std::exchange(s_hReader, INVALID_HANDLE_VALUE));
+            pInfo->item.strText = L"more than a buffer of the stream holds";
+            return 0;
+        },
+        0);
+    grid.SetColumnCount(1);
+    grid.SetRowCount(10000);
+    const BoxCloser closer;
+    EXPECT_FALSE(grid.Save(kPipe, L','));
+    EXPECT_TRUE(closer.Seen());
+    EXPECT_EQ(s_hReader, INVALID_HANDLE_VALUE) << "it was opened, and broke while it was written";
 }
 
 TEST_F(GridFile, EmptyBinaryAndMissingFilesLeaveASoundGrid)
@@ -230,21 +244,20 @@ TEST_F(GridFile, EmptyBinaryAndMissingFilesLeaveASoundGrid)
     EXPECT_FALSE(grid.Load(path.c_str(), L','));
 }
 
-TEST(GridWidths, AreKeptFromOneRunToTheNext)
+TEST(GridWidths, WinOverTheFirstOneThatIsSet)
 {
     const CString key(L"GridWidthsTest");
     {
         OpenGrid first(1, 3);
-        first.SetPersistentGridColumnsWidth(key, 4);
+        first.SetPersistentGridColumnsWidth(key, 5);
         first.SetColumnWidth(1, 123, TRUE);
     }
-    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_1", -1), 123u);
     OpenGrid second(1, 3);
     second.SetColumnWidth(1, 50);
     EXPECT_EQ(second.GetColumnWidth(1), 50) << "without a key nothing is read";
-    second.SetPersistentGridColumnsWidth(key, 4);
+    second.SetPersistentGridColumnsWidth(key, 5);
     second.SetColumnWidth(1, 50);
-    EXPECT_EQ(second.GetColumnWidth(1), 123) << "the saved width wins";
+    EXPECT_EQ(second.GetColumnWidth(1), 123);
     second.SetColumnWidth(1, 50, TRUE);
     EXPECT_EQ(second.GetColumnWidth(1), 50);
 }

@@ -1,0 +1,234 @@
+// The parts of a grid that need no window: its rows of cells, the sort, the fields of a line, the saved widths.
+
+#include <DialogControlsOW.h>
+
+#include "grid/RowSorter.h"
+#include "grid/SavedWidths.h"
+#include "grid/TextFields.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+// ---- Cells ------------------------------------------------------------------------------------------------
+
+namespace
+{
+/// Knows how many there are.
+class CCountedCell : public CGridCell
+{
+public:
+    CCountedCell() { ++s_alive; }
+    ~CCountedCell() override { --s_alive; }
+    static inline int s_alive = 0;
+};
+
+/// Cells with their places as texts, until the supply runs out.
+struct Maker
+{
+    int supply = 1000;
+    CGridCellBase* operator()(int nRow, int nCol)
+    {
+        if (--supply < 0)
+            AfxThrowMemoryException();
+        if (nRow == 1 && nCol == 1)
+            return nullptr; // has none for this place
+        auto* const pCell = new CCountedCell;
+        CString text;
+        text.Format(L"%d%d", nRow, nCol);
+        pCell->SetText(text);
+        return pCell;
+    }
+};
+
+std::wstring TextsOf(const CGridCells& cells, int nCols)
+{
+    std::wstring all;
+    for (int nRow = 0; nRow < cells.RowCount(); ++nRow, all += L'/')
+        for (int nCol = 0; nCol < nCols; ++nCol)
+            all += (nCol ? L" " : L"") +
+                   std::wstring(cells.At(nRow, nCol) ? cells.At(nRow, nCol)->GetText() : L"-");
+    return all;
+}
+
+template <class Work>
+bool RunsOut(Work work)
+{
+    try
+    {
+        work();
+        return false;
+    }
+    catch (CMemoryException* e)
+    {
+        e->Delete();
+        return true;
+    }
+}
+} // namespace
+
+TEST(GridCells, ComeGoAndMove)
+{
+    {
+        CGridCells cells;
+        for (const int nRow : {0, 1, 0})
+            cells.InsertRow(nRow, 2, Maker());
+        EXPECT_EQ(TextsOf(cells, 2), L"00 01/00 01/10 -/");
+        cells.InsertColumn(1, Maker());
+        cells.SwapRows(0, 2);
+        EXPECT_EQ(TextsOf(cells, 3), L"10 21 -/00 - 01/00 01 01/");
+        cells.SetColumns(4);
+        EXPECT_EQ(cells.At(0, 3), nullptr);
+        cells.FillFrom(3, Maker());
+        EXPECT_EQ(TextsOf(cells, 4), L"10 21 - 03/00 - 01 13/00 01 01 23/");
+        cells.RemoveColumn(0);
+        cells.RemoveRow(1);
+        EXPECT_EQ(TextsOf(cells, 3), L"21 - 03/01 01 23/");
+        EXPECT_EQ(CCountedCell::s_alive, 5);
+        cells.SetColumns(1);
+        EXPECT_EQ(TextsOf(cells, 1), L"21/01/");
+        cells.CutRows(1);
+        EXPECT_EQ(TextsOf(cells, 1), L"21/");
+        EXPECT_EQ(CCountedCell::s_alive, 1);
+        delete cells.At(0, 0);
+        cells.Put(0, 0, new CCountedCell);
+    }
+    EXPECT_EQ(CCountedCell::s_alive, 0) << "what is in its place goes with the rows";
+}
+
+TEST(GridCells, StayAsTheyWereWhenMemoryEnds)
+{
+    CGridCells cells;
+    cells.InsertRow(0, 3, Maker());
+    cells.InsertRow(1, 3, Maker());
+    const std::wstring before = TextsOf(cells, 3);
+    EXPECT_TRUE(RunsOut([&] { cells.InsertRow(1, 3, Maker{2}); }));
+    EXPECT_TRUE(RunsOut([&] { cells.InsertColumn(1, Maker{1}); }));
+    EXPECT_EQ(TextsOf(cells, 3), before);
+    EXPECT_EQ(CCountedCell::s_alive, 5);
+    cells.SetColumns(4);
+    EXPECT_TRUE(RunsOut([&] { cells.FillFrom(3, Maker{1}); }));
+    EXPECT_EQ(TextsOf(cells, 4), L"00 01 02 03/10 - 12 -/") << "the rest stays empty";
+}
+
+// ---- Sorting ----------------------------------------------------------------------------------------------
+
+namespace
+{
+/// Numbers as rows, sorted by their tens.
+struct Numbers
+{
+    std::vector<int> all;
+    int leftToCompare = INT_MAX;
+    int swaps = 0;
+
+    int CellAt(int nRow) const { return all[nRow]; }
+    int Compare(int first, int second)
+    {
+        --leftToCompare;
+        return first / 10 - second / 10;
+    }
+    void Swap(int nRow, int nOther)
+    {
+        EXPECT_NE(all[nRow] / 10, all[nOther] / 10) << "equal ones stay";
+        std::swap(all[nRow], all[nOther]);
+        ++swaps;
+    }
+    bool Broken() const { return leftToCompare <= 0; }
+};
+} // namespace
+
+TEST(RowSorter, SortsBothWaysAndLeavesTheRestAlone)
+{
+    std::mt19937 random(5);
+    for (int round = 0; round < 200; ++round)
+    {
+        Numbers rows;
+        for (int i = 0; i < 40; ++i)
+            rows.all.push_back(static_cast<int>(random() % (round + 2)));
+        const bool ascending = round % 2 != 0;
+        std::vector<int> expected = rows.all;
+        const auto byTens = [&](int a, int b) { return ascending ? a / 10 < b / 10 : a / 10 > b / 10; };
+        std::sort(expected.begin() + 2, expected.begin() + 38, byTens);
+        CRowSorter(rows, ascending).Sort(2, 37);
+        const auto tens = [](std::vector<int> numbers)
+        {
+            for (int& n : numbers)
+                n /= 10;
+            return numbers;
+        };
+        ASSERT_EQ(tens(rows.all), tens(expected));
+        ASSERT_EQ(rows.all[0], expected[0]);
+        ASSERT_EQ(rows.all[39], expected[39]);
+    }
+}
+
+TEST(RowSorter, StopsWhereItIsBrokenAndTakesAnyOrder)
+{
+    for (int compared = 1; compared < 30; ++compared)
+    {
+        Numbers rows{{50, 40, 30, 20, 10}, compared};
+        CRowSorter(rows, true).Sort(0, 4);
+        EXPECT_GE(rows.leftToCompare, 0) << "nothing is compared any more";
+    }
+    Numbers first{{50, 10}, 1};
+    CRowSorter(first, true).Sort(0, 1);
+    EXPECT_EQ(first.swaps, 0);
+    Numbers many;
+    for (int i = 0; i < 100000; ++i)
+        many.all.push_back(i / 70);
+    CRowSorter(many, false).Sort(0, 99999);
+    EXPECT_TRUE(
+        std::is_sorted(many.all.rbegin(), many.all.rend(), [](int a, int b) { return a / 10 < b / 10; }));
+}
+
+// ---- Files and widths -------------------------------------------------------------------------------------
+
+TEST(TextFields, EndAtSeparatorsAndGoOnBehindAnUnendedLine)
+{
+    using Fields = std::vector<std::wstring>;
+    struct Case
+    {
+        std::wstring line; ///< what the line left of the one before it, if any, follows a 0
+        Fields fields;
+    };
+    for (const Case& c : {Case{L"a;b\n", {L"a", L"b"}},
+                          {L"x;;y\n", {L"x", L"", L"y"}},
+                          {L"\n", {L""}},
+                          {L"", {}},
+                          {L"a,b", {L"a,b"}},
+                          {L"end;\n", {L"end", L""}},
+                          {std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
+                          {std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
+                          {std::wstring(1023, L';'), Fields(1023)}})
+    {
+        wchar_t line[CTextFields::c_nLineSize] = {};
+        std::copy(c.line.begin(), c.line.end(), line);
+        CTextFields fields(line, L';');
+        Fields found;
+        while (const wchar_t* const field = fields.Next())
+            found.push_back(field);
+        EXPECT_EQ(found, c.fields) << c.line.c_str();
+    }
+}
+
+TEST(SavedWidths, AreKeptUnderTheirKey)
+{
+    CGridAxis columns;
+    columns.SetCount(3, 60);
+    columns.SetSize(1, 123);
+    const CString key = CSavedWidths::KeyOf(L"GridWidthsTest", 4);
+    CSavedWidths(key).Write(columns);
+    CSavedWidths(CString()).Write(columns); // nothing is written, and nothing read
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_1", -1), 123u);
+    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"_col_1", 7), 7u);
+    EXPECT_EQ(CSavedWidths(key).Read(1, 50), 123);
+    EXPECT_EQ(CSavedWidths(key).Read(2, 50), 60);
+    EXPECT_EQ(CSavedWidths(key).Read(3, 50), 50);
+    EXPECT_EQ(CSavedWidths(CString()).Read(1, 50), 50);
+    AfxGetApp()->WriteProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_3", -9);
+    EXPECT_EQ(CSavedWidths(key).Read(3, 50), 0) << "nobody has a negative width";
+}
