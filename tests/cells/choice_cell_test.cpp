@@ -123,6 +123,17 @@ TEST_F(CheckCells, SetCheckRepaintsWhatWasDrawnAndAnswersTheOldState)
     EXPECT_TRUE(grid.GetUpdateRect(&update));
     EXPECT_EQ(update, CellRect());
     EXPECT_TRUE(told.empty());
+    CGridCellCheck copy;
+    copy = *cell;
+    for (const auto& change : {std::function([&] { copy.SetCheck(0); }),
+                               std::function([&] { copy.OnClick(CPoint(margin, margin)); })})
+    {
+        grid.UpdateWindow();
+        change();
+        EXPECT_TRUE(grid.GetUpdateRect(&update)) << "a copy stands where the other was drawn";
+        EXPECT_EQ(update, CellRect());
+    }
+    told.clear();
 
     grid.UpdateWindow();
     CGridCellCheck undrawn;
@@ -149,6 +160,12 @@ TEST_F(CheckCells, TheTextStandsClearOfTheBox)
     rect = CRect(100, 10, 110, 40);
     cell->GetTextRect(&rect);
     EXPECT_EQ(rect.left, 110) << "never past the right edge";
+    grid.SetImageList(&CGridCtrl::GridImageList);
+    cell->SetImage(0);
+    rect = CRect(100, 10, 180, 40);
+    cell->GetTextRect(&rect);
+    EXPECT_EQ(rect.left, 100 + room + 17 + margin) << "nor under its image";
+    cell->SetImage(-1);
     EXPECT_EQ(cell->GetCellExtent(nullptr), cell->GetTextExtent(cell->GetText()) + CSize(room, room));
 
     const CRect box(margin, margin, margin + kBoxSize, margin + kBoxSize);

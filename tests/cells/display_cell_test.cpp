@@ -143,19 +143,17 @@ TEST_F(PatternCells, RunThroughWhateverPartIsPaintedThroughABuffer)
     grid.SetDoubleBuffering(TRUE);
     CRect rect;
     grid.GetCellRect(kRow, kCol, &rect);
-    const auto pixelsAfter = [&](const CRect& painted)
+    const auto paint = [&](const CRect& part, Canvas& into)
     {
-        grid.InvalidateRect(painted);
+        grid.InvalidateRect(part);
         grid.UpdateWindow();
         CClientDC dc(&grid);
-        std::vector<COLORREF> found;
-        for (int y = rect.top; y < rect.bottom; ++y)
-            for (int x = rect.left; x < rect.right; ++x)
-                found.push_back(dc.GetPixel(x, y));
-        return found;
+        into.dc().BitBlt(0, 0, rect.Width(), rect.Height(), &dc, rect.left, rect.top, SRCCOPY);
     };
-    const auto whole = pixelsAfter(CRect(0, 0, 300, 200));
-    EXPECT_EQ(pixelsAfter(CRect(rect.left + 3, rect.top + 5, rect.right - 9, rect.bottom - 8)), whole);
+    Canvas whole, part;
+    paint(CRect(0, 0, 300, 200), whole);
+    paint(CRect(rect.left + 3, rect.top + 5, rect.right - 9, rect.bottom - 8), part);
+    EXPECT_TRUE(part == whole);
 }
 
 // ---- Image ------------------------------------------------------------------------------------------------
@@ -354,40 +352,30 @@ TEST_F(AnsiCells, AGridIsPreparedWhereTheCharacterSetIsAnother)
     EXPECT_TRUE(newIsAnsi());
 }
 
-TEST_F(AnsiCells, TakeALongTextUndoneAndRedoneAndAgainInTheSameCell)
+TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
 {
     Make(RUNTIME_CLASS(CAnsiGridCell));
     constexpr int kFonts = 0x0A; // type of a GDI object
     const int fonts = owtest::CountGdiObjects(kFonts);
+    grid.SetFocusCell(kRow, kCol);
     for (int i = 0; i < 2; ++i)
     {
-        const std::wstring text = Text(kRow, kCol);
-        grid.SetFocusCell(kRow, kCol);
+        const std::wstring expected = Text(kRow, kCol) + std::wstring(60, L'\u0394');
         ClickCell(kRow, kCol);
         ASSERT_TRUE(EditorOpens(kRow, kCol));
         EXPECT_EQ(owtest::FontOf(Editor()).lfCharSet, GREEK_CHARSET) << i;
-        EXPECT_STREQ(gfnWholeText(Editor()), text.c_str()) << i;
-        for (const wchar_t letter : {L'\u0394', L'\u03bf', L'\u03ba', L'x', L'7'})
-            owtest::Type(std::wstring(12, letter));
-        const CString typed = gfnWholeText(Editor());
-        EXPECT_EQ(typed.GetLength(), static_cast<int>(text.size()) + 60);
-        for (int toggle = 0; toggle < 4; ++toggle)
-        {
-            owtest::Press('Z', false, true);
-            EXPECT_EQ(gfnWholeText(Editor()) == typed, toggle % 2 != 0) << "undone, redone";
-        }
+        owtest::Type(std::wstring(60, L'\u0394'));
+        EXPECT_STREQ(gfnWholeText(Editor()), expected.c_str()) << i;
         End(VK_RETURN);
-        EXPECT_STREQ(Text(kRow, kCol).c_str(), typed);
+        EXPECT_EQ(Text(kRow, kCol), expected);
         EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "a font for the length of an edit";
-
-        ClickCell(1, 1); // a click on the focus cell would begin the edit
-        ClickCell(kRow, kCol);
-        owtest::Type(L"\u03b1\u03b2");
-        ASSERT_TRUE(EditorOpens(kRow, kCol));
-        EXPECT_STREQ(gfnWholeText(Editor()), L"\u03b1\u03b2") << "the first key replaces, as in any cell";
-        End(VK_ESCAPE);
-        EXPECT_STREQ(Text(kRow, kCol).c_str(), typed);
     }
+    ClickCell(1, 1); // a click on the focus cell would begin the edit
+    ClickCell(kRow, kCol);
+    owtest::Type(L"\u03b1\u03b2");
+    ASSERT_TRUE(EditorOpens(kRow, kCol));
+    EXPECT_STREQ(gfnWholeText(Editor()), L"\u03b1\u03b2") << "the first key replaces, as in any cell";
+    End(VK_ESCAPE);
 }
 
 TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)
@@ -418,7 +406,6 @@ TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)
     EXPECT_TRUE(byGreek.Edit(kRow, kCol, CRect(), CPoint(), InPlaceControlId, L'+'));
     EXPECT_STREQ(gfnWholeText(*byGreek.GetEditWnd()), L"3+") << "the key goes to the open editor";
     copy = byRussian;
-    EXPECT_EQ(copy.GetGrid(), &grid);
     grid.DestroyWindow();
     EXPECT_TRUE(copy.Edit(kRow, kCol, CRect(0, 0, 9, 9), CPoint(), InPlaceControlId, VK_LBUTTON))
         << "no window";
