@@ -2,8 +2,6 @@
 
 #include "GridFixture.h"
 
-#include "Picture.h"
-
 class GridGeometry : public GridTest
 {
 protected:
@@ -114,11 +112,10 @@ TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
     {
         CRect window;
         grid.GetWindowRect(&window);
-        owtest::Surface whole(window.Width(), window.Height());
-        owtest::Capture(grid, whole);
+        CWindowDC dc(&grid);
         std::vector<COLORREF> pixels;
         for (int y = 20; y < 180; ++y)
-            pixels.push_back(whole.at(window.Width() - 8, y));
+            pixels.push_back(dc.GetPixel(window.Width() - 8, y));
         return pixels;
     };
     const auto atTop = barOnScreen();

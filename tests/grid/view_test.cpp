@@ -53,6 +53,8 @@ TEST_F(GridView, ACellScrolledAwayHasNoPlaceAndOneFarBelowHas)
 {
     topLeft = CCellID(4, 2);
     const CGridView view = View();
+    EXPECT_EQ(view.Visible(), CCellRange(4, 2, 12, 5));
+    EXPECT_EQ(view.VisibleWhole(), CCellRange(4, 2, 12, 5));
     CPoint origin(-7, -7);
     for (const CCellID cell : {CCellID(3, 2), CCellID(3, 0), CCellID(4, 1), CCellID(0, 1), CCellID(kRows, 2),
                                CCellID(4, kCols), CCellID(-1, 2), CCellID(4, -1)})
@@ -148,13 +150,32 @@ TEST_F(GridView, AHiddenItemIsOpenedOrPassedOver)
 TEST_F(GridView, ANearlyClosedLastItemCanStillBeTaken)
 {
     cols.SetCount(4, 0);
-    cols.SetSize(3, 2);
-    for (const auto& [x, nCol] : {std::pair(181, 3), std::pair(180, 3), std::pair(179, 2), std::pair(178, 2)})
+    struct Case
     {
-        CCellID cell(0, x < 180 ? 2 : 3);
-        EXPECT_TRUE(Dividers(EGridWay::eColumns).Take(cell, CPoint(x, 5), true).bHeld);
-        EXPECT_EQ(cell.col, nCol) << x;
+        int nSize, x, nTaken;
+    };
+    for (const Case& c : {Case{0, 179, 3}, Case{0, 178, 3}, Case{0, 177, 2}, Case{1, 179, 3}, Case{1, 178, 2},
+                          Case{2, 181, 3}, Case{2, 180, 3}, Case{2, 179, 2}, Case{3, 181, 2}})
+    {
+        cols.SetSize(3, c.nSize);
+        CCellID cell(0, c.x < 180 ? 2 : 3);
+        EXPECT_TRUE(Dividers(EGridWay::eColumns).Take(cell, CPoint(c.x, 5), true).bHeld);
+        EXPECT_EQ(cell.col, c.nTaken) << c.x << " at " << c.nSize;
     }
+}
+
+TEST_F(GridView, WhatIsScrolledAwayIsMarkedAndNotHeld)
+{
+    topLeft = CCellID(4, 2);
+    CCellID cell(0, 3);
+    EXPECT_TRUE(Dividers(EGridWay::eColumns).Take(cell, CPoint(121, 5), true).bHeld)
+        << "a column is looked up in the headings";
+    cell = CCellID(0, 2);
+    const CGridDividers::STaken taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(61, 5), true);
+    EXPECT_TRUE(taken.bMarked && !taken.bHeld);
+    EXPECT_EQ(cell, CCellID(0, 1));
+    cell = CCellID(0, 1);
+    EXPECT_FALSE(Dividers(EGridWay::eColumns).Take(cell, CPoint(61, 5), true).bMarked);
 }
 
 TEST_F(GridView, AReleaseGivesTheSize)
@@ -203,6 +224,7 @@ TEST(GridBars, OneBarMayMakeTheOtherNecessary)
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
 {
     rows.SetSize(3, 0);
+    rows.SetSize(7, 1);
     struct Case
     {
         UINT nCode;
@@ -210,13 +232,13 @@ TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
         std::optional<int> nNewPos;
     };
     for (const Case& c :
-         {Case{SB_LINEDOWN, 20, 2, 40}, Case{SB_LINEDOWN, 40, 3, 60}, Case{SB_LINEDOWN, 379, 19, {}},
-          Case{SB_LINEDOWN, 370, 20, 390}, Case{SB_LINEUP, 40, 4, 20}, Case{SB_LINEUP, 0, 1, {}},
-          Case{SB_LINEUP, 5, 2, 0}, Case{SB_LINEUP, 5, 1, {}}, Case{SB_PAGEDOWN, 0, 1, 180},
-          Case{SB_PAGEDOWN, 300, 16, 379}, Case{SB_PAGEDOWN, 379, 20, {}}, Case{SB_PAGEUP, 200, 11, 20},
-          Case{SB_PAGEUP, 100, 6, 0}, Case{SB_PAGEUP, 0, 1, {}}, Case{SB_TOP, 9, 2, 0},
-          Case{SB_TOP, 0, 1, {}}, Case{SB_BOTTOM, 9, 2, 379}, Case{SB_BOTTOM, 379, 20, {}},
-          Case{SB_ENDSCROLL, 9, 2, {}}})
+         {Case{SB_LINEDOWN, 20, 2, 40},   Case{SB_LINEDOWN, 40, 3, 60},   Case{SB_LINEDOWN, 100, 7, 101},
+          Case{SB_LINEUP, 101, 8, 100},   Case{SB_LINEDOWN, 379, 19, {}}, Case{SB_LINEDOWN, 370, 20, 390},
+          Case{SB_LINEUP, 40, 4, 20},     Case{SB_LINEUP, 0, 1, {}},      Case{SB_LINEUP, 5, 2, 0},
+          Case{SB_LINEUP, 5, 1, {}},      Case{SB_PAGEDOWN, 0, 1, 180},   Case{SB_PAGEDOWN, 300, 16, 379},
+          Case{SB_PAGEDOWN, 379, 20, {}}, Case{SB_PAGEUP, 200, 11, 20},   Case{SB_PAGEUP, 100, 6, 0},
+          Case{SB_PAGEUP, 0, 1, {}},      Case{SB_TOP, 9, 2, 0},          Case{SB_TOP, 0, 1, {}},
+          Case{SB_BOTTOM, 9, 2, 379},     Case{SB_BOTTOM, 379, 20, {}},   Case{SB_ENDSCROLL, 9, 2, {}}})
         EXPECT_EQ(gfnScrolledPos(c.nCode, rows, {c.nPos, 379, 180, c.nFirst}), c.nNewPos)
             << c.nCode << " at " << c.nPos;
 }
