@@ -104,9 +104,8 @@ TEST(DoubleText, HasAPointInALocaleWithAComma)
 TEST(DoubleText, IsTheSameWhereItIsWrittenFast)
 {
     // clang-format off
-    const double special[] = {0.0, -0.0, 0.5, 2.5, 0.125, 0.375, -0.001, 1.005, 2.675, 9.995, 99.5, 0.0000005,
-                              999999.9999995, 4503599627370495.5, 9007199254740993.0, 1e22, DBL_MAX, DBL_MIN,
-                              -HUGE_VAL};
+    const double special[] = {0.0, -0.0, 0.5, 2.5, 0.125, 0.375, -0.001, 1.005, 2.675, 9.995, 99.5, 0.0000005, 1e22,
+                              999999.9999995, 4503599627370495.5, 9007199254740993.0, DBL_MAX, DBL_MIN, -HUGE_VAL};
     // clang-format on
     for (const double value : special)
         for (const int decimals : {-1, 0, 1, 2, 3, 6, 7, 40, 1000})

@@ -305,8 +305,8 @@ TEST_F(ExtGrid, TheHookAnswersForTheParent)
             EXPECT_EQ(Notify(grid, nCode, nRow, 1), 1);
     RightClick(grid, CPoint(290, 190)); // outside all cells
     EXPECT_EQ(Notify(grid, NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
-    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,1 2/1", "77 text 2,2 2/2", "77 row 3 after -1", "77 row 1 after 3",
-                                     "77 rclick 3", "77 rclick 1", "77 rclick 1"}));
+    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,1 2/1", "77 text 2,2 2/2", "77 row 3 after -1",
+                                     "77 row 1 after 3", "77 rclick 3", "77 rclick 1", "77 rclick 1"}));
     grid.m_crSelectedRow = CLR_NONE;
     grid.SelectRowEx(1, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 0"}) << "a fixed row is remembered as it came";

@@ -221,6 +221,7 @@ TEST(SavedWidths, AreKeptUnderTheirKey)
     columns.SetCount(3, 60);
     columns.SetSize(1, 123);
     const CString key = CSavedWidths::KeyOf(L"GridWidthsTest", 4);
+    AfxGetApp()->WriteProfileString(L"OstrelWorks", key + L"_col_3", nullptr); // of an earlier run
     CSavedWidths(key).Write(columns);
     CSavedWidths(CString()).Write(columns); // nothing is written, and nothing read
     EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_1", -1), 123u);

@@ -48,6 +48,10 @@ TEST_F(GridStorage, CountsChangeAndKeepWhatFits)
     EXPECT_EQ(grid.GetCell(3, 2), nullptr);
     EXPECT_EQ(grid.GetRowHeight(5), grid.GetDefCellHeight());
 
+    grid.SetItemState(4, 1, CELL_SELECTED);
+    EXPECT_TRUE(grid.SetRowCount(4));
+    EXPECT_EQ(grid.GetSelectedCount(), 0) << "a cell that goes leaves the selection";
+
     EXPECT_TRUE(grid.SetRowCount(0));
     EXPECT_EQ(grid.GetFixedRowCount(), 0);
     EXPECT_EQ(grid.GetColumnCount(), 2);
@@ -277,6 +281,10 @@ TEST(GridDefaults, CreateForgetsSizesAndGivesASunkenEdge)
     grid.GetClientRect(&client);
     EXPECT_EQ(client.Size(), CSize(300, 200));
     EXPECT_TRUE(grid.Initialise());
+    grid.AutoFill();
+    EXPECT_EQ(grid.GetRowCount(), 200 / grid.GetDefCellHeight() + 1);
+    EXPECT_EQ(grid.GetColumnCount(), 300 / grid.GetDefCellWidth() + 1);
+    EXPECT_TRUE(grid.IsCellFixed(0, 1) && grid.IsCellFixed(1, 0) && !grid.IsCellFixed(1, 1));
 
     WNDCLASS windowClass;
     ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), L"MFCGridCtrl", &windowClass));

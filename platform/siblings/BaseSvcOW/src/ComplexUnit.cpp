@@ -81,9 +81,8 @@ double CComplexUnit::ToLocal(double dGlobal, const CUnitsConvertor& convertor) c
     // Both ways round, so the way back may miss by a last bit the number that was typed. If the decimal
     // number next to the result leads to the very same global value, it is the one that was meant.
     const double dDecimal = NearestDecimal(dLocal);
-    if (ApplyRatio(dDecimal, ratio.dNumerator, ratio.dDenominator) == dGlobal) [[likely]]
-        return dDecimal;
-    return dLocal;
+    const bool bSameGlobal = ApplyRatio(dDecimal, ratio.dNumerator, ratio.dDenominator) == dGlobal;
+    return bSameGlobal ? dDecimal : dLocal;
 }
 
 double CComplexUnit::ToGlobal(double dLocal, const CUnitsConvertor& convertor) const
