@@ -49,7 +49,8 @@ void CPageComboCtrlGroup::SetCurrentPage(CPage* pPage)
     {
         CPage* pOld = GetPage(currentRow, IsToggleVisible(), currentSecondary);
         currentSecondary = rows.IsPrimary(nPage) ? 0 : 1;
-        TellSelected(GetPage(nRow, bHasSecondary, currentSecondary), pOld);
+        if (!TellSelected(GetPage(nRow, bHasSecondary, currentSecondary), pOld))
+            return;
     }
     combo.SetCurSel(nRow);
     ShowToggle(bHasSecondary);
@@ -71,8 +72,8 @@ void CPageComboCtrlGroup::OnExtComboBoxSelChanged(int nId, int nRow)
         return;
     CPage* pOld = GetPage(currentRow, IsToggleVisible(), GetToggleState());
     ShowToggle(rows.Secondary(nRow) != nullptr);
-    TellSelected(GetPage(nRow, IsToggleVisible(), GetToggleState()), pOld);
     currentRow = nRow;
+    TellSelected(GetPage(nRow, IsToggleVisible(), GetToggleState()), pOld);
 }
 
 void CPageComboCtrlGroup::OnButtonClicked(int nId)
@@ -82,11 +83,11 @@ void CPageComboCtrlGroup::OnButtonClicked(int nId)
     const int nState = ClickToggle();
     CPage* pPrimary = rows.Primary(currentRow);
     CPage* pSecondary = rows.Secondary(currentRow);
+    currentSecondary = nState;
     if (nState)
         TellSelected(pSecondary, pPrimary);
     else
         TellSelected(pPrimary, pSecondary);
-    currentSecondary = nState;
 }
 
 int CPageComboCtrlGroup::FindPage(CPage* pPage) const
@@ -120,9 +121,13 @@ void CPageComboCtrlGroup::ShowToggle(bool bShow)
     Toggle().ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 
-void CPageComboCtrlGroup::TellSelected(CPage* pNew, CPage* pOld)
+bool CPageComboCtrlGroup::TellSelected(CPage* pNew, CPage* pOld)
 {
-    for (INT_PTR i = 0; i < selectClients.GetSize(); ++i)
+    const int selection = ++selections;
+    CPage* const pTold = std::exchange(pageBeingTold, pNew);
+    for (INT_PTR i = 0; i < selectClients.GetSize() && selection == selections; ++i)
         if (auto* pClient = selectClients[i])
-            pClient->PageSelected(pNew, pOld);
+            pClient->PageSelected(pNew, pTold ? pTold : pOld);
+    pageBeingTold = pTold;
+    return selection == selections;
 }

@@ -98,13 +98,16 @@ private:
     CButton& Toggle() { return const_cast<CButton&>(std::as_const(*this).Toggle()); }
     BOOL IsToggleVisible() const;
     void ShowToggle(bool bShow);
-    void TellSelected(CPage* pNew, CPage* pOld);
+    /// False if a client has selected another page meanwhile, in place of this one: that selection counts.
+    bool TellSelected(CPage* pNew, CPage* pOld);
 
     int comboId;
     int toggleId;
     CExtComboBox combo;
     ow::CClientList<ASelectPageNotificationClient> selectClients;
     ow::CPageComboRows rows;
-    int currentRow = -1;      ///< as last told to the clients
-    int currentSecondary = 0; ///< the toggle's state, as last told by a click or by SetCurrentPage
+    int selections = 0;             ///< how many were told
+    CPage* pageBeingTold = nullptr; ///< while the clients are told
+    int currentRow = -1;            ///< as last told to the clients
+    int currentSecondary = 0;       ///< the toggle's state, as last told by a click or by SetCurrentPage
 };

@@ -119,7 +119,7 @@ class PagesSequence : public owtest::Sequence
 
     void Step() override
     {
-        m_nReactions = 0;
+        m_bReacted = false;
         Do(Pick(kOperations));
         owtest::Pump();
     }
@@ -159,11 +159,13 @@ class PagesSequence : public owtest::Sequence
         }
     }
 
-    /// What a dialog or client does in a call of the library's.
+    /// What a dialog or client does in a call of the library's: one thing, in one call of a step.
     void React()
     {
-        if (++m_nReactions < 4 && Pick(3) == 0)
-            Do(kFirstOfHandlers + Pick(kOperations - kFirstOfHandlers));
+        if (m_bReacted || Pick(3))
+            return;
+        m_bReacted = true;
+        Do(kFirstOfHandlers + Pick(kOperations - kFirstOfHandlers));
     }
 
     SoakPage* SomePage()
@@ -214,7 +216,8 @@ class PagesSequence : public owtest::Sequence
     {
         if (m_pHost->pages.size() > 25)
             return;
-        SoakPage* const pParent = Pick(2) ? SomePage() : nullptr;
+        // A child takes the place of the one before: not behind a page that shows.
+        SoakPage* const pParent = Pick(2) && !m_pHost->pTold ? SomePage() : nullptr;
         SoakPageDialog* const pDialog = Pick(6) ? SomeDialog() : nullptr;
         const auto nDialog =
             std::find(m_pHost->dialogs.begin(), m_pHost->dialogs.end(), pDialog) - m_pHost->dialogs.begin();
@@ -292,7 +295,7 @@ class PagesSequence : public owtest::Sequence
             Expect(m_pHost->selector.GetCount() == m_pHost->pages.size(), "items of the tree");
     }
 
-    int m_nReactions = 0;
+    bool m_bReacted = false;
     int m_nPages = 0;
     std::unique_ptr<Host> m_pHost = NewHost();
 };
