@@ -209,7 +209,7 @@ class ControlsSequence : public owtest::Sequence
     void Choose()
     {
         const WORD nId = Pick(2) ? idCombo : idUnit;
-        const int nRow = Pick(6) - 1;
+        const int nRow = Pick(3);
         Say("choose", nId, nRow);
         Control(nId).SendMessage(CB_SETCURSEL, nRow);
         m_dialog.SendMessage(WM_COMMAND, MAKEWPARAM(nId, CBN_SELCHANGE),

@@ -228,8 +228,10 @@ class PagesSequence : public owtest::Sequence
     }
     void Select()
     {
-        SoakPage* const pPage = Pick(8) ? SomePage() : nullptr;
-        Say("select", pPage ? pPage->GetPageID() : -1);
+        SoakPage* const pPage = SomePage();
+        if (!pPage)
+            return;
+        Say("select", pPage->GetPageID());
         m_pHost->selector.SetCurrentPage(pPage);
     }
     void SelectByUser()
@@ -238,10 +240,11 @@ class PagesSequence : public owtest::Sequence
         static constexpr WORD kKeys[] = {VK_DOWN, VK_UP, VK_HOME, VK_END, VK_RIGHT, VK_LEFT, VK_RETURN};
         const int nKey = Pick(static_cast<int>(std::size(kKeys)) + 2);
         Say("key", nKey, "in the selector");
-        if (nKey >= static_cast<int>(std::size(kKeys)))
-            m_pHost->GetDlgItem(idToggle)->SendMessage(BM_CLICK);
-        else
+        CWnd* const pToggle = m_pHost->GetDlgItem(idToggle);
+        if (nKey < static_cast<int>(std::size(kKeys)))
             pSelector->SendMessage(WM_KEYDOWN, kKeys[nKey], 1);
+        else if (pToggle->IsWindowVisible() && pToggle->IsWindowEnabled())
+            pToggle->SendMessage(BM_CLICK);
     }
     void MoveFocus()
     {
