@@ -9,6 +9,12 @@ namespace owtest
 {
 namespace
 {
+#ifdef OW_CHECK
+constexpr ULONGLONG kPatience = 4; // the report of a fatal assertion reads the symbols of all modules
+#else
+constexpr ULONGLONG kPatience = 1;
+#endif
+
 std::map<std::string, ScenarioFunction, std::less<>>& Scenarios()
 {
     static std::map<std::string, ScenarioFunction, std::less<>> scenarios;
@@ -219,7 +225,7 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
     writeEnd.Close();
     result.started = true;
 
-    const ULONGLONG deadline = GetTickCount64() + options.timeoutMs;
+    const ULONGLONG deadline = GetTickCount64() + kPatience * options.timeoutMs;
     int breakpoints = 0;
     while (!ServeDebugEvents(created.dwProcessId, result, breakpoints))
     {
