@@ -14,7 +14,7 @@ CPageTreeCtrl::CPageTreeCtrl() = default;
 CPageTreeCtrl::~CPageTreeCtrl() = default;
 
 BEGIN_MESSAGE_MAP(CPageTreeCtrl, CTreeCtrl)
-    ON_NOTIFY_REFLECT(TVN_SELCHANGED, OnTvnSelchanged)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGED, &CPageTreeCtrl::OnTvnSelchanged)
 END_MESSAGE_MAP()
 
 void CPageTreeCtrl::OnTvnSelchanged(NMHDR* pNMHDR, LRESULT* pResult)

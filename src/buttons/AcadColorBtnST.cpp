@@ -54,7 +54,7 @@ CAcadColorBtnST::~CAcadColorBtnST()
 }
 
 BEGIN_MESSAGE_MAP(CAcadColorBtnST, CButtonST)
-    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT(BN_CLICKED, &CAcadColorBtnST::OnClicked)
     ON_WM_ENABLE()
     ON_WM_DESTROY()
 END_MESSAGE_MAP()

@@ -88,7 +88,7 @@ CBitmapBtnST::CBitmapBtnST(ABitmapBtnSTNotificationHandler* pHandler) : m_pChoic
 CBitmapBtnST::~CBitmapBtnST() = default;
 
 BEGIN_MESSAGE_MAP(CBitmapBtnST, CButtonST)
-    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT(BN_CLICKED, &CBitmapBtnST::OnClicked)
     ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 

@@ -11,7 +11,7 @@ CExtButton::CExtButton(AButtonSTNotificationHandler* pHandler) : m_pHandler(pHan
 }
 
 BEGIN_MESSAGE_MAP(CExtButton, CButton)
-    ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, &CExtButton::OnClicked)
 END_MESSAGE_MAP()
 
 // False: the parent receives the command, too, unless the handler has closed it.

@@ -113,7 +113,7 @@ CMixedFontButton::~CMixedFontButton() = default;
 BEGIN_MESSAGE_MAP(CMixedFontButton, CExtButton)
     ON_WM_ENABLE()
     ON_WM_LBUTTONDBLCLK()
-    ON_MESSAGE(WM_SETTEXT, OnSetText)
+    ON_MESSAGE(WM_SETTEXT, &CMixedFontButton::OnSetText)
 END_MESSAGE_MAP()
 
 // A window that is disabled while it has the focus loses it as a disabled one, which does not note the loss.

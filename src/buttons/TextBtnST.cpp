@@ -28,7 +28,7 @@ CTextBtnST::CTextBtnST(ATextBtnSTNotificationHandler* pHandler) : m_pHandler(pHa
 }
 
 BEGIN_MESSAGE_MAP(CTextBtnST, CButtonST)
-    ON_CONTROL_REFLECT_EX(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, &CTextBtnST::OnClicked)
     ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 

@@ -65,10 +65,10 @@ BEGIN_MESSAGE_MAP(CInPlaceList, CComboBox)
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()
     ON_WM_KEYUP()
-    ON_CONTROL_REFLECT(CBN_DROPDOWN, OnDropdown)
+    ON_CONTROL_REFLECT(CBN_DROPDOWN, &CInPlaceList::OnDropdown)
     ON_WM_GETDLGCODE()
     ON_WM_CTLCOLOR_REFLECT()
-    ON_CONTROL_REFLECT(CBN_SELENDOK, OnSelendok)
+    ON_CONTROL_REFLECT(CBN_SELENDOK, &CInPlaceList::OnSelendok)
 END_MESSAGE_MAP()
 
 // With an edit part, that one decides: the focus goes back and forth between the two.

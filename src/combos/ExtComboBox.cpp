@@ -15,8 +15,8 @@ BEGIN_MESSAGE_MAP(CExtComboBox, CComboBox)
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
-    ON_CONTROL_REFLECT(CBN_SELCHANGE, OnSelChange)
-    ON_CONTROL_REFLECT(CBN_DROPDOWN, OnDropDown)
+    ON_CONTROL_REFLECT(CBN_SELCHANGE, &CExtComboBox::OnSelChange)
+    ON_CONTROL_REFLECT(CBN_DROPDOWN, &CExtComboBox::OnDropDown)
 END_MESSAGE_MAP()
 
 // Without DLGC_WANTALLKEYS the dialog would take Tab, Enter and Escape before the combo box sees them.

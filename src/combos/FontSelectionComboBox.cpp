@@ -56,8 +56,8 @@ BEGIN_MESSAGE_MAP(CFontSelectionComboBox, CComboBox)
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
     ON_WM_CHAR()
-    ON_CONTROL_REFLECT(CBN_SELCHANGE, OnSelChange)
-    ON_CONTROL_REFLECT(CBN_DROPDOWN, OnDropDown)
+    ON_CONTROL_REFLECT(CBN_SELCHANGE, &CFontSelectionComboBox::OnSelChange)
+    ON_CONTROL_REFLECT(CBN_DROPDOWN, &CFontSelectionComboBox::OnDropDown)
 END_MESSAGE_MAP()
 
 int CFontSelectionComboBox::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -171,7 +171,7 @@ void CFontSelectionComboBox::AddFont(const LOGFONT& logFont)
     const int nItem = AddString(logFont.lfFaceName);
     if (nItem < 0)
         return;
-    m_rows.push_back(std::make_unique<SFontRow>(logFont, gFontManager.Find(logFont.lfFaceName)));
+    m_rows.push_back(std::make_unique<SFontRow>(SFontRow{logFont, gFontManager.Find(logFont.lfFaceName)}));
     SetItemDataPtr(nItem, m_rows.back().get());
 }
 

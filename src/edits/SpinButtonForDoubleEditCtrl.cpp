@@ -5,7 +5,7 @@
 #include "edits/EditDoubleWithRange.h"
 
 BEGIN_MESSAGE_MAP(CSpinButtonForDoubleEditCtrl, CSpinButtonCtrl)
-    ON_NOTIFY_REFLECT(UDN_DELTAPOS, OnDeltapos)
+    ON_NOTIFY_REFLECT(UDN_DELTAPOS, &CSpinButtonForDoubleEditCtrl::OnDeltapos)
 END_MESSAGE_MAP()
 
 void CSpinButtonForDoubleEditCtrl::OnDeltapos(NMHDR* pNMHDR, LRESULT* pResult)

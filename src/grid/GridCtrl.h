@@ -168,6 +168,7 @@ struct SGridColors;
 class OW_DIALOGCONTROLS_API CGridCtrl : public CWnd
 {
     DECLARE_DYNCREATE(CGridCtrl)
+    using CWnd::Create;
 
 public:
     explicit CGridCtrl(int nRows = 0, int nCols = 0, int nFixedRows = 0, int nFixedCols = 0);

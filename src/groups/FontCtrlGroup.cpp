@@ -17,7 +17,7 @@ CComplexUnit Millimetre()
 // ---- The colour button ------------------------------------------------------------------------------------
 
 BEGIN_MESSAGE_MAP(CFontCtrlGroup::CColorButton, CAcadColorBtnST)
-    ON_CONTROL_REFLECT(BN_CLICKED, OnClicked)
+    ON_CONTROL_REFLECT(BN_CLICKED, &CFontCtrlGroup::CColorButton::OnClicked)
 END_MESSAGE_MAP()
 
 void CFontCtrlGroup::CColorButton::OnClicked()

@@ -96,6 +96,8 @@ public:
 class AFX_CORE_CLASS CSpinButtonCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CSpinButtonCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CSpinButtonCtrl();
@@ -129,6 +131,8 @@ public:
 class AFX_CORE_CLASS CSliderCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CSliderCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CSliderCtrl();
@@ -176,6 +180,8 @@ public:
 class AFX_CORE_CLASS CProgressCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CProgressCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CProgressCtrl();
@@ -202,6 +208,8 @@ public:
 class AFX_CORE_CLASS CHotKeyCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CHotKeyCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CHotKeyCtrl();
@@ -231,6 +239,8 @@ public:
 class AFX_CORE_CLASS CToolTipCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CToolTipCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CToolTipCtrl();
@@ -286,6 +296,8 @@ protected:
 class AFX_CORE_CLASS CHeaderCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CHeaderCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CHeaderCtrl();
@@ -329,6 +341,8 @@ protected:
 class AFX_CORE_CLASS CTabCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CTabCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CTabCtrl();
@@ -382,6 +396,8 @@ protected:
 class AFX_CORE_CLASS CStatusBarCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CStatusBarCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CStatusBarCtrl();
@@ -420,6 +436,8 @@ protected:
 class AFX_CORE_CLASS CTreeCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CTreeCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CTreeCtrl();
@@ -521,6 +539,8 @@ protected:
 class AFX_CORE_CLASS CListCtrl : public CWnd
 {
     DECLARE_DYNAMIC(CListCtrl)
+    using CWnd::Create;
+    using CWnd::CreateEx;
 
 public:
     CListCtrl();

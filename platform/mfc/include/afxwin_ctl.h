@@ -21,6 +21,7 @@
 class AFX_CORE_CLASS CStatic : public CWnd
 {
     DECLARE_DYNAMIC(CStatic)
+    using CWnd::Create;
 
 public:
     CStatic();
@@ -50,6 +51,7 @@ protected:
 class AFX_CORE_CLASS CButton : public CWnd
 {
     DECLARE_DYNAMIC(CButton)
+    using CWnd::Create;
 
 public:
     CButton();
@@ -89,6 +91,7 @@ protected:
 class AFX_CORE_CLASS CListBox : public CWnd
 {
     DECLARE_DYNAMIC(CListBox)
+    using CWnd::Create;
 
 public:
     CListBox();
@@ -169,6 +172,7 @@ protected:
 class AFX_CORE_CLASS CComboBox : public CWnd
 {
     DECLARE_DYNAMIC(CComboBox)
+    using CWnd::Create;
 
 public:
     CComboBox();
@@ -247,6 +251,7 @@ protected:
 class AFX_CORE_CLASS CEdit : public CWnd
 {
     DECLARE_DYNAMIC(CEdit)
+    using CWnd::Create;
 
 public:
     CEdit();
@@ -317,6 +322,7 @@ public:
 class AFX_CORE_CLASS CScrollBar : public CWnd
 {
     DECLARE_DYNAMIC(CScrollBar)
+    using CWnd::Create;
 
 public:
     CScrollBar();

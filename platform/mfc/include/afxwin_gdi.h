@@ -62,8 +62,8 @@ public:
     BOOL CreateStockObject(int nIndex);
     BOOL UnrealizeObject();
 
-    BOOL operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
-    BOOL operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
+    bool operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
+    bool operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
 };
 
 class AFX_CORE_CLASS CPen : public CGdiObject
@@ -624,8 +624,8 @@ public:
     operator HMENU() const { return GetSafeHmenu(); }
     /// The handle; null also if `this` is null.
     HMENU GetSafeHmenu() const;
-    BOOL operator==(const CMenu& menu) const { return m_hMenu == menu.m_hMenu; }
-    BOOL operator!=(const CMenu& menu) const { return m_hMenu != menu.m_hMenu; }
+    bool operator==(const CMenu& menu) const { return m_hMenu == menu.m_hMenu; }
+    bool operator!=(const CMenu& menu) const { return m_hMenu != menu.m_hMenu; }
 
     static CMenu* PASCAL FromHandle(HMENU hMenu);
     static void PASCAL DeleteTempMap();

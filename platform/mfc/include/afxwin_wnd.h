@@ -148,8 +148,8 @@ public:
     static const CWnd wndNoTopMost;
 
     operator HWND() const;
-    BOOL operator==(const CWnd& wnd) const;
-    BOOL operator!=(const CWnd& wnd) const;
+    bool operator==(const CWnd& wnd) const;
+    bool operator!=(const CWnd& wnd) const;
     HWND GetSafeHwnd() const; ///< the handle; null for a null object
     DWORD GetStyle() const;
     DWORD GetExStyle() const;

@@ -30,8 +30,8 @@ public:
     {
     }
 
-    BOOL operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
-    BOOL operator!=(SIZE size) const noexcept { return cx != size.cx || cy != size.cy; }
+    bool operator==(SIZE size) const noexcept { return cx == size.cx && cy == size.cy; }
+    bool operator!=(SIZE size) const noexcept { return cx != size.cx || cy != size.cy; }
     void operator+=(SIZE size) noexcept { SetSize(cx + size.cx, cy + size.cy); }
     void operator-=(SIZE size) noexcept { SetSize(cx - size.cx, cy - size.cy); }
     void SetSize(int CX, int CY) noexcept
@@ -74,8 +74,8 @@ public:
         y = Y;
     }
 
-    BOOL operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
-    BOOL operator!=(POINT point) const noexcept { return x != point.x || y != point.y; }
+    bool operator==(POINT point) const noexcept { return x == point.x && y == point.y; }
+    bool operator!=(POINT point) const noexcept { return x != point.x || y != point.y; }
     void operator+=(SIZE size) noexcept { Offset(size.cx, size.cy); }
     void operator-=(SIZE size) noexcept { Offset(-size.cx, -size.cy); }
     void operator+=(POINT point) noexcept { Offset(point.x, point.y); }
@@ -193,8 +193,8 @@ public:
     }
 
     void operator=(const RECT& srcRect) noexcept { ::CopyRect(this, &srcRect); }
-    BOOL operator==(const RECT& rect) const noexcept { return ::EqualRect(this, &rect); }
-    BOOL operator!=(const RECT& rect) const noexcept { return !::EqualRect(this, &rect); }
+    bool operator==(const RECT& rect) const noexcept { return ::EqualRect(this, &rect); }
+    bool operator!=(const RECT& rect) const noexcept { return !::EqualRect(this, &rect); }
 
     /// Adding or taking away a point or size moves the rectangle; a rectangle inflates or deflates it edge by
     /// edge. & and | are the common area and the smallest rectangle around both.

@@ -35,7 +35,7 @@ CDC::~CDC()
 
 HDC CDC::GetSafeHdc() const
 {
-    return this == nullptr ? nullptr : m_hDC;
+    return SafeHdc(this);
 }
 
 CWnd* CDC::GetWindow() const

@@ -31,7 +31,7 @@ CGdiObject::~CGdiObject()
 
 HGDIOBJ CGdiObject::GetSafeHandle() const
 {
-    return this == nullptr ? nullptr : m_hObject;
+    return SafeObject(this);
 }
 
 CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)

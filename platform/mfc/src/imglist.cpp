@@ -28,7 +28,7 @@ CImageList::~CImageList()
 
 HIMAGELIST CImageList::GetSafeHandle() const
 {
-    return this == nullptr ? nullptr : m_hImageList;
+    return SafeImages(this);
 }
 
 CImageList* PASCAL CImageList::FromHandle(HIMAGELIST hImageList)

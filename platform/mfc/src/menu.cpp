@@ -34,7 +34,7 @@ CMenu::~CMenu()
 
 HMENU CMenu::GetSafeHmenu() const
 {
-    return this == nullptr ? nullptr : m_hMenu;
+    return SafeMenu(this);
 }
 
 CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)

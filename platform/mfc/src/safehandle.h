@@ -13,6 +13,11 @@ inline HDC SafeHdc(const CDC* dc)
     return dc == nullptr ? nullptr : dc->m_hDC;
 }
 
+inline HMENU SafeMenu(const CMenu* menu)
+{
+    return menu == nullptr ? nullptr : menu->m_hMenu;
+}
+
 inline HGDIOBJ SafeObject(const CGdiObject* object)
 {
     return object == nullptr ? nullptr : object->m_hObject;

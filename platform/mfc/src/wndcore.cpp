@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include "safehandle.h"
+
 #include <algorithm>
 
 // ---------------------------------------------------------------------------------------------------------
@@ -12,19 +14,19 @@ CWnd::operator HWND() const
     return GetSafeHwnd();
 }
 
-BOOL CWnd::operator==(const CWnd& wnd) const
+bool CWnd::operator==(const CWnd& wnd) const
 {
     return wnd.GetSafeHwnd() == m_hWnd;
 }
 
-BOOL CWnd::operator!=(const CWnd& wnd) const
+bool CWnd::operator!=(const CWnd& wnd) const
 {
     return wnd.GetSafeHwnd() != m_hWnd;
 }
 
 HWND CWnd::GetSafeHwnd() const
 {
-    return this == nullptr ? nullptr : m_hWnd;
+    return SafeHwnd(this);
 }
 
 DWORD CWnd::GetStyle() const

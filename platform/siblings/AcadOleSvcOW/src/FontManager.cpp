@@ -67,7 +67,7 @@ void CFontManager::Sort()
 {
     std::ranges::stable_sort(m_fonts, [](const SFont& left, const SFont& right)
                              { return left.strName.CompareNoCase(right.strName) < 0; });
-    const auto repeated = std::ranges::unique(m_fonts, [](const SFont& left, const SFont& right)
-                                              { return left.strName.CompareNoCase(right.strName) == 0; });
-    m_fonts.erase(repeated.begin(), repeated.end());
+    const auto repeated = std::unique(m_fonts.begin(), m_fonts.end(), [](const SFont& left, const SFont& right)
+                                      { return left.strName.CompareNoCase(right.strName) == 0; });
+    m_fonts.erase(repeated, m_fonts.end());
 }
