@@ -21,6 +21,7 @@
 
 #include <commctrl.h>
 
+#include <type_traits>
 #include <vector>
 
 #undef GetNextWindow // a macro of the Windows headers that hides the member
@@ -56,6 +57,26 @@ struct AFX_NOTIFY
     LRESULT* pResult; ///< what the handler answers to the control
     NMHDR* pNMHDR;
 };
+
+/// A number or a pointer as a message parameter.
+template <class Param, class Value>
+Param AfxToMessage(Value value)
+{
+    if constexpr (std::is_pointer_v<Value>)
+        return reinterpret_cast<Param>(value);
+    else
+        return static_cast<Param>(value);
+}
+
+/// The answer to a message as a number, a pointer or nothing.
+template <class Answer>
+Answer AfxFromMessage([[maybe_unused]] LRESULT answer)
+{
+    if constexpr (std::is_pointer_v<Answer>)
+        return reinterpret_cast<Answer>(answer);
+    else if constexpr (!std::is_void_v<Answer>)
+        return static_cast<Answer>(answer);
+}
 
 /// An object that can receive commands through its message map.
 class AFX_CORE_CLASS CCmdTarget : public CObject
@@ -423,6 +444,16 @@ public:
     void Dump(CDumpContext& dc) const override;
 
 protected:
+    /// Sends this window a message, parameters as numbers or pointers, and answers what it answers: the short
+    /// form in which the controls' functions are written.
+    template <class Answer = void, class First = WPARAM, class Second = LPARAM>
+    Answer AfxSend(UINT message, First first = 0, Second second = 0) const
+    {
+        ASSERT(::IsWindow(m_hWnd));
+        return AfxFromMessage<Answer>(
+            ::SendMessage(m_hWnd, message, AfxToMessage<WPARAM>(first), AfxToMessage<LPARAM>(second)));
+    }
+
     friend class CCmdUI;
     friend class CWinThread;
     friend class CDataExchange;

@@ -3,7 +3,6 @@
 #include <afxcmn.h>
 
 #include "commctl.h"
-#include "ctlmsg.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // CSpinButtonCtrl
@@ -30,67 +29,67 @@ BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect,
 
 BOOL CSpinButtonCtrl::SetAccel(int nAccel, UDACCEL* pAccel)
 {
-    return Ask<BOOL>(*this, UDM_SETACCEL, nAccel, pAccel);
+    return AfxSend<BOOL>(UDM_SETACCEL, nAccel, pAccel);
 }
 
 UINT CSpinButtonCtrl::GetAccel(int nAccel, UDACCEL* pAccel) const
 {
-    return Ask<UINT>(*this, UDM_GETACCEL, nAccel, pAccel);
+    return AfxSend<UINT>(UDM_GETACCEL, nAccel, pAccel);
 }
 
 int CSpinButtonCtrl::SetBase(int nBase)
 {
-    return Ask<int>(*this, UDM_SETBASE, nBase);
+    return AfxSend<int>(UDM_SETBASE, nBase);
 }
 
 UINT CSpinButtonCtrl::GetBase() const
 {
-    return Ask<UINT>(*this, UDM_GETBASE);
+    return AfxSend<UINT>(UDM_GETBASE);
 }
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, UDM_SETBUDDY, SafeHwnd(pWndBuddy)));
+    return CWnd::FromHandle(AfxSend<HWND>(UDM_SETBUDDY, SafeHwnd(pWndBuddy)));
 }
 
 CWnd* CSpinButtonCtrl::GetBuddy() const
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, UDM_GETBUDDY));
+    return CWnd::FromHandle(AfxSend<HWND>(UDM_GETBUDDY));
 }
 
 int CSpinButtonCtrl::SetPos(int nPos)
 {
-    return Ask<int>(*this, UDM_SETPOS, 0, MAKELPARAM(nPos, 0));
+    return AfxSend<int>(UDM_SETPOS, 0, MAKELPARAM(nPos, 0));
 }
 
 int CSpinButtonCtrl::GetPos() const
 {
-    return Ask<int>(*this, UDM_GETPOS);
+    return AfxSend<int>(UDM_GETPOS);
 }
 
 int CSpinButtonCtrl::SetPos32(int nPos)
 {
-    return Ask<int>(*this, UDM_SETPOS32, 0, nPos);
+    return AfxSend<int>(UDM_SETPOS32, 0, nPos);
 }
 
 int CSpinButtonCtrl::GetPos32(LPBOOL lpbError) const
 {
-    return Ask<int>(*this, UDM_GETPOS32, 0, lpbError);
+    return AfxSend<int>(UDM_GETPOS32, 0, lpbError);
 }
 
 void CSpinButtonCtrl::SetRange(short nLower, short nUpper)
 {
-    Ask(*this, UDM_SETRANGE, 0, MAKELPARAM(nUpper, nLower));
+    AfxSend(UDM_SETRANGE, 0, MAKELPARAM(nUpper, nLower));
 }
 
 void CSpinButtonCtrl::SetRange32(int nLower, int nUpper)
 {
-    Ask(*this, UDM_SETRANGE32, nLower, nUpper);
+    AfxSend(UDM_SETRANGE32, nLower, nUpper);
 }
 
 DWORD CSpinButtonCtrl::GetRange() const
 {
-    return Ask<DWORD>(*this, UDM_GETRANGE);
+    return AfxSend<DWORD>(UDM_GETRANGE);
 }
 
 void CSpinButtonCtrl::GetRange(int& lower, int& upper) const
@@ -102,7 +101,7 @@ void CSpinButtonCtrl::GetRange(int& lower, int& upper) const
 
 void CSpinButtonCtrl::GetRange32(int& lower, int& upper) const
 {
-    Ask(*this, UDM_GETRANGE32, &lower, &upper);
+    AfxSend(UDM_GETRANGE32, &lower, &upper);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -130,42 +129,42 @@ BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWn
 
 int CSliderCtrl::GetLineSize() const
 {
-    return Ask<int>(*this, TBM_GETLINESIZE);
+    return AfxSend<int>(TBM_GETLINESIZE);
 }
 
 int CSliderCtrl::SetLineSize(int nSize)
 {
-    return Ask<int>(*this, TBM_SETLINESIZE, 0, nSize);
+    return AfxSend<int>(TBM_SETLINESIZE, 0, nSize);
 }
 
 int CSliderCtrl::GetPageSize() const
 {
-    return Ask<int>(*this, TBM_GETPAGESIZE);
+    return AfxSend<int>(TBM_GETPAGESIZE);
 }
 
 int CSliderCtrl::SetPageSize(int nSize)
 {
-    return Ask<int>(*this, TBM_SETPAGESIZE, 0, nSize);
+    return AfxSend<int>(TBM_SETPAGESIZE, 0, nSize);
 }
 
 int CSliderCtrl::GetRangeMax() const
 {
-    return Ask<int>(*this, TBM_GETRANGEMAX);
+    return AfxSend<int>(TBM_GETRANGEMAX);
 }
 
 int CSliderCtrl::GetRangeMin() const
 {
-    return Ask<int>(*this, TBM_GETRANGEMIN);
+    return AfxSend<int>(TBM_GETRANGEMIN);
 }
 
 void CSliderCtrl::SetRangeMin(int nMin, BOOL bRedraw)
 {
-    Ask(*this, TBM_SETRANGEMIN, bRedraw, nMin);
+    AfxSend(TBM_SETRANGEMIN, bRedraw, nMin);
 }
 
 void CSliderCtrl::SetRangeMax(int nMax, BOOL bRedraw)
 {
-    Ask(*this, TBM_SETRANGEMAX, bRedraw, nMax);
+    AfxSend(TBM_SETRANGEMAX, bRedraw, nMax);
 }
 
 void CSliderCtrl::GetRange(int& nMin, int& nMax) const
@@ -183,115 +182,115 @@ void CSliderCtrl::SetRange(int nMin, int nMax, BOOL bRedraw)
 
 void CSliderCtrl::GetSelection(int& nMin, int& nMax) const
 {
-    nMin = Ask<int>(*this, TBM_GETSELSTART);
-    nMax = Ask<int>(*this, TBM_GETSELEND);
+    nMin = AfxSend<int>(TBM_GETSELSTART);
+    nMax = AfxSend<int>(TBM_GETSELEND);
 }
 
 void CSliderCtrl::SetSelection(int nMin, int nMax)
 {
-    Ask(*this, TBM_SETSELSTART, FALSE, nMin);
-    Ask(*this, TBM_SETSELEND, FALSE, nMax);
+    AfxSend(TBM_SETSELSTART, FALSE, nMin);
+    AfxSend(TBM_SETSELEND, FALSE, nMax);
 }
 
 int CSliderCtrl::GetPos() const
 {
-    return Ask<int>(*this, TBM_GETPOS);
+    return AfxSend<int>(TBM_GETPOS);
 }
 
 void CSliderCtrl::SetPos(int nPos)
 {
-    Ask(*this, TBM_SETPOS, TRUE, nPos);
+    AfxSend(TBM_SETPOS, TRUE, nPos);
 }
 
 void CSliderCtrl::GetThumbRect(LPRECT lprc) const
 {
-    Ask(*this, TBM_GETTHUMBRECT, 0, lprc);
+    AfxSend(TBM_GETTHUMBRECT, 0, lprc);
 }
 
 void CSliderCtrl::GetChannelRect(LPRECT lprc) const
 {
-    Ask(*this, TBM_GETCHANNELRECT, 0, lprc);
+    AfxSend(TBM_GETCHANNELRECT, 0, lprc);
 }
 
 int CSliderCtrl::GetThumbLength() const
 {
-    return Ask<int>(*this, TBM_GETTHUMBLENGTH);
+    return AfxSend<int>(TBM_GETTHUMBLENGTH);
 }
 
 void CSliderCtrl::SetThumbLength(int nLength)
 {
-    Ask(*this, TBM_SETTHUMBLENGTH, nLength);
+    AfxSend(TBM_SETTHUMBLENGTH, nLength);
 }
 
 UINT CSliderCtrl::GetNumTics() const
 {
-    return Ask<UINT>(*this, TBM_GETNUMTICS);
+    return AfxSend<UINT>(TBM_GETNUMTICS);
 }
 
 DWORD* CSliderCtrl::GetTicArray() const
 {
-    return Ask<DWORD*>(*this, TBM_GETPTICS);
+    return AfxSend<DWORD*>(TBM_GETPTICS);
 }
 
 int CSliderCtrl::GetTic(int nTic) const
 {
-    return Ask<int>(*this, TBM_GETTIC, nTic);
+    return AfxSend<int>(TBM_GETTIC, nTic);
 }
 
 BOOL CSliderCtrl::SetTic(int nTic)
 {
-    return Ask<BOOL>(*this, TBM_SETTIC, 0, nTic);
+    return AfxSend<BOOL>(TBM_SETTIC, 0, nTic);
 }
 
 void CSliderCtrl::SetTicFreq(int nFreq)
 {
-    Ask(*this, TBM_SETTICFREQ, nFreq);
+    AfxSend(TBM_SETTICFREQ, nFreq);
 }
 
 int CSliderCtrl::GetTicPos(int nTic) const
 {
-    return Ask<int>(*this, TBM_GETTICPOS, nTic);
+    return AfxSend<int>(TBM_GETTICPOS, nTic);
 }
 
 CWnd* CSliderCtrl::SetBuddy(CWnd* pWndBuddy, BOOL fLocation)
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, TBM_SETBUDDY, fLocation, SafeHwnd(pWndBuddy)));
+    return CWnd::FromHandle(AfxSend<HWND>(TBM_SETBUDDY, fLocation, SafeHwnd(pWndBuddy)));
 }
 
 CWnd* CSliderCtrl::GetBuddy(BOOL fLocation) const
 {
-    return CWnd::FromHandle(Ask<HWND>(*this, TBM_GETBUDDY, fLocation));
+    return CWnd::FromHandle(AfxSend<HWND>(TBM_GETBUDDY, fLocation));
 }
 
 CToolTipCtrl* CSliderCtrl::GetToolTips() const
 {
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, TBM_GETTOOLTIPS)));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(AfxSend<HWND>(TBM_GETTOOLTIPS)));
 }
 
 void CSliderCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    Ask(*this, TBM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    AfxSend(TBM_SETTOOLTIPS, SafeHwnd(pWndTip));
 }
 
 int CSliderCtrl::SetTipSide(int nLocation)
 {
-    return Ask<int>(*this, TBM_SETTIPSIDE, nLocation);
+    return AfxSend<int>(TBM_SETTIPSIDE, nLocation);
 }
 
 void CSliderCtrl::ClearSel(BOOL bRedraw)
 {
-    Ask(*this, TBM_CLEARSEL, bRedraw);
+    AfxSend(TBM_CLEARSEL, bRedraw);
 }
 
 void CSliderCtrl::VerifyPos()
 {
     // The control brings a position that it is given into its range.
-    Ask(*this, TBM_SETPOS, FALSE, GetPos());
+    AfxSend(TBM_SETPOS, FALSE, GetPos());
 }
 
 void CSliderCtrl::ClearTics(BOOL bRedraw)
 {
-    Ask(*this, TBM_CLEARTICS, bRedraw);
+    AfxSend(TBM_CLEARTICS, bRedraw);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -319,60 +318,60 @@ BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, C
 
 void CProgressCtrl::SetRange(short nLower, short nUpper)
 {
-    Ask(*this, PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper));
+    AfxSend(PBM_SETRANGE, 0, MAKELPARAM(nLower, nUpper));
 }
 
 void CProgressCtrl::SetRange32(int nLower, int nUpper)
 {
-    Ask(*this, PBM_SETRANGE32, nLower, nUpper);
+    AfxSend(PBM_SETRANGE32, nLower, nUpper);
 }
 
 void CProgressCtrl::GetRange(int& nLower, int& nUpper) const
 {
     PBRANGE range = {};
-    Ask(*this, PBM_GETRANGE, FALSE, &range);
+    AfxSend(PBM_GETRANGE, FALSE, &range);
     nLower = range.iLow;
     nUpper = range.iHigh;
 }
 
 int CProgressCtrl::GetPos() const
 {
-    return Ask<int>(*this, PBM_GETPOS);
+    return AfxSend<int>(PBM_GETPOS);
 }
 
 int CProgressCtrl::SetPos(int nPos)
 {
-    return Ask<int>(*this, PBM_SETPOS, nPos);
+    return AfxSend<int>(PBM_SETPOS, nPos);
 }
 
 int CProgressCtrl::OffsetPos(int nPos)
 {
-    return Ask<int>(*this, PBM_DELTAPOS, nPos);
+    return AfxSend<int>(PBM_DELTAPOS, nPos);
 }
 
 int CProgressCtrl::SetStep(int nStep)
 {
-    return Ask<int>(*this, PBM_SETSTEP, nStep);
+    return AfxSend<int>(PBM_SETSTEP, nStep);
 }
 
 int CProgressCtrl::StepIt()
 {
-    return Ask<int>(*this, PBM_STEPIT);
+    return AfxSend<int>(PBM_STEPIT);
 }
 
 COLORREF CProgressCtrl::SetBkColor(COLORREF clrNew)
 {
-    return Ask<COLORREF>(*this, PBM_SETBKCOLOR, 0, clrNew);
+    return AfxSend<COLORREF>(PBM_SETBKCOLOR, 0, clrNew);
 }
 
 COLORREF CProgressCtrl::SetBarColor(COLORREF clrBar)
 {
-    return Ask<COLORREF>(*this, PBM_SETBARCOLOR, 0, clrBar);
+    return AfxSend<COLORREF>(PBM_SETBARCOLOR, 0, clrBar);
 }
 
 BOOL CProgressCtrl::SetMarquee(BOOL fMarqueeMode, int nInterval)
 {
-    return Ask<BOOL>(*this, PBM_SETMARQUEE, fMarqueeMode, nInterval);
+    return AfxSend<BOOL>(PBM_SETMARQUEE, fMarqueeMode, nInterval);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -400,12 +399,12 @@ BOOL CHotKeyCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWn
 
 void CHotKeyCtrl::SetHotKey(WORD wVirtualKeyCode, WORD wModifiers)
 {
-    Ask(*this, HKM_SETHOTKEY, MAKEWORD(wVirtualKeyCode, wModifiers));
+    AfxSend(HKM_SETHOTKEY, MAKEWORD(wVirtualKeyCode, wModifiers));
 }
 
 DWORD CHotKeyCtrl::GetHotKey() const
 {
-    return Ask<DWORD>(*this, HKM_GETHOTKEY);
+    return AfxSend<DWORD>(HKM_GETHOTKEY);
 }
 
 void CHotKeyCtrl::GetHotKey(WORD& wVirtualKeyCode, WORD& wModifiers) const
@@ -449,7 +448,7 @@ CString CHotKeyCtrl::GetHotKeyName() const
 
 void CHotKeyCtrl::SetRules(WORD wInvalidComb, WORD wModifiers)
 {
-    Ask(*this, HKM_SETRULES, wInvalidComb, MAKELPARAM(wModifiers, 0));
+    AfxSend(HKM_SETRULES, wInvalidComb, MAKELPARAM(wModifiers, 0));
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -477,112 +476,112 @@ BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWn
 
 int CHeaderCtrl::GetItemCount() const
 {
-    return Ask<int>(*this, HDM_GETITEMCOUNT);
+    return AfxSend<int>(HDM_GETITEMCOUNT);
 }
 
 BOOL CHeaderCtrl::GetItem(int nPos, HDITEM* pHeaderItem) const
 {
-    return Ask<BOOL>(*this, HDM_GETITEM, nPos, pHeaderItem);
+    return AfxSend<BOOL>(HDM_GETITEM, nPos, pHeaderItem);
 }
 
 BOOL CHeaderCtrl::SetItem(int nPos, HDITEM* pHeaderItem)
 {
-    return Ask<BOOL>(*this, HDM_SETITEM, nPos, pHeaderItem);
+    return AfxSend<BOOL>(HDM_SETITEM, nPos, pHeaderItem);
 }
 
 CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, HDM_SETIMAGELIST, 0, SafeImages(pImageList)));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(HDM_SETIMAGELIST, 0, SafeImages(pImageList)));
 }
 
 CImageList* CHeaderCtrl::GetImageList() const
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, HDM_GETIMAGELIST));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(HDM_GETIMAGELIST));
 }
 
 BOOL CHeaderCtrl::GetOrderArray(LPINT piArray, int iCount)
 {
-    return Ask<BOOL>(*this, HDM_GETORDERARRAY, iCount == -1 ? GetItemCount() : iCount, piArray);
+    return AfxSend<BOOL>(HDM_GETORDERARRAY, iCount == -1 ? GetItemCount() : iCount, piArray);
 }
 
 BOOL CHeaderCtrl::SetOrderArray(int iCount, LPINT piArray)
 {
-    return Ask<BOOL>(*this, HDM_SETORDERARRAY, iCount, piArray);
+    return AfxSend<BOOL>(HDM_SETORDERARRAY, iCount, piArray);
 }
 
 int CHeaderCtrl::OrderToIndex(int nOrder) const
 {
-    return Ask<int>(*this, HDM_ORDERTOINDEX, nOrder);
+    return AfxSend<int>(HDM_ORDERTOINDEX, nOrder);
 }
 
 BOOL CHeaderCtrl::GetItemRect(int nIndex, LPRECT lpRect) const
 {
-    return Ask<BOOL>(*this, HDM_GETITEMRECT, nIndex, lpRect);
+    return AfxSend<BOOL>(HDM_GETITEMRECT, nIndex, lpRect);
 }
 
 int CHeaderCtrl::SetHotDivider(CPoint pt)
 {
-    return Ask<int>(*this, HDM_SETHOTDIVIDER, TRUE, MAKELPARAM(pt.x, pt.y));
+    return AfxSend<int>(HDM_SETHOTDIVIDER, TRUE, MAKELPARAM(pt.x, pt.y));
 }
 
 int CHeaderCtrl::SetHotDivider(int nIndex)
 {
-    return Ask<int>(*this, HDM_SETHOTDIVIDER, FALSE, nIndex);
+    return AfxSend<int>(HDM_SETHOTDIVIDER, FALSE, nIndex);
 }
 
 CImageList* CHeaderCtrl::CreateDragImage(int nIndex)
 {
-    return NewImageList(Ask<HIMAGELIST>(*this, HDM_CREATEDRAGIMAGE, nIndex));
+    return NewImageList(AfxSend<HIMAGELIST>(HDM_CREATEDRAGIMAGE, nIndex));
 }
 
 int CHeaderCtrl::GetBitmapMargin() const
 {
-    return Ask<int>(*this, HDM_GETBITMAPMARGIN);
+    return AfxSend<int>(HDM_GETBITMAPMARGIN);
 }
 
 int CHeaderCtrl::SetBitmapMargin(int nWidth)
 {
-    return Ask<int>(*this, HDM_SETBITMAPMARGIN, nWidth);
+    return AfxSend<int>(HDM_SETBITMAPMARGIN, nWidth);
 }
 
 int CHeaderCtrl::SetFilterChangeTimeout(DWORD dwTimeOut)
 {
-    return Ask<int>(*this, HDM_SETFILTERCHANGETIMEOUT, 0, dwTimeOut);
+    return AfxSend<int>(HDM_SETFILTERCHANGETIMEOUT, 0, dwTimeOut);
 }
 
 int CHeaderCtrl::EditFilter(int iColumn, BOOL bDiscardChanges)
 {
-    return Ask<int>(*this, HDM_EDITFILTER, iColumn, MAKELPARAM(bDiscardChanges, 0));
+    return AfxSend<int>(HDM_EDITFILTER, iColumn, MAKELPARAM(bDiscardChanges, 0));
 }
 
 int CHeaderCtrl::ClearFilter(int iColumn)
 {
-    return Ask<int>(*this, HDM_CLEARFILTER, iColumn);
+    return AfxSend<int>(HDM_CLEARFILTER, iColumn);
 }
 
 int CHeaderCtrl::ClearAllFilters()
 {
-    return Ask<int>(*this, HDM_CLEARFILTER, -1);
+    return AfxSend<int>(HDM_CLEARFILTER, -1);
 }
 
 int CHeaderCtrl::InsertItem(int nPos, HDITEM* phdi)
 {
-    return Ask<int>(*this, HDM_INSERTITEM, nPos, phdi);
+    return AfxSend<int>(HDM_INSERTITEM, nPos, phdi);
 }
 
 BOOL CHeaderCtrl::DeleteItem(int nPos)
 {
-    return Ask<BOOL>(*this, HDM_DELETEITEM, nPos);
+    return AfxSend<BOOL>(HDM_DELETEITEM, nPos);
 }
 
 BOOL CHeaderCtrl::Layout(HDLAYOUT* pHeaderLayout)
 {
-    return Ask<BOOL>(*this, HDM_LAYOUT, 0, pHeaderLayout);
+    return AfxSend<BOOL>(HDM_LAYOUT, 0, pHeaderLayout);
 }
 
 int CHeaderCtrl::HitTest(LPHDHITTESTINFO phdhti)
 {
-    return Ask<int>(*this, HDM_HITTEST, 0, phdhti);
+    return AfxSend<int>(HDM_HITTEST, 0, phdhti);
 }
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -623,97 +622,97 @@ BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* 
 
 CImageList* CTabCtrl::GetImageList() const
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TCM_GETIMAGELIST));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(TCM_GETIMAGELIST));
 }
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList)
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TCM_SETIMAGELIST, 0, SafeImages(pImageList)));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(TCM_SETIMAGELIST, 0, SafeImages(pImageList)));
 }
 
 int CTabCtrl::GetItemCount() const
 {
-    return Ask<int>(*this, TCM_GETITEMCOUNT);
+    return AfxSend<int>(TCM_GETITEMCOUNT);
 }
 
 BOOL CTabCtrl::GetItem(int nItem, TCITEM* pTabCtrlItem) const
 {
-    return Ask<BOOL>(*this, TCM_GETITEM, nItem, pTabCtrlItem);
+    return AfxSend<BOOL>(TCM_GETITEM, nItem, pTabCtrlItem);
 }
 
 BOOL CTabCtrl::SetItem(int nItem, TCITEM* pTabCtrlItem)
 {
-    return Ask<BOOL>(*this, TCM_SETITEM, nItem, pTabCtrlItem);
+    return AfxSend<BOOL>(TCM_SETITEM, nItem, pTabCtrlItem);
 }
 
 BOOL CTabCtrl::SetItemExtra(int nBytes)
 {
-    return Ask<BOOL>(*this, TCM_SETITEMEXTRA, nBytes);
+    return AfxSend<BOOL>(TCM_SETITEMEXTRA, nBytes);
 }
 
 BOOL CTabCtrl::GetItemRect(int nItem, LPRECT lpRect) const
 {
-    return Ask<BOOL>(*this, TCM_GETITEMRECT, nItem, lpRect);
+    return AfxSend<BOOL>(TCM_GETITEMRECT, nItem, lpRect);
 }
 
 int CTabCtrl::GetCurSel() const
 {
-    return Ask<int>(*this, TCM_GETCURSEL);
+    return AfxSend<int>(TCM_GETCURSEL);
 }
 
 int CTabCtrl::SetCurSel(int nItem)
 {
-    return Ask<int>(*this, TCM_SETCURSEL, nItem);
+    return AfxSend<int>(TCM_SETCURSEL, nItem);
 }
 
 void CTabCtrl::SetCurFocus(int nItem)
 {
-    Ask(*this, TCM_SETCURFOCUS, nItem);
+    AfxSend(TCM_SETCURFOCUS, nItem);
 }
 
 int CTabCtrl::GetCurFocus() const
 {
-    return Ask<int>(*this, TCM_GETCURFOCUS);
+    return AfxSend<int>(TCM_GETCURFOCUS);
 }
 
 CSize CTabCtrl::SetItemSize(CSize size)
 {
-    return CSize(Ask<DWORD>(*this, TCM_SETITEMSIZE, 0, MAKELPARAM(size.cx, size.cy)));
+    return CSize(AfxSend<DWORD>(TCM_SETITEMSIZE, 0, MAKELPARAM(size.cx, size.cy)));
 }
 
 void CTabCtrl::SetPadding(CSize size)
 {
-    Ask(*this, TCM_SETPADDING, 0, MAKELPARAM(size.cx, size.cy));
+    AfxSend(TCM_SETPADDING, 0, MAKELPARAM(size.cx, size.cy));
 }
 
 int CTabCtrl::GetRowCount() const
 {
-    return Ask<int>(*this, TCM_GETROWCOUNT);
+    return AfxSend<int>(TCM_GETROWCOUNT);
 }
 
 CToolTipCtrl* CTabCtrl::GetToolTips() const
 {
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, TCM_GETTOOLTIPS)));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(AfxSend<HWND>(TCM_GETTOOLTIPS)));
 }
 
 void CTabCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    Ask(*this, TCM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    AfxSend(TCM_SETTOOLTIPS, SafeHwnd(pWndTip));
 }
 
 int CTabCtrl::SetMinTabWidth(int cx)
 {
-    return Ask<int>(*this, TCM_SETMINTABWIDTH, 0, cx);
+    return AfxSend<int>(TCM_SETMINTABWIDTH, 0, cx);
 }
 
 DWORD CTabCtrl::GetExtendedStyle()
 {
-    return Ask<DWORD>(*this, TCM_GETEXTENDEDSTYLE);
+    return AfxSend<DWORD>(TCM_GETEXTENDEDSTYLE);
 }
 
 DWORD CTabCtrl::SetExtendedStyle(DWORD dwNewStyle, DWORD dwExMask)
 {
-    return Ask<DWORD>(*this, TCM_SETEXTENDEDSTYLE, dwExMask, dwNewStyle);
+    return AfxSend<DWORD>(TCM_SETEXTENDEDSTYLE, dwExMask, dwNewStyle);
 }
 
 BOOL CTabCtrl::GetItemState(int nItem, DWORD dwMask, DWORD& dwState) const
@@ -737,7 +736,7 @@ BOOL CTabCtrl::SetItemState(int nItem, DWORD dwMask, DWORD dwState)
 
 LONG CTabCtrl::InsertItem(int nItem, TCITEM* pTabCtrlItem)
 {
-    return Ask<LONG>(*this, TCM_INSERTITEM, nItem, pTabCtrlItem);
+    return AfxSend<LONG>(TCM_INSERTITEM, nItem, pTabCtrlItem);
 }
 
 LONG CTabCtrl::InsertItem(int nItem, LPCTSTR lpszItem)
@@ -762,37 +761,37 @@ LONG CTabCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, L
 
 BOOL CTabCtrl::DeleteItem(int nItem)
 {
-    return Ask<BOOL>(*this, TCM_DELETEITEM, nItem);
+    return AfxSend<BOOL>(TCM_DELETEITEM, nItem);
 }
 
 BOOL CTabCtrl::DeleteAllItems()
 {
-    return Ask<BOOL>(*this, TCM_DELETEALLITEMS);
+    return AfxSend<BOOL>(TCM_DELETEALLITEMS);
 }
 
 void CTabCtrl::AdjustRect(BOOL bLarger, LPRECT lpRect)
 {
-    Ask(*this, TCM_ADJUSTRECT, bLarger, lpRect);
+    AfxSend(TCM_ADJUSTRECT, bLarger, lpRect);
 }
 
 void CTabCtrl::RemoveImage(int nImage)
 {
-    Ask(*this, TCM_REMOVEIMAGE, nImage);
+    AfxSend(TCM_REMOVEIMAGE, nImage);
 }
 
 int CTabCtrl::HitTest(TCHITTESTINFO* pHitTestInfo) const
 {
-    return Ask<int>(*this, TCM_HITTEST, 0, pHitTestInfo);
+    return AfxSend<int>(TCM_HITTEST, 0, pHitTestInfo);
 }
 
 void CTabCtrl::DeselectAll(BOOL fExcludeFocus)
 {
-    Ask(*this, TCM_DESELECTALL, fExcludeFocus);
+    AfxSend(TCM_DESELECTALL, fExcludeFocus);
 }
 
 BOOL CTabCtrl::HighlightItem(int idItem, BOOL fHighlight)
 {
-    return Ask<BOOL>(*this, TCM_HIGHLIGHTITEM, idItem, MAKELPARAM(fHighlight, 0));
+    return AfxSend<BOOL>(TCM_HIGHLIGHTITEM, idItem, MAKELPARAM(fHighlight, 0));
 }
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -833,7 +832,7 @@ BOOL CStatusBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, 
 
 BOOL CStatusBarCtrl::SetText(LPCTSTR lpszText, int nPane, int nType)
 {
-    return Ask<BOOL>(*this, SB_SETTEXT, nPane | nType, lpszText);
+    return AfxSend<BOOL>(SB_SETTEXT, nPane | nType, lpszText);
 }
 
 CString CStatusBarCtrl::GetText(int nPane, int* pType) const
@@ -846,7 +845,7 @@ CString CStatusBarCtrl::GetText(int nPane, int* pType) const
 
 int CStatusBarCtrl::GetText(LPCTSTR lpszText, int nPane, int* pType) const
 {
-    const DWORD answer = Ask<DWORD>(*this, SB_GETTEXT, nPane, lpszText);
+    const DWORD answer = AfxSend<DWORD>(SB_GETTEXT, nPane, lpszText);
     if (pType != nullptr)
         *pType = HIWORD(answer);
     return LOWORD(answer);
@@ -854,7 +853,7 @@ int CStatusBarCtrl::GetText(LPCTSTR lpszText, int nPane, int* pType) const
 
 int CStatusBarCtrl::GetTextLength(int nPane, int* pType) const
 {
-    const DWORD answer = Ask<DWORD>(*this, SB_GETTEXTLENGTH, nPane);
+    const DWORD answer = AfxSend<DWORD>(SB_GETTEXTLENGTH, nPane);
     if (pType != nullptr)
         *pType = HIWORD(answer);
     return LOWORD(answer);
@@ -862,17 +861,17 @@ int CStatusBarCtrl::GetTextLength(int nPane, int* pType) const
 
 BOOL CStatusBarCtrl::SetParts(int nParts, int* pWidths)
 {
-    return Ask<BOOL>(*this, SB_SETPARTS, nParts, pWidths);
+    return AfxSend<BOOL>(SB_SETPARTS, nParts, pWidths);
 }
 
 int CStatusBarCtrl::GetParts(int nParts, int* pParts) const
 {
-    return Ask<int>(*this, SB_GETPARTS, nParts, pParts);
+    return AfxSend<int>(SB_GETPARTS, nParts, pParts);
 }
 
 BOOL CStatusBarCtrl::GetBorders(int* pBorders) const
 {
-    return Ask<BOOL>(*this, SB_GETBORDERS, 0, pBorders);
+    return AfxSend<BOOL>(SB_GETBORDERS, 0, pBorders);
 }
 
 BOOL CStatusBarCtrl::GetBorders(int& nHorz, int& nVert, int& nSpacing) const
@@ -887,51 +886,51 @@ BOOL CStatusBarCtrl::GetBorders(int& nHorz, int& nVert, int& nSpacing) const
 
 void CStatusBarCtrl::SetMinHeight(int nMin)
 {
-    Ask(*this, SB_SETMINHEIGHT, nMin);
+    AfxSend(SB_SETMINHEIGHT, nMin);
 }
 
 BOOL CStatusBarCtrl::SetSimple(BOOL bSimple)
 {
-    return Ask<BOOL>(*this, SB_SIMPLE, bSimple);
+    return AfxSend<BOOL>(SB_SIMPLE, bSimple);
 }
 
 BOOL CStatusBarCtrl::IsSimple() const
 {
-    return Ask<BOOL>(*this, SB_ISSIMPLE);
+    return AfxSend<BOOL>(SB_ISSIMPLE);
 }
 
 BOOL CStatusBarCtrl::GetRect(int nPane, LPRECT lpRect) const
 {
-    return Ask<BOOL>(*this, SB_GETRECT, nPane, lpRect);
+    return AfxSend<BOOL>(SB_GETRECT, nPane, lpRect);
 }
 
 COLORREF CStatusBarCtrl::SetBkColor(COLORREF cr)
 {
-    return Ask<COLORREF>(*this, SB_SETBKCOLOR, 0, cr);
+    return AfxSend<COLORREF>(SB_SETBKCOLOR, 0, cr);
 }
 
 BOOL CStatusBarCtrl::SetIcon(int nPane, HICON hIcon)
 {
-    return Ask<BOOL>(*this, SB_SETICON, nPane, hIcon);
+    return AfxSend<BOOL>(SB_SETICON, nPane, hIcon);
 }
 
 HICON CStatusBarCtrl::GetIcon(int iPart) const
 {
-    return Ask<HICON>(*this, SB_GETICON, iPart);
+    return AfxSend<HICON>(SB_GETICON, iPart);
 }
 
 CString CStatusBarCtrl::GetTipText(int nPane) const
 {
     constexpr int longest = 256;
     CString text;
-    Ask(*this, SB_GETTIPTEXT, MAKEWPARAM(nPane, longest), text.GetBuffer(longest));
+    AfxSend(SB_GETTIPTEXT, MAKEWPARAM(nPane, longest), text.GetBuffer(longest));
     text.ReleaseBuffer();
     return text;
 }
 
 void CStatusBarCtrl::SetTipText(int nPane, LPCTSTR pszTipText)
 {
-    Ask(*this, SB_SETTIPTEXT, nPane, pszTipText);
+    AfxSend(SB_SETTIPTEXT, nPane, pszTipText);
 }
 
 BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)

@@ -2,7 +2,6 @@
 
 #include <afxwin.h>
 
-#include "ctlmsg.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // CStatic
@@ -23,42 +22,42 @@ BOOL CStatic::Create(LPCTSTR lpszText, DWORD dwStyle, const RECT& rect, CWnd* pP
 
 HICON CStatic::SetIcon(HICON hIcon)
 {
-    return Ask<HICON>(*this, STM_SETICON, hIcon);
+    return AfxSend<HICON>(STM_SETICON, hIcon);
 }
 
 HICON CStatic::GetIcon() const
 {
-    return Ask<HICON>(*this, STM_GETICON);
+    return AfxSend<HICON>(STM_GETICON);
 }
 
 HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile)
 {
-    return Ask<HENHMETAFILE>(*this, STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
+    return AfxSend<HENHMETAFILE>(STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
 }
 
 HENHMETAFILE CStatic::GetEnhMetaFile() const
 {
-    return Ask<HENHMETAFILE>(*this, STM_GETIMAGE, IMAGE_ENHMETAFILE);
+    return AfxSend<HENHMETAFILE>(STM_GETIMAGE, IMAGE_ENHMETAFILE);
 }
 
 HBITMAP CStatic::SetBitmap(HBITMAP hBitmap)
 {
-    return Ask<HBITMAP>(*this, STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
+    return AfxSend<HBITMAP>(STM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CStatic::GetBitmap() const
 {
-    return Ask<HBITMAP>(*this, STM_GETIMAGE, IMAGE_BITMAP);
+    return AfxSend<HBITMAP>(STM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HCURSOR CStatic::SetCursor(HCURSOR hCursor)
 {
-    return Ask<HCURSOR>(*this, STM_SETIMAGE, IMAGE_CURSOR, hCursor);
+    return AfxSend<HCURSOR>(STM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CStatic::GetCursor()
 {
-    return Ask<HCURSOR>(*this, STM_GETIMAGE, IMAGE_CURSOR);
+    return AfxSend<HCURSOR>(STM_GETIMAGE, IMAGE_CURSOR);
 }
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -93,22 +92,22 @@ BOOL CButton::Create(LPCTSTR lpszCaption, DWORD dwStyle, const RECT& rect, CWnd*
 
 UINT CButton::GetState() const
 {
-    return Ask<UINT>(*this, BM_GETSTATE);
+    return AfxSend<UINT>(BM_GETSTATE);
 }
 
 void CButton::SetState(BOOL bHighlight)
 {
-    Ask(*this, BM_SETSTATE, bHighlight);
+    AfxSend(BM_SETSTATE, bHighlight);
 }
 
 int CButton::GetCheck() const
 {
-    return Ask<int>(*this, BM_GETCHECK);
+    return AfxSend<int>(BM_GETCHECK);
 }
 
 void CButton::SetCheck(int nCheck)
 {
-    Ask(*this, BM_SETCHECK, nCheck);
+    AfxSend(BM_SETCHECK, nCheck);
 }
 
 UINT CButton::GetButtonStyle() const
@@ -119,62 +118,62 @@ UINT CButton::GetButtonStyle() const
 
 void CButton::SetButtonStyle(UINT nStyle, BOOL bRedraw)
 {
-    Ask(*this, BM_SETSTYLE, nStyle, bRedraw);
+    AfxSend(BM_SETSTYLE, nStyle, bRedraw);
 }
 
 HICON CButton::SetIcon(HICON hIcon)
 {
-    return Ask<HICON>(*this, BM_SETIMAGE, IMAGE_ICON, hIcon);
+    return AfxSend<HICON>(BM_SETIMAGE, IMAGE_ICON, hIcon);
 }
 
 HICON CButton::GetIcon() const
 {
-    return Ask<HICON>(*this, BM_GETIMAGE, IMAGE_ICON);
+    return AfxSend<HICON>(BM_GETIMAGE, IMAGE_ICON);
 }
 
 HBITMAP CButton::SetBitmap(HBITMAP hBitmap)
 {
-    return Ask<HBITMAP>(*this, BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
+    return AfxSend<HBITMAP>(BM_SETIMAGE, IMAGE_BITMAP, hBitmap);
 }
 
 HBITMAP CButton::GetBitmap() const
 {
-    return Ask<HBITMAP>(*this, BM_GETIMAGE, IMAGE_BITMAP);
+    return AfxSend<HBITMAP>(BM_GETIMAGE, IMAGE_BITMAP);
 }
 
 HCURSOR CButton::SetCursor(HCURSOR hCursor)
 {
-    return Ask<HCURSOR>(*this, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
+    return AfxSend<HCURSOR>(BM_SETIMAGE, IMAGE_CURSOR, hCursor);
 }
 
 HCURSOR CButton::GetCursor()
 {
-    return Ask<HCURSOR>(*this, BM_GETIMAGE, IMAGE_CURSOR);
+    return AfxSend<HCURSOR>(BM_GETIMAGE, IMAGE_CURSOR);
 }
 
 BOOL CButton::GetIdealSize(SIZE* psize) const
 {
-    return Ask<BOOL>(*this, BCM_GETIDEALSIZE, 0, psize);
+    return AfxSend<BOOL>(BCM_GETIDEALSIZE, 0, psize);
 }
 
 BOOL CButton::SetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
 {
-    return Ask<BOOL>(*this, BCM_SETIMAGELIST, 0, pbuttonImagelist);
+    return AfxSend<BOOL>(BCM_SETIMAGELIST, 0, pbuttonImagelist);
 }
 
 BOOL CButton::GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const
 {
-    return Ask<BOOL>(*this, BCM_GETIMAGELIST, 0, pbuttonImagelist);
+    return AfxSend<BOOL>(BCM_GETIMAGELIST, 0, pbuttonImagelist);
 }
 
 BOOL CButton::SetTextMargin(LPRECT pmargin)
 {
-    return Ask<BOOL>(*this, BCM_SETTEXTMARGIN, 0, pmargin);
+    return AfxSend<BOOL>(BCM_SETTEXTMARGIN, 0, pmargin);
 }
 
 BOOL CButton::GetTextMargin(LPRECT pmargin) const
 {
-    return Ask<BOOL>(*this, BCM_GETTEXTMARGIN, 0, pmargin);
+    return AfxSend<BOOL>(BCM_GETTEXTMARGIN, 0, pmargin);
 }
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -209,47 +208,47 @@ BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nI
 
 int CListBox::GetCount() const
 {
-    return Ask<int>(*this, LB_GETCOUNT);
+    return AfxSend<int>(LB_GETCOUNT);
 }
 
 int CListBox::GetHorizontalExtent() const
 {
-    return Ask<int>(*this, LB_GETHORIZONTALEXTENT);
+    return AfxSend<int>(LB_GETHORIZONTALEXTENT);
 }
 
 void CListBox::SetHorizontalExtent(int cxExtent)
 {
-    Ask(*this, LB_SETHORIZONTALEXTENT, cxExtent);
+    AfxSend(LB_SETHORIZONTALEXTENT, cxExtent);
 }
 
 int CListBox::GetTopIndex() const
 {
-    return Ask<int>(*this, LB_GETTOPINDEX);
+    return AfxSend<int>(LB_GETTOPINDEX);
 }
 
 int CListBox::SetTopIndex(int nIndex)
 {
-    return Ask<int>(*this, LB_SETTOPINDEX, nIndex);
+    return AfxSend<int>(LB_SETTOPINDEX, nIndex);
 }
 
 LCID CListBox::GetLocale() const
 {
-    return Ask<LCID>(*this, LB_GETLOCALE);
+    return AfxSend<LCID>(LB_GETLOCALE);
 }
 
 LCID CListBox::SetLocale(LCID nNewLocale)
 {
-    return Ask<LCID>(*this, LB_SETLOCALE, nNewLocale);
+    return AfxSend<LCID>(LB_SETLOCALE, nNewLocale);
 }
 
 int CListBox::InitStorage(int nItems, UINT nBytes)
 {
-    return Ask<int>(*this, LB_INITSTORAGE, nItems, nBytes);
+    return AfxSend<int>(LB_INITSTORAGE, nItems, nBytes);
 }
 
 UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
 {
-    const DWORD answer = Ask<DWORD>(*this, LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
+    const DWORD answer = AfxSend<DWORD>(LB_ITEMFROMPOINT, 0, MAKELPARAM(pt.x, pt.y));
     bOutside = HIWORD(answer);
     return LOWORD(answer);
 }
@@ -261,110 +260,110 @@ DWORD CListBox::GetListBoxInfo() const
 
 void CListBox::SetColumnWidth(int cxWidth)
 {
-    Ask(*this, LB_SETCOLUMNWIDTH, cxWidth);
+    AfxSend(LB_SETCOLUMNWIDTH, cxWidth);
 }
 
 void CListBox::SetTabStops()
 {
-    Ask(*this, LB_SETTABSTOPS);
+    AfxSend(LB_SETTABSTOPS);
 }
 
 BOOL CListBox::SetTabStops(const int& cxEachStop)
 {
-    return Ask<BOOL>(*this, LB_SETTABSTOPS, 1, &cxEachStop);
+    return AfxSend<BOOL>(LB_SETTABSTOPS, 1, &cxEachStop);
 }
 
 BOOL CListBox::SetTabStops(int nTabStops, LPINT rgTabStops)
 {
-    return Ask<BOOL>(*this, LB_SETTABSTOPS, nTabStops, rgTabStops);
+    return AfxSend<BOOL>(LB_SETTABSTOPS, nTabStops, rgTabStops);
 }
 
 int CListBox::GetCurSel() const
 {
-    return Ask<int>(*this, LB_GETCURSEL);
+    return AfxSend<int>(LB_GETCURSEL);
 }
 
 int CListBox::SetCurSel(int nSelect)
 {
-    return Ask<int>(*this, LB_SETCURSEL, nSelect);
+    return AfxSend<int>(LB_SETCURSEL, nSelect);
 }
 
 int CListBox::GetSel(int nIndex) const
 {
-    return Ask<int>(*this, LB_GETSEL, nIndex);
+    return AfxSend<int>(LB_GETSEL, nIndex);
 }
 
 int CListBox::SetSel(int nIndex, BOOL bSelect)
 {
-    return Ask<int>(*this, LB_SETSEL, bSelect, nIndex);
+    return AfxSend<int>(LB_SETSEL, bSelect, nIndex);
 }
 
 int CListBox::GetSelCount() const
 {
-    return Ask<int>(*this, LB_GETSELCOUNT);
+    return AfxSend<int>(LB_GETSELCOUNT);
 }
 
 int CListBox::GetSelItems(int nMaxItems, LPINT rgIndex) const
 {
-    return Ask<int>(*this, LB_GETSELITEMS, nMaxItems, rgIndex);
+    return AfxSend<int>(LB_GETSELITEMS, nMaxItems, rgIndex);
 }
 
 void CListBox::SetAnchorIndex(int nIndex)
 {
-    Ask(*this, LB_SETANCHORINDEX, nIndex);
+    AfxSend(LB_SETANCHORINDEX, nIndex);
 }
 
 int CListBox::GetAnchorIndex() const
 {
-    return Ask<int>(*this, LB_GETANCHORINDEX);
+    return AfxSend<int>(LB_GETANCHORINDEX);
 }
 
 int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
 {
     if (bSelect)
-        return Ask<int>(*this, LB_SELITEMRANGEEX, nFirstItem, nLastItem);
+        return AfxSend<int>(LB_SELITEMRANGEEX, nFirstItem, nLastItem);
     // The message takes a selection away when the range is given backwards.
-    return Ask<int>(*this, LB_SELITEMRANGEEX, nLastItem, nFirstItem);
+    return AfxSend<int>(LB_SELITEMRANGEEX, nLastItem, nFirstItem);
 }
 
 int CListBox::GetCaretIndex() const
 {
-    return Ask<int>(*this, LB_GETCARETINDEX);
+    return AfxSend<int>(LB_GETCARETINDEX);
 }
 
 int CListBox::SetCaretIndex(int nIndex, BOOL bScroll)
 {
-    return Ask<int>(*this, LB_SETCARETINDEX, nIndex, MAKELPARAM(bScroll, 0));
+    return AfxSend<int>(LB_SETCARETINDEX, nIndex, MAKELPARAM(bScroll, 0));
 }
 
 DWORD_PTR CListBox::GetItemData(int nIndex) const
 {
-    return Ask<DWORD_PTR>(*this, LB_GETITEMDATA, nIndex);
+    return AfxSend<DWORD_PTR>(LB_GETITEMDATA, nIndex);
 }
 
 int CListBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 {
-    return Ask<int>(*this, LB_SETITEMDATA, nIndex, dwItemData);
+    return AfxSend<int>(LB_SETITEMDATA, nIndex, dwItemData);
 }
 
 void* CListBox::GetItemDataPtr(int nIndex) const
 {
-    return Ask<void*>(*this, LB_GETITEMDATA, nIndex);
+    return AfxSend<void*>(LB_GETITEMDATA, nIndex);
 }
 
 int CListBox::SetItemDataPtr(int nIndex, void* pData)
 {
-    return Ask<int>(*this, LB_SETITEMDATA, nIndex, pData);
+    return AfxSend<int>(LB_SETITEMDATA, nIndex, pData);
 }
 
 int CListBox::GetItemRect(int nIndex, LPRECT lpRect) const
 {
-    return Ask<int>(*this, LB_GETITEMRECT, nIndex, lpRect);
+    return AfxSend<int>(LB_GETITEMRECT, nIndex, lpRect);
 }
 
 int CListBox::GetText(int nIndex, LPTSTR lpszBuffer) const
 {
-    return Ask<int>(*this, LB_GETTEXT, nIndex, lpszBuffer);
+    return AfxSend<int>(LB_GETTEXT, nIndex, lpszBuffer);
 }
 
 void CListBox::GetText(int nIndex, CString& rString) const
@@ -379,57 +378,57 @@ void CListBox::GetText(int nIndex, CString& rString) const
 
 int CListBox::GetTextLen(int nIndex) const
 {
-    return Ask<int>(*this, LB_GETTEXTLEN, nIndex);
+    return AfxSend<int>(LB_GETTEXTLEN, nIndex);
 }
 
 int CListBox::SetItemHeight(int nIndex, UINT cyItemHeight)
 {
-    return Ask<int>(*this, LB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
+    return AfxSend<int>(LB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
 }
 
 int CListBox::GetItemHeight(int nIndex) const
 {
-    return Ask<int>(*this, LB_GETITEMHEIGHT, nIndex);
+    return AfxSend<int>(LB_GETITEMHEIGHT, nIndex);
 }
 
 int CListBox::AddString(LPCTSTR lpszItem)
 {
-    return Ask<int>(*this, LB_ADDSTRING, 0, lpszItem);
+    return AfxSend<int>(LB_ADDSTRING, 0, lpszItem);
 }
 
 int CListBox::DeleteString(UINT nIndex)
 {
-    return Ask<int>(*this, LB_DELETESTRING, nIndex);
+    return AfxSend<int>(LB_DELETESTRING, nIndex);
 }
 
 int CListBox::InsertString(int nIndex, LPCTSTR lpszItem)
 {
-    return Ask<int>(*this, LB_INSERTSTRING, nIndex, lpszItem);
+    return AfxSend<int>(LB_INSERTSTRING, nIndex, lpszItem);
 }
 
 void CListBox::ResetContent()
 {
-    Ask(*this, LB_RESETCONTENT);
+    AfxSend(LB_RESETCONTENT);
 }
 
 int CListBox::Dir(UINT attr, LPCTSTR lpszWildCard)
 {
-    return Ask<int>(*this, LB_DIR, attr, lpszWildCard);
+    return AfxSend<int>(LB_DIR, attr, lpszWildCard);
 }
 
 int CListBox::FindString(int nStartAfter, LPCTSTR lpszItem) const
 {
-    return Ask<int>(*this, LB_FINDSTRING, nStartAfter, lpszItem);
+    return AfxSend<int>(LB_FINDSTRING, nStartAfter, lpszItem);
 }
 
 int CListBox::FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
 {
-    return Ask<int>(*this, LB_FINDSTRINGEXACT, nIndexStart, lpszFind);
+    return AfxSend<int>(LB_FINDSTRINGEXACT, nIndexStart, lpszFind);
 }
 
 int CListBox::SelectString(int nStartAfter, LPCTSTR lpszItem)
 {
-    return Ask<int>(*this, LB_SELECTSTRING, nStartAfter, lpszItem);
+    return AfxSend<int>(LB_SELECTSTRING, nStartAfter, lpszItem);
 }
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -509,62 +508,62 @@ BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT n
 
 int CComboBox::GetCount() const
 {
-    return Ask<int>(*this, CB_GETCOUNT);
+    return AfxSend<int>(CB_GETCOUNT);
 }
 
 int CComboBox::GetCurSel() const
 {
-    return Ask<int>(*this, CB_GETCURSEL);
+    return AfxSend<int>(CB_GETCURSEL);
 }
 
 int CComboBox::SetCurSel(int nSelect)
 {
-    return Ask<int>(*this, CB_SETCURSEL, nSelect);
+    return AfxSend<int>(CB_SETCURSEL, nSelect);
 }
 
 LCID CComboBox::GetLocale() const
 {
-    return Ask<LCID>(*this, CB_GETLOCALE);
+    return AfxSend<LCID>(CB_GETLOCALE);
 }
 
 LCID CComboBox::SetLocale(LCID nNewLocale)
 {
-    return Ask<LCID>(*this, CB_SETLOCALE, nNewLocale);
+    return AfxSend<LCID>(CB_SETLOCALE, nNewLocale);
 }
 
 int CComboBox::GetTopIndex() const
 {
-    return Ask<int>(*this, CB_GETTOPINDEX);
+    return AfxSend<int>(CB_GETTOPINDEX);
 }
 
 int CComboBox::SetTopIndex(int nIndex)
 {
-    return Ask<int>(*this, CB_SETTOPINDEX, nIndex);
+    return AfxSend<int>(CB_SETTOPINDEX, nIndex);
 }
 
 int CComboBox::InitStorage(int nItems, UINT nBytes)
 {
-    return Ask<int>(*this, CB_INITSTORAGE, nItems, nBytes);
+    return AfxSend<int>(CB_INITSTORAGE, nItems, nBytes);
 }
 
 void CComboBox::SetHorizontalExtent(UINT nExtent)
 {
-    Ask(*this, CB_SETHORIZONTALEXTENT, nExtent);
+    AfxSend(CB_SETHORIZONTALEXTENT, nExtent);
 }
 
 UINT CComboBox::GetHorizontalExtent() const
 {
-    return Ask<UINT>(*this, CB_GETHORIZONTALEXTENT);
+    return AfxSend<UINT>(CB_GETHORIZONTALEXTENT);
 }
 
 int CComboBox::SetDroppedWidth(UINT nWidth)
 {
-    return Ask<int>(*this, CB_SETDROPPEDWIDTH, nWidth);
+    return AfxSend<int>(CB_SETDROPPEDWIDTH, nWidth);
 }
 
 int CComboBox::GetDroppedWidth() const
 {
-    return Ask<int>(*this, CB_GETDROPPEDWIDTH);
+    return AfxSend<int>(CB_GETDROPPEDWIDTH);
 }
 
 BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const
@@ -574,82 +573,82 @@ BOOL CComboBox::GetComboBoxInfo(PCOMBOBOXINFO pcbi) const
 
 BOOL CComboBox::SetMinVisibleItems(int iMinVisible)
 {
-    return Ask<BOOL>(*this, CB_SETMINVISIBLE, iMinVisible);
+    return AfxSend<BOOL>(CB_SETMINVISIBLE, iMinVisible);
 }
 
 int CComboBox::GetMinVisible() const
 {
-    return Ask<int>(*this, CB_GETMINVISIBLE);
+    return AfxSend<int>(CB_GETMINVISIBLE);
 }
 
 DWORD CComboBox::GetEditSel() const
 {
-    return Ask<DWORD>(*this, CB_GETEDITSEL);
+    return AfxSend<DWORD>(CB_GETEDITSEL);
 }
 
 BOOL CComboBox::LimitText(int nMaxChars)
 {
-    return Ask<BOOL>(*this, CB_LIMITTEXT, nMaxChars);
+    return AfxSend<BOOL>(CB_LIMITTEXT, nMaxChars);
 }
 
 BOOL CComboBox::SetEditSel(int nStartChar, int nEndChar)
 {
-    return Ask<BOOL>(*this, CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar));
+    return AfxSend<BOOL>(CB_SETEDITSEL, 0, MAKELPARAM(nStartChar, nEndChar));
 }
 
 BOOL CComboBox::SetCueBanner(LPCTSTR lpcwText)
 {
-    return Ask<BOOL>(*this, CB_SETCUEBANNER, 0, lpcwText);
+    return AfxSend<BOOL>(CB_SETCUEBANNER, 0, lpcwText);
 }
 
 BOOL CComboBox::GetCueBanner(LPTSTR lpcwText, int cchText) const
 {
-    return Ask<BOOL>(*this, CB_GETCUEBANNER, lpcwText, cchText);
+    return AfxSend<BOOL>(CB_GETCUEBANNER, lpcwText, cchText);
 }
 
 void CComboBox::Clear()
 {
-    Ask(*this, WM_CLEAR);
+    AfxSend(WM_CLEAR);
 }
 
 void CComboBox::Copy()
 {
-    Ask(*this, WM_COPY);
+    AfxSend(WM_COPY);
 }
 
 void CComboBox::Cut()
 {
-    Ask(*this, WM_CUT);
+    AfxSend(WM_CUT);
 }
 
 void CComboBox::Paste()
 {
-    Ask(*this, WM_PASTE);
+    AfxSend(WM_PASTE);
 }
 
 DWORD_PTR CComboBox::GetItemData(int nIndex) const
 {
-    return Ask<DWORD_PTR>(*this, CB_GETITEMDATA, nIndex);
+    return AfxSend<DWORD_PTR>(CB_GETITEMDATA, nIndex);
 }
 
 int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 {
-    return Ask<int>(*this, CB_SETITEMDATA, nIndex, dwItemData);
+    return AfxSend<int>(CB_SETITEMDATA, nIndex, dwItemData);
 }
 
 void* CComboBox::GetItemDataPtr(int nIndex) const
 {
-    return Ask<void*>(*this, CB_GETITEMDATA, nIndex);
+    return AfxSend<void*>(CB_GETITEMDATA, nIndex);
 }
 
 int CComboBox::SetItemDataPtr(int nIndex, void* pData)
 {
-    return Ask<int>(*this, CB_SETITEMDATA, nIndex, pData);
+    return AfxSend<int>(CB_SETITEMDATA, nIndex, pData);
 }
 
 int CComboBox::GetLBText(int nIndex, LPTSTR lpszText) const
 {
-    return Ask<int>(*this, CB_GETLBTEXT, nIndex, lpszText);
+    return AfxSend<int>(CB_GETLBTEXT, nIndex, lpszText);
 }
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const
@@ -664,82 +663,82 @@ void CComboBox::GetLBText(int nIndex, CString& rString) const
 
 int CComboBox::GetLBTextLen(int nIndex) const
 {
-    return Ask<int>(*this, CB_GETLBTEXTLEN, nIndex);
+    return AfxSend<int>(CB_GETLBTEXTLEN, nIndex);
 }
 
 int CComboBox::SetItemHeight(int nIndex, UINT cyItemHeight)
 {
-    return Ask<int>(*this, CB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
+    return AfxSend<int>(CB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
 }
 
 int CComboBox::GetItemHeight(int nIndex) const
 {
-    return Ask<int>(*this, CB_GETITEMHEIGHT, nIndex);
+    return AfxSend<int>(CB_GETITEMHEIGHT, nIndex);
 }
 
 int CComboBox::SetExtendedUI(BOOL bExtended)
 {
-    return Ask<int>(*this, CB_SETEXTENDEDUI, bExtended);
+    return AfxSend<int>(CB_SETEXTENDEDUI, bExtended);
 }
 
 BOOL CComboBox::GetExtendedUI() const
 {
-    return Ask<BOOL>(*this, CB_GETEXTENDEDUI);
+    return AfxSend<BOOL>(CB_GETEXTENDEDUI);
 }
 
 void CComboBox::GetDroppedControlRect(LPRECT lprect) const
 {
-    Ask(*this, CB_GETDROPPEDCONTROLRECT, 0, lprect);
+    AfxSend(CB_GETDROPPEDCONTROLRECT, 0, lprect);
 }
 
 BOOL CComboBox::GetDroppedState() const
 {
-    return Ask<BOOL>(*this, CB_GETDROPPEDSTATE);
+    return AfxSend<BOOL>(CB_GETDROPPEDSTATE);
 }
 
 void CComboBox::ShowDropDown(BOOL bShowIt)
 {
-    Ask(*this, CB_SHOWDROPDOWN, bShowIt);
+    AfxSend(CB_SHOWDROPDOWN, bShowIt);
 }
 
 int CComboBox::AddString(LPCTSTR lpszString)
 {
-    return Ask<int>(*this, CB_ADDSTRING, 0, lpszString);
+    return AfxSend<int>(CB_ADDSTRING, 0, lpszString);
 }
 
 int CComboBox::DeleteString(UINT nIndex)
 {
-    return Ask<int>(*this, CB_DELETESTRING, nIndex);
+    return AfxSend<int>(CB_DELETESTRING, nIndex);
 }
 
 int CComboBox::InsertString(int nIndex, LPCTSTR lpszString)
 {
-    return Ask<int>(*this, CB_INSERTSTRING, nIndex, lpszString);
+    return AfxSend<int>(CB_INSERTSTRING, nIndex, lpszString);
 }
 
 void CComboBox::ResetContent()
 {
-    Ask(*this, CB_RESETCONTENT);
+    AfxSend(CB_RESETCONTENT);
 }
 
 int CComboBox::Dir(UINT attr, LPCTSTR lpszWildCard)
 {
-    return Ask<int>(*this, CB_DIR, attr, lpszWildCard);
+    return AfxSend<int>(CB_DIR, attr, lpszWildCard);
 }
 
 int CComboBox::FindString(int nStartAfter, LPCTSTR lpszString) const
 {
-    return Ask<int>(*this, CB_FINDSTRING, nStartAfter, lpszString);
+    return AfxSend<int>(CB_FINDSTRING, nStartAfter, lpszString);
 }
 
 int CComboBox::FindStringExact(int nIndexStart, LPCTSTR lpszFind) const
 {
-    return Ask<int>(*this, CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
+    return AfxSend<int>(CB_FINDSTRINGEXACT, nIndexStart, lpszFind);
 }
 
 int CComboBox::SelectString(int nStartAfter, LPCTSTR lpszString)
 {
-    return Ask<int>(*this, CB_SELECTSTRING, nStartAfter, lpszString);
+    return AfxSend<int>(CB_SELECTSTRING, nStartAfter, lpszString);
 }
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
@@ -803,92 +802,92 @@ BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 
 BOOL CEdit::CanUndo() const
 {
-    return Ask<BOOL>(*this, EM_CANUNDO);
+    return AfxSend<BOOL>(EM_CANUNDO);
 }
 
 int CEdit::GetLineCount() const
 {
-    return Ask<int>(*this, EM_GETLINECOUNT);
+    return AfxSend<int>(EM_GETLINECOUNT);
 }
 
 BOOL CEdit::GetModify() const
 {
-    return Ask<BOOL>(*this, EM_GETMODIFY);
+    return AfxSend<BOOL>(EM_GETMODIFY);
 }
 
 void CEdit::SetModify(BOOL bModified)
 {
-    Ask(*this, EM_SETMODIFY, bModified);
+    AfxSend(EM_SETMODIFY, bModified);
 }
 
 void CEdit::SetRect(LPCRECT lpRect)
 {
-    Ask(*this, EM_SETRECT, 0, lpRect);
+    AfxSend(EM_SETRECT, 0, lpRect);
 }
 
 void CEdit::SetRectNP(LPCRECT lpRect)
 {
-    Ask(*this, EM_SETRECTNP, 0, lpRect);
+    AfxSend(EM_SETRECTNP, 0, lpRect);
 }
 
 void CEdit::GetRect(LPRECT lpRect) const
 {
-    Ask(*this, EM_GETRECT, 0, lpRect);
+    AfxSend(EM_GETRECT, 0, lpRect);
 }
 
 DWORD CEdit::GetSel() const
 {
-    return Ask<DWORD>(*this, EM_GETSEL);
+    return AfxSend<DWORD>(EM_GETSEL);
 }
 
 void CEdit::GetSel(int& nStartChar, int& nEndChar) const
 {
-    Ask(*this, EM_GETSEL, &nStartChar, &nEndChar);
+    AfxSend(EM_GETSEL, &nStartChar, &nEndChar);
 }
 
 HLOCAL CEdit::GetHandle() const
 {
-    return Ask<HLOCAL>(*this, EM_GETHANDLE);
+    return AfxSend<HLOCAL>(EM_GETHANDLE);
 }
 
 void CEdit::SetHandle(HLOCAL hBuffer)
 {
-    Ask(*this, EM_SETHANDLE, hBuffer);
+    AfxSend(EM_SETHANDLE, hBuffer);
 }
 
 void CEdit::SetMargins(UINT nLeft, UINT nRight)
 {
-    Ask(*this, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(nLeft, nRight));
+    AfxSend(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(nLeft, nRight));
 }
 
 DWORD CEdit::GetMargins() const
 {
-    return Ask<DWORD>(*this, EM_GETMARGINS);
+    return AfxSend<DWORD>(EM_GETMARGINS);
 }
 
 void CEdit::SetLimitText(UINT nMax)
 {
-    Ask(*this, EM_SETLIMITTEXT, nMax);
+    AfxSend(EM_SETLIMITTEXT, nMax);
 }
 
 UINT CEdit::GetLimitText() const
 {
-    return Ask<UINT>(*this, EM_GETLIMITTEXT);
+    return AfxSend<UINT>(EM_GETLIMITTEXT);
 }
 
 CPoint CEdit::PosFromChar(UINT nChar) const
 {
-    return CPoint(Ask<LPARAM>(*this, EM_POSFROMCHAR, nChar));
+    return CPoint(AfxSend<LPARAM>(EM_POSFROMCHAR, nChar));
 }
 
 int CEdit::CharFromPos(CPoint pt) const
 {
-    return Ask<int>(*this, EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y));
+    return AfxSend<int>(EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y));
 }
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const
 {
-    return Ask<int>(*this, EM_GETLINE, nIndex, lpszBuffer);
+    return AfxSend<int>(EM_GETLINE, nIndex, lpszBuffer);
 }
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
@@ -900,52 +899,52 @@ int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer, int nMaxLength) const
 
 void CEdit::EmptyUndoBuffer()
 {
-    Ask(*this, EM_EMPTYUNDOBUFFER);
+    AfxSend(EM_EMPTYUNDOBUFFER);
 }
 
 BOOL CEdit::FmtLines(BOOL bAddEOL)
 {
-    return Ask<BOOL>(*this, EM_FMTLINES, bAddEOL);
+    return AfxSend<BOOL>(EM_FMTLINES, bAddEOL);
 }
 
 void CEdit::LimitText(int nChars)
 {
-    Ask(*this, EM_LIMITTEXT, nChars);
+    AfxSend(EM_LIMITTEXT, nChars);
 }
 
 int CEdit::LineFromChar(int nIndex) const
 {
-    return Ask<int>(*this, EM_LINEFROMCHAR, nIndex);
+    return AfxSend<int>(EM_LINEFROMCHAR, nIndex);
 }
 
 int CEdit::LineIndex(int nLine) const
 {
-    return Ask<int>(*this, EM_LINEINDEX, nLine);
+    return AfxSend<int>(EM_LINEINDEX, nLine);
 }
 
 int CEdit::LineLength(int nLine) const
 {
-    return Ask<int>(*this, EM_LINELENGTH, nLine);
+    return AfxSend<int>(EM_LINELENGTH, nLine);
 }
 
 void CEdit::LineScroll(int nLines, int nChars)
 {
-    Ask(*this, EM_LINESCROLL, nChars, nLines);
+    AfxSend(EM_LINESCROLL, nChars, nLines);
 }
 
 void CEdit::ReplaceSel(LPCTSTR lpszNewText, BOOL bCanUndo)
 {
-    Ask(*this, EM_REPLACESEL, bCanUndo, lpszNewText);
+    AfxSend(EM_REPLACESEL, bCanUndo, lpszNewText);
 }
 
 void CEdit::SetPasswordChar(TCHAR ch)
 {
-    Ask(*this, EM_SETPASSWORDCHAR, ch);
+    AfxSend(EM_SETPASSWORDCHAR, ch);
 }
 
 TCHAR CEdit::GetPasswordChar() const
 {
-    return Ask<TCHAR>(*this, EM_GETPASSWORDCHAR);
+    return AfxSend<TCHAR>(EM_GETPASSWORDCHAR);
 }
 
 void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll)
@@ -956,49 +955,49 @@ void CEdit::SetSel(DWORD dwSelection, BOOL bNoScroll)
 
 void CEdit::SetSel(int nStartChar, int nEndChar, BOOL bNoScroll)
 {
-    Ask(*this, EM_SETSEL, nStartChar, nEndChar);
+    AfxSend(EM_SETSEL, nStartChar, nEndChar);
     if (!bNoScroll)
-        Ask(*this, EM_SCROLLCARET);
+        AfxSend(EM_SCROLLCARET);
 }
 
 BOOL CEdit::SetTabStops(int nTabStops, LPINT rgTabStops)
 {
-    return Ask<BOOL>(*this, EM_SETTABSTOPS, nTabStops, rgTabStops);
+    return AfxSend<BOOL>(EM_SETTABSTOPS, nTabStops, rgTabStops);
 }
 
 void CEdit::SetTabStops()
 {
-    Ask(*this, EM_SETTABSTOPS);
+    AfxSend(EM_SETTABSTOPS);
 }
 
 BOOL CEdit::SetTabStops(const int& cxEachStop)
 {
-    return Ask<BOOL>(*this, EM_SETTABSTOPS, 1, &cxEachStop);
+    return AfxSend<BOOL>(EM_SETTABSTOPS, 1, &cxEachStop);
 }
 
 int CEdit::GetFirstVisibleLine() const
 {
-    return Ask<int>(*this, EM_GETFIRSTVISIBLELINE);
+    return AfxSend<int>(EM_GETFIRSTVISIBLELINE);
 }
 
 BOOL CEdit::SetReadOnly(BOOL bReadOnly)
 {
-    return Ask<BOOL>(*this, EM_SETREADONLY, bReadOnly);
+    return AfxSend<BOOL>(EM_SETREADONLY, bReadOnly);
 }
 
 BOOL CEdit::SetCueBanner(LPCWSTR lpszText)
 {
-    return Ask<BOOL>(*this, EM_SETCUEBANNER, FALSE, lpszText);
+    return AfxSend<BOOL>(EM_SETCUEBANNER, FALSE, lpszText);
 }
 
 BOOL CEdit::GetCueBanner(LPWSTR lpszText, int cchText) const
 {
-    return Ask<BOOL>(*this, EM_GETCUEBANNER, lpszText, cchText);
+    return AfxSend<BOOL>(EM_GETCUEBANNER, lpszText, cchText);
 }
 
 BOOL CEdit::ShowBalloonTip(PEDITBALLOONTIP pEditBalloonTip)
 {
-    return Ask<BOOL>(*this, EM_SHOWBALLOONTIP, 0, pEditBalloonTip);
+    return AfxSend<BOOL>(EM_SHOWBALLOONTIP, 0, pEditBalloonTip);
 }
 
 BOOL CEdit::ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon)
@@ -1013,32 +1012,32 @@ BOOL CEdit::ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon)
 
 BOOL CEdit::HideBalloonTip()
 {
-    return Ask<BOOL>(*this, EM_HIDEBALLOONTIP);
+    return AfxSend<BOOL>(EM_HIDEBALLOONTIP);
 }
 
 BOOL CEdit::Undo()
 {
-    return Ask<BOOL>(*this, EM_UNDO);
+    return AfxSend<BOOL>(EM_UNDO);
 }
 
 void CEdit::Clear()
 {
-    Ask(*this, WM_CLEAR);
+    AfxSend(WM_CLEAR);
 }
 
 void CEdit::Copy()
 {
-    Ask(*this, WM_COPY);
+    AfxSend(WM_COPY);
 }
 
 void CEdit::Cut()
 {
-    Ask(*this, WM_CUT);
+    AfxSend(WM_CUT);
 }
 
 void CEdit::Paste()
 {
-    Ask(*this, WM_PASTE);
+    AfxSend(WM_PASTE);
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -3,7 +3,6 @@
 #include <afxcmn.h>
 
 #include "commctl.h"
-#include "ctlmsg.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // CListCtrl
@@ -39,112 +38,112 @@ void CListCtrl::OnDestroy()
     // The control would destroy lists that belong to an object.
     for (int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
     {
-        const auto images = Ask<HIMAGELIST>(*this, LVM_GETIMAGELIST, kind);
+        const auto images = AfxSend<HIMAGELIST>(LVM_GETIMAGELIST, kind);
         if (CImageList::FromHandlePermanent(images) != nullptr)
-            Ask(*this, LVM_SETIMAGELIST, kind);
+            AfxSend(LVM_SETIMAGELIST, kind);
     }
     CWnd::OnDestroy();
 }
 
 COLORREF CListCtrl::GetBkColor() const
 {
-    return Ask<COLORREF>(*this, LVM_GETBKCOLOR);
+    return AfxSend<COLORREF>(LVM_GETBKCOLOR);
 }
 
 BOOL CListCtrl::SetBkColor(COLORREF cr)
 {
-    return Ask<BOOL>(*this, LVM_SETBKCOLOR, 0, cr);
+    return AfxSend<BOOL>(LVM_SETBKCOLOR, 0, cr);
 }
 
 COLORREF CListCtrl::GetTextColor() const
 {
-    return Ask<COLORREF>(*this, LVM_GETTEXTCOLOR);
+    return AfxSend<COLORREF>(LVM_GETTEXTCOLOR);
 }
 
 BOOL CListCtrl::SetTextColor(COLORREF cr)
 {
-    return Ask<BOOL>(*this, LVM_SETTEXTCOLOR, 0, cr);
+    return AfxSend<BOOL>(LVM_SETTEXTCOLOR, 0, cr);
 }
 
 COLORREF CListCtrl::GetTextBkColor() const
 {
-    return Ask<COLORREF>(*this, LVM_GETTEXTBKCOLOR);
+    return AfxSend<COLORREF>(LVM_GETTEXTBKCOLOR);
 }
 
 BOOL CListCtrl::SetTextBkColor(COLORREF cr)
 {
-    return Ask<BOOL>(*this, LVM_SETTEXTBKCOLOR, 0, cr);
+    return AfxSend<BOOL>(LVM_SETTEXTBKCOLOR, 0, cr);
 }
 
 CImageList* CListCtrl::GetImageList(int nImageList) const
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_GETIMAGELIST, nImageList));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(LVM_GETIMAGELIST, nImageList));
 }
 
 CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
     const HIMAGELIST images = SafeImages(pImageList);
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, LVM_SETIMAGELIST, nImageListType, images));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(LVM_SETIMAGELIST, nImageListType, images));
 }
 
 int CListCtrl::GetItemCount() const
 {
-    return Ask<int>(*this, LVM_GETITEMCOUNT);
+    return AfxSend<int>(LVM_GETITEMCOUNT);
 }
 
 void CListCtrl::SetItemCount(int nItems)
 {
-    Ask(*this, LVM_SETITEMCOUNT, nItems);
+    AfxSend(LVM_SETITEMCOUNT, nItems);
 }
 
 BOOL CListCtrl::SetItemCountEx(int iCount, DWORD dwFlags)
 {
-    return Ask<BOOL>(*this, LVM_SETITEMCOUNT, iCount, dwFlags);
+    return AfxSend<BOOL>(LVM_SETITEMCOUNT, iCount, dwFlags);
 }
 
 UINT CListCtrl::GetCallbackMask() const
 {
-    return Ask<UINT>(*this, LVM_GETCALLBACKMASK);
+    return AfxSend<UINT>(LVM_GETCALLBACKMASK);
 }
 
 BOOL CListCtrl::SetCallbackMask(UINT nMask)
 {
-    return Ask<BOOL>(*this, LVM_SETCALLBACKMASK, nMask);
+    return AfxSend<BOOL>(LVM_SETCALLBACKMASK, nMask);
 }
 
 DWORD CListCtrl::GetExtendedStyle()
 {
-    return Ask<DWORD>(*this, LVM_GETEXTENDEDLISTVIEWSTYLE);
+    return AfxSend<DWORD>(LVM_GETEXTENDEDLISTVIEWSTYLE);
 }
 
 DWORD CListCtrl::SetExtendedStyle(DWORD dwNewStyle)
 {
-    return Ask<DWORD>(*this, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
+    return AfxSend<DWORD>(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
 }
 
 BOOL CListCtrl::GetViewRect(LPRECT lpRect) const
 {
-    return Ask<BOOL>(*this, LVM_GETVIEWRECT, 0, lpRect);
+    return AfxSend<BOOL>(LVM_GETVIEWRECT, 0, lpRect);
 }
 
 BOOL CListCtrl::GetOrigin(LPPOINT lpPoint) const
 {
-    return Ask<BOOL>(*this, LVM_GETORIGIN, 0, lpPoint);
+    return AfxSend<BOOL>(LVM_GETORIGIN, 0, lpPoint);
 }
 
 int CListCtrl::GetTopIndex() const
 {
-    return Ask<int>(*this, LVM_GETTOPINDEX);
+    return AfxSend<int>(LVM_GETTOPINDEX);
 }
 
 int CListCtrl::GetCountPerPage() const
 {
-    return Ask<int>(*this, LVM_GETCOUNTPERPAGE);
+    return AfxSend<int>(LVM_GETCOUNTPERPAGE);
 }
 
 BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const
 {
-    const DWORD spacing = Ask<DWORD>(*this, LVM_GETITEMSPACING, fSmall);
+    const DWORD spacing = AfxSend<DWORD>(LVM_GETITEMSPACING, fSmall);
     *pnHorzSpacing = LOWORD(spacing);
     *pnVertSpacing = HIWORD(spacing);
     return TRUE;
@@ -152,7 +151,7 @@ BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpaci
 
 CSize CListCtrl::SetIconSpacing(int cx, int cy)
 {
-    return CSize(Ask<DWORD>(*this, LVM_SETICONSPACING, 0, MAKELPARAM(cx, cy)));
+    return CSize(AfxSend<DWORD>(LVM_SETICONSPACING, 0, MAKELPARAM(cx, cy)));
 }
 
 CSize CListCtrl::SetIconSpacing(CSize size)
@@ -162,33 +161,33 @@ CSize CListCtrl::SetIconSpacing(CSize size)
 
 CHeaderCtrl* CListCtrl::GetHeaderCtrl() const
 {
-    return static_cast<CHeaderCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETHEADER)));
+    return static_cast<CHeaderCtrl*>(CWnd::FromHandle(AfxSend<HWND>(LVM_GETHEADER)));
 }
 
 CEdit* CListCtrl::GetEditControl() const
 {
-    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETEDITCONTROL)));
+    return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(LVM_GETEDITCONTROL)));
 }
 
 CToolTipCtrl* CListCtrl::GetToolTips() const
 {
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_GETTOOLTIPS)));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(AfxSend<HWND>(LVM_GETTOOLTIPS)));
 }
 
 CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    const HWND before = Ask<HWND>(*this, LVM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    const HWND before = AfxSend<HWND>(LVM_SETTOOLTIPS, SafeHwnd(pWndTip));
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
 }
 
 BOOL CListCtrl::GetBkImage(LVBKIMAGE* plvbkImage) const
 {
-    return Ask<BOOL>(*this, LVM_GETBKIMAGE, 0, plvbkImage);
+    return AfxSend<BOOL>(LVM_GETBKIMAGE, 0, plvbkImage);
 }
 
 BOOL CListCtrl::SetBkImage(LVBKIMAGE* plvbkImage)
 {
-    return Ask<BOOL>(*this, LVM_SETBKIMAGE, 0, plvbkImage);
+    return AfxSend<BOOL>(LVM_SETBKIMAGE, 0, plvbkImage);
 }
 
 BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
@@ -213,43 +212,43 @@ BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yO
 
 DWORD CListCtrl::GetView() const
 {
-    return Ask<DWORD>(*this, LVM_GETVIEW);
+    return AfxSend<DWORD>(LVM_GETVIEW);
 }
 
 DWORD CListCtrl::SetView(int iView)
 {
-    return Ask<DWORD>(*this, LVM_SETVIEW, iView);
+    return AfxSend<DWORD>(LVM_SETVIEW, iView);
 }
 
 int CListCtrl::GetStringWidth(LPCTSTR lpsz) const
 {
-    return Ask<int>(*this, LVM_GETSTRINGWIDTH, 0, lpsz);
+    return AfxSend<int>(LVM_GETSTRINGWIDTH, 0, lpsz);
 }
 
 DWORD CListCtrl::GetHoverTime() const
 {
-    return Ask<DWORD>(*this, LVM_GETHOVERTIME);
+    return AfxSend<DWORD>(LVM_GETHOVERTIME);
 }
 
 DWORD CListCtrl::SetHoverTime(DWORD dwHoverTime)
 {
-    return Ask<DWORD>(*this, LVM_SETHOVERTIME, 0, dwHoverTime);
+    return AfxSend<DWORD>(LVM_SETHOVERTIME, 0, dwHoverTime);
 }
 
 void CListCtrl::SetWorkAreas(int nWorkAreas, LPRECT lpRect)
 {
-    Ask(*this, LVM_SETWORKAREAS, nWorkAreas, lpRect);
+    AfxSend(LVM_SETWORKAREAS, nWorkAreas, lpRect);
 }
 
 BOOL CListCtrl::GetWorkAreas(int nWorkAreas, LPRECT prc) const
 {
-    return Ask<BOOL>(*this, LVM_GETWORKAREAS, nWorkAreas, prc);
+    return AfxSend<BOOL>(LVM_GETWORKAREAS, nWorkAreas, prc);
 }
 
 UINT CListCtrl::GetNumberOfWorkAreas() const
 {
     UINT count = 0;
-    Ask(*this, LVM_GETNUMBEROFWORKAREAS, 0, &count);
+    AfxSend(LVM_GETNUMBEROFWORKAREAS, 0, &count);
     return count;
 }
 
@@ -258,12 +257,12 @@ UINT CListCtrl::GetNumberOfWorkAreas() const
 
 BOOL CListCtrl::GetItem(LVITEM* pItem) const
 {
-    return Ask<BOOL>(*this, LVM_GETITEM, 0, pItem);
+    return AfxSend<BOOL>(LVM_GETITEM, 0, pItem);
 }
 
 BOOL CListCtrl::SetItem(const LVITEM* pItem)
 {
-    return Ask<BOOL>(*this, LVM_SETITEM, 0, pItem);
+    return AfxSend<BOOL>(LVM_SETITEM, 0, pItem);
 }
 
 BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
@@ -290,12 +289,12 @@ BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, i
 
 UINT CListCtrl::GetItemState(int nItem, UINT nMask) const
 {
-    return Ask<UINT>(*this, LVM_GETITEMSTATE, nItem, nMask);
+    return AfxSend<UINT>(LVM_GETITEMSTATE, nItem, nMask);
 }
 
 BOOL CListCtrl::SetItemState(int nItem, LVITEM* pItem)
 {
-    return Ask<BOOL>(*this, LVM_SETITEMSTATE, nItem, pItem);
+    return AfxSend<BOOL>(LVM_SETITEMSTATE, nItem, pItem);
 }
 
 BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask)
@@ -318,7 +317,7 @@ int CListCtrl::GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) c
     item.iSubItem = nSubItem;
     item.pszText = lpszText;
     item.cchTextMax = nLen;
-    const int length = Ask<int>(*this, LVM_GETITEMTEXT, nItem, &item);
+    const int length = AfxSend<int>(LVM_GETITEMTEXT, nItem, &item);
     // The control may answer with a buffer of its own instead of filling this one.
     if (length > 0 && item.pszText != lpszText)
         ::lstrcpyn(lpszText, item.pszText, nLen);
@@ -330,7 +329,7 @@ BOOL CListCtrl::SetItemText(int nItem, int nSubItem, LPCTSTR lpszText)
     LVITEM item = {};
     item.iSubItem = nSubItem;
     item.pszText = const_cast<LPTSTR>(lpszText);
-    return Ask<BOOL>(*this, LVM_SETITEMTEXT, nItem, &item);
+    return AfxSend<BOOL>(LVM_SETITEMTEXT, nItem, &item);
 }
 
 DWORD_PTR CListCtrl::GetItemData(int nItem) const
@@ -349,27 +348,27 @@ BOOL CListCtrl::SetItemData(int nItem, DWORD_PTR dwData)
 
 BOOL CListCtrl::GetItemPosition(int nItem, LPPOINT lpPoint) const
 {
-    return Ask<BOOL>(*this, LVM_GETITEMPOSITION, nItem, lpPoint);
+    return AfxSend<BOOL>(LVM_GETITEMPOSITION, nItem, lpPoint);
 }
 
 BOOL CListCtrl::SetItemPosition(int nItem, POINT pt)
 {
     // The form with 32-bit coordinates has no answer.
-    Ask(*this, LVM_SETITEMPOSITION32, nItem, &pt);
+    AfxSend(LVM_SETITEMPOSITION32, nItem, &pt);
     return TRUE;
 }
 
 BOOL CListCtrl::GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const
 {
     lpRect->left = nCode;
-    return Ask<BOOL>(*this, LVM_GETITEMRECT, nItem, lpRect);
+    return AfxSend<BOOL>(LVM_GETITEMRECT, nItem, lpRect);
 }
 
 BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref)
 {
     ref.top = iSubItem;
     ref.left = nArea;
-    return Ask<BOOL>(*this, LVM_GETSUBITEMRECT, iItem, &ref);
+    return AfxSend<BOOL>(LVM_GETSUBITEMRECT, iItem, &ref);
 }
 
 BOOL CListCtrl::GetCheck(int nItem) const
@@ -385,42 +384,42 @@ BOOL CListCtrl::SetCheck(int nItem, BOOL fCheck)
 
 int CListCtrl::GetNextItem(int nItem, int nFlags) const
 {
-    return Ask<int>(*this, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+    return AfxSend<int>(LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
 }
 
 UINT CListCtrl::GetSelectedCount() const
 {
-    return Ask<UINT>(*this, LVM_GETSELECTEDCOUNT);
+    return AfxSend<UINT>(LVM_GETSELECTEDCOUNT);
 }
 
 int CListCtrl::GetSelectionMark() const
 {
-    return Ask<int>(*this, LVM_GETSELECTIONMARK);
+    return AfxSend<int>(LVM_GETSELECTIONMARK);
 }
 
 int CListCtrl::SetSelectionMark(int iIndex)
 {
-    return Ask<int>(*this, LVM_SETSELECTIONMARK, 0, iIndex);
+    return AfxSend<int>(LVM_SETSELECTIONMARK, 0, iIndex);
 }
 
 int CListCtrl::GetHotItem() const
 {
-    return Ask<int>(*this, LVM_GETHOTITEM);
+    return AfxSend<int>(LVM_GETHOTITEM);
 }
 
 int CListCtrl::SetHotItem(int iIndex)
 {
-    return Ask<int>(*this, LVM_SETHOTITEM, iIndex);
+    return AfxSend<int>(LVM_SETHOTITEM, iIndex);
 }
 
 HCURSOR CListCtrl::GetHotCursor()
 {
-    return Ask<HCURSOR>(*this, LVM_GETHOTCURSOR);
+    return AfxSend<HCURSOR>(LVM_GETHOTCURSOR);
 }
 
 HCURSOR CListCtrl::SetHotCursor(HCURSOR hc)
 {
-    return Ask<HCURSOR>(*this, LVM_SETHOTCURSOR, 0, hc);
+    return AfxSend<HCURSOR>(LVM_SETHOTCURSOR, 0, hc);
 }
 
 namespace
@@ -454,27 +453,27 @@ int CListCtrl::GetNextSelectedItem(POSITION& pos) const
 
 BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const
 {
-    return Ask<BOOL>(*this, LVM_GETCOLUMN, nCol, pColumn);
+    return AfxSend<BOOL>(LVM_GETCOLUMN, nCol, pColumn);
 }
 
 BOOL CListCtrl::SetColumn(int nCol, const LVCOLUMN* pColumn)
 {
-    return Ask<BOOL>(*this, LVM_SETCOLUMN, nCol, pColumn);
+    return AfxSend<BOOL>(LVM_SETCOLUMN, nCol, pColumn);
 }
 
 int CListCtrl::GetColumnWidth(int nCol) const
 {
-    return Ask<int>(*this, LVM_GETCOLUMNWIDTH, nCol);
+    return AfxSend<int>(LVM_GETCOLUMNWIDTH, nCol);
 }
 
 BOOL CListCtrl::SetColumnWidth(int nCol, int cx)
 {
-    return Ask<BOOL>(*this, LVM_SETCOLUMNWIDTH, nCol, MAKELPARAM(cx, 0));
+    return AfxSend<BOOL>(LVM_SETCOLUMNWIDTH, nCol, MAKELPARAM(cx, 0));
 }
 
 int CListCtrl::InsertColumn(int nCol, const LVCOLUMN* pColumn)
 {
-    return Ask<int>(*this, LVM_INSERTCOLUMN, nCol, pColumn);
+    return AfxSend<int>(LVM_INSERTCOLUMN, nCol, pColumn);
 }
 
 int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, int nWidth, int nSubItem)
@@ -498,19 +497,19 @@ int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, in
 
 BOOL CListCtrl::DeleteColumn(int nCol)
 {
-    return Ask<BOOL>(*this, LVM_DELETECOLUMN, nCol);
+    return AfxSend<BOOL>(LVM_DELETECOLUMN, nCol);
 }
 
 BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount)
 {
     if (iCount == -1)
         iCount = GetHeaderCtrl()->GetItemCount();
-    return Ask<BOOL>(*this, LVM_GETCOLUMNORDERARRAY, iCount, piArray);
+    return AfxSend<BOOL>(LVM_GETCOLUMNORDERARRAY, iCount, piArray);
 }
 
 BOOL CListCtrl::SetColumnOrderArray(int iCount, LPINT piArray)
 {
-    return Ask<BOOL>(*this, LVM_SETCOLUMNORDERARRAY, iCount, piArray);
+    return AfxSend<BOOL>(LVM_SETCOLUMNORDERARRAY, iCount, piArray);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -518,7 +517,7 @@ BOOL CListCtrl::SetColumnOrderArray(int iCount, LPINT piArray)
 
 int CListCtrl::InsertItem(const LVITEM* pItem)
 {
-    return Ask<int>(*this, LVM_INSERTITEM, 0, pItem);
+    return AfxSend<int>(LVM_INSERTITEM, 0, pItem);
 }
 
 int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem)
@@ -547,27 +546,27 @@ int CListCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, 
 
 BOOL CListCtrl::DeleteItem(int nItem)
 {
-    return Ask<BOOL>(*this, LVM_DELETEITEM, nItem);
+    return AfxSend<BOOL>(LVM_DELETEITEM, nItem);
 }
 
 BOOL CListCtrl::DeleteAllItems()
 {
-    return Ask<BOOL>(*this, LVM_DELETEALLITEMS);
+    return AfxSend<BOOL>(LVM_DELETEALLITEMS);
 }
 
 int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const
 {
-    return Ask<int>(*this, LVM_FINDITEM, nStart, pFindInfo);
+    return AfxSend<int>(LVM_FINDITEM, nStart, pFindInfo);
 }
 
 BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
 {
-    return Ask<BOOL>(*this, LVM_SORTITEMS, dwData, pfnCompare);
+    return AfxSend<BOOL>(LVM_SORTITEMS, dwData, pfnCompare);
 }
 
 int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const
 {
-    return Ask<int>(*this, LVM_HITTEST, 0, pHitTestInfo);
+    return AfxSend<int>(LVM_HITTEST, 0, pHitTestInfo);
 }
 
 int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
@@ -582,7 +581,7 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
 
 int CListCtrl::SubItemHitTest(LPLVHITTESTINFO pInfo)
 {
-    return Ask<int>(*this, LVM_SUBITEMHITTEST, 0, pInfo);
+    return AfxSend<int>(LVM_SUBITEMHITTEST, 0, pInfo);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -590,42 +589,42 @@ int CListCtrl::SubItemHitTest(LPLVHITTESTINFO pInfo)
 
 BOOL CListCtrl::EnsureVisible(int nItem, BOOL bPartialOK)
 {
-    return Ask<BOOL>(*this, LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
+    return AfxSend<BOOL>(LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
 }
 
 BOOL CListCtrl::Scroll(CSize size)
 {
-    return Ask<BOOL>(*this, LVM_SCROLL, size.cx, size.cy);
+    return AfxSend<BOOL>(LVM_SCROLL, size.cx, size.cy);
 }
 
 BOOL CListCtrl::RedrawItems(int nFirst, int nLast)
 {
-    return Ask<BOOL>(*this, LVM_REDRAWITEMS, nFirst, nLast);
+    return AfxSend<BOOL>(LVM_REDRAWITEMS, nFirst, nLast);
 }
 
 BOOL CListCtrl::Arrange(UINT nCode)
 {
-    return Ask<BOOL>(*this, LVM_ARRANGE, nCode);
+    return AfxSend<BOOL>(LVM_ARRANGE, nCode);
 }
 
 CEdit* CListCtrl::EditLabel(int nItem)
 {
-    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, LVM_EDITLABEL, nItem)));
+    return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(LVM_EDITLABEL, nItem)));
 }
 
 BOOL CListCtrl::Update(int nItem)
 {
-    return Ask<BOOL>(*this, LVM_UPDATE, nItem);
+    return AfxSend<BOOL>(LVM_UPDATE, nItem);
 }
 
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)
 {
-    return NewImageList(Ask<HIMAGELIST>(*this, LVM_CREATEDRAGIMAGE, nItem, lpPoint));
+    return NewImageList(AfxSend<HIMAGELIST>(LVM_CREATEDRAGIMAGE, nItem, lpPoint));
 }
 
 DWORD CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
 {
-    return Ask<DWORD>(*this, LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy));
+    return AfxSend<DWORD>(LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy));
 }
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)

@@ -4,7 +4,6 @@
 #include <afxpriv.h>
 
 #include "commctl.h"
-#include "ctlmsg.h"
 
 IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
@@ -102,7 +101,7 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UIN
     if (lpRectTool != nullptr)
         tool.rect = *lpRectTool;
     tool.lpszText = const_cast<LPTSTR>(lpszText);
-    return Ask<BOOL>(*this, TTM_ADDTOOL, 0, &tool);
+    return AfxSend<BOOL>(TTM_ADDTOOL, 0, &tool);
 }
 
 namespace
@@ -122,14 +121,14 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PT
         tool.rect = *lpRectTool;
     tool.hinst = StringModule(nIDText);
     tool.lpszText = MAKEINTRESOURCE(nIDText);
-    return Ask<BOOL>(*this, TTM_ADDTOOL, 0, &tool);
+    return AfxSend<BOOL>(TTM_ADDTOOL, 0, &tool);
 }
 
 void CToolTipCtrl::DelTool(CWnd* pWnd, UINT_PTR nIDTool)
 {
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);
-    Ask(*this, TTM_DELTOOL, 0, &tool);
+    AfxSend(TTM_DELTOOL, 0, &tool);
 }
 
 void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
@@ -140,7 +139,7 @@ void CToolTipCtrl::GetText(CString& str, CWnd* pWnd, UINT_PTR nIDTool) const
     FillInToolInfo(tool, pWnd, nIDTool);
     tool.lpszText = str.GetBuffer(longest);
     tool.lpszText[0] = 0;
-    Ask(*this, TTM_GETTEXT, longest, &tool);
+    AfxSend(TTM_GETTEXT, longest, &tool);
     str.ReleaseBuffer();
 }
 
@@ -149,7 +148,7 @@ void CToolTipCtrl::UpdateTipText(LPCTSTR lpszText, CWnd* pWnd, UINT_PTR nIDTool)
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);
     tool.lpszText = const_cast<LPTSTR>(lpszText);
-    Ask(*this, TTM_UPDATETIPTEXT, 0, &tool);
+    AfxSend(TTM_UPDATETIPTEXT, 0, &tool);
 }
 
 void CToolTipCtrl::UpdateTipText(UINT nIDText, CWnd* pWnd, UINT_PTR nIDTool)
@@ -164,17 +163,17 @@ BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool
     FillInToolInfo(ToolInfo, pWnd, nIDTool);
     ToolInfo.szText[0] = 0;
     ToolInfo.lpszText = ToolInfo.szText;
-    return Ask<BOOL>(*this, TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
+    return AfxSend<BOOL>(TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
 }
 
 void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo)
 {
-    Ask(*this, TTM_SETTOOLINFO, 0, lpToolInfo);
+    AfxSend(TTM_SETTOOLINFO, 0, lpToolInfo);
 }
 
 BOOL CToolTipCtrl::GetCurrentTool(LPTOOLINFO lpToolInfo) const
 {
-    return Ask<BOOL>(*this, TTM_GETCURRENTTOOL, 0, lpToolInfo);
+    return AfxSend<BOOL>(TTM_GETCURRENTTOOL, 0, lpToolInfo);
 }
 
 void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect)
@@ -182,7 +181,7 @@ void CToolTipCtrl::SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect)
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);
     tool.rect = *lpRect;
-    Ask(*this, TTM_NEWTOOLRECT, 0, &tool);
+    AfxSend(TTM_NEWTOOLRECT, 0, &tool);
 }
 
 BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
@@ -191,7 +190,7 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
     hit.ti.cbSize = TTTOOLINFO_V1_SIZE;
     hit.hwnd = SafeHwnd(pWnd);
     hit.pt = pt;
-    if (!Ask<BOOL>(*this, TTM_HITTEST, 0, &hit))
+    if (!AfxSend<BOOL>(TTM_HITTEST, 0, &hit))
         return FALSE;
     *lpToolInfo = hit.ti;
     return TRUE;
@@ -199,12 +198,12 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
 
 int CToolTipCtrl::GetToolCount() const
 {
-    return Ask<int>(*this, TTM_GETTOOLCOUNT);
+    return AfxSend<int>(TTM_GETTOOLCOUNT);
 }
 
 void CToolTipCtrl::RelayEvent(LPMSG lpMsg)
 {
-    Ask(*this, TTM_RELAYEVENT, 0, lpMsg);
+    AfxSend(TTM_RELAYEVENT, 0, lpMsg);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -212,12 +211,12 @@ void CToolTipCtrl::RelayEvent(LPMSG lpMsg)
 
 int CToolTipCtrl::GetDelayTime(DWORD dwDuration) const
 {
-    return Ask<int>(*this, TTM_GETDELAYTIME, dwDuration);
+    return AfxSend<int>(TTM_GETDELAYTIME, dwDuration);
 }
 
 void CToolTipCtrl::SetDelayTime(DWORD dwDuration, int iTime)
 {
-    Ask(*this, TTM_SETDELAYTIME, dwDuration, MAKELPARAM(iTime, 0));
+    AfxSend(TTM_SETDELAYTIME, dwDuration, MAKELPARAM(iTime, 0));
 }
 
 void CToolTipCtrl::SetDelayTime(UINT nDelay)
@@ -227,57 +226,57 @@ void CToolTipCtrl::SetDelayTime(UINT nDelay)
 
 void CToolTipCtrl::GetMargin(LPRECT lprc) const
 {
-    Ask(*this, TTM_GETMARGIN, 0, lprc);
+    AfxSend(TTM_GETMARGIN, 0, lprc);
 }
 
 void CToolTipCtrl::SetMargin(LPRECT lprc)
 {
-    Ask(*this, TTM_SETMARGIN, 0, lprc);
+    AfxSend(TTM_SETMARGIN, 0, lprc);
 }
 
 int CToolTipCtrl::GetMaxTipWidth() const
 {
-    return Ask<int>(*this, TTM_GETMAXTIPWIDTH);
+    return AfxSend<int>(TTM_GETMAXTIPWIDTH);
 }
 
 int CToolTipCtrl::SetMaxTipWidth(int iWidth)
 {
-    return Ask<int>(*this, TTM_SETMAXTIPWIDTH, 0, iWidth);
+    return AfxSend<int>(TTM_SETMAXTIPWIDTH, 0, iWidth);
 }
 
 COLORREF CToolTipCtrl::GetTipBkColor() const
 {
-    return Ask<COLORREF>(*this, TTM_GETTIPBKCOLOR);
+    return AfxSend<COLORREF>(TTM_GETTIPBKCOLOR);
 }
 
 void CToolTipCtrl::SetTipBkColor(COLORREF clr)
 {
-    Ask(*this, TTM_SETTIPBKCOLOR, clr);
+    AfxSend(TTM_SETTIPBKCOLOR, clr);
 }
 
 COLORREF CToolTipCtrl::GetTipTextColor() const
 {
-    return Ask<COLORREF>(*this, TTM_GETTIPTEXTCOLOR);
+    return AfxSend<COLORREF>(TTM_GETTIPTEXTCOLOR);
 }
 
 void CToolTipCtrl::SetTipTextColor(COLORREF clr)
 {
-    Ask(*this, TTM_SETTIPTEXTCOLOR, clr);
+    AfxSend(TTM_SETTIPTEXTCOLOR, clr);
 }
 
 BOOL CToolTipCtrl::SetTitle(UINT uIcon, LPCTSTR lpstrTitle)
 {
-    return Ask<BOOL>(*this, TTM_SETTITLE, uIcon, lpstrTitle);
+    return AfxSend<BOOL>(TTM_SETTITLE, uIcon, lpstrTitle);
 }
 
 CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO lpToolInfo) const
 {
-    return CSize(Ask<DWORD>(*this, TTM_GETBUBBLESIZE, 0, lpToolInfo));
+    return CSize(AfxSend<DWORD>(TTM_GETBUBBLESIZE, 0, lpToolInfo));
 }
 
 BOOL CToolTipCtrl::AdjustRect(LPRECT lprc, BOOL bLarger)
 {
-    return Ask<BOOL>(*this, TTM_ADJUSTRECT, bLarger, lprc);
+    return AfxSend<BOOL>(TTM_ADJUSTRECT, bLarger, lprc);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -285,20 +284,20 @@ BOOL CToolTipCtrl::AdjustRect(LPRECT lprc, BOOL bLarger)
 
 void CToolTipCtrl::Activate(BOOL bActivate)
 {
-    Ask(*this, TTM_ACTIVATE, bActivate);
+    AfxSend(TTM_ACTIVATE, bActivate);
 }
 
 void CToolTipCtrl::Update()
 {
-    Ask(*this, TTM_UPDATE);
+    AfxSend(TTM_UPDATE);
 }
 
 void CToolTipCtrl::Pop()
 {
-    Ask(*this, TTM_POP);
+    AfxSend(TTM_POP);
 }
 
 BOOL CToolTipCtrl::Popup()
 {
-    return Ask<BOOL>(*this, TTM_POPUP);
+    return AfxSend<BOOL>(TTM_POPUP);
 }

@@ -3,7 +3,6 @@
 #include <afxcmn.h>
 
 #include "commctl.h"
-#include "ctlmsg.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // CTreeCtrl
@@ -39,118 +38,118 @@ void CTreeCtrl::OnDestroy()
     // The control would destroy lists that belong to an object.
     for (int kind : {TVSIL_NORMAL, TVSIL_STATE})
     {
-        const auto images = Ask<HIMAGELIST>(*this, TVM_GETIMAGELIST, kind);
+        const auto images = AfxSend<HIMAGELIST>(TVM_GETIMAGELIST, kind);
         if (CImageList::FromHandlePermanent(images) != nullptr)
-            Ask(*this, TVM_SETIMAGELIST, kind);
+            AfxSend(TVM_SETIMAGELIST, kind);
     }
     CWnd::OnDestroy();
 }
 
 UINT CTreeCtrl::GetCount() const
 {
-    return Ask<UINT>(*this, TVM_GETCOUNT);
+    return AfxSend<UINT>(TVM_GETCOUNT);
 }
 
 UINT CTreeCtrl::GetIndent() const
 {
-    return Ask<UINT>(*this, TVM_GETINDENT);
+    return AfxSend<UINT>(TVM_GETINDENT);
 }
 
 void CTreeCtrl::SetIndent(UINT nIndent)
 {
-    Ask(*this, TVM_SETINDENT, nIndent);
+    AfxSend(TVM_SETINDENT, nIndent);
 }
 
 CImageList* CTreeCtrl::GetImageList(UINT nImageList) const
 {
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_GETIMAGELIST, nImageList));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(TVM_GETIMAGELIST, nImageList));
 }
 
 CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
     const HIMAGELIST images = SafeImages(pImageList);
-    return CImageList::FromHandle(Ask<HIMAGELIST>(*this, TVM_SETIMAGELIST, nImageListType, images));
+    return CImageList::FromHandle(AfxSend<HIMAGELIST>(TVM_SETIMAGELIST, nImageListType, images));
 }
 
 UINT CTreeCtrl::GetVisibleCount() const
 {
-    return Ask<UINT>(*this, TVM_GETVISIBLECOUNT);
+    return AfxSend<UINT>(TVM_GETVISIBLECOUNT);
 }
 
 CToolTipCtrl* CTreeCtrl::GetToolTips() const
 {
-    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_GETTOOLTIPS)));
+    return static_cast<CToolTipCtrl*>(CWnd::FromHandle(AfxSend<HWND>(TVM_GETTOOLTIPS)));
 }
 
 CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
-    const HWND before = Ask<HWND>(*this, TVM_SETTOOLTIPS, SafeHwnd(pWndTip));
+    const HWND before = AfxSend<HWND>(TVM_SETTOOLTIPS, SafeHwnd(pWndTip));
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
 }
 
 COLORREF CTreeCtrl::GetBkColor() const
 {
-    return Ask<COLORREF>(*this, TVM_GETBKCOLOR);
+    return AfxSend<COLORREF>(TVM_GETBKCOLOR);
 }
 
 COLORREF CTreeCtrl::SetBkColor(COLORREF clr)
 {
-    return Ask<COLORREF>(*this, TVM_SETBKCOLOR, 0, clr);
+    return AfxSend<COLORREF>(TVM_SETBKCOLOR, 0, clr);
 }
 
 SHORT CTreeCtrl::GetItemHeight() const
 {
-    return Ask<SHORT>(*this, TVM_GETITEMHEIGHT);
+    return AfxSend<SHORT>(TVM_GETITEMHEIGHT);
 }
 
 SHORT CTreeCtrl::SetItemHeight(SHORT cyHeight)
 {
-    return Ask<SHORT>(*this, TVM_SETITEMHEIGHT, cyHeight);
+    return AfxSend<SHORT>(TVM_SETITEMHEIGHT, cyHeight);
 }
 
 COLORREF CTreeCtrl::GetTextColor() const
 {
-    return Ask<COLORREF>(*this, TVM_GETTEXTCOLOR);
+    return AfxSend<COLORREF>(TVM_GETTEXTCOLOR);
 }
 
 COLORREF CTreeCtrl::SetTextColor(COLORREF clr)
 {
-    return Ask<COLORREF>(*this, TVM_SETTEXTCOLOR, 0, clr);
+    return AfxSend<COLORREF>(TVM_SETTEXTCOLOR, 0, clr);
 }
 
 COLORREF CTreeCtrl::GetInsertMarkColor() const
 {
-    return Ask<COLORREF>(*this, TVM_GETINSERTMARKCOLOR);
+    return AfxSend<COLORREF>(TVM_GETINSERTMARKCOLOR);
 }
 
 COLORREF CTreeCtrl::SetInsertMarkColor(COLORREF clrNew)
 {
-    return Ask<COLORREF>(*this, TVM_SETINSERTMARKCOLOR, 0, clrNew);
+    return AfxSend<COLORREF>(TVM_SETINSERTMARKCOLOR, 0, clrNew);
 }
 
 COLORREF CTreeCtrl::GetLineColor() const
 {
-    return Ask<COLORREF>(*this, TVM_GETLINECOLOR);
+    return AfxSend<COLORREF>(TVM_GETLINECOLOR);
 }
 
 COLORREF CTreeCtrl::SetLineColor(COLORREF clrNew)
 {
-    return Ask<COLORREF>(*this, TVM_SETLINECOLOR, 0, clrNew);
+    return AfxSend<COLORREF>(TVM_SETLINECOLOR, 0, clrNew);
 }
 
 UINT CTreeCtrl::GetScrollTime() const
 {
-    return Ask<UINT>(*this, TVM_GETSCROLLTIME);
+    return AfxSend<UINT>(TVM_GETSCROLLTIME);
 }
 
 UINT CTreeCtrl::SetScrollTime(UINT nScrollTime)
 {
-    return Ask<UINT>(*this, TVM_SETSCROLLTIME, nScrollTime);
+    return AfxSend<UINT>(TVM_SETSCROLLTIME, nScrollTime);
 }
 
 CEdit* CTreeCtrl::GetEditControl() const
 {
-    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_GETEDITCONTROL)));
+    return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(TVM_GETEDITCONTROL)));
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -158,7 +157,7 @@ CEdit* CTreeCtrl::GetEditControl() const
 
 HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM hItem, UINT nCode) const
 {
-    return Ask<HTREEITEM>(*this, TVM_GETNEXTITEM, nCode, hItem);
+    return AfxSend<HTREEITEM>(TVM_GETNEXTITEM, nCode, hItem);
 }
 
 HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM hItem) const
@@ -221,7 +220,7 @@ HTREEITEM CTreeCtrl::GetRootItem() const
 
 BOOL CTreeCtrl::GetItem(TVITEM* pItem) const
 {
-    return Ask<BOOL>(*this, TVM_GETITEM, 0, pItem);
+    return AfxSend<BOOL>(TVM_GETITEM, 0, pItem);
 }
 
 CString CTreeCtrl::GetItemText(HTREEITEM hItem) const
@@ -275,7 +274,7 @@ DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM hItem) const
 
 BOOL CTreeCtrl::SetItem(TVITEM* pItem)
 {
-    return Ask<BOOL>(*this, TVM_SETITEM, 0, pItem);
+    return AfxSend<BOOL>(TVM_SETITEM, 0, pItem);
 }
 
 BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage,
@@ -326,7 +325,7 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, LPRECT lpRect, BOOL bTextOnly) cons
 {
     // The message reads the item from the place where it writes the rectangle.
     *reinterpret_cast<HTREEITEM*>(lpRect) = hItem;
-    return Ask<BOOL>(*this, TVM_GETITEMRECT, bTextOnly, lpRect);
+    return AfxSend<BOOL>(TVM_GETITEMRECT, bTextOnly, lpRect);
 }
 
 BOOL CTreeCtrl::GetCheck(HTREEITEM hItem) const
@@ -342,7 +341,7 @@ BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
 
 BOOL CTreeCtrl::SetInsertMark(HTREEITEM hItem, BOOL fAfter)
 {
-    return Ask<BOOL>(*this, TVM_SETINSERTMARK, fAfter, hItem);
+    return AfxSend<BOOL>(TVM_SETINSERTMARK, fAfter, hItem);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -350,7 +349,7 @@ BOOL CTreeCtrl::SetInsertMark(HTREEITEM hItem, BOOL fAfter)
 
 HTREEITEM CTreeCtrl::InsertItem(LPTVINSERTSTRUCT lpInsertStruct)
 {
-    return Ask<HTREEITEM>(*this, TVM_INSERTITEM, 0, lpInsertStruct);
+    return AfxSend<HTREEITEM>(TVM_INSERTITEM, 0, lpInsertStruct);
 }
 
 HTREEITEM CTreeCtrl::InsertItem(UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage, UINT nState,
@@ -383,7 +382,7 @@ HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage
 
 BOOL CTreeCtrl::DeleteItem(HTREEITEM hItem)
 {
-    return Ask<BOOL>(*this, TVM_DELETEITEM, 0, hItem);
+    return AfxSend<BOOL>(TVM_DELETEITEM, 0, hItem);
 }
 
 BOOL CTreeCtrl::DeleteAllItems()
@@ -393,12 +392,12 @@ BOOL CTreeCtrl::DeleteAllItems()
 
 BOOL CTreeCtrl::SortChildren(HTREEITEM hItem)
 {
-    return Ask<BOOL>(*this, TVM_SORTCHILDREN, 0, hItem);
+    return AfxSend<BOOL>(TVM_SORTCHILDREN, 0, hItem);
 }
 
 BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort)
 {
-    return Ask<BOOL>(*this, TVM_SORTCHILDRENCB, 0, pSort);
+    return AfxSend<BOOL>(TVM_SORTCHILDRENCB, 0, pSort);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -406,12 +405,12 @@ BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort)
 
 BOOL CTreeCtrl::Expand(HTREEITEM hItem, UINT nCode)
 {
-    return Ask<BOOL>(*this, TVM_EXPAND, nCode, hItem);
+    return AfxSend<BOOL>(TVM_EXPAND, nCode, hItem);
 }
 
 BOOL CTreeCtrl::Select(HTREEITEM hItem, UINT nCode)
 {
-    return Ask<BOOL>(*this, TVM_SELECTITEM, nCode, hItem);
+    return AfxSend<BOOL>(TVM_SELECTITEM, nCode, hItem);
 }
 
 BOOL CTreeCtrl::SelectItem(HTREEITEM hItem)
@@ -431,12 +430,12 @@ BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM hItem)
 
 CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem)
 {
-    return static_cast<CEdit*>(CWnd::FromHandle(Ask<HWND>(*this, TVM_EDITLABEL, 0, hItem)));
+    return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(TVM_EDITLABEL, 0, hItem)));
 }
 
 BOOL CTreeCtrl::EndEditLabelNow(BOOL fCancel)
 {
-    return Ask<BOOL>(*this, TVM_ENDEDITLABELNOW, fCancel);
+    return AfxSend<BOOL>(TVM_ENDEDITLABELNOW, fCancel);
 }
 
 HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
@@ -451,15 +450,15 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
 
 HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* pHitTestInfo) const
 {
-    return Ask<HTREEITEM>(*this, TVM_HITTEST, 0, pHitTestInfo);
+    return AfxSend<HTREEITEM>(TVM_HITTEST, 0, pHitTestInfo);
 }
 
 BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem)
 {
-    return Ask<BOOL>(*this, TVM_ENSUREVISIBLE, 0, hItem);
+    return AfxSend<BOOL>(TVM_ENSUREVISIBLE, 0, hItem);
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)
 {
-    return NewImageList(Ask<HIMAGELIST>(*this, TVM_CREATEDRAGIMAGE, 0, hItem));
+    return NewImageList(AfxSend<HIMAGELIST>(TVM_CREATEDRAGIMAGE, 0, hItem));
 }
