@@ -154,7 +154,7 @@ AFX_CORE_API void AFXAPI AfxClassTerm(CRuntimeClass* pOldClass);
 class AFX_CORE_CLASS CObject
 {
 public:
-    virtual CRuntimeClass* GetRuntimeClass() const;
+    virtual CRuntimeClass* GetRuntimeClass() const { return GetThisClass(); }
     virtual ~CObject() = 0;
 
     // Throws CMemoryException when there is no memory.
@@ -163,7 +163,7 @@ public:
     void PASCAL operator delete(void* p);
     void PASCAL operator delete(void*, void*) {}
 
-    BOOL IsKindOf(const CRuntimeClass* pClass) const;
+    BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
 
     // Objects of these classes are not archived; the base does nothing.
     virtual void Serialize(CArchive& ar);
@@ -172,8 +172,8 @@ public:
     virtual void Dump(CDumpContext& dc) const;
 
     static const CRuntimeClass classCObject;
-    static CRuntimeClass* PASCAL GetThisClass();
-    static CRuntimeClass* PASCAL _GetBaseClass();
+    static CRuntimeClass* PASCAL GetThisClass() { return const_cast<CRuntimeClass*>(&classCObject); }
+    static CRuntimeClass* PASCAL _GetBaseClass() { return nullptr; }
 
 protected:
     CObject();
@@ -472,7 +472,7 @@ public:
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CFile() override;
 
-    operator HANDLE() const;
+    operator HANDLE() const { return m_hFile; }
 
     // FALSE on failure, told in pError if that is given.
     virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = NULL);
@@ -484,15 +484,15 @@ public:
     BOOL GetStatus(CFileStatus& rStatus) const;
     virtual CString GetFileName() const;
     virtual CString GetFileTitle() const;
-    virtual CString GetFilePath() const;
-    virtual void SetFilePath(LPCTSTR lpszNewName);
+    virtual CString GetFilePath() const { return m_strFileName; }
+    virtual void SetFilePath(LPCTSTR lpszNewName) { m_strFileName = lpszNewName; }
 
     static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName);
     static void PASCAL Remove(LPCTSTR lpszFileName);
     static BOOL PASCAL GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus);
 
-    ULONGLONG SeekToEnd();
-    void SeekToBegin();
+    ULONGLONG SeekToEnd() { return Seek(0, end); }
+    void SeekToBegin() { Seek(0, begin); }
     virtual ULONGLONG Seek(LONGLONG lOff, UINT nFrom);
     virtual void SetLength(ULONGLONG dwNewLen);
     virtual ULONGLONG GetLength() const;
@@ -550,7 +550,7 @@ public:
     void Close() override;
 
     // Not supported for a stream: these throw CNotSupportedException.
-    CFile* Duplicate() const override;
+    CFile* Duplicate() const override { AfxThrowNotSupportedException(); }
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
 
@@ -575,25 +575,25 @@ class AFX_CORE_CLASS CMemFile : public CFile
 public:
     CMemFile(UINT nGrowBytes = 1024);
     CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
-    ~CMemFile() override;
+    ~CMemFile() override { CMemFile::Close(); }
 
     // An attached block stays the caller's. A detached one becomes the caller's, who frees it with free().
     void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
     BYTE* Detach();
 
-    ULONGLONG GetPosition() const override;
+    ULONGLONG GetPosition() const override { return m_nPosition; }
     BOOL GetStatus(CFileStatus& rStatus) const;
     ULONGLONG Seek(LONGLONG lOff, UINT nFrom) override;
     void SetLength(ULONGLONG dwNewLen) override;
-    ULONGLONG GetLength() const override;
+    ULONGLONG GetLength() const override { return m_nFileSize; }
     UINT Read(void* lpBuf, UINT nCount) override;
     void Write(const void* lpBuf, UINT nCount) override;
-    void Abort() override;
+    void Abort() override { CMemFile::Close(); }
     void Flush() override;
     void Close() override;
 
     // Not supported in memory: these throw CNotSupportedException.
-    CFile* Duplicate() const override;
+    CFile* Duplicate() const override { AfxThrowNotSupportedException(); }
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
 
@@ -602,10 +602,10 @@ public:
 
 protected:
     // The memory that the file lives in; a derived class may take it from elsewhere.
-    virtual BYTE* Alloc(SIZE_T nBytes);
-    virtual BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes);
+    virtual BYTE* Alloc(SIZE_T nBytes) { return static_cast<BYTE*>(malloc(nBytes)); }
+    virtual BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes) { return static_cast<BYTE*>(realloc(lpMem, nBytes)); }
     virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes);
-    virtual void Free(BYTE* lpMem);
+    virtual void Free(BYTE* lpMem) { free(lpMem); }
     virtual void GrowFile(SIZE_T dwNewLen);
 
     SIZE_T m_nGrowBytes;
@@ -628,27 +628,27 @@ public:
     void operator=(const CDumpContext&) = delete;
 
     // How far to follow an object's own objects: 0 stays with the object.
-    int GetDepth() const;
-    void SetDepth(int nNewDepth);
+    int GetDepth() const { return m_nDepth; }
+    void SetDepth(int nNewDepth) { m_nDepth = nNewDepth; }
 
     CDumpContext& operator<<(LPCSTR lpsz);
     CDumpContext& operator<<(LPCWSTR lpsz);
     CDumpContext& operator<<(const void* lp);
-    CDumpContext& operator<<(const CObject* pOb);
+    CDumpContext& operator<<(const CObject* pOb) { return pOb != nullptr ? *this << *pOb : *this << L"NULL"; }
     CDumpContext& operator<<(const CObject& ob);
-    CDumpContext& operator<<(BYTE by);
-    CDumpContext& operator<<(WORD w);
-    CDumpContext& operator<<(int n);
-    CDumpContext& operator<<(UINT u);
-    CDumpContext& operator<<(LONG l);
-    CDumpContext& operator<<(DWORD dw);
+    CDumpContext& operator<<(BYTE by) { return *this << UINT(by); }
+    CDumpContext& operator<<(WORD w) { return *this << UINT(w); }
+    CDumpContext& operator<<(int n) { return *this << LONGLONG(n); }
+    CDumpContext& operator<<(UINT u) { return *this << ULONGLONG(u); }
+    CDumpContext& operator<<(LONG l) { return *this << LONGLONG(l); }
+    CDumpContext& operator<<(DWORD dw) { return *this << ULONGLONG(dw); }
     CDumpContext& operator<<(LONGLONG n);
     CDumpContext& operator<<(ULONGLONG n);
     CDumpContext& operator<<(double d);
-    CDumpContext& operator<<(float f);
-    CDumpContext& operator<<(HWND h);
-    CDumpContext& operator<<(HDC h);
-    CDumpContext& operator<<(HMENU h);
+    CDumpContext& operator<<(float f) { return *this << double(f); }
+    CDumpContext& operator<<(HWND h) { return *this << static_cast<const void*>(h); }
+    CDumpContext& operator<<(HDC h) { return *this << static_cast<const void*>(h); }
+    CDumpContext& operator<<(HMENU h) { return *this << static_cast<const void*>(h); }
 
     // Lines of nWidth bytes in hexadecimal, each begun with the text lpszLine.
     void HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth);

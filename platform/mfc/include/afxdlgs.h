@@ -51,20 +51,20 @@ public:
     CString GetFileName() const;
     CString GetFileExt() const;
     CString GetFileTitle() const;
-    BOOL GetReadOnlyPref() const;
+    BOOL GetReadOnlyPref() const { return (m_ofn.Flags & OFN_READONLY) != 0; }
     OPENFILENAME& GetOFN() { return m_ofn; }
     const OPENFILENAME& GetOFN() const { return m_ofn; }
 
     /// A loop over the files chosen with OFN_ALLOWMULTISELECT. The caller sets a large enough
     /// m_ofn.lpstrFile and nMaxFile for many of them.
-    POSITION GetStartPosition() const;
+    POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(m_ofn.lpstrFile); }
     CString GetNextPathName(POSITION& pos) const;
 
     // While the dialog is open
     void SetTemplate(LPCTSTR lpWin3ID, LPCTSTR lpWin4ID);
     void SetTemplate(UINT nWin3ID, UINT nWin4ID);
     CString GetFolderPath() const;
-    void SetControlText(int nID, LPCSTR lpsz);
+    void SetControlText(int nID, LPCSTR lpsz) { SetControlText(nID, CString(lpsz).GetString()); }
     void SetControlText(int nID, const wchar_t* lpsz);
     void HideControl(int nID);
     void SetDefExt(LPCSTR lpsz);
@@ -73,8 +73,8 @@ protected:
     /// Answer to a sharing violation: OFN_SHAREFALLTHROUGH, OFN_SHARENOWARN or OFN_SHAREWARN.
     virtual UINT OnShareViolation(LPCTSTR lpszPathName);
     /// A last look at the name; nonzero keeps the dialog open.
-    virtual BOOL OnFileNameOK();
-    virtual void OnInitDone();
+    virtual BOOL OnFileNameOK() { return FALSE; }
+    virtual void OnInitDone() { GetParent()->CenterWindow(); }
     virtual void OnFileNameChange();
     virtual void OnFolderChange();
     virtual void OnHelp();
@@ -85,7 +85,7 @@ protected:
 private:
     /// Lets the dialog answer a question about what stands in it now.
     CString AskDialog(UINT message) const;
-    bool IsExplorerDialogOpen() const;
+    bool IsExplorerDialogOpen() const { return m_hWnd != nullptr && (m_ofn.Flags & OFN_EXPLORER) != 0; }
 
     CString m_strFilter; ///< the filter with its bars made into nulls
     CString m_strDefExt;
@@ -107,13 +107,13 @@ public:
 
     /// Chooses a colour while the dialog is open.
     void SetCurrentColor(COLORREF clr);
-    COLORREF GetColor() const;
+    COLORREF GetColor() const { return m_cc.rgbResult; }
     /// The 16 custom colours, shared by all colour dialogs of the process.
     static COLORREF* PASCAL GetSavedCustomColors();
 
 protected:
     /// A last look at the colour; nonzero keeps the dialog open.
-    virtual BOOL OnColorOK();
+    virtual BOOL OnColorOK() { return FALSE; }
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
@@ -133,16 +133,16 @@ public:
     INT_PTR DoModal() override;
 
     void GetCurrentFont(LPLOGFONT lplf);
-    CString GetFaceName() const;
-    CString GetStyleName() const;
+    CString GetFaceName() const { return m_lf.lfFaceName; }
+    CString GetStyleName() const { return m_cf.lpszStyle; }
     /// Tenths of a point.
-    int GetSize() const;
-    COLORREF GetColor() const;
-    int GetWeight() const;
-    BOOL IsStrikeOut() const;
-    BOOL IsUnderline() const;
-    BOOL IsBold() const;
-    BOOL IsItalic() const;
+    int GetSize() const { return m_cf.iPointSize; }
+    COLORREF GetColor() const { return m_cf.rgbColors; }
+    int GetWeight() const { return m_lf.lfWeight; }
+    BOOL IsStrikeOut() const { return m_lf.lfStrikeOut != 0; }
+    BOOL IsUnderline() const { return m_lf.lfUnderline != 0; }
+    BOOL IsBold() const { return (m_cf.nFontType & BOLD_FONTTYPE) != 0; }
+    BOOL IsItalic() const { return (m_cf.nFontType & ITALIC_FONTTYPE) != 0; }
 
     LOGFONT m_lf;
 

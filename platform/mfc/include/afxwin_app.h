@@ -78,7 +78,7 @@ public:
     MSG m_msgCur{}; ///< the message that the loop took last
 
     operator HANDLE() const { return m_hThread; }
-    virtual CWnd* GetMainWnd();
+    virtual CWnd* GetMainWnd() { return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd; }
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
 
     virtual BOOL InitInstance();
@@ -125,13 +125,13 @@ public:
 
     // Resources of the chain; the handles belong to the system as with the Win32 functions
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
-    HCURSOR LoadCursor(UINT nIDResource) const;
-    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const;
-    HCURSOR LoadOEMCursor(UINT nIDCursor) const;
+    HCURSOR LoadCursor(UINT nIDResource) const { return LoadCursor(MAKEINTRESOURCE(nIDResource)); }
+    HCURSOR LoadStandardCursor(LPCTSTR lpszCursorName) const { return ::LoadCursor(nullptr, lpszCursorName); }
+    HCURSOR LoadOEMCursor(UINT nIDCursor) const { return ::LoadCursor(nullptr, MAKEINTRESOURCE(nIDCursor)); }
     HICON LoadIcon(LPCTSTR lpszResourceName) const;
-    HICON LoadIcon(UINT nIDResource) const;
-    HICON LoadStandardIcon(LPCTSTR lpszIconName) const;
-    HICON LoadOEMIcon(UINT nIDIcon) const;
+    HICON LoadIcon(UINT nIDResource) const { return LoadIcon(MAKEINTRESOURCE(nIDResource)); }
+    HICON LoadStandardIcon(LPCTSTR lpszIconName) const { return ::LoadIcon(nullptr, lpszIconName); }
+    HICON LoadOEMIcon(UINT nIDIcon) const { return ::LoadIcon(nullptr, MAKEINTRESOURCE(nIDIcon)); }
 
     // Profile: below HKEY_CURRENT_USER\Software\<registry key>\<profile name> once SetRegistryKey was called,
     // else in the .ini file m_pszProfileName.
@@ -148,11 +148,11 @@ public:
     HKEY GetSectionKey(LPCTSTR lpszSection);
     LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
 
-    virtual BOOL InitApplication();
-    BOOL InitInstance() override;
+    virtual BOOL InitApplication() { return TRUE; }
+    BOOL InitInstance() override { return TRUE; }
     int Run() override;
-    int ExitInstance() override;
-    BOOL OnIdle(LONG lCount) override;
+    int ExitInstance() override { return CWinThread::ExitInstance(); }
+    BOOL OnIdle(LONG lCount) override { return CWinThread::OnIdle(lCount); }
     LRESULT ProcessWndProcException(CException* e, const MSG* pMsg) override;
 
     /// What AfxMessageBox does: chooses an icon when none was named, and an owner.
@@ -250,7 +250,7 @@ class AFX_CORE_CLASS CDynLinkLibrary : public CCmdTarget
 public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
-    ~CDynLinkLibrary() override;
+    ~CDynLinkLibrary() override { std::erase(AfxGetAppModuleState()->m_libraryList, this); }
 
     HMODULE m_hModule;
     HMODULE m_hResource;

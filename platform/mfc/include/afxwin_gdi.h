@@ -35,7 +35,7 @@ class AFX_CORE_CLASS CGdiObject : public CObject
 
 public:
     CGdiObject();
-    ~CGdiObject() override;
+    ~CGdiObject() override { DeleteObject(); }
     CGdiObject(const CGdiObject&) = delete;
     CGdiObject& operator=(const CGdiObject&) = delete;
 
@@ -55,12 +55,12 @@ public:
 
     /// Destroys the GDI object; FALSE if there is none or it is still selected somewhere.
     BOOL DeleteObject();
-    int GetObject(int nCount, LPVOID lpObject) const;
+    int GetObject(int nCount, LPVOID lpObject) const { return ::GetObject(m_hObject, nCount, lpObject); }
     /// OBJ_PEN, OBJ_BRUSH, ...
-    UINT GetObjectType() const;
+    UINT GetObjectType() const { return ::GetObjectType(m_hObject); }
     /// Attaches a stock object, which is never destroyed, whoever tries.
-    BOOL CreateStockObject(int nIndex);
-    BOOL UnrealizeObject();
+    BOOL CreateStockObject(int nIndex) { return Attach(::GetStockObject(nIndex)); }
+    BOOL UnrealizeObject() { return ::UnrealizeObject(m_hObject); }
 
     bool operator==(const CGdiObject& obj) const { return m_hObject == obj.m_hObject; }
     bool operator!=(const CGdiObject& obj) const { return m_hObject != obj.m_hObject; }
@@ -76,15 +76,15 @@ public:
     CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
          const DWORD* lpStyle = nullptr);
 
-    static CPen* PASCAL FromHandle(HPEN hPen);
+    static CPen* PASCAL FromHandle(HPEN hPen) { return static_cast<CPen*>(CGdiObject::FromHandle(hPen)); }
     operator HPEN() const { return static_cast<HPEN>(GetSafeHandle()); }
 
     BOOL CreatePen(int nPenStyle, int nWidth, COLORREF crColor);
     BOOL CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount = 0,
                    const DWORD* lpStyle = nullptr);
-    BOOL CreatePenIndirect(LPLOGPEN lpLogPen);
+    BOOL CreatePenIndirect(LPLOGPEN lpLogPen) { return Attach(::CreatePenIndirect(lpLogPen)); }
 
-    int GetLogPen(LOGPEN* pLogPen);
+    int GetLogPen(LOGPEN* pLogPen) { return ::GetObject(m_hObject, sizeof(LOGPEN), pLogPen); }
     int GetExtLogPen(EXTLOGPEN* pLogPen);
 };
 
@@ -101,14 +101,14 @@ public:
     static CBrush* PASCAL FromHandle(HBRUSH hBrush);
     operator HBRUSH() const { return static_cast<HBRUSH>(GetSafeHandle()); }
 
-    BOOL CreateSolidBrush(COLORREF crColor);
+    BOOL CreateSolidBrush(COLORREF crColor) { return Attach(::CreateSolidBrush(crColor)); }
     BOOL CreateHatchBrush(int nIndex, COLORREF crColor);
-    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush);
+    BOOL CreateBrushIndirect(const LOGBRUSH* lpLogBrush) { return Attach(::CreateBrushIndirect(lpLogBrush)); }
     BOOL CreatePatternBrush(CBitmap* pBitmap);
     BOOL CreateDIBPatternBrush(HGLOBAL hPackedDIB, UINT nUsage);
     BOOL CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage);
     /// The system's own brush of a COLOR_ index; it is not destroyed.
-    BOOL CreateSysColorBrush(int nIndex);
+    BOOL CreateSysColorBrush(int nIndex) { return Attach(::GetSysColorBrush(nIndex)); }
 
     int GetLogBrush(LOGBRUSH* pLogBrush);
 };
@@ -123,7 +123,7 @@ public:
     static CFont* PASCAL FromHandle(HFONT hFont);
     operator HFONT() const { return static_cast<HFONT>(GetSafeHandle()); }
 
-    BOOL CreateFontIndirect(const LOGFONT* lpLogFont);
+    BOOL CreateFontIndirect(const LOGFONT* lpLogFont) { return Attach(::CreateFontIndirect(lpLogFont)); }
     BOOL CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
                     BYTE bUnderline, BYTE cStrikeOut, BYTE nCharSet, BYTE nOutPrecision, BYTE nClipPrecision,
                     BYTE nQuality, BYTE nPitchAndFamily, LPCTSTR lpszFacename);
@@ -147,18 +147,18 @@ public:
 
     /// Loads from the module that has the resource, searched along the chain of extension modules.
     BOOL LoadBitmap(LPCTSTR lpszResourceName);
-    BOOL LoadBitmap(UINT nIDResource);
+    BOOL LoadBitmap(UINT nIDResource) { return LoadBitmap(MAKEINTRESOURCE(nIDResource)); }
     /// One of the system's bitmaps, OBM_...
-    BOOL LoadOEMBitmap(UINT nIDBitmap);
+    BOOL LoadOEMBitmap(UINT nIDBitmap) { return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap))); }
     /// Loads with colours exchanged; without a table the 3D greys become the system's.
     BOOL LoadMappedBitmap(UINT nIDBitmap, UINT nFlags = 0, LPCOLORMAP lpColorMap = nullptr, int nMapSize = 0);
     BOOL CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount, const void* lpBits);
-    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap);
+    BOOL CreateBitmapIndirect(LPBITMAP lpBitmap) { return Attach(::CreateBitmapIndirect(lpBitmap)); }
     BOOL CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight);
     BOOL CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight);
 
-    int GetBitmap(BITMAP* pBitMap);
-    DWORD SetBitmapBits(DWORD dwCount, const void* lpBits);
+    int GetBitmap(BITMAP* pBitMap) { return ::GetObject(m_hObject, sizeof(BITMAP), pBitMap); }
+    DWORD SetBitmapBits(DWORD dwCount, const void* lpBits) { return ::SetBitmapBits(*this, dwCount, lpBits); }
     DWORD GetBitmapBits(DWORD dwCount, LPVOID lpBits) const;
     /// The dimensions in tenths of a millimetre that a program noted with the bitmap; the old ones come back.
     CSize SetBitmapDimension(int nWidth, int nHeight);
@@ -175,14 +175,14 @@ public:
     static CPalette* PASCAL FromHandle(HPALETTE hPalette);
     operator HPALETTE() const { return static_cast<HPALETTE>(GetSafeHandle()); }
 
-    BOOL CreatePalette(LPLOGPALETTE lpLogPalette);
+    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
     BOOL CreateHalftonePalette(CDC* pDC);
 
     int GetEntryCount();
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const;
     UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors);
     void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors);
-    UINT GetNearestPaletteIndex(COLORREF crColor) const;
+    UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
     BOOL ResizePalette(UINT nNumEntries);
 };
 
@@ -193,31 +193,31 @@ class AFX_CORE_CLASS CRgn : public CGdiObject
 public:
     CRgn();
 
-    static CRgn* PASCAL FromHandle(HRGN hRgn);
+    static CRgn* PASCAL FromHandle(HRGN hRgn) { return static_cast<CRgn*>(CGdiObject::FromHandle(hRgn)); }
     operator HRGN() const { return static_cast<HRGN>(GetSafeHandle()); }
 
-    BOOL CreateRectRgn(int x1, int y1, int x2, int y2);
-    BOOL CreateRectRgnIndirect(LPCRECT lpRect);
+    BOOL CreateRectRgn(int x1, int y1, int x2, int y2) { return Attach(::CreateRectRgn(x1, y1, x2, y2)); }
+    BOOL CreateRectRgnIndirect(LPCRECT lpRect) { return Attach(::CreateRectRgnIndirect(lpRect)); }
     BOOL CreateEllipticRgn(int x1, int y1, int x2, int y2);
-    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect);
+    BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return Attach(::CreateEllipticRgnIndirect(lpRect)); }
     BOOL CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode);
     BOOL CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nPolyFillMode);
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3);
     BOOL CreateFromPath(CDC* pDC);
     BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData);
 
-    void SetRectRgn(int x1, int y1, int x2, int y2);
+    void SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }
     void SetRectRgn(LPCRECT lpRect);
     /// This region, which must exist, becomes the combination; answers its complexity or ERROR.
     int CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode);
     int CopyRgn(CRgn* pRgnSrc);
     BOOL EqualRgn(CRgn* pRgn) const;
-    int OffsetRgn(int x, int y);
-    int OffsetRgn(POINT point);
-    int GetRgnBox(LPRECT lpRect) const;
-    BOOL PtInRegion(int x, int y) const;
-    BOOL PtInRegion(POINT point) const;
-    BOOL RectInRegion(LPCRECT lpRect) const;
+    int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
+    int OffsetRgn(POINT point) { return OffsetRgn(point.x, point.y); }
+    int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }
+    BOOL PtInRegion(int x, int y) const { return ::PtInRegion(*this, x, y); }
+    BOOL PtInRegion(POINT point) const { return PtInRegion(point.x, point.y); }
+    BOOL RectInRegion(LPCRECT lpRect) const { return ::RectInRegion(*this, lpRect); }
     int GetRegionData(LPRGNDATA lpRgnData, int nDataSize) const;
 };
 
@@ -230,7 +230,7 @@ class AFX_CORE_CLASS CDC : public CObject
 public:
     CDC();
     /// Deletes the context. An attached context that came from GetDC must be detached first.
-    ~CDC() override;
+    ~CDC() override { DeleteDC(); }
     CDC(const CDC&) = delete;
     CDC& operator=(const CDC&) = delete;
 
@@ -248,10 +248,10 @@ public:
     BOOL Attach(HDC hDC);
     HDC Detach();
 
-    virtual void SetAttribDC(HDC hDC);
-    virtual void SetOutputDC(HDC hDC);
-    virtual void ReleaseAttribDC();
-    virtual void ReleaseOutputDC();
+    virtual void SetAttribDC(HDC hDC) { m_hAttribDC = hDC; }
+    virtual void SetOutputDC(HDC hDC) { m_hDC = hDC; }
+    virtual void ReleaseAttribDC() { m_hAttribDC = nullptr; }
+    virtual void ReleaseOutputDC() { m_hDC = nullptr; }
     BOOL IsPrinting() const { return m_bPrinting; }
 
     // Creation
@@ -264,14 +264,14 @@ public:
     // State as a whole
     CPoint GetBrushOrg() const;
     CPoint SetBrushOrg(int x, int y);
-    CPoint SetBrushOrg(POINT point);
+    CPoint SetBrushOrg(POINT point) { return SetBrushOrg(point.x, point.y); }
     int EnumObjects(int nObjectType, int(CALLBACK* lpfn)(LPVOID, LPARAM), LPARAM lpData);
     virtual int SaveDC();
     virtual BOOL RestoreDC(int nSavedDC);
-    int GetDeviceCaps(int nIndex) const;
+    int GetDeviceCaps(int nIndex) const { return ::GetDeviceCaps(m_hAttribDC, nIndex); }
     UINT SetBoundsRect(LPCRECT lpRectBounds, UINT flags);
     UINT GetBoundsRect(LPRECT lpRectBounds, UINT flags);
-    BOOL ResetDC(const DEVMODE* lpDevMode);
+    BOOL ResetDC(const DEVMODE* lpDevMode) { return ::ResetDC(m_hAttribDC, lpDevMode) != nullptr; }
 
     // Selection. Each answers what was selected before, perhaps as a temporary object; null on failure.
     CPen* SelectObject(CPen* pPen);
@@ -279,7 +279,7 @@ public:
     virtual CFont* SelectObject(CFont* pFont);
     CBitmap* SelectObject(CBitmap* pBitmap);
     /// Becomes the clipping region, of which the context keeps a copy; answers its complexity or ERROR.
-    int SelectObject(CRgn* pRgn);
+    int SelectObject(CRgn* pRgn) { return SelectClipRgn(pRgn); }
     CGdiObject* SelectObject(CGdiObject* pObject);
     virtual CGdiObject* SelectStockObject(int nIndex);
     CPen* GetCurrentPen() const;
@@ -289,65 +289,65 @@ public:
     CBitmap* GetCurrentBitmap() const;
 
     // Colours and palettes
-    COLORREF GetNearestColor(COLORREF crColor) const;
+    COLORREF GetNearestColor(COLORREF crColor) const { return ::GetNearestColor(m_hAttribDC, crColor); }
     CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
-    UINT RealizePalette();
-    void UpdateColors();
-    COLORREF GetDCBrushColor() const;
-    COLORREF SetDCBrushColor(COLORREF crColor);
-    COLORREF GetDCPenColor() const;
-    COLORREF SetDCPenColor(COLORREF crColor);
-    int SetICMMode(int nMode);
+    UINT RealizePalette() { return ::RealizePalette(m_hDC); }
+    void UpdateColors() { ::UpdateColors(m_hDC); }
+    COLORREF GetDCBrushColor() const { return ::GetDCBrushColor(m_hDC); }
+    COLORREF SetDCBrushColor(COLORREF crColor) { return ::SetDCBrushColor(m_hDC, crColor); }
+    COLORREF GetDCPenColor() const { return ::GetDCPenColor(m_hDC); }
+    COLORREF SetDCPenColor(COLORREF crColor) { return ::SetDCPenColor(m_hDC, crColor); }
+    int SetICMMode(int nMode) { return ::SetICMMode(m_hDC, nMode); }
 
     // Drawing attributes
-    COLORREF GetBkColor() const;
-    int GetBkMode() const;
-    int GetPolyFillMode() const;
-    int GetROP2() const;
-    int GetStretchBltMode() const;
-    COLORREF GetTextColor() const;
+    COLORREF GetBkColor() const { return ::GetBkColor(m_hAttribDC); }
+    int GetBkMode() const { return ::GetBkMode(m_hAttribDC); }
+    int GetPolyFillMode() const { return ::GetPolyFillMode(m_hAttribDC); }
+    int GetROP2() const { return ::GetROP2(m_hAttribDC); }
+    int GetStretchBltMode() const { return ::GetStretchBltMode(m_hAttribDC); }
+    COLORREF GetTextColor() const { return ::GetTextColor(m_hAttribDC); }
     virtual COLORREF SetBkColor(COLORREF crColor);
     int SetBkMode(int nBkMode);
     int SetPolyFillMode(int nPolyFillMode);
     int SetROP2(int nDrawMode);
     int SetStretchBltMode(int nStretchMode);
     virtual COLORREF SetTextColor(COLORREF crColor);
-    int GetGraphicsMode() const;
+    int GetGraphicsMode() const { return ::GetGraphicsMode(m_hDC); }
     int SetGraphicsMode(int iMode);
-    BOOL GetWorldTransform(XFORM* pXform) const;
+    BOOL GetWorldTransform(XFORM* pXform) const { return ::GetWorldTransform(m_hAttribDC, pXform); }
     BOOL SetWorldTransform(const XFORM* pXform);
     BOOL ModifyWorldTransform(const XFORM* pXform, DWORD iMode);
     BOOL GetColorAdjustment(LPCOLORADJUSTMENT lpColorAdjust) const;
     BOOL SetColorAdjustment(const COLORADJUSTMENT* lpColorAdjust);
 
     // Mapping
-    int GetMapMode() const;
+    int GetMapMode() const { return ::GetMapMode(m_hAttribDC); }
     CPoint GetViewportOrg() const;
     virtual int SetMapMode(int nMapMode);
     virtual CPoint SetViewportOrg(int x, int y);
-    CPoint SetViewportOrg(POINT point);
+    CPoint SetViewportOrg(POINT point) { return SetViewportOrg(point.x, point.y); }
     virtual CPoint OffsetViewportOrg(int nWidth, int nHeight);
     CSize GetViewportExt() const;
     virtual CSize SetViewportExt(int cx, int cy);
-    CSize SetViewportExt(SIZE size);
+    CSize SetViewportExt(SIZE size) { return SetViewportExt(size.cx, size.cy); }
     virtual CSize ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom);
     CPoint GetWindowOrg() const;
     CPoint SetWindowOrg(int x, int y);
-    CPoint SetWindowOrg(POINT point);
+    CPoint SetWindowOrg(POINT point) { return SetWindowOrg(point.x, point.y); }
     CPoint OffsetWindowOrg(int nWidth, int nHeight);
     CSize GetWindowExt() const;
     virtual CSize SetWindowExt(int cx, int cy);
-    CSize SetWindowExt(SIZE size);
+    CSize SetWindowExt(SIZE size) { return SetWindowExt(size.cx, size.cy); }
     virtual CSize ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom);
-    DWORD GetLayout() const;
+    DWORD GetLayout() const { return ::GetLayout(m_hAttribDC); }
     DWORD SetLayout(DWORD dwLayout);
 
     // Coordinates. DP is device, LP logical; HIMETRIC is hundredths of a millimetre.
-    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const;
-    void DPtoLP(LPRECT lpRect) const;
+    void DPtoLP(LPPOINT lpPoints, int nCount = 1) const { ::DPtoLP(m_hAttribDC, lpPoints, nCount); }
+    void DPtoLP(LPRECT lpRect) const { ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void DPtoLP(LPSIZE lpSize) const;
-    void LPtoDP(LPPOINT lpPoints, int nCount = 1) const;
-    void LPtoDP(LPRECT lpRect) const;
+    void LPtoDP(LPPOINT lpPoints, int nCount = 1) const { ::LPtoDP(m_hAttribDC, lpPoints, nCount); }
+    void LPtoDP(LPRECT lpRect) const { ::LPtoDP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2); }
     void LPtoDP(LPSIZE lpSize) const;
     void DPtoHIMETRIC(LPSIZE lpSize) const;
     void LPtoHIMETRIC(LPSIZE lpSize) const;
@@ -361,10 +361,10 @@ public:
     BOOL PaintRgn(CRgn* pRgn);
 
     // Clipping
-    virtual int GetClipBox(LPRECT lpRect) const;
-    virtual BOOL PtVisible(int x, int y) const;
-    BOOL PtVisible(POINT point) const;
-    virtual BOOL RectVisible(LPCRECT lpRect) const;
+    virtual int GetClipBox(LPRECT lpRect) const { return ::GetClipBox(m_hAttribDC, lpRect); }
+    virtual BOOL PtVisible(int x, int y) const { return ::PtVisible(m_hAttribDC, x, y); }
+    BOOL PtVisible(POINT point) const { return PtVisible(point.x, point.y); }
+    virtual BOOL RectVisible(LPCRECT lpRect) const { return ::RectVisible(m_hAttribDC, lpRect); }
     int SelectClipRgn(CRgn* pRgn);
     int SelectClipRgn(CRgn* pRgn, int nMode);
     int ExcludeClipRect(int x1, int y1, int x2, int y2);
@@ -373,34 +373,34 @@ public:
     int IntersectClipRect(int x1, int y1, int x2, int y2);
     int IntersectClipRect(LPCRECT lpRect);
     int OffsetClipRgn(int x, int y);
-    int OffsetClipRgn(SIZE size);
+    int OffsetClipRgn(SIZE size) { return OffsetClipRgn(size.cx, size.cy); }
 
     // Lines
     CPoint GetCurrentPosition() const;
     CPoint MoveTo(int x, int y);
-    CPoint MoveTo(POINT point);
+    CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
-    BOOL LineTo(POINT point);
+    BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
     BOOL Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL Arc(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
     BOOL ArcTo(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL ArcTo(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
     BOOL AngleArc(int x, int y, int nRadius, float fStartAngle, float fSweepAngle);
-    int GetArcDirection() const;
+    int GetArcDirection() const { return ::GetArcDirection(m_hAttribDC); }
     int SetArcDirection(int nArcDirection);
-    BOOL Polyline(LPPOINT lpPoints, int nCount);
+    BOOL Polyline(LPPOINT lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL PolylineTo(const POINT* lpPoints, int nCount);
     BOOL PolyPolyline(const POINT* lpPoints, const DWORD* lpPolyPoints, int nCount);
     BOOL PolyDraw(const POINT* lpPoints, const BYTE* lpTypes, int nCount);
-    BOOL PolyBezier(const POINT* lpPoints, int nCount);
+    BOOL PolyBezier(const POINT* lpPoints, int nCount) { return ::PolyBezier(m_hDC, lpPoints, nCount); }
     BOOL PolyBezierTo(const POINT* lpPoints, int nCount);
 
     // Areas
     void FillRect(LPCRECT lpRect, CBrush* pBrush);
     void FrameRect(LPCRECT lpRect, CBrush* pBrush);
-    void InvertRect(LPCRECT lpRect);
-    BOOL DrawIcon(int x, int y, HICON hIcon);
-    BOOL DrawIcon(POINT point, HICON hIcon);
+    void InvertRect(LPCRECT lpRect) { ::InvertRect(m_hDC, lpRect); }
+    BOOL DrawIcon(int x, int y, HICON hIcon) { return ::DrawIcon(m_hDC, x, y, hIcon); }
+    BOOL DrawIcon(POINT point, HICON hIcon) { return DrawIcon(point.x, point.y, hIcon); }
     BOOL DrawState(CPoint pt, CSize size, HBITMAP hBitmap, UINT nFlags, HBRUSH hBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, CBitmap* pBitmap, UINT nFlags, CBrush* pBrush = nullptr);
     BOOL DrawState(CPoint pt, CSize size, HICON hIcon, UINT nFlags, HBRUSH hBrush = nullptr);
@@ -415,14 +415,14 @@ public:
                    CBrush* pBrush = nullptr);
     BOOL Chord(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL Chord(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
-    void DrawFocusRect(LPCRECT lpRect);
-    BOOL Ellipse(int x1, int y1, int x2, int y2);
-    BOOL Ellipse(LPCRECT lpRect);
+    void DrawFocusRect(LPCRECT lpRect) { ::DrawFocusRect(m_hDC, lpRect); }
+    BOOL Ellipse(int x1, int y1, int x2, int y2) { return ::Ellipse(m_hDC, x1, y1, x2, y2); }
+    BOOL Ellipse(LPCRECT lpRect) { return Ellipse(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
     BOOL Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4);
     BOOL Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd);
-    BOOL Polygon(LPPOINT lpPoints, int nCount);
+    BOOL Polygon(LPPOINT lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
     BOOL PolyPolygon(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount);
-    BOOL Rectangle(int x1, int y1, int x2, int y2);
+    BOOL Rectangle(int x1, int y1, int x2, int y2) { return ::Rectangle(m_hDC, x1, y1, x2, y2); }
     BOOL Rectangle(LPCRECT lpRect);
     BOOL RoundRect(int x1, int y1, int x2, int y2, int x3, int y3);
     BOOL RoundRect(LPCRECT lpRect, POINT point);
@@ -434,7 +434,7 @@ public:
     /// other.
     void Draw3dRect(LPCRECT lpRect, COLORREF clrTopLeft, COLORREF clrBottomRight);
     void Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF clrBottomRight);
-    BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags);
+    BOOL DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags) { return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags); }
     BOOL DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState);
     /// Erases the drag frame of `lpRectLast` (null the first time) and draws that of `lpRect`, `size` being
     /// the thickness of the frame. Without brushes a halftone one is used.
@@ -448,13 +448,13 @@ public:
     BOOL BitBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, DWORD dwRop);
     BOOL StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, int nSrcWidth,
                     int nSrcHeight, DWORD dwRop);
-    COLORREF GetPixel(int x, int y) const;
-    COLORREF GetPixel(POINT point) const;
-    COLORREF SetPixel(int x, int y, COLORREF crColor);
-    COLORREF SetPixel(POINT point, COLORREF crColor);
-    BOOL SetPixelV(int x, int y, COLORREF crColor);
-    BOOL SetPixelV(POINT point, COLORREF crColor);
-    BOOL FloodFill(int x, int y, COLORREF crColor);
+    COLORREF GetPixel(int x, int y) const { return ::GetPixel(m_hDC, x, y); }
+    COLORREF GetPixel(POINT point) const { return GetPixel(point.x, point.y); }
+    COLORREF SetPixel(int x, int y, COLORREF crColor) { return ::SetPixel(m_hDC, x, y, crColor); }
+    COLORREF SetPixel(POINT point, COLORREF crColor) { return SetPixel(point.x, point.y, crColor); }
+    BOOL SetPixelV(int x, int y, COLORREF crColor) { return ::SetPixelV(m_hDC, x, y, crColor); }
+    BOOL SetPixelV(POINT point, COLORREF crColor) { return SetPixelV(point.x, point.y, crColor); }
+    BOOL FloodFill(int x, int y, COLORREF crColor) { return ::FloodFill(m_hDC, x, y, crColor); }
     BOOL ExtFloodFill(int x, int y, COLORREF crColor, UINT nFillType);
     BOOL MaskBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSrc, int ySrc, CBitmap& maskBitmap,
                  int xMask, int yMask, DWORD dwRop);
@@ -467,7 +467,7 @@ public:
 
     // Text
     virtual BOOL TextOut(int x, int y, LPCTSTR lpszString, int nCount);
-    BOOL TextOut(int x, int y, const CString& str);
+    BOOL TextOut(int x, int y, const CString& str) { return TextOut(x, y, str, str.GetLength()); }
     virtual BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
                             LPINT lpDxWidths);
     BOOL ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, const CString& str, LPINT lpDxWidths);
@@ -495,14 +495,14 @@ public:
                                LPSIZE lpSize) const;
     virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
                             int nCount, int x, int y, int nWidth, int nHeight);
-    UINT GetTextAlign() const;
+    UINT GetTextAlign() const { return ::GetTextAlign(m_hAttribDC); }
     UINT SetTextAlign(UINT nFlags);
     int GetTextFace(int nCount, LPTSTR lpszFacename) const;
     int GetTextFace(CString& rString) const;
-    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const;
-    BOOL GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const;
+    BOOL GetTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hAttribDC, lpMetrics); }
+    BOOL GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const { return ::GetTextMetrics(m_hDC, lpMetrics); }
     int SetTextJustification(int nBreakExtra, int nBreakCount);
-    int GetTextCharacterExtra() const;
+    int GetTextCharacterExtra() const { return ::GetTextCharacterExtra(m_hAttribDC); }
     int SetTextCharacterExtra(int nCharExtra);
     DWORD GetCharacterPlacement(LPCTSTR lpString, int nCount, int nMaxExtent, LPGCP_RESULTS lpResults,
                                 DWORD dwFlags) const;
@@ -518,7 +518,7 @@ public:
     BOOL GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABCFLOAT lpABCF) const;
     DWORD SetMapperFlags(DWORD dwFlag);
     DWORD GetFontData(DWORD dwTable, DWORD dwOffset, LPVOID lpData, DWORD cbData) const;
-    DWORD GetFontLanguageInfo() const;
+    DWORD GetFontLanguageInfo() const { return ::GetFontLanguageInfo(m_hDC); }
     int GetKerningPairs(int nPairs, LPKERNINGPAIR lpkrnpair) const;
     UINT GetOutlineTextMetrics(UINT cbData, LPOUTLINETEXTMETRIC lpotm) const;
     DWORD GetGlyphOutline(UINT nChar, UINT nFormat, LPGLYPHMETRICS lpgm, DWORD cbBuffer, LPVOID lpBuffer,
@@ -533,30 +533,30 @@ public:
     int Escape(int nEscape, int nInputSize, LPCSTR lpszInputData, int nOutputSize, LPSTR lpszOutputData);
     int DrawEscape(int nEscape, int nInputSize, LPCSTR lpszInputData);
     int StartDoc(LPCTSTR lpszDocName);
-    int StartDoc(LPDOCINFO lpDocInfo);
-    int StartPage();
-    int EndPage();
+    int StartDoc(LPDOCINFO lpDocInfo) { return ::StartDoc(m_hDC, lpDocInfo); }
+    int StartPage() { return ::StartPage(m_hDC); }
+    int EndPage() { return ::EndPage(m_hDC); }
     int SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int));
-    int AbortDoc();
-    int EndDoc();
+    int AbortDoc() { return ::AbortDoc(m_hDC); }
+    int EndDoc() { return ::EndDoc(m_hDC); }
 
     // Metafiles
-    BOOL PlayMetaFile(HMETAFILE hMF);
+    BOOL PlayMetaFile(HMETAFILE hMF) { return ::PlayMetaFile(m_hDC, hMF); }
     BOOL PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds);
     BOOL AddMetaFileComment(UINT nDataSize, const BYTE* pCommentData);
 
     // Paths
-    BOOL AbortPath();
-    BOOL BeginPath();
-    BOOL CloseFigure();
-    BOOL EndPath();
-    BOOL FillPath();
-    BOOL FlattenPath();
-    BOOL StrokeAndFillPath();
-    BOOL StrokePath();
-    BOOL WidenPath();
+    BOOL AbortPath() { return ::AbortPath(m_hDC); }
+    BOOL BeginPath() { return ::BeginPath(m_hDC); }
+    BOOL CloseFigure() { return ::CloseFigure(m_hDC); }
+    BOOL EndPath() { return ::EndPath(m_hDC); }
+    BOOL FillPath() { return ::FillPath(m_hDC); }
+    BOOL FlattenPath() { return ::FlattenPath(m_hDC); }
+    BOOL StrokeAndFillPath() { return ::StrokeAndFillPath(m_hDC); }
+    BOOL StrokePath() { return ::StrokePath(m_hDC); }
+    BOOL WidenPath() { return ::WidenPath(m_hDC); }
     float GetMiterLimit() const;
-    BOOL SetMiterLimit(float fMiterLimit);
+    BOOL SetMiterLimit(float fMiterLimit) { return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr); }
     int GetPath(LPPOINT lpPoints, LPBYTE lpTypes, int nCount) const;
     BOOL SelectClipPath(int nMode);
 
@@ -572,7 +572,7 @@ class AFX_CORE_CLASS CClientDC : public CDC
 
 public:
     explicit CClientDC(CWnd* pWnd);
-    ~CClientDC() override;
+    ~CClientDC() override { ::ReleaseDC(m_hWnd, Detach()); }
 
 protected:
     HWND m_hWnd;
@@ -585,7 +585,7 @@ class AFX_CORE_CLASS CWindowDC : public CDC
 
 public:
     explicit CWindowDC(CWnd* pWnd);
-    ~CWindowDC() override;
+    ~CWindowDC() override { ::ReleaseDC(m_hWnd, Detach()); }
 
 protected:
     HWND m_hWnd;
@@ -615,7 +615,7 @@ class AFX_CORE_CLASS CMenu : public CObject
 
 public:
     CMenu();
-    ~CMenu() override;
+    ~CMenu() override { DestroyMenu(); }
     CMenu(const CMenu&) = delete;
     CMenu& operator=(const CMenu&) = delete;
 
@@ -632,14 +632,14 @@ public:
     BOOL Attach(HMENU hMenu);
     HMENU Detach();
 
-    BOOL CreateMenu();
-    BOOL CreatePopupMenu();
+    BOOL CreateMenu() { return Attach(::CreateMenu()); }
+    BOOL CreatePopupMenu() { return Attach(::CreatePopupMenu()); }
     BOOL LoadMenu(LPCTSTR lpszResourceName);
-    BOOL LoadMenu(UINT nIDResource);
-    BOOL LoadMenuIndirect(const void* lpMenuTemplate);
+    BOOL LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
+    BOOL LoadMenuIndirect(const void* lpMenuTemplate) { return Attach(::LoadMenuIndirect(lpMenuTemplate)); }
     BOOL DestroyMenu();
 
-    BOOL DeleteMenu(UINT nPosition, UINT nFlags);
+    BOOL DeleteMenu(UINT nPosition, UINT nFlags) { return ::DeleteMenu(m_hMenu, nPosition, nFlags); }
     /// Shows the menu at a point of the screen. A click outside `lpRect` closes it; null stands for the whole
     /// screen. With TPM_RETURNCMD it answers the command chosen, 0 for none.
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr);
@@ -650,30 +650,30 @@ public:
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
     UINT CheckMenuItem(UINT nIDCheckItem, UINT nCheck);
     UINT EnableMenuItem(UINT nIDEnableItem, UINT nEnable);
-    UINT GetMenuItemCount() const;
-    UINT GetMenuItemID(int nPos) const;
-    UINT GetMenuState(UINT nID, UINT nFlags) const;
+    UINT GetMenuItemCount() const { return ::GetMenuItemCount(m_hMenu); }
+    UINT GetMenuItemID(int nPos) const { return ::GetMenuItemID(m_hMenu, nPos); }
+    UINT GetMenuState(UINT nID, UINT nFlags) const { return ::GetMenuState(m_hMenu, nID, nFlags); }
     int GetMenuString(UINT nIDItem, LPTSTR lpString, int nMaxCount, UINT nFlags) const;
     int GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const;
     BOOL GetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     BOOL SetMenuItemInfo(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     /// The pop-up below an item, which stays the menu's own.
-    CMenu* GetSubMenu(int nPos) const;
+    CMenu* GetSubMenu(int nPos) const { return FromHandle(::GetSubMenu(m_hMenu, nPos)); }
     BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0, LPCTSTR lpszNewItem = nullptr);
     BOOL InsertMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
     BOOL InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPos = FALSE);
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem = 0, LPCTSTR lpszNewItem = nullptr);
     BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, const CBitmap* pBmp);
-    BOOL RemoveMenu(UINT nPosition, UINT nFlags);
+    BOOL RemoveMenu(UINT nPosition, UINT nFlags) { return ::RemoveMenu(m_hMenu, nPosition, nFlags); }
     BOOL SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
                             const CBitmap* pBmpChecked);
     BOOL CheckMenuRadioItem(UINT nIDFirst, UINT nIDLast, UINT nIDItem, UINT nFlags);
     BOOL SetDefaultItem(UINT uItem, BOOL fByPos = FALSE);
     UINT GetDefaultItem(UINT gmdiFlags, BOOL fByPos = FALSE);
     BOOL SetMenuContextHelpId(DWORD dwContextHelpId);
-    DWORD GetMenuContextHelpId() const;
-    BOOL SetMenuInfo(LPCMENUINFO lpcmi);
-    BOOL GetMenuInfo(LPMENUINFO lpcmi) const;
+    DWORD GetMenuContextHelpId() const { return ::GetMenuContextHelpId(m_hMenu); }
+    BOOL SetMenuInfo(LPCMENUINFO lpcmi) { return ::SetMenuInfo(m_hMenu, lpcmi); }
+    BOOL GetMenuInfo(LPMENUINFO lpcmi) const { return ::GetMenuInfo(m_hMenu, lpcmi); }
 
     /// For menus with owner-drawn items, which must override both.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -128,7 +128,7 @@ public:
     virtual void SetText(LPCTSTR lpszText);
 
     /// The handler did not decide: let the next routing target be asked.
-    void ContinueRouting();
+    void ContinueRouting() { m_bContinueRouting = TRUE; }
 
     /// Asks the target for the state. With `bDisableIfNoHndler` an item whose command nobody handles is
     /// disabled. TRUE if a handler was found.
@@ -168,14 +168,16 @@ public:
     static const CWnd wndTopMost;
     static const CWnd wndNoTopMost;
 
-    operator HWND() const;
-    bool operator==(const CWnd& wnd) const;
-    bool operator!=(const CWnd& wnd) const;
+    operator HWND() const { return GetSafeHwnd(); }
+    bool operator==(const CWnd& wnd) const { return wnd.GetSafeHwnd() == m_hWnd; }
+    bool operator!=(const CWnd& wnd) const { return wnd.GetSafeHwnd() != m_hWnd; }
     HWND GetSafeHwnd() const; ///< the handle; null for a null object
-    DWORD GetStyle() const;
-    DWORD GetExStyle() const;
-    CWnd* GetOwner() const;         ///< the window set by SetOwner, else the parent
-    void SetOwner(CWnd* pOwnerWnd); ///< commands and notifications of the framework go to the owner
+    DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_EXSTYLE)); }
+    /// the window set by SetOwner, else the parent
+    CWnd* GetOwner() const { return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent(); }
+    /// commands and notifications of the framework go to the owner
+    void SetOwner(CWnd* pOwnerWnd) { m_hWndOwner = pOwnerWnd->GetSafeHwnd(); }
 
     /// The object of a handle: the permanent one, or a temporary one that lives until idle time.
     static CWnd* PASCAL FromHandle(HWND hWnd);
@@ -212,26 +214,27 @@ public:
     BOOL ModifyStyleEx(DWORD dwRemove, DWORD dwAdd, UINT nFlags = 0);
     static BOOL PASCAL ModifyStyle(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
     static BOOL PASCAL ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFlags);
-    int GetDlgCtrlID() const;
-    int SetDlgCtrlID(int nID); ///< answers the id of before
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    /// answers the id of before
+    int SetDlgCtrlID(int nID) { return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, nID)); }
 
     // Related windows
-    static CWnd* PASCAL GetActiveWindow();
-    CWnd* SetActiveWindow();
-    BOOL SetForegroundWindow();
-    static CWnd* PASCAL GetForegroundWindow();
-    static CWnd* PASCAL GetCapture();
-    CWnd* SetCapture();
-    static CWnd* PASCAL GetFocus();
-    CWnd* SetFocus();
-    static CWnd* PASCAL GetDesktopWindow();
-    CWnd* GetWindow(UINT nCmd) const;
-    CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const;
-    CWnd* GetTopWindow() const;
-    CWnd* GetLastActivePopup() const;
-    CWnd* GetParent() const;
+    static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
+    CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
+    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
+    static CWnd* PASCAL GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
+    static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
+    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
+    static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
+    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    static CWnd* PASCAL GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
+    CWnd* GetWindow(UINT nCmd) const { return FromHandle(::GetWindow(m_hWnd, nCmd)); }
+    CWnd* GetNextWindow(UINT nFlag = GW_HWNDNEXT) const { return FromHandle(::GetWindow(m_hWnd, nFlag)); }
+    CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
+    CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* SetParent(CWnd* pWndNewParent);
-    CWnd* GetAncestor(UINT gaFlags) const;
+    CWnd* GetAncestor(UINT gaFlags) const { return FromHandle(::GetAncestor(m_hWnd, gaFlags)); }
     CWnd* GetTopLevelParent() const;   ///< up through parents and owners
     CWnd* GetTopLevelOwner() const;    ///< up through owners
     CWnd* GetParentOwner() const;      ///< the nearest parent that is not a child window
@@ -242,10 +245,10 @@ public:
     static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName);
     static CWnd* PASCAL FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lpszClass,
                                      LPCTSTR lpszWindow);
-    static CWnd* PASCAL WindowFromPoint(POINT point);
+    static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
     CWnd* ChildWindowFromPoint(POINT point) const;
     CWnd* ChildWindowFromPoint(POINT point, UINT nFlags) const;
-    BOOL IsChild(const CWnd* pWnd) const;
+    BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->GetSafeHwnd()); }
     /// The first descendant with the id, children before grandchildren; with `bOnlyPerm` only one that has a
     /// permanent object.
     CWnd* GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
@@ -260,40 +263,41 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
     static const MSG* PASCAL GetCurrentMessage(); ///< the message being handled on this thread
-    void DragAcceptFiles(BOOL bAccept = TRUE);
+    void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
 
     // Text and font
-    void SetWindowText(LPCTSTR lpszString);
+    void SetWindowText(LPCTSTR lpszString) { ::SetWindowText(m_hWnd, lpszString); }
     int GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const;
     void GetWindowText(CString& rString) const;
-    int GetWindowTextLength() const;
+    int GetWindowTextLength() const { return ::GetWindowTextLength(m_hWnd); }
     void SetFont(CFont* pFont, BOOL bRedraw = TRUE);
     CFont* GetFont() const;
 
     // Menus
-    CMenu* GetMenu() const;
-    BOOL SetMenu(CMenu* pMenu);
-    void DrawMenuBar();
-    CMenu* GetSystemMenu(BOOL bRevert) const;
+    CMenu* GetMenu() const { return CMenu::FromHandle(::GetMenu(m_hWnd)); }
+    BOOL SetMenu(CMenu* pMenu) { return ::SetMenu(m_hWnd, pMenu->GetSafeHmenu()); }
+    void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
+    CMenu* GetSystemMenu(BOOL bRevert) const { return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert)); }
     BOOL HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite);
 
     // Position and size
-    BOOL IsIconic() const;
-    BOOL IsZoomed() const;
+    BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
+    BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
     void MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint = TRUE);
     void MoveWindow(LPCRECT lpRect, BOOL bRepaint = TRUE);
-    int SetWindowRgn(HRGN hRgn, BOOL bRedraw); ///< the window owns the region afterwards
-    int GetWindowRgn(HRGN hRgn) const;
+    /// the window owns the region afterwards
+    int SetWindowRgn(HRGN hRgn, BOOL bRedraw) { return ::SetWindowRgn(m_hWnd, hRgn, bRedraw); }
+    int GetWindowRgn(HRGN hRgn) const { return ::GetWindowRgn(m_hWnd, hRgn); }
     BOOL SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags);
-    UINT ArrangeIconicWindows();
-    void BringWindowToTop();
-    void GetWindowRect(LPRECT lpRect) const;
-    void GetClientRect(LPRECT lpRect) const;
+    UINT ArrangeIconicWindows() { return ::ArrangeIconicWindows(m_hWnd); }
+    void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
+    void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
+    void GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
     BOOL GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const;
-    BOOL SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl);
-    void ClientToScreen(LPPOINT lpPoint) const;
+    BOOL SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl) { return ::SetWindowPlacement(m_hWnd, lpwndpl); }
+    void ClientToScreen(LPPOINT lpPoint) const { ::ClientToScreen(m_hWnd, lpPoint); }
     void ClientToScreen(LPRECT lpRect) const;
-    void ScreenToClient(LPPOINT lpPoint) const;
+    void ScreenToClient(LPPOINT lpPoint) const { ::ScreenToClient(m_hWnd, lpPoint); }
     void ScreenToClient(LPRECT lpRect) const;
     void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
     void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
@@ -307,29 +311,29 @@ public:
     void CenterWindow(CWnd* pAlternateOwner = nullptr);
 
     // Painting
-    CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
-    void EndPaint(LPPAINTSTRUCT lpPaint);
-    CDC* GetDC();
-    CDC* GetWindowDC();
+    CDC* BeginPaint(LPPAINTSTRUCT lpPaint) { return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint)); }
+    void EndPaint(LPPAINTSTRUCT lpPaint) { ::EndPaint(m_hWnd, lpPaint); }
+    CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
+    CDC* GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
     CDC* GetDCEx(CRgn* prgnClip, DWORD flags);
-    int ReleaseDC(CDC* pDC);
+    int ReleaseDC(CDC* pDC) { return ::ReleaseDC(m_hWnd, pDC->m_hDC); }
     void Print(CDC* pDC, DWORD dwFlags) const;
     void PrintClient(CDC* pDC, DWORD dwFlags) const;
-    void UpdateWindow();
-    void SetRedraw(BOOL bRedraw = TRUE);
-    BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE);
+    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    void SetRedraw(BOOL bRedraw = TRUE) { ::SendMessage(m_hWnd, WM_SETREDRAW, bRedraw, 0); }
+    BOOL GetUpdateRect(LPRECT lpRect, BOOL bErase = FALSE) { return ::GetUpdateRect(m_hWnd, lpRect, bErase); }
     int GetUpdateRgn(CRgn* pRgn, BOOL bErase = FALSE);
-    void Invalidate(BOOL bErase = TRUE);
-    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE);
+    void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
+    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
     void InvalidateRgn(CRgn* pRgn, BOOL bErase = TRUE);
-    void ValidateRect(LPCRECT lpRect);
-    void ValidateRgn(CRgn* pRgn);
-    BOOL ShowWindow(int nCmdShow);
-    BOOL IsWindowVisible() const;
-    void ShowOwnedPopups(BOOL bShow = TRUE);
-    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags);
-    BOOL LockWindowUpdate();
-    void UnlockWindowUpdate();
+    void ValidateRect(LPCRECT lpRect) { ::ValidateRect(m_hWnd, lpRect); }
+    void ValidateRgn(CRgn* pRgn) { ::ValidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle())); }
+    BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
+    BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    void ShowOwnedPopups(BOOL bShow = TRUE) { ::ShowOwnedPopups(m_hWnd, bShow); }
+    BOOL AnimateWindow(DWORD dwTime, DWORD dwFlags) { return ::AnimateWindow(m_hWnd, dwTime, dwFlags); }
+    BOOL LockWindowUpdate() { return ::LockWindowUpdate(m_hWnd); }
+    void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
     BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, CRgn* prgnUpdate = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
     BOOL DrawAnimatedRects(int idAni, CONST RECT* lprcFrom, CONST RECT* lprcTo);
@@ -340,26 +344,26 @@ public:
     // Timers
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
                       void(CALLBACK* lpfnTimer)(HWND, UINT, UINT_PTR, DWORD));
-    BOOL KillTimer(UINT_PTR nIDEvent);
+    BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
 
     // State
-    BOOL IsWindowEnabled() const;
-    BOOL EnableWindow(BOOL bEnable = TRUE);
-    BOOL FlashWindow(BOOL bInvert);
+    BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
+    BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
+    BOOL FlashWindow(BOOL bInvert) { return ::FlashWindow(m_hWnd, bInvert); }
     BOOL FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout);
 
     // Dialog items
-    void CheckDlgButton(int nIDButton, UINT nCheck);
+    void CheckDlgButton(int nIDButton, UINT nCheck) { ::CheckDlgButton(m_hWnd, nIDButton, nCheck); }
     void CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton);
     int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const;
-    UINT IsDlgButtonChecked(int nIDButton) const;
-    CWnd* GetDlgItem(int nID) const;
-    void GetDlgItem(int nID, HWND* phWnd) const;
+    UINT IsDlgButtonChecked(int nIDButton) const { return ::IsDlgButtonChecked(m_hWnd, nIDButton); }
+    CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
+    void GetDlgItem(int nID, HWND* phWnd) const { *phWnd = ::GetDlgItem(m_hWnd, nID); }
     UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const;
     void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
     int GetDlgItemText(int nID, LPTSTR lpStr, int nMaxCount) const;
     int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemText(int nID, LPCTSTR lpszString);
+    void SetDlgItemText(int nID, LPCTSTR lpszString) { ::SetDlgItemText(m_hWnd, nID, lpszString); }
     CWnd* GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
     LRESULT SendDlgItemMessage(int nID, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -388,22 +392,22 @@ public:
 
     // Caret, clipboard, hot key, help
     void CreateCaret(CBitmap* pBitmap);
-    void CreateSolidCaret(int nWidth, int nHeight);
+    void CreateSolidCaret(int nWidth, int nHeight) { ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight); }
     void CreateGrayCaret(int nWidth, int nHeight);
     static CPoint PASCAL GetCaretPos();
-    static void PASCAL SetCaretPos(POINT point);
-    void HideCaret();
-    void ShowCaret();
-    BOOL OpenClipboard();
-    static CWnd* PASCAL GetClipboardOwner();
-    static CWnd* PASCAL GetClipboardViewer();
-    static CWnd* PASCAL GetOpenClipboardWindow();
-    HWND SetClipboardViewer();
-    BOOL ChangeClipboardChain(HWND hWndNext);
+    static void PASCAL SetCaretPos(POINT point) { ::SetCaretPos(point.x, point.y); }
+    void HideCaret() { ::HideCaret(m_hWnd); }
+    void ShowCaret() { ::ShowCaret(m_hWnd); }
+    BOOL OpenClipboard() { return ::OpenClipboard(m_hWnd); }
+    static CWnd* PASCAL GetClipboardOwner() { return FromHandle(::GetClipboardOwner()); }
+    static CWnd* PASCAL GetClipboardViewer() { return FromHandle(::GetClipboardViewer()); }
+    static CWnd* PASCAL GetOpenClipboardWindow() { return FromHandle(::GetOpenClipboardWindow()); }
+    HWND SetClipboardViewer() { return ::SetClipboardViewer(m_hWnd); }
+    BOOL ChangeClipboardChain(HWND hWndNext) { return ::ChangeClipboardChain(m_hWnd, hWndNext); }
     int SetHotKey(WORD wVirtualKeyCode, WORD wModifiers);
-    DWORD GetHotKey() const;
+    DWORD GetHotKey() const { return static_cast<DWORD>(::SendMessage(m_hWnd, WM_GETHOTKEY, 0, 0)); }
     BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
-    DWORD GetWindowContextHelpId() const;
+    DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);
     HICON GetIcon(BOOL bBigIcon) const;
 
@@ -423,21 +427,21 @@ public:
     // Modal state
     /// Runs a message loop until EndModalLoop, and answers its result; -1 if the thread is quitting.
     int RunModalLoop(DWORD dwFlags = 0);
-    virtual BOOL ContinueModal();
+    virtual BOOL ContinueModal() { return (m_nFlags & WF_CONTINUEMODAL) != 0; }
     virtual void EndModalLoop(int nResult);
 
     // Translation of messages before dispatch
     virtual BOOL PreTranslateMessage(MSG* pMsg); ///< TRUE when the message is done with and is not dispatched
     BOOL PreTranslateInput(LPMSG lpMsg);         ///< IsDialogMessage for keyboard and mouse messages only
-    BOOL IsDialogMessage(LPMSG lpMsg);
+    BOOL IsDialogMessage(LPMSG lpMsg) { return ::IsDialogMessage(m_hWnd, lpMsg); }
     /// Offers a message to PreTranslateMessage of its window and of each parent up to `hWndStop`.
     static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
 
     /// Offers the message being handled to this control as if it had come from the parent.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
-    virtual BOOL CheckAutoCenter();
-    virtual BOOL IsFrameWnd() const;
+    virtual BOOL CheckAutoCenter() { return TRUE; }
+    virtual BOOL IsFrameWnd() const { return FALSE; }
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     void AssertValid() const override;
@@ -467,7 +471,7 @@ protected:
     WNDPROC m_pfnSuper = nullptr; ///< the procedure that stood here before the object
 
     /// Where the address of a class's original procedure is kept; the object's own m_pfnSuper by default.
-    virtual WNDPROC* GetSuperWndProcAddr();
+    virtual WNDPROC* GetSuperWndProcAddr() { return &m_pfnSuper; }
 
     /// Passes the message being handled on to the default procedure, with the parameters it came with.
     LRESULT Default();
@@ -498,11 +502,11 @@ public:
 protected:
     // Handlers: creation and destruction. Each hands the message on by Default().
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnDestroy();
-    afx_msg void OnClose();
+    afx_msg void OnDestroy() { Default(); }
+    afx_msg void OnClose() { Default(); }
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnNcDestroy();
-    afx_msg BOOL OnQueryEndSession();
+    afx_msg BOOL OnQueryEndSession() { return static_cast<BOOL>(Default()); }
     afx_msg void OnEndSession(BOOL bEnding);
 
     // Handlers: position, size, style, state
@@ -519,24 +523,24 @@ protected:
     afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
-    afx_msg void OnChildActivate();
+    afx_msg void OnChildActivate() { Default(); }
     afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
-    afx_msg void OnCancelMode();
-    afx_msg BOOL OnQueryOpen();
-    afx_msg HCURSOR OnQueryDragIcon();
+    afx_msg void OnCancelMode() { Default(); }
+    afx_msg BOOL OnQueryOpen() { return static_cast<BOOL>(Default()); }
+    afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
     afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
 
     // Handlers: painting and colours
-    afx_msg void OnPaint();
+    afx_msg void OnPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
     afx_msg void OnIconEraseBkgnd(CDC* pDC);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnSysColorChange();
-    afx_msg LRESULT OnThemeChanged();
-    afx_msg BOOL OnQueryNewPalette();
+    afx_msg LRESULT OnThemeChanged() { return Default(); }
+    afx_msg BOOL OnQueryNewPalette() { return static_cast<BOOL>(Default()); }
     afx_msg void OnPaletteIsChanging(CWnd* pRealizeWnd);
     afx_msg void OnPaletteChanged(CWnd* pFocusWnd);
 
@@ -544,7 +548,7 @@ protected:
     afx_msg BOOL OnNcActivate(BOOL bActive);
     afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
     afx_msg LRESULT OnNcHitTest(CPoint point);
-    afx_msg void OnNcPaint();
+    afx_msg void OnNcPaint() { Default(); }
     afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
     afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
     afx_msg void OnNcLButtonUp(UINT nHitTest, CPoint point);
@@ -565,7 +569,7 @@ protected:
     afx_msg void OnSysDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnSysKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg UINT OnGetDlgCode();
+    afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
     afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
 
     // Handlers: mouse
@@ -580,7 +584,7 @@ protected:
     afx_msg void OnMButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnMButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnMouseHover(UINT nFlags, CPoint point);
-    afx_msg void OnMouseLeave();
+    afx_msg void OnMouseLeave() { Default(); }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg void OnCaptureChanged(CWnd* pWnd);
@@ -611,8 +615,8 @@ protected:
     // Handlers: system and session
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg void OnWinIniChange(LPCTSTR lpszSection);
-    afx_msg void OnFontChange();
-    afx_msg void OnTimeChange();
+    afx_msg void OnFontChange() { Default(); }
+    afx_msg void OnTimeChange() { Default(); }
     afx_msg void OnDevModeChange(LPTSTR lpDeviceName);
     afx_msg BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
     afx_msg void OnCompacting(UINT nCpuTime);
@@ -621,10 +625,10 @@ protected:
 
     // Handlers: clipboard
     afx_msg void OnChangeCbChain(HWND hWndRemove, HWND hWndAfter);
-    afx_msg void OnDrawClipboard();
-    afx_msg void OnDestroyClipboard();
+    afx_msg void OnDrawClipboard() { Default(); }
+    afx_msg void OnDestroyClipboard() { Default(); }
     afx_msg void OnRenderFormat(UINT nFormat);
-    afx_msg void OnRenderAllFormats();
+    afx_msg void OnRenderAllFormats() { Default(); }
 
     DECLARE_MESSAGE_MAP()
 
@@ -686,17 +690,17 @@ public:
     HACCEL m_hAccelTable = nullptr;
     BOOL m_bAutoMenuEnable = TRUE; ///< menu items whose command nobody handles are disabled
 
-    virtual CFrameWnd* GetActiveFrame();
+    virtual CFrameWnd* GetActiveFrame() { return this; }
     virtual void ActivateFrame(int nCmdShow = -1);
-    CString GetTitle() const;
-    void SetTitle(LPCTSTR lpszTitle);
+    CString GetTitle() const { return m_strTitle; }
+    void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
 
     /// Modal state of the frame: its other top-level windows are disabled. Counted.
     virtual void BeginModalState();
     virtual void EndModalState();
-    BOOL InModalState() const;
+    BOOL InModalState() const { return m_cModalStack != 0; }
 
-    BOOL IsFrameWnd() const override;
+    BOOL IsFrameWnd() const override { return TRUE; }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
@@ -707,7 +711,7 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
-    afx_msg BOOL OnQueryEndSession();
+    afx_msg BOOL OnQueryEndSession() { return TRUE; }
 
     CString m_strTitle;
     int m_cModalStack = 0;
@@ -752,12 +756,12 @@ public:
     /// Hides a modal dialog and lets DoModal answer; allowed in OnInitDialog too.
     void EndDialog(int nResult);
 
-    void MapDialogRect(LPRECT lpRect) const;
-    void NextDlgCtrl() const;
-    void PrevDlgCtrl() const;
+    void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
+    void NextDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, FALSE); }
+    void PrevDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, FALSE); }
     void GotoDlgCtrl(CWnd* pWndCtrl);
-    void SetDefID(UINT nID);
-    DWORD GetDefID() const;
+    void SetDefID(UINT nID) { SendMessage(DM_SETDEFID, nID); }
+    DWORD GetDefID() const { return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0)); }
 
     /// FALSE when the focus was set by the override. Fills controls from RT_DLGINIT and from the members.
     virtual BOOL OnInitDialog();
@@ -767,12 +771,12 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     BOOL CheckAutoCenter() override;
 
-    void AssertValid() const override;
+    void AssertValid() const override { CWnd::AssertValid(); }
     void Dump(CDumpContext& dc) const override;
 
 protected:
-    virtual void OnOK();     ///< UpdateData(TRUE), then EndDialog(IDOK); stays open when a value was refused
-    virtual void OnCancel(); ///< EndDialog(IDCANCEL)
+    virtual void OnOK(); ///< UpdateData(TRUE), then EndDialog(IDOK); stays open when a value was refused
+    virtual void OnCancel() { EndDialog(IDCANCEL); } ///< EndDialog(IDCANCEL)
     virtual void PreInitDialog();
 
     /// Parent of the modal dialog: found, and disabled, by PreModal; given back by PostModal.

@@ -99,31 +99,11 @@ LPCTSTR AFXAPI AfxGetAppName()
 // ---------------------------------------------------------------------------------------------------------
 // Life
 
-BOOL CWinApp::InitApplication()
-{
-    return TRUE;
-}
-
-BOOL CWinApp::InitInstance()
-{
-    return TRUE;
-}
-
 int CWinApp::Run()
 {
     if (m_pMainWnd == nullptr)
         AfxPostQuitMessage(0); // nothing to wait for
     return CWinThread::Run();
-}
-
-int CWinApp::ExitInstance()
-{
-    return CWinThread::ExitInstance();
-}
-
-BOOL CWinApp::OnIdle(LONG lCount)
-{
-    return CWinThread::OnIdle(lCount);
 }
 
 LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg)
@@ -153,39 +133,9 @@ HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const
     return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
 }
 
-HCURSOR CWinApp::LoadCursor(UINT nIDResource) const
-{
-    return LoadCursor(MAKEINTRESOURCE(nIDResource));
-}
-
-HCURSOR CWinApp::LoadStandardCursor(LPCTSTR lpszCursorName) const
-{
-    return ::LoadCursor(nullptr, lpszCursorName);
-}
-
-HCURSOR CWinApp::LoadOEMCursor(UINT nIDCursor) const
-{
-    return ::LoadCursor(nullptr, MAKEINTRESOURCE(nIDCursor));
-}
-
 HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const
 {
     return ::LoadIcon(AfxFindResourceHandle(lpszResourceName, RT_GROUP_ICON), lpszResourceName);
-}
-
-HICON CWinApp::LoadIcon(UINT nIDResource) const
-{
-    return LoadIcon(MAKEINTRESOURCE(nIDResource));
-}
-
-HICON CWinApp::LoadStandardIcon(LPCTSTR lpszIconName) const
-{
-    return ::LoadIcon(nullptr, lpszIconName);
-}
-
-HICON CWinApp::LoadOEMIcon(UINT nIDIcon) const
-{
-    return ::LoadIcon(nullptr, MAKEINTRESOURCE(nIDIcon));
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -194,11 +194,6 @@ void CCmdUI::SetText(LPCTSTR lpszText)
         m_pOther->SetWindowText(lpszText);
 }
 
-void CCmdUI::ContinueRouting()
-{
-    m_bContinueRouting = TRUE;
-}
-
 BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
 {
     if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF)

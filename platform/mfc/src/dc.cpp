@@ -28,11 +28,6 @@ IMPLEMENT_DYNCREATE(CDC, CObject)
 
 CDC::CDC() = default;
 
-CDC::~CDC()
-{
-    DeleteDC();
-}
-
 HDC CDC::GetSafeHdc() const
 {
     return SafeHdc(this);
@@ -79,26 +74,6 @@ HDC CDC::Detach()
     return dc;
 }
 
-void CDC::SetAttribDC(HDC hDC)
-{
-    m_hAttribDC = hDC;
-}
-
-void CDC::SetOutputDC(HDC hDC)
-{
-    m_hDC = hDC;
-}
-
-void CDC::ReleaseAttribDC()
-{
-    m_hAttribDC = nullptr;
-}
-
-void CDC::ReleaseOutputDC()
-{
-    m_hDC = nullptr;
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Creation
 
@@ -143,11 +118,6 @@ CPoint CDC::SetBrushOrg(int x, int y)
     return before;
 }
 
-CPoint CDC::SetBrushOrg(POINT point)
-{
-    return SetBrushOrg(point.x, point.y);
-}
-
 int CDC::EnumObjects(int nObjectType, int(CALLBACK* lpfn)(LPVOID, LPARAM), LPARAM lpData)
 {
     return ::EnumObjects(m_hAttribDC, nObjectType, lpfn, lpData);
@@ -174,11 +144,6 @@ BOOL CDC::RestoreDC(int nSavedDC)
     return restored;
 }
 
-int CDC::GetDeviceCaps(int nIndex) const
-{
-    return ::GetDeviceCaps(m_hAttribDC, nIndex);
-}
-
 UINT CDC::SetBoundsRect(LPCRECT lpRectBounds, UINT flags)
 {
     return ::SetBoundsRect(m_hDC, lpRectBounds, flags);
@@ -187,11 +152,6 @@ UINT CDC::SetBoundsRect(LPCRECT lpRectBounds, UINT flags)
 UINT CDC::GetBoundsRect(LPRECT lpRectBounds, UINT flags)
 {
     return ::GetBoundsRect(m_hAttribDC, lpRectBounds, flags);
-}
-
-BOOL CDC::ResetDC(const DEVMODE* lpDevMode)
-{
-    return ::ResetDC(m_hAttribDC, lpDevMode) != nullptr;
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -229,11 +189,6 @@ CBitmap* CDC::SelectObject(CBitmap* pBitmap)
     return static_cast<CBitmap*>(SelectGdiObject(m_hDC, SafeObject(pBitmap)));
 }
 
-int CDC::SelectObject(CRgn* pRgn)
-{
-    return SelectClipRgn(pRgn);
-}
-
 CGdiObject* CDC::SelectStockObject(int nIndex)
 {
     const HGDIOBJ object = ::GetStockObject(nIndex);
@@ -268,84 +223,14 @@ CBitmap* CDC::GetCurrentBitmap() const
 // ---------------------------------------------------------------------------------------------------------
 // Colours and palettes
 
-COLORREF CDC::GetNearestColor(COLORREF crColor) const
-{
-    return ::GetNearestColor(m_hAttribDC, crColor);
-}
-
 CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground)
 {
     const auto palette = static_cast<HPALETTE>(SafeObject(pPalette));
     return CPalette::FromHandle(::SelectPalette(m_hDC, palette, bForceBackground));
 }
 
-UINT CDC::RealizePalette()
-{
-    return ::RealizePalette(m_hDC);
-}
-
-void CDC::UpdateColors()
-{
-    ::UpdateColors(m_hDC);
-}
-
-COLORREF CDC::GetDCBrushColor() const
-{
-    return ::GetDCBrushColor(m_hDC);
-}
-
-COLORREF CDC::SetDCBrushColor(COLORREF crColor)
-{
-    return ::SetDCBrushColor(m_hDC, crColor);
-}
-
-COLORREF CDC::GetDCPenColor() const
-{
-    return ::GetDCPenColor(m_hDC);
-}
-
-COLORREF CDC::SetDCPenColor(COLORREF crColor)
-{
-    return ::SetDCPenColor(m_hDC, crColor);
-}
-
-int CDC::SetICMMode(int nMode)
-{
-    return ::SetICMMode(m_hDC, nMode);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Drawing attributes
-
-COLORREF CDC::GetBkColor() const
-{
-    return ::GetBkColor(m_hAttribDC);
-}
-
-int CDC::GetBkMode() const
-{
-    return ::GetBkMode(m_hAttribDC);
-}
-
-int CDC::GetPolyFillMode() const
-{
-    return ::GetPolyFillMode(m_hAttribDC);
-}
-
-int CDC::GetROP2() const
-{
-    return ::GetROP2(m_hAttribDC);
-}
-
-int CDC::GetStretchBltMode() const
-{
-    return ::GetStretchBltMode(m_hAttribDC);
-}
-
-COLORREF CDC::GetTextColor() const
-{
-    return ::GetTextColor(m_hAttribDC);
-}
 
 COLORREF CDC::SetBkColor(COLORREF crColor)
 {
@@ -379,19 +264,9 @@ COLORREF CDC::SetTextColor(COLORREF crColor)
         *this, [=](HDC dc) { return ::SetTextColor(dc, crColor); }, CLR_INVALID);
 }
 
-int CDC::GetGraphicsMode() const
-{
-    return ::GetGraphicsMode(m_hDC);
-}
-
 int CDC::SetGraphicsMode(int iMode)
 {
     return InBoth<int>(*this, [=](HDC dc) { return ::SetGraphicsMode(dc, iMode); });
-}
-
-BOOL CDC::GetWorldTransform(XFORM* pXform) const
-{
-    return ::GetWorldTransform(m_hAttribDC, pXform);
 }
 
 BOOL CDC::SetWorldTransform(const XFORM* pXform)
@@ -417,11 +292,6 @@ BOOL CDC::SetColorAdjustment(const COLORADJUSTMENT* lpColorAdjust)
 // ---------------------------------------------------------------------------------------------------------
 // Mapping
 
-int CDC::GetMapMode() const
-{
-    return ::GetMapMode(m_hAttribDC);
-}
-
 CPoint CDC::GetViewportOrg() const
 {
     CPoint origin;
@@ -439,11 +309,6 @@ CPoint CDC::SetViewportOrg(int x, int y)
     CPoint before;
     InBoth<BOOL>(*this, [&](HDC dc) { return ::SetViewportOrgEx(dc, x, y, &before); });
     return before;
-}
-
-CPoint CDC::SetViewportOrg(POINT point)
-{
-    return SetViewportOrg(point.x, point.y);
 }
 
 CPoint CDC::OffsetViewportOrg(int nWidth, int nHeight)
@@ -465,11 +330,6 @@ CSize CDC::SetViewportExt(int cx, int cy)
     CSize before;
     InBoth<BOOL>(*this, [&](HDC dc) { return ::SetViewportExtEx(dc, cx, cy, &before); });
     return before;
-}
-
-CSize CDC::SetViewportExt(SIZE size)
-{
-    return SetViewportExt(size.cx, size.cy);
 }
 
 CSize CDC::ScaleViewportExt(int xNum, int xDenom, int yNum, int yDenom)
@@ -494,11 +354,6 @@ CPoint CDC::SetWindowOrg(int x, int y)
     return before;
 }
 
-CPoint CDC::SetWindowOrg(POINT point)
-{
-    return SetWindowOrg(point.x, point.y);
-}
-
 CPoint CDC::OffsetWindowOrg(int nWidth, int nHeight)
 {
     CPoint before;
@@ -520,21 +375,11 @@ CSize CDC::SetWindowExt(int cx, int cy)
     return before;
 }
 
-CSize CDC::SetWindowExt(SIZE size)
-{
-    return SetWindowExt(size.cx, size.cy);
-}
-
 CSize CDC::ScaleWindowExt(int xNum, int xDenom, int yNum, int yDenom)
 {
     CSize before;
     InBoth<BOOL>(*this, [&](HDC dc) { return ::ScaleWindowExtEx(dc, xNum, xDenom, yNum, yDenom, &before); });
     return before;
-}
-
-DWORD CDC::GetLayout() const
-{
-    return ::GetLayout(m_hAttribDC);
 }
 
 DWORD CDC::SetLayout(DWORD dwLayout)
@@ -546,32 +391,12 @@ DWORD CDC::SetLayout(DWORD dwLayout)
 // ---------------------------------------------------------------------------------------------------------
 // Coordinates
 
-void CDC::DPtoLP(LPPOINT lpPoints, int nCount) const
-{
-    ::DPtoLP(m_hAttribDC, lpPoints, nCount);
-}
-
-void CDC::DPtoLP(LPRECT lpRect) const
-{
-    ::DPtoLP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2);
-}
-
 void CDC::DPtoLP(LPSIZE lpSize) const
 {
     const CSize window = GetWindowExt();
     const CSize viewport = GetViewportExt();
     lpSize->cx = ::MulDiv(lpSize->cx, abs(window.cx), abs(viewport.cx));
     lpSize->cy = ::MulDiv(lpSize->cy, abs(window.cy), abs(viewport.cy));
-}
-
-void CDC::LPtoDP(LPPOINT lpPoints, int nCount) const
-{
-    ::LPtoDP(m_hAttribDC, lpPoints, nCount);
-}
-
-void CDC::LPtoDP(LPRECT lpRect) const
-{
-    ::LPtoDP(m_hAttribDC, reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 void CDC::LPtoDP(LPSIZE lpSize) const
@@ -648,26 +473,6 @@ void CDC::HIMETRICtoLP(LPSIZE lpSize) const
 // ---------------------------------------------------------------------------------------------------------
 // Clipping
 
-int CDC::GetClipBox(LPRECT lpRect) const
-{
-    return ::GetClipBox(m_hAttribDC, lpRect);
-}
-
-BOOL CDC::PtVisible(int x, int y) const
-{
-    return ::PtVisible(m_hAttribDC, x, y);
-}
-
-BOOL CDC::PtVisible(POINT point) const
-{
-    return PtVisible(point.x, point.y);
-}
-
-BOOL CDC::RectVisible(LPCRECT lpRect) const
-{
-    return ::RectVisible(m_hAttribDC, lpRect);
-}
-
 int CDC::SelectClipRgn(CRgn* pRgn)
 {
     const HRGN region = SafeRgn(pRgn);
@@ -715,11 +520,6 @@ int CDC::OffsetClipRgn(int x, int y)
         *this, [=](HDC dc) { return ::OffsetClipRgn(dc, x, y); }, ERROR);
 }
 
-int CDC::OffsetClipRgn(SIZE size)
-{
-    return OffsetClipRgn(size.cx, size.cy);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Contexts of windows
 
@@ -731,22 +531,12 @@ CClientDC::CClientDC(CWnd* pWnd) : m_hWnd(SafeHwnd(pWnd))
         AfxThrowResourceException();
 }
 
-CClientDC::~CClientDC()
-{
-    ::ReleaseDC(m_hWnd, Detach());
-}
-
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 
 CWindowDC::CWindowDC(CWnd* pWnd) : m_hWnd(SafeHwnd(pWnd))
 {
     if (!Attach(::GetWindowDC(m_hWnd)))
         AfxThrowResourceException();
-}
-
-CWindowDC::~CWindowDC()
-{
-    ::ReleaseDC(m_hWnd, Detach());
 }
 
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)

@@ -48,22 +48,12 @@ CPoint CDC::MoveTo(int x, int y)
     return before;
 }
 
-CPoint CDC::MoveTo(POINT point)
-{
-    return MoveTo(point.x, point.y);
-}
-
 BOOL CDC::LineTo(int x, int y)
 {
     // The attribute context does not draw, but has to know the position.
     if (m_hAttribDC != nullptr && m_hDC != m_hAttribDC)
         ::MoveToEx(m_hAttribDC, x, y, nullptr);
     return ::LineTo(m_hDC, x, y);
-}
-
-BOOL CDC::LineTo(POINT point)
-{
-    return LineTo(point.x, point.y);
 }
 
 BOOL CDC::Arc(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
@@ -106,19 +96,9 @@ BOOL CDC::AngleArc(int x, int y, int nRadius, float fStartAngle, float fSweepAng
     return FollowPosition(*this, ::AngleArc(m_hDC, x, y, nRadius, fStartAngle, fSweepAngle));
 }
 
-int CDC::GetArcDirection() const
-{
-    return ::GetArcDirection(m_hAttribDC);
-}
-
 int CDC::SetArcDirection(int nArcDirection)
 {
     return InBoth<int>(*this, [=](HDC dc) { return ::SetArcDirection(dc, nArcDirection); });
-}
-
-BOOL CDC::Polyline(LPPOINT lpPoints, int nCount)
-{
-    return ::Polyline(m_hDC, lpPoints, nCount);
 }
 
 BOOL CDC::PolylineTo(const POINT* lpPoints, int nCount)
@@ -134,11 +114,6 @@ BOOL CDC::PolyPolyline(const POINT* lpPoints, const DWORD* lpPolyPoints, int nCo
 BOOL CDC::PolyDraw(const POINT* lpPoints, const BYTE* lpTypes, int nCount)
 {
     return FollowPosition(*this, ::PolyDraw(m_hDC, lpPoints, lpTypes, nCount));
-}
-
-BOOL CDC::PolyBezier(const POINT* lpPoints, int nCount)
-{
-    return ::PolyBezier(m_hDC, lpPoints, nCount);
 }
 
 BOOL CDC::PolyBezierTo(const POINT* lpPoints, int nCount)
@@ -157,21 +132,6 @@ void CDC::FillRect(LPCRECT lpRect, CBrush* pBrush)
 void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush)
 {
     ::FrameRect(m_hDC, lpRect, SafeBrush(pBrush));
-}
-
-void CDC::InvertRect(LPCRECT lpRect)
-{
-    ::InvertRect(m_hDC, lpRect);
-}
-
-BOOL CDC::DrawIcon(int x, int y, HICON hIcon)
-{
-    return ::DrawIcon(m_hDC, x, y, hIcon);
-}
-
-BOOL CDC::DrawIcon(POINT point, HICON hIcon)
-{
-    return DrawIcon(point.x, point.y, hIcon);
 }
 
 namespace
@@ -242,21 +202,6 @@ BOOL CDC::Chord(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
                  ptEnd.y);
 }
 
-void CDC::DrawFocusRect(LPCRECT lpRect)
-{
-    ::DrawFocusRect(m_hDC, lpRect);
-}
-
-BOOL CDC::Ellipse(int x1, int y1, int x2, int y2)
-{
-    return ::Ellipse(m_hDC, x1, y1, x2, y2);
-}
-
-BOOL CDC::Ellipse(LPCRECT lpRect)
-{
-    return Ellipse(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
-}
-
 BOOL CDC::Pie(int x1, int y1, int x2, int y2, int x3, int y3, int x4, int y4)
 {
     return ::Pie(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
@@ -268,19 +213,9 @@ BOOL CDC::Pie(LPCRECT lpRect, POINT ptStart, POINT ptEnd)
                ptEnd.y);
 }
 
-BOOL CDC::Polygon(LPPOINT lpPoints, int nCount)
-{
-    return ::Polygon(m_hDC, lpPoints, nCount);
-}
-
 BOOL CDC::PolyPolygon(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount)
 {
     return ::PolyPolygon(m_hDC, lpPoints, lpPolyCounts, nCount);
-}
-
-BOOL CDC::Rectangle(int x1, int y1, int x2, int y2)
-{
-    return ::Rectangle(m_hDC, x1, y1, x2, y2);
 }
 
 BOOL CDC::Rectangle(LPCRECT lpRect)
@@ -327,11 +262,6 @@ void CDC::Draw3dRect(int x, int y, int cx, int cy, COLORREF clrTopLeft, COLORREF
     FillSolidRect(x, y, 1, cy - 1, clrTopLeft);
     FillSolidRect(x + cx - 1, y, 1, cy, clrBottomRight);
     FillSolidRect(x, y + cy - 1, cx, 1, clrBottomRight);
-}
-
-BOOL CDC::DrawEdge(LPRECT lpRect, UINT nEdge, UINT nFlags)
-{
-    return ::DrawEdge(m_hDC, lpRect, nEdge, nFlags);
 }
 
 BOOL CDC::DrawFrameControl(LPRECT lpRect, UINT nType, UINT nState)
@@ -440,41 +370,6 @@ BOOL CDC::StretchBlt(int x, int y, int nWidth, int nHeight, CDC* pSrcDC, int xSr
                         dwRop);
 }
 
-COLORREF CDC::GetPixel(int x, int y) const
-{
-    return ::GetPixel(m_hDC, x, y);
-}
-
-COLORREF CDC::GetPixel(POINT point) const
-{
-    return GetPixel(point.x, point.y);
-}
-
-COLORREF CDC::SetPixel(int x, int y, COLORREF crColor)
-{
-    return ::SetPixel(m_hDC, x, y, crColor);
-}
-
-COLORREF CDC::SetPixel(POINT point, COLORREF crColor)
-{
-    return SetPixel(point.x, point.y, crColor);
-}
-
-BOOL CDC::SetPixelV(int x, int y, COLORREF crColor)
-{
-    return ::SetPixelV(m_hDC, x, y, crColor);
-}
-
-BOOL CDC::SetPixelV(POINT point, COLORREF crColor)
-{
-    return SetPixelV(point.x, point.y, crColor);
-}
-
-BOOL CDC::FloodFill(int x, int y, COLORREF crColor)
-{
-    return ::FloodFill(m_hDC, x, y, crColor);
-}
-
 BOOL CDC::ExtFloodFill(int x, int y, COLORREF crColor, UINT nFillType)
 {
     return ::ExtFloodFill(m_hDC, x, y, crColor, nFillType);
@@ -513,11 +408,6 @@ BOOL CDC::AlphaBlend(int xDest, int yDest, int nDestWidth, int nDestHeight, CDC*
 BOOL CDC::TextOut(int x, int y, LPCTSTR lpszString, int nCount)
 {
     return ::TextOut(m_hDC, x, y, lpszString, nCount);
-}
-
-BOOL CDC::TextOut(int x, int y, const CString& str)
-{
-    return TextOut(x, y, str, str.GetLength());
 }
 
 BOOL CDC::ExtTextOut(int x, int y, UINT nOptions, LPCRECT lpRect, LPCTSTR lpszString, UINT nCount,
@@ -657,11 +547,6 @@ BOOL CDC::GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int
     return ::GrayString(m_hDC, SafeBrush(pBrush), lpfnOutput, lpData, nCount, x, y, nWidth, nHeight);
 }
 
-UINT CDC::GetTextAlign() const
-{
-    return ::GetTextAlign(m_hAttribDC);
-}
-
 UINT CDC::SetTextAlign(UINT nFlags)
 {
     return InBoth<UINT>(
@@ -680,24 +565,9 @@ int CDC::GetTextFace(CString& rString) const
     return length;
 }
 
-BOOL CDC::GetTextMetrics(LPTEXTMETRIC lpMetrics) const
-{
-    return ::GetTextMetrics(m_hAttribDC, lpMetrics);
-}
-
-BOOL CDC::GetOutputTextMetrics(LPTEXTMETRIC lpMetrics) const
-{
-    return ::GetTextMetrics(m_hDC, lpMetrics);
-}
-
 int CDC::SetTextJustification(int nBreakExtra, int nBreakCount)
 {
     return InBoth<int>(*this, [=](HDC dc) { return ::SetTextJustification(dc, nBreakExtra, nBreakCount); });
-}
-
-int CDC::GetTextCharacterExtra() const
-{
-    return ::GetTextCharacterExtra(m_hAttribDC);
 }
 
 int CDC::SetTextCharacterExtra(int nCharExtra)
@@ -769,11 +639,6 @@ DWORD CDC::GetFontData(DWORD dwTable, DWORD dwOffset, LPVOID lpData, DWORD cbDat
     return ::GetFontData(m_hAttribDC, dwTable, dwOffset, lpData, cbData);
 }
 
-DWORD CDC::GetFontLanguageInfo() const
-{
-    return ::GetFontLanguageInfo(m_hDC);
-}
-
 int CDC::GetKerningPairs(int nPairs, LPKERNINGPAIR lpkrnpair) const
 {
     return ::GetKerningPairs(m_hAttribDC, nPairs, lpkrnpair);
@@ -822,39 +687,9 @@ int CDC::StartDoc(LPCTSTR lpszDocName)
     return StartDoc(&document);
 }
 
-int CDC::StartDoc(LPDOCINFO lpDocInfo)
-{
-    return ::StartDoc(m_hDC, lpDocInfo);
-}
-
-int CDC::StartPage()
-{
-    return ::StartPage(m_hDC);
-}
-
-int CDC::EndPage()
-{
-    return ::EndPage(m_hDC);
-}
-
 int CDC::SetAbortProc(BOOL(CALLBACK* lpfn)(HDC, int))
 {
     return ::SetAbortProc(m_hDC, lpfn);
-}
-
-int CDC::AbortDoc()
-{
-    return ::AbortDoc(m_hDC);
-}
-
-int CDC::EndDoc()
-{
-    return ::EndDoc(m_hDC);
-}
-
-BOOL CDC::PlayMetaFile(HMETAFILE hMF)
-{
-    return ::PlayMetaFile(m_hDC, hMF);
 }
 
 BOOL CDC::PlayMetaFile(HENHMETAFILE hEnhMetaFile, LPCRECT lpBounds)
@@ -870,61 +705,11 @@ BOOL CDC::AddMetaFileComment(UINT nDataSize, const BYTE* pCommentData)
 // ---------------------------------------------------------------------------------------------------------
 // Paths
 
-BOOL CDC::AbortPath()
-{
-    return ::AbortPath(m_hDC);
-}
-
-BOOL CDC::BeginPath()
-{
-    return ::BeginPath(m_hDC);
-}
-
-BOOL CDC::CloseFigure()
-{
-    return ::CloseFigure(m_hDC);
-}
-
-BOOL CDC::EndPath()
-{
-    return ::EndPath(m_hDC);
-}
-
-BOOL CDC::FillPath()
-{
-    return ::FillPath(m_hDC);
-}
-
-BOOL CDC::FlattenPath()
-{
-    return ::FlattenPath(m_hDC);
-}
-
-BOOL CDC::StrokeAndFillPath()
-{
-    return ::StrokeAndFillPath(m_hDC);
-}
-
-BOOL CDC::StrokePath()
-{
-    return ::StrokePath(m_hDC);
-}
-
-BOOL CDC::WidenPath()
-{
-    return ::WidenPath(m_hDC);
-}
-
 float CDC::GetMiterLimit() const
 {
     float limit = 0;
     ::GetMiterLimit(m_hDC, &limit);
     return limit;
-}
-
-BOOL CDC::SetMiterLimit(float fMiterLimit)
-{
-    return ::SetMiterLimit(m_hDC, fMiterLimit, nullptr);
 }
 
 int CDC::GetPath(LPPOINT lpPoints, LPBYTE lpTypes, int nCount) const

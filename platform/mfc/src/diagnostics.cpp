@@ -184,16 +184,6 @@ CDumpContext::CDumpContext(CFile* pFile) : m_pFile(pFile), m_nDepth(0)
 {
 }
 
-int CDumpContext::GetDepth() const
-{
-    return m_nDepth;
-}
-
-void CDumpContext::SetDepth(int nNewDepth)
-{
-    m_nDepth = nNewDepth;
-}
-
 void CDumpContext::OutputString(LPCWSTR lpsz)
 {
     if (m_pFile != nullptr)
@@ -230,45 +220,10 @@ CDumpContext& CDumpContext::operator<<(const void* lp)
     return *this << static_cast<LPCWSTR>(Formatted(L"$%p", lp));
 }
 
-CDumpContext& CDumpContext::operator<<(const CObject* pOb)
-{
-    return pOb != nullptr ? *this << *pOb : *this << L"NULL";
-}
-
 CDumpContext& CDumpContext::operator<<(const CObject& ob)
 {
     ob.Dump(*this);
     return *this;
-}
-
-CDumpContext& CDumpContext::operator<<(BYTE by)
-{
-    return *this << UINT(by);
-}
-
-CDumpContext& CDumpContext::operator<<(WORD w)
-{
-    return *this << UINT(w);
-}
-
-CDumpContext& CDumpContext::operator<<(int n)
-{
-    return *this << LONGLONG(n);
-}
-
-CDumpContext& CDumpContext::operator<<(UINT u)
-{
-    return *this << ULONGLONG(u);
-}
-
-CDumpContext& CDumpContext::operator<<(LONG l)
-{
-    return *this << LONGLONG(l);
-}
-
-CDumpContext& CDumpContext::operator<<(DWORD dw)
-{
-    return *this << ULONGLONG(dw);
 }
 
 CDumpContext& CDumpContext::operator<<(LONGLONG n)
@@ -284,26 +239,6 @@ CDumpContext& CDumpContext::operator<<(ULONGLONG n)
 CDumpContext& CDumpContext::operator<<(double d)
 {
     return *this << static_cast<LPCWSTR>(Formatted(L"%g", d));
-}
-
-CDumpContext& CDumpContext::operator<<(float f)
-{
-    return *this << double(f);
-}
-
-CDumpContext& CDumpContext::operator<<(HWND h)
-{
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HDC h)
-{
-    return *this << static_cast<const void*>(h);
-}
-
-CDumpContext& CDumpContext::operator<<(HMENU h)
-{
-    return *this << static_cast<const void*>(h);
 }
 
 void CDumpContext::HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth)

@@ -280,11 +280,6 @@ void CDialog::OnOK()
         EndDialog(IDOK);
 }
 
-void CDialog::OnCancel()
-{
-    EndDialog(IDCANCEL);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Messages
 
@@ -384,39 +379,9 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
 // ---------------------------------------------------------------------------------------------------------
 // Operations
 
-void CDialog::MapDialogRect(LPRECT lpRect) const
-{
-    ::MapDialogRect(m_hWnd, lpRect);
-}
-
-void CDialog::NextDlgCtrl() const
-{
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 0, FALSE);
-}
-
-void CDialog::PrevDlgCtrl() const
-{
-    ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, FALSE);
-}
-
 void CDialog::GotoDlgCtrl(CWnd* pWndCtrl)
 {
     ::SendMessage(m_hWnd, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE);
-}
-
-void CDialog::SetDefID(UINT nID)
-{
-    SendMessage(DM_SETDEFID, nID);
-}
-
-DWORD CDialog::GetDefID() const
-{
-    return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0));
-}
-
-void CDialog::AssertValid() const
-{
-    CWnd::AssertValid();
 }
 
 void CDialog::Dump(CDumpContext& dc) const

@@ -105,11 +105,6 @@ INT_PTR CFileDialog::DoModal()
     return answer;
 }
 
-bool CFileDialog::IsExplorerDialogOpen() const
-{
-    return m_hWnd != nullptr && (m_ofn.Flags & OFN_EXPLORER) != 0;
-}
-
 CString CFileDialog::AskDialog(UINT message) const
 {
     CString answer;
@@ -149,16 +144,6 @@ CString CFileDialog::GetFolderPath() const
     return AskDialog(CDM_GETFOLDERPATH);
 }
 
-BOOL CFileDialog::GetReadOnlyPref() const
-{
-    return (m_ofn.Flags & OFN_READONLY) != 0;
-}
-
-POSITION CFileDialog::GetStartPosition() const
-{
-    return reinterpret_cast<POSITION>(m_ofn.lpstrFile);
-}
-
 CString CFileDialog::GetNextPathName(POSITION& pos) const
 {
     // One file: its whole path. Several: the folder, then the names, each ended by a null, one more at the
@@ -193,11 +178,6 @@ void CFileDialog::SetTemplate(LPCTSTR lpWin3ID, LPCTSTR lpWin4ID)
 void CFileDialog::SetTemplate(UINT nWin3ID, UINT nWin4ID)
 {
     SetTemplate(MAKEINTRESOURCE(nWin3ID), MAKEINTRESOURCE(nWin4ID));
-}
-
-void CFileDialog::SetControlText(int nID, LPCSTR lpsz)
-{
-    SetControlText(nID, CString(lpsz).GetString());
 }
 
 void CFileDialog::SetControlText(int nID, const wchar_t* lpsz)
@@ -256,16 +236,6 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 UINT CFileDialog::OnShareViolation(LPCTSTR)
 {
     return OFN_SHAREWARN;
-}
-
-BOOL CFileDialog::OnFileNameOK()
-{
-    return FALSE;
-}
-
-void CFileDialog::OnInitDone()
-{
-    GetParent()->CenterWindow();
 }
 
 void CFileDialog::OnFileNameChange()
@@ -327,11 +297,6 @@ void CColorDialog::SetCurrentColor(COLORREF clr)
     SendMessage(setColor, 0, clr);
 }
 
-COLORREF CColorDialog::GetColor() const
-{
-    return m_cc.rgbResult;
-}
-
 LRESULT CColorDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     static const UINT colorOk = ::RegisterWindowMessage(COLOROKSTRING);
@@ -339,11 +304,6 @@ LRESULT CColorDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return CCommonDialog::WindowProc(message, wParam, lParam);
     m_cc.rgbResult = reinterpret_cast<const CHOOSECOLOR*>(lParam)->rgbResult;
     return OnColorOK();
-}
-
-BOOL CColorDialog::OnColorOK()
-{
-    return FALSE;
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -385,49 +345,4 @@ void CFontDialog::GetCurrentFont(LPLOGFONT lplf)
         SendMessage(WM_CHOOSEFONT_GETLOGFONT, 0, reinterpret_cast<LPARAM>(lplf));
     else
         *lplf = m_lf;
-}
-
-CString CFontDialog::GetFaceName() const
-{
-    return m_lf.lfFaceName;
-}
-
-CString CFontDialog::GetStyleName() const
-{
-    return m_cf.lpszStyle;
-}
-
-int CFontDialog::GetSize() const
-{
-    return m_cf.iPointSize;
-}
-
-COLORREF CFontDialog::GetColor() const
-{
-    return m_cf.rgbColors;
-}
-
-int CFontDialog::GetWeight() const
-{
-    return m_lf.lfWeight;
-}
-
-BOOL CFontDialog::IsStrikeOut() const
-{
-    return m_lf.lfStrikeOut != 0;
-}
-
-BOOL CFontDialog::IsUnderline() const
-{
-    return m_lf.lfUnderline != 0;
-}
-
-BOOL CFontDialog::IsBold() const
-{
-    return (m_cf.nFontType & BOLD_FONTTYPE) != 0;
-}
-
-BOOL CFontDialog::IsItalic() const
-{
-    return (m_cf.nFontType & ITALIC_FONTTYPE) != 0;
 }

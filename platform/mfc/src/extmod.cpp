@@ -21,11 +21,6 @@ CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
     chain.insert(chain.begin(), this);
 }
 
-CDynLinkLibrary::~CDynLinkLibrary()
-{
-    std::erase(AfxGetAppModuleState()->m_libraryList, this);
-}
-
 BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
 {
     // The module's run-time classes enter the process's class list by themselves as their module is loaded.

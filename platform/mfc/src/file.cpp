@@ -132,11 +132,6 @@ CFile::~CFile()
     }
 }
 
-CFile::operator HANDLE() const
-{
-    return m_hFile;
-}
-
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
 {
     m_bCloseOnDelete = FALSE;
@@ -232,16 +227,6 @@ ULONGLONG CFile::Seek(LONGLONG lOff, UINT nFrom)
     return ULONGLONG(position.QuadPart);
 }
 
-ULONGLONG CFile::SeekToEnd()
-{
-    return Seek(0, end);
-}
-
-void CFile::SeekToBegin()
-{
-    Seek(0, begin);
-}
-
 ULONGLONG CFile::GetPosition() const
 {
     LARGE_INTEGER position;
@@ -287,16 +272,6 @@ CString CFile::GetFileTitle() const
 {
     const CString strName = GetFileName();
     return strName.Left(int(::PathFindExtension(strName) - strName.GetString()));
-}
-
-CString CFile::GetFilePath() const
-{
-    return m_strFileName;
-}
-
-void CFile::SetFilePath(LPCTSTR lpszNewName)
-{
-    m_strFileName = lpszNewName;
 }
 
 BOOL CFile::GetStatus(CFileStatus& rStatus) const

@@ -75,11 +75,6 @@ void CFrameWnd::PostNcDestroy()
 // ---------------------------------------------------------------------------------------------------------
 // Commands
 
-BOOL CFrameWnd::IsFrameWnd() const
-{
-    return TRUE;
-}
-
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
@@ -105,11 +100,6 @@ void CFrameWnd::OnClose()
     if (app != nullptr && app->m_pMainWnd == this)
         app->HideApplication(); // at once, even if the end takes its time
     DestroyWindow();
-}
-
-BOOL CFrameWnd::OnQueryEndSession()
-{
-    return TRUE;
 }
 
 void CFrameWnd::OnEnable(BOOL bEnable)
@@ -164,11 +154,6 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu)
 // ---------------------------------------------------------------------------------------------------------
 // Operations
 
-CFrameWnd* CFrameWnd::GetActiveFrame()
-{
-    return this;
-}
-
 void CFrameWnd::ActivateFrame(int nCmdShow)
 {
     if (nCmdShow == -1)
@@ -184,16 +169,6 @@ void CFrameWnd::ActivateFrame(int nCmdShow)
         ShowWindow(nCmdShow);
         BringWindowToTop();
     }
-}
-
-CString CFrameWnd::GetTitle() const
-{
-    return m_strTitle;
-}
-
-void CFrameWnd::SetTitle(LPCTSTR lpszTitle)
-{
-    m_strTitle = lpszTitle;
 }
 
 namespace
@@ -251,9 +226,4 @@ void CFrameWnd::EndModalState()
             object->m_nFlags &= ~WF_STAYDISABLED;
         ::EnableWindow(window, TRUE);
     }
-}
-
-BOOL CFrameWnd::InModalState() const
-{
-    return m_cModalStack != 0;
 }

@@ -24,11 +24,6 @@ IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 
 CGdiObject::CGdiObject() = default;
 
-CGdiObject::~CGdiObject()
-{
-    DeleteObject();
-}
-
 HGDIOBJ CGdiObject::GetSafeHandle() const
 {
     return SafeObject(this);
@@ -74,26 +69,6 @@ BOOL CGdiObject::DeleteObject()
     return ::DeleteObject(Detach());
 }
 
-int CGdiObject::GetObject(int nCount, LPVOID lpObject) const
-{
-    return ::GetObject(m_hObject, nCount, lpObject);
-}
-
-UINT CGdiObject::GetObjectType() const
-{
-    return ::GetObjectType(m_hObject);
-}
-
-BOOL CGdiObject::CreateStockObject(int nIndex)
-{
-    return Attach(::GetStockObject(nIndex));
-}
-
-BOOL CGdiObject::UnrealizeObject()
-{
-    return ::UnrealizeObject(m_hObject);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // CPen
 
@@ -113,11 +88,6 @@ CPen::CPen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int nStyleCount
         AfxThrowResourceException();
 }
 
-CPen* PASCAL CPen::FromHandle(HPEN hPen)
-{
-    return static_cast<CPen*>(CGdiObject::FromHandle(hPen));
-}
-
 BOOL CPen::CreatePen(int nPenStyle, int nWidth, COLORREF crColor)
 {
     return Attach(::CreatePen(nPenStyle, nWidth, crColor));
@@ -127,16 +97,6 @@ BOOL CPen::CreatePen(int nPenStyle, int nWidth, const LOGBRUSH* pLogBrush, int n
                      const DWORD* lpStyle)
 {
     return Attach(::ExtCreatePen(nPenStyle, nWidth, pLogBrush, nStyleCount, lpStyle));
-}
-
-BOOL CPen::CreatePenIndirect(LPLOGPEN lpLogPen)
-{
-    return Attach(::CreatePenIndirect(lpLogPen));
-}
-
-int CPen::GetLogPen(LOGPEN* pLogPen)
-{
-    return ::GetObject(m_hObject, sizeof(LOGPEN), pLogPen);
 }
 
 int CPen::GetExtLogPen(EXTLOGPEN* pLogPen)
@@ -174,19 +134,9 @@ CBrush* PASCAL CBrush::FromHandle(HBRUSH hBrush)
     return static_cast<CBrush*>(CGdiObject::FromHandle(hBrush));
 }
 
-BOOL CBrush::CreateSolidBrush(COLORREF crColor)
-{
-    return Attach(::CreateSolidBrush(crColor));
-}
-
 BOOL CBrush::CreateHatchBrush(int nIndex, COLORREF crColor)
 {
     return Attach(::CreateHatchBrush(nIndex, crColor));
-}
-
-BOOL CBrush::CreateBrushIndirect(const LOGBRUSH* lpLogBrush)
-{
-    return Attach(::CreateBrushIndirect(lpLogBrush));
 }
 
 BOOL CBrush::CreatePatternBrush(CBitmap* pBitmap)
@@ -209,11 +159,6 @@ BOOL CBrush::CreateDIBPatternBrush(const void* lpPackedDIB, UINT nUsage)
     return Attach(::CreateDIBPatternBrushPt(lpPackedDIB, nUsage));
 }
 
-BOOL CBrush::CreateSysColorBrush(int nIndex)
-{
-    return Attach(::GetSysColorBrush(nIndex));
-}
-
 int CBrush::GetLogBrush(LOGBRUSH* pLogBrush)
 {
     return ::GetObject(m_hObject, sizeof(LOGBRUSH), pLogBrush);
@@ -229,11 +174,6 @@ CFont::CFont() = default;
 CFont* PASCAL CFont::FromHandle(HFONT hFont)
 {
     return static_cast<CFont*>(CGdiObject::FromHandle(hFont));
-}
-
-BOOL CFont::CreateFontIndirect(const LOGFONT* lpLogFont)
-{
-    return Attach(::CreateFontIndirect(lpLogFont));
 }
 
 BOOL CFont::CreateFont(int nHeight, int nWidth, int nEscapement, int nOrientation, int nWeight, BYTE bItalic,
@@ -294,16 +234,6 @@ BOOL CBitmap::LoadBitmap(LPCTSTR lpszResourceName)
     return Attach(::LoadBitmap(AfxFindResourceHandle(lpszResourceName, RT_BITMAP), lpszResourceName));
 }
 
-BOOL CBitmap::LoadBitmap(UINT nIDResource)
-{
-    return LoadBitmap(MAKEINTRESOURCE(nIDResource));
-}
-
-BOOL CBitmap::LoadOEMBitmap(UINT nIDBitmap)
-{
-    return Attach(::LoadBitmap(nullptr, MAKEINTRESOURCE(nIDBitmap)));
-}
-
 BOOL CBitmap::LoadMappedBitmap(UINT nIDBitmap, UINT nFlags, LPCOLORMAP lpColorMap, int nMapSize)
 {
     const HINSTANCE module = AfxFindResourceHandle(MAKEINTRESOURCE(nIDBitmap), RT_BITMAP);
@@ -315,11 +245,6 @@ BOOL CBitmap::CreateBitmap(int nWidth, int nHeight, UINT nPlanes, UINT nBitcount
     return Attach(::CreateBitmap(nWidth, nHeight, nPlanes, nBitcount, lpBits));
 }
 
-BOOL CBitmap::CreateBitmapIndirect(LPBITMAP lpBitmap)
-{
-    return Attach(::CreateBitmapIndirect(lpBitmap));
-}
-
 BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 {
     return Attach(::CreateCompatibleBitmap(SafeHdc(pDC), nWidth, nHeight));
@@ -328,16 +253,6 @@ BOOL CBitmap::CreateCompatibleBitmap(CDC* pDC, int nWidth, int nHeight)
 BOOL CBitmap::CreateDiscardableBitmap(CDC* pDC, int nWidth, int nHeight)
 {
     return Attach(::CreateDiscardableBitmap(SafeHdc(pDC), nWidth, nHeight));
-}
-
-int CBitmap::GetBitmap(BITMAP* pBitMap)
-{
-    return ::GetObject(m_hObject, sizeof(BITMAP), pBitMap);
-}
-
-DWORD CBitmap::SetBitmapBits(DWORD dwCount, const void* lpBits)
-{
-    return ::SetBitmapBits(*this, dwCount, lpBits);
 }
 
 DWORD CBitmap::GetBitmapBits(DWORD dwCount, LPVOID lpBits) const
@@ -371,11 +286,6 @@ CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette)
     return static_cast<CPalette*>(CGdiObject::FromHandle(hPalette));
 }
 
-BOOL CPalette::CreatePalette(LPLOGPALETTE lpLogPalette)
-{
-    return Attach(::CreatePalette(lpLogPalette));
-}
-
 BOOL CPalette::CreateHalftonePalette(CDC* pDC)
 {
     return Attach(::CreateHalftonePalette(SafeHdc(pDC)));
@@ -403,11 +313,6 @@ void CPalette::AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY
     ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
 }
 
-UINT CPalette::GetNearestPaletteIndex(COLORREF crColor) const
-{
-    return ::GetNearestPaletteIndex(*this, crColor);
-}
-
 BOOL CPalette::ResizePalette(UINT nNumEntries)
 {
     return ::ResizePalette(*this, nNumEntries);
@@ -420,29 +325,9 @@ IMPLEMENT_DYNAMIC(CRgn, CGdiObject)
 
 CRgn::CRgn() = default;
 
-CRgn* PASCAL CRgn::FromHandle(HRGN hRgn)
-{
-    return static_cast<CRgn*>(CGdiObject::FromHandle(hRgn));
-}
-
-BOOL CRgn::CreateRectRgn(int x1, int y1, int x2, int y2)
-{
-    return Attach(::CreateRectRgn(x1, y1, x2, y2));
-}
-
-BOOL CRgn::CreateRectRgnIndirect(LPCRECT lpRect)
-{
-    return Attach(::CreateRectRgnIndirect(lpRect));
-}
-
 BOOL CRgn::CreateEllipticRgn(int x1, int y1, int x2, int y2)
 {
     return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
-}
-
-BOOL CRgn::CreateEllipticRgnIndirect(LPCRECT lpRect)
-{
-    return Attach(::CreateEllipticRgnIndirect(lpRect));
 }
 
 BOOL CRgn::CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode)
@@ -470,11 +355,6 @@ BOOL CRgn::CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnD
     return Attach(::ExtCreateRegion(lpXForm, nCount, pRgnData));
 }
 
-void CRgn::SetRectRgn(int x1, int y1, int x2, int y2)
-{
-    ::SetRectRgn(*this, x1, y1, x2, y2);
-}
-
 void CRgn::SetRectRgn(LPCRECT lpRect)
 {
     ::SetRectRgn(*this, lpRect->left, lpRect->top, lpRect->right, lpRect->bottom);
@@ -493,36 +373,6 @@ int CRgn::CopyRgn(CRgn* pRgnSrc)
 BOOL CRgn::EqualRgn(CRgn* pRgn) const
 {
     return ::EqualRgn(*this, SafeRgn(pRgn));
-}
-
-int CRgn::OffsetRgn(int x, int y)
-{
-    return ::OffsetRgn(*this, x, y);
-}
-
-int CRgn::OffsetRgn(POINT point)
-{
-    return OffsetRgn(point.x, point.y);
-}
-
-int CRgn::GetRgnBox(LPRECT lpRect) const
-{
-    return ::GetRgnBox(*this, lpRect);
-}
-
-BOOL CRgn::PtInRegion(int x, int y) const
-{
-    return ::PtInRegion(*this, x, y);
-}
-
-BOOL CRgn::PtInRegion(POINT point) const
-{
-    return PtInRegion(point.x, point.y);
-}
-
-BOOL CRgn::RectInRegion(LPCRECT lpRect) const
-{
-    return ::RectInRegion(*this, lpRect);
 }
 
 int CRgn::GetRegionData(LPRGNDATA lpRgnData, int nDataSize) const

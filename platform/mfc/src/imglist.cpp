@@ -21,11 +21,6 @@ IMPLEMENT_DYNCREATE(CImageList, CObject)
 
 CImageList::CImageList() = default;
 
-CImageList::~CImageList()
-{
-    DeleteImageList();
-}
-
 HIMAGELIST CImageList::GetSafeHandle() const
 {
     return SafeImages(this);
@@ -94,11 +89,6 @@ BOOL CImageList::Create(CImageList& imagelist1, int nImage1, CImageList& imageli
     return Attach(::ImageList_Merge(imagelist1, nImage1, imagelist2, nImage2, dx, dy));
 }
 
-BOOL CImageList::Create(CImageList* pImageList)
-{
-    return Attach(::ImageList_Duplicate(SafeImages(pImageList)));
-}
-
 BOOL CImageList::DeleteImageList()
 {
     if (m_hImageList == nullptr)
@@ -108,26 +98,6 @@ BOOL CImageList::DeleteImageList()
 
 // ---------------------------------------------------------------------------------------------------------
 // Pictures
-
-int CImageList::GetImageCount() const
-{
-    return ::ImageList_GetImageCount(m_hImageList);
-}
-
-BOOL CImageList::SetImageCount(UINT uNewCount)
-{
-    return ::ImageList_SetImageCount(m_hImageList, uNewCount);
-}
-
-COLORREF CImageList::SetBkColor(COLORREF cr)
-{
-    return ::ImageList_SetBkColor(m_hImageList, cr);
-}
-
-COLORREF CImageList::GetBkColor() const
-{
-    return ::ImageList_GetBkColor(m_hImageList);
-}
 
 BOOL CImageList::GetImageInfo(int nImage, IMAGEINFO* pImageInfo) const
 {
@@ -144,29 +114,9 @@ int CImageList::Add(CBitmap* pbmImage, COLORREF crMask)
     return ::ImageList_AddMasked(m_hImageList, SafeBitmap(pbmImage), crMask);
 }
 
-int CImageList::Add(HICON hIcon)
-{
-    return ::ImageList_AddIcon(m_hImageList, hIcon);
-}
-
-BOOL CImageList::Remove(int nImage)
-{
-    return ::ImageList_Remove(m_hImageList, nImage);
-}
-
 BOOL CImageList::Replace(int nImage, CBitmap* pbmImage, CBitmap* pbmMask)
 {
     return ::ImageList_Replace(m_hImageList, nImage, SafeBitmap(pbmImage), SafeBitmap(pbmMask));
-}
-
-int CImageList::Replace(int nImage, HICON hIcon)
-{
-    return ::ImageList_ReplaceIcon(m_hImageList, nImage, hIcon);
-}
-
-HICON CImageList::ExtractIcon(int nImage)
-{
-    return ::ImageList_GetIcon(m_hImageList, nImage, ILD_NORMAL);
 }
 
 BOOL CImageList::SetOverlayImage(int nImage, int nOverlay)
@@ -236,24 +186,9 @@ BOOL CImageList::BeginDrag(int nImage, CPoint ptHotSpot)
     return ::ImageList_BeginDrag(m_hImageList, nImage, ptHotSpot.x, ptHotSpot.y);
 }
 
-void PASCAL CImageList::EndDrag()
-{
-    ::ImageList_EndDrag();
-}
-
-BOOL PASCAL CImageList::DragMove(CPoint pt)
-{
-    return ::ImageList_DragMove(pt.x, pt.y);
-}
-
 BOOL CImageList::SetDragCursorImage(int nDrag, CPoint ptHotSpot)
 {
     return ::ImageList_SetDragCursorImage(m_hImageList, nDrag, ptHotSpot.x, ptHotSpot.y);
-}
-
-BOOL PASCAL CImageList::DragShowNolock(BOOL bShow)
-{
-    return ::ImageList_DragShowNolock(bShow);
 }
 
 CImageList* PASCAL CImageList::GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotSpot)

@@ -11,11 +11,6 @@ IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
 CListCtrl::CListCtrl() = default;
 
-CListCtrl::~CListCtrl()
-{
-    DestroyWindow();
-}
-
 // clang-format off
 BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
     ON_WM_DESTROY()
@@ -45,36 +40,6 @@ void CListCtrl::OnDestroy()
     CWnd::OnDestroy();
 }
 
-COLORREF CListCtrl::GetBkColor() const
-{
-    return AfxSend<COLORREF>(LVM_GETBKCOLOR);
-}
-
-BOOL CListCtrl::SetBkColor(COLORREF cr)
-{
-    return AfxSend<BOOL>(LVM_SETBKCOLOR, 0, cr);
-}
-
-COLORREF CListCtrl::GetTextColor() const
-{
-    return AfxSend<COLORREF>(LVM_GETTEXTCOLOR);
-}
-
-BOOL CListCtrl::SetTextColor(COLORREF cr)
-{
-    return AfxSend<BOOL>(LVM_SETTEXTCOLOR, 0, cr);
-}
-
-COLORREF CListCtrl::GetTextBkColor() const
-{
-    return AfxSend<COLORREF>(LVM_GETTEXTBKCOLOR);
-}
-
-BOOL CListCtrl::SetTextBkColor(COLORREF cr)
-{
-    return AfxSend<BOOL>(LVM_SETTEXTBKCOLOR, 0, cr);
-}
-
 CImageList* CListCtrl::GetImageList(int nImageList) const
 {
     return CImageList::FromHandle(AfxSend<HIMAGELIST>(LVM_GETIMAGELIST, nImageList));
@@ -86,59 +51,14 @@ CImageList* CListCtrl::SetImageList(CImageList* pImageList, int nImageListType)
     return CImageList::FromHandle(AfxSend<HIMAGELIST>(LVM_SETIMAGELIST, nImageListType, images));
 }
 
-int CListCtrl::GetItemCount() const
-{
-    return AfxSend<int>(LVM_GETITEMCOUNT);
-}
-
-void CListCtrl::SetItemCount(int nItems)
-{
-    AfxSend(LVM_SETITEMCOUNT, nItems);
-}
-
 BOOL CListCtrl::SetItemCountEx(int iCount, DWORD dwFlags)
 {
     return AfxSend<BOOL>(LVM_SETITEMCOUNT, iCount, dwFlags);
 }
 
-UINT CListCtrl::GetCallbackMask() const
-{
-    return AfxSend<UINT>(LVM_GETCALLBACKMASK);
-}
-
-BOOL CListCtrl::SetCallbackMask(UINT nMask)
-{
-    return AfxSend<BOOL>(LVM_SETCALLBACKMASK, nMask);
-}
-
-DWORD CListCtrl::GetExtendedStyle()
-{
-    return AfxSend<DWORD>(LVM_GETEXTENDEDLISTVIEWSTYLE);
-}
-
 DWORD CListCtrl::SetExtendedStyle(DWORD dwNewStyle)
 {
     return AfxSend<DWORD>(LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
-}
-
-BOOL CListCtrl::GetViewRect(LPRECT lpRect) const
-{
-    return AfxSend<BOOL>(LVM_GETVIEWRECT, 0, lpRect);
-}
-
-BOOL CListCtrl::GetOrigin(LPPOINT lpPoint) const
-{
-    return AfxSend<BOOL>(LVM_GETORIGIN, 0, lpPoint);
-}
-
-int CListCtrl::GetTopIndex() const
-{
-    return AfxSend<int>(LVM_GETTOPINDEX);
-}
-
-int CListCtrl::GetCountPerPage() const
-{
-    return AfxSend<int>(LVM_GETCOUNTPERPAGE);
 }
 
 BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const
@@ -152,11 +72,6 @@ BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpaci
 CSize CListCtrl::SetIconSpacing(int cx, int cy)
 {
     return CSize(AfxSend<DWORD>(LVM_SETICONSPACING, 0, MAKELPARAM(cx, cy)));
-}
-
-CSize CListCtrl::SetIconSpacing(CSize size)
-{
-    return SetIconSpacing(size.cx, size.cy);
 }
 
 CHeaderCtrl* CListCtrl::GetHeaderCtrl() const
@@ -180,16 +95,6 @@ CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
 }
 
-BOOL CListCtrl::GetBkImage(LVBKIMAGE* plvbkImage) const
-{
-    return AfxSend<BOOL>(LVM_GETBKIMAGE, 0, plvbkImage);
-}
-
-BOOL CListCtrl::SetBkImage(LVBKIMAGE* plvbkImage)
-{
-    return AfxSend<BOOL>(LVM_SETBKIMAGE, 0, plvbkImage);
-}
-
 BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
 {
     LVBKIMAGE image = {};
@@ -210,34 +115,9 @@ BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yO
     return SetBkImage(&image);
 }
 
-DWORD CListCtrl::GetView() const
-{
-    return AfxSend<DWORD>(LVM_GETVIEW);
-}
-
-DWORD CListCtrl::SetView(int iView)
-{
-    return AfxSend<DWORD>(LVM_SETVIEW, iView);
-}
-
-int CListCtrl::GetStringWidth(LPCTSTR lpsz) const
-{
-    return AfxSend<int>(LVM_GETSTRINGWIDTH, 0, lpsz);
-}
-
-DWORD CListCtrl::GetHoverTime() const
-{
-    return AfxSend<DWORD>(LVM_GETHOVERTIME);
-}
-
 DWORD CListCtrl::SetHoverTime(DWORD dwHoverTime)
 {
     return AfxSend<DWORD>(LVM_SETHOVERTIME, 0, dwHoverTime);
-}
-
-void CListCtrl::SetWorkAreas(int nWorkAreas, LPRECT lpRect)
-{
-    AfxSend(LVM_SETWORKAREAS, nWorkAreas, lpRect);
 }
 
 BOOL CListCtrl::GetWorkAreas(int nWorkAreas, LPRECT prc) const
@@ -254,16 +134,6 @@ UINT CListCtrl::GetNumberOfWorkAreas() const
 
 // ---------------------------------------------------------------------------------------------------------
 // Items
-
-BOOL CListCtrl::GetItem(LVITEM* pItem) const
-{
-    return AfxSend<BOOL>(LVM_GETITEM, 0, pItem);
-}
-
-BOOL CListCtrl::SetItem(const LVITEM* pItem)
-{
-    return AfxSend<BOOL>(LVM_SETITEM, 0, pItem);
-}
 
 BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
                         UINT nStateMask, LPARAM lParam)
@@ -285,16 +155,6 @@ BOOL CListCtrl::SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, i
     item.lParam = lParam;
     item.iIndent = nIndent;
     return SetItem(&item);
-}
-
-UINT CListCtrl::GetItemState(int nItem, UINT nMask) const
-{
-    return AfxSend<UINT>(LVM_GETITEMSTATE, nItem, nMask);
-}
-
-BOOL CListCtrl::SetItemState(int nItem, LVITEM* pItem)
-{
-    return AfxSend<BOOL>(LVM_SETITEMSTATE, nItem, pItem);
 }
 
 BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask)
@@ -387,41 +247,6 @@ int CListCtrl::GetNextItem(int nItem, int nFlags) const
     return AfxSend<int>(LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
 }
 
-UINT CListCtrl::GetSelectedCount() const
-{
-    return AfxSend<UINT>(LVM_GETSELECTEDCOUNT);
-}
-
-int CListCtrl::GetSelectionMark() const
-{
-    return AfxSend<int>(LVM_GETSELECTIONMARK);
-}
-
-int CListCtrl::SetSelectionMark(int iIndex)
-{
-    return AfxSend<int>(LVM_SETSELECTIONMARK, 0, iIndex);
-}
-
-int CListCtrl::GetHotItem() const
-{
-    return AfxSend<int>(LVM_GETHOTITEM);
-}
-
-int CListCtrl::SetHotItem(int iIndex)
-{
-    return AfxSend<int>(LVM_SETHOTITEM, iIndex);
-}
-
-HCURSOR CListCtrl::GetHotCursor()
-{
-    return AfxSend<HCURSOR>(LVM_GETHOTCURSOR);
-}
-
-HCURSOR CListCtrl::SetHotCursor(HCURSOR hc)
-{
-    return AfxSend<HCURSOR>(LVM_SETHOTCURSOR, 0, hc);
-}
-
 namespace
 {
 /// A position is the item's index plus one, so that null can stand for the end.
@@ -450,21 +275,6 @@ int CListCtrl::GetNextSelectedItem(POSITION& pos) const
 
 // ---------------------------------------------------------------------------------------------------------
 // Columns
-
-BOOL CListCtrl::GetColumn(int nCol, LVCOLUMN* pColumn) const
-{
-    return AfxSend<BOOL>(LVM_GETCOLUMN, nCol, pColumn);
-}
-
-BOOL CListCtrl::SetColumn(int nCol, const LVCOLUMN* pColumn)
-{
-    return AfxSend<BOOL>(LVM_SETCOLUMN, nCol, pColumn);
-}
-
-int CListCtrl::GetColumnWidth(int nCol) const
-{
-    return AfxSend<int>(LVM_GETCOLUMNWIDTH, nCol);
-}
 
 BOOL CListCtrl::SetColumnWidth(int nCol, int cx)
 {
@@ -495,11 +305,6 @@ int CListCtrl::InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat, in
     return InsertColumn(nCol, &column);
 }
 
-BOOL CListCtrl::DeleteColumn(int nCol)
-{
-    return AfxSend<BOOL>(LVM_DELETECOLUMN, nCol);
-}
-
 BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount)
 {
     if (iCount == -1)
@@ -514,16 +319,6 @@ BOOL CListCtrl::SetColumnOrderArray(int iCount, LPINT piArray)
 
 // ---------------------------------------------------------------------------------------------------------
 // Contents
-
-int CListCtrl::InsertItem(const LVITEM* pItem)
-{
-    return AfxSend<int>(LVM_INSERTITEM, 0, pItem);
-}
-
-int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem)
-{
-    return InsertItem(LVIF_TEXT, nItem, lpszItem, 0, 0, 0, 0);
-}
 
 int CListCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage)
 {
@@ -544,16 +339,6 @@ int CListCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, 
     return InsertItem(&item);
 }
 
-BOOL CListCtrl::DeleteItem(int nItem)
-{
-    return AfxSend<BOOL>(LVM_DELETEITEM, nItem);
-}
-
-BOOL CListCtrl::DeleteAllItems()
-{
-    return AfxSend<BOOL>(LVM_DELETEALLITEMS);
-}
-
 int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const
 {
     return AfxSend<int>(LVM_FINDITEM, nStart, pFindInfo);
@@ -562,11 +347,6 @@ int CListCtrl::FindItem(LVFINDINFO* pFindInfo, int nStart) const
 BOOL CListCtrl::SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
 {
     return AfxSend<BOOL>(LVM_SORTITEMS, dwData, pfnCompare);
-}
-
-int CListCtrl::HitTest(LVHITTESTINFO* pHitTestInfo) const
-{
-    return AfxSend<int>(LVM_HITTEST, 0, pHitTestInfo);
 }
 
 int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
@@ -579,11 +359,6 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
     return hit;
 }
 
-int CListCtrl::SubItemHitTest(LPLVHITTESTINFO pInfo)
-{
-    return AfxSend<int>(LVM_SUBITEMHITTEST, 0, pInfo);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Actions
 
@@ -592,29 +367,9 @@ BOOL CListCtrl::EnsureVisible(int nItem, BOOL bPartialOK)
     return AfxSend<BOOL>(LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
 }
 
-BOOL CListCtrl::Scroll(CSize size)
-{
-    return AfxSend<BOOL>(LVM_SCROLL, size.cx, size.cy);
-}
-
-BOOL CListCtrl::RedrawItems(int nFirst, int nLast)
-{
-    return AfxSend<BOOL>(LVM_REDRAWITEMS, nFirst, nLast);
-}
-
-BOOL CListCtrl::Arrange(UINT nCode)
-{
-    return AfxSend<BOOL>(LVM_ARRANGE, nCode);
-}
-
 CEdit* CListCtrl::EditLabel(int nItem)
 {
     return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(LVM_EDITLABEL, nItem)));
-}
-
-BOOL CListCtrl::Update(int nItem)
-{
-    return AfxSend<BOOL>(LVM_UPDATE, nItem);
 }
 
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)

@@ -16,11 +16,6 @@ CMemFile::CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes) : CMemFile
     Attach(lpBuffer, nBufferSize, nGrowBytes);
 }
 
-CMemFile::~CMemFile()
-{
-    CMemFile::Close();
-}
-
 // A block that may grow is only a place to write to: the file starts empty.
 void CMemFile::Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes)
 {
@@ -43,24 +38,9 @@ BYTE* CMemFile::Detach()
 /////////////////////////////////////////////////////////////////////////////
 // Memory
 
-BYTE* CMemFile::Alloc(SIZE_T nBytes)
-{
-    return static_cast<BYTE*>(malloc(nBytes));
-}
-
-BYTE* CMemFile::Realloc(BYTE* lpMem, SIZE_T nBytes)
-{
-    return static_cast<BYTE*>(realloc(lpMem, nBytes));
-}
-
 BYTE* CMemFile::Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes)
 {
     return static_cast<BYTE*>(memcpy(lpMemTarget, lpMemSource, nBytes));
-}
-
-void CMemFile::Free(BYTE* lpMem)
-{
-    free(lpMem);
 }
 
 // Makes room for dwNewLen bytes. Memory of the file's own is resized; an attached block is the caller's and
@@ -141,11 +121,6 @@ ULONGLONG CMemFile::Seek(LONGLONG lOff, UINT nFrom)
     return m_nPosition;
 }
 
-ULONGLONG CMemFile::GetPosition() const
-{
-    return m_nPosition;
-}
-
 // Bytes that the file gains are zero.
 void CMemFile::SetLength(ULONGLONG dwNewLen)
 {
@@ -159,11 +134,6 @@ void CMemFile::SetLength(ULONGLONG dwNewLen)
     m_nPosition = std::min(m_nPosition, m_nFileSize);
 }
 
-ULONGLONG CMemFile::GetLength() const
-{
-    return m_nFileSize;
-}
-
 BOOL CMemFile::GetStatus(CFileStatus& rStatus) const
 {
     rStatus = CFileStatus{};
@@ -175,11 +145,6 @@ void CMemFile::Flush()
 {
 }
 
-void CMemFile::Abort()
-{
-    CMemFile::Close();
-}
-
 void CMemFile::Close()
 {
     BYTE* const lpBuffer = Detach();
@@ -188,11 +153,6 @@ void CMemFile::Close()
     {
         Free(lpBuffer);
     }
-}
-
-CFile* CMemFile::Duplicate() const
-{
-    AfxThrowNotSupportedException();
 }
 
 void CMemFile::LockRange(ULONGLONG, ULONGLONG)

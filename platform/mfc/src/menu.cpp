@@ -27,11 +27,6 @@ IMPLEMENT_DYNCREATE(CMenu, CObject)
 
 CMenu::CMenu() = default;
 
-CMenu::~CMenu()
-{
-    DestroyMenu();
-}
-
 HMENU CMenu::GetSafeHmenu() const
 {
     return SafeMenu(this);
@@ -73,29 +68,9 @@ HMENU CMenu::Detach()
 // ---------------------------------------------------------------------------------------------------------
 // Creation
 
-BOOL CMenu::CreateMenu()
-{
-    return Attach(::CreateMenu());
-}
-
-BOOL CMenu::CreatePopupMenu()
-{
-    return Attach(::CreatePopupMenu());
-}
-
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName)
 {
     return Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
-}
-
-BOOL CMenu::LoadMenu(UINT nIDResource)
-{
-    return LoadMenu(MAKEINTRESOURCE(nIDResource));
-}
-
-BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate)
-{
-    return Attach(::LoadMenuIndirect(lpMenuTemplate));
 }
 
 BOOL CMenu::DestroyMenu()
@@ -156,31 +131,6 @@ BOOL CMenu::InsertMenuItem(UINT uItem, LPMENUITEMINFO lpMenuItemInfo, BOOL fByPo
     return ::InsertMenuItem(m_hMenu, uItem, fByPos, lpMenuItemInfo);
 }
 
-BOOL CMenu::DeleteMenu(UINT nPosition, UINT nFlags)
-{
-    return ::DeleteMenu(m_hMenu, nPosition, nFlags);
-}
-
-BOOL CMenu::RemoveMenu(UINT nPosition, UINT nFlags)
-{
-    return ::RemoveMenu(m_hMenu, nPosition, nFlags);
-}
-
-UINT CMenu::GetMenuItemCount() const
-{
-    return ::GetMenuItemCount(m_hMenu);
-}
-
-UINT CMenu::GetMenuItemID(int nPos) const
-{
-    return ::GetMenuItemID(m_hMenu, nPos);
-}
-
-CMenu* CMenu::GetSubMenu(int nPos) const
-{
-    return FromHandle(::GetSubMenu(m_hMenu, nPos));
-}
-
 int CMenu::GetMenuString(UINT nIDItem, LPTSTR lpString, int nMaxCount, UINT nFlags) const
 {
     return ::GetMenuString(m_hMenu, nIDItem, lpString, nMaxCount, nFlags);
@@ -224,11 +174,6 @@ UINT CMenu::EnableMenuItem(UINT nIDEnableItem, UINT nEnable)
     return ::EnableMenuItem(m_hMenu, nIDEnableItem, nEnable);
 }
 
-UINT CMenu::GetMenuState(UINT nID, UINT nFlags) const
-{
-    return ::GetMenuState(m_hMenu, nID, nFlags);
-}
-
 BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
                                const CBitmap* pBmpChecked)
 {
@@ -257,21 +202,6 @@ UINT CMenu::GetDefaultItem(UINT gmdiFlags, BOOL fByPos)
 BOOL CMenu::SetMenuContextHelpId(DWORD dwContextHelpId)
 {
     return ::SetMenuContextHelpId(m_hMenu, dwContextHelpId);
-}
-
-DWORD CMenu::GetMenuContextHelpId() const
-{
-    return ::GetMenuContextHelpId(m_hMenu);
-}
-
-BOOL CMenu::SetMenuInfo(LPCMENUINFO lpcmi)
-{
-    return ::SetMenuInfo(m_hMenu, lpcmi);
-}
-
-BOOL CMenu::GetMenuInfo(LPMENUINFO lpcmi) const
-{
-    return ::GetMenuInfo(m_hMenu, lpcmi);
 }
 
 void CMenu::DrawItem(LPDRAWITEMSTRUCT)

@@ -10,21 +10,6 @@ const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF,
                                              &CObject::_GetBaseClass};
 static const AFX_CLASSINIT _init_CObject(RUNTIME_CLASS(CObject));
 
-CRuntimeClass* PASCAL CObject::_GetBaseClass()
-{
-    return nullptr;
-}
-
-CRuntimeClass* PASCAL CObject::GetThisClass()
-{
-    return const_cast<CRuntimeClass*>(&classCObject);
-}
-
-CRuntimeClass* CObject::GetRuntimeClass() const
-{
-    return GetThisClass();
-}
-
 void* PASCAL CObject::operator new(size_t nSize)
 {
     void* const p = ::operator new(nSize, std::nothrow);
@@ -38,11 +23,6 @@ void* PASCAL CObject::operator new(size_t nSize)
 void PASCAL CObject::operator delete(void* p)
 {
     ::operator delete(p);
-}
-
-BOOL CObject::IsKindOf(const CRuntimeClass* pClass) const
-{
-    return GetRuntimeClass()->IsDerivedFrom(pClass);
 }
 
 void CObject::Serialize(CArchive&)

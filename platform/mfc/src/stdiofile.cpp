@@ -293,11 +293,6 @@ ULONGLONG CStdioFile::GetLength() const
     return ULONGLONG(nLength);
 }
 
-CFile* CStdioFile::Duplicate() const
-{
-    AfxThrowNotSupportedException();
-}
-
 void CStdioFile::LockRange(ULONGLONG, ULONGLONG)
 {
     AfxThrowNotSupportedException();

@@ -26,11 +26,6 @@ CWnd* AFXAPI AfxGetMainWnd()
     return thread != nullptr ? thread->GetMainWnd() : nullptr;
 }
 
-CWnd* CWinThread::GetMainWnd()
-{
-    return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd;
-}
-
 BOOL CWinThread::PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::PostThreadMessage(m_nThreadID, message, wParam, lParam);

@@ -9,20 +9,10 @@ IMPLEMENT_DYNAMIC(CToolTipCtrl, CWnd)
 
 CToolTipCtrl::CToolTipCtrl() = default;
 
-CToolTipCtrl::~CToolTipCtrl()
-{
-    DestroyWindow();
-}
-
 BEGIN_MESSAGE_MAP(CToolTipCtrl, CWnd)
     ON_MESSAGE(WM_DISABLEMODAL, &CToolTipCtrl::OnDisableModal)
     ON_MESSAGE(TTM_WINDOWFROMPOINT, &CToolTipCtrl::OnWindowFromPoint)
 END_MESSAGE_MAP()
-
-BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle)
-{
-    return CreateEx(pParentWnd, dwStyle, 0);
-}
 
 BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx)
 {
@@ -166,11 +156,6 @@ BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool
     return AfxSend<BOOL>(TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
 }
 
-void CToolTipCtrl::SetToolInfo(LPTOOLINFO lpToolInfo)
-{
-    AfxSend(TTM_SETTOOLINFO, 0, lpToolInfo);
-}
-
 BOOL CToolTipCtrl::GetCurrentTool(LPTOOLINFO lpToolInfo) const
 {
     return AfxSend<BOOL>(TTM_GETCURRENTTOOL, 0, lpToolInfo);
@@ -196,77 +181,12 @@ BOOL CToolTipCtrl::HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const
     return TRUE;
 }
 
-int CToolTipCtrl::GetToolCount() const
-{
-    return AfxSend<int>(TTM_GETTOOLCOUNT);
-}
-
-void CToolTipCtrl::RelayEvent(LPMSG lpMsg)
-{
-    AfxSend(TTM_RELAYEVENT, 0, lpMsg);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Times and looks
-
-int CToolTipCtrl::GetDelayTime(DWORD dwDuration) const
-{
-    return AfxSend<int>(TTM_GETDELAYTIME, dwDuration);
-}
 
 void CToolTipCtrl::SetDelayTime(DWORD dwDuration, int iTime)
 {
     AfxSend(TTM_SETDELAYTIME, dwDuration, MAKELPARAM(iTime, 0));
-}
-
-void CToolTipCtrl::SetDelayTime(UINT nDelay)
-{
-    SetDelayTime(TTDT_AUTOMATIC, nDelay);
-}
-
-void CToolTipCtrl::GetMargin(LPRECT lprc) const
-{
-    AfxSend(TTM_GETMARGIN, 0, lprc);
-}
-
-void CToolTipCtrl::SetMargin(LPRECT lprc)
-{
-    AfxSend(TTM_SETMARGIN, 0, lprc);
-}
-
-int CToolTipCtrl::GetMaxTipWidth() const
-{
-    return AfxSend<int>(TTM_GETMAXTIPWIDTH);
-}
-
-int CToolTipCtrl::SetMaxTipWidth(int iWidth)
-{
-    return AfxSend<int>(TTM_SETMAXTIPWIDTH, 0, iWidth);
-}
-
-COLORREF CToolTipCtrl::GetTipBkColor() const
-{
-    return AfxSend<COLORREF>(TTM_GETTIPBKCOLOR);
-}
-
-void CToolTipCtrl::SetTipBkColor(COLORREF clr)
-{
-    AfxSend(TTM_SETTIPBKCOLOR, clr);
-}
-
-COLORREF CToolTipCtrl::GetTipTextColor() const
-{
-    return AfxSend<COLORREF>(TTM_GETTIPTEXTCOLOR);
-}
-
-void CToolTipCtrl::SetTipTextColor(COLORREF clr)
-{
-    AfxSend(TTM_SETTIPTEXTCOLOR, clr);
-}
-
-BOOL CToolTipCtrl::SetTitle(UINT uIcon, LPCTSTR lpstrTitle)
-{
-    return AfxSend<BOOL>(TTM_SETTITLE, uIcon, lpstrTitle);
 }
 
 CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO lpToolInfo) const
@@ -274,30 +194,5 @@ CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO lpToolInfo) const
     return CSize(AfxSend<DWORD>(TTM_GETBUBBLESIZE, 0, lpToolInfo));
 }
 
-BOOL CToolTipCtrl::AdjustRect(LPRECT lprc, BOOL bLarger)
-{
-    return AfxSend<BOOL>(TTM_ADJUSTRECT, bLarger, lprc);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Showing
-
-void CToolTipCtrl::Activate(BOOL bActivate)
-{
-    AfxSend(TTM_ACTIVATE, bActivate);
-}
-
-void CToolTipCtrl::Update()
-{
-    AfxSend(TTM_UPDATE);
-}
-
-void CToolTipCtrl::Pop()
-{
-    AfxSend(TTM_POP);
-}
-
-BOOL CToolTipCtrl::Popup()
-{
-    return AfxSend<BOOL>(TTM_POPUP);
-}

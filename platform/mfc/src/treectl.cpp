@@ -11,11 +11,6 @@ IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
 
 CTreeCtrl::CTreeCtrl() = default;
 
-CTreeCtrl::~CTreeCtrl()
-{
-    DestroyWindow();
-}
-
 // clang-format off
 BEGIN_MESSAGE_MAP(CTreeCtrl, CWnd)
     ON_WM_DESTROY()
@@ -45,21 +40,6 @@ void CTreeCtrl::OnDestroy()
     CWnd::OnDestroy();
 }
 
-UINT CTreeCtrl::GetCount() const
-{
-    return AfxSend<UINT>(TVM_GETCOUNT);
-}
-
-UINT CTreeCtrl::GetIndent() const
-{
-    return AfxSend<UINT>(TVM_GETINDENT);
-}
-
-void CTreeCtrl::SetIndent(UINT nIndent)
-{
-    AfxSend(TVM_SETINDENT, nIndent);
-}
-
 CImageList* CTreeCtrl::GetImageList(UINT nImageList) const
 {
     return CImageList::FromHandle(AfxSend<HIMAGELIST>(TVM_GETIMAGELIST, nImageList));
@@ -69,11 +49,6 @@ CImageList* CTreeCtrl::SetImageList(CImageList* pImageList, int nImageListType)
 {
     const HIMAGELIST images = SafeImages(pImageList);
     return CImageList::FromHandle(AfxSend<HIMAGELIST>(TVM_SETIMAGELIST, nImageListType, images));
-}
-
-UINT CTreeCtrl::GetVisibleCount() const
-{
-    return AfxSend<UINT>(TVM_GETVISIBLECOUNT);
 }
 
 CToolTipCtrl* CTreeCtrl::GetToolTips() const
@@ -87,64 +62,14 @@ CToolTipCtrl* CTreeCtrl::SetToolTips(CToolTipCtrl* pWndTip)
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
 }
 
-COLORREF CTreeCtrl::GetBkColor() const
-{
-    return AfxSend<COLORREF>(TVM_GETBKCOLOR);
-}
-
-COLORREF CTreeCtrl::SetBkColor(COLORREF clr)
-{
-    return AfxSend<COLORREF>(TVM_SETBKCOLOR, 0, clr);
-}
-
-SHORT CTreeCtrl::GetItemHeight() const
-{
-    return AfxSend<SHORT>(TVM_GETITEMHEIGHT);
-}
-
-SHORT CTreeCtrl::SetItemHeight(SHORT cyHeight)
-{
-    return AfxSend<SHORT>(TVM_SETITEMHEIGHT, cyHeight);
-}
-
-COLORREF CTreeCtrl::GetTextColor() const
-{
-    return AfxSend<COLORREF>(TVM_GETTEXTCOLOR);
-}
-
-COLORREF CTreeCtrl::SetTextColor(COLORREF clr)
-{
-    return AfxSend<COLORREF>(TVM_SETTEXTCOLOR, 0, clr);
-}
-
-COLORREF CTreeCtrl::GetInsertMarkColor() const
-{
-    return AfxSend<COLORREF>(TVM_GETINSERTMARKCOLOR);
-}
-
 COLORREF CTreeCtrl::SetInsertMarkColor(COLORREF clrNew)
 {
     return AfxSend<COLORREF>(TVM_SETINSERTMARKCOLOR, 0, clrNew);
 }
 
-COLORREF CTreeCtrl::GetLineColor() const
-{
-    return AfxSend<COLORREF>(TVM_GETLINECOLOR);
-}
-
 COLORREF CTreeCtrl::SetLineColor(COLORREF clrNew)
 {
     return AfxSend<COLORREF>(TVM_SETLINECOLOR, 0, clrNew);
-}
-
-UINT CTreeCtrl::GetScrollTime() const
-{
-    return AfxSend<UINT>(TVM_GETSCROLLTIME);
-}
-
-UINT CTreeCtrl::SetScrollTime(UINT nScrollTime)
-{
-    return AfxSend<UINT>(TVM_SETSCROLLTIME, nScrollTime);
 }
 
 CEdit* CTreeCtrl::GetEditControl() const
@@ -160,68 +85,8 @@ HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM hItem, UINT nCode) const
     return AfxSend<HTREEITEM>(TVM_GETNEXTITEM, nCode, hItem);
 }
 
-HTREEITEM CTreeCtrl::GetChildItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_CHILD);
-}
-
-HTREEITEM CTreeCtrl::GetNextSiblingItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_NEXT);
-}
-
-HTREEITEM CTreeCtrl::GetPrevSiblingItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_PREVIOUS);
-}
-
-HTREEITEM CTreeCtrl::GetParentItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_PARENT);
-}
-
-HTREEITEM CTreeCtrl::GetFirstVisibleItem() const
-{
-    return GetNextItem(nullptr, TVGN_FIRSTVISIBLE);
-}
-
-HTREEITEM CTreeCtrl::GetNextVisibleItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_NEXTVISIBLE);
-}
-
-HTREEITEM CTreeCtrl::GetPrevVisibleItem(HTREEITEM hItem) const
-{
-    return GetNextItem(hItem, TVGN_PREVIOUSVISIBLE);
-}
-
-HTREEITEM CTreeCtrl::GetLastVisibleItem() const
-{
-    return GetNextItem(nullptr, TVGN_LASTVISIBLE);
-}
-
-HTREEITEM CTreeCtrl::GetSelectedItem() const
-{
-    return GetNextItem(nullptr, TVGN_CARET);
-}
-
-HTREEITEM CTreeCtrl::GetDropHilightItem() const
-{
-    return GetNextItem(nullptr, TVGN_DROPHILITE);
-}
-
-HTREEITEM CTreeCtrl::GetRootItem() const
-{
-    return GetNextItem(nullptr, TVGN_ROOT);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Items
-
-BOOL CTreeCtrl::GetItem(TVITEM* pItem) const
-{
-    return AfxSend<BOOL>(TVM_GETITEM, 0, pItem);
-}
 
 CString CTreeCtrl::GetItemText(HTREEITEM hItem) const
 {
@@ -270,11 +135,6 @@ DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM hItem) const
     item.hItem = hItem;
     GetItem(&item);
     return item.lParam;
-}
-
-BOOL CTreeCtrl::SetItem(TVITEM* pItem)
-{
-    return AfxSend<BOOL>(TVM_SETITEM, 0, pItem);
 }
 
 BOOL CTreeCtrl::SetItem(HTREEITEM hItem, UINT nMask, LPCTSTR lpszItem, int nImage, int nSelectedImage,
@@ -380,62 +240,12 @@ HTREEITEM CTreeCtrl::InsertItem(LPCTSTR lpszItem, int nImage, int nSelectedImage
     return InsertItem(mask, lpszItem, nImage, nSelectedImage, 0, 0, 0, hParent, hInsertAfter);
 }
 
-BOOL CTreeCtrl::DeleteItem(HTREEITEM hItem)
-{
-    return AfxSend<BOOL>(TVM_DELETEITEM, 0, hItem);
-}
-
-BOOL CTreeCtrl::DeleteAllItems()
-{
-    return DeleteItem(TVI_ROOT);
-}
-
-BOOL CTreeCtrl::SortChildren(HTREEITEM hItem)
-{
-    return AfxSend<BOOL>(TVM_SORTCHILDREN, 0, hItem);
-}
-
-BOOL CTreeCtrl::SortChildrenCB(LPTVSORTCB pSort)
-{
-    return AfxSend<BOOL>(TVM_SORTCHILDRENCB, 0, pSort);
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Actions
-
-BOOL CTreeCtrl::Expand(HTREEITEM hItem, UINT nCode)
-{
-    return AfxSend<BOOL>(TVM_EXPAND, nCode, hItem);
-}
-
-BOOL CTreeCtrl::Select(HTREEITEM hItem, UINT nCode)
-{
-    return AfxSend<BOOL>(TVM_SELECTITEM, nCode, hItem);
-}
-
-BOOL CTreeCtrl::SelectItem(HTREEITEM hItem)
-{
-    return Select(hItem, TVGN_CARET);
-}
-
-BOOL CTreeCtrl::SelectDropTarget(HTREEITEM hItem)
-{
-    return Select(hItem, TVGN_DROPHILITE);
-}
-
-BOOL CTreeCtrl::SelectSetFirstVisible(HTREEITEM hItem)
-{
-    return Select(hItem, TVGN_FIRSTVISIBLE);
-}
 
 CEdit* CTreeCtrl::EditLabel(HTREEITEM hItem)
 {
     return static_cast<CEdit*>(CWnd::FromHandle(AfxSend<HWND>(TVM_EDITLABEL, 0, hItem)));
-}
-
-BOOL CTreeCtrl::EndEditLabelNow(BOOL fCancel)
-{
-    return AfxSend<BOOL>(TVM_ENDEDITLABELNOW, fCancel);
 }
 
 HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
@@ -451,11 +261,6 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
 HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* pHitTestInfo) const
 {
     return AfxSend<HTREEITEM>(TVM_HITTEST, 0, pHitTestInfo);
-}
-
-BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem)
-{
-    return AfxSend<BOOL>(TVM_ENSUREVISIBLE, 0, hItem);
 }
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)

@@ -9,34 +9,9 @@
 // ---------------------------------------------------------------------------------------------------------
 // The handle
 
-CWnd::operator HWND() const
-{
-    return GetSafeHwnd();
-}
-
-bool CWnd::operator==(const CWnd& wnd) const
-{
-    return wnd.GetSafeHwnd() == m_hWnd;
-}
-
-bool CWnd::operator!=(const CWnd& wnd) const
-{
-    return wnd.GetSafeHwnd() != m_hWnd;
-}
-
 HWND CWnd::GetSafeHwnd() const
 {
     return SafeHwnd(this);
-}
-
-DWORD CWnd::GetStyle() const
-{
-    return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_STYLE));
-}
-
-DWORD CWnd::GetExStyle() const
-{
-    return static_cast<DWORD>(::GetWindowLong(m_hWnd, GWL_EXSTYLE));
 }
 
 namespace
@@ -75,127 +50,12 @@ BOOL PASCAL CWnd::ModifyStyleEx(HWND hWnd, DWORD dwRemove, DWORD dwAdd, UINT nFl
     return ModifyWindowLong(hWnd, GWL_EXSTYLE, dwRemove, dwAdd, nFlags);
 }
 
-int CWnd::GetDlgCtrlID() const
-{
-    return ::GetDlgCtrlID(m_hWnd);
-}
-
-int CWnd::SetDlgCtrlID(int nID)
-{
-    return static_cast<int>(::SetWindowLongPtr(m_hWnd, GWLP_ID, nID));
-}
-
-BOOL CWnd::IsFrameWnd() const
-{
-    return FALSE;
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // Related windows
-
-CWnd* CWnd::GetOwner() const
-{
-    return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent();
-}
-
-void CWnd::SetOwner(CWnd* pOwnerWnd)
-{
-    m_hWndOwner = pOwnerWnd->GetSafeHwnd();
-}
-
-CWnd* PASCAL CWnd::GetActiveWindow()
-{
-    return FromHandle(::GetActiveWindow());
-}
-
-CWnd* PASCAL CWnd::GetForegroundWindow()
-{
-    return FromHandle(::GetForegroundWindow());
-}
-
-CWnd* PASCAL CWnd::GetCapture()
-{
-    return FromHandle(::GetCapture());
-}
-
-CWnd* PASCAL CWnd::GetFocus()
-{
-    return FromHandle(::GetFocus());
-}
-
-CWnd* PASCAL CWnd::GetDesktopWindow()
-{
-    return FromHandle(::GetDesktopWindow());
-}
-
-CWnd* PASCAL CWnd::GetClipboardOwner()
-{
-    return FromHandle(::GetClipboardOwner());
-}
-
-CWnd* PASCAL CWnd::GetClipboardViewer()
-{
-    return FromHandle(::GetClipboardViewer());
-}
-
-CWnd* PASCAL CWnd::GetOpenClipboardWindow()
-{
-    return FromHandle(::GetOpenClipboardWindow());
-}
-
-CWnd* CWnd::SetActiveWindow()
-{
-    return FromHandle(::SetActiveWindow(m_hWnd));
-}
-
-CWnd* CWnd::SetCapture()
-{
-    return FromHandle(::SetCapture(m_hWnd));
-}
-
-CWnd* CWnd::SetFocus()
-{
-    return FromHandle(::SetFocus(m_hWnd));
-}
-
-BOOL CWnd::SetForegroundWindow()
-{
-    return ::SetForegroundWindow(m_hWnd);
-}
-
-CWnd* CWnd::GetWindow(UINT nCmd) const
-{
-    return FromHandle(::GetWindow(m_hWnd, nCmd));
-}
-
-CWnd* CWnd::GetNextWindow(UINT nFlag) const
-{
-    return FromHandle(::GetWindow(m_hWnd, nFlag));
-}
-
-CWnd* CWnd::GetTopWindow() const
-{
-    return FromHandle(::GetTopWindow(m_hWnd));
-}
-
-CWnd* CWnd::GetLastActivePopup() const
-{
-    return FromHandle(::GetLastActivePopup(m_hWnd));
-}
-
-CWnd* CWnd::GetParent() const
-{
-    return FromHandle(::GetParent(m_hWnd));
-}
 
 CWnd* CWnd::SetParent(CWnd* pWndNewParent)
 {
     return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
-}
-
-CWnd* CWnd::GetAncestor(UINT gaFlags) const
-{
-    return FromHandle(::GetAncestor(m_hWnd, gaFlags));
 }
 
 namespace
@@ -291,11 +151,6 @@ CWnd* PASCAL CWnd::FindWindowEx(HWND hwndParent, HWND hwndChildAfter, LPCTSTR lp
     return FromHandle(::FindWindowEx(hwndParent, hwndChildAfter, lpszClass, lpszWindow));
 }
 
-CWnd* PASCAL CWnd::WindowFromPoint(POINT point)
-{
-    return FromHandle(::WindowFromPoint(point));
-}
-
 CWnd* CWnd::ChildWindowFromPoint(POINT point) const
 {
     return FromHandle(::ChildWindowFromPoint(m_hWnd, point));
@@ -304,11 +159,6 @@ CWnd* CWnd::ChildWindowFromPoint(POINT point) const
 CWnd* CWnd::ChildWindowFromPoint(POINT point, UINT nFlags) const
 {
     return FromHandle(::ChildWindowFromPointEx(m_hWnd, point, nFlags));
-}
-
-BOOL CWnd::IsChild(const CWnd* pWnd) const
-{
-    return ::IsChild(m_hWnd, pWnd->GetSafeHwnd());
 }
 
 CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const
@@ -371,16 +221,6 @@ BOOL CWnd::SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam)
     return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
 }
 
-void CWnd::DragAcceptFiles(BOOL bAccept)
-{
-    ::DragAcceptFiles(m_hWnd, bAccept);
-}
-
-void CWnd::SetWindowText(LPCTSTR lpszString)
-{
-    ::SetWindowText(m_hWnd, lpszString);
-}
-
 int CWnd::GetWindowText(LPTSTR lpszStringBuf, int nMaxCount) const
 {
     return ::GetWindowText(m_hWnd, lpszStringBuf, nMaxCount);
@@ -393,11 +233,6 @@ void CWnd::GetWindowText(CString& rString) const
     rString.ReleaseBuffer();
 }
 
-int CWnd::GetWindowTextLength() const
-{
-    return ::GetWindowTextLength(m_hWnd);
-}
-
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
     ::SendMessage(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(pFont->GetSafeHandle()), bRedraw);
@@ -408,26 +243,6 @@ CFont* CWnd::GetFont() const
     return CFont::FromHandle(reinterpret_cast<HFONT>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0)));
 }
 
-CMenu* CWnd::GetMenu() const
-{
-    return CMenu::FromHandle(::GetMenu(m_hWnd));
-}
-
-BOOL CWnd::SetMenu(CMenu* pMenu)
-{
-    return ::SetMenu(m_hWnd, pMenu->GetSafeHmenu());
-}
-
-void CWnd::DrawMenuBar()
-{
-    ::DrawMenuBar(m_hWnd);
-}
-
-CMenu* CWnd::GetSystemMenu(BOOL bRevert) const
-{
-    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, bRevert));
-}
-
 BOOL CWnd::HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite)
 {
     return ::HiliteMenuItem(m_hWnd, pMenu->m_hMenu, nIDHiliteItem, nHilite);
@@ -435,16 +250,6 @@ BOOL CWnd::HiliteMenuItem(CMenu* pMenu, UINT nIDHiliteItem, UINT nHilite)
 
 // ---------------------------------------------------------------------------------------------------------
 // Position and size
-
-BOOL CWnd::IsIconic() const
-{
-    return ::IsIconic(m_hWnd);
-}
-
-BOOL CWnd::IsZoomed() const
-{
-    return ::IsZoomed(m_hWnd);
-}
 
 void CWnd::MoveWindow(int x, int y, int nWidth, int nHeight, BOOL bRepaint)
 {
@@ -457,60 +262,15 @@ void CWnd::MoveWindow(LPCRECT lpRect, BOOL bRepaint)
                bRepaint);
 }
 
-int CWnd::SetWindowRgn(HRGN hRgn, BOOL bRedraw)
-{
-    return ::SetWindowRgn(m_hWnd, hRgn, bRedraw);
-}
-
-int CWnd::GetWindowRgn(HRGN hRgn) const
-{
-    return ::GetWindowRgn(m_hWnd, hRgn);
-}
-
 BOOL CWnd::SetWindowPos(const CWnd* pWndInsertAfter, int x, int y, int cx, int cy, UINT nFlags)
 {
     return ::SetWindowPos(m_hWnd, pWndInsertAfter->GetSafeHwnd(), x, y, cx, cy, nFlags);
-}
-
-UINT CWnd::ArrangeIconicWindows()
-{
-    return ::ArrangeIconicWindows(m_hWnd);
-}
-
-void CWnd::BringWindowToTop()
-{
-    ::BringWindowToTop(m_hWnd);
-}
-
-void CWnd::GetWindowRect(LPRECT lpRect) const
-{
-    ::GetWindowRect(m_hWnd, lpRect);
-}
-
-void CWnd::GetClientRect(LPRECT lpRect) const
-{
-    ::GetClientRect(m_hWnd, lpRect);
 }
 
 BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const
 {
     lpwndpl->length = sizeof(WINDOWPLACEMENT);
     return ::GetWindowPlacement(m_hWnd, lpwndpl);
-}
-
-BOOL CWnd::SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl)
-{
-    return ::SetWindowPlacement(m_hWnd, lpwndpl);
-}
-
-void CWnd::ClientToScreen(LPPOINT lpPoint) const
-{
-    ::ClientToScreen(m_hWnd, lpPoint);
-}
-
-void CWnd::ScreenToClient(LPPOINT lpPoint) const
-{
-    ::ScreenToClient(m_hWnd, lpPoint);
 }
 
 void CWnd::ClientToScreen(LPRECT lpRect) const
@@ -545,34 +305,9 @@ void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
 // ---------------------------------------------------------------------------------------------------------
 // Painting
 
-CDC* CWnd::BeginPaint(LPPAINTSTRUCT lpPaint)
-{
-    return CDC::FromHandle(::BeginPaint(m_hWnd, lpPaint));
-}
-
-void CWnd::EndPaint(LPPAINTSTRUCT lpPaint)
-{
-    ::EndPaint(m_hWnd, lpPaint);
-}
-
-CDC* CWnd::GetDC()
-{
-    return CDC::FromHandle(::GetDC(m_hWnd));
-}
-
-CDC* CWnd::GetWindowDC()
-{
-    return CDC::FromHandle(::GetWindowDC(m_hWnd));
-}
-
 CDC* CWnd::GetDCEx(CRgn* prgnClip, DWORD flags)
 {
     return CDC::FromHandle(::GetDCEx(m_hWnd, static_cast<HRGN>(prgnClip->GetSafeHandle()), flags));
-}
-
-int CWnd::ReleaseDC(CDC* pDC)
-{
-    return ::ReleaseDC(m_hWnd, pDC->m_hDC);
 }
 
 void CWnd::Print(CDC* pDC, DWORD dwFlags) const
@@ -585,79 +320,14 @@ void CWnd::PrintClient(CDC* pDC, DWORD dwFlags) const
     ::SendMessage(m_hWnd, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()), dwFlags);
 }
 
-void CWnd::UpdateWindow()
-{
-    ::UpdateWindow(m_hWnd);
-}
-
-void CWnd::SetRedraw(BOOL bRedraw)
-{
-    ::SendMessage(m_hWnd, WM_SETREDRAW, bRedraw, 0);
-}
-
-BOOL CWnd::GetUpdateRect(LPRECT lpRect, BOOL bErase)
-{
-    return ::GetUpdateRect(m_hWnd, lpRect, bErase);
-}
-
 int CWnd::GetUpdateRgn(CRgn* pRgn, BOOL bErase)
 {
     return ::GetUpdateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()), bErase);
 }
 
-void CWnd::Invalidate(BOOL bErase)
-{
-    ::InvalidateRect(m_hWnd, nullptr, bErase);
-}
-
-void CWnd::InvalidateRect(LPCRECT lpRect, BOOL bErase)
-{
-    ::InvalidateRect(m_hWnd, lpRect, bErase);
-}
-
 void CWnd::InvalidateRgn(CRgn* pRgn, BOOL bErase)
 {
     ::InvalidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()), bErase);
-}
-
-void CWnd::ValidateRect(LPCRECT lpRect)
-{
-    ::ValidateRect(m_hWnd, lpRect);
-}
-
-void CWnd::ValidateRgn(CRgn* pRgn)
-{
-    ::ValidateRgn(m_hWnd, static_cast<HRGN>(pRgn->GetSafeHandle()));
-}
-
-BOOL CWnd::ShowWindow(int nCmdShow)
-{
-    return ::ShowWindow(m_hWnd, nCmdShow);
-}
-
-BOOL CWnd::IsWindowVisible() const
-{
-    return ::IsWindowVisible(m_hWnd);
-}
-
-void CWnd::ShowOwnedPopups(BOOL bShow)
-{
-    ::ShowOwnedPopups(m_hWnd, bShow);
-}
-
-BOOL CWnd::AnimateWindow(DWORD dwTime, DWORD dwFlags)
-{
-    return ::AnimateWindow(m_hWnd, dwTime, dwFlags);
-}
-
-BOOL CWnd::LockWindowUpdate()
-{
-    return ::LockWindowUpdate(m_hWnd);
-}
-
-void CWnd::UnlockWindowUpdate()
-{
-    ::LockWindowUpdate(nullptr);
 }
 
 BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags)
@@ -694,26 +364,6 @@ UINT_PTR CWnd::SetTimer(UINT_PTR nIDEvent, UINT nElapse,
     return ::SetTimer(m_hWnd, nIDEvent, nElapse, lpfnTimer);
 }
 
-BOOL CWnd::KillTimer(UINT_PTR nIDEvent)
-{
-    return ::KillTimer(m_hWnd, nIDEvent);
-}
-
-BOOL CWnd::IsWindowEnabled() const
-{
-    return ::IsWindowEnabled(m_hWnd);
-}
-
-BOOL CWnd::EnableWindow(BOOL bEnable)
-{
-    return ::EnableWindow(m_hWnd, bEnable);
-}
-
-BOOL CWnd::FlashWindow(BOOL bInvert)
-{
-    return ::FlashWindow(m_hWnd, bInvert);
-}
-
 BOOL CWnd::FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout)
 {
     FLASHWINFO info{sizeof info, m_hWnd, dwFlags, uCount, dwTimeout};
@@ -722,11 +372,6 @@ BOOL CWnd::FlashWindowEx(DWORD dwFlags, UINT uCount, DWORD dwTimeout)
 
 // ---------------------------------------------------------------------------------------------------------
 // Dialog items
-
-void CWnd::CheckDlgButton(int nIDButton, UINT nCheck)
-{
-    ::CheckDlgButton(m_hWnd, nIDButton, nCheck);
-}
 
 void CWnd::CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton)
 {
@@ -739,21 +384,6 @@ int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
         if (::IsDlgButtonChecked(m_hWnd, id) != 0)
             return id;
     return 0;
-}
-
-UINT CWnd::IsDlgButtonChecked(int nIDButton) const
-{
-    return ::IsDlgButtonChecked(m_hWnd, nIDButton);
-}
-
-CWnd* CWnd::GetDlgItem(int nID) const
-{
-    return FromHandle(::GetDlgItem(m_hWnd, nID));
-}
-
-void CWnd::GetDlgItem(int nID, HWND* phWnd) const
-{
-    *phWnd = ::GetDlgItem(m_hWnd, nID);
 }
 
 UINT CWnd::GetDlgItemInt(int nID, BOOL* lpTrans, BOOL bSigned) const
@@ -781,11 +411,6 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const
     ::GetWindowText(item, rString.GetBufferSetLength(length), length + 1);
     rString.ReleaseBuffer();
     return rString.GetLength();
-}
-
-void CWnd::SetDlgItemText(int nID, LPCTSTR lpszString)
-{
-    ::SetDlgItemText(m_hWnd, nID, lpszString);
 }
 
 CWnd* CWnd::GetNextDlgGroupItem(CWnd* pWndCtl, BOOL bPrevious) const
@@ -952,11 +577,6 @@ void CWnd::CreateCaret(CBitmap* pBitmap)
     ::CreateCaret(m_hWnd, static_cast<HBITMAP>(pBitmap->GetSafeHandle()), 0, 0);
 }
 
-void CWnd::CreateSolidCaret(int nWidth, int nHeight)
-{
-    ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight);
-}
-
 void CWnd::CreateGrayCaret(int nWidth, int nHeight)
 {
     ::CreateCaret(m_hWnd, reinterpret_cast<HBITMAP>(1), nWidth, nHeight); // 1 stands for gray
@@ -969,54 +589,14 @@ CPoint PASCAL CWnd::GetCaretPos()
     return position;
 }
 
-void PASCAL CWnd::SetCaretPos(POINT point)
-{
-    ::SetCaretPos(point.x, point.y);
-}
-
-void CWnd::HideCaret()
-{
-    ::HideCaret(m_hWnd);
-}
-
-void CWnd::ShowCaret()
-{
-    ::ShowCaret(m_hWnd);
-}
-
-BOOL CWnd::OpenClipboard()
-{
-    return ::OpenClipboard(m_hWnd);
-}
-
-HWND CWnd::SetClipboardViewer()
-{
-    return ::SetClipboardViewer(m_hWnd);
-}
-
-BOOL CWnd::ChangeClipboardChain(HWND hWndNext)
-{
-    return ::ChangeClipboardChain(m_hWnd, hWndNext);
-}
-
 int CWnd::SetHotKey(WORD wVirtualKeyCode, WORD wModifiers)
 {
     return static_cast<int>(::SendMessage(m_hWnd, WM_SETHOTKEY, MAKEWORD(wVirtualKeyCode, wModifiers), 0));
 }
 
-DWORD CWnd::GetHotKey() const
-{
-    return static_cast<DWORD>(::SendMessage(m_hWnd, WM_GETHOTKEY, 0, 0));
-}
-
 BOOL CWnd::SetWindowContextHelpId(DWORD dwContextHelpId)
 {
     return ::SetWindowContextHelpId(m_hWnd, dwContextHelpId);
-}
-
-DWORD CWnd::GetWindowContextHelpId() const
-{
-    return ::GetWindowContextHelpId(m_hWnd);
 }
 
 HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon)

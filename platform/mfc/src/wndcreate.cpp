@@ -145,11 +145,6 @@ void CWnd::PreSubclassWindow()
 {
 }
 
-WNDPROC* CWnd::GetSuperWndProcAddr()
-{
-    return &m_pfnSuper;
-}
-
 /// Puts AfxWndProc in front of the window's procedure and remembers the latter.
 void CWnd::TakeOverProcedure()
 {

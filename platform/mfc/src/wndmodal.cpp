@@ -108,11 +108,6 @@ int CWnd::RunModalLoop(DWORD dwFlags)
     return m_nModalResult;
 }
 
-BOOL CWnd::ContinueModal()
-{
-    return (m_nFlags & WF_CONTINUEMODAL) != 0;
-}
-
 void CWnd::EndModalLoop(int nResult)
 {
     m_nModalResult = nResult;
@@ -162,11 +157,6 @@ BOOL CWnd::PreTranslateInput(LPMSG lpMsg)
     const bool isKey = message >= WM_KEYFIRST && message <= WM_KEYLAST;
     const bool isMouse = message >= WM_MOUSEFIRST && message <= WM_MOUSELAST;
     return (isKey || isMouse) && IsDialogMessage(lpMsg);
-}
-
-BOOL CWnd::IsDialogMessage(LPMSG lpMsg)
-{
-    return ::IsDialogMessage(m_hWnd, lpMsg);
 }
 
 BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
@@ -307,11 +297,6 @@ void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
 
 // ---------------------------------------------------------------------------------------------------------
 // Placement
-
-BOOL CWnd::CheckAutoCenter()
-{
-    return TRUE;
-}
 
 namespace
 {

@@ -276,22 +276,7 @@ int CWnd::OnCreate(LPCREATESTRUCT)
     return static_cast<int>(Default());
 }
 
-void CWnd::OnDestroy()
-{
-    Default();
-}
-
-void CWnd::OnClose()
-{
-    Default();
-}
-
 BOOL CWnd::OnNcCreate(LPCREATESTRUCT)
-{
-    return static_cast<BOOL>(Default());
-}
-
-BOOL CWnd::OnQueryEndSession()
 {
     return static_cast<BOOL>(Default());
 }
@@ -368,11 +353,6 @@ void CWnd::OnActivateApp(BOOL, DWORD)
     Default();
 }
 
-void CWnd::OnChildActivate()
-{
-    Default();
-}
-
 void CWnd::OnMDIActivate(BOOL, CWnd*, CWnd*)
 {
     Default();
@@ -388,27 +368,7 @@ void CWnd::OnKillFocus(CWnd*)
     Default();
 }
 
-void CWnd::OnCancelMode()
-{
-    Default();
-}
-
-BOOL CWnd::OnQueryOpen()
-{
-    return static_cast<BOOL>(Default());
-}
-
-HCURSOR CWnd::OnQueryDragIcon()
-{
-    return reinterpret_cast<HCURSOR>(Default());
-}
-
 // Painting and colours
-
-void CWnd::OnPaint()
-{
-    Default();
-}
 
 BOOL CWnd::OnEraseBkgnd(CDC*)
 {
@@ -418,16 +378,6 @@ BOOL CWnd::OnEraseBkgnd(CDC*)
 void CWnd::OnIconEraseBkgnd(CDC*)
 {
     Default();
-}
-
-LRESULT CWnd::OnThemeChanged()
-{
-    return Default();
-}
-
-BOOL CWnd::OnQueryNewPalette()
-{
-    return static_cast<BOOL>(Default());
 }
 
 void CWnd::OnPaletteIsChanging(CWnd*)
@@ -455,11 +405,6 @@ void CWnd::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*)
 LRESULT CWnd::OnNcHitTest(CPoint)
 {
     return Default();
-}
-
-void CWnd::OnNcPaint()
-{
-    Default();
 }
 
 void CWnd::OnNcMouseMove(UINT, CPoint)
@@ -554,11 +499,6 @@ void CWnd::OnSysKeyUp(UINT, UINT, UINT)
     Default();
 }
 
-UINT CWnd::OnGetDlgCode()
-{
-    return static_cast<UINT>(Default());
-}
-
 BOOL CWnd::OnHelpInfo(HELPINFO*)
 {
     return static_cast<BOOL>(Default());
@@ -617,11 +557,6 @@ void CWnd::OnMButtonDblClk(UINT, CPoint)
 }
 
 void CWnd::OnMouseHover(UINT, CPoint)
-{
-    Default();
-}
-
-void CWnd::OnMouseLeave()
 {
     Default();
 }
@@ -707,16 +642,6 @@ void CWnd::OnWinIniChange(LPCTSTR)
     Default();
 }
 
-void CWnd::OnFontChange()
-{
-    Default();
-}
-
-void CWnd::OnTimeChange()
-{
-    Default();
-}
-
 void CWnd::OnDevModeChange(LPTSTR)
 {
     Default();
@@ -749,22 +674,7 @@ void CWnd::OnChangeCbChain(HWND, HWND)
     Default();
 }
 
-void CWnd::OnDrawClipboard()
-{
-    Default();
-}
-
-void CWnd::OnDestroyClipboard()
-{
-    Default();
-}
-
 void CWnd::OnRenderFormat(UINT)
-{
-    Default();
-}
-
-void CWnd::OnRenderAllFormats()
 {
     Default();
 }
