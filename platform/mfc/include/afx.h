@@ -1,4 +1,5 @@
-// The base of the class library: run-time class information, diagnostics, exceptions, files.
+#pragma once
+#define __AFX_H__ // asked for by the headers that wizards make
 #pragma once
 #define __AFX_H__
 

@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXCMN_H__ // asked for by the headers that wizards make
 // The common controls and image lists.
 //
 //     m_list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 200), this, IDC_PARTS);

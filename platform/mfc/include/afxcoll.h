@@ -1,4 +1,5 @@
-// The ready-made collections: the templates of afxtempl.h for the common element types, each with run-time
+#pragma once
+#define __AFXCOLL_H__ // asked for by the headers that wizards make
 // class information of its own. Pointers and objects in them are not owned.
 #pragma once
 #define __AFXCOLL_H__

@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXDLGS_H__ // asked for by the headers that wizards make
 // The common dialogs.
 //
 //     CFileDialog dlg(TRUE, L"dat", nullptr, OFN_HIDEREADONLY, L"Data (*.dat)|*.dat|All (*.*)|*.*||", this);

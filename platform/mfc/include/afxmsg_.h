@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXMSG_H__ // asked for by the headers that wizards make
 // Message maps: the table entry, the signatures a handler can have, and the macros that make entries.
 //
 //     BEGIN_MESSAGE_MAP(CMyWnd, CWnd)

@@ -1,4 +1,5 @@
-// Memory of the collections: raw blocks, and chains of blocks that list and map nodes are cut from.
+#pragma once
+#define __AFXPLEX_H__ // asked for by the headers that wizards make
 #pragma once
 #define __AFXPLEX_H__
 

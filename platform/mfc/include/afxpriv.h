@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXPRIV_H__ // asked for by the headers that wizards make
 // Private messages of the framework that programs handle now and then.
 
 #include <afxwin.h>

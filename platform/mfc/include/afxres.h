@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXRES_H__ // asked for by the headers that wizards make
 // Resource and command identifiers of the framework. Used by sources and by .rc files alike, so that it holds
 // nothing but numbers.
 

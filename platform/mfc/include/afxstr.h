@@ -1,4 +1,5 @@
-// CString: a value string over a shared, reference-counted buffer.
+#pragma once
+#define __AFXSTR_H__ // asked for by the headers that wizards make
 //
 //     CString strName(_T("grid"));
 //     CString strCopy = strName;                       // shares the characters, copies nothing

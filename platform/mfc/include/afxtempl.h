@@ -1,4 +1,5 @@
-// Collection templates: CArray, CList and CMap hold values of any type; CTypedPtrArray, CTypedPtrList and
+#pragma once
+#define __AFXTEMPL_H__ // asked for by the headers that wizards make
 // CTypedPtrMap give one of the pointer collections the type of its pointers.
 //
 //     CMap<int, int, CString, LPCTSTR> mapNames;

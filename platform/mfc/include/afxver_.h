@@ -1,4 +1,5 @@
-// Version and linkage macros that every other MFC header builds on.
+#pragma once
+#define __AFXVER_H__ // asked for by the headers that wizards make
 //
 // OW_MFC_BUILD is defined while mfcow.dll itself is compiled, and _AFXEXT while an extension module is.
 // Everybody else imports.

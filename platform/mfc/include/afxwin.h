@@ -1,4 +1,5 @@
 #pragma once
+#define __AFXWIN_H__ // asked for by the headers that wizards make
 // The framework: windows, dialogs, controls, drawing, the application. Include this one.
 
 #include <afx.h>

@@ -1,4 +1,5 @@
 #pragma once
+#define __ATLTYPES_H__ // asked for by the headers that wizards make
 // Size, point and rectangle: the Win32 structures with operators.
 //
 //     CRect area(10, 10, 110, 60);
