@@ -116,8 +116,6 @@ BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWnd, 
 {
     if (lpDialogInit != nullptr)
         m_lpDialogInit = lpDialogInit;
-    // Read by CheckAutoCenter while the dialog is made; the memory is the caller's and is not kept.
-    const CRestoreValue<LPCDLGTEMPLATE> used(m_lpDialogTemplate, lpDialogTemplate);
     return CreateDlgIndirect(lpDialogTemplate, pParentWnd, AfxGetInstanceHandle());
 }
 

@@ -31,7 +31,8 @@ namespace
 class CAutoCenter
 {
 public:
-    CAutoCenter(CWnd* window, UINT message) : m_window(message == WM_INITDIALOG ? window : nullptr)
+    CAutoCenter(CWnd* window, HWND handle, UINT message)
+        : m_window(message == WM_INITDIALOG ? window : nullptr), m_handle(handle)
     {
         if (m_window == nullptr)
             return;
@@ -41,7 +42,9 @@ public:
 
     void Apply() const
     {
-        if (m_window == nullptr || m_window->m_hWnd == nullptr || m_wasVisible)
+        if (m_window == nullptr || m_wasVisible)
+            return;
+        if (CWnd::FromHandlePermanent(m_handle) != m_window) // destroyed and deleted by its OnInitDialog
             return;
         if ((m_window->GetStyle() & (WS_VISIBLE | WS_CHILD)) != 0)
             return;
@@ -49,7 +52,7 @@ public:
         m_window->GetWindowRect(&after);
         if (after.TopLeft() != m_before.TopLeft())
             return;
-        const HWND owner = ::GetWindow(m_window->m_hWnd, GW_OWNER);
+        const HWND owner = ::GetWindow(m_handle, GW_OWNER);
         if (owner != nullptr && ::IsIconic(owner))
             return;
         if (m_window->CheckAutoCenter())
@@ -58,6 +61,7 @@ public:
 
 private:
     CWnd* m_window;
+    HWND m_handle;
     CRect m_before{0, 0, 0, 0};
     bool m_wasVisible = false;
 };
@@ -74,7 +78,7 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, L
 
     try
     {
-        const CAutoCenter autoCenter(pWnd, nMsg);
+        const CAutoCenter autoCenter(pWnd, hWnd, nMsg);
         const LRESULT result = pWnd->WindowProc(nMsg, wParam, lParam);
         autoCenter.Apply();
         return result;

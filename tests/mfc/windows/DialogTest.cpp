@@ -318,6 +318,28 @@ TEST_F(Dialog, AModelessOneLivesBesideTheOthersAndDeletesItself)
     EXPECT_EQ(alive, 0);
 }
 
+/// Goes in its OnInitDialog; its memory is spoilt, so that a later look at the object is noticed.
+class CShortDialog : public CModelessDialog
+{
+public:
+    using CModelessDialog::CModelessDialog;
+    static void operator delete(void* memory)
+    {
+        memset(memory, 0xDD, sizeof(CShortDialog));
+        ::operator delete(memory);
+    }
+
+protected:
+    BOOL OnInitDialog() override { return DestroyWindow(); }
+};
+
+TEST_F(Dialog, AModelessOneMayDeleteItselfWhileItIsInitialised)
+{
+    int alive = 0;
+    EXPECT_FALSE((new CShortDialog(alive))->CreateIndirect(form.get()));
+    EXPECT_EQ(alive, 0);
+}
+
 TEST_F(Dialog, ATemplateThatCannotBeMadeDeletesTheObjectAsAnEndWould)
 {
     int alive = 0;
