@@ -11,7 +11,7 @@ CGalleryDialog::CGalleryDialog(CWnd* pParent) : CGalleryHostDialog(IDD_GALLERY, 
 }
 
 BEGIN_MESSAGE_MAP(CGalleryDialog, CGalleryHostDialog)
-    ON_BN_CLICKED(IDC_BY_COMBOS, OnByCombos)
+    ON_BN_CLICKED(IDC_BY_COMBOS, &CGalleryDialog::OnByCombos)
 END_MESSAGE_MAP()
 
 void CGalleryDialog::OnByCombos()

@@ -15,7 +15,7 @@ CGalleryHostDialog::CGalleryHostDialog(UINT nTemplateId, CWnd* pParent) : CDialo
 
 BEGIN_MESSAGE_MAP(CGalleryHostDialog, CDialog)
     ON_WM_CLOSE()
-    ON_BN_CLICKED(IDC_CLOSE, OnClose)
+    ON_BN_CLICKED(IDC_CLOSE, &CGalleryHostDialog::OnClose)
     ON_WM_DRAWITEM()
 END_MESSAGE_MAP()
 

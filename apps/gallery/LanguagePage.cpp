@@ -18,8 +18,8 @@ CString CataloguePath()
 } // namespace
 
 BEGIN_MESSAGE_MAP(CLanguagePageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_LANG_SERBIAN, OnSerbian)
-    ON_BN_CLICKED(IDC_LANG_ENGLISH, OnEnglish)
+    ON_BN_CLICKED(IDC_LANG_SERBIAN, &CLanguagePageDialog::OnSerbian)
+    ON_BN_CLICKED(IDC_LANG_ENGLISH, &CLanguagePageDialog::OnEnglish)
 END_MESSAGE_MAP()
 
 void CLanguagePageDialog::OnSerbian()

@@ -97,10 +97,10 @@ private:
 
 BEGIN_MESSAGE_MAP(CButtonsPageDialog, CGalleryPageDialog)
     ON_WM_ERASEBKGND()
-    ON_BN_CLICKED(IDC_BTN_FLAT, OnSwitch)
-    ON_BN_CLICKED(IDC_BTN_THEME, OnSwitch)
-    ON_BN_CLICKED(IDC_BTN_TRANSPARENT, OnSwitch)
-    ON_CBN_SELCHANGE(IDC_BTN_ALIGN, OnSwitch)
+    ON_BN_CLICKED(IDC_BTN_FLAT, &CButtonsPageDialog::OnSwitch)
+    ON_BN_CLICKED(IDC_BTN_THEME, &CButtonsPageDialog::OnSwitch)
+    ON_BN_CLICKED(IDC_BTN_TRANSPARENT, &CButtonsPageDialog::OnSwitch)
+    ON_CBN_SELCHANGE(IDC_BTN_ALIGN, &CButtonsPageDialog::OnSwitch)
 END_MESSAGE_MAP()
 
 // The ground of transparent buttons has a pattern that shows how well they let it through.

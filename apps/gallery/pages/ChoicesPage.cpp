@@ -142,15 +142,16 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CChoicesPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_COATING_CLEAR, OnClearCoating)
-    ON_BN_CLICKED(IDC_COATING_ENABLE, OnEnableCoating)
-    ON_BN_CLICKED(IDC_COATING_SHOW, OnShowCoating)
-    ON_BN_CLICKED(IDC_CAMBERED, OnBox)
-    ON_BN_CLICKED(IDC_DIMENSIONS, OnBox)
-    ON_BN_CLICKED(IDC_TOLERANCES, OnBox)
-    ON_BN_CLICKED(IDC_MASKED, OnBox)
-    ON_BN_CLICKED(IDC_STIFFENED, OnBox)
-    ON_COMMAND_RANGE(IDC_RULE_SET_FIRST, IDC_RULE_SET_FIRST + ruleCount * kSetButtons - 1, OnSetValue)
+    ON_BN_CLICKED(IDC_COATING_CLEAR, &CChoicesPageDialog::OnClearCoating)
+    ON_BN_CLICKED(IDC_COATING_ENABLE, &CChoicesPageDialog::OnEnableCoating)
+    ON_BN_CLICKED(IDC_COATING_SHOW, &CChoicesPageDialog::OnShowCoating)
+    ON_BN_CLICKED(IDC_CAMBERED, &CChoicesPageDialog::OnBox)
+    ON_BN_CLICKED(IDC_DIMENSIONS, &CChoicesPageDialog::OnBox)
+    ON_BN_CLICKED(IDC_TOLERANCES, &CChoicesPageDialog::OnBox)
+    ON_BN_CLICKED(IDC_MASKED, &CChoicesPageDialog::OnBox)
+    ON_BN_CLICKED(IDC_STIFFENED, &CChoicesPageDialog::OnBox)
+    ON_COMMAND_RANGE(IDC_RULE_SET_FIRST, IDC_RULE_SET_FIRST + ruleCount * kSetButtons - 1,
+                     &CChoicesPageDialog::OnSetValue)
 END_MESSAGE_MAP()
 } // namespace
 

@@ -63,9 +63,9 @@ private:
 
 BEGIN_MESSAGE_MAP(CColoursPageDialog, CGalleryPageDialog)
     ON_WM_DRAWITEM()
-    ON_BN_CLICKED(IDC_COL_RESET, OnReset)
-    ON_BN_CLICKED(IDC_COL_STORE, OnStore)
-    ON_BN_CLICKED(IDC_COL_LOAD, OnLoad)
+    ON_BN_CLICKED(IDC_COL_RESET, &CColoursPageDialog::OnReset)
+    ON_BN_CLICKED(IDC_COL_STORE, &CColoursPageDialog::OnStore)
+    ON_BN_CLICKED(IDC_COL_LOAD, &CColoursPageDialog::OnLoad)
 END_MESSAGE_MAP()
 
 void CColoursPageDialog::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)

@@ -57,7 +57,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CConfigurationsPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_CONFIG_SAVE, OnSaved)
+    ON_BN_CLICKED(IDC_CONFIG_SAVE, &CConfigurationsPageDialog::OnSaved)
 END_MESSAGE_MAP()
 
 // The group has heard of the click first: the dialogs are closed.

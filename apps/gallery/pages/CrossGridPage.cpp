@@ -65,7 +65,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CCrossGridPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_CROSS_GRID_GO, OnGoToLargest)
+    ON_BN_CLICKED(IDC_CROSS_GRID_GO, &CCrossGridPageDialog::OnGoToLargest)
 END_MESSAGE_MAP()
 
 int CCrossGridPageDialog::OnInitPageDialog()

@@ -198,8 +198,8 @@ private:
 
 BEGIN_MESSAGE_MAP(CFontPageDialog, CGalleryPageDialog)
     ON_WM_DRAWITEM()
-    ON_CONTROL_RANGE(BN_CLICKED, IDC_STYLE_FIRST, IDC_STYLE_LAST, OnStyle)
-    ON_BN_CLICKED(IDC_FONT_SELECT, OnSelect)
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_STYLE_FIRST, IDC_STYLE_LAST, &CFontPageDialog::OnStyle)
+    ON_BN_CLICKED(IDC_FONT_SELECT, &CFontPageDialog::OnSelect)
 END_MESSAGE_MAP()
 
 void CFontPageDialog::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)

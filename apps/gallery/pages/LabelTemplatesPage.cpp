@@ -140,7 +140,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CLabelTemplatesPageDialog, CLanguagePageDialog)
-    ON_BN_CLICKED(IDC_LABELS_LOCKED, OnLock)
+    ON_BN_CLICKED(IDC_LABELS_LOCKED, &CLabelTemplatesPageDialog::OnLock)
 END_MESSAGE_MAP()
 } // namespace
 

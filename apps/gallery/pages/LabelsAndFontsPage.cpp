@@ -151,7 +151,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CLabelsAndFontsPageDialog, CGalleryPageDialog)
-    ON_EN_CHANGE(IDC_LABEL_MARKUP, OnChangeMarkup)
+    ON_EN_CHANGE(IDC_LABEL_MARKUP, &CLabelsAndFontsPageDialog::OnChangeMarkup)
 END_MESSAGE_MAP()
 } // namespace
 

@@ -132,7 +132,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CMemberDialog, CGalleryPageDialog)
-    ON_EN_CHANGE(IDC_MEMBER_REMARK, OnRemarkChange)
+    ON_EN_CHANGE(IDC_MEMBER_REMARK, &CMemberDialog::OnRemarkChange)
 END_MESSAGE_MAP()
 } // namespace
 

@@ -149,7 +149,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CMessageBoxesPageDialog, CLanguagePageDialog)
-    ON_CONTROL_RANGE(BN_CLICKED, IDC_BOX_FIRST, kLastBox, OnBox)
+    ON_CONTROL_RANGE(BN_CLICKED, IDC_BOX_FIRST, kLastBox, &CMessageBoxesPageDialog::OnBox)
 END_MESSAGE_MAP()
 
 void CMessageBoxesPageDialog::OnBox(UINT nId)

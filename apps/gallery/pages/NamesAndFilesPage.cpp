@@ -49,10 +49,10 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CNamesAndFilesPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_ASK_MARK, OnMark)
-    ON_BN_CLICKED(IDC_ASK_LAYER, OnLayer)
-    ON_BN_CLICKED(IDC_OPEN_FILE, OnOpenFile)
-    ON_BN_CLICKED(IDC_SAVE_FILE, OnSaveFile)
+    ON_BN_CLICKED(IDC_ASK_MARK, &CNamesAndFilesPageDialog::OnMark)
+    ON_BN_CLICKED(IDC_ASK_LAYER, &CNamesAndFilesPageDialog::OnLayer)
+    ON_BN_CLICKED(IDC_OPEN_FILE, &CNamesAndFilesPageDialog::OnOpenFile)
+    ON_BN_CLICKED(IDC_SAVE_FILE, &CNamesAndFilesPageDialog::OnSaveFile)
 END_MESSAGE_MAP()
 
 void CNamesAndFilesPageDialog::OnMark()

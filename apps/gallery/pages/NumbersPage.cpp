@@ -73,7 +73,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CNumbersPageDialog, CGalleryPageDialog)
-    ON_COMMAND_RANGE(IDC_UNIT_MM, IDC_UNIT_IN, OnLengthUnit)
+    ON_COMMAND_RANGE(IDC_UNIT_MM, IDC_UNIT_IN, &CNumbersPageDialog::OnLengthUnit)
 END_MESSAGE_MAP()
 
 void CNumbersPageDialog::DoDataExchange(CDataExchange* pDX)

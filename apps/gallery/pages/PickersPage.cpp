@@ -64,7 +64,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CPickersPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_PICK_BY_LAYER, OnByLayer)
+    ON_BN_CLICKED(IDC_PICK_BY_LAYER, &CPickersPageDialog::OnByLayer)
 END_MESSAGE_MAP()
 
 // The layer's line is the continuous one; what was picked comes back with the picker.

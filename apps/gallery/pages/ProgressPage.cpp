@@ -38,7 +38,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CProgressPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_PROGRESS_RUN, OnRun)
+    ON_BN_CLICKED(IDC_PROGRESS_RUN, &CProgressPageDialog::OnRun)
 END_MESSAGE_MAP()
 
 void CProgressPageDialog::OnRun()

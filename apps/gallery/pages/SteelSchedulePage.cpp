@@ -117,9 +117,9 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CSteelSchedulePageDialog, CGalleryPageDialog)
-    ON_COMMAND_RANGE(IDC_SCHEDULE_MM, IDC_SCHEDULE_FT, OnLengthUnit)
-    ON_COMMAND_RANGE(IDC_SCHEDULE_N, IDC_SCHEDULE_KN, OnWeightUnit)
-    ON_NOTIFY(GVN_CHECKCLICKED, IDC_SCHEDULE, OnCheckClicked)
+    ON_COMMAND_RANGE(IDC_SCHEDULE_MM, IDC_SCHEDULE_FT, &CSteelSchedulePageDialog::OnLengthUnit)
+    ON_COMMAND_RANGE(IDC_SCHEDULE_N, IDC_SCHEDULE_KN, &CSteelSchedulePageDialog::OnWeightUnit)
+    ON_NOTIFY(GVN_CHECKCLICKED, IDC_SCHEDULE, &CSteelSchedulePageDialog::OnCheckClicked)
 END_MESSAGE_MAP()
 
 int CSteelSchedulePageDialog::OnInitPageDialog()

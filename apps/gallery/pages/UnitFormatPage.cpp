@@ -142,10 +142,10 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CUnitFormatPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_FORMAT_NO_RECORD, OnNoRecord)
-    ON_BN_CLICKED(IDC_FORMAT_ENABLE, OnEnable)
-    ON_BN_CLICKED(IDC_FORMAT_SHOW, OnShow)
-    ON_BN_CLICKED(IDC_AXES_DIFFER, OnDifferAgain)
+    ON_BN_CLICKED(IDC_FORMAT_NO_RECORD, &CUnitFormatPageDialog::OnNoRecord)
+    ON_BN_CLICKED(IDC_FORMAT_ENABLE, &CUnitFormatPageDialog::OnEnable)
+    ON_BN_CLICKED(IDC_FORMAT_SHOW, &CUnitFormatPageDialog::OnShow)
+    ON_BN_CLICKED(IDC_AXES_DIFFER, &CUnitFormatPageDialog::OnDifferAgain)
 END_MESSAGE_MAP()
 } // namespace
 

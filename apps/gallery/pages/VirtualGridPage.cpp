@@ -125,9 +125,9 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CVirtualGridPageDialog, CGalleryPageDialog)
-    ON_BN_CLICKED(IDC_VIRTUAL_GO, OnGo)
-    ON_NOTIFY(LVN_ITEMCHANGED, IDC_VIRTUAL_GRID, OnFocusMoved)
-    ON_NOTIFY(LVN_ODCACHEHINT, IDC_VIRTUAL_GRID, OnCacheHint)
+    ON_BN_CLICKED(IDC_VIRTUAL_GO, &CVirtualGridPageDialog::OnGo)
+    ON_NOTIFY(LVN_ITEMCHANGED, IDC_VIRTUAL_GRID, &CVirtualGridPageDialog::OnFocusMoved)
+    ON_NOTIFY(LVN_ODCACHEHINT, IDC_VIRTUAL_GRID, &CVirtualGridPageDialog::OnCacheHint)
 END_MESSAGE_MAP()
 } // namespace
 
