@@ -1,5 +1,4 @@
-#pragma once
-#define __AFX_H__ // asked for by the headers that wizards make
+// The base of the class library: run-time class information, diagnostics, exceptions, files.
 #pragma once
 #define __AFX_H__
 

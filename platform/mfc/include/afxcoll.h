@@ -1,8 +1,7 @@
-#pragma once
-#define __AFXCOLL_H__ // asked for by the headers that wizards make
+// The ready-made collections: the templates of afxtempl.h for the common element types, each with run-time
 // class information of its own. Pointers and objects in them are not owned.
 #pragma once
-#define __AFXCOLL_H__
+#define __AFXCOLL_H__ // asked for by the headers that wizards make
 
 #include "afxtempl.h"
 

@@ -1,7 +1,6 @@
+// Memory of the collections: raw blocks, and chains of blocks that list and map nodes are cut from.
 #pragma once
 #define __AFXPLEX_H__ // asked for by the headers that wizards make
-#pragma once
-#define __AFXPLEX_H__
 
 #include "afx.h"
 

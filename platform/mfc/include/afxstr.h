@@ -1,5 +1,4 @@
-#pragma once
-#define __AFXSTR_H__ // asked for by the headers that wizards make
+// CString: a value string over a shared, reference-counted buffer.
 //
 //     CString strName(_T("grid"));
 //     CString strCopy = strName;                       // shares the characters, copies nothing
@@ -14,7 +13,7 @@
 // - A bad argument (index out of range, negative length, null format) throws CInvalidArgException, an
 //   allocation that fails throws CMemoryException; the string then keeps its former value.
 #pragma once
-#define __AFXSTR_H__
+#define __AFXSTR_H__ // asked for by the headers that wizards make
 
 #include "afxver_.h"
 

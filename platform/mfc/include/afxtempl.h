@@ -1,5 +1,4 @@
-#pragma once
-#define __AFXTEMPL_H__ // asked for by the headers that wizards make
+// Collection templates: CArray, CList and CMap hold values of any type; CTypedPtrArray, CTypedPtrList and
 // CTypedPtrMap give one of the pointer collections the type of its pointers.
 //
 //     CMap<int, int, CString, LPCTSTR> mapNames;
@@ -17,7 +16,7 @@
 //   the exception goes on. Memory failures are CMemoryException.
 // - New elements that are not given a value are value-initialised: numbers and pointers are zero.
 #pragma once
-#define __AFXTEMPL_H__
+#define __AFXTEMPL_H__ // asked for by the headers that wizards make
 
 #include "afx.h"
 #include "afxplex_.h"
