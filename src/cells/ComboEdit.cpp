@@ -20,7 +20,7 @@ void CComboEdit::OnKillFocus(CWnd* pNewWnd)
 
 void CComboEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
-    if (gfnIsCellMoveKey(nChar) && ::GetKeyState(VK_CONTROL) < 0 && GetDlgCtrlID() == c_nComboEditId)
+    if (gfnIsCellMoveKey(nChar) && ::GetKeyState(VK_CONTROL) < 0 && GetDlgCtrlID() == kComboEditId)
         PassOn(WM_KEYDOWN, nChar, nRepCnt, nFlags);
     else
         CEdit::OnKeyDown(nChar, nRepCnt, nFlags);

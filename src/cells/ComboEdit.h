@@ -6,7 +6,7 @@
 #include "module/Export.h"
 
 /// The id that Windows gives to the edit part of a combo box.
-constexpr int c_nComboEditId = 1001;
+constexpr int kComboEditId = 1001;
 
 class OW_DIALOGCONTROLS_API CComboEdit : public CEdit
 {

@@ -52,7 +52,7 @@ void CInPlaceList::TakeFirstChar(UINT nChar)
         SetFocus();
         return;
     }
-    m_edit.SubclassDlgItem(c_nComboEditId, this);
+    m_edit.SubclassDlgItem(kComboEditId, this);
     SetFocus();
 
     SelectForFirstChar(m_edit, nChar);

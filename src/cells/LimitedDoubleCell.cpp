@@ -96,7 +96,7 @@ void CLimitedDoubleCell::ShowDecimal()
     constexpr double kFewDigits = 1e50; // with those decimals it fits any bounded text
     if (std::fabs(m_dValue) < kFewDigits && m_nBrojDecimala <= kFewDecimals)
     {
-        wchar_t szText[c_nDoubleTextSize];
+        wchar_t szText[kDoubleTextSize];
         SetText(gfnFormatFixed(szText, m_nBrojDecimala, m_dValue));
         return;
     }

@@ -28,7 +28,7 @@ void CLimitedExponentDoubleCell::ShowWithExponent()
     constexpr int kDecimals = 4;
     if (std::isfinite(m_dValue))
     {
-        wchar_t szText[c_nDoubleTextSize];
+        wchar_t szText[kDoubleTextSize];
         SetText(gfnFormatExponent(szText, kDecimals, m_dValue));
         return;
     }

@@ -49,7 +49,7 @@ CFontSelectionComboBox::CFontSelectionComboBox(AFontSelectionNotificationHandler
 
 CFontSelectionComboBox::~CFontSelectionComboBox() = default;
 
-// Wanted: c_nFillMessage has no entry, so that the posts of it do nothing.
+// Wanted: kFillMessage has no entry, so that the posts of it do nothing.
 BEGIN_MESSAGE_MAP(CFontSelectionComboBox, CComboBox)
     ON_WM_CREATE()
     ON_WM_DESTROY()
@@ -142,7 +142,7 @@ void CFontSelectionComboBox::PreSubclassWindow()
 
 void CFontSelectionComboBox::FillFonts()
 {
-    PostMessage(c_nFillMessage);
+    PostMessage(kFillMessage);
 }
 
 void CFontSelectionComboBox::InitFonts()

@@ -48,7 +48,7 @@ class OW_DIALOGCONTROLS_API CFontSelectionComboBox : public CComboBox
 public:
     /// Posted by FillFonts, and when a window is made. The control itself does not handle it; a derived class
     /// may, with OnInitFonts.
-    static constexpr UINT c_nFillMessage = WM_USER + 123;
+    static constexpr UINT kFillMessage = WM_USER + 123;
 
     /// The handler is not owned, may be null, and must outlive the combo box.
     explicit CFontSelectionComboBox(AFontSelectionNotificationHandler* pHandler = nullptr);

@@ -23,12 +23,12 @@
 class CMessageBoxLayout
 {
 public:
-    static constexpr int c_nMinTextWidth = 200;
-    static constexpr int c_nMaxTextWidth = 500;
-    static constexpr int c_nLineHeight = 13;
-    static constexpr int c_nMinTextHeight = 39; ///< three lines
-    static constexpr int c_nIconLeft = 12;
-    static constexpr int c_nIconTop = 12;
+    static constexpr int kMinTextWidth = 200;
+    static constexpr int kMaxTextWidth = 500;
+    static constexpr int kLineHeight = 13;
+    static constexpr int kMinTextHeight = 39; ///< three lines
+    static constexpr int kIconLeft = 12;
+    static constexpr int kIconTop = 12;
 
     /// `button`: the size of one, as the template gives it. `dScale`: dots per inch by 96. `frame`: what the
     /// window is larger than its client area.
@@ -39,7 +39,7 @@ public:
 
     static int TextHeight(int nLines)
     {
-        return nLines < c_nFewLines ? c_nMinTextHeight : c_nLineHeight * nLines;
+        return nLines < kFewLines ? kMinTextHeight : kLineHeight * nLines;
     }
 
     /// The number of lines with which the window is not higher than `nHeight`; at least those of the least
@@ -47,39 +47,39 @@ public:
     int MaxLines(int nHeight) const
     {
         const int nText = static_cast<int>(nHeight / m_dScale) - m_frame.cy - HeightAround();
-        return (std::max)(nText / c_nLineHeight, c_nMinTextHeight / c_nLineHeight);
+        return (std::max)(nText / kLineHeight, kMinTextHeight / kLineHeight);
     }
 
     /// Says how large the text is; the questions below may be asked after it only.
     void SetText(int nWidth, int nHeight)
     {
         m_text = CSize((std::max)(ScaledRow(), nWidth), nHeight);
-        m_client = CSize(m_text.cx + 2 * c_nMargin + IconColumn(), m_text.cy + HeightAround());
+        m_client = CSize(m_text.cx + 2 * kMargin + IconColumn(), m_text.cy + HeightAround());
     }
 
     CSize Window() const { return CSize(Scaled(m_client.cx + m_frame.cx), Scaled(m_client.cy + m_frame.cy)); }
 
-    CRect Text() const { return CRect(CPoint(c_nMargin + IconColumn(), c_nMargin), m_text); }
+    CRect Text() const { return CRect(CPoint(kMargin + IconColumn(), kMargin), m_text); }
 
     /// Upper left corner of a button, counted from 0.
     CPoint Button(int nIndex) const
     {
         const int nFirst = m_client.cx / 2 - ScaledRow() / 2;
         return CPoint(Scaled(nFirst + nIndex * Scaled(Step())),
-                      Scaled(m_client.cy - m_button.cy - c_nMargin));
+                      Scaled(m_client.cy - m_button.cy - kMargin));
     }
 
 private:
-    static constexpr int c_nMargin = 12;
-    static constexpr int c_nButtonGap = 8;
-    static constexpr int c_nIconColumn = 44;
-    static constexpr int c_nFewLines = 4;
+    static constexpr int kMargin = 12;
+    static constexpr int kButtonGap = 8;
+    static constexpr int kIconColumn = 44;
+    static constexpr int kFewLines = 4;
 
     int Scaled(int nPixels) const { return static_cast<int>(nPixels * m_dScale); }
-    int Step() const { return m_button.cx + c_nButtonGap; }
-    int ScaledRow() const { return Scaled(Step() * m_nButtons - c_nButtonGap); }
-    int HeightAround() const { return m_button.cy + 3 * c_nMargin; }
-    int IconColumn() const { return m_bIcon ? c_nIconColumn : 0; }
+    int Step() const { return m_button.cx + kButtonGap; }
+    int ScaledRow() const { return Scaled(Step() * m_nButtons - kButtonGap); }
+    int HeightAround() const { return m_button.cy + 3 * kMargin; }
+    int IconColumn() const { return m_bIcon ? kIconColumn : 0; }
 
     CSize m_button;
     int m_nButtons;

@@ -29,7 +29,7 @@ int IconIdOf(unsigned int nIconType)
     case MB_ICONINFORMATION:
         return IDI_OW_INFORMATION;
     default:
-        INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", c_szMessageBoxSource, 194);
+        INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", kMessageBoxSource, 194);
     }
 }
 
@@ -97,7 +97,7 @@ void COstrelMessageBoxA::OnPaint()
 {
     CPaintDC dc(this);
     if (m_pIcon)
-        dc.DrawIcon(CMessageBoxLayout::c_nIconLeft, CMessageBoxLayout::c_nIconTop, m_pIcon.get());
+        dc.DrawIcon(CMessageBoxLayout::kIconLeft, CMessageBoxLayout::kIconTop, m_pIcon.get());
 }
 
 // The wheel turns over the button that has the focus. A text that is shown whole does not move.
@@ -133,8 +133,8 @@ void COstrelMessageBoxA::Set(const CString& strText, const CString& strCaption)
 
 void COstrelMessageBoxA::SetButtonText(int nButton, const CString& strText)
 {
-    if (nButton < 1 || nButton > c_nMaxButtons)
-        INTERNAL_ERROR_AT(L"Vrednost za <n> mora biti od 1 do 4!", c_szMessageBoxSource, 273);
+    if (nButton < 1 || nButton > kMaxButtons)
+        INTERNAL_ERROR_AT(L"Vrednost za <n> mora biti od 1 do 4!", kMessageBoxSource, 273);
     m_strButton[nButton - 1] = strText;
     m_nButtons = (std::max)(m_nButtons, nButton);
 }
@@ -180,7 +180,7 @@ void COstrelMessageBoxA::SetButtonFaces()
         Button(i).SetWindowText(strCaption);
         Button(i).SetIcon(IconOfCaption(strCaption), nullptr);
     }
-    for (int i = 1; i <= c_nMaxButtons; ++i)
+    for (int i = 1; i <= kMaxButtons; ++i)
         Button(i).ShowWindow(i <= m_nButtons ? SW_SHOW : SW_HIDE);
 }
 
@@ -198,12 +198,12 @@ void COstrelMessageBoxA::Arrange()
     m_btnFirst.GetWindowRect(rectButton);
     CMessageBoxLayout layout(rectButton.Size(), m_nButtons, ScreenScale(), FrameSize(), m_nIconType != 0);
 
-    const int nLines = CountLinesAt(CMessageBoxLayout::c_nMaxTextWidth);
+    const int nLines = CountLinesAt(CMessageBoxLayout::kMaxTextWidth);
     const int nMaxLines = layout.MaxLines(WorkAreaHeight());
     if (nLines <= nMaxLines)
         layout.SetText(FindTextWidth(nLines), CMessageBoxLayout::TextHeight(nLines));
     else
-        layout.SetText(CMessageBoxLayout::c_nMaxTextWidth, CMessageBoxLayout::TextHeight(nMaxLines));
+        layout.SetText(CMessageBoxLayout::kMaxTextWidth, CMessageBoxLayout::TextHeight(nMaxLines));
 
     SetWindowPos(nullptr, 0, 0, layout.Window().cx, layout.Window().cy,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -229,7 +229,7 @@ CSize COstrelMessageBoxA::FrameSize() const
 
 int COstrelMessageBoxA::CountLinesAt(int nWidth)
 {
-    m_editMessage.SetWindowPos(nullptr, 0, 0, nWidth, CMessageBoxLayout::c_nMinTextHeight,
+    m_editMessage.SetWindowPos(nullptr, 0, 0, nWidth, CMessageBoxLayout::kMinTextHeight,
                                SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW);
     return m_editMessage.GetLineCount();
 }
@@ -242,8 +242,8 @@ int COstrelMessageBoxA::CountLinesAt(int nWidth)
 int COstrelMessageBoxA::FindTextWidth(int nFewestLines)
 {
     // nNarrow is taken for too narrow, nWide is wide enough.
-    int nNarrow = CMessageBoxLayout::c_nMinTextWidth - (nFewestLines <= 1 ? kTextWidthStep : 0);
-    int nWide = CMessageBoxLayout::c_nMaxTextWidth;
+    int nNarrow = CMessageBoxLayout::kMinTextWidth - (nFewestLines <= 1 ? kTextWidthStep : 0);
+    int nWide = CMessageBoxLayout::kMaxTextWidth;
     while (nWide - nNarrow > kTextWidthStep)
     {
         const int nMiddle = nNarrow + (nWide - nNarrow) / kTextWidthStep / 2 * kTextWidthStep;

@@ -7,12 +7,12 @@
 #include <memory>
 
 /// How reports name the source of the message box.
-inline constexpr char c_szMessageBoxSource[] = ".\\OstrelMessageBox";
+inline constexpr char kMessageBoxSource[] = ".\\OstrelMessageBox";
 
 class COstrelMessageBoxA : public CDialog
 {
 public:
-    static constexpr int c_nMaxButtons = 4;
+    static constexpr int kMaxButtons = 4;
 
     explicit COstrelMessageBoxA(CWnd* pParent);
 
@@ -75,5 +75,5 @@ private:
     unsigned int m_nIconType = 0;
     CString m_strText; ///< in the source language
     CString m_strCaption;
-    CString m_strButton[c_nMaxButtons];
+    CString m_strButton[kMaxButtons];
 };

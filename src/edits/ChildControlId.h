@@ -11,10 +11,10 @@ class CChildControlId
 {
 public:
     /// What is passed for a control that the box shall create.
-    static constexpr unsigned int c_nCreate = 11000;
+    static constexpr unsigned int kCreate = 11000;
 
     explicit CChildControlId(unsigned int nId)
-        : m_bOwn(nId == c_nCreate), m_nId(m_bOwn ? ResourceIdPool::Object().AcquireId() : nId)
+        : m_bOwn(nId == kCreate), m_nId(m_bOwn ? ResourceIdPool::Object().AcquireId() : nId)
     {
     }
     ~CChildControlId()

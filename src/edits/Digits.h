@@ -8,7 +8,7 @@
 namespace ow
 {
 /// "00", "01", ... "99"
-constexpr auto c_digitPairs = []
+constexpr auto kDigitPairs = []
 {
     std::array<wchar_t, 200> pairs{};
     for (int i = 0; i < 100; ++i)
@@ -23,7 +23,7 @@ constexpr auto c_digitPairs = []
 inline wchar_t* gfnWritePair(wchar_t* psz, unsigned n)
 {
     psz -= 2;
-    std::memcpy(psz, &c_digitPairs[2 * n], 2 * sizeof *psz);
+    std::memcpy(psz, &kDigitPairs[2 * n], 2 * sizeof *psz);
     return psz;
 }
 

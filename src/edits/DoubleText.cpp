@@ -27,11 +27,11 @@ _locale_t PointLocale()
 }
 
 /// False if the text does not fit.
-bool FormatInto(wchar_t (&szText)[c_nDoubleTextSize], const wchar_t* pszFormat, double dValue)
+bool FormatInto(wchar_t (&szText)[kDoubleTextSize], const wchar_t* pszFormat, double dValue)
 {
     // The run-time library's own function, which is also behind CString::Format: the two write the same
     // exponents.
-    return _snwprintf_s_l(szText, c_nDoubleTextSize, _TRUNCATE, pszFormat, PointLocale(), dValue) >= 0;
+    return _snwprintf_s_l(szText, kDoubleTextSize, _TRUNCATE, pszFormat, PointLocale(), dValue) >= 0;
 }
 
 CString NameOfNonNumber(double dValue)
@@ -50,7 +50,7 @@ bool RoundsTiesUp()
 {
     static const bool s_bUp = []
     {
-        wchar_t szText[c_nDoubleTextSize];
+        wchar_t szText[kDoubleTextSize];
         return FormatInto(szText, L"%.0f", 2.5) && *szText == L'3';
     }();
     return s_bUp;
@@ -130,22 +130,22 @@ int ExponentDigits()
 {
     static const int s_nDigits = []
     {
-        wchar_t szText[c_nDoubleTextSize];
+        wchar_t szText[kDoubleTextSize];
         return FormatInto(szText, L"%.0E", 1.0) ? static_cast<int>(wcslen(szText)) - 3 : 2; // behind 1E+
     }();
     return s_nDigits;
 }
-const wchar_t* CopyText(wchar_t (&szText)[c_nDoubleTextSize], const CString& strText)
+const wchar_t* CopyText(wchar_t (&szText)[kDoubleTextSize], const CString& strText)
 {
-    wcscpy_s(szText, c_nDoubleTextSize, strText);
+    wcscpy_s(szText, kDoubleTextSize, strText);
     return szText;
 }
 
 /// `write` writes a number without its sign, its end before the given place, and answers where it begins.
 template <class Write>
-const wchar_t* SignedText(wchar_t (&szText)[c_nDoubleTextSize], double dValue, Write write)
+const wchar_t* SignedText(wchar_t (&szText)[kDoubleTextSize], double dValue, Write write)
 {
-    wchar_t* const pszEnd = szText + c_nDoubleTextSize - 1;
+    wchar_t* const pszEnd = szText + kDoubleTextSize - 1;
     *pszEnd = L'\0';
     wchar_t* pszText = write(pszEnd);
     if (std::signbit(dValue))
@@ -158,7 +158,7 @@ CString gfnDoublePrintfFormat(EDoubleFormat eFormat, int nDecimals)
 {
     // More decimals than the text has room for make no difference, and the run-time library need not try
     // them.
-    const int nShown = std::clamp(nDecimals, 0, c_nDoubleTextSize);
+    const int nShown = std::clamp(nDecimals, 0, kDoubleTextSize);
     CString strFormat;
     switch (eFormat)
     {
@@ -179,7 +179,7 @@ CString gfnFormatDouble(const wchar_t* pszFormat, double dValue)
 {
     if (!std::isfinite(dValue))
         return NameOfNonNumber(dValue);
-    wchar_t szText[c_nDoubleTextSize];
+    wchar_t szText[kDoubleTextSize];
     if (!FormatInto(szText, pszFormat, dValue))
         FormatInto(szText, kExactFormat, dValue);
     return szText;
@@ -187,7 +187,7 @@ CString gfnFormatDouble(const wchar_t* pszFormat, double dValue)
 
 // The run-time library takes most of the time that a column of numbers needs. What is not a close case of
 // rounding is a whole number and a point.
-const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals, double dValue)
+const wchar_t* gfnFormatFixed(wchar_t (&szText)[kDoubleTextSize], int nDecimals, double dValue)
 {
     const std::optional<std::uint64_t> count = CountLastDecimals(std::fabs(dValue), nDecimals);
     if (!count)
@@ -197,7 +197,7 @@ const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimal
                       [&](wchar_t* psz) { return ow::gfnWriteDecimals(psz, *count, nDecimals); });
 }
 
-const wchar_t* gfnFormatExponent(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals, double dValue)
+const wchar_t* gfnFormatExponent(wchar_t (&szText)[kDoubleTextSize], int nDecimals, double dValue)
 {
     const std::optional<SScientific> parts =
         std::isfinite(dValue) ? ToScientific(std::fabs(dValue), nDecimals) : std::nullopt;
@@ -246,7 +246,7 @@ CLocalNumber::CLocalNumber(const wchar_t* pszText) : m_pszText(pszText)
 bool gfnParseDouble(const wchar_t* pszText, double& dValue)
 {
     double dParsed = 0.0;
-    if (swscanf(CLocalNumber(pszText), c_szDoubleScanfFormat, &dParsed) != 1 || !std::isfinite(dParsed))
+    if (swscanf(CLocalNumber(pszText), kDoubleScanfFormat, &dParsed) != 1 || !std::isfinite(dParsed))
         return false;
     dValue = dParsed;
     return true;

@@ -9,7 +9,7 @@
 //
 // The decimal sign is a point, whatever the locale of the process. Texts are bounded, but for those of
 // gfnFormatAllDigits: however large the number and however many the decimals, no text is longer than
-// c_nDoubleTextSize - 1 characters.
+// kDoubleTextSize - 1 characters.
 
 #include <afxwin.h>
 
@@ -24,7 +24,7 @@ enum EDoubleFormat : int
 };
 
 /// Characters of the longest text, its terminating null included.
-constexpr int c_nDoubleTextSize = 100;
+constexpr int kDoubleTextSize = 100;
 
 /// The printf format of a number: "%G", "%.2f", "%.2E". The general format pays no heed to the decimals.
 /// Fewer than no decimals count as none. A format that is none of the three gives an empty string, and with
@@ -32,7 +32,7 @@ constexpr int c_nDoubleTextSize = 100;
 OW_DIALOGCONTROLS_API CString gfnDoublePrintfFormat(EDoubleFormat eFormat, int nDecimals);
 
 /// The scanf format that every number is read with.
-constexpr const wchar_t* c_szDoubleScanfFormat = L"%lf";
+constexpr const wchar_t* kDoubleScanfFormat = L"%lf";
 
 /// Writes a number by a printf format with at most one conversion, of a double.
 ///
@@ -42,11 +42,11 @@ OW_DIALOGCONTROLS_API CString gfnFormatDouble(const wchar_t* pszFormat, double d
 
 /// Writes a number with the fixed format and so many decimals: the text that gfnFormatDouble makes of it,
 /// without its cost, for those who write thousands. Answers where in `szText` it begins.
-OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals,
+OW_DIALOGCONTROLS_API const wchar_t* gfnFormatFixed(wchar_t (&szText)[kDoubleTextSize], int nDecimals,
                                                     double dValue);
 
 /// The same with the exponent format.
-OW_DIALOGCONTROLS_API const wchar_t* gfnFormatExponent(wchar_t (&szText)[c_nDoubleTextSize], int nDecimals,
+OW_DIALOGCONTROLS_API const wchar_t* gfnFormatExponent(wchar_t (&szText)[kDoubleTextSize], int nDecimals,
                                                        double dValue);
 
 /// Writes a number with the fixed format and so many decimals, at most 65535, however long the text becomes.

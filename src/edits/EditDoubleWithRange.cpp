@@ -15,22 +15,22 @@ namespace
 // Stands for "no value". Computed when the library is loaded, and told from other NaNs by its bits.
 const double g_dEmpty = std::fmod(1.0, 0.0);
 
-constexpr DWORD c_dwSpinStyle = WS_VISIBLE | UDS_ARROWKEYS | UDS_ALIGNRIGHT;
-constexpr DWORD c_dwUnitLabelStyle = WS_VISIBLE | SS_CENTERIMAGE;
+constexpr DWORD kSpinStyle = WS_VISIBLE | UDS_ARROWKEYS | UDS_ALIGNRIGHT;
+constexpr DWORD kUnitLabelStyle = WS_VISIBLE | SS_CENTERIMAGE;
 
 // The spin only tells of presses: it stands in the middle of its range and can go both ways for ever.
-constexpr short c_nSpinMin = 0, c_nSpinMax = 100, c_nSpinPos = 50;
+constexpr short kSpinMin = 0, kSpinMax = 100, kSpinPos = 50;
 
 // Just below a half: a number between two steps goes to the nearer one first and then one step on, and one
 // that rounding has put a little beside its step goes exactly one step.
-constexpr double c_dSnap = 0.4995;
+constexpr double kSnap = 0.4995;
 
 /// The number `nDelta` steps from the base; nothing if no finite number is there. Whole numbers of steps are
 /// counted in a double, so that a count of any size is defined.
 std::optional<double> StepFrom(double dBase, double dStep, int nDelta)
 {
     const double dCount =
-        nDelta > 0 ? std::floor(dBase / dStep + c_dSnap) : std::ceil(dBase / dStep - c_dSnap);
+        nDelta > 0 ? std::floor(dBase / dStep + kSnap) : std::ceil(dBase / dStep - kSnap);
     const double dNext = (dCount + nDelta) * dStep;
     return std::isfinite(dNext) ? std::optional(dNext) : std::nullopt;
 }
@@ -117,20 +117,20 @@ void CEditDoubleWithRange::AttachSpin()
         return;
     CRect rect;
     GetClientRect(rect);
-    const BOOL bAttached = m_spinId.IsOwn() ? m_spin.Create(c_dwSpinStyle, rect, GetParent(), m_spinId.Get())
+    const BOOL bAttached = m_spinId.IsOwn() ? m_spin.Create(kSpinStyle, rect, GetParent(), m_spinId.Get())
                                             : m_spin.SubclassDlgItem(m_spinId.Get(), GetParent());
     if (!bAttached)
         return;
     m_spin.SetBuddy(this);
-    m_spin.SetRange(c_nSpinMin, c_nSpinMax);
-    m_spin.SetPos(c_nSpinPos);
+    m_spin.SetRange(kSpinMin, kSpinMax);
+    m_spin.SetPos(kSpinPos);
 }
 
 void CEditDoubleWithRange::CreateOwnUnitLabel()
 {
     if (!m_unitLabelId.IsOwn())
         return;
-    m_unitLabel.Create(L"", c_dwUnitLabelStyle, CalcUnitRect(), GetParent(), m_unitLabelId.Get());
+    m_unitLabel.Create(L"", kUnitLabelStyle, CalcUnitRect(), GetParent(), m_unitLabelId.Get());
     m_unitLabel.SetFont(GetParent()->GetFont());
 }
 
@@ -267,7 +267,7 @@ CString CEditDoubleWithRange::GetPrintfFormatString() const
 
 CString CEditDoubleWithRange::GetScanfFormatString() const
 {
-    return c_szDoubleScanfFormat;
+    return kDoubleScanfFormat;
 }
 
 void CEditDoubleWithRange::SetComplexUnit(const CComplexUnit& unit)

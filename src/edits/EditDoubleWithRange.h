@@ -4,8 +4,8 @@
 // ```cpp
 //     class CPlateDialog : public CDialog, public CEditDWRNotificationHandler
 //     {
-//         CEditDoubleWithRange m_editThickness{this, CEditDoubleWithRange::c_nCreateControl,
-//                                              CEditDoubleWithRange::c_nCreateControl};
+//         CEditDoubleWithRange m_editThickness{this, CEditDoubleWithRange::kCreateControl,
+//                                              CEditDoubleWithRange::kCreateControl};
 //         void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, IDC_THICKNESS, m_editThickness); }
 //         BOOL OnInitDialog() override
 //         {
@@ -43,7 +43,7 @@
 // leads nowhere does nothing: the step is zero or no number, or the result is beyond what a double holds.
 //
 // Control ids. The unit label and the spin may stand in the dialog template; then their ids are given. Or the
-// box creates them, for which c_nCreateControl is given: they get ids of the ResourceIdPool, enough for a
+// box creates them, for which kCreateControl is given: they get ids of the ResourceIdPool, enough for a
 // hundred such boxes at a time, and belong to the box. They come up visible, are shown and hidden with the
 // box from then on, and end with it; those of the template are left alone. An id of 0 means that there is no
 // such control. A spin with UDS_ALIGNRIGHT, as the box's own one is, takes its width from the box's.
@@ -66,7 +66,7 @@ class OW_DIALOGCONTROLS_API CEditDoubleWithRange : public CEditWithValidation
 {
 public:
     /// Given to the constructor in place of an id: the box creates the control itself.
-    static constexpr unsigned int c_nCreateControl = ow::CChildControlId::c_nCreate;
+    static constexpr unsigned int kCreateControl = ow::CChildControlId::kCreate;
 
     /// The handler is not owned; null: the parent is asked.
     explicit CEditDoubleWithRange(CEditNNotificationHandler* pHandler, unsigned int nUnitLabelId = 0,

@@ -16,23 +16,23 @@ struct SEscSeq
     bool bDimension = false;
 };
 
-constexpr SEscSeq c_acadText[] = {
+constexpr SEscSeq kAcadText[] = {
     {L"%%c", L"oznaka za fi"},
 };
 
-constexpr SEscSeq c_member[] = {
+constexpr SEscSeq kMember[] = {
     {L"%i", L"simbol profila"}, {L"%f", L"oznaka profila"},     {L"%m", L"broj profila u preseku"},
     {L"%o", L"tip profila"},    {L"%d", L"duzina stapa", true},
 };
 
-constexpr SEscSeq c_plate[] = {
+constexpr SEscSeq kPlate[] = {
     {L"%i", L"simbol za kotu"},
     {L"%l", L"duzina lima", true},
     {L"%w", L"sirina lima", true},
     {L"%h", L"debljina lima"},
 };
 
-constexpr SEscSeq c_productionMember[] = {
+constexpr SEscSeq kProductionMember[] = {
     {L"%i", L"simbol profila"},
     {L"%f", L"oznaka profila"},
     {L"%m", L"broj profila u preseku"},
@@ -202,20 +202,20 @@ int CEditEscSeqText::EnumEscSeq(OCArray<CString>& codes, OCArray<CString>& descr
 
 int CEditAcadEscSeqText::EnumEscSeq(OCArray<CString>& codes, OCArray<CString>& descriptions) const
 {
-    return ListEscSeq(c_acadText, codes, descriptions);
+    return ListEscSeq(kAcadText, codes, descriptions);
 }
 
 int CEditAcadEscSeqSpecStapa::EnumEscSeq(OCArray<CString>& codes, OCArray<CString>& descriptions) const
 {
-    return ListEscSeq(c_member, codes, descriptions, m_bNoDimensions);
+    return ListEscSeq(kMember, codes, descriptions, m_bNoDimensions);
 }
 
 int CEditAcadEscSeqSpecLima::EnumEscSeq(OCArray<CString>& codes, OCArray<CString>& descriptions) const
 {
-    return ListEscSeq(c_plate, codes, descriptions, m_bNoDimensions);
+    return ListEscSeq(kPlate, codes, descriptions, m_bNoDimensions);
 }
 
 int CEditAcadEscSeqSpecProizvStapa::EnumEscSeq(OCArray<CString>& codes, OCArray<CString>& descriptions) const
 {
-    return ListEscSeq(c_productionMember, codes, descriptions);
+    return ListEscSeq(kProductionMember, codes, descriptions);
 }

@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int c_nLongestText = 11; // characters of -2147483648
+constexpr int kLongestText = 11; // characters of -2147483648
 
 bool ParseInteger(CString strText, int& n)
 {
@@ -35,7 +35,7 @@ END_MESSAGE_MAP()
 void CEditIntegerWithRange::HandlerOnCreate()
 {
     CEditWithValidation::HandlerOnCreate();
-    SetLimitText(c_nLongestText);
+    SetLimitText(kLongestText);
 }
 
 void CEditIntegerWithRange::SetValue(int n, bool bForce)

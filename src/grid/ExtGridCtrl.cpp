@@ -57,7 +57,7 @@ void CExtGridCtrl::ShowCurrentRow(int nRow, int nCol)
 {
     const CGridDrawingStop stop(*this);
     if (m_nCurrentRow != -1)
-        gfnPaintRow(*this, m_nCurrentRow, c_crRestingColor);
+        gfnPaintRow(*this, m_nCurrentRow, kRestingColor);
     gfnPaintRow(*this, nRow, m_crSelectedRow);
     EnsureVisible(nRow, nCol); // here, with drawing stopped, it does not scroll: wanted
 }

@@ -30,8 +30,8 @@ public:
 
 private:
     int m_nBandRows = 0;
-    COLORREF m_crBand = c_crRestingColor;
-    COLORREF m_crBody = c_crRestingColor;
+    COLORREF m_crBand = kRestingColor;
+    COLORREF m_crBody = kRestingColor;
 };
 } // namespace
 

@@ -19,7 +19,7 @@ private:
 
 /// The colour of what is neither current nor coloured by the client. White itself, not CLR_INHERIT: a cell
 /// that was current keeps a colour of its own.
-constexpr COLORREF c_crRestingColor = RGB(255, 255, 255);
+constexpr COLORREF kRestingColor = RGB(255, 255, 255);
 
 // Backgrounds of a row's or a column's cells beyond the fixed ones. Without effect in virtual mode, and
 // outside the grid.

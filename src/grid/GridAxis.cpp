@@ -35,7 +35,7 @@ void CGridAxis::SetCount(int nCount, int nSizeOfNew)
 // The room is there as entries that nobody looks at: an array without entries gives its memory back.
 void CGridAxis::Reserve(LONGLONG nCount)
 {
-    if (nCount > c_nMostItems)
+    if (nCount > kMostItems)
         AfxThrowMemoryException();
     if (nCount <= m_sizes.GetSize())
         return;

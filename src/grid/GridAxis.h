@@ -33,7 +33,7 @@ class OW_DIALOGCONTROLS_API CGridAxis
 public:
     /// More items are answered with a memory exception, without trying: of items a dozen pixels high, more
     /// could not be scrolled to.
-    static constexpr int c_nMostItems = 0x07FFFFFF;
+    static constexpr int kMostItems = 0x07FFFFFF;
 
     /// How many items there are, the fixed ones included.
     int Count() const { return m_nCount; }

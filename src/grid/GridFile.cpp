@@ -35,15 +35,15 @@ void WriteRows(const CGridCtrl& grid, CStdioFile& file, wchar_t chSeparator)
 
 void ReadRows(CGridCtrl& grid, CStdioFile& file, wchar_t chSeparator)
 {
-    wchar_t szLine[CTextFields::c_nLineSize] = {};
-    if (!file.ReadString(szLine, CTextFields::c_nLineSize))
+    wchar_t szLine[CTextFields::kLineSize] = {};
+    if (!file.ReadString(szLine, CTextFields::kLineSize))
         return;
     CTextFields headings(szLine, chSeparator);
     while (const LPCWSTR pszHeading = headings.Next())
         grid.InsertColumn(pszHeading, GV_HEADING_FORMAT, -1);
 
     // Row 0 holds the headings, so the appended rows begin at 1 while this counts from 0.
-    for (int nRow = 0; file.ReadString(szLine, CTextFields::c_nLineSize); ++nRow)
+    for (int nRow = 0; file.ReadString(szLine, CTextFields::kLineSize); ++nRow)
     {
         CTextFields fields(szLine, chSeparator);
         int nCol = 0;

@@ -1,8 +1,8 @@
 #pragma once
 // For the grid's own sources: the fields of one line of a text file, as they are read in place.
 //
-//     wchar_t szLine[CTextFields::c_nLineSize] = {};
-//     while (file.ReadString(szLine, CTextFields::c_nLineSize))
+//     wchar_t szLine[CTextFields::kLineSize] = {};
+//     while (file.ReadString(szLine, CTextFields::kLineSize))
 //     {
 //         CTextFields fields(szLine, L',');
 //         while (const LPCWSTR pszField = fields.Next())
@@ -21,11 +21,11 @@ class CTextFields
 {
 public:
     /// Characters of a line, with its terminator. A longer one is read in pieces, each a line.
-    static constexpr int c_nLineSize = 1024;
+    static constexpr int kLineSize = 1024;
 
     /// The line is changed, and keeps its separators no longer.
-    CTextFields(wchar_t (&szLine)[c_nLineSize], wchar_t chSeparator)
-        : m_pszNext(szLine), m_pszEnd(szLine + c_nLineSize), m_chSeparator(chSeparator)
+    CTextFields(wchar_t (&szLine)[kLineSize], wchar_t chSeparator)
+        : m_pszNext(szLine), m_pszEnd(szLine + kLineSize), m_chSeparator(chSeparator)
     {
     }
 

@@ -4,9 +4,9 @@
 
 namespace
 {
-constexpr double c_dMinHeight = 0.001; // in metres on paper, as the maximum
-constexpr double c_dMaxHeight = 0.02;
-constexpr double c_dHeightStep = 0.5; // in millimetres
+constexpr double kMinHeight = 0.001; // in metres on paper, as the maximum
+constexpr double kMaxHeight = 0.02;
+constexpr double kHeightStep = 0.5; // in millimetres
 
 CComplexUnit Millimetre()
 {
@@ -40,7 +40,7 @@ CFontCtrlGroup::CFontCtrlGroup(UINT nFontId, UINT nHeightId, UINT nColorId, UINT
                                UINT nCheck3Id, UINT nApplyId, AFontCtrlGroupNotificationHandler* pHandler)
     : m_nFontId(nFontId), m_nHeightId(nHeightId), m_nColorId(nColorId), m_nCheck1Id(nCheck1Id),
       m_nCheck2Id(nCheck2Id), m_nCheck3Id(nCheck3Id), m_nApplyId(nApplyId), m_comboFont(this),
-      m_editHeight(this, CEditDoubleWithRange::c_nCreateControl, CEditDoubleWithRange::c_nCreateControl),
+      m_editHeight(this, CEditDoubleWithRange::kCreateControl, CEditDoubleWithRange::kCreateControl),
       m_btnColor(this), m_btnCheck1(this), m_btnCheck2(this), m_btnCheck3(this), m_btnApply(this),
       m_pHandler(pHandler)
 {
@@ -63,8 +63,8 @@ int CFontCtrlGroup::OnInitDialog()
 {
     CFontSelectionComboBox::LoadIcons();
     m_editHeight.SetComplexUnit(Millimetre());
-    m_editHeight.SetRange(c_dMinHeight, c_dMaxHeight);
-    m_editHeight.SetSpinStep(c_dHeightStep);
+    m_editHeight.SetRange(kMinHeight, kMaxHeight);
+    m_editHeight.SetSpinStep(kHeightStep);
     m_editHeight.SetFormat(eDoubleFormatFixed, 1);
     m_btnApply.SetIcon(CButtonST::hApplyToAll);
     if (HasWindows())

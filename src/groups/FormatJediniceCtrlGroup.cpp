@@ -4,14 +4,14 @@
 
 namespace
 {
-constexpr int c_nUnits = 6;       // of length, numbered from 0
-constexpr int c_nDefaultUnit = 2; // the millimetre
-constexpr int c_nLength = 0;      // kind of a measurement unit
-constexpr int c_nMaxNumber = 15;  // in the edit
-constexpr int c_nAtEnd = -1;      // of a list, also of a sorted one
+constexpr int kUnits = 6;       // of length, numbered from 0
+constexpr int kDefaultUnit = 2; // the millimetre
+constexpr int kLength = 0;      // kind of a measurement unit
+constexpr int kMaxNumber = 15;  // in the edit
+constexpr int kAtEnd = -1;      // of a list, also of a sorted one
 
 /// The bits that mark a three-state button that leaves its state to us.
-constexpr DWORD c_dwStateByHand = BS_3STATE;
+constexpr DWORD kStateByHand = BS_3STATE;
 } // namespace
 
 CFormatJediniceCtrlGroup::CFormatJediniceCtrlGroup(int nComboId, int nButtonId, int nEditId,
@@ -19,7 +19,7 @@ CFormatJediniceCtrlGroup::CFormatJediniceCtrlGroup(int nComboId, int nButtonId, 
     : m_nComboId(nComboId), m_nButtonId(nButtonId), m_nEditId(nEditId), m_combo(this), m_button(this),
       m_edit(this), m_pHandler(pHandler)
 {
-    m_edit.SetRange(0, c_nMaxNumber);
+    m_edit.SetRange(0, kMaxNumber);
 }
 
 CFormatJediniceCtrlGroup::~CFormatJediniceCtrlGroup() = default;
@@ -110,7 +110,7 @@ void CFormatJediniceCtrlGroup::OnButtonClicked(int nId)
     if (!m_button.m_hWnd)
         return;
     const int nState = m_button.GetCheck();
-    if ((m_button.GetStyle() & c_dwStateByHand) == c_dwStateByHand)
+    if ((m_button.GetStyle() & kStateByHand) == kStateByHand)
         m_button.SetCheck(nState == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED);
     if (nId != m_nButtonId)
         return;
@@ -145,8 +145,8 @@ void CFormatJediniceCtrlGroup::ListUnits()
     m_combo.ResetContent();
     if (!m_pFormat)
         return;
-    for (int nUnit = 0; nUnit < c_nUnits; ++nUnit)
-        m_combo.InsertString(c_nAtEnd, CComplexUnit(CMeasurementUnit(nUnit, c_nLength)).Symbol());
+    for (int nUnit = 0; nUnit < kUnits; ++nUnit)
+        m_combo.InsertString(kAtEnd, CComplexUnit(CMeasurementUnit(nUnit, kLength)).Symbol());
     SelectUnit(m_pFormat->nUnitIndex);
 }
 
@@ -168,8 +168,8 @@ void CFormatJediniceCtrlGroup::StoreControls()
 {
     const CFormatJedinice shown = GetCtrlState();
     if (shown.nUnitIndex == CB_ERR)
-        m_combo.SetCurSel(c_nDefaultUnit);
-    m_pFormat->nUnitIndex = shown.nUnitIndex == CB_ERR ? c_nDefaultUnit : shown.nUnitIndex;
+        m_combo.SetCurSel(kDefaultUnit);
+    m_pFormat->nUnitIndex = shown.nUnitIndex == CB_ERR ? kDefaultUnit : shown.nUnitIndex;
     m_pFormat->nCheckFlag = shown.nCheckFlag;
     m_pFormat->nEditValue = shown.nEditValue;
 }

@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr int c_nMaxClassName = 1024; // characters
+constexpr int kMaxClassName = 1024; // characters
 
 /// IDC_STATIC; the older kind of template holds ids in 16 bits.
 bool IsNoId(int nId)
@@ -14,8 +14,8 @@ bool IsNoId(int nId)
 
 bool IsLabel(const CWnd& control)
 {
-    wchar_t szClass[c_nMaxClassName] = L"";
-    ::GetClassNameW(control.m_hWnd, szClass, c_nMaxClassName);
+    wchar_t szClass[kMaxClassName] = L"";
+    ::GetClassNameW(control.m_hWnd, szClass, kMaxClassName);
     return ::lstrcmpiW(szClass, L"static") == 0;
 }
 

@@ -34,7 +34,7 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
         page.SetFormatDole(TextFormat(nDole));
         page.SetFormatIzvor(TextFormat(nIzvor));
     };
-    constexpr int kNotSet = CFormatTekstaKote::c_nNotSet;
+    constexpr int kNotSet = CFormatTekstaKote::kNotSet;
     preSet(kNotSet, kNotSet, kNotSet);
     EXPECT_EQ(flags(), std::vector<int>(8, 0)) << "a text format that is not set is ignored";
     preSet(1, 2, 3);

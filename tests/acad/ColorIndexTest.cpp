@@ -42,8 +42,8 @@ TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
     }
     EXPECT_TRUE(layout.CellRect(0).IsRectEmpty());
     EXPECT_TRUE(layout.CellRect(256).IsRectEmpty());
-    EXPECT_EQ(layout.HitTest(CPoint(-1, 0)), c_nNoColor);
-    EXPECT_EQ(layout.HitTest(layout.CellRect(9).CenterPoint() + CSize(30, 0)), c_nNoColor) << "in the gap";
+    EXPECT_EQ(layout.HitTest(CPoint(-1, 0)), kNoColor);
+    EXPECT_EQ(layout.HitTest(layout.CellRect(9).CenterPoint() + CSize(30, 0)), kNoColor) << "in the gap";
 }
 
 TEST(ColorGrid, ArrowsReachEveryColor)

@@ -42,7 +42,7 @@ private:
 struct OwnControlsBox : CEditDoubleWithRange
 {
     explicit OwnControlsBox(CEditNNotificationHandler* pHandler = nullptr)
-        : CEditDoubleWithRange(pHandler, c_nCreateControl, c_nCreateControl)
+        : CEditDoubleWithRange(pHandler, kCreateControl, kCreateControl)
     {
     }
     CWnd& Label() const { return *GetParent()->GetDlgItem(GetComplexUnitStaticId()); }

@@ -31,14 +31,14 @@ std::wstring Written(EDoubleFormat format, int decimals, double value)
 
 std::wstring WrittenFast(int decimals, double value)
 {
-    wchar_t text[c_nDoubleTextSize];
+    wchar_t text[kDoubleTextSize];
     return gfnFormatFixed(text, decimals, value);
 }
 
 void ExpectSameFast(int decimals, double value)
 {
     EXPECT_EQ(WrittenFast(decimals, value), Written(eDoubleFormatFixed, decimals, value)) << decimals;
-    wchar_t text[c_nDoubleTextSize];
+    wchar_t text[kDoubleTextSize];
     EXPECT_EQ(gfnFormatExponent(text, decimals, value), Written(eDoubleFormatExponent, decimals, value))
         << decimals;
 }

@@ -205,7 +205,7 @@ TEST(TextFields, EndAtSeparatorsAndGoOnBehindAnUnendedLine)
                           {std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
                           {std::wstring(1023, L';'), Fields(1023)}})
     {
-        wchar_t line[CTextFields::c_nLineSize] = {};
+        wchar_t line[CTextFields::kLineSize] = {};
         std::copy(c.line.begin(), c.line.end(), line);
         CTextFields fields(line, L';');
         Fields found;

@@ -22,7 +22,7 @@ CComplexUnit Force(int number)
     return CComplexUnit(CMeasurementUnit(number, CMeasurementUnit::eForce));
 }
 
-const CComplexUnit c_dimensionless(CMeasurementUnit(), 0);
+const CComplexUnit kDimensionless(CMeasurementUnit(), 0);
 } // namespace
 
 TEST(ComplexUnit, LengthsHaveTheirSymbolsAndExactSizes)
@@ -81,7 +81,7 @@ TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
         {Length(1, 4), L"cm⁴", 1e-8},
         {Length(2, 12), L"mm¹²", 1e-36},
         {Length(0, -1), L"1/m", 1.0},
-        {c_dimensionless, L"", 1.0},
+        {kDimensionless, L"", 1.0},
         {degree, L"°", std::numbers::pi / 180}};
     for (const auto& [unit, symbol, size] : cases)
     {
@@ -94,7 +94,7 @@ TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
     EXPECT_TRUE(CComplexUnit() == Length(0));
     EXPECT_TRUE(Length(0) != Length(1) && Length(0) != Length(0, 2));
     EXPECT_TRUE(kN * Length(0) == Length(0) * kN);
-    EXPECT_TRUE(Length(2) / Length(2) == c_dimensionless);
+    EXPECT_TRUE(Length(2) / Length(2) == kDimensionless);
 }
 
 TEST(ComplexUnit, CustomConvertorChangesTheSizeOfAUnit)

@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr COLORREF c_paper = RGB(255, 255, 255);
+constexpr COLORREF kPaper = RGB(255, 255, 255);
 
 struct MixedFont : testing::Test
 {
@@ -29,9 +29,9 @@ struct MixedFont : testing::Test
     void Draw(LPCWSTR text, CPoint point = {0, 0}) { CMixedFont::TextOut(&m_surface.dc(), point, text); }
 
     /// Number of pixels that are not paper.
-    int Ink(const CRect& area) { return area.Width() * area.Height() - m_surface.count(area, c_paper); }
+    int Ink(const CRect& area) { return area.Width() * area.Height() - m_surface.count(area, kPaper); }
 
-    owtest::Surface m_surface{300, 100, c_paper};
+    owtest::Surface m_surface{300, 100, kPaper};
     CFont m_font;
     CFont* m_old = nullptr;
 };
@@ -89,7 +89,7 @@ TEST_F(MixedFont, DrawsInsideItsExtent)
 
 TEST_F(MixedFont, DrawsPlainTextAsTheContextDoes)
 {
-    owtest::Surface plain(300, 100, c_paper);
+    owtest::Surface plain(300, 100, kPaper);
     CFont* old = plain.dc().SelectObject(&m_font);
     plain.dc().SetBkMode(TRANSPARENT);
     plain.dc().TextOut(7, 9, L"Stap 12", 7);
@@ -106,11 +106,11 @@ TEST_F(MixedFont, OpaqueModeFillsTheExtent)
     m_surface.dc().SetBkColor(yellow);
     Draw(L"m<sup>2</sup>", CPoint(10, 10));
     const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>"));
-    EXPECT_EQ(m_surface.count(box, c_paper), 0);
+    EXPECT_EQ(m_surface.count(box, kPaper), 0);
     EXPECT_EQ(m_surface.dc().GetBkMode(), OPAQUE);
     EXPECT_EQ(m_surface.at(box.left, box.top), yellow);
-    EXPECT_EQ(m_surface.at(box.right, box.top), c_paper);
-    EXPECT_EQ(m_surface.at(box.left, box.bottom), c_paper);
+    EXPECT_EQ(m_surface.at(box.right, box.top), kPaper);
+    EXPECT_EQ(m_surface.at(box.left, box.bottom), kPaper);
 }
 
 TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTime)

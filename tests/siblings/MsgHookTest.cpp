@@ -12,8 +12,8 @@
 
 namespace
 {
-constexpr UINT c_probe = WM_APP + 1;
-constexpr LRESULT c_windowsAnswer = 77;
+constexpr UINT kProbe = WM_APP + 1;
+constexpr LRESULT kWindowsAnswer = 77;
 
 std::string s_log;
 
@@ -24,10 +24,10 @@ struct CProbedWnd : CWnd
     BOOL Open() { return CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr); }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message != c_probe)
+        if (message != kProbe)
             return CWnd::WindowProc(message, wParam, lParam);
         s_log += 'w';
-        return c_windowsAnswer;
+        return kWindowsAnswer;
     }
 };
 
@@ -42,7 +42,7 @@ struct CProbeHook : CMsgHook
 
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
     {
-        if (message != c_probe)
+        if (message != kProbe)
             return Default();
         s_log += m_letter;
         m_action();
@@ -69,7 +69,7 @@ struct MsgHook : testing::Test
     std::string Probe()
     {
         s_log.clear();
-        m_answer = m_window.SendMessage(c_probe);
+        m_answer = m_window.SendMessage(kProbe);
         return s_log;
     }
 
@@ -114,7 +114,7 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
     EXPECT_EQ(a.GetHookedWindow(), &m_window);
     EXPECT_FALSE(a.HookWindow(&m_window)) << "it has a window already";
     EXPECT_EQ(Probe(), "aw");
-    EXPECT_EQ(m_answer, c_windowsAnswer);
+    EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(a.Default(), 0) << "there is no current message";
 
     m_window.DestroyWindow();
@@ -143,7 +143,7 @@ TEST_F(MsgHook, HooksMayJoinAndLeaveWhileAMessageIsOnItsWay)
     EXPECT_EQ(Probe(), "aw");
     a.m_action = [&] { a.Unhook(); };
     EXPECT_EQ(Probe(), "aw") << "the hook itself: Default still passes on";
-    EXPECT_EQ(m_answer, c_windowsAnswer);
+    EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(Probe(), "w");
 
     struct CSuicide : CMsgHook
@@ -151,14 +151,14 @@ TEST_F(MsgHook, HooksMayJoinAndLeaveWhileAMessageIsOnItsWay)
         LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
         {
             const LRESULT answer = Default();
-            if (message == c_probe)
+            if (message == kProbe)
                 delete this;
             return answer;
         }
     };
     (new CSuicide)->HookWindow(&m_window);
     EXPECT_EQ(Probe(), "w");
-    EXPECT_EQ(m_answer, c_windowsAnswer);
+    EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(Probe(), "w");
 }
 
@@ -167,7 +167,7 @@ TEST_F(MsgHook, AMessageInsideAMessageGoesThroughTheWholeLine)
     a.m_action = [&, depth = 0]() mutable
     {
         if (++depth == 1)
-            m_window.SendMessage(c_probe);
+            m_window.SendMessage(kProbe);
     };
     HookBoth();
     EXPECT_EQ(Probe(), "babaww") << "and Default then means the outer one again";
@@ -199,7 +199,7 @@ TEST_F(MsgHook, ForeignSubclassingOnTopIsKept)
     s_below = ProcedureOf(m_window);
     const WNDPROC foreign = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT
     {
-        if (message == c_probe)
+        if (message == kProbe)
             s_log += 'f';
         return ::CallWindowProcW(s_below, window, message, wParam, lParam);
     };

@@ -31,7 +31,7 @@ struct Translator : testing::Test
     ClCatalogueError m_error;
 };
 
-const std::string c_good = "msgid \"Snimi\"\nmsgstr \"Save\"\n";
+const std::string kGood = "msgid \"Snimi\"\nmsgstr \"Save\"\n";
 } // namespace
 
 TEST_F(Translator, WithoutACatalogueTheSourceTextsStand)
@@ -42,7 +42,7 @@ TEST_F(Translator, WithoutACatalogueTheSourceTextsStand)
     EXPECT_STREQ(m_translator.Do(static_cast<LPCWSTR>(nullptr)), L"");
     EXPECT_FALSE(m_translator.Has(L"Snimi"));
 
-    ASSERT_TRUE(Load(c_good));
+    ASSERT_TRUE(Load(kGood));
     EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Save");
     EXPECT_STREQ(m_translator.Do(L"snimi"), L"snimi") << "the case counts";
     m_translator.Unload();
@@ -108,11 +108,11 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
         {"next text before the translation", "msgid \"a\"\nmsgid \"b\"\nmsgstr \"c\"\n", 1},
         {"translation twice", "msgid \"a\"\nmsgstr \"b\"\nmsgstr \"c\"\n", 3},
         {"plural forms without a plural", "msgid \"a\"\nmsgstr \"b\"\nmsgstr[1] \"c\"\n", 3},
-        {"text twice", c_good + "\n" + c_good, 4},
+        {"text twice", kGood + "\n" + kGood, 4},
         {"not UTF-8", "msgid \"a\"\nmsgstr \"\xE8\"\n", 2},
         {"another character set", "msgid \"\"\nmsgstr \"charset=windows-1250\\n\"\n", 2},
     };
-    ASSERT_TRUE(Load(c_good));
+    ASSERT_TRUE(Load(kGood));
     for (const auto& [what, catalogue, line] : cases)
     {
         EXPECT_FALSE(Load(catalogue)) << what;
@@ -129,7 +129,7 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
 
 TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
 {
-    ASSERT_TRUE(Load(c_good));
+    ASSERT_TRUE(Load(kGood));
     CWnd dialog;
     ASSERT_TRUE(
         dialog.CreateEx(0, AfxRegisterWndClass(0), L"Snimi", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));

@@ -63,8 +63,8 @@ public:
     CButtonST push{this};
     CButtonST check{this};
     CExtButton ext{this};
-    CEditDoubleWithRange decimal{this, CEditDoubleWithRange::c_nCreateControl,
-                                 CEditDoubleWithRange::c_nCreateControl};
+    CEditDoubleWithRange decimal{this, CEditDoubleWithRange::kCreateControl,
+                                 CEditDoubleWithRange::kCreateControl};
     CEditIntegerWithRange integer{this};
     CEditEscSeqText text{this, 0};
     CExtComboBox combo{this};

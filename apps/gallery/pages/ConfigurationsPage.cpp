@@ -51,8 +51,8 @@ private:
     CConfigCtrlGroup m_configs{IDC_CONFIGS, IDC_CONFIG_SAVE, IDC_CONFIG_DELETE, &m_stored, this};
     // No handler is given: the boxes find this page, their parent, which implements the interface.
     CEditIntegerWithRange m_editRows{nullptr};
-    CEditDoubleWithRange m_editPitch{nullptr, CEditDoubleWithRange::c_nCreateControl};
-    CEditDoubleWithRange m_editEdge{nullptr, CEditDoubleWithRange::c_nCreateControl};
+    CEditDoubleWithRange m_editPitch{nullptr, CEditDoubleWithRange::kCreateControl};
+    CEditDoubleWithRange m_editEdge{nullptr, CEditDoubleWithRange::kCreateControl};
     CExtComboBox m_comboGrade{this};
 };
 

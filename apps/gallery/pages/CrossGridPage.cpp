@@ -11,16 +11,16 @@
 
 namespace
 {
-constexpr int c_nCases = 7;    ///< columns of the body
-constexpr int c_nMembers = 24; ///< rows of the body below the band
+constexpr int kCases = 7;    ///< columns of the body
+constexpr int kMemberCount = 24; ///< rows of the body below the band
 enum EBandRow
 {
     eLargest = 1,
     eSmallest,
     eFirstMember,
 };
-constexpr COLORREF c_crBand = RGB(255, 244, 214);
-constexpr COLORREF c_crBody = RGB(255, 255, 255);
+constexpr COLORREF kBand = RGB(255, 244, 214);
+constexpr COLORREF kBody = RGB(255, 255, 255);
 
 class CCrossGridPageDialog : public CGalleryPageDialog,
                              public AExtGridCtrl2NotificationHandler,
@@ -48,9 +48,9 @@ protected:
         Log(_T("Forces"), _T("OnExtGrid2RClick(%d, cell %d,%d)"), nId, cell.row, cell.col);
     }
 
-    int GetExtraHeaderColor() override { return c_crBand; }
+    int GetExtraHeaderColor() override { return kBand; }
     int GetExtraHeaderCount() override { return eFirstMember - eLargest; }
-    int GetBodyColor() override { return c_crBody; }
+    int GetBodyColor() override { return kBody; }
 
     afx_msg void OnGoToLargest();
     DECLARE_MESSAGE_MAP()
@@ -75,8 +75,8 @@ int CCrossGridPageDialog::OnInitPageDialog()
     m_grid.EnableSelection(FALSE); // the cross says where one is
     m_grid.SetGridBkColor(::GetSysColor(COLOR_WINDOW));
     m_grid.SetGridLineColor(RGB(222, 226, 232));
-    m_grid.SetRowCount(eFirstMember + c_nMembers);
-    m_grid.SetColumnCount(1 + c_nCases);
+    m_grid.SetRowCount(eFirstMember + kMemberCount);
+    m_grid.SetColumnCount(1 + kCases);
     m_grid.SetFixedRowCount(1);
     m_grid.SetFixedColumnCount(1);
     MakeHeadings();
@@ -122,15 +122,15 @@ void CCrossGridPageDialog::MakeHeadings()
     m_grid.SetItemText(eSmallest, 0, gOtLang.Do(_T("Smallest")));
     for (int nRow = eFirstMember; nRow < m_grid.GetRowCount(); ++nRow)
         m_grid.SetItemTextFmt(nRow, 0, gOtLang.Do(_T("Member %d")), nRow - eFirstMember + 1);
-    for (int nCol = 1; nCol <= c_nCases; ++nCol)
+    for (int nCol = 1; nCol <= kCases; ++nCol)
         m_grid.SetItemTextFmt(0, nCol, gOtLang.Do(_T("LC %d")), nCol);
-    for (int nCol = 0; nCol <= c_nCases; ++nCol)
+    for (int nCol = 0; nCol <= kCases; ++nCol)
         m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
 }
 
 void CCrossGridPageDialog::FillBody()
 {
-    for (int nCol = 1; nCol <= c_nCases; ++nCol)
+    for (int nCol = 1; nCol <= kCases; ++nCol)
     {
         for (int nRow = 1; nRow < m_grid.GetRowCount(); ++nRow)
             m_grid.SetItemFormat(nRow, nCol, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
@@ -138,7 +138,7 @@ void CCrossGridPageDialog::FillBody()
             m_grid.SetItemTextFmt(nRow, nCol, _T("%.1f"), 40.0 * nCol * std::sin(nRow * 0.9 + nCol * nCol));
         for (const int nRow : {eLargest, eSmallest})
         {
-            m_grid.SetItemBkColour(nRow, nCol, c_crBand); // before the cross has passed over it
+            m_grid.SetItemBkColour(nRow, nCol, kBand); // before the cross has passed over it
             m_grid.SetItemState(nRow, nCol, m_grid.GetItemState(nRow, nCol) | CELL_READONLY);
         }
         ShowExtremes(nCol);

@@ -24,7 +24,7 @@ enum EColumn
 struct SItem
 {
     LPCTSTR pszSection;
-    int nHatch; ///< a style of CreateHatchBrush, or c_nNoHatch
+    int nHatch; ///< a style of CreateHatchBrush, or kNoHatch
     COLORREF crHatch;
     int nImage; ///< of the profile icons in CGridCtrl::GridImageList
     LPCTSTR pszPlan;
@@ -32,9 +32,9 @@ struct SItem
     LPCTSTR pszSymbol;
 };
 
-constexpr int c_nNoHatch = -1;
+constexpr int kNoHatch = -1;
 
-constexpr SItem c_items[] = {
+constexpr SItem kItems[] = {
     {_T("Steel S355"), HS_BDIAGONAL, RGB(150, 180, 230), 0, _T("A-101"), true,
      _T("N<sub>Rd</sub> = 1840 kN")},
     {_T("Concrete C25/30"), HS_DIAGCROSS, RGB(200, 200, 200), 1, _T("A-102"), false,
@@ -43,10 +43,10 @@ constexpr SItem c_items[] = {
      L"<i>\u03c3</i> = 18 kN/cm<sup>2</sup>"},
     {_T("Timber GL24h"), HS_HORIZONTAL, RGB(235, 205, 150), 2, _T("A-110"), true,
      _T("<f Times New Roman>E</f><sub>0</sub> = 11.5 GPa")},
-    {_T("To be chosen"), c_nNoHatch, RGB(190, 220, 190), 0, _T("A-112"), false,
+    {_T("To be chosen"), kNoHatch, RGB(190, 220, 190), 0, _T("A-112"), false,
      _T("\\<b> shows as it stands")},
 };
-constexpr int c_nItems = static_cast<int>(std::size(c_items));
+constexpr int kItemCount = static_cast<int>(std::size(kItems));
 
 /// A language for drawings, with the names of the items in it.
 struct SLanguage
@@ -54,10 +54,10 @@ struct SLanguage
     LPCTSTR pszLanguage;
     WORD nLanguage; ///< LANG_NEUTRAL stands for the display's
     LPCTSTR pszTitle;
-    LPCTSTR pszNames[c_nItems];
+    LPCTSTR pszNames[kItemCount];
 };
 
-constexpr SLanguage c_languages[] = {
+constexpr SLanguage kLanguages[] = {
     {_T("English, as the display"),
      LANG_NEUTRAL,
      _T("Roof, bay 3"),
@@ -82,8 +82,8 @@ struct SHatch
     int nStyle;
 };
 
-constexpr SHatch c_hatches[] = {
-    {_T("None"), c_nNoHatch},       {_T("Horizontal"), HS_HORIZONTAL}, {_T("Vertical"), HS_VERTICAL},
+constexpr SHatch kHatches[] = {
+    {_T("None"), kNoHatch},       {_T("Horizontal"), HS_HORIZONTAL}, {_T("Vertical"), HS_VERTICAL},
     {_T("Falling"), HS_FDIAGONAL},  {_T("Rising"), HS_BDIAGONAL},      {_T("Squares"), HS_CROSS},
     {_T("Diamonds"), HS_DIAGCROSS},
 };
@@ -168,7 +168,7 @@ private:
     CExtComboBox m_comboLanguage{this};
     CEditN m_editTitle{this};
     CEditCtrlAnsiMsgHook m_hook; ///< of the title
-    const SLanguage* m_pLanguage = c_languages;
+    const SLanguage* m_pLanguage = kLanguages;
     int m_nRow = 1;
 };
 
@@ -181,9 +181,9 @@ END_MESSAGE_MAP()
 
 int CDisplayCellsPageDialog::OnInitPageDialog()
 {
-    for (const SHatch& hatch : c_hatches)
+    for (const SHatch& hatch : kHatches)
         m_comboHatch.AddString(gOtLang.Do(hatch.pszName));
-    for (const SLanguage& language : c_languages)
+    for (const SLanguage& language : kLanguages)
         m_comboLanguage.AddString(gOtLang.Do(language.pszLanguage));
     m_comboLanguage.SetCurSel(0);
 
@@ -194,11 +194,11 @@ int CDisplayCellsPageDialog::OnInitPageDialog()
     m_grid.SetGridBkColor(::GetSysColor(COLOR_WINDOW));
     m_grid.SetGridLineColor(RGB(222, 226, 232));
     MakeHeadings();
-    for (const SItem& item : c_items)
+    for (const SItem& item : kItems)
         AddItem(item);
-    constexpr int c_widths[] = {34, 104, 116, 60, 76};
+    constexpr int kWidths[] = {34, 104, 116, 60, 76};
     for (int nCol = 0; nCol < eSymbol; ++nCol)
-        m_grid.SetColumnWidth(nCol, c_widths[nCol], TRUE);
+        m_grid.SetColumnWidth(nCol, kWidths[nCol], TRUE);
     m_grid.ExpandLastColumn();
 
     CheckRadioButton(IDC_DISPLAY_LEFT, IDC_DISPLAY_RIGHT, IDC_DISPLAY_LEFT + 1);
@@ -217,21 +217,21 @@ void CDisplayCellsPageDialog::OnExtComboBoxSelChanged(int nId, int nSel)
         return;
     if (nId == IDC_DISPLAY_LANGUAGE)
     {
-        WriteIn(c_languages[nSel]);
+        WriteIn(kLanguages[nSel]);
         return;
     }
-    CellAt<CPatternBkgndGridCell>(m_nRow, eSection).SetPatternStyle(c_hatches[nSel].nStyle);
+    CellAt<CPatternBkgndGridCell>(m_nRow, eSection).SetPatternStyle(kHatches[nSel].nStyle);
     m_grid.RedrawCell(m_nRow, eSection);
 }
 
 void CDisplayCellsPageDialog::OnPlaceImages(UINT /*nId*/)
 {
-    static constexpr DWORD c_across[] = {DT_LEFT, DT_CENTER, DT_RIGHT};
-    static constexpr DWORD c_down[] = {DT_TOP, DT_VCENTER, DT_BOTTOM};
+    static constexpr DWORD kAcross[] = {DT_LEFT, DT_CENTER, DT_RIGHT};
+    static constexpr DWORD kDown[] = {DT_TOP, DT_VCENTER, DT_BOTTOM};
     const int nAcross = GetCheckedRadioButton(IDC_DISPLAY_LEFT, IDC_DISPLAY_RIGHT) - IDC_DISPLAY_LEFT;
     const int nDown = GetCheckedRadioButton(IDC_DISPLAY_TOP, IDC_DISPLAY_BOTTOM) - IDC_DISPLAY_TOP;
     for (int nRow = 1; nRow < m_grid.GetRowCount(); ++nRow)
-        m_grid.SetItemFormat(nRow, eProfile, c_across[nAcross] | c_down[nDown] | DT_SINGLELINE);
+        m_grid.SetItemFormat(nRow, eProfile, kAcross[nAcross] | kDown[nDown] | DT_SINGLELINE);
     m_grid.RedrawColumn(eProfile);
 }
 
@@ -252,7 +252,7 @@ void CDisplayCellsPageDialog::OnDestroy()
 
 void CDisplayCellsPageDialog::MakeHeadings()
 {
-    static constexpr LPCTSTR c_headings[] = {_T("No."),     _T("Name"), _T("Section"),
+    static constexpr LPCTSTR kHeadings[] = {_T("No."),     _T("Name"), _T("Section"),
                                              _T("Profile"), _T("Plan"), _T("Symbol")};
     m_grid.SetRowCount(1);
     m_grid.SetColumnCount(eColumnCount);
@@ -260,18 +260,18 @@ void CDisplayCellsPageDialog::MakeHeadings()
     m_grid.SetFixedColumnCount(1);
     for (int nCol = 0; nCol < eColumnCount; ++nCol)
     {
-        m_grid.SetItemText(0, nCol, gOtLang.Do(c_headings[nCol]));
+        m_grid.SetItemText(0, nCol, gOtLang.Do(kHeadings[nCol]));
         m_grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
     }
 }
 
 void CDisplayCellsPageDialog::AddItem(const SItem& item)
 {
-    constexpr int c_nRowHeight = 29; // pixels: an image of 16 has room to move
+    constexpr int kRowHeight = 29; // pixels: an image of 16 has room to move
     CString strNumber;
     strNumber.Format(_T("%d"), m_grid.GetRowCount());
     const int nRow = m_grid.InsertRow(strNumber);
-    m_grid.SetRowHeight(nRow, c_nRowHeight);
+    m_grid.SetRowHeight(nRow, kRowHeight);
     m_grid.SetItemFormat(nRow, eNumber, GV_HEADING_FORMAT);
 
     m_grid.SetCellType(nRow, eSection, RUNTIME_CLASS(CPatternBkgndGridCell));
@@ -301,7 +301,7 @@ void CDisplayCellsPageDialog::WriteIn(const SLanguage& language)
     WriteDrawingsIn(language.nLanguage);
     m_grid.SetFont(GetFont());
     CAnsiGridCell::InitializeAnsiGrid(m_grid);
-    for (int i = 0; i < c_nItems; ++i)
+    for (int i = 0; i < kItemCount; ++i)
     {
         m_grid.SetCellType(i + 1, eName, RUNTIME_CLASS(CAnsiGridCell));
         m_grid.SetItemText(i + 1, eName, language.pszNames[i]);
@@ -316,8 +316,8 @@ void CDisplayCellsPageDialog::WriteIn(const SLanguage& language)
 void CDisplayCellsPageDialog::ShowCurrentRow()
 {
     const auto& section = CellAt<CPatternBkgndGridCell>(m_nRow, eSection);
-    for (int i = 0; i < static_cast<int>(std::size(c_hatches)); ++i)
-        if (c_hatches[i].nStyle == section.GetPatternStyle())
+    for (int i = 0; i < static_cast<int>(std::size(kHatches)); ++i)
+        if (kHatches[i].nStyle == section.GetPatternStyle())
             m_comboHatch.SetCurSel(i);
     CheckDlgButton(IDC_DISPLAY_CHANGED, CellAt<CMarkedTextCell>(m_nRow, ePlan).IsMarked());
     SetDlgItemText(IDC_DISPLAY_STORED,

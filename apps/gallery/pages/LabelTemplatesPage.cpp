@@ -17,15 +17,15 @@ struct SSample
 };
 
 // The same code means different things in different labels.
-constexpr SSample c_anyText[] = {{_T("%%c"), _T("\u00D8")}};
-constexpr SSample c_member[] = {{_T("%i"), _T("HEA")},
+constexpr SSample kAnyText[] = {{_T("%%c"), _T("\u00D8")}};
+constexpr SSample kMember[] = {{_T("%i"), _T("HEA")},
                                 {_T("%f"), _T("160")},
                                 {_T("%m"), _T("2")},
                                 {_T("%o"), _T("rolled")},
                                 {_T("%d"), _T("6250")}};
-constexpr SSample c_plate[] = {
+constexpr SSample kPlate[] = {
     {_T("%i"), _T("PL")}, {_T("%l"), _T("400")}, {_T("%w"), _T("250")}, {_T("%h"), _T("12")}};
-constexpr SSample c_production[] = {
+constexpr SSample kProduction[] = {
     {_T("%i"), _T("HEA")},   {_T("%f"), _T("160")},  {_T("%m"), _T("1")},   {_T("%o"), _T("rolled")},
     {_T("%d"), _T("12000")}, {_T("%a"), _T("S235")}, {_T("%n"), _T("3")},   {_T("%k"), _T("4")},
     {_T("%l"), _T("11750")}, {_T("%p"), _T("97.9")}, {_T("%s"), _T("250")}, {_T("%h"), _T("2.1")}};
@@ -66,14 +66,14 @@ struct SKind
 };
 
 // From the top of the page.
-constexpr SKind c_kinds[] = {
-    {_T("Any text"), _T("rebar %%c16 / 150"), c_anyText},
-    {_T("Member"), _T("%m x %i %f, L = %d"), c_member},
-    {_T("Plate"), _T("%i %h x %w x %l"), c_plate},
-    {_T("Plate, no dimensions"), _T("%i, t = %h"), c_plate},
-    {_T("Production list"), _T("%k x %i %f %a: %p% used"), c_production},
+constexpr SKind kKinds[] = {
+    {_T("Any text"), _T("rebar %%c16 / 150"), kAnyText},
+    {_T("Member"), _T("%m x %i %f, L = %d"), kMember},
+    {_T("Plate"), _T("%i %h x %w x %l"), kPlate},
+    {_T("Plate, no dimensions"), _T("%i, t = %h"), kPlate},
+    {_T("Production list"), _T("%k x %i %f %a: %p% used"), kProduction},
 };
-constexpr int c_nKinds = static_cast<int>(std::size(c_kinds));
+constexpr int kKindCount = static_cast<int>(std::size(kKinds));
 
 class CLabelTemplatesPageDialog : public CLanguagePageDialog, public CEditNNotificationHandler
 {
@@ -88,14 +88,14 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override
     {
         CLanguagePageDialog::DoDataExchange(pDX);
-        for (int i = 0; i < c_nKinds; ++i)
+        for (int i = 0; i < kKindCount; ++i)
             DDX_Control(pDX, IDC_LABEL_FIRST + i, *m_edits[i]); // and with the box its button
     }
     int OnInitPageDialog() override
     {
-        for (int i = 0; i < c_nKinds; ++i)
+        for (int i = 0; i < kKindCount; ++i)
         {
-            m_edits[i]->SetValue(gOtLang.Do(c_kinds[i].pszTemplate));
+            m_edits[i]->SetValue(gOtLang.Do(kKinds[i].pszTemplate));
             ShowPreview(i);
         }
         return TRUE;
@@ -111,7 +111,7 @@ protected:
     void OnEditNChange(int nId) override
     {
         const int nKind = nId - IDC_LABEL_FIRST;
-        Log(c_kinds[nKind].pszName, _T("OnEditNChange(%d)   stored: %s"), nId,
+        Log(kKinds[nKind].pszName, _T("OnEditNChange(%d)   stored: %s"), nId,
             m_edits[nKind]->GetValue().GetString());
         ShowPreview(nKind);
     }
@@ -126,7 +126,7 @@ protected:
 private:
     void ShowPreview(int nKind)
     {
-        SetDlgItemText(IDC_PREVIEW_FIRST + nKind, Expand(m_edits[nKind]->GetValue(), c_kinds[nKind].samples));
+        SetDlgItemText(IDC_PREVIEW_FIRST + nKind, Expand(m_edits[nKind]->GetValue(), kKinds[nKind].samples));
     }
 
     // No handler is given: the boxes find this page, their parent, which implements the interface.
@@ -135,7 +135,7 @@ private:
     CEditAcadEscSeqSpecLima m_editPlate{nullptr, IDC_INSERT_FIRST + 2};
     CEditAcadEscSeqSpecLima m_editBarePlate{nullptr, IDC_INSERT_FIRST + 3};
     CEditAcadEscSeqSpecProizvStapa m_editProduction{nullptr, IDC_INSERT_FIRST + 4};
-    CEditEscSeqText* const m_edits[c_nKinds] = {&m_editAnyText, &m_editMember, &m_editPlate, &m_editBarePlate,
+    CEditEscSeqText* const m_edits[kKindCount] = {&m_editAnyText, &m_editMember, &m_editPlate, &m_editBarePlate,
                                                 &m_editProduction};
 };
 

@@ -126,7 +126,7 @@ private:
     }
 
     // No handler is given: the boxes find this dialog, their parent, which implements the interface.
-    CEditDoubleWithRange m_editLength{nullptr, CEditDoubleWithRange::c_nCreateControl};
+    CEditDoubleWithRange m_editLength{nullptr, CEditDoubleWithRange::kCreateControl};
     CEditIntegerWithRange m_editPieces{nullptr};
     CMemberPage* m_pPage = nullptr; ///< the page whose values are shown
 };

@@ -18,7 +18,7 @@ struct SLengthUnit
     int nDecimals;
 };
 
-constexpr SLengthUnit c_lengthUnits[] = {
+constexpr SLengthUnit kLengthUnits[] = {
     {IDC_UNIT_MM, CMeasurementUnit::eMillimetre, 1.0, 1},
     {IDC_UNIT_CM, CMeasurementUnit::eCentimetre, 0.1, 2},
     {IDC_UNIT_M, CMeasurementUnit::eMetre, 0.001, 4},
@@ -57,17 +57,17 @@ private:
     void LogCall(LPCTSTR pszOperation, int nId);
     CString StoredValue(int nId) const;
 
-    static constexpr unsigned int c_nOwn = CEditDoubleWithRange::c_nCreateControl;
+    static constexpr unsigned int kOwn = CEditDoubleWithRange::kCreateControl;
 
     // No handler is given: the boxes find this page, their parent, which implements the interface.
-    CEditDoubleWithRange m_editThickness{nullptr, c_nOwn, c_nOwn};
+    CEditDoubleWithRange m_editThickness{nullptr, kOwn, kOwn};
     CEditDoubleWithRange m_editGap{nullptr, IDC_GAP_UNIT, IDC_GAP_SPIN};
-    CEditDoubleWithRange m_editLength{nullptr, c_nOwn};
-    CEditDoubleWithRange m_editCamber{nullptr, c_nOwn, c_nOwn};
-    CEditDoubleWithRange m_editOverall{nullptr, c_nOwn};
-    CEditDoubleWithRange m_editLoad{nullptr, c_nOwn, c_nOwn};
-    CEditDoubleWithRange m_editModulus{nullptr, c_nOwn};
-    CEditDoubleWithRange m_editSlope{nullptr, c_nOwn, c_nOwn};
+    CEditDoubleWithRange m_editLength{nullptr, kOwn};
+    CEditDoubleWithRange m_editCamber{nullptr, kOwn, kOwn};
+    CEditDoubleWithRange m_editOverall{nullptr, kOwn};
+    CEditDoubleWithRange m_editLoad{nullptr, kOwn, kOwn};
+    CEditDoubleWithRange m_editModulus{nullptr, kOwn};
+    CEditDoubleWithRange m_editSlope{nullptr, kOwn, kOwn};
     CEditIntegerWithRange m_editBolts{nullptr};
     CEditIntegerWithRange m_editStorey{nullptr};
 };
@@ -94,7 +94,7 @@ void CNumbersPageDialog::DoDataExchange(CDataExchange* pDX)
 int CNumbersPageDialog::OnInitPageDialog()
 {
     CheckRadioButton(IDC_UNIT_MM, IDC_UNIT_IN, IDC_UNIT_MM);
-    ShowLengthsIn(c_lengthUnits[0]);
+    ShowLengthsIn(kLengthUnits[0]);
     m_editThickness.SetRange(0.004, 0.04);
     m_editThickness.SetValue(0.0125);
     m_editGap.SetMinRange(0.0);
@@ -128,7 +128,7 @@ int CNumbersPageDialog::OnInitPageDialog()
 
 void CNumbersPageDialog::OnLengthUnit(UINT nId)
 {
-    for (const SLengthUnit& unit : c_lengthUnits)
+    for (const SLengthUnit& unit : kLengthUnits)
     {
         if (unit.nButtonId == nId)
             ShowLengthsIn(unit);

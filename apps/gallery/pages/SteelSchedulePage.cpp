@@ -32,14 +32,14 @@ struct SMember
     int nColor; ///< the CAD host's colour index of its layer
 };
 
-constexpr SMember c_members[] = {
+constexpr SMember kMembers[] = {
     {_T("HEA 240"), 5.1, 3017, 4, false, 30},     {_T("HEB 200"), 4.2, 2526, 2, false, 30},
     {_T("IPE 300"), 7.85, 3250, 6, false, 150},   {_T("IPE 200"), 6.0, 1319, 12, true, 150},
     {_T("UPN 140"), 3.1, 487, 10, true, 92},      {_T("L 80x80x8"), 1.48, 141, 16, true, 210},
     {_T("L 60x60x6"), 1.25, 66.3, 32, true, 210}, {_T("IPE 160"), 2.4, 372, 24, false, 52},
 };
 
-constexpr double c_dLongest = 18.0; ///< metres: what a lorry carries
+constexpr double kLongest = 18.0; ///< metres: what a lorry carries
 
 /// A unit that the user can choose for a column, with the decimals that suit it.
 struct SUnitChoice
@@ -50,13 +50,13 @@ struct SUnitChoice
     int nDecimals;
 };
 
-constexpr SUnitChoice c_lengthUnits[] = {
+constexpr SUnitChoice kLengthUnits[] = {
     {IDC_SCHEDULE_MM, CMeasurementUnit::eMillimetre, CMeasurementUnit::eLength, 0},
     {IDC_SCHEDULE_CM, CMeasurementUnit::eCentimetre, CMeasurementUnit::eLength, 1},
     {IDC_SCHEDULE_M, CMeasurementUnit::eMetre, CMeasurementUnit::eLength, 3},
     {IDC_SCHEDULE_FT, CMeasurementUnit::eFoot, CMeasurementUnit::eLength, 2},
 };
-constexpr SUnitChoice c_weightUnits[] = {
+constexpr SUnitChoice kWeightUnits[] = {
     {IDC_SCHEDULE_N, CMeasurementUnit::eNewton, CMeasurementUnit::eForce, 0},
     {IDC_SCHEDULE_KN, CMeasurementUnit::eKilonewton, CMeasurementUnit::eForce, 3},
 };
@@ -88,10 +88,10 @@ protected:
         Log(_T("Steel schedule"), _T("OnExtGridRClick(%d, row %d)"), nId, nRow);
     }
 
-    afx_msg void OnLengthUnit(UINT nId) { ShowLengthsIn(c_lengthUnits[nId - IDC_SCHEDULE_MM]); }
+    afx_msg void OnLengthUnit(UINT nId) { ShowLengthsIn(kLengthUnits[nId - IDC_SCHEDULE_MM]); }
     afx_msg void OnWeightUnit(UINT nId)
     {
-        ShowColumnIn(c_weightUnits[nId - IDC_SCHEDULE_N], eWeight, _T("Weight"));
+        ShowColumnIn(kWeightUnits[nId - IDC_SCHEDULE_N], eWeight, _T("Weight"));
     }
     afx_msg void OnCheckClicked(NMHDR* pHeader, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
@@ -124,7 +124,7 @@ END_MESSAGE_MAP()
 
 int CSteelSchedulePageDialog::OnInitPageDialog()
 {
-    for (const SMember& member : c_members)
+    for (const SMember& member : kMembers)
         m_profiles.Add(member.pszProfile);
 
     m_grid.InstallMessageHook(); // the window is the dialog template's
@@ -133,7 +133,7 @@ int CSteelSchedulePageDialog::OnInitPageDialog()
     m_grid.SetGridBkColor(::GetSysColor(COLOR_WINDOW));
     m_grid.SetGridLineColor(RGB(222, 226, 232));
     MakeHeadings();
-    for (const SMember& member : c_members)
+    for (const SMember& member : kMembers)
         AddMember(member);
 
     CheckRadioButton(IDC_SCHEDULE_MM, IDC_SCHEDULE_FT, IDC_SCHEDULE_MM);
@@ -183,11 +183,11 @@ void CSteelSchedulePageDialog::MakeHeadings()
 
 void CSteelSchedulePageDialog::AddMember(const SMember& member)
 {
-    constexpr int c_nRowHeight = 20; // pixels: room for swatch and arrow
+    constexpr int kRowHeight = 20; // pixels: room for swatch and arrow
     CString strNumber;
     strNumber.Format(_T("%d"), m_grid.GetRowCount());
     const int nRow = m_grid.InsertRow(strNumber);
-    m_grid.SetRowHeight(nRow, c_nRowHeight);
+    m_grid.SetRowHeight(nRow, kRowHeight);
     MakeCells(nRow);
 
     m_grid.SetItemText(nRow, eProfile, member.pszProfile);
@@ -224,9 +224,9 @@ void CSteelSchedulePageDialog::MakeCells(int nRow)
 
 void CSteelSchedulePageDialog::SizeColumns()
 {
-    constexpr int c_widths[] = {34, 104, 92, 92, 64, 82};
+    constexpr int kWidths[] = {34, 104, 92, 92, 64, 82};
     for (int nCol = 0; nCol < eColor; ++nCol)
-        m_grid.SetColumnWidth(nCol, c_widths[nCol], TRUE);
+        m_grid.SetColumnWidth(nCol, kWidths[nCol], TRUE);
     m_grid.ExpandLastColumn();
 }
 
@@ -253,7 +253,7 @@ void CSteelSchedulePageDialog::ShowLengthsIn(const SUnitChoice& choice)
     ShowColumnIn(choice, eLength, _T("Length"));
     const CComplexUnit unit(CMeasurementUnit(choice.nUnit, choice.nKind));
     for (int nRow = 1; nRow < m_grid.GetRowCount(); ++nRow)
-        Number(nRow, eLength).SetLocalMax(unit.ToLocal(c_dLongest), TRUE);
+        Number(nRow, eLength).SetLocalMax(unit.ToLocal(kLongest), TRUE);
 }
 
 /// What the cells hold, in global units.

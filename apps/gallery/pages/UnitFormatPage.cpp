@@ -66,10 +66,10 @@ protected:
     void OnFormatGroupChanged(CFormatJediniceCtrlGroup* pGroup, CFormatJedinice* pFormat,
                               int nSource) override
     {
-        static constexpr LPCTSTR c_sources[] = {_T("the unit"), _T("the box"), _T("typing"),
+        static constexpr LPCTSTR kSources[] = {_T("the unit"), _T("the box"), _T("typing"),
                                                 _T("leaving the edit")};
         Log(pGroup == &m_group ? _T("One format") : _T("Three axes"), _T("OnFormatGroupChanged(%d: %s)   %s"),
-            nSource, gOtLang.Do(c_sources[nSource]).GetString(), TextOf(*pFormat).GetString());
+            nSource, gOtLang.Do(kSources[nSource]).GetString(), TextOf(*pFormat).GetString());
         if (pGroup == &m_group)
             ShowFormat();
         else

@@ -6,8 +6,8 @@
 
 #include "HostModule.h"
 
-static constexpr WCHAR c_szByLayer[] = L"ByLayer";
-static constexpr WCHAR c_szByBlock[] = L"ByBlock";
+static constexpr WCHAR kByLayerText[] = L"ByLayer";
+static constexpr WCHAR kByBlockText[] = L"ByBlock";
 
 namespace
 {
@@ -19,12 +19,12 @@ CWnd* DialogParent()
     return acadhostHasFrame() ? acedGetAcadFrame() : nullptr;
 }
 
-/// The number that a text consists of, or c_nNoColor.
+/// The number that a text consists of, or kNoColor.
 int ParseNumber(LPCWSTR pszText)
 {
     LPWSTR pszEnd = nullptr;
     const long nNumber = ::wcstol(pszText, &pszEnd, 10);
-    return pszEnd != pszText && *pszEnd == L'\0' && IsPlainColor(nNumber) ? nNumber : c_nNoColor;
+    return pszEnd != pszText && *pszEnd == L'\0' && IsPlainColor(nNumber) ? nNumber : kNoColor;
 }
 } // namespace
 
@@ -42,10 +42,10 @@ Adesk::Boolean acedSetColorDialog(int& nColor, Adesk::Boolean bAllowMetaColor, i
 
 CColorDialog::CColorDialog(int nColor, bool bAllowMetaColor, int nLayerColor, CWnd* pParent)
     : CDialog(IDD, pParent), m_nColor(nColor), m_bAllowMetaColor(bAllowMetaColor),
-      m_nLayerColor(IsPlainColor(nLayerColor) ? nLayerColor : c_nForeground)
+      m_nLayerColor(IsPlainColor(nLayerColor) ? nLayerColor : kForeground)
 {
     if (!CanChoose(m_nColor))
-        m_nColor = c_nNoColor;
+        m_nColor = kNoColor;
     m_nOldColor = m_nColor;
 }
 
@@ -115,7 +115,7 @@ void CColorDialog::OnGridSelectionChanged()
 void CColorDialog::OnGridHotChanged()
 {
     const int nHot = m_grid.GetHot();
-    ShowReadout(nHot != c_nNoColor ? nHot : m_nColor);
+    ShowReadout(nHot != kNoColor ? nHot : m_nColor);
 }
 
 void CColorDialog::OnGridAccepted()
@@ -133,12 +133,12 @@ void CColorDialog::OnTextChanged()
 
 void CColorDialog::OnByLayer()
 {
-    Choose(c_nByLayer);
+    Choose(kByLayer);
 }
 
 void CColorDialog::OnByBlock()
 {
-    Choose(c_nByBlock);
+    Choose(kByBlock);
 }
 
 bool CColorDialog::CanChoose(int nColor) const
@@ -146,16 +146,16 @@ bool CColorDialog::CanChoose(int nColor) const
     return IsPlainColor(nColor) || (m_bAllowMetaColor && IsMetaColor(nColor));
 }
 
-/// The index that the box names, or c_nNoColor.
+/// The index that the box names, or kNoColor.
 int CColorDialog::ParseText() const
 {
     CString strText;
     m_text.GetWindowText(strText);
     strText.Trim();
-    if (m_bAllowMetaColor && strText.CompareNoCase(c_szByLayer) == 0)
-        return c_nByLayer;
-    if (m_bAllowMetaColor && strText.CompareNoCase(c_szByBlock) == 0)
-        return c_nByBlock;
+    if (m_bAllowMetaColor && strText.CompareNoCase(kByLayerText) == 0)
+        return kByLayer;
+    if (m_bAllowMetaColor && strText.CompareNoCase(kByBlockText) == 0)
+        return kByBlock;
     return ParseNumber(strText);
 }
 
@@ -169,11 +169,11 @@ void CColorDialog::Choose(int nColor)
 void CColorDialog::ShowText()
 {
     CString strText;
-    if (m_nColor == c_nByLayer)
-        strText = c_szByLayer;
-    else if (m_nColor == c_nByBlock)
-        strText = c_szByBlock;
-    else if (m_nColor != c_nNoColor)
+    if (m_nColor == kByLayer)
+        strText = kByLayerText;
+    else if (m_nColor == kByBlock)
+        strText = kByBlockText;
+    else if (m_nColor != kNoColor)
         strText.Format(L"%d", m_nColor);
     m_bSettingText = true;
     m_text.SetWindowText(strText);
@@ -204,7 +204,7 @@ void CColorDialog::ShowReadout(int nColor)
 
 COLORREF CColorDialog::ShownColor(int nColor) const
 {
-    if (nColor == c_nNoColor)
+    if (nColor == kNoColor)
         return CLR_NONE;
-    return acedGetRGB(nColor == c_nByLayer ? m_nLayerColor : nColor);
+    return acedGetRGB(nColor == kByLayer ? m_nLayerColor : nColor);
 }

@@ -49,7 +49,7 @@ private:
     CStatic m_indexText;
     CStatic m_rgbText;
 
-    int m_nColor; ///< the present choice, or c_nNoColor
+    int m_nColor; ///< the present choice, or kNoColor
     int m_nOldColor;
     bool m_bAllowMetaColor;
     int m_nLayerColor;

@@ -30,20 +30,20 @@ bool CColorGrid::RegisterWindowClass()
 {
     WNDCLASS windowClass = {};
     const HINSTANCE hModule = HostResourceHandle();
-    if (::GetClassInfo(hModule, c_szClassName, &windowClass))
+    if (::GetClassInfo(hModule, kClassName, &windowClass))
         return true;
     windowClass.style = CS_DBLCLKS | CS_GLOBALCLASS; // found from a template whatever module makes the dialog
     windowClass.lpfnWndProc = &::DefWindowProc;
     windowClass.hInstance = hModule;
     windowClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = c_szClassName;
+    windowClass.lpszClassName = kClassName;
     return ::RegisterClass(&windowClass) != 0;
 }
 
 void CColorGrid::SetSelection(int nColor)
 {
     InvalidateSwatch(FocusColor());
-    m_nSelected = IsPlainColor(nColor) ? nColor : c_nNoColor;
+    m_nSelected = IsPlainColor(nColor) ? nColor : kNoColor;
     InvalidateSwatch(FocusColor());
 }
 
@@ -115,14 +115,14 @@ void CColorGrid::OnLButtonDown(UINT, CPoint point)
 {
     SetFocus();
     const int nColor = Layout().HitTest(point);
-    if (nColor != c_nNoColor)
+    if (nColor != kNoColor)
         Select(nColor);
 }
 
 void CColorGrid::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
     OnLButtonDown(nFlags, point);
-    if (Layout().HitTest(point) != c_nNoColor)
+    if (Layout().HitTest(point) != kNoColor)
         Notify(eAccepted);
 }
 
@@ -135,7 +135,7 @@ void CColorGrid::OnMouseMove(UINT, CPoint point)
 
 LRESULT CColorGrid::OnMouseLeave(WPARAM, LPARAM)
 {
-    SetHot(c_nNoColor);
+    SetHot(kNoColor);
     return 0;
 }
 
@@ -172,19 +172,19 @@ void CColorGrid::Notify(ENotification eCode)
 /// Where the focus mark stands and the arrow keys start: at the choice, or at the first swatch.
 int CColorGrid::FocusColor() const
 {
-    return m_nSelected != c_nNoColor ? m_nSelected : c_nFirstColor;
+    return m_nSelected != kNoColor ? m_nSelected : kFirstColor;
 }
 
 void CColorGrid::InvalidateSwatch(int nColor)
 {
-    if (m_hWnd && nColor != c_nNoColor)
+    if (m_hWnd && nColor != kNoColor)
         InvalidateRect(Layout().CellRect(nColor), FALSE);
 }
 
 void CColorGrid::Draw(CDC& dc) const
 {
     const ColorGridLayout layout = Layout();
-    for (int nColor = c_nFirstColor; nColor <= c_nLastColor; ++nColor)
+    for (int nColor = kFirstColor; nColor <= kLastColor; ++nColor)
         DrawSwatch(dc, layout, nColor);
     DrawMarks(dc, layout);
 }
@@ -200,10 +200,10 @@ void CColorGrid::DrawSwatch(CDC& dc, const ColorGridLayout& layout, int nColor) 
 /// the system's dotted mark, inside the frame of the choice.
 void CColorGrid::DrawMarks(CDC& dc, const ColorGridLayout& layout) const
 {
-    if (m_nHot != c_nNoColor)
+    if (m_nHot != kNoColor)
         DrawFrame(dc, layout.CellRect(m_nHot), ::GetSysColor(COLOR_HIGHLIGHT));
     CRect rect = layout.CellRect(FocusColor());
-    if (m_nSelected != c_nNoColor)
+    if (m_nSelected != kNoColor)
     {
         DrawFrame(dc, rect, RGB(0, 0, 0));
         rect.DeflateRect(1, 1);

@@ -15,18 +15,18 @@ public:
     };
 
     /// Name of the window class to use in a dialog template; see RegisterWindowClass.
-    static constexpr WCHAR c_szClassName[] = L"AcadHostColorGrid";
+    static constexpr WCHAR kClassName[] = L"AcadHostColorGrid";
 
     /// Makes the window class known; to be called before a template with it is used. False if that fails.
     static bool RegisterWindowClass();
 
-    /// The chosen colour; c_nNoColor if none of the swatches is.
+    /// The chosen colour; kNoColor if none of the swatches is.
     int GetSelection() const { return m_nSelected; }
 
     /// Shows a choice without notifying. Any index without a swatch shows none.
     void SetSelection(int nColor);
 
-    /// The colour under the mouse, or c_nNoColor.
+    /// The colour under the mouse, or kNoColor.
     int GetHot() const { return m_nHot; }
 
 protected:
@@ -54,6 +54,6 @@ private:
     void DrawSwatch(CDC& dc, const ColorGridLayout& layout, int nColor) const;
     void DrawMarks(CDC& dc, const ColorGridLayout& layout) const;
 
-    int m_nSelected = c_nNoColor;
-    int m_nHot = c_nNoColor;
+    int m_nSelected = kNoColor;
+    int m_nHot = kNoColor;
 };

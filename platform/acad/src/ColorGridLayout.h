@@ -18,12 +18,12 @@
 class ColorGridLayout
 {
 public:
-    static constexpr int c_nHueRows = c_nShades;
-    static constexpr int c_nLastRow = c_nHueRows;
-    static constexpr int c_nColumns = c_nHues;
+    static constexpr int kHueRows = kShades;
+    static constexpr int kLastRow = kHueRows;
+    static constexpr int kColumns = kHues;
 
     /// For a window whose client area has this size, in pixels.
-    explicit ColorGridLayout(CSize client) : m_nWidth(client.cx), m_nCellHeight(client.cy / (c_nHueRows + 2))
+    explicit ColorGridLayout(CSize client) : m_nWidth(client.cx), m_nCellHeight(client.cy / (kHueRows + 2))
     {
     }
 
@@ -33,21 +33,21 @@ public:
         if (!IsPlainColor(nColor))
             return CRect();
         const SPlace place = PlaceOf(nColor);
-        const bool bLast = place.nRow == c_nLastRow;
+        const bool bLast = place.nRow == kLastRow;
         const int nTop = place.nRow * m_nCellHeight + (bLast ? m_nCellHeight / 2 : 0);
         const int nHeight = bLast ? m_nCellHeight * 3 / 2 : m_nCellHeight;
         return CRect(ColumnLeft(place.nColumn), nTop, ColumnLeft(place.nColumn + 1), nTop + nHeight);
     }
 
-    /// The colour at a point of the client area, or c_nNoColor.
+    /// The colour at a point of the client area, or kNoColor.
     int HitTest(CPoint point) const
     {
-        for (int nColor = c_nFirstColor; nColor <= c_nLastColor; ++nColor)
+        for (int nColor = kFirstColor; nColor <= kLastColor; ++nColor)
         {
             if (CellRect(nColor).PtInRect(point))
                 return nColor;
         }
-        return c_nNoColor;
+        return kNoColor;
     }
 
     /// The colour beside another, one step to the right (+1) or left (-1); at the border the colour itself.
@@ -56,7 +56,7 @@ public:
         SPlace place = PlaceOf(nColor);
         do
             place.nColumn += nStep;
-        while (IsInside(place) && ColorAt(place) == c_nNoColor); // over the gap of the last row
+        while (IsInside(place) && ColorAt(place) == kNoColor); // over the gap of the last row
         return IsInside(place) ? ColorAt(place) : nColor;
     }
 
@@ -67,7 +67,7 @@ public:
         place.nRow += nStep;
         if (!IsInside(place))
             return nColor;
-        if (place.nRow == c_nLastRow)
+        if (place.nRow == kLastRow)
             place.nColumn = NearestInLastRow(place.nColumn);
         return ColorAt(place);
     }
@@ -79,47 +79,47 @@ private:
         int nColumn;
     };
 
-    static constexpr int c_shadeOfRow[c_nHueRows] = {8, 6, 4, 2, 0, 1, 3, 5, 7, 9};
-    static constexpr int c_nStandardColumns = c_nFirstHue - c_nFirstColor;
-    static constexpr int c_nGreyColumns = c_nLastColor - c_nFirstGrey + 1;
-    static constexpr int c_nFirstGreyColumn = c_nColumns - c_nGreyColumns;
+    static constexpr int kShadeOfRow[kHueRows] = {8, 6, 4, 2, 0, 1, 3, 5, 7, 9};
+    static constexpr int kStandardColumns = kFirstHue - kFirstColor;
+    static constexpr int kGreyColumns = kLastColor - kFirstGrey + 1;
+    static constexpr int kFirstGreyColumn = kColumns - kGreyColumns;
 
     /// The columns fill the whole width; they may differ by a pixel.
-    int ColumnLeft(int nColumn) const { return nColumn * m_nWidth / c_nColumns; }
+    int ColumnLeft(int nColumn) const { return nColumn * m_nWidth / kColumns; }
 
     static SPlace PlaceOf(int nColor)
     {
-        if (nColor < c_nFirstHue)
-            return {c_nLastRow, nColor - c_nFirstColor};
-        if (nColor >= c_nFirstGrey)
-            return {c_nLastRow, c_nFirstGreyColumn + nColor - c_nFirstGrey};
-        const int nShade = (nColor - c_nFirstHue) % c_nShades;
-        const auto* pRow = std::find(std::begin(c_shadeOfRow), std::end(c_shadeOfRow), nShade);
-        return {static_cast<int>(pRow - c_shadeOfRow), (nColor - c_nFirstHue) / c_nShades};
+        if (nColor < kFirstHue)
+            return {kLastRow, nColor - kFirstColor};
+        if (nColor >= kFirstGrey)
+            return {kLastRow, kFirstGreyColumn + nColor - kFirstGrey};
+        const int nShade = (nColor - kFirstHue) % kShades;
+        const auto* pRow = std::find(std::begin(kShadeOfRow), std::end(kShadeOfRow), nShade);
+        return {static_cast<int>(pRow - kShadeOfRow), (nColor - kFirstHue) / kShades};
     }
 
     static int ColorAt(SPlace place)
     {
-        if (place.nRow < c_nHueRows)
-            return c_nFirstHue + place.nColumn * c_nShades + c_shadeOfRow[place.nRow];
-        if (place.nColumn < c_nStandardColumns)
-            return c_nFirstColor + place.nColumn;
-        if (place.nColumn >= c_nFirstGreyColumn)
-            return c_nFirstGrey + place.nColumn - c_nFirstGreyColumn;
-        return c_nNoColor;
+        if (place.nRow < kHueRows)
+            return kFirstHue + place.nColumn * kShades + kShadeOfRow[place.nRow];
+        if (place.nColumn < kStandardColumns)
+            return kFirstColor + place.nColumn;
+        if (place.nColumn >= kFirstGreyColumn)
+            return kFirstGrey + place.nColumn - kFirstGreyColumn;
+        return kNoColor;
     }
 
     static bool IsInside(SPlace place)
     {
-        return place.nRow >= 0 && place.nRow <= c_nLastRow && place.nColumn >= 0 &&
-               place.nColumn < c_nColumns;
+        return place.nRow >= 0 && place.nRow <= kLastRow && place.nColumn >= 0 &&
+               place.nColumn < kColumns;
     }
 
     static int NearestInLastRow(int nColumn)
     {
-        const int nLastStandard = c_nStandardColumns - 1;
-        const bool bNearStandard = nColumn - nLastStandard < c_nFirstGreyColumn - nColumn;
-        return bNearStandard ? std::min(nColumn, nLastStandard) : std::max(nColumn, c_nFirstGreyColumn);
+        const int nLastStandard = kStandardColumns - 1;
+        const bool bNearStandard = nColumn - nLastStandard < kFirstGreyColumn - nColumn;
+        return bNearStandard ? std::min(nColumn, nLastStandard) : std::max(nColumn, kFirstGreyColumn);
     }
 
     int m_nWidth;

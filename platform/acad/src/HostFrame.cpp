@@ -1,7 +1,7 @@
 #include "acadhost.h"
 #include "rxmfcapi.h"
 
-static constexpr TCHAR c_szDefaultTitle[] = L"CAD host";
+static constexpr TCHAR kDefaultTitle[] = L"CAD host";
 
 namespace
 {
@@ -25,7 +25,7 @@ void CHostFrame::PostNcDestroy()
 
 CFrameWnd* acedGetAcadFrame()
 {
-    return s_pFrame ? s_pFrame : acadhostCreateFrame(c_szDefaultTitle, SW_HIDE);
+    return s_pFrame ? s_pFrame : acadhostCreateFrame(kDefaultTitle, SW_HIDE);
 }
 
 CFrameWnd* acadhostCreateFrame(LPCTSTR lpszTitle, int nCmdShow)

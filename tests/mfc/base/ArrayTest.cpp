@@ -95,15 +95,15 @@ TEST(Array, BadIndexThrows)
 {
     CUIntArray array;
     array.SetSize(3);
-    EXPECT_EQ(ThrownBy([&] { array.GetAt(3); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array[-1] = 1; }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.SetAt(3, 0); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(2, 2); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(4, 0); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.InsertAt(-1, 1u); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.InsertAt(0, static_cast<CUIntArray*>(nullptr)); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.SetAtGrow(-1, 1); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { array.SetSize(-1); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.GetAt(3); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array[-1] = 1; }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.SetAt(3, 0); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(2, 2); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.RemoveAt(4, 0); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.InsertAt(-1, 1u); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.InsertAt(0, static_cast<CUIntArray*>(nullptr)); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.SetAtGrow(-1, 1); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { array.SetSize(-1); }), kInvalidArg);
     EXPECT_EQ(array.GetSize(), 3);
 }
 

@@ -101,7 +101,7 @@ TEST(Exception, TypesAreKnownAcrossModules)
     EXPECT_EQ(ThrownBy([] { AfxThrowNotSupportedException(); }), "CNotSupportedException");
     EXPECT_EQ(ThrownBy([] { AfxThrowResourceException(); }), "CResourceException");
     EXPECT_EQ(ThrownBy([] { AfxThrowUserException(); }), "CUserException");
-    EXPECT_EQ(ThrownBy([] { AfxThrowInvalidArgException(); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([] { AfxThrowInvalidArgException(); }), kInvalidArg);
     EXPECT_EQ(ThrownBy([] { AfxThrowFileException(CFileException::endOfFile); }), "CFileException");
 
     EXPECT_THROW(AfxThrowUserException(), CUserException*) << "by the exact class";

@@ -122,9 +122,9 @@ TEST(List, EmptyListAndNullPositionThrow)
 {
     CObList list;
     POSITION pos = NULL;
-    EXPECT_EQ(ThrownBy([&] { list.GetHead(); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { list.RemoveTail(); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { list.GetAt(NULL); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { list.RemoveAt(NULL); }), c_invalidArg);
-    EXPECT_EQ(ThrownBy([&] { list.GetNext(pos); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([&] { list.GetHead(); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { list.RemoveTail(); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { list.GetAt(NULL); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { list.RemoveAt(NULL); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { list.GetNext(pos); }), kInvalidArg);
 }

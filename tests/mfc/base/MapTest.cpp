@@ -84,7 +84,7 @@ TEST(Map, IteratesOverEachEntryOnce)
         ++pairs;
     EXPECT_EQ(pairs, 150);
     POSITION end = NULL;
-    EXPECT_EQ(ThrownBy([&] { map.GetNextAssoc(end, key, value); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([&] { map.GetNextAssoc(end, key, value); }), kInvalidArg);
 }
 
 TEST(Map, HashTableSizeIsSetWhileEmpty)
@@ -92,7 +92,7 @@ TEST(Map, HashTableSizeIsSetWhileEmpty)
     CMap<int, int, int, int> map;
     EXPECT_EQ(map.GetHashTableSize(), 17u);
     map[1] = 1;
-    EXPECT_EQ(ThrownBy([&] { map.InitHashTable(5); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([&] { map.InitHashTable(5); }), kInvalidArg);
     map.RemoveAll();
     map.InitHashTable(1, FALSE);
     map[1] = 1;

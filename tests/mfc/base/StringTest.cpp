@@ -282,7 +282,7 @@ TEST(String, Tokenizes)
     start = 0;
     EXPECT_TRUE(CString(L",,,").Tokenize(L",", start).IsEmpty());
     EXPECT_EQ(start, -1);
-    EXPECT_EQ(ThrownBy([&] { str.Tokenize(L",", start); }), c_invalidArg);
+    EXPECT_EQ(ThrownBy([&] { str.Tokenize(L",", start); }), kInvalidArg);
     start = 7;
     EXPECT_STREQ(str.Tokenize(L"", start), L"Second#Third");
 }
@@ -315,7 +315,7 @@ TEST(String, BadArgumentsThrowAndLeaveTheText)
     CString str(L"kept");
     const auto expectInvalid = [&](auto function)
     {
-        EXPECT_EQ(ThrownBy(function), c_invalidArg);
+        EXPECT_EQ(ThrownBy(function), kInvalidArg);
         EXPECT_STREQ(str, L"kept");
     };
     EXPECT_EQ(str.GetAt(4), 0) << "the terminator may be read";

@@ -5,7 +5,7 @@
 
 #include <string>
 
-inline constexpr char c_invalidArg[] = "CInvalidArgException";
+inline constexpr char kInvalidArg[] = "CInvalidArgException";
 
 /// The class name of the MFC exception that the function throws, which is given back; empty for none.
 template <typename FUNCTION>

@@ -25,7 +25,7 @@ class BASESVC_API CComplexUnit
 {
 public:
     /// How many different measurement units a product can hold.
-    static constexpr int c_nMaxTerms = 4;
+    static constexpr int kMaxTerms = 4;
 
     /// The metre.
     CComplexUnit();
@@ -43,7 +43,7 @@ public:
     CString Symbol() const;
 
     /// Product and quotient. Throws an MFC invalid-argument exception if the result needs more than
-    /// c_nMaxTerms measurement units.
+    /// kMaxTerms measurement units.
     CComplexUnit operator*(const CComplexUnit& other) const;
     CComplexUnit operator/(const CComplexUnit& other) const;
 
@@ -64,7 +64,7 @@ private:
     CUnitsConvertor::SRatio Ratio(const CUnitsConvertor& convertor) const;
     CUnitsConvertor::SRatio Product(const CUnitsConvertor& convertor) const;
 
-    std::array<STerm, c_nMaxTerms> m_terms; ///< in the order in which they are written
+    std::array<STerm, kMaxTerms> m_terms; ///< in the order in which they are written
     int m_nTerms = 0;
     CUnitsConvertor::SRatio m_ratio; ///< by CUnitsConvertor::Object, which nearly every conversion asks
 };

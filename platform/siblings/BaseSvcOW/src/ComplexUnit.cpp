@@ -6,8 +6,8 @@
 namespace
 {
 /// Values below this magnitude are tried with six decimals: their millionths are still whole doubles.
-constexpr double c_dDecimalLimit = 9e9;
-constexpr double c_dDecimalScale = 1e6;
+constexpr double kDecimalLimit = 9e9;
+constexpr double kDecimalScale = 1e6;
 
 /// By repeated multiplication: std::pow need not be exact for whole numbers. The exponent is at least 1.
 double Power(double dBase, int nExponent)
@@ -38,17 +38,17 @@ double RoundToWhole(double dValue)
 /// The short decimal next to a value; values too large for that are rounded to whole ones.
 double NearestDecimal(double dValue)
 {
-    if (std::fabs(dValue) >= c_dDecimalLimit)
+    if (std::fabs(dValue) >= kDecimalLimit)
         return RoundToWhole(dValue);
-    return RoundToWhole(dValue * c_dDecimalScale) / c_dDecimalScale;
+    return RoundToWhole(dValue * kDecimalScale) / kDecimalScale;
 }
 
 CString SuperscriptDigits(int nNumber)
 {
-    static constexpr wchar_t c_digits[] = L"⁰¹²³⁴⁵⁶⁷⁸⁹";
+    static constexpr wchar_t kDigits[] = L"⁰¹²³⁴⁵⁶⁷⁸⁹";
     CString strDigits;
     for (; nNumber > 0; nNumber /= 10)
-        strDigits = CString(c_digits[nNumber % 10]) + strDigits;
+        strDigits = CString(kDigits[nNumber % 10]) + strDigits;
     return strDigits;
 }
 
@@ -151,7 +151,7 @@ void CComplexUnit::MultiplyBy(const CMeasurementUnit& unit, int nExponent)
     {
         if (nExponent == 0)
             return;
-        if (m_nTerms == c_nMaxTerms)
+        if (m_nTerms == kMaxTerms)
             AfxThrowInvalidArgException();
         m_terms[m_nTerms++] = {unit, 0};
     }

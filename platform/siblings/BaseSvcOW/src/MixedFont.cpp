@@ -218,13 +218,13 @@ public:
         const auto found = m_layouts.find(std::wstring_view(pszText));
         if (found != m_layouts.end() && found->second.Base().LooksLike(base))
             return found->second;
-        if (m_layouts.size() == c_nMost)
+        if (m_layouts.size() == kMost)
             m_layouts.clear();
         return m_layouts.insert_or_assign(pszText, CMixedLayout(dc, base, pszText)).first->second;
     }
 
 private:
-    static constexpr size_t c_nMost = 1000; ///< about half a megabyte
+    static constexpr size_t kMost = 1000; ///< about half a megabyte
     std::map<std::wstring, CMixedLayout, std::less<>> m_layouts;
 };
 

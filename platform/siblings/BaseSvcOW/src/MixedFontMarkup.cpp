@@ -4,14 +4,14 @@
 
 namespace
 {
-constexpr double c_dScriptScale = 2.0 / 3.0;
-constexpr double c_dSubscriptShift = 0.20;
-constexpr double c_dSuperscriptShift = -0.33;
+constexpr double kScriptScale = 2.0 / 3.0;
+constexpr double kSubscriptShift = 0.20;
+constexpr double kSuperscriptShift = -0.33;
 
 void MakeScript(SMixedFontLook& look, double dShift)
 {
     look.dShift += dShift * look.dScale;
-    look.dScale *= c_dScriptScale;
+    look.dScale *= kScriptScale;
 }
 
 /// Changes the look as an opening mark says. False if there is no such mark.
@@ -22,9 +22,9 @@ bool Open(std::wstring_view mark, SMixedFontLook& look)
     else if (mark == L"i")
         look.bItalic = true;
     else if (mark == L"sub")
-        MakeScript(look, c_dSubscriptShift);
+        MakeScript(look, kSubscriptShift);
     else if (mark == L"sup")
-        MakeScript(look, c_dSuperscriptShift);
+        MakeScript(look, kSuperscriptShift);
     else if (mark.starts_with(L"f ") && mark.size() > 2)
         look.face = mark.substr(2);
     else

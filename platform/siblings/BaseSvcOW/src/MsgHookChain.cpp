@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-static constexpr wchar_t c_szProperty[] = L"BaseSvcOW.MsgHookChain";
+static constexpr wchar_t kProperty[] = L"BaseSvcOW.MsgHookChain";
 
 namespace
 {
 CMsgHookChain* FindChain(HWND hWnd)
 {
-    return static_cast<CMsgHookChain*>(::GetPropW(hWnd, c_szProperty));
+    return static_cast<CMsgHookChain*>(::GetPropW(hWnd, kProperty));
 }
 
 /// Keeps the module of a procedure loaded from now on, because a window holds the procedure's address.
@@ -33,13 +33,13 @@ CMsgHookChain* CMsgHookChain::OfWindow(HWND hWnd)
 
 bool CMsgHookChain::Install()
 {
-    if (!::SetPropW(m_hWnd, c_szProperty, this))
+    if (!::SetPropW(m_hWnd, kProperty, this))
         return false;
     m_pfnOriginal = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
     if (m_pfnOriginal)
         return true;
-    ::RemovePropW(m_hWnd, c_szProperty);
+    ::RemovePropW(m_hWnd, kProperty);
     return false;
 }
 
@@ -100,7 +100,7 @@ LRESULT CMsgHookChain::Call(CMsgHook& hook, const SHookedMessage& message, size_
 
 void CMsgHookChain::ReleaseHooks()
 {
-    ::RemovePropW(m_hWnd, c_szProperty);
+    ::RemovePropW(m_hWnd, kProperty);
     m_bWindowGone = true;
     for (CMsgHook*& pHook : m_hooks)
     {
@@ -128,7 +128,7 @@ void CMsgHookChain::Tidy()
             return;
         }
         ::SetWindowLongPtrW(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnOriginal));
-        ::RemovePropW(m_hWnd, c_szProperty);
+        ::RemovePropW(m_hWnd, kProperty);
     }
     delete this;
 }

@@ -42,11 +42,11 @@ std::wstring Widen(const SField& field)
 
 std::string_view TrimBlanks(std::string_view text)
 {
-    constexpr std::string_view c_blanks = " \t\r";
-    const size_t nFirst = text.find_first_not_of(c_blanks);
+    constexpr std::string_view kBlanks = " \t\r";
+    const size_t nFirst = text.find_first_not_of(kBlanks);
     if (nFirst == std::string_view::npos)
         return {};
-    return text.substr(nFirst, text.find_last_not_of(c_blanks) - nFirst + 1);
+    return text.substr(nFirst, text.find_last_not_of(kBlanks) - nFirst + 1);
 }
 
 /// Turns the inside of a quoted string into its text.
@@ -69,12 +69,12 @@ public:
 private:
     char Escape()
     {
-        static const std::map<char, char> c_simple = {
+        static const std::map<char, char> kSimple = {
             {'n', '\n'}, {'t', '\t'}, {'r', '\r'}, {'a', '\a'},  {'b', '\b'},
             {'f', '\f'}, {'v', '\v'}, {'"', '"'},  {'\\', '\\'},
         };
         const char c = m_nPos < m_source.size() ? m_source[m_nPos] : '\0';
-        if (const auto it = c_simple.find(c); it != c_simple.end())
+        if (const auto it = kSimple.find(c); it != kSimple.end())
         {
             ++m_nPos;
             return it->second;
@@ -119,9 +119,9 @@ class CPoReader
 public:
     std::vector<SPoMessage> Run(std::string_view bytes)
     {
-        constexpr std::string_view c_byteOrderMark = "\xEF\xBB\xBF";
-        if (bytes.starts_with(c_byteOrderMark))
-            bytes.remove_prefix(c_byteOrderMark.size());
+        constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+        if (bytes.starts_with(kByteOrderMark))
+            bytes.remove_prefix(kByteOrderMark.size());
         while (!bytes.empty())
         {
             ++m_nLine;
@@ -282,11 +282,11 @@ private:
 
     static void CheckHeader(const SField& header)
     {
-        constexpr std::string_view c_charset = "charset=";
-        const size_t nPos = header.bytes.find(c_charset);
+        constexpr std::string_view kCharset = "charset=";
+        const size_t nPos = header.bytes.find(kCharset);
         if (nPos == std::string::npos)
             return;
-        const std::string_view rest = std::string_view(header.bytes).substr(nPos + c_charset.size());
+        const std::string_view rest = std::string_view(header.bytes).substr(nPos + kCharset.size());
         std::string charset(TrimBlanks(rest.substr(0, rest.find('\n'))));
         std::ranges::transform(charset, charset.begin(), [](unsigned char c) { return std::tolower(c); });
         if (charset != "utf-8")

@@ -27,12 +27,12 @@ CString ClassNameOf(HWND hWnd)
 /// Whether the text or the parts of a control are data and not wording.
 bool HoldsData(HWND hWnd)
 {
-    static constexpr LPCWSTR c_classes[] = {
+    static constexpr LPCWSTR kClasses[] = {
         L"Edit",          L"ComboBox",       L"ComboBoxEx32",    L"ListBox",           L"SysListView32",
         L"SysTreeView32", L"SysIPAddress32", L"msctls_hotkey32", L"SysDateTimePick32",
     };
     const CString strClass = ClassNameOf(hWnd);
-    for (LPCWSTR pszClass : c_classes)
+    for (LPCWSTR pszClass : kClasses)
     {
         if (strClass.CompareNoCase(pszClass) == 0)
             return true;

@@ -15,11 +15,11 @@ class SETTINGS_API CFormatJedinice
 {
 public:
     /// Most decimals that are written: a double holds no more.
-    static constexpr int c_nMaxDecimals = 15;
+    static constexpr int kMaxDecimals = 15;
 
     int nUnitIndex = CMeasurementUnit::eMillimetre; ///< number of the length unit, 0 to 5
     int nCheckFlag = 0;                             ///< 1: the unit's symbol is written behind the number
-    int nEditValue = 0;                             ///< decimals, 0 to c_nMaxDecimals
+    int nEditValue = 0;                             ///< decimals, 0 to kMaxDecimals
 
     /// The unit of nUnitIndex. An index that names none gives the millimetre, the default of the record.
     CComplexUnit Unit() const;

@@ -16,14 +16,14 @@ class SETTINGS_API CFormatTekstaKote
 {
 public:
     /// Value of nTekstKote that marks a record as not set.
-    static constexpr int c_nNotSet = -1;
+    static constexpr int kNotSet = -1;
 
-    int nTekstKote = c_nNotSet; ///< number of the standard dimension text, 0 to 5
+    int nTekstKote = kNotSet; ///< number of the standard dimension text, 0 to 5
     CFormatJedinice jedinica;   ///< how the length is written
     CString strPrefiks;         ///< text before the length
     CString strSufiks;          ///< text behind the length
 
-    bool IsSet() const { return nTekstKote != c_nNotSet; }
+    bool IsSet() const { return nTekstKote != kNotSet; }
 
     /// Writes a length given in metres, with prefix and suffix.
     CString Format(double dLength) const;

@@ -12,7 +12,7 @@ CString CFormatJedinice::Format(double dLength) const
 {
     const CComplexUnit unit = Unit();
     CString strLength;
-    strLength.Format(L"%.*f", std::clamp(nEditValue, 0, c_nMaxDecimals), unit.ToLocal(dLength));
+    strLength.Format(L"%.*f", std::clamp(nEditValue, 0, kMaxDecimals), unit.ToLocal(dLength));
     if (nCheckFlag == 1)
         strLength += L" " + unit.Symbol();
     return strLength;
