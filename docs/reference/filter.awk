@@ -94,7 +94,7 @@ begins_nothing() || /^(class|struct|enum)/ {
     print
     next
 }
-!in_doc && !continued && doc == "" && remark == "" && $0 !~ /\/\/\/</ && $0 ~ /^ / && (access == "protected:" || / override/) {
+!in_doc && !continued && (doc == "" || subject($0) != about) && remark == "" && $0 !~ /\/\/\/</ && $0 ~ /^ / && (access == "protected:" || / override/) {
     depth = gsub(/{/, "{") - gsub(/}/, "}")
     skipping = depth > 0 || $0 !~ /[;}] *(\/\/.*)?$/
     next
