@@ -1,0 +1,150 @@
+#include <afxwin.h>
+
+#include "DimensionPainter.h"
+
+#include "module/GdiScope.h"
+
+#include <aced.h>
+
+#include <algorithm>
+
+namespace
+{
+// Of the pictures of dimension lines, in pixels.
+constexpr int c_nLength = 48, c_nHeight = 16, c_nRow = 8;
+constexpr int c_nHead = 22;                                  ///< the ends; between them is the bare line
+constexpr int c_nExtension = 5;                              ///< column of the first extension line
+constexpr int c_nOutsideEnds = 19, c_nOutsideExtension = 13; ///< this one has its arrows outside
+
+// Places of a text, by the index of the picker.
+enum EPlace
+{
+    eAbove,
+    eInLine,
+    eBelow,
+    eAboveBegin,
+    eAboveEnd,
+    eOutside,
+    eClearOfEnds ///< of no picker: below, for a text that is longer than its line
+};
+
+/// A quarter turn: what ran to the right runs up.
+void Turn(CDC& dc, HBITMAP hPicture, CBitmap& turned)
+{
+    CDC from, to;
+    from.CreateCompatibleDC(&dc);
+    to.CreateCompatibleDC(&dc);
+    turned.CreateBitmap(c_nHeight, c_nLength, 1, 1, nullptr);
+    const CGdiSelection fromScope(from, hPicture), toScope(to, turned);
+    for (int x = 0; x < c_nLength; ++x)
+        for (int y = 0; y < c_nHeight; ++y)
+            to.SetPixel(y, c_nLength - 1 - x, from.GetPixel(x, y));
+}
+
+void MakeFont(CFont& font, const DrawingStyle& style, int nHeight, int nTenthsOfDegree)
+{
+    LOGFONT logFont{};
+    logFont.lfHeight = -nHeight;
+    logFont.lfWeight = style.bold ? FW_BOLD : FW_NORMAL;
+    logFont.lfItalic = style.italic != 0;
+    logFont.lfCharSet = DEFAULT_CHARSET;
+    logFont.lfEscapement = logFont.lfOrientation = nTenthsOfDegree;
+    lstrcpyn(logFont.lfFaceName, style.font.empty() ? _T("Arial") : style.font.c_str(), LF_FACESIZE);
+    font.CreateFontIndirect(&logFont);
+}
+} // namespace
+
+CDimensionPainter::CDimensionPainter(CDC& dc, const DrawingStyle& style) : m_dc(dc), m_style(style)
+{
+    constexpr double c_inch_m = 0.0254;
+    const int nHeight = static_cast<int>(style.textHeight_m / c_inch_m * dc.GetDeviceCaps(LOGPIXELSY) + 0.5);
+    MakeFont(m_font, style, nHeight, 0);
+    MakeFont(m_fontTurned, style, nHeight, 900);
+    const CGdiSelection font(dc, m_font);
+    m_nTextHeight = dc.GetTextExtent(_T("0"), 1).cy;
+    m_hPicture = CBitmapBtnSTKotnaLinija().GetBitmap(style.dimensionEnds);
+    Turn(dc, m_hPicture, m_turned);
+}
+
+void CDimensionPainter::Horizontal(int nLeft, int nRight, int y, const CString& strText)
+{
+    Paint({CPoint(nLeft, y), false, nRight - nLeft}, strText);
+}
+
+void CDimensionPainter::Vertical(int nTop, int nBottom, int x, const CString& strText)
+{
+    Paint({CPoint(x, nBottom), true, nBottom - nTop}, strText);
+}
+
+CRect CDimensionPainter::Line::At(int nAlong, int nAcross, CSize size) const
+{
+    if (bUpright)
+        return CRect(CPoint(origin.x + nAcross, origin.y - nAlong - size.cx + 1), CSize(size.cy, size.cx));
+    return CRect(CPoint(origin.x + nAlong, origin.y + nAcross), size);
+}
+
+void CDimensionPainter::Paint(const Line& line, const CString& strText)
+{
+    const int nOver = m_style.dimensionEnds == c_nOutsideEnds ? c_nOutsideExtension : c_nExtension;
+    const int nHead = std::min(c_nHead, nOver + (line.nLength + 1) / 2); // of a short one half each
+    PaintPart(line, 0, nHead, -nOver);
+    PaintPart(line, c_nLength - nHead, c_nLength, line.nLength + 1 + nOver - nHead);
+    m_dc.FillSolidRect(
+        line.At(nHead - nOver, 0, CSize(std::max(0, line.nLength + 1 + 2 * (nOver - nHead)), 1)),
+        m_style.dimensionColor);
+    PaintText(line, strText);
+}
+
+/// Columns of the picture, where it is black, in the colour of dimensions.
+void CDimensionPainter::PaintPart(const Line& line, int nFirst, int nLast, int nAlong)
+{
+    CDC picture;
+    picture.CreateCompatibleDC(&m_dc);
+    const CGdiSelection scope(picture, line.bUpright ? static_cast<HGDIOBJ>(m_turned) : m_hPicture);
+    const CBkColorScope white(m_dc, RGB(255, 255, 255));
+    const CTextColorScope color(m_dc, m_style.dimensionColor);
+    const CRect to = line.At(nAlong, -c_nRow, CSize(nLast - nFirst, c_nHeight));
+    const CPoint from = line.bUpright ? CPoint(0, c_nLength - nLast) : CPoint(nFirst, 0);
+    m_dc.BitBlt(to.left, to.top, to.Width(), to.Height(), &picture, from.x, from.y, SRCAND);
+}
+
+void CDimensionPainter::PaintText(const Line& line, const CString& strText)
+{
+    constexpr int c_nForeground = 7; // which the host draws in black on white
+    const CGdiSelection font(m_dc, line.bUpright ? m_fontTurned : m_font);
+    CSize size;
+    {
+        const CGdiSelection level(m_dc, m_font);
+        size = m_dc.GetTextExtent(strText);
+    }
+    const int nMiddle = (line.nLength - size.cx) / 2, nAbove = -size.cy - 3;
+    int nAlong = nMiddle, nAcross = nAbove;
+    const bool bFits = size.cx + 4 <= line.nLength;
+    switch (bFits ? m_style.dimensionText : eClearOfEnds)
+    {
+    case eInLine:
+        nAcross = -size.cy / 2;
+        m_dc.FillSolidRect(line.At(nAlong - 2, nAcross, CSize(size.cx + 4, size.cy)), RGB(255, 255, 255));
+        break;
+    case eBelow:
+        nAcross = 2;
+        break;
+    case eClearOfEnds:
+        nAcross = c_nRow;
+        break;
+    case eAboveBegin:
+        nAlong = std::min(3, nMiddle);
+        break;
+    case eAboveEnd:
+        nAlong = std::max<int>(line.nLength - size.cx - 3, nMiddle);
+        break;
+    case eOutside:
+        nAlong = line.nLength + 8;
+        m_dc.FillSolidRect(line.At(line.nLength, 0, CSize(size.cx + 8, 1)), m_style.dimensionColor);
+        break;
+    }
+    const CRect place = line.At(nAlong, nAcross, size);
+    const CBkModeScope transparent(m_dc, TRANSPARENT);
+    const CTextColorScope color(m_dc, m_style.textColor == c_nForeground ? 0 : acedGetRGB(m_style.textColor));
+    m_dc.TextOut(place.left, line.bUpright ? place.bottom : place.top, strText);
+}
