@@ -1,0 +1,174 @@
+#include <gtest/gtest.h>
+
+#include "Check.h"
+#include "Parts.h"
+#include "Rules.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace
+{
+constexpr double mm = c_millimetre_m;
+
+int Bolt(const wchar_t* name)
+{
+    return IndexOf(BoltSizes(), name);
+}
+
+int Class(const wchar_t* name)
+{
+    return IndexOf(BoltClasses(), name);
+}
+
+// Area by dimensions, and mass as the norm rounds it: each row of the table bears out the others.
+TEST(Profiles, WeighWhatTheirDimensionsSay)
+{
+    EXPECT_EQ(Profiles().size(), 18u + 19u + 19u);
+    for (const Profile& p : Profiles())
+    {
+        const double area = 2 * p.width_m * p.flange_m + (p.height_m - 2 * p.flange_m) * p.web_m +
+                            (4 - std::numbers::pi) * p.radius_m * p.radius_m;
+        const double mass = area * c_steelDensity_kgPerM3;
+        EXPECT_NEAR(mass, p.mass_kgPerM, std::max(0.05, 0.005 * mass)) << std::wstring(p.name).size();
+    }
+}
+
+// By hand, to four digits: 0.9 fub As / 1.25, and alpha v fub As / 1.25.
+TEST(Check, ResistancesOfBolts)
+{
+    const struct
+    {
+        const wchar_t *bolt, *grade;
+        double tension_kN, shear_kN;
+    } cases[] = {
+        {L"M12", L"5.6", 30.35, 20.23},  {L"M16", L"4.6", 45.22, 30.14}, {L"M20", L"8.8", 141.1, 94.08},
+        {L"M24", L"10.9", 254.2, 141.2}, {L"M36", L"8.8", 470.6, 313.7},
+    };
+    for (const auto& [bolt, grade, tension, shear] : cases)
+    {
+        const BoltSize& size = BoltSizes()[static_cast<size_t>(Bolt(bolt))];
+        const BoltClass& strength = BoltClasses()[static_cast<size_t>(Class(grade))];
+        EXPECT_NEAR(TensionResistance_N(size, strength) / 1e3, tension, tension * 5e-4);
+        EXPECT_NEAR(ShearResistance_N(size, strength) / 1e3, shear, shear * 5e-4);
+    }
+}
+
+// M20 - 8.8 in S235, t = 15: e1 60, e2 40, p1 80, p2 100, d0 22.
+//   bearing: alpha = 60 / 66 = 0.909, k1 = 2.5: 2.5 x 0.909 x 360 x 20 x 15 / 1.25 = 196.4 kN
+//   punching: dm = (30 + 34.64) / 2 = 32.32: 0.6 pi 32.32 x 15 x 360 / 1.25 = 263.2 kN
+//   T-stub, m 40, e 40: leff = 80 + 25 + 40 = 145; Mpl = 0.25 x 145 x 225 x 235 = 1.917 kNm;
+//   mode 1: 4 x 1917 / 40 = 191.7; mode 2: (2 x 1917 + 40 x 282.2) / 80 = 189.0 kN
+//   weld, fu / (0.8 x 1.25) = 360 N/mm2
+TEST(Check, ResistancesOfPlateAndWelds)
+{
+    Connection c;
+    c.endDistance_m = 60 * mm;
+    c.pitch_m = 80 * mm;
+    c.gauge_m = 100 * mm;
+    EXPECT_NEAR(BearingResistance_N(c, 15 * mm, 60 * mm, 40 * mm) / 1e3, 196.4, 0.05);
+    EXPECT_NEAR(PunchingResistance_N(c.Bolt(), c.Steel(), 15 * mm) / 1e3, 263.2, 0.05);
+    EXPECT_NEAR(TStubResistance_N(c, 15 * mm, 40 * mm, 40 * mm) / 1e3, 189.0, 0.1);
+    EXPECT_NEAR(WeldResistance_Pa(c.Steel()) / 1e6, 360.0, 1e-6);
+}
+
+// IPE 300, rows at 45, 115, 185, 255 below its top; arms to the middle of the lower flange 249.65, 179.65, 109.65,
+// 39.65, sum of squares 0.10819 m2. M = 60 kNm: 60 x 0.24965 / (2 x 0.10819) = 69.2 kN; N = 40 kN: 5 kN more.
+// M = -60 turns about the upper flange: arms 39.65 to 249.65 the other way, the same by symmetry.
+TEST(Check, ForcesOfBolts)
+{
+    const Connection c;
+    EXPECT_NEAR(GreatestBoltTension_N(c, {60e3, 0, 0}) / 1e3, 69.2, 0.05);
+    EXPECT_NEAR(GreatestBoltTension_N(c, {60e3, 0, 40e3}) / 1e3, 74.2, 0.05);
+    EXPECT_NEAR(GreatestBoltTension_N(c, {-60e3, 0, 0}) / 1e3, 69.2, 0.05);
+    EXPECT_EQ(GreatestBoltTension_N(c, {0, 0, -40e3}), 0.0);
+    const auto results = CheckConnection(c, {0, 80e3, 0});
+    EXPECT_NEAR(results[static_cast<size_t>(ECheck::BoltShear)].effect / 1e3, 10.0, 1e-9);
+    // 80 kN on 2 x 4 x (300 - 21.4 - 30) mm2 = 40.23 N/mm2, times root 3
+    EXPECT_NEAR(results[static_cast<size_t>(ECheck::WebWeld)].effect / 1e6, 69.68, 0.01);
+}
+
+TEST(Check, AllCasesAndNoMoreThanAreWanted)
+{
+    const Connection c;
+    const Survey all = CheckAllCases(c, [](int) { return true; });
+    EXPECT_EQ(all.casesChecked, c_loadCaseCount);
+    EXPECT_EQ(all.governingCase, c_loadCaseCount - 1); // all greatest
+    EXPECT_NEAR(all.loadCase.forces.moment_Nm, 1.35 * 15e3 + 1.5 * (19e3 + 4e3 + 7e3), 1e-6);
+    EXPECT_EQ(CheckAllCases(c, [](int checked) { return checked < 25; }).casesChecked, 25);
+}
+
+TEST(Rules, LimitsMoveAndWishesStay)
+{
+    Connection wanted;
+    wanted.pitch_m = 72 * mm;
+    wanted.beam = IndexOf(Profiles(), L"IPE 270");
+    const FittedConnection smaller = Fit(wanted);
+    EXPECT_NEAR(smaller.values.endDistance_m, 67 * mm, 1e-9);
+    EXPECT_NEAR(smaller.values.pitch_m, 65 * mm, 1e-9);
+    EXPECT_TRUE(BrokenRules(smaller).empty());
+    wanted.beam = IndexOf(Profiles(), L"IPE 300");
+    EXPECT_EQ(Fit(wanted).values, wanted);
+}
+
+// Whatever is chosen: what is fitted stays so, and either keeps the rules or says which it breaks.
+TEST(Rules, FitEveryCombination)
+{
+    for (size_t beam = 0; beam < Profiles().size(); ++beam)
+        for (size_t column = 18; column < Profiles().size(); ++column)
+            for (size_t bolt = 0; bolt < BoltSizes().size(); ++bolt)
+            {
+                Connection wanted;
+                wanted.beam = static_cast<int>(beam);
+                wanted.column = static_cast<int>(column);
+                wanted.boltSize = static_cast<int>(bolt);
+                const FittedConnection fitted = Fit(wanted);
+                ASSERT_EQ(Fit(fitted.values).values, fitted.values) << beam << ' ' << column << ' ' << bolt;
+                const Connection& c = fitted.values;
+                const double hole = c.Bolt().hole_m;
+                if (!BrokenRules(fitted).empty())
+                    continue;
+                ASSERT_GE(std::min({c.endDistance_m, c.BottomDistance_m(), c.EdgeDistance_m()}),
+                          1.2 * hole - 1e-9);
+                ASSERT_GE(c.pitch_m, 2.2 * hole - 1e-9);
+                ASSERT_GE(c.gauge_m, 2.4 * hole - 1e-9);
+                ASSERT_LE(c.plateWidth_m, c.Column().width_m + 1e-9);
+                ASSERT_GT(Governing(CheckConnection(c, {1e3, 1e3, 0})).Utilisation(), 0);
+            }
+}
+
+// Plate 15 x 180 x 330: 6.994 kg. Bolt M20 x 65: 15 + 15 + 8 + 18 + 6 = 62; shank 160.3 g, head 76.5 g, nut 65.7 g.
+TEST(Parts, Weights)
+{
+    const auto parts = PartsOf(Connection());
+    EXPECT_NEAR(parts[ePartBeam].TotalMass_kg(), 4 * 6 * 42.2, 1e-9);
+    EXPECT_NEAR(parts[ePartPlate].mass_kg, 6.994, 5e-4);
+    EXPECT_EQ(parts[ePartPlate].description, L"PL 15x180x330");
+    EXPECT_EQ(parts[ePartBolts].description, L"M20x65 - 8.8");
+    EXPECT_EQ(parts[ePartBolts].count, 64);
+    EXPECT_NEAR(parts[ePartBolts].mass_kg, 0.3025, 5e-4);
+}
+
+TEST(Model, FilesKeepWhatTheyAreGivenAndStandWhatTheyAreNot)
+{
+    const auto path = std::filesystem::temp_directory_path() / L"connection_values_test" / L"all.txt";
+    Connection c;
+    c.beam = 3;
+    c.pitch_m = 0.1 / 3;
+    c.parts[0].mark = L"Greda \u0161 = [1]";
+    c.drawing.dimensionColor = 0xFFFFFF;
+    WriteConnections(path, {{L"[a]=b", c}, {L"", Connection()}});
+    const auto read = ReadConnections(path);
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[0].name, L"[a]=b");
+    EXPECT_EQ(read[0].values, c);
+    EXPECT_EQ(read[1].values, Connection());
+
+    FILE* file = ::_wfopen(path.c_str(), L"wb");
+    std::fputs("pitch=1\n[x]\nbeam=IPE 1\nboltRows=-4\npitch=nan\ngauge=\nlengths.unit=9\nheight", file);
+    std::fclose(file);
+    EXPECT_EQ(ReadConnections(path).at(0).values, Connection());
+    std::filesystem::remove_all(path.parent_path());
+    EXPECT_TRUE(ReadConnections(path).empty());
+}
+} // namespace
