@@ -82,12 +82,12 @@ protected:
     }
 
 private:
-    static constexpr unsigned int c_nOwn = CEditDoubleWithRange::c_nCreateControl;
+    static constexpr unsigned int kOwn = CEditDoubleWithRange::kCreateControl;
 
     CExtComboBox m_comboSize{this}, m_comboClass{this};
     CEditIntegerWithRange m_editRows{this};
-    CEditDoubleWithRange m_editEnd{this, c_nOwn, c_nOwn}, m_editPitch{this, c_nOwn, c_nOwn},
-        m_editGauge{this, c_nOwn, c_nOwn};
+    CEditDoubleWithRange m_editEnd{this, kOwn, kOwn}, m_editPitch{this, kOwn, kOwn},
+        m_editGauge{this, kOwn, kOwn};
 };
 } // namespace
 

@@ -6,13 +6,13 @@
 
 namespace
 {
-constexpr double c_gammaM0 = 1.0;
-constexpr double c_gammaM2 = 1.25;
+constexpr double kGammaM0 = 1.0;
+constexpr double kGammaM2 = 1.25;
 
 // By EAction: the least and the greatest partial factor.
-constexpr double c_factors[eActionCount][2] = {{1.0, 1.35}, {0.0, 1.5}, {-1.5, 1.5}, {0.0, 1.5}};
-constexpr int c_factorSteps = 10;
-static_assert(c_factorSteps * c_factorSteps * c_factorSteps * c_factorSteps == c_loadCaseCount);
+constexpr double kFactors[eActionCount][2] = {{1.0, 1.35}, {0.0, 1.5}, {-1.5, 1.5}, {0.0, 1.5}};
+constexpr int kFactorSteps = 10;
+static_assert(kFactorSteps * kFactorSteps * kFactorSteps * kFactorSteps == kLoadCaseCount);
 
 /// The lever arms of a row, in metres from the middle of the flange that is in compression.
 double LeverArm_m(const Connection& c, int row, bool bottomInCompression)
@@ -58,18 +58,18 @@ double WebWeldStress_Pa(const Connection& c, const Forces& forces)
 
 double TensionResistance_N(const BoltSize& bolt, const BoltClass& grade)
 {
-    return 0.9 * grade.ultimate_Pa * bolt.stressArea_m2 / c_gammaM2;
+    return 0.9 * grade.ultimate_Pa * bolt.stressArea_m2 / kGammaM2;
 }
 
 double ShearResistance_N(const BoltSize& bolt, const BoltClass& grade)
 {
-    return grade.shearFactor * grade.ultimate_Pa * bolt.stressArea_m2 / c_gammaM2;
+    return grade.shearFactor * grade.ultimate_Pa * bolt.stressArea_m2 / kGammaM2;
 }
 
 double PunchingResistance_N(const BoltSize& bolt, const SteelGrade& steel, double thickness_m)
 {
     const double meanDiameter = (bolt.headWidth_m + 2 * bolt.HeadRadius_m()) / 2; // of flats and corners
-    return 0.6 * std::numbers::pi * meanDiameter * thickness_m * steel.ultimate_Pa / c_gammaM2;
+    return 0.6 * std::numbers::pi * meanDiameter * thickness_m * steel.ultimate_Pa / kGammaM2;
 }
 
 double BearingResistance_N(const Connection& c, double thickness_m, double endDistance_m,
@@ -81,7 +81,7 @@ double BearingResistance_N(const Connection& c, double thickness_m, double endDi
     if (endDistance_m > 0)
         alpha = std::min(alpha, endDistance_m / (3 * hole));
     const double k1 = std::min({2.5, 2.8 * edgeDistance_m / hole - 1.7, 1.4 * c.gauge_m / hole - 1.7});
-    return k1 * alpha * c.Steel().ultimate_Pa * c.Bolt().diameter_m * thickness_m / c_gammaM2;
+    return k1 * alpha * c.Steel().ultimate_Pa * c.Bolt().diameter_m * thickness_m / kGammaM2;
 }
 
 double TStubResistance_N(const Connection& c, double thickness_m, double m_m, double e_m)
@@ -90,7 +90,7 @@ double TStubResistance_N(const Connection& c, double thickness_m, double m_m, do
     // A row alone, or at the end of a group: the shortest of the four patterns serves all rows.
     const double length = std::min(
         {2 * pi * m_m, pi * m_m + c.pitch_m, 4 * m_m + 1.25 * e_m, 2 * m_m + 0.625 * e_m + c.pitch_m / 2});
-    const double plasticMoment = 0.25 * length * thickness_m * thickness_m * c.Steel().yield_Pa / c_gammaM0;
+    const double plasticMoment = 0.25 * length * thickness_m * thickness_m * c.Steel().yield_Pa / kGammaM0;
     const double bolts = 2 * TensionResistance_N(c.Bolt(), c.Class());
     const double n = std::min(e_m, 1.25 * m_m);
     return std::min({4 * plasticMoment / m_m, (2 * plasticMoment + n * bolts) / (m_m + n), bolts});
@@ -98,7 +98,7 @@ double TStubResistance_N(const Connection& c, double thickness_m, double m_m, do
 
 double WeldResistance_Pa(const SteelGrade& steel)
 {
-    return steel.ultimate_Pa / (steel.weldFactor * c_gammaM2);
+    return steel.ultimate_Pa / (steel.weldFactor * kGammaM2);
 }
 
 double GreatestBoltTension_N(const Connection& c, const Forces& forces)
@@ -115,7 +115,7 @@ double GreatestBoltTension_N(const Connection& c, const Forces& forces)
     return std::max(0.0, byMoment + forces.axial_N / (2 * c.boltRows));
 }
 
-std::array<CheckResult, c_checkCount> CheckConnection(const Connection& c, const Forces& forces)
+std::array<CheckResult, kCheckCount> CheckConnection(const Connection& c, const Forces& forces)
 {
     const double tension = GreatestBoltTension_N(c, forces);
     const double shear = std::abs(forces.shear_N) / (2 * c.boltRows);
@@ -139,7 +139,7 @@ std::array<CheckResult, c_checkCount> CheckConnection(const Connection& c, const
     }};
 }
 
-const CheckResult& Governing(const std::array<CheckResult, c_checkCount>& results)
+const CheckResult& Governing(const std::array<CheckResult, kCheckCount>& results)
 {
     return *std::max_element(results.begin(), results.end(),
                              [](const CheckResult& a, const CheckResult& b)
@@ -149,10 +149,10 @@ const CheckResult& Governing(const std::array<CheckResult, c_checkCount>& result
 LoadCase LoadCaseAt(const Connection& c, int index)
 {
     LoadCase loadCase;
-    for (size_t i = 0; i < c.actions.size(); ++i, index /= c_factorSteps)
+    for (size_t i = 0; i < c.actions.size(); ++i, index /= kFactorSteps)
     {
-        const auto [least, greatest] = c_factors[i];
-        const double factor = least + (greatest - least) * (index % c_factorSteps) / (c_factorSteps - 1);
+        const auto [least, greatest] = kFactors[i];
+        const double factor = least + (greatest - least) * (index % kFactorSteps) / (kFactorSteps - 1);
         loadCase.factors[i] = factor;
         loadCase.forces.moment_Nm += factor * c.actions[i].moment_Nm;
         loadCase.forces.shear_N += factor * c.actions[i].shear_N;
@@ -165,7 +165,7 @@ Survey CheckAllCases(const Connection& c, const std::function<bool(int checked)>
 {
     Survey survey;
     double greatest = -1;
-    while (survey.casesChecked < c_loadCaseCount && goOn(survey.casesChecked))
+    while (survey.casesChecked < kLoadCaseCount && goOn(survey.casesChecked))
     {
         const LoadCase loadCase = LoadCaseAt(c, survey.casesChecked);
         const auto results = CheckConnection(c, loadCase.forces);

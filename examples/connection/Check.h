@@ -22,7 +22,7 @@ enum class ECheck
     FlangeWeld,
     WebWeld,
 };
-constexpr int c_checkCount = 10;
+constexpr int kCheckCount = 10;
 
 /// Effect and resistance in newtons; of the interaction and the welds in pascals or without a unit.
 struct CheckResult
@@ -53,10 +53,10 @@ double WeldResistance_Pa(const SteelGrade& steel);
 double GreatestBoltTension_N(const Connection& c, const Forces& forces);
 
 /// All checks, in the order of ECheck. The connection is to be fitted.
-std::array<CheckResult, c_checkCount> CheckConnection(const Connection& c, const Forces& forces);
+std::array<CheckResult, kCheckCount> CheckConnection(const Connection& c, const Forces& forces);
 
 /// The one with the greatest utilisation.
-const CheckResult& Governing(const std::array<CheckResult, c_checkCount>& results);
+const CheckResult& Governing(const std::array<CheckResult, kCheckCount>& results);
 
 /// Every action with ten partial factors from its least to its greatest.
 struct LoadCase
@@ -64,7 +64,7 @@ struct LoadCase
     std::array<double, eActionCount> factors{};
     Forces forces;
 };
-constexpr int c_loadCaseCount = 10000;
+constexpr int kLoadCaseCount = 10000;
 LoadCase LoadCaseAt(const Connection& c, int index);
 
 struct Survey
@@ -72,7 +72,7 @@ struct Survey
     int casesChecked = 0;
     int governingCase = -1; ///< its index
     LoadCase loadCase;      ///< that case
-    std::array<CheckResult, c_checkCount> results{};
+    std::array<CheckResult, kCheckCount> results{};
 };
 
 /// Checks case after case as long as `goOn`, which is told how many have been checked, answers true.

@@ -25,9 +25,9 @@ enum EResultColumn
     eResultColumnCount
 };
 
-constexpr LPCTSTR c_actions[eActionCount] = {_T("Stalno"), _T("Korisno"), _T("Vetar"), _T("Sneg")};
+constexpr LPCTSTR kActions[eActionCount] = {_T("Stalno"), _T("Korisno"), _T("Vetar"), _T("Sneg")};
 
-constexpr LPCTSTR c_checks[c_checkCount] = {
+constexpr LPCTSTR kChecks[kCheckCount] = {
     _T("Vijak na zatezanje"), _T("Vijak na smicanje"),      _T("Zatezanje i smicanje"),
     _T("Proboj glave vijka"), _T("Pritisak na plocu"),      _T("Pritisak na stub"),
     _T("Savijanje ploce"),    _T("Savijanje nozice stuba"), _T("Sav nozice"),
@@ -122,10 +122,10 @@ void CCheckPageDialog::OnCheck()
     {
         CSingleThreadProgress progress(_T("Provera slucajeva opterecenja"), m_host.m_hWnd, true);
         survey = CheckAllCases(m_checked, [&](int nChecked)
-                               { return progress.Update(100 * nChecked / c_loadCaseCount); });
+                               { return progress.Update(100 * nChecked / kLoadCaseCount); });
     } // the box closes
     ShowResults(survey);
-    if (survey.casesChecked < c_loadCaseCount)
+    if (survey.casesChecked < kLoadCaseCount)
         return; // by the user, who knows
     const bool bHolds = Governing(survey.results).Utilisation() <= 1.0;
     COstrelMessageBox::MessageBox(Tr(bHolds ? _T("Veza zadovoljava.") : _T("Veza ne zadovoljava.")) +
@@ -137,7 +137,7 @@ void CCheckPageDialog::MakeLoads()
 {
     const CComplexUnit kilonewton(CMeasurementUnit(CMeasurementUnit::eKilonewton, CMeasurementUnit::eForce));
     CComplexUnit units[] = {kilonewton * CComplexUnit(), kilonewton, kilonewton};
-    constexpr LPCTSTR c_headings[] = {_T("Moment"), _T("Smicanje"), _T("Zatezanje")};
+    constexpr LPCTSTR kHeadings[] = {_T("Moment"), _T("Smicanje"), _T("Zatezanje")};
 
     SetUpGrid(m_gridLoads, 1 + eActionCount, eColumnCount);
     m_gridLoads.InstallMessageHook(); // the window is the template's
@@ -145,13 +145,13 @@ void CCheckPageDialog::MakeLoads()
     m_gridLoads.SetItemText(0, eName, Tr(_T("Dejstvo")));
     for (int nCol = eMoment; nCol < eColumnCount; ++nCol)
     {
-        m_gridLoads.SetColDescription(nCol, &units[nCol - eMoment], c_headings[nCol - eMoment]);
+        m_gridLoads.SetColDescription(nCol, &units[nCol - eMoment], kHeadings[nCol - eMoment]);
         m_gridLoads.SetColumnWidth(nCol, 96);
     }
     m_gridLoads.SetColumnWidth(eName, 110);
     for (int i = 0; i < eActionCount; ++i)
     {
-        m_gridLoads.SetItemText(i + 1, eName, Tr(c_actions[i]));
+        m_gridLoads.SetItemText(i + 1, eName, Tr(kActions[i]));
         for (int nCol = eMoment; nCol < eColumnCount; ++nCol)
         {
             m_gridLoads.SetCellType(i + 1, nCol, RUNTIME_CLASS(CLimitedDoubleCell));
@@ -165,19 +165,19 @@ void CCheckPageDialog::MakeLoads()
 
 void CCheckPageDialog::MakeResults()
 {
-    constexpr LPCTSTR c_headings[] = {_T("Provera"), _T("Uticaj"), _T("Nosivost"), _T("Iskoriscenost")};
-    constexpr int c_widths[] = {150, 88, 88, 80};
+    constexpr LPCTSTR kHeadings[] = {_T("Provera"), _T("Uticaj"), _T("Nosivost"), _T("Iskoriscenost")};
+    constexpr int kWidths[] = {150, 88, 88, 80};
 
-    SetUpGrid(m_gridResults, 1 + c_checkCount, eResultColumnCount);
+    SetUpGrid(m_gridResults, 1 + kCheckCount, eResultColumnCount);
     m_gridResults.SetEditable(FALSE);
     for (int nCol = 0; nCol < eResultColumnCount; ++nCol)
     {
-        m_gridResults.SetItemText(0, nCol, Tr(c_headings[nCol]));
-        m_gridResults.SetColumnWidth(nCol, c_widths[nCol]);
+        m_gridResults.SetItemText(0, nCol, Tr(kHeadings[nCol]));
+        m_gridResults.SetColumnWidth(nCol, kWidths[nCol]);
     }
-    for (int i = 0; i < c_checkCount; ++i)
+    for (int i = 0; i < kCheckCount; ++i)
     {
-        m_gridResults.SetItemText(i + 1, eCheck, Tr(c_checks[i]));
+        m_gridResults.SetItemText(i + 1, eCheck, Tr(kChecks[i]));
         for (int nCol = eEffect; nCol < eResultColumnCount; ++nCol)
             m_gridResults.SetItemFormat(i + 1, nCol, DT_RIGHT | DT_VCENTER | DT_SINGLELINE);
     }
@@ -187,9 +187,9 @@ void CCheckPageDialog::MakeResults()
 /// Of the load case that governs; nothing if none has been checked.
 void CCheckPageDialog::ShowResults(const Survey& survey)
 {
-    constexpr COLORREF c_crBad = RGB(176, 0, 0);
+    constexpr COLORREF kBad = RGB(176, 0, 0);
     const bool bChecked = survey.casesChecked > 0;
-    for (int i = 0; i < c_checkCount; ++i)
+    for (int i = 0; i < kCheckCount; ++i)
     {
         const CheckResult& result = survey.results[static_cast<size_t>(i)];
         CString strUtilisation;
@@ -200,7 +200,7 @@ void CCheckPageDialog::ShowResults(const Survey& survey)
         for (int nCol = eEffect; nCol < eResultColumnCount; ++nCol)
         {
             m_gridResults.SetItemText(i + 1, nCol, bChecked ? texts[nCol - eEffect] : CString());
-            m_gridResults.SetItemFgColour(i + 1, nCol, bBad ? c_crBad : CLR_INHERIT);
+            m_gridResults.SetItemFgColour(i + 1, nCol, bBad ? kBad : CLR_INHERIT);
         }
     }
     m_gridResults.Invalidate(FALSE);
@@ -214,10 +214,10 @@ CString CCheckPageDialog::TextOf(const Survey& survey)
     const CheckResult& governing = Governing(survey.results);
     const Forces& forces = survey.loadCase.forces;
     CString strText;
-    if (survey.casesChecked < c_loadCaseCount)
+    if (survey.casesChecked < kLoadCaseCount)
         strText.Format(Tr(_T("Prekinuto posle %d slucajeva.")) + _T(" "), survey.casesChecked);
     strText.AppendFormat(Tr(_T("Merodavan je slucaj %d: %s, %.2f.")), survey.governingCase + 1,
-                         Tr(c_checks[static_cast<int>(governing.check)]).GetString(),
+                         Tr(kChecks[static_cast<int>(governing.check)]).GetString(),
                          governing.Utilisation());
     strText.AppendFormat(_T("\r\nM = %.1f kNm, V = %.1f kN, N = %.1f kN"), forces.moment_Nm / 1e3,
                          forces.shear_N / 1e3, forces.axial_N / 1e3);

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr LPCTSTR c_szTitle = _T("Veza grede sa stubom");
+constexpr LPCTSTR kTitle = _T("Veza grede sa stubom");
 
 LPCTSTR TextOf(ERule rule)
 {
@@ -153,5 +153,5 @@ void CConnectionDialog::ShowState()
 
 bool CConnectionDialog::Ask(const CString& strQuestion)
 {
-    return COstrelMessageBox::MessageBox(strQuestion, c_szTitle, MB_YESNO | MB_ICONQUESTION) == IDYES;
+    return COstrelMessageBox::MessageBox(strQuestion, kTitle, MB_YESNO | MB_ICONQUESTION) == IDYES;
 }

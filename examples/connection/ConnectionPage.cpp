@@ -57,7 +57,7 @@ void CConnectionPageDialog::ShowLength(CEditDoubleWithRange& edit, double value_
     {
         edit.SetComplexUnit(unit);
         edit.SetFormat(eDoubleFormatFixed, DecimalsOfBoxes());
-        edit.SetSpinStep(unit.ToLocal(c_millimetre_m));
+        edit.SetSpinStep(unit.ToLocal(kMillimetre_m));
     }
     edit.SetRange(limits.min_m, limits.max_m);
     edit.SetValue(value_m);
@@ -83,8 +83,8 @@ CString CConnectionPageDialog::LengthText(double length_m) const
 
 int CConnectionPageDialog::DecimalsOfBoxes() const
 {
-    static constexpr int c_decimals[] = {4, 2, 1, 3, 3, 4}; // by the number of the unit
-    return c_decimals[Fitted().values.lengths.unit];
+    static constexpr int kDecimals[] = {4, 2, 1, 3, 3, 4}; // by the number of the unit
+    return kDecimals[Fitted().values.lengths.unit];
 }
 
 CFormatJedinice ToFormat(const LengthStyle& style)
@@ -98,7 +98,7 @@ CFormatJedinice ToFormat(const LengthStyle& style)
 
 void SetUpGrid(CGridCtrl& grid, int nRows, int nColumns)
 {
-    constexpr int c_nRowHeight = 18; // pixels: room for a swatch
+    constexpr int kRowHeight = 18; // pixels: room for a swatch
     grid.SetDoubleBuffering();
     grid.EnableSelection(FALSE);
     grid.SetGridBkColor(::GetSysColor(COLOR_WINDOW));
@@ -107,7 +107,7 @@ void SetUpGrid(CGridCtrl& grid, int nRows, int nColumns)
     grid.SetColumnCount(nColumns);
     grid.SetFixedRowCount(1);
     for (int nRow = 0; nRow < nRows; ++nRow)
-        grid.SetRowHeight(nRow, c_nRowHeight);
+        grid.SetRowHeight(nRow, kRowHeight);
     for (int nCol = 0; nCol < nColumns; ++nCol)
         grid.SetItemFormat(0, nCol, GV_HEADING_FORMAT);
 }

@@ -16,14 +16,14 @@
 
 namespace
 {
-constexpr COLORREF c_crPaper = RGB(255, 255, 255), c_crInk = RGB(40, 40, 40);
-constexpr int c_nMargin = 10; // pixels
+constexpr COLORREF kPaper = RGB(255, 255, 255), kInk = RGB(40, 40, 40);
+constexpr int kMargin = 10; // pixels
 
 // What is drawn of the members around the plate, metres.
-constexpr double c_columnBeyond_m = 0.045, c_beamStub_m = 0.11, c_columnStub_m = 0.07;
+constexpr double kColumnBeyond_m = 0.045, kBeamStub_m = 0.11, kColumnStub_m = 0.07;
 
 /// Areas of the pictures of hatches that fit to themselves on all sides.
-constexpr RECT c_hatchTiles[] = {
+constexpr RECT kHatchTiles[] = {
     {1, 1, 31, 19}, {1, 1, 31, 19}, {1, 2, 31, 22}, {2, 1, 30, 21}, {1, 1, 26, 21},
     {1, 1, 25, 17}, {1, 1, 31, 21}, {3, 2, 27, 20}, {1, 1, 31, 23}, {1, 6, 25, 18},
 };
@@ -41,7 +41,7 @@ class CConnectionPainter
 {
 public:
     CConnectionPainter(CDC& dc, const CRect& room, const Connection& c)
-        : m_dc(dc), m_room(room), m_c(c), m_dimensions(dc, c.drawing), m_pen(PS_SOLID, 1, c_crInk),
+        : m_dc(dc), m_room(room), m_c(c), m_dimensions(dc, c.drawing), m_pen(PS_SOLID, 1, kInk),
           m_axis(PS_DASHDOT, 1, RGB(150, 60, 60))
     {
         m_format.nUnitIndex = c.lengths.unit;
@@ -67,23 +67,23 @@ private:
     {
         const int nStep = m_dimensions.Step(), nLineHeight = m_dc.GetTextExtent(_T("0"), 1).cy;
         const double front = FrontWidth_m(), section = SectionWidth_m();
-        const double height = m_c.plateHeight_m + 2 * c_columnBeyond_m;
-        const int nGap = 3 * c_nMargin;
-        const int nTop = m_room.top + c_nMargin + nLineHeight;
-        const int nBottom = m_room.bottom - c_nMargin - 4 * nLineHeight - 2 * nStep - 8;
-        const int nWidth = m_room.Width() - 2 * c_nMargin - 2 * nStep - nGap;
+        const double height = m_c.plateHeight_m + 2 * kColumnBeyond_m;
+        const int nGap = 3 * kMargin;
+        const int nTop = m_room.top + kMargin + nLineHeight;
+        const int nBottom = m_room.bottom - kMargin - 4 * nLineHeight - 2 * nStep - 8;
+        const int nWidth = m_room.Width() - 2 * kMargin - 2 * nStep - nGap;
         m_scale = std::max(0.0, std::min(nWidth / (front + section), (nBottom - nTop - 8) / height));
         m_middle = (nTop + nBottom) / 2;
         const int nUsed = Pixels(front) + Pixels(section) + nGap + 2 * nStep;
-        m_left = m_room.left + std::max(c_nMargin, static_cast<int>(m_room.Width() - nUsed) / 2) + 2 * nStep;
+        m_left = m_room.left + std::max(kMargin, static_cast<int>(m_room.Width() - nUsed) / 2) + 2 * nStep;
         m_front = m_left + Pixels(front / 2);
-        m_section = m_left + Pixels(front) + nGap + Pixels(c_columnStub_m);
+        m_section = m_left + Pixels(front) + nGap + Pixels(kColumnStub_m);
         m_below = m_middle + Pixels(height / 2) + nStep;
     }
     double FrontWidth_m() const { return std::max(m_c.Column().width_m, m_c.plateWidth_m); }
     double SectionWidth_m() const
     {
-        return c_columnStub_m + m_c.Column().flange_m + m_c.plateThickness_m + c_beamStub_m;
+        return kColumnStub_m + m_c.Column().flange_m + m_c.plateThickness_m + kBeamStub_m;
     }
     int Pixels(double length_m) const { return static_cast<int>(std::lround(length_m * m_scale)); }
 
@@ -131,7 +131,7 @@ private:
 /// What is cut is hatched, in the colour of its part.
 void CConnectionPainter::PaintCut(const CRect& rect, EPart part)
 {
-    const CRect tile(c_hatchTiles[m_c.drawing.hatch]);
+    const CRect tile(kHatchTiles[m_c.drawing.hatch]);
     CBitmap bitmap;
     bitmap.CreateBitmap(tile.Width(), tile.Height(), 1, 1, nullptr);
     {
@@ -146,7 +146,7 @@ void CConnectionPainter::PaintCut(const CRect& rect, EPart part)
     brush.CreatePatternBrush(&bitmap);
     const CGdiSelection scope(m_dc, brush);
     const CBkColorScope ground(m_dc, Pale(m_c.parts[part].color));
-    const CTextColorScope ink(m_dc, c_crInk);
+    const CTextColorScope ink(m_dc, kInk);
     m_dc.Rectangle(rect);
 }
 
@@ -169,7 +169,7 @@ void CConnectionPainter::PaintFront()
 {
     const double column = m_c.Column().width_m / 2, plate = m_c.plateWidth_m / 2,
                  half = m_c.plateHeight_m / 2;
-    PaintBox(InFront(-column, -half - c_columnBeyond_m, column, half + c_columnBeyond_m), ePartColumn);
+    PaintBox(InFront(-column, -half - kColumnBeyond_m, column, half + kColumnBeyond_m), ePartColumn);
     PaintBox(InFront(-plate, -half, plate, half), ePartPlate);
     PaintBeamSection();
 
@@ -196,10 +196,10 @@ void CConnectionPainter::PaintFront()
 void CConnectionPainter::PaintSection()
 {
     const Profile& beam = m_c.Beam();
-    const double half = m_c.plateHeight_m / 2, end = half + c_columnBeyond_m, h = beam.height_m / 2;
+    const double half = m_c.plateHeight_m / 2, end = half + kColumnBeyond_m, h = beam.height_m / 2;
     const double flange = m_c.Column().flange_m, face = flange + m_c.plateThickness_m,
-                 stub = face + c_beamStub_m;
-    PaintBox(InSection(-c_columnStub_m, -end, 0, end), ePartColumn);
+                 stub = face + kBeamStub_m;
+    PaintBox(InSection(-kColumnStub_m, -end, 0, end), ePartColumn);
     PaintCut(InSection(0, -end, flange, end), ePartColumn);
     PaintCut(InSection(flange, -half, face, half), ePartPlate);
     PaintBox(InSection(face, -h, stub, h), ePartBeam);
@@ -251,7 +251,7 @@ void CConnectionPainter::PaintSectionDimensions()
                       m_section + Pixels(flange + m_c.plateThickness_m)};
     m_dimensions.Horizontal(xs[0], xs[1], m_below, TextOf(flange));
     m_dimensions.Horizontal(xs[1], xs[2], m_below + m_dimensions.Step(), TextOf(m_c.plateThickness_m));
-    const int nBeam = m_section + Pixels(flange + m_c.plateThickness_m + c_beamStub_m * 0.7);
+    const int nBeam = m_section + Pixels(flange + m_c.plateThickness_m + kBeamStub_m * 0.7);
     m_dimensions.Vertical(m_middle - Pixels(m_c.Beam().height_m / 2),
                           m_middle + Pixels(m_c.Beam().height_m / 2), nBeam, TextOf(m_c.Beam().height_m));
 }
@@ -268,9 +268,9 @@ void CConnectionPainter::PaintTitles()
                             parts[ePartPlate].description.c_str() + _T(",  ") + strBolts + _T("\n") +
                             strWelds;
     CRect place(m_room);
-    place.DeflateRect(c_nMargin, c_nMargin);
+    place.DeflateRect(kMargin, kMargin);
     place.top = place.bottom - 3 * m_dc.GetTextExtent(_T("0"), 1).cy;
-    const CTextColorScope ink(m_dc, c_crInk);
+    const CTextColorScope ink(m_dc, kInk);
     m_dc.DrawText(strText, place, DT_NOPREFIX | DT_LEFT);
 }
 } // namespace
@@ -286,7 +286,7 @@ void CConnectionView::OnPaint()
     CMemDC buffer(&dc); // shows everything at once when it goes
     CRect room;
     GetClientRect(room);
-    buffer.FillSolidRect(room, c_crPaper);
+    buffer.FillSolidRect(room, kPaper);
     {
         const CGdiSelection font(buffer, GetFont()->m_hObject);
         CConnectionPainter(buffer, room, m_connection).Paint();

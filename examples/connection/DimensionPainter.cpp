@@ -11,10 +11,10 @@
 namespace
 {
 // Of the pictures of dimension lines, in pixels.
-constexpr int c_nLength = 48, c_nHeight = 16, c_nRow = 8;
-constexpr int c_nHead = 22;                                  ///< the ends; between them is the bare line
-constexpr int c_nExtension = 5;                              ///< column of the first extension line
-constexpr int c_nOutsideEnds = 19, c_nOutsideExtension = 13; ///< this one has its arrows outside
+constexpr int kLength = 48, kHeight = 16, kRow = 8;
+constexpr int kHead = 22;                                  ///< the ends; between them is the bare line
+constexpr int kExtension = 5;                              ///< column of the first extension line
+constexpr int kOutsideEnds = 19, kOutsideExtension = 13; ///< this one has its arrows outside
 
 // Places of a text, by the index of the picker.
 enum EPlace
@@ -34,11 +34,11 @@ void Turn(CDC& dc, HBITMAP hPicture, CBitmap& turned)
     CDC from, to;
     from.CreateCompatibleDC(&dc);
     to.CreateCompatibleDC(&dc);
-    turned.CreateBitmap(c_nHeight, c_nLength, 1, 1, nullptr);
+    turned.CreateBitmap(kHeight, kLength, 1, 1, nullptr);
     const CGdiSelection fromScope(from, hPicture), toScope(to, turned);
-    for (int x = 0; x < c_nLength; ++x)
-        for (int y = 0; y < c_nHeight; ++y)
-            to.SetPixel(y, c_nLength - 1 - x, from.GetPixel(x, y));
+    for (int x = 0; x < kLength; ++x)
+        for (int y = 0; y < kHeight; ++y)
+            to.SetPixel(y, kLength - 1 - x, from.GetPixel(x, y));
 }
 
 void MakeFont(CFont& font, const DrawingStyle& style, int nHeight, int nTenthsOfDegree)
@@ -56,8 +56,8 @@ void MakeFont(CFont& font, const DrawingStyle& style, int nHeight, int nTenthsOf
 
 CDimensionPainter::CDimensionPainter(CDC& dc, const DrawingStyle& style) : m_dc(dc), m_style(style)
 {
-    constexpr double c_inch_m = 0.0254;
-    const int nHeight = static_cast<int>(style.textHeight_m / c_inch_m * dc.GetDeviceCaps(LOGPIXELSY) + 0.5);
+    constexpr double kInch_m = 0.0254;
+    const int nHeight = static_cast<int>(style.textHeight_m / kInch_m * dc.GetDeviceCaps(LOGPIXELSY) + 0.5);
     MakeFont(m_font, style, nHeight, 0);
     MakeFont(m_fontTurned, style, nHeight, 900);
     const CGdiSelection font(dc, m_font);
@@ -85,10 +85,10 @@ CRect CDimensionPainter::Line::At(int nAlong, int nAcross, CSize size) const
 
 void CDimensionPainter::Paint(const Line& line, const CString& strText)
 {
-    const int nOver = m_style.dimensionEnds == c_nOutsideEnds ? c_nOutsideExtension : c_nExtension;
-    const int nHead = std::min(c_nHead, nOver + (line.nLength + 1) / 2); // of a short one half each
+    const int nOver = m_style.dimensionEnds == kOutsideEnds ? kOutsideExtension : kExtension;
+    const int nHead = std::min(kHead, nOver + (line.nLength + 1) / 2); // of a short one half each
     PaintPart(line, 0, nHead, -nOver);
-    PaintPart(line, c_nLength - nHead, c_nLength, line.nLength + 1 + nOver - nHead);
+    PaintPart(line, kLength - nHead, kLength, line.nLength + 1 + nOver - nHead);
     m_dc.FillSolidRect(
         line.At(nHead - nOver, 0, CSize(std::max(0, line.nLength + 1 + 2 * (nOver - nHead)), 1)),
         m_style.dimensionColor);
@@ -103,14 +103,14 @@ void CDimensionPainter::PaintPart(const Line& line, int nFirst, int nLast, int n
     const CGdiSelection scope(picture, line.bUpright ? static_cast<HGDIOBJ>(m_turned) : m_hPicture);
     const CBkColorScope white(m_dc, RGB(255, 255, 255));
     const CTextColorScope color(m_dc, m_style.dimensionColor);
-    const CRect to = line.At(nAlong, -c_nRow, CSize(nLast - nFirst, c_nHeight));
-    const CPoint from = line.bUpright ? CPoint(0, c_nLength - nLast) : CPoint(nFirst, 0);
+    const CRect to = line.At(nAlong, -kRow, CSize(nLast - nFirst, kHeight));
+    const CPoint from = line.bUpright ? CPoint(0, kLength - nLast) : CPoint(nFirst, 0);
     m_dc.BitBlt(to.left, to.top, to.Width(), to.Height(), &picture, from.x, from.y, SRCAND);
 }
 
 void CDimensionPainter::PaintText(const Line& line, const CString& strText)
 {
-    constexpr int c_nForeground = 7; // which the host draws in black on white
+    constexpr int kForeground = 7; // which the host draws in black on white
     const CGdiSelection font(m_dc, line.bUpright ? m_fontTurned : m_font);
     CSize size;
     {
@@ -130,7 +130,7 @@ void CDimensionPainter::PaintText(const Line& line, const CString& strText)
         nAcross = 2;
         break;
     case eClearOfEnds:
-        nAcross = c_nRow;
+        nAcross = kRow;
         break;
     case eAboveBegin:
         nAlong = std::min(3, nMiddle);
@@ -145,6 +145,6 @@ void CDimensionPainter::PaintText(const Line& line, const CString& strText)
     }
     const CRect place = line.At(nAlong, nAcross, size);
     const CBkModeScope transparent(m_dc, TRANSPARENT);
-    const CTextColorScope color(m_dc, m_style.textColor == c_nForeground ? 0 : acedGetRGB(m_style.textColor));
+    const CTextColorScope color(m_dc, m_style.textColor == kForeground ? 0 : acedGetRGB(m_style.textColor));
     m_dc.TextOut(place.left, line.bUpright ? place.bottom : place.top, strText);
 }

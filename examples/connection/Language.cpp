@@ -4,7 +4,7 @@
 
 namespace
 {
-constexpr LPCTSTR c_szSection = _T("Connection"), c_szEntry = _T("Language");
+constexpr LPCTSTR kSection = _T("Connection"), kEntry = _T("Language");
 
 CString CataloguePath()
 {
@@ -32,12 +32,12 @@ void ChooseLanguage(const CString& strWanted)
 
 void StoreLanguage(LPCTSTR pszLanguage)
 {
-    AfxGetApp()->WriteProfileString(c_szSection, c_szEntry, pszLanguage);
+    AfxGetApp()->WriteProfileString(kSection, kEntry, pszLanguage);
 }
 
 CString StoredLanguage()
 {
-    const CString strStored = AfxGetApp()->GetProfileString(c_szSection, c_szEntry);
+    const CString strStored = AfxGetApp()->GetProfileString(kSection, kEntry);
     if (IsLanguage(strStored))
         return strStored;
     return PRIMARYLANGID(::GetUserDefaultUILanguage()) == LANG_SERBIAN ? _T("sr") : _T("en");

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr double mm = c_millimetre_m;
+constexpr double mm = kMillimetre_m;
 
 /// Of a hexagon, from its width across flats.
 double HexagonArea_m2(double width_m)
@@ -45,13 +45,13 @@ double BoltMass_kg(const Connection& c)
     const double hexagon = HexagonArea_m2(bolt.headWidth_m);
     const double volume =
         shank * BoltLength_m(c) + hexagon * bolt.headHeight_m + (hexagon - shank) * bolt.nutHeight_m;
-    return volume * c_steelDensity_kgPerM3;
+    return volume * kSteelDensity_kgPerM3;
 }
 
 std::array<Part, ePartCount> PartsOf(const Connection& c)
 {
     const PartEntry &beam = c.parts[ePartBeam], &column = c.parts[ePartColumn], &plate = c.parts[ePartPlate];
-    const double plateMass = c.plateThickness_m * c.plateWidth_m * c.plateHeight_m * c_steelDensity_kgPerM3;
+    const double plateMass = c.plateThickness_m * c.plateWidth_m * c.plateHeight_m * kSteelDensity_kgPerM3;
     return {{
         {c.Beam().name, beam.count, beam.length_m, c.Beam().mass_kgPerM * beam.length_m},
         {c.Column().name, column.count, column.length_m, c.Column().mass_kgPerM * column.length_m},

@@ -76,17 +76,17 @@ void CPartsPageDialog::OnGridClick(NMHDR*, LRESULT* pResult)
 
 int CPartsPageDialog::OnInitPageDialog()
 {
-    constexpr LPCTSTR c_headings[] = {_T("Oznaka"), _T("Profil"), _T("Kom."), _T("Duzina"),
+    constexpr LPCTSTR kHeadings[] = {_T("Oznaka"), _T("Profil"), _T("Kom."), _T("Duzina"),
                                       _T("kg/kom"), _T("kg"),     _T("Boja")};
-    constexpr int c_widths[] = {50, 88, 36, 78, 50, 52, 56};
+    constexpr int kWidths[] = {50, 88, 36, 78, 50, 52, 56};
 
     SetUpGrid(m_grid, 1 + ePartCount, eColumnCount);
     m_grid.InstallMessageHook(); // the window is the template's
     m_grid.SetPersistentGridColumnsWidth(_T("Connection parts"), 0);
     for (int nCol = 0; nCol < eColumnCount; ++nCol)
     {
-        m_grid.SetItemText(0, nCol, Tr(c_headings[nCol]));
-        m_grid.SetColumnWidth(nCol, c_widths[nCol]); // the one of the last run, if there is one
+        m_grid.SetItemText(0, nCol, Tr(kHeadings[nCol]));
+        m_grid.SetColumnWidth(nCol, kWidths[nCol]); // the one of the last run, if there is one
     }
     for (int nPart = 0; nPart < ePartCount; ++nPart)
         MakeRow(nPart);
@@ -140,7 +140,7 @@ bool CPartsPageDialog::IsEditable(int nPart, int nCol)
 
 void CPartsPageDialog::MakeRow(int nPart)
 {
-    constexpr COLORREF c_crDerived = RGB(96, 96, 96);
+    constexpr COLORREF kDerived = RGB(96, 96, 96);
     const int nRow = nPart + 1;
     m_grid.SetCellType(nRow, eCount, RUNTIME_CLASS(CLimitedIntCell));
     for (const int nCol : {eLength, eMass, eTotalMass})
@@ -156,7 +156,7 @@ void CPartsPageDialog::MakeRow(int nPart)
             continue;
         m_grid.SetItemState(nRow, nCol, m_grid.GetItemState(nRow, nCol) | CELL_READONLY);
         if (nCol != eColor)
-            m_grid.SetItemFgColour(nRow, nCol, c_crDerived);
+            m_grid.SetItemFgColour(nRow, nCol, kDerived);
     }
 }
 

@@ -46,11 +46,11 @@ private:
         double Connection::*pValue;
         Limits FittedConnection::*pLimits;
     };
-    static constexpr unsigned int c_nOwn = CEditDoubleWithRange::c_nCreateControl;
+    static constexpr unsigned int kOwn = CEditDoubleWithRange::kCreateControl;
 
-    CEditDoubleWithRange m_editThickness{this, c_nOwn, c_nOwn}, m_editHeight{this, c_nOwn, c_nOwn},
-        m_editWidth{this, c_nOwn, c_nOwn}, m_editFlangeWeld{this, c_nOwn, c_nOwn},
-        m_editWebWeld{this, c_nOwn, c_nOwn};
+    CEditDoubleWithRange m_editThickness{this, kOwn, kOwn}, m_editHeight{this, kOwn, kOwn},
+        m_editWidth{this, kOwn, kOwn}, m_editFlangeWeld{this, kOwn, kOwn},
+        m_editWebWeld{this, kOwn, kOwn};
     const Box m_boxes[5] = {
         {IDC_THICKNESS, &m_editThickness, &Connection::plateThickness_m, &FittedConnection::thickness},
         {IDC_HEIGHT, &m_editHeight, &Connection::plateHeight_m, &FittedConnection::height},

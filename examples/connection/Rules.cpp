@@ -6,12 +6,12 @@
 
 namespace
 {
-constexpr double mm = c_millimetre_m;
-constexpr double c_toolClearance_m = 2 * mm; ///< between a head or nut and a weld
-constexpr double c_leastWeld_m = 3 * mm;     ///< EN 1993-1-8, 4.5.2
-constexpr double c_mostOverhang_m = 50 * mm; ///< of the plate beyond the beam, above and below
-constexpr double c_mostSpacing_m = 200 * mm; ///< EN 1993-1-8, table 3.3
-constexpr int c_mostRows = 12;
+constexpr double mm = kMillimetre_m;
+constexpr double kToolClearance_m = 2 * mm; ///< between a head or nut and a weld
+constexpr double kLeastWeld_m = 3 * mm;     ///< EN 1993-1-8, 4.5.2
+constexpr double kMostOverhang_m = 50 * mm; ///< of the plate beyond the beam, above and below
+constexpr double kMostSpacing_m = 200 * mm; ///< EN 1993-1-8, table 3.3
+constexpr int kMostRows = 12;
 
 double LegOf(double throat_m)
 {
@@ -42,7 +42,7 @@ double MostEdge_m(const Connection& c)
 /// p1 and p2 of the same table.
 double MostSpacing_m(const Connection& c)
 {
-    return std::min(14 * ThinnerPart_m(c), c_mostSpacing_m);
+    return std::min(14 * ThinnerPart_m(c), kMostSpacing_m);
 }
 
 /// From the edge of the plate to a row of bolts, past the flange of the beam and its weld.
@@ -50,13 +50,13 @@ double LeastEnd_m(const Connection& c)
 {
     const double overhang = (c.plateHeight_m - c.Beam().height_m) / 2;
     const double pastFlange = overhang + c.Beam().flange_m + LegOf(c.flangeWeld_m) + c.Bolt().HeadRadius_m();
-    return std::max(1.2 * c.Bolt().hole_m, pastFlange + c_toolClearance_m);
+    return std::max(1.2 * c.Bolt().hole_m, pastFlange + kToolClearance_m);
 }
 
 double LeastGauge_m(const Connection& c)
 {
     const double head = c.Bolt().HeadRadius_m();
-    const double pastBeamWeb = c.Beam().web_m + 2 * (LegOf(c.webWeld_m) + head + c_toolClearance_m);
+    const double pastBeamWeb = c.Beam().web_m + 2 * (LegOf(c.webWeld_m) + head + kToolClearance_m);
     const double pastColumnRoot = c.Column().web_m + 2 * (c.Column().radius_m + head);
     return std::max({2.4 * c.Bolt().hole_m, pastBeamWeb, pastColumnRoot});
 }
@@ -76,18 +76,18 @@ FittedConnection Fit(const Connection& wanted)
 
     f.thickness = Between(std::max(6 * mm, c.Bolt().diameter_m / 2), 60 * mm);
     c.plateThickness_m = f.thickness.Nearest(c.plateThickness_m);
-    f.flangeWeld = Between(c_leastWeld_m, std::max(c_leastWeld_m, 0.7 * c.Beam().flange_m));
+    f.flangeWeld = Between(kLeastWeld_m, std::max(kLeastWeld_m, 0.7 * c.Beam().flange_m));
     c.flangeWeld_m = f.flangeWeld.Nearest(c.flangeWeld_m);
-    f.webWeld = Between(c_leastWeld_m, std::max(c_leastWeld_m, 0.7 * c.Beam().web_m));
+    f.webWeld = Between(kLeastWeld_m, std::max(kLeastWeld_m, 0.7 * c.Beam().web_m));
     c.webWeld_m = f.webWeld.Nearest(c.webWeld_m);
     f.height =
-        Between(c.Beam().height_m + 2 * LegOf(c.flangeWeld_m), c.Beam().height_m + 2 * c_mostOverhang_m);
+        Between(c.Beam().height_m + 2 * LegOf(c.flangeWeld_m), c.Beam().height_m + 2 * kMostOverhang_m);
     c.plateHeight_m = f.height.Nearest(c.plateHeight_m);
 
     const double leastEnd = LeastEnd_m(c), leastPitch = Between(2.2 * hole, 1).min_m;
     const double leastWholeEnd = Between(leastEnd, 1).min_m;
     const double room = c.plateHeight_m - leastWholeEnd - leastEnd; // between the outermost rows
-    f.maxRows = std::clamp(1 + static_cast<int>(room / leastPitch), 2, c_mostRows);
+    f.maxRows = std::clamp(1 + static_cast<int>(room / leastPitch), 2, kMostRows);
     c.boltRows = std::clamp(c.boltRows, 2, f.maxRows);
     const int gaps = c.boltRows - 1;
 

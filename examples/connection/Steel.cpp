@@ -5,7 +5,7 @@ namespace
 /// A row as the tables of the norms have it: millimetres, and kilograms for each metre.
 constexpr Profile Row(const wchar_t* name, double h, double b, double tw, double tf, double r, double mass)
 {
-    constexpr double mm = c_millimetre_m;
+    constexpr double mm = kMillimetre_m;
     return {name, h * mm, b * mm, tw * mm, tf * mm, r * mm, mass};
 }
 
@@ -13,7 +13,7 @@ constexpr Profile Row(const wchar_t* name, double h, double b, double tw, double
 constexpr BoltSize Bolt(const wchar_t* name, double d, double hole, double area, double head, double k,
                         double nut)
 {
-    constexpr double mm = c_millimetre_m;
+    constexpr double mm = kMillimetre_m;
     return {name, d * mm, hole * mm, area * mm * mm, head * mm, k * mm, nut * mm};
 }
 
@@ -23,7 +23,7 @@ constexpr double MPa(double value)
 }
 
 // EN 10365: name, h, b, tw, tf, r, mass.
-constexpr Profile c_profiles[] = {
+constexpr Profile kProfiles[] = {
     Row(L"IPE 80", 80, 46, 3.8, 5.2, 5, 6.00),      Row(L"IPE 100", 100, 55, 4.1, 5.7, 7, 8.10),
     Row(L"IPE 120", 120, 64, 4.4, 6.3, 7, 10.4),    Row(L"IPE 140", 140, 73, 4.7, 6.9, 7, 12.9),
     Row(L"IPE 160", 160, 82, 5.0, 7.4, 9, 15.8),    Row(L"IPE 180", 180, 91, 5.3, 8.0, 9, 18.8),
@@ -54,21 +54,21 @@ constexpr Profile c_profiles[] = {
     Row(L"HEB 550", 550, 300, 15, 29, 27, 199),     Row(L"HEB 600", 600, 300, 15.5, 30, 27, 212),
 };
 
-constexpr SteelGrade c_grades[] = {
+constexpr SteelGrade kGrades[] = {
     {L"S235", MPa(235), MPa(360), 0.80},
     {L"S275", MPa(275), MPa(430), 0.85},
     {L"S355", MPa(355), MPa(490), 0.90},
 };
 
 // Name, d, hole, stress area, across flats, height of head and of nut.
-constexpr BoltSize c_bolts[] = {
+constexpr BoltSize kBolts[] = {
     Bolt(L"M12", 12, 13, 84.3, 18, 7.5, 10.8), Bolt(L"M16", 16, 18, 157, 24, 10, 14.8),
     Bolt(L"M20", 20, 22, 245, 30, 12.5, 18),   Bolt(L"M22", 22, 24, 303, 34, 14, 19.4),
     Bolt(L"M24", 24, 26, 353, 36, 15, 21.5),   Bolt(L"M27", 27, 30, 459, 41, 17, 23.8),
     Bolt(L"M30", 30, 33, 561, 46, 18.7, 25.6), Bolt(L"M36", 36, 39, 817, 55, 22.5, 31),
 };
 
-constexpr BoltClass c_classes[] = {
+constexpr BoltClass kClasses[] = {
     {L"4.6", MPa(240), MPa(400), 0.6},
     {L"5.6", MPa(300), MPa(500), 0.6},
     {L"8.8", MPa(640), MPa(800), 0.6},
@@ -78,20 +78,20 @@ constexpr BoltClass c_classes[] = {
 
 std::span<const Profile> Profiles()
 {
-    return c_profiles;
+    return kProfiles;
 }
 
 std::span<const SteelGrade> SteelGrades()
 {
-    return c_grades;
+    return kGrades;
 }
 
 std::span<const BoltSize> BoltSizes()
 {
-    return c_bolts;
+    return kBolts;
 }
 
 std::span<const BoltClass> BoltClasses()
 {
-    return c_classes;
+    return kClasses;
 }

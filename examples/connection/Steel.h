@@ -5,8 +5,8 @@
 #include <span>
 #include <string_view>
 
-constexpr double c_steelDensity_kgPerM3 = 7850.0;
-constexpr double c_millimetre_m = 0.001;
+constexpr double kSteelDensity_kgPerM3 = 7850.0;
+constexpr double kMillimetre_m = 0.001;
 
 /// A rolled I section, with parallel flanges.
 struct Profile

@@ -26,8 +26,8 @@ bool TryWithFile(LPCTSTR pszMessage, Use use)
     }
 }
 
-constexpr LPCTSTR c_szNotRead = _T("Datoteka ne moze da se procita:");
-constexpr LPCTSTR c_szNotWritten = _T("Datoteka ne moze da se upise:");
+constexpr LPCTSTR kNotRead = _T("Datoteka ne moze da se procita:");
+constexpr LPCTSTR kNotWritten = _T("Datoteka ne moze da se upise:");
 } // namespace
 
 CStoredConnections::CStoredConnections(Connection& values, const CString& strFolder)
@@ -39,7 +39,7 @@ CStoredConnections::CStoredConnections(Connection& values, const CString& strFol
 
 void CStoredConnections::LoadConfigs()
 {
-    TryWithFile(c_szNotRead, [this] { m_entries = ReadConnections(m_named); });
+    TryWithFile(kNotRead, [this] { m_entries = ReadConnections(m_named); });
 }
 
 int CStoredConnections::GetConfigNames(CStringArray& names)
@@ -107,13 +107,13 @@ CString CStoredConnections::GetConfigName(int nIndex)
 Connection CStoredConnections::LoadAccepted() const
 {
     std::vector<NamedConnection> entries;
-    TryWithFile(c_szNotRead, [&] { entries = ReadConnections(m_accepted); });
+    TryWithFile(kNotRead, [&] { entries = ReadConnections(m_accepted); });
     return entries.empty() ? Connection() : entries.front().values;
 }
 
 bool CStoredConnections::StoreAccepted(const Connection& connection) const
 {
-    return TryWithFile(c_szNotWritten, [&] { WriteConnections(m_accepted, {{L"", connection}}); });
+    return TryWithFile(kNotWritten, [&] { WriteConnections(m_accepted, {{L"", connection}}); });
 }
 
 void CStoredConnections::FindCurrent()
@@ -144,7 +144,7 @@ int CStoredConnections::Find(const CString& strName) const
 /// The entries are those of the file: what could not be written is not taken.
 bool CStoredConnections::Store(const std::vector<NamedConnection>& entries)
 {
-    const bool bWritten = TryWithFile(c_szNotWritten, [&] { WriteConnections(m_named, entries); });
+    const bool bWritten = TryWithFile(kNotWritten, [&] { WriteConnections(m_named, entries); });
     if (bWritten)
         m_entries = entries;
     return bWritten;

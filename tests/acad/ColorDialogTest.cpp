@@ -109,11 +109,7 @@ TEST(ColorDialog, TakesTheSwatchThatWasClicked)
     }
     const auto doubleClick = [](const OpenDialog& dialog)
     {
-        for (int click = 0; click < 2; ++click)
-        {
-            owtest::ButtonDown(dialog.Item(IDC_COLOR_GRID), dialog.Swatch(252));
-            owtest::ButtonUp();
-        }
+        owtest::DoubleClick(dialog.Item(IDC_COLOR_GRID), dialog.Swatch(252));
         owtest::PumpUntil([&] { return !dialog.IsOpen(); });
     };
     EXPECT_EQ(Choose(1, doubleClick), Outcome(true, 252));

@@ -9,7 +9,7 @@
 
 namespace
 {
-constexpr double mm = c_millimetre_m;
+constexpr double mm = kMillimetre_m;
 
 int Bolt(const wchar_t* name)
 {
@@ -29,7 +29,7 @@ TEST(Profiles, WeighWhatTheirDimensionsSay)
     {
         const double area = 2 * p.width_m * p.flange_m + (p.height_m - 2 * p.flange_m) * p.web_m +
                             (4 - std::numbers::pi) * p.radius_m * p.radius_m;
-        const double mass = area * c_steelDensity_kgPerM3;
+        const double mass = area * kSteelDensity_kgPerM3;
         EXPECT_NEAR(mass, p.mass_kgPerM, std::max(0.05, 0.005 * mass)) << std::wstring(p.name).size();
     }
 }
@@ -92,8 +92,8 @@ TEST(Check, AllCasesAndNoMoreThanAreWanted)
 {
     const Connection c;
     const Survey all = CheckAllCases(c, [](int) { return true; });
-    EXPECT_EQ(all.casesChecked, c_loadCaseCount);
-    EXPECT_EQ(all.governingCase, c_loadCaseCount - 1); // all greatest
+    EXPECT_EQ(all.casesChecked, kLoadCaseCount);
+    EXPECT_EQ(all.governingCase, kLoadCaseCount - 1); // all greatest
     EXPECT_NEAR(all.loadCase.forces.moment_Nm, 1.35 * 15e3 + 1.5 * (19e3 + 4e3 + 7e3), 1e-6);
     EXPECT_EQ(CheckAllCases(c, [](int checked) { return checked < 25; }).casesChecked, 25);
 }

@@ -1,9 +1,15 @@
-// Exceptions in the macro and the C++ form, across modules, and who deletes them.
+// Exceptions in the macro and the C++ form, across modules, who deletes them and what they say; failed
+// assertions.
 
 #include "Thrown.h"
 #include "resource.h"
 
+#include <ChildProcess.h>
+#include <ModalVisit.h>
+
 #include <gtest/gtest.h>
+
+#include <cstdio>
 
 namespace
 {
@@ -22,11 +28,27 @@ public:
     throw new CountedException;
 }
 
-/// Whatever a test throws is to be gone at its end.
-struct ExceptionMacros : testing::Test
+void ThrowOn()
 {
-    void TearDown() override { EXPECT_EQ(CountedException::s_alive, 0); }
-};
+    TRY
+    {
+        ThrowCounted();
+    }
+    CATCH_ALL(e)
+    {
+        THROW_LAST();
+    }
+    END_CATCH_ALL
+}
+
+void ThrowAnother(){TRY{ThrowCounted();
+} // namespace
+CATCH_ALL(e)
+{
+    THROW(new CFileException(CFileException::diskFull));
+}
+END_CATCH_ALL
+}
 
 CString MessageOf(CException& e)
 {
@@ -35,39 +57,11 @@ CString MessageOf(CException& e)
 }
 } // namespace
 
-TEST_F(ExceptionMacros, HandlerMayThrowOnOrThrowAnother)
+TEST(ExceptionMacros, CatchByClassAndDeleteTheirOwn)
 {
-    const auto throwOn = []
-    {
-        TRY
-        {
-            ThrowCounted();
-        }
-        CATCH_ALL(e)
-        {
-            THROW_LAST();
-        }
-        END_CATCH_ALL
-    };
-    EXPECT_EQ(ThrownBy(throwOn), "CException");
+    EXPECT_EQ(ThrownBy(ThrowOn), "CException");
+    EXPECT_EQ(ThrownBy(ThrowAnother), "CFileException");
 
-    const auto throwAnother = []
-    {
-        TRY
-        {
-            ThrowCounted();
-        }
-        CATCH_ALL(e)
-        {
-            THROW(new CFileException(CFileException::diskFull));
-        }
-        END_CATCH_ALL
-    };
-    EXPECT_EQ(ThrownBy(throwAnother), "CFileException");
-}
-
-TEST_F(ExceptionMacros, CatchByClassAlsoInsideAHandlerAndDeleteTheirOwn)
-{
     bool innerCaught = false;
     TRY
     {
@@ -93,42 +87,37 @@ TEST_F(ExceptionMacros, CatchByClassAlsoInsideAHandlerAndDeleteTheirOwn)
     }
     END_CATCH_ALL
     EXPECT_TRUE(innerCaught);
+    EXPECT_EQ(CountedException::s_alive, 0);
 }
 
 TEST(Exception, TypesAreKnownAcrossModules)
 {
-    EXPECT_EQ(ThrownBy([] { AfxThrowMemoryException(); }), "CMemoryException");
     EXPECT_EQ(ThrownBy([] { AfxThrowNotSupportedException(); }), "CNotSupportedException");
     EXPECT_EQ(ThrownBy([] { AfxThrowResourceException(); }), "CResourceException");
     EXPECT_EQ(ThrownBy([] { AfxThrowUserException(); }), "CUserException");
     EXPECT_EQ(ThrownBy([] { AfxThrowInvalidArgException(); }), kInvalidArg);
-    EXPECT_EQ(ThrownBy([] { AfxThrowFileException(CFileException::endOfFile); }), "CFileException");
-
     EXPECT_THROW(AfxThrowUserException(), CUserException*) << "by the exact class";
     EXPECT_THROW(AfxThrowUserException(), CSimpleException*) << "by a base";
-}
 
-TEST(Exception, MemoryExceptionIsOneObjectForAll)
-{
-    CException* thrown[2] = {};
-    for (CException*& rThrown : thrown)
+    const CException* former = nullptr; // a memory exception is one object for all
+    for (int round = 0; round < 2; ++round)
     {
         try
         {
             CObject::operator new(size_t(1) << 60);
+            FAIL();
         }
         catch (CMemoryException* e)
         {
-            rThrown = e;
             e->Delete();
+            EXPECT_FALSE(MessageOf(*e).IsEmpty()) << "still alive";
+            EXPECT_TRUE(former == nullptr || former == e);
+            former = e;
         }
     }
-    ASSERT_NE(thrown[0], nullptr);
-    EXPECT_EQ(thrown[0], thrown[1]);
-    EXPECT_FALSE(MessageOf(*thrown[0]).IsEmpty()) << "still alive after Delete";
 }
 
-TEST(Exception, MessagesAreCutToTheBuffer)
+TEST(Exception, MessagesComeFromResourcesAndAreCutToTheBuffer)
 {
     CMemoryException memory(FALSE);
     const CString full = MessageOf(memory);
@@ -138,10 +127,7 @@ TEST(Exception, MessagesAreCutToTheBuffer)
     EXPECT_TRUE(memory.GetErrorMessage(szShort, 5, &nHelp));
     EXPECT_EQ(full.Left(4), szShort);
     EXPECT_EQ(nHelp, 0u);
-}
 
-TEST(Exception, MessagesComeFromResourcesOrAreMissing)
-{
     CSimpleException fromResource(FALSE, IDS_GREETING);
     EXPECT_EQ(MessageOf(fromResource), L"Good day");
     CSimpleException missing(FALSE, IDS_NO_SUCH_STRING);
@@ -150,7 +136,7 @@ TEST(Exception, MessagesComeFromResourcesOrAreMissing)
     EXPECT_EQ(MessageOf(silent), L"(none)");
 }
 
-TEST(FileException, MessagesNameTheFile)
+TEST(Exception, FileExceptionsNameTheFileAndTheCause)
 {
     CFileException e(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, L"c:\\some\\file.txt");
     EXPECT_GE(MessageOf(e).Find(L"c:\\some\\file.txt"), 0);
@@ -159,26 +145,64 @@ TEST(FileException, MessagesNameTheFile)
     EXPECT_LT(MessageOf(unnamed).Find(L'%'), 0);
     CFileException unknown(99);
     EXPECT_NE(MessageOf(unknown), L"(none)");
-}
 
-TEST(FileException, CausesFollowTheErrorCodes)
-{
     EXPECT_EQ(CFileException::OsErrorToException(ERROR_FILE_NOT_FOUND), CFileException::fileNotFound);
     EXPECT_EQ(CFileException::OsErrorToException(ERROR_SHARING_VIOLATION), CFileException::sharingViolation);
     EXPECT_EQ(CFileException::OsErrorToException(0x7FFF), CFileException::genericException);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
-
     try
     {
         CFileException::ThrowOsError(ERROR_ACCESS_DENIED, L"name");
         FAIL();
     }
-    catch (CFileException* e)
+    catch (CFileException* thrown)
     {
-        EXPECT_EQ(e->m_cause, CFileException::accessDenied);
-        EXPECT_EQ(e->m_lOsError, ERROR_ACCESS_DENIED);
-        EXPECT_STREQ(e->m_strFileName, L"name");
-        e->Delete();
+        EXPECT_EQ(thrown->m_cause, CFileException::accessDenied);
+        EXPECT_EQ(thrown->m_lOsError, ERROR_ACCESS_DENIED);
+        EXPECT_STREQ(thrown->m_strFileName, L"name");
+        thrown->Delete();
     }
     EXPECT_EQ(ThrownBy([] { CFileException::ThrowOsError(0); }), "") << "no error is no exception";
+}
+
+TEST(Exception, ReportsItsMessageOrTheGivenOne)
+{
+    const auto textShown = [](CException& e)
+    {
+        CString text;
+        owtest::ModalVisit visit(
+            [&](CWnd& box)
+            {
+                constexpr int messageId = 0xFFFF;
+                box.GetDlgItemText(messageId, text);
+                box.SendMessage(WM_COMMAND, IDOK);
+            });
+        EXPECT_EQ(e.ReportError(MB_OK, IDS_GREETING), IDOK);
+        return text;
+    };
+    CFileException named(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, L"missing.txt");
+    EXPECT_GE(textShown(named).Find(L"missing.txt"), 0);
+    CException silent(FALSE);
+    EXPECT_EQ(textShown(silent), L"Good day");
+}
+
+OW_CHILD_SCENARIO(failed_assertion)
+{
+    int evaluated = 0;
+    VERIFY(++evaluated == 2); // which is evaluated in every build
+    ASSERT(++evaluated == 1);
+    std::printf("went on after %d\n", evaluated);
+}
+
+TEST(Assertion, BreaksInDebugBuildsOnly)
+{
+    const owtest::ChildResult result = owtest::RunChild("failed_assertion");
+    ASSERT_TRUE(result.started);
+#ifdef _DEBUG
+    constexpr bool debug = true;
+#else
+    constexpr bool debug = false;
+#endif
+    EXPECT_EQ(result.brokeIntoDebugger, debug);
+    EXPECT_NE(result.output.find(debug ? "went on after 2" : "went on after 1"), std::string::npos);
 }

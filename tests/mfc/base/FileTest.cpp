@@ -1,18 +1,16 @@
 // CFile, CStdioFile and CMemFile: modes, contents, text translation, causes of failures.
 
+#include "Dice.h"
 #include "Thrown.h"
-
-#include <afx.h>
 
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <string>
 
 namespace
 {
 /// Each test has a folder of its own, which goes with it.
-class FileTest : public testing::Test
+class File : public testing::Test
 {
 protected:
     void SetUp() override
@@ -58,9 +56,6 @@ protected:
     CString m_path;
 };
 
-typedef FileTest File;
-typedef FileTest StdioFile;
-
 template <typename FUNCTION>
 int CauseThrownBy(FUNCTION function)
 {
@@ -76,69 +71,133 @@ int CauseThrownBy(FUNCTION function)
     }
     return CFileException::none;
 }
+
+/// Writes, reads, seeks and sets lengths at random, and expects the contents that a string has then.
+void ExpectBytesAsInAString(CFile& file)
+{
+    Dice dice;
+    std::string model;
+    size_t at = 0;
+    for (int round = 0; round < 400; ++round)
+    {
+        SCOPED_TRACE(round);
+        char buffer[64] = {};
+        const size_t count = dice(40);
+        switch (dice(4))
+        {
+        case 0:
+            std::fill_n(buffer, count, static_cast<char>('a' + round % 26));
+            file.Write(buffer, UINT(count));
+            if (count > 0) // a gap before it is zero
+            {
+                model.resize(std::max(model.size(), at + count));
+                model.replace(at, count, buffer, count);
+            }
+            at += count;
+            break;
+        case 1:
+        {
+            const size_t left = model.size() - std::min(at, model.size());
+            ASSERT_EQ(file.Read(buffer, UINT(count)), std::min(count, left));
+            ASSERT_EQ(std::string(buffer, std::min(count, left)), left > 0 ? model.substr(at, count) : "");
+            at += std::min(count, left);
+            break;
+        }
+        case 2:
+        {
+            const LONGLONG target = dice(static_cast<int>(model.size()) + 10);
+            const LONGLONG bases[] = {0, LONGLONG(at), LONGLONG(model.size())};
+            const UINT from = dice(3);
+            ASSERT_EQ(file.Seek(target - bases[from], from), ULONGLONG(target));
+            at = size_t(target);
+            break;
+        }
+        default:
+            model.resize(std::min<size_t>(at, 200));
+            file.SetLength(model.size());
+            at = model.size();
+            file.SeekToEnd();
+        }
+        ASSERT_EQ(file.GetPosition(), at);
+        file.Seek(0, CFile::current); // between reading and writing, as the run-time library wants it
+        ASSERT_EQ(file.GetLength(), model.size());
+    }
+    EXPECT_EQ(CauseThrownBy([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
+    file.SeekToBegin();
+    std::string all(model.size(), '?');
+    EXPECT_EQ(file.Read(all.data(), UINT(all.size() + 1)), model.size()) << "the rest only";
+    EXPECT_EQ(all, model);
+}
 } // namespace
 
-TEST_F(File, ModesDecideWhatOpeningDoes)
+TEST_F(File, EveryKindReadsWritesSeeksAndMeasuresAlike)
 {
+    constexpr UINT modes = CFile::modeCreate | CFile::modeReadWrite | CFile::typeBinary;
+    CFile plain(m_path, modes);
+    ExpectBytesAsInAString(plain);
+    plain.Close();
+    CStdioFile buffered(m_path, modes);
+    ExpectBytesAsInAString(buffered);
+    CMemFile memory(16);
+    ExpectBytesAsInAString(memory);
+
+    BYTE block[8] = {};
+    CMemFile fixed(block, sizeof(block));
+    EXPECT_EQ(fixed.GetLength(), 8u);
+    fixed.Write("XY", 2);
+    EXPECT_EQ(block[0], 'X') << "an attached block stays the caller's";
+    fixed.SeekToEnd();
+    EXPECT_EQ(CauseThrownBy([&] { fixed.Write("!", 1); }), CFileException::diskFull);
+}
+
+TEST_F(File, ModesDecideWhatOpeningDoesAndSharingIsExclusiveUnlessSaid)
+{
+    constexpr UINT open = CFile::modeRead | CFile::shareDenyNone;
     EXPECT_EQ(CauseOfOpen(m_path, CFile::modeRead), CFileException::fileNotFound);
     EXPECT_EQ(CauseOfOpen(m_folder + L"\\none\\x", CFile::modeRead), CFileException::badPath);
     EXPECT_EQ(CauseOfOpen(m_path, CFile::modeCreate | CFile::modeWrite), CFileException::none);
     Write("content");
     {
         CFile keeping(m_path, CFile::modeCreate | CFile::modeNoTruncate | CFile::modeReadWrite);
-        EXPECT_EQ(keeping.GetLength(), 7u);
         keeping.SeekToEnd();
         keeping.Write("!", 1);
+        EXPECT_EQ(CauseOfOpen(m_path, open), CFileException::sharingViolation);
     }
     EXPECT_EQ(Bytes(), "content!");
     EXPECT_EQ(CauseOfOpen(m_path, CFile::modeCreate | CFile::modeWrite), CFileException::none);
     EXPECT_EQ(Bytes(), "") << "created anew";
-
     EXPECT_EQ(CauseOfOpen(m_folder, CFile::modeReadWrite), CFileException::accessDenied) << "a folder";
     EXPECT_EQ(CauseThrownBy([&] { CFile file(m_folder, CFile::modeWrite); }), CFileException::accessDenied);
-}
 
-TEST_F(File, SharingIsExclusiveUnlessSaid)
-{
-    Write("x");
-    {
-        CFile exclusive(m_path, CFile::modeRead);
-        EXPECT_EQ(CauseOfOpen(m_path, CFile::modeRead | CFile::shareDenyNone),
-                  CFileException::sharingViolation);
-    }
     CFile sharing(m_path, CFile::modeRead | CFile::shareDenyWrite);
-    EXPECT_EQ(CauseOfOpen(m_path, CFile::modeRead | CFile::shareDenyNone), CFileException::none);
+    EXPECT_EQ(CauseOfOpen(m_path, open), CFileException::none);
     EXPECT_EQ(CauseOfOpen(m_path, CFile::modeWrite | CFile::shareDenyNone), CFileException::sharingViolation);
 }
 
-TEST_F(File, ReadsWritesAndSeeks)
-{
-    CFile file(m_path, CFile::modeCreate | CFile::modeReadWrite);
-    file.Write("0123456789", 10);
-    EXPECT_EQ(file.Seek(-3, CFile::end), 7u);
-    char buffer[10] = {};
-    EXPECT_EQ(file.Read(buffer, 10), 3u) << "the rest only";
-    EXPECT_STREQ(buffer, "789");
-    EXPECT_EQ(file.Read(buffer, 10), 0u);
-    file.SeekToBegin();
-    EXPECT_EQ(file.Seek(2, CFile::current), 2u);
-    file.SetLength(4);
-    EXPECT_EQ(file.GetLength(), 4u);
-    EXPECT_EQ(CauseThrownBy([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
-}
-
-TEST_F(File, DuplicateSharesThePositionAndOutlivesTheFirst)
+TEST_F(File, HandlesAreSharedByDuplicatesAndLeftOpenWhenAttached)
 {
     Write("1234");
-    CFile file(m_path, CFile::modeRead);
-    const std::unique_ptr<CFile> twin(file.Duplicate());
-    EXPECT_EQ(twin->GetFilePath(), file.GetFilePath());
-    twin->SeekToEnd();
-    EXPECT_EQ(file.GetPosition(), 4u);
-    file.Close();
-    EXPECT_EQ(twin->GetLength(), 4u);
-    char byte = 0;
-    EXPECT_EQ(CauseThrownBy([&] { file.Read(&byte, 1); }), CFileException::invalidFile);
+    {
+        CFile file(m_path, CFile::modeRead);
+        const std::unique_ptr<CFile> twin(file.Duplicate());
+        EXPECT_EQ(twin->GetFilePath(), file.GetFilePath());
+        twin->SeekToEnd();
+        EXPECT_EQ(file.GetPosition(), 4u);
+        file.Close();
+        EXPECT_EQ(twin->GetLength(), 4u);
+        char byte = 0;
+        EXPECT_EQ(CauseThrownBy([&] { file.Read(&byte, 1); }), CFileException::invalidFile);
+    }
+    const HANDLE hFile = CreateFile(m_path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    {
+        CFile file(hFile);
+        file.Write("abc", 3);
+    }
+    LARGE_INTEGER size = {};
+    EXPECT_TRUE(GetFileSizeEx(hFile, &size));
+    EXPECT_EQ(size.QuadPart, 3);
+    CFile(hFile).Close();
+    EXPECT_FALSE(GetFileSizeEx(hFile, &size));
 }
 
 TEST_F(File, KnowsItsNamesAndStatus)
@@ -148,7 +207,6 @@ TEST_F(File, KnowsItsNamesAndStatus)
     EXPECT_EQ(file.GetFileName(), L"data.test.txt");
     EXPECT_EQ(file.GetFileTitle(), L"data.test");
     EXPECT_EQ(file.GetFilePath().CompareNoCase(m_path), 0);
-
     CFileStatus status;
     EXPECT_TRUE(file.GetStatus(status));
     EXPECT_EQ(status.m_size, 5u);
@@ -157,108 +215,51 @@ TEST_F(File, KnowsItsNamesAndStatus)
     EXPECT_FALSE(CFile::GetStatus(m_folder + L"\\none", status));
 }
 
-TEST_F(File, AttachedHandleStaysOpen)
+TEST_F(File, TextIsStoredInTheAnsiCodePageWithItsLineEndsOrAsItIs)
 {
-    const HANDLE hFile = CreateFile(m_path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const WCHAR accents[] = {'a', 0x00E4, 0x0161, 'z', 0};
+    const CStringA stored(accents);
+    const std::string longLine(3000, 'x');
+    const struct
     {
-        CFile file(hFile);
-        file.Write("abc", 3);
-    }
-    LARGE_INTEGER size = {};
-    EXPECT_TRUE(GetFileSizeEx(hFile, &size));
-    EXPECT_EQ(size.QuadPart, 3);
-    CFile file(hFile);
-    file.Close();
-    EXPECT_FALSE(GetFileSizeEx(hFile, &size));
-}
-
-TEST_F(StdioFile, TextModeTranslatesLineEnds)
-{
+        UINT type;
+        CString text;
+        std::string bytes;
+        std::vector<CString> lines;
+    } cases[] = {
+        {0, L"first\nsecond\n\nlast", "first\r\nsecond\r\n\r\nlast", {L"first", L"second", L"", L"last"}},
+        {CFile::typeText, accents, stored.GetString(), {CString(stored)}},
+        {CFile::typeBinary, L"a\nb", std::string("a\0\n\0b\0", 6), {L"a", L"b"}},
+        {0, CString(L'x', 3000) + L"\n", longLine + "\r\n", {CString(L'x', 3000)}},
+    };
+    for (const auto& c : cases)
     {
-        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite | CFile::typeText);
-        file.WriteString(L"first\nsecond\n");
-        file.WriteString(L"\nlast");
+        CStdioFile writer(m_path, CFile::modeCreate | CFile::modeWrite | c.type);
+        writer.WriteString(c.text);
+        writer.Close();
+        EXPECT_EQ(Bytes(), c.bytes);
+        CStdioFile reader(m_path, CFile::modeRead | c.type);
+        std::vector<CString> lines;
+        for (CString line; reader.ReadString(line);)
+            lines.push_back(line);
+        EXPECT_EQ(lines, c.lines);
     }
-    EXPECT_EQ(Bytes(), "first\r\nsecond\r\n\r\nlast");
-
-    CStdioFile file(m_path, CFile::modeRead | CFile::typeText);
-    CString line;
-    for (LPCTSTR expected : {L"first", L"second", L"", L"last"})
-    {
-        EXPECT_TRUE(file.ReadString(line));
-        EXPECT_EQ(line, expected);
-    }
-    EXPECT_FALSE(file.ReadString(line));
-}
-
-TEST_F(StdioFile, LinesComeInPiecesOfTheBufferAndWholeAsAString)
-{
-    const CString longLine(L'x', 3000);
-    {
-        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite);
-        file.WriteString(L"second\n" + longLine + L"\n");
-    }
-    CStdioFile file(m_path, CFile::modeRead);
+    Write("second\r\n");
+    CStdioFile file(m_path, CFile::modeRead); // in pieces of the buffer
     TCHAR buffer[32];
     EXPECT_EQ(file.ReadString(buffer, 4), buffer);
     EXPECT_STREQ(buffer, L"sec");
     EXPECT_NE(file.ReadString(buffer, 32), nullptr);
     EXPECT_STREQ(buffer, L"ond\n");
-    CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, longLine);
     EXPECT_EQ(file.ReadString(buffer, 32), nullptr);
 }
 
-TEST_F(StdioFile, TextIsStoredInTheAnsiCodePage)
-{
-    const WCHAR text[] = {'a', 0x00E4, 0x0161, 'z', 0};
-    const CStringA expected(text);
-    {
-        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite);
-        file.WriteString(text);
-    }
-    EXPECT_EQ(Bytes(), expected.GetString());
-    CStdioFile file(m_path, CFile::modeRead);
-    CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, CString(expected));
-}
-
-TEST_F(StdioFile, BinaryModeStoresTextAsItIs)
-{
-    {
-        CStdioFile file(m_path, CFile::modeCreate | CFile::modeWrite | CFile::typeBinary);
-        file.WriteString(L"a\nb");
-    }
-    EXPECT_EQ(Bytes(), std::string("a\0\n\0b\0", 6));
-    CStdioFile file(m_path, CFile::modeRead | CFile::typeBinary);
-    CString line;
-    EXPECT_TRUE(file.ReadString(line));
-    EXPECT_EQ(line, L"a");
-}
-
-TEST_F(StdioFile, SeeksAndMeasuresWhatIsStillInItsBuffer)
-{
-    CStdioFile file(m_path, CFile::modeCreate | CFile::modeReadWrite | CFile::typeBinary);
-    file.Write("0123456789", 10);
-    EXPECT_EQ(file.GetLength(), 10u);
-    EXPECT_EQ(file.Seek(4, CFile::begin), 4u);
-    char buffer[2];
-    EXPECT_EQ(file.Read(buffer, 2), 2u);
-    EXPECT_EQ(buffer[1], '5');
-    file.SetLength(3);
-    file.Close();
-    EXPECT_EQ(Bytes(), "012");
-}
-
-TEST_F(StdioFile, FailuresHaveCauses)
+TEST_F(File, FailuresOfTextFilesHaveCauses)
 {
     CStdioFile file;
     EXPECT_FALSE(file.Open(m_path, CFile::modeRead));
     EXPECT_EQ(CauseThrownBy([&] { CStdioFile missing(m_path, CFile::modeRead); }),
               CFileException::fileNotFound);
-
     ASSERT_TRUE(file.Open(m_path, CFile::modeCreate | CFile::modeWrite));
     EXPECT_EQ(ThrownBy([&] { file.Duplicate(); }), "CNotSupportedException");
     CString line;
@@ -266,30 +267,4 @@ TEST_F(StdioFile, FailuresHaveCauses)
     file.Close();
     ASSERT_TRUE(file.Open(m_path, CFile::modeRead));
     EXPECT_EQ(CauseThrownBy([&] { file.WriteString(L"x"); }), CFileException::diskFull);
-}
-
-TEST(MemFile, GrowsWithZeroesInTheGaps)
-{
-    CMemFile file(16);
-    const std::string text = "more than sixteen bytes of text";
-    file.Write(text.data(), UINT(text.size()));
-    file.Seek(40, CFile::begin);
-    file.Write("x", 1);
-    file.SeekToBegin();
-    char buffer[64] = {};
-    EXPECT_EQ(file.Read(buffer, 64), 41u);
-    EXPECT_EQ(std::string(buffer, text.size()), text);
-    EXPECT_EQ(buffer[39], 0);
-    EXPECT_EQ(CauseThrownBy([&] { file.Seek(-1, CFile::begin); }), CFileException::badSeek);
-}
-
-TEST(MemFile, AttachedBlockStaysTheCallersAndIsFull)
-{
-    BYTE block[8] = {};
-    CMemFile fixed(block, sizeof(block));
-    EXPECT_EQ(fixed.GetLength(), 8u);
-    fixed.Write("XY", 2);
-    EXPECT_EQ(block[0], 'X');
-    fixed.SeekToEnd();
-    EXPECT_EQ(CauseThrownBy([&] { fixed.Write("!", 1); }), CFileException::diskFull);
 }

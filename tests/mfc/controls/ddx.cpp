@@ -34,14 +34,6 @@ protected:
         return Text();
     }
 
-    template <class Value>
-    BOOL Save(LPCTSTR text, Value& value)
-    {
-        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
-        ::SetWindowText(edit, text);
-        return host.UpdateData(TRUE);
-    }
-
     /// Exchanges, and expects one message box, whose text it answers, and the refusal of the data.
     CString TextOfRefusal()
     {
@@ -62,8 +54,10 @@ protected:
     template <class Value>
     void ExpectAccepted(LPCTSTR text, Value expected)
     {
-        Value value = 1;
-        EXPECT_TRUE(Save(text, value)) << CStringA(text).GetString();
+        Value value{};
+        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
+        ::SetWindowText(edit, text);
+        EXPECT_TRUE(host.UpdateData(TRUE)) << CStringA(text).GetString();
         EXPECT_EQ(value, expected);
     }
 
@@ -93,7 +87,7 @@ protected:
 };
 } // namespace
 
-TEST_F(ExchangeTest, WholeNumbersOfEveryTypeMakeTheRoundTrip)
+TEST_F(ExchangeTest, NumbersOfEveryTypeMakeTheRoundTripWithTheirDigits)
 {
     ExpectRoundTrip<BYTE>(255, L"255");
     ExpectRoundTrip<short>(-32768, L"-32768");
@@ -104,73 +98,72 @@ TEST_F(ExchangeTest, WholeNumbersOfEveryTypeMakeTheRoundTrip)
     ExpectRoundTrip<LONGLONG>(-9223372036854775807ll, L"-9223372036854775807");
     ExpectRoundTrip<ULONGLONG>(18446744073709551615ull, L"18446744073709551615");
     ExpectAccepted<int>(L"  +7 ", 7);
-}
-
-TEST_F(ExchangeTest, WhatIsNoWholeNumberOfTheTypeIsRefused)
-{
-    ExpectRefused<int>(L"");
-    ExpectRefused<int>(L"12x");
-    ExpectRefused<int>(L"1.5");
-    ExpectRefused<int>(L"2147483648");
-    ExpectRefused<BYTE>(L"256");
-    ExpectRefused<BYTE>(L"-1");
-    ExpectRefused<short>(L"40000");
-    ExpectRefused<UINT>(L"-1");
-    ExpectRefused<DWORD>(L"4294967296");
-    ExpectRefused<LONGLONG>(L"9223372036854775808");
-    ExpectRefused<ULONGLONG>(L"-1");
-}
-
-TEST_F(ExchangeTest, RealNumbersMakeTheRoundTripWithTheDigitsOfTheirType)
-{
     ExpectRoundTrip<float>(0.1f, L"0.1");
     ExpectRoundTrip<double>(0.1, L"0.1");
     ExpectRoundTrip<double>(-1234567.25, L"-1234567.25");
     ExpectRoundTrip<double>(1e100, L"1e+100");
     ExpectAccepted<double>(L" -1e-3 ", -1e-3);
+}
+
+TEST_F(ExchangeTest, WhatIsNoNumberOfTheTypeIsRefused)
+{
+    for (LPCTSTR text : {L"", L"12x", L"1.5", L"2147483648"})
+        ExpectRefused<int>(text);
+    for (LPCTSTR text : {L"256", L"-1"})
+        ExpectRefused<BYTE>(text);
+    ExpectRefused<short>(L"40000");
+    ExpectRefused<UINT>(L"-1");
+    ExpectRefused<DWORD>(L"4294967296");
+    ExpectRefused<LONGLONG>(L"9223372036854775808");
+    ExpectRefused<ULONGLONG>(L"-1");
     for (LPCTSTR text : {L"", L"2.5 m", L"wide"})
         ExpectRefused<double>(text);
 }
 
 TEST_F(ExchangeTest, StringsAreTakenAsTheyAreAndCutToTheBuffer)
 {
-    CString string(L"  blanks stay ");
-    EXPECT_EQ(Load(string), string);
-    CString read(L"before");
-    EXPECT_TRUE(Save(L"", read));
-    EXPECT_TRUE(read.IsEmpty());
-
+    const CString blanks(L"  blanks stay ");
+    EXPECT_EQ(Load(blanks), blanks);
+    ExpectAccepted(blanks, blanks);
     TCHAR buffer[5] = L"none";
     host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, buffer, 5); };
     ::SetWindowText(edit, L"123456");
     EXPECT_TRUE(host.UpdateData(TRUE));
     EXPECT_STREQ(buffer, L"1234");
+
+    CString text(L"abc");
+    host.exchange = [&](CDataExchange* dx)
+    {
+        DDX_Text(dx, IDC_VALUE, text);
+        DDV_MaxChars(dx, text, 4);
+    };
+    host.UpdateData(FALSE);
+    EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 4);
+    ::SetWindowText(edit, L"");
+    EXPECT_TRUE(host.UpdateData(TRUE));
+    EXPECT_TRUE(text.IsEmpty());
+    ::SetWindowText(edit, L"abcde");
+    TextOfRefusal();
 }
 
-TEST_F(ExchangeTest, ATextThatIsThereAlreadyIsNotSetAgain)
+TEST_F(ExchangeTest, AControlIsSubclassedOnceAndATextThatIsThereAlreadyIsNotSetAgain)
 {
-    class CountingEdit : public CEdit
+    struct CountingEdit : CEdit
     {
-    public:
         int textsSet = 0;
 
-    protected:
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
             textsSet += message == WM_SETTEXT;
             return CEdit::WindowProc(message, wParam, lParam);
         }
-    } counting;
-    counting.SubclassWindow(edit);
-    Load(5);
-    Load(5);
-    EXPECT_EQ(counting.textsSet, 1);
-}
-
-TEST_F(ExchangeTest, AControlIsSubclassedOnceHoweverOftenDataIsExchanged)
-{
-    CEdit object;
-    host.exchange = [&](CDataExchange* dx) { DDX_Control(dx, IDC_VALUE, object); };
+    } object;
+    int value = 5;
+    host.exchange = [&](CDataExchange* dx)
+    {
+        DDX_Control(dx, IDC_VALUE, object);
+        DDX_Text(dx, IDC_VALUE, value);
+    };
     EXPECT_TRUE(host.UpdateData(FALSE));
     const auto procedure = ::GetWindowLongPtr(edit, GWLP_WNDPROC);
     EXPECT_EQ(CWnd::FromHandlePermanent(edit), &object);
@@ -178,6 +171,10 @@ TEST_F(ExchangeTest, AControlIsSubclassedOnceHoweverOftenDataIsExchanged)
     EXPECT_TRUE(host.UpdateData(TRUE));
     EXPECT_EQ(::GetWindowLongPtr(edit, GWLP_WNDPROC), procedure);
     EXPECT_EQ(object.m_hWnd, edit);
+    EXPECT_EQ(object.textsSet, 1);
+
+    CDataExchange exchange(&host, TRUE);
+    EXPECT_THROW(exchange.PrepareCtrl(9999), CNotSupportedException*) << "a programmer's fault";
 }
 
 TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndRefuseOutside)
@@ -229,21 +226,6 @@ TEST_F(ExchangeTest, RangesOfOtherTypesAreComparedInTheirType)
             EXPECT_TRUE(host.UpdateData(TRUE));
         EXPECT_TRUE(host.UpdateData(FALSE)) << "initial values pass";
     }
-}
-
-TEST_F(ExchangeTest, MaxCharsLimitsTypingWhileLoadingAndChecksWhileSaving)
-{
-    CString text(L"abc");
-    host.exchange = [&](CDataExchange* dx)
-    {
-        DDX_Text(dx, IDC_VALUE, text);
-        DDV_MaxChars(dx, text, 4);
-    };
-    host.UpdateData(FALSE);
-    EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 4);
-
-    ::SetWindowText(edit, L"abcde");
-    TextOfRefusal();
 }
 
 TEST_F(ExchangeTest, RadioButtonsOfAGroupAreOneNumber)
@@ -320,10 +302,4 @@ TEST_F(ExchangeTest, ChecksListsAndPositions)
     CString selected;
     list->GetText(list->GetCurSel(), selected);
     EXPECT_EQ(selected, L"beam");
-}
-
-TEST_F(ExchangeTest, AMissingControlIsAProgrammersFault)
-{
-    CDataExchange exchange(&host, TRUE);
-    EXPECT_THROW(exchange.PrepareCtrl(9999), CNotSupportedException*);
 }

@@ -62,16 +62,11 @@ std::vector<CString> Paths(const CFileDialog& dialog)
 }
 } // namespace
 
-TEST(FileDialog, TheFilterIsARowOfTextsAndPatterns)
+TEST(FileDialog, TheFilterIsARowOfTextsAndSeveralFilesAreWalkedWithTheirFolder)
 {
-    CFileDialog dialog(TRUE, nullptr, nullptr, 0, L"Data (*.dat)|*.dat||");
+    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT, L"Data (*.dat)|*.dat||");
     const std::wstring expected(L"Data (*.dat)\0*.dat\0\0", 20);
     EXPECT_EQ(std::wstring(dialog.m_ofn.lpstrFilter, expected.size()), expected);
-}
-
-TEST(FileDialog, SeveralFilesAreWalkedWithTheirFolder)
-{
-    CFileDialog dialog(TRUE, nullptr, nullptr, OFN_ALLOWMULTISELECT);
     const auto put = [&](const std::wstring& names)
     {
         std::fill_n(dialog.m_ofn.lpstrFile, dialog.m_ofn.nMaxFile, L'\0');

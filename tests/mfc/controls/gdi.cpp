@@ -1,4 +1,4 @@
-// GDI objects, device contexts and menus: who owns the handles, and how long objects live.
+// GDI objects, device contexts and menus (who owns the handles, and how long objects live); rectangles.
 
 #include "HostWindow.h"
 
@@ -27,29 +27,24 @@ private:
 };
 } // namespace
 
-TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBefore)
+TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
 {
     MemoryDC dc;
     CPen red(PS_SOLID, 1, RGB(255, 0, 0));
     CPen blue(PS_SOLID, 1, RGB(0, 0, 255));
-
     CPen* original = dc.SelectObject(&red);
     EXPECT_EQ(original->m_hObject, ::GetStockObject(BLACK_PEN));
     EXPECT_EQ(dc.SelectObject(&blue), &red);
     EXPECT_EQ(dc.GetCurrentPen(), &blue);
     EXPECT_EQ(dc.SelectObject(original), &blue);
-}
 
-TEST(GdiObject, SelectingARegionClipsAndKeepsTheRegionTheCallers)
-{
-    MemoryDC dc;
     CRgn region;
     region.CreateRectRgn(10, 10, 20, 20);
     EXPECT_EQ(dc.SelectObject(&region), SIMPLEREGION);
     region.SetRectRgn(0, 0, 1, 1);
     CRect box;
     dc.GetClipBox(box);
-    EXPECT_TRUE(box == CRect(10, 10, 20, 20));
+    EXPECT_EQ(box, CRect(10, 10, 20, 20));
 }
 
 TEST(GdiObject, DestructionDestroysWhatIsAttachedAndSparesWhatIsDetached)
@@ -87,29 +82,20 @@ TEST(GdiObject, FromHandleFindsThePermanentObjectAndMakesOneTemporaryObjectForEa
     EXPECT_EQ(CPen::FromHandle(pen), &pen);
     EXPECT_EQ(CPen::FromHandle(nullptr), nullptr);
     EXPECT_EQ(CPen::FromHandle(nullptr)->GetSafeHandle(), nullptr) << "a safe handle may be asked of nobody";
-
     const HPEN plain = ::CreatePen(PS_SOLID, 3, 0);
     CPen* temporary = CPen::FromHandle(plain);
     EXPECT_EQ(temporary->m_hObject, plain);
     EXPECT_EQ(CPen::FromHandle(plain), temporary);
-
     CGdiObject::DeleteTempMap();
     EXPECT_EQ(::GetObjectType(plain), static_cast<DWORD>(OBJ_PEN)) << "temporary objects own nothing";
     EXPECT_EQ(CPen::FromHandle(pen), &pen) << "permanent objects stay";
     ::DeleteObject(plain);
-}
 
-TEST(GdiObject, TemporaryObjectsAreGivenBackWhenTheLastLockOfTheMapsGoes)
-{
-    const auto makeTemporaries = []
-    {
-        for (INT_PTR handle = 1; handle <= 5000; ++handle)
-            CGdiObject::FromHandle(reinterpret_cast<HGDIOBJ>(handle * 4));
-    };
-    AfxLockTempMaps();
+    AfxLockTempMaps(); // temporary objects are given back with the last lock
     AfxLockTempMaps();
     const size_t before = owtest::CountHeapBytes();
-    makeTemporaries();
+    for (INT_PTR handle = 1; handle <= 5000; ++handle)
+        CGdiObject::FromHandle(reinterpret_cast<HGDIOBJ>(handle * 4));
     AfxUnlockTempMaps();
     const size_t locked = owtest::CountHeapBytes();
     EXPECT_GT(locked, before + 5000 * sizeof(CGdiObject));
@@ -171,7 +157,7 @@ TEST(DeviceContext, HimetricIsHundredthsOfAMillimetreAndFontHeightsAreTenthsOfAP
     MemoryDC dc;
     CSize inch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
     dc.DPtoHIMETRIC(&inch);
-    EXPECT_TRUE(inch == CSize(2540, 2540));
+    EXPECT_EQ(inch, CSize(2540, 2540));
 
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(120, L"Liberation Sans", &dc));
@@ -208,4 +194,25 @@ TEST(Menu, ADestroyedObjectDestroysItsMenuAndASubMenuOnlyPasses)
     }
     EXPECT_FALSE(::IsMenu(owned));
     EXPECT_FALSE(::IsMenu(popupHandle)) << "a pop-up goes with the menu that holds it";
+}
+
+TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)
+{
+    const CRect rect(10, 20, 30, 50);
+    EXPECT_EQ(rect + CPoint(1, 2), CRect(11, 22, 31, 52));
+    EXPECT_EQ(rect + CRect(1, 2, 3, 4), CRect(9, 18, 33, 54));
+    EXPECT_EQ(rect - CRect(1, 2, 3, 4), CRect(11, 22, 27, 46));
+    EXPECT_EQ(rect & CRect(0, 0, 15, 100), CRect(10, 20, 15, 50));
+    EXPECT_EQ(rect | CRect(0, 0, 5, 5), CRect(0, 0, 30, 50));
+    CRect same(rect);
+    same &= same;
+    EXPECT_EQ(same, rect) << "an operand may be the target";
+
+    for (CRect turned : {CRect(30, 20, 10, 50), CRect(10, 50, 30, 20), rect})
+    {
+        turned.NormalizeRect();
+        EXPECT_EQ(turned, rect) << "only edges that stand the wrong way round";
+    }
+    EXPECT_EQ(CPoint(static_cast<LPARAM>(MAKELONG(-3, 7))), CPoint(-3, 7)) << "packed, with their signs";
+    EXPECT_EQ(CSize(static_cast<DWORD>(MAKELONG(5, -9))), CSize(5, -9));
 }

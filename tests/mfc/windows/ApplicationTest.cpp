@@ -31,11 +31,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
 END_MESSAGE_MAP()
-// clang-format on
 
 class Application : public ::testing::Test
 {
@@ -118,31 +116,19 @@ TEST_F(Profile, LivesInAFileWithoutARegistryKey)
     ::DeleteFile(file);
 }
 
-/// A window whose handlers fail.
-class CFailingWnd : public CWnd
+/// Its handlers of commands and of painting fail.
+struct CFailingWnd : CWnd
 {
-protected:
-    BOOL OnCommand(WPARAM, LPARAM) override
-    {
-        AfxThrowNotSupportedException();
-        return FALSE;
-    }
-    afx_msg void OnPaint()
-    {
-        ++m_paints;
-        AfxThrowNotSupportedException();
-    }
-    DECLARE_MESSAGE_MAP()
-
-public:
     int m_paints = 0;
-};
 
-// clang-format off
-BEGIN_MESSAGE_MAP(CFailingWnd, CWnd)
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-// clang-format on
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_paints += message == WM_PAINT;
+        if (message == WM_COMMAND || message == WM_PAINT)
+            AfxThrowNotSupportedException();
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+};
 
 TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
 {
@@ -170,12 +156,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CTestFrame, CFrameWnd)
     ON_COMMAND(0x8124, &CTestFrame::OnOwnCommand)
     ON_UPDATE_COMMAND_UI(0x8124, &CTestFrame::OnUpdateOwn)
 END_MESSAGE_MAP()
-// clang-format on
 
 class Frame : public Application
 {
@@ -195,84 +179,59 @@ protected:
     CTestFrame* frame = nullptr;
 };
 
-TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplication)
+TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
 {
     frame->SendMessage(WM_COMMAND, 0x8124);
     EXPECT_EQ(frame->m_command, 1);
     frame->SendMessage(WM_COMMAND, 0x8123);
     EXPECT_EQ(app->m_command, 1);
-}
 
-TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)
-{
-    frame->SendMessage(WM_COMMAND, ID_APP_EXIT);
-    EXPECT_EQ(AfxGetMainWnd(), nullptr);
-    EXPECT_TRUE(TakeQuitMessage());
-}
-
-TEST_F(Frame, MenuItemsShowTheStateOfTheirCommands)
-{
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
-    menu.AppendMenu(MF_STRING, 0x8124, L"own");
-    menu.AppendMenu(MF_STRING, 0x8123, L"application's");
-    menu.AppendMenu(MF_STRING, 0x8125, L"nobody's");
+    for (UINT command : {0x8124, 0x8123, 0x8125}) // its own, the application's, nobody's
+        menu.AppendMenu(MF_STRING, command, L"item");
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
     EXPECT_EQ(menu.GetMenuState(0, MF_BYPOSITION), UINT{MF_CHECKED});
     EXPECT_EQ(menu.GetMenuState(1, MF_BYPOSITION), UINT{MF_ENABLED});
     EXPECT_EQ(menu.GetMenuState(2, MF_BYPOSITION), UINT{MF_GRAYED});
 }
 
-TEST_F(Frame, DisablingItDisablesTheWindowsItOwns)
+TEST_F(Frame, DisablingItDisablesTheWindowsItOwnsAndFramesWhoeverEnablesThem)
 {
     CWnd palette;
     CWnd alreadyDisabled;
     ASSERT_TRUE(CreatePopup(palette, frame));
     ASSERT_TRUE(CreatePopup(alreadyDisabled, frame, WS_DISABLED));
-    frame->EnableWindow(FALSE);
-    EXPECT_FALSE(palette.IsWindowEnabled());
-    frame->EnableWindow(TRUE);
-    EXPECT_TRUE(palette.IsWindowEnabled());
-    EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
-}
-
-TEST_F(Frame, AFrameThatItOwnsStaysDisabledWhoeverEnablesIt)
-{
     auto* const owned = new CFrameWnd; // goes with its owner
     ASSERT_TRUE(owned->Create(nullptr, L"owned", WS_POPUP, CRect(0, 0, 50, 50), frame));
     frame->EnableWindow(FALSE);
     owned->EnableWindow(TRUE);
     EXPECT_FALSE(owned->IsWindowEnabled());
+    EXPECT_FALSE(palette.IsWindowEnabled());
     frame->EnableWindow(TRUE);
     EXPECT_TRUE(owned->IsWindowEnabled());
+    EXPECT_TRUE(palette.IsWindowEnabled());
+    EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
 }
 
-TEST_F(Frame, RunsUntilItsMainWindowIsClosed)
+TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)
 {
-    frame->PostMessage(WM_CLOSE);
+    frame->PostMessage(WM_COMMAND, ID_APP_EXIT);
     EXPECT_EQ(app->Run(), 0);
     EXPECT_EQ(app->m_pMainWnd, nullptr);
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
 }
 
-class CIdleWnd : public CWnd
+struct CIdleWnd : CWnd
 {
-public:
     int m_updates = 0;
 
-protected:
-    afx_msg LRESULT OnUpdate(WPARAM, LPARAM)
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        ++m_updates;
-        return 0;
+        m_updates += message == WM_IDLEUPDATECMDUI;
+        return CWnd::WindowProc(message, wParam, lParam);
     }
-    DECLARE_MESSAGE_MAP()
 };
-
-// clang-format off
-BEGIN_MESSAGE_MAP(CIdleWnd, CWnd)
-    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CIdleWnd::OnUpdate)
-END_MESSAGE_MAP()
-// clang-format on
 
 TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
 {
@@ -331,21 +290,13 @@ TEST(WindowClass, EqualRequestsGiveOneClass)
     EXPECT_EQ(found.style, UINT{CS_DBLCLKS});
 }
 
-std::string ClipboardText()
-{
-    std::string text;
-    if (!::OpenClipboard(nullptr))
-        return text;
-    if (const HANDLE data = ::GetClipboardData(CF_TEXT))
-        text = static_cast<const char*>(::GlobalLock(data));
-    ::CloseClipboard();
-    return text;
-}
-
 TEST(DumpStack, PutsTheFramesOnTheClipboard)
 {
     AfxDumpStack(AFX_STACK_DUMP_TARGET_CLIPBOARD);
-    const std::string text = ClipboardText();
+    ASSERT_TRUE(::OpenClipboard(nullptr));
+    const HANDLE data = ::GetClipboardData(CF_TEXT);
+    const std::string text = data != nullptr ? static_cast<const char*>(::GlobalLock(data)) : "";
+    ::CloseClipboard();
     EXPECT_NE(text.find("test_mfc_windows.exe"), std::string::npos);
     EXPECT_GE(std::count(text.begin(), text.end(), '\n'), 5);
 }

@@ -84,12 +84,10 @@ private:
     Action m_action;
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CTextDialog, CDialog)
     ON_MESSAGE(WM_KICKIDLE, &CTextDialog::OnKickIdle)
     ON_EN_CHANGE(idEdit, &CTextDialog::OnChange)
 END_MESSAGE_MAP()
-// clang-format on
 
 /// An owner that notes the commands which come to it.
 class COwner : public CWnd
@@ -127,20 +125,41 @@ struct ModalDialog : Dialog
     }
 };
 
-TEST_F(ModalDialog, DisablesItsOwnerWhileItIsOpen)
+TEST_F(ModalDialog, AnswersHowItEnded)
 {
-    CTextDialog dialog(
-        form,
-        [&](CTextDialog& self)
-        {
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            EXPECT_TRUE(self.IsWindowVisible());
-            self.EndDialog(17);
-        },
-        &owner);
-    EXPECT_EQ(dialog.DoModal(), 17);
-    EXPECT_EQ(dialog.m_hWnd, nullptr);
-    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+    const struct
+    {
+        CTextDialog::Action action;
+        INT_PTR result;
+        LPCTSTR text;
+    } cases[] = {
+        {[](CTextDialog& self) { self.EndDialog(17); }, 17, L"before"},
+        {[](CTextDialog& self) { self.DestroyWindow(); }, -1, L"before"},
+        {[](CTextDialog&) { owtest::Press(VK_RETURN); }, IDOK, L"abc"},
+        {[](CTextDialog&) { owtest::Press(VK_ESCAPE); }, IDCANCEL, L"before"},
+        {[](CTextDialog&) { ::PostQuitMessage(5); }, -1, L"before"},
+    };
+    for (const auto& c : cases)
+    {
+        CTextDialog dialog(
+            form,
+            [&](CTextDialog& self)
+            {
+                EXPECT_FALSE(owner.IsWindowEnabled());
+                EXPECT_TRUE(self.IsWindowVisible());
+                ASSERT_TRUE(owtest::Activate(self));
+                owtest::Type(L"abc");
+                c.action(self);
+            },
+            &owner);
+        dialog.m_text = L"before";
+        EXPECT_EQ(dialog.DoModal(), c.result);
+        EXPECT_EQ(dialog.m_text, c.text);
+        EXPECT_EQ(dialog.m_hWnd, nullptr);
+        EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
+        EXPECT_TRUE(owner.IsWindowEnabled());
+    }
+    EXPECT_TRUE(TakeQuitMessage()) << "passed on to the loop outside";
 }
 
 TEST_F(ModalDialog, LeavesAnOwnerDisabledThatWasSoBefore)
@@ -151,39 +170,25 @@ TEST_F(ModalDialog, LeavesAnOwnerDisabledThatWasSoBefore)
     owner.EnableWindow(TRUE);
 }
 
-TEST_F(ModalDialog, IsOwnedByTheTopLevelWindowOfAChild)
+TEST_F(ModalDialog, IsOwnedByTheTopLevelWindowOfAChildAndNestsWithEachOwnerDisabled)
 {
     CWnd child;
     ASSERT_TRUE(CreateChild(child, owner, 1));
-    HWND actual = nullptr;
-    Show(
-        [&](CTextDialog& self)
-        {
-            actual = ::GetWindow(self, GW_OWNER);
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            self.EndDialog(1);
-        },
-        &child);
-    EXPECT_EQ(actual, owner.m_hWnd);
-}
-
-TEST_F(ModalDialog, EnterSavesAndEscapeCancels)
-{
-    for (const auto& [key, result] : {std::pair<WORD, INT_PTR>(VK_RETURN, IDOK), {VK_ESCAPE, IDCANCEL}})
+    const auto showInner = [&](CTextDialog& outer)
     {
-        CTextDialog dialog(
-            form,
-            [key](CTextDialog& self)
-            {
-                ASSERT_TRUE(owtest::Activate(self));
-                owtest::Type(L"abc");
-                owtest::Press(key);
-            },
-            &owner);
-        dialog.m_text = L"before";
-        EXPECT_EQ(dialog.DoModal(), result);
-        EXPECT_EQ(dialog.m_text, result == IDOK ? L"abc" : L"before");
-    }
+        EXPECT_EQ(::GetWindow(outer, GW_OWNER), owner.m_hWnd);
+        const auto lookAround = [&](CTextDialog& inner)
+        {
+            EXPECT_FALSE(outer.IsWindowEnabled());
+            EXPECT_FALSE(owner.IsWindowEnabled());
+            inner.EndDialog(2);
+        };
+        EXPECT_EQ(Show(lookAround, &outer), 2);
+        EXPECT_TRUE(outer.IsWindowEnabled());
+        EXPECT_FALSE(owner.IsWindowEnabled());
+        outer.EndDialog(1);
+    };
+    EXPECT_EQ(Show(showInner, &child), 1);
 }
 
 TEST_F(ModalDialog, StaysOpenWhenAValueIsRefused)
@@ -211,82 +216,41 @@ TEST_F(ModalDialog, EscapeInAMultilineEditCancelsAsElsewhere)
     const auto withoutCancel = owtest::DialogTemplate(L"Form", 120, 60)
                                    .Edit(idEdit, 4, 4, 100, 12)
                                    .Edit(idMemo, 4, 20, 100, 30, ES_MULTILINE | ES_WANTRETURN);
-    CTextDialog dialog(
-        withoutCancel,
-        [](CTextDialog& self)
-        {
-            ASSERT_TRUE(owtest::Activate(self));
-            self.GetDlgItem(idMemo)->SetFocus();
-            owtest::Press(VK_ESCAPE);
-        },
-        &owner);
-    EXPECT_EQ(dialog.DoModal(), IDCANCEL);
+    const auto escape = [](CTextDialog& self)
+    {
+        ASSERT_TRUE(owtest::Activate(self));
+        self.GetDlgItem(idMemo)->SetFocus();
+        owtest::Press(VK_ESCAPE);
+    };
+    EXPECT_EQ(CTextDialog(withoutCancel, escape, &owner).DoModal(), IDCANCEL);
 }
 
-TEST_F(ModalDialog, MayEndBeforeItIsShown)
+TEST_F(ModalDialog, MayEndBeforeItIsShownOrNeverBegin)
 {
     CTextDialog dialog(
         form, [](CTextDialog&) { ADD_FAILURE() << "it waits for its user"; }, &owner);
     dialog.m_onInit = [](CTextDialog& self) { self.EndDialog(23); };
     EXPECT_EQ(dialog.DoModal(), 23);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-}
 
-TEST_F(ModalDialog, MayBeDestroyedFromWithin)
-{
-    EXPECT_EQ(Show([](CTextDialog& self) { self.DestroyWindow(); }), -1);
-}
-
-TEST_F(ModalDialog, ATemplateThatIsMissingOrBrokenAnswersMinusOne)
-{
-    CDialog byId(4999u, &owner);
-    EXPECT_EQ(byId.DoModal(), -1);
-    CDialog byName(L"no_such_dialog", &owner);
-    EXPECT_EQ(byName.DoModal(), -1);
-
-    const auto broken = BrokenForm();
-    CDialog unknownControl;
-    unknownControl.InitModalIndirect(broken.get(), &owner);
-    EXPECT_EQ(unknownControl.DoModal(), -1);
-}
-
-TEST_F(ModalDialog, AQuitMessageEndsTheLoopAndIsPassedOn)
-{
-    EXPECT_EQ(Show([](CTextDialog&) { ::PostQuitMessage(5); }), -1);
-    EXPECT_TRUE(TakeQuitMessage());
-}
-
-TEST_F(ModalDialog, NestsWithEachOwnerDisabled)
-{
-    const auto showInner = [&](CTextDialog& outer)
-    {
-        const auto lookAround = [&](CTextDialog& inner)
-        {
-            EXPECT_FALSE(outer.IsWindowEnabled());
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            inner.EndDialog(2);
-        };
-        EXPECT_EQ(Show(lookAround, &outer), 2);
-        EXPECT_TRUE(outer.IsWindowEnabled());
-        EXPECT_FALSE(owner.IsWindowEnabled());
-        outer.EndDialog(1);
-    };
-    EXPECT_EQ(Show(showInner), 1);
+    EXPECT_EQ(CDialog(4999u, &owner).DoModal(), -1);
+    EXPECT_EQ(CDialog(L"no_such_dialog", &owner).DoModal(), -1);
+    EXPECT_EQ(CTextDialog(BrokenForm(), nullptr, &owner).DoModal(), -1);
 }
 
 TEST_F(ModalDialog, LeavesNothingBehind)
 {
-    const auto open = [&]
+    const auto open = [&](int times)
     {
-        Show([](CTextDialog& self) { self.EndDialog(IDOK); });
-        AfxGetThread()->OnIdle(1); // where temporary objects go
+        for (; times > 0; --times)
+        {
+            Show([](CTextDialog& self) { self.EndDialog(IDOK); });
+            AfxGetThread()->OnIdle(1); // where temporary objects go
+        }
+        return owtest::CountHandles();
     };
-    for (int warmUp = 0; warmUp < 3; ++warmUp)
-        open();
-    const owtest::HandleCount before = owtest::CountHandles();
-    for (int round = 0; round < 20; ++round)
-        open();
-    const owtest::HandleCount after = owtest::CountHandles();
+    const owtest::HandleCount before = open(3);
+    const owtest::HandleCount after = open(20);
     EXPECT_EQ(after.windows, before.windows);
     EXPECT_EQ(after.gdi, before.gdi);
 }
@@ -323,9 +287,10 @@ class CShortDialog : public CModelessDialog
 {
 public:
     using CModelessDialog::CModelessDialog;
+    static void* operator new(size_t size) { return ::operator new(size); }
     static void operator delete(void* memory)
     {
-        memset(memory, 0xDD, sizeof(CShortDialog));
+        std::fill_n(static_cast<volatile BYTE*>(memory), sizeof(CShortDialog), BYTE{0xDD});
         ::operator delete(memory);
     }
 
@@ -333,16 +298,11 @@ protected:
     BOOL OnInitDialog() override { return DestroyWindow(); }
 };
 
-TEST_F(Dialog, AModelessOneMayDeleteItselfWhileItIsInitialised)
+TEST_F(Dialog, AModelessOneMayDeleteItselfWhileItIsInitialisedOrCannotBeMade)
 {
     int alive = 0;
     EXPECT_FALSE((new CShortDialog(alive))->CreateIndirect(form.get()));
     EXPECT_EQ(alive, 0);
-}
-
-TEST_F(Dialog, ATemplateThatCannotBeMadeDeletesTheObjectAsAnEndWould)
-{
-    int alive = 0;
     const auto broken = BrokenForm();
     EXPECT_FALSE((new CModelessDialog(alive))->CreateIndirect(broken.get()));
     EXPECT_EQ(alive, 0);
@@ -371,21 +331,16 @@ TEST_F(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
     EXPECT_FALSE(isCentred(form, [](CTextDialog& self) { self.MoveWindow(0, 0, 100, 100); }));
 }
 
-TEST_F(Dialog, HandsCommandsOfTheProgramToItsOwner)
+TEST_F(Dialog, HandsCommandsOfTheProgramToItsOwnerAndDoesNotHearItsOwnDataExchange)
 {
-    CDialog dialog;
+    CTextDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(form.get(), &owner));
     dialog.SendMessage(WM_COMMAND, 0x8001);
     EXPECT_EQ(owner.m_command, 0x8001u);
     owner.m_command = 0;
     dialog.SendMessage(WM_COMMAND, idMemo);
     EXPECT_EQ(owner.m_command, 0u) << "an id of the dialog's own";
-}
 
-TEST_F(Dialog, DoesNotHearItsOwnDataExchange)
-{
-    CTextDialog dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form.get()));
     dialog.m_text = L"from the member";
     dialog.UpdateData(FALSE);
     EXPECT_EQ(dialog.m_changesHeard, 0);

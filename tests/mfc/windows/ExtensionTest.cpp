@@ -8,17 +8,6 @@
 
 namespace
 {
-struct FreeModule
-{
-    void operator()(HMODULE module) const { ::FreeLibrary(module); }
-};
-using LoadedModule = std::unique_ptr<std::remove_pointer_t<HMODULE>, FreeModule>;
-
-LoadedModule LoadLateExtension()
-{
-    return LoadedModule(::LoadLibrary(L"mfc_test_extension_late.dll"));
-}
-
 HMODULE EarlyExtension()
 {
     return ::GetModuleHandle(L"mfc_test_extension_early.dll");
@@ -39,28 +28,22 @@ TEST(Extension, TheChainWorksBeforeTheProgramIsInitialised)
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG), EarlyExtension());
 }
 
-TEST(Extension, TheLatestModuleIsAskedFirstAndLeavesTheChainWhenItGoes)
+TEST(Extension, TheCurrentHandleIsAskedBeforeTheLatestModuleWhichLeavesTheChainWhenItGoes)
 {
     {
-        const LoadedModule late = LoadLateExtension();
+        const std::shared_ptr<void> late(::LoadLibrary(L"mfc_test_extension_late.dll"),
+                                         [](void* module) { ::FreeLibrary(static_cast<HMODULE>(module)); });
         ASSERT_NE(late, nullptr);
         EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
         EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only")
             << "an empty place in a block of strings is no string";
+        const HINSTANCE program = AfxGetResourceHandle();
+        AfxSetResourceHandle(EarlyExtension());
+        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
+        AfxSetResourceHandle(program);
     }
     EXPECT_EQ(::GetModuleHandle(L"mfc_test_extension_late.dll"), nullptr);
     EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
-}
-
-TEST(Extension, TheCurrentResourceHandleComesBeforeTheChain)
-{
-    const LoadedModule late = LoadLateExtension();
-    ASSERT_NE(late, nullptr);
-    const HINSTANCE program = AfxGetResourceHandle();
-    AfxSetResourceHandle(EarlyExtension());
-    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
-    AfxSetResourceHandle(program);
-    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
 }
 
 TEST(Extension, AMissingResourceAnswersTheCurrentHandle)
@@ -86,19 +69,17 @@ TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsLists)
 
 TEST(Extension, ExceptionsCrossModulesByTheirTypes)
 {
-    int code = 0;
     try
     {
         ThrowFromExtension(3);
+        FAIL();
     }
     catch (CExtensionException* e)
     {
-        code = e->m_code;
-        EXPECT_TRUE(e->IsKindOf(RUNTIME_CLASS(CException)));
-        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), RUNTIME_CLASS(CExtensionException));
+        EXPECT_EQ(e->m_code, 3);
+        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), e->GetRuntimeClass());
         e->Delete();
     }
-    EXPECT_EQ(code, 3);
 }
 
 TEST(ModuleState, IsPutInForceForAScope)

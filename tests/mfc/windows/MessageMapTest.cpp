@@ -65,7 +65,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CProbe, CWnd)
     ON_CONTROL_REFLECT_EX(BN_CLICKED, &CProbe::OnReflectedClick)
     ON_CONTROL_REFLECT(BN_DOUBLECLICKED, &CProbe::OnReflectedDoubleClick)
@@ -76,7 +75,6 @@ BEGIN_MESSAGE_MAP(CProbe, CWnd)
     ON_WM_VKEYTOITEM_REFLECT()
     ON_WM_HSCROLL_REFLECT()
 END_MESSAGE_MAP()
-// clang-format on
 
 class CParentBase : public CWnd
 {
@@ -86,12 +84,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CParentBase, CWnd)
     ON_BN_CLICKED(idForeign, &CParentBase::OnBaseClick)
     ON_MESSAGE(WM_APP + 1, &CParentBase::OnUser)
 END_MESSAGE_MAP()
-// clang-format on
 
 class CParent : public CParentBase
 {
@@ -148,7 +144,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-// clang-format off
 BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_SIZE()
     ON_WM_MOUSEMOVE()
@@ -168,7 +163,6 @@ BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_NOTIFY_RANGE(codeNotify, idRangeFirst, idRangeLast, &CParent::OnNotifyRange)
     ON_REGISTERED_MESSAGE(registeredMessage, &CParent::OnRegistered)
 END_MESSAGE_MAP()
-// clang-format on
 
 class MessageMap : public ::testing::Test
 {
@@ -252,43 +246,33 @@ TEST_F(MessageMap, RangesIncludeBothEndsAndPassTheId)
     EXPECT_EQ(trace.back(), "range 40019");
 }
 
-TEST_F(MessageMap, AnExHandlerThatAnswersFalseLeavesTheCommandUnhandled)
+TEST_F(MessageMap, CommandsRunUnlessTheyAreDisabledAndAnExHandlerMayDecline)
 {
     EXPECT_TRUE(parent.SendMessage(WM_COMMAND, cmdEx));
     parent.m_answer = FALSE;
     EXPECT_FALSE(parent.SendMessage(WM_COMMAND, cmdEx));
     EXPECT_EQ(trace.back(), "ex 40001");
-}
 
-TEST_F(MessageMap, ADisabledCommandDoesNotRun)
-{
+    parent.SendMessage(WM_COMMAND, cmdMenu);
+    EXPECT_EQ(trace.back(), "menu");
+    trace.clear();
     parent.m_enabled = FALSE; // an accelerator comes whatever the menu shows
     parent.SendMessage(WM_COMMAND, cmdMenu);
     EXPECT_EQ(trace, (Trace{"OnCommand"}));
-    parent.m_enabled = TRUE;
-    parent.SendMessage(WM_COMMAND, cmdMenu);
-    EXPECT_EQ(trace.back(), "menu");
-}
 
-TEST_F(MessageMap, LookingForAHandlerDoesNotRunIt)
-{
-    AFX_CMDHANDLERINFO info{};
+    AFX_CMDHANDLERINFO info{}; // which only looks for the handler
     EXPECT_TRUE(parent.OnCmdMsg(cmdMenu, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &parent);
-    EXPECT_EQ(trace, (Trace{"OnCmdMsg"}));
+    EXPECT_EQ(trace.back(), "OnCmdMsg");
     EXPECT_FALSE(parent.OnCmdMsg(40099, CN_COMMAND, nullptr, &info));
-}
-
-TEST_F(MessageMap, MessagesOfTheProgramReachTheirHandlers)
-{
-    EXPECT_EQ(parent.SendMessage(WM_APP + 1, 4, 2), 42);
-    EXPECT_EQ(parent.SendMessage(registeredMessage, 8), 9);
-    EXPECT_EQ(parent.SendMessage(WM_APP + 2, 4, 2), 0);
-    EXPECT_EQ(parent.SendMessage(::RegisterWindowMessage(L"DialogControlsOW.Test.Other"), 8), 0);
 }
 
 TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
 {
+    EXPECT_EQ(parent.SendMessage(WM_APP + 1, 4, 2), 42);
+    EXPECT_EQ(parent.SendMessage(registeredMessage, 8), 9);
+    EXPECT_EQ(parent.SendMessage(WM_APP + 2, 4, 2), 0) << "of nobody";
+    EXPECT_EQ(parent.SendMessage(::RegisterWindowMessage(L"DialogControlsOW.Test.Other"), 8), 0);
     parent.SendMessage(WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 480));
     parent.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(-3, -4));
     parent.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5));

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <thread>
 #include <utility>
@@ -17,45 +18,33 @@ public:
     int m_preSubclass = 0;
     int m_created = 0;
     int m_postNcDestroy = 0;
-    bool m_refuseCreate = false;
-    bool m_throwInCreate = false;
+    std::function<LRESULT()> m_onCreate;
 
     void PreSubclassWindow() override
     {
         ++m_preSubclass;
         EXPECT_EQ(FromHandlePermanent(m_hWnd), this);
     }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        switch (message)
+        {
+        case WM_CREATE:
+            ++m_created;
+            EXPECT_EQ(m_preSubclass, 1);
+            return m_onCreate ? m_onCreate() : CWnd::WindowProc(message, wParam, lParam);
+        case WM_APP:
+            DestroyWindow();
+            return m_hWnd == nullptr ? 77 : 0;
+        case WM_APP + 1:
+            AfxThrowUserException(); // reported already: no message box
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
 
 protected:
     void PostNcDestroy() override { ++m_postNcDestroy; }
-    afx_msg int OnCreate(LPCREATESTRUCT cs)
-    {
-        ++m_created;
-        EXPECT_EQ(m_preSubclass, 1);
-        if (m_throwInCreate)
-            AfxThrowResourceException();
-        return m_refuseCreate ? -1 : CWnd::OnCreate(cs);
-    }
-    afx_msg LRESULT OnDie(WPARAM, LPARAM)
-    {
-        DestroyWindow();
-        return m_hWnd == nullptr ? 77 : 0;
-    }
-    afx_msg LRESULT OnThrow(WPARAM, LPARAM)
-    {
-        AfxThrowUserException(); // reported already: no message box
-        return 1;
-    }
-    DECLARE_MESSAGE_MAP()
 };
-
-// clang-format off
-BEGIN_MESSAGE_MAP(CLifeWnd, CWnd)
-    ON_WM_CREATE()
-    ON_MESSAGE(WM_APP, &CLifeWnd::OnDie)
-    ON_MESSAGE(WM_APP + 1, &CLifeWnd::OnThrow)
-END_MESSAGE_MAP()
-// clang-format on
 
 HWND MakeStatic(HWND parent = nullptr)
 {
@@ -81,31 +70,30 @@ TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(window.m_postNcDestroy, 1);
     EXPECT_FALSE(window.DestroyWindow());
-}
 
-TEST(Window, AnObjectThatGoesTakesItsWindowAlong)
-{
     HWND handle = nullptr;
     {
-        CWnd window;
-        ASSERT_TRUE(CreatePopup(window));
-        handle = window;
+        CWnd taken; // which goes, and takes its window along
+        ASSERT_TRUE(CreatePopup(taken));
+        handle = taken;
     }
     EXPECT_FALSE(::IsWindow(handle));
 }
 
 TEST(Window, ACreationThatFailsLeavesNoHandle)
 {
-    CLifeWnd refused;
-    refused.m_refuseCreate = true;
-    EXPECT_FALSE(CreatePopup(refused));
-    EXPECT_EQ(refused.m_hWnd, nullptr);
-    EXPECT_EQ(refused.m_postNcDestroy, 1);
-
-    CLifeWnd thrown;
-    thrown.m_throwInCreate = true;
-    EXPECT_FALSE(CreatePopup(thrown));
-    EXPECT_EQ(thrown.m_hWnd, nullptr);
+    const std::function<LRESULT()> failures[] = {
+        [] { return -1; },
+        []() -> LRESULT { AfxThrowResourceException(); },
+    };
+    for (const auto& failure : failures)
+    {
+        CLifeWnd window;
+        window.m_onCreate = failure;
+        EXPECT_FALSE(CreatePopup(window));
+        EXPECT_EQ(window.m_hWnd, nullptr);
+        EXPECT_EQ(window.m_postNcDestroy, 1);
+    }
 
     CLifeWnd unknownClass; // the system refuses before it makes anything
     EXPECT_FALSE(unknownClass.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
@@ -151,10 +139,12 @@ TEST(Window, ASubclassedWindowThatDiesReleasesItsObjectForAnother)
     EXPECT_FALSE(window.SubclassDlgItem(999, &parent));
 }
 
-TEST(Window, AWindowMayDieInItsOwnHandler)
+TEST(Window, AHandlerMayThrowOrDestroyItsWindow)
 {
     CLifeWnd window;
     ASSERT_TRUE(CreatePopup(window));
+    EXPECT_EQ(window.SendMessage(WM_APP + 1), 0) << "the exception stops at the procedure";
+    EXPECT_TRUE(::IsWindow(window));
     EXPECT_EQ(::SendMessage(window.m_hWnd, WM_APP, 0, 0), 77);
     EXPECT_EQ(window.m_postNcDestroy, 1);
 }
@@ -194,63 +184,40 @@ TEST(Window, TheMainWindowEndsTheProgram)
     EXPECT_TRUE(TakeQuitMessage());
 }
 
-TEST(Window, AnExceptionInAHandlerStopsAtTheProcedure)
-{
-    CLifeWnd window;
-    ASSERT_TRUE(CreatePopup(window));
-    EXPECT_EQ(window.SendMessage(WM_APP + 1), 0);
-    EXPECT_TRUE(::IsWindow(window));
-}
-
-TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTime)
+TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTimeUnlessItIsAttached)
 {
     const HWND foreign = MakeStatic();
-    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
     CWnd* const temporary = CWnd::FromHandle(foreign);
     ASSERT_NE(temporary, nullptr);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
-
     AfxLockTempMaps(); // as a nested loop does
     AfxGetThread()->OnIdle(1);
     EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
     EXPECT_EQ(temporary->m_hWnd, foreign);
     AfxUnlockTempMaps();
-
     AfxGetThread()->OnIdle(1);
     EXPECT_TRUE(::IsWindow(foreign)); // the object did not own it
+
+    const WNDPROC original = ProcedureOf(foreign);
+    CWnd window;
+    ASSERT_TRUE(window.Attach(foreign));
+    AfxGetThread()->OnIdle(1);
+    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), &window);
+    EXPECT_EQ(ProcedureOf(foreign), original) << "it takes no messages";
+    EXPECT_EQ(window.Detach(), foreign);
+    EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
     ::DestroyWindow(foreign);
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
 }
 
-TEST(HandleMap, AttachMakesAnObjectPermanentWithoutTakingMessages)
-{
-    const HWND handle = MakeStatic();
-    const WNDPROC original = ProcedureOf(handle);
-    CWnd window;
-    ASSERT_TRUE(window.Attach(handle));
-    EXPECT_EQ(CWnd::FromHandle(handle), &window);
-    AfxGetThread()->OnIdle(1);
-    EXPECT_EQ(CWnd::FromHandlePermanent(handle), &window);
-    EXPECT_EQ(ProcedureOf(handle), original);
-    EXPECT_EQ(window.Detach(), handle);
-    EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
-    ::DestroyWindow(handle);
-}
-
-TEST(HandleMap, BelongsToItsThread)
+TEST(HandleMap, BelongsToItsThreadAndSafeHandlesToNobody)
 {
     CWnd window;
     ASSERT_TRUE(CreatePopup(window));
     CWnd* seen = &window;
     std::thread([&seen, handle = window.m_hWnd] { seen = CWnd::FromHandlePermanent(handle); }).join();
     EXPECT_EQ(seen, nullptr);
-}
-
-TEST(Window, TheSafeHandleOfANullObjectIsNull)
-{
-    CWnd* volatile none = nullptr;
-    CWnd* const window = none;
-    EXPECT_EQ(window->GetSafeHwnd(), nullptr);
+    EXPECT_EQ(seen->GetSafeHwnd(), nullptr);
 }
 
 TEST(Window, PlacesOfTheOrderAreNoWindowsOfTheirOwn)
