@@ -88,7 +88,7 @@ TEST(ManagerOfARedirectingDialog, WhatTheDialogSelectsWhileItIsBoundStaysShown)
     };
     PagesHost host(IDD_HOST);
     ASSERT_TRUE(host.Open());
-    auto* pRedirecting = new RedirectingDialog(IDD_PLAIN, "redirecting", &host, host.log);
+    auto* pRedirecting = new RedirectingDialog(IDD_PLAIN, "redirecting", &host);
     host.manager.AddDialog(pRedirecting);
     CPageDialog* const pFields = host.AddDialog(IDD_FIELDS, "fields");
     CPage* const pFirst = host.AddPage(L"First", pFields, 1);
