@@ -56,6 +56,7 @@ public:
     {
         MakeLoads();
         MakeResults();
+        ShowResults({});
         return TRUE;
     }
 

@@ -12,8 +12,8 @@ namespace
 {
 // Of the pictures of dimension lines, in pixels.
 constexpr int kLength = 48, kHeight = 16, kRow = 8;
-constexpr int kHead = 22;                                  ///< the ends; between them is the bare line
-constexpr int kExtension = 5;                              ///< column of the first extension line
+constexpr int kHead = 22;                                ///< the ends; between them is the bare line
+constexpr int kExtension = 5;                            ///< column of the first extension line
 constexpr int kOutsideEnds = 19, kOutsideExtension = 13; ///< this one has its arrows outside
 
 // Places of a text, by the index of the picker.
@@ -57,7 +57,8 @@ void MakeFont(CFont& font, const DrawingStyle& style, int nHeight, int nTenthsOf
 CDimensionPainter::CDimensionPainter(CDC& dc, const DrawingStyle& style) : m_dc(dc), m_style(style)
 {
     constexpr double kInch_m = 0.0254;
-    const int nHeight = static_cast<int>(style.textHeight_m / kInch_m * dc.GetDeviceCaps(LOGPIXELSY) + 0.5);
+    const double dOnPaper_m = std::clamp(style.textHeight_m, 0.001, 0.02); // as the page of fonts has it
+    const int nHeight = static_cast<int>(dOnPaper_m / kInch_m * dc.GetDeviceCaps(LOGPIXELSY) + 0.5);
     MakeFont(m_font, style, nHeight, 0);
     MakeFont(m_fontTurned, style, nHeight, 900);
     const CGdiSelection font(dc, m_font);

@@ -113,7 +113,7 @@ Connection CStoredConnections::LoadAccepted() const
 
 bool CStoredConnections::StoreAccepted(const Connection& connection) const
 {
-    return TryWithFile(kNotWritten, [&] { WriteConnections(m_accepted, {{L"", connection}}); });
+    return TryWithFile(kNotWritten, [&] { WriteConnections(m_accepted, {{std::wstring(), connection}}); });
 }
 
 void CStoredConnections::FindCurrent()
