@@ -82,10 +82,27 @@ TEST(Check, ForcesOfBolts)
     EXPECT_NEAR(GreatestBoltTension_N(c, {60e3, 0, 40e3}) / 1e3, 74.2, 0.05);
     EXPECT_NEAR(GreatestBoltTension_N(c, {-60e3, 0, 0}) / 1e3, 69.2, 0.05);
     EXPECT_EQ(GreatestBoltTension_N(c, {0, 0, -40e3}), 0.0);
-    const auto results = CheckConnection(c, {0, 80e3, 0});
-    EXPECT_NEAR(results[static_cast<size_t>(ECheck::BoltShear)].effect / 1e3, 10.0, 1e-9);
-    // 80 kN on 2 x 4 x (300 - 21.4 - 30) mm2 = 40.23 N/mm2, times root 3
-    EXPECT_NEAR(results[static_cast<size_t>(ECheck::WebWeld)].effect / 1e6, 69.68, 0.01);
+}
+
+// The connection as it is new, M = 60 kNm, V = 80 kN, N = 40 kN; newtons and millimetres.
+//   bolt 74.23 kN of 141.12, 10 of 94.08; together 0.1063 + 74.23 / 197.57
+//   bearing: alpha = 70 / 66 - 0.25 = 0.8106, 2.5 x 0.8106 x 360 x 20 x 15 / 1.25
+//   plate: m 41.92, e 40, leff 143.8, mode 1; column: m 31.1, e 40, leff 122.2, mode 2
+//   flange weld: (60000 / 289.3 + 20) kN on 5 x 262.9, times root 2; web weld: 80 kN on 8 x 248.6, times root 3
+TEST(Check, EveryEffectAndResistance)
+{
+    const double expected[c_checkCount][2] = {
+        {74.23e3, 141.12e3}, {10e3, 94.08e3},     {0.4820, 1.0},       {74.23e3, 263.2e3}, {10e3, 175.1e3},
+        {10e3, 175.1e3},     {148.46e3, 181.4e3}, {148.46e3, 203.0e3}, {244.6e6, 360e6},   {69.67e6, 360e6},
+    };
+    const auto results = CheckConnection(Connection(), {60e3, 80e3, 40e3});
+    for (size_t i = 0; i < c_checkCount; ++i)
+    {
+        EXPECT_EQ(results[i].check, static_cast<ECheck>(i));
+        EXPECT_NEAR(results[i].effect / expected[i][0], 1, 1e-3) << i;
+        EXPECT_NEAR(results[i].resistance / expected[i][1], 1, 1e-3) << i;
+    }
+    EXPECT_EQ(Governing(results).check, ECheck::PlateBending);
 }
 
 TEST(Check, AllCasesAndNoMoreThanAreWanted)
@@ -95,7 +112,48 @@ TEST(Check, AllCasesAndNoMoreThanAreWanted)
     EXPECT_EQ(all.casesChecked, kLoadCaseCount);
     EXPECT_EQ(all.governingCase, kLoadCaseCount - 1); // all greatest
     EXPECT_NEAR(all.loadCase.forces.moment_Nm, 1.35 * 15e3 + 1.5 * (19e3 + 4e3 + 7e3), 1e-6);
+    EXPECT_NEAR(all.loadCase.forces.shear_N, 109.8e3, 1e-6);
+    EXPECT_NEAR(all.loadCase.forces.axial_N, 9e3, 1e-6);
+    EXPECT_EQ(LoadCaseAt(c, 0).forces, (Forces{9e3, 25e3, -9e3}));
     EXPECT_EQ(CheckAllCases(c, [](int checked) { return checked < 25; }).casesChecked, 25);
+}
+
+// Millimetres, by hand from the rules. The first row is past the flange by weld and head, as 15 + 10.7 + 7.07 + 17.32 + 2.
+TEST(Rules, Limits)
+{
+    Connection large;
+    large.beam = IndexOf(Profiles(), L"IPE 600");
+    large.column = IndexOf(Profiles(), L"HEB 300");
+    large.boltSize = Bolt(L"M30");
+    large.boltRows = 6;
+    large.plateThickness_m = 20 * mm;
+    large.plateHeight_m = 630 * mm;
+    large.flangeWeld_m = 6 * mm;
+    large.webWeld_m = 5 * mm;
+    large.endDistance_m = 80 * mm;
+    large.gauge_m = 140 * mm;
+    const struct
+    {
+        Connection wanted;
+        int maxRows;
+        double limits[8][2];
+    } cases[] = {
+        {{}, 5, {{10, 60}, {3, 7}, {3, 4}, {315, 400}, {53, 100}, {49, 72}, {80, 147}, {153, 200}}},
+        {large, 7, {{15, 60}, {3, 13}, {3, 8}, {617, 700}, {72, 116}, {73, 95}, {119, 200}, {220, 300}}},
+    };
+    for (const auto& [wanted, maxRows, limits] : cases)
+    {
+        const FittedConnection f = Fit(wanted);
+        EXPECT_EQ(f.maxRows, maxRows);
+        const double(*expected)[2] = limits;
+        for (const Limits* p : {&f.thickness, &f.flangeWeld, &f.webWeld, &f.height, &f.endDistance, &f.pitch,
+                                &f.gauge, &f.width})
+        {
+            EXPECT_NEAR(p->min_m / mm, (*expected)[0], 1e-9);
+            EXPECT_NEAR(p->max_m / mm, (*expected)[1], 1e-9);
+            ++expected;
+        }
+    }
 }
 
 TEST(Rules, LimitsMoveAndWishesStay)
