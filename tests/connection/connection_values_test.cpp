@@ -183,6 +183,7 @@ TEST(Rules, FitEveryCombination)
                 const FittedConnection fitted = Fit(wanted);
                 ASSERT_EQ(Fit(fitted.values).values, fitted.values) << beam << ' ' << column << ' ' << bolt;
                 const Connection& c = fitted.values;
+                ASSERT_EQ(c.plateHeight_m, fitted.height.Nearest(c.plateHeight_m));
                 const double hole = c.Bolt().hole_m;
                 if (!BrokenRules(fitted).empty())
                     continue;
