@@ -91,12 +91,12 @@ TEST(Check, ForcesOfBolts)
 //   flange weld: (60000 / 289.3 + 20) kN on 5 x 262.9, times root 2; web weld: 80 kN on 8 x 248.6, times root 3
 TEST(Check, EveryEffectAndResistance)
 {
-    const double expected[c_checkCount][2] = {
+    const double expected[kCheckCount][2] = {
         {74.23e3, 141.12e3}, {10e3, 94.08e3},     {0.4820, 1.0},       {74.23e3, 263.2e3}, {10e3, 175.1e3},
         {10e3, 175.1e3},     {148.46e3, 181.4e3}, {148.46e3, 203.0e3}, {244.6e6, 360e6},   {69.67e6, 360e6},
     };
     const auto results = CheckConnection(Connection(), {60e3, 80e3, 40e3});
-    for (size_t i = 0; i < c_checkCount; ++i)
+    for (size_t i = 0; i < kCheckCount; ++i)
     {
         EXPECT_EQ(results[i].check, static_cast<ECheck>(i));
         EXPECT_NEAR(results[i].effect / expected[i][0], 1, 1e-3) << i;
