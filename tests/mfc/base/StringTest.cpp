@@ -32,6 +32,11 @@ TEST(String, CopiesShareTheBufferUntilOneIsReallyChanged)
     second.Empty();
     first.SetAt(0, L'!');
     EXPECT_EQ(first.GetString(), before) << "the last owner writes in place";
+    second = first;
+    second = L"new";
+    EXPECT_STREQ(first, L"!hared");
+    second = L"";
+    EXPECT_TRUE(second.IsEmpty());
 }
 
 TEST(String, LockedBufferIsNotSharedAndStaysLocked)
@@ -92,7 +97,7 @@ TEST(String, ConstructsFromEverySource)
     EXPECT_STREQ(wide, CString(umlaut[0], 2));
 }
 
-TEST(String, LoadsStringResources)
+TEST(String, LoadsStringsFromResourcesAndTheEnvironment)
 {
     CString str(L"kept");
     EXPECT_FALSE(str.LoadString(IDS_NO_SUCH_STRING));
@@ -106,6 +111,12 @@ TEST(String, LoadsStringResources)
     EXPECT_TRUE(str.LoadString(GetModuleHandle(nullptr), IDS_GREETING, german));
     EXPECT_STREQ(str, L"Guten Tag");
     EXPECT_FALSE(str.LoadString(GetModuleHandle(nullptr), IDS_COUNT_FORMAT, german));
+
+    ::SetEnvironmentVariable(L"OW_STRING_TEST", L"of the environment");
+    EXPECT_TRUE(str.GetEnvironmentVariable(L"OW_STRING_TEST"));
+    EXPECT_STREQ(str, L"of the environment");
+    EXPECT_FALSE(str.GetEnvironmentVariable(L"OW_NO_SUCH_VARIABLE"));
+    EXPECT_TRUE(str.IsEmpty());
 }
 
 TEST(String, FormatsWithTheWideMeaningOfTheRunTimeLibrary)

@@ -280,8 +280,10 @@ TEST_F(ExchangeTest, ChecksListsAndPositions)
         if (!dx->m_bSaveAndValidate)
             DDV_MinMaxSlider(dx, slider, 10, 50);
     };
+    host.CheckDlgButton(300, BST_CHECKED);
     host.UpdateData(FALSE);
     EXPECT_EQ(check, BST_UNCHECKED) << "no check state is unchecked";
+    EXPECT_EQ(host.IsDlgButtonChecked(300), UINT{BST_UNCHECKED});
     EXPECT_EQ(list->GetCurSel(), -1) << "the index is exchanged last";
     index = 0;
     scroll = slider = 0;

@@ -48,6 +48,13 @@ public:
     CString m_text;
     int m_shortest = 0; ///< characters below which the text is refused
     int m_changesHeard = 0;
+    BOOL m_ownerEnabled = FALSE; ///< when the window is destroyed
+
+    BOOL DestroyWindow() override
+    {
+        m_ownerEnabled = ::IsWindowEnabled(::GetWindow(m_hWnd, GW_OWNER));
+        return CDialog::DestroyWindow();
+    }
 
 protected:
     BOOL OnInitDialog() override
@@ -162,8 +169,18 @@ TEST_F(ModalDialog, AnswersHowItEnded)
     EXPECT_TRUE(TakeQuitMessage()) << "passed on to the loop outside";
 }
 
-TEST_F(ModalDialog, LeavesAnOwnerDisabledThatWasSoBefore)
+TEST_F(ModalDialog, LeavesAnOwnerDisabledAndAnotherWindowActiveThatWereSoBefore)
 {
+    CWnd other;
+    ASSERT_TRUE(CreatePopup(other, nullptr, WS_VISIBLE));
+    const auto leave = [&](CTextDialog& self)
+    {
+        other.SetActiveWindow();
+        self.EndDialog(1);
+    };
+    EXPECT_EQ(Show(leave), 1);
+    EXPECT_EQ(::GetActiveWindow(), other.m_hWnd);
+
     owner.EnableWindow(FALSE);
     EXPECT_EQ(Show([](CTextDialog& self) { self.EndDialog(1); }), 1);
     EXPECT_FALSE(owner.IsWindowEnabled());
@@ -209,6 +226,7 @@ TEST_F(ModalDialog, StaysOpenWhenAValueIsRefused)
     dialog.m_shortest = 3;
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.m_text, L"long enough");
+    EXPECT_TRUE(dialog.m_ownerEnabled) << "another program would come to the front";
 }
 
 TEST_F(ModalDialog, EscapeInAMultilineEditCancelsAsElsewhere)

@@ -65,6 +65,17 @@ TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsLists)
     wchar_t second[16] = L"";
     dialog.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(second));
     EXPECT_STREQ(second, L"two");
+
+    const auto resource = [](LPCTSTR type)
+    {
+        const HMODULE module = EarlyExtension();
+        return ::LockResource(
+            ::LoadResource(module, ::FindResource(module, MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), type)));
+    };
+    CDialog indirect;
+    const auto form = static_cast<LPCDLGTEMPLATE>(resource(RT_DIALOG));
+    ASSERT_TRUE(indirect.CreateIndirect(form, nullptr, resource(MAKEINTRESOURCE(240))));
+    EXPECT_EQ(indirect.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETCOUNT), 2) << "given as memory";
 }
 
 TEST(Extension, ExceptionsCrossModulesByTheirTypes)

@@ -62,6 +62,7 @@ protected:
     afx_msg void MeasureItem(LPMEASUREITEMSTRUCT item) { item->itemHeight = 33; }
     afx_msg int VKeyToItem(UINT key, UINT index) { return static_cast<int>(key * 100 + index); }
     afx_msg void HScroll(UINT code, UINT position) { Enter("scroll", code, position); }
+    afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return m_answer; }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -74,6 +75,7 @@ BEGIN_MESSAGE_MAP(CProbe, CWnd)
     ON_WM_MEASUREITEM_REFLECT()
     ON_WM_VKEYTOITEM_REFLECT()
     ON_WM_HSCROLL_REFLECT()
+    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 class CParentBase : public CWnd
@@ -136,6 +138,11 @@ protected:
         return TRUE;
     }
     afx_msg void OnTimer(UINT_PTR id) { Enter("timer", id); }
+    afx_msg void OnMove(int x, int y) { Enter("moved", x, y); }
+    afx_msg void OnKeyDown(UINT key, UINT times, UINT flags) { Enter("key", key, times, flags); }
+    afx_msg void OnEnterIdle(UINT why, CWnd* who) { Enter("idle", why, who->GetDlgCtrlID()); }
+    afx_msg void OnMenuSelect(UINT item, UINT flags, HMENU) { Enter("select", item, flags); }
+    afx_msg void OnShowWindow(BOOL show, UINT status) { Enter("show", show, status); }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type)
     {
         Enter("parent's colour", type);
@@ -149,6 +156,11 @@ BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
     ON_WM_TIMER()
+    ON_WM_MOVE()
+    ON_WM_KEYDOWN()
+    ON_WM_ENTERIDLE()
+    ON_WM_MENUSELECT()
+    ON_WM_SHOWWINDOW()
     ON_WM_CTLCOLOR()
     ON_BN_CLICKED(idTaker, &CParent::OnClick)
     ON_BN_CLICKED(idSharer, &CParent::OnClick)
@@ -278,6 +290,19 @@ TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
     parent.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5));
     parent.SendMessage(WM_TIMER, UINT_PTR{0x100000001});
     EXPECT_EQ(trace, (Trace{"size 2 640 480", "move -3 -4", "wheel -120 -1 5", "timer 4294967297"}));
+
+    trace.clear();
+    parent.SendMessage(WM_MOVE, 0, MAKELPARAM(-5, 6));
+    parent.SendMessage(WM_KEYDOWN, 'A', MAKELPARAM(2, 0x11E));
+    parent.SendMessage(WM_ENTERIDLE, MSGF_MENU, reinterpret_cast<LPARAM>(taker.m_hWnd));
+    parent.SendMessage(WM_MENUSELECT, MAKEWPARAM(7, MF_GRAYED));
+    parent.SendMessage(WM_SHOWWINDOW, TRUE, SW_PARENTOPENING);
+    EXPECT_EQ(trace, (Trace{"moved -5 6", "key 65 2 286", "idle 2 102", "select 7 1", "show 1 3"}));
+
+    taker.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 40));
+    EXPECT_EQ(trace.back(), "show 1 3") << "a wheel that was taken";
+    sharer.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, 40));
+    EXPECT_EQ(trace.back(), "wheel 40 0 0") << "the parent scrolls instead";
 }
 
 TEST_F(MessageMap, ColoursComeFromTheControlAndElseFromTheDefault)

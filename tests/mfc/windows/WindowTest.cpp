@@ -314,5 +314,34 @@ TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
     popup.CenterWindow();
     popup.GetWindowRect(&place);
     EXPECT_EQ(place.TopLeft(), CPoint(0, 0));
+
+    CWnd child; // over its parent
+    ASSERT_TRUE(CreateChild(child, popup, 1));
+    child.CenterWindow();
+    child.GetWindowRect(&place);
+    EXPECT_EQ(place, CRect(15, 15, 35, 35));
+}
+
+TEST(Window, PushButtonsWithoutAHandlerAreDisabledAndNoOtherControl)
+{
+    const struct
+    {
+        LPCTSTR className;
+        DWORD style;
+        bool enabled;
+    } cases[] = {
+        {L"Button", BS_PUSHBUTTON, false},     {L"Button", BS_AUTOCHECKBOX, true},
+        {L"Button", BS_AUTO3STATE, true},      {L"Button", BS_GROUPBOX, true},
+        {L"Button", BS_AUTORADIOBUTTON, true}, {L"Edit", 0, true},
+    };
+    CWnd window;
+    ASSERT_TRUE(CreatePopup(window));
+    for (const auto& c : cases)
+    {
+        CWnd control;
+        ASSERT_TRUE(control.Create(c.className, L"", WS_CHILD | c.style, CRect(), &window, 300));
+        window.UpdateDialogControls(&window, TRUE);
+        EXPECT_EQ(control.IsWindowEnabled() != FALSE, c.enabled) << c.style;
+    }
 }
 } // namespace
