@@ -62,7 +62,7 @@ public:
 private:
     CWnd* m_window;
     HWND m_handle;
-    CRect m_before{0, 0, 0, 0};
+    CRect m_before;
     bool m_wasVisible = false;
 };
 } // namespace
