@@ -215,8 +215,16 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
     PROCESS_INFORMATION created{};
     std::wstring environment = EnvironmentBlock(options);
     const DWORD flags = DEBUG_ONLY_THIS_PROCESS | CREATE_UNICODE_ENVIRONMENT;
-    if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, flags, environment.data(),
-                        options.directory.empty() ? nullptr : options.directory.c_str(), &start, &created))
+    const auto create = [&]
+    {
+        return CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, flags, environment.data(),
+                              options.directory.empty() ? nullptr : options.directory.c_str(), &start, &created);
+    };
+    // Wine maps some pages of a new process at fixed addresses, where now and then the system has put its own.
+    bool started = create();
+    for (int retry = 0; !started && GetLastError() == ERROR_INTERNAL_ERROR && retry < 3; ++retry)
+        started = create();
+    if (!started)
     {
         std::fprintf(stderr, "The child for %s did not start: error %lu.\n", scenario, GetLastError());
         return result;
