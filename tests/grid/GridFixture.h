@@ -78,16 +78,29 @@ protected:
     /// Past where the cursor is held during a drag.
     void DragByMessages(CPoint from, CPoint to)
     {
-        grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(from.x, from.y));
-        grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from.x, from.y));
-        grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to.x, to.y));
-        grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to.x, to.y));
+        Send(WM_MOUSEMOVE, from);
+        Send(WM_LBUTTONDOWN, from, MK_LBUTTON);
+        Send(WM_MOUSEMOVE, to, MK_LBUTTON);
+        Send(WM_LBUTTONUP, to);
+    }
+    void Send(UINT message, CPoint point, WPARAM keys = 0)
+    {
+        grid.SendMessage(message, keys, MAKELPARAM(point.x, point.y));
     }
     /// With the modifiers that a mouse message carries; holding keys is no matter of the grid.
     void SendClick(CPoint point, WPARAM modifiers = 0)
     {
-        grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | modifiers, MAKELPARAM(point.x, point.y));
-        grid.SendMessage(WM_LBUTTONUP, modifiers, MAKELPARAM(point.x, point.y));
+        Send(WM_LBUTTONDOWN, point, MK_LBUTTON | modifiers);
+        Send(WM_LBUTTONUP, point, modifiers);
+    }
+    void EndByKey(WORD key)
+    {
+        owtest::Press(key);
+        EXPECT_TRUE(EditorCloses());
+    }
+    void MakeReadOnly(int nRow, int nCol)
+    {
+        grid.SetItemState(nRow, nCol, grid.GetItemState(nRow, nCol) | CELL_READONLY);
     }
     bool EditorOpens(int nRow, int nCol)
     {

@@ -155,67 +155,34 @@ private:
             return SetCounts();
         if (m_mixedCells && Pick(10) == 0)
             return SetKind();
-        switch (Pick(m_withInput ? 26 : 20))
-        {
-        case 0:
-            return SetCounts();
-        case 1:
-            return SetFixed();
-        case 2:
-            return InsertRow();
-        case 3:
-            return InsertColumn();
-        case 4:
-            return Delete();
-        case 5:
-        case 6:
-        case 7:
-            return ChangeItem();
-        case 8:
-        case 9:
-            return SetSize();
-        case 10:
-        case 11:
-            return SetFocus();
-        case 12:
-        case 13:
-        case 14:
-            return SelectRange();
-        case 15:
-            return Sort();
-        case 16:
-        case 17:
-        case 18:
-            return Key();
-        case 19:
-            return Scroll();
-        default:
-            return Click();
-        }
+        using Operation = void (GridSequence::*)();
+        static constexpr std::pair<int, Operation> kUpTo[] = {
+            {0, &GridSequence::SetCounts},    {1, &GridSequence::SetFixed},  {2, &GridSequence::InsertRow},
+            {3, &GridSequence::InsertColumn}, {4, &GridSequence::Delete},    {7, &GridSequence::ChangeItem},
+            {9, &GridSequence::SetSize},      {11, &GridSequence::SetFocus}, {14, &GridSequence::SelectRange},
+            {15, &GridSequence::Sort},        {18, &GridSequence::Key},      {19, &GridSequence::Scroll},
+            {25, &GridSequence::Click}};
+        const int picked = Pick(m_withInput ? 26 : 20);
+        const auto found = std::find_if(std::begin(kUpTo), std::end(kUpTo),
+                                        [&](const auto& entry) { return picked <= entry.first; });
+        (this->*found->second)();
     }
 
     // ---- Counts
 
     void SetCounts()
     {
-        if (Pick(2))
-        {
-            const int n = Pick(18);
-            Say("SetRowCount", n);
-            const bool change = n != m_model.RowCount();
-            Expect(m_grid.SetRowCount(n), "SetRowCount answers 0");
-            if (change)
-                m_model.Resize(n, m_model.ColCount(), m_height, m_width);
-        }
-        else
-        {
-            const int n = Pick(9);
-            Say("SetColumnCount", n);
-            const bool change = n != m_model.ColCount();
-            Expect(m_grid.SetColumnCount(n), "SetColumnCount answers 0");
-            if (change)
-                m_model.Resize(m_model.RowCount(), n, m_height, m_width);
-        }
+        const bool rows = Pick(2) != 0;
+        const int n = Pick(rows ? 18 : 9);
+        Say(rows ? "SetRowCount" : "SetColumnCount", n);
+        Expect(rows ? m_grid.SetRowCount(n) : m_grid.SetColumnCount(n), "setting the count answers 0");
+        if (n != (rows ? m_model.RowCount() : m_model.ColCount()))
+            Resize(rows, n);
+    }
+
+    void Resize(bool rows, int n)
+    {
+        m_model.Resize(rows ? n : m_model.RowCount(), rows ? m_model.ColCount() : n, m_height, m_width);
     }
 
     void SetFixed()
@@ -228,10 +195,8 @@ private:
                "setting the fixed count answers 0");
         if (n == fixed)
             return;
-        if (rows && n > m_model.RowCount())
-            m_model.Resize(n, m_model.ColCount(), m_height, m_width);
-        if (!rows && n > m_model.ColCount())
-            m_model.Resize(m_model.RowCount(), n, m_height, m_width);
+        if (n > (rows ? m_model.RowCount() : m_model.ColCount()))
+            Resize(rows, n);
         m_model.Reset();
         fixed = n;
     }
@@ -249,7 +214,7 @@ private:
             return;
         m_model.Reset();
         if (m_model.ColCount() == 0)
-            m_model.Resize(m_model.RowCount(), 1, m_height, m_width);
+            Resize(false, 1);
         ModelRow row{m_grid.GetRowHeight(expected), m_model.NewCells(m_model.ColCount())};
         row.cells[0].text = heading;
         row.cells[0].modified = true;
@@ -271,7 +236,7 @@ private:
             return;
         m_model.Reset();
         if (m_model.RowCount() == 0)
-            m_model.Resize(1, m_model.ColCount(), m_height, m_width);
+            Resize(true, 1);
         for (ModelRow& row : m_model.rows)
             row.cells.insert(row.cells.begin() + expected, m_model.NewCell());
         m_model.At(0, expected).text = heading;
@@ -298,37 +263,31 @@ private:
                 m_model.Resize(m_model.fixedRows, m_model.ColCount(), 0, 0);
         }
         else if (what < 9)
-            DeleteRow(Index(m_model.RowCount()));
+            DeleteOne(true, Index(m_model.RowCount()));
         else
-            DeleteColumn(Index(m_model.ColCount()));
+            DeleteOne(false, Index(m_model.ColCount()));
     }
 
-    void DeleteRow(int r)
+    void DeleteOne(bool isRow, int at)
     {
-        Say("DeleteRow", r);
-        const bool exists = r >= 0 && r < m_model.RowCount();
-        Expect((m_grid.DeleteRow(r) != FALSE) == exists, "DeleteRow answers wrong");
+        Say(isRow ? "DeleteRow" : "DeleteColumn", at);
+        const bool exists = at >= 0 && at < (isRow ? m_model.RowCount() : m_model.ColCount());
+        Expect((isRow ? m_grid.DeleteRow(at) : m_grid.DeleteColumn(at)) == BOOL(exists),
+               "deleting answers wrong");
         if (!exists)
             return;
         m_model.Reset();
-        m_model.rows.erase(m_model.rows.begin() + r);
-        m_model.fixedRows -= r < m_model.fixedRows;
         m_model.sortColumn = -1;
-    }
-
-    void DeleteColumn(int c)
-    {
-        Say("DeleteColumn", c);
-        const bool exists = c >= 0 && c < m_model.ColCount();
-        Expect((m_grid.DeleteColumn(c) != FALSE) == exists, "DeleteColumn answers wrong");
-        if (!exists)
+        int& fixed = isRow ? m_model.fixedRows : m_model.fixedCols;
+        fixed -= at < fixed;
+        if (isRow)
+        {
+            m_model.rows.erase(m_model.rows.begin() + at);
             return;
-        m_model.Reset();
+        }
         for (ModelRow& row : m_model.rows)
-            row.cells.erase(row.cells.begin() + c);
-        m_model.widths.erase(m_model.widths.begin() + c);
-        m_model.fixedCols -= c < m_model.fixedCols;
-        m_model.sortColumn = -1;
+            row.cells.erase(row.cells.begin() + at);
+        m_model.widths.erase(m_model.widths.begin() + at);
     }
 
     // ---- Kinds
@@ -360,39 +319,34 @@ private:
         const int r = Index(m_model.RowCount());
         const int c = Index(m_model.ColCount());
         const bool exists = m_model.Has(r, c);
-        switch (Pick(5))
+        ModelCell missing;
+        ModelCell& cell = exists ? m_model.At(r, c) : missing;
+        const int what = Pick(5);
+        if (what < 2)
         {
-        case 0:
-        case 1:
-        {
-            const std::wstring text = Text();
+            cell.text = Text();
             Say("SetItemText", r, c);
-            Expect((m_grid.SetItemText(r, c, text.c_str()) != FALSE) == exists, "SetItemText answers wrong");
-            if (exists)
-                m_model.At(r, c).text = text;
-            return Changed(r, c);
+            Expect(m_grid.SetItemText(r, c, cell.text.c_str()) == BOOL(exists), "SetItemText answers wrong");
+            Changed(r, c);
         }
-        case 2:
+        else if (what == 2)
         {
-            const LPARAM data = Pick(100);
+            cell.data = Pick(100);
             Say("SetItemData", r, c);
-            Expect((m_grid.SetItemData(r, c, data) != FALSE) == exists, "SetItemData answers wrong");
-            if (exists)
-                m_model.At(r, c).data = data;
-            return Changed(r, c);
+            Expect(m_grid.SetItemData(r, c, cell.data) == BOOL(exists), "SetItemData answers wrong");
+            Changed(r, c);
         }
-        case 3:
+        else if (what == 3)
+        {
             Say("SetItemState read-only", r, c);
             m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ (exists ? CELL_READONLY : 0));
-            if (exists)
-                m_model.At(r, c).readOnly = !m_model.At(r, c).readOnly;
-            return;
-        default:
-            if (!exists)
-                return;
+            cell.readOnly = !cell.readOnly;
+        }
+        else if (exists)
+        {
             Say("SetItemState selected", r, c);
             m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ CELL_SELECTED);
-            m_model.At(r, c).selected = !m_model.At(r, c).selected;
+            cell.selected = !cell.selected;
         }
     }
 
@@ -408,24 +362,14 @@ private:
     void SetSize()
     {
         const int size = Pick(5) == 0 ? 0 : 10 + Pick(50);
-        if (Pick(2))
-        {
-            const int r = Index(m_model.RowCount());
-            const bool exists = r >= 0 && r < m_model.RowCount();
-            Say("SetRowHeight", r, size);
-            Expect((m_grid.SetRowHeight(r, size) != FALSE) == exists, "SetRowHeight answers wrong");
-            if (exists)
-                m_model.rows[r].height = size;
-        }
-        else
-        {
-            const int c = Index(m_model.ColCount());
-            const bool exists = c >= 0 && c < m_model.ColCount();
-            Say("SetColumnWidth", c, size);
-            Expect((m_grid.SetColumnWidth(c, size) != FALSE) == exists, "SetColumnWidth answers wrong");
-            if (exists)
-                m_model.widths[c] = size;
-        }
+        const bool isRow = Pick(2) != 0;
+        const int count = isRow ? m_model.RowCount() : m_model.ColCount(), at = Index(count);
+        const bool exists = at >= 0 && at < count;
+        Say(isRow ? "SetRowHeight" : "SetColumnWidth", at, size);
+        Expect((isRow ? m_grid.SetRowHeight(at, size) : m_grid.SetColumnWidth(at, size)) == BOOL(exists),
+               "setting the size answers wrong");
+        if (exists)
+            (isRow ? m_model.rows[at].height : m_model.widths[at]) = size;
     }
 
     // ---- Focus, selection, order
@@ -717,23 +661,24 @@ private:
 
     void CheckSizes()
     {
-        int height = 0, fixedHeight = 0;
-        for (int r = 0; r < m_model.RowCount(); ++r)
+        const auto sums = [&](const auto& sizes, int count, int fixed, const auto& sizeInGrid)
         {
-            Expect(m_grid.GetRowHeight(r) == m_model.rows[r].height, "row height");
-            height += m_model.rows[r].height;
-            fixedHeight += r < m_model.fixedRows ? m_model.rows[r].height : 0;
-        }
-        int width = 0, fixedWidth = 0;
-        for (int c = 0; c < m_model.ColCount(); ++c)
-        {
-            Expect(m_grid.GetColumnWidth(c) == m_model.widths[c], "column width");
-            width += m_model.widths[c];
-            fixedWidth += c < m_model.fixedCols ? m_model.widths[c] : 0;
-        }
-        Expect(m_grid.GetVirtualHeight() == height && m_grid.GetFixedRowHeight() == fixedHeight,
+            int sum = 0, ofFixed = 0;
+            for (int i = 0; i < count; ++i)
+            {
+                Expect(sizeInGrid(i) == sizes(i), "row height or column width");
+                sum += sizes(i);
+                ofFixed += i < fixed ? sizes(i) : 0;
+            }
+            return CPoint(sum, ofFixed);
+        };
+        Expect(CPoint(m_grid.GetVirtualHeight(), m_grid.GetFixedRowHeight()) ==
+                   sums([&](int r) { return m_model.rows[r].height; }, m_model.RowCount(), m_model.fixedRows,
+                        [&](int r) { return m_grid.GetRowHeight(r); }),
                "sum of heights");
-        Expect(m_grid.GetVirtualWidth() == width && m_grid.GetFixedColumnWidth() == fixedWidth,
+        Expect(CPoint(m_grid.GetVirtualWidth(), m_grid.GetFixedColumnWidth()) ==
+                   sums([&](int c) { return m_model.widths[c]; }, m_model.ColCount(), m_model.fixedCols,
+                        [&](int c) { return m_grid.GetColumnWidth(c); }),
                "sum of widths");
     }
 

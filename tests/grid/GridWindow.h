@@ -76,6 +76,18 @@ public:
     }
     Calls Take() { return std::exchange(calls, {}); }
 
+    /// Does something whenever the grid tells of this, and answers so.
+    void On(UINT code, const std::function<void()>& work, LRESULT result = 0)
+    {
+        answer = [=](NMHDR& header) -> LRESULT
+        {
+            if (header.code != code)
+                return 0;
+            work();
+            return result;
+        };
+    }
+
 protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) override
     {

@@ -71,52 +71,40 @@ TEST(GridAxis, AnswersAsAWalkOverTheSizesDoes)
     {
         const int n = walk.Count();
         const int size = pick(4) ? pick(40) : 0;
-        switch (pick(6))
+        const int at = pick(n + 1), other = pick(n + 1), what = n == 0 ? 1 : pick(6);
+        if (what == 1)
         {
-        case 0:
-            if (n > 30)
-            {
-                const int count = pick(n);
-                walk.sizes.resize(count);
-                walk.fixed = std::min(walk.fixed, count);
-                axis.SetCount(count, 0);
-            }
-            break;
-        case 1:
-        {
-            const int at = pick(n + 1);
             walk.sizes.insert(walk.sizes.begin() + at, size);
             axis.Insert(at, size);
-            break;
         }
-        case 2:
-            if (n > 0)
-            {
-                const int at = pick(n);
-                walk.sizes.erase(walk.sizes.begin() + at);
-                walk.fixed -= at < walk.fixed;
-                axis.Remove(at);
-            }
-            break;
-        case 3:
+        else if (what == 3)
+        {
             walk.fixed = pick(std::min(n, 3) + 1);
             axis.SetFixed(walk.fixed);
-            break;
-        case 4:
-            if (n > 1)
-            {
-                const int a = pick(n), b = pick(n);
-                std::swap(walk.sizes[a], walk.sizes[b]);
-                axis.Swap(a, b);
-            }
-            break;
-        default:
-            if (n > 0)
-            {
-                const int at = pick(n);
-                walk.sizes[at] = size;
-                axis.SetSize(at, size);
-            }
+        }
+        else if (at == n || other == n)
+            continue;
+        else if (what == 0 && n > 30)
+        {
+            walk.sizes.resize(at);
+            walk.fixed = std::min(walk.fixed, at);
+            axis.SetCount(at, 0);
+        }
+        else if (what == 2)
+        {
+            walk.sizes.erase(walk.sizes.begin() + at);
+            walk.fixed -= at < walk.fixed;
+            axis.Remove(at);
+        }
+        else if (what == 4)
+        {
+            std::swap(walk.sizes[at], walk.sizes[other]);
+            axis.Swap(at, other);
+        }
+        else
+        {
+            walk.sizes[at] = size;
+            axis.SetSize(at, size);
         }
         ASSERT_EQ(axis.Count(), walk.Count());
         ASSERT_EQ(axis.Fixed(), walk.fixed);

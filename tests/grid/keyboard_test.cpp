@@ -98,8 +98,7 @@ TEST_F(GridKeyboard, TypingReplacesTheTextAndEnterStoresIt)
     owtest::Type(L"abc");
     ASSERT_TRUE(EditorOpens(2, 2));
     EXPECT_EQ(parent.Take(), Calls{"begin 2,2"});
-    owtest::Press(VK_RETURN);
-    ASSERT_TRUE(EditorCloses());
+    EndByKey(VK_RETURN);
     EXPECT_EQ(Text(2, 2), L"abc");
     EXPECT_EQ(parent.Take(), Calls{"end 2,2"});
     EXPECT_TRUE(grid.GetModified(2, 2));
@@ -119,12 +118,11 @@ TEST_F(GridKeyboard, AnInputMethodsCharacterStartsAnEditLikeATypedOne)
     ASSERT_TRUE(EditorCloses());
 }
 
-TEST_F(GridKeyboard, EscapeAndTheLossOfTheFocusEndAnEdit)
+TEST_F(GridKeyboard, EscapeALossOfTheFocusAndAScrollEndAnEdit)
 {
     owtest::Type(L"x");
     ASSERT_TRUE(EditorOpens(2, 2));
-    owtest::Press(VK_ESCAPE);
-    ASSERT_TRUE(EditorCloses());
+    EndByKey(VK_ESCAPE);
     EXPECT_EQ(Text(2, 2), L"2/2");
     EXPECT_EQ(parent.Take(), Calls{"begin 2,2"}) << "nothing has changed, so nobody is asked";
 
@@ -134,6 +132,12 @@ TEST_F(GridKeyboard, EscapeAndTheLossOfTheFocusEndAnEdit)
     ASSERT_TRUE(EditorCloses());
     EXPECT_EQ(Text(2, 2), L"y");
     EXPECT_EQ(grid.GetFocusCell(), CCellID(4, 4));
+
+    owtest::Type(L"z");
+    ASSERT_TRUE(EditorOpens(4, 4));
+    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_TRUE(EditorCloses());
+    EXPECT_EQ(Text(4, 4), L"z");
 }
 
 TEST_F(GridKeyboard, TheKeyThatEndsAnEditMovesOnAndEditsThere)
@@ -147,36 +151,29 @@ TEST_F(GridKeyboard, TheKeyThatEndsAnEditMovesOnAndEditsThere)
     owtest::Press(VK_DOWN);
     ASSERT_TRUE(EditorOpens(3, 3));
     EXPECT_EQ(Text(2, 3), L"2");
-    owtest::Press(VK_RETURN);
-    ASSERT_TRUE(EditorCloses());
+    EndByKey(VK_RETURN);
     EXPECT_EQ(Text(3, 3), L"3/3") << "the key that moved is no text";
 }
 
 TEST_F(GridKeyboard, EnterAsTabWalksTheCellsThatCanBeEdited)
 {
+    owtest::Press(VK_F2);
+    EXPECT_FALSE(grid.IsItemEditing(2, 2)) << "F2 edits in this mode only";
     grid.SetEnterIsTab(TRUE);
-    grid.SetItemState(2, 3, grid.GetItemState(2, 3) | CELL_READONLY);
+    MakeReadOnly(2, 3);
     EXPECT_EQ(After(VK_RETURN), CCellID(2, 4));
     owtest::Press(VK_F2);
-    ASSERT_TRUE(EditorOpens(2, 4)) << "F2 edits in this mode";
-    owtest::Press(VK_ESCAPE);
-    ASSERT_TRUE(EditorCloses());
+    ASSERT_TRUE(EditorOpens(2, 4));
+    EndByKey(VK_ESCAPE);
 
     FocusOn(kRows - 1, kCols - 1);
     EXPECT_EQ(After(VK_TAB), CCellID(kRows - 1, 1)) << "the last row is gone around in";
     owtest::Pump();
 }
 
-TEST_F(GridKeyboard, F2NeedsEnterAsTab)
-{
-    owtest::Press(VK_F2);
-    EXPECT_FALSE(grid.IsItemEditing(2, 2));
-    EXPECT_EQ(parent.Take(), Calls{});
-}
-
 TEST_F(GridKeyboard, AReadOnlyCellOrGridIsNotEdited)
 {
-    grid.SetItemState(2, 2, grid.GetItemState(2, 2) | CELL_READONLY);
+    MakeReadOnly(2, 2);
     owtest::Type(L"x");
     EXPECT_EQ(parent.Take(), Calls{});
     FocusOn(2, 3);
@@ -188,33 +185,27 @@ TEST_F(GridKeyboard, AReadOnlyCellOrGridIsNotEdited)
 
 TEST_F(GridKeyboard, TheParentMayForbidAnEditAndRefuseItsText)
 {
-    parent.answer = [](NMHDR& header) { return header.code == LVN_BEGINLABELEDITW ? -1 : 0; };
+    parent.On(
+        LVN_BEGINLABELEDITW, [] {}, -1);
     owtest::Type(L"x");
     EXPECT_EQ(parent.Take(), Calls{"begin 2,2"});
     EXPECT_FALSE(grid.IsItemEditing(2, 2));
 
     std::wstring seen;
-    parent.answer = [&](NMHDR& header) -> LRESULT
-    {
-        if (header.code != LVN_ENDLABELEDITW)
-            return 0;
-        seen = Text(2, 2);
-        return -1;
-    };
+    parent.On(
+        LVN_ENDLABELEDITW, [&] { seen = Text(2, 2); }, -1);
     owtest::Type(L"x");
     ASSERT_TRUE(EditorOpens(2, 2));
-    owtest::Press(VK_RETURN);
-    ASSERT_TRUE(EditorCloses());
+    EndByKey(VK_RETURN);
     EXPECT_EQ(seen, L"x") << "the parent finds the new text in the cell";
     EXPECT_EQ(Text(2, 2), L"2/2");
     EXPECT_TRUE(grid.GetModified(2, 2)) << "the mark stays";
-    EXPECT_FALSE(grid.IsItemEditing(2, 2));
 }
 
 TEST_F(GridKeyboard, ClearCellsAsksForEachCellThatShows)
 {
     grid.SetRowHeight(3, 0);
-    grid.SetItemState(2, 1, grid.GetItemState(2, 1) | CELL_READONLY);
+    MakeReadOnly(2, 1);
     parent.answer = [](NMHDR& header)
     { return header.code == LVN_ENDLABELEDITW && reinterpret_cast<GridNotify&>(header).iRow == 4 ? -1 : 0; };
     grid.ClearCells(CCellRange(2, 1, 4, 2));
@@ -223,13 +214,4 @@ TEST_F(GridKeyboard, ClearCellsAsksForEachCellThatShows)
     EXPECT_EQ(Text(2, 1), L"2/1");
     EXPECT_EQ(Text(3, 2), L"3/2");
     EXPECT_EQ(Text(4, 2), L"4/2") << "refused";
-}
-
-TEST_F(GridKeyboard, AScrollEndsAnEdit)
-{
-    owtest::Type(L"x");
-    ASSERT_TRUE(EditorOpens(2, 2));
-    grid.SendMessage(WM_VSCROLL, SB_LINEDOWN);
-    EXPECT_TRUE(EditorCloses());
-    EXPECT_EQ(Text(2, 2), L"x");
 }

@@ -24,9 +24,6 @@ TEST_F(GridMouse, AClickSelectsFocusesAndTells)
     EXPECT_EQ(grid.GetFocusCell(), CCellID(3, 2));
     EXPECT_EQ(Selected(), CCellRange(3, 2, 3, 2));
     EXPECT_EQ(grid.GetMouseMode(), 0);
-
-    owtest::Click(grid, CPoint(250, 165)); // column 4 shows from 240 on, row 8 from 160 on
-    EXPECT_EQ(grid.GetFocusCell(), CCellID(8, 4));
 }
 
 TEST_F(GridMouse, ADragSelectsARectangleAndTellsOfRowsOnly)
@@ -77,9 +74,8 @@ TEST_F(GridMouse, LosingTheCaptureStopsTheTimerAndKeepsTheMode)
     EXPECT_EQ(grid.m_nTimerId, 0u);
     EXPECT_EQ(grid.GetMouseMode(), 4);
     ::ReleaseCapture();
-    grid.SendMessage(WM_LBUTTONUP, 0, 0);
-    EXPECT_EQ(grid.GetMouseMode(), 0);
     owtest::ButtonUp();
+    EXPECT_EQ(grid.GetMouseMode(), 0);
 }
 
 TEST_F(GridMouse, HeadersSelectColumnsRowsAndAll)
@@ -120,6 +116,7 @@ TEST_F(GridMouse, ListModeAndSingleSelectionShapeAClick)
 
     grid.SetListMode(FALSE);
     EXPECT_FALSE(grid.GetSingleRowSelection()) << "counts in list mode only";
+    EXPECT_FALSE(grid.GetFixedRowSelection()) << "switched off, whatever the argument";
     grid.SetFixedRowSelection(TRUE);
     grid.SetSingleColSelection();
     Drag(MiddleOf(grid, 0, 2), MiddleOf(grid, 0, 4));
@@ -149,23 +146,20 @@ TEST_F(GridMouse, ShiftExtendsAndControlAddsAndTakesAway)
 
 TEST_F(GridMouse, TheDividersChangeTheModeUnderAMovingPointer)
 {
-    owtest::MoveTo(grid, ColumnDivider(1));
-    EXPECT_EQ(grid.GetMouseMode(), 8);
-    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_SIZEWE));
-    owtest::MoveTo(grid, RowDivider(2));
-    EXPECT_EQ(grid.GetMouseMode(), 6);
-    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_SIZENS));
-    owtest::MoveTo(grid, ColumnDivider(2));
-    EXPECT_EQ(grid.GetMouseMode(), 8);
-    owtest::MoveTo(grid, MiddleOf(grid, 3, 3));
-    EXPECT_EQ(grid.GetMouseMode(), 0);
-
+    const auto moveTo = [&](CPoint point, int nMode, LPCTSTR pCursor)
+    {
+        owtest::MoveTo(grid, point);
+        EXPECT_EQ(grid.GetMouseMode(), nMode) << point.x << ',' << point.y;
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pCursor));
+    };
+    moveTo(ColumnDivider(1), 8, IDC_SIZEWE);
+    moveTo(RowDivider(2), 6, IDC_SIZENS);
+    moveTo(ColumnDivider(2), 8, IDC_SIZEWE);
+    moveTo(MiddleOf(grid, 3, 3), 0, IDC_ARROW);
     grid.SetColumnResize(FALSE);
     grid.SetRowResize(FALSE);
-    owtest::MoveTo(grid, ColumnDivider(1));
-    EXPECT_EQ(grid.GetMouseMode(), 0);
-    owtest::MoveTo(grid, RowDivider(2));
-    EXPECT_EQ(grid.GetMouseMode(), 0);
+    moveTo(ColumnDivider(1), 0, IDC_ARROW);
+    moveTo(RowDivider(2), 0, IDC_ARROW);
 }
 
 TEST_F(GridMouse, ADragOnADividerSizes)
@@ -178,9 +172,7 @@ TEST_F(GridMouse, ADragOnADividerSizes)
     SetSizes(grid);
     Drag(ColumnDivider(1), CPoint(kColWidth - 30, 10));
     EXPECT_EQ(grid.GetColumnWidth(1), 1) << "the cursor is held one pixel behind the column's start";
-
-    // Without a way, and at the very corner, there is nothing to size.
-    SetSizes(grid);
+    SetSizes(grid); // without a way, and at the very corner, there is nothing to size
     Drag(ColumnDivider(1), ColumnDivider(1));
     DragByMessages(ColumnDivider(1), CPoint(0, 0));
     EXPECT_EQ(grid.GetColumnWidth(1), kColWidth);
@@ -228,7 +220,7 @@ TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
     const auto told = [&](UINT message, CPoint at)
     {
         NotedCell::Take();
-        grid.SendMessage(message, 0, MAKELPARAM(at.x, at.y));
+        Send(message, at);
         Notes notes = NotedCell::Take();
         std::erase_if(notes, [](const std::string& note) { return note.starts_with("draw"); });
         return notes;
@@ -240,8 +232,8 @@ TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
     grid.EndEditing();
 
     // A drag ends with a click of the cell that has the focus by then, and tells the one that was pressed.
-    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(125, 103));
-    grid.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(125, 63));
+    Send(WM_LBUTTONDOWN, CPoint(125, 103), MK_LBUTTON);
+    Send(WM_MOUSEMOVE, CPoint(125, 63), MK_LBUTTON);
     parent.Take();
     EXPECT_EQ(told(WM_LBUTTONUP, CPoint(126, 64)), Notes{"click 6,4"});
     EXPECT_EQ(parent.Take(), Calls{"click 5,2"});
@@ -251,17 +243,17 @@ TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
 {
     grid.SetItemText(5, 1, L"the longest text of its column by far");
     const int nWide = grid.GetCellTextExtent(5, 1).cx;
-    const CPoint divider = ColumnDivider(1);
-    grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(divider.x, divider.y));
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(divider.x, divider.y));
+    const auto doubleClick = [&](CPoint point)
+    {
+        Send(WM_MOUSEMOVE, point);
+        Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON);
+    };
+    doubleClick(ColumnDivider(1));
     EXPECT_EQ(grid.GetColumnWidth(1), nWide);
 
     // Below a row the double click means that row; in its top pixels it still does, unlike the drag.
     grid.SetRowHeight(4, 60);
-    const CPoint below(30, 4 * kRowHeight + 1);
-    grid.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(below.x, below.y));
-    ASSERT_EQ(grid.GetMouseMode(), 6);
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(below.x, below.y));
+    doubleClick(CPoint(30, 4 * kRowHeight + 1));
     EXPECT_LT(grid.GetRowHeight(4), 60);
     EXPECT_EQ(grid.GetRowHeight(3), kRowHeight);
 }
@@ -274,32 +266,24 @@ TEST_F(GridMouse, ASecondClickOrADoubleClickEdits)
     EXPECT_EQ(::GetCapture(), nullptr);
     owtest::ButtonUp();
     EXPECT_TRUE(EditorOpens(2, 2));
-    owtest::Press(VK_ESCAPE);
-    EXPECT_TRUE(EditorCloses());
+    EndByKey(VK_ESCAPE);
 
     const CPoint point = MiddleOf(grid, 3, 3);
     SendClick(point);
     parent.Take();
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON);
     EXPECT_TRUE(grid.IsItemEditing(3, 3));
     EXPECT_EQ(parent.Take(), (Calls{"begin 3,3", "dblclk 3,3"}));
-    owtest::Press(VK_ESCAPE);
-    EXPECT_TRUE(EditorCloses());
-
-    grid.SetItemState(3, 3, grid.GetItemState(3, 3) | CELL_READONLY);
+    EndByKey(VK_ESCAPE);
+    MakeReadOnly(3, 3);
     parent.Take();
-    grid.SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON);
     EXPECT_EQ(parent.Take(), Calls{"dblclk 3,3"});
 }
 
 TEST_F(GridMouse, OutsideTheTextOfTheFocusCellAPressSelects)
 {
-    CImageList images;
-    images.Create(24, 16, ILC_COLOR32, 1, 1);
-    CBitmap bitmap;
-    bitmap.CreateBitmap(24, 16, 1, 32, nullptr);
-    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
-    grid.SetImageList(&images);
+    grid.SetImageList(&CGridCtrl::GridImageList);
     grid.SetItemImage(2, 2, 0);
     ClickCell(2, 2);
     CRect rect;
@@ -363,12 +347,12 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
         owtest::Type(L"x");
         owtest::ModalVisit visit([&](CWnd&) { inBox(); });
         bool asked = false;
-        parent.answer = [&](NMHDR& header) -> LRESULT
-        {
-            if (header.code == code && !std::exchange(asked, true))
-                ::MessageBox(parent, L"Really?", L"grid", MB_OK);
-            return 0;
-        };
+        parent.On(code,
+                  [&]
+                  {
+                      if (!std::exchange(asked, true))
+                          ::MessageBox(parent, L"Really?", L"grid", MB_OK);
+                  });
         owtest::ButtonDown(grid, MiddleOf(grid, 4, 3));
         EXPECT_EQ(visit.Count(), 1);
         EXPECT_EQ(grid.GetMouseMode(), 0);
@@ -387,15 +371,12 @@ TEST_F(GridMouse, APressThatABoxHasAnsweredBeginsNothing)
     }
 
     // Without a box the release may come while the parent answers, in the grid or beside it.
-    parent.answer = [&](NMHDR& header) -> LRESULT
-    {
-        if (header.code == LVN_ITEMCHANGED)
-        {
-            owtest::MoveTo(parent, CPoint(2, 2));
-            owtest::ButtonUp();
-        }
-        return 0;
-    };
+    parent.On(LVN_ITEMCHANGED,
+              [&]
+              {
+                  owtest::MoveTo(parent, CPoint(2, 2));
+                  owtest::ButtonUp();
+              });
     owtest::ButtonDown(grid, MiddleOf(grid, 5, 3));
     EXPECT_EQ(grid.GetMouseMode(), 0);
     EXPECT_EQ(::GetCapture(), nullptr);
