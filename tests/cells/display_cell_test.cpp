@@ -320,11 +320,6 @@ class AnsiCells : public DisplayCells
 {
 protected:
     CEdit& Editor() { return static_cast<CEdit&>(*grid.GetDlgItem(InPlaceControlId)); }
-    void End(WORD key)
-    {
-        owtest::Press(key);
-        ASSERT_TRUE(EditorCloses());
-    }
     /// Edits past the grid, and answers the character set of the editor.
     BYTE EditAlone(CGridCell& cell)
     {
@@ -366,7 +361,7 @@ TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
         EXPECT_EQ(owtest::FontOf(Editor()).lfCharSet, GREEK_CHARSET) << i;
         owtest::Type(std::wstring(60, L'\u0394'));
         EXPECT_STREQ(gfnWholeText(Editor()), expected.c_str()) << i;
-        End(VK_RETURN);
+        EndByKey(VK_RETURN);
         EXPECT_EQ(Text(kRow, kCol), expected);
         EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "a font for the length of an edit";
     }
@@ -375,7 +370,7 @@ TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
     owtest::Type(L"\u03b1\u03b2");
     ASSERT_TRUE(EditorOpens(kRow, kCol));
     EXPECT_STREQ(gfnWholeText(Editor()), L"\u03b1\u03b2") << "the first key replaces, as in any cell";
-    End(VK_ESCAPE);
+    EndByKey(VK_ESCAPE);
 }
 
 TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)

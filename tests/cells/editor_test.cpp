@@ -188,33 +188,6 @@ TEST_F(Editors, AltWithACharacterIsSwallowed)
     ASSERT_TRUE(Ended());
 }
 
-TEST_F(Editors, AListTakesTypedTextAndOneOfItsOwn)
-{
-    CInPlaceList* list = List(CBS_DROPDOWN, VK_LBUTTON, L"not in it");
-    EXPECT_EQ(TextOf(list), L"not in it");
-    owtest::Type(L"!");
-    owtest::Press(VK_RETURN);
-    ASSERT_TRUE(Ended());
-    EXPECT_EQ(host.told->text, L"not in it!");
-    EXPECT_EQ(host.told->key, VK_RETURN);
-
-    host.told.reset();
-    list = List(CBS_DROPDOWN, 'x', L"beta");
-    EXPECT_EQ(TextOf(list), L"x") << "a character replaces the text";
-    owtest::Press(VK_ESCAPE);
-    ASSERT_TRUE(Ended());
-    EXPECT_EQ(host.told->text, L"beta");
-
-    host.told.reset();
-    list = List(CBS_DROPDOWNLIST, VK_LBUTTON, L"beta");
-    EXPECT_EQ(list->GetCurSel(), 1);
-    list->SetCurSel(2);
-    host.SendMessage(WM_COMMAND, MAKEWPARAM(InPlaceControlId, CBN_SELENDOK),
-                     reinterpret_cast<LPARAM>(list->m_hWnd));
-    ASSERT_TRUE(Ended()) << "a choice ends the edit";
-    EXPECT_EQ(host.told->text, L"gamma");
-}
-
 TEST_F(Editors, AListIsAsWideAsItsLongestEntryWithinLimits)
 {
     CInPlaceList* const list = List(CBS_DROPDOWN, VK_LBUTTON, L"beta");
