@@ -136,4 +136,7 @@ TEST_F(GridWalk, ByState)
                           Case{{4, 3}, GVNI_SELECTED | GVNI_ABOVE | GVNI_TOLEFT, {2, 3}}})
         EXPECT_EQ(gfnNextCell(rows, cols, c.from, c.nFlags, stateOf), c.found)
             << c.from.row << ',' << c.from.col << " by " << c.nFlags;
+    cols.SetFixed(0);
+    EXPECT_EQ(gfnNextCell(rows, cols, CCellID(3, 0), GVNI_SELECTED | GVNI_ALL, stateOf), CCellID(4, 1))
+        << "behind the first column of the body";
 }
