@@ -1,6 +1,6 @@
-// The base of the class library: run-time class information, diagnostics, exceptions, files.
 #pragma once
-#define __AFX_H__
+#define __AFX_H__ // asked for by the headers that wizards make
+// The base of the class library: run-time class information, diagnostics, exceptions, files.
 
 #include "afxver_.h"
 
@@ -21,14 +21,14 @@ class CObject;
 class CException;
 class CFileException;
 
-// A place in a list or map. Null is the end.
+/// A place in a list or map. Null is the end.
 struct __POSITION
 {
 };
 typedef __POSITION* POSITION;
 #define BEFORE_START_POSITION ((POSITION)-1L)
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Diagnostics
 //
 // In a debug build (_DEBUG) a failed ASSERT reports file and line, on standard error and the debugger's
@@ -43,7 +43,7 @@ AFX_CORE_API BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
 AFX_CORE_API void AFXAPI AfxDebugBreak();
 AFX_CORE_API void AFXAPI AfxDump(const CObject* pOb);
 
-// Whether a block of memory, or a text with its terminator, can be read (and, for a block, written).
+/// Whether a block of memory, or a text with its terminator, can be read (and, for a block, written).
 AFX_CORE_API BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite = TRUE);
 AFX_CORE_API BOOL AFXAPI AfxIsValidString(LPCWSTR lpsz, int nLength = -1);
 AFX_CORE_API BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
@@ -51,7 +51,7 @@ AFX_CORE_API BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength = -1);
 AFX_CORE_API void AFX_CDECL AfxTraceVarArgs(LPCWSTR lpszFormat, ...);
 AFX_CORE_API void AFX_CDECL AfxTraceVarArgs(LPCSTR lpszFormat, ...);
 
-// Writes a formatted line to the debugger's output. CString arguments may be passed directly.
+/// Writes a formatted line to the debugger's output. CString arguments may be passed directly.
 template <typename CH, typename... ARGS>
 inline void AFX_CDECL AfxTrace(const CH* lpszFormat, ARGS... args)
 {
@@ -77,8 +77,9 @@ inline void AFX_CDECL AfxTrace(const CH* lpszFormat, ARGS... args)
 #define TRACE2(sz, p1, p2) TRACE(_T(sz), p1, p2)
 #define TRACE3(sz, p1, p2, p3) TRACE(_T(sz), p1, p2, p3)
 
-#define ASSERT_POINTER(p, type) ASSERT(((p) != NULL) && ::AfxIsValidAddress((p), sizeof(type), FALSE))
-#define ASSERT_NULL_OR_POINTER(p, type) ASSERT(((p) == NULL) || ::AfxIsValidAddress((p), sizeof(type), FALSE))
+#define ASSERT_POINTER(p, type) ASSERT(((p) != nullptr) && ::AfxIsValidAddress((p), sizeof(type), FALSE))
+#define ASSERT_NULL_OR_POINTER(p, type)                                                                      \
+    ASSERT(((p) == nullptr) || ::AfxIsValidAddress((p), sizeof(type), FALSE))
 #define ASSERT_KINDOF(class_name, object) ASSERT((object)->IsKindOf(RUNTIME_CLASS(class_name)))
 
 #define ASSUME(cond) ASSERT(cond)
@@ -91,9 +92,7 @@ inline void AFX_CDECL AfxTrace(const CH* lpszFormat, ARGS... args)
         const bool afxConditionHolds = !!(cond);                                                             \
         ASSERT(afxConditionHolds);                                                                           \
         if (!afxConditionHolds)                                                                              \
-        {                                                                                                    \
             exception;                                                                                       \
-        }                                                                                                    \
     } while (false)
 #define ENSURE(cond) ENSURE_THROW(cond, ::AfxThrowInvalidArgException())
 #define ENSURE_ARG(cond) ENSURE_THROW(cond, ::AfxThrowInvalidArgException())
@@ -102,40 +101,38 @@ inline void AFX_CDECL AfxTrace(const CH* lpszFormat, ARGS... args)
     {                                                                                                        \
         ASSERT_VALID(pOb);                                                                                   \
         if (!(pOb))                                                                                          \
-        {                                                                                                    \
             exception;                                                                                       \
-        }                                                                                                    \
     } while (false)
 #define ENSURE_VALID(pOb) ENSURE_VALID_THROW(pOb, ::AfxThrowInvalidArgException())
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Run-time class information
 
-// Describes a class: one constant for each class that declares it, linked into the class list of the process
-// as long as its module is loaded.
+/// Describes a class: one constant for each class that declares it, linked into the class list of the process
+/// as long as its module is loaded.
 struct AFX_CORE_CLASS CRuntimeClass
 {
     LPCSTR m_lpszClassName;
     int m_nObjectSize;
     UINT m_wSchema;
-    CObject*(PASCAL* m_pfnCreateObject)();         // null: objects cannot be made by class
-    CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();   // answers null for CObject
-    mutable CRuntimeClass* m_pNextClass = nullptr; // link of the class list
+    CObject*(PASCAL* m_pfnCreateObject)();         ///< null: objects cannot be made by class
+    CRuntimeClass*(PASCAL* m_pfnGetBaseClass)();   ///< answers null for CObject
+    mutable CRuntimeClass* m_pNextClass = nullptr; ///< link of the class list
 
-    // A new object, which the caller owns. Null if the class is not dynamically creatable, if no class of
-    // that name is loaded, or if its constructor threw an MFC exception.
+    /// A new object, which the caller owns. Null if the class is not dynamically creatable, if no class of
+    /// that name is loaded, or if its constructor threw an MFC exception.
     CObject* CreateObject();
     static CObject* PASCAL CreateObject(LPCSTR lpszClassName);
     static CObject* PASCAL CreateObject(LPCWSTR lpszClassName);
 
     BOOL IsDerivedFrom(const CRuntimeClass* pBaseClass) const;
 
-    // The class of that name in any loaded module, or null.
+    /// The class of that name in any loaded module, or null.
     static CRuntimeClass* PASCAL FromName(LPCSTR lpszClassName);
     static CRuntimeClass* PASCAL FromName(LPCWSTR lpszClassName);
 };
 
-// Enters a class in the class list when its module is loaded and takes it out when the module goes.
+/// Enters a class in the class list when its module is loaded and takes it out when the module goes.
 struct AFX_CORE_CLASS AFX_CLASSINIT
 {
     explicit AFX_CLASSINIT(CRuntimeClass* pNewClass);
@@ -150,14 +147,14 @@ private:
 AFX_CORE_API void AFXAPI AfxClassInit(CRuntimeClass* pNewClass);
 AFX_CORE_API void AFXAPI AfxClassTerm(CRuntimeClass* pOldClass);
 
-// The root of the class hierarchy. Objects are not copied unless a class says how.
+/// The root of the class hierarchy. Objects are not copied unless a class says how.
 class AFX_CORE_CLASS CObject
 {
 public:
     virtual CRuntimeClass* GetRuntimeClass() const { return GetThisClass(); }
     virtual ~CObject() = 0;
 
-    // Throws CMemoryException when there is no memory.
+    /// Throws CMemoryException when there is no memory.
     void* PASCAL operator new(size_t nSize);
     void* PASCAL operator new(size_t, void* p) noexcept { return p; }
     void PASCAL operator delete(void* p);
@@ -165,8 +162,9 @@ public:
 
     BOOL IsKindOf(const CRuntimeClass* pClass) const { return GetRuntimeClass()->IsDerivedFrom(pClass); }
 
-    // Objects of these classes are not archived; the base does nothing.
+    /// Objects of these classes are not archived; the base does nothing.
     virtual void Serialize(CArchive& ar);
+    BOOL IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
 
     virtual void AssertValid() const;
     virtual void Dump(CDumpContext& dc) const;
@@ -232,7 +230,7 @@ public:                                                                         
     }                                                                                                        \
     IMPLEMENT_RUNTIMECLASS(class_name, base_class_name, 0xFFFF, &class_name::CreateObject)
 
-// The dynamic cast answers null for an object of another class; the static one asserts in a debug build.
+/// The dynamic cast answers null for an object of another class; the static one asserts in a debug build.
 AFX_CORE_API CObject* AFXAPI AfxDynamicDownCast(CRuntimeClass* pClass, CObject* pObject);
 AFX_CORE_API CObject* AFXAPI AfxStaticDownCast(CRuntimeClass* pClass, CObject* pObject);
 
@@ -250,7 +248,7 @@ inline const CObject* AfxDynamicDownCast(CRuntimeClass* pClass, const CObject* p
 #define STATIC_DOWNCAST(class_name, object) (static_cast<class_name*>(object))
 #endif
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Exceptions
 //
 // MFC exceptions are thrown and caught by pointer. Who handles one calls Delete on it; the CATCH macros do so
@@ -266,21 +264,21 @@ public:
     explicit CException(BOOL bAutoDelete);
     ~CException() override;
 
-    // Gives the exception back; it must not be used afterwards.
+    /// Gives the exception back; it must not be used afterwards.
     void Delete();
 
-    // Puts a message of at most nMaxError characters with its terminator into lpszError. FALSE, and an
-    // empty message, if there is none.
-    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL);
+    /// Puts a message of at most nMaxError characters with its terminator into lpszError. FALSE, and an
+    /// empty message, if there is none.
+    virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr);
 
-    // Shows the message, or the string resource nMessageID if there is none, and answers what
-    // AfxMessageBox answered.
+    /// Shows the message, or the string resource nMessageID if there is none, and answers what
+    /// AfxMessageBox answered.
     virtual int ReportError(UINT nType = MB_OK, UINT nMessageID = 0);
 
     BOOL m_bAutoDelete;
 };
 
-// An exception whose message is a string resource, loaded when it is first asked for.
+/// An exception whose message is a string resource, loaded when it is first asked for.
 class AFX_CORE_CLASS CSimpleException : public CException
 {
     DECLARE_DYNAMIC(CSimpleException)
@@ -291,7 +289,7 @@ public:
     CSimpleException(BOOL bAutoDelete, UINT nResourceID);
     ~CSimpleException() override;
 
-    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) override;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) override;
 
     void InitString();
 
@@ -321,7 +319,7 @@ AFX_DECLARE_SIMPLE_EXCEPTION(CUserException)
 AFX_DECLARE_SIMPLE_EXCEPTION(CInvalidArgException)
 #undef AFX_DECLARE_SIMPLE_EXCEPTION
 
-// A file operation that failed: why (m_cause), the system's own code, and the file.
+/// A file operation that failed: why (m_cause), the system's own code, and the file.
 class AFX_CORE_CLASS CFileException : public CException
 {
     DECLARE_DYNAMIC(CFileException)
@@ -346,19 +344,19 @@ public:
         endOfFile
     };
 
-    CFileException(int cause = CFileException::none, LONG lOsError = -1, LPCTSTR lpszArchiveName = NULL);
+    CFileException(int cause = CFileException::none, LONG lOsError = -1, LPCTSTR lpszArchiveName = nullptr);
     ~CFileException() override;
 
     static int PASCAL OsErrorToException(LONG lOsError);
     static int PASCAL ErrnoToException(int nErrno);
-    static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = NULL);
-    static void PASCAL ThrowErrno(int nErrno, LPCTSTR lpszFileName = NULL);
+    static void PASCAL ThrowOsError(LONG lOsError, LPCTSTR lpszFileName = nullptr);
+    static void PASCAL ThrowErrno(int nErrno, LPCTSTR lpszFileName = nullptr);
 
     void Dump(CDumpContext& dc) const override;
-    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) override;
+    BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = nullptr) override;
 
     int m_cause;
-    LONG m_lOsError; // GetLastError's or errno's value, or -1
+    LONG m_lOsError; ///< GetLastError's or errno's value, or -1
     CString m_strFileName;
 };
 
@@ -368,13 +366,13 @@ public:
 [[noreturn]] AFX_CORE_API void AFXAPI AfxThrowUserException();
 [[noreturn]] AFX_CORE_API void AFXAPI AfxThrowInvalidArgException();
 [[noreturn]] AFX_CORE_API void AFXAPI AfxThrowFileException(int cause, LONG lOsError = -1,
-                                                            LPCTSTR lpszFileName = NULL);
+                                                            LPCTSTR lpszFileName = nullptr);
 
-// Ends the process at once.
+/// Ends the process at once.
 [[noreturn]] AFX_CORE_API void AFXAPI AfxAbort();
 
-// Holds the exception that a CATCH block handles and deletes it at the end of the block. The links of a
-// thread form a chain, so that THROW_LAST finds the exception which it hands on.
+/// Holds the exception that a CATCH block handles and deletes it at the end of the block. The links of a
+/// thread form a chain, so that THROW_LAST finds the exception which it hands on.
 struct AFX_CORE_CLASS AFX_EXCEPTION_LINK
 {
     AFX_EXCEPTION_LINK();
@@ -386,7 +384,7 @@ struct AFX_CORE_CLASS AFX_EXCEPTION_LINK
     CException* m_pException;
 };
 
-// Takes the exception that is being handled out of its link's care, before it is thrown on.
+/// Takes the exception that is being handled out of its link's care, before it is thrown on.
 AFX_CORE_API void AFXAPI AfxThrowLastCleanup();
 
 // clang-format off
@@ -407,20 +405,20 @@ AFX_CORE_API void AFXAPI AfxThrowLastCleanup();
 #define THROW_LAST() (::AfxThrowLastCleanup(), throw)
 // clang-format on
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Files
 
-// What CFile::GetStatus answers. Times are not part of it.
+/// What CFile::GetStatus answers. Times are not part of it.
 struct CFileStatus
 {
-    ULONGLONG m_size;              // bytes
-    BYTE m_attribute;              // CFile::Attribute values, or-ed
-    BYTE _m_padding;               // unused
-    TCHAR m_szFullName[_MAX_PATH]; // absolute path
+    ULONGLONG m_size;              ///< bytes
+    BYTE m_attribute;              ///< CFile::Attribute values, or-ed
+    BYTE _m_padding;               ///< unused
+    TCHAR m_szFullName[_MAX_PATH]; ///< absolute path
 };
 
-// A binary file over a system handle. The object owns the handle if it opened it itself. Failures throw
-// CFileException.
+/// A binary file over a system handle. The object owns the handle if it opened it itself. Failures throw
+/// CFileException.
 class AFX_CORE_CLASS CFile : public CObject
 {
     DECLARE_DYNAMIC(CFile)
@@ -439,7 +437,7 @@ public:
         modeNoInherit = 0x00080,
         modeCreate = 0x01000,
         modeNoTruncate = 0x02000,
-        typeText = 0x04000, // CStdioFile only
+        typeText = 0x04000, ///< CStdioFile only
         typeBinary = 0x08000,
         osNoBuffer = 0x10000,
         osWriteThrough = 0x20000,
@@ -468,16 +466,16 @@ public:
     static const HANDLE hFileNull;
 
     CFile();
-    CFile(HANDLE hFile); // closed by Close, but not by the destructor
+    CFile(HANDLE hFile); ///< closed by Close, but not by the destructor
     CFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CFile() override;
 
     operator HANDLE() const { return m_hFile; }
 
-    // FALSE on failure, told in pError if that is given.
-    virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = NULL);
+    /// FALSE on failure, told in pError if that is given.
+    virtual BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr);
 
-    // A second object over the same open file. The caller owns it.
+    /// A second object over the same open file. The caller owns it.
     virtual CFile* Duplicate() const;
 
     virtual ULONGLONG GetPosition() const;
@@ -497,13 +495,13 @@ public:
     virtual void SetLength(ULONGLONG dwNewLen);
     virtual ULONGLONG GetLength() const;
 
-    // Read answers the number of bytes read, which is less than nCount at the end of the file.
+    /// Read answers the number of bytes read, which is less than nCount at the end of the file.
     virtual UINT Read(void* lpBuf, UINT nCount);
     virtual void Write(const void* lpBuf, UINT nCount);
     virtual void LockRange(ULONGLONG dwPos, ULONGLONG dwCount);
     virtual void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount);
 
-    // Abort closes and reports no failure; Close and Flush throw.
+    /// Abort closes and reports no failure; Close and Flush throw.
     virtual void Abort();
     virtual void Flush();
     virtual void Close();
@@ -515,30 +513,30 @@ public:
 
 protected:
     BOOL m_bCloseOnDelete;
-    CString m_strFileName; // absolute path
+    CString m_strFileName; ///< absolute path
 };
 
-// A buffered file over a run-time library stream. In text mode, the default, strings are stored in the ANSI
-// code page and a line feed as carriage return and line feed. With typeBinary they are stored as they are, in
-// UTF-16.
+/// A buffered file over a run-time library stream. In text mode, the default, strings are stored in the ANSI
+/// code page and a line feed as carriage return and line feed. With typeBinary they are stored as they are, in
+/// UTF-16.
 class AFX_CORE_CLASS CStdioFile : public CFile
 {
     DECLARE_DYNAMIC(CStdioFile)
 
 public:
     CStdioFile();
-    CStdioFile(FILE* pOpenStream); // in text mode; closed by Close, but not by the destructor
+    CStdioFile(FILE* pOpenStream); ///< in text mode; closed by Close, but not by the destructor
     CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags);
     ~CStdioFile() override;
 
     virtual void WriteString(LPCTSTR lpsz);
 
-    // The first form reads up to nMax - 1 characters, keeps the line feed, and answers null at the end of
-    // the file. The second reads a whole line, drops the line feed, and answers FALSE at the end.
+    /// The first form reads up to nMax - 1 characters, keeps the line feed, and answers null at the end of
+    /// the file. The second reads a whole line, drops the line feed, and answers FALSE at the end.
     virtual LPTSTR ReadString(LPTSTR lpsz, UINT nMax);
     virtual BOOL ReadString(CString& rString);
 
-    BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = NULL) override;
+    BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
     UINT Read(void* lpBuf, UINT nCount) override;
     void Write(const void* lpBuf, UINT nCount) override;
     ULONGLONG GetPosition() const override;
@@ -549,7 +547,7 @@ public:
     void Flush() override;
     void Close() override;
 
-    // Not supported for a stream: these throw CNotSupportedException.
+    /// Not supported for a stream: these throw CNotSupportedException.
     CFile* Duplicate() const override { AfxThrowNotSupportedException(); }
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
@@ -560,14 +558,14 @@ public:
 
 private:
     BOOL m_bBinary;
-    TCHAR m_chPending; // the second half of a character that was read, or 0
+    TCHAR m_chPending; ///< the second half of a character that was read, or 0
 
     void WriteBytes(const void* lpBuf, UINT nCount, int causeOfFailure);
     bool ReadCharacter(TCHAR& ch);
     bool ReadAnsiCharacter(TCHAR& ch);
 };
 
-// A file in memory, which grows in steps of nGrowBytes. With nGrowBytes 0 an attached block does not grow.
+/// A file in memory, which grows in steps of nGrowBytes. With nGrowBytes 0 an attached block does not grow.
 class AFX_CORE_CLASS CMemFile : public CFile
 {
     DECLARE_DYNAMIC(CMemFile)
@@ -577,7 +575,7 @@ public:
     CMemFile(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
     ~CMemFile() override { CMemFile::Close(); }
 
-    // An attached block stays the caller's. A detached one becomes the caller's, who frees it with free().
+    /// An attached block stays the caller's. A detached one becomes the caller's, who frees it with free().
     void Attach(BYTE* lpBuffer, UINT nBufferSize, UINT nGrowBytes = 0);
     BYTE* Detach();
 
@@ -592,7 +590,7 @@ public:
     void Flush() override;
     void Close() override;
 
-    // Not supported in memory: these throw CNotSupportedException.
+    /// Not supported in memory: these throw CNotSupportedException.
     CFile* Duplicate() const override { AfxThrowNotSupportedException(); }
     void LockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
     void UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount) override;
@@ -601,7 +599,7 @@ public:
     void Dump(CDumpContext& dc) const override;
 
 protected:
-    // The memory that the file lives in; a derived class may take it from elsewhere.
+    /// The memory that the file lives in; a derived class may take it from elsewhere.
     virtual BYTE* Alloc(SIZE_T nBytes) { return static_cast<BYTE*>(malloc(nBytes)); }
     virtual BYTE* Realloc(BYTE* lpMem, SIZE_T nBytes) { return static_cast<BYTE*>(realloc(lpMem, nBytes)); }
     virtual BYTE* Memcpy(BYTE* lpMemTarget, const BYTE* lpMemSource, SIZE_T nBytes);
@@ -616,18 +614,18 @@ protected:
     BOOL m_bAutoDelete;
 };
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Diagnostic dumps
 
-// A stream for the state of objects: to a file, or without one to the debugger's output.
+/// A stream for the state of objects: to a file, or without one to the debugger's output.
 class AFX_CORE_CLASS CDumpContext
 {
 public:
-    CDumpContext(CFile* pFile = NULL); // not owned
+    CDumpContext(CFile* pFile = nullptr); ///< not owned
     CDumpContext(const CDumpContext&) = delete;
     void operator=(const CDumpContext&) = delete;
 
-    // How far to follow an object's own objects: 0 stays with the object.
+    /// How far to follow an object's own objects: 0 stays with the object.
     int GetDepth() const { return m_nDepth; }
     void SetDepth(int nNewDepth) { m_nDepth = nNewDepth; }
 
@@ -646,11 +644,19 @@ public:
     CDumpContext& operator<<(ULONGLONG n);
     CDumpContext& operator<<(double d);
     CDumpContext& operator<<(float f) { return *this << double(f); }
+    CDumpContext& DumpAsHex(ULONGLONG n);
+    CDumpContext& DumpAsHex(LONGLONG n) { return DumpAsHex(ULONGLONG(n)); }
+    CDumpContext& DumpAsHex(UINT u) { return DumpAsHex(ULONGLONG(u)); }
+    CDumpContext& DumpAsHex(int n) { return DumpAsHex(UINT(n)); }
+    CDumpContext& DumpAsHex(DWORD dw) { return DumpAsHex(UINT(dw)); }
+    CDumpContext& DumpAsHex(LONG l) { return DumpAsHex(UINT(l)); }
+    CDumpContext& DumpAsHex(WORD w) { return DumpAsHex(UINT(w)); }
+    CDumpContext& DumpAsHex(BYTE by) { return DumpAsHex(UINT(by)); }
     CDumpContext& operator<<(HWND h) { return *this << static_cast<const void*>(h); }
     CDumpContext& operator<<(HDC h) { return *this << static_cast<const void*>(h); }
     CDumpContext& operator<<(HMENU h) { return *this << static_cast<const void*>(h); }
 
-    // Lines of nWidth bytes in hexadecimal, each begun with the text lpszLine.
+    /// Lines of nWidth bytes in hexadecimal, each begun with the text lpszLine.
     void HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth);
     void Flush();
 
@@ -664,15 +670,15 @@ private:
 
 extern AFX_CORE_DATA CDumpContext afxDump;
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Texts
 
-// The part of a text between the separators iSubString - 1 and iSubString. FALSE, and an empty string, if
-// there are not that many.
+/// The part of a text between the separators iSubString - 1 and iSubString. FALSE, and an empty string, if
+/// there are not that many.
 AFX_CORE_API BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString,
                                              TCHAR chSep = '\n');
 
-// Replaces %1, %2, ... (%A for the tenth) in a text or string resource by the given texts.
+/// Replaces %1, %2, ... (%A for the tenth) in a text or string resource by the given texts.
 AFX_CORE_API void AFXAPI AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const* rglpsz,
                                           int nString);
 AFX_CORE_API void AFXAPI AfxFormatStrings(CString& rString, UINT nIDS, LPCTSTR const* rglpsz, int nString);

@@ -206,28 +206,6 @@ public:
     BOOL SetMarquee(BOOL fMarqueeMode, int nInterval);
 };
 
-class AFX_CORE_CLASS CHotKeyCtrl : public CWnd
-{
-    DECLARE_DYNAMIC(CHotKeyCtrl)
-    using CWnd::Create;
-    using CWnd::CreateEx;
-
-public:
-    CHotKeyCtrl();
-    ~CHotKeyCtrl() override { DestroyWindow(); }
-
-    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
-    virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
-
-    /// Virtual key in the low byte, HOTKEYF_ modifiers in the high byte.
-    void SetHotKey(WORD wVirtualKeyCode, WORD wModifiers);
-    DWORD GetHotKey() const { return AfxSend<DWORD>(HKM_GETHOTKEY); }
-    void GetHotKey(WORD& wVirtualKeyCode, WORD& wModifiers) const;
-    static CString GetKeyName(UINT vk, BOOL fExtended);
-    CString GetHotKeyName() const;
-    void SetRules(WORD wInvalidComb, WORD wModifiers);
-};
-
 /// A TOOLINFO with room for its text.
 class CToolInfo : public TOOLINFO
 {
@@ -268,6 +246,8 @@ public:
     COLORREF GetTipTextColor() const { return AfxSend<COLORREF>(TTM_GETTIPTEXTCOLOR); }
     void SetTipTextColor(COLORREF clr) { AfxSend(TTM_SETTIPTEXTCOLOR, clr); }
     BOOL SetTitle(UINT uIcon, LPCTSTR lpstrTitle) { return AfxSend<BOOL>(TTM_SETTITLE, uIcon, lpstrTitle); }
+    void GetTitle(PTTGETTITLE pttgt) const { AfxSend(TTM_GETTITLE, 0, pttgt); }
+    HRESULT SetWindowTheme(LPCWSTR pszName) const { return AfxSend<HRESULT>(TTM_SETWINDOWTHEME, 0, pszName); }
     CSize GetBubbleSize(LPTOOLINFO lpToolInfo) const;
     BOOL AdjustRect(LPRECT lprc, BOOL bLarger = TRUE) { return AfxSend<BOOL>(TTM_ADJUSTRECT, bLarger, lprc); }
 
@@ -504,6 +484,11 @@ public:
     BOOL GetCheck(HTREEITEM hItem) const;
     BOOL SetCheck(HTREEITEM hItem, BOOL fCheck = TRUE);
     BOOL SetInsertMark(HTREEITEM hItem, BOOL fAfter = TRUE);
+    UINT MapItemToAccID(HTREEITEM hItem) const { return AfxSend<UINT>(TVM_MAPHTREEITEMTOACCID, hItem); }
+    HTREEITEM MapAccIDToItem(UINT uAccID) const
+    {
+        return AfxSend<HTREEITEM>(TVM_MAPACCIDTOHTREEITEM, uAccID);
+    }
 
     // Contents
     HTREEITEM InsertItem(LPTVINSERTSTRUCT lpInsertStruct);
@@ -625,7 +610,46 @@ public:
     POSITION GetFirstSelectedItemPosition() const;
     int GetNextSelectedItem(POSITION& pos) const;
 
+    // Groups, tiles, insertion mark: for the themed common controls, FALSE or -1 without them
+    LRESULT EnableGroupView(BOOL fEnable) { return AfxSend<LRESULT>(LVM_ENABLEGROUPVIEW, fEnable); }
+    BOOL IsGroupViewEnabled() const { return AfxSend<BOOL>(LVM_ISGROUPVIEWENABLED); }
+    LRESULT InsertGroup(int index, PLVGROUP pgrp) { return AfxSend<LRESULT>(LVM_INSERTGROUP, index, pgrp); }
+    LRESULT InsertGroupSorted(PLVINSERTGROUPSORTED p) { return AfxSend<LRESULT>(LVM_INSERTGROUPSORTED, p); }
+    int GetGroupInfo(int iGroupId, PLVGROUP pgrp) const
+    {
+        return AfxSend<int>(LVM_GETGROUPINFO, iGroupId, pgrp);
+    }
+    int SetGroupInfo(int iGroupId, PLVGROUP pgrp) { return AfxSend<int>(LVM_SETGROUPINFO, iGroupId, pgrp); }
+    void GetGroupMetrics(PLVGROUPMETRICS pMetrics) const { AfxSend(LVM_GETGROUPMETRICS, 0, pMetrics); }
+    void SetGroupMetrics(PLVGROUPMETRICS pMetrics) { AfxSend(LVM_SETGROUPMETRICS, 0, pMetrics); }
+    BOOL HasGroup(int iGroupId) const { return AfxSend<BOOL>(LVM_HASGROUP, iGroupId); }
+    LRESULT MoveGroup(int iGroupId, int toIndex)
+    {
+        return AfxSend<LRESULT>(LVM_MOVEGROUP, iGroupId, toIndex);
+    }
+    void MoveItemToGroup(int idItem, int idGroupTo) { AfxSend(LVM_MOVEITEMTOGROUP, idItem, idGroupTo); }
+    LRESULT RemoveGroup(int iGroupId) { return AfxSend<LRESULT>(LVM_REMOVEGROUP, iGroupId); }
+    void RemoveAllGroups() { AfxSend(LVM_REMOVEALLGROUPS); }
+    BOOL SortGroups(PFNLVGROUPCOMPARE pfn, LPVOID plv) { return AfxSend<BOOL>(LVM_SORTGROUPS, pfn, plv); }
+    BOOL GetTileInfo(PLVTILEINFO plvti) const { return AfxSend<BOOL>(LVM_GETTILEINFO, 0, plvti); }
+    BOOL SetTileInfo(PLVTILEINFO pti) { return AfxSend<BOOL>(LVM_SETTILEINFO, 0, pti); }
+    BOOL GetTileViewInfo(PLVTILEVIEWINFO ptvi) const { return AfxSend<BOOL>(LVM_GETTILEVIEWINFO, 0, ptvi); }
+    BOOL SetTileViewInfo(PLVTILEVIEWINFO ptvi) { return AfxSend<BOOL>(LVM_SETTILEVIEWINFO, 0, ptvi); }
+    BOOL GetInsertMark(LPLVINSERTMARK plvim) const { return AfxSend<BOOL>(LVM_GETINSERTMARK, 0, plvim); }
+    BOOL SetInsertMark(LPLVINSERTMARK lvim) { return AfxSend<BOOL>(LVM_SETINSERTMARK, 0, lvim); }
+    COLORREF GetInsertMarkColor() const { return AfxSend<COLORREF>(LVM_GETINSERTMARKCOLOR); }
+    COLORREF SetInsertMarkColor(COLORREF clr) { return AfxSend<COLORREF>(LVM_SETINSERTMARKCOLOR, 0, clr); }
+    int GetInsertMarkRect(LPRECT pRect) const { return AfxSend<int>(LVM_GETINSERTMARKRECT, 0, pRect); }
+    int InsertMarkHitTest(LPPOINT pPoint, LPLVINSERTMARK lvim) const;
+    COLORREF GetOutlineColor() const { return AfxSend<COLORREF>(LVM_GETOUTLINECOLOR); }
+    COLORREF SetOutlineColor(COLORREF color) { return AfxSend<COLORREF>(LVM_SETOUTLINECOLOR, 0, color); }
+    BOOL SetInfoTip(PLVSETINFOTIP plvInfoTip) { return AfxSend<BOOL>(LVM_SETINFOTIP, 0, plvInfoTip); }
+    UINT MapIndexToID(UINT index) const { return AfxSend<UINT>(LVM_MAPINDEXTOID, index); }
+    UINT MapIDToIndex(UINT id) const { return AfxSend<UINT>(LVM_MAPIDTOINDEX, id); }
+
     // Columns
+    UINT GetSelectedColumn() const { return AfxSend<UINT>(LVM_GETSELECTEDCOLUMN); }
+    LRESULT SetSelectedColumn(int iCol) { return AfxSend<LRESULT>(LVM_SETSELECTEDCOLUMN, iCol); }
     BOOL GetColumn(int nCol, LVCOLUMN* pColumn) const { return AfxSend<BOOL>(LVM_GETCOLUMN, nCol, pColumn); }
     BOOL SetColumn(int nCol, const LVCOLUMN* pColumn) { return AfxSend<BOOL>(LVM_SETCOLUMN, nCol, pColumn); }
     int GetColumnWidth(int nCol) const { return AfxSend<int>(LVM_GETCOLUMNWIDTH, nCol); }
@@ -658,6 +682,7 @@ public:
     BOOL RedrawItems(int nFirst, int nLast) { return AfxSend<BOOL>(LVM_REDRAWITEMS, nFirst, nLast); }
     BOOL Arrange(UINT nCode) { return AfxSend<BOOL>(LVM_ARRANGE, nCode); }
     CEdit* EditLabel(int nItem);
+    void CancelEditLabel() { AfxSend(LVM_CANCELEDITLABEL); }
     BOOL Update(int nItem) { return AfxSend<BOOL>(LVM_UPDATE, nItem); }
     /// The caller destroys the list.
     CImageList* CreateDragImage(int nItem, LPPOINT lpPoint);

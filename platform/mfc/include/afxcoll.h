@@ -1,7 +1,7 @@
-// The ready-made collections: the templates of afxtempl.h for the common element types, each with run-time
-// class information of its own. Pointers and objects in them are not owned.
 #pragma once
 #define __AFXCOLL_H__ // asked for by the headers that wizards make
+// The ready-made collections: the templates of afxtempl.h for the common element types, each with run-time
+// class information of its own. Pointers and objects in them are not owned.
 
 #include "afxtempl.h"
 
@@ -71,7 +71,7 @@ class AFX_CORE_CLASS CMapPtrToPtr : public CMap<void*, void*, void*, void*>
 public:
     using CMap<void*, void*, void*, void*>::CMap;
 
-    void* GetValueAt(void* key) const; // null if there is no such key
+    void* GetValueAt(void* key) const; ///< null if there is no such key
 };
 
 class AFX_CORE_CLASS CMapPtrToWord : public CMap<void*, void*, WORD, WORD>
@@ -80,6 +80,14 @@ class AFX_CORE_CLASS CMapPtrToWord : public CMap<void*, void*, WORD, WORD>
 
 public:
     using CMap<void*, void*, WORD, WORD>::CMap;
+};
+
+class AFX_CORE_CLASS CMapWordToOb : public CMap<WORD, WORD, CObject*, CObject*>
+{
+    DECLARE_DYNAMIC(CMapWordToOb)
+
+public:
+    using CMap<WORD, WORD, CObject*, CObject*>::CMap;
 };
 
 class AFX_CORE_CLASS CMapWordToPtr : public CMap<WORD, WORD, void*, void*>
@@ -100,6 +108,7 @@ public:
     using CMap<CString, LPCTSTR, void*, void*>::CMap;
 
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const;
+    UINT HashKey(LPCTSTR key) const { return ::HashKey<LPCTSTR>(key); }
 };
 
 class AFX_CORE_CLASS CMapStringToOb : public CMap<CString, LPCTSTR, CObject*, CObject*>
@@ -110,6 +119,7 @@ public:
     using CMap<CString, LPCTSTR, CObject*, CObject*>::CMap;
 
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const;
+    UINT HashKey(LPCTSTR key) const { return ::HashKey<LPCTSTR>(key); }
 };
 
 class AFX_CORE_CLASS CMapStringToString : public CMap<CString, LPCTSTR, CString, LPCTSTR>
@@ -120,4 +130,5 @@ public:
     using CMap<CString, LPCTSTR, CString, LPCTSTR>::CMap;
 
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const;
+    UINT HashKey(LPCTSTR key) const { return ::HashKey<LPCTSTR>(key); }
 };

@@ -86,6 +86,7 @@ enum AfxSig : UINT_PTR
     AfxSig_v_v_ii,               ///< void (int, int)
     AfxSig_v_u_p,                ///< void (UINT, CPoint) with key flags
     AfxSig_v_hit_p,              ///< void (UINT, CPoint) with a hit-test code
+    AfxSig_v_u_u_p,              ///< void (UINT, UINT, CPoint) with key flags and a button
     AfxSig_v_u_W,                ///< void (UINT, CWnd*)
     AfxSig_v_u_s,                ///< void (UINT, pointer)
     AfxSig_v_i_s,                ///< void (int, pointer)
@@ -255,6 +256,10 @@ protected:                                                                      
     { WM_SIZE, 0, 0, 0, AfxSig_v_u_ii, AFX_HANDLER_(CWnd, void, (UINT, int, int), &ThisClass::OnSize) },
 #define ON_WM_SIZING() \
     { WM_SIZING, 0, 0, 0, AfxSig_SIZING, AFX_HANDLER_(CWnd, void, (UINT, LPRECT), &ThisClass::OnSizing) },
+#define ON_WM_ENTERSIZEMOVE() \
+    { WM_ENTERSIZEMOVE, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnEnterSizeMove) },
+#define ON_WM_EXITSIZEMOVE() \
+    { WM_EXITSIZEMOVE, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnExitSizeMove) },
 #define ON_WM_GETMINMAXINFO() \
     { WM_GETMINMAXINFO, 0, 0, 0, AfxSig_v_v_s, AFX_HANDLER_(CWnd, void, (MINMAXINFO*), &ThisClass::OnGetMinMaxInfo) },
 #define ON_WM_WINDOWPOSCHANGING() \
@@ -289,6 +294,12 @@ protected:                                                                      
     { WM_QUERYDRAGICON, 0, 0, 0, AfxSig_h_v_v, AFX_HANDLER_(CWnd, HCURSOR, (), &ThisClass::OnQueryDragIcon) },
 #define ON_WM_PARENTNOTIFY() \
     { WM_PARENTNOTIFY, 0, 0, 0, AfxSig_v_u_l, AFX_HANDLER_(CWnd, void, (UINT, LPARAM), &ThisClass::OnParentNotify) },
+#define ON_WM_CHANGEUISTATE() \
+    { WM_CHANGEUISTATE, 0, 0, 0, AfxSig_SCROLL_REFLECT, AFX_HANDLER_(CWnd, void, (UINT, UINT), &ThisClass::OnChangeUIState) },
+#define ON_WM_UPDATEUISTATE() \
+    { WM_UPDATEUISTATE, 0, 0, 0, AfxSig_SCROLL_REFLECT, AFX_HANDLER_(CWnd, void, (UINT, UINT), &ThisClass::OnUpdateUIState) },
+#define ON_WM_QUERYUISTATE() \
+    { WM_QUERYUISTATE, 0, 0, 0, AfxSig_u_v_v, AFX_HANDLER_(CWnd, UINT, (), &ThisClass::OnQueryUIState) },
 #define ON_WM_ENTERIDLE() \
     { WM_ENTERIDLE, 0, 0, 0, AfxSig_v_u_W, AFX_HANDLER_(CWnd, void, (UINT, CWnd*), &ThisClass::OnEnterIdle) },
 
@@ -325,6 +336,10 @@ protected:                                                                      
     { WM_NCPAINT, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnNcPaint) },
 #define ON_WM_NCMOUSEMOVE() \
     { WM_NCMOUSEMOVE, 0, 0, 0, AfxSig_v_hit_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnNcMouseMove) },
+#define ON_WM_NCMOUSEHOVER() \
+    { WM_NCMOUSEHOVER, 0, 0, 0, AfxSig_v_hit_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnNcMouseHover) },
+#define ON_WM_NCMOUSELEAVE() \
+    { WM_NCMOUSELEAVE, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnNcMouseLeave) },
 #define ON_WM_NCLBUTTONDOWN() \
     { WM_NCLBUTTONDOWN, 0, 0, 0, AfxSig_v_hit_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnNcLButtonDown) },
 #define ON_WM_NCLBUTTONUP() \
@@ -364,6 +379,12 @@ protected:                                                                      
     { WM_SYSKEYUP, 0, 0, 0, AfxSig_v_u_u_l, AFX_HANDLER_(CWnd, void, (UINT, UINT, UINT), &ThisClass::OnSysKeyUp) },
 #define ON_WM_GETDLGCODE() \
     { WM_GETDLGCODE, 0, 0, 0, AfxSig_u_v_v, AFX_HANDLER_(CWnd, UINT, (), &ThisClass::OnGetDlgCode) },
+#define ON_WM_HOTKEY() \
+    { WM_HOTKEY, 0, 0, 0, AfxSig_v_u_u_l, AFX_HANDLER_(CWnd, void, (UINT, UINT, UINT), &ThisClass::OnHotKey) },
+#define ON_WM_INPUTLANGCHANGE() \
+    { WM_INPUTLANGCHANGE, 0, 0, 0, AfxSig_v_uu_v, AFX_HANDLER_(CWnd, void, (UINT, UINT), &ThisClass::OnInputLangChange) },
+#define ON_WM_INPUTLANGCHANGEREQUEST() \
+    { WM_INPUTLANGCHANGEREQUEST, 0, 0, 0, AfxSig_v_uu_v, AFX_HANDLER_(CWnd, void, (UINT, UINT), &ThisClass::OnInputLangChangeRequest) },
 #define ON_WM_HELPINFO() \
     { WM_HELP, 0, 0, 0, AfxSig_b_v_HELPINFO, AFX_HANDLER_(CWnd, BOOL, (HELPINFO*), &ThisClass::OnHelpInfo) },
 
@@ -389,6 +410,12 @@ protected:                                                                      
     { WM_MBUTTONUP, 0, 0, 0, AfxSig_v_u_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnMButtonUp) },
 #define ON_WM_MBUTTONDBLCLK() \
     { WM_MBUTTONDBLCLK, 0, 0, 0, AfxSig_v_u_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnMButtonDblClk) },
+#define ON_WM_XBUTTONDOWN() \
+    { WM_XBUTTONDOWN, 0, 0, 0, AfxSig_v_u_u_p, AFX_HANDLER_(CWnd, void, (UINT, UINT, CPoint), &ThisClass::OnXButtonDown) },
+#define ON_WM_XBUTTONUP() \
+    { WM_XBUTTONUP, 0, 0, 0, AfxSig_v_u_u_p, AFX_HANDLER_(CWnd, void, (UINT, UINT, CPoint), &ThisClass::OnXButtonUp) },
+#define ON_WM_XBUTTONDBLCLK() \
+    { WM_XBUTTONDBLCLK, 0, 0, 0, AfxSig_v_u_u_p, AFX_HANDLER_(CWnd, void, (UINT, UINT, CPoint), &ThisClass::OnXButtonDblClk) },
 #define ON_WM_MOUSEHOVER() \
     { WM_MOUSEHOVER, 0, 0, 0, AfxSig_v_u_p, AFX_HANDLER_(CWnd, void, (UINT, CPoint), &ThisClass::OnMouseHover) },
 #define ON_WM_MOUSELEAVE() \
@@ -454,6 +481,8 @@ protected:                                                                      
     { WM_FONTCHANGE, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnFontChange) },
 #define ON_WM_TIMECHANGE() \
     { WM_TIMECHANGE, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnTimeChange) },
+#define ON_WM_USERCHANGED() \
+    { WM_USERCHANGED, 0, 0, 0, AfxSig_v_v_v, AFX_HANDLER_(CWnd, void, (), &ThisClass::OnUserChanged) },
 #define ON_WM_DEVMODECHANGE() \
     { WM_DEVMODECHANGE, 0, 0, 0, AfxSig_v_v_s, AFX_HANDLER_(CWnd, void, (LPTSTR), &ThisClass::OnDevModeChange) },
 #define ON_WM_DEVICECHANGE() \

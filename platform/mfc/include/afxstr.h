@@ -1,3 +1,5 @@
+#pragma once
+#define __AFXSTR_H__ // asked for by the headers that wizards make
 // CString: a value string over a shared, reference-counted buffer.
 //
 //     CString strName(_T("grid"));
@@ -12,8 +14,6 @@
 // - Format strings follow the Microsoft run-time library: in a wide format %s is wide and %S is narrow.
 // - A bad argument (index out of range, negative length, null format) throws CInvalidArgException, an
 //   allocation that fails throws CMemoryException; the string then keeps its former value.
-#pragma once
-#define __AFXSTR_H__ // asked for by the headers that wizards make
 
 #include "afxver_.h"
 
@@ -23,23 +23,23 @@
 
 #include <cstdarg>
 
-// Header in front of the characters of a string buffer. The characters follow it directly.
+/// Header in front of the characters of a string buffer. The characters follow it directly.
 struct CStringData
 {
-    int nDataLength;  // characters in use, without the terminator
-    int nAllocLength; // characters that fit, without the terminator
-    long nRefs;       // owners of the buffer; below zero: locked, owned by one string and never shared
+    int nDataLength;  ///< characters in use, without the terminator
+    int nAllocLength; ///< characters that fit, without the terminator
+    long nRefs;       ///< owners of the buffer; below zero: locked, owned by one string and never shared
 
-    void* data() throw() { return this + 1; }
-    const void* data() const throw() { return this + 1; }
-    bool IsLocked() const throw() { return nRefs < 0; }
-    bool IsShared() const throw() { return nRefs > 1; }
+    void* data() noexcept { return this + 1; }
+    const void* data() const noexcept { return this + 1; }
+    bool IsLocked() const noexcept { return nRefs < 0; }
+    bool IsShared() const noexcept { return nRefs > 1; }
 };
 
 template <typename BaseType>
 class ChTraitsBase;
 
-// The types of a string: X is the string's own character type, Y the other one.
+/// The types of a string: X is the string's own character type, Y the other one.
 template <>
 class ChTraitsBase<char>
 {
@@ -67,8 +67,8 @@ public:
 template <typename BaseType>
 class CStringT;
 
-// What is handed to a C variable argument list in place of a value: a string goes as a pointer to its
-// characters, anything else as itself.
+/// What is handed to a C variable argument list in place of a value: a string goes as a pointer to its
+/// characters, anything else as itself.
 template <typename TYPE>
 inline const TYPE& AfxVarArg(const TYPE& value)
 {
@@ -91,11 +91,11 @@ public:
     typedef typename ChTraitsBase<BaseType>::PYSTR PYSTR;
     typedef typename ChTraitsBase<BaseType>::PCYSTR PCYSTR;
 
-    // Construction. A pointer made by MAKEINTRESOURCE loads the string resource of that id; a null pointer
-    // gives an empty string.
-    CStringT() throw();
+    /// Construction. A pointer made by MAKEINTRESOURCE loads the string resource of that id; a null pointer
+    /// gives an empty string.
+    CStringT() noexcept;
     CStringT(const CStringT& strSrc);
-    CStringT(CStringT&& strSrc) throw();
+    CStringT(CStringT&& strSrc) noexcept;
     CStringT(PCXSTR pszSrc);
     CStringT(PCYSTR pszSrc);
     CStringT(const unsigned char* pszSrc);
@@ -103,7 +103,7 @@ public:
     explicit CStringT(wchar_t ch, int nLength = 1);
     CStringT(PCXSTR pch, int nLength);
     CStringT(PCYSTR pch, int nLength);
-    ~CStringT() throw();
+    ~CStringT() noexcept;
 
     CStringT& operator=(const CStringT& strSrc);
     CStringT& operator=(CStringT&& strSrc);
@@ -113,21 +113,21 @@ public:
     CStringT& operator=(char ch);
     CStringT& operator=(wchar_t ch);
 
-    // The whole string.
-    int GetLength() const throw();
-    bool IsEmpty() const throw();
-    void Empty() throw();
-    PCXSTR GetString() const throw();
-    operator PCXSTR() const throw();
+    /// The whole string.
+    int GetLength() const noexcept;
+    bool IsEmpty() const noexcept;
+    void Empty() noexcept;
+    PCXSTR GetString() const noexcept;
+    operator PCXSTR() const noexcept;
     void SetString(PCXSTR pszSrc);
     void SetString(PCXSTR pszSrc, int nLength);
 
-    // Single characters. GetAt and operator[] also accept the index of the terminator.
+    /// Single characters. GetAt and operator[] also accept the index of the terminator.
     XCHAR GetAt(int iChar) const;
     XCHAR operator[](int iChar) const;
     void SetAt(int iChar, XCHAR ch);
 
-    // Appending.
+    /// Appending.
     void Append(PCXSTR pszSrc);
     void Append(PCXSTR pszSrc, int nLength);
     void Append(const CStringT& strSrc);
@@ -138,14 +138,14 @@ public:
     CStringT& operator+=(char ch);
     CStringT& operator+=(wchar_t ch);
 
-    // Comparison: negative, zero or positive. Compare goes by code units, Collate by the run-time library's
-    // locale, which also says what upper and lower case are.
+    /// Comparison: negative, zero or positive. Compare goes by code units, Collate by the run-time library's
+    /// locale, which also says what upper and lower case are.
     int Compare(PCXSTR psz) const;
     int CompareNoCase(PCXSTR psz) const;
     int Collate(PCXSTR psz) const;
     int CollateNoCase(PCXSTR psz) const;
 
-    // Parts. Counts that reach past the end are cut, negative ones count as zero.
+    /// Parts. Counts that reach past the end are cut, negative ones count as zero.
     CStringT Mid(int iFirst) const;
     CStringT Mid(int iFirst, int nCount) const;
     CStringT Left(int nCount) const;
@@ -153,11 +153,11 @@ public:
     CStringT SpanIncluding(PCXSTR pszCharSet) const;
     CStringT SpanExcluding(PCXSTR pszCharSet) const;
 
-    // The next token from iStart on, which is moved behind it. When no token is left the answer is empty and
-    // iStart becomes -1. Separators in a row count as one. Without separators the rest is one token.
+    /// The next token from iStart on, which is moved behind it. When no token is left the answer is empty and
+    /// iStart becomes -1. Separators in a row count as one. Without separators the rest is one token.
     CStringT Tokenize(PCXSTR pszTokens, int& iStart) const;
 
-    // Changes in place.
+    /// Changes in place.
     CStringT& MakeUpper();
     CStringT& MakeLower();
     CStringT& MakeReverse();
@@ -172,7 +172,7 @@ public:
     CStringT& Trim(PCXSTR pszTargets);
     void Truncate(int nNewLength);
 
-    // Replace and Remove answer the number of changes, Insert and Delete the new length.
+    /// Replace and Remove answer the number of changes, Insert and Delete the new length.
     int Replace(XCHAR chOld, XCHAR chNew);
     int Replace(PCXSTR pszOld, PCXSTR pszNew);
     int Remove(XCHAR chRemove);
@@ -180,13 +180,13 @@ public:
     int Insert(int iIndex, PCXSTR psz);
     int Delete(int iIndex, int nCount = 1);
 
-    // Searching: the index of the first hit, or -1.
-    int Find(XCHAR ch, int iStart = 0) const throw();
-    int Find(PCXSTR pszSub, int iStart = 0) const throw();
-    int FindOneOf(PCXSTR pszCharSet) const throw();
-    int ReverseFind(XCHAR ch) const throw();
+    /// Searching: the index of the first hit, or -1.
+    int Find(XCHAR ch, int iStart = 0) const noexcept;
+    int Find(PCXSTR pszSub, int iStart = 0) const noexcept;
+    int FindOneOf(PCXSTR pszCharSet) const noexcept;
+    int ReverseFind(XCHAR ch) const noexcept;
 
-    // Formatting. The string may be an argument of its own format.
+    /// Formatting. The string may be an argument of its own format.
     template <typename... ARGS>
     void AFX_CDECL Format(PCXSTR pszFormat, ARGS... args)
     {
@@ -210,7 +210,7 @@ public:
     void FormatV(PCXSTR pszFormat, va_list args);
     void AppendFormatV(PCXSTR pszFormat, va_list args);
 
-    // Formatting with the system's numbered inserts (%1, %2!d!, ...).
+    /// Formatting with the system's numbered inserts (%1, %2!d!, ...).
     template <typename... ARGS>
     void AFX_CDECL FormatMessage(PCXSTR pszFormat, ARGS... args)
     {
@@ -223,32 +223,34 @@ public:
     }
     void FormatMessageV(PCXSTR pszFormat, va_list* pArgList);
 
-    // Sources outside the program. On failure the answer is FALSE; LoadString then leaves the string alone
-    // and GetEnvironmentVariable empties it.
+    /// Sources outside the program. On failure the answer is FALSE; LoadString then leaves the string alone
+    /// and GetEnvironmentVariable empties it.
     BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
     BOOL GetEnvironmentVariable(PCXSTR pszVar);
 
-    // A copy as a BSTR. The caller owns it.
+    /// A copy as a BSTR. The caller owns it.
     BSTR AllocSysString() const;
     BSTR SetSysString(BSTR* pbstr) const;
 
-    // Direct access to the buffer. The pointer is good until the next change of the string; a change of
-    // length has to be told with ReleaseBuffer. A locked buffer is not shared with copies made meanwhile.
+    /// Direct access to the buffer. The pointer is good until the next change of the string; a change of
+    /// length has to be told with ReleaseBuffer. A locked buffer is not shared with copies made meanwhile.
     PXSTR GetBuffer();
     PXSTR GetBuffer(int nMinBufferLength);
     PXSTR GetBufferSetLength(int nLength);
     void ReleaseBuffer(int nNewLength = -1);
     void ReleaseBufferSetLength(int nNewLength);
     PXSTR LockBuffer();
-    void UnlockBuffer() throw();
+    void UnlockBuffer() noexcept;
     void FreeExtra();
     void Preallocate(int nLength);
-    int GetAllocLength() const throw();
+    int GetAllocLength() const noexcept;
 
-    // Zero for null.
-    static int StringLength(PCXSTR psz) throw();
+    /// Zero for null.
+    static int StringLength(PCXSTR psz) noexcept;
+    static void CopyChars(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept;
+    static void CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept;
 
     friend CStringT operator+(const CStringT& str1, const CStringT& str2)
     {
@@ -318,18 +320,18 @@ public:
     }
 
 private:
-    // The characters, with a CStringData in front. It is the only member, so that a string has the size
-    // of a pointer.
+    /// The characters, with a CStringData in front. It is the only member, so that a string has the size
+    /// of a pointer.
     PXSTR m_pszData;
 
-    CStringData* GetData() const throw();
-    void Attach(CStringData* pData) throw();
-    void ReplaceData(CStringData* pNewData) throw();
+    CStringData* GetData() const noexcept;
+    void Attach(CStringData* pData) noexcept;
+    void ReplaceData(CStringData* pNewData) noexcept;
     PXSTR PrepareWrite(int nCapacity);
     void SetLength(int nLength);
     bool LoadIfResource(const void* pszSrc);
     void SetConverted(PCYSTR pch, int nLength);
-    bool EqualsChar(XCHAR ch) const throw();
+    bool EqualsChar(XCHAR ch) const noexcept;
     template <typename PREDICATE>
     void TrimLeftIf(PREDICATE isTarget);
     template <typename PREDICATE>
@@ -346,7 +348,7 @@ typedef CStringT<wchar_t> CStringW;
 typedef CStringT<char> CStringA;
 typedef CStringT<TCHAR> CString;
 
-// The members are compiled once, in the library.
+// The members are compiled once, in the library. None is inline: an instantiation does not export those.
 extern template class CStringT<wchar_t>;
 extern template class CStringT<char>;
 

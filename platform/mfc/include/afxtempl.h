@@ -1,9 +1,11 @@
+#pragma once
+#define __AFXTEMPL_H__ // asked for by the headers that wizards make
 // Collection templates: CArray, CList and CMap hold values of any type; CTypedPtrArray, CTypedPtrList and
 // CTypedPtrMap give one of the pointer collections the type of its pointers.
 //
 //     CMap<int, int, CString, LPCTSTR> mapNames;
 //     mapNames.SetAt(7, _T("seven"));
-//     for (POSITION pos = mapNames.GetStartPosition(); pos != NULL;)
+//     for (POSITION pos = mapNames.GetStartPosition(); pos != nullptr;)
 //     {
 //         int nKey;
 //         CString strName;
@@ -15,8 +17,6 @@
 // - When there is no memory to grow, or an element's constructor throws, the collection stays as it was and
 //   the exception goes on. Memory failures are CMemoryException.
 // - New elements that are not given a value are value-initialised: numbers and pointers are zero.
-#pragma once
-#define __AFXTEMPL_H__ // asked for by the headers that wizards make
 
 #include "afx.h"
 #include "afxplex_.h"
@@ -28,7 +28,7 @@
 #include <type_traits>
 #include <utility>
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Helpers that may be specialised for a client's own types
 
 template <class TYPE>
@@ -49,30 +49,26 @@ inline BOOL AFXAPI CompareElements(const TYPE* pElement1, const ARG_TYPE* pEleme
     return *pElement1 == *pElement2;
 }
 
-// The default suits numbers and pointers. A map with a key class of its own needs a specialisation for the
-// type that it passes keys as.
+/// The default suits numbers and pointers. A map with a key class of its own needs a specialisation for the
+/// type that it passes keys as.
 template <class ARG_KEY>
 inline UINT AFXAPI HashKey(ARG_KEY key)
 {
     const DWORD_PTR nBits = (DWORD_PTR)key;
     if constexpr (std::is_pointer_v<std::remove_reference_t<ARG_KEY>>)
-    {
         return UINT(nBits >> 4); // the low bits of addresses are the same for all
-    }
     else
-    {
         return UINT(nBits ^ (nBits >> 32));
-    }
 }
 template <>
 AFX_CORE_API UINT AFXAPI HashKey<LPCWSTR>(LPCWSTR key);
 template <>
 AFX_CORE_API UINT AFXAPI HashKey<LPCSTR>(LPCSTR key);
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Placing elements in raw memory
 
-// Value-initialises nCount elements; if one throws, those before it are destroyed again.
+/// Value-initialises nCount elements; if one throws, those before it are destroyed again.
 template <class TYPE>
 inline void AfxConstructElements(TYPE* pElements, INT_PTR nCount)
 {
@@ -85,9 +81,9 @@ inline void AfxDestroyElements(TYPE* pElements, INT_PTR nCount) noexcept
     std::destroy_n(pElements, nCount);
 }
 
-// Moves elements to raw memory that does not overlap them. If that throws, the source is as it was. Objects
-// that can be neither moved nor copied (windows, for instance) are carried over byte by byte: nobody may know
-// them by their address when the array grows.
+/// Moves elements to raw memory that does not overlap them. If that throws, the source is as it was. Objects
+/// that can be neither moved nor copied (windows, for instance) are carried over byte by byte: nobody may know
+/// them by their address when the array grows.
 template <class TYPE>
 inline void AfxRelocateElements(TYPE* pDest, TYPE* pSrc, INT_PTR nCount)
 {
@@ -95,25 +91,19 @@ inline void AfxRelocateElements(TYPE* pDest, TYPE* pSrc, INT_PTR nCount)
     if constexpr (std::is_trivially_copyable_v<TYPE> || !bMovable)
     {
         if (nCount > 0)
-        {
             memcpy(static_cast<void*>(pDest), static_cast<const void*>(pSrc), size_t(nCount) * sizeof(TYPE));
-        }
     }
     else
     {
         if constexpr (std::is_nothrow_move_constructible_v<TYPE> || !std::is_copy_constructible_v<TYPE>)
-        {
             std::uninitialized_move_n(pSrc, nCount, pDest);
-        }
         else
-        {
             std::uninitialized_copy_n(pSrc, nCount, pDest);
-        }
         AfxDestroyElements(pSrc, nCount);
     }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CArray
 
 template <class TYPE, class ARG_TYPE = const TYPE&>
@@ -124,15 +114,16 @@ public:
     typedef ARG_TYPE BASE_ARG_TYPE;
 
     CArray();
-    ~CArray() override;
+    ~CArray() override { RemoveAll(); }
 
-    INT_PTR GetSize() const;
-    INT_PTR GetCount() const;
-    BOOL IsEmpty() const;
-    INT_PTR GetUpperBound() const; // -1 if empty
+    INT_PTR GetSize() const { return m_nSize; }
+    INT_PTR GetCount() const { return m_nSize; }
+    BOOL IsEmpty() const { return m_nSize == 0; }
+    /// -1 if empty
+    INT_PTR GetUpperBound() const { return m_nSize - 1; }
 
-    // Changes the number of elements. nGrowBy is how many elements the memory grows by when it must; 0 lets
-    // the array choose, -1 keeps the former value. Size 0 gives the memory back.
+    /// Changes the number of elements. nGrowBy is how many elements the memory grows by when it must; 0 lets
+    /// the array choose, -1 keeps the former value. Size 0 gives the memory back.
     void SetSize(INT_PTR nNewSize, INT_PTR nGrowBy = -1);
     void FreeExtra();
     void RemoveAll();
@@ -140,22 +131,22 @@ public:
     const TYPE& GetAt(INT_PTR nIndex) const;
     TYPE& GetAt(INT_PTR nIndex);
     void SetAt(INT_PTR nIndex, ARG_TYPE newElement);
-    const TYPE& ElementAt(INT_PTR nIndex) const;
-    TYPE& ElementAt(INT_PTR nIndex);
-    const TYPE& operator[](INT_PTR nIndex) const;
-    TYPE& operator[](INT_PTR nIndex);
+    const TYPE& ElementAt(INT_PTR nIndex) const { return GetAt(nIndex); }
+    TYPE& ElementAt(INT_PTR nIndex) { return GetAt(nIndex); }
+    const TYPE& operator[](INT_PTR nIndex) const { return GetAt(nIndex); }
+    TYPE& operator[](INT_PTR nIndex) { return GetAt(nIndex); }
 
-    // The elements in a row; good until the array changes its size. Null if there is no memory yet.
-    const TYPE* GetData() const;
-    TYPE* GetData();
+    /// The elements in a row; good until the array changes its size. Null if there is no memory yet.
+    const TYPE* GetData() const { return m_pData; }
+    TYPE* GetData() { return m_pData; }
 
-    // These grow the array. Add and Append answer the index of the first new element.
+    /// These grow the array. Add and Append answer the index of the first new element.
     void SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement);
     INT_PTR Add(ARG_TYPE newElement);
     INT_PTR Append(const CArray& src);
     void Copy(const CArray& src);
 
-    // An insertion behind the end first grows the array up to that index.
+    /// An insertion behind the end first grows the array up to that index.
     void InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount = 1);
     void InsertAt(INT_PTR nStartIndex, CArray* pNewArray);
     void RemoveAt(INT_PTR nIndex, INT_PTR nCount = 1);
@@ -185,46 +176,12 @@ inline CArray<TYPE, ARG_TYPE>::CArray() : m_pData(nullptr), m_nSize(0), m_nMaxSi
 }
 
 template <class TYPE, class ARG_TYPE>
-inline CArray<TYPE, ARG_TYPE>::~CArray()
-{
-    RemoveAll();
-}
-
-template <class TYPE, class ARG_TYPE>
-inline INT_PTR CArray<TYPE, ARG_TYPE>::GetSize() const
-{
-    return m_nSize;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline INT_PTR CArray<TYPE, ARG_TYPE>::GetCount() const
-{
-    return m_nSize;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline BOOL CArray<TYPE, ARG_TYPE>::IsEmpty() const
-{
-    return m_nSize == 0;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline INT_PTR CArray<TYPE, ARG_TYPE>::GetUpperBound() const
-{
-    return m_nSize - 1;
-}
-
-template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetSize(INT_PTR nNewSize, INT_PTR nGrowBy)
 {
     if (nNewSize < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     if (nGrowBy >= 0)
-    {
         m_nGrowBy = nGrowBy;
-    }
 
     if (nNewSize == 0)
     {
@@ -250,13 +207,9 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::FreeExtra()
 {
     if (m_nSize == 0)
-    {
         RemoveAll();
-    }
     else if (m_nSize != m_nMaxSize)
-    {
         Reallocate(m_nSize, 0);
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -292,56 +245,14 @@ inline void CArray<TYPE, ARG_TYPE>::SetAt(INT_PTR nIndex, ARG_TYPE newElement)
 }
 
 template <class TYPE, class ARG_TYPE>
-inline const TYPE& CArray<TYPE, ARG_TYPE>::ElementAt(INT_PTR nIndex) const
-{
-    return GetAt(nIndex);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline TYPE& CArray<TYPE, ARG_TYPE>::ElementAt(INT_PTR nIndex)
-{
-    return GetAt(nIndex);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline const TYPE& CArray<TYPE, ARG_TYPE>::operator[](INT_PTR nIndex) const
-{
-    return GetAt(nIndex);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline TYPE& CArray<TYPE, ARG_TYPE>::operator[](INT_PTR nIndex)
-{
-    return GetAt(nIndex);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline const TYPE* CArray<TYPE, ARG_TYPE>::GetData() const
-{
-    return m_pData;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline TYPE* CArray<TYPE, ARG_TYPE>::GetData()
-{
-    return m_pData;
-}
-
-template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::SetAtGrow(INT_PTR nIndex, ARG_TYPE newElement)
 {
     if (nIndex < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     if (nIndex < m_nSize)
-    {
         m_pData[nIndex] = newElement;
-    }
     else
-    {
         FillFrom(nIndex, 1, newElement);
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -375,45 +286,33 @@ template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nIndex, ARG_TYPE newElement, INT_PTR nCount)
 {
     if (nIndex < 0 || nCount <= 0)
-    {
         AfxThrowInvalidArgException();
-    }
     const INT_PTR nOldSize = m_nSize;
     FillFrom(std::max(nIndex, nOldSize), nCount, newElement);
     if (nIndex < nOldSize)
-    {
         std::rotate(m_pData + nIndex, m_pData + nOldSize, m_pData + m_nSize);
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::InsertAt(INT_PTR nStartIndex, CArray* pNewArray)
 {
     if (pNewArray == nullptr || nStartIndex < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     const INT_PTR nCount = pNewArray->m_nSize;
     if (nCount == 0)
-    {
         return;
-    }
     const INT_PTR nOldSize = m_nSize;
     const INT_PTR nFirst = std::max(nStartIndex, nOldSize);
     AppendFilled(nFirst + nCount, [&] { CopyElements<TYPE>(m_pData + nFirst, pNewArray->m_pData, nCount); });
     if (nStartIndex < nOldSize)
-    {
         std::rotate(m_pData + nStartIndex, m_pData + nOldSize, m_pData + m_nSize);
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::RemoveAt(INT_PTR nIndex, INT_PTR nCount)
 {
     if (nIndex < 0 || nCount < 0 || nIndex > m_nSize || nCount > m_nSize - nIndex)
-    {
         AfxThrowInvalidArgException();
-    }
     TYPE* const pFirst = m_pData + nIndex;
     if constexpr (std::is_move_assignable_v<TYPE>)
     {
@@ -443,33 +342,27 @@ void CArray<TYPE, ARG_TYPE>::Dump(CDumpContext& dc) const
     CObject::Dump(dc);
     dc << "with " << LONGLONG(m_nSize) << " elements\n";
     if (dc.GetDepth() > 0)
-    {
         DumpElements<TYPE>(dc, m_pData, m_nSize);
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
 inline void CArray<TYPE, ARG_TYPE>::CheckIndex(INT_PTR nIndex) const
 {
     if (nIndex < 0 || nIndex >= m_nSize)
-    {
         AfxThrowInvalidArgException();
-    }
 }
 
-// How many elements to make room for when nNewSize do not fit any more.
+/// How many elements to make room for when nNewSize do not fit any more.
 template <class TYPE, class ARG_TYPE>
 INT_PTR CArray<TYPE, ARG_TYPE>::CapacityFor(INT_PTR nNewSize) const
 {
     if (m_pData == nullptr)
-    {
         return std::max(nNewSize, m_nGrowBy);
-    }
     const INT_PTR nGrowBy = m_nGrowBy > 0 ? m_nGrowBy : std::max<INT_PTR>(4, m_nSize / 2);
     return m_nMaxSize <= INTPTR_MAX - nGrowBy ? std::max(nNewSize, m_nMaxSize + nGrowBy) : nNewSize;
 }
 
-// Moves to memory for nCapacity elements and value-initialises nNewElements behind the present ones.
+/// Moves to memory for nCapacity elements and value-initialises nNewElements behind the present ones.
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::Reallocate(INT_PTR nCapacity, INT_PTR nNewElements)
 {
@@ -494,16 +387,14 @@ void CArray<TYPE, ARG_TYPE>::Reallocate(INT_PTR nCapacity, INT_PTR nNewElements)
     m_nMaxSize = nCapacity;
 }
 
-// Grows to nNewSize and lets fill give the new elements their values. If it throws, they are gone again.
+/// Grows to nNewSize and lets fill give the new elements their values. If it throws, they are gone again.
 template <class TYPE, class ARG_TYPE>
 template <class FILL>
 void CArray<TYPE, ARG_TYPE>::AppendFilled(INT_PTR nNewSize, FILL fill)
 {
     const INT_PTR nOldSize = m_nSize;
     if (nNewSize == nOldSize)
-    {
         return;
-    }
     SetSize(nNewSize);
     try
     {
@@ -516,7 +407,7 @@ void CArray<TYPE, ARG_TYPE>::AppendFilled(INT_PTR nNewSize, FILL fill)
     }
 }
 
-// The index of an element by its address, or -1 for an object from elsewhere.
+/// The index of an element by its address, or -1 for an object from elsewhere.
 template <class TYPE, class ARG_TYPE>
 inline INT_PTR CArray<TYPE, ARG_TYPE>::FindOwn(const TYPE* pElement) const
 {
@@ -525,43 +416,33 @@ inline INT_PTR CArray<TYPE, ARG_TYPE>::FindOwn(const TYPE* pElement) const
     return bOwn ? pElement - m_pData : -1;
 }
 
-// Grows to nFirst + nCount and gives the last nCount elements the value newElement. That may be a reference
-// to an element of this array, which moves when the array grows.
+/// Grows to nFirst + nCount and gives the last nCount elements the value newElement. That may be a reference
+/// to an element of this array, which moves when the array grows.
 template <class TYPE, class ARG_TYPE>
 void CArray<TYPE, ARG_TYPE>::FillFrom(INT_PTR nFirst, INT_PTR nCount, ARG_TYPE newElement)
 {
     if (nCount > INTPTR_MAX - nFirst)
-    {
         AfxThrowMemoryException();
-    }
     INT_PTR nOwn = -1;
     if constexpr (std::is_convertible_v<std::remove_reference_t<ARG_TYPE>*, const TYPE*>)
-    {
         nOwn = FindOwn(std::addressof(newElement));
-    }
     AppendFilled(nFirst + nCount,
                  [&]
                  {
                      TYPE* const pFirst = m_pData + nFirst;
                      for (TYPE* pElement = pFirst; pElement != pFirst + nCount; ++pElement)
-                     {
                          if (nOwn >= 0)
-                         {
                              *pElement = m_pData[nOwn];
-                         }
                          else
-                         {
                              *pElement = newElement;
-                         }
-                     }
                  });
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CList
 
-// A doubly linked list. Its nodes come from blocks of nBlockSize, which are given back when the last element
-// leaves.
+/// A doubly linked list. Its nodes come from blocks of nBlockSize, which are given back when the last element
+/// leaves.
 template <class TYPE, class ARG_TYPE = const TYPE&>
 class CList : public CObject
 {
@@ -578,11 +459,11 @@ public:
     typedef ARG_TYPE BASE_ARG_TYPE;
 
     explicit CList(INT_PTR nBlockSize = 10);
-    ~CList() override;
+    ~CList() override { RemoveAll(); }
 
-    INT_PTR GetCount() const;
-    INT_PTR GetSize() const;
-    BOOL IsEmpty() const;
+    INT_PTR GetCount() const { return m_nCount; }
+    INT_PTR GetSize() const { return m_nCount; }
+    BOOL IsEmpty() const { return m_nCount == 0; }
 
     TYPE& GetHead();
     const TYPE& GetHead() const;
@@ -591,31 +472,31 @@ public:
 
     TYPE RemoveHead();
     TYPE RemoveTail();
-    POSITION AddHead(ARG_TYPE newElement);
-    POSITION AddTail(ARG_TYPE newElement);
+    POSITION AddHead(ARG_TYPE newElement) { return Link(NewNode(newElement), nullptr, m_pNodeHead); }
+    POSITION AddTail(ARG_TYPE newElement) { return Link(NewNode(newElement), m_pNodeTail, nullptr); }
     void AddHead(CList* pNewList);
     void AddTail(CList* pNewList);
     void RemoveAll();
 
-    // GetNext and GetPrev answer the element at the position and move on, to null at the end.
-    POSITION GetHeadPosition() const;
-    POSITION GetTailPosition() const;
+    /// GetNext and GetPrev answer the element at the position and move on, to null at the end.
+    POSITION GetHeadPosition() const { return reinterpret_cast<POSITION>(m_pNodeHead); }
+    POSITION GetTailPosition() const { return reinterpret_cast<POSITION>(m_pNodeTail); }
     TYPE& GetNext(POSITION& rPosition);
-    const TYPE& GetNext(POSITION& rPosition) const;
+    const TYPE& GetNext(POSITION& rPosition) const { return const_cast<CList*>(this)->GetNext(rPosition); }
     TYPE& GetPrev(POSITION& rPosition);
-    const TYPE& GetPrev(POSITION& rPosition) const;
+    const TYPE& GetPrev(POSITION& rPosition) const { return const_cast<CList*>(this)->GetPrev(rPosition); }
 
-    TYPE& GetAt(POSITION position);
-    const TYPE& GetAt(POSITION position) const;
-    void SetAt(POSITION pos, ARG_TYPE newElement);
+    TYPE& GetAt(POSITION position) { return NodeFrom(position)->data; }
+    const TYPE& GetAt(POSITION position) const { return NodeFrom(position)->data; }
+    void SetAt(POSITION pos, ARG_TYPE newElement) { NodeFrom(pos)->data = newElement; }
     void RemoveAt(POSITION position);
 
-    // Before null is the head, after null the tail.
+    /// Before null is the head, after null the tail.
     POSITION InsertBefore(POSITION position, ARG_TYPE newElement);
     POSITION InsertAfter(POSITION position, ARG_TYPE newElement);
 
-    // The first match behind startAfter, and the position of an index counted from the head; or null.
-    POSITION Find(ARG_TYPE searchValue, POSITION startAfter = NULL) const;
+    /// The first match behind startAfter, and the position of an index counted from the head; or null.
+    POSITION Find(ARG_TYPE searchValue, POSITION startAfter = nullptr) const;
     POSITION FindIndex(INT_PTR nIndex) const;
 
     void AssertValid() const override;
@@ -644,30 +525,6 @@ inline CList<TYPE, ARG_TYPE>::CList(INT_PTR nBlockSize)
     : m_pNodeHead(nullptr), m_pNodeTail(nullptr), m_nCount(0), m_pNodeFree(nullptr), m_pBlocks(nullptr),
       m_nBlockSize(std::max<INT_PTR>(1, nBlockSize))
 {
-}
-
-template <class TYPE, class ARG_TYPE>
-inline CList<TYPE, ARG_TYPE>::~CList()
-{
-    RemoveAll();
-}
-
-template <class TYPE, class ARG_TYPE>
-inline INT_PTR CList<TYPE, ARG_TYPE>::GetCount() const
-{
-    return m_nCount;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline INT_PTR CList<TYPE, ARG_TYPE>::GetSize() const
-{
-    return m_nCount;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline BOOL CList<TYPE, ARG_TYPE>::IsEmpty() const
-{
-    return m_nCount == 0;
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -715,24 +572,10 @@ TYPE CList<TYPE, ARG_TYPE>::RemoveTail()
 }
 
 template <class TYPE, class ARG_TYPE>
-inline POSITION CList<TYPE, ARG_TYPE>::AddHead(ARG_TYPE newElement)
-{
-    return Link(NewNode(newElement), nullptr, m_pNodeHead);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline POSITION CList<TYPE, ARG_TYPE>::AddTail(ARG_TYPE newElement)
-{
-    return Link(NewNode(newElement), m_pNodeTail, nullptr);
-}
-
-template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddHead(CList* pNewList)
 {
     if (pNewList == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
     INT_PTR nLeft = pNewList->m_nCount; // pNewList may be this list
     for (CNode* pNode = pNewList->m_pNodeTail; nLeft > 0; --nLeft)
     {
@@ -746,9 +589,7 @@ template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::AddTail(CList* pNewList)
 {
     if (pNewList == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
     INT_PTR nLeft = pNewList->m_nCount; // pNewList may be this list
     for (CNode* pNode = pNewList->m_pNodeHead; nLeft > 0; --nLeft)
     {
@@ -762,24 +603,10 @@ template <class TYPE, class ARG_TYPE>
 void CList<TYPE, ARG_TYPE>::RemoveAll()
 {
     for (CNode* pNode = m_pNodeHead; pNode != nullptr; pNode = pNode->pNext)
-    {
         std::destroy_at(&pNode->data);
-    }
     m_pNodeHead = m_pNodeTail = nullptr;
     m_nCount = 0;
     FreeBlocksIfEmpty();
-}
-
-template <class TYPE, class ARG_TYPE>
-inline POSITION CList<TYPE, ARG_TYPE>::GetHeadPosition() const
-{
-    return reinterpret_cast<POSITION>(m_pNodeHead);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline POSITION CList<TYPE, ARG_TYPE>::GetTailPosition() const
-{
-    return reinterpret_cast<POSITION>(m_pNodeTail);
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -791,41 +618,11 @@ inline TYPE& CList<TYPE, ARG_TYPE>::GetNext(POSITION& rPosition)
 }
 
 template <class TYPE, class ARG_TYPE>
-inline const TYPE& CList<TYPE, ARG_TYPE>::GetNext(POSITION& rPosition) const
-{
-    return const_cast<CList*>(this)->GetNext(rPosition);
-}
-
-template <class TYPE, class ARG_TYPE>
 inline TYPE& CList<TYPE, ARG_TYPE>::GetPrev(POSITION& rPosition)
 {
     CNode* const pNode = NodeFrom(rPosition);
     rPosition = reinterpret_cast<POSITION>(pNode->pPrev);
     return pNode->data;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline const TYPE& CList<TYPE, ARG_TYPE>::GetPrev(POSITION& rPosition) const
-{
-    return const_cast<CList*>(this)->GetPrev(rPosition);
-}
-
-template <class TYPE, class ARG_TYPE>
-inline TYPE& CList<TYPE, ARG_TYPE>::GetAt(POSITION position)
-{
-    return NodeFrom(position)->data;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline const TYPE& CList<TYPE, ARG_TYPE>::GetAt(POSITION position) const
-{
-    return NodeFrom(position)->data;
-}
-
-template <class TYPE, class ARG_TYPE>
-inline void CList<TYPE, ARG_TYPE>::SetAt(POSITION pos, ARG_TYPE newElement)
-{
-    NodeFrom(pos)->data = newElement;
 }
 
 template <class TYPE, class ARG_TYPE>
@@ -843,10 +640,8 @@ void CList<TYPE, ARG_TYPE>::RemoveAt(POSITION position)
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElement)
 {
-    if (position == NULL)
-    {
+    if (position == nullptr)
         return AddHead(newElement);
-    }
     CNode* const pNode = NodeFrom(position);
     return Link(NewNode(newElement), pNode->pPrev, pNode);
 }
@@ -854,10 +649,8 @@ POSITION CList<TYPE, ARG_TYPE>::InsertBefore(POSITION position, ARG_TYPE newElem
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newElement)
 {
-    if (position == NULL)
-    {
+    if (position == nullptr)
         return AddTail(newElement);
-    }
     CNode* const pNode = NodeFrom(position);
     return Link(NewNode(newElement), pNode, pNode->pNext);
 }
@@ -865,11 +658,9 @@ POSITION CList<TYPE, ARG_TYPE>::InsertAfter(POSITION position, ARG_TYPE newEleme
 template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::Find(ARG_TYPE searchValue, POSITION startAfter) const
 {
-    const CNode* pNode = startAfter == NULL ? m_pNodeHead : NodeFrom(startAfter)->pNext;
+    const CNode* pNode = startAfter == nullptr ? m_pNodeHead : NodeFrom(startAfter)->pNext;
     while (pNode != nullptr && !CompareElements(&pNode->data, std::addressof(searchValue)))
-    {
         pNode = pNode->pNext;
-    }
     return reinterpret_cast<POSITION>(const_cast<CNode*>(pNode));
 }
 
@@ -877,14 +668,10 @@ template <class TYPE, class ARG_TYPE>
 POSITION CList<TYPE, ARG_TYPE>::FindIndex(INT_PTR nIndex) const
 {
     if (nIndex < 0 || nIndex >= m_nCount)
-    {
-        return NULL;
-    }
+        return nullptr;
     CNode* pNode = m_pNodeHead;
     for (; nIndex > 0; --nIndex)
-    {
         pNode = pNode->pNext;
-    }
     return reinterpret_cast<POSITION>(pNode);
 }
 
@@ -902,21 +689,15 @@ void CList<TYPE, ARG_TYPE>::Dump(CDumpContext& dc) const
     CObject::Dump(dc);
     dc << "with " << LONGLONG(m_nCount) << " elements\n";
     if (dc.GetDepth() > 0)
-    {
         for (const CNode* pNode = m_pNodeHead; pNode != nullptr; pNode = pNode->pNext)
-        {
             DumpElements<TYPE>(dc, &pNode->data, 1);
-        }
-    }
 }
 
 template <class TYPE, class ARG_TYPE>
 inline typename CList<TYPE, ARG_TYPE>::CNode* CList<TYPE, ARG_TYPE>::NodeFrom(POSITION position) const
 {
-    if (position == NULL)
-    {
+    if (position == nullptr)
         AfxThrowInvalidArgException();
-    }
     return reinterpret_cast<CNode*>(position);
 }
 
@@ -924,12 +705,10 @@ template <class TYPE, class ARG_TYPE>
 inline void CList<TYPE, ARG_TYPE>::CheckNotEmpty() const
 {
     if (m_nCount == 0)
-    {
         AfxThrowInvalidArgException();
-    }
 }
 
-// A node from the free list, whose element is still to be constructed.
+/// A node from the free list, whose element is still to be constructed.
 template <class TYPE, class ARG_TYPE>
 typename CList<TYPE, ARG_TYPE>::CNode* CList<TYPE, ARG_TYPE>::AllocNode()
 {
@@ -938,9 +717,7 @@ typename CList<TYPE, ARG_TYPE>::CNode* CList<TYPE, ARG_TYPE>::AllocNode()
         CNode* const pNodes =
             static_cast<CNode*>(CPlex::Create(m_pBlocks, m_nBlockSize, sizeof(CNode))->data());
         for (INT_PTR i = m_nBlockSize; i-- > 0;)
-        {
             Recycle(pNodes + i);
-        }
     }
     return std::exchange(m_pNodeFree, m_pNodeFree->pNext);
 }
@@ -999,12 +776,12 @@ inline void CList<TYPE, ARG_TYPE>::FreeBlocksIfEmpty()
     }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CMap
 
-// A hash map with a fixed number of buckets (17 unless InitHashTable says otherwise; about one and a fifth
-// of the expected number of entries, and prime, suits best). Entries come from blocks of nBlockSize, which
-// are given back when the last entry leaves. Iteration follows no particular order.
+/// A hash map with a fixed number of buckets (17 unless InitHashTable says otherwise; about one and a fifth
+/// of the expected number of entries, and prime, suits best). Entries come from blocks of nBlockSize, which
+/// are given back when the last entry leaves. Iteration follows no particular order.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 class CMap : public CObject
 {
@@ -1032,7 +809,7 @@ protected:
         UINT nHashValue = 0;
     };
 
-    // A free entry is raw memory; only this link lives in it.
+    /// A free entry is raw memory; only this link lives in it.
     struct CFree
     {
         CFree* pNext;
@@ -1040,35 +817,35 @@ protected:
 
 public:
     explicit CMap(INT_PTR nBlockSize = 10);
-    ~CMap() override;
+    ~CMap() override { RemoveAll(); }
 
-    INT_PTR GetCount() const;
-    INT_PTR GetSize() const;
-    BOOL IsEmpty() const;
+    INT_PTR GetCount() const { return m_nCount; }
+    INT_PTR GetSize() const { return m_nCount; }
+    BOOL IsEmpty() const { return m_nCount == 0; }
 
-    // FALSE, and rValue as it was, if there is no such key. PLookup answers null then.
+    /// FALSE, and rValue as it was, if there is no such key. PLookup answers null then.
     BOOL Lookup(ARG_KEY key, VALUE& rValue) const;
-    const CPair* PLookup(ARG_KEY key) const;
-    CPair* PLookup(ARG_KEY key);
+    const CPair* PLookup(ARG_KEY key) const { return FindAssoc(key, HashKey<ARG_KEY>(key)); }
+    CPair* PLookup(ARG_KEY key) { return FindAssoc(key, HashKey<ARG_KEY>(key)); }
 
-    // Both enter the key if it is new.
+    /// Both enter the key if it is new.
     VALUE& operator[](ARG_KEY key);
-    void SetAt(ARG_KEY key, ARG_VALUE newValue);
+    void SetAt(ARG_KEY key, ARG_VALUE newValue) { (*this)[key] = newValue; }
 
-    BOOL RemoveKey(ARG_KEY key); // FALSE if there is no such key
+    BOOL RemoveKey(ARG_KEY key); ///< FALSE if there is no such key
     void RemoveAll();
 
-    // Iteration: a position that turns null at the end, or a pair. The entry that was just answered may be
-    // removed meanwhile.
-    POSITION GetStartPosition() const;
+    /// Iteration: a position that turns null at the end, or a pair. The entry that was just answered may be
+    /// removed meanwhile.
+    POSITION GetStartPosition() const { return reinterpret_cast<POSITION>(FirstFrom(0)); }
     void GetNextAssoc(POSITION& rNextPosition, KEY& rKey, VALUE& rValue) const;
-    const CPair* PGetFirstAssoc() const;
-    CPair* PGetFirstAssoc();
+    const CPair* PGetFirstAssoc() const { return FirstFrom(0); }
+    CPair* PGetFirstAssoc() { return FirstFrom(0); }
     const CPair* PGetNextAssoc(const CPair* pAssocRet) const;
     CPair* PGetNextAssoc(const CPair* pAssocRet);
 
-    // The number of buckets can only be set while the map is empty.
-    UINT GetHashTableSize() const;
+    /// The number of buckets can only be set while the map is empty.
+    UINT GetHashTableSize() const { return m_nHashTableSize; }
     void InitHashTable(UINT hashSize, BOOL bAllocNow = TRUE);
 
     void AssertValid() const override;
@@ -1088,7 +865,7 @@ private:
     CAssoc* FirstFrom(UINT nBucket) const;
     CAssoc* NextOf(const CAssoc* pAssoc) const;
     CAssoc* NewAssoc(ARG_KEY key, UINT nHashValue);
-    void Recycle(void* pAssoc);
+    void Recycle(void* pAssoc) { m_pFreeList = ::new (pAssoc) CFree{m_pFreeList}; }
     void FreeMemory();
 };
 
@@ -1100,53 +877,13 @@ inline CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CMap(INT_PTR nBlockSize)
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::~CMap()
-{
-    RemoveAll();
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline INT_PTR CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetCount() const
-{
-    return m_nCount;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline INT_PTR CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetSize() const
-{
-    return m_nCount;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline BOOL CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::IsEmpty() const
-{
-    return m_nCount == 0;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::Lookup(ARG_KEY key, VALUE& rValue) const
 {
     const CPair* const pPair = PLookup(key);
     if (pPair == nullptr)
-    {
         return FALSE;
-    }
     rValue = pPair->value;
     return TRUE;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline const typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CPair* CMap<KEY, ARG_KEY, VALUE,
-                                                                        ARG_VALUE>::PLookup(ARG_KEY key) const
-{
-    return FindAssoc(key, HashKey<ARG_KEY>(key));
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CPair* CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::PLookup(
-    ARG_KEY key)
-{
-    return FindAssoc(key, HashKey<ARG_KEY>(key));
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
@@ -1158,31 +895,19 @@ VALUE& CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::operator[](ARG_KEY key)
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::SetAt(ARG_KEY key, ARG_VALUE newValue)
-{
-    (*this)[key] = newValue;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 BOOL CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveKey(ARG_KEY key)
 {
     CAssoc* const pAssoc = static_cast<CAssoc*>(PLookup(key));
     if (pAssoc == nullptr)
-    {
         return FALSE;
-    }
     CAssoc** ppLink = &m_pHashTable[pAssoc->nHashValue % m_nHashTableSize];
     while (*ppLink != pAssoc)
-    {
         ppLink = &(*ppLink)->pNext;
-    }
     *ppLink = pAssoc->pNext;
     std::destroy_at(pAssoc);
     Recycle(pAssoc);
     if (--m_nCount == 0)
-    {
         FreeMemory();
-    }
     return TRUE;
 }
 
@@ -1200,41 +925,17 @@ void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::RemoveAll()
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline POSITION CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetStartPosition() const
-{
-    return reinterpret_cast<POSITION>(FirstFrom(0));
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetNextAssoc(POSITION& rNextPosition, KEY& rKey,
                                                         VALUE& rValue) const
 {
     const CAssoc* pAssoc = reinterpret_cast<const CAssoc*>(rNextPosition);
     if (rNextPosition == BEFORE_START_POSITION)
-    {
         pAssoc = FirstFrom(0);
-    }
     if (pAssoc == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
     rNextPosition = reinterpret_cast<POSITION>(NextOf(pAssoc));
     rKey = pAssoc->key;
     rValue = pAssoc->value;
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline const typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CPair* CMap<KEY, ARG_KEY, VALUE,
-                                                                        ARG_VALUE>::PGetFirstAssoc() const
-{
-    return FirstFrom(0);
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CPair* CMap<KEY, ARG_KEY, VALUE,
-                                                                  ARG_VALUE>::PGetFirstAssoc()
-{
-    return FirstFrom(0);
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
@@ -1249,31 +950,19 @@ typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CPair* CMap<KEY, ARG_KEY, VALUE, 
     const CPair* pAssocRet)
 {
     if (pAssocRet == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
     return NextOf(static_cast<const CAssoc*>(pAssocRet));
-}
-
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline UINT CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::GetHashTableSize() const
-{
-    return m_nHashTableSize;
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::InitHashTable(UINT hashSize, BOOL bAllocNow)
 {
     if (m_nCount != 0 || hashSize == 0)
-    {
         AfxThrowInvalidArgException();
-    }
     FreeMemory();
     m_nHashTableSize = hashSize;
     if (bAllocNow)
-    {
         AllocHashTable();
-    }
 }
 
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
@@ -1311,31 +1000,23 @@ typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc* CMap<KEY, ARG_KEY, VALUE,
     ARG_KEY key, UINT nHashValue) const
 {
     if (m_pHashTable == nullptr)
-    {
         return nullptr;
-    }
     CAssoc* pAssoc = m_pHashTable[nHashValue % m_nHashTableSize];
     while (pAssoc != nullptr &&
            !(pAssoc->nHashValue == nHashValue && CompareElements(&pAssoc->key, std::addressof(key))))
-    {
         pAssoc = pAssoc->pNext;
-    }
     return pAssoc;
 }
 
-// The first entry in the given bucket or one behind it.
+/// The first entry in the given bucket or one behind it.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc* CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::FirstFrom(
     UINT nBucket) const
 {
     if (m_nCount == 0)
-    {
         return nullptr;
-    }
     while (nBucket < m_nHashTableSize && m_pHashTable[nBucket] == nullptr)
-    {
         ++nBucket;
-    }
     return nBucket < m_nHashTableSize ? m_pHashTable[nBucket] : nullptr;
 }
 
@@ -1351,17 +1032,13 @@ typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc* CMap<KEY, ARG_KEY, VALUE,
     ARG_KEY key, UINT nHashValue)
 {
     if (m_pHashTable == nullptr)
-    {
         AllocHashTable();
-    }
     if (m_pFreeList == nullptr)
     {
         BYTE* const pEntries =
             static_cast<BYTE*>(CPlex::Create(m_pBlocks, m_nBlockSize, sizeof(CAssoc))->data());
         for (INT_PTR i = m_nBlockSize; i-- > 0;)
-        {
             Recycle(pEntries + i * sizeof(CAssoc));
-        }
     }
 
     // The entry leaves the free list only when it is constructed.
@@ -1387,25 +1064,17 @@ typename CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::CAssoc* CMap<KEY, ARG_KEY, VALUE,
     return pAssoc;
 }
 
-template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
-inline void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::Recycle(void* pAssoc)
-{
-    m_pFreeList = ::new (pAssoc) CFree{m_pFreeList};
-}
-
-// Gives back the memory of a map without entries.
+/// Gives back the memory of a map without entries.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE>
 void CMap<KEY, ARG_KEY, VALUE, ARG_VALUE>::FreeMemory()
 {
     AfxFreeElements(std::exchange(m_pHashTable, nullptr));
     m_pFreeList = nullptr;
     if (m_pBlocks != nullptr)
-    {
         std::exchange(m_pBlocks, nullptr)->FreeDataChain();
-    }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Typed pointer collections: BASE_CLASS is CPtrArray or CObArray, CPtrList or CObList, CMapPtrToPtr, ...
 // The pointers are not owned. Subscripts that answer a reference look at the stored pointer under TYPE, so
 // client code is compiled without assumptions on aliasing of pointer types (-fno-strict-aliasing).
@@ -1477,9 +1146,7 @@ public:
         typename BASE_CLASS::BASE_VALUE value{};
         const BOOL bFound = BASE_CLASS::Lookup(key, value);
         if (bFound)
-        {
             rValue = (VALUE)value;
-        }
         return bFound;
     }
     VALUE& operator[](typename BASE_CLASS::BASE_ARG_KEY key)

@@ -1,9 +1,9 @@
+#pragma once
+#define __AFXVER_H__ // asked for by the headers that wizards make
 // Version and linkage macros that every other MFC header builds on.
 //
 // OW_MFC_BUILD is defined while mfcow.dll itself is compiled, and _AFXEXT while an extension module is.
 // Everybody else imports.
-#pragma once
-#define __AFXVER_H__ // asked for by the headers that wizards make
 
 #ifndef _AFXDLL
 #error The bundled MFC is a shared library: compile with _AFXDLL.

@@ -223,6 +223,15 @@ AFX_CORE_API HINSTANCE AFXAPI AfxFindStringResourceHandle(UINT nID);
 /// Characters loaded, without the closing zero; 0 and an empty text when there is no such string.
 AFX_CORE_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 
+inline HINSTANCE AFXAPI AfxLoadLibrary(LPCTSTR lpszModuleName)
+{
+    return ::LoadLibrary(lpszModuleName);
+}
+inline BOOL AFXAPI AfxFreeLibrary(HINSTANCE hInstLib)
+{
+    return ::FreeLibrary(hInstLib);
+}
+
 // ---------------------------------------------------------------------------------------------------------
 // Extension modules
 

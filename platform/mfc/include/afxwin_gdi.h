@@ -165,27 +165,6 @@ public:
     CSize GetBitmapDimension() const;
 };
 
-class AFX_CORE_CLASS CPalette : public CGdiObject
-{
-    DECLARE_DYNAMIC(CPalette)
-
-public:
-    CPalette();
-
-    static CPalette* PASCAL FromHandle(HPALETTE hPalette);
-    operator HPALETTE() const { return static_cast<HPALETTE>(GetSafeHandle()); }
-
-    BOOL CreatePalette(LPLOGPALETTE lpLogPalette) { return Attach(::CreatePalette(lpLogPalette)); }
-    BOOL CreateHalftonePalette(CDC* pDC);
-
-    int GetEntryCount();
-    UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const;
-    UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors);
-    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors);
-    UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
-    BOOL ResizePalette(UINT nNumEntries);
-};
-
 class AFX_CORE_CLASS CRgn : public CGdiObject
 {
     DECLARE_DYNAMIC(CRgn)
@@ -284,15 +263,11 @@ public:
     virtual CGdiObject* SelectStockObject(int nIndex);
     CPen* GetCurrentPen() const;
     CBrush* GetCurrentBrush() const;
-    CPalette* GetCurrentPalette() const;
     CFont* GetCurrentFont() const;
     CBitmap* GetCurrentBitmap() const;
 
-    // Colours and palettes
+    // Colours
     COLORREF GetNearestColor(COLORREF crColor) const { return ::GetNearestColor(m_hAttribDC, crColor); }
-    CPalette* SelectPalette(CPalette* pPalette, BOOL bForceBackground);
-    UINT RealizePalette() { return ::RealizePalette(m_hDC); }
-    void UpdateColors() { ::UpdateColors(m_hDC); }
     COLORREF GetDCBrushColor() const { return ::GetDCBrushColor(m_hDC); }
     COLORREF SetDCBrushColor(COLORREF crColor) { return ::SetDCBrushColor(m_hDC, crColor); }
     COLORREF GetDCPenColor() const { return ::GetDCPenColor(m_hDC); }
@@ -491,6 +466,7 @@ public:
     CSize GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPositions,
                                     LPINT lpnTabStopPositions) const;
     CSize GetOutputTabbedTextExtent(const CString& str, int nTabPositions, LPINT lpnTabStopPositions) const;
+    BOOL GetTextExtentPointI(LPWORD pgiIn, int cgi, LPSIZE lpSize) const;
     BOOL GetTextExtentExPointI(LPWORD pgiIn, int cgi, int nMaxExtent, LPINT lpnFit, LPINT alpDx,
                                LPSIZE lpSize) const;
     virtual BOOL GrayString(CBrush* pBrush, BOOL(CALLBACK* lpfnOutput)(HDC, LPARAM, int), LPARAM lpData,
@@ -516,6 +492,8 @@ public:
     BOOL GetOutputCharWidth(UINT nFirstChar, UINT nLastChar, LPINT lpBuffer) const;
     BOOL GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABC lpabc) const;
     BOOL GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABCFLOAT lpABCF) const;
+    BOOL GetCharWidthI(UINT giFirst, UINT cgi, LPWORD pgi, LPINT lpBuffer) const;
+    BOOL GetCharABCWidthsI(UINT giFirst, UINT cgi, LPWORD pgi, LPABC lpabc) const;
     DWORD SetMapperFlags(DWORD dwFlag);
     DWORD GetFontData(DWORD dwTable, DWORD dwOffset, LPVOID lpData, DWORD cbData) const;
     DWORD GetFontLanguageInfo() const { return ::GetFontLanguageInfo(m_hDC); }

@@ -264,6 +264,7 @@ public:
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
     static const MSG* PASCAL GetCurrentMessage(); ///< the message being handled on this thread
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
+    BOOL DragDetect(POINT pt) const { return ::DragDetect(m_hWnd, pt); }
 
     // Text and font
     void SetWindowText(LPCTSTR lpszString) { ::SetWindowText(m_hWnd, lpszString); }
@@ -293,6 +294,8 @@ public:
     void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
     void GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
+    BOOL GetWindowInfo(PWINDOWINFO pwi) const { return ::GetWindowInfo(m_hWnd, pwi); }
+    BOOL GetTitleBarInfo(PTITLEBARINFO pti) const { return ::GetTitleBarInfo(m_hWnd, pti); }
     BOOL GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const;
     BOOL SetWindowPlacement(const WINDOWPLACEMENT* lpwndpl) { return ::SetWindowPlacement(m_hWnd, lpwndpl); }
     void ClientToScreen(LPPOINT lpPoint) const { ::ClientToScreen(m_hWnd, lpPoint); }
@@ -340,6 +343,9 @@ public:
     BOOL DrawCaption(CDC* pDC, LPCRECT lprc, UINT uFlags);
     BOOL SetLayeredWindowAttributes(COLORREF crKey, BYTE bAlpha, DWORD dwFlags);
     BOOL GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pdwFlags) const;
+    BOOL UpdateLayeredWindow(CDC* pDCDst, POINT* pptDst, SIZE* psize, CDC* pDCSrc, POINT* pptSrc,
+                             COLORREF crKey, BLENDFUNCTION* pblend, DWORD dwFlags);
+    BOOL PrintWindow(CDC* pDC, UINT nFlags) const { return ::PrintWindow(m_hWnd, *pDC, nFlags); }
 
     // Timers
     UINT_PTR SetTimer(UINT_PTR nIDEvent, UINT nElapse,
@@ -429,6 +435,8 @@ public:
     int RunModalLoop(DWORD dwFlags = 0);
     virtual BOOL ContinueModal() { return (m_nFlags & WF_CONTINUEMODAL) != 0; }
     virtual void EndModalLoop(int nResult);
+    virtual void BeginModalState() { ::EnableWindow(m_hWnd, FALSE); }
+    virtual void EndModalState() { ::EnableWindow(m_hWnd, TRUE); }
 
     // Translation of messages before dispatch
     virtual BOOL PreTranslateMessage(MSG* pMsg); ///< TRUE when the message is done with and is not dispatched
@@ -501,108 +509,124 @@ public:
 
 protected:
     // Handlers: creation and destruction. Each hands the message on by Default().
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg int OnCreate(LPCREATESTRUCT /*lpCreateStruct*/) { return static_cast<int>(Default()); }
     afx_msg void OnDestroy() { Default(); }
     afx_msg void OnClose() { Default(); }
-    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT /*lpCreateStruct*/) { return static_cast<BOOL>(Default()); }
     afx_msg void OnNcDestroy();
     afx_msg BOOL OnQueryEndSession() { return static_cast<BOOL>(Default()); }
-    afx_msg void OnEndSession(BOOL bEnding);
+    afx_msg void OnEndSession(BOOL /*bEnding*/) { Default(); }
 
     // Handlers: position, size, style, state
-    afx_msg void OnMove(int x, int y);
-    afx_msg void OnMoving(UINT nSide, LPRECT lpRect);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnSizing(UINT nSide, LPRECT lpRect);
-    afx_msg void OnGetMinMaxInfo(MINMAXINFO* lpMMI);
-    afx_msg void OnWindowPosChanging(WINDOWPOS* lpWndPos);
-    afx_msg void OnWindowPosChanged(WINDOWPOS* lpWndPos);
-    afx_msg void OnStyleChanging(int nStyleType, LPSTYLESTRUCT lpStyleStruct);
-    afx_msg void OnStyleChanged(int nStyleType, LPSTYLESTRUCT lpStyleStruct);
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
-    afx_msg void OnEnable(BOOL bEnable);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
+    afx_msg void OnMove(int /*x*/, int /*y*/) { Default(); }
+    afx_msg void OnMoving(UINT /*nSide*/, LPRECT /*lpRect*/) { Default(); }
+    afx_msg void OnSize(UINT /*nType*/, int /*cx*/, int /*cy*/) { Default(); }
+    afx_msg void OnSizing(UINT /*nSide*/, LPRECT /*lpRect*/) { Default(); }
+    afx_msg void OnEnterSizeMove() { Default(); }
+    afx_msg void OnExitSizeMove() { Default(); }
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO* /*lpMMI*/) { Default(); }
+    afx_msg void OnWindowPosChanging(WINDOWPOS* /*lpWndPos*/) { Default(); }
+    afx_msg void OnWindowPosChanged(WINDOWPOS* /*lpWndPos*/) { Default(); }
+    afx_msg void OnStyleChanging(int /*nStyleType*/, LPSTYLESTRUCT /*lpStyleStruct*/) { Default(); }
+    afx_msg void OnStyleChanged(int /*nStyleType*/, LPSTYLESTRUCT /*lpStyleStruct*/) { Default(); }
+    afx_msg void OnShowWindow(BOOL /*bShow*/, UINT /*nStatus*/) { Default(); }
+    afx_msg void OnEnable(BOOL /*bEnable*/) { Default(); }
+    afx_msg void OnActivate(UINT /*nState*/, CWnd* /*pWndOther*/, BOOL /*bMinimized*/) { Default(); }
+    afx_msg void OnActivateApp(BOOL /*bActive*/, DWORD /*dwThreadID*/) { Default(); }
     afx_msg void OnChildActivate() { Default(); }
-    afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnMDIActivate(BOOL /*bActivate*/, CWnd* /*pNow*/, CWnd* /*pBefore*/) { Default(); }
+    afx_msg void OnSetFocus(CWnd* /*pOldWnd*/) { Default(); }
+    afx_msg void OnKillFocus(CWnd* /*pNewWnd*/) { Default(); }
     afx_msg void OnCancelMode() { Default(); }
     afx_msg BOOL OnQueryOpen() { return static_cast<BOOL>(Default()); }
     afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
-    afx_msg void OnEnterIdle(UINT nWhy, CWnd* pWho);
+    afx_msg void OnChangeUIState(UINT /*nAction*/, UINT /*nUIElement*/) { Default(); }
+    afx_msg void OnUpdateUIState(UINT /*nAction*/, UINT /*nUIElement*/) { Default(); }
+    afx_msg UINT OnQueryUIState() { return static_cast<UINT>(Default()); }
+    afx_msg void OnEnterIdle(UINT /*nWhy*/, CWnd* /*pWho*/) { Default(); }
 
     // Handlers: painting and colours
     afx_msg void OnPaint() { Default(); }
-    afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    afx_msg void OnIconEraseBkgnd(CDC* pDC);
+    afx_msg BOOL OnEraseBkgnd(CDC* /*pDC*/) { return static_cast<BOOL>(Default()); }
+    afx_msg void OnIconEraseBkgnd(CDC* /*pDC*/) { Default(); }
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnSysColorChange();
     afx_msg LRESULT OnThemeChanged() { return Default(); }
     afx_msg BOOL OnQueryNewPalette() { return static_cast<BOOL>(Default()); }
-    afx_msg void OnPaletteIsChanging(CWnd* pRealizeWnd);
-    afx_msg void OnPaletteChanged(CWnd* pFocusWnd);
+    afx_msg void OnPaletteIsChanging(CWnd* /*pRealizeWnd*/) { Default(); }
+    afx_msg void OnPaletteChanged(CWnd* /*pFocusWnd*/) { Default(); }
 
     // Handlers: non-client area
-    afx_msg BOOL OnNcActivate(BOOL bActive);
-    afx_msg void OnNcCalcSize(BOOL bCalcValidRects, NCCALCSIZE_PARAMS* lpncsp);
-    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg BOOL OnNcActivate(BOOL /*bActive*/) { return static_cast<BOOL>(Default()); }
+    afx_msg void OnNcCalcSize(BOOL /*bCalcValidRects*/, NCCALCSIZE_PARAMS* /*lpncsp*/) { Default(); }
+    afx_msg LRESULT OnNcHitTest(CPoint /*point*/) { return Default(); }
     afx_msg void OnNcPaint() { Default(); }
-    afx_msg void OnNcMouseMove(UINT nHitTest, CPoint point);
-    afx_msg void OnNcLButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcLButtonUp(UINT nHitTest, CPoint point);
-    afx_msg void OnNcLButtonDblClk(UINT nHitTest, CPoint point);
-    afx_msg void OnNcRButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcRButtonUp(UINT nHitTest, CPoint point);
-    afx_msg void OnNcRButtonDblClk(UINT nHitTest, CPoint point);
-    afx_msg void OnNcMButtonDown(UINT nHitTest, CPoint point);
-    afx_msg void OnNcMButtonUp(UINT nHitTest, CPoint point);
-    afx_msg void OnNcMButtonDblClk(UINT nHitTest, CPoint point);
+    afx_msg void OnNcMouseMove(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcMouseHover(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcMouseLeave() { Default(); }
+    afx_msg void OnNcLButtonDown(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcLButtonUp(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcLButtonDblClk(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcRButtonDown(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcRButtonUp(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcRButtonDblClk(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcMButtonDown(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcMButtonUp(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnNcMButtonDblClk(UINT /*nHitTest*/, CPoint /*point*/) { Default(); }
 
     // Handlers: keyboard
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysDeadChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnSysKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnDeadChar(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnKeyDown(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnKeyUp(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnSysChar(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnSysDeadChar(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnSysKeyDown(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnSysKeyUp(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
     afx_msg UINT OnGetDlgCode() { return static_cast<UINT>(Default()); }
-    afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
+    afx_msg void OnHotKey(UINT /*nHotKeyId*/, UINT /*nModifiers*/, UINT /*nKey*/) { Default(); }
+    afx_msg void OnInputLangChange(UINT /*nCharSet*/, UINT /*nLocaleId*/) { Default(); }
+    afx_msg void OnInputLangChangeRequest(UINT /*nFlags*/, UINT /*nLocaleId*/) { Default(); }
+    afx_msg BOOL OnHelpInfo(HELPINFO* /*lpHelpInfo*/) { return static_cast<BOOL>(Default()); }
 
     // Handlers: mouse
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnMButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnMButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnMButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnMouseHover(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonUp(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonDblClk(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonUp(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonDblClk(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnMButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnMButtonUp(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnMButtonDblClk(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnXButtonDown(UINT /*nFlags*/, UINT /*nButton*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnXButtonUp(UINT /*nFlags*/, UINT /*nButton*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnXButtonDblClk(UINT /*nFlags*/, UINT /*nButton*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnMouseHover(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
     afx_msg void OnMouseLeave() { Default(); }
-    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
-    afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
-    afx_msg void OnCaptureChanged(CWnd* pWnd);
-    afx_msg BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint pos);
-    afx_msg void OnDropFiles(HDROP hDropInfo);
+    afx_msg BOOL OnMouseWheel(UINT /*nFlags*/, short /*zDelta*/, CPoint /*pt*/) { return Default() != 0; }
+    afx_msg int OnMouseActivate(CWnd* /*pWnd*/, UINT /*nHitTest*/, UINT /*message*/)
+    {
+        return int(Default());
+    }
+    afx_msg void OnCaptureChanged(CWnd* /*pWnd*/) { Default(); }
+    afx_msg BOOL OnSetCursor(CWnd* /*pWnd*/, UINT /*nHitTest*/, UINT /*message*/) { return Default() != 0; }
+    afx_msg void OnContextMenu(CWnd* /*pWnd*/, CPoint /*pos*/) { Default(); }
+    afx_msg void OnDropFiles(HDROP /*hDropInfo*/) { Default(); }
 
     // Handlers: scrolling, timers, menus
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
-    afx_msg void OnInitMenu(CMenu* pMenu);
-    afx_msg void OnInitMenuPopup(CMenu* pPopupMenu, UINT nIndex, BOOL bSysMenu);
-    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
-    afx_msg LRESULT OnMenuChar(UINT nChar, UINT nFlags, CMenu* pMenu);
-    afx_msg void OnEnterMenuLoop(BOOL bIsTrackPopupMenu);
-    afx_msg void OnExitMenuLoop(BOOL bIsTrackPopupMenu);
-    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+    afx_msg void OnTimer(UINT_PTR /*nIDEvent*/) { Default(); }
+    afx_msg void OnInitMenu(CMenu* /*pMenu*/) { Default(); }
+    afx_msg void OnInitMenuPopup(CMenu* /*pPopupMenu*/, UINT /*nIndex*/, BOOL /*bSysMenu*/) { Default(); }
+    afx_msg void OnMenuSelect(UINT /*nItemID*/, UINT /*nFlags*/, HMENU /*hSysMenu*/) { Default(); }
+    afx_msg LRESULT OnMenuChar(UINT /*nChar*/, UINT /*nFlags*/, CMenu* /*pMenu*/) { return Default(); }
+    afx_msg void OnEnterMenuLoop(BOOL /*bIsTrackPopupMenu*/) { Default(); }
+    afx_msg void OnExitMenuLoop(BOOL /*bIsTrackPopupMenu*/) { Default(); }
+    afx_msg void OnSysCommand(UINT /*nID*/, LPARAM /*lParam*/) { Default(); }
 
     // Handlers: owner-drawn and list controls
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
@@ -614,20 +638,24 @@ protected:
 
     // Handlers: system and session
     afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-    afx_msg void OnWinIniChange(LPCTSTR lpszSection);
+    afx_msg void OnWinIniChange(LPCTSTR /*lpszSection*/) { Default(); }
     afx_msg void OnFontChange() { Default(); }
     afx_msg void OnTimeChange() { Default(); }
-    afx_msg void OnDevModeChange(LPTSTR lpDeviceName);
-    afx_msg BOOL OnDeviceChange(UINT nEventType, DWORD_PTR dwData);
-    afx_msg void OnCompacting(UINT nCpuTime);
-    afx_msg void OnSpoolerStatus(UINT nStatus, UINT nJobs);
-    afx_msg BOOL OnCopyData(CWnd* pWnd, COPYDATASTRUCT* pCopyDataStruct);
+    afx_msg void OnUserChanged() { Default(); }
+    afx_msg void OnDevModeChange(LPTSTR /*lpDeviceName*/) { Default(); }
+    afx_msg BOOL OnDeviceChange(UINT /*nEvent*/, DWORD_PTR /*dwData*/)
+    {
+        return static_cast<BOOL>(Default());
+    }
+    afx_msg void OnCompacting(UINT /*nCpuTime*/) { Default(); }
+    afx_msg void OnSpoolerStatus(UINT /*nStatus*/, UINT /*nJobs*/) { Default(); }
+    afx_msg BOOL OnCopyData(CWnd* /*pWnd*/, COPYDATASTRUCT* /*pData*/) { return Default() != 0; }
 
     // Handlers: clipboard
-    afx_msg void OnChangeCbChain(HWND hWndRemove, HWND hWndAfter);
+    afx_msg void OnChangeCbChain(HWND /*hWndRemove*/, HWND /*hWndAfter*/) { Default(); }
     afx_msg void OnDrawClipboard() { Default(); }
     afx_msg void OnDestroyClipboard() { Default(); }
-    afx_msg void OnRenderFormat(UINT nFormat);
+    afx_msg void OnRenderFormat(UINT /*nFormat*/) { Default(); }
     afx_msg void OnRenderAllFormats() { Default(); }
 
     DECLARE_MESSAGE_MAP()
@@ -696,8 +724,8 @@ public:
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
 
     /// Modal state of the frame: its other top-level windows are disabled. Counted.
-    virtual void BeginModalState();
-    virtual void EndModalState();
+    void BeginModalState() override;
+    void EndModalState() override;
     BOOL InModalState() const { return m_cModalStack != 0; }
 
     BOOL IsFrameWnd() const override { return TRUE; }
@@ -761,6 +789,7 @@ public:
     void PrevDlgCtrl() const { ::SendMessage(m_hWnd, WM_NEXTDLGCTL, 1, FALSE); }
     void GotoDlgCtrl(CWnd* pWndCtrl);
     void SetDefID(UINT nID) { SendMessage(DM_SETDEFID, nID); }
+    void SetHelpID(UINT nIDR) { m_nIDHelp = nIDR; } ///< in place of the template's id
     DWORD GetDefID() const { return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0)); }
 
     /// FALSE when the focus was set by the override. Fills controls from RT_DLGINIT and from the members.

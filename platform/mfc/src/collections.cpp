@@ -1,9 +1,10 @@
 // The ready-made collections, hashing of texts, and the memory of all collections.
+
 #include <afxcoll.h>
 
 #include <cstdint>
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Memory
 
 void* AFXAPI AfxAllocElements(size_t nCount, size_t cbElement)
@@ -11,9 +12,7 @@ void* AFXAPI AfxAllocElements(size_t nCount, size_t cbElement)
     const bool bFits = cbElement == 0 || nCount <= PTRDIFF_MAX / cbElement;
     void* const p = bFits ? malloc(nCount * cbElement) : nullptr;
     if (p == nullptr)
-    {
         AfxThrowMemoryException();
-    }
     return p;
 }
 
@@ -41,7 +40,7 @@ void CPlex::FreeDataChain()
     }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Hashing
 
 template <typename CH>
@@ -49,9 +48,7 @@ static UINT HashText(const CH* lpsz)
 {
     UINT nHash = 5381;
     for (; *lpsz != 0; ++lpsz)
-    {
         nHash = nHash * 33 + *lpsz;
-    }
     return nHash;
 }
 
@@ -67,7 +64,7 @@ UINT AFXAPI HashKey<LPCSTR>(LPCSTR key)
     return HashText(key);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Class information
 
 IMPLEMENT_DYNAMIC(CByteArray, CObject)
@@ -82,12 +79,13 @@ IMPLEMENT_DYNAMIC(CObList, CObject)
 IMPLEMENT_DYNAMIC(CStringList, CObject)
 IMPLEMENT_DYNAMIC(CMapPtrToPtr, CObject)
 IMPLEMENT_DYNAMIC(CMapPtrToWord, CObject)
+IMPLEMENT_DYNAMIC(CMapWordToOb, CObject)
 IMPLEMENT_DYNAMIC(CMapWordToPtr, CObject)
 IMPLEMENT_DYNAMIC(CMapStringToPtr, CObject)
 IMPLEMENT_DYNAMIC(CMapStringToOb, CObject)
 IMPLEMENT_DYNAMIC(CMapStringToString, CObject)
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Look-ups of the ready-made maps
 
 void* CMapPtrToPtr::GetValueAt(void* key) const
@@ -101,9 +99,7 @@ static BOOL LookupOwnKey(const MAP& map, LPCTSTR key, LPCTSTR& rKey)
 {
     const typename MAP::CPair* const pPair = map.PLookup(key);
     if (pPair == nullptr)
-    {
         return FALSE;
-    }
     rKey = pPair->key;
     return TRUE;
 }

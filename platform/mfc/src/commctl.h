@@ -3,7 +3,25 @@
 
 #include <afxcmn.h>
 
+#include "drawn.h"
 #include "safehandle.h"
+
+#include <initializer_list>
+
+// What a common control is made of beside its messages: the class, and its creation as a child window of
+// `window_class`, whose group (ICC_...) is registered first.
+#define IMPLEMENT_COMMON_CONTROL(class_name, group, window_class)                                            \
+    IMPLEMENT_DYNAMIC(class_name, CWnd)                                                                      \
+    class_name::class_name() = default;                                                                      \
+    BOOL class_name::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)                     \
+    {                                                                                                        \
+        return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);                                       \
+    }                                                                                                        \
+    BOOL class_name::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)  \
+    {                                                                                                        \
+        return RegisterCommonControls(group) &&                                                              \
+               CWnd::CreateEx(dwExStyle, window_class, nullptr, dwStyle, rect, pParentWnd, nID);             \
+    }
 
 /// Registers the window classes of a group of common controls (ICC_...); FALSE if the system has none.
 inline BOOL RegisterCommonControls(DWORD group)
@@ -25,6 +43,17 @@ inline CImageList* NewImageList(HIMAGELIST images)
     auto* list = new CImageList;
     VERIFY(list->Attach(images));
     return list;
+}
+
+/// A view that goes destroys its image lists of these kinds: those that belong to an object are taken away first.
+inline void ReleaseImageLists(HWND view, UINT getMessage, UINT setMessage, std::initializer_list<int> kinds)
+{
+    for (const int kind : kinds)
+    {
+        const auto images = reinterpret_cast<HIMAGELIST>(::SendMessage(view, getMessage, kind, 0));
+        if (CImageList::FromHandlePermanent(images) != nullptr)
+            ::SendMessage(view, setMessage, kind, 0);
+    }
 }
 
 /// Reads a text whose length is not known beforehand: `read` fills a buffer of a size and answers the number

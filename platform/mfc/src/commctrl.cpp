@@ -1,4 +1,4 @@
-// Spin buttons, sliders, progress bars, hot keys, headers, tabs and status bars.
+// Spin buttons, sliders, progress bars, headers, tabs and status bars.
 
 #include <afxcmn.h>
 
@@ -7,20 +7,7 @@
 // ---------------------------------------------------------------------------------------------------------
 // CSpinButtonCtrl
 
-IMPLEMENT_DYNAMIC(CSpinButtonCtrl, CWnd)
-
-CSpinButtonCtrl::CSpinButtonCtrl() = default;
-
-BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_UPDOWN_CLASS) &&
-           CWnd::CreateEx(dwExStyle, UPDOWN_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CSpinButtonCtrl, ICC_UPDOWN_CLASS, UPDOWN_CLASS)
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
 {
@@ -42,20 +29,7 @@ void CSpinButtonCtrl::GetRange32(int& lower, int& upper) const
 // ---------------------------------------------------------------------------------------------------------
 // CSliderCtrl
 
-IMPLEMENT_DYNAMIC(CSliderCtrl, CWnd)
-
-CSliderCtrl::CSliderCtrl() = default;
-
-BOOL CSliderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_BAR_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, TRACKBAR_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CSliderCtrl, ICC_BAR_CLASSES, TRACKBAR_CLASS)
 
 void CSliderCtrl::GetRange(int& nMin, int& nMax) const
 {
@@ -116,20 +90,7 @@ void CSliderCtrl::ClearTics(BOOL bRedraw)
 // ---------------------------------------------------------------------------------------------------------
 // CProgressCtrl
 
-IMPLEMENT_DYNAMIC(CProgressCtrl, CWnd)
-
-CProgressCtrl::CProgressCtrl() = default;
-
-BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_PROGRESS_CLASS) &&
-           CWnd::CreateEx(dwExStyle, PROGRESS_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CProgressCtrl, ICC_PROGRESS_CLASS, PROGRESS_CLASS)
 
 void CProgressCtrl::GetRange(int& nLower, int& nUpper) const
 {
@@ -145,89 +106,10 @@ BOOL CProgressCtrl::SetMarquee(BOOL fMarqueeMode, int nInterval)
 }
 
 // ---------------------------------------------------------------------------------------------------------
-// CHotKeyCtrl
-
-IMPLEMENT_DYNAMIC(CHotKeyCtrl, CWnd)
-
-CHotKeyCtrl::CHotKeyCtrl() = default;
-
-BOOL CHotKeyCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CHotKeyCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_HOTKEY_CLASS) &&
-           CWnd::CreateEx(dwExStyle, HOTKEY_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
-void CHotKeyCtrl::SetHotKey(WORD wVirtualKeyCode, WORD wModifiers)
-{
-    AfxSend(HKM_SETHOTKEY, MAKEWORD(wVirtualKeyCode, wModifiers));
-}
-
-void CHotKeyCtrl::GetHotKey(WORD& wVirtualKeyCode, WORD& wModifiers) const
-{
-    const WORD key = LOWORD(GetHotKey());
-    wVirtualKeyCode = LOBYTE(key);
-    wModifiers = HIBYTE(key);
-}
-
-CString CHotKeyCtrl::GetKeyName(UINT vk, BOOL fExtended)
-{
-    constexpr LONG extendedKey = 0x01000000;
-    LONG scan = static_cast<LONG>(::MapVirtualKey(vk, MAPVK_VK_TO_VSC)) << 16;
-    if (fExtended)
-        scan |= extendedKey;
-    CString name;
-    constexpr int longest = 64;
-    ::GetKeyNameText(scan, name.GetBuffer(longest), longest);
-    name.ReleaseBuffer();
-    return name;
-}
-
-CString CHotKeyCtrl::GetHotKeyName() const
-{
-    WORD key = 0;
-    WORD modifiers = 0;
-    GetHotKey(key, modifiers);
-    if (key == 0)
-        return CString();
-
-    const CString plus(L" + ");
-    CString name;
-    if (modifiers & HOTKEYF_CONTROL)
-        name += GetKeyName(VK_CONTROL, FALSE) + plus;
-    if (modifiers & HOTKEYF_SHIFT)
-        name += GetKeyName(VK_SHIFT, FALSE) + plus;
-    if (modifiers & HOTKEYF_ALT)
-        name += GetKeyName(VK_MENU, FALSE) + plus;
-    return name + GetKeyName(key, modifiers & HOTKEYF_EXT);
-}
-
-void CHotKeyCtrl::SetRules(WORD wInvalidComb, WORD wModifiers)
-{
-    AfxSend(HKM_SETRULES, wInvalidComb, MAKELPARAM(wModifiers, 0));
-}
-
-// ---------------------------------------------------------------------------------------------------------
 // CHeaderCtrl
 
-IMPLEMENT_DYNAMIC(CHeaderCtrl, CWnd)
-
-CHeaderCtrl::CHeaderCtrl() = default;
-
-BOOL CHeaderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_LISTVIEW_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, WC_HEADER, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CHeaderCtrl, ICC_LISTVIEW_CLASSES, WC_HEADER)
+IMPLEMENT_DRAWN_CONTROL(CHeaderCtrl)
 
 BOOL CHeaderCtrl::GetItem(int nPos, HDITEM* pHeaderItem) const
 {
@@ -269,36 +151,11 @@ int CHeaderCtrl::EditFilter(int iColumn, BOOL bDiscardChanges)
     return AfxSend<int>(HDM_EDITFILTER, iColumn, MAKELPARAM(bDiscardChanges, 0));
 }
 
-BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CHeaderCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // a header with owner-drawn items must draw them
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // CTabCtrl
 
-IMPLEMENT_DYNAMIC(CTabCtrl, CWnd)
-
-CTabCtrl::CTabCtrl() = default;
-
-BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_TAB_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, WC_TABCONTROL, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CTabCtrl, ICC_TAB_CLASSES, WC_TABCONTROL)
+IMPLEMENT_DRAWN_CONTROL(CTabCtrl)
 
 CImageList* CTabCtrl::SetImageList(CImageList* pImageList)
 {
@@ -369,36 +226,11 @@ BOOL CTabCtrl::HighlightItem(int idItem, BOOL fHighlight)
     return AfxSend<BOOL>(TCM_HIGHLIGHTITEM, idItem, MAKELPARAM(fHighlight, 0));
 }
 
-BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CTabCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn tab control must draw its tabs
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // CStatusBarCtrl
 
-IMPLEMENT_DYNAMIC(CStatusBarCtrl, CWnd)
-
-CStatusBarCtrl::CStatusBarCtrl() = default;
-
-BOOL CStatusBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CStatusBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_BAR_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, STATUSCLASSNAME, nullptr, dwStyle, rect, pParentWnd, nID);
-}
+IMPLEMENT_COMMON_CONTROL(CStatusBarCtrl, ICC_BAR_CLASSES, STATUSCLASSNAME)
+IMPLEMENT_DRAWN_CONTROL(CStatusBarCtrl)
 
 BOOL CStatusBarCtrl::SetText(LPCTSTR lpszText, int nPane, int nType)
 {
@@ -446,17 +278,4 @@ CString CStatusBarCtrl::GetTipText(int nPane) const
     AfxSend(SB_GETTIPTEXT, MAKEWPARAM(nPane, longest), text.GetBuffer(longest));
     text.ReleaseBuffer();
     return text;
-}
-
-BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CStatusBarCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // a status bar with owner-drawn panes must draw them
 }

@@ -1,4 +1,5 @@
 // CStringT: both character types are compiled from here.
+
 #include <afxwin.h>
 
 #include <algorithm>
@@ -8,23 +9,19 @@
 
 #include "stringchars.h"
 
-using namespace AfxText;
-
 namespace
 {
 template <typename CH>
 void CopyText(CH* pDest, const CH* pSrc, int nLength)
 {
     if (nLength > 0)
-    {
         memmove(pDest, pSrc, size_t(nLength) * sizeof(CH));
-    }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Buffers
 
-// What empty strings point to. It is never written to, counted or freed.
+/// What empty strings point to. It is never written to, counted or freed.
 template <typename CH>
 struct NilData
 {
@@ -46,20 +43,16 @@ bool IsNilData(const CStringData* pData)
     return pData == GetNilData<char>() || pData == GetNilData<wchar_t>();
 }
 
-// A buffer with one owner for nCapacity characters, whose text is still to be set.
+/// A buffer with one owner for nCapacity characters, whose text is still to be set.
 template <typename CH>
 CStringData* AllocData(int nCapacity)
 {
     if (nCapacity < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     const size_t nBytes = sizeof(CStringData) + (size_t(nCapacity) + 1) * sizeof(CH);
     CStringData* const pData = static_cast<CStringData*>(malloc(nBytes));
     if (pData == nullptr)
-    {
         AfxThrowMemoryException();
-    }
     *pData = {0, nCapacity, 1};
     return pData;
 }
@@ -80,21 +73,17 @@ void SetTextLength(CStringData* pData, int nLength)
 void AddRef(CStringData* pData)
 {
     if (!IsNilData(pData))
-    {
         ::InterlockedIncrement(&pData->nRefs);
-    }
 }
 
 void Release(CStringData* pData)
 {
     // A locked buffer has a count below zero and goes with its only owner.
     if (!IsNilData(pData) && ::InterlockedDecrement(&pData->nRefs) <= 0)
-    {
         free(pData);
-    }
 }
 
-// Room to allocate for text that grows step by step: double what there was, but not past what counts allow.
+/// Room to allocate for text that grows step by step: double what there was, but not past what counts allow.
 int GrownCapacity(int nOldCapacity, int nNeeded)
 {
     return nOldCapacity > INT_MAX / 2 ? nNeeded : std::max(nNeeded, nOldCapacity * 2);
@@ -103,13 +92,11 @@ int GrownCapacity(int nOldCapacity, int nNeeded)
 int AddLengths(int nLength1, int nLength2)
 {
     if (nLength1 > INT_MAX - nLength2)
-    {
         AfxThrowMemoryException();
-    }
     return nLength1 + nLength2;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // String resources
 
 HRSRC FindStringBlock(HINSTANCE hInstance, UINT nID, const WORD* pLanguageID)
@@ -120,25 +107,19 @@ HRSRC FindStringBlock(HINSTANCE hInstance, UINT nID, const WORD* pLanguageID)
                : ::FindResourceW(hInstance, lpBlock, MAKEINTRESOURCEW(6));
 }
 
-// A string of a module: blocks of sixteen, each string led by its length. Null if it is missing or empty.
+/// A string of a module: blocks of sixteen, each string led by its length. Null if it is missing or empty.
 LPCWSTR FindStringResource(HINSTANCE hInstance, UINT nID, const WORD* pLanguageID, int& nLength)
 {
     const HRSRC hBlock = FindStringBlock(hInstance, nID, pLanguageID);
-    const HGLOBAL hGlobal = hBlock != NULL ? ::LoadResource(hInstance, hBlock) : NULL;
-    const WCHAR* pString = hGlobal != NULL ? static_cast<const WCHAR*>(::LockResource(hGlobal)) : nullptr;
+    const HGLOBAL hGlobal = hBlock != nullptr ? ::LoadResource(hInstance, hBlock) : nullptr;
+    const WCHAR* pString = hGlobal != nullptr ? static_cast<const WCHAR*>(::LockResource(hGlobal)) : nullptr;
     if (pString == nullptr)
-    {
         return nullptr;
-    }
     const WCHAR* const pEnd = pString + ::SizeofResource(hInstance, hBlock) / sizeof(WCHAR);
     for (UINT nSkip = nID % 16; nSkip > 0 && pString < pEnd; --nSkip)
-    {
         pString += *pString + 1;
-    }
     if (pString >= pEnd || *pString == 0 || *pString >= pEnd - pString)
-    {
         return nullptr;
-    }
     nLength = *pString;
     return pString + 1;
 }
@@ -149,9 +130,7 @@ BOOL LoadInto(CStringT<CH>& str, HINSTANCE hInstance, UINT nID, const WORD* pLan
     int nLength = 0;
     const LPCWSTR pch = FindStringResource(hInstance, nID, pLanguageID, nLength);
     if (pch == nullptr)
-    {
         return FALSE;
-    }
     str = CStringT<CH>(pch, nLength);
     return TRUE;
 }
@@ -160,48 +139,42 @@ template <typename CH>
 void CheckText(const CH* psz)
 {
     if (psz == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
 }
 } // namespace
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Buffer
 
 template <typename BaseType>
-CStringData* CStringT<BaseType>::GetData() const throw()
+CStringData* CStringT<BaseType>::GetData() const noexcept
 {
     return reinterpret_cast<CStringData*>(m_pszData) - 1;
 }
 
 template <typename BaseType>
-void CStringT<BaseType>::Attach(CStringData* pData) throw()
+void CStringT<BaseType>::Attach(CStringData* pData) noexcept
 {
     m_pszData = TextOf<XCHAR>(pData);
 }
 
-// Changes over to a new buffer, which stays locked if the old one was.
+/// Changes over to a new buffer, which stays locked if the old one was.
 template <typename BaseType>
-void CStringT<BaseType>::ReplaceData(CStringData* pNewData) throw()
+void CStringT<BaseType>::ReplaceData(CStringData* pNewData) noexcept
 {
     CStringData* const pOldData = GetData();
     if (pOldData->IsLocked())
-    {
         pNewData->nRefs = -1;
-    }
     Attach(pNewData);
     Release(pOldData);
 }
 
-// Makes the buffer this string's own, with room for at least nCapacity characters and the present text.
+/// Makes the buffer this string's own, with room for at least nCapacity characters and the present text.
 template <typename BaseType>
 typename CStringT<BaseType>::PXSTR CStringT<BaseType>::PrepareWrite(int nCapacity)
 {
     if (nCapacity < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     const CStringData* const pOldData = GetData();
     const bool bFits = nCapacity <= pOldData->nAllocLength;
     if (pOldData->IsShared() || !bFits)
@@ -223,20 +196,16 @@ void CStringT<BaseType>::SetLength(int nLength)
 {
     CStringData* const pData = GetData();
     if (nLength < 0 || nLength > pData->nAllocLength)
-    {
         AfxThrowInvalidArgException();
-    }
     if (!IsNilData(pData))
-    {
         SetTextLength<XCHAR>(pData, nLength);
-    }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Construction and assignment
 
 template <typename BaseType>
-CStringT<BaseType>::CStringT() throw()
+CStringT<BaseType>::CStringT() noexcept
 {
     Attach(GetNilData<XCHAR>());
 }
@@ -256,7 +225,7 @@ CStringT<BaseType>::CStringT(const CStringT& strSrc) : CStringT()
 }
 
 template <typename BaseType>
-CStringT<BaseType>::CStringT(CStringT&& strSrc) throw() : CStringT()
+CStringT<BaseType>::CStringT(CStringT&& strSrc) noexcept : CStringT()
 {
     strSrc.UnlockBuffer();
     std::swap(m_pszData, strSrc.m_pszData);
@@ -266,18 +235,14 @@ template <typename BaseType>
 CStringT<BaseType>::CStringT(PCXSTR pszSrc) : CStringT()
 {
     if (!LoadIfResource(pszSrc))
-    {
         SetString(pszSrc);
-    }
 }
 
 template <typename BaseType>
 CStringT<BaseType>::CStringT(PCYSTR pszSrc) : CStringT()
 {
     if (!LoadIfResource(pszSrc))
-    {
         *this = pszSrc;
-    }
 }
 
 template <typename BaseType>
@@ -291,9 +256,7 @@ CStringT<BaseType>::CStringT(char ch, int nLength) : CStringT()
     CStringT strOne;
     strOne = ch;
     if (nLength > 0 && !strOne.IsEmpty())
-    {
         std::fill_n(GetBufferSetLength(nLength), nLength, strOne[0]);
-    }
 }
 
 template <typename BaseType>
@@ -302,9 +265,7 @@ CStringT<BaseType>::CStringT(wchar_t ch, int nLength) : CStringT()
     CStringT strOne;
     strOne = ch;
     for (int i = 0; i < nLength; ++i)
-    {
         *this += strOne; // one wide character may take several narrow ones
-    }
 }
 
 template <typename BaseType>
@@ -317,14 +278,12 @@ template <typename BaseType>
 CStringT<BaseType>::CStringT(PCYSTR pch, int nLength) : CStringT()
 {
     if (nLength < 0 || (pch == nullptr && nLength > 0))
-    {
         AfxThrowInvalidArgException();
-    }
     SetConverted(pch, nLength);
 }
 
 template <typename BaseType>
-CStringT<BaseType>::~CStringT() throw()
+CStringT<BaseType>::~CStringT() noexcept
 {
     Release(GetData());
 }
@@ -334,9 +293,7 @@ CStringT<BaseType>& CStringT<BaseType>::operator=(const CStringT& strSrc)
 {
     CStringData* const pSrcData = strSrc.GetData();
     if (pSrcData == GetData())
-    {
         return *this;
-    }
     if (GetData()->IsLocked() || pSrcData->IsLocked())
     {
         SetString(strSrc, strSrc.GetLength());
@@ -354,9 +311,7 @@ template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::operator=(CStringT&& strSrc)
 {
     if (GetData()->IsLocked() || strSrc.GetData()->IsLocked())
-    {
         return *this = static_cast<const CStringT&>(strSrc); // a lock stays with its string and its buffer
-    }
     std::swap(m_pszData, strSrc.m_pszData);
     return *this;
 }
@@ -371,7 +326,7 @@ CStringT<BaseType>& CStringT<BaseType>::operator=(PCXSTR pszSrc)
 template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::operator=(PCYSTR pszSrc)
 {
-    SetConverted(pszSrc, pszSrc != nullptr ? int(Length(pszSrc)) : 0);
+    SetConverted(pszSrc, pszSrc != nullptr ? int(AfxText::Length(pszSrc)) : 0);
     return *this;
 }
 
@@ -399,48 +354,44 @@ template <typename BaseType>
 bool CStringT<BaseType>::LoadIfResource(const void* pszSrc)
 {
     if (pszSrc == nullptr || !IS_INTRESOURCE(pszSrc))
-    {
         return false;
-    }
     const UINT nID = LOWORD(reinterpret_cast<DWORD_PTR>(pszSrc));
     if (!LoadString(nID))
-    {
         TRACE(L"Warning: there is no string resource %u.\n", nID);
-    }
     return true;
 }
 
 template <typename BaseType>
 void CStringT<BaseType>::SetConverted(PCYSTR pch, int nLength)
 {
-    const int nNewLength = nLength > 0 ? ConvertText(pch, nLength, PXSTR(nullptr), 0) : 0;
+    const int nNewLength = nLength > 0 ? AfxText::ConvertText(pch, nLength, PXSTR(nullptr), 0) : 0;
     if (nNewLength == 0)
     {
         Empty();
         return;
     }
     PXSTR const pBuffer = GetBuffer(nNewLength);
-    ConvertText(pch, nLength, pBuffer, nNewLength);
+    AfxText::ConvertText(pch, nLength, pBuffer, nNewLength);
     SetLength(nNewLength);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // The whole string
 
 template <typename BaseType>
-int CStringT<BaseType>::GetLength() const throw()
+int CStringT<BaseType>::GetLength() const noexcept
 {
     return GetData()->nDataLength;
 }
 
 template <typename BaseType>
-bool CStringT<BaseType>::IsEmpty() const throw()
+bool CStringT<BaseType>::IsEmpty() const noexcept
 {
     return GetLength() == 0;
 }
 
 template <typename BaseType>
-void CStringT<BaseType>::Empty() throw()
+void CStringT<BaseType>::Empty() noexcept
 {
     CStringData* const pData = GetData();
     if (pData->IsLocked())
@@ -455,13 +406,13 @@ void CStringT<BaseType>::Empty() throw()
 }
 
 template <typename BaseType>
-typename CStringT<BaseType>::PCXSTR CStringT<BaseType>::GetString() const throw()
+typename CStringT<BaseType>::PCXSTR CStringT<BaseType>::GetString() const noexcept
 {
     return m_pszData;
 }
 
 template <typename BaseType>
-CStringT<BaseType>::operator PCXSTR() const throw()
+CStringT<BaseType>::operator PCXSTR() const noexcept
 {
     return m_pszData;
 }
@@ -472,14 +423,12 @@ void CStringT<BaseType>::SetString(PCXSTR pszSrc)
     SetString(pszSrc, StringLength(pszSrc));
 }
 
-// Here and in Append the source may be a part of this string: the old buffer goes only after it was copied.
+/// Here and in Append the source may be a part of this string: the old buffer goes only after it was copied.
 template <typename BaseType>
 void CStringT<BaseType>::SetString(PCXSTR pszSrc, int nLength)
 {
     if (nLength < 0 || (pszSrc == nullptr && nLength > 0))
-    {
         AfxThrowInvalidArgException();
-    }
     if (nLength == 0)
     {
         Empty();
@@ -491,18 +440,14 @@ void CStringT<BaseType>::SetString(PCXSTR pszSrc, int nLength)
     CopyText<XCHAR>(TextOf<XCHAR>(pTarget), pszSrc, nLength);
     SetTextLength<XCHAR>(pTarget, nLength);
     if (!bInPlace)
-    {
         ReplaceData(pTarget);
-    }
 }
 
 template <typename BaseType>
 typename CStringT<BaseType>::XCHAR CStringT<BaseType>::GetAt(int iChar) const
 {
     if (iChar < 0 || iChar > GetLength())
-    {
         AfxThrowInvalidArgException();
-    }
     return m_pszData[iChar];
 }
 
@@ -516,13 +461,11 @@ template <typename BaseType>
 void CStringT<BaseType>::SetAt(int iChar, XCHAR ch)
 {
     if (iChar < 0 || iChar >= GetLength())
-    {
         AfxThrowInvalidArgException();
-    }
     GetBuffer()[iChar] = ch;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Appending
 
 template <typename BaseType>
@@ -535,13 +478,9 @@ template <typename BaseType>
 void CStringT<BaseType>::Append(PCXSTR pszSrc, int nLength)
 {
     if (nLength < 0 || (pszSrc == nullptr && nLength > 0))
-    {
         AfxThrowInvalidArgException();
-    }
     if (nLength == 0)
-    {
         return;
-    }
     CStringData* const pData = GetData();
     const int nOldLength = pData->nDataLength;
     const int nNewLength = AddLengths(nOldLength, nLength);
@@ -551,9 +490,7 @@ void CStringT<BaseType>::Append(PCXSTR pszSrc, int nLength)
     CopyText<XCHAR>(TextOf<XCHAR>(pTarget) + nOldLength, pszSrc, nLength);
     SetTextLength<XCHAR>(pTarget, nNewLength);
     if (!bInPlace)
-    {
         ReplaceData(pTarget);
-    }
 }
 
 template <typename BaseType>
@@ -612,44 +549,44 @@ CStringT<BaseType> CStringT<BaseType>::Concatenate(PCXSTR pch1, int nLength1, PC
     return str;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Comparison
 
 template <typename BaseType>
 int CStringT<BaseType>::Compare(PCXSTR psz) const
 {
     CheckText(psz);
-    return CompareText(m_pszData, psz);
+    return AfxText::CompareText(m_pszData, psz);
 }
 
 template <typename BaseType>
 int CStringT<BaseType>::CompareNoCase(PCXSTR psz) const
 {
     CheckText(psz);
-    return CompareTextNoCase(m_pszData, psz);
+    return AfxText::CompareTextNoCase(m_pszData, psz);
 }
 
 template <typename BaseType>
 int CStringT<BaseType>::Collate(PCXSTR psz) const
 {
     CheckText(psz);
-    return CollateText(m_pszData, psz);
+    return AfxText::CollateText(m_pszData, psz);
 }
 
 template <typename BaseType>
 int CStringT<BaseType>::CollateNoCase(PCXSTR psz) const
 {
     CheckText(psz);
-    return CollateTextNoCase(m_pszData, psz);
+    return AfxText::CollateTextNoCase(m_pszData, psz);
 }
 
 template <typename BaseType>
-bool CStringT<BaseType>::EqualsChar(XCHAR ch) const throw()
+bool CStringT<BaseType>::EqualsChar(XCHAR ch) const noexcept
 {
     return GetLength() == 1 && m_pszData[0] == ch;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Parts
 
 template <typename BaseType>
@@ -682,51 +619,49 @@ template <typename BaseType>
 CStringT<BaseType> CStringT<BaseType>::SpanIncluding(PCXSTR pszCharSet) const
 {
     CheckText(pszCharSet);
-    return Left(int(SpanOf(m_pszData, pszCharSet)));
+    return Left(int(AfxText::SpanOf(m_pszData, pszCharSet)));
 }
 
 template <typename BaseType>
 CStringT<BaseType> CStringT<BaseType>::SpanExcluding(PCXSTR pszCharSet) const
 {
     CheckText(pszCharSet);
-    return Left(int(SpanNotOf(m_pszData, pszCharSet)));
+    return Left(int(AfxText::SpanNotOf(m_pszData, pszCharSet)));
 }
 
 template <typename BaseType>
 CStringT<BaseType> CStringT<BaseType>::Tokenize(PCXSTR pszTokens, int& iStart) const
 {
     if (iStart < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     static const XCHAR szNone[] = {0};
     PCXSTR const pszSeparators = pszTokens != nullptr ? pszTokens : szNone;
     const int nFrom = std::min(iStart, GetLength());
-    const int nFirst = nFrom + int(SpanOf(m_pszData + nFrom, pszSeparators));
+    const int nFirst = nFrom + int(AfxText::SpanOf(m_pszData + nFrom, pszSeparators));
     if (nFirst >= GetLength())
     {
         iStart = -1;
         return CStringT();
     }
-    const int nLength = int(SpanNotOf(m_pszData + nFirst, pszSeparators));
+    const int nLength = int(AfxText::SpanNotOf(m_pszData + nFirst, pszSeparators));
     iStart = nFirst + nLength + 1;
     return Mid(nFirst, nLength);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Changes in place
 
 template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::MakeUpper()
 {
-    UpperCase(GetBuffer());
+    AfxText::UpperCase(GetBuffer());
     return *this;
 }
 
 template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::MakeLower()
 {
-    LowerCase(GetBuffer());
+    AfxText::LowerCase(GetBuffer());
     return *this;
 }
 
@@ -744,9 +679,7 @@ void CStringT<BaseType>::TrimLeftIf(PREDICATE isTarget)
 {
     int nTargets = 0;
     while (nTargets < GetLength() && isTarget(m_pszData[nTargets]))
-    {
         ++nTargets;
-    }
     Delete(0, nTargets);
 }
 
@@ -756,16 +689,14 @@ void CStringT<BaseType>::TrimRightIf(PREDICATE isTarget)
 {
     int nLength = GetLength();
     while (nLength > 0 && isTarget(m_pszData[nLength - 1]))
-    {
         --nLength;
-    }
     Truncate(nLength);
 }
 
 template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::TrimLeft()
 {
-    TrimLeftIf([](XCHAR ch) { return IsSpace(ch); });
+    TrimLeftIf([](XCHAR ch) { return AfxText::IsSpace(ch); });
     return *this;
 }
 
@@ -781,7 +712,8 @@ CStringT<BaseType>& CStringT<BaseType>::TrimLeft(PCXSTR pszTargets)
 {
     if (pszTargets != nullptr)
     {
-        TrimLeftIf([pszTargets](XCHAR ch) { return ch != 0 && FindChar(pszTargets, ch) != nullptr; });
+        TrimLeftIf([pszTargets](XCHAR ch)
+                   { return ch != 0 && AfxText::FindChar(pszTargets, ch) != nullptr; });
     }
     return *this;
 }
@@ -789,7 +721,7 @@ CStringT<BaseType>& CStringT<BaseType>::TrimLeft(PCXSTR pszTargets)
 template <typename BaseType>
 CStringT<BaseType>& CStringT<BaseType>::TrimRight()
 {
-    TrimRightIf([](XCHAR ch) { return IsSpace(ch); });
+    TrimRightIf([](XCHAR ch) { return AfxText::IsSpace(ch); });
     return *this;
 }
 
@@ -805,7 +737,8 @@ CStringT<BaseType>& CStringT<BaseType>::TrimRight(PCXSTR pszTargets)
 {
     if (pszTargets != nullptr)
     {
-        TrimRightIf([pszTargets](XCHAR ch) { return ch != 0 && FindChar(pszTargets, ch) != nullptr; });
+        TrimRightIf([pszTargets](XCHAR ch)
+                    { return ch != 0 && AfxText::FindChar(pszTargets, ch) != nullptr; });
     }
     return *this;
 }
@@ -861,9 +794,7 @@ int CStringT<BaseType>::Replace(PCXSTR pszOld, PCXSTR pszNew)
 {
     const int nOldLength = StringLength(pszOld);
     if (nOldLength == 0)
-    {
         return 0;
-    }
     const int nNewLength = StringLength(pszNew);
     CStringT strResult;
     int nReplaced = 0;
@@ -888,9 +819,7 @@ int CStringT<BaseType>::Remove(XCHAR chRemove)
 {
     const int nOldLength = GetLength();
     if (Find(chRemove) < 0)
-    {
         return 0;
-    }
     PXSTR const pBuffer = GetBuffer();
     SetLength(int(std::remove(pBuffer, pBuffer + nOldLength, chRemove) - pBuffer));
     return nOldLength - GetLength();
@@ -931,46 +860,42 @@ int CStringT<BaseType>::Delete(int iIndex, int nCount)
     return GetLength();
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Searching
 
 template <typename BaseType>
-int CStringT<BaseType>::Find(XCHAR ch, int iStart) const throw()
+int CStringT<BaseType>::Find(XCHAR ch, int iStart) const noexcept
 {
     if (iStart < 0 || iStart >= GetLength())
-    {
         return -1;
-    }
-    PCXSTR const pszHit = FindChar(m_pszData + iStart, ch);
+    PCXSTR const pszHit = AfxText::FindChar(m_pszData + iStart, ch);
     return pszHit != nullptr ? int(pszHit - m_pszData) : -1;
 }
 
 template <typename BaseType>
-int CStringT<BaseType>::Find(PCXSTR pszSub, int iStart) const throw()
+int CStringT<BaseType>::Find(PCXSTR pszSub, int iStart) const noexcept
 {
     if (pszSub == nullptr || iStart < 0 || iStart > GetLength())
-    {
         return -1;
-    }
-    PCXSTR const pszHit = FindText(m_pszData + iStart, pszSub);
+    PCXSTR const pszHit = AfxText::FindText(m_pszData + iStart, pszSub);
     return pszHit != nullptr ? int(pszHit - m_pszData) : -1;
 }
 
 template <typename BaseType>
-int CStringT<BaseType>::FindOneOf(PCXSTR pszCharSet) const throw()
+int CStringT<BaseType>::FindOneOf(PCXSTR pszCharSet) const noexcept
 {
-    const int nHit = pszCharSet != nullptr ? int(SpanNotOf(m_pszData, pszCharSet)) : GetLength();
+    const int nHit = pszCharSet != nullptr ? int(AfxText::SpanNotOf(m_pszData, pszCharSet)) : GetLength();
     return nHit < GetLength() ? nHit : -1;
 }
 
 template <typename BaseType>
-int CStringT<BaseType>::ReverseFind(XCHAR ch) const throw()
+int CStringT<BaseType>::ReverseFind(XCHAR ch) const noexcept
 {
-    PCXSTR const pszHit = ch != 0 ? FindLastChar(m_pszData, ch) : nullptr;
+    PCXSTR const pszHit = ch != 0 ? AfxText::FindLastChar(m_pszData, ch) : nullptr;
     return pszHit != nullptr ? int(pszHit - m_pszData) : -1;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Formatting
 
 template <typename BaseType>
@@ -979,14 +904,12 @@ void CStringT<BaseType>::FormatV(PCXSTR pszFormat, va_list args)
     CheckText(pszFormat);
     va_list argsToMeasure;
     va_copy(argsToMeasure, args);
-    const int nLength = FormattedLength(pszFormat, argsToMeasure);
+    const int nLength = AfxText::FormattedLength(pszFormat, argsToMeasure);
     va_end(argsToMeasure);
     if (nLength < 0)
-    {
         AfxThrowInvalidArgException();
-    }
     CStringT strResult; // this string may be one of the arguments
-    FormatText(strResult.GetBuffer(nLength), nLength + 1, pszFormat, args);
+    AfxText::FormatText(strResult.GetBuffer(nLength), nLength + 1, pszFormat, args);
     strResult.SetLength(nLength);
     *this = static_cast<CStringT&&>(strResult);
 }
@@ -1004,11 +927,9 @@ void CStringT<BaseType>::FormatMessageV(PCXSTR pszFormat, va_list* pArgList)
 {
     CheckText(pszFormat);
     PXSTR pszText = nullptr;
-    const DWORD nLength = FormatSystemText(pszFormat, &pszText, pArgList);
+    const DWORD nLength = AfxText::FormatSystemText(pszFormat, &pszText, pArgList);
     if (nLength == 0 && ::GetLastError() == ERROR_NOT_ENOUGH_MEMORY)
-    {
         AfxThrowMemoryException();
-    }
     const std::unique_ptr<void, HLOCAL(WINAPI*)(HLOCAL)> memory(pszText, &::LocalFree);
     SetString(pszText, int(nLength));
 }
@@ -1048,14 +969,14 @@ CStringT<BaseType> CStringT<BaseType>::LoadFormat(UINT nFormatID)
     return strFormat;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Sources outside the program
 
 template <typename BaseType>
 BOOL CStringT<BaseType>::LoadString(UINT nID)
 {
     const HINSTANCE hInstance = AfxFindStringResourceHandle(nID);
-    return hInstance != NULL && LoadString(hInstance, nID);
+    return hInstance != nullptr && LoadString(hInstance, nID);
 }
 
 template <typename BaseType>
@@ -1075,12 +996,10 @@ BOOL CStringT<BaseType>::GetEnvironmentVariable(PCXSTR pszVar)
 {
     CheckText(pszVar);
     Empty();
-    const DWORD nSize = ReadEnvironment(pszVar, nullptr, 0); // with the terminator
+    const DWORD nSize = AfxText::ReadEnvironment(pszVar, nullptr, 0); // with the terminator
     if (nSize == 0)
-    {
         return FALSE;
-    }
-    ReleaseBufferSetLength(int(ReadEnvironment(pszVar, GetBuffer(int(nSize)), nSize)));
+    ReleaseBufferSetLength(int(AfxText::ReadEnvironment(pszVar, GetBuffer(int(nSize)), nSize)));
     return TRUE;
 }
 
@@ -1089,10 +1008,8 @@ BSTR CStringT<BaseType>::AllocSysString() const
 {
     const CStringW strWide(m_pszData, GetLength());
     const BSTR bstr = ::SysAllocStringLen(strWide, UINT(strWide.GetLength()));
-    if (bstr == NULL)
-    {
+    if (bstr == nullptr)
         AfxThrowMemoryException();
-    }
     return bstr;
 }
 
@@ -1101,13 +1018,11 @@ BSTR CStringT<BaseType>::SetSysString(BSTR* pbstr) const
 {
     const CStringW strWide(m_pszData, GetLength());
     if (!::SysReAllocStringLen(pbstr, strWide, UINT(strWide.GetLength())))
-    {
         AfxThrowMemoryException();
-    }
     return *pbstr;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Direct access
 
 template <typename BaseType>
@@ -1151,12 +1066,10 @@ typename CStringT<BaseType>::PXSTR CStringT<BaseType>::LockBuffer()
 }
 
 template <typename BaseType>
-void CStringT<BaseType>::UnlockBuffer() throw()
+void CStringT<BaseType>::UnlockBuffer() noexcept
 {
     if (GetData()->IsLocked())
-    {
         GetData()->nRefs = 1;
-    }
 }
 
 template <typename BaseType>
@@ -1164,9 +1077,7 @@ void CStringT<BaseType>::FreeExtra()
 {
     const int nLength = GetLength();
     if (nLength == GetAllocLength())
-    {
         return;
-    }
     if (nLength == 0)
     {
         Empty();
@@ -1185,15 +1096,27 @@ void CStringT<BaseType>::Preallocate(int nLength)
 }
 
 template <typename BaseType>
-int CStringT<BaseType>::GetAllocLength() const throw()
+int CStringT<BaseType>::GetAllocLength() const noexcept
 {
     return GetData()->nAllocLength;
 }
 
 template <typename BaseType>
-int CStringT<BaseType>::StringLength(PCXSTR psz) throw()
+int CStringT<BaseType>::StringLength(PCXSTR psz) noexcept
 {
-    return psz != nullptr ? int(Length(psz)) : 0;
+    return psz != nullptr ? int(AfxText::Length(psz)) : 0;
+}
+
+template <typename BaseType>
+void CStringT<BaseType>::CopyChars(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept
+{
+    CopyText<XCHAR>(pchDest, pchSrc, nChars);
+}
+
+template <typename BaseType>
+void CStringT<BaseType>::CopyCharsOverlapped(XCHAR* pchDest, const XCHAR* pchSrc, int nChars) noexcept
+{
+    CopyText<XCHAR>(pchDest, pchSrc, nChars);
 }
 
 template class CStringT<wchar_t>;

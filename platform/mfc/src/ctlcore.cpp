@@ -1,11 +1,12 @@
 // The classic controls.
 
-#include <afxwin.h>
+#include "drawn.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // CStatic
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
+IMPLEMENT_DRAWN_CONTROL(CStatic)
 
 CStatic::CStatic() = default;
 
@@ -19,23 +20,11 @@ HENHMETAFILE CStatic::SetEnhMetaFile(HENHMETAFILE hMetaFile)
     return AfxSend<HENHMETAFILE>(STM_SETIMAGE, IMAGE_ENHMETAFILE, hMetaFile);
 }
 
-BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CStatic::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn static must draw itself
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // CButton
 
 IMPLEMENT_DYNAMIC(CButton, CWnd)
+IMPLEMENT_DRAWN_CONTROL(CButton)
 
 CButton::CButton() = default;
 
@@ -58,19 +47,6 @@ BOOL CButton::SetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
 BOOL CButton::GetImageList(PBUTTON_IMAGELIST pbuttonImagelist) const
 {
     return AfxSend<BOOL>(BCM_GETIMAGELIST, 0, pbuttonImagelist);
-}
-
-BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CButton::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn button must draw itself
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -120,16 +96,6 @@ int CListBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
     return AfxSend<int>(LB_SETITEMDATA, nIndex, dwItemData);
 }
 
-void CListBox::GetText(int nIndex, CString& rString) const
-{
-    rString.Empty();
-    const int length = GetTextLen(nIndex);
-    if (length == LB_ERR)
-        return;
-    GetText(nIndex, rString.GetBufferSetLength(length));
-    rString.ReleaseBuffer();
-}
-
 int CListBox::SetItemHeight(int nIndex, UINT cyItemHeight)
 {
     return AfxSend<int>(LB_SETITEMHEIGHT, nIndex, MAKELPARAM(cyItemHeight, 0));
@@ -150,31 +116,56 @@ int CListBox::SelectString(int nStartAfter, LPCTSTR lpszItem)
     return AfxSend<int>(LB_SELECTSTRING, nStartAfter, lpszItem);
 }
 
-BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
+namespace
+{
+/// The text of an item in a string, empty where there is no such item.
+template <class ReadText>
+void ReadItemText(CString& text, int length, ReadText read)
+{
+    text.Empty();
+    if (length == LB_ERR)
+        return;
+    read(text.GetBufferSetLength(length));
+    text.ReleaseBuffer();
+}
+
+/// The owner-drawing messages that list boxes and combo boxes share; false for another message.
+template <class List>
+bool NotifyDrawnList(List& list, UINT message, LPARAM lParam, LRESULT* pLResult)
 {
     switch (message)
     {
     case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
+        list.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return true;
     case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
+        list.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return true;
     case WM_COMPAREITEM:
-        *pLResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
+        *pLResult = list.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        return true;
     case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    case WM_VKEYTOITEM:
-        *pLResult = VKeyToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
-    case WM_CHARTOITEM:
-        *pLResult = CharToItem(LOWORD(wParam), HIWORD(wParam));
-        break;
+        list.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return true;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
+        return false;
     }
+}
+} // namespace
+
+void CListBox::GetText(int nIndex, CString& rString) const
+{
+    ReadItemText(rString, GetTextLen(nIndex), [&](LPTSTR buffer) { GetText(nIndex, buffer); });
+}
+
+BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
+{
+    if (NotifyDrawnList(*this, message, lParam, pLResult))
+        return TRUE;
+    if (message != WM_VKEYTOITEM && message != WM_CHARTOITEM)
+        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
+    *pLResult = message == WM_VKEYTOITEM ? VKeyToItem(LOWORD(wParam), HIWORD(wParam))
+                                         : CharToItem(LOWORD(wParam), HIWORD(wParam));
     return TRUE;
 }
 
@@ -237,12 +228,7 @@ int CComboBox::SetItemData(int nIndex, DWORD_PTR dwItemData)
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const
 {
-    rString.Empty();
-    const int length = GetLBTextLen(nIndex);
-    if (length == CB_ERR)
-        return;
-    GetLBText(nIndex, rString.GetBufferSetLength(length));
-    rString.ReleaseBuffer();
+    ReadItemText(rString, GetLBTextLen(nIndex), [&](LPTSTR buffer) { GetLBText(nIndex, buffer); });
 }
 
 int CComboBox::SetItemHeight(int nIndex, UINT cyItemHeight)
@@ -272,24 +258,8 @@ int CComboBox::SelectString(int nStartAfter, LPCTSTR lpszString)
 
 BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
 {
-    switch (message)
-    {
-    case WM_DRAWITEM:
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        break;
-    case WM_MEASUREITEM:
-        MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
-        break;
-    case WM_COMPAREITEM:
-        *pLResult = CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        break;
-    case WM_DELETEITEM:
-        DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
-        break;
-    default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    }
-    return TRUE;
+    return NotifyDrawnList(*this, message, lParam, pLResult) ||
+           CWnd::OnChildNotify(message, wParam, lParam, pLResult);
 }
 
 void CComboBox::DrawItem(LPDRAWITEMSTRUCT)

@@ -45,33 +45,22 @@ CDC* PASCAL CDC::FromHandle(HDC hDC)
 
 void PASCAL CDC::DeleteTempMap()
 {
-    if (CDCMap* map = CDCMap::OfThreadIfAny())
-        map->DeleteTemp();
+    DeleteTempOfThread<CDC>();
 }
 
 BOOL CDC::Attach(HDC hDC)
 {
-    ASSERT(m_hDC == nullptr);
     ASSERT(m_hAttribDC == nullptr);
-    if (hDC == nullptr)
+    if (!AttachHandle(*this, m_hDC, hDC))
         return FALSE;
-    m_hDC = hDC;
-    CDCMap::OfThread().SetPermanent(hDC, this);
     SetAttribDC(hDC);
     return TRUE;
 }
 
 HDC CDC::Detach()
 {
-    const HDC dc = m_hDC;
-    if (dc != nullptr)
-    {
-        if (CDCMap* map = CDCMap::OfThreadIfAny())
-            map->RemoveHandle(dc);
-    }
     ReleaseAttribDC();
-    m_hDC = nullptr;
-    return dc;
+    return DetachHandle(*this, m_hDC);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -205,11 +194,6 @@ CBrush* CDC::GetCurrentBrush() const
     return CurrentObject<CBrush>(m_hAttribDC, OBJ_BRUSH);
 }
 
-CPalette* CDC::GetCurrentPalette() const
-{
-    return CurrentObject<CPalette>(m_hAttribDC, OBJ_PAL);
-}
-
 CFont* CDC::GetCurrentFont() const
 {
     return CurrentObject<CFont>(m_hAttribDC, OBJ_FONT);
@@ -218,15 +202,6 @@ CFont* CDC::GetCurrentFont() const
 CBitmap* CDC::GetCurrentBitmap() const
 {
     return CurrentObject<CBitmap>(m_hDC, OBJ_BITMAP);
-}
-
-// ---------------------------------------------------------------------------------------------------------
-// Colours and palettes
-
-CPalette* CDC::SelectPalette(CPalette* pPalette, BOOL bForceBackground)
-{
-    const auto palette = static_cast<HPALETTE>(SafeObject(pPalette));
-    return CPalette::FromHandle(::SelectPalette(m_hDC, palette, bForceBackground));
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -409,7 +384,7 @@ void CDC::LPtoDP(LPSIZE lpSize) const
 
 namespace
 {
-constexpr int HIMETRIC_PER_INCH = 2540;
+constexpr int himetricPerInch = 2540;
 
 /// Whether the mapping mode has physical units of its own, which then decide, and not the logical inch.
 bool IsPhysicalMode(int mode)
@@ -442,8 +417,8 @@ void CDC::DPtoHIMETRIC(LPSIZE lpSize) const
         DPtoLP(lpSize);
         return;
     }
-    lpSize->cx = ::MulDiv(lpSize->cx, HIMETRIC_PER_INCH, GetDeviceCaps(LOGPIXELSX));
-    lpSize->cy = ::MulDiv(lpSize->cy, HIMETRIC_PER_INCH, GetDeviceCaps(LOGPIXELSY));
+    lpSize->cx = ::MulDiv(lpSize->cx, himetricPerInch, GetDeviceCaps(LOGPIXELSX));
+    lpSize->cy = ::MulDiv(lpSize->cy, himetricPerInch, GetDeviceCaps(LOGPIXELSY));
 }
 
 void CDC::HIMETRICtoDP(LPSIZE lpSize) const
@@ -454,8 +429,8 @@ void CDC::HIMETRICtoDP(LPSIZE lpSize) const
         LPtoDP(lpSize);
         return;
     }
-    lpSize->cx = ::MulDiv(lpSize->cx, GetDeviceCaps(LOGPIXELSX), HIMETRIC_PER_INCH);
-    lpSize->cy = ::MulDiv(lpSize->cy, GetDeviceCaps(LOGPIXELSY), HIMETRIC_PER_INCH);
+    lpSize->cx = ::MulDiv(lpSize->cx, GetDeviceCaps(LOGPIXELSX), himetricPerInch);
+    lpSize->cy = ::MulDiv(lpSize->cy, GetDeviceCaps(LOGPIXELSY), himetricPerInch);
 }
 
 void CDC::LPtoHIMETRIC(LPSIZE lpSize) const

@@ -137,13 +137,13 @@ void CDC::FrameRect(LPCRECT lpRect, CBrush* pBrush)
 namespace
 {
 /// The type of a DrawState picture stands in the low four bits; the kind of call decides it, not the caller.
-constexpr UINT DRAWSTATE_TYPE_MASK = 0x000F;
+constexpr UINT drawStateTypeMask = 0x000F;
 
 BOOL DrawStateOf(HDC dc, UINT type, LPARAM picture, WPARAM extra, CPoint pt, CSize size, UINT flags,
                  HBRUSH brush, DRAWSTATEPROC procedure = nullptr)
 {
     return ::DrawState(dc, brush, procedure, picture, extra, pt.x, pt.y, size.cx, size.cy,
-                       (flags & ~DRAWSTATE_TYPE_MASK) | type);
+                       (flags & ~drawStateTypeMask) | type);
 }
 } // namespace
 
@@ -442,7 +442,7 @@ int CDC::DrawText(LPCTSTR lpszString, int nCount, LPRECT lpRect, UINT nFormat)
 namespace
 {
 /// Room that DT_MODIFYSTRING may need beyond the text, for an ellipsis.
-constexpr int MODIFYSTRING_EXTRA = 4;
+constexpr int modifyStringExtra = 4;
 
 /// Draws from a copy of the string with room to be shortened in place, and gives the string what was drawn.
 template <class Draw>
@@ -452,7 +452,7 @@ int DrawModifiable(const CString& str, UINT format, Draw draw)
     if ((format & DT_MODIFYSTRING) == 0)
         return draw(const_cast<LPTSTR>(str.GetString()), length);
 
-    std::vector<TCHAR> buffer(length + MODIFYSTRING_EXTRA + 1);
+    std::vector<TCHAR> buffer(length + modifyStringExtra + 1);
     std::copy_n(str.GetString(), length, buffer.begin());
     const int height = draw(buffer.data(), length);
     const_cast<CString&>(str) = buffer.data();
@@ -533,6 +533,11 @@ CSize CDC::GetOutputTabbedTextExtent(LPCTSTR lpszString, int nCount, int nTabPos
 CSize CDC::GetOutputTabbedTextExtent(const CString& str, int nTabPositions, LPINT lpnTabStopPositions) const
 {
     return TabbedTextExtent(m_hDC, str, str.GetLength(), nTabPositions, lpnTabStopPositions);
+}
+
+BOOL CDC::GetTextExtentPointI(LPWORD pgiIn, int cgi, LPSIZE lpSize) const
+{
+    return ::GetTextExtentPointI(m_hAttribDC, pgiIn, cgi, lpSize);
 }
 
 BOOL CDC::GetTextExtentExPointI(LPWORD pgiIn, int cgi, int nMaxExtent, LPINT lpnFit, LPINT alpDx,
@@ -626,6 +631,16 @@ BOOL CDC::GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABC lpabc) const
 BOOL CDC::GetCharABCWidths(UINT nFirstChar, UINT nLastChar, LPABCFLOAT lpABCF) const
 {
     return ::GetCharABCWidthsFloat(m_hAttribDC, nFirstChar, nLastChar, lpABCF);
+}
+
+BOOL CDC::GetCharWidthI(UINT giFirst, UINT cgi, LPWORD pgi, LPINT lpBuffer) const
+{
+    return ::GetCharWidthI(m_hAttribDC, giFirst, cgi, pgi, lpBuffer);
+}
+
+BOOL CDC::GetCharABCWidthsI(UINT giFirst, UINT cgi, LPWORD pgi, LPABC lpabc) const
+{
+    return ::GetCharABCWidthsI(m_hAttribDC, giFirst, cgi, pgi, lpabc);
 }
 
 DWORD CDC::SetMapperFlags(DWORD dwFlag)

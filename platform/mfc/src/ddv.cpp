@@ -58,45 +58,20 @@ bool IsComboBox(HWND window)
 }
 } // namespace
 
-void AFXAPI DDV_MinMaxByte(CDataExchange* pDX, BYTE value, BYTE minVal, BYTE maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxShort(CDataExchange* pDX, short value, short minVal, short maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxLong(CDataExchange* pDX, long value, long minVal, long maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxUInt(CDataExchange* pDX, UINT value, UINT minVal, UINT maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxDWord(CDataExchange* pDX, DWORD value, DWORD minVal, DWORD maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxLongLong(CDataExchange* pDX, LONGLONG value, LONGLONG minVal, LONGLONG maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
-
-void AFXAPI DDV_MinMaxULongLong(CDataExchange* pDX, ULONGLONG value, ULONGLONG minVal, ULONGLONG maxVal)
-{
-    CheckInteger(pDX, value, minVal, maxVal);
-}
+#define IMPLEMENT_DDV_MINMAX(name, number_type)                                                              \
+    void AFXAPI DDV_MinMax##name(CDataExchange* pDX, number_type value, number_type minVal,                  \
+                                 number_type maxVal)                                                         \
+    {                                                                                                        \
+        CheckInteger(pDX, value, minVal, maxVal);                                                            \
+    }
+IMPLEMENT_DDV_MINMAX(Byte, BYTE)
+IMPLEMENT_DDV_MINMAX(Short, short)
+IMPLEMENT_DDV_MINMAX(Int, int)
+IMPLEMENT_DDV_MINMAX(Long, long)
+IMPLEMENT_DDV_MINMAX(UInt, UINT)
+IMPLEMENT_DDV_MINMAX(DWord, DWORD)
+IMPLEMENT_DDV_MINMAX(LongLong, LONGLONG)
+IMPLEMENT_DDV_MINMAX(ULongLong, ULONGLONG)
 
 void AFXAPI DDV_MinMaxFloat(CDataExchange* pDX, const float& value, float minVal, float maxVal)
 {

@@ -123,61 +123,41 @@ bool ParseReal(LPCTSTR text, double& value)
     return true;
 }
 
-LPCTSTR const PROMPT_BYTE = L"Please enter a whole number from 0 to 255.";
-LPCTSTR const PROMPT_INTEGER = L"Please enter a whole number.";
-LPCTSTR const PROMPT_UNSIGNED = L"Please enter a whole number that is not negative.";
-LPCTSTR const PROMPT_REAL = L"Please enter a number.";
+LPCTSTR const promptReal = L"Please enter a number.";
 
 template <class Number>
-void ExchangeInteger(CDataExchange* pDX, int nIDC, Number& value, LPCTSTR prompt)
+LPCTSTR PromptFor()
+{
+    if (std::is_same_v<Number, BYTE>)
+        return L"Please enter a whole number from 0 to 255.";
+    return std::is_unsigned_v<Number> ? L"Please enter a whole number that is not negative."
+                                      : L"Please enter a whole number.";
+}
+
+template <class Number>
+void ExchangeInteger(CDataExchange* pDX, int nIDC, Number& value)
 {
     const HWND control = pDX->PrepareEditCtrl(nIDC);
     if (!pDX->m_bSaveAndValidate)
         ShowText(control, std::to_wstring(value).c_str());
     else if (!ParseInteger(TextOf(control), value))
-        Refuse(pDX, prompt);
+        Refuse(pDX, PromptFor<Number>());
 }
 } // namespace
 
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, BYTE& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_BYTE);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, short& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_INTEGER);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, int& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_INTEGER);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, UINT& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_UNSIGNED);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, long& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_INTEGER);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, DWORD& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_UNSIGNED);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, LONGLONG& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_INTEGER);
-}
-
-void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, ULONGLONG& value)
-{
-    ExchangeInteger(pDX, nIDC, value, PROMPT_UNSIGNED);
-}
+#define IMPLEMENT_DDX_TEXT(number_type)                                                                      \
+    void AFXAPI DDX_Text(CDataExchange* pDX, int nIDC, number_type& value)                                   \
+    {                                                                                                        \
+        ExchangeInteger(pDX, nIDC, value);                                                                   \
+    }
+IMPLEMENT_DDX_TEXT(BYTE)
+IMPLEMENT_DDX_TEXT(short)
+IMPLEMENT_DDX_TEXT(int)
+IMPLEMENT_DDX_TEXT(UINT)
+IMPLEMENT_DDX_TEXT(long)
+IMPLEMENT_DDX_TEXT(DWORD)
+IMPLEMENT_DDX_TEXT(LONGLONG)
+IMPLEMENT_DDX_TEXT(ULONGLONG)
 
 void AFXAPI AfxTextFloatFormat(CDataExchange* pDX, int nIDC, void* pData, double value, int nSizeGcvt)
 {
@@ -191,7 +171,7 @@ void AFXAPI AfxTextFloatFormat(CDataExchange* pDX, int nIDC, void* pData, double
     }
     double read = 0;
     if (!ParseReal(TextOf(control), read))
-        Refuse(pDX, PROMPT_REAL);
+        Refuse(pDX, promptReal);
     // The number of digits tells which of the two types `pData` points to.
     if (nSizeGcvt == FLT_DIG)
         *static_cast<float*>(pData) = static_cast<float>(read);
@@ -285,27 +265,43 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
 
 namespace
 {
-CString ListText(HWND list, int index)
+/// The text of the list's selected item; a combo box shows its own.
+CString SelectedText(HWND list)
 {
     CString text;
+    const auto index = static_cast<int>(::SendMessage(list, LB_GETCURSEL, 0, 0));
     const auto length = static_cast<int>(::SendMessage(list, LB_GETTEXTLEN, index, 0));
-    if (length == LB_ERR)
+    if (index == LB_ERR || length == LB_ERR)
         return text;
     ::SendMessage(list, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
     text.ReleaseBuffer();
     return text;
 }
 
-void SaveListText(HWND list, CString& value)
+/// Looks for a text in the whole list by `findMessage` and selects what was found; false if nothing was.
+bool SelectText(HWND list, UINT findMessage, UINT selectMessage, LPCTSTR text)
 {
-    const auto index = static_cast<int>(::SendMessage(list, LB_GETCURSEL, 0, 0));
-    value = index == LB_ERR ? CString() : ListText(list, index);
+    const LRESULT index =
+        ::SendMessage(list, findMessage, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+    return index != LB_ERR && ::SendMessage(list, selectMessage, index, 0) != LB_ERR;
 }
 
-/// Sends a message that looks for a text in the whole list.
-LRESULT Search(HWND list, UINT message, LPCTSTR text)
+void ExchangeListText(CDataExchange* pDX, int nIDC, CString& value, UINT findMessage)
 {
-    return ::SendMessage(list, message, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+    const HWND list = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = SelectedText(list);
+    else if (!SelectText(list, findMessage, LB_SETCURSEL, value))
+        TRACE(L"List %d has no item for the text.\n", nIDC);
+}
+
+void ExchangeComboText(CDataExchange* pDX, int nIDC, CString& value, UINT findMessage)
+{
+    const HWND combo = pDX->PrepareCtrl(nIDC);
+    if (pDX->m_bSaveAndValidate)
+        value = TextOf(combo);
+    else if (!SelectText(combo, findMessage, CB_SETCURSEL, value))
+        ShowText(combo, value); // typed text need not stand in the list
 }
 
 void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT getMessage, UINT setMessage)
@@ -320,22 +316,12 @@ void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT getMessage, UI
 
 void AFXAPI DDX_LBString(CDataExchange* pDX, int nIDC, CString& value)
 {
-    const HWND list = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        SaveListText(list, value);
-    else if (Search(list, LB_SELECTSTRING, value) == LB_ERR)
-        TRACE(L"No item of list %d begins with the text.\n", nIDC);
+    ExchangeListText(pDX, nIDC, value, LB_FINDSTRING);
 }
 
 void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& value)
 {
-    const HWND list = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        SaveListText(list, value);
-    else if (const LRESULT index = Search(list, LB_FINDSTRINGEXACT, value); index != LB_ERR)
-        ::SendMessage(list, LB_SETCURSEL, index, 0);
-    else
-        TRACE(L"No item of list %d is the text.\n", nIDC);
+    ExchangeListText(pDX, nIDC, value, LB_FINDSTRINGEXACT);
 }
 
 void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index)
@@ -345,22 +331,12 @@ void AFXAPI DDX_LBIndex(CDataExchange* pDX, int nIDC, int& index)
 
 void AFXAPI DDX_CBString(CDataExchange* pDX, int nIDC, CString& value)
 {
-    const HWND combo = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        value = TextOf(combo);
-    else if (Search(combo, CB_SELECTSTRING, value) == CB_ERR)
-        ShowText(combo, value); // typed text need not stand in the list
+    ExchangeComboText(pDX, nIDC, value, CB_FINDSTRING);
 }
 
 void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value)
 {
-    const HWND combo = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        value = TextOf(combo);
-    else if (const LRESULT index = Search(combo, CB_FINDSTRINGEXACT, value); index != CB_ERR)
-        ::SendMessage(combo, CB_SETCURSEL, index, 0);
-    else
-        ShowText(combo, value);
+    ExchangeComboText(pDX, nIDC, value, CB_FINDSTRINGEXACT);
 }
 
 void AFXAPI DDX_CBIndex(CDataExchange* pDX, int nIDC, int& index)

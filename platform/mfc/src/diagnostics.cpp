@@ -1,10 +1,11 @@
 // Assertions, traces, checks of addresses, and dumps.
+
 #include <afx.h>
 
 #include <cstdarg>
 #include <cstdint>
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Assertions
 
 namespace
@@ -12,17 +13,17 @@ namespace
 bool HasStandardError()
 {
     const HANDLE hError = ::GetStdHandle(STD_ERROR_HANDLE);
-    return hError != NULL && hError != INVALID_HANDLE_VALUE;
+    return hError != nullptr && hError != INVALID_HANDLE_VALUE;
 }
 
 void WriteStandardError(const CStringA& strText)
 {
     DWORD dwWritten = 0;
-    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), strText, DWORD(strText.GetLength()), &dwWritten, NULL);
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), strText, DWORD(strText.GetLength()), &dwWritten, nullptr);
 }
 } // namespace
 
-// Whether to break. Ignore in the message box means not to.
+/// Whether to break. Ignore in the message box means not to.
 BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine)
 {
     CStringA strText;
@@ -34,11 +35,9 @@ BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine)
         return TRUE;
     }
     const UINT nType = MB_ABORTRETRYIGNORE | MB_ICONHAND | MB_TASKMODAL | MB_SETFOREGROUND;
-    const int nAnswer = ::MessageBoxA(NULL, strText, "Assertion failed", nType);
+    const int nAnswer = ::MessageBoxA(nullptr, strText, "Assertion failed", nType);
     if (nAnswer == IDABORT)
-    {
         AfxAbort();
-    }
     return nAnswer != IDIGNORE;
 }
 
@@ -52,13 +51,9 @@ void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nL
     const bool bReadable = pOb != nullptr && AfxIsValidAddress(pOb, sizeof(CObject), FALSE) &&
                            AfxIsValidAddress(*reinterpret_cast<void* const*>(pOb), sizeof(void*), FALSE);
     if (bReadable)
-    {
         pOb->AssertValid();
-    }
     else if (AfxAssertFailedLine(lpszFileName, nLine))
-    {
         AfxDebugBreak();
-    }
 }
 
 void AFXAPI AfxAbort()
@@ -66,7 +61,7 @@ void AFXAPI AfxAbort()
     abort();
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Traces
 
 void AFX_CDECL AfxTraceVarArgs(LPCWSTR lpszFormat, ...)
@@ -89,7 +84,7 @@ void AFX_CDECL AfxTraceVarArgs(LPCSTR lpszFormat, ...)
     ::OutputDebugStringA(strText);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Checks of addresses
 
 namespace
@@ -98,15 +93,13 @@ constexpr DWORD dwWritable =
     PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
 constexpr DWORD dwReadable = dwWritable | PAGE_READONLY | PAGE_EXECUTE_READ;
 
-// The end of the run of pages of one kind that p lies in, or null if they do not give the access asked for.
+/// The end of the run of pages of one kind that p lies in, or null if they do not give the access asked for.
 const BYTE* FindRegionEnd(const void* p, DWORD dwAccess)
 {
     MEMORY_BASIC_INFORMATION info;
     if (::VirtualQuery(p, &info, sizeof(info)) == 0 || info.State != MEM_COMMIT ||
         (info.Protect & PAGE_GUARD) != 0 || (info.Protect & dwAccess) == 0)
-    {
         return nullptr;
-    }
     return static_cast<const BYTE*>(info.BaseAddress) + info.RegionSize;
 }
 
@@ -114,13 +107,9 @@ template <typename CH>
 BOOL IsReadableText(const CH* lpsz, int nLength)
 {
     if (lpsz == nullptr)
-    {
         return FALSE;
-    }
     if (nLength >= 0)
-    {
         return AfxIsValidAddress(lpsz, UINT_PTR(nLength) * sizeof(CH), FALSE);
-    }
     const BYTE* pEnd = nullptr;
     for (;; ++lpsz)
     {
@@ -130,14 +119,10 @@ BOOL IsReadableText(const CH* lpsz, int nLength)
         {
             if (FindRegionEnd(lpsz, dwReadable) == nullptr ||
                 (pEnd = FindRegionEnd(pLast, dwReadable)) == nullptr)
-            {
                 return FALSE;
-            }
         }
         if (*lpsz == 0)
-        {
             return TRUE;
-        }
     }
 }
 } // namespace
@@ -145,17 +130,13 @@ BOOL IsReadableText(const CH* lpsz, int nLength)
 BOOL AFXAPI AfxIsValidAddress(const void* lp, UINT_PTR nBytes, BOOL bReadWrite)
 {
     if (lp == nullptr || nBytes > UINTPTR_MAX - reinterpret_cast<UINT_PTR>(lp))
-    {
         return FALSE;
-    }
     const BYTE* const pEnd = static_cast<const BYTE*>(lp) + nBytes;
     for (const BYTE* p = static_cast<const BYTE*>(lp); p < pEnd;)
     {
         p = FindRegionEnd(p, bReadWrite ? dwWritable : dwReadable);
         if (p == nullptr)
-        {
             return FALSE;
-        }
     }
     return TRUE;
 }
@@ -170,7 +151,7 @@ BOOL AFXAPI AfxIsValidString(LPCSTR lpsz, int nLength)
     return IsReadableText(lpsz, nLength);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CDumpContext
 
 CDumpContext afxDump;
@@ -187,13 +168,9 @@ CDumpContext::CDumpContext(CFile* pFile) : m_pFile(pFile), m_nDepth(0)
 void CDumpContext::OutputString(LPCWSTR lpsz)
 {
     if (m_pFile != nullptr)
-    {
         m_pFile->Write(lpsz, UINT(wcslen(lpsz) * sizeof(WCHAR)));
-    }
     else
-    {
         ::OutputDebugStringW(lpsz);
-    }
 }
 
 template <typename... ARGS>
@@ -206,12 +183,12 @@ static CString Formatted(LPCTSTR lpszFormat, ARGS... args)
 
 CDumpContext& CDumpContext::operator<<(LPCSTR lpsz)
 {
-    return *this << static_cast<LPCWSTR>(lpsz != nullptr ? CStringW(lpsz) : CStringW(L"(NULL)"));
+    return *this << static_cast<LPCWSTR>(lpsz != nullptr ? CStringW(lpsz) : CStringW(L"(nullptr)"));
 }
 
 CDumpContext& CDumpContext::operator<<(LPCWSTR lpsz)
 {
-    OutputString(lpsz != nullptr ? lpsz : L"(NULL)");
+    OutputString(lpsz != nullptr ? lpsz : L"(nullptr)");
     return *this;
 }
 
@@ -236,6 +213,11 @@ CDumpContext& CDumpContext::operator<<(ULONGLONG n)
     return *this << static_cast<LPCWSTR>(Formatted(L"%I64u", n));
 }
 
+CDumpContext& CDumpContext::DumpAsHex(ULONGLONG n)
+{
+    return *this << static_cast<LPCWSTR>(Formatted(L"0x%I64X", n));
+}
+
 CDumpContext& CDumpContext::operator<<(double d)
 {
     return *this << static_cast<LPCWSTR>(Formatted(L"%g", d));
@@ -246,9 +228,7 @@ void CDumpContext::HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth)
     for (int i = 0; i < nBytes; ++i)
     {
         if (i % nWidth == 0)
-        {
             *this << (i > 0 ? L"\n" : L"") << lpszLine;
-        }
         *this << static_cast<LPCWSTR>(Formatted(L" %02X", pby[i]));
     }
     *this << L"\n";
@@ -257,7 +237,5 @@ void CDumpContext::HexDump(LPCTSTR lpszLine, BYTE* pby, int nBytes, int nWidth)
 void CDumpContext::Flush()
 {
     if (m_pFile != nullptr)
-    {
         m_pFile->Flush();
-    }
 }

@@ -11,7 +11,7 @@
 namespace
 {
 constexpr int maxFrames = 100;
-constexpr ULONG maxSymbolName = 256; // characters
+constexpr ULONG maxSymbolName = 256; ///< characters
 
 /// The debug help library, loaded when a stack is dumped and not before. Serves one dump on one thread.
 class CDebugHelp

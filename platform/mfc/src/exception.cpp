@@ -1,9 +1,10 @@
 // CException, the simple exceptions, and the chain of handlers behind the CATCH macros.
+
 #include <afxwin.h>
 
 #include "messages.h"
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CException
 
 IMPLEMENT_DYNAMIC(CException, CObject)
@@ -21,21 +22,15 @@ CException::~CException() = default;
 void CException::Delete()
 {
     if (m_bAutoDelete)
-    {
         delete this;
-    }
 }
 
 BOOL CException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
 {
     if (pnHelpContext != nullptr)
-    {
         *pnHelpContext = 0;
-    }
     if (lpszError != nullptr && nMaxError > 0)
-    {
         lpszError[0] = 0;
-    }
     return FALSE;
 }
 
@@ -44,17 +39,13 @@ int CException::ReportError(UINT nType, UINT nMessageID)
     TCHAR szError[512];
     UINT nHelpContext = 0;
     if (GetErrorMessage(szError, UINT(_countof(szError)), &nHelpContext))
-    {
         return AfxMessageBox(szError, nType, nHelpContext);
-    }
     if (nMessageID != 0)
-    {
         return AfxMessageBox(nMessageID, nType, nHelpContext);
-    }
     return AfxMessageBox(AfxFindMessage(AFX_IDP_NO_ERROR_AVAILABLE), nType, nHelpContext);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CSimpleException
 
 IMPLEMENT_DYNAMIC(CSimpleException, CException)
@@ -92,14 +83,10 @@ void CSimpleException::InitString()
 BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext)
 {
     if (!m_bInitialized)
-    {
         InitString();
-    }
     CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
     if (m_bLoaded && lpszError != nullptr && nMaxError > 0)
-    {
         lstrcpyn(lpszError, m_szMessage, int(nMaxError));
-    }
     return m_bLoaded;
 }
 
@@ -119,12 +106,12 @@ AFX_IMPLEMENT_SIMPLE_EXCEPTION(CUserException, AFX_IDS_USER_EXCEPTION)
 AFX_IMPLEMENT_SIMPLE_EXCEPTION(CInvalidArgException, AFX_IDS_INVALID_ARG_EXCEPTION)
 // clang-format on
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Throwing
 
 namespace
 {
-// Throws the one object of its class, which lives as long as the library.
+/// Throws the one object of its class, which lives as long as the library.
 template <typename EXCEPTION>
 [[noreturn]] void ThrowStatic()
 {
@@ -158,7 +145,7 @@ void AFXAPI AfxThrowInvalidArgException()
     ThrowStatic<CInvalidArgException>();
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Handlers
 
 static thread_local AFX_EXCEPTION_LINK* pTopLink = nullptr;
@@ -172,20 +159,14 @@ AFX_EXCEPTION_LINK::~AFX_EXCEPTION_LINK()
 {
     pTopLink = m_pLinkPrev;
     if (m_pException != nullptr)
-    {
         m_pException->Delete();
-    }
 }
 
 void AFXAPI AfxThrowLastCleanup()
 {
     AFX_EXCEPTION_LINK* pLink = pTopLink;
     while (pLink != nullptr && pLink->m_pException == nullptr)
-    {
         pLink = pLink->m_pLinkPrev;
-    }
     if (pLink != nullptr)
-    {
         pLink->m_pException = nullptr;
-    }
 }

@@ -1,4 +1,5 @@
 // CFile: files over system handles.
+
 #include "filesys.h"
 
 #include <shlwapi.h>
@@ -13,9 +14,7 @@ CString AfxFullPath(LPCTSTR lpszPath)
 {
     const DWORD nSize = ::GetFullPathName(lpszPath, 0, nullptr, nullptr); // with the terminator
     if (nSize == 0)
-    {
         return lpszPath;
-    }
     CString strFullPath;
     const DWORD nLength = ::GetFullPathName(lpszPath, nSize, strFullPath.GetBuffer(int(nSize)), nullptr);
     strFullPath.ReleaseBufferSetLength(nLength < nSize ? int(nLength) : 0);
@@ -48,7 +47,7 @@ DWORD AccessOf(UINT nOpenFlags)
     }
 }
 
-// Sharing that is not mentioned is exclusive.
+/// Sharing that is not mentioned is exclusive.
 DWORD ShareModeOf(UINT nOpenFlags)
 {
     switch (nOpenFlags & 0x70)
@@ -67,9 +66,7 @@ DWORD ShareModeOf(UINT nOpenFlags)
 DWORD CreationOf(UINT nOpenFlags)
 {
     if ((nOpenFlags & CFile::modeCreate) == 0)
-    {
         return OPEN_EXISTING;
-    }
     return (nOpenFlags & CFile::modeNoTruncate) != 0 ? OPEN_ALWAYS : CREATE_ALWAYS;
 }
 
@@ -77,34 +74,24 @@ DWORD AttributesOf(UINT nOpenFlags)
 {
     DWORD dwAttributes = FILE_ATTRIBUTE_NORMAL;
     if ((nOpenFlags & CFile::osNoBuffer) != 0)
-    {
         dwAttributes |= FILE_FLAG_NO_BUFFERING;
-    }
     if ((nOpenFlags & CFile::osWriteThrough) != 0)
-    {
         dwAttributes |= FILE_FLAG_WRITE_THROUGH;
-    }
     if ((nOpenFlags & CFile::osRandomAccess) != 0)
-    {
         dwAttributes |= FILE_FLAG_RANDOM_ACCESS;
-    }
     if ((nOpenFlags & CFile::osSequentialScan) != 0)
-    {
         dwAttributes |= FILE_FLAG_SEQUENTIAL_SCAN;
-    }
     return dwAttributes;
 }
 
 void ThrowIfFailed(BOOL bSucceeded, LPCTSTR lpszFileName)
 {
     if (!bSucceeded)
-    {
         CFileException::ThrowOsError(LONG(::GetLastError()), lpszFileName);
-    }
 }
 } // namespace
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Opening and closing
 
 CFile::CFile() : CFile(hFileNull)
@@ -119,17 +106,13 @@ CFile::CFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CFile()
 {
     CFileException e;
     if (!CFile::Open(lpszFileName, nOpenFlags, &e))
-    {
         AfxThrowFileException(e.m_cause, e.m_lOsError, e.m_strFileName);
-    }
 }
 
 CFile::~CFile()
 {
     if (m_bCloseOnDelete)
-    {
         CFile::Abort(); // a destructor has nobody to tell of a failure
-    }
 }
 
 BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
@@ -138,9 +121,9 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
     m_hFile = hFileNull;
     m_strFileName = AfxFullPath(lpszFileName);
 
-    SECURITY_ATTRIBUTES security = {sizeof(security), NULL, (nOpenFlags & modeNoInherit) == 0};
+    SECURITY_ATTRIBUTES security = {sizeof(security), nullptr, (nOpenFlags & modeNoInherit) == 0};
     const HANDLE hFile = ::CreateFile(lpszFileName, AccessOf(nOpenFlags), ShareModeOf(nOpenFlags), &security,
-                                      CreationOf(nOpenFlags), AttributesOf(nOpenFlags), NULL);
+                                      CreationOf(nOpenFlags), AttributesOf(nOpenFlags), nullptr);
     if (hFile == INVALID_HANDLE_VALUE)
     {
         const LONG lOsError = LONG(::GetLastError());
@@ -154,7 +137,7 @@ BOOL CFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
 CFile* CFile::Duplicate() const
 {
     const HANDLE hProcess = ::GetCurrentProcess();
-    HANDLE hFile = NULL;
+    HANDLE hFile = nullptr;
     ThrowIfFailed(::DuplicateHandle(hProcess, m_hFile, hProcess, &hFile, 0, FALSE, DUPLICATE_SAME_ACCESS),
                   m_strFileName);
     std::unique_ptr<CFile> pFile(new CFile(hFile));
@@ -177,9 +160,7 @@ void CFile::Abort()
 void CFile::Flush()
 {
     if (m_hFile != hFileNull)
-    {
         ThrowIfFailed(::FlushFileBuffers(m_hFile), m_strFileName);
-    }
 }
 
 void CFile::Close()
@@ -188,34 +169,28 @@ void CFile::Close()
     m_hFile = hFileNull;
     m_bCloseOnDelete = FALSE;
     m_strFileName.Empty();
-    ThrowIfFailed(bClosed, NULL);
+    ThrowIfFailed(bClosed, nullptr);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Contents
 
 UINT CFile::Read(void* lpBuf, UINT nCount)
 {
     DWORD dwRead = 0;
     if (nCount > 0)
-    {
-        ThrowIfFailed(::ReadFile(m_hFile, lpBuf, nCount, &dwRead, NULL), m_strFileName);
-    }
+        ThrowIfFailed(::ReadFile(m_hFile, lpBuf, nCount, &dwRead, nullptr), m_strFileName);
     return dwRead;
 }
 
 void CFile::Write(const void* lpBuf, UINT nCount)
 {
     if (nCount == 0)
-    {
         return;
-    }
     DWORD dwWritten = 0;
-    ThrowIfFailed(::WriteFile(m_hFile, lpBuf, nCount, &dwWritten, NULL), m_strFileName);
+    ThrowIfFailed(::WriteFile(m_hFile, lpBuf, nCount, &dwWritten, nullptr), m_strFileName);
     if (dwWritten != nCount)
-    {
         AfxThrowFileException(CFileException::diskFull, -1, m_strFileName);
-    }
 }
 
 ULONGLONG CFile::Seek(LONGLONG lOff, UINT nFrom)
@@ -260,7 +235,7 @@ void CFile::UnlockRange(ULONGLONG dwPos, ULONGLONG dwCount)
         m_strFileName);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Names and status
 
 CString CFile::GetFileName() const
@@ -293,9 +268,7 @@ BOOL PASCAL CFile::GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus)
     lstrcpyn(rStatus.m_szFullName, AfxFullPath(lpszFileName), int(_countof(rStatus.m_szFullName)));
     WIN32_FILE_ATTRIBUTE_DATA data;
     if (!::GetFileAttributesEx(lpszFileName, GetFileExInfoStandard, &data))
-    {
         return FALSE;
-    }
     rStatus.m_size = ULONGLONG(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
     rStatus.m_attribute = BYTE(data.dwFileAttributes);
     return TRUE;
@@ -311,13 +284,13 @@ void PASCAL CFile::Remove(LPCTSTR lpszFileName)
     ThrowIfFailed(::DeleteFile(lpszFileName), lpszFileName);
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Diagnostics
 
 void CFile::AssertValid() const
 {
     CObject::AssertValid();
-    ASSERT(m_hFile != NULL);
+    ASSERT(m_hFile != nullptr);
 }
 
 void CFile::Dump(CDumpContext& dc) const

@@ -1,4 +1,5 @@
 // CFileException: causes of failed file operations from the codes of the system and the run-time library.
+
 #include <afx.h>
 
 #include "messages.h"
@@ -71,12 +72,8 @@ template <size_t COUNT>
 int FindCause(const CauseOfError (&causes)[COUNT], int nError)
 {
     for (const CauseOfError& entry : causes)
-    {
         if (entry.nError == nError)
-        {
             return entry.cause;
-        }
-    }
     return CFileException::genericException;
 }
 } // namespace
@@ -103,17 +100,13 @@ int PASCAL CFileException::ErrnoToException(int nErrno)
 void PASCAL CFileException::ThrowOsError(LONG lOsError, LPCTSTR lpszFileName)
 {
     if (lOsError != 0)
-    {
         AfxThrowFileException(OsErrorToException(lOsError), lOsError, lpszFileName);
-    }
 }
 
 void PASCAL CFileException::ThrowErrno(int nErrno, LPCTSTR lpszFileName)
 {
     if (nErrno != 0)
-    {
         AfxThrowFileException(ErrnoToException(nErrno), LONG(_doserrno), lpszFileName);
-    }
 }
 
 void CFileException::Dump(CDumpContext& dc) const
@@ -126,9 +119,7 @@ BOOL CFileException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnH
 {
     CException::GetErrorMessage(lpszError, nMaxError, pnHelpContext);
     if (lpszError == nullptr || nMaxError == 0)
-    {
         return FALSE;
-    }
     const bool bKnown = m_cause >= none && m_cause <= endOfFile;
     LPCTSTR const lpszFormat = AfxFindMessage(AFX_IDP_FILE_NONE + UINT(bKnown ? m_cause : genericException));
     LPCTSTR const lpszFile =

@@ -1,4 +1,4 @@
-// GDI objects: the handle map, and the classes of pens, brushes, fonts, bitmaps, palettes and regions.
+// GDI objects: the handle map, and the classes of pens, brushes, fonts, bitmaps and regions.
 
 #include <afxwin.h>
 
@@ -36,30 +36,17 @@ CGdiObject* PASCAL CGdiObject::FromHandle(HGDIOBJ hObject)
 
 void PASCAL CGdiObject::DeleteTempMap()
 {
-    if (CGdiMap* map = CGdiMap::OfThreadIfAny())
-        map->DeleteTemp();
+    DeleteTempOfThread<CGdiObject>();
 }
 
 BOOL CGdiObject::Attach(HGDIOBJ hObject)
 {
-    ASSERT(m_hObject == nullptr);
-    if (hObject == nullptr)
-        return FALSE;
-    m_hObject = hObject;
-    CGdiMap::OfThread().SetPermanent(hObject, this);
-    return TRUE;
+    return AttachHandle(*this, m_hObject, hObject);
 }
 
 HGDIOBJ CGdiObject::Detach()
 {
-    const HGDIOBJ object = m_hObject;
-    if (object != nullptr)
-    {
-        if (CGdiMap* map = CGdiMap::OfThreadIfAny())
-            map->RemoveHandle(object);
-    }
-    m_hObject = nullptr;
-    return object;
+    return DetachHandle(*this, m_hObject);
 }
 
 BOOL CGdiObject::DeleteObject()
@@ -272,50 +259,6 @@ CSize CBitmap::GetBitmapDimension() const
     CSize size;
     ::GetBitmapDimensionEx(*this, &size);
     return size;
-}
-
-// ---------------------------------------------------------------------------------------------------------
-// CPalette
-
-IMPLEMENT_DYNAMIC(CPalette, CGdiObject)
-
-CPalette::CPalette() = default;
-
-CPalette* PASCAL CPalette::FromHandle(HPALETTE hPalette)
-{
-    return static_cast<CPalette*>(CGdiObject::FromHandle(hPalette));
-}
-
-BOOL CPalette::CreateHalftonePalette(CDC* pDC)
-{
-    return Attach(::CreateHalftonePalette(SafeHdc(pDC)));
-}
-
-int CPalette::GetEntryCount()
-{
-    WORD count = 0;
-    ::GetObject(m_hObject, sizeof(count), &count);
-    return count;
-}
-
-UINT CPalette::GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const
-{
-    return ::GetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
-}
-
-UINT CPalette::SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
-{
-    return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
-}
-
-void CPalette::AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
-{
-    ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
-}
-
-BOOL CPalette::ResizePalette(UINT nNumEntries)
-{
-    return ::ResizePalette(*this, nNumEntries);
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -17,6 +17,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <utility>
 
 /// Says how a family of objects keeps its handle: the member type `Handle` and `Assign(object, handle)`.
 /// A family whose objects hold a handle twice, as CDC does, assigns both.
@@ -135,4 +136,31 @@ void CHandleMap<Object>::DeleteTemp()
     m_temporary.clear();
     for (auto& entry : temporary)
         Traits::Assign(*entry.second, nullptr);
+}
+
+/// What the families' Attach, Detach and DeleteTempMap do. `member` is where the object keeps its handle.
+template <class Object, class Handle>
+BOOL AttachHandle(Object& object, Handle& member, Handle handle)
+{
+    ASSERT(member == nullptr);
+    if (handle == nullptr)
+        return FALSE;
+    member = handle;
+    CHandleMap<Object>::OfThread().SetPermanent(handle, &object);
+    return TRUE;
+}
+
+template <class Object, class Handle>
+Handle DetachHandle(Object&, Handle& member)
+{
+    if (CHandleMap<Object>* map = CHandleMap<Object>::OfThreadIfAny())
+        map->RemoveHandle(member);
+    return std::exchange(member, nullptr);
+}
+
+template <class Object>
+void DeleteTempOfThread()
+{
+    if (CHandleMap<Object>* map = CHandleMap<Object>::OfThreadIfAny())
+        map->DeleteTemp();
 }

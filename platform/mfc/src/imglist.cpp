@@ -38,30 +38,17 @@ CImageList* PASCAL CImageList::FromHandlePermanent(HIMAGELIST hImageList)
 
 void PASCAL CImageList::DeleteTempMap()
 {
-    if (CImageListMap* map = CImageListMap::OfThreadIfAny())
-        map->DeleteTemp();
+    DeleteTempOfThread<CImageList>();
 }
 
 BOOL CImageList::Attach(HIMAGELIST hImageList)
 {
-    ASSERT(m_hImageList == nullptr);
-    if (hImageList == nullptr)
-        return FALSE;
-    m_hImageList = hImageList;
-    CImageListMap::OfThread().SetPermanent(hImageList, this);
-    return TRUE;
+    return AttachHandle(*this, m_hImageList, hImageList);
 }
 
 HIMAGELIST CImageList::Detach()
 {
-    const HIMAGELIST list = m_hImageList;
-    if (list != nullptr)
-    {
-        if (CImageListMap* map = CImageListMap::OfThreadIfAny())
-            map->RemoveHandle(list);
-    }
-    m_hImageList = nullptr;
-    return list;
+    return DetachHandle(*this, m_hImageList);
 }
 
 // ---------------------------------------------------------------------------------------------------------

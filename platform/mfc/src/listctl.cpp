@@ -7,9 +7,8 @@
 // ---------------------------------------------------------------------------------------------------------
 // CListCtrl
 
-IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
-
-CListCtrl::CListCtrl() = default;
+IMPLEMENT_COMMON_CONTROL(CListCtrl, ICC_LISTVIEW_CLASSES, WC_LISTVIEW)
+IMPLEMENT_DRAWN_CONTROL(CListCtrl)
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
@@ -17,26 +16,9 @@ BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
 END_MESSAGE_MAP()
 // clang-format on
 
-BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_LISTVIEW_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
 void CListCtrl::OnDestroy()
 {
-    // The control would destroy lists that belong to an object.
-    for (int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
-    {
-        const auto images = AfxSend<HIMAGELIST>(LVM_GETIMAGELIST, kind);
-        if (CImageList::FromHandlePermanent(images) != nullptr)
-            AfxSend(LVM_SETIMAGELIST, kind);
-    }
+    ReleaseImageLists(m_hWnd, LVM_GETIMAGELIST, LVM_SETIMAGELIST, {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE});
     CWnd::OnDestroy();
 }
 
@@ -95,23 +77,29 @@ CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
 }
 
-BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
+namespace
+{
+LVBKIMAGE BackgroundOf(ULONG source, BOOL tile, int xOffsetPercent, int yOffsetPercent)
 {
     LVBKIMAGE image = {};
-    image.ulFlags = LVBKIF_SOURCE_HBITMAP | (fTile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
-    image.hbm = hbm;
+    image.ulFlags = source | (tile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
     image.xOffsetPercent = xOffsetPercent;
     image.yOffsetPercent = yOffsetPercent;
+    return image;
+}
+} // namespace
+
+BOOL CListCtrl::SetBkImage(HBITMAP hbm, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
+{
+    LVBKIMAGE image = BackgroundOf(LVBKIF_SOURCE_HBITMAP, fTile, xOffsetPercent, yOffsetPercent);
+    image.hbm = hbm;
     return SetBkImage(&image);
 }
 
 BOOL CListCtrl::SetBkImage(LPTSTR pszUrl, BOOL fTile, int xOffsetPercent, int yOffsetPercent)
 {
-    LVBKIMAGE image = {};
-    image.ulFlags = LVBKIF_SOURCE_URL | (fTile ? LVBKIF_STYLE_TILE : LVBKIF_STYLE_NORMAL);
+    LVBKIMAGE image = BackgroundOf(LVBKIF_SOURCE_URL, fTile, xOffsetPercent, yOffsetPercent);
     image.pszImage = pszUrl;
-    image.xOffsetPercent = xOffsetPercent;
-    image.yOffsetPercent = yOffsetPercent;
     return SetBkImage(&image);
 }
 
@@ -273,6 +261,11 @@ int CListCtrl::GetNextSelectedItem(POSITION& pos) const
     return item;
 }
 
+int CListCtrl::InsertMarkHitTest(LPPOINT pPoint, LPLVINSERTMARK lvim) const
+{
+    return AfxSend<int>(LVM_INSERTMARKHITTEST, pPoint, lvim);
+}
+
 // ---------------------------------------------------------------------------------------------------------
 // Columns
 
@@ -380,17 +373,4 @@ CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)
 DWORD CListCtrl::ApproximateViewRect(CSize sz, int iCount) const
 {
     return AfxSend<DWORD>(LVM_APPROXIMATEVIEWRECT, iCount, MAKELPARAM(sz.cx, sz.cy));
-}
-
-BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pLResult)
-{
-    if (message != WM_DRAWITEM)
-        return CWnd::OnChildNotify(message, wParam, lParam, pLResult);
-    DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-    return TRUE;
-}
-
-void CListCtrl::DrawItem(LPDRAWITEMSTRUCT)
-{
-    ASSERT(FALSE); // an owner-drawn list must draw its items
 }

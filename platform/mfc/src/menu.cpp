@@ -39,30 +39,17 @@ CMenu* PASCAL CMenu::FromHandle(HMENU hMenu)
 
 void PASCAL CMenu::DeleteTempMap()
 {
-    if (CMenuMap* map = CMenuMap::OfThreadIfAny())
-        map->DeleteTemp();
+    DeleteTempOfThread<CMenu>();
 }
 
 BOOL CMenu::Attach(HMENU hMenu)
 {
-    ASSERT(m_hMenu == nullptr);
-    if (hMenu == nullptr)
-        return FALSE;
-    m_hMenu = hMenu;
-    CMenuMap::OfThread().SetPermanent(hMenu, this);
-    return TRUE;
+    return AttachHandle(*this, m_hMenu, hMenu);
 }
 
 HMENU CMenu::Detach()
 {
-    const HMENU menu = m_hMenu;
-    if (menu != nullptr)
-    {
-        if (CMenuMap* map = CMenuMap::OfThreadIfAny())
-            map->RemoveHandle(menu);
-    }
-    m_hMenu = nullptr;
-    return menu;
+    return DetachHandle(*this, m_hMenu);
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -1,9 +1,10 @@
 // CObject, CRuntimeClass and the class list.
+
 #include <afx.h>
 
 #include <new>
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CObject
 
 const CRuntimeClass CObject::classCObject = {"CObject", sizeof(CObject), 0xFFFF, nullptr,
@@ -14,9 +15,7 @@ void* PASCAL CObject::operator new(size_t nSize)
 {
     void* const p = ::operator new(nSize, std::nothrow);
     if (p == nullptr)
-    {
         AfxThrowMemoryException();
-    }
     return p;
 }
 
@@ -49,12 +48,12 @@ CObject* AFXAPI AfxStaticDownCast([[maybe_unused]] CRuntimeClass* pClass, CObjec
     return pObject;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // The class list: one for the process, of all modules that are loaded
 
 namespace
 {
-// Neither has a constructor or destructor to run: classes come and go while modules load and unload.
+/// Neither has a constructor or destructor to run: classes come and go while modules load and unload.
 constinit SRWLOCK classListLock = SRWLOCK_INIT;
 constinit CRuntimeClass* pFirstClass = nullptr;
 
@@ -99,7 +98,7 @@ void AFXAPI AfxClassTerm(CRuntimeClass* pOldClass)
     }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // CRuntimeClass
 
 CObject* CRuntimeClass::CreateObject()
@@ -135,9 +134,7 @@ BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const
 {
     const CRuntimeClass* pClass = this;
     while (pClass != nullptr && pClass != pBaseClass)
-    {
         pClass = (*pClass->m_pfnGetBaseClass)();
-    }
     return pClass != nullptr;
 }
 
@@ -146,9 +143,7 @@ CRuntimeClass* PASCAL CRuntimeClass::FromName(LPCSTR lpszClassName)
     const ClassListGuard guard;
     CRuntimeClass* pClass = pFirstClass;
     while (pClass != nullptr && strcmp(pClass->m_lpszClassName, lpszClassName) != 0)
-    {
         pClass = pClass->m_pNextClass;
-    }
     return pClass;
 }
 

@@ -1,4 +1,5 @@
 // CStdioFile: buffered text files over run-time library streams.
+
 #include "filesys.h"
 
 #include <fcntl.h>
@@ -16,11 +17,11 @@ int StreamFlagsOf(UINT nOpenFlags)
     return nAccess[nOpenFlags & 3] | ((nOpenFlags & CFile::typeBinary) != 0 ? _O_BINARY : _O_TEXT);
 }
 
-// The mode does not create or truncate: the file is open already.
+/// The mode does not create or truncate: the file is open already.
 CString StreamModeOf(UINT nOpenFlags)
 {
-    LPCTSTR const lpszAccess[] = {_T("r"), _T("w"), _T("r+"), _T("r")};
-    return CString(lpszAccess[nOpenFlags & 3]) + ((nOpenFlags & CFile::typeBinary) != 0 ? _T("b") : _T("t"));
+    LPCTSTR const lpszAccess[] = {L"r", L"w", L"r+", L"r"};
+    return CString(lpszAccess[nOpenFlags & 3]) + ((nOpenFlags & CFile::typeBinary) != 0 ? L"b" : L"t");
 }
 
 HANDLE SystemHandleOf(FILE* pStream)
@@ -29,7 +30,7 @@ HANDLE SystemHandleOf(FILE* pStream)
 }
 } // namespace
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Opening and closing
 
 CStdioFile::CStdioFile() : m_pStream(nullptr), m_bBinary(FALSE), m_chPending(0)
@@ -46,17 +47,13 @@ CStdioFile::CStdioFile(LPCTSTR lpszFileName, UINT nOpenFlags) : CStdioFile()
 {
     CFileException e;
     if (!CStdioFile::Open(lpszFileName, nOpenFlags, &e))
-    {
         AfxThrowFileException(e.m_cause, e.m_lOsError, e.m_strFileName);
-    }
 }
 
 CStdioFile::~CStdioFile()
 {
     if (m_bCloseOnDelete)
-    {
         CStdioFile::Abort(); // a destructor has nobody to tell of a failure
-    }
 }
 
 BOOL CStdioFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError)
@@ -65,15 +62,11 @@ BOOL CStdioFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pEr
     m_bBinary = (nOpenFlags & typeBinary) != 0;
     m_chPending = 0;
     if (!CFile::Open(lpszFileName, nOpenFlags & ~UINT(typeText), pError))
-    {
         return FALSE;
-    }
 
     const int nDescriptor = _open_osfhandle(reinterpret_cast<intptr_t>(m_hFile), StreamFlagsOf(nOpenFlags));
     if (nDescriptor != -1)
-    {
         m_pStream = _wfdopen(nDescriptor, StreamModeOf(nOpenFlags));
-    }
     if (m_pStream == nullptr)
     {
         const int nError = errno;
@@ -91,9 +84,7 @@ BOOL CStdioFile::Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pEr
 void CStdioFile::Abort()
 {
     if (m_pStream != nullptr && m_bCloseOnDelete)
-    {
         fclose(m_pStream);
-    }
     m_pStream = nullptr;
     m_hFile = hFileNull; // went with the stream
     CFile::Abort();
@@ -102,9 +93,7 @@ void CStdioFile::Abort()
 void CStdioFile::Flush()
 {
     if (m_pStream != nullptr && fflush(m_pStream) != 0)
-    {
         AfxThrowFileException(CFileException::diskFull, LONG(_doserrno), m_strFileName);
-    }
 }
 
 void CStdioFile::Close()
@@ -116,20 +105,16 @@ void CStdioFile::Close()
     m_hFile = hFileNull; // went with the stream
     CFile::Close();
     if (!bClosed)
-    {
         AfxThrowFileException(CFileException::diskFull, lOsError, strFileName);
-    }
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Text
 
 void CStdioFile::WriteString(LPCTSTR lpsz)
 {
     if (lpsz == nullptr)
-    {
         AfxThrowInvalidArgException();
-    }
     if (m_bBinary)
     {
         WriteBytes(lpsz, UINT(_tcslen(lpsz) * sizeof(TCHAR)), CFileException::diskFull);
@@ -144,17 +129,11 @@ void CStdioFile::WriteString(LPCTSTR lpsz)
 LPTSTR CStdioFile::ReadString(LPTSTR lpsz, UINT nMax)
 {
     if (lpsz == nullptr || nMax == 0)
-    {
         AfxThrowInvalidArgException();
-    }
     UINT nLength = 0;
     while (nLength < nMax - 1 && ReadCharacter(lpsz[nLength]))
-    {
         if (lpsz[nLength++] == '\n')
-        {
             break;
-        }
-    }
     lpsz[nLength] = 0;
     return nLength > 0 || nMax == 1 ? lpsz : nullptr;
 }
@@ -177,7 +156,7 @@ BOOL CStdioFile::ReadString(CString& rString)
     return bRead;
 }
 
-// One UTF-16 code unit. False at the end of the file.
+/// One UTF-16 code unit. False at the end of the file.
 bool CStdioFile::ReadCharacter(TCHAR& ch)
 {
     if (m_chPending != 0)
@@ -187,14 +166,12 @@ bool CStdioFile::ReadCharacter(TCHAR& ch)
         return true;
     }
     if (m_bBinary)
-    {
         return Read(&ch, sizeof(ch)) == sizeof(ch);
-    }
     return ReadAnsiCharacter(ch);
 }
 
-// Reads bytes until they make a character of the ANSI code page. One that takes two units leaves the second
-// one pending; bytes that never make a character come out as the system's substitute for them.
+/// Reads bytes until they make a character of the ANSI code page. One that takes two units leaves the second
+/// one pending; bytes that never make a character come out as the system's substitute for them.
 bool CStdioFile::ReadAnsiCharacter(TCHAR& ch)
 {
     constexpr int nMaxBytes = 4;
@@ -208,19 +185,15 @@ bool CStdioFile::ReadAnsiCharacter(TCHAR& ch)
         nUnits = ::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, bytes, nBytes, units, nMaxBytes);
     }
     if (nBytes == 0)
-    {
         return false;
-    }
     if (nUnits == 0)
-    {
         ::MultiByteToWideChar(CP_ACP, 0, bytes, nBytes, units, nMaxBytes);
-    }
     ch = units[0];
     m_chPending = units[1];
     return true;
 }
 
-/////////////////////////////////////////////////////////////////////////////
+// ---------------------------------------------------------------------------------------------------------
 // Bytes
 
 UINT CStdioFile::Read(void* lpBuf, UINT nCount)
@@ -243,18 +216,14 @@ void CStdioFile::Write(const void* lpBuf, UINT nCount)
 void CStdioFile::WriteBytes(const void* lpBuf, UINT nCount, int causeOfFailure)
 {
     if (fwrite(lpBuf, 1, nCount, m_pStream) != nCount)
-    {
         AfxThrowFileException(causeOfFailure, LONG(_doserrno), m_strFileName);
-    }
 }
 
 ULONGLONG CStdioFile::Seek(LONGLONG lOff, UINT nFrom)
 {
     m_chPending = 0;
     if (_fseeki64(m_pStream, lOff, int(nFrom)) != 0)
-    {
         AfxThrowFileException(CFileException::badSeek, LONG(_doserrno), m_strFileName);
-    }
     return CStdioFile::GetPosition();
 }
 
@@ -262,9 +231,7 @@ ULONGLONG CStdioFile::GetPosition() const
 {
     const LONGLONG nPosition = _ftelli64(m_pStream);
     if (nPosition < 0)
-    {
         AfxThrowFileException(CFileException::invalidFile, LONG(_doserrno), m_strFileName);
-    }
     return ULONGLONG(nPosition);
 }
 
@@ -274,22 +241,16 @@ void CStdioFile::SetLength(ULONGLONG dwNewLen)
     Seek(LONGLONG(dwNewLen), begin);
     Flush();
     if (_chsize_s(_fileno(m_pStream), LONGLONG(dwNewLen)) != 0)
-    {
         AfxThrowFileException(CFileException::diskFull, LONG(_doserrno), m_strFileName);
-    }
 }
 
 ULONGLONG CStdioFile::GetLength() const
 {
     if (fflush(m_pStream) != 0) // what is still in the stream's buffer counts as well
-    {
         AfxThrowFileException(CFileException::diskFull, LONG(_doserrno), m_strFileName);
-    }
     const LONGLONG nLength = _filelengthi64(_fileno(m_pStream));
     if (nLength < 0)
-    {
         AfxThrowFileException(CFileException::badSeek, LONG(_doserrno), m_strFileName);
-    }
     return ULONGLONG(nLength);
 }
 

@@ -1,15 +1,14 @@
 // Texts with numbered inserts, and parts of separated texts.
+
 #include <afx.h>
 
 namespace
 {
-// The number of an insert from the character behind the percent sign (1 to 9, then A for 10 and so on), or 0.
+/// The number of an insert from the character behind the percent sign (1 to 9, then A for 10 and so on), or 0.
 int InsertNumber(TCHAR ch)
 {
     if (ch >= '1' && ch <= '9')
-    {
         return ch - '0';
-    }
     return ch >= 'A' && ch <= 'Z' ? 10 + ch - 'A' : 0;
 }
 } // namespace
@@ -21,9 +20,7 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
     {
         lpsz = _tcschr(lpsz, chSep);
         if (lpsz != nullptr)
-        {
             ++lpsz;
-        }
     }
     if (lpsz == nullptr)
     {
@@ -35,7 +32,7 @@ BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iS
     return TRUE;
 }
 
-// An insert that there is no text for becomes a question mark.
+/// An insert that there is no text for becomes a question mark.
 void AFXAPI AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const* rglpsz, int nString)
 {
     CString strResult;
@@ -48,7 +45,7 @@ void AFXAPI AfxFormatStrings(CString& rString, LPCTSTR lpszFormat, LPCTSTR const
             continue;
         }
         ++lpsz;
-        strResult.Append(nInsert <= nString ? rglpsz[nInsert - 1] : _T("?"));
+        strResult.Append(nInsert <= nString ? rglpsz[nInsert - 1] : L"?");
     }
     rString = strResult;
 }

@@ -7,9 +7,7 @@
 // ---------------------------------------------------------------------------------------------------------
 // CTreeCtrl
 
-IMPLEMENT_DYNAMIC(CTreeCtrl, CWnd)
-
-CTreeCtrl::CTreeCtrl() = default;
+IMPLEMENT_COMMON_CONTROL(CTreeCtrl, ICC_TREEVIEW_CLASSES, WC_TREEVIEW)
 
 // clang-format off
 BEGIN_MESSAGE_MAP(CTreeCtrl, CWnd)
@@ -17,26 +15,9 @@ BEGIN_MESSAGE_MAP(CTreeCtrl, CWnd)
 END_MESSAGE_MAP()
 // clang-format on
 
-BOOL CTreeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return CreateEx(0, dwStyle | WS_CHILD, rect, pParentWnd, nID);
-}
-
-BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
-{
-    return RegisterCommonControls(ICC_TREEVIEW_CLASSES) &&
-           CWnd::CreateEx(dwExStyle, WC_TREEVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
-}
-
 void CTreeCtrl::OnDestroy()
 {
-    // The control would destroy lists that belong to an object.
-    for (int kind : {TVSIL_NORMAL, TVSIL_STATE})
-    {
-        const auto images = AfxSend<HIMAGELIST>(TVM_GETIMAGELIST, kind);
-        if (CImageList::FromHandlePermanent(images) != nullptr)
-            AfxSend(TVM_SETIMAGELIST, kind);
-    }
+    ReleaseImageLists(m_hWnd, TVM_GETIMAGELIST, TVM_SETIMAGELIST, {TVSIL_NORMAL, TVSIL_STATE});
     CWnd::OnDestroy();
 }
 

@@ -355,6 +355,13 @@ BOOL CWnd::GetLayeredWindowAttributes(COLORREF* pcrKey, BYTE* pbAlpha, DWORD* pd
     return ::GetLayeredWindowAttributes(m_hWnd, pcrKey, pbAlpha, pdwFlags);
 }
 
+BOOL CWnd::UpdateLayeredWindow(CDC* pDCDst, POINT* pptDst, SIZE* psize, CDC* pDCSrc, POINT* pptSrc,
+                               COLORREF crKey, BLENDFUNCTION* pblend, DWORD dwFlags)
+{
+    return ::UpdateLayeredWindow(m_hWnd, SafeHdc(pDCDst), pptDst, psize, SafeHdc(pDCSrc), pptSrc, crKey,
+                                 pblend, dwFlags);
+}
+
 // ---------------------------------------------------------------------------------------------------------
 // Timers and state
 

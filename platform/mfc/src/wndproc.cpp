@@ -447,6 +447,9 @@ BOOL CWnd::OnMappedMsg(const AFX_MSGMAP_ENTRY& entry, WPARAM wParam, LPARAM lPar
     case AfxSig_v_hit_p:
         call.Void<UINT, CPoint>(number, PointOf(lParam));
         break;
+    case AfxSig_v_u_u_p:
+        call.Void<UINT, UINT, CPoint>(low, high, PointOf(lParam));
+        break;
     case AfxSig_MOUSEWHEEL: // a handler that answers FALSE lets the parent scroll
         *pResult = call.Answer<BOOL, UINT, short, CPoint>(low, static_cast<short>(high), PointOf(lParam));
         return *pResult != 0;
