@@ -35,8 +35,8 @@ public:
 TEST(CommonControls, AreChildrenWithoutBeingAskedToBe)
 {
     HostWindow host;
-    ExpectMadeAsChildren<CSpinButtonCtrl, CSliderCtrl, CProgressCtrl, CHotKeyCtrl, CHeaderCtrl, CTabCtrl,
-                         CStatusBarCtrl, CListCtrl, CTreeCtrl>(host);
+    ExpectMadeAsChildren<CSpinButtonCtrl, CSliderCtrl, CProgressCtrl, CHeaderCtrl, CTabCtrl, CStatusBarCtrl,
+                         CListCtrl, CTreeCtrl>(host);
 }
 
 TEST(SpinButton, UnpacksItsRangeAndTellsThatTheBuddyHasNoNumber)
