@@ -1,0 +1,13 @@
+#pragma once
+// What a program of a wizard's making includes.
+
+#ifndef VC_EXTRALEAN
+#define VC_EXTRALEAN
+#endif
+#define _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
+#define _AFX_ALL_WARNINGS
+
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
+#include <afxdlgs.h>
