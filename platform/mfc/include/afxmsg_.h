@@ -26,6 +26,7 @@ class CDC;
 class CMenu;
 class CListBox;
 class CScrollBar;
+class CWinThread;
 
 /// A handler as the table keeps it; AFX_MSGMAP_ENTRY::nSig says what it really is.
 using AFX_PMSG = void (AFX_MSG_CALL CCmdTarget::*)();
@@ -100,6 +101,7 @@ enum AfxSig : UINT_PTR
     AfxSig_v_W_p,                ///< void (CWnd*, CPoint)
     AfxSig_v_h_v,                ///< void (HANDLE)
     AfxSig_v_h_h,                ///< void (HWND, HWND)
+    AfxSig_v_w_l,                ///< void (WPARAM, LPARAM) of a thread
     AfxSig_ACTIVATE,             ///< void (UINT, CWnd*, BOOL)
     AfxSig_SCROLL,               ///< void (UINT, UINT, CScrollBar*)
     AfxSig_SCROLL_REFLECT,       ///< void (UINT, UINT)
@@ -228,6 +230,12 @@ protected:                                                                      
     { (message), 0, 0, 0, AfxSig_l_w_l, AFX_HANDLER_(CWnd, LRESULT, (WPARAM, LPARAM), memberFxn) },
 #define ON_REGISTERED_MESSAGE(nMessageVariable, memberFxn) \
     { 0xC000, 0, 0, 0, (UINT_PTR)(UINT*)(&nMessageVariable), AFX_HANDLER_(CWnd, LRESULT, (WPARAM, LPARAM), memberFxn) },
+
+// Messages that are posted to a thread, handled by void OnDone(WPARAM, LPARAM) of its class
+#define ON_THREAD_MESSAGE(message, memberFxn) \
+    { (message), 0, 0, 0, AfxSig_v_w_l, AFX_HANDLER_(CWinThread, void, (WPARAM, LPARAM), memberFxn) },
+#define ON_REGISTERED_THREAD_MESSAGE(nMessageVariable, memberFxn) \
+    { 0xC000, 0, 0, 0, (UINT_PTR)(UINT*)(&nMessageVariable), AFX_HANDLER_(CWinThread, void, (WPARAM, LPARAM), memberFxn) },
 
 // Creation and destruction ----------------------------------------------------------------------------
 

@@ -61,13 +61,31 @@ protected:
 // ---------------------------------------------------------------------------------------------------------
 // The thread and the application
 
-/// A thread with a message loop. Only the program's main thread has one here: its CWinApp.
+/// What a worker thread runs; the answer is the thread's exit code.
+typedef UINT(AFX_CDECL* AFX_THREADPROC)(LPVOID);
+
+/// A thread: one that only runs a function (worker), or one with a message loop and windows of its own (user
+/// interface), whose class is derived from this and made dynamically creatable:
+///
+///     BOOL CViewerThread::InitInstance()
+///     {
+///         m_pMainWnd = new CViewerFrame; // closing it ends the thread
+///         return TRUE;                   // FALSE: straight on to ExitInstance
+///     }
+///     CWinThread* pThread = AfxBeginThread(RUNTIME_CLASS(CViewerThread));
+///
+/// A worker sees the application's main window as its own, to post messages to. Objects of windows and drawing
+/// belong to the thread that attached them: hand another thread the handle.
+///
+/// An object with m_bAutoDelete deletes itself when its thread ends. Whoever wants to wait for the thread takes
+/// that away while it is suspended, waits for m_hThread, and deletes the object.
 class AFX_CORE_CLASS CWinThread : public CCmdTarget
 {
     DECLARE_DYNAMIC(CWinThread)
 
 public:
     CWinThread();
+    CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam);
     ~CWinThread() override;
 
     CWnd* m_pMainWnd = nullptr;   ///< closing it ends the program
@@ -76,10 +94,25 @@ public:
     HANDLE m_hThread = nullptr;
     DWORD m_nThreadID = 0;
     MSG m_msgCur{}; ///< the message that the loop took last
+    LPVOID m_pThreadParams = nullptr;
+    AFX_THREADPROC m_pfnThreadProc = nullptr;
+    /// What AfxOleInit leaves to be done at the thread's end.
+    void(AFXAPI* m_lpfnOleTermOrFreeLib)(BOOL, BOOL) = nullptr;
 
     operator HANDLE() const { return m_hThread; }
+    /// Starts the thread, and comes back when messages can be posted to it. With CREATE_SUSPENDED it goes on
+    /// only after ResumeThread.
+    BOOL CreateThread(DWORD dwCreateFlags = 0, UINT nStackSize = 0,
+                      LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+    int GetThreadPriority() { return ::GetThreadPriority(m_hThread); }
+    BOOL SetThreadPriority(int nPriority) { return ::SetThreadPriority(m_hThread, nPriority); }
+    /// Both count, and answer the count of before, or (DWORD)-1.
+    DWORD SuspendThread() { return ::SuspendThread(m_hThread); }
+    DWORD ResumeThread() { return ::ResumeThread(m_hThread); }
     virtual CWnd* GetMainWnd() { return m_pActiveWnd != nullptr ? m_pActiveWnd : m_pMainWnd; }
+    /// Handled by ON_THREAD_MESSAGE in the map of the thread's class.
     BOOL PostThreadMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual void Delete(); ///< deletes the object if m_bAutoDelete says so
 
     virtual BOOL InitInstance();
     virtual int Run();
@@ -99,10 +132,30 @@ public:
     /// Sees messages of dialogs, menus and message boxes before they act; TRUE swallows the message.
     virtual BOOL ProcessMessageFilter(int code, LPMSG lpMsg);
 
+protected:
+    BOOL DispatchThreadMessageEx(MSG* pMsg); ///< TRUE when the thread's map has a handler, which was called
+
 private:
     CPoint m_ptCursorLast{0, 0}; ///< of the last mouse move
     UINT m_nMsgLast = 0;
 };
+
+/// Starts a worker, or a thread of a class derived from CWinThread. A stack size of 0 is the program's own. Null
+/// when the system refuses.
+AFX_CORE_API CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam,
+                                               int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                               DWORD dwCreateFlags = 0,
+                                               LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+AFX_CORE_API CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass,
+                                               int nPriority = THREAD_PRIORITY_NORMAL, UINT nStackSize = 0,
+                                               DWORD dwCreateFlags = 0,
+                                               LPSECURITY_ATTRIBUTES lpSecurityAttrs = nullptr);
+/// Ends the calling thread at once: destructors on its stack do not run. Its object is deleted unless
+/// `bDelete` is FALSE or the object says no.
+AFX_CORE_API void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
+/// For threads that were not started here and show windows of the framework.
+AFX_CORE_API void AFXAPI AfxInitThread();
+AFX_CORE_API void AFXAPI AfxTermThread(HINSTANCE hInstTerm = nullptr);
 
 /// The application. A program defines one object of a derived class at file scope; see winmain.cpp.
 class AFX_CORE_CLASS CWinApp : public CWinThread
@@ -259,7 +312,7 @@ class AFX_CORE_CLASS CDynLinkLibrary : public CCmdTarget
 public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem = FALSE);
     CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource);
-    ~CDynLinkLibrary() override { std::erase(AfxGetAppModuleState()->m_libraryList, this); }
+    ~CDynLinkLibrary() override;
 
     HMODULE m_hModule;
     HMODULE m_hResource;

@@ -34,20 +34,32 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
         app->SetCurrentHandles();
     }
     InitializeCommonControls();
+    AfxInitThread();
+    return TRUE;
+}
 
+void AFXAPI AfxInitThread()
+{
     CThreadState& thread = GetThreadState();
     if (thread.messageFilterHook == nullptr)
         thread.messageFilterHook =
             ::SetWindowsHookEx(WH_MSGFILTER, &MessageFilter, nullptr, ::GetCurrentThreadId());
-    return TRUE;
 }
 
-void AFXAPI AfxWinTerm()
+void AFXAPI AfxTermThread(HINSTANCE)
 {
     CThreadState& thread = GetThreadState();
     for (HHOOK* hook : {&thread.messageFilterHook, &thread.creationHook})
         if (*hook != nullptr)
             ::UnhookWindowsHookEx(std::exchange(*hook, nullptr));
+}
+
+void AFXAPI AfxWinTerm()
+{
+    CWinThread* const thread = AfxGetThread();
+    if (thread != nullptr && thread->m_lpfnOleTermOrFreeLib != nullptr)
+        thread->m_lpfnOleTermOrFreeLib(TRUE, FALSE);
+    AfxTermThread();
 }
 
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)

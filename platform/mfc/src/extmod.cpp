@@ -3,8 +3,6 @@
 
 #include <afxwin.h>
 
-#include <algorithm>
-
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
@@ -19,6 +17,11 @@ CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)
 {
     auto& chain = AfxGetAppModuleState()->m_libraryList;
     chain.insert(chain.begin(), this);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary()
+{
+    std::erase(AfxGetAppModuleState()->m_libraryList, this);
 }
 
 BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)

@@ -1,15 +1,28 @@
-// The thread of the program and its message loop.
+// Threads: start, end, message loop.
 
+#include <afxmt.h>
 #include <afxpriv.h>
 
+#include "msgmap.h"
 #include "threadstate.h"
+
+#include <process.h>
+
+#include <memory>
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 
 CWinThread::CWinThread() = default;
 
+CWinThread::CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam)
+    : m_pThreadParams(pParam), m_pfnThreadProc(pfnThreadProc)
+{
+}
+
 CWinThread::~CWinThread()
 {
+    if (m_hThread != nullptr)
+        ::CloseHandle(m_hThread);
     AFX_MODULE_THREAD_STATE* const state = AfxGetModuleThreadState();
     if (state->m_pCurrentWinThread == this)
         state->m_pCurrentWinThread = nullptr;
@@ -39,6 +52,139 @@ BOOL CWinThread::InitInstance()
 int CWinThread::ExitInstance()
 {
     return static_cast<int>(m_msgCur.wParam); // of WM_QUIT
+}
+
+void CWinThread::Delete()
+{
+    if (m_bAutoDelete)
+        delete this;
+}
+
+// ---------------------------------------------------------------------------------------------------------
+// Start and end
+
+namespace
+{
+/// What a new thread and the one that starts it share until the new one is set up.
+struct CThreadStart
+{
+    CWinThread* thread;
+    AFX_MODULE_STATE* moduleState;
+    CEvent isSetUp; ///< the new thread has its state, and a queue
+    CEvent mayRun;  ///< it has been suspended, if that was asked for
+};
+
+/// Makes the calling thread that of the object.
+CWinThread* SetUpThread(void* parameter)
+{
+    const std::unique_ptr<std::shared_ptr<CThreadStart>> holder(
+        static_cast<std::shared_ptr<CThreadStart>*>(parameter));
+    CThreadStart& start = **holder;
+    AfxSetModuleState(start.moduleState);
+    AfxGetModuleThreadState()->m_pCurrentWinThread = start.thread;
+    AfxInitThread();
+    MSG message;
+    ::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE); // makes the queue
+    start.isSetUp.SetEvent();
+    start.mayRun.Lock();
+    return start.thread;
+}
+
+UINT RunThread(CWinThread* thread)
+{
+    if (thread->m_pfnThreadProc != nullptr)
+        return thread->m_pfnThreadProc(thread->m_pThreadParams);
+    return static_cast<UINT>(thread->InitInstance() ? thread->Run() : thread->ExitInstance());
+}
+
+unsigned __stdcall ThreadEntry(void* parameter)
+{
+    CWinThread* const thread = SetUpThread(parameter);
+    CWnd applicationWindow; // this thread's object of it
+    CWinApp* const app = AfxGetApp();
+    if (app != nullptr && thread->m_pMainWnd == nullptr && app->m_pMainWnd->GetSafeHwnd() != nullptr)
+    {
+        applicationWindow.Attach(app->m_pMainWnd->m_hWnd);
+        thread->m_pMainWnd = &applicationWindow;
+    }
+    const UINT exitCode = RunThread(thread);
+    applicationWindow.Detach();
+    if (thread->m_pMainWnd == &applicationWindow)
+        thread->m_pMainWnd = nullptr;
+    AfxEndThread(exitCode);
+    return exitCode;
+}
+
+CWinThread* Begin(CWinThread* thread, int priority, UINT stackSize, DWORD flags,
+                  LPSECURITY_ATTRIBUTES security)
+{
+    if (!thread->CreateThread(flags | CREATE_SUSPENDED, stackSize, security))
+    {
+        thread->Delete();
+        return nullptr;
+    }
+    VERIFY(thread->SetThreadPriority(priority));
+    if ((flags & CREATE_SUSPENDED) == 0)
+        VERIFY(thread->ResumeThread() != static_cast<DWORD>(-1));
+    return thread;
+}
+} // namespace
+
+BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
+{
+    ASSERT(m_hThread == nullptr); // an object for each thread
+    const auto start = std::make_shared<CThreadStart>();
+    start->thread = this;
+    start->moduleState = AfxGetModuleState();
+    auto holder = std::make_unique<std::shared_ptr<CThreadStart>>(start);
+
+    unsigned id = 0;
+    const DWORD flags = dwCreateFlags & ~static_cast<DWORD>(CREATE_SUSPENDED);
+    m_hThread = reinterpret_cast<HANDLE>(
+        ::_beginthreadex(lpSecurityAttrs, nStackSize, &ThreadEntry, holder.get(), flags, &id));
+    if (m_hThread == nullptr)
+        return FALSE;
+    holder.release(); // the thread's from now on
+    m_nThreadID = id;
+    start->isSetUp.Lock();
+    if ((dwCreateFlags & CREATE_SUSPENDED) != 0)
+        SuspendThread();
+    start->mayRun.SetEvent();
+    return TRUE;
+}
+
+CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
+                                  DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
+{
+    ASSERT(pfnThreadProc != nullptr);
+    return Begin(new CWinThread(pfnThreadProc, pParam), nPriority, nStackSize, dwCreateFlags,
+                 lpSecurityAttrs);
+}
+
+CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UINT nStackSize,
+                                  DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
+{
+    ASSERT(pThreadClass != nullptr && pThreadClass->IsDerivedFrom(RUNTIME_CLASS(CWinThread)));
+    auto* const thread = static_cast<CWinThread*>(pThreadClass->CreateObject());
+    if (thread == nullptr)
+        AfxThrowMemoryException();
+    return Begin(thread, nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
+}
+
+void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete)
+{
+    CWinThread*& current = AfxGetModuleThreadState()->m_pCurrentWinThread;
+    if (CWinThread* const thread = current)
+    {
+        ASSERT(thread != AfxGetApp()); // which ends by its main window
+        if (thread->m_lpfnOleTermOrFreeLib != nullptr)
+            thread->m_lpfnOleTermOrFreeLib(TRUE, FALSE);
+        if (bDelete)
+            thread->Delete();
+        current = nullptr;
+    }
+    AfxTermThread();
+    ::_endthreadex(nExitCode);
 }
 
 // ---------------------------------------------------------------------------------------------------------
@@ -103,7 +249,19 @@ BOOL CWinThread::PumpMessage()
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 {
+    if (pMsg->hwnd == nullptr && DispatchThreadMessageEx(pMsg))
+        return TRUE;
     return PreTranslateFrom(AfxGetMainWnd(), pMsg);
+}
+
+BOOL CWinThread::DispatchThreadMessageEx(MSG* pMsg)
+{
+    const AFX_MSGMAP_ENTRY* const entry = FindWindowMessage(GetMessageMap(), pMsg->message);
+    if (entry == nullptr)
+        return FALSE;
+    const auto handler = RestoreHandlerType<void (CWinThread::*)(WPARAM, LPARAM)>(entry->pfn);
+    (this->*handler)(pMsg->wParam, pMsg->lParam);
+    return TRUE;
 }
 
 BOOL AFXAPI AfxPumpMessage()

@@ -127,8 +127,6 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 namespace
 {
-constexpr UINT firstRegisteredMessage = 0xC000;
-
 /// A message that travels as its child's colours are asked for: the argument of WM_CTLCOLOR entries.
 struct CColorRequest
 {
@@ -150,6 +148,7 @@ const AFX_MSGMAP_ENTRY* FindRegistered(const AFX_MSGMAP_ENTRY* entries, UINT mes
             return entry;
     return nullptr;
 }
+} // namespace
 
 const AFX_MSGMAP_ENTRY* FindWindowMessage(const AFX_MSGMAP* map, UINT message)
 {
@@ -163,7 +162,6 @@ const AFX_MSGMAP_ENTRY* FindWindowMessage(const AFX_MSGMAP* map, UINT message)
     }
     return nullptr;
 }
-} // namespace
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
