@@ -21,6 +21,7 @@ struct CThreadState
     MSG currentMessage{}; ///< taken last by AfxPumpMessage
 
     int tempMapLocks = 0;
+    bool oleInitialized = false; ///< by AfxOleInit
     wchar_t className[96] = {}; ///< answer of AfxRegisterWndClass
 
     AFX_MODULE_STATE* moduleState = nullptr; ///< null: that of the process
