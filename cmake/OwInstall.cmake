@@ -43,6 +43,7 @@ install(FILES
   ${CMAKE_CURRENT_BINARY_DIR}/DialogControlsOWConfigVersion.cmake
   cmake/mingw-w64-x86_64.cmake
   DESTINATION ${package_dir})
+install(PROGRAMS cmake/rc-preprocessor DESTINATION ${package_dir})
 
 # The gallery, ready to be started, and the examples with their sources.
 install(TARGETS gallery RUNTIME DESTINATION bin)

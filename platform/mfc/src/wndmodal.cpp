@@ -230,12 +230,23 @@ struct CDlgInitItem
 // Resource editors still write the numbers that these messages had on 16-bit Windows.
 constexpr WORD dlgInitListBoxAdd = 0x0401;
 constexpr WORD dlgInitComboBoxAdd = 0x0403;
+constexpr WORD dlgInitExtendedComboBoxAdd =
+    0x1234; // of no system: the number that stands for CBEM_INSERTITEM
 
 bool AddDlgInitText(HWND dialog, const CDlgInitItem& item, const char* text)
 {
     const UINT message = item.message == dlgInitComboBoxAdd  ? CB_ADDSTRING
                          : item.message == dlgInitListBoxAdd ? LB_ADDSTRING
                                                              : item.message;
+    if (message == dlgInitExtendedComboBoxAdd)
+    {
+        COMBOBOXEXITEMA added{};
+        added.mask = CBEIF_TEXT;
+        added.iItem = -1; // at the end
+        added.pszText = const_cast<char*>(text);
+        return ::SendDlgItemMessageA(dialog, item.control, CBEM_INSERTITEMA, 0,
+                                     reinterpret_cast<LPARAM>(&added)) >= 0;
+    }
     if (message != CB_ADDSTRING && message != LB_ADDSTRING)
         return true; // belongs to a kind of control that is not known here
     // LB_ERR and CB_ERR are both -1, LB_ERRSPACE and CB_ERRSPACE both -2.
