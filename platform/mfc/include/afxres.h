@@ -157,6 +157,8 @@
 #define AFX_IDS_ALLFILTER 0xF002
 #define AFX_IDS_UNTITLED 0xF003
 
+#define AFX_IDP_FAILED_TO_LAUNCH_HELP 0xF107
+
 // Buttons of property sheets and wizards
 #define AFX_IDC_TAB_CONTROL 0x3020
 #define ID_APPLY_NOW 0x3021

@@ -157,7 +157,66 @@ AFX_CORE_API void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete = TRUE);
 AFX_CORE_API void AFXAPI AfxInitThread();
 AFX_CORE_API void AFXAPI AfxTermThread(HINSTANCE hInstTerm = nullptr);
 
+#define _AFX_MRU_COUNT 4 // default number of recent files
+
+typedef enum
+{
+    afxWinHelp = 0,
+    afxHTMLHelp = 1
+} AFX_HELP_TYPE;
+
+/// What the command line asks for: filled by CWinApp::ParseCommandLine, a call of ParseParam for each argument.
+/// A program with switches of its own overrides ParseParam and hands on what it does not know.
+///
+///     app                     FileNew           app /Register, /Regserver       AppRegister
+///     app file                FileOpen          app /Unregister, /Unregserver   AppUnregister
+///     app /p file             FilePrint         app /Embedding                  m_bRunEmbedded
+///     app /pt file printer driver port          app /Automation                 m_bRunAutomated
+///                             FilePrintTo       app /dde                        FileDDE
+///
+/// A dash does for the slash. Only /p, /pt and /dde tell capital letters from small ones.
+class AFX_CORE_CLASS CCommandLineInfo : public CObject
+{
+public:
+    CCommandLineInfo();
+    ~CCommandLineInfo() override;
+
+    /// \param bFlag  the argument began with a dash or slash, which `pszParam` leaves out
+    /// \param bLast  no argument follows
+    virtual void ParseParam(const TCHAR* pszParam, BOOL bFlag, BOOL bLast);
+    virtual void ParseParam(const char* pszParam, BOOL bFlag, BOOL bLast);
+
+    enum
+    {
+        FileNew,
+        FileOpen,
+        FilePrint,
+        FilePrintTo,
+        FileDDE,
+        AppRegister,
+        AppUnregister,
+        FileNothing = -1
+    } m_nShellCommand = FileNew;
+    BOOL m_bShowSplash = TRUE; ///< neither embedded nor automated
+    BOOL m_bRunEmbedded = FALSE;
+    BOOL m_bRunAutomated = FALSE;
+    CString m_strFileName;
+    CString m_strPrinterName; ///< this and the next two: of FilePrintTo
+    CString m_strDriverName;
+    CString m_strPortName;
+
+protected:
+    void ParseParamFlag(const char* pszParam);
+    void ParseParamNotFlag(const TCHAR* pszParam);
+    void ParseParamNotFlag(const char* pszParam) { ParseParamNotFlag(CString(pszParam).GetString()); }
+    void ParseLast(BOOL bLast);
+};
+
 /// The application. A program defines one object of a derived class at file scope; see winmain.cpp.
+///
+/// Help: F1 in a dialog, or a command ID_HELP that the program's map gives to OnHelp, sends WM_COMMANDHELP to the
+/// active window and its owners until one knows its help context and calls WinHelpInternal; if none does, the
+/// command ID_DEFAULT_HELP follows. EnableHtmlHelp in the constructor chooses HTML Help and the .chm file.
 class AFX_CORE_CLASS CWinApp : public CWinThread
 {
     DECLARE_DYNAMIC(CWinApp)
@@ -175,6 +234,10 @@ public:
     LPCTSTR m_pszExeName = nullptr;     ///< executable without path and extension; malloc'ed
     LPCTSTR m_pszRegistryKey = nullptr; ///< company key of the profile; null for an .ini file; malloc'ed
     LPCTSTR m_pszProfileName = nullptr; ///< .ini file, or the program's key below the company's; malloc'ed
+    LPCTSTR m_pszHelpFilePath = nullptr; ///< the executable's with the extension .HLP or .CHM; malloc'ed
+    AFX_HELP_TYPE m_eHelpType = afxWinHelp;
+    DWORD m_dwPromptContext = 0; ///< help context of the message box that is open
+    UINT m_nNumPreviewPages = 0; ///< from the profile, by LoadStdProfileSettings
 
     // Resources of the chain; the handles belong to the system as with the Win32 functions
     HCURSOR LoadCursor(LPCTSTR lpszResourceName) const;
@@ -201,6 +264,25 @@ public:
     HKEY GetSectionKey(LPCTSTR lpszSection);
     LONG DelRegTree(HKEY hParentKey, const CString& strKeyName);
 
+    /// Offers each argument of the program's command line to `rCmdInfo`.
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+
+    // Help
+    void EnableHtmlHelp() { SetHelpMode(afxHTMLHelp); } ///< in the constructor
+    void SetHelpMode(AFX_HELP_TYPE eHelpType) { m_eHelpType = eHelpType; }
+    AFX_HELP_TYPE GetHelpMode() { return m_eHelpType; }
+    /// Each shows the help file through the main window. `nCmd` is a HELP_ value for WinHelp, an HH_ value for
+    /// HtmlHelp, whose default is a help context; WinHelpInternal takes HELP_CONTEXT, HELP_CONTENTS or HELP_FINDER
+    /// and calls the one that the help type says.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    virtual void WinHelpInternal(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    afx_msg void OnHelp();        ///< for ID_HELP: help about what the user is at
+    afx_msg void OnHelpIndex();   ///< for ID_HELP_INDEX
+    afx_msg void OnHelpFinder();  ///< for ID_HELP_FINDER and ID_DEFAULT_HELP
+    afx_msg void OnHelpUsing();   ///< for ID_HELP_USING
+    afx_msg void OnContextHelp(); ///< for ID_CONTEXT_HELP: the next click asks the main window about what is there
+
     virtual BOOL InitApplication() { return TRUE; }
     BOOL InitInstance() override { return TRUE; }
     int Run() override;
@@ -219,6 +301,8 @@ protected:
 
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
+    /// Reads the profile's standard entries; a dialog program has no list of recent files to read `nMaxMRU` of.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     void SetCurrentHandles();
 
     afx_msg void OnAppExit();

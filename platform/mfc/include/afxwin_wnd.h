@@ -145,6 +145,10 @@ public:
 #define WF_MODALLOOP 0x0008     // runs a modal loop
 #define WF_CONTINUEMODAL 0x0010 // the modal loop goes on
 
+// CWnd::OnToolHitTest, beside the TTF_ values of the control
+#define TTF_NOTBUTTON 0x80000000L // the tool is no button
+#define TTF_ALWAYSTIP 0x40000000L // show the tip in an inactive window too
+
 // CWnd::RunModalLoop
 #define MLF_NOIDLEMSG 0x0001  // no WM_ENTERIDLE to the parent
 #define MLF_NOKICKIDLE 0x0002 // no WM_KICKIDLE to the window
@@ -414,8 +418,25 @@ public:
     DWORD GetHotKey() const { return static_cast<DWORD>(::SendMessage(m_hWnd, WM_GETHOTKEY, 0, 0)); }
     BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
     DWORD GetWindowContextHelpId() const { return ::GetWindowContextHelpId(m_hWnd); }
+    /// Shows the program's help file; see CWinApp for the three.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    virtual void WinHelpInternal(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    afx_msg void OnHelp(); ///< WM_COMMANDHELP to the active window and its owners, else ID_DEFAULT_HELP
+    afx_msg void OnHelpIndex() { WinHelpInternal(0, HELP_INDEX); }
+    afx_msg void OnHelpFinder() { WinHelpInternal(0, HELP_FINDER); }
+    afx_msg void OnHelpUsing() { WinHelpInternal(0, HELP_HELPONHELP); }
     HICON SetIcon(HICON hIcon, BOOL bBigIcon);
     HICON GetIcon(BOOL bBigIcon) const;
+
+    // Tool tips for the window's children. The text is asked for by TTN_NEEDTEXT, whose control id is 0:
+    // ON_NOTIFY_EX(TTN_NEEDTEXT, 0, ...) with idFrom the child's handle, as TTF_IDISHWND says.
+    BOOL EnableToolTips(BOOL bEnable = TRUE);
+    static void PASCAL CancelToolTips(BOOL bKeys = FALSE); ///< hides the tip that is shown
+    /// Brings the tip in line with a mouse or key message; PreTranslateMessage does so for the message loop.
+    void FilterToolTipMessage(MSG* pMsg);
+    /// The tool at a point of the client area, -1 for none. By default the child that is there, by its id.
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const;
 
     // Message boxes
     int MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption = nullptr, UINT nType = MB_OK);
@@ -588,7 +609,7 @@ protected:
     afx_msg void OnHotKey(UINT /*nHotKeyId*/, UINT /*nModifiers*/, UINT /*nKey*/) { Default(); }
     afx_msg void OnInputLangChange(UINT /*nCharSet*/, UINT /*nLocaleId*/) { Default(); }
     afx_msg void OnInputLangChangeRequest(UINT /*nFlags*/, UINT /*nLocaleId*/) { Default(); }
-    afx_msg BOOL OnHelpInfo(HELPINFO* /*lpHelpInfo*/) { return static_cast<BOOL>(Default()); }
+    afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
 
     // Handlers: mouse
     afx_msg void OnMouseMove(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
@@ -821,6 +842,8 @@ protected:
     CWnd* m_pParentWnd = nullptr;
     HWND m_hWndTop = nullptr; ///< top-level window disabled beside the owner
 
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnHelpHitTest(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM);
     afx_msg LRESULT HandleSetFont(WPARAM, LPARAM);
 

@@ -43,7 +43,8 @@ CWinApp::~CWinApp()
         state->m_pCurrentWinApp = nullptr;
     if (state->m_lpszCurrentAppName == m_pszAppName)
         state->m_lpszCurrentAppName = nullptr;
-    for (LPCTSTR* text : {&m_pszAppName, &m_pszExeName, &m_pszRegistryKey, &m_pszProfileName})
+    for (LPCTSTR* text :
+         {&m_pszAppName, &m_pszExeName, &m_pszRegistryKey, &m_pszProfileName, &m_pszHelpFilePath})
         ReplaceText(*text, nullptr);
 }
 
@@ -69,6 +70,9 @@ void CWinApp::SetCurrentHandles()
     state->m_lpszCurrentAppName = m_pszAppName;
     if (m_pszProfileName == nullptr)
         ReplaceText(m_pszProfileName, name + L".INI");
+    if (m_pszHelpFilePath == nullptr)
+        ReplaceText(m_pszHelpFilePath, path.Left(path.ReverseFind(L'\\') + 1) + name +
+                                           (m_eHelpType == afxHTMLHelp ? L".CHM" : L".HLP"));
 }
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey)
@@ -172,8 +176,11 @@ int ShowMessageBox(LPCTSTR text, UINT type)
 }
 } // namespace
 
-int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT)
+int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt)
 {
+    // F1 in the box asks about it, or else about what was asked about before.
+    const DWORD context = nIDPrompt != 0 ? HID_BASE_PROMPT + nIDPrompt : m_dwPromptContext;
+    const CRestoreValue<DWORD> prompt(m_dwPromptContext, context);
     return ShowMessageBox(lpszPrompt, nType);
 }
 

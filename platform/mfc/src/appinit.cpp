@@ -1,6 +1,7 @@
 // Start and end of the program.
 
 #include "threadstate.h"
+#include "toolhits.h"
 #include "wndclass.h"
 
 namespace
@@ -48,6 +49,7 @@ void AFXAPI AfxInitThread()
 
 void AFXAPI AfxTermThread(HINSTANCE)
 {
+    ReleaseToolTip();
     CThreadState& thread = GetThreadState();
     for (HHOOK* hook : {&thread.messageFilterHook, &thread.creationHook})
         if (*hook != nullptr)

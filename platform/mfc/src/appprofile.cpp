@@ -188,3 +188,8 @@ BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE 
     const CKey section(GetSectionKey(lpszSection));
     return WriteValue(section.get(), lpszEntry, REG_BINARY, pData, nBytes);
 }
+
+void CWinApp::LoadStdProfileSettings(UINT)
+{
+    m_nNumPreviewPages = GetProfileInt(L"Settings", L"PreviewPages", 0);
+}

@@ -1,5 +1,7 @@
 // Dialogs, modal and modeless.
 
+#include <afxpriv.h>
+
 #include "threadstate.h"
 #include "wndclass.h"
 
@@ -9,6 +11,8 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
+    ON_MESSAGE(WM_HELPHITTEST, &CDialog::OnHelpHitTest)
     ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
     ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
 END_MESSAGE_MAP()

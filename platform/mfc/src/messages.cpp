@@ -1,5 +1,7 @@
 #include "messages.h"
 
+#include <afxres.h>
+
 namespace
 {
 struct Message
@@ -36,6 +38,7 @@ const Message messages[] = {
     {AFX_IDS_USER_EXCEPTION, L"The operation could not be completed."},
     {AFX_IDS_INVALID_ARG_EXCEPTION, L"An argument was not valid."},
     {AFX_IDP_NO_ERROR_AVAILABLE, L"An error occurred that has no description."},
+    {AFX_IDP_FAILED_TO_LAUNCH_HELP, L"Help could not be shown."},
     {AFX_IDS_UNNAMED_FILE, L"an unnamed file"},
 };
 } // namespace

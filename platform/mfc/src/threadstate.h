@@ -20,6 +20,12 @@ struct CThreadState
     bool inMessageFilter = false;
     MSG currentMessage{}; ///< taken last by AfxPumpMessage
 
+    // Tool tips of windows
+    class CToolTipCtrl* toolTip = nullptr; ///< owned; given back by AfxWinTerm
+    const CWnd* lastToolWindow = nullptr;  ///< served by the tip at the moment, and never looked into
+    INT_PTR lastTool = -1;                 ///< answer of its OnToolHitTest
+    TOOLINFO lastToolInfo{};
+
     int tempMapLocks = 0;
     bool oleInitialized = false; ///< by AfxOleInit
     wchar_t className[96] = {}; ///< answer of AfxRegisterWndClass

@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
+#include "relatives.h"
 #include "safehandle.h"
 
 #include <algorithm>
@@ -57,16 +58,6 @@ CWnd* CWnd::SetParent(CWnd* pWndNewParent)
 {
     return FromHandle(::SetParent(m_hWnd, pWndNewParent->GetSafeHwnd()));
 }
-
-namespace
-{
-/// The parent of a child window, the owner of any other.
-HWND ParentOrOwnerOf(HWND window)
-{
-    const bool isChild = (::GetWindowLong(window, GWL_STYLE) & WS_CHILD) != 0;
-    return isChild ? ::GetParent(window) : ::GetWindow(window, GW_OWNER);
-}
-} // namespace
 
 CWnd* CWnd::GetTopLevelParent() const
 {

@@ -1,6 +1,7 @@
 // CWnd: construction, creation with the creation hook, subclassing, destruction.
 
 #include "threadstate.h"
+#include "toolhits.h"
 #include "wndclass.h"
 
 IMPLEMENT_DYNCREATE(CWnd, CCmdTarget)
@@ -214,6 +215,8 @@ void CWnd::OnNcDestroy()
     }
     if ((m_nFlags & WF_MODALLOOP) != 0)
         EndModalLoop(m_nModalResult); // a modal loop cannot outlive its window
+    if ((m_nFlags & WF_TOOLTIPS) != 0)
+        ForgetToolTips(*this);
 
     // If somebody subclassed the window after us, it is theirs to restore the procedure.
     const LONG_PTR before = ::GetWindowLongPtr(m_hWnd, GWLP_WNDPROC);

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "threadstate.h"
+#include "toolhits.h"
 
 // ---------------------------------------------------------------------------------------------------------
 // Modal loop
@@ -146,8 +147,9 @@ CWnd* PASCAL CWnd::GetSafeOwner(CWnd* pParent, HWND* pWndTop)
 // ---------------------------------------------------------------------------------------------------------
 // Translation before dispatch
 
-BOOL CWnd::PreTranslateMessage(MSG*)
+BOOL CWnd::PreTranslateMessage(MSG* pMsg)
 {
+    FilterToolTips(*this, pMsg);
     return FALSE;
 }
 

@@ -19,6 +19,7 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_PARENTNOTIFY()
+    ON_WM_HELPINFO()
     ON_MESSAGE(WM_DISPLAYCHANGE, &CWnd::OnDisplayChange)
 END_MESSAGE_MAP()
 // clang-format on
