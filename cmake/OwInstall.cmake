@@ -47,6 +47,7 @@ install(PROGRAMS cmake/rc-preprocessor DESTINATION ${package_dir})
 
 # The gallery, ready to be started, and the examples with their sources.
 install(TARGETS gallery RUNTIME DESTINATION bin)
+install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale/gallery_en.po DESTINATION bin/locale)
 install(DIRECTORY examples/ DESTINATION examples)
 install(DIRECTORY apps/gallery/ DESTINATION examples/gallery
   PATTERN walk EXCLUDE PATTERN CMakeLists.txt EXCLUDE)

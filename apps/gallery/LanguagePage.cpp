@@ -13,7 +13,7 @@ CString CataloguePath()
     TCHAR szProgram[MAX_PATH] = _T("");
     ::GetModuleFileName(nullptr, szProgram, MAX_PATH);
     const CString strProgram(szProgram);
-    return strProgram.Left(strProgram.ReverseFind(_T('\\')) + 1) + _T("locale\\en.po");
+    return strProgram.Left(strProgram.ReverseFind(_T('\\')) + 1) + _T("locale\\gallery_en.po");
 }
 } // namespace
 

@@ -1,6 +1,6 @@
 # Shows the library's headers to Doxygen as they are meant to be read:
-# - The comment that opens a header is the manual of the class of the header's name, or else of the file; with a picture
-#   of the gallery where PICTURES, lines of "class picture", names one.
+# - The comment that opens a header is the manual of the class of the header's name, or else of the file; with the
+#   first picture of the gallery that pictures.txt, lines of "class picture", names for it.
 # - A comment holds for the declarations below it that are about the same, as of SetFont and GetFont. What has none has
 #   the remark that opens its paragraph, or the heading of its section.
 # - Left out is what derived classes inherit from MFC and have no word of their own for: handlers of messages, overrides,
@@ -24,7 +24,8 @@ function manual(    i, code)
 BEGIN {
     while ((getline line < "build/docs/pictures.txt") > 0) {
         split(line, words, " ")
-        picture[words[1]] = words[2]
+        if (!(words[1] in picture))
+            picture[words[1]] = words[2]
     }
     file = ARGV[1]
     name = file

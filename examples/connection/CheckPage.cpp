@@ -34,14 +34,14 @@ constexpr LPCTSTR kChecks[kCheckCount] = {
     _T("Sav rebra"),
 };
 
-/// A force in kN, a stress in N/mm2, or the bare number of the interaction.
+/// A force in kN, a stress in N/mm², or the bare number of the interaction.
 CString ValueText(ECheck check, double value)
 {
     CString strText;
     if (check == ECheck::BoltInteraction)
         strText.Format(_T("%.2f"), value);
     else if (check == ECheck::FlangeWeld || check == ECheck::WebWeld)
-        strText.Format(_T("%.0f N/mm2"), value / 1e6);
+        strText.Format(_T("%.0f N/mm\u00B2"), value / 1e6);
     else
         strText.Format(_T("%.1f kN"), value / 1e3);
     return strText;
@@ -218,8 +218,7 @@ CString CCheckPageDialog::TextOf(const Survey& survey)
     if (survey.casesChecked < kLoadCaseCount)
         strText.Format(Tr(_T("Prekinuto posle %d slucajeva.")) + _T(" "), survey.casesChecked);
     strText.AppendFormat(Tr(_T("Merodavan je slucaj %d: %s, %.2f.")), survey.governingCase + 1,
-                         Tr(kChecks[static_cast<int>(governing.check)]).GetString(),
-                         governing.Utilisation());
+                         Tr(kChecks[static_cast<int>(governing.check)]).GetString(), governing.Utilisation());
     strText.AppendFormat(_T("\r\nM = %.1f kNm, V = %.1f kN, N = %.1f kN"), forces.moment_Nm / 1e3,
                          forces.shear_N / 1e3, forces.axial_N / 1e3);
     return strText;

@@ -28,7 +28,7 @@ public:
         SetDlgItemText(IDC_BEAM_SIZES, TextOf(c.Beam()));
         SetDlgItemText(IDC_COLUMN_SIZES, TextOf(c.Column()));
         CString strSteel;
-        strSteel.Format(_T("fy = %.0f, fu = %.0f N/mm2"), c.Steel().yield_Pa / 1e6,
+        strSteel.Format(_T("fy = %.0f, fu = %.0f N/mm\u00B2"), c.Steel().yield_Pa / 1e6,
                         c.Steel().ultimate_Pa / 1e6);
         SetDlgItemText(IDC_STEEL_STRENGTH, strSteel);
     }

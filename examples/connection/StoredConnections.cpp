@@ -11,16 +11,16 @@ namespace
 {
 /// Does something with a file; false, and a message, if that fails.
 template <class Use>
-bool TryWithFile(LPCTSTR pszMessage, Use use)
+bool TryWithFile(LPCTSTR pszMessage, const std::filesystem::path& path, Use use)
 {
     try
     {
         use();
         return true;
     }
-    catch (const std::exception& failure)
+    catch (const std::exception&)
     {
-        const CString strText = Tr(pszMessage) + _T("\r\n") + CString(failure.what());
+        const CString strText = Tr(pszMessage) + _T("\r\n") + path.c_str();
         COstrelMessageBox::MessageBox(strText, _T("Veza grede sa stubom"), MB_OK | MB_ICONWARNING);
         return false;
     }
@@ -39,7 +39,7 @@ CStoredConnections::CStoredConnections(Connection& values, const CString& strFol
 
 void CStoredConnections::LoadConfigs()
 {
-    TryWithFile(kNotRead, [this] { m_entries = ReadConnections(m_named); });
+    TryWithFile(kNotRead, m_named, [this] { m_entries = ReadConnections(m_named); });
 }
 
 int CStoredConnections::GetConfigNames(CStringArray& names)
@@ -107,13 +107,16 @@ CString CStoredConnections::GetConfigName(int nIndex)
 Connection CStoredConnections::LoadAccepted() const
 {
     std::vector<NamedConnection> entries;
-    TryWithFile(kNotRead, [&] { entries = ReadConnections(m_accepted); });
+    TryWithFile(kNotRead, m_accepted, [&] { entries = ReadConnections(m_accepted); });
     return entries.empty() ? Connection() : entries.front().values;
 }
 
 bool CStoredConnections::StoreAccepted(const Connection& connection) const
 {
-    return TryWithFile(kNotWritten, [&] { WriteConnections(m_accepted, {{std::wstring(), connection}}); });
+    return TryWithFile(kNotWritten, m_accepted,
+                       [&] {
+                           WriteConnections(m_accepted, {{std::wstring(), connection}});
+                       });
 }
 
 void CStoredConnections::FindCurrent()
@@ -144,7 +147,7 @@ int CStoredConnections::Find(const CString& strName) const
 /// The entries are those of the file: what could not be written is not taken.
 bool CStoredConnections::Store(const std::vector<NamedConnection>& entries)
 {
-    const bool bWritten = TryWithFile(kNotWritten, [&] { WriteConnections(m_named, entries); });
+    const bool bWritten = TryWithFile(kNotWritten, m_named, [&] { WriteConnections(m_named, entries); });
     if (bWritten)
         m_entries = entries;
     return bWritten;

@@ -1,6 +1,6 @@
 #pragma once
 // The named connections of the user, for the library's group of configurations; and the one that was accepted
-// last. Each is kept in a file of the folder.
+// last. Each is kept in a file of the folder. All of it stands here, as a client of the package would write it.
 
 #include "Model.h"
 

@@ -19,7 +19,7 @@ class CMarkedTexts
 public:
     CMarkedTexts()
     {
-        std::ifstream english(L"locale\\en.po");
+        std::ifstream english(L"locale\\gallery_en.po");
         {
             std::ofstream marked(m_path);
             for (std::string line; std::getline(english, line);)

@@ -1,18 +1,11 @@
 # Makes the package, unpacks it into a folder with a blank in its name, holds every file against its checksum, builds the
-# client of examples/client against it, runs it, and looks whether the gallery starts.
-#   cmake -DBUILD_DIR=... -DVERSION=... -DPACKAGE_SCRIPT=... -DWORK_DIR=... -DEMULATOR=... [-DZIP=...] -P client.cmake
+# client of examples/client against it, runs it, and starts what is ready to be started.
+#   cmake -DBUILD_DIR=... -DVERSION=... -DPACKAGE_SCRIPT=... -DWORK_DIR=... -DEMULATOR=... -DSTARTS=package_starts.exe
+#     [-DZIP=...] -P client.cmake
 # With ZIP that package is taken, and none is made.
 cmake_minimum_required(VERSION 3.21)
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/client.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
-
-function(run)
-  execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
-  if(NOT result EQUAL 0)
-    string(REPLACE ";" " " command "${ARGN}")
-    message(FATAL_ERROR "failed: ${command}\n${output}")
-  endif()
-  set(output "${output}" PARENT_SCOPE)
-endfunction()
 
 set(name DialogControlsOW-${VERSION}-x64)
 if(NOT ZIP)
@@ -38,21 +31,21 @@ endforeach()
 if(files)
   message(FATAL_ERROR "not in the list of files: ${files}")
 endif()
-foreach(needed bin/gallery.exe bin/libstdc++-6.dll licences/GPL-3.txt CHANGELOG.md examples/gallery/main.cpp)
+foreach(needed bin/gallery.exe bin/locale/gallery_en.po bin/connection.exe bin/locale/connection_en.po
+    bin/libstdc++-6.dll licences/GPL-3.txt CHANGELOG.md examples/gallery/main.cpp examples/connection/main.cpp)
   if(NOT EXISTS ${root}/${needed})
     message(FATAL_ERROR "${needed} is missing")
   endif()
 endforeach()
 
-set(package "${root}/lib/cmake/DialogControlsOW")
 set(build "${WORK_DIR}/add on/client-build")
-run(${CMAKE_COMMAND} -S ${root}/examples/client -B ${build} -G Ninja
-  -DCMAKE_BUILD_TYPE=Release -DCMAKE_TOOLCHAIN_FILE=${package}/mingw-w64-x86_64.cmake
-  -DDialogControlsOW_DIR=${package})
-run(${CMAKE_COMMAND} --build ${build})
+build_client(${root}/examples/client ${build} ${root})
 run(${EMULATOR} ${build}/client.exe --check)
 
 string(REPLACE "\r" "" output "${output}")
 if(NOT output STREQUAL "box 1: I\nbox 1: IP\nbox 1: IPE\n")
   message(FATAL_ERROR "the client printed:\n${output}")
 endif()
+
+run(${EMULATOR} ${STARTS} "Dialog controls" ${root}/bin/gallery.exe)
+run(${EMULATOR} ${STARTS} "Beam to column connection" ${root}/bin/connection.exe en)

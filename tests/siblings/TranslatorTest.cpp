@@ -184,7 +184,8 @@ TEST(EnglishCatalogue, TranslatesEachOfItsTextsOnce)
 {
     wchar_t program[MAX_PATH] = L"";
     ::GetModuleFileNameW(nullptr, program, MAX_PATH);
-    const auto path = std::filesystem::path(program).parent_path() / L"locale" / L"en.po";
+    // The gallery's begins with the library's.
+    const auto path = std::filesystem::path(program).parent_path() / L"locale" / L"gallery_en.po";
     ClTranslator translator;
     ClCatalogueError error;
     ASSERT_TRUE(translator.Load(path.c_str(), &error)) << CStringA(error.Format());

@@ -3,10 +3,12 @@
 #include "Walk.h"
 
 #include <map>
+#include <utility>
 
 namespace
 {
 std::wstring s_directory; ///< of the pictures, with a backslash at its end
+std::vector<std::wstring> s_names;
 
 /// Files register before main, in any order.
 std::map<CPage::EPageID, PageUse::Function>& Uses()
@@ -51,7 +53,13 @@ void SetPictureDirectory(const std::wstring& directory)
 
 std::wstring PicturePath(const std::wstring& name)
 {
+    s_names.push_back(name);
     return s_directory + name;
+}
+
+std::vector<std::wstring> TakePictureNames()
+{
+    return std::exchange(s_names, {});
 }
 
 PageUse::PageUse(CPage::EPageID id, Function use)

@@ -5,17 +5,14 @@
 namespace
 {
 constexpr char kHead[] = R"(<!DOCTYPE html>
-<html lang="en"><head><meta charset="utf-8"><title>The gallery of DialogControlsOW</title><style>
+<html lang="en"><head><meta charset="utf-8"><style>
 body { font: 15px/1.5 "Segoe UI", sans-serif; margin: 2em auto; max-width: 1100px; padding: 0 1em; color: #222 }
 nav { columns: 4 10em; margin-bottom: 2em }
 nav a { display: block }
 h2 { border-top: 1px solid #ccc; padding-top: 1em }
 img { max-width: 100%; border: 1px solid #ccc }
 td { padding: 0 2em 0 0; font: 13px/1.5 Consolas, monospace }
-</style></head><body>
-<h1>The gallery of DialogControlsOW</h1>
-<p>Each page as a user left it who worked on it with mouse and keyboard, and the calls of handlers on the way.</p>
-)";
+</style>)";
 
 std::string Utf8(const std::wstring& text)
 {
@@ -59,21 +56,31 @@ std::string Calls(const std::vector<HandlerCall>& calls)
 }
 } // namespace
 
-void PictureIndex::Add(const std::wstring& title, const std::wstring& file, std::vector<HandlerCall> calls)
+PictureIndex::PictureIndex(const std::wstring& title, const std::wstring& introduction)
+    : m_title(title), m_introduction(introduction)
 {
-    m_pictures.push_back({title, file, std::move(calls)});
+}
+
+void PictureIndex::Add(const std::wstring& title, const std::vector<std::wstring>& files,
+                       std::vector<HandlerCall> calls)
+{
+    m_entries.push_back({title, files, std::move(calls)});
 }
 
 bool PictureIndex::Save(const std::wstring& path) const
 {
-    std::string html = std::string(kHead) + "<nav>\n";
-    for (const Picture& picture : m_pictures)
-        html += "<a href=\"#" + Html(picture.file) + "\">" + Html(picture.title) + "</a>\n";
+    const std::string title = Html(m_title);
+    std::string html = kHead + ("<title>" + title) + "</title></head><body>\n<h1>" + title + "</h1>\n<p>" +
+                       Html(m_introduction) + "</p>\n<nav>\n";
+    for (const Entry& entry : m_entries)
+        html += "<a href=\"#" + Html(entry.files.front()) + "\">" + Html(entry.title) + "</a>\n";
     html += "</nav>\n";
-    for (const Picture& picture : m_pictures)
+    for (const Entry& entry : m_entries)
     {
-        html += "<h2 id=\"" + Html(picture.file) + "\">" + Html(picture.title) + "</h2>\n<p><img src=\"" +
-                Html(picture.file) + "\" alt=\"\"></p>\n" + Calls(picture.calls);
+        html += "<h2 id=\"" + Html(entry.files.front()) + "\">" + Html(entry.title) + "</h2>\n";
+        for (const std::wstring& file : entry.files)
+            html += "<p><img src=\"" + Html(file) + "\" alt=\"" + Html(file) + "\"></p>\n";
+        html += Calls(entry.calls);
     }
     html += "</body></html>\n";
 

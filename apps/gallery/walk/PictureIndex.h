@@ -1,5 +1,5 @@
 #pragma once
-// The page of all pictures that a walk leaves: index.html, with each picture's name and the handler calls it shows.
+// The page of all pictures that a walk leaves: index.html, with what each shows, and the handler calls on the way.
 
 #include <string>
 #include <vector>
@@ -12,16 +12,22 @@ struct HandlerCall
 class PictureIndex
 {
 public:
-    void Add(const std::wstring& title, const std::wstring& file, std::vector<HandlerCall> calls = {});
+    PictureIndex(const std::wstring& title, const std::wstring& introduction);
+
+    /// Names of files beside the index, for one heading.
+    void Add(const std::wstring& title, const std::vector<std::wstring>& files,
+             std::vector<HandlerCall> calls = {});
 
     /// False if the file cannot be written.
     bool Save(const std::wstring& path) const;
 
 private:
-    struct Picture
+    struct Entry
     {
-        std::wstring title, file;
+        std::wstring title;
+        std::vector<std::wstring> files;
         std::vector<HandlerCall> calls;
     };
-    std::vector<Picture> m_pictures;
+    std::wstring m_title, m_introduction;
+    std::vector<Entry> m_entries;
 };

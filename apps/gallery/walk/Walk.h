@@ -15,6 +15,7 @@
 #include "Input.h"
 
 #include <string>
+#include <vector>
 
 /// Why the walk ends before its end.
 struct WalkFailure
@@ -36,8 +37,11 @@ CPoint CellIn(CGridCtrl& grid, int nRow, int nCol);
 
 void SetPictureDirectory(const std::wstring& directory);
 
-/// Where a picture of this name is to be saved.
+/// Where a picture of this name is to be saved. The index shows it with the page that is being used.
 std::wstring PicturePath(const std::wstring& name);
+
+/// The names that were asked for since the last call.
+std::vector<std::wstring> TakePictureNames();
 
 /// Registers what is done on a page before its picture is taken.
 class PageUse

@@ -18,12 +18,16 @@
 
 #include "Picture.h"
 
+#include <algorithm>
 #include <cstdio>
 
 namespace
 {
 CWinApp theApp;
-PictureIndex s_index;
+PictureIndex s_index(
+    L"The gallery of DialogControlsOW",
+    L"Each page as a user left it who worked on it with mouse and keyboard, with what opened "
+    L"meanwhile, and the calls of handlers on the way.");
 int s_done = 0, s_all = 0; ///< pictures
 
 std::wstring FileName(const std::wstring& title)
@@ -34,9 +38,12 @@ std::wstring FileName(const std::wstring& title)
     return name + L".png";
 }
 
-void Enter(const std::wstring& title, const std::wstring& file, std::vector<HandlerCall> calls = {})
+/// The pictures that have been saved since the last entry, the last one first: it shows the page as it was left.
+void Enter(const std::wstring& title, std::vector<HandlerCall> calls = {})
 {
-    s_index.Add(title, file, std::move(calls));
+    std::vector<std::wstring> files = TakePictureNames();
+    std::rotate(files.begin(), files.end() - 1, files.end());
+    s_index.Add(title, files, std::move(calls));
     std::printf("[%d/%d] %ls\n", ++s_done, s_all, title.c_str());
     std::fflush(stdout);
 }
@@ -46,9 +53,8 @@ void SavePicture(CWnd& dialog, const std::wstring& title, std::vector<HandlerCal
     owtest::MoveTo(dialog, CPoint(0, 0));
     dialog.UpdateWindow();
     owtest::Pump();
-    const std::wstring file = FileName(title);
-    Require(owtest::SaveWindowPng(dialog, PicturePath(file)), L"the picture was not written");
-    Enter(title, file, std::move(calls));
+    Require(owtest::SaveWindowPng(dialog, PicturePath(FileName(title))), L"the picture was not written");
+    Enter(title, std::move(calls));
 }
 
 CNotificationLog& LogOf(CWnd& gallery)
@@ -165,11 +171,9 @@ void SaveSheet(const std::wstring& title, const std::vector<Drawing>& drawings, 
     owtest::Surface measure(kWidth, 1);
     owtest::Surface sheet(kWidth, paint(measure), background);
     paint(sheet);
-    const std::wstring file = FileName(title);
-    Require(
-        owtest::SavePng(static_cast<HBITMAP>(::GetCurrentObject(sheet.dc(), OBJ_BITMAP)), PicturePath(file)),
-        L"the sheet was not written");
-    Enter(title, file);
+    const auto bitmap = static_cast<HBITMAP>(::GetCurrentObject(sheet.dc(), OBJ_BITMAP));
+    Require(owtest::SavePng(bitmap, PicturePath(FileName(title))), L"the sheet was not written");
+    Enter(title);
 }
 
 void SaveSheets()

@@ -3,8 +3,8 @@
 //     connection_walk enter VALUES SHOTS     enters values, saves a configuration, accepts
 //     connection_walk again VALUES SHOTS     finds them again, checks, cancels, changes and takes back
 //
-// VALUES is the folder of what the dialog keeps, SHOTS that of the PNGs. Ends with 1 and a line that says why if
-// anything is not as it should be.
+// VALUES is the folder of what the dialog keeps, SHOTS that of the PNGs and of an index.html that shows them. Prints
+// "[done/all] name" for each picture. Ends with 1 and a line that says why if anything is not as it should be.
 
 #include <afxwin.h>
 
@@ -16,9 +16,11 @@
 #include "Input.h"
 #include "ModalVisit.h"
 #include "Picture.h"
+#include "PictureIndex.h"
 
 #include <shlwapi.h>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace
@@ -33,6 +35,9 @@ public:
 CWalkApp theApp;
 CString s_strValues;
 std::wstring s_shots;
+int s_done = 0; ///< pictures
+PictureIndex s_index(L"The connection example of DialogControlsOW",
+                     L"The dialog of an add-on, as a user left it who worked on it with mouse and keyboard.");
 
 constexpr wchar_t kName[] = L"Walk: hall, axis 3";
 
@@ -85,24 +90,41 @@ void Retype(CWnd& page, int id, const wchar_t* text)
     owtest::Press(VK_TAB);
 }
 
-void Shoot(CWnd& dialog, const std::wstring& name)
+constexpr const wchar_t* kPages[] = {L"Geometry", L"Bolts",   L"Plate", L"Loads",
+                                     L"Parts",    L"Drawing", L"Units"};
+constexpr int kPictures = 2 * static_cast<int>(std::size(kPages)) + 2;
+
+std::wstring FileName(std::wstring title)
 {
-    owtest::MoveTo(dialog, CPoint(0, 0));
-    dialog.SendMessage(WM_NCACTIVATE, TRUE); // Wine leaves the caption of a program's first window grey
-    dialog.UpdateWindow();
+    std::replace(title.begin(), title.end(), L' ', L'_');
+    return title + L".png";
+}
+
+/// Says that a picture is there.
+void Announce(const std::wstring& title)
+{
+    s_index.Add(title, {FileName(title)});
+    std::printf("[%d/%d] %ls\n", ++s_done, kPictures, title.c_str());
+    std::fflush(stdout);
+}
+
+void Shoot(CWnd& window, const std::wstring& title)
+{
+    owtest::MoveTo(window, CPoint(0, 0));
+    window.SendMessage(WM_NCACTIVATE, TRUE); // Wine leaves the caption of a program's first window grey
+    window.UpdateWindow();
     owtest::Pump();
-    Require(owtest::SaveWindowPng(dialog, s_shots + L"\\connection_" + name + L".png"), L"no picture");
+    Require(owtest::SaveWindowPng(window, s_shots + L"\\" + FileName(title)), L"no picture");
+    Announce(title);
 }
 
 void ShootPages(CWnd& dialog, const std::wstring& suffix)
 {
-    constexpr const wchar_t* kNames[] = {L"geometry", L"bolts",   L"plate", L"loads",
-                                         L"parts",    L"drawing", L"units"};
-    for (int nPage = 0; nPage < static_cast<int>(std::size(kNames)); ++nPage)
+    for (int nPage = 0; nPage < static_cast<int>(std::size(kPages)); ++nPage)
     {
         GoTo(dialog, nPage);
         owtest::Press(VK_F6);
-        Shoot(dialog, kNames[nPage] + suffix);
+        Shoot(dialog, kPages[nPage] + suffix);
     }
 }
 
@@ -205,15 +227,15 @@ void Again(CWnd& dialog)
     ::UnhookWindowsHookEx(hook);
     const std::wstring stopped = owtest::TextOf(*page.GetDlgItem(IDC_GOVERNING));
     Require(stopped.starts_with(L"Stopped") || stopped.starts_with(L"Not"), L"the check goes on: " + stopped);
-    const auto shootAndClose = [&](CWnd& box)
+    const auto shootAndClose = [](CWnd& box)
     {
-        owtest::SaveWindowPng(box, s_shots + L"\\connection_result.png");
+        Shoot(box, L"Result");
         owtest::Press(VK_RETURN);
     };
     WithBox(shootAndClose, [&] { owtest::Click(*page.GetDlgItem(IDC_CHECK)); });
     const std::wstring governing = owtest::TextOf(*page.GetDlgItem(IDC_GOVERNING));
     Require(governing.starts_with(L"Case 10000 governs: Plate in bending"), governing);
-    Shoot(dialog, L"check");
+    Shoot(dialog, L"Check");
 
     // Escape asks, and no loses nothing; yes takes back what was changed.
     Retype(GoTo(dialog, eBolts), IDC_ROWS, L"3");
@@ -246,21 +268,6 @@ void OpenOften()
     Require(after == before,
             L"handles: " + std::to_wstring(before.gdi) + L" to " + std::to_wstring(after.gdi));
 }
-
-/// The program itself, as far as its window.
-void StartProgram()
-{
-    STARTUPINFO start{sizeof start};
-    PROCESS_INFORMATION process{};
-    wchar_t command[] = L"connection.exe sr";
-    Require(::CreateProcess(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &process),
-            L"the program does not start");
-    HWND window = nullptr;
-    const auto shown = [&] { return (window = ::FindWindow(nullptr, L"Veza grede sa stubom")) != nullptr; };
-    Require(owtest::PumpUntil(shown, 60000), L"the program shows no window");
-    ::PostMessage(window, WM_CLOSE, 0, 0);
-    Require(::WaitForSingleObject(process.hProcess, 60000) == WAIT_OBJECT_0, L"the program does not end");
-}
 } // namespace
 
 int wmain(int argc, wchar_t** argv)
@@ -278,15 +285,17 @@ int wmain(int argc, wchar_t** argv)
         Require(WithDialog(&Enter) == IDOK, L"not accepted");
         return 0;
     }
+    for (const wchar_t* page : kPages)
+        Announce(page); // of the first run
     Require(WithDialog(&Again) == IDCANCEL, L"not cancelled");
     ChooseLanguage(_T("sr"));
     const auto asBefore = [](CWnd& dialog)
     {
         RequireText(GoTo(dialog, eBolts), IDC_ROWS, L"4");
-        ShootPages(dialog, L"_sr");
+        ShootPages(dialog, L" in Serbian");
     };
     Require(WithDialog(asBefore) == IDCANCEL, L"not closed");
+    Require(s_index.Save(s_shots + L"\\index.html"), L"no index");
     OpenOften();
-    StartProgram();
     return 0;
 }
