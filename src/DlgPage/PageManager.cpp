@@ -5,6 +5,8 @@
 #include "DlgPage/PageDialog.h"
 #include "module/AssertReport.h"
 
+#include <utility>
+
 using namespace ow;
 
 namespace
@@ -84,21 +86,24 @@ void CPageManager::RegisterAttributeChangedNotification(AAttributeChangeNotifica
         AfxThrowInvalidArgException();
 }
 
-// A dialog may select another page while it is told of this one: what that one shows stays.
+// What is on screen goes, too, where a selector has lost sight of it and names another old page or none. A dialog
+// may select another page while it is told of this one: what that one shows stays.
 void CPageManager::PageSelected(CPage* pNew, CPage* pOld)
 {
-    selectedPage = pNew;
-    if (ShareDialog(pNew, pOld))
-    {
-        pOld->SendFocusedControlKillFocusMessage();
-        if (pNew == selectedPage)
-            pNew->ChangeVisibility(true);
-        return;
-    }
-    if (pNew)
+    CPage* const pLast = std::exchange(selectedPage, pNew);
+    CPage* const pShown = IndexOf(pages, pLast) < 0 ? nullptr : pLast; // another's may be gone
+    if (CPage* const pSharing = ShareDialog(pNew, pOld) ? pOld : ShareDialog(pNew, pShown) ? pShown : nullptr)
+        pSharing->SendFocusedControlKillFocusMessage();
+    if (pNew && pNew == selectedPage)
         pNew->ChangeVisibility(true);
-    if (pOld && pOld != selectedPage && !ShareDialog(selectedPage, pOld))
-        pOld->ChangeVisibility(false);
+    const auto leave = [&](CPage* pPage)
+    {
+        if (pPage && !ShareDialog(pPage, pNew) && !ShareDialog(pPage, selectedPage))
+            pPage->ChangeVisibility(false);
+    };
+    leave(pOld);
+    if (!ShareDialog(pShown, pOld))
+        leave(pShown);
 }
 
 void CPageManager::AttributeChangedUsingGUI()

@@ -69,9 +69,9 @@ public:
     /// registered changes nothing, and one that is not raises MFC's invalid-argument exception.
     void RegisterAttributeChangedNotification(AAttributeChangeNotificationClient* pClient, bool bRegister);
 
-    /// Shows the new page, and hides the old one afterwards, so that the frame is never empty. Pages that
-    /// share a dialog leave it on screen: the focused edit takes over what was typed, and the dialog is bound
-    /// anew.
+    /// Shows the new page, and hides the old one afterwards, so that the frame is never empty; also the page
+    /// of the manager's own that was selected last, if that is another one. Pages that share a dialog leave
+    /// it on screen: the focused edit takes over what was typed, and the dialog is bound anew.
     void PageSelected(CPage* pNew, CPage* pOld) override;
     /// Tells every client registered for it.
     void AttributeChangedUsingGUI() override;

@@ -8,22 +8,31 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
-/// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain".
+/// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain", "Beta after Alpha".
 using Calls = std::vector<std::string>;
 inline Calls calls;
+/// What one of them does about the next such call, once.
+inline std::pair<std::string, std::function<void()>> reaction;
+
+inline void React(const std::string& call)
+{
+    if (reaction.second && reaction.first == call)
+        std::exchange(reaction.second, nullptr)();
+}
+inline void Note(const std::string& call)
+{
+    calls.push_back(call);
+    React(call);
+}
 
 inline Calls TakeCalls()
 {
     return std::exchange(calls, {});
-}
-
-inline std::string NameOf(const CPage* pPage)
-{
-    return pPage ? std::string(CStringA(pPage->GetTreeItemName())) : "-";
 }
 
 /// What the select clients were told since the last question.
@@ -33,20 +42,19 @@ inline Calls TakeSelections()
     return TakeCalls();
 }
 
+inline std::string NameOf(const CPage* pPage)
+{
+    return pPage ? std::string(CStringA(pPage->GetTreeItemName())) : "-";
+}
+
 class RecordingPage : public CPage
 {
 public:
     RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
-    ~RecordingPage() override { calls.push_back("delete " + NameOf(this)); }
+    ~RecordingPage() override { Note("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
 
     int nCount = 0; ///< what its dialog shows
-
-    using CPage::debljina, CPage::debljinaSet, CPage::duzina, CPage::duzinaSet, CPage::sirina,
-        CPage::sirinaSet;
-    using CPage::formatDole, CPage::formatDoleSet, CPage::formatGore, CPage::formatGoreSet;
-    using CPage::formatIzvor, CPage::formatIzvorSet, CPage::idConf;
-    using CPage::polozaj, CPage::polozajSet, CPage::separator, CPage::separatorSet;
 
 private:
     int m_nId;
@@ -60,7 +68,7 @@ public:
         : CPageDialog(nTemplateId, pHost), m_strName(std::move(strName))
     {
     }
-    ~RecordingDialog() override { calls.push_back("delete " + m_strName); }
+    ~RecordingDialog() override { Note("delete " + m_strName); }
 
     CEditIntegerWithRange count{this};
     RecordingPage* bound = nullptr; ///< whose count it shows
@@ -73,21 +81,22 @@ public:
     int OnInitPageDialog() override
     {
         count.SubclassDlgItem(IDC_COUNT, this);
-        calls.push_back("init " + m_strName);
+        Note("init " + m_strName);
         return FALSE; // as good as any other answer
     }
     void BindControlsToSources(bool bBind, CPage* pPage) override
     {
-        calls.push_back((bBind ? "bind " : "unbind ") + NameOf(pPage));
         bound = bBind ? static_cast<RecordingPage*>(pPage) : nullptr;
         if (bound)
             count.SetValue(bound->nCount);
+        Note((bBind ? "bind " : "unbind ") + NameOf(pPage));
     }
     void OnEditNChange(int) override { MyAttributeChanged(); }
     void OnEditNKillFocus(int) override
     {
         if (bound)
             bound->nCount = count.GetValue();
+        React("left " + m_strName);
     }
     using CPageDialog::MyAttributeChanged;
 
@@ -95,11 +104,11 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_ENABLE)
-            calls.push_back((wParam ? "enable " : "disable ") + m_strName);
+            Note((wParam ? "enable " : "disable ") + m_strName);
         else if (message == WM_SHOWWINDOW)
-            calls.push_back((wParam ? "show " : "hide ") + m_strName);
+            Note((wParam ? "show " : "hide ") + m_strName);
         else if (message == WM_SETFOCUS)
-            calls.push_back("focus " + m_strName);
+            Note("focus " + m_strName);
         return CPageDialog::WindowProc(message, wParam, lParam);
     }
 
@@ -108,30 +117,19 @@ private:
 };
 
 /// Writes down what managers and selectors tell: "first: Gamma below Alpha", "first: changed", "Alpha after -".
-class RecordingClient : public AAddPageNotificationClient,
-                        public ASelectPageNotificationClient,
-                        public AAttributeChangeNotificationClient
+struct RecordingClient : AAddPageNotificationClient,
+                         ASelectPageNotificationClient,
+                         AAttributeChangeNotificationClient
 {
-public:
-    /// A manager that is named has the page already when it tells of it.
-    explicit RecordingClient(std::string strName, const CPageManager* pManager = nullptr)
-        : m_strName(std::move(strName)), m_pManager(pManager)
-    {
-    }
+    explicit RecordingClient(std::string strName) : name(std::move(strName)) {}
     void PageAdded(CPage* pPage, CPage* pParent) override
     {
-        EXPECT_TRUE(!m_pManager || m_pManager->GetPage(pPage->GetPageID()));
-        calls.push_back(m_strName + ": " + NameOf(pPage) + " below " + NameOf(pParent));
+        Note(name + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
-    void PageSelected(CPage* pNew, CPage* pOld) override
-    {
-        calls.push_back(NameOf(pNew) + " after " + NameOf(pOld));
-    }
-    void AttributeChangedUsingGUI() override { calls.push_back(m_strName + ": changed"); }
+    void PageSelected(CPage* pNew, CPage* pOld) override { Note(NameOf(pNew) + " after " + NameOf(pOld)); }
+    void AttributeChangedUsingGUI() override { Note(name + ": changed"); }
 
-private:
-    std::string m_strName;
-    const CPageManager* m_pManager;
+    std::string name;
 };
 
 /// Identities of the host's pages, in the order of adding.
@@ -156,12 +154,22 @@ public:
     CPageManager manager{this};
     RecordingClient selects{"selects"};
     CRect frame{CPoint(200, 40), CSize(300, 180)};
-    int oks = 0;
-    int cancels = 0;
+    int oks = 0, cancels = 0;
     RecordingDialog* fields = nullptr;
     RecordingDialog* plain = nullptr;
 
     bool Open() { return Create(m_nTemplateId) && owtest::Activate(m_hWnd); }
+    /// The pages that the user sees: one at most.
+    std::string Shown() const
+    {
+        std::string names;
+        for (const RecordingDialog* pDialog : {fields, plain})
+        {
+            EXPECT_EQ(pDialog->IsWindowVisible(), pDialog->IsWindowEnabled());
+            names += pDialog->IsWindowVisible() ? NameOf(pDialog->bound) : "";
+        }
+        return names;
+    }
     RecordingPage* Page(Identity id) const
     {
         return static_cast<RecordingPage*>(manager.GetPage(static_cast<CPage::EPageID>(id)));
@@ -180,7 +188,7 @@ public:
     }
     CRect GetPageFrame() override
     {
-        calls.push_back("frame");
+        Note("frame");
         return frame;
     }
 
@@ -235,14 +243,6 @@ protected:
     {
         DDX_Control(pDX, IDC_TREE, tree);
         DDX_Control(pDX, IDC_CAPTION, caption);
-    }
-    /// Selects the next page of the top level when the command of an accelerator arrives.
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
-    {
-        if (LOWORD(wParam) != ID_NEXT_PAGE)
-            return PagesHost::OnCommand(wParam, lParam);
-        tree.SelectItem(tree.GetNextSiblingItem(tree.GetSelectedItem()));
-        return TRUE;
     }
 };
 

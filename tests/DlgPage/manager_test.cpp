@@ -41,29 +41,63 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
     EXPECT_EQ(TakeCalls(), (Calls{"delete A", "delete B", "delete one", "delete two", "delete no template"}));
 }
 
+TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
+{
+    const auto id = static_cast<CPage::EPageID>(idStranger);
+    EXPECT_EQ(m_manager.GetPage(id), nullptr);
+    RecordingPage* const pFirst = m_host.AddPage(L"first", nullptr, id);
+    m_host.AddPage(L"second", nullptr, id);
+    EXPECT_EQ(m_manager.GetPage(id), pFirst);
+}
+
 // ---- Selection --------------------------------------------------------------------------------------------
+
+namespace
+{
+Calls Show(const std::string& dialog, const std::string& page)
+{
+    return {"enable " + dialog, "show " + dialog, "bind " + page, "focus " + dialog};
+}
+Calls Leave(const std::string& dialog, const std::string& page)
+{
+    return {"disable " + dialog, "hide " + dialog, "unbind " + page};
+}
+Calls operator+(Calls first, const Calls& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
+} // namespace
 
 // The new page shows before the old one is hidden; pages that share a dialog are rebound, and stay on screen.
 TEST_F(Pages, TheManagerShowsWhatIsSelected)
 {
     RecordingPage *pAlpha = Page(idAlpha), *pBeta = Page(idBeta), *pGamma = Page(idGamma);
-    const Calls showAlpha{"enable fields", "show fields", "bind Alpha", "focus fields"};
-    const Calls showGamma{"enable plain",   "show plain",  "bind Gamma",  "focus plain",
-                          "disable fields", "hide fields", "unbind Alpha"};
+    RecordingPage foreign(L"Foreign", m_host.plain, idStranger);
+    const Calls rebindBeta{"bind Beta", "focus fields"};
     const std::tuple<CPage*, CPage*, Calls> selections[] = {
-        {pAlpha, nullptr, showAlpha},
-        {pGamma, pAlpha, showGamma},
-        {nullptr, pGamma, {"disable plain", "hide plain", "unbind Gamma"}},
+        {pAlpha, nullptr, Show("fields", "Alpha")},
+        {pGamma, pAlpha, Show("plain", "Gamma") + Leave("fields", "Alpha")},
+        {nullptr, pGamma, Leave("plain", "Gamma")},
         {nullptr, nullptr, {}},
-        {pAlpha, nullptr, showAlpha},
-        {pBeta, pAlpha, {"bind Beta", "focus fields"}},
-        {pBeta, pBeta, {"bind Beta", "focus fields"}},
+        {pAlpha, nullptr, Show("fields", "Alpha")},
+        {pBeta, pAlpha, rebindBeta},
+        {pBeta, pBeta, rebindBeta},
+        // From here on selectors have lost sight of what shows.
+        {pGamma, nullptr, Show("plain", "Gamma") + Leave("fields", "Beta")},
+        {pAlpha, pBeta, Show("fields", "Alpha") + Leave("plain", "Gamma")},
+        {pGamma, Page(idLater), Show("plain", "Gamma") + Leave("fields", "Alpha")},
+        {pAlpha, Page(idLater), Show("fields", "Alpha") + Leave("plain", "Later")},
+        {&foreign, pAlpha, Show("plain", "Foreign") + Leave("fields", "Alpha")},
+        {nullptr, nullptr, {}}, // a page of another's may be gone by now
+        {nullptr, &foreign, Leave("plain", "Foreign")},
     };
     for (const auto& [pNew, pOld, calls] : selections)
     {
         m_manager.PageSelected(pNew, pOld);
         EXPECT_EQ(TakeCalls(), calls) << NameOf(pNew) << " after " << NameOf(pOld);
     }
+    m_manager.PageSelected(pBeta, nullptr);
     owtest::Click(m_host.fields->count);
     owtest::Type(L"5");
     m_host.DestroyWindow(); // while a page is shown
@@ -74,45 +108,24 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
     EXPECT_EQ(TakeCalls(), Calls{});
 }
 
-TEST(ManagerOfARedirectingDialog, WhatTheDialogSelectsWhileItIsBoundStaysShown)
+TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
 {
-    struct RedirectingDialog : RecordingDialog
-    {
-        using RecordingDialog::RecordingDialog;
-        std::function<void()> redirect;
-        void BindControlsToSources(bool bBind, CPage*) override
-        {
-            if (bBind)
-                redirect();
-        }
+    const std::tuple<const char*, Identity, Identity, Identity> redirections[] = {
+        {"bind Gamma", idAlpha, idGamma, idBeta},   // back to the dialog that is about to go
+        {"bind Beta", idAlpha, idBeta, idGamma},    // from a shared dialog to another one
+        {"left fields", idAlpha, idBeta, idGamma},  // before the new page shows
+        {"left fields", idAlpha, idBeta, idDelta},  // on the same dialog
+        {"unbind Alpha", idAlpha, idGamma, idBeta}, // when all is done
     };
-    PagesHost host(IDD_HOST);
-    ASSERT_TRUE(host.Open());
-    auto* pRedirecting = new RedirectingDialog(IDD_PLAIN, "redirecting", &host);
-    host.manager.AddDialog(pRedirecting);
-    CPageDialog* const pFields = host.AddDialog(IDD_FIELDS, "fields");
-    CPage* const pFirst = host.AddPage(L"First", pFields, 1);
-    CPage* const pSecond = host.AddPage(L"Second", pFields, 2);
-    CPage* const pThird = host.AddPage(L"Third", pRedirecting, 3);
-    pRedirecting->redirect = [&] { host.manager.PageSelected(pSecond, pThird); };
-
-    host.manager.PageSelected(pFirst, nullptr);
-    host.manager.PageSelected(pThird, pFirst);
-    EXPECT_TRUE(pFields->IsWindowVisible() && pFields->IsWindowEnabled());
-    EXPECT_FALSE(pRedirecting->IsWindowVisible() || pRedirecting->IsWindowEnabled());
-}
-
-TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
-{
-    CPageManager manager(&m_host);
-    const auto id = static_cast<CPage::EPageID>(3);
-    EXPECT_EQ(manager.GetPage(id), nullptr);
-    auto* pFirst = new RecordingPage(L"first", nullptr, id);
-    for (RecordingPage* pPage :
-         {new RecordingPage(L"other", nullptr, 2), pFirst, new RecordingPage(L"second", nullptr, id)})
-        manager.AddPage(pPage, nullptr);
-    EXPECT_EQ(manager.GetPage(id), pFirst);
-    EXPECT_EQ(manager.GetPage(CPage::EPageID{}), nullptr);
+    for (const auto& [trigger, from, over, to] : redirections)
+    {
+        m_manager.PageSelected(Page(from), nullptr);
+        m_host.fields->count.SetFocus();
+        reaction = {trigger, [&] { m_manager.PageSelected(Page(to), Page(over)); }};
+        m_manager.PageSelected(Page(over), Page(from));
+        EXPECT_FALSE(reaction.second) << trigger;
+        EXPECT_EQ(m_host.Shown(), NameOf(Page(to))) << trigger;
+    }
 }
 
 // ---- Clients ----------------------------------------------------------------------------------------------
@@ -121,9 +134,10 @@ TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
 TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
     CPageManager manager(&m_host);
-    RecordingClient first("first", &manager), second("second"), unknown("unknown");
+    RecordingClient first("first"), second("second"), unknown("unknown");
     for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
+    reaction = {"first: A below -", [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; }};
     auto* pParent = new RecordingPage(L"A", nullptr, 1);
     manager.AddPage(pParent, nullptr);
     EXPECT_EQ(TakeCalls(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));

@@ -43,12 +43,9 @@ public:
     /// What the user sees: the page in the frame, the row, and the toggle if there is one.
     std::string Shown()
     {
-        std::string text;
-        for (const RecordingDialog* pDialog : {fields, plain})
-            if (pDialog->IsWindowVisible())
-                text += NameOf(pDialog->bound) + " ";
         EXPECT_EQ(Toggle().IsWindowVisible(), Toggle().IsWindowEnabled());
-        return text + std::to_string(Combo().GetCurSel()) + (Toggle().IsWindowVisible() ? "+" : "");
+        return PagesHost::Shown() + ' ' + std::to_string(Combo().GetCurSel()) +
+               (Toggle().IsWindowVisible() ? "+" : "");
     }
 
 protected:
@@ -74,7 +71,17 @@ protected:
     GroupHost<Group> host;
     Group& group = host.group;
     CPage* Page(Identity id) { return host.Page(id); }
-    void ClickToggle() { owtest::Click(host.Toggle()); }
+
+    using Move = std::function<void()>;
+    Move key(WORD nKey)
+    {
+        return [this, nKey] { group.SetFocus(), owtest::Press(nKey); };
+    }
+    Move code(Identity id)
+    {
+        return [this, id] { group.SetCurrentPage(Page(id)); };
+    }
+    const Move click = [this] { owtest::Click(host.Toggle()); };
 };
 using PageComboButtonGroup = PageComboGroups<ButtonGroup>;
 using PageComboCheckGroup = PageComboGroups<CheckGroup>;
@@ -85,54 +92,39 @@ TYPED_TEST_SUITE(PageComboGroups, Groups);
 
 TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
 {
-    using Move = std::function<void()>;
-    const auto key = [this](WORD nKey) -> Move
-    { return [this, nKey] { this->group.SetFocus(), owtest::Press(nKey); }; };
-    const auto code = [this](Identity id) -> Move
-    { return [this, id] { this->group.SetCurrentPage(this->Page(id)); }; };
-    const Move click = [this] { this->ClickToggle(); };
-    const Move space = [this] { this->host.Toggle().SetFocus(), owtest::Press(VK_SPACE); };
-    struct Step
-    {
-        Move move;
-        const char *from, *to; ///< the pages that are told of
-        const char* row;       ///< with a plus if there is a toggle
-    };
-    const Step steps[] = {
-        {key(VK_DOWN), "-", "Alpha", "0+"},
-        {click, "Alpha", "Gamma", "0+"},
-        {space, "Gamma", "Alpha", "0+"},
-        {key(VK_DOWN), "Alpha", "Beta", "1"},
-        {key(VK_DOWN), "Beta", "Delta", "2+"},
-        {code(idAlpha), "Delta", "Alpha", "0+"},
-        {click, "Alpha", "Gamma", "0+"},
-        {code(idBeta), "Gamma", "Beta", "1"}, // the click was noted
-        {code(idGamma), "Beta", "Gamma", "0+"},
-        {key(VK_END), "Gamma", "Later", "2+"}, // the toggle stays as it is
-        {key(VK_UP), "Later", "Beta", "1"},    // and does not count while it is hidden
-        {key(VK_UP), "Beta", "Gamma", "0+"},
-        {code(idDelta), "Gamma", "Delta", "2+"},
-        {code(idBeta), "Delta", "Beta", "1"},
-        {code(idEarlier), "Beta", "Later", "2+"}, // only the later child can be reached
-        {click, "Later", "Delta", "2+"},          // the toggle was on
-        {code(idAlpha), "Delta", "Alpha", "0+"},
+    const auto code = [this](Identity id) { return this->code(id); };
+    const auto key = [this](WORD nKey) { return this->key(nKey); };
+    const auto& click = this->click;
+    const auto space = [this] { this->host.Toggle().SetFocus(), owtest::Press(VK_SPACE); };
+    /// The page that shows after each move, and its row, with a plus if there is a toggle.
+    const std::tuple<std::function<void()>, std::string, std::string> steps[] = {
+        {key(VK_DOWN), "Alpha", "0+"},    {click, "Gamma", "0+"},         {space, "Alpha", "0+"},
+        {key(VK_DOWN), "Beta", "1"},      {key(VK_DOWN), "Delta", "2+"},  {code(idAlpha), "Alpha", "0+"},
+        {click, "Gamma", "0+"},           {code(idBeta), "Beta", "1"},  // the click was noted
+        {code(idGamma), "Gamma", "0+"},   {key(VK_END), "Later", "2+"}, // the toggle stays as it is
+        {key(VK_UP), "Beta", "1"}, // and does not count while it is hidden
+        {key(VK_UP), "Gamma", "0+"},      {code(idDelta), "Delta", "2+"}, {code(idBeta), "Beta", "1"},
+        {code(idEarlier), "Later", "2+"}, // only the later child can be reached
+        {click, "Delta", "2+"},           // the toggle was on
+        {code(idAlpha), "Alpha", "0+"},
     };
     EXPECT_EQ(this->host.Combo().GetCount(), 3) << "children have no row";
     EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
-    for (const Step& step : steps)
+    std::string before = "-";
+    for (const auto& [move, page, row] : steps)
     {
-        const std::string told = step.to + std::string(" after ") + step.from;
-        step.move();
+        const std::string told = page + " after " + std::exchange(before, page);
+        move();
         EXPECT_EQ(TakeSelections(), Calls{told});
-        EXPECT_EQ(this->host.Shown(), step.to + std::string(" ") + step.row) << told;
-        EXPECT_EQ(NameOf(this->group.GetCurrentPage()), step.to) << told;
+        EXPECT_EQ(this->host.Shown(), page + ' ' + row) << told;
+        EXPECT_EQ(NameOf(this->group.GetCurrentPage()), page) << told;
     }
     this->group.OnExtComboBoxSelChanged(idToggle, 1);
     this->group.OnButtonClicked(idCombo);
     EXPECT_EQ(TakeSelections(), Calls{}) << "other controls";
     this->group.OnExtComboBoxSelChanged(idCombo, -1);
     EXPECT_EQ(TakeSelections(), Calls{"- after Alpha"});
-    EXPECT_EQ(this->host.Shown(), "0");
+    EXPECT_EQ(this->host.Shown(), " 0");
     this->group.OnButtonClicked(idToggle);
     EXPECT_EQ(TakeSelections(), Calls{"- after -"}) << "no row";
 }
@@ -151,6 +143,9 @@ TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
         EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
     }
+    this->group.SetCurrentPage(this->Page(idBeta));
+    EXPECT_EQ(TakeSelections(), Calls{"Beta after -"});
+    EXPECT_EQ(this->host.Shown(), "Beta 1") << "what was left on the screen goes with the next selection";
     EXPECT_EQ(this->group.FindPage(&twin), 1);
     EXPECT_EQ(this->group.FindParent(this->Page(idDelta)), 4) << "its first child";
     EXPECT_EQ(this->group.FindParent(this->Page(idBeta)), -1);
@@ -158,26 +153,72 @@ TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
     EXPECT_EQ(TypeParam(1, 2).GetCurrentPage(), nullptr) << "without controls";
 }
 
+TYPED_TEST(PageComboGroups, LeaveNoPageThatAnotherChildHasReplaced)
+{
+    this->group.SetCurrentPage(this->Page(idGamma));
+    this->host.AddPage(L"Newer", this->host.fields, idStranger, this->Page(idAlpha));
+    EXPECT_EQ(NameOf(this->group.GetCurrentPage()), "Newer") << "only the latest can be reached";
+    this->host.plain->count.SetFocus();
+    owtest::Type(L"7");
+    TakeCalls();
+    this->group.SetCurrentPage(this->Page(idLater));
+    EXPECT_EQ(TakeSelections(), Calls{"Later after Newer"});
+    EXPECT_EQ(this->host.Page(idGamma)->nCount, 7) << "what was typed there is taken over";
+    this->host.AddPage(L"Newest", this->host.fields, idStranger + 1, this->Page(idDelta));
+    this->click();
+    EXPECT_EQ(TakeSelections(), Calls{"Delta after Newest"});
+    EXPECT_EQ(this->host.Shown(), "Delta 2+");
+}
+
+// Who is told of one page selects another: that one shows, and whoever has not been told yet hears of it alone.
+TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
+{
+    RecordingClient last("last");
+    this->group.RegisterSelectPageNotification(&last, true);
+    const std::tuple<std::function<void()>, Identity, std::string> moves[] = {
+        {this->key(VK_DOWN), idAlpha, "Beta"},
+        {this->click, idAlpha, "Gamma"},
+        {this->code(idBeta), idAlpha, "Beta"},
+        {this->code(idBeta), idGamma, "Beta"}};
+    const std::pair<Identity, const char*> targets[] = {{idDelta, "2+"}, {idLater, "2+"}};
+    for (const auto& [move, from, told] : moves)
+        for (const auto& [to, row] : targets)
+            for (const bool bByDialog : {false, true}) // the manager is the second client
+            {
+                const std::string start = NameOf(this->Page(from)), target = NameOf(this->Page(to));
+                const std::string heard = told + " after " + start, changed = target + " after " + told;
+                SCOPED_TRACE(heard + ", " + changed + (bByDialog ? ", by the dialog" : ""));
+                this->group.SetCurrentPage(this->Page(from));
+                TakeSelections();
+                reaction = {bByDialog ? "bind " + told : heard,
+                            [&] { this->group.SetCurrentPage(this->Page(to)); }};
+                move();
+                EXPECT_EQ(TakeSelections(), (Calls{heard, changed, changed}));
+                EXPECT_EQ(this->host.Shown(), target + ' ' + row);
+                EXPECT_EQ(this->group.GetCurrentPage(), this->Page(to));
+                this->group.SetCurrentPage(this->Page(idBeta));
+                EXPECT_EQ(TakeSelections()[0], "Beta after " + target);
+            }
+}
+
 TYPED_TEST(PageComboGroups, TellTheClientsBeforeTheRowChangesByCode)
 {
-    struct Watch : ASelectPageNotificationClient
+    RecordingClient other("other");
+    for (RecordingClient* pClient : {&other, static_cast<RecordingClient*>(nullptr)})
+        this->group.RegisterSelectPageNotification(pClient, true);
+    CPage* pBefore = nullptr;
+    for (CPage* pPage : {this->Page(idBeta), this->Page(idDelta)})
     {
-        const ACurrentPageProvider* pProvider = nullptr;
-        std::string seen;
-        void PageSelected(CPage*, CPage*) override { seen += NameOf(pProvider->GetCurrentPage()) + " "; }
-    } watch;
-    watch.pProvider = &this->group;
-    this->group.RegisterSelectPageNotification(&watch, true);
-    this->group.RegisterSelectPageNotification(nullptr, true);
-    this->group.SetCurrentPage(this->Page(idBeta));
-    this->group.SetCurrentPage(this->Page(idDelta));
-    EXPECT_EQ(watch.seen, "- Beta ");
-    this->group.RegisterSelectPageNotification(&this->host.selects, false);
-    this->group.RegisterSelectPageNotification(&watch, false);
-    TakeSelections();
+        const std::string told = NameOf(pPage) + " after " + NameOf(pBefore);
+        reaction = {told, [&] { EXPECT_EQ(this->group.GetCurrentPage(), pBefore); }};
+        this->group.SetCurrentPage(pPage);
+        EXPECT_EQ(TakeSelections(), (Calls{told, told}));
+        pBefore = pPage;
+    }
+    for (RecordingClient* pClient : {&this->host.selects, &other})
+        this->group.RegisterSelectPageNotification(pClient, false);
     this->group.SetCurrentPage(this->Page(idBeta));
     EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";
-    EXPECT_EQ(watch.seen, "- Beta ");
 }
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
@@ -203,7 +244,7 @@ TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUs
     EXPECT_EQ(text(), _T("More")) << "the template's, until something is selected by code or clicked";
     group.SetCurrentPage(Page(idAlpha));
     EXPECT_EQ(text(), _T("Napred"));
-    ClickToggle();
+    click();
     EXPECT_EQ(text(), _T("Nazad"));
     group.SetStateTexts(_T("Close"), _T("Details"));
     EXPECT_EQ(text(), _T("Nazad")) << "from the next change on";

@@ -19,47 +19,37 @@ protected:
     CWnd& Field(int nId) { return *m_host.fields->GetDlgItem(nId); }
 
     /// Types a new text into a box, without leaving it.
-    CWnd& TypeInto(int nId, const wchar_t* pszText)
+    static void TypeInto(CWnd& box, const wchar_t* pszText)
     {
-        Field(nId).SetFocus();
-        Field(nId).SendMessage(EM_SETSEL, 0, -1);
+        box.SetFocus();
+        box.SendMessage(EM_SETSEL, 0, -1);
         owtest::Type(pszText);
-        return Field(nId);
     }
 };
 } // namespace
 
-TEST_F(PageInput, EscapeDoesNothingInAPage)
+// Escape does nothing; Enter breaks the line of a multi-line box, and goes on to the host elsewhere.
+TEST_F(PageInput, EscapeAndEnterLeaveTheTextsAndThePageAsTheyAre)
 {
-    for (const int nId : {IDC_COUNT, IDC_PLAIN, IDC_NOTES})
+    CEdit& name = static_cast<CEdit&>(*m_host.GetDlgItem(IDC_NAME));
+    const std::tuple<CWnd&, WORD, const wchar_t*, CWnd&, int, int> keys[] = {
+        {Field(IDC_COUNT), VK_ESCAPE, L"1", Field(IDC_COUNT), 0, 0},
+        {Field(IDC_PLAIN), VK_ESCAPE, L"1", Field(IDC_PLAIN), 0, 0},
+        {Field(IDC_NOTES), VK_ESCAPE, L"1", Field(IDC_NOTES), 0, 0},
+        {Field(IDC_COUNT), VK_RETURN, L"1", Field(IDC_PLAIN), 0, 0}, // moves on
+        {Field(IDC_PLAIN), VK_RETURN, L"1", Field(IDC_PLAIN), 1, 0}, // the default button
+        {Field(IDC_NOTES), VK_RETURN, L"1\r\n", Field(IDC_NOTES), 0, 0},
+        {name, VK_ESCAPE, L"1", name, 0, 1}, // beside the page they are the host's
+        {name, VK_RETURN, L"1", name, 1, 0}};
+    for (const auto& [box, key, text, target, nOks, nCancels] : keys)
     {
-        const CWnd& box = TypeInto(nId, L"12");
-        owtest::Press(VK_ESCAPE);
-        EXPECT_TRUE(HasFocus(box) && TextOf(box) == L"12");
+        m_host.oks = m_host.cancels = 0;
+        TypeInto(box, L"1");
+        owtest::Press(key);
+        EXPECT_TRUE(HasFocus(target) && TextOf(box) == text) << key << ' ' << box.GetDlgCtrlID();
+        EXPECT_TRUE(m_host.oks == nOks && m_host.cancels == nCancels) << key << ' ' << box.GetDlgCtrlID();
     }
-    EXPECT_TRUE(m_host.fields->IsWindowVisible());
-    EXPECT_EQ(m_host.cancels, 0);
-    owtest::Click(*m_host.GetDlgItem(IDC_NAME));
-    owtest::Press(VK_ESCAPE);
-    EXPECT_EQ(m_host.cancels, 1) << "beside the page it is the host's";
-}
-
-TEST_F(PageInput, EnterBreaksTheLineOfAMultiLineBoxAndIsTheHostsElsewhere)
-{
-    const std::tuple<int, const wchar_t*, int, int> boxes[] = {
-        {IDC_NOTES, L"1\r\n2", 0, IDC_NOTES},
-        {IDC_PLAIN, L"12", 1, IDC_PLAIN}, // the default button
-        {IDC_COUNT, L"1", 1, IDC_PLAIN}}; // moves on
-    for (const auto& [nId, text, nOks, nTarget] : boxes)
-    {
-        const CWnd& box = TypeInto(nId, L"1");
-        owtest::Press(VK_RETURN);
-        EXPECT_TRUE(HasFocus(Field(nTarget)));
-        if (nTarget == nId)
-            owtest::Type(L"2");
-        EXPECT_EQ(TextOf(box), text);
-        EXPECT_EQ(m_host.oks, nOks);
-    }
+    EXPECT_EQ(m_host.Shown(), "Alpha");
 }
 
 TEST_F(PageInput, TabGoesThroughThePageAndOnToTheHost)
@@ -125,20 +115,20 @@ TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
 
 TEST_F(PageInput, ATypedValueIsKeptWhenThePageChangesWithoutLeavingTheBox)
 {
-    TypeInto(IDC_COUNT, L"0042");
+    CWnd& count = Field(IDC_COUNT);
+    TypeInto(count, L"0042");
     EXPECT_EQ(Page(idAlpha)->nCount, 0) << "taken over when the user leaves";
     Page(idAlpha)->SendFocusedControlKillFocusMessage();
-    EXPECT_TRUE(Page(idAlpha)->nCount == 42 && TextOf(Field(IDC_COUNT)) == L"42");
-    EXPECT_TRUE(HasFocus(Field(IDC_COUNT)));
-
-    TypeInto(IDC_COUNT, L"17");
-    m_host.PostMessage(WM_COMMAND, ID_NEXT_PAGE);
-    owtest::Pump();
-    EXPECT_TRUE(Page(idAlpha)->nCount == 17 && Page(idBeta)->nCount == 200);
-    EXPECT_EQ(TextOf(Field(IDC_COUNT)), L"200") << "two pages on one dialog";
-    TypeInto(IDC_COUNT, L"18");
-    m_manager.PageSelected(Page(idGamma), Page(idBeta)); // by code, and with another dialog
-    EXPECT_TRUE(Page(idAlpha)->nCount == 17 && Page(idBeta)->nCount == 18);
+    EXPECT_TRUE(Page(idAlpha)->nCount == 42 && TextOf(count) == L"42" && HasFocus(count));
+    TypeInto(count, L"17");
+    m_tree.SetCurrentPage(Page(idBeta));
+    EXPECT_EQ(TextOf(count), L"200") << "two pages on one dialog";
+    TypeInto(count, L"18");
+    m_manager.PageSelected(Page(idGamma), Page(idBeta)); // with another dialog
+    m_manager.PageSelected(Page(idBeta), Page(idGamma));
+    TypeInto(count, L"19");
+    m_manager.PageSelected(Page(idDelta), nullptr); // by a selector that has lost sight of what shows
+    EXPECT_EQ((std::vector{Page(idAlpha)->nCount, Page(idBeta)->nCount}), (std::vector{17, 19}));
 }
 
 TEST_F(PageInput, AChangeTravelsFromTheBoxToTheHost)

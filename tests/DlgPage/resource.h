@@ -4,7 +4,6 @@
 #define IDC_TREE 1001
 #define IDC_CAPTION 1002
 #define IDC_NAME 1003
-#define ID_NEXT_PAGE 1004
 
 #define IDD_FIELDS 101
 #define IDD_PLAIN 102

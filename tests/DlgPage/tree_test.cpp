@@ -48,7 +48,7 @@ TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
         owtest::Press(key);
     EXPECT_EQ(TakeSelections(), (Calls{"Alpha after Beta", "Gamma after Alpha"}));
     EXPECT_TRUE(HasFocus(m_tree));
-    EXPECT_TRUE(m_host.plain->IsWindowVisible() && !m_host.fields->IsWindowVisible());
+    EXPECT_EQ(m_host.Shown(), "Gamma");
 
     owtest::Press(VK_RETURN);
     EXPECT_TRUE(HasFocus(*m_host.GetDlgItem(IDC_NAME))) << "Enter moves on";
@@ -73,7 +73,7 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     LRESULT result = 1;
     m_tree.OnTvnSelchanged(&nothing.hdr, &result);
     EXPECT_TRUE(result == 0 && TakeSelections() == Calls{"- after -"});
-    EXPECT_FALSE(m_host.plain->IsWindowVisible());
+    EXPECT_EQ(m_host.Shown(), "");
 }
 
 TEST_F(Pages, TheFirstClientOfTheTreeStaysAndNullIsPassedOver)
