@@ -58,7 +58,7 @@ void CPageManager::AddDialog(CPageDialog* pDlg)
     pDlg->OnInitPageDialog();
 
     const CRect frame = dynamic_cast<APageFrameProvider&>(*hostDialog).GetPageFrame();
-    pDlg->MoveWindow(frame.left, frame.top, frame.Width(), frame.Height(), TRUE);
+    pDlg->MoveWindow(frame);
     pDlg->EnableWindow(FALSE);
     pDlg->ShowWindow(SW_HIDE);
 }

@@ -18,9 +18,10 @@
 // enumerates the fonts.
 //
 // Rows. A control of a template is filled when it is attached; one that is made by Create is filled by
-// InitFonts, and stays empty without. Listed are the TrueType fonts of the system, each once; the class of
-// each is what gFontManager says of its name. A row that the caller adds with AddString counts as a font of
-// that name, of an SHX font for instance. Rows may be taken out with DeleteString and ResetContent.
+// InitFonts, and stays empty without. Listed are the TrueType fonts of the system, each once, and the forms
+// for vertical writing that it has of some, with @ before the name; the class of each is what gFontManager
+// says of its name. A row that the caller adds with AddString counts as a font of that name, of an SHX font
+// for instance. Rows may be taken out with DeleteString and ResetContent.
 //
 // Item data. Each listed row has a record of the control's own as its item data, which callers leave alone.
 // It goes with its row, at the latest with the window.

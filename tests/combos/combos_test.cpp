@@ -14,6 +14,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -122,9 +123,7 @@ protected:
         gFontManager.SetSHXDirectories(directories);
         gFontManager.Initialize(CWindowDC(nullptr));
         std::filesystem::remove_all(directory);
-        for (int i = 0; i < gFontManager.Count(); ++i)
-            if (gFontManager.Class(i) != eFontSHX)
-                m_names.push_back(gFontManager.Name(i));
+        EnumerateFonts();
         ASSERT_GT(m_names.size(), 3u);
         FontCombo::s_hIconTTF = FontCombo::s_hIconSHX = nullptr;
         FontCombo::s_szIconTTF = FontCombo::s_szIconSHX = CSize(0, 0);
@@ -139,6 +138,21 @@ protected:
     {
         EXPECT_EQ(m_dialog.Take(), Calls{}) << "told to the handler alone";
         m_dialog.DestroyWindow();
+    }
+    /// As the system tells them: each character set of a font by itself, and names with @ for vertical writing.
+    void EnumerateFonts()
+    {
+        LOGFONT any{};
+        any.lfCharSet = DEFAULT_CHARSET;
+        const FONTENUMPROC take = [](const LOGFONT* font, const TEXTMETRIC*, DWORD type, LPARAM fonts) -> int
+        {
+            if (type == TRUETYPE_FONTTYPE)
+                reinterpret_cast<Fonts*>(fonts)->try_emplace(font->lfFaceName, *font);
+            return 1;
+        };
+        ::EnumFontFamiliesEx(CWindowDC(nullptr), &any, take, reinterpret_cast<LPARAM>(&m_fonts), 0);
+        for (const auto& [name, font] : m_fonts)
+            m_names.push_back(name);
     }
     bool FocusArrives(int nId)
     {
@@ -189,8 +203,15 @@ protected:
         dc.FillSolidRect(rect, back);
         if (icon)
             dc.DrawState(rect.TopLeft(), CSize(16, 16), icon, DSS_NORMAL, static_cast<CBrush*>(nullptr));
+        LOGFONT look{};
+        look.lfCharSet = DEFAULT_CHARSET;
+        ::lstrcpy(look.lfFaceName, name);
+        if (const auto listed = m_fonts.find(name); listed != m_fonts.end())
+            look = listed->second;
+        look.lfHeight = 90;
+        look.lfWidth = 0;
         CFont font;
-        font.CreatePointFont(90, name, &dc);
+        font.CreatePointFontIndirect(&look, &dc);
         CFont* old = dc.SelectObject(&font);
         dc.SetBkMode(TRANSPARENT);
         dc.SetTextColor(color);
@@ -204,7 +225,9 @@ protected:
     CombosDialog m_dialog{&m_handler};
     CExtComboBox& m_ext = m_dialog.ext;
     CFontSelectionComboBox& m_font = m_dialog.font;
-    std::vector<CString> m_names; ///< of the system's fonts, each once
+    using Fonts = std::map<CString, LOGFONT>;
+    Fonts m_fonts;                ///< the system's, each once, by name
+    std::vector<CString> m_names; ///< of them
 };
 } // namespace
 
@@ -322,10 +345,11 @@ TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
     const int count = static_cast<int>(m_names.size());
     m_font.InitFonts();
     EXPECT_EQ(m_font.GetCount(), count);
-    for (const CString& name : m_names)
+    for (const auto& [name, font] : m_fonts)
     {
         const LOGFONT* record = RecordOf(name);
-        EXPECT_TRUE(record->lfFaceName == name && record->lfHeight > 0 && record->lfWeight > 0);
+        EXPECT_TRUE(record->lfFaceName == name && record->lfHeight == font.lfHeight);
+        EXPECT_TRUE(record->lfWeight == font.lfWeight && record->lfItalic == font.lfItalic);
         EXPECT_EQ(*reinterpret_cast<const int*>(record + 1), gFontManager.Find(name));
     }
     LOGFONT own{};

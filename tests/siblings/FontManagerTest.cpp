@@ -22,7 +22,6 @@ struct FontManager : testing::Test
         std::error_code ignored;
         std::filesystem::remove_all(m_directory, ignored);
     }
-    void AddFile(const CString& name) { std::ofstream(m_directory / name.GetString()) << "shapes"; }
 
     const std::filesystem::path m_directory =
         std::filesystem::temp_directory_path() / (L"shx" + std::to_wstring(::GetCurrentProcessId()));
@@ -35,15 +34,12 @@ TEST_F(FontManager, FindsTheInstalledFacesWhenItIsInitialised)
 {
     EXPECT_FALSE(m_manager.Initialize(nullptr) || m_manager.m_bInitialized);
     EXPECT_EQ(m_manager.Count(), 0);
-    ASSERT_TRUE(m_manager.Initialize(m_dc) && m_manager.m_bInitialized);
-    ASSERT_GT(m_manager.Count(), 0);
+    ASSERT_TRUE(m_manager.Initialize(m_dc) && m_manager.m_bInitialized && m_manager.Count() > 0);
     for (int i = 0; i < m_manager.Count(); ++i)
     {
-        EXPECT_EQ(m_manager.Find(m_manager.Name(i)), i);
+        EXPECT_TRUE(m_manager.Find(m_manager.Name(i).MakeUpper()) == i && m_manager.Name(i)[0] != L'@');
         EXPECT_EQ(m_manager.Class(i), eFontTrueType);
-        EXPECT_NE(m_manager.Name(i)[0], L'@');
     }
-    EXPECT_EQ(m_manager.Find(m_manager.Name(0).MakeUpper()), 0);
     EXPECT_EQ(m_manager.Find(L"No such face"), -1);
     for (int outside : {-1, m_manager.Count()})
         EXPECT_STREQ(m_manager.Name(outside), L"");
@@ -55,7 +51,7 @@ TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
     const CString face = m_manager.Name(0), other = m_manager.Name(1);
     for (const CString& file :
          {CString(L"romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
-        AddFile(file);
+        std::ofstream(m_directory / file.GetString()) << "shapes";
     CStringArray directories;
     directories.Add((m_directory / L"absent").c_str());
     directories.Add(m_directory.c_str());

@@ -19,15 +19,10 @@ struct MixedFont : testing::Test
         m_old = m_surface.dc().SelectObject(&m_font);
         m_surface.dc().SetBkMode(TRANSPARENT);
     }
-
     void TearDown() override { m_surface.dc().SelectObject(m_old); }
-
     CSize Extent(LPCWSTR text) { return CMixedFont::GetTextExtent(&m_surface.dc(), text); }
-
     CSize PlainExtent(LPCWSTR text) { return m_surface.dc().GetTextExtent(text, lstrlenW(text)); }
-
     void Draw(LPCWSTR text, CPoint point = {0, 0}) { CMixedFont::TextOut(&m_surface.dc(), point, text); }
-
     /// Number of pixels that are not paper.
     int Ink(const CRect& area) { return area.Width() * area.Height() - m_surface.count(area, kPaper); }
 
@@ -89,47 +84,44 @@ TEST_F(MixedFont, DrawsInsideItsExtent)
 
 TEST_F(MixedFont, DrawsPlainTextAsTheContextDoes)
 {
-    owtest::Surface plain(300, 100, kPaper);
-    CFont* old = plain.dc().SelectObject(&m_font);
-    plain.dc().SetBkMode(TRANSPARENT);
-    plain.dc().TextOut(7, 9, L"Stap 12", 7);
-    plain.dc().SelectObject(old);
-
-    Draw(L"Stap 12", CPoint(7, 9));
-    EXPECT_TRUE(m_surface == plain);
+    owtest::Surface drawn(300, 100, kPaper);
+    CFont* const old = drawn.dc().SelectObject(&m_font);
+    drawn.dc().SetBkMode(TRANSPARENT);
+    CMixedFont::TextOut(&drawn.dc(), CPoint(7, 9), L"Stap 12");
+    drawn.dc().SelectObject(old);
+    m_surface.dc().TextOut(7, 9, L"Stap 12", 7);
+    EXPECT_TRUE(m_surface == drawn);
 }
 
 TEST_F(MixedFont, OpaqueModeFillsTheExtent)
 {
-    const COLORREF yellow = RGB(255, 255, 0);
+    const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>")), all(0, 0, 300, 100);
     m_surface.dc().SetBkMode(OPAQUE);
-    m_surface.dc().SetBkColor(yellow);
-    Draw(L"m<sup>2</sup>", CPoint(10, 10));
-    const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>"));
+    m_surface.dc().SetBkColor(RGB(255, 255, 0));
+    Draw(L"m<sup>2</sup>", box.TopLeft());
     EXPECT_EQ(m_surface.count(box, kPaper), 0);
+    EXPECT_EQ(m_surface.count(all, kPaper), 300 * 100 - box.Width() * box.Height());
+    EXPECT_EQ(m_surface.at(box.left, box.top), RGB(255, 255, 0));
     EXPECT_EQ(m_surface.dc().GetBkMode(), OPAQUE);
-    EXPECT_EQ(m_surface.at(box.left, box.top), yellow);
-    EXPECT_EQ(m_surface.at(box.right, box.top), kPaper);
-    EXPECT_EQ(m_surface.at(box.left, box.bottom), kPaper);
 }
 
 TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTime)
 {
     const LPCWSTR text = L"A<sub>2</sub> <b>b</b>";
     const CSize first = Extent(text);
-    m_surface.dc().SetMapMode(MM_ANISOTROPIC);
-    m_surface.dc().SetWindowExt(2, 2);
+    CDC& dc = m_surface.dc();
+    dc.SetMapMode(MM_ANISOTROPIC);
+    dc.SetWindowExt(2, 2);
     EXPECT_NE(Extent(text), first);
-    m_surface.dc().SetMapMode(MM_TEXT);
-    EXPECT_EQ(Extent(text), first);
-    m_surface.dc().SetTextCharacterExtra(3);
+    dc.SetMapMode(MM_TEXT);
+    dc.SetTextCharacterExtra(3);
     EXPECT_EQ(Extent(text).cx, first.cx + 3 * 4);
-    m_surface.dc().SetTextCharacterExtra(0);
+    dc.SetTextCharacterExtra(0);
     CFont large;
     large.CreatePointFont(240, L"Liberation Sans");
-    CFont* const old = m_surface.dc().SelectObject(&large);
+    CFont* const old = dc.SelectObject(&large);
     EXPECT_GT(Extent(text).cx, first.cx * 3 / 2);
-    m_surface.dc().SelectObject(old);
+    dc.SelectObject(old);
     EXPECT_EQ(Extent(text), first);
 }
 

@@ -5,9 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace
@@ -36,8 +34,8 @@ struct CProbeHook : CMsgHook
 {
     explicit CProbeHook(char letter) : m_letter(letter) {}
     using CMsgHook::Default;
-
     std::function<void()> m_action = [] {};
+    bool m_goes = false; ///< ends when the probe has passed
     char m_letter;
 
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
@@ -46,7 +44,10 @@ struct CProbeHook : CMsgHook
             return Default();
         s_log += m_letter;
         m_action();
-        return Default();
+        const LRESULT answer = Default();
+        if (m_goes)
+            delete this;
+        return answer;
     }
 };
 
@@ -58,13 +59,7 @@ WNDPROC ProcedureOf(HWND window)
 struct MsgHook : testing::Test
 {
     void SetUp() override { ASSERT_TRUE(m_window.Open()); }
-
-    void HookBoth()
-    {
-        ASSERT_TRUE(a.HookWindow(&m_window));
-        ASSERT_TRUE(b.HookWindow(&m_window));
-    }
-
+    void HookBoth() { ASSERT_TRUE(a.HookWindow(&m_window) && b.HookWindow(&m_window)); }
     /// Sends a probe and answers who saw it, in order.
     std::string Probe()
     {
@@ -75,8 +70,7 @@ struct MsgHook : testing::Test
 
     CProbedWnd m_window;
     LRESULT m_answer = 0;
-    CProbeHook a{'a'};
-    CProbeHook b{'b'};
+    CProbeHook a{'a'}, b{'b'};
 };
 } // namespace
 
@@ -86,18 +80,14 @@ TEST_F(MsgHook, LeavesInAnyOrder)
     std::string order = "abc";
     do
     {
-        std::array<std::unique_ptr<CProbeHook>, 3> hooks;
-        std::string expected = "w";
-        for (size_t i = 0; i < hooks.size(); ++i)
-        {
-            hooks[i] = std::make_unique<CProbeHook>("abc"[i]);
-            ASSERT_TRUE(hooks[i]->HookWindow(&m_window));
-            expected.insert(0, 1, "abc"[i]);
-        }
+        CProbeHook hooks[] = {CProbeHook('a'), CProbeHook('b'), CProbeHook('c')};
+        for (CProbeHook& hook : hooks)
+            ASSERT_TRUE(hook.HookWindow(&m_window));
+        std::string expected = "cbaw";
         for (char leaving : order)
         {
             EXPECT_EQ(Probe(), expected);
-            hooks[leaving - 'a'].reset();
+            hooks[leaving - 'a'].Unhook();
             std::erase(expected, leaving);
         }
         EXPECT_EQ(Probe(), "w");
@@ -146,18 +136,10 @@ TEST_F(MsgHook, HooksMayJoinAndLeaveWhileAMessageIsOnItsWay)
     EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(Probe(), "w");
 
-    struct CSuicide : CMsgHook
-    {
-        LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
-        {
-            const LRESULT answer = Default();
-            if (message == kProbe)
-                delete this;
-            return answer;
-        }
-    };
-    (new CSuicide)->HookWindow(&m_window);
-    EXPECT_EQ(Probe(), "w");
+    auto* const pGoing = new CProbeHook('g');
+    pGoing->m_goes = true;
+    pGoing->HookWindow(&m_window);
+    EXPECT_EQ(Probe(), "gw");
     EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(Probe(), "w");
 }

@@ -7,32 +7,26 @@
 
 TEST(FormatJedinice, WritesLengthsInItsUnitWithTheNearestSenseOfItsFields)
 {
-    CFormatJedinice format;
-    EXPECT_STREQ(format.Format(1.25), L"1250");
-    format.nUnitIndex = CMeasurementUnit::eCentimetre;
-    format.nEditValue = 1;
-    format.nCheckFlag = 1;
-    EXPECT_STREQ(format.Format(0.125), L"12.5 cm");
-
-    format = {};
-    format.nUnitIndex = -1;
-    EXPECT_STREQ(format.Unit().Symbol(), L"mm");
-    format.nEditValue = -3;
-    EXPECT_STREQ(format.Format(0.001), L"1");
-    format.nEditValue = 99;
-    EXPECT_STREQ(format.Format(0.001), L"1.000000000000000");
+    const std::tuple<CFormatJedinice, LPCWSTR, LPCWSTR> formats[] = {
+        {{}, L"125", L"mm"},
+        {{CMeasurementUnit::eCentimetre, 1, 1}, L"12.5 cm", L"cm"},
+        {{-1, 0, -3}, L"125", L"mm"},
+        {{-1, 0, 99}, L"125.000000000000000", L"mm"}};
+    for (const auto& [format, text, unit] : formats)
+    {
+        EXPECT_STREQ(format.Format(0.125), text);
+        EXPECT_STREQ(format.Unit().Symbol(), unit);
+    }
 }
 
 TEST(FormatTekstaKote, IsNotSetUntilATextIsChosen)
 {
+    const CFormatTekstaKote unset;
     CFormatTekstaKote format;
-    EXPECT_FALSE(format.IsSet());
-    EXPECT_TRUE(format == CFormatTekstaKote());
-
+    EXPECT_TRUE(!format.IsSet() && format == unset);
     format.nTekstKote = 0;
     format.strPrefiks = L"L=";
     format.strSufiks = L"*";
-    EXPECT_TRUE(format.IsSet());
-    EXPECT_TRUE(format != CFormatTekstaKote());
+    EXPECT_TRUE(format.IsSet() && format != unset);
     EXPECT_STREQ(format.Format(1.25), L"L=1250*");
 }

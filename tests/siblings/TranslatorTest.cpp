@@ -8,11 +8,14 @@
 #include <fstream>
 #include <string>
 #include <tuple>
+#include <vector>
 
 namespace
 {
 struct Translator : testing::Test
 {
+    using Texts = std::vector<std::pair<LPCWSTR, LPCWSTR>>;
+
     ~Translator() override
     {
         std::error_code ignored;
@@ -23,6 +26,11 @@ struct Translator : testing::Test
         std::ofstream(m_path, std::ios::binary) << catalogue;
         m_error = {};
         return m_translator.Load(m_path.c_str(), &m_error);
+    }
+    void Expect(const Texts& texts) const
+    {
+        for (const auto& [text, translation] : texts)
+            EXPECT_STREQ(m_translator.Do(text), translation);
     }
 
     const std::filesystem::path m_path =
@@ -36,17 +44,13 @@ const std::string kGood = "msgid \"Snimi\"\nmsgstr \"Save\"\n";
 
 TEST_F(Translator, WithoutACatalogueTheSourceTextsStand)
 {
-    EXPECT_FALSE(m_translator.IsLoaded());
-    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Snimi");
-    EXPECT_STREQ(m_translator.Do(L""), L"");
-    EXPECT_STREQ(m_translator.Do(static_cast<LPCWSTR>(nullptr)), L"");
-    EXPECT_FALSE(m_translator.Has(L"Snimi"));
-
-    ASSERT_TRUE(Load(kGood));
-    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Save");
-    EXPECT_STREQ(m_translator.Do(L"snimi"), L"snimi") << "the case counts";
+    const Texts source{{L"Snimi", L"Snimi"}, {L"", L""}, {nullptr, L""}};
+    EXPECT_FALSE(m_translator.IsLoaded() || m_translator.Has(L"Snimi"));
+    Expect(source);
+    ASSERT_TRUE(Load(kGood) && m_translator.IsLoaded() && m_translator.Has(L"Snimi"));
+    Expect({{L"Snimi", L"Save"}, {L"snimi", L"snimi"}}); // the case counts
     m_translator.Unload();
-    EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Snimi");
+    Expect(source);
 }
 
 TEST_F(Translator, ReadsWhatACatalogueMayHold)
@@ -80,15 +84,15 @@ msgstr[1] "%d sheets"
                      "msgid \"\xC5\xA0irina\"\r\n" // a line that ends in two characters
                      "msgstr \"Width \\\"\xC2\xB2\\\" \\\\ \\t \\x41\\102\""))
         << CStringA(m_error.Format());
-    EXPECT_STREQ(m_translator.Do(L"Prva\ndruga"), L"First\nsecond");
+    Expect({{L"Prva\ndruga", L"First\nsecond"},
+            {L"Otvori", L"Otvori"}, // stands under its context only
+            {L"Nesigurno", L"Nesigurno"},
+            {L"Prazno", L"Prazno"},
+            {L"Nekad", L"Nekad"},
+            {L"%d list", L"%d sheet"},
+            {L"Širina", L"Width \"²\" \\ \t AB"}});
     EXPECT_STREQ(m_translator.Do(L"dugme", L"Otvori"), L"Open");
-    EXPECT_STREQ(m_translator.Do(L"Otvori"), L"Otvori") << "it stands under its context only";
     EXPECT_STREQ(m_translator.Do(L"meni", L"Otvori"), L"Otvori");
-    EXPECT_STREQ(m_translator.Do(L"Nesigurno"), L"Nesigurno");
-    EXPECT_STREQ(m_translator.Do(L"Prazno"), L"Prazno");
-    EXPECT_STREQ(m_translator.Do(L"Nekad"), L"Nekad");
-    EXPECT_STREQ(m_translator.Do(L"%d list"), L"%d sheet");
-    EXPECT_STREQ(m_translator.Do(L"Širina"), L"Width \"²\" \\ \t AB");
     EXPECT_EQ(m_translator.Count(), 4);
 }
 
@@ -115,9 +119,7 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
     ASSERT_TRUE(Load(kGood));
     for (const auto& [what, catalogue, line] : cases)
     {
-        EXPECT_FALSE(Load(catalogue)) << what;
-        EXPECT_EQ(m_error.nLine, line) << what;
-        EXPECT_FALSE(m_error.strWhat.IsEmpty()) << what;
+        EXPECT_TRUE(!Load(catalogue) && m_error.nLine == line && !m_error.strWhat.IsEmpty()) << what;
         EXPECT_STREQ(m_translator.Do(L"Snimi"), L"Save") << "the former catalogue stays";
     }
     EXPECT_NE(m_error.Format().Find(L".po(2): "), -1) << CStringA(m_error.Format());
@@ -130,23 +132,23 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
 TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
 {
     ASSERT_TRUE(Load(kGood));
-    CWnd dialog;
+    CWnd dialog, page;
     ASSERT_TRUE(
         dialog.CreateEx(0, AfxRegisterWndClass(0), L"Snimi", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));
-    const auto addTo = [](CWnd& parent, LPCWSTR className, DWORD style = 0)
-    {
-        return ::CreateWindowExW(0, className, L"Snimi", WS_CHILD | style, 0, 0, 50, 20, parent.m_hWnd,
-                                 nullptr, nullptr, nullptr);
-    };
-    CWnd page;
     page.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD, 0, 50, 200, 50, dialog.m_hWnd, nullptr);
+    const auto addTo = [](CWnd& parent, LPCWSTR className)
+    {
+        const HWND window = ::CreateWindowExW(0, className, L"Snimi", WS_CHILD | CBS_DROPDOWN, 0, 0, 50, 20,
+                                              parent, nullptr, nullptr, nullptr);
+        ::SetWindowTextW(window, L"Snimi");
+        return window;
+    };
     const HWND windows[] = {dialog,
                             addTo(dialog, L"Button"),
                             addTo(dialog, L"Static"),
                             addTo(page, L"Button"),
                             addTo(dialog, L"Edit"),
-                            addTo(dialog, L"ComboBox", CBS_DROPDOWN)};
-    ::SetWindowTextW(windows[5], L"Snimi");
+                            addTo(dialog, L"ComboBox")};
     for (const int children : {0, 1})
     {
         m_translator.TranslateDialog(&dialog, children);
@@ -164,20 +166,17 @@ TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
 
 TEST_F(Translator, LanguageSettlesCodePageAndCharacterSet)
 {
-    EXPECT_EQ(m_translator.GetCurrentCodePage(), ::GetACP());
-    EXPECT_EQ(m_translator.GetCurrentCharacterSet(), ClTranslator::GetDisplayCharacterSet());
-
-    const std::tuple<LANGID, UINT, int> languages[] = {
-        {MAKELANGID(LANG_SERBIAN, SUBLANG_SERBIAN_SERBIA_LATIN), 1250, EASTEUROPE_CHARSET},
-        {MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT), 1253, GREEK_CHARSET}};
-    for (const auto& [language, codePage, characterSet] : languages)
+    const auto expect = [&](UINT codePage, int characterSet)
     {
-        EXPECT_TRUE(m_translator.SetCurrentLanguage(language));
         EXPECT_EQ(m_translator.GetCurrentCodePage(), codePage);
         EXPECT_EQ(m_translator.GetCurrentCharacterSet(), characterSet);
-    }
+    };
+    expect(::GetACP(), ClTranslator::GetDisplayCharacterSet());
+    EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_SERBIAN, SUBLANG_SERBIAN_SERBIA_LATIN)));
+    expect(1250, EASTEUROPE_CHARSET);
+    EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT)));
     EXPECT_FALSE(m_translator.SetCurrentLanguage(0x3FF));
-    EXPECT_EQ(m_translator.GetCurrentCodePage(), 1253u) << "an unknown language changes nothing";
+    expect(1253, GREEK_CHARSET); // an unknown language changes nothing
 }
 
 TEST(EnglishCatalogue, TranslatesEachOfItsTextsOnce)

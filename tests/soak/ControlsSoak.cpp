@@ -9,7 +9,8 @@
 
 #include <DialogControlsOW.h>
 
-#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace
 {
@@ -124,33 +125,13 @@ class ControlsSequence : public owtest::Sequence
 
     void Do()
     {
-        switch (Pick(12))
-        {
-        case 0:
-        case 1:
-            return Click();
-        case 2:
-        case 3:
-            return Type();
-        case 4:
-            return Choose();
-        case 5:
-            return PressKey();
-        case 6:
-            return MoveFocus();
-        case 7:
-            return Switch();
-        case 8:
-            return SetNumbers();
-        case 9:
-            return DressButton(Pick(2) ? m_dialog.push : m_dialog.check);
-        case 10:
-            return SetGroups();
-        default:
-            Say("paint");
-            m_dialog.RedrawWindow(nullptr, nullptr,
-                                  RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        }
+        using Operation = void (ControlsSequence::*)();
+        static constexpr Operation kOperations[] = {
+            &ControlsSequence::Click,       &ControlsSequence::Click,     &ControlsSequence::Type,
+            &ControlsSequence::Type,        &ControlsSequence::Choose,    &ControlsSequence::PressKey,
+            &ControlsSequence::MoveFocus,   &ControlsSequence::Switch,    &ControlsSequence::SetNumbers,
+            &ControlsSequence::DressButton, &ControlsSequence::SetGroups, &ControlsSequence::Paint};
+        (this->*OneOf(kOperations))();
     }
 
     void React(bool bMayClose)
@@ -198,9 +179,8 @@ class ControlsSequence : public owtest::Sequence
     }
     void Type()
     {
-        static constexpr WORD kBoxes[] = {idDouble, idInteger, idText, idDecimals};
-        const WORD nId = kBoxes[Pick(4)];
-        const wchar_t ch = L"0123456789.,-+e x\b%"[Pick(19)];
+        const WORD nId = OneOf(std::array{idDouble, idInteger, idText, idDecimals});
+        const wchar_t ch = OneOf(std::wstring_view(L"0123456789.,-+e x\b%"));
         Say("type", nId, static_cast<int>(ch));
         Control(nId).SetFocus();
         if (m_dialog.m_hWnd && ::GetFocus() == Control(nId))
@@ -218,11 +198,11 @@ class ControlsSequence : public owtest::Sequence
     void PressKey()
     {
         static constexpr WORD kKeys[] = {VK_UP, VK_DOWN, VK_TAB, VK_SPACE, VK_RETURN, VK_ESCAPE, VK_DELETE};
-        const WORD nKey = kKeys[Pick(static_cast<int>(std::size(kKeys)))];
+        const WORD nKey = OneOf(kKeys);
         Say("key", nKey);
-        const HWND hFocus = ::GetFocus();
-        ::PostMessage(hFocus ? hFocus : m_dialog.m_hWnd, WM_KEYDOWN, nKey, 1);
-        ::PostMessage(hFocus ? hFocus : m_dialog.m_hWnd, WM_KEYUP, nKey, 0xC0000001);
+        const HWND hTarget = ::GetFocus() ? ::GetFocus() : m_dialog.m_hWnd;
+        ::PostMessage(hTarget, WM_KEYDOWN, nKey, 1);
+        ::PostMessage(hTarget, WM_KEYUP, nKey, 0xC0000001);
     }
     void MoveFocus()
     {
@@ -241,84 +221,64 @@ class ControlsSequence : public owtest::Sequence
     }
     void SetNumbers()
     {
-        const int nWhat = Pick(8), n = Pick(200) - 100;
+        const int nWhat = Pick(10), n = Pick(200) - 100;
         Say("set number", nWhat, n);
-        switch (nWhat)
-        {
-        case 0:
-            return m_dialog.decimal.SetValue(n / 7.0, Pick(2));
-        case 1:
-            return m_dialog.decimal.SetRange(n, n + Pick(50) - 1);
-        case 2:
-            return m_dialog.decimal.SetComplexUnit(CComplexUnit(CMeasurementUnit(Pick(6), 0)));
-        case 3:
-            return Pick(2) ? m_dialog.decimal.DisableComplexUnit() : m_dialog.decimal.SetEmpty();
-        case 4:
-            return m_dialog.integer.SetValue(n, Pick(2));
-        case 5:
-            return m_dialog.integer.SetRange(n, n + Pick(50) - 1);
-        case 6:
-            return Pick(2) ? m_dialog.integer.SetEmpty() : m_dialog.integer.DisableRangeChecking();
-        default:
-            return m_dialog.text.SetValue(std::to_wstring(n).c_str());
-        }
+        const bool bForce = Pick(2);
+        auto& decimal = m_dialog.decimal;
+        auto& integer = m_dialog.integer;
+        return nWhat == 0   ? decimal.SetValue(n / 7.0, bForce)
+               : nWhat == 1 ? decimal.SetRange(n, n + Pick(50) - 1)
+               : nWhat == 2 ? decimal.SetComplexUnit(CComplexUnit(CMeasurementUnit(Pick(6), 0)))
+               : nWhat == 3 ? decimal.DisableComplexUnit()
+               : nWhat == 4 ? decimal.SetEmpty()
+               : nWhat == 5 ? integer.SetValue(n, bForce)
+               : nWhat == 6 ? integer.SetRange(n, n + Pick(50) - 1)
+               : nWhat == 7 ? integer.SetEmpty()
+               : nWhat == 8 ? integer.DisableRangeChecking()
+                            : m_dialog.text.SetValue(std::to_wstring(n).c_str());
     }
-    void DressButton(CButtonST& button)
+    void DressButton()
     {
-        const int nWhat = Pick(9);
-        Say("dress", button.GetDlgCtrlID(), nWhat);
-        switch (nWhat)
-        {
-        case 0:
-            button.SetIcon(CButtonST::hIconOk, Pick(2) ? CButtonST::hIconCancel : nullptr);
-            break;
-        case 1:
-            button.SetBitmaps(::CreateBitmap(16, 16, 1, 32, nullptr), 0,
-                              Pick(2) ? ::CreateBitmap(9, 9, 1, 32, nullptr) : nullptr);
-            break;
-        case 2:
-            button.SetBitmaps(static_cast<HBITMAP>(nullptr), 0);
-            break;
-        case 3:
-            button.SetFlat(Pick(2));
-            break;
-        case 4:
-            button.SetCheck(Pick(2));
-            break;
-        case 5:
-            button.DrawTransparent(Pick(2));
-            break;
-        case 6:
-            button.SetTooltipText(L"tip");
-            break;
-        case 7:
-            button.SetThemeHelper(Pick(2) ? CButtonST::pLocalTheme : nullptr);
-            break;
-        default:
-            button.SetAlign(static_cast<BYTE>(Pick(5)));
-        }
+        using Dress = void (*)(CButtonST&, BOOL);
+        static constexpr auto newBitmap = [](int nSize)
+        { return ::CreateBitmap(nSize, nSize, 1, 32, nullptr); };
+        static constexpr Dress kDresses[] = {
+            [](CButtonST& button, BOOL bOn)
+            { button.SetIcon(CButtonST::hIconOk, bOn ? CButtonST::hIconCancel : nullptr); },
+            [](CButtonST& button, BOOL bOn)
+            { button.SetBitmaps(newBitmap(16), 0, bOn ? newBitmap(9) : nullptr); },
+            [](CButtonST& button, BOOL) { button.SetBitmaps(static_cast<HBITMAP>(nullptr), 0); },
+            [](CButtonST& button, BOOL bOn) { button.SetFlat(bOn); },
+            [](CButtonST& button, BOOL bOn) { button.SetCheck(bOn); },
+            [](CButtonST& button, BOOL bOn) { button.DrawTransparent(bOn); },
+            [](CButtonST& button, BOOL) { button.SetTooltipText(L"tip"); },
+            [](CButtonST& button, BOOL bOn)
+            { button.SetThemeHelper(bOn ? CButtonST::pLocalTheme : nullptr); },
+            [](CButtonST& button, BOOL bOn) { button.SetAlign(static_cast<BYTE>(bOn ? 1 : 3)); },
+            [](CButtonST& button, BOOL) { button.SetAlign(0); }};
+        CButtonST& button = Pick(2) ? m_dialog.push : m_dialog.check;
+        const Dress& dress = OneOf(kDresses);
+        Say("dress", button.GetDlgCtrlID(), &dress - kDresses);
+        dress(button, Pick(2));
     }
     void SetGroups()
     {
-        const int nWhat = Pick(7);
-        Say("set groups", nWhat);
-        switch (nWhat)
-        {
-        case 0:
-            return m_dialog.unit.SetFormatSource(Pick(4) ? &m_dialog.format : nullptr);
-        case 1:
-            return m_dialog.unit.Update(Pick(2), Pick(2));
-        case 2:
-            return m_dialog.unit.Enable(Pick(4));
-        case 3:
-            return m_dialog.unit.Display(Pick(4));
-        case 4:
-            return m_dialog.radios.SetOption(Pick(5) - 1);
-        case 5:
-            return m_dialog.radios.Enable(Pick(4));
-        default:
-            return m_dialog.radios.Show(Pick(4));
-        }
+        const int nWhat = Pick(7), nOn = Pick(4);
+        Say("set groups", nWhat, nOn);
+        auto& unit = m_dialog.unit;
+        auto& radios = m_dialog.radios;
+        return nWhat == 0   ? unit.SetFormatSource(nOn ? &m_dialog.format : nullptr)
+               : nWhat == 1 ? unit.Update(nOn & 1, nOn & 2)
+               : nWhat == 2 ? unit.Enable(nOn)
+               : nWhat == 3 ? unit.Display(nOn)
+               : nWhat == 4 ? radios.SetOption(nOn - 1)
+               : nWhat == 5 ? radios.Enable(nOn)
+                            : radios.Show(nOn);
+    }
+    void Paint()
+    {
+        Say("paint");
+        m_dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     }
 
     void Check() override

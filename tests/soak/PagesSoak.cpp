@@ -11,6 +11,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <span>
+#include <string_view>
 
 namespace
 {
@@ -120,64 +122,39 @@ class PagesSequence : public owtest::Sequence
     void Step() override
     {
         m_bReacted = false;
-        Do(Pick(kOperations));
+        (this->*OneOf(kOperations))();
         owtest::Pump();
     }
 
-    static constexpr int kOperations = 22, kFirstOfHandlers = 4;
-    void Do(int nOperation)
-    {
-        switch (nOperation)
-        {
-        case 0:
-            return Reopen();
-        case 1:
-            return DestroyDialog();
-        case 2:
-        case 3:
-            return AddDialog();
-        // From here on what dialogs do as well, while they are being told.
-        case 4:
-        case 5:
-            return AddPage();
-        case 6:
-        case 7:
-        case 8:
-            return Select();
-        case 9:
-            return MoveFocus();
-        case 10:
-            return TakeOver();
-        case 11:
-        case 12:
-            return Switch();
-        case 13:
-        case 14:
-            return TypeInPage();
-        default:
-            return SelectByUser();
-        }
-    }
-
+    using Operation = void (PagesSequence::*)();
+    /// Each as often as it stands here. The first ones are not for calls of the library's.
+    static constexpr int kFirstOfHandlers = 4;
+    static constexpr Operation kOperations[] = {
+        &PagesSequence::Reopen,       &PagesSequence::DestroyDialog, &PagesSequence::AddDialog,
+        &PagesSequence::AddDialog,    &PagesSequence::AddPage,       &PagesSequence::AddPage,
+        &PagesSequence::Select,       &PagesSequence::Select,        &PagesSequence::Select,
+        &PagesSequence::MoveFocus,    &PagesSequence::TakeOver,      &PagesSequence::Switch,
+        &PagesSequence::Switch,       &PagesSequence::TypeInPage,    &PagesSequence::TypeInPage,
+        &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
+        &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
+        &PagesSequence::SelectByUser};
     /// What a dialog or client does in a call of the library's: one thing, in one call of a step.
     void React()
     {
         if (m_bReacted || Pick(3))
             return;
         m_bReacted = true;
-        Do(kFirstOfHandlers + Pick(kOperations - kFirstOfHandlers));
+        (this->*OneOf(std::span(kOperations).subspan(kFirstOfHandlers)))();
     }
 
-    SoakPage* SomePage()
+    /// Null if there are none.
+    template <class Object>
+    Object* Some(const std::vector<Object*>& objects)
     {
-        return m_pHost->pages.empty() ? nullptr
-                                      : m_pHost->pages[Pick(static_cast<int>(m_pHost->pages.size()))];
+        return objects.empty() ? nullptr : OneOf(objects);
     }
-    SoakPageDialog* SomeDialog()
-    {
-        return m_pHost->dialogs.empty() ? nullptr
-                                        : m_pHost->dialogs[Pick(static_cast<int>(m_pHost->dialogs.size()))];
-    }
+    SoakPage* SomePage() { return Some(m_pHost->pages); }
+    SoakPageDialog* SomeDialog() { return Some(m_pHost->dialogs); }
 
     std::unique_ptr<Host> NewHost()
     {
@@ -202,8 +179,7 @@ class PagesSequence : public owtest::Sequence
     }
     void AddDialog()
     {
-        static constexpr UINT kTemplates[] = {IDD_FIELDS,
-                                              IDD_PLAIN}; // a dialog for each: pages know theirs by it
+        static constexpr UINT kTemplates[] = {IDD_FIELDS, IDD_PLAIN}; // each for one: pages know theirs by it
         const size_t nDialog = m_pHost->dialogs.size();
         if (nDialog == std::size(kTemplates))
             return;
@@ -216,8 +192,7 @@ class PagesSequence : public owtest::Sequence
     {
         if (m_pHost->pages.size() > 25)
             return;
-        // A child takes the place of the one before: not behind a page that shows.
-        SoakPage* const pParent = Pick(2) && !m_pHost->pTold ? SomePage() : nullptr;
+        SoakPage* const pParent = Pick(2) ? SomePage() : nullptr;
         SoakPageDialog* const pDialog = Pick(6) ? SomeDialog() : nullptr;
         const auto nDialog =
             std::find(m_pHost->dialogs.begin(), m_pHost->dialogs.end(), pDialog) - m_pHost->dialogs.begin();
@@ -228,21 +203,19 @@ class PagesSequence : public owtest::Sequence
     }
     void Select()
     {
-        SoakPage* const pPage = SomePage();
-        if (!pPage)
-            return;
-        Say("select", pPage->GetPageID());
+        SoakPage* const pPage = Pick(8) ? SomePage() : nullptr;
+        Say("select", pPage ? pPage->GetPageID() : -1);
         m_pHost->selector.SetCurrentPage(pPage);
     }
     void SelectByUser()
     {
-        CWnd* const pSelector = m_pHost->GetDlgItem(idSelector);
-        static constexpr WORD kKeys[] = {VK_DOWN, VK_UP, VK_HOME, VK_END, VK_RIGHT, VK_LEFT, VK_RETURN};
-        const int nKey = Pick(static_cast<int>(std::size(kKeys)) + 2);
+        static constexpr WORD kKeys[] = {VK_DOWN, VK_UP,     VK_HOME, VK_END, VK_RIGHT,
+                                         VK_LEFT, VK_RETURN, 0,       0}; // 0: a click on the toggle
+        const WORD nKey = OneOf(kKeys);
         Say("key", nKey, "in the selector");
         CWnd* const pToggle = m_pHost->GetDlgItem(idToggle);
-        if (nKey < static_cast<int>(std::size(kKeys)))
-            pSelector->SendMessage(WM_KEYDOWN, kKeys[nKey], 1);
+        if (nKey)
+            m_pHost->GetDlgItem(idSelector)->SendMessage(WM_KEYDOWN, nKey, 1);
         else if (pToggle->IsWindowVisible() && pToggle->IsWindowEnabled())
             pToggle->SendMessage(BM_CLICK);
     }
@@ -277,7 +250,7 @@ class PagesSequence : public owtest::Sequence
             return;
         Say("type in a page");
         pCount->SetFocus();
-        pCount->SendMessage(WM_CHAR, L"0123456789-x"[Pick(12)]);
+        pCount->SendMessage(WM_CHAR, OneOf(std::wstring_view(L"0123456789-x")));
     }
 
     void Check() override
@@ -285,12 +258,13 @@ class PagesSequence : public owtest::Sequence
         const auto* const pTold = static_cast<const SoakPage*>(m_pHost->pTold);
         for (SoakPageDialog* pDialog : m_pHost->dialogs)
         {
-            const DWORD dwStyle = pDialog->m_hWnd ? pDialog->GetStyle() : 0;
-            const bool bShown = pTold && pTold->Dialog() == pDialog;
-            if (pDialog->m_hWnd && ((dwStyle & WS_VISIBLE) != 0) != bShown)
-                Problem(bShown ? "the page's dialog is hidden" : "another page's dialog shows");
-            if (pDialog->m_hWnd && ((dwStyle & WS_DISABLED) == 0) != bShown)
-                Problem(bShown ? "the page's dialog is disabled" : "another page's dialog is enabled");
+            if (!pDialog->m_hWnd)
+                continue;
+            const DWORD dwState = pDialog->GetStyle() & (WS_VISIBLE | WS_DISABLED);
+            if (pTold && pTold->Dialog() == pDialog)
+                Expect(dwState == WS_VISIBLE, "the page's dialog is hidden or disabled");
+            else
+                Expect(dwState == WS_DISABLED, "another page's dialog shows or is enabled");
         }
         for (const SoakPage* pPage : m_pHost->pages)
             Expect(m_pHost->manager.GetPage(pPage->GetPageID()) == pPage, "a page is not found");

@@ -79,6 +79,12 @@ protected:
     virtual void Check() = 0;
 
     int Pick(int below) { return below > 0 ? static_cast<int>(m_random() % below) : 0; }
+    /// One of several.
+    template <class Items>
+    const auto& OneOf(const Items& items)
+    {
+        return items[Pick(static_cast<int>(std::size(items)))];
+    }
     template <class... Parts>
     void Say(const Parts&... parts)
     {
