@@ -232,8 +232,7 @@ void CColorSelectDialog::Place()
     rect.MoveToXY(anchor.left, anchor.bottom);
     if (rect.bottom > ::GetSystemMetrics(SM_CYSCREEN))
         rect.OffsetRect(0, anchor.top - rect.bottom);
-    if (const int nExcess = rect.right - ::GetSystemMetrics(SM_CXSCREEN); nExcess > 0)
-        rect.OffsetRect(-nExcess, 0);
+    rect.OffsetRect((std::min)(::GetSystemMetrics(SM_CXSCREEN) - rect.right, 0L), 0);
     SetWindowPos(nullptr, rect.left, rect.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
 }
 

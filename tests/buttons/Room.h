@@ -31,18 +31,15 @@ class Open : public Button
 {
 public:
     using Button::Button;
-    using Button::m_background;
     using Button::m_bDrawBorder;
     using Button::m_bIsCheckBox;
     using Button::m_bIsDefault;
-    using Button::m_bIsFlat;
     using Button::m_bitmaps;
     using Button::m_bMouseOnButton;
     using Button::m_bShowDisabledBitmap;
     using Button::m_icons;
     using Button::m_nTypeStyle;
     using Button::m_ptImageOrigin;
-    using Button::m_szUrl;
     using Button::m_toolTip;
 };
 
@@ -54,7 +51,7 @@ inline COLORREF ColorOf(const CButtonST& button, BYTE nIndex = CButtonST::colorB
 }
 
 /// Paints an owner-drawn button onto the surface as the system would ask for it, with ODS_ flags.
-inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0)
+inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0, const CRect* pItem = nullptr)
 {
     DRAWITEMSTRUCT item{};
     item.CtlType = ODT_BUTTON;
@@ -63,7 +60,16 @@ inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0)
     item.hDC = surface.dc().m_hDC;
     item.itemState = nItemState;
     button.GetClientRect(&item.rcItem);
+    if (pItem)
+        item.rcItem = *pItem;
     button.DrawItem(&item);
+}
+
+/// A click as a program sends it.
+inline void ClickByProgram(const CWnd& button)
+{
+    button.GetParent()->SendMessage(WM_COMMAND, button.GetDlgCtrlID(),
+                                    reinterpret_cast<LPARAM>(button.m_hWnd));
 }
 
 /// Whether a window is to be painted after something was done.

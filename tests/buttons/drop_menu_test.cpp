@@ -102,49 +102,42 @@ TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEveryt
     EXPECT_FALSE(button.GetState() & BST_FOCUS) << "the mark follows a handler that moves the focus";
 }
 
-TYPED_TEST(DropMenus, AKeyThatIsHeldFromOpeningItDoesNothing)
+TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndWhateverMenuIsMadeMeanwhile)
 {
+    auto& button = *this->m_pButton;
     for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
-    {
-        const auto hold = [&](const OpenMenu&)
-        { ::PostMessage(*this->m_pButton, WM_KEYDOWN, nKey, KF_REPEAT << 16 | 1); };
-        EXPECT_EQ(this->Visit(*this->m_pButton, {[](const OpenMenu& menu) { menu.Press({VK_DOWN}); }, hold,
-                                                 [](const OpenMenu& menu) { menu.Press({VK_ESCAPE}); }}),
+        EXPECT_EQ(this->Visit(button, {[](const OpenMenu& menu) { menu.Press({VK_DOWN}); },
+                                       [&](const OpenMenu&)
+                                       { ::PostMessage(button, WM_KEYDOWN, nKey, KF_REPEAT << 16 | 1); },
+                                       [](const OpenMenu& menu) { menu.Press({VK_ESCAPE}); }}),
                   this->m_click);
-    }
-}
-
-TYPED_TEST(DropMenus, AnOpenMenuStaysWhileAnotherIsMade)
-{
     const auto change = [&](const OpenMenu& menu)
     {
-        this->m_pButton->SetColor(CButtonST::colorBackOut, kRed);
-        this->m_pButton->SendMessage(WM_SYSCOLORCHANGE);
+        button.SetColor(CButtonST::colorBackOut, kRed);
+        button.SendMessage(WM_SYSCOLORCHANGE);
         if constexpr (this->kIsText)
-            this->m_pButton->SetTexts(Texts({L"other"}));
+            button.SetTexts(Texts({L"other"}));
         menu.Press({VK_DOWN, VK_RETURN});
     };
-    EXPECT_EQ(this->Visit(*this->m_pButton, {change}), this->Choice(0));
-    EXPECT_EQ(ColorOf(*this->m_pButton), ::GetSysColor(COLOR_BTNFACE)) << "as every button";
+    EXPECT_EQ(this->Visit(button, {change}), this->Choice(0));
+    EXPECT_EQ(ColorOf(button), ::GetSysColor(COLOR_BTNFACE)) << "as every button";
 }
 
 TYPED_TEST(DropMenus, DialogAndButtonMayGoInTheHandlerAndWhileTheMenuIsOpen)
 {
-    const auto close = [&] { this->m_room.DestroyWindow(); };
-    const auto closeAndDelete = [&]
+    for (const auto& [bDelete, bInHandler] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}})
     {
-        close();
-        this->m_pButton.reset();
-    };
-    for (const std::function<void()>& end :
-         {std::function<void()>(close), std::function<void()>(closeAndDelete)})
-    {
-        EXPECT_EQ(this->Visit(*this->m_pButton, {[&](const OpenMenu&) { end(); }}), Calls{})
-            << "nobody hears";
-        this->TearDown();
-        this->SetUp();
+        const auto end = [&, bDelete = bDelete]
+        {
+            this->m_room.DestroyWindow();
+            if (bDelete)
+                this->m_pButton.reset();
+        };
         this->m_room.then = end;
-        EXPECT_EQ(this->Pick(*this->m_pButton, {VK_DOWN, VK_RETURN}), this->Choice(0));
+        const auto work = [&, bInHandler = bInHandler](const OpenMenu& menu) {
+            bInHandler ? menu.Press({VK_DOWN, VK_RETURN}) : end();
+        };
+        EXPECT_EQ(this->Visit(*this->m_pButton, {work}), bInHandler ? this->Choice(0) : Calls{});
         this->m_room.then = [] {};
         this->TearDown();
         this->SetUp();
@@ -191,10 +184,10 @@ TYPED_TEST(DropMenus, TakeEveryCommandForAChoice)
     EXPECT_EQ(button.GetButtonStyle(), static_cast<UINT>(BS_OWNERDRAW));
 
     Lone<TypeParam> lone(CSize(70, 30), L"", BS_DEFPUSHBUTTON);
+    EXPECT_FALSE(lone.button.GetDefault());
     lone.button.SetEnumSource(&this->m_nValue);
     lone.button.SendMessage(WM_COMMAND, nFirst); // there is no handler
     EXPECT_EQ(this->m_nValue, 0);
-    EXPECT_FALSE(lone.button.GetDefault());
 }
 
 // ---- Pictures ---------------------------------------------------------------------------------------------
@@ -249,15 +242,18 @@ TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
         lone.button.SendMessage(WM_SYSCOLORCHANGE);
         EXPECT_EQ(PixelsOf(pMenu->bitmaps.at(0)).at(33) & 0xFFFFFF, testimages::Opaque(cr) & 0xFFFFFF);
     }
-    const HBITMAP hLast = lone.button.GetBitmap(9);
+    auto& pictures = Hatches::s_pictures;
+    const HBITMAP hLast = pictures.handles[9];
     Hatches::UnloadBitmaps();
+    EXPECT_FALSE(pictures.loaded || testimages::IsBitmap(hLast));
+    pictures.handles[0] = testimages::MakeBitmap(CSize(9, 9), kBlue, kKey);
     Hatches::UnloadBitmaps(); // they are gone already
-    EXPECT_FALSE(testimages::IsBitmap(hLast));
+    EXPECT_TRUE(::DeleteObject(std::exchange(pictures.handles[0], nullptr)));
     lone.button.SendMessage(WM_SYSCOLORCHANGE);
     for (int i = 0; i < 10; ++i)
         EXPECT_TRUE(pMenu->popup.GetMenuItemID(i) == 36864u + i && pMenu->sizes[i] == CSize(0, 0)) << i;
     Hatches::LoadBitmaps(::GetModuleHandle(_T("DialogControlsOW.dll")));
-    EXPECT_TRUE(Hatches::s_pictures.loaded && testimages::IsBitmap(Hatches::s_pictures.handles[9]));
+    EXPECT_TRUE(pictures.loaded && testimages::IsBitmap(pictures.handles[9]));
 }
 
 // ---- Texts ------------------------------------------------------------------------------------------------
@@ -295,18 +291,17 @@ TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGiven)
 TEST_F(TextMenu, WithNothingToOfferAClickOnlyTakesTheFocus)
 {
     m_pButton->UnsubclassWindow();
-    CTextBtnST button;
+    CTextBtnST button; // has no menu yet
     button.SubclassDlgItem(1001, &m_room);
-    for (int i = 0; i < 3; ++i)
+    for (const auto& offer :
+         std::initializer_list<std::function<void()>>{[] {}, [&] { button.SendMessage(WM_SYSCOLORCHANGE); },
+                                                      [&] { button.SetTexts({}); }})
     {
+        offer();
         m_other.SetFocus();
         owtest::Click(button);
         EXPECT_TRUE(ShowsFocus(button));
         EXPECT_EQ(m_room.Take(), m_click) << "the dialog hears of clicks";
-        if (i == 0)
-            button.SendMessage(WM_SYSCOLORCHANGE);
-        else
-            button.SetTexts({});
     }
     button.UnsubclassWindow();
 }

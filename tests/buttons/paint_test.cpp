@@ -49,6 +49,13 @@ struct Look
     }
 };
 
+/// What a colour of a disabled icon becomes.
+COLORREF Greyed(COLORREF cr)
+{
+    const int grey = 192 + ((GetRValue(cr) + GetGValue(cr) + GetBValue(cr)) / 3 - 192) * 35 / 100;
+    return RGB(grey, grey, grey);
+}
+
 CRect Inside(const CRect& rect, int leftTop, int rightBottom)
 {
     return CRect(rect.left + leftTop, rect.top + leftTop, rect.right - rightBottom,
@@ -124,18 +131,19 @@ CRect PaintImage(CDC& dc, const Look& look)
                   {{0, 0}, caption, {0, 0}}};
     const auto& place = places[look.nAlign];
     const bool bFirst = !look.bSecondImage || look.LooksPressed() || (look.bHover && !look.bCheckBox);
-    const CRect image(CRect((*look.pszTitle ? place.besideTitle : place.alone) + look.Offset(), size));
+    const CRect image((*look.pszTitle ? place.besideTitle : place.alone) + look.Offset(), size);
     const CRect inside = Inside(image, 2, 2);
-    if (look.image == icon)
-        dc.FillSolidRect(inside, look.bDisabled ? (bFirst ? RGB(155, 155, 155) : RGB(132, 132, 132))
-                                                : (bFirst ? kRed : kSecond));
-    else if (look.bDisabled && look.bEngraves)
-    {
+    const bool bEngraved = look.bDisabled && look.bEngraves && look.image == bitmap;
+    if (bEngraved)
         dc.FillSolidRect(inside + CPoint(1, 1), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-        dc.FillSolidRect(inside, ::GetSysColor(COLOR_BTNSHADOW));
+    dc.FillSolidRect(inside, bEngraved ? ::GetSysColor(COLOR_BTNSHADOW) : bFirst ? kRed : kSecond);
+    const COLORREF corner = dc.GetPixel(image.TopLeft()); // kept: it counts as background, and stays
+    for (int i = 0; look.bDisabled && look.image == icon && i < size.cx * size.cy; ++i)
+    {
+        const CPoint at = image.TopLeft() + CPoint(i % size.cx, i / size.cx);
+        if (const COLORREF cr = dc.GetPixel(at); cr != corner && cr != CLR_INVALID)
+            dc.SetPixel(at, Greyed(cr));
     }
-    else
-        dc.FillSolidRect(inside, bFirst ? kRed : kSecond);
     return place.title;
 }
 
@@ -230,11 +238,6 @@ TEST(ButtonPaint, IsThatOfTheModelInEveryState)
         look.image = EImage(random() % 3);
         look.nAlign = BYTE(random() % 4);
         look.pszTitle = titles[random() % 3];
-        if (look.bDisabled && look.image == icon) // an edge or a theme's face would turn grey, too
-        {
-            look.bThemed = look.bBorder = false;
-            look.bFlat |= look.nAlign >= CButtonST::alignRight;
-        }
         Plain& plain = look.bCheckBox ? box : push;
         Dress(plain.button, look, first, second);
         const auto ours = plain.Paint((look.bPressed ? ODS_SELECTED : 0) | (look.bFocused ? ODS_FOCUS : 0) |
@@ -245,31 +248,14 @@ TEST(ButtonPaint, IsThatOfTheModelInEveryState)
     }
 }
 
-// Kept: the colour of the corner counts as background, and stays.
-TEST(ButtonPaint, ADisabledIconTurnsGreyExceptForTheColourOfItsCorner)
+TEST(ButtonPaint, ADisabledIconThatIsTooLargeTurnsTheFaceGreyToo)
 {
-    const auto pixel = [](int x, int) { return testimages::Opaque(x < 8 ? kRed : kBlack); };
-    const Icon black(16, kBlack), white(16, kWhite), filled(16, 16, pixel), large(kSize.cx + 20, kRed);
-    const int x = kSize.cx / 2, y = kSize.cy / 2;
-    const struct
-    {
-        const Icon& icon;
-        CPoint at;
-        COLORREF color;
-    } rows[] = {{black, {x, y}, RGB(125, 125, 125)},
-                {white, {x, y}, RGB(214, 214, 214)},
-                {black, {x - 7, y}, kFaceOut},
-                {filled, {x - 4, y}, kRed},
-                {filled, {x + 4, y}, RGB(125, 125, 125)},
-                {large, {x, y}, RGB(155, 155, 155)}};
+    const Icon large(kSize.cx + 20, kRed);
     Plain plain;
-    for (const auto& [icon, at, color] : rows)
-    {
-        plain.button.SetIcon(icon, nullptr);
-        EXPECT_EQ(plain.Paint(ODS_DISABLED)->at(at.x, at.y), color);
-    }
-    EXPECT_NE(plain.Paint(ODS_DISABLED)->at(x, 1), kFaceOut)
-        << "a corner outside has no colour: the face turns, too";
+    plain.button.SetIcon(large, nullptr);
+    const auto surface = plain.Paint(ODS_DISABLED);
+    EXPECT_EQ(surface->at(kSize.cx / 2, kSize.cy / 2), RGB(155, 155, 155));
+    EXPECT_NE(surface->at(kSize.cx / 2, 1), kFaceOut) << "a corner outside has no colour that could stay";
 }
 
 TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
@@ -279,14 +265,20 @@ TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
         using CButtonST::DrawItemHook_CalcRect;
         using CButtonST::DrawItemHook_DrawText;
     } hooks;
+    struct TextHooks : CTextBtnST
+    {
+        using CTextBtnST::DrawItemHook_CalcRect;
+    } textHooks;
     const CString strText(_T("HHHHHH HHHHHH"));
     Surface ours(60, 40), expected(60, 40);
-    CRect rect(2, 2, 58, 9), expectedRect(rect);
+    CRect rect(2, 2, 58, 9), expectedRect(rect), besideArrow(rect);
     hooks.DrawItemHook_CalcRect(&ours.dc(), strText, rect);
     hooks.DrawItemHook_DrawText(&ours.dc(), strText, rect);
+    textHooks.DrawItemHook_CalcRect(&ours.dc(), strText, besideArrow);
     expected.dc().DrawText(strText, expectedRect, kTitle | DT_CALCRECT);
     expected.dc().DrawText(strText, expectedRect, kTitle);
     EXPECT_EQ(rect, expectedRect);
+    EXPECT_EQ(besideArrow, expectedRect - CPoint(4, 0));
     EXPECT_TRUE(ours == expected);
 }
 

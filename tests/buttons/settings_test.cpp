@@ -2,6 +2,8 @@
 
 #include "Room.h"
 
+#include <tuple>
+
 namespace
 {
 constexpr COLORREF kColor = RGB(240, 10, 10);
@@ -22,23 +24,22 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
 {
     NoThemeHelper noTheme;
     CThemeHelperST* const pProcessTheme = CButtonST::pLocalTheme;
-    for (CThemeHelperST* pNone :
-         {static_cast<CThemeHelperST*>(nullptr), static_cast<CThemeHelperST*>(&noTheme)})
+    for (CThemeHelperST* pNone : std::initializer_list<CThemeHelperST*>{nullptr, &noTheme})
     {
         Open themed;
-        EXPECT_TRUE(themed.m_bIsFlat && !themed.m_bDrawBorder);
+        EXPECT_TRUE(themed.GetFlat() && !themed.m_bDrawBorder);
         themed.SetThemeHelper(pProcessTheme);
         EXPECT_FALSE(themed.m_bDrawBorder);
         for (CThemeHelperST* pTheme : {pNone, pProcessTheme})
         {
             themed.SetThemeHelper(pTheme);
             EXPECT_TRUE(themed.m_bDrawBorder) << "a helper may bring the border, and never takes it";
-            EXPECT_TRUE(themed.m_bIsFlat) << "flat stays flat";
+            EXPECT_TRUE(themed.GetFlat()) << "flat stays flat";
         }
 
         CButtonST::pLocalTheme = pNone;
         Open plain;
-        EXPECT_TRUE(plain.m_bDrawBorder && !plain.m_bIsFlat);
+        EXPECT_TRUE(plain.m_bDrawBorder && !plain.GetFlat());
         for (BYTE i = 0; i < CButtonST::colorCount; ++i)
             EXPECT_EQ(ColorOf(plain, i), ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE));
         CButtonST::pLocalTheme = pProcessTheme;
@@ -112,35 +113,6 @@ TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
     }
 }
 
-TEST(ButtonSettings, TheAddressFieldKeepsWhatFitsAndNeedsNoTerminator)
-{
-    Open button;
-    for (const LPCWSTR pszUrl : {L"x:\\nothing", L"y", L""})
-    {
-        button.SetURL(*pszUrl ? pszUrl : nullptr);
-        const std::wstring field(button.m_szUrl, std::size(button.m_szUrl));
-        EXPECT_EQ(field, pszUrl + std::wstring(260 - wcslen(pszUrl), L'\0'))
-            << "nothing of the former one is left";
-    }
-    button.SetURL(std::wstring(300, L'?').c_str());
-    EXPECT_EQ(std::wstring(button.m_szUrl, 260), std::wstring(260, L'?')) << "kept: no terminator";
-}
-
-TEST(ButtonSettings, OnlyACheckBoxCanBeChecked)
-{
-    for (const DWORD dwType : {BS_PUSHBUTTON, BS_CHECKBOX})
-    {
-        Lone<CButtonST> lone(kSize, _T(""), dwType);
-        EXPECT_EQ(lone.button.SetCheck(7), 0u);
-        EXPECT_EQ(lone.button.GetCheck(), dwType == BS_CHECKBOX);
-        for (const auto& [set, expected] : {std::pair(0, 0), {1, 1}, {2, 1}, {3, 0}})
-        {
-            EXPECT_EQ(lone.button.SendMessage(BM_SETCHECK, set), 0);
-            EXPECT_EQ(lone.button.SendMessage(BM_GETCHECK), dwType == BS_CHECKBOX ? expected : 0) << set;
-        }
-    }
-}
-
 TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
 {
     Lone<CButtonST> lone(kSize, _T(""), BS_CHECKBOX);
@@ -176,32 +148,33 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     EXPECT_TRUE(Repaints(button, [&] { button.SendMessage(WM_SYSCOLORCHANGE); }));
 }
 
-TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSays)
+TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSaysAndOnlyACheckBoxCanBeChecked)
 {
-    struct Row
-    {
-        DWORD dwType;
-        BOOL bCheckBox;
-        BOOL bDefault;
-        UINT nTypeStyle;
-    };
+    using Row = std::tuple<DWORD, bool, BOOL, UINT>; // type, check box, default, and what is kept of the type
     // clang-format off
-    for (const Row& row : {Row{BS_PUSHBUTTON, 0, 0, BS_PUSHBUTTON}, {BS_DEFPUSHBUTTON, 0, 1, BS_PUSHBUTTON},
-                           {BS_CHECKBOX, 1, 0, BS_CHECKBOX}, {BS_AUTOCHECKBOX, 1, 0, BS_AUTOCHECKBOX},
-                           {BS_RADIOBUTTON, 0, 0, BS_RADIOBUTTON}, {BS_OWNERDRAW, 1, 0, BS_OWNERDRAW}})
+    for (const auto& [dwType, bCheckBox, bDefault, nTypeStyle] : {
+             Row{BS_PUSHBUTTON, false, 0, BS_PUSHBUTTON}, Row{BS_DEFPUSHBUTTON, false, 1, BS_PUSHBUTTON},
+             Row{BS_CHECKBOX, true, 0, BS_CHECKBOX}, Row{BS_AUTOCHECKBOX, true, 0, BS_AUTOCHECKBOX},
+             Row{BS_RADIOBUTTON, false, 0, BS_RADIOBUTTON}, Row{BS_OWNERDRAW, true, 0, BS_OWNERDRAW}})
     // clang-format on
     {
-        Lone<Open<>> lone(kSize, _T(""), row.dwType);
-        EXPECT_EQ(lone.button.m_bIsCheckBox, row.bCheckBox) << row.dwType;
-        EXPECT_EQ(lone.button.GetDefault(), row.bDefault) << row.dwType;
-        EXPECT_EQ(lone.button.m_nTypeStyle, row.nTypeStyle) << row.dwType;
-        for (const auto& [style, bDefault] :
+        Lone<Open<>> lone(kSize, _T(""), dwType);
+        CButtonST& button = lone.button;
+        EXPECT_EQ(button.GetDefault(), bDefault) << dwType;
+        EXPECT_EQ(lone.button.m_nTypeStyle, nTypeStyle) << dwType;
+        for (const auto& [style, bNowDefault] :
              {std::pair(BS_DEFPUSHBUTTON, 1), {BS_CHECKBOX, 1}, {BS_PUSHBUTTON, 0}})
         {
-            EXPECT_EQ(lone.button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << row.dwType;
-            lone.button.SendMessage(BM_SETSTYLE, style, FALSE);
-            EXPECT_EQ(lone.button.GetDefault(), bDefault) << "only the push button styles say so";
+            EXPECT_EQ(button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << dwType;
+            button.SendMessage(BM_SETSTYLE, style, FALSE);
+            EXPECT_EQ(button.GetDefault(), bNowDefault) << "only the push button styles say so";
         }
-        EXPECT_EQ(lone.button.m_bIsCheckBox, row.bCheckBox);
+        EXPECT_EQ(button.SetCheck(7), 0u);
+        EXPECT_EQ(button.GetCheck(), bCheckBox) << dwType;
+        for (const auto& [set, bChecked] : {std::pair(0, false), {1, true}, {2, true}, {3, false}})
+        {
+            EXPECT_EQ(button.SendMessage(BM_SETCHECK, set), 0);
+            EXPECT_EQ(button.SendMessage(BM_GETCHECK), bCheckBox && bChecked) << set;
+        }
     }
 }

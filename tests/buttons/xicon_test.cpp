@@ -4,6 +4,8 @@
 #include "Room.h"
 #include "module/GdiScope.h"
 
+#include <tuple>
+
 namespace
 {
 constexpr COLORREF kBack = RGB(200, 220, 240), kText = kRed;
@@ -41,20 +43,11 @@ struct Label : Lone<OpenXIcon>
         EXPECT_EQ(Rect(), CRect(CPoint(10, 10), CSize(Rect().Width(), kSize.cy)));
         return Rect().Width();
     }
-    int TextWidth(const CString& text)
+    CSize TextSize(const CString& text)
     {
         CClientDC dc(&icon);
         const CGdiSelection font(dc, icon.GetFont()->m_hObject);
-        return dc.GetTextExtent(text).cx;
-    }
-    /// Where a colour stands in what the label paints; empty if nowhere.
-    CRect Painted(COLORREF color)
-    {
-        Surface surface(Rect().Width(), Rect().Height());
-        surface.dc().SetBkColor(kBack);
-        PaintButton(icon, surface);
-        EXPECT_TRUE(surface.extent(kKey).IsRectEmpty()) << "nothing of what was there before is left";
-        return surface.extent(color);
+        return dc.GetTextExtent(text);
     }
 
     OpenXIcon& icon = button;
@@ -80,7 +73,7 @@ TEST(XIcon, TakesNothingAmissBeforeItHasAWindow)
 TEST(XIcon, IsAsWideAsWhatItShowsAndShrinksOnlyToSaveMoreThanFivePixels)
 {
     Label label;
-    const int text = label.TextWidth(L"Saved");
+    const int text = label.TextSize(L"Saved").cx;
     const struct
     {
         int marginX, spacing, size; ///< of the icon, or 0
@@ -104,6 +97,8 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
 {
     Label label;
     CXIcon& icon = label.icon;
+    LOGFONTW font{};
+    icon.GetFont(&font);
     icon.GetParent()->ShowWindow(SW_SHOWNA);
     const std::tuple<std::function<void(int)>, LPCWSTR, int> rows[] = {
         // and the width: a text's and more
@@ -112,14 +107,16 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
         {[&](int repaint) { icon.SetMargins(50, 0, repaint); }, L"Text", 102},
         {[&](int repaint) { icon.SetFont(L"", 30, repaint); }, L"Text", 102},
         {[&](int repaint) { icon.SetBold(TRUE, repaint); }, L"Text", 102},
+        {[&](int repaint) { icon.SetFont(&font, repaint); }, L"Text", 102},
         {[&](int repaint) { icon.SetWindowText(nullptr, repaint); }, L"", 100},
         {[&](int repaint) { icon.SetIcon(label.blue, 40, repaint); }, L"", 142},
         {[&](int repaint) { icon.SetIconSpacing(9, repaint); }, L"", 142},
-        {[&](int repaint) { icon.SetTextColor(kText, repaint); }, L"", 142}};
+        {[&](int repaint) { icon.SetTextColor(kText, repaint); }, L"", 142},
+        {[&](int repaint) { icon.SetIcon(0u, 16, repaint); }, L"", 100}};
     for (const auto& [set, pszText, more] : rows)
     {
         set(0);
-        EXPECT_EQ(label.Rect().Width(), label.TextWidth(pszText) + more) << &set - &std::get<0>(rows[0]);
+        EXPECT_EQ(label.Rect().Width(), label.TextSize(pszText).cx + more) << &set - &std::get<0>(rows[0]);
         for (const int repaint : {0, 1})
         {
             icon.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW);
@@ -130,53 +127,54 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
     }
 }
 
-// ---- Painting -------------------------------------------------------------------------------------------
-
-TEST(XIcon, PutsTheIconFirstOnlyWithPlainLeftAlignment)
+TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
 {
-    for (const DWORD align : {BS_LEFT, BS_RIGHT, BS_CENTER, 0L})
+    struct Row
     {
-        Label label(align);
-        const int width = label.TextWidth(L"HH");
-        label.icon.SetIcon(label.blue, 16).SetWindowText(L"HH");
-        const int iconAt = align == BS_LEFT ? 2 : 2 + width + 2 + 5,
-                  textAt = align == BS_LEFT ? 2 + 16 + 5 : 2;
-        EXPECT_EQ(label.Painted(kBlue), CRect(CPoint(iconAt, 12), CSize(16, 16))) << align;
-        const CRect text = label.Painted(kText);
-        EXPECT_TRUE(!text.IsRectEmpty() && text.left >= textAt && text.right <= textAt + width) << align;
-
-        // Where the first part is missing the second begins at the spacing alone.
-        label.icon.SetMargins(40, 0).SetIconSpacing(9);
-        label.icon.SetIcon(align == BS_LEFT ? nullptr : HICON(label.blue), 16)
-            .SetWindowText(align == BS_LEFT ? L"H" : L"");
-        const int left = label.Painted(align == BS_LEFT ? kText : kBlue).left;
-        EXPECT_EQ(left, align == BS_LEFT ? text.left - textAt + 9 : 9);
-    }
-}
-
-TEST(XIcon, PlacesTextAndIconVerticallyAndCoversTheWholeArea)
-{
-    const auto painted = [](DWORD vertical, int margin)
-    {
-        Label label(BS_LEFT | vertical);
-        label.icon.SetMargins(2, margin).SetWindowText(L"H\nH"); // always one line
-        EXPECT_EQ(label.Painted(kBack), CRect(CPoint(0, 0), kSize));
-        return label.Painted(kText);
+        DWORD align, vertical; ///< only plain left has the icon first
+        CPoint margin;
+        int spacing, size; ///< of the icon, or 0
+        LPCWSTR pszText;
     };
-    const CRect top = painted(BS_TOP, 0), middle = painted(BS_VCENTER, 0), bottom = painted(BS_BOTTOM, 0);
-    EXPECT_LT(top.bottom, 16);
-    EXPECT_GT(bottom.top, 24);
-    EXPECT_LE(std::abs(middle.CenterPoint().y - 20), 2);
-    EXPECT_EQ(painted(0, 0), middle);
-    EXPECT_EQ(painted(BS_TOP, 6).top, top.top + 6);
-    EXPECT_EQ(painted(BS_BOTTOM, 6), bottom);
+    for (const auto& [align, vertical, margin, spacing, size, pszText] :
+         {Row{BS_LEFT, 0, {2, 0}, 5, 16, L"HH"}, Row{BS_RIGHT, BS_VCENTER, {2, 0}, 5, 16, L"HH"},
+          Row{BS_CENTER, BS_TOP, {4, 6}, 0, 20, L"HH\nH"}, Row{0, BS_BOTTOM, {9, 7}, 8, 16, L"H"},
+          Row{BS_LEFT, BS_BOTTOM, {40, 3}, 9, 0, L"H"}, Row{BS_RIGHT, BS_TOP, {40, 3}, 9, 16, L""},
+          Row{BS_LEFT, BS_TOP, {2, 0}, 5, 45, L""}})
+    {
+        Label label(align | vertical);
+        label.icon.SetMargins(margin.x, margin.y).SetIconSpacing(spacing).SetWindowText(pszText);
+        label.icon.SetIcon(size ? HICON(label.blue) : nullptr, size);
+        Surface ours(kSize.cx, kSize.cy), expected(kSize.cx, kSize.cy, kBack);
+        ours.dc().SetBkColor(kBack);
+        PaintButton(label.icon, ours);
 
-    Label label;
-    EXPECT_EQ(label.icon.SendMessage(WM_ERASEBKGND), 1);
-    label.icon.SetMargins(2, 7).SetIcon(label.blue, 16);
-    EXPECT_EQ(label.Painted(kBlue).top, 7 + ((40 - 16 - 7) >> 1)) << "the middle of what the margin leaves";
-    label.icon.SetMargins(2, 0).SetIcon(label.blue, 45);
-    EXPECT_EQ(label.Painted(kBlue), CRect(2, 0, 47, 40)) << "drawn at the size asked for, and cut off";
+        CDC& dc = expected.dc();
+        dc.SetTextColor(kText);
+        dc.SetBkMode(TRANSPARENT);
+        const CGdiSelection font(dc, label.icon.GetFont()->m_hObject);
+        const CSize text = label.TextSize(pszText);
+        const auto topOf = [&, top = margin.y](int height) { return top + (kSize.cy - height - top) / 2; };
+        const auto drawIcon = [&](int x)
+        {
+            dc.FillSolidRect(x, topOf(size) - (size > kSize.cy), size, size, size ? kBlue : kBack);
+            return size ? x + size : 0;
+        };
+        const auto drawText = [&](int x)
+        {
+            const int y = vertical == BS_TOP      ? margin.y
+                          : vertical == BS_BOTTOM ? kSize.cy - text.cy
+                                                  : topOf(text.cy);
+            dc.DrawText(pszText, -1, CRect(x, y, x + text.cx, y + text.cy), DT_SINGLELINE); // always one line
+            return *pszText ? x + text.cx + 2 : 0; // where nothing is the other begins at the spacing alone
+        };
+        if (align == BS_LEFT)
+            drawText(drawIcon(margin.x) + spacing);
+        else
+            drawIcon(drawText(margin.x) + spacing);
+        EXPECT_TRUE(ours == expected) << align << ' ' << vertical << ' ' << size;
+    }
+    EXPECT_EQ(Label().icon.SendMessage(WM_ERASEBKGND), 1) << "it covers all of its area";
 }
 
 // ---- Fonts and resources --------------------------------------------------------------------------------
