@@ -8,8 +8,6 @@
 #include <acdocman.h>
 #include <afxdlgs.h>
 
-#include <algorithm>
-
 namespace
 {
 constexpr COLORREF kNewColor = RGB(1, 2, 3);
@@ -111,8 +109,6 @@ protected:
 using ColorPopup = ColorButtons;
 } // namespace
 
-// ---- Number ---------------------------------------------------------------------------------------
-
 TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysAndMakeTheNumberAnewEachTime)
 {
     for (const long dwStyle : {long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX), BS_DEFPUSHBUTTON | WS_DISABLED})
@@ -206,8 +202,6 @@ TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
     EXPECT_EQ(m_index, 142);
     EXPECT_EQ(m_room.Take(), Calls{});
 }
-
-// ---- The pop-up --------------------------------------------------------------------------------------------
 
 TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
 {
@@ -346,7 +340,7 @@ TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
     {
         ::SetFocus(nullptr);
         MSG msg{popup, WM_KEYDOWN, VK_RIGHT, 0, 0, {}};
-        popup.PreTranslateMessage(&msg);
+        EXPECT_TRUE(popup.PreTranslateMessage(&msg));
         EXPECT_EQ(::GetFocus(), Part(popup, 1)) << "counts from the first";
     };
     Visit(keyWithoutFocus);
@@ -424,8 +418,6 @@ TEST_F(ColorPopup, AClickByAProgramTakesTheFocusAndOpensNoSecondOne)
     EXPECT_EQ(m_room.Take(), (Calls{"hook", "told 1001 " + std::to_string(0x800000)}));
 }
 
-// ---- The palette in the profile ---------------------------------------------------------------------------
-
 TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
 {
     CWinApp& app = *AfxGetApp();
@@ -463,8 +455,6 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     EXPECT_EQ(CColorBtnST::Store(), 0);
     app.m_pszProfileName = pszName;
 }
-
-// ---- Broken assumptions -----------------------------------------------------------------------------------
 
 static void Paint(CButton& button)
 {

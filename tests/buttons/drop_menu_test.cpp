@@ -3,9 +3,6 @@
 #include "Images.h"
 #include "Room.h"
 
-#include <algorithm>
-#include <tuple>
-
 using owtest::OpenMenu;
 using testimages::Pixels;
 using testimages::PixelsOf;
@@ -65,8 +62,6 @@ protected:
 using Kinds = ::testing::Types<CBitmapBtnSTTekstKote, CTextBtnST>;
 TYPED_TEST_SUITE(DropMenus, Kinds);
 } // namespace
-
-// ---- The user ---------------------------------------------------------------------------------------------
 
 TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEverything)
 {
@@ -190,12 +185,8 @@ TYPED_TEST(DropMenus, TakeEveryCommandForAChoice)
     EXPECT_EQ(this->m_nValue, 0);
 }
 
-// ---- Pictures ---------------------------------------------------------------------------------------------
-
-namespace
-{
 template <class Picker>
-void ExpectMenu(UINT nFirstId, CSize size)
+static void ExpectMenu(UINT nFirstId, CSize size)
 {
     const Lone<OpenPicker<Picker>> lone(CSize(70, 30));
     const auto& picker = lone.button;
@@ -217,7 +208,6 @@ void ExpectMenu(UINT nFirstId, CSize size)
         EXPECT_GT(std::count(wanted.begin(), wanted.end(), kBlack), 10) << "picture " << i;
     }
 }
-} // namespace
 
 TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
 {
@@ -255,8 +245,6 @@ TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
     Hatches::LoadBitmaps(::GetModuleHandle(_T("DialogControlsOW.dll")));
     EXPECT_TRUE(pictures.loaded && testimages::IsBitmap(pictures.handles[9]));
 }
-
-// ---- Texts ------------------------------------------------------------------------------------------------
 
 using TextMenu = DropMenus<CTextBtnST>;
 

@@ -5,9 +5,6 @@
 
 #include <MixedFont.h>
 
-#include <algorithm>
-#include <tuple>
-
 namespace
 {
 constexpr wchar_t kText[] = L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]",
@@ -102,8 +99,6 @@ protected:
 };
 } // namespace
 
-// ---- A button by itself -----------------------------------------------------------------------------------
-
 TEST_F(PaintedMixedFont, BoxAndTextStandByTheStyles)
 {
     using Row = std::tuple<DWORD, int, int>; // style, box, text
@@ -195,8 +190,6 @@ TEST_F(PaintedMixedFont, KeepsItsOwnCheckStateAndBecomesOwnerDrawn)
     button.SetCheck(0);
     EXPECT_EQ(button.GetCheck(), 1) << "a disabled one keeps it";
 }
-
-// ---- In a dialog ------------------------------------------------------------------------------------------
 
 TEST_F(MixedFontInRoom, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
 {

@@ -1,7 +1,11 @@
-// What a button looks like, read back pixel by pixel.
+// What buttons look like, read back pixel by pixel: all states of one against a model, and what those with a drop-down
+// arrow add.
 
 #include "Images.h"
 #include "Room.h"
+#include "module/GdiScope.h"
+
+#include <climits>
 
 #include <random>
 
@@ -18,6 +22,7 @@ constexpr COLORREF kFaceIn = RGB(200, 220, 255), kFaceOut = RGB(180, 200, 180),
 constexpr COLORREF kTextIn = RGB(0, 0, 200), kTextOut = RGB(0, 100, 0), kTextFocus = RGB(120, 0, 0);
 constexpr COLORREF kSecond = RGB(60, 0, 0); ///< colour of the second image; the first one's is red
 const CSize kSize(100, 41), kIconSize(16, 16), kBitmapSize(20, 11);
+using Random = std::mt19937;
 constexpr UINT kTitle = DT_WORDBREAK | DT_CENTER;
 
 enum EImage
@@ -36,6 +41,21 @@ struct Look
     EImage image;
     BYTE nAlign;
     LPCTSTR pszTitle;
+    CSize size = kSize;
+
+    explicit Look(Random& random)
+    {
+        for (bool* pFlag = &bCheckBox; pFlag <= &bToolbar; ++pFlag)
+            *pFlag = random() % 2 != 0;
+        bThemed = random() % 4 == 0;
+        image = EImage(random() % 3);
+        nAlign = BYTE(random() % 4);
+        pszTitle = std::array{_T(""), _T("HHHH"), _T("HHHHHH HHHHHH HHHHHH")}[random() % 3];
+    }
+    UINT ItemState() const
+    {
+        return (bPressed ? ODS_SELECTED : 0) | (bFocused ? ODS_FOCUS : 0) | (bDisabled ? ODS_DISABLED : 0);
+    }
 
     bool LooksPressed() const { return bPressed || (bCheckBox && bChecked); }
     CPoint Offset() const
@@ -68,7 +88,7 @@ CRect PaintFace(CDC& dc, const Look& look, HWND hButton)
     const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT), shadow = ::GetSysColor(COLOR_BTNSHADOW);
     const COLORREF face = look.ByState(kFaceIn, kFaceFocus, kFaceOut);
     const bool bPressed = look.LooksPressed();
-    CRect rect(CPoint(0, 0), kSize);
+    CRect rect(CPoint(0, 0), look.size);
     if (look.bThemed)
     {
         const bool bDefault = look.bDefault && (!look.bToolbar || look.bBorder);
@@ -114,7 +134,7 @@ CRect PaintFace(CDC& dc, const Look& look, HWND hButton)
 /// The image is one colour in a transparent frame. What is left for the title.
 CRect PaintImage(CDC& dc, const Look& look)
 {
-    CRect caption(CPoint(0, 0), kSize);
+    CRect caption(CPoint(0, 0), look.size);
     if (look.image == noImage)
         return caption;
     const CSize size = look.image == icon ? kIconSize : kBitmapSize;
@@ -161,9 +181,13 @@ void PaintTitle(CDC& dc, const Look& look, const CRect& room)
         dc.DrawText(look.pszTitle, -1, rect, kTitle);
 }
 
-void PaintModel(CDC& dc, const Look& look, HWND hButton)
+/// What a class adds to the face.
+using Overlay = std::function<void(CDC&, const Look&, CRect face)>;
+
+void PaintModel(CDC& dc, const Look& look, HWND hButton, const Overlay& overlay)
 {
     const CRect face = PaintFace(dc, look, hButton);
+    overlay(dc, look, face);
     const CRect caption = PaintImage(dc, look);
     if (*look.pszTitle)
         PaintTitle(dc, look, caption);
@@ -173,40 +197,15 @@ void PaintModel(CDC& dc, const Look& look, HWND hButton)
         dc.DrawFocusRect(Inside(face, 3, 3));
 }
 
-/// A button without a theme, with colours of its own.
-struct Plain : Lone<Open<>>
-{
-    explicit Plain(DWORD dwType = BS_PUSHBUTTON) : Lone(kSize, _T(""), dwType)
-    {
-        button.SetThemeHelper(nullptr);
-        button.SetFlat(TRUE);
-        const COLORREF colors[] = {kFaceIn, kTextIn, kFaceOut, kTextOut, kFaceFocus, kTextFocus};
-        for (BYTE i = 0; i < CButtonST::colorCount; ++i)
-            button.SetColor(i, colors[i]);
-    }
-    std::unique_ptr<Surface> Paint(UINT nItemState = 0)
-    {
-        auto pSurface = std::make_unique<Surface>(kSize.cx, kSize.cy);
-        PaintButton(button, *pSurface, nItemState);
-        pSurface->dc().SetTextColor(kBlack);
-        return pSurface;
-    }
-    CSize Size() const
-    {
-        CRect rect;
-        button.GetWindowRect(rect);
-        return rect.Size();
-    }
-};
-
-void Dress(Open<>& button, const Look& look, HICON hFirst, HICON hSecond)
+template <class Button>
+void Dress(Open<Button>& button, const Look& look)
 {
     const auto make = [](COLORREF cr) { return testimages::MakeBitmap(kBitmapSize, cr, kKey); };
+    static const Icon first(kIconSize.cx, kRed), second(kIconSize.cx, kSecond);
     if (look.image == bitmap)
         button.SetBitmaps(make(kRed), kKey, look.bSecondImage ? make(kSecond) : nullptr, kKey);
-    else
-        button.SetIcon(look.image == icon ? hFirst : nullptr, look.bSecondImage ? hSecond : nullptr);
-    button.SetWindowText(look.pszTitle);
+    else if (look.image == icon)
+        button.SetIcon(first, look.bSecondImage ? HICON(second) : nullptr);
     button.SetThemeHelper(look.bThemed ? CButtonST::pLocalTheme : nullptr);
     button.DrawAsToolbar(look.bToolbar);
     button.SetFlat(look.bFlat);
@@ -218,44 +217,49 @@ void Dress(Open<>& button, const Look& look, HICON hFirst, HICON hSecond)
     button.m_bIsDefault = look.bDefault;
     button.m_bMouseOnButton = look.bHover;
     button.m_bShowDisabledBitmap = look.bEngraves;
+    const COLORREF colors[] = {kFaceIn, kTextIn, kFaceOut, kTextOut, kFaceFocus, kTextFocus};
+    for (BYTE i = 0; i < CButtonST::colorCount; ++i)
+        button.SetColor(i, colors[i]);
+}
+
+/// Expects that a button in one of so many looks is as the model.
+template <class Button>
+void ExpectLooks(int nLooks, const std::function<void(Look&, Random&)>& limit,
+                 const std::function<void(Button&)>& prepare, const Overlay& overlay)
+{
+    Random random(1);
+    for (int i = 0; i < nLooks; ++i)
+    {
+        Look look(random);
+        limit(look, random);
+        Lone<Open<Button>> lone(look.size, look.pszTitle, look.bCheckBox ? BS_AUTOCHECKBOX : BS_PUSHBUTTON);
+        Dress(lone.button, look);
+        prepare(lone.button);
+        Surface ours(look.size.cx, look.size.cy), expected(look.size.cx, look.size.cy);
+        PaintButton(lone.button, ours, look.ItemState());
+        PaintModel(expected.dc(), look, lone.button, overlay);
+        ASSERT_TRUE(ours == expected) << "case " << i;
+    }
 }
 } // namespace
 
 TEST(ButtonPaint, IsThatOfTheModelInEveryState)
 {
-    const Icon first(kIconSize.cx, kRed), second(kIconSize.cx, kSecond);
-    const LPCTSTR titles[] = {_T(""), _T("HHHH"), _T("HHHHHH HHHHHH HHHHHH")};
-    Plain push, box(BS_AUTOCHECKBOX);
-    std::mt19937 random(1);
-    const auto draw = [&](auto&... flags) { ((flags = random() % 2 != 0), ...); };
-    for (int i = 0; i < 300; ++i)
-    {
-        Look look{};
-        draw(look.bCheckBox, look.bChecked, look.bFlat, look.bBorder, look.bFlatFocus, look.bDefault,
-             look.bHover, look.bPressed, look.bFocused, look.bDisabled, look.bEngraves, look.bSecondImage,
-             look.bPressedDown, look.bToolbar);
-        look.bThemed = random() % 4 == 0;
-        look.image = EImage(random() % 3);
-        look.nAlign = BYTE(random() % 4);
-        look.pszTitle = titles[random() % 3];
-        Plain& plain = look.bCheckBox ? box : push;
-        Dress(plain.button, look, first, second);
-        const auto ours = plain.Paint((look.bPressed ? ODS_SELECTED : 0) | (look.bFocused ? ODS_FOCUS : 0) |
-                                      (look.bDisabled ? ODS_DISABLED : 0));
-        Surface expected(kSize.cx, kSize.cy);
-        PaintModel(expected.dc(), look, plain.button);
-        ASSERT_TRUE(*ours == expected) << "case " << i;
-    }
+    ExpectLooks<CButtonST>(
+        300, [](Look&, Random&) {}, [](CButtonST&) {}, [](CDC&, const Look&, CRect) {});
 }
 
 TEST(ButtonPaint, ADisabledIconThatIsTooLargeTurnsTheFaceGreyToo)
 {
-    const Icon large(kSize.cx + 20, kRed);
-    Plain plain;
-    plain.button.SetIcon(large, nullptr);
-    const auto surface = plain.Paint(ODS_DISABLED);
-    EXPECT_EQ(surface->at(kSize.cx / 2, kSize.cy / 2), RGB(155, 155, 155));
-    EXPECT_NE(surface->at(kSize.cx / 2, 1), kFaceOut) << "a corner outside has no colour that could stay";
+    const Icon large(kSize.cx + 20, kRed, 45);
+    Lone<CButtonST> lone(kSize);
+    lone.button.SetThemeHelper(nullptr);
+    lone.button.SetIcon(large, nullptr);
+    Surface surface(kSize.cx, kSize.cy);
+    PaintButton(lone.button, surface, ODS_DISABLED);
+    EXPECT_EQ(surface.at(kSize.cx / 2, kSize.cy / 2), RGB(155, 155, 155));
+    EXPECT_EQ(surface.at(kSize.cx / 2, 1), Greyed(::GetSysColor(COLOR_BTNFACE)))
+        << "a corner outside has no colour that could stay";
 }
 
 TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
@@ -284,20 +288,21 @@ TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
 
 TEST(ButtonPaint, SizesItselfToItsImage)
 {
-    Plain plain;
-    plain.button.SizeToContent();
-    EXPECT_EQ(plain.Size(), kSize) << "without an image nothing happens";
-    plain.button.SetBitmaps(testimages::MakeBitmap(CSize(30, 18), kRed, kKey), kKey);
-    plain.button.SizeToContent();
-    EXPECT_EQ(plain.Size(), CSize(30, 18));
-    EXPECT_EQ(plain.button.m_ptImageOrigin, CPoint(0, 0));
-    plain.button.SetIcon(10000, 24, 24, 0, 0, 0);
-    plain.button.SizeToContent();
-    EXPECT_EQ(plain.Size(), CSize(24, 24));
-    EXPECT_EQ(plain.button.GetParent()->GetTopWindow()->m_hWnd, plain.button.m_hWnd);
+    Lone<Open<>> lone(kSize);
+    const auto sized = [&]
+    {
+        CRect rect;
+        lone.button.SizeToContent();
+        lone.button.GetWindowRect(rect);
+        return rect.Size();
+    };
+    EXPECT_EQ(sized(), kSize) << "without an image nothing happens";
+    lone.button.SetBitmaps(testimages::MakeBitmap(CSize(30, 18), kRed, kKey), kKey);
+    EXPECT_EQ(sized(), CSize(30, 18));
+    EXPECT_EQ(lone.button.m_ptImageOrigin, CPoint(0, 0));
+    lone.button.SetIcon(10000, 24, 24, 0, 0, 0);
+    EXPECT_EQ(sized(), CSize(24, 24));
 }
-
-// ---- Transparency -----------------------------------------------------------------------------------------
 
 TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGives)
 {
@@ -339,4 +344,137 @@ TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGive
         EXPECT_EQ(ColorOf(button, i), ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE))
             << "new system colours";
     parent.DestroyWindow();
+}
+
+namespace
+{
+void Frame(CDC& dc, const CRect& rect, COLORREF cr)
+{
+    CBrush brush(cr);
+    dc.FrameRect(rect, &brush);
+}
+
+// Half-way down is half of the bottom: of an even height the arrow of a pressed button moves only sideways.
+void DrawArrow(CDC& dc, const CRect& face, bool bDisabled)
+{
+    const int right = face.right, middle = face.bottom / 2;
+    const COLORREF cr = bDisabled ? ::GetSysColor(COLOR_BTNSHADOW) : kBlack;
+    dc.FillSolidRect(right - 10, middle - 1, 5, 1, cr);
+    dc.FillSolidRect(right - 9, middle, 3, 1, cr);
+    for (const int step : bDisabled ? std::vector{0, 1, 2} : std::vector{2})
+        dc.SetPixel(right - 6 - step, middle - 1 + step, bDisabled ? kWhite : kBlack);
+}
+
+/// In the middle, cut off at the area; the white of one bit takes on the face.
+void DrawPicture(CDC& dc, const CRect& area, HBITMAP hPicture, COLORREF crFace)
+{
+    BITMAP info{};
+    ::GetObject(hPicture, sizeof(info), &info);
+    CDC dcPicture;
+    dcPicture.CreateCompatibleDC(&dc);
+    const CGdiSelection picture(dcPicture, hPicture);
+    const CSavedDC saved(dc);
+    dc.SetBkColor(crFace);
+    dc.IntersectClipRect(area);
+    dc.BitBlt(area.left + (area.Width() - info.bmWidth) / 2, area.top + (area.Height() - info.bmHeight) / 2,
+              info.bmWidth, info.bmHeight, &dcPicture, 0, 0, SRCCOPY);
+}
+
+/// Expects the arrow on the face, and what `draw` adds in the area for it.
+template <class Button>
+void ExpectDropLooks(const std::function<void(Button&)>& prepare,
+                     const std::function<void(CDC&, const Look&, const CRect& area, COLORREF crFace)>& draw)
+{
+    const auto limit = [](Look& look, Random& random)
+    {
+        const CSize sizes[] = {{80, 30}, {80, 31}, {50, 22}, {59, 27}, {41, 17},
+                               {48, 24}, {20, 30}, {19, 30}, {80, 10}, {12, 6}};
+        look.size = sizes[random() % std::size(sizes)];
+        look.bCheckBox = false;
+        look.image = noImage;
+        look.pszTitle = _T("");
+        if (look.size.cx < 41 || look.size.cy < 17) // no room for an edge
+            look.bFlat = true, look.bBorder = look.bFocused = false;
+    };
+    const auto overlay = [&](CDC& dc, const Look& look, CRect face)
+    {
+        if (look.bPressed)
+            face.OffsetRect(1, 1);
+        const COLORREF crFace = dc.GetPixel(face.CenterPoint());
+        DrawArrow(dc, face, look.bDisabled);
+        const CRect area(face.left + 5, face.top + 5, face.right - 14, face.bottom - 5);
+        if (!area.IsRectEmpty())
+            draw(dc, look, area, crFace);
+    };
+    ExpectLooks<Button>(60, limit, prepare, overlay);
+}
+} // namespace
+
+TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
+{
+    using Picker = CBitmapBtnSTSrafura; // pictures of one bit
+    auto& handles = Picker::s_pictures.handles;
+    const std::vector<HBITMAP> before(std::begin(handles), std::end(handles));
+    CBitmap places; // names the place of each pixel by its colour
+    testimages::Pixels pixels;
+    for (int i = 0; i < 31 * 12; ++i)
+        pixels.push_back(testimages::Opaque(RGB(i % 31, i / 31, 200)));
+    places.CreateBitmap(31, 12, 1, 32, pixels.data());
+    handles[0] = places;
+    handles[1] = nullptr;                                 // is missing
+    for (int index : {0, 1, 2, 10, -1, INT_MAX, INT_MIN}) // the last four are none
+    {
+        const auto draw = [&](CDC& dc, const Look& look, const CRect& area, COLORREF crFace)
+        {
+            if (!look.bDisabled && (index == 0 || index == 2))
+                DrawPicture(dc, area, handles[index], crFace);
+        };
+        ExpectDropLooks<Picker>([&](Picker& picker) { picker.SetEnumSource(&index); }, draw);
+    }
+    ExpectDropLooks<Picker>([](Picker&) {}, [](CDC&, const Look&, const CRect&, COLORREF) {});
+    std::ranges::copy(before, handles);
+
+    Lone<Picker> lone(CSize(80, 30));
+    int nOneBit = 2;
+    lone.button.SetThemeHelper(nullptr);
+    lone.button.SetEnumSource(&nOneBit);
+    Surface whole(80, 30), part(80, 30);
+    PaintButton(lone.button, whole);
+    part.dc().IntersectClipRect(22, 0, 27, 30); // without the middle
+    PaintButton(lone.button, part);
+    part.dc().SelectClipRgn(nullptr);
+    for (const CRect rest : {CRect(0, 0, 22, 30), CRect(27, 0, 80, 30)})
+        part.dc().BitBlt(rest.left, 0, rest.Width(), 30, &whole.dc(), rest.left, 0, SRCCOPY);
+    EXPECT_TRUE(part == whole);
+}
+
+TEST(DropFaces, OfColorButtonsHaveASwatchOrAnEmptyFrame)
+{
+    DWORD color = RGB(1, 2, 3);
+    const auto drawRgb = [&](CDC& dc, const Look& look, const CRect& area, COLORREF)
+    {
+        if (look.bDisabled)
+            return;
+        dc.FillSolidRect(area, color);
+        Frame(dc, area, kBlack);
+    };
+    ExpectDropLooks<CColorBtnST>([&](CColorBtnST& button) { button.SetColorSource(&color); }, drawRgb);
+    for (int index : {30, 999}) // the second is no colour
+    {
+        const auto drawAcad = [&](CDC& dc, const Look& look, const CRect& area, COLORREF)
+        {
+            if (look.bDisabled)
+                Frame(dc, area + CPoint(1, 1), kWhite);
+            else if (index == 30)
+                dc.FillSolidRect(area, RGB(255, 127, 0));
+            Frame(dc, area, look.bDisabled ? ::GetSysColor(COLOR_BTNSHADOW) : kBlack);
+        };
+        ExpectDropLooks<CAcadColorBtnST>([&](CAcadColorBtnST& button) { button.SetColorSource(&index); },
+                                         drawAcad);
+    }
+}
+
+TEST(DropFaces, OfTextButtonsHaveTheArrowAlone)
+{
+    ExpectDropLooks<CTextBtnST>([](CTextBtnST&) {}, [](CDC&, const Look&, const CRect&, COLORREF) {});
 }

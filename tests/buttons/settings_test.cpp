@@ -2,8 +2,6 @@
 
 #include "Room.h"
 
-#include <tuple>
-
 namespace
 {
 constexpr COLORREF kColor = RGB(240, 10, 10);
@@ -146,6 +144,11 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     EXPECT_TRUE(Repaints(button, [&] { button.SetBitmaps(10101, 0); }));
     EXPECT_TRUE(Repaints(button, [&] { button.SendMessage(BM_SETCHECK, 1); }));
     EXPECT_TRUE(Repaints(button, [&] { button.SendMessage(WM_SYSCOLORCHANGE); }));
+    button.UpdateWindow();
+    CClientDC(&button).SetPixel(9, 9, kKey);
+    button.EnableWindow(FALSE);
+    button.UpdateWindow();
+    EXPECT_NE(CClientDC(&button).GetPixel(9, 9), kKey) << "the system's button paints itself";
 }
 
 TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSaysAndOnlyACheckBoxCanBeChecked)

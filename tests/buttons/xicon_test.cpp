@@ -4,8 +4,6 @@
 #include "Room.h"
 #include "module/GdiScope.h"
 
-#include <tuple>
-
 namespace
 {
 constexpr COLORREF kBack = RGB(200, 220, 240), kText = kRed;
@@ -176,8 +174,6 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
     }
     EXPECT_EQ(Label().icon.SendMessage(WM_ERASEBKGND), 1) << "it covers all of its area";
 }
-
-// ---- Fonts and resources --------------------------------------------------------------------------------
 
 TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATime)
 {

@@ -4,8 +4,6 @@
 
 #include "EnglishTexts.h"
 
-#include <acdocman.h>
-
 namespace
 {
 // Controls of the system's dialog
@@ -17,7 +15,6 @@ struct Arguments
     const wchar_t* name = nullptr;
     unsigned long flags = 0;
     const wchar_t* filter = nullptr;
-    HWND parent = nullptr;
     const wchar_t* title = nullptr;
 };
 
@@ -29,7 +26,7 @@ Outcome Start(const Arguments& arguments, const Visitor& visitor)
     CString path = L"before";
     const int result =
         gfnStartTranslatedFileDialog(path, arguments.open, L"txt", arguments.name, arguments.flags,
-                                     arguments.filter, arguments.parent, arguments.title);
+                                     arguments.filter, nullptr, arguments.title);
     EXPECT_EQ(visit.Count(), 1);
     return {result, path.GetString()};
 }
@@ -110,26 +107,4 @@ TEST(TranslatedFileDialog, CompletesItsFilter)
         EXPECT_EQ(completed != nullptr, !expected.empty());
         EXPECT_EQ(std::wstring(completed ? completed : L"", expected.size()), expected);
     }
-}
-
-TEST(TranslatedFileDialog, StandsOverItsParentOrTheMainWindow)
-{
-    OwnerWindow owner, main;
-    AfxGetApp()->m_pMainWnd = &main;
-    CWnd* seen = nullptr;
-    const Visitor look = [&](CWnd& dialog)
-    {
-        seen = dialog.GetWindow(GW_OWNER);
-        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
-    };
-    const HWND parent = owner;
-    Start({.parent = parent}, look);
-    EXPECT_EQ(seen, &owner);
-    Start({}, look);
-    EXPECT_EQ(seen, &main);
-    owner.DestroyWindow();
-    Start({.parent = parent}, look);
-    EXPECT_EQ(seen, &main);
-    AfxGetApp()->m_pMainWnd = nullptr;
-    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
 }

@@ -4,11 +4,9 @@
 
 #include "EnglishTexts.h"
 #include "FatalReport.h"
-#include "Handles.h"
+#include "ImportStandIn.h"
 
 #include <dialogs/MessageBoxLayout.h>
-
-#include <acdocman.h>
 
 namespace
 {
@@ -144,45 +142,40 @@ TEST(OstrelMessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
     ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"}, look);
 }
 
-// ---- Size -----------------------------------------------------------------------------------------------
+/// Whether the text has the least width with the fewest lines, and all else stands around it.
+static void ExpectArranged(CWnd& box, int left)
+{
+    constexpr int kMargin = 12, kGap = 8;
+    const CRect place = PlaceOf(box, kMessage), button = PlaceOf(box, kFirst);
+    const auto linesAt = [&](int width)
+    {
+        MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
+        return MessageOf(box).GetLineCount();
+    };
+    const int fewest = linesAt(500);
+    int least = fewest == 1 ? 200 : 205;
+    while (linesAt(least) != fewest)
+        least += 5;
+    const auto shown = [&](int id) { return box.GetDlgItem(id)->IsWindowVisible(); };
+    const int row = (shown(kSecond) ? shown(kThird) ? 3 : 2 : 1) * (button.Width() + kGap) - kGap;
+    EXPECT_EQ(place, CRect(CPoint(left, kMargin), CSize(std::max(least, row), std::max(39, 13 * fewest))));
+    EXPECT_EQ(ClientSize(box),
+              CSize(place.right, place.bottom + kMargin + button.Height()) + CSize(kMargin, kMargin));
+    CPoint at(ClientSize(box).cx / 2 - row / 2, place.bottom + kMargin);
+    for (const int id : {kFirst, kSecond, kThird})
+    {
+        EXPECT_TRUE(!shown(id) || PlaceOf(box, id).TopLeft() == at) << id;
+        at.x += button.Width() + kGap;
+    }
+}
 
 TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
 {
-    const auto plain = [](CWnd& box)
-    {
-        const CRect button = PlaceOf(box, kFirst);
-        EXPECT_EQ(PlaceOf(box, kMessage), CRect(12, 12, 212, 51));
-        EXPECT_EQ(ClientSize(box), CSize(224, 39 + button.Height() + 36));
-        EXPECT_EQ(button.TopLeft(), CPoint(112 - button.Width() / 2, 63));
-    };
-    const auto wide = [](CWnd& box)
-    {
-        const int row = 3 * (PlaceOf(box, kFirst).Width() + 8) - 8;
-        EXPECT_EQ(PlaceOf(box, kMessage), CRect(CPoint(12, 12), CSize(row, 39))) << "as wide as the buttons";
-        EXPECT_EQ(ClientSize(box).cx, row + 24);
-        EXPECT_EQ(PlaceOf(box, kThird).right, 12 + row);
-    };
-    const auto least = [](CWnd& box)
-    {
-        const auto linesAt = [&](int width)
-        {
-            MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
-            return MessageOf(box).GetLineCount();
-        };
-        const CRect place = PlaceOf(box, kMessage);
-        const int fewest = linesAt(500);
-        EXPECT_TRUE(place.Width() > 200 && place.Width() <= 500 && place.Width() % 5 == 0) << place.Width();
-        EXPECT_EQ(place.Height(), std::max(39, 13 * fewest));
-        EXPECT_EQ(linesAt(place.Width()), fewest);
-        EXPECT_NE(linesAt(place.Width() - 5), fewest);
-        EXPECT_EQ(PlaceOf(box, kFirst).top, 12 + place.Height() + 12) << "the box has grown with the text";
-    };
-    Show(MB_OK, plain, kOneLine);
-    Show(MB_YESNOCANCEL, wide, kOneLine);
-    Show(MB_OK, least, kPangram);
-    Show(MB_OK, least, Repeat(kPangram, 8));
-    const auto twoLines = [](CWnd& box) { EXPECT_EQ(PlaceOf(box, kMessage).Size(), CSize(205, 39)); };
-    Show(MB_OK, twoLines, L"One\r\nTwo"); // no width makes one line of two
+    for (const CString& text :
+         {CString(kOneLine), CString(kPangram), Repeat(kPangram, 8), CString(L"One\r\nTwo")})
+        for (const unsigned int type : {MB_OK, MB_YESNO, MB_YESNOCANCEL})
+            Show(
+                type, [](CWnd& box) { ExpectArranged(box, 12); }, text);
 
     const std::pair<unsigned int, HICON> icons[] = {{MB_ICONERROR, CButtonST::hIconError},
                                                     {MB_ICONQUESTION, CButtonST::hIconQuestion},
@@ -194,12 +187,11 @@ TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
         expected.dc().DrawIcon(0, 0, icon);
         const auto withIcon = [&](CWnd& box)
         {
-            EXPECT_EQ(PlaceOf(box, kMessage), CRect(56, 12, 256, 51));
-            EXPECT_EQ(ClientSize(box).cx, 268);
             CClientDC dc(&box);
             const auto drawn = [&]
             { return seen.dc().BitBlt(0, 0, 32, 32, &dc, 12, 12, SRCCOPY) && seen == expected; };
             EXPECT_TRUE(owtest::PumpUntil(drawn));
+            ExpectArranged(box, 56);
         };
         Show(MB_OK | type, withIcon, kOneLine);
     }
@@ -256,7 +248,14 @@ TEST(MessageBoxSize, FollowsTheScreensResolution)
     EXPECT_EQ(layout(1, 1.0, 200, 39).MaxLines(50), 3) << "the least text stays, whatever the screen";
 }
 
-// ---- Errors ---------------------------------------------------------------------------------------------
+static std::wstring s_box; ///< by the stand-in for the system's
+
+static int WINAPI NoteBox(HWND, LPCWSTR pszText, LPCWSTR pszCaption, UINT nType)
+{
+    EXPECT_EQ(nType, UINT{MB_ICONERROR | MB_TASKMODAL});
+    s_box = std::wstring(pszCaption) + L'|' + (pszText ? pszText : L"");
+    return IDOK;
+}
 
 TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
 {
@@ -268,27 +267,16 @@ TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
         const owtest::EnglishTexts english;
         EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Error|The licence check failed (12).|OK"));
     }
+    const owtest::ImportStandIn noBox(L"DialogControlsOW.dll", "MessageBoxW", &NoteBox);
     const auto systems = [](unsigned long error)
     {
-        std::wstring seen;
-        owtest::ModalVisit visit(
-            [&](CWnd& box)
-            {
-                seen = TextOf(box) + L'|';
-                for (CWnd* child = box.GetWindow(GW_CHILD); child; child = child->GetNextWindow())
-                    if (child->GetDlgCtrlID() == 0xFFFF)
-                        seen += TextOf(*child);
-                owtest::Press(VK_RETURN);
-            });
         EXPECT_EQ(COstrelMessageBox::ErrorBox(error), 0);
-        return seen;
+        return s_box;
     };
     EXPECT_EQ(systems(ERROR_FILE_NOT_FOUND).substr(0, 7), L"Greska|");
     EXPECT_NE(systems(ERROR_FILE_NOT_FOUND), systems(ERROR_ACCESS_DENIED));
     EXPECT_EQ(systems(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
 }
-
-// ---- A box that is prepared piece by piece --------------------------------------------------------------
 
 TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
 {
@@ -303,52 +291,6 @@ TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
     owner->DestroyWindow();
     EXPECT_EQ(Visit(show, PressEscape).first, 0) << "whatever was pressed the last time";
 }
-
-// ---- Surroundings ---------------------------------------------------------------------------------------
-
-TEST(MessageBoxOwner, IsTheWindowWithTheFocusAndWaits)
-{
-    OwnerWindow owner;
-    ASSERT_TRUE(owtest::Activate(owner));
-    owner.SetFocus();
-    const HINSTANCE before = AfxGetResourceHandle();
-    const auto look = [&](CWnd& box)
-    {
-        EXPECT_EQ(box.GetWindow(GW_OWNER), &owner);
-        EXPECT_FALSE(owner.IsWindowEnabled());
-        CRect over, window;
-        owner.GetWindowRect(over);
-        box.GetWindowRect(window);
-        EXPECT_LE(std::abs(over.CenterPoint().x - window.CenterPoint().x), 1) << "centred";
-        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
-        EXPECT_NE(AfxGetResourceHandle(), before);
-    };
-    Show(MB_YESNO | MB_ICONQUESTION, look);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    EXPECT_EQ(::GetActiveWindow(), owner.m_hWnd);
-    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
-    EXPECT_EQ(AfxGetResourceHandle(), before);
-}
-
-TEST(MessageBoxResources, AreGivenBackByManyBoxes)
-{
-    const CString longText = Repeat(kPangram, 160);
-    const auto round = [&](bool bLong)
-    {
-        Show(
-            MB_YESNOCANCEL | MB_ICONERROR, [](CWnd&) {}, bLong ? longText.GetString() : kOneLine);
-    };
-    round(true); // what is made once for the process
-    round(false);
-    const owtest::HandleCount before = owtest::CountHandles();
-    for (int i = 0; i < 30; ++i)
-        round(i == 0);
-    EXPECT_EQ(owtest::CountHandles(), before);
-    CButtonST button;
-    EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), CButtonST::resultOk) << "the shared icons live on";
-}
-
-// ---- Misuse ends the process ----------------------------------------------------------------------------
 
 /// A box of the type in which a button is pressed that it does not show.
 static void PressHidden(unsigned int type, int button)

@@ -3,11 +3,6 @@
 #include "BoxParts.h"
 
 #include "EnglishTexts.h"
-#include "Handles.h"
-
-#include <acdocman.h>
-
-#include <stdexcept>
 
 namespace
 {
@@ -20,17 +15,12 @@ int StartEdit(CString& name, const CString& caption)
     return gfnStartNazivDlg(name, caption);
 }
 
-int StartComboOver(CWnd* parent, CString& name, const CString& caption)
+int StartCombo(CString& name, const CString& caption)
 {
     CStringArray names;
     for (const wchar_t* layer : {L"Walls", L"Axes", L"Columns"})
         names.Add(layer);
-    return gfnStartNazivComboDlg(name, names, caption, parent);
-}
-
-int StartCombo(CString& name, const CString& caption)
-{
-    return StartComboOver(nullptr, name, caption);
+    return gfnStartNazivComboDlg(name, names, caption, nullptr);
 }
 
 /// One of the two dialogs; what both do is tested with both.
@@ -112,58 +102,19 @@ TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
     Ask(L"", buttons);
 }
 
-TEST_P(NameDialog, StandsOverTheWindowInFrontWithTheLibrarysResources)
+TEST(NameComboDialog, ListsTheNamesAsGiven)
 {
-    OwnerWindow owner;
-    AfxGetApp()->m_pMainWnd = &owner;
-    const HINSTANCE before = AfxGetResourceHandle();
-    const Visitor look = [&](CWnd& dialog)
+    const auto look = [&](CWnd& dialog)
     {
-        EXPECT_EQ(dialog.GetWindow(GW_OWNER), &owner);
-        EXPECT_FALSE(owner.IsWindowEnabled());
-        EXPECT_NE(AfxGetResourceHandle(), before);
+        auto& combo = static_cast<CComboBox&>(*dialog.GetDlgItem(kCombo));
+        EXPECT_EQ(combo.GetCount(), 3);
+        EXPECT_EQ(combo.FindStringExact(-1, L"Walls"), 0);
+        EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";
+        for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
+            owtest::Press(key);
     };
-    Ask(L"", look);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    EXPECT_EQ(AfxGetResourceHandle(), before);
-    const owtest::HandleCount handles = owtest::CountHandles();
-    for (int i = 0; i < 30; ++i)
-        Ask(L"", look);
-    EXPECT_EQ(owtest::CountHandles(), handles);
-    AfxGetApp()->m_pMainWnd = nullptr;
-
-    struct Thrower : OwnerWindow // breaks out of the message loop
-    {
-        BOOL PreTranslateMessage(MSG* message) override
-        {
-            return message->message == WM_APP ? throw std::runtime_error("stop") : FALSE;
-        }
-    } thrower;
-    thrower.PostMessage(WM_APP);
-    CString name;
-    EXPECT_THROW(GetParam().start(name, L""), std::runtime_error);
-    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
-}
-
-TEST(NameComboDialog, StandsOverItsParentAndListsTheNamesAsGiven)
-{
-    OwnerWindow owner;
-    owtest::ModalVisit visit(
-        [&](CWnd& dialog)
-        {
-            EXPECT_EQ(dialog.GetWindow(GW_OWNER), &owner);
-            auto& combo = static_cast<CComboBox&>(*dialog.GetDlgItem(kCombo));
-            EXPECT_EQ(combo.GetCount(), 3);
-            EXPECT_EQ(combo.FindStringExact(-1, L"Walls"), 0);
-            EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";
-            for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
-                owtest::Press(key);
-        });
+    owtest::ModalVisit visit(look);
     CString name = L"Walls";
-    EXPECT_EQ(StartComboOver(&owner, name, L""), IDOK);
+    EXPECT_EQ(StartCombo(name, L""), IDOK);
     EXPECT_EQ(name, L"Axes");
-
-    owner.DestroyWindow();
-    owtest::ModalVisit escape(PressEscape);
-    EXPECT_EQ(StartComboOver(&owner, name, L""), IDCANCEL) << "a parent without a window is none";
 }
