@@ -2,6 +2,7 @@
 
 #include "cells/GridCellBase.h"
 
+#include "cells/CellMemory.h"
 #include "cells/GridCellPainter.h"
 #include "cells/GridDefaultCell.h"
 #include "grid/GridCtrl.h"
@@ -65,6 +66,24 @@ CGridCellBase::CGridCellBase()
 CGridCellBase::~CGridCellBase()
 {
 }
+
+void* CGridCellBase::operator new(std::size_t nSize)
+{
+    return gfnTakeCellMemory(nSize);
+}
+
+void CGridCellBase::operator delete(void* p, std::size_t nSize) noexcept
+{
+    gfnGiveCellMemory(p, nSize);
+}
+
+#if defined(_DEBUG)
+// What a constructor that throws leaves behind here is lost: nobody tells its size.
+void* CGridCellBase::operator new(std::size_t nSize, LPCSTR, int)
+{
+    return gfnTakeCellMemory(nSize);
+}
+#endif
 
 void CGridCellBase::Serialize(CArchive& /*ar*/)
 {

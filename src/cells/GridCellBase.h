@@ -34,6 +34,9 @@
 
 #include <afxwin.h>
 
+#include <cstddef>
+#include <new>
+
 #include "grid/GridTypes.h"
 #include "module/Export.h"
 
@@ -46,6 +49,18 @@ class OW_DIALOGCONTROLS_API CGridCellBase : public CObject
 public:
     CGridCellBase();
     ~CGridCellBase() override;
+
+    /// Cells are made in blocks: cells/CellMemory.h. Raises MFC's memory exception if there is no room.
+    static void* operator new(std::size_t nSize);
+    /// No room is kept for cells that are aligned more strictly than any basic type.
+    static void* operator new(std::size_t nSize, std::align_val_t alignment) = delete;
+    static void* operator new(std::size_t, void* pPlace) noexcept { return pPlace; }
+    static void operator delete(void* p, std::size_t nSize) noexcept;
+    static void operator delete(void*, void*) noexcept {}
+#if defined(_DEBUG)
+    // For clients that redefine new as DEBUG_NEW.
+    static void* operator new(std::size_t nSize, LPCSTR pszFile, int nLine);
+#endif
 
     void Serialize(CArchive& ar) override;
 #ifdef _DEBUG
