@@ -170,8 +170,14 @@ TEST_F(GridMouse, ADragOnADividerSizes)
     Drag(RowDivider(2), CPoint(30, 75));
     EXPECT_EQ(grid.GetRowHeight(2), 75 - 2 * kRowHeight);
     SetSizes(grid);
-    Drag(ColumnDivider(1), CPoint(kColWidth - 30, 10));
-    EXPECT_EQ(grid.GetColumnWidth(1), 1) << "the cursor is held one pixel behind the column's start";
+    owtest::ButtonDown(grid, ColumnDivider(1));
+    CRect held;
+    ::GetClipCursor(&held);
+    grid.ScreenToClient(&held);
+    EXPECT_EQ(held.left, kColWidth + 1) << "the cursor is held one pixel behind the column's start";
+    owtest::MoveTo(grid, CPoint(held.left, 10));
+    owtest::ButtonUp();
+    EXPECT_EQ(grid.GetColumnWidth(1), 1);
     SetSizes(grid); // without a way, and at the very corner, there is nothing to size
     Drag(ColumnDivider(1), ColumnDivider(1));
     DragByMessages(ColumnDivider(1), CPoint(0, 0));
