@@ -71,7 +71,8 @@ struct ModelRow
     friend auto operator<=>(const ModelRow&, const ModelRow&) = default;
 };
 
-/// What the grid must hold, written down without any of the grid's means.
+/// What the grid must hold, written down without any of the grid's means. What is the same for rows and for
+/// columns asks which of them is meant.
 struct Model
 {
     std::vector<ModelRow> rows;
@@ -86,40 +87,66 @@ struct Model
 
     int RowCount() const { return static_cast<int>(rows.size()); }
     int ColCount() const { return static_cast<int>(widths.size()); }
+    int Count(bool ofRows) const { return ofRows ? RowCount() : ColCount(); }
+    int& Fixed(bool ofRows) { return ofRows ? fixedRows : fixedCols; }
+    int& Size(bool ofRows, int i) { return ofRows ? rows[i].height : widths[i]; }
     bool Has(int r, int c) const { return r >= 0 && r < RowCount() && c >= 0 && c < ColCount(); }
     bool HasBody() const { return RowCount() > fixedRows && ColCount() > fixedCols; }
     ModelCell& At(int r, int c) { return rows[r].cells[c]; }
 
-    void SelectNothing()
+    void Select(const CCellRange& range, bool select = true)
     {
-        for (ModelRow& row : rows)
-            for (ModelCell& cell : row.cells)
-                cell.selected = false;
+        range.ForEach([&](int r, int c) { At(r, c).selected = select; });
     }
-    void SelectOnly(int r1, int c1, int r2, int c2)
+    void SelectOnly(const CCellRange& range)
     {
-        SelectNothing();
-        for (int r = r1; r <= r2; ++r)
-            for (int c = c1; c <= c2; ++c)
-                At(r, c).selected = true;
+        Select(CCellRange(0, 0, RowCount() - 1, ColCount() - 1), false);
+        Select(range);
     }
     void Reset()
     {
-        SelectNothing();
+        SelectOnly(CCellRange());
         focus = CCellID();
     }
     ModelCell NewCell() const { return ModelCell{newKind}; }
-    std::vector<ModelCell> NewCells(int count) const { return std::vector<ModelCell>(count, NewCell()); }
+    ModelRow NewRow(int height) const { return {height, std::vector<ModelCell>(widths.size(), NewCell())}; }
     void Resize(int nRows, int nCols, int height, int width)
     {
+        widths.resize(nCols, width);
         for (ModelRow& row : rows)
             row.cells.resize(nCols, NewCell());
-        rows.resize(nRows, ModelRow{height, NewCells(nCols)});
-        widths.resize(nCols, width);
+        rows.resize(nRows, NewRow(height));
         fixedRows = std::min(fixedRows, nRows);
         fixedCols = std::min(fixedCols, nCols);
         if (focus.row >= nRows || focus.col >= nCols)
             focus = CCellID();
+        sortColumn = -1;
+    }
+    void Insert(bool row, int at, int size)
+    {
+        Reset();
+        if (row)
+            rows.insert(rows.begin() + at, NewRow(size));
+        else
+        {
+            widths.insert(widths.begin() + at, size);
+            for (ModelRow& each : rows)
+                each.cells.insert(each.cells.begin() + at, NewCell());
+        }
+        sortColumn = -1;
+    }
+    void Remove(bool row, int at)
+    {
+        Reset();
+        Fixed(row) -= at < Fixed(row);
+        if (row)
+            rows.erase(rows.begin() + at);
+        else
+        {
+            widths.erase(widths.begin() + at);
+            for (ModelRow& each : rows)
+                each.cells.erase(each.cells.begin() + at);
+        }
         sortColumn = -1;
     }
 };
@@ -157,11 +184,10 @@ private:
             return SetKind();
         using Operation = void (GridSequence::*)();
         static constexpr std::pair<int, Operation> kUpTo[] = {
-            {0, &GridSequence::SetCounts},    {1, &GridSequence::SetFixed},  {2, &GridSequence::InsertRow},
-            {3, &GridSequence::InsertColumn}, {4, &GridSequence::Delete},    {7, &GridSequence::ChangeItem},
-            {9, &GridSequence::SetSize},      {11, &GridSequence::SetFocus}, {14, &GridSequence::SelectRange},
-            {15, &GridSequence::Sort},        {18, &GridSequence::Key},      {19, &GridSequence::Scroll},
-            {25, &GridSequence::Click}};
+            {0, &GridSequence::SetCounts}, {1, &GridSequence::SetFixed},     {3, &GridSequence::Insert},
+            {4, &GridSequence::Delete},    {7, &GridSequence::ChangeItem},   {9, &GridSequence::SetSize},
+            {11, &GridSequence::SetFocus}, {14, &GridSequence::SelectRange}, {15, &GridSequence::Sort},
+            {18, &GridSequence::Key},      {19, &GridSequence::Scroll},      {25, &GridSequence::Click}};
         const int picked = Pick(m_withInput ? 26 : 20);
         const auto found = std::find_if(std::begin(kUpTo), std::end(kUpTo),
                                         [&](const auto& entry) { return picked <= entry.first; });
@@ -176,7 +202,7 @@ private:
         const int n = Pick(rows ? 18 : 9);
         Say(rows ? "SetRowCount" : "SetColumnCount", n);
         Expect(rows ? m_grid.SetRowCount(n) : m_grid.SetColumnCount(n), "setting the count answers 0");
-        if (n != (rows ? m_model.RowCount() : m_model.ColCount()))
+        if (n != m_model.Count(rows))
             Resize(rows, n);
     }
 
@@ -189,60 +215,38 @@ private:
     {
         const int n = Pick(3);
         const bool rows = Pick(2) != 0;
-        int& fixed = rows ? m_model.fixedRows : m_model.fixedCols;
         Say(rows ? "SetFixedRowCount" : "SetFixedColumnCount", n);
         Expect(rows ? m_grid.SetFixedRowCount(n) : m_grid.SetFixedColumnCount(n),
                "setting the fixed count answers 0");
-        if (n == fixed)
+        if (n == m_model.Fixed(rows))
             return;
-        if (n > (rows ? m_model.RowCount() : m_model.ColCount()))
+        if (n > m_model.Count(rows))
             Resize(rows, n);
         m_model.Reset();
-        fixed = n;
+        m_model.Fixed(rows) = n;
     }
 
-    void InsertRow()
+    void Insert()
     {
-        const int at = Pick(3) ? Index(m_model.RowCount()) : -1;
+        const bool row = Pick(2) != 0;
+        const int count = m_model.Count(row), at = Pick(3) ? Index(count) : -1;
         const std::wstring heading = Text();
-        Say("InsertRow", at);
-        const int expected = at < 0                                               ? m_model.RowCount()
-                             : at < m_model.fixedRows || at >= m_model.RowCount() ? -1
-                                                                                  : at;
-        Expect(m_grid.InsertRow(heading.c_str(), at) == expected, "InsertRow answers another index");
-        if (expected < 0)
+        Say(row ? "InsertRow" : "InsertColumn", at);
+        // The count itself is a place for columns only.
+        const bool wrong = at >= 0 && (at < m_model.Fixed(row) || at > count - row);
+        const int expected = wrong ? -1 : at < 0 ? count : at;
+        Expect((row ? m_grid.InsertRow(heading.c_str(), at)
+                    : m_grid.InsertColumn(heading.c_str(), GV_HEADING_FORMAT, at)) == expected,
+               "inserting answers another index");
+        if (wrong)
             return;
-        m_model.Reset();
-        if (m_model.ColCount() == 0)
-            Resize(false, 1);
-        ModelRow row{m_grid.GetRowHeight(expected), m_model.NewCells(m_model.ColCount())};
-        row.cells[0].text = heading;
-        row.cells[0].modified = true;
-        m_model.rows.insert(m_model.rows.begin() + expected, row);
-        m_model.sortColumn = -1;
-        Expect(row.height > 0, "an inserted row has no height");
-    }
-
-    void InsertColumn()
-    {
-        const int at = Pick(3) ? Index(m_model.ColCount()) : -1;
-        const std::wstring heading = Text();
-        Say("InsertColumn", at);
-        const int count = m_model.ColCount();
-        const int expected = at < 0 ? count : at < m_model.fixedCols || at > count ? -1 : at;
-        Expect(m_grid.InsertColumn(heading.c_str(), GV_HEADING_FORMAT, at) == expected,
-               "InsertColumn answers another index");
-        if (expected < 0)
-            return;
-        m_model.Reset();
-        if (m_model.RowCount() == 0)
-            Resize(true, 1);
-        for (ModelRow& row : m_model.rows)
-            row.cells.insert(row.cells.begin() + expected, m_model.NewCell());
-        m_model.At(0, expected).text = heading;
-        m_model.At(0, expected).modified = true;
-        m_model.widths.insert(m_model.widths.begin() + expected, m_grid.GetColumnWidth(expected));
-        m_model.sortColumn = -1;
+        if (m_model.Count(!row) == 0)
+            Resize(!row, 1);
+        m_model.Insert(row, expected, row ? m_grid.GetRowHeight(expected) : m_grid.GetColumnWidth(expected));
+        Expect(!row || m_model.rows[expected].height > 0, "an inserted row has no height");
+        ModelCell& head = row ? m_model.At(expected, 0) : m_model.At(0, expected);
+        head.text = heading;
+        head.modified = true;
     }
 
     void Delete()
@@ -262,32 +266,19 @@ private:
             if (m_model.RowCount() > m_model.fixedRows)
                 m_model.Resize(m_model.fixedRows, m_model.ColCount(), 0, 0);
         }
-        else if (what < 9)
-            DeleteOne(true, Index(m_model.RowCount()));
         else
-            DeleteOne(false, Index(m_model.ColCount()));
+            DeleteOne(what < 9);
     }
 
-    void DeleteOne(bool isRow, int at)
+    void DeleteOne(bool row)
     {
-        Say(isRow ? "DeleteRow" : "DeleteColumn", at);
-        const bool exists = at >= 0 && at < (isRow ? m_model.RowCount() : m_model.ColCount());
-        Expect((isRow ? m_grid.DeleteRow(at) : m_grid.DeleteColumn(at)) == BOOL(exists),
+        const int at = Index(m_model.Count(row));
+        Say(row ? "DeleteRow" : "DeleteColumn", at);
+        const bool exists = at >= 0 && at < m_model.Count(row);
+        Expect((row ? m_grid.DeleteRow(at) : m_grid.DeleteColumn(at)) == BOOL(exists),
                "deleting answers wrong");
-        if (!exists)
-            return;
-        m_model.Reset();
-        m_model.sortColumn = -1;
-        int& fixed = isRow ? m_model.fixedRows : m_model.fixedCols;
-        fixed -= at < fixed;
-        if (isRow)
-        {
-            m_model.rows.erase(m_model.rows.begin() + at);
-            return;
-        }
-        for (ModelRow& row : m_model.rows)
-            row.cells.erase(row.cells.begin() + at);
-        m_model.widths.erase(m_model.widths.begin() + at);
+        if (exists)
+            m_model.Remove(row, at);
     }
 
     // ---- Kinds
@@ -316,37 +307,26 @@ private:
 
     void ChangeItem()
     {
-        const int r = Index(m_model.RowCount());
-        const int c = Index(m_model.ColCount());
-        const bool exists = m_model.Has(r, c);
+        const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount()), what = Pick(5);
+        const BOOL exists = m_model.Has(r, c);
         ModelCell missing;
         ModelCell& cell = exists ? m_model.At(r, c) : missing;
-        const int what = Pick(5);
-        if (what < 2)
+        Say("change item", r, c, what);
+        if (what < 3)
         {
-            cell.text = Text();
-            Say("SetItemText", r, c);
-            Expect(m_grid.SetItemText(r, c, cell.text.c_str()) == BOOL(exists), "SetItemText answers wrong");
+            cell.text = what < 2 ? Text() : cell.text;
+            cell.data = what < 2 ? cell.data : Pick(100);
+            Expect((what < 2 ? m_grid.SetItemText(r, c, cell.text.c_str())
+                             : m_grid.SetItemData(r, c, cell.data)) == exists,
+                   "changing an item answers wrong");
             Changed(r, c);
-        }
-        else if (what == 2)
-        {
-            cell.data = Pick(100);
-            Say("SetItemData", r, c);
-            Expect(m_grid.SetItemData(r, c, cell.data) == BOOL(exists), "SetItemData answers wrong");
-            Changed(r, c);
-        }
-        else if (what == 3)
-        {
-            Say("SetItemState read-only", r, c);
-            m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ (exists ? CELL_READONLY : 0));
-            cell.readOnly = !cell.readOnly;
         }
         else if (exists)
         {
-            Say("SetItemState selected", r, c);
-            m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ CELL_SELECTED);
-            cell.selected = !cell.selected;
+            m_grid.SetItemState(r, c,
+                                m_grid.GetItemState(r, c) ^ (what == 3 ? CELL_READONLY : CELL_SELECTED));
+            bool& state = what == 3 ? cell.readOnly : cell.selected;
+            state = !state;
         }
     }
 
@@ -362,14 +342,14 @@ private:
     void SetSize()
     {
         const int size = Pick(5) == 0 ? 0 : 10 + Pick(50);
-        const bool isRow = Pick(2) != 0;
-        const int count = isRow ? m_model.RowCount() : m_model.ColCount(), at = Index(count);
-        const bool exists = at >= 0 && at < count;
-        Say(isRow ? "SetRowHeight" : "SetColumnWidth", at, size);
-        Expect((isRow ? m_grid.SetRowHeight(at, size) : m_grid.SetColumnWidth(at, size)) == BOOL(exists),
+        const bool row = Pick(2) != 0;
+        const int at = Index(m_model.Count(row));
+        const bool exists = at >= 0 && at < m_model.Count(row);
+        Say(row ? "SetRowHeight" : "SetColumnWidth", at, size);
+        Expect((row ? m_grid.SetRowHeight(at, size) : m_grid.SetColumnWidth(at, size)) == BOOL(exists),
                "setting the size answers wrong");
         if (exists)
-            (isRow ? m_model.rows[at].height : m_model.widths[at]) = size;
+            m_model.Size(row, at) = size;
     }
 
     // ---- Focus, selection, order
@@ -399,14 +379,10 @@ private:
         Say("SetSelectedRange", r1, c1, r2, c2, select, atOnce);
         m_grid.SetSelectedRange(r1, c1, r2, c2, atOnce, select);
         if (select)
-            m_model.SelectNothing();
-        const int fromRow = std::max(r1, m_model.fixedRows), fromCol = std::max(c1, m_model.fixedCols);
-        const int toRow = std::max(r2, m_model.fixedRows), toCol = std::max(c2, m_model.fixedCols);
-        if (r1 < 0 || c1 < 0 || toRow >= m_model.RowCount() || toCol >= m_model.ColCount())
-            return;
-        for (int r = fromRow; r <= toRow && fromCol <= toCol; ++r)
-            for (int c = fromCol; c <= toCol; ++c)
-                m_model.At(r, c).selected = select;
+            m_model.SelectOnly(CCellRange());
+        const CCellID from = RaisedToBody(r1, c1), to = RaisedToBody(r2, c2);
+        if (r1 >= 0 && c1 >= 0 && m_model.Has(to.row, to.col))
+            m_model.Select(CCellRange(from.row, from.col, to.row, to.col), select);
     }
 
     /// The order of equal rows is not told: the grid's is taken over if it is an order of the same rows.
@@ -451,13 +427,9 @@ private:
 
     // ---- Input
 
-    bool RowShows(int r) const
+    bool Shows(bool row, int i)
     {
-        return r >= m_model.fixedRows && r < m_model.RowCount() && m_model.rows[r].height > 0;
-    }
-    bool ColShows(int c) const
-    {
-        return c >= m_model.fixedCols && c < m_model.ColCount() && m_model.widths[c] > 0;
+        return i >= m_model.Fixed(row) && i < m_model.Count(row) && m_model.Size(row, i) > 0;
     }
 
     void Key()
@@ -468,39 +440,24 @@ private:
         m_grid.SendMessage(WM_KEYDOWN, key, 1);
         if (!m_model.Has(m_model.focus.row, m_model.focus.col))
             return;
+        const bool rows = key == VK_UP || key == VK_DOWN;
+        const int step = key == VK_UP || key == VK_LEFT ? -1 : 1;
         CCellID next = m_model.focus;
-        if (key == VK_UP || key == VK_DOWN)
+        int& moved = rows ? next.row : next.col;
+        int i = moved + step;
+        if (key == VK_TAB && i == m_model.ColCount() && next.row < m_model.RowCount() - 1)
         {
-            const int step = key == VK_UP ? -1 : 1;
-            int r = next.row + step;
-            while (r >= m_model.fixedRows && r < m_model.RowCount() && !RowShows(r))
-                r += step;
-            if (RowShows(r))
-                next.row = r;
+            ++next.row;
+            i = m_model.fixedCols;
         }
-        else
-            next = MoveSideways(key);
+        while (i >= m_model.Fixed(rows) && i < m_model.Count(rows) && !Shows(rows, i))
+            i += step;
+        if (Shows(rows, i))
+            moved = i;
         if (next == m_model.focus)
             return;
         m_model.focus = next;
-        m_model.SelectOnly(next.row, next.col, next.row, next.col);
-    }
-
-    CCellID MoveSideways(UINT key)
-    {
-        CCellID next = m_model.focus;
-        const int step = key == VK_LEFT ? -1 : 1;
-        int c = next.col + step;
-        if (key == VK_TAB && c == m_model.ColCount() && next.row < m_model.RowCount() - 1)
-        {
-            ++next.row;
-            c = m_model.fixedCols;
-        }
-        while (c >= m_model.fixedCols && c < m_model.ColCount() && !ColShows(c))
-            c += step;
-        if (ColShows(c))
-            next.col = c;
-        return next;
+        m_model.SelectOnly(CCellRange(next.row, next.col, next.row, next.col));
     }
 
     void Scroll()
@@ -567,9 +524,10 @@ private:
     {
         if (!m_model.At(r, c).selected)
             m_model.focus = m_model.HasBody() ? RaisedToBody(r, c) : CCellID();
-        const bool row = r >= m_model.fixedRows, col = c >= m_model.fixedCols;
-        m_model.SelectOnly(row ? r : m_model.fixedRows, col ? c : m_model.fixedCols,
-                           row ? r : m_model.RowCount() - 1, col ? c : m_model.ColCount() - 1);
+        const CCellID first = RaisedToBody(r, c);
+        m_model.SelectOnly(CCellRange(first.row, first.col,
+                                      r < m_model.fixedRows ? m_model.RowCount() - 1 : r,
+                                      c < m_model.fixedCols ? m_model.ColCount() - 1 : c));
     }
 
     void EndEdit(int r, int c)
@@ -625,8 +583,8 @@ private:
     void CheckCells()
     {
         int selected = 0;
-        for (int r = 0; r < m_model.RowCount(); ++r)
-            for (int c = 0; c < m_model.ColCount(); ++c)
+        m_grid.GetCellRange().ForEach(
+            [&](int r, int c)
             {
                 CGridCellBase* const cell = m_grid.GetCell(r, c);
                 const ModelCell& expected = m_model.At(r, c);
@@ -636,71 +594,59 @@ private:
                 if ((m_grid.IsCellSelected(r, c) != FALSE) != expected.selected)
                     Problem("selection of ", r, ",", c);
                 selected += expected.selected;
-            }
+            });
         Expect(m_grid.GetSelectedCount() == selected, "the selection's books are out of step with the cells");
     }
 
     DWORD StateOf(int r, int c)
     {
         const ModelCell& cell = m_model.At(r, c);
-        DWORD state = 0;
-        if (r < m_model.fixedRows)
-            state |= CELL_FIXED | CELL_FIXEDROW;
-        if (c < m_model.fixedCols)
-            state |= CELL_FIXED | CELL_FIXEDCOL;
-        if (cell.modified)
-            state |= CELL_MODIFIED;
-        if (cell.readOnly)
-            state |= CELL_READONLY;
-        if (cell.selected)
-            state |= CELL_SELECTED;
-        if (m_model.focus == CCellID(r, c))
-            state |= CELL_FOCUSED;
-        return state;
+        const auto bits = [](bool has, DWORD value) { return has ? value : 0; };
+        return bits(r < m_model.fixedRows, CELL_FIXED | CELL_FIXEDROW) |
+               bits(c < m_model.fixedCols, CELL_FIXED | CELL_FIXEDCOL) | bits(cell.modified, CELL_MODIFIED) |
+               bits(cell.readOnly, CELL_READONLY) | bits(cell.selected, CELL_SELECTED) |
+               bits(m_model.focus == CCellID(r, c), CELL_FOCUSED);
     }
 
     void CheckSizes()
     {
-        const auto sums = [&](const auto& sizes, int count, int fixed, const auto& sizeInGrid)
+        for (const bool rows : {true, false})
         {
             int sum = 0, ofFixed = 0;
-            for (int i = 0; i < count; ++i)
+            for (int i = 0; i < m_model.Count(rows); ++i)
             {
-                Expect(sizeInGrid(i) == sizes(i), "row height or column width");
-                sum += sizes(i);
-                ofFixed += i < fixed ? sizes(i) : 0;
+                const int size = m_model.Size(rows, i);
+                Expect((rows ? m_grid.GetRowHeight(i) : m_grid.GetColumnWidth(i)) == size,
+                       "row height or column width");
+                sum += size;
+                ofFixed += i < m_model.Fixed(rows) ? size : 0;
             }
-            return CPoint(sum, ofFixed);
-        };
-        Expect(CPoint(m_grid.GetVirtualHeight(), m_grid.GetFixedRowHeight()) ==
-                   sums([&](int r) { return m_model.rows[r].height; }, m_model.RowCount(), m_model.fixedRows,
-                        [&](int r) { return m_grid.GetRowHeight(r); }),
-               "sum of heights");
-        Expect(CPoint(m_grid.GetVirtualWidth(), m_grid.GetFixedColumnWidth()) ==
-                   sums([&](int c) { return m_model.widths[c]; }, m_model.ColCount(), m_model.fixedCols,
-                        [&](int c) { return m_grid.GetColumnWidth(c); }),
-               "sum of widths");
+            Expect((rows ? m_grid.GetVirtualHeight() : m_grid.GetVirtualWidth()) == sum, "sum of sizes");
+            Expect((rows ? m_grid.GetFixedRowHeight() : m_grid.GetFixedColumnWidth()) == ofFixed,
+                   "sum of fixed sizes");
+        }
     }
 
     /// The top-left cell against a walk over the sizes, and one cell's origin against its neighbours' sizes.
     void CheckPlaces()
     {
-        const CCellID topLeft = m_inside->TopLeft(FALSE);
-        int row = m_model.fixedRows, y = 0;
-        for (const int pos = m_grid.GetScrollPos(SB_VERT); y < pos && row < m_model.RowCount() - 1; ++row)
-            y += m_model.rows[row].height;
-        int col = m_model.fixedCols, x = 0;
-        for (const int pos = m_grid.GetScrollPos(SB_HORZ); x < pos && col < m_model.ColCount() - 1; ++col)
-            x += m_model.widths[col];
-        Expect(topLeft == CCellID(row, col), "top-left cell");
-
+        const auto firstOf = [&](bool rows)
+        {
+            int i = m_model.Fixed(rows), sum = 0;
+            for (const int pos = m_grid.GetScrollPos(rows ? SB_VERT : SB_HORZ);
+                 sum < pos && i < m_model.Count(rows) - 1; ++i)
+                sum += m_model.Size(rows, i);
+            return i;
+        };
+        const CCellID topLeft(firstOf(true), firstOf(false));
+        Expect(m_inside->TopLeft(FALSE) == topLeft, "top-left cell");
         CPoint origin;
-        if (!m_model.Has(row, col) || !m_grid.GetCellOrigin(row, col, &origin))
+        if (!m_model.Has(topLeft.row, topLeft.col) || !m_grid.GetCellOrigin(topLeft, &origin))
             return;
         Expect(origin == CPoint(m_grid.GetFixedColumnWidth(), m_grid.GetFixedRowHeight()),
                "origin of the body");
-        if (m_model.rows[row].height > 0 && m_model.widths[col] > 0)
-            Expect(m_grid.GetCellFromPt(origin, FALSE) == CCellID(row, col), "cell at the body's origin");
+        if (Shows(true, topLeft.row) && Shows(false, topLeft.col))
+            Expect(m_grid.GetCellFromPt(origin, FALSE) == topLeft, "cell at the body's origin");
     }
 
     bool m_withInput;

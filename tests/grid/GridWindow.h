@@ -4,6 +4,7 @@
 #include <DialogControlsOW.h>
 
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,7 +17,6 @@ public:
 
     using CGridCtrl::ClearCells;
     using CGridCtrl::CreateCell;
-    using CGridCtrl::DestroyCell;
     using CGridCtrl::EndEditing;
     using CGridCtrl::GetCellRangeRect;
     using CGridCtrl::GetMouseMode;
@@ -33,16 +33,9 @@ public:
     using CGridCtrl::m_nVScrollMax;
     using CGridCtrl::m_nWheelLines;
     using CGridCtrl::m_selectionStart;
-    using CGridCtrl::MouseOverColumnResizeArea;
-    using CGridCtrl::MouseOverRowResizeArea;
     using CGridCtrl::OnDraw;
     using CGridCtrl::OnEditCell;
-    using CGridCtrl::ResetScrollBars;
-    using CGridCtrl::SelectCells;
-    using CGridCtrl::SelectColumns;
-    using CGridCtrl::SelectRows;
     using CGridCtrl::SetScrollPos32;
-    using CGridCtrl::ValidateAndModifyCellContents;
 
     std::vector<std::string> scrolls; ///< the scroll messages, as "v1" for one line down
 
@@ -83,7 +76,8 @@ public:
         {
             if (header.code != code)
                 return 0;
-            work();
+            if (work)
+                work();
             return result;
         };
     }
@@ -112,25 +106,13 @@ protected:
 private:
     static const char* NameOf(UINT code)
     {
-        switch (code)
-        {
-        case NM_CLICK:
-            return "click";
-        case NM_DBLCLK:
-            return "dblclk";
-        case NM_RCLICK:
-            return "rclick";
-        case LVN_ITEMCHANGING:
-            return "changing";
-        case LVN_ITEMCHANGED:
-            return "changed";
-        case LVN_BEGINLABELEDITW:
-            return "begin";
-        case LVN_ENDLABELEDITW:
-            return "end";
-        default:
-            return nullptr;
-        }
+        static const std::map<UINT, const char*> names = {
+            {NM_CLICK, "click"},          {NM_DBLCLK, "dblclk"},
+            {NM_RCLICK, "rclick"},        {LVN_ITEMCHANGING, "changing"},
+            {LVN_ITEMCHANGED, "changed"}, {LVN_BEGINLABELEDITW, "begin"},
+            {LVN_ENDLABELEDITW, "end"}};
+        const auto found = names.find(code);
+        return found == names.end() ? nullptr : found->second;
     }
 };
 

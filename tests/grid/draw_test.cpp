@@ -4,6 +4,10 @@
 
 #include "Picture.h"
 
+#include "grid/GridPainter.h"
+
+#include <random>
+
 class GridDrawing : public GridTest
 {
 protected:
@@ -30,10 +34,11 @@ protected:
     struct Picture : public owtest::Surface
     {
         Picture() : Surface(300, 200) {}
+        explicit Picture(CGridCtrl& grid) : Picture() { Draw(grid); }
+        void Draw(CGridCtrl& grid) { static_cast<OpenGrid&>(grid).OnDraw(&dc()); }
         using Surface::count;
         int count(COLORREF color) const { return count(CRect(0, 0, 300, 200), color); }
     };
-    void Draw(Picture& to) { grid.OnDraw(&to.dc()); }
 };
 
 TEST_F(GridDrawing, RegionsHaveTheirColours)
@@ -42,91 +47,129 @@ TEST_F(GridDrawing, RegionsHaveTheirColours)
     const std::pair<CPoint, COLORREF> places[] = {{{30, 10}, kColHead}, {{90, 10}, kRowHead},
                                                   {{30, 50}, kColHead}, {{90, 50}, kBack},
                                                   {{270, 50}, kBehind}, {{90, 180}, kBehind}};
-    Picture picture, off, empty;
-    Draw(picture);
+    const Picture picture(grid);
     for (const auto& [at, color] : places)
         EXPECT_EQ(picture.at(at.x, at.y), color) << at.x << ',' << at.y;
     grid.SetRedraw(FALSE);
-    Draw(off);
-    EXPECT_EQ(off.count(RGB(255, 0, 255)), 300 * 200) << "nothing is painted while drawing is off";
+    EXPECT_EQ(Picture(grid).count(RGB(255, 0, 255)), 300 * 200) << "nothing is painted while drawing is off";
     grid.UpdateWindow();
     grid.SetRedraw(TRUE);
     EXPECT_TRUE(::GetUpdateRect(grid, nullptr, FALSE));
     grid.DeleteAllItems();
-    Draw(empty);
-    EXPECT_EQ(empty.count(kBehind), 300 * 200);
+    EXPECT_EQ(Picture(grid).count(kBehind), 300 * 200);
+}
+
+// Partly repainted, a window shows what it would show painted whole, and no cell is asked for in vain.
+TEST_F(GridDrawing, APartIsPaintedAsTheWholeIs)
+{
+    FillWithPlaces(grid);
+    CGridAxis rows, cols;
+    rows.SetCount(6, kRowHeight);
+    cols.SetCount(4, kColWidth);
+    rows.SetFixed(1);
+    cols.SetFixed(1);
+    const Picture whole(grid);
+    std::mt19937 random(2);
+    for (int round = 0; round < 300; ++round)
+    {
+        const CPoint at(random() % 280, random() % 180);
+        const CRect clip(at, CSize(1 + random() % 60, 1 + random() % 40));
+        Picture part, expected;
+        expected.Draw(grid);
+        for (const CRect& outside : {CRect(0, 0, 300, clip.top), CRect(0, clip.bottom, 300, 200),
+                                     CRect(0, 0, clip.left, 200), CRect(clip.right, 0, 300, 200)})
+            expected.dc().FillSolidRect(outside, RGB(255, 0, 255));
+        part.dc().IntersectClipRect(clip);
+        part.Draw(grid);
+        ASSERT_TRUE(part == expected)
+            << clip.left << ',' << clip.top << ' ' << clip.right << ',' << clip.bottom;
+        const CGridPainter painter(part.dc(), CGridView(rows, cols, CCellID(1, 1), CSize(300, 200)));
+        std::vector<CCellID> asked, touched;
+        painter.DrawCells([&](int nRow, int nCol, const CRect&) { asked.push_back(CCellID(nRow, nCol)); });
+        for (int nRow = 0; nRow < 6; ++nRow)
+            for (int nCol = 0; nCol < 4; ++nCol)
+            {
+                CRect rect(CPoint(nCol * kColWidth, nRow * kRowHeight), CSize(kColWidth, kRowHeight));
+                const bool touches = rect.left <= clip.right && rect.right > clip.left &&
+                                     rect.top <= clip.bottom && rect.bottom > clip.top;
+                if (touches || nRow + nCol == 0) // the corner is drawn without asking
+                    touched.push_back(CCellID(nRow, nCol));
+            }
+        ASSERT_TRUE(std::is_permutation(asked.begin(), asked.end(), touched.begin(), touched.end()));
+    }
 }
 
 TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
 {
-    Picture both, none, across;
-    Draw(both);
+    const Picture both(grid);
     EXPECT_EQ(both.at(90, 39), kLine);
     EXPECT_EQ(both.at(119, 30), kLine);
-    EXPECT_NE(both.at(119, 10), kLine) << "headers draw their own edges";
-    EXPECT_NE(both.at(30, 39), kLine);
+    EXPECT_EQ(both.extent(kLine), CRect(60, 20, 240, 120)) << "headers draw their own edges";
+    EXPECT_EQ(both.count(kLine), 5 * 180 + 3 * 100 - 5 * 3);
     grid.SetGridLines(GVL_HORZ);
-    Draw(across);
-    EXPECT_EQ(across.at(90, 39), kLine);
-    EXPECT_EQ(across.at(119, 30), kBack);
+    EXPECT_EQ(Picture(grid).count(kLine), 5 * 180);
     grid.SetGridLines(GVL_NONE);
-    Draw(none);
+    Picture none(grid);
     grid.RedrawCell(2, 2, &none.dc());
     EXPECT_EQ(none.count(kLine), 0);
-}
-
-TEST_F(GridDrawing, ARedrawnCellBringsItsTwoLinesAndAFixedOneNone)
-{
-    Picture surface;
-    grid.RedrawCell(2, 2, &surface.dc());
-    EXPECT_EQ(surface.at(130, 59), kLine);
-    EXPECT_EQ(surface.at(179, 50), kLine);
-    EXPECT_EQ(surface.at(150, 50), kBack);
-    EXPECT_EQ(surface.at(119, 50), RGB(255, 0, 255)) << "the neighbour's line is not touched";
-    grid.RedrawCell(2, 0, &surface.dc());
-    EXPECT_EQ(surface.count(CRect(0, 40, 60, 60), kLine), 0);
+    // A redrawn cell brings its two lines, and a fixed one none.
+    for (const auto& [lines, count] : {std::pair(GVL_BOTH, 60 + 20 - 1), std::pair(GVL_HORZ, 60)})
+    {
+        Picture one;
+        grid.SetGridLines(lines);
+        EXPECT_TRUE(grid.RedrawCell(2, 2, &one.dc()));
+        EXPECT_EQ(one.extent(kBack), CRect(120, 40, lines == GVL_BOTH ? 179 : 180, 59));
+        EXPECT_EQ(one.extent(kLine), CRect(120, lines == GVL_BOTH ? 40 : 59, 180, 60));
+        EXPECT_EQ(one.count(kLine), count);
+        EXPECT_TRUE(grid.RedrawCell(2, 0, &one.dc()));
+        EXPECT_EQ(one.count(CRect(0, 40, 60, 60), kLine), 0);
+    }
 }
 
 TEST_F(GridDrawing, TheFocusHasAFrameAndPressesItsHeadersIn)
 {
     const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), dark = ::GetSysColor(COLOR_3DDKSHADOW);
-    Picture before, after, untracked;
-    Draw(before);
+    constexpr COLORREF kText = RGB(1, 2, 3);
+    const Picture before(grid);
     EXPECT_EQ(before.at(0, 45), light) << "raised";
     EXPECT_EQ(before.at(59, 45), dark);
-    grid.SetTextColor(RGB(1, 2, 3));
+    EXPECT_EQ(before.at(30, 40), light);
+    EXPECT_EQ(before.at(30, 59), dark);
+    grid.SetTextColor(kText);
     grid.SetFocusCell(2, 1);
-    Draw(after);
-    EXPECT_EQ(after.at(60, 45), RGB(1, 2, 3));
-    EXPECT_EQ(after.at(90, 40), RGB(1, 2, 3));
+    const Picture after(grid);
+    EXPECT_EQ(after.extent(kText), CRect(60, 40, 119, 59)) << "inside the lines";
+    EXPECT_EQ(after.at(61, 41), kBack);
     EXPECT_NE(after.at(0, 45), light) << "pressed in";
+    EXPECT_NE(after.at(90, 0), light);
     EXPECT_EQ(after.at(0, 65), light);
+    grid.SetGridLines(GVL_NONE);
+    EXPECT_EQ(Picture(grid).extent(kText), CRect(60, 40, 120, 60)) << "in place of the lines";
+    grid.SetGridLines(GVL_BOTH);
     grid.SetTrackFocusCell(FALSE);
     grid.SetFrameFocusCell(FALSE);
-    Draw(untracked);
+    const Picture untracked(grid);
     EXPECT_EQ(untracked.at(60, 45), kBack);
     EXPECT_EQ(untracked.at(0, 45), light);
 }
 
 TEST_F(GridDrawing, SelectedCellsHaveTheSystemsColours)
 {
+    const COLORREF selected = ::GetSysColor(COLOR_HIGHLIGHT), text = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
     grid.SetSelectedRange(2, 1, 3, 2);
-    Picture surface;
-    Draw(surface);
-    EXPECT_EQ(surface.at(90, 50), ::GetSysColor(COLOR_HIGHLIGHT));
-    EXPECT_EQ(surface.at(90, 90), kBack);
+    const Picture without(grid);
+    EXPECT_EQ(without.extent(selected), CRect(60, 40, 179, 79)) << "the lines are over it";
+    EXPECT_EQ(without.at(90, 90), kBack);
     grid.SetFocusCell(2, 1);
-    Draw(surface);
-    EXPECT_EQ(surface.at(60, 45), ::GetSysColor(COLOR_HIGHLIGHTTEXT))
-        << "the frame follows the text's colour";
+    const Picture with(grid);
+    EXPECT_EQ(with.at(90, 50), selected);
+    EXPECT_EQ(with.at(60, 45), text) << "the frame follows the text's colour";
 }
 
 TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
 {
     grid.SetItemBkColour(2, 2, RGB(5, 200, 5));
-    Picture surface;
-    Draw(surface);
-    EXPECT_EQ(surface.at(150, 50), RGB(5, 200, 5));
+    EXPECT_EQ(Picture(grid).at(150, 50), RGB(5, 200, 5));
     CGridCellBase& plain = *grid.GetCell(3, 2);
     owtest::Surface bare(100, 40);
     EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), FALSE));
@@ -138,12 +181,11 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
 TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
 {
     const CRect header(60, 0, 120, 20), below(60, 20, 120, 40);
-    Picture plain, up, down;
-    Draw(plain);
+    const Picture plain(grid);
     grid.SetSortColumn(1);
-    Draw(up);
+    const Picture up(grid);
     grid.SetSortAscending(FALSE);
-    Draw(down);
+    const Picture down(grid);
     EXPECT_LT(up.count(header, kRowHead), plain.count(header, kRowHead));
     EXPECT_EQ(up.count(below, kBack), plain.count(below, kBack));
     const COLORREF shadow = ::GetSysColor(COLOR_3DSHADOW);
@@ -157,10 +199,9 @@ TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
     grid.SetItemFormat(0, 1, DT_RIGHT | DT_SINGLELINE | DT_VCENTER);
     grid.SetItemFgColour(0, 1, kText);
     grid.SetSortColumn(1); // the text has taken it away
-    Picture with, without;
-    Draw(with);
+    Picture with(grid);
     grid.SetSortColumn(-1);
-    Draw(without);
+    const Picture without(grid);
     TEXTMETRIC metrics;
     with.dc().SelectObject(grid.GetFont());
     with.dc().GetTextMetrics(&metrics);
@@ -250,15 +291,15 @@ TEST_F(GridDrawing, ACellLeavesTheContextAsItFoundIt)
 
 TEST_F(GridDrawing, TheBufferShowsTheSamePicture)
 {
-    Picture direct, buffered;
-    Draw(direct);
+    Picture buffered;
     {
         CMemDC buffer(&buffered.dc());
         grid.OnDraw(&buffer);
     }
-    EXPECT_TRUE(direct == buffered);
+    EXPECT_TRUE(Picture(grid) == buffered);
     grid.SetDoubleBuffering(TRUE);
     grid.RedrawWindow();
+    EXPECT_EQ(CClientDC(&grid).GetPixel(90, 50), kBack);
 }
 
 TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)

@@ -11,27 +11,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 #include <memory>
-#include <sstream>
 
 namespace
 {
 using Calls = std::vector<std::string>;
-
-template <class... Parts>
-std::string Join(const Parts&... parts)
-{
-    std::ostringstream text;
-    ((text << parts), ...);
-    return text.str();
-}
-
-std::string Place(const CCellID& cell)
-{
-    return Join(cell.row, ',', cell.col);
-}
 
 constexpr COLORREF kWhite = RGB(255, 255, 255), kBlue = RGB(0xE0, 0xE0, 0xFF);
 constexpr COLORREF kBand = RGB(255, 240, 200), kBandCrossed = RGB(0xE0, 0xD1, 200);
@@ -52,27 +37,28 @@ public:
 
     void OnExtGridRowChanged(int nId, int nRow, int nPrevRow) override
     {
-        m_calls.push_back(Join(nId, " row ", nRow, " after ", nPrevRow));
+        Note("%d row %d after %d", nId, nRow, nPrevRow);
         onChange();
     }
     bool OnExtGridEndEdit(int nId, int nRow, int nCol, const CString* pText) override
     {
-        return EndEdit(nId, CCellID(nRow, nCol), pText);
+        Note("%d text %d,%d %ls", nId, nRow, nCol, pText->GetString());
+        return accepts(*pText);
     }
-    void OnExtGridRClick(int nId, int nRow) override { m_calls.push_back(Join(nId, " rclick ", nRow)); }
+    void OnExtGridRClick(int nId, int nRow) override { Note("%d rclick %d", nId, nRow); }
 
     void OnExtGrid2CellChanged(int nId, CCellID cell, CCellID prevCell) override
     {
-        m_calls.push_back(Join(nId, " cell ", Place(cell), " after ", Place(prevCell)));
+        Note("%d cell %d,%d after %d,%d", nId, cell.row, cell.col, prevCell.row, prevCell.col);
         onChange();
     }
     bool OnExtGrid2EndEdit(int nId, CCellID cell, const CString* pText) override
     {
-        return EndEdit(nId, cell, pText);
+        return OnExtGridEndEdit(nId, cell.row, cell.col, pText);
     }
     void OnExtGrid2RClick(int nId, CCellID cell) override
     {
-        m_calls.push_back(Join(nId, " rclick ", Place(cell)));
+        Note("%d rclick %d,%d", nId, cell.row, cell.col);
     }
 
     std::string asked; ///< about the extra header: 'n', 'h', 'b'
@@ -81,109 +67,103 @@ public:
     int GetBodyColor() override { return asked += 'b', kBody; }
 
 private:
-    bool EndEdit(int nId, const CCellID& cell, const CString* pText)
+    template <class... Parts>
+    void Note(const char* format, Parts... parts)
     {
-        m_calls.push_back(Join(nId, " text ", Place(cell), ' ', CStringA(*pText).GetString()));
-        return accepts(*pText);
+        CStringA text;
+        text.Format(format, parts...);
+        m_calls.push_back(text.GetString());
     }
 
     Calls m_calls;
 };
 
-/// Five rows and four columns, the first of each fixed. Row 1 and column 1 are the first of the body.
-bool Open(CGridCtrl& grid)
-{
-    grid.SetRowCount(5);
-    grid.SetColumnCount(4);
-    grid.SetFixedRowCount(1);
-    grid.SetFixedColumnCount(1);
-    if (!PlaceGrid(grid, SharedParent()))
-        return false;
-    SetSizes(grid);
-    FillWithPlaces(grid);
-    grid.UpdateWindow();
-    return owtest::Activate(SharedParent());
-}
-
-/// The background of each cell, row by row: '.' inherited, 'w' white, '#' the plain colour of what is current,
-/// 'B' band, 'G' body, 'b' and 'g' the same under the cross.
-std::string Colours(const CGridCtrl& grid)
-{
-    const std::map<COLORREF, char> letters = {{CLR_INHERIT, '.'}, {kWhite, 'w'},       {kBlue, '#'},
-                                              {kBand, 'B'},       {kBandCrossed, 'b'}, {kBody, 'G'},
-                                              {kBodyCrossed, 'g'}};
-    std::string text;
-    for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
-    {
-        text += nRow ? " " : "";
-        for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
-            text += letters.at(grid.GetItemBkColour(nRow, nCol));
-    }
-    return text;
-}
-
-void ClickCell(CGridCtrl& grid, int nRow, int nCol)
-{
-    owtest::Click(grid, MiddleOf(grid, nRow, nCol));
-    owtest::Pump();
-}
-
-void RightClick(CGridCtrl& grid, CPoint point)
-{
-    grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
-    grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-}
-
-/// Types a text into the focus cell and ends the edit.
-void Enter(CGridCtrl& grid, const wchar_t* text)
-{
-    owtest::Type(text);
-    owtest::Press(VK_RETURN);
-    owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
-}
-
-/// Sends the parent a notification as the grid would.
-LRESULT Notify(const CGridCtrl& grid, UINT nCode, int nRow, int nCol)
-{
-    GridNotify record{{grid.m_hWnd, kGridId, nCode}, nRow, nCol};
-    return grid.GetParent()->SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
-}
-
 struct RowGrid : public CExtGridCtrl
 {
-    using CExtGridCtrl::CExtGridCtrl;
+    explicit RowGrid(Handler& handler) : CExtGridCtrl(&handler) {}
     using CExtGridCtrl::IsVisibleVScroll;
     using CExtGridCtrl::m_crSelectedRow;
 };
 struct CrossGrid : public CExtGridCtrl2
 {
-    using CExtGridCtrl2::CExtGridCtrl2;
+    explicit CrossGrid(Handler& handler, bool hasBand = true)
+        : CExtGridCtrl2(&handler, hasBand ? &handler : nullptr)
+    {
+    }
     using CExtGridCtrl2::m_crSelected;
 };
-
-struct ExtGrid : testing::Test
+struct PlainCrossGrid : public CrossGrid
 {
-    void SetUp() override { ASSERT_TRUE(Open(grid)); }
+    explicit PlainCrossGrid(Handler& handler) : CrossGrid(handler, false) {}
+};
 
-    /// How many notifications the parent has received that begin so.
-    auto Received(const char* begin) const
+/// Five rows and four columns, the first of each fixed. Row 1 and column 1 are the first of the body.
+template <class Grid>
+class ExtTest : public testing::Test
+{
+protected:
+    void SetUp() override
     {
-        return std::count_if(parent.calls.begin(), parent.calls.end(),
-                             [&](const std::string& call) { return call.starts_with(begin); });
+        grid.SetRowCount(5);
+        grid.SetColumnCount(4);
+        grid.SetFixedRowCount(1);
+        grid.SetFixedColumnCount(1);
+        ASSERT_TRUE(PlaceGrid(grid, parent));
+        SetSizes(grid);
+        FillWithPlaces(grid);
+        grid.UpdateWindow();
+        ASSERT_TRUE(owtest::Activate(parent));
+    }
+    void ClickCell(int nRow, int nCol)
+    {
+        owtest::Click(grid, MiddleOf(grid, nRow, nCol));
+        owtest::Pump();
+    }
+    void RightClick(CPoint point)
+    {
+        grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
+        grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    }
+    /// Types a text into the focus cell and ends the edit; what the handler was told.
+    Calls Enter(const wchar_t* text)
+    {
+        handler.Take();
+        grid.SetFocus();
+        owtest::Type(text);
+        owtest::Press(VK_RETURN);
+        owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
+        return handler.Take();
+    }
+    /// Sends the parent a notification as the grid would.
+    LRESULT Notify(UINT nCode, int nRow, int nCol)
+    {
+        GridNotify record{{grid.m_hWnd, kGridId, nCode}, nRow, nCol};
+        return parent.SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
+    }
+    /// The background of each cell, row by row: '.' inherited, 'w' white, '#' the plain colour of what is
+    /// current, 'B' band, 'G' body, 'b' and 'g' the same under the cross.
+    std::string Colours() const
+    {
+        const std::map<COLORREF, char> letters = {{CLR_INHERIT, '.'}, {kWhite, 'w'},       {kBlue, '#'},
+                                                  {kBand, 'B'},       {kBandCrossed, 'b'}, {kBody, 'G'},
+                                                  {kBodyCrossed, 'g'}};
+        std::string text;
+        for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
+        {
+            text += nRow ? " " : "";
+            for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+                text += letters.at(grid.GetItemBkColour(nRow, nCol));
+        }
+        return text;
     }
 
     GridParent& parent = SharedParent();
     Handler handler;
-    RowGrid grid{&handler};
+    Grid grid{handler};
 };
-
-struct ExtGrid2 : testing::Test
-{
-    void SetUp() override { ASSERT_TRUE(Open(grid)); }
-
-    Handler handler;
-    CrossGrid grid{&handler, &handler};
-};
+using ExtGrid = ExtTest<RowGrid>;
+using ExtGrid2 = ExtTest<CrossGrid>;
+using ExtGrid2Alone = ExtTest<PlainCrossGrid>;
 } // namespace
 
 // ---- The current row --------------------------------------------------------------------------------------
@@ -191,47 +171,40 @@ struct ExtGrid2 : testing::Test
 TEST_F(ExtGrid, AUserMovesTheCurrentRow)
 {
     grid.SetItemBkColour(2, 1, kOwn);
-    ClickCell(grid, 2, 2);
+    ClickCell(2, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 row 2 after -1"});
-    EXPECT_EQ(Colours(grid), ".... .... .### .... ....");
+    EXPECT_EQ(Colours(), ".... .... .### .... ....");
 
-    ClickCell(grid, 2, 3);
+    ClickCell(2, 3);
     EXPECT_EQ(handler.Take(), Calls{}) << "another cell of the same row";
     owtest::Press(VK_DOWN);
     EXPECT_EQ(handler.Take(), Calls{"77 row 3 after 2"});
-    EXPECT_EQ(Colours(grid), ".... .... .www .### ....") << "white, whatever the row's colours were";
-    ClickCell(grid, 0, 2);
+    EXPECT_EQ(Colours(), ".... .... .www .### ....") << "white, whatever the row's colours were";
+    ClickCell(0, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 3"}) << "a heading stands for the first row";
-    EXPECT_EQ(Colours(grid), ".... .### .www .www ....");
+    EXPECT_EQ(Colours(), ".... .### .www .www ....");
 
-    EXPECT_EQ(Received("changed"), 0);
-    EXPECT_EQ(Received("click 2,2"), 1) << "what the handler is not told reaches the parent";
+    EXPECT_EQ(parent.Take(),
+              (Calls{"changing 2,2", "click 2,2", "changing 2,3", "click 2,3", "changing 0,2", "click 0,2"}))
+        << "what the handler is not told reaches the parent";
 }
 
 TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
 {
     grid.SetFocusCell(2, 2);
-    grid.SetFocus();
-    handler.Take();
-    Enter(grid, L"IPE 200");
-    EXPECT_EQ(handler.Take(), Calls{"77 text 2,2 IPE 200"});
+    EXPECT_EQ(Enter(L"IPE 200"), Calls{"77 text 2,2 IPE 200"});
     EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200");
-
     handler.accepts = [&](const CString& text) { return grid.GetItemText(2, 2) != text; };
-    Enter(grid, L"x");
-    EXPECT_EQ(handler.Take(), Calls{"77 text 2,2 x"});
+    EXPECT_EQ(Enter(L"x"), Calls{"77 text 2,2 x"});
     EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200")
         << "refused; the cell held it already when the handler was asked";
-
     handler.accepts = [&](const CString&)
     {
         grid.SetFocusCell(4, 1); // moves on from within the call
         return true;
     };
-    Enter(grid, L"y");
-    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,2 y", "77 row 4 after 2"}));
-    EXPECT_EQ(Received("end"), 0);
-    EXPECT_EQ(Received("begin"), 3);
+    EXPECT_EQ(Enter(L"y"), (Calls{"77 text 2,2 y", "77 row 4 after 2"}));
+    EXPECT_EQ(parent.Take(), Calls(3, "begin 2,2")) << "of the end only the handler hears";
 }
 
 TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
@@ -244,10 +217,10 @@ TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
 
     // A fixed row is remembered as it is, and loses its colour as if it had been painted.
     grid.SelectRowEx(0, 1);
-    EXPECT_EQ(Colours(grid), ".... .### .... .www ....");
+    EXPECT_EQ(Colours(), ".... .### .... .www ....");
     grid.SelectRowEx(1, 1);
     EXPECT_EQ(handler.Take(), (Calls{"77 row 1 after 3", "77 row 1 after 0"}));
-    EXPECT_EQ(Colours(grid), ".www .### .... .www ....");
+    EXPECT_EQ(Colours(), ".www .### .... .www ....");
 }
 
 TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
@@ -279,12 +252,12 @@ TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
     handler.onChange = [&] { grid.SetRowCount(2); };
     grid.SetFocusCell(4, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 row 4 after -1"});
-    EXPECT_EQ(Colours(grid), ".... ....");
+    EXPECT_EQ(Colours(), ".... ....");
 
     handler.onChange = [&] { grid.DestroyWindow(); };
     grid.SetFocusCell(1, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 4"});
-    EXPECT_EQ(Colours(grid), ".... .###");
+    EXPECT_EQ(Colours(), ".... .###");
     grid.SetRowCount(3);
     grid.SelectRowEx(2, 1);
     EXPECT_EQ(handler.Take(), Calls{"0 row 2 after 1"}) << "without a window there is no id";
@@ -297,19 +270,19 @@ TEST_F(ExtGrid, TheHookAnswersForTheParent)
 {
     parent.answer = [](NMHDR&) { return 77; };
     handler.accepts = [](const CString& text) { return text == L"2/1"; };
-    EXPECT_EQ(Notify(grid, LVN_ENDLABELEDITW, 2, 1), 0);
-    EXPECT_EQ(Notify(grid, LVN_ENDLABELEDITW, 2, 2), -1);
+    EXPECT_EQ(Notify(LVN_ENDLABELEDITW, 2, 1), 0);
+    EXPECT_EQ(Notify(LVN_ENDLABELEDITW, 2, 2), -1);
     for (const UINT nCode : {LVN_ITEMCHANGED, NM_RCLICK})
         for (const int nRow : {3, 0, 5})
-            EXPECT_EQ(Notify(grid, nCode, nRow, 1), 1);
-    RightClick(grid, CPoint(290, 190)); // outside all cells
-    EXPECT_EQ(Notify(grid, NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
+            EXPECT_EQ(Notify(nCode, nRow, 1), 1);
+    RightClick(CPoint(290, 190)); // outside all cells
+    EXPECT_EQ(Notify(NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
     EXPECT_EQ(handler.Take(), (Calls{"77 text 2,1 2/1", "77 text 2,2 2/2", "77 row 3 after -1",
                                      "77 row 1 after 3", "77 rclick 3", "77 rclick 1", "77 rclick 1"}));
-    const std::string before = Colours(grid);
+    const std::string before = Colours();
     grid.m_crSelectedRow = CLR_NONE;
     grid.SelectRowEx(4, 1);
-    EXPECT_EQ(Colours(grid), before) << "told, and not painted";
+    EXPECT_EQ(Colours(), before) << "told, and not painted";
 }
 
 // ---- The hook ---------------------------------------------------------------------------------------------
@@ -323,19 +296,17 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
         std::unique_ptr<CGridCtrl> grids[] = {std::make_unique<CExtGridCtrl>(&handlers[0]),
                                               std::make_unique<CExtGridCtrl2>(&handlers[1], nullptr),
                                               std::make_unique<CGridCtrl>()};
-        for (UINT id = 0; id < std::size(grids); ++id)
-        {
-            grids[id]->SetRowCount(3);
-            grids[id]->SetColumnCount(2);
-            ASSERT_TRUE(grids[id]->Create(CRect(0, 0, 100, 100), &parent, id));
-        }
-        parent.Take();
+        UINT id = 0;
         for (const auto& pGrid : grids)
+        {
+            pGrid->SetRowCount(3);
+            pGrid->SetColumnCount(2);
+            ASSERT_TRUE(pGrid->Create(CRect(0, 0, 100, 100), &parent, id++));
             pGrid->SetFocusCell(2, 1);
+        }
         EXPECT_EQ(handlers[0].Take(), Calls{"0 row 2 after -1"});
         EXPECT_EQ(handlers[1].Take(), Calls{"1 cell 2,1 after -1,-1"});
         EXPECT_EQ(parent.Take(), Calls{"changed 2,1"}) << "of the plain grid";
-
         const int stays = 1 - goesFirst;
         grids[goesFirst].reset();
         grids[stays]->SetFocusCell(0, 0);
@@ -399,41 +370,37 @@ TEST(ExtGridHook, AGridOnADialogTemplateAsksForIt)
 TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
 {
     handler.bandRows = 2;
-    ClickCell(grid, 2, 2);
+    ClickCell(2, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 2,2 after -1,-1"});
-    EXPECT_EQ(Colours(grid), ".... ..b. .bbb ..g. ..g.");
+    EXPECT_EQ(Colours(), ".... ..b. .bbb ..g. ..g.");
     owtest::Press(VK_DOWN);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,2 after 2,2"});
-    EXPECT_EQ(Colours(grid), ".... ..b. .BbB .ggg ..g.");
+    EXPECT_EQ(Colours(), ".... ..b. .BbB .ggg ..g.");
     owtest::Press(VK_LEFT);
-    EXPECT_EQ(Colours(grid), ".... .bB. .bBB .ggg .gG.")
-        << "both old directions rest, both new ones are crossed";
-    ClickCell(grid, 3, 1);
+    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG.") << "both old directions rest, both new ones are crossed";
+    ClickCell(3, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,1 after 3,2"}) << "a click on the current cell is no change";
     EXPECT_EQ(handler.asked, "nhbnhbnhb") << "once for each change, the count first";
     grid.m_crSelected = CLR_NONE;
     grid.SelectCellEx(1, 3);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 1,3 after 3,1"});
-    EXPECT_EQ(Colours(grid), ".... .bB. .bBB .ggg .gG.") << "told, and not painted";
+    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG.") << "told, and not painted";
 }
 
 TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
 {
     grid.SetFocusCell(2, 3);
-    grid.SetFocus();
     handler.accepts = [](const CString&) { return false; };
-    handler.Take();
-    Enter(grid, L"7");
-    EXPECT_EQ(handler.Take(), Calls{"77 text 2,3 7"});
+    EXPECT_EQ(Enter(L"7"), Calls{"77 text 2,3 7"});
     EXPECT_EQ(grid.GetItemText(2, 3), L"2/3");
-
-    RightClick(grid, MiddleOf(grid, 0, 2));
-    RightClick(grid, MiddleOf(grid, 3, 0));
+    RightClick(MiddleOf(grid, 0, 2));
+    RightClick(MiddleOf(grid, 3, 0));
     EXPECT_EQ(handler.Take(),
               (Calls{"77 cell 1,2 after 2,3", "77 rclick 1,2", "77 cell 3,1 after 1,2", "77 rclick 3,1"}));
-    EXPECT_EQ(Notify(grid, NM_RCLICK, 5, 1), 1);
-    EXPECT_EQ(Notify(grid, NM_RCLICK, 1, 4), 1);
-    EXPECT_EQ(Notify(grid, LVN_ITEMCHANGED, 1, 4), 1);
+    for (const auto& [nCode, cell] :
+         {std::pair(NM_RCLICK, CCellID(5, 1)), std::pair(NM_RCLICK, CCellID(1, 4)),
+          std::pair(LVN_ITEMCHANGED, CCellID(1, 4))})
+        EXPECT_EQ(Notify(nCode, cell.row, cell.col), 1);
     EXPECT_EQ(handler.Take(), Calls{}) << "past the end";
 }
 
@@ -450,21 +417,18 @@ TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
     handler.bandRows = 0;
     grid.SelectCellEx(0, 0);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 1,1 after 2,2"});
-    EXPECT_EQ(Colours(grid), ".... .ggg .gGG .gG. .gG.");
+    EXPECT_EQ(Colours(), ".... .ggg .gGG .gG. .gG.");
     grid.SelectCellEx(3, 3);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,3 after 0,0"});
-    EXPECT_EQ(Colours(grid), ".BBB Gggg GgGg Gggg GgGg");
+    EXPECT_EQ(Colours(), ".BBB Gggg GgGg Gggg GgGg");
 }
 
-TEST(ExtGrid2Alone, WithoutAnExtraHeaderTheCrossIsPlainOnWhite)
+TEST_F(ExtGrid2Alone, WithoutAnExtraHeaderTheCrossIsPlainOnWhite)
 {
-    Handler handler;
-    CExtGridCtrl2 grid(&handler, nullptr);
-    ASSERT_TRUE(Open(grid));
     grid.SelectCellEx(1, 1);
-    EXPECT_EQ(Colours(grid), ".... .### .#.. .#.. .#..");
+    EXPECT_EQ(Colours(), ".... .### .#.. .#.. .#..");
     grid.SelectCellEx(2, 2);
-    EXPECT_EQ(Colours(grid), ".... .w#w .### .w#. .w#.");
+    EXPECT_EQ(Colours(), ".... .w#w .### .w#. .w#.");
 }
 
 TEST(SubtractiveMix, AddsWhatTheColoursTakeFromWhite)

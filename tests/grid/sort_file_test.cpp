@@ -1,13 +1,14 @@
 // Sorting, text files, saved widths, units of columns.
 
-#include "BoxCloser.h"
 #include "GridWindow.h"
+#include "ModalVisit.h"
 
 #include <Translator.h>
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
+#include <fstream>
+#include <iterator>
 
 namespace
 {
@@ -42,29 +43,20 @@ protected:
 class GridFile : public ::testing::Test
 {
 protected:
-    void SetUp() override
+    GridFile()
     {
         wchar_t directory[MAX_PATH];
         ::GetTempPath(MAX_PATH, directory);
         path = std::wstring(directory) + L"ow_grid_test.txt";
     }
-    void TearDown() override { ::DeleteFile(path.c_str()); }
-    void Write(const std::string& contents)
-    {
-        FILE* file = _wfopen(path.c_str(), L"wb");
-        ASSERT_NE(file, nullptr);
-        fwrite(contents.data(), 1, contents.size(), file);
-        fclose(file);
-    }
+    ~GridFile() override { ::DeleteFile(path.c_str()); }
+    void Write(const std::string& contents) { std::ofstream(Narrow(), std::ios::binary) << contents; }
     std::string Read()
     {
-        FILE* file = _wfopen(path.c_str(), L"rb");
-        std::string contents(10000, 0);
-        contents.resize(file ? fread(contents.data(), 1, contents.size(), file) : 0);
-        if (file)
-            fclose(file);
-        return contents;
+        std::ifstream file(Narrow(), std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
     }
+    std::string Narrow() { return CStringA(path.c_str()).GetString(); }
     std::wstring path;
     OpenGrid grid;
 };
@@ -100,6 +92,15 @@ TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
         });
     EXPECT_TRUE(grid.SortItems(1, TRUE, -1));
     EXPECT_EQ(Column(), L"100 -3 no digits 9 mm 10 ");
+    grid.SortItems(
+        [](LPARAM, LPARAM, LPARAM data)
+        {
+            auto& sorted = *reinterpret_cast<OpenGrid*>(data);
+            sorted.DeleteRow(sorted.GetRowCount() - 1);
+            return 1;
+        },
+        1, TRUE, reinterpret_cast<LPARAM>(&grid));
+    EXPECT_EQ(grid.GetRowCount(), 5) << "a comparison that deletes rows ends the sort";
 }
 
 TEST_F(GridOrder, WhatCannotBeSortedStillDropsTheSelection)
@@ -112,20 +113,6 @@ TEST_F(GridOrder, WhatCannotBeSortedStillDropsTheSelection)
     EXPECT_TRUE(grid.SortTextItems(-1, TRUE)) << "a negative column finds no cells, and moves nothing";
     grid.SetFixedRowCount(6);
     EXPECT_FALSE(grid.SortTextItems(1, TRUE));
-}
-
-TEST_F(GridOrder, AComparisonThatDeletesRowsEndsTheSort)
-{
-    Fill({L"5", L"4", L"3", L"2", L"1"});
-    grid.SortItems(
-        [](LPARAM, LPARAM, LPARAM data)
-        {
-            auto& sorted = *reinterpret_cast<OpenGrid*>(data);
-            sorted.DeleteRow(sorted.GetRowCount() - 1);
-            return 1;
-        },
-        1, TRUE, reinterpret_cast<LPARAM>(&grid));
-    EXPECT_EQ(grid.GetRowCount(), 5);
 }
 
 TEST_F(GridFile, WritesALineForEachRow)
@@ -159,6 +146,7 @@ TEST_F(GridFile, ReadsLinesOfAnyLengthAndSizesTheColumns)
 
 TEST_F(GridFile, ABrokenOneIsReported)
 {
+    constexpr int kTextOfBox = 0xFFFF;
     // A pipe that its reader closes as soon as the first cell is asked for.
     constexpr wchar_t kPipe[] = L"\\\\.\\pipe\\ow_grid_test";
     static HANDLE s_hReader = INVALID_HANDLE_VALUE;
@@ -175,9 +163,10 @@ TEST_F(GridFile, ABrokenOneIsReported)
         0);
     grid.SetColumnCount(1);
     grid.SetRowCount(10000);
-    const BoxCloser closer;
+    std::wstring told;
+    owtest::ModalVisit visit([&](CWnd& box) { told = owtest::TextOf(*box.GetDlgItem(kTextOfBox)); });
     EXPECT_FALSE(grid.Save(kPipe, L','));
-    EXPECT_TRUE(closer.Seen());
+    EXPECT_EQ(told, L"Unable to save grid list");
     EXPECT_EQ(s_hReader, INVALID_HANDLE_VALUE) << "it was opened, and broke while it was written";
 }
 
@@ -199,12 +188,10 @@ TEST_F(GridFile, EmptyBinaryAndMissingFilesLeaveASoundGrid)
     grid.SetColumnCount(1);
     grid.SetRowCount(1);
     grid.SetItemText(0, 0, L"stays");
-    {
-        const BoxCloser closer;
-        EXPECT_FALSE(grid.Load(L"Z:\\no\\such\\file.txt", L','));
-        EXPECT_TRUE(closer.Seen());
-        EXPECT_FALSE(grid.Save(L"Z:\\no\\such\\file.txt", L','));
-    }
+    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(2, [](CWnd&) {}));
+    EXPECT_FALSE(grid.Load(L"Z:\\no\\such\\file.txt", L','));
+    EXPECT_FALSE(grid.Save(L"Z:\\no\\such\\file.txt", L','));
+    EXPECT_EQ(boxes.Count(), 2);
     EXPECT_EQ(grid.GetItemText(0, 0), L"stays");
     grid.SetVirtualMode(TRUE);
     EXPECT_FALSE(grid.Load(path.c_str(), L','));

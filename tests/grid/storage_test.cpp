@@ -1,7 +1,7 @@
 // Rows, columns, cells: counts, addresses, items, defaults, failures.
 
-#include "BoxCloser.h"
 #include "GridWindow.h"
+#include "ModalVisit.h"
 #include "resource.h"
 
 #include <gtest/gtest.h>
@@ -33,32 +33,20 @@ protected:
 };
 } // namespace
 
-TEST_F(GridStorage, CountsChangeAndKeepWhatFits)
-{
-    EXPECT_TRUE(grid.SetRowCount(6));
-    EXPECT_TRUE(grid.SetColumnCount(2));
-    EXPECT_EQ(Text(3, 1), L"3/1");
-    EXPECT_EQ(Text(5, 1), L"");
-    EXPECT_EQ(grid.GetCell(3, 2), nullptr);
-    EXPECT_EQ(grid.GetRowHeight(5), grid.GetDefCellHeight());
-
-    grid.SetItemState(4, 1, CELL_SELECTED);
-    EXPECT_TRUE(grid.SetRowCount(4));
-    EXPECT_EQ(grid.GetSelectedCount(), 0) << "a cell that goes leaves the selection";
-
-    EXPECT_TRUE(grid.SetRowCount(0));
-    EXPECT_EQ(grid.GetFixedRowCount(), 0);
-    EXPECT_EQ(grid.GetColumnCount(), 2);
-    EXPECT_FALSE(grid.SetRowCount(-1));
-    EXPECT_FALSE(grid.SetFixedColumnCount(-1));
-}
-
-TEST_F(GridStorage, AColumnTakesItsWidthFromTheFixedColumns)
+TEST_F(GridStorage, NewColumnsAndRowsTakeTheirSizesFromFormatAndHeading)
 {
     grid.GetDefaultCell(FALSE, FALSE)->SetWidth(33);
     grid.GetDefaultCell(FALSE, TRUE)->SetWidth(44);
     grid.SetColumnCount(5);
-    EXPECT_EQ(grid.GetColumnWidth(4), 44);
+    EXPECT_EQ(grid.GetColumnWidth(4), 44) << "from the fixed columns";
+    EXPECT_EQ(grid.InsertColumn(L"new", DT_RIGHT, 3), 3);
+    EXPECT_EQ(grid.GetItemFormat(2, 3), static_cast<UINT>(DT_RIGHT));
+    EXPECT_EQ(grid.GetColumnWidth(3), grid.GetTextExtent(0, 3, L"new").cx);
+    grid.GetDefaultCell(TRUE, FALSE)->SetHeight(55);
+    EXPECT_EQ(grid.InsertRow(L"", 2), 2);
+    EXPECT_EQ(grid.GetRowHeight(2), 55);
+    EXPECT_EQ(grid.InsertRow(L"new", 2), 2);
+    EXPECT_EQ(grid.GetRowHeight(2), grid.GetTextExtent(2, 0, L"new").cy);
 }
 
 TEST_F(GridStorage, CellsThatBecomeFixedLoseTheirColoursAndTheirsAloneComeBack)
@@ -74,15 +62,6 @@ TEST_F(GridStorage, CellsThatBecomeFixedLoseTheirColoursAndTheirsAloneComeBack)
     EXPECT_EQ(grid.GetItemBkColour(2, 0), RGB(1, 2, 3));
     EXPECT_EQ(grid.GetItemState(2, 1), 0u);
     EXPECT_EQ(grid.GetItemBkColour(2, 1), CLR_INHERIT);
-}
-
-TEST_F(GridStorage, WhatIsInsertedTakesFormatAndSizeFromItsHeading)
-{
-    EXPECT_EQ(grid.InsertColumn(L"new", DT_RIGHT, 3), 3);
-    EXPECT_EQ(grid.GetItemFormat(2, 3), static_cast<UINT>(DT_RIGHT));
-    EXPECT_EQ(grid.GetColumnWidth(3), grid.GetTextExtent(0, 3, L"new").cx);
-    EXPECT_EQ(grid.InsertRow(L"", 2), 2);
-    EXPECT_EQ(grid.GetRowHeight(2), grid.GetDefaultCell(TRUE, FALSE)->GetHeight());
 }
 
 TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
@@ -131,31 +110,41 @@ TEST_F(GridStorage, ItemsGoInAndOutByMask)
     GV_ITEM item;
     item.row = 2;
     item.col = 1;
-    item.mask = GV_MASK_TEXT | GV_MASK_PARAM | GV_MASK_STATE | GV_MASK_BKCLR | GV_MASK_MARGIN;
     item.strText = L"text";
     item.lParam = 42;
     item.nState = CELL_SELECTED;
+    item.nFormat = DT_RIGHT;
     item.crBkClr = RGB(9, 8, 7);
+    item.crFgClr = RGB(6, 5, 4);
     item.nMargin = 11;
-    item.iImage = 5; // which the mask lacks
-    EXPECT_TRUE(grid.SetItem(&item));
+    item.iImage = 5;
+    item.lfFont = *grid.GetItemFont(2, 1);
+    item.lfFont.lfHeight = -33;
+    const auto values = [](const GV_ITEM& i)
+    {
+        return std::vector<LONGLONG>{
+            i.strText.GetLength(), i.iImage, i.lParam, i.nState, i.crBkClr, i.crFgClr, i.nFormat,
+            i.lfFont.lfHeight,     i.nMargin};
+    };
+    for (int bit = 0; bit <= 8; ++bit)
+    {
+        GV_ITEM before, after;
+        before.row = after.row = 2;
+        before.col = after.col = 1;
+        before.mask = after.mask = GV_MASK_ALL;
+        grid.SetCellType(2, 1, RUNTIME_CLASS(CGridCell));
+        EXPECT_TRUE(grid.GetItem(&before));
+        item.mask = 1 << bit;
+        EXPECT_TRUE(grid.SetItem(&item));
+        EXPECT_TRUE(grid.GetItem(&after));
+        std::vector<LONGLONG> expected = values(before);
+        expected[bit] = values(item)[bit];
+        if (item.mask != GV_MASK_STATE) // marked first, and then given a state without the mark
+            expected[3] |= CELL_MODIFIED;
+        EXPECT_EQ(values(after), expected) << bit;
+    }
     EXPECT_TRUE(grid.IsCellSelected(2, 1));
-    EXPECT_FALSE(grid.GetModified(2, 1)) << "marked first, and then given a state without the mark";
-    EXPECT_EQ(grid.GetItemImage(2, 1), -1);
-
-    GV_ITEM back = item;
-    back.strText.Empty();
-    back.mask = GV_MASK_ALL;
-    back.lParam = 0;
-    back.nMargin = 0;
-    back.crBkClr = 0;
-    EXPECT_TRUE(grid.GetItem(&back));
-    EXPECT_EQ(back.strText, L"text");
-    EXPECT_EQ(back.lParam, 42);
-    EXPECT_EQ(back.nMargin, 11u);
-    EXPECT_EQ(back.crBkClr, RGB(9, 8, 7));
-    EXPECT_FALSE(grid.SetItem(nullptr));
-
+    EXPECT_FALSE(grid.SetItem(nullptr) || grid.GetItem(nullptr));
     grid.SetModified(FALSE);
     item.mask = 0;
     EXPECT_TRUE(grid.SetItem(&item));
@@ -181,14 +170,12 @@ TEST_F(GridStorage, LooksAreNoModification)
 
 TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
 {
-    BoxCloser closer;
+    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(6, [](CWnd&) {}));
     ScarceGrid grid;
     grid.SetColumnCount(3);
     grid.supply = 7;
     EXPECT_FALSE(grid.SetRowCount(5));
     EXPECT_EQ(grid.GetRowCount(), 2) << "two whole rows";
-    EXPECT_TRUE(closer.Seen());
-
     grid.supply = 1;
     EXPECT_FALSE(grid.SetColumnCount(5));
     EXPECT_EQ(grid.GetColumnCount(), 5);
@@ -204,6 +191,7 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
     EXPECT_FALSE(grid.SetRowCount(INT_MAX));
     EXPECT_FALSE(grid.SetFixedColumnCount(INT_MAX));
     EXPECT_EQ(grid.GetCellRange(), CCellRange(0, 0, 1, 4));
+    EXPECT_EQ(boxes.Count(), 6);
     grid.supply = 100;
     EXPECT_EQ(grid.InsertColumn(L"x"), 5);
     EXPECT_EQ(grid.GetItemText(0, 5), L"x");

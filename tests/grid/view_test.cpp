@@ -1,12 +1,72 @@
-// Where cells stand, what shows, and what the bars and dividers make of it: without a window.
+// One direction of a grid, where cells stand, what shows, and what the bars and dividers make of it: without a
+// window.
 
 #include "grid/GridDivider.h"
 #include "grid/GridScrollBars.h"
 #include "grid/GridView.h"
 
 #include "GridWindow.h"
+#include "Handles.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace
+{
+/// What an axis answers, by summing up.
+struct Walk
+{
+    std::vector<int> sizes;
+    int fixed = 0;
+
+    int Count() const { return static_cast<int>(sizes.size()); }
+    int Offset(int item) const
+    {
+        int sum = 0;
+        for (int i = 0; i < item; ++i)
+            sum += sizes[i];
+        return sum;
+    }
+    /// Where an item begins in a view of the items from `first` on.
+    std::optional<int> Start(int item, int first) const
+    {
+        if (item < 0 || item >= Count() || (item >= fixed && item < first))
+            return {};
+        return Offset(item) - (item < fixed ? 0 : Offset(first) - Offset(fixed));
+    }
+    int ItemAt(int pos, int first, bool fixedToo) const
+    {
+        const bool inFixed = pos < Offset(fixed);
+        for (int item = inFixed ? 0 : first; pos >= 0 && item < (inFixed ? fixed : Count()); ++item)
+            if (*Start(item, first) + sizes[item] > pos)
+                return inFixed && !fixedToo ? -1 : item;
+        return -1;
+    }
+    CGridAxis::SVisible Visible(int first, int end) const
+    {
+        int x = Offset(fixed);
+        for (int item = first; item < Count(); ++item)
+            if ((x += sizes[item]) >= end)
+                return {item, x, true};
+        return {Count() - 1, x, false};
+    }
+};
+} // namespace
+
+TEST(GridAxis, ReservesAheadAlsoForTheFirstItems)
+{
+    constexpr int kMany = 100000;
+    CGridAxis axis;
+    axis.Reserve(kMany);
+    const size_t reserved = owtest::CountHeapBytes();
+    axis.SetCount(kMany - 1, 7);
+    axis.Insert(0, 1);
+    EXPECT_LT(owtest::CountHeapBytes(), reserved + kMany);
+    axis.SetCount(0, 0);
+    EXPECT_LT(owtest::CountHeapBytes() + kMany, reserved) << "what is not needed is given back";
+}
 
 /// 21 rows of 20 and 7 columns of 60 pixels, the first of each fixed, seen through 300 by 200 pixels.
 class GridView : public ::testing::Test
@@ -26,64 +86,62 @@ protected:
     CCellID topLeft{1, 1};
 };
 
-TEST_F(GridView, PlacesHoldTheLastPixel)
+TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
+{
+    std::mt19937 random(7);
+    const auto pick = [&](int below) { return static_cast<int>(random() % below); };
+    for (int round = 0; round < 3000; ++round)
+    {
+        Walk down, right;
+        for (const auto& [axis, walk, most] : {std::tuple(&rows, &down, 50), std::tuple(&cols, &right, 90)})
+        {
+            axis->SetCount(1 + pick(8), 0);
+            axis->SetFixed(walk->fixed = pick(std::min(axis->Count(), 3)));
+            for (int item = 0; item < axis->Count(); ++item)
+                axis->SetSize(item, walk->sizes.emplace_back(pick(4) ? 5 * pick(most / 5) : 0));
+        }
+        topLeft = CCellID(down.fixed + pick(down.Count() - down.fixed), right.fixed);
+        topLeft.col += pick(right.Count() - right.fixed);
+        const CGridView view = View();
+
+        const CPoint point(5 * pick(66) - 9 - pick(2), 5 * pick(46) - 9 - pick(2));
+        for (const bool fixedToo : {true, false})
+            ASSERT_EQ(view.CellAt(point, fixedToo), CCellID(down.ItemAt(point.y, topLeft.row, fixedToo),
+                                                            right.ItemAt(point.x, topLeft.col, fixedToo)));
+        const CCellID cell(pick(down.Count() + 2) - 1, pick(right.Count() + 2) - 1);
+        const auto y = down.Start(cell.row, topLeft.row), x = right.Start(cell.col, topLeft.col);
+        CPoint origin(-7, -7);
+        CRect rect;
+        ASSERT_EQ(view.Origin(cell, origin), x && y);
+        ASSERT_EQ(origin, x && y ? CPoint(*x, *y) : CPoint(-7, -7));
+        ASSERT_EQ(view.FromOrigin(cell, point), x && y ? CPoint(point - origin) : CPoint(0, 0));
+        ASSERT_EQ(view.Shows(cell), x && y && *x < 300 && *y < 200);
+        ASSERT_EQ(view.CellRect(cell, rect), x && y);
+        if (x && y)
+        {
+            const CSize size(right.sizes[cell.col], down.sizes[cell.row]);
+            ASSERT_EQ(rect, CRect(origin, size - CSize(1, 1))) << "with its last pixel";
+        }
+
+        const CGridAxis::SVisible rowsSeen = down.Visible(topLeft.row, 200),
+                                  colsSeen = right.Visible(topLeft.col, 300);
+        ASSERT_EQ(view.Visible(&rect), CCellRange(topLeft.row, topLeft.col, rowsSeen.nLast, colsSeen.nLast));
+        ASSERT_EQ(rect, CRect(0, 0, colsSeen.bReachesEnd ? 300 : colsSeen.nEnd,
+                              rowsSeen.bReachesEnd ? 200 : rowsSeen.nEnd));
+        const auto whole = [](const CGridAxis::SVisible& seen, int end)
+        { return seen.nLast - (seen.nLast > 0 && seen.nEnd > end); };
+        ASSERT_EQ(view.VisibleWhole(),
+                  CCellRange(topLeft.row, topLeft.col, whole(rowsSeen, 200), whole(colsSeen, 300)));
+    }
+}
+
+TEST_F(GridView, ARangeReachesFromItsFirstCellToItsLast)
 {
     CRect rect;
-    ASSERT_TRUE(View().CellRect(CCellID(2, 3), rect));
-    EXPECT_EQ(rect, CRect(180, 40, 239, 59));
-    EXPECT_EQ(View().CellAt(CPoint(239, 59)), CCellID(2, 3));
-    EXPECT_EQ(View().CellAt(CPoint(240, 60)), CCellID(3, 4));
     ASSERT_TRUE(View().RangeRect(CCellRange(1, 1, 2, 2), rect));
     EXPECT_EQ(rect, CRect(60, 20, 179, 59));
-    EXPECT_EQ(View().FromOrigin(CCellID(2, 2), CPoint(125, 43)), CPoint(5, 3));
-    cols.SetSize(3, 0);
-    ASSERT_TRUE(View().CellRect(CCellID(2, 3), rect));
-    EXPECT_EQ(rect.right, rect.left - 1) << "hidden";
-}
-
-TEST_F(GridView, PointsOutsideGiveNoCellInTheirDirection)
-{
-    EXPECT_EQ(View().CellAt(CPoint(-1, 45)), CCellID(2, -1));
-    EXPECT_EQ(View().CellAt(CPoint(5000, 45)), CCellID(2, -1));
-    EXPECT_EQ(View().CellAt(CPoint(30, 45), false), CCellID(2, -1)) << "fixed cells are not asked for";
-    EXPECT_EQ(View().CellAt(CPoint(30, 5)), CCellID(0, 0));
-}
-
-TEST_F(GridView, ACellScrolledAwayHasNoPlaceAndOneFarBelowHas)
-{
-    topLeft = CCellID(4, 2);
-    const CGridView view = View();
-    EXPECT_EQ(view.Visible(), CCellRange(4, 2, 12, 5));
-    EXPECT_EQ(view.VisibleWhole(), CCellRange(4, 2, 12, 5));
-    CPoint origin(-7, -7);
-    for (const CCellID cell : {CCellID(3, 2), CCellID(3, 0), CCellID(4, 1), CCellID(0, 1), CCellID(kRows, 2),
-                               CCellID(4, kCols), CCellID(-1, 2), CCellID(4, -1)})
-    {
-        EXPECT_FALSE(view.Origin(cell, origin)) << cell.row << ',' << cell.col;
-        EXPECT_EQ(view.FromOrigin(cell, CPoint(90, 90)), CPoint(0, 0));
-    }
-    EXPECT_TRUE(view.Origin(CCellID(0, 2), origin));
-    EXPECT_EQ(origin, CPoint(60, 0));
-    EXPECT_TRUE(view.Origin(CCellID(20, 0), origin));
-    EXPECT_EQ(origin, CPoint(0, 20 + 16 * 20));
-    EXPECT_FALSE(view.Shows(CCellID(20, 2)));
-    EXPECT_TRUE(view.Shows(CCellID(12, 5)) && view.Shows(CCellID(0, 0)));
-    EXPECT_FALSE(view.Shows(CCellID(13, 5)) || view.Shows(CCellID(12, 6)) || view.Shows(CCellID(3, 3)));
-}
-
-TEST_F(GridView, VisibleCountsPartsAndWholeDoesNot)
-{
-    CRect covered;
-    EXPECT_EQ(View().Visible(&covered), CCellRange(1, 1, 9, 4));
-    EXPECT_EQ(covered, CRect(0, 0, 300, 200));
-    EXPECT_EQ(View().VisibleWhole(), CCellRange(1, 1, 9, 4)) << "all end on the edge";
-    rows.SetSize(3, 21);
-    cols.SetSize(2, 61);
-    EXPECT_EQ(View().Visible(), CCellRange(1, 1, 9, 4));
-    EXPECT_EQ(View().VisibleWhole(), CCellRange(1, 1, 8, 3));
-    rows.SetCount(3, 0);
-    View().Visible(&covered);
-    EXPECT_EQ(covered.BottomRight(), CPoint(300, 60));
+    EXPECT_FALSE(View().RangeRect(CCellRange(1, 1, kRows, 2), rect));
+    EXPECT_FALSE(View().RangeRect(CCellRange(-1, 1, 2, 2), rect));
     EXPECT_EQ(View().ScrollingPart(EGridWay::eColumns), CRect(60, 0, 300, 200));
     EXPECT_EQ(View().ScrollingPart(EGridWay::eRows), CRect(0, 20, 300, 200));
 }
@@ -92,16 +150,22 @@ TEST_F(GridView, VisibleCountsPartsAndWholeDoesNot)
 
 TEST_F(GridView, DividersAreAliveOverTheHeadersOnly)
 {
-    const CGridDividers between = Dividers(EGridWay::eColumns), below = Dividers(EGridWay::eRows);
-    for (const int at : {117, 118, 120, 122})
-        EXPECT_EQ(between.IsAt(CPoint(at, 19)), at != 117) << at;
-    EXPECT_FALSE(between.IsAt(CPoint(120, 20))) << "in the body";
-    EXPECT_FALSE(between.IsAt(CPoint(123, 5)));
-    EXPECT_FALSE(between.IsAt(CPoint(1, 5))) << "nothing is before the first";
-    EXPECT_TRUE(below.IsAt(CPoint(59, 38)) && below.IsAt(CPoint(59, 42)));
-    EXPECT_FALSE(below.IsAt(CPoint(60, 38)) || below.IsAt(CPoint(59, 37)) || below.IsAt(CPoint(59, 1)));
     cols.SetCount(4, 0);
-    EXPECT_FALSE(Dividers(EGridWay::eColumns).IsAt(CPoint(250, 5))) << "behind the last";
+    const auto alive = [](int at, int size, int last)
+    {
+        const int next = (at + 2) / size; // the divider that this is before, or just behind
+        return next > 0 && next <= last && std::abs(at - next * size) < 3 && at < last * size;
+    };
+    for (int x = 0; x < 300; ++x)
+    {
+        EXPECT_EQ(Dividers(EGridWay::eColumns).IsAt(CPoint(x, 19)), alive(x, kColWidth, 4)) << x;
+        EXPECT_FALSE(Dividers(EGridWay::eColumns).IsAt(CPoint(x, 20))) << "in the body";
+    }
+    for (int y = 0; y < 200; ++y)
+    {
+        EXPECT_EQ(Dividers(EGridWay::eRows).IsAt(CPoint(59, y)), alive(y, kRowHeight, kRows)) << y;
+        EXPECT_FALSE(Dividers(EGridWay::eRows).IsAt(CPoint(60, y)));
+    }
 }
 
 TEST_F(GridView, APressTakesTheItemBeforeTheDivider)
@@ -114,10 +178,10 @@ TEST_F(GridView, APressTakesTheItemBeforeTheDivider)
         CRect held;
     };
     for (const Case& c : {Case{EGridWay::eColumns, {119, 5}, {0, 1}, {0, 1}, {61, 0, 301, 200}},
-                          Case{EGridWay::eColumns, {122, 5}, {0, 2}, {0, 1}, {61, 0, 301, 200}},
-                          Case{EGridWay::eColumns, {123, 5}, {0, 2}, {0, 2}, {121, 0, 361, 200}},
-                          Case{EGridWay::eRows, {9, 59}, {2, 0}, {2, 0}, {0, 41, 300, 221}},
-                          Case{EGridWay::eRows, {9, 61}, {3, 0}, {2, 0}, {0, 41, 300, 221}}})
+                          {EGridWay::eColumns, {122, 5}, {0, 2}, {0, 1}, {61, 0, 301, 200}},
+                          {EGridWay::eColumns, {123, 5}, {0, 2}, {0, 2}, {121, 0, 361, 200}},
+                          {EGridWay::eRows, {9, 59}, {2, 0}, {2, 0}, {0, 41, 300, 221}},
+                          {EGridWay::eRows, {9, 61}, {3, 0}, {2, 0}, {0, 41, 300, 221}}})
     {
         CCellID cell = c.pressed;
         const CGridDividers::STaken taken = Dividers(c.way).Take(cell, c.point, true);
@@ -127,6 +191,17 @@ TEST_F(GridView, APressTakesTheItemBeforeTheDivider)
     }
     EXPECT_EQ(Dividers(EGridWay::eColumns).Marker(CPoint(119, 5)), CRect(119, 0, 121, 200));
     EXPECT_EQ(Dividers(EGridWay::eRows).Marker(CPoint(9, 61)), CRect(0, 61, 300, 63));
+
+    topLeft = CCellID(4, 2);
+    const auto take = [&](int nCol, int x)
+    {
+        CCellID cell(0, nCol);
+        const auto taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(x, 5), true);
+        return std::tuple(taken.bMarked, taken.bHeld, cell.col);
+    };
+    EXPECT_EQ(take(3, 121), std::tuple(true, true, 2)) << "a column is looked up in the headings";
+    EXPECT_EQ(take(2, 61), std::tuple(true, false, 1)) << "what is scrolled away is marked and not held";
+    EXPECT_EQ(take(1, 61), std::tuple(false, false, 1));
 }
 
 TEST_F(GridView, AHiddenItemIsOpenedOrPassedOver)
@@ -141,10 +216,15 @@ TEST_F(GridView, AHiddenItemIsOpenedOrPassedOver)
     EXPECT_EQ(take(3, 121, true), 2);
     EXPECT_EQ(take(3, 121, false), 1);
     EXPECT_EQ(take(3, 178, false), 3);
+    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(122, 5)), 1) << "a double click means one that shows";
+    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(123, 5)), 3);
     cols.SetSize(1, 0);
     cols.SetSize(0, 0);
     EXPECT_EQ(take(3, 1, true), 2);
     EXPECT_EQ(take(3, 1, false), -1) << "none before it shows";
+    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(2, 5)), -1);
+    topLeft = CCellID(1, 4);
+    EXPECT_EQ(Dividers(EGridWay::eColumns).Fit(CCellID(0, 3), CPoint(2, 5)), -1) << "scrolled away";
 }
 
 TEST_F(GridView, ANearlyClosedLastItemCanStillBeTaken)
@@ -159,23 +239,11 @@ TEST_F(GridView, ANearlyClosedLastItemCanStillBeTaken)
     {
         cols.SetSize(3, c.nSize);
         CCellID cell(0, c.x < 180 ? 2 : 3);
-        EXPECT_TRUE(Dividers(EGridWay::eColumns).Take(cell, CPoint(c.x, 5), true).bHeld);
+        const auto taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(c.x, 5), c.x % 2 != 0);
+        EXPECT_TRUE(taken.bHeld);
+        EXPECT_EQ(taken.rectHeld.left, 60 * c.nTaken + 1);
         EXPECT_EQ(cell.col, c.nTaken) << c.x << " at " << c.nSize;
     }
-}
-
-TEST_F(GridView, WhatIsScrolledAwayIsMarkedAndNotHeld)
-{
-    topLeft = CCellID(4, 2);
-    CCellID cell(0, 3);
-    EXPECT_TRUE(Dividers(EGridWay::eColumns).Take(cell, CPoint(121, 5), true).bHeld)
-        << "a column is looked up in the headings";
-    cell = CCellID(0, 2);
-    const CGridDividers::STaken taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(61, 5), true);
-    EXPECT_TRUE(taken.bMarked && !taken.bHeld);
-    EXPECT_EQ(cell, CCellID(0, 1));
-    cell = CCellID(0, 1);
-    EXPECT_FALSE(Dividers(EGridWay::eColumns).Take(cell, CPoint(61, 5), true).bMarked);
 }
 
 TEST_F(GridView, AReleaseGivesTheSize)
@@ -183,10 +251,11 @@ TEST_F(GridView, AReleaseGivesTheSize)
     int nSize = -7;
     EXPECT_TRUE(Dividers(EGridWay::eColumns).Drop(CCellID(0, 1), CPoint(150, 10), true, nSize));
     EXPECT_EQ(nSize, 90);
-    EXPECT_TRUE(Dividers(EGridWay::eRows).Drop(CCellID(2, 0), CPoint(30, 10), true, nSize));
-    EXPECT_EQ(nSize, 0);
-    EXPECT_TRUE(Dividers(EGridWay::eRows).Drop(CCellID(2, 0), CPoint(30, 10), false, nSize));
-    EXPECT_EQ(nSize, 1);
+    for (const bool bMayHide : {true, false})
+    {
+        EXPECT_TRUE(Dividers(EGridWay::eRows).Drop(CCellID(2, 0), CPoint(30, 10), bMayHide, nSize));
+        EXPECT_EQ(nSize, bMayHide ? 0 : 1);
+    }
     topLeft = CCellID(3, 1);
     EXPECT_FALSE(Dividers(EGridWay::eRows).Drop(CCellID(2, 0), CPoint(30, 10), true, nSize));
 }
@@ -198,27 +267,25 @@ TEST(GridBars, OneBarMayMakeTheOtherNecessary)
     struct Case
     {
         CSize all;
-        int nVMax, nVPage, nHMax, nHPage;
+        SGridBar vertical, horizontal;
     };
     const CSize area(300, 200), fixed(60, 20), thickness(17, 15);
-    for (const Case& c :
-         {Case{{300, 200}, 0, 0, 0, 0}, Case{{301, 180}, 0, 0, 240, 240}, Case{{283, 201}, 180, 180, 0, 0},
-          Case{{301, 185}, 164, 165, 240, 240}, Case{{284, 201}, 180, 165, 223, 223},
-          Case{{301, 186}, 165, 165, 240, 240}, Case{{999, 999}, 978, 165, 938, 223}})
+    const auto told = [](const SGridBar& bar) { return std::tuple(bar.bShows, bar.nMax, bar.nPage); };
+    for (const Case& c : {Case{{300, 200}, {}, {}},
+                          {{301, 180}, {}, {true, 240, 240}},
+                          {{283, 201}, {true, 180, 180}, {}},
+                          {{301, 185}, {}, {true, 240, 240}},
+                          {{284, 201}, {true, 180, 165}, {true, 223, 223}},
+                          {{301, 186}, {true, 165, 165}, {true, 240, 240}},
+                          {{999, 999}, {true, 978, 165}, {true, 938, 223}}})
     {
         const SGridBarPlan plan = gfnPlanGridBars(area, fixed, c.all, thickness);
         EXPECT_FALSE(plan.bOnlyHeadersFit);
-        const bool bVertical = c.nVMax > 0 && c.nVMax + 1 > c.nVPage;
-        EXPECT_EQ(plan.Of(EGridWay::eRows).bShows, bVertical) << c.all.cx << ',' << c.all.cy;
-        EXPECT_EQ(plan.vertical.nMax, bVertical ? c.nVMax : 0);
-        EXPECT_EQ(plan.vertical.nPage, bVertical ? c.nVPage : 0);
-        EXPECT_EQ(plan.Of(EGridWay::eColumns).bShows, c.nHMax > 0);
-        EXPECT_EQ(plan.horizontal.nMax, c.nHMax);
-        EXPECT_EQ(plan.horizontal.nPage, c.nHPage);
+        EXPECT_EQ(told(plan.Of(EGridWay::eRows)), told(c.vertical)) << c.all.cx << ',' << c.all.cy;
+        EXPECT_EQ(told(plan.Of(EGridWay::eColumns)), told(c.horizontal)) << c.all.cx << ',' << c.all.cy;
     }
-    EXPECT_TRUE(gfnPlanGridBars(CSize(60, 200), fixed, CSize(999, 999), thickness).bOnlyHeadersFit);
-    EXPECT_TRUE(gfnPlanGridBars(CSize(300, 20), fixed, CSize(999, 999), thickness).bOnlyHeadersFit);
-    EXPECT_FALSE(gfnPlanGridBars(CSize(61, 21), fixed, CSize(999, 999), thickness).bOnlyHeadersFit);
+    for (const CSize small : {CSize(60, 200), CSize(300, 20), CSize(61, 21)})
+        EXPECT_EQ(gfnPlanGridBars(small, fixed, CSize(999, 999), thickness).bOnlyHeadersFit, small.cx != 61);
 }
 
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
