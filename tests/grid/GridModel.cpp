@@ -98,14 +98,15 @@ struct Model
     {
         range.ForEach([&](int r, int c) { At(r, c).selected = select; });
     }
-    void SelectOnly(const CCellRange& range)
+    /// And nothing without a range.
+    void SelectOnly(const CCellRange& range = CCellRange(0, 0, -1, -1))
     {
         Select(CCellRange(0, 0, RowCount() - 1, ColCount() - 1), false);
         Select(range);
     }
     void Reset()
     {
-        SelectOnly(CCellRange());
+        SelectOnly();
         focus = CCellID();
     }
     ModelCell NewCell() const { return ModelCell{newKind}; }
@@ -379,7 +380,7 @@ private:
         Say("SetSelectedRange", r1, c1, r2, c2, select, atOnce);
         m_grid.SetSelectedRange(r1, c1, r2, c2, atOnce, select);
         if (select)
-            m_model.SelectOnly(CCellRange());
+            m_model.SelectOnly();
         const CCellID from = RaisedToBody(r1, c1), to = RaisedToBody(r2, c2);
         if (r1 >= 0 && c1 >= 0 && m_model.Has(to.row, to.col))
             m_model.Select(CCellRange(from.row, from.col, to.row, to.col), select);
