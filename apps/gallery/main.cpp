@@ -18,6 +18,13 @@ public:
         OwGetDllInterface()->Cleanup(nullptr);
         return FALSE; // the dialog was all there is
     }
+
+    // Else it would be a parameter of the last message.
+    int ExitInstance() override
+    {
+        CWinApp::ExitInstance();
+        return 0;
+    }
 };
 
 static CGalleryApp theApp;

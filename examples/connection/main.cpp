@@ -26,6 +26,13 @@ public:
         return FALSE; // the dialog was all there is
     }
 
+    // Else it would be a parameter of the last message.
+    int ExitInstance() override
+    {
+        CWinApp::ExitInstance();
+        return 0;
+    }
+
 private:
     static CString UserFolder()
     {

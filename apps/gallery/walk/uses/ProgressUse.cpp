@@ -13,7 +13,7 @@
 namespace
 {
 constexpr int kBar = 10152;
-using Visits = std::vector<std::function<void(HWND box)>>;
+using Visits = std::vector<std::function<bool(HWND box)>>; ///< false: not yet, call once more
 
 /// Works on the progress box from inside its own loop: a timer of the box calls one visitor after another.
 class WorkVisits
@@ -39,10 +39,10 @@ private:
     }
     static void CALLBACK Tick(HWND box, UINT, UINT_PTR id, DWORD)
     {
-        if (s_next < s_visits.size())
-            s_visits[s_next++](box);
-        else
+        if (s_next == s_visits.size())
             ::KillTimer(box, id);
+        else if (s_visits[s_next](box))
+            ++s_next;
     }
 
     inline static Visits s_visits;
@@ -70,12 +70,16 @@ void CancelWork(CWnd& page)
             saved = owtest::SaveWindowPng(box, PicturePath(L"progress_box.png"));
             question.emplace([&](CWnd&) { owtest::Press(VK_ESCAPE); });
             owtest::QueueClick(::GetDlgItem(box, IDCANCEL));
+            return true;
         },
-        [&](HWND)
+        [&](HWND box)
         {
-            refused = question->Count() == 1;
+            refused = question->Count() == 1 && ::IsWindowEnabled(box); // the question has gone
+            if (!refused)
+                return false;
             question.emplace([&](CWnd&) { owtest::Press(VK_RETURN); });
             owtest::QueueKey(VK_ESCAPE);
+            return true;
         },
     });
     Run(page, L"false");
