@@ -51,8 +51,15 @@ install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale/gallery_en.po DESTINATION
 install(DIRECTORY examples/ DESTINATION examples)
 install(DIRECTORY apps/gallery/ DESTINATION examples/gallery
   PATTERN walk EXCLUDE PATTERN CMakeLists.txt EXCLUDE)
-install(FILES README.md CHANGELOG.md DESTINATION .)
-install(FILES docs/guide.md DESTINATION docs)
+install(FILES docs/package/README.md CHANGELOG.md DESTINATION .)
+
+# The guide, with links to where the package has things.
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/guide.md)
+file(READ docs/guide.md guide)
+string(REPLACE "](../src/" "](../include/DialogControlsOW/" guide "${guide}")
+string(REPLACE "](../apps/" "](../examples/" guide "${guide}")
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/guide.md "${guide}")
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/guide.md DESTINATION docs)
 
 # What the compiler's run-time DLLs are given under.
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)

@@ -1,4 +1,4 @@
-# Every exported class can be found from the guide, and every link of it leads somewhere.
+# Every exported class can be found from the guide, and every link of the documents leads somewhere.
 #
 #     cmake -DSOURCE_DIR=... -P guide.cmake
 
@@ -20,10 +20,9 @@ if(count LESS 50)
   message(SEND_ERROR "only ${count} exported classes were found")
 endif()
 
-string(REGEX MATCHALL "\\]\\([^)]*\\)" links "${guide}")
-foreach(link IN LISTS links)
-  string(REGEX REPLACE "\\]\\(([^)#]*).*" "\\1" target "${link}")
-  if(NOT EXISTS ${SOURCE_DIR}/docs/${target})
-    message(SEND_ERROR "docs/guide.md links to ${target}, which is not there")
-  endif()
+include(${CMAKE_CURRENT_LIST_DIR}/links.cmake)
+file(GLOB pages ${SOURCE_DIR}/docs/guide.md ${SOURCE_DIR}/docs/tasks/*.md ${SOURCE_DIR}/examples/*/*.md
+  ${SOURCE_DIR}/README.md ${SOURCE_DIR}/CONTRIBUTING.md ${SOURCE_DIR}/CHANGELOG.md)
+foreach(page IN LISTS pages)
+  check_links(${page})
 endforeach()

@@ -5,6 +5,7 @@
 # With ZIP that package is taken, and none is made.
 cmake_minimum_required(VERSION 3.21)
 include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/client.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/../docs/links.cmake)
 file(REMOVE_RECURSE ${WORK_DIR})
 
 set(name DialogControlsOW-${VERSION}-x64)
@@ -36,6 +37,10 @@ foreach(needed bin/gallery.exe bin/locale/gallery_en.po bin/connection.exe bin/l
   if(NOT EXISTS ${root}/${needed})
     message(FATAL_ERROR "${needed} is missing")
   endif()
+endforeach()
+
+foreach(page README.md CHANGELOG.md docs/guide.md examples/connection/README.md)
+  check_links(${root}/${page})
 endforeach()
 
 set(build "${WORK_DIR}/add on/client-build")
