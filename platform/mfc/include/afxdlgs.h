@@ -1,6 +1,6 @@
 #pragma once
 #define __AFXDLGS_H__ // asked for by the headers that wizards make
-// The common dialogs.
+// The common dialogs, and property sheets.
 //
 //     CFileDialog dlg(TRUE, L"dat", nullptr, OFN_HIDEREADONLY, L"Data (*.dat)|*.dat|All (*.*)|*.*||", this);
 //     if (dlg.DoModal() == IDOK)
@@ -11,7 +11,12 @@
 
 #include <afxwin.h>
 
+#include <afxcmn.h>
+
 #include <commdlg.h>
+#include <prsht.h>
+
+class CPropertySheet;
 
 /// What the common dialogs share. The objects are made by the classes below.
 class AFX_CORE_CLASS CCommonDialog : public CDialog
@@ -149,4 +154,183 @@ public:
 
 protected:
     TCHAR m_szStyleName[64];
+};
+
+// ---------------------------------------------------------------------------------------------------------
+// Property sheets: dialogs whose pages stand behind tabs, or follow each other as the steps of a wizard.
+//
+//     CPropertySheet sheet(L"Beam", this);
+//     CSectionPage section; // derived from CPropertyPage, with a dialog template of its own
+//     CMaterialPage material;
+//     sheet.AddPage(&section);
+//     sheet.AddPage(&material);
+//     if (sheet.DoModal() == IDOK)
+//         Store(section, material);
+//
+// A page is created when it is shown for the first time; a page that was never shown was never asked anything.
+// Between pages, and before OK and Apply, the active page's OnKillActive takes its values; a refused value keeps the
+// page. Pages are shown in the sheet's font. The sheet owns none of its pages, which must outlive its window.
+
+/// A page of a property sheet.
+class AFX_CORE_CLASS CPropertyPage : public CDialog
+{
+    DECLARE_DYNAMIC(CPropertyPage)
+
+public:
+    /// The template's caption is the tab's text unless `nIDCaption` names a string. The header texts belong to wizards
+    /// with PSH_WIZARD97.
+    CPropertyPage();
+    explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
+    explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0,
+                           DWORD dwSize = sizeof(PROPSHEETPAGE));
+    CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
+                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+    CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
+                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+    ~CPropertyPage() override;
+    void Construct(UINT nIDTemplate, UINT nIDCaption = 0);
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
+    void Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0);
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                   UINT nIDHeaderSubTitle = 0);
+
+    PROPSHEETPAGE m_psp; ///< may be changed before the page is added; lParam is the object
+    PROPSHEETPAGE& GetPSP() { return m_psp; }
+    const PROPSHEETPAGE& GetPSP() const { return m_psp; }
+
+    /// Enables the sheet's Apply button, or disables it again once no page is modified.
+    void SetModified(BOOL bChanged = TRUE);
+    /// After a change that Cancel does not undo: OK becomes Close, and Cancel is disabled.
+    void CancelToClose();
+    /// Asks each page that exists by PSM_QUERYSIBLINGS until one answers something else than 0.
+    LRESULT QuerySiblings(WPARAM wParam, LPARAM lParam);
+    CPropertySheet* GetParentSheet() const;
+    void EndDialog(int nEndID); ///< ends the sheet
+
+    virtual BOOL OnSetActive();  ///< the page is about to be shown; FALSE skips it
+    virtual BOOL OnKillActive(); ///< FALSE keeps the page: a value was refused
+    virtual BOOL OnApply();      ///< OK or Apply, after OnKillActive: calls OnOK; FALSE keeps the sheet open
+    virtual void OnReset();      ///< Cancel: calls OnCancel
+    void OnOK() override;
+    void OnCancel() override;
+    virtual BOOL OnQueryCancel(); ///< FALSE keeps the sheet open when it is to be cancelled
+    /// 0 goes on to the neighbour, -1 stays, the id of a page's template goes there.
+    virtual LRESULT OnWizardBack();
+    virtual LRESULT OnWizardNext();
+    virtual BOOL OnWizardFinish(); ///< FALSE keeps the wizard open
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    friend class CPropertySheet;
+
+    void CommonConstruct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
+                         UINT nIDHeaderSubTitle, DWORD dwSize);
+    /// Makes a template in the sheet's font the one that is used.
+    void PreProcessPageTemplate(PROPSHEETPAGE& psp, BOOL bWizard);
+    LRESULT MapWizardResult(LRESULT lToMap);
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+    CString m_strCaption;
+    CString m_strHeaderTitle;
+    CString m_strHeaderSubTitle;
+    BOOL m_bFirstSetActive = TRUE; ///< OnInitDialog has filled the controls already
+
+private:
+    std::vector<DWORD> m_ownTemplate;        ///< a copy in the sheet's font
+    LPCDLGTEMPLATE m_usedTemplate = nullptr; ///< by which the system's sheet knows the page
+};
+
+/// The sheet. DoModal answers IDOK or IDCANCEL, for a wizard ID_WIZFINISH or IDCANCEL, and -1 if it could not be made.
+class AFX_CORE_CLASS CPropertySheet : public CWnd
+{
+    DECLARE_DYNAMIC(CPropertySheet)
+
+public:
+    CPropertySheet();
+    explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    /// With the pictures of a wizard; they stay the caller's.
+    CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+    CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+    ~CPropertySheet() override;
+    void Construct(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    void Construct(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    void Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+    void Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+
+    PROPSHEETHEADER m_psh; ///< may be changed before DoModal or Create
+    PROPSHEETHEADER& GetPSH() { return m_psh; }
+    const PROPSHEETHEADER& GetPSH() const { return m_psh; }
+
+    virtual INT_PTR DoModal();
+    /// Modeless: without the buttons below the pages, unless it is a wizard. -1 is the usual style of a sheet. Closed by
+    /// DestroyWindow or its caption; an object made with `new` deletes itself in PostNcDestroy.
+    using CWnd::Create;
+    BOOL Create(CWnd* pParentWnd = nullptr, DWORD dwStyle = static_cast<DWORD>(-1), DWORD dwExStyle = 0);
+    void EndDialog(int nEndID);
+
+    // Pages; before and while the sheet is shown
+    void AddPage(CPropertyPage* pPage);
+    void RemovePage(CPropertyPage* pPage);
+    void RemovePage(int nPage);
+    int GetPageCount() const { return static_cast<int>(m_pages.GetSize()); }
+    CPropertyPage* GetPage(int nPage) const { return static_cast<CPropertyPage*>(m_pages[nPage]); }
+    int GetPageIndex(CPropertyPage* pPage) const; ///< -1 for a page that is not in the sheet
+    int GetActiveIndex() const;
+    CPropertyPage* GetActivePage() const;
+    BOOL SetActivePage(int nPage);
+    BOOL SetActivePage(CPropertyPage* pPage);
+
+    void SetTitle(LPCTSTR lpszText, UINT nStyle = 0); ///< nStyle: PSH_PROPTITLE or 0
+    CTabCtrl* GetTabControl() const;
+    void EnableStackedTabs(BOOL bStacked)
+    {
+        m_bStacked = bStacked;
+    } ///< before it is shown; FALSE: tabs scroll
+    void PressButton(int nButton) { PostMessage(PSM_PRESSBUTTON, nButton); } ///< a PSBTN_ value
+    void MapDialogRect(LPRECT lpRect) const { ::MapDialogRect(m_hWnd, lpRect); }
+    BOOL IsModeless() const { return m_bModeless; }
+    BOOL IsWizard() const { return (m_psh.dwFlags & (PSH_WIZARD | PSH_WIZARD97 | PSH_WIZARD_LITE)) != 0; }
+
+    void SetWizardMode() { m_psh.dwFlags |= PSH_WIZARD; } ///< before it is shown
+    void SetWizardButtons(DWORD dwFlags) { PostMessage(PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(dwFlags)); }
+    void SetFinishText(LPCTSTR lpszText) { AfxSend(PSM_SETFINISHTEXT, 0, lpszText); }
+
+    virtual BOOL OnInitDialog();
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL ContinueModal() override;
+
+protected:
+    virtual void BuildPropPageArray();
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+
+    CPtrArray m_pages; ///< CPropertyPage, not owned
+    CString m_strCaption;
+    CWnd* m_pParentWnd = nullptr;
+    BOOL m_bStacked = TRUE;
+    BOOL m_bModeless = FALSE;
+
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM);
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnClose();
+    afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
+    afx_msg LRESULT OnKickIdle(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void CommonConstruct(CWnd* parent, UINT selectedPage);
+    void SetPictures(HBITMAP watermark, HPALETTE palette, HBITMAP header);
+    HWND CreateSheet(CWnd* parent);
+    PROPSHEETPAGE PageToShow(CPropertyPage& page);
+    void LeaveOutButtons();
+
+    std::vector<BYTE> m_pageArray; ///< behind m_psh.ppsp
 };

@@ -230,10 +230,10 @@ public:
     HINSTANCE m_hInstance = nullptr;
     LPTSTR m_lpCmdLine = nullptr;
     int m_nCmdShow = SW_SHOWNORMAL;
-    LPCTSTR m_pszAppName = nullptr;     ///< from the constructor, else the executable's name; malloc'ed
-    LPCTSTR m_pszExeName = nullptr;     ///< executable without path and extension; malloc'ed
-    LPCTSTR m_pszRegistryKey = nullptr; ///< company key of the profile; null for an .ini file; malloc'ed
-    LPCTSTR m_pszProfileName = nullptr; ///< .ini file, or the program's key below the company's; malloc'ed
+    LPCTSTR m_pszAppName = nullptr;      ///< from the constructor, else the executable's name; malloc'ed
+    LPCTSTR m_pszExeName = nullptr;      ///< executable without path and extension; malloc'ed
+    LPCTSTR m_pszRegistryKey = nullptr;  ///< company key of the profile; null for an .ini file; malloc'ed
+    LPCTSTR m_pszProfileName = nullptr;  ///< .ini file, or the program's key below the company's; malloc'ed
     LPCTSTR m_pszHelpFilePath = nullptr; ///< the executable's with the extension .HLP or .CHM; malloc'ed
     AFX_HELP_TYPE m_eHelpType = afxWinHelp;
     DWORD m_dwPromptContext = 0; ///< help context of the message box that is open
@@ -277,11 +277,12 @@ public:
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
     virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
     virtual void WinHelpInternal(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
-    afx_msg void OnHelp();        ///< for ID_HELP: help about what the user is at
-    afx_msg void OnHelpIndex();   ///< for ID_HELP_INDEX
-    afx_msg void OnHelpFinder();  ///< for ID_HELP_FINDER and ID_DEFAULT_HELP
-    afx_msg void OnHelpUsing();   ///< for ID_HELP_USING
-    afx_msg void OnContextHelp(); ///< for ID_CONTEXT_HELP: the next click asks the main window about what is there
+    afx_msg void OnHelp();       ///< for ID_HELP: help about what the user is at
+    afx_msg void OnHelpIndex();  ///< for ID_HELP_INDEX
+    afx_msg void OnHelpFinder(); ///< for ID_HELP_FINDER and ID_DEFAULT_HELP
+    afx_msg void OnHelpUsing();  ///< for ID_HELP_USING
+    afx_msg void
+    OnContextHelp(); ///< for ID_CONTEXT_HELP: the next click asks the main window about what is there
 
     virtual BOOL InitApplication() { return TRUE; }
     BOOL InitInstance() override { return TRUE; }

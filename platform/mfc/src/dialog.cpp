@@ -2,6 +2,7 @@
 
 #include <afxpriv.h>
 
+#include "dialog.h"
 #include "threadstate.h"
 #include "wndclass.h"
 
@@ -41,8 +42,6 @@ CDialog::~CDialog()
 // ---------------------------------------------------------------------------------------------------------
 // Templates
 
-namespace
-{
 LPCDLGTEMPLATE LoadTemplate(LPCTSTR name, HINSTANCE& module)
 {
     module = AfxFindResourceHandle(name, RT_DIALOG);
@@ -51,6 +50,8 @@ LPCDLGTEMPLATE LoadTemplate(LPCTSTR name, HINSTANCE& module)
     return static_cast<LPCDLGTEMPLATE>(loaded != nullptr ? ::LockResource(loaded) : nullptr);
 }
 
+namespace
+{
 /// A template in global memory, locked for the length of the scope.
 class CLockedTemplate
 {
@@ -88,15 +89,15 @@ DWORD StyleOf(LPCDLGTEMPLATE dialogTemplate)
     memcpy(&head, dialogTemplate, sizeof head);
     return head.signature == 0xFFFF ? head.style : dialogTemplate->style;
 }
+} // namespace
 
-INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM, LPARAM)
+INT_PTR CALLBACK AfxDlgProc(HWND window, UINT message, WPARAM, LPARAM)
 {
     if (message != WM_INITDIALOG)
         return FALSE; // the message map has been asked already
     auto* const dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(window));
     return dialog != nullptr ? dialog->OnInitDialog() : TRUE;
 }
-} // namespace
 
 // ---------------------------------------------------------------------------------------------------------
 // Modeless
@@ -143,7 +144,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 
     AfxHookWindowCreate(this);
     const HWND created =
-        ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), &DialogProcedure);
+        ::CreateDialogIndirect(hInst, lpDialogTemplate, pParentWnd->GetSafeHwnd(), &AfxDlgProc);
     if (!AfxUnhookWindowCreate())
     {
         PostNcDestroy(); // no window was made, so that no message will end the object's life
@@ -194,34 +195,19 @@ void CDialog::PostModal()
     m_hWndTop = nullptr;
 }
 
-namespace
+COwnerLock::COwnerLock(HWND owner) : m_owner(owner)
 {
-/// Disables the owner of a modal dialog until `Restore`.
-class COwnerLock
+    if (owner == nullptr || owner == ::GetDesktopWindow() || !::IsWindowEnabled(owner))
+        return;
+    ::EnableWindow(owner, FALSE);
+    m_disabled = true;
+}
+
+void COwnerLock::Restore()
 {
-public:
-    explicit COwnerLock(HWND owner) : m_owner(owner)
-    {
-        if (owner == nullptr || owner == ::GetDesktopWindow() || !::IsWindowEnabled(owner))
-            return;
-        ::EnableWindow(owner, FALSE);
-        m_disabled = true;
-    }
-    ~COwnerLock() { Restore(); }
-    COwnerLock(const COwnerLock&) = delete;
-    COwnerLock& operator=(const COwnerLock&) = delete;
-
-    void Restore()
-    {
-        if (std::exchange(m_disabled, false))
-            ::EnableWindow(m_owner, TRUE);
-    }
-
-private:
-    HWND m_owner;
-    bool m_disabled = false;
-};
-} // namespace
+    if (std::exchange(m_disabled, false))
+        ::EnableWindow(m_owner, TRUE);
+}
 
 INT_PTR CDialog::DoModal()
 {
@@ -288,7 +274,7 @@ void CDialog::OnOK()
 LRESULT CDialog::HandleInitDialog(WPARAM, LPARAM)
 {
     PreInitDialog();
-    return Default(); // on to DialogProcedure
+    return Default(); // on to AfxDlgProc
 }
 
 LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM)
@@ -362,20 +348,22 @@ BOOL CDialog::PreTranslateMessage(MSG* pMsg)
     return PreTranslateInput(pMsg);
 }
 
-BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+BOOL RouteBeyondDialog(CWnd& dialog, UINT id, int code, void* extra, AFX_CMDHANDLERINFO* handlerInfo)
 {
-    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-
-    // Only commands of the program go further; notifications and the system's commands stay here.
-    const bool isCommand = nCode == CN_COMMAND || static_cast<UINT>(nCode) == CN_UPDATE_COMMAND_UI;
-    if (!isCommand || (nID & 0x8000) == 0 || nID >= 0xF000)
+    const bool isCommand = code == CN_COMMAND || static_cast<UINT>(code) == CN_UPDATE_COMMAND_UI;
+    if (!isCommand || (id & 0x8000) == 0 || id >= 0xF000)
         return FALSE;
-    CWnd* const owner = GetParent();
-    if (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    CWnd* const owner = dialog.GetParent();
+    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, handlerInfo))
         return TRUE;
     CWinThread* const thread = AfxGetThread();
-    return thread != nullptr && thread->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return thread != nullptr && thread->OnCmdMsg(id, code, extra, handlerInfo);
+}
+
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           RouteBeyondDialog(*this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -51,6 +51,8 @@ public:
             waiting->Attach(window);
             waiting->PreSubclassWindow();
             waiting->TakeOverProcedure();
+            // Its children need no hook; they are many.
+            ::UnhookWindowsHookEx(std::exchange(GetThreadState().creationHook, nullptr));
         }
         return answer;
     }

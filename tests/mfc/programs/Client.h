@@ -18,18 +18,26 @@
 #include "Input.h"
 #include "clients/resource.h"
 
+#include <functional>
 #include <string>
+
+/// Waits for a condition, no longer for long once the test has failed.
+inline bool Waits(const std::function<bool()>& condition)
+{
+    return owtest::PumpUntil(condition, ::testing::Test::HasFailure() ? 500 : 20000);
+}
 
 class Client
 {
 public:
     /// Starts mfc_NAME.exe, which stands beside the test's own program.
-    explicit Client(const std::wstring& name)
+    explicit Client(const std::wstring& name, const std::wstring& arguments = {})
     {
         wchar_t folder[MAX_PATH] = L"";
         ::GetModuleFileNameW(nullptr, folder, MAX_PATH);
         const std::wstring path(folder);
-        std::wstring command = L'"' + path.substr(0, path.rfind(L'\\')) + L"\\mfc_" + name + L".exe\"";
+        std::wstring command =
+            L'"' + path.substr(0, path.rfind(L'\\')) + L"\\mfc_" + name + L".exe\" " + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof start;
         // Wine now and then cannot place a new process at its fixed addresses; the next try does.
@@ -48,25 +56,44 @@ public:
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
-    /// Waits for a visible, enabled window of the program with that title, and brings it to the front.
-    HWND Window(const std::wstring& title) const
+    /// Waits for a visible, enabled window of the program with that title, or any, and brings it to the front.
+    HWND Window(const std::wstring& title = {}) const
     {
         HWND found = nullptr;
-        EXPECT_TRUE(owtest::PumpUntil([&] { return (found = Find(title)) != nullptr || HasEnded(); }));
+        EXPECT_TRUE(Waits([&] { return (found = Find(title)) != nullptr || HasEnded(); }));
         EXPECT_NE(found, nullptr) << "no window of this title";
-        EXPECT_TRUE(owtest::PumpUntil(
-            [&] { return ::SetForegroundWindow(found), ::GetForegroundWindow() == found; }));
+        // It comes to the front by itself, as a rule; to help it then would take the focus from where it was put.
+        const auto isInFront = [&] { return ::GetForegroundWindow() == found; };
+        if (!owtest::PumpUntil(isInFront, 1000))
+        {
+            ::SetForegroundWindow(found);
+            EXPECT_TRUE(Waits(isInFront));
+        }
         return found;
     }
     /// Waits until the program has no such window any more.
     bool Closes(const std::wstring& title) const
     {
-        return owtest::PumpUntil([&] { return Find(title) == nullptr; });
+        return Waits([&] { return Find(title) == nullptr; });
     }
     /// Waits for the program's end.
     bool Ends() const
     {
-        return owtest::PumpUntil([this] { return HasEnded(); });
+        return Waits([this] { return HasEnded(); });
+    }
+
+    /// Waits until an edit control has the focus and all its text is selected: a refused value is to be typed anew.
+    bool IsToBeRetyped(HWND edit) const
+    {
+        return Waits(
+            [=]
+            {
+                GUITHREADINFO info{};
+                info.cbSize = sizeof info;
+                const LRESULT length = ::SendMessageW(edit, WM_GETTEXTLENGTH, 0, 0);
+                return ::GetGUIThreadInfo(::GetWindowThreadProcessId(edit, nullptr), &info) &&
+                       info.hwndFocus == edit && ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
+            });
     }
 
 private:
@@ -91,7 +118,7 @@ private:
         wchar_t text[128] = L"";
         if (process != search.client.m_process.dwProcessId || !::IsWindowVisible(window) ||
             !::IsWindowEnabled(window) || ::GetWindowTextW(window, text, ARRAYSIZE(text)) == 0 ||
-            text != search.title)
+            (!search.title.empty() && text != search.title))
             return TRUE;
         search.found = window;
         return FALSE;
@@ -100,6 +127,9 @@ private:
 
     PROCESS_INFORMATION m_process{};
 };
+
+/// The control of a message box that shows its text.
+constexpr int kBoxText = 0xFFFF;
 
 /// The text of a control of another program; GetWindowText answers only what stands in its frame.
 inline std::wstring TextOfItem(HWND dialog, int id)
@@ -114,7 +144,7 @@ inline std::wstring TextOfItem(HWND dialog, int id)
 /// Waits until a control shows a text; what it shows instead otherwise.
 inline ::testing::AssertionResult Shows(HWND dialog, int id, const std::wstring& text)
 {
-    if (owtest::PumpUntil([&] { return TextOfItem(dialog, id) == text; }))
+    if (Waits([&] { return TextOfItem(dialog, id) == text; }))
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure() << ::testing::PrintToString(TextOfItem(dialog, id));
 }

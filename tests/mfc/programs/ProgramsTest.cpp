@@ -6,6 +6,18 @@ using owtest::Click;
 using owtest::Press;
 using owtest::Type;
 
+namespace
+{
+/// The page of a sheet that is shown, if it has a control of this id.
+HWND ActivePage(HWND sheet, int id)
+{
+    for (HWND page = ::GetTopWindow(sheet); page != nullptr; page = ::GetWindow(page, GW_HWNDNEXT))
+        if (::IsWindowVisible(page) && ::GetDlgItem(page, id) != nullptr)
+            return page;
+    return nullptr;
+}
+} // namespace
+
 TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
 {
     Client program(L"wizard_dialog");
@@ -21,7 +33,8 @@ TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
     program.Window(L"mfc_wizard_dialog");   // the box is named after the program
     Press(VK_RETURN);
     program.Window(L"Wizard's dialog");
-    Type(L"12"); // the refused text is selected
+    EXPECT_TRUE(program.IsToBeRetyped(::GetDlgItem(dialog, IDC_COUNT)));
+    Type(L"12");
     Press(VK_F1);
     EXPECT_TRUE(Shows(dialog, IDC_STATE, L"help for 1002"));
     Click(::GetDlgItem(dialog, IDC_GREET));
@@ -32,5 +45,83 @@ TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
     Press(VK_RETURN);
     program.Window(L"Wizard's dialog");
     Press(VK_ESCAPE);
+    EXPECT_TRUE(program.Ends());
+}
+
+TEST(PropertySheet, TakesItsValuesPageByPageAndAppliesThem)
+{
+    Client program(L"property_sheet", L"part.dat");
+    const HWND sheet = program.Window(L"Beam");
+    const HWND apply = ::GetDlgItem(sheet, ID_APPLY_NOW);
+    EXPECT_FALSE(::IsWindowEnabled(apply));
+    Type(L"HEA\t700");
+    EXPECT_TRUE(Waits([&] { return ::IsWindowEnabled(apply) != FALSE; }));
+    Press(VK_TAB, false, true); // Ctrl+Tab: 700 is refused
+    program.Window(L"mfc_property_sheet");
+    Press(VK_RETURN);
+    program.Window(L"Beam");
+    EXPECT_TRUE(program.IsToBeRetyped(::GetDlgItem(ActivePage(sheet, IDC_HEIGHT), IDC_HEIGHT)));
+    Type(L"300");
+    Press(VK_TAB, false, true);
+    HWND material = nullptr;
+    EXPECT_TRUE(Waits([&] { return (material = ActivePage(sheet, IDC_GRADE)) != nullptr; }));
+    Click(::GetDlgItem(material, IDC_WELDABLE));
+    Press(VK_TAB, true); // back to the list
+    Press(VK_DOWN);
+    Press(VK_NEXT, false, true); // Ctrl+Page Down
+    HWND summary = nullptr;
+    EXPECT_TRUE(Waits([&] { return (summary = ActivePage(sheet, IDC_STATE)) != nullptr; }));
+    EXPECT_TRUE(Shows(summary, IDC_STATE, L"HEA, 300 high, grade 1, weldable"));
+    Click(apply);
+    EXPECT_TRUE(Waits([&] { return !::IsWindowEnabled(apply); }));
+    Click(::GetDlgItem(sheet, IDOK));
+    const HWND box = program.Window(L"mfc_property_sheet");
+    EXPECT_TRUE(Shows(box, kBoxText, L"part.dat by 1: HEA 300, grade 1, weldable 1, applied 2"));
+    Press(VK_RETURN);
+    EXPECT_TRUE(program.Ends());
+}
+
+TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
+{
+    Client program(L"property_sheet", L"/wizard");
+    const HWND wizard = program.Window(); // the title is the sheet's or the page's, as the system has it
+    const auto press = [&](int button)
+    {
+        EXPECT_TRUE(Waits([&] { return ::IsWindowEnabled(::GetDlgItem(wizard, button)) != FALSE; }));
+        Click(::GetDlgItem(wizard, button));
+    };
+    const auto shown = [&](int id)
+    {
+        HWND page = nullptr;
+        EXPECT_TRUE(Waits([&] { return (page = ActivePage(wizard, id)) != nullptr; })) << id;
+        return page;
+    };
+    const auto retype = [&](int id, const wchar_t* text)
+    {
+        Click(::GetDlgItem(shown(id), id));
+        Press(VK_HOME);
+        Press(VK_END, true);
+        Press(VK_DELETE);
+        Type(text);
+    };
+    press(ID_WIZNEXT);
+    shown(IDC_GRADE);
+    press(ID_WIZBACK);
+    retype(IDC_NAME, L"");
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(wizard, ID_WIZBACK)));
+    retype(IDC_HEIGHT, L"600");
+    press(ID_WIZNEXT);
+    shown(IDC_STATE);    // nameless: past the material
+    press(ID_WIZFINISH); // refused: too high
+    press(ID_WIZBACK);
+    shown(IDC_GRADE);
+    press(ID_WIZBACK);
+    retype(IDC_HEIGHT, L"90");
+    press(ID_WIZNEXT);
+    shown(IDC_STATE);
+    press(ID_WIZFINISH);
+    const HWND box = program.Window(L"mfc_property_sheet");
+    EXPECT_TRUE(Shows(box, kBoxText, L" by 12325:  90, grade 0, weldable 0, applied 0"));
+    Press(VK_RETURN);
     EXPECT_TRUE(program.Ends());
 }

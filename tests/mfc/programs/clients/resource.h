@@ -11,3 +11,13 @@
 #define IDC_NAME 1001
 #define IDC_COUNT 1002
 #define IDC_GREET 1003
+
+// property_sheet
+#define IDD_SECTION 200
+#define IDD_MATERIAL 201
+#define IDD_SUMMARY 202
+#define IDS_SHEET 203
+#define IDS_SECTION_TAB 204
+#define IDC_HEIGHT 1200
+#define IDC_GRADE 1201
+#define IDC_WELDABLE 1202
