@@ -84,11 +84,9 @@ CRect Surface::extent(COLORREF color) const
 
 bool Surface::operator==(const Surface& other) const
 {
-    for (int y = 0; y < m_height; ++y)
-        for (int x = 0; x < m_width; ++x)
-            if (at(x, y) != other.at(x, y))
-                return false;
-    return true;
+    ::GdiFlush();
+    const auto same = [](DWORD left, DWORD right) { return ((left ^ right) & 0xFFFFFF) == 0; };
+    return std::equal(m_bits, m_bits + m_width * m_height, other.m_bits, same);
 }
 
 void Capture(HWND window, Surface& into)
