@@ -204,8 +204,11 @@ void Dress(Open<Button>& button, const Look& look)
     static const Icon first(kIconSize.cx, kRed), second(kIconSize.cx, kSecond);
     if (look.image == bitmap)
         button.SetBitmaps(make(kRed), kKey, look.bSecondImage ? make(kSecond) : nullptr, kKey);
-    else if (look.image == icon)
-        button.SetIcon(first, look.bSecondImage ? HICON(second) : nullptr);
+    else
+        button.SetIcon(look.image == icon ? HICON(first) : nullptr,
+                       look.bSecondImage ? HICON(second) : nullptr);
+    button.SetWindowPos(nullptr, 0, 0, look.size.cx, look.size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    button.SetWindowText(look.pszTitle);
     button.SetThemeHelper(look.bThemed ? CButtonST::pLocalTheme : nullptr);
     button.DrawAsToolbar(look.bToolbar);
     button.SetFlat(look.bFlat);
@@ -228,16 +231,17 @@ void ExpectLooks(int nLooks, const std::function<void(Look&, Random&)>& limit,
                  const std::function<void(Button&)>& prepare, const Overlay& overlay)
 {
     Random random(1);
+    Lone<Open<Button>> push(kSize), box(kSize, _T(""), BS_AUTOCHECKBOX);
     for (int i = 0; i < nLooks; ++i)
     {
         Look look(random);
         limit(look, random);
-        Lone<Open<Button>> lone(look.size, look.pszTitle, look.bCheckBox ? BS_AUTOCHECKBOX : BS_PUSHBUTTON);
-        Dress(lone.button, look);
-        prepare(lone.button);
+        Open<Button>& button = look.bCheckBox ? box.button : push.button;
+        Dress(button, look);
+        prepare(button);
         Surface ours(look.size.cx, look.size.cy), expected(look.size.cx, look.size.cy);
-        PaintButton(lone.button, ours, look.ItemState());
-        PaintModel(expected.dc(), look, lone.button, overlay);
+        PaintButton(button, ours, look.ItemState());
+        PaintModel(expected.dc(), look, button, overlay);
         ASSERT_TRUE(ours == expected) << "case " << i;
     }
 }
