@@ -24,10 +24,10 @@ using LogFile = std::unique_ptr<FILE, CloseLog>;
 
 void GoToTmpDirectory()
 {
-    char tmp[kTmpChars] = {};
-    size_t length = 0;
-    if (getenv_s(&length, tmp, sizeof(tmp), "TMP") == 0 && length != 0)
-        _chdir(tmp);
+    char tmp[kTmpChars];
+    size_t length;
+    if (getenv_s(&length, tmp, sizeof(tmp), "TMP") == 0)
+        _chdir(tmp); // changes nothing where there is no value
 }
 
 /// The log, opened for appending; null where neither place can be written.
@@ -79,14 +79,13 @@ void WriteStackFromClipboard(FILE* log)
 void WriteReport(const char* expression, const char* source, int line)
 {
     GoToTmpDirectory();
-    LogFile log = OpenLog();
-    if (!log)
+    if (const LogFile log = OpenLog())
+        WriteFailure(log.get(), expression, source, line);
+    else
         return;
-    WriteFailure(log.get(), expression, source, line);
 
-    // Closed while the stack is walked, so that the first half of the report stands even if the walk fails.
-    log.reset();
-    log = OpenLog();
+    // Closed and opened again, so that the first half of the report stands even if the walk of the stack fails.
+    const LogFile log = OpenLog();
     AfxDumpStack(AFX_STACK_DUMP_TARGET_CLIPBOARD);
     if (log)
         WriteStackFromClipboard(log.get());

@@ -1,8 +1,10 @@
 #pragma once
-// A host dialog for pages, with page dialogs, pages and clients that write down what happens to them.
+// A host dialog for pages with a selector of any kind, and page dialogs, pages and clients that write down what
+// happens to them.
 
 #include <DialogControlsOW.h>
 
+#include "DialogTemplate.h"
 #include "Input.h"
 #include "resource.h"
 
@@ -16,18 +18,27 @@
 /// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain", "Beta after Alpha".
 using Calls = std::vector<std::string>;
 inline Calls calls;
-/// What one of them does about the next such call, once.
-inline std::pair<std::string, std::function<void()>> reaction;
+/// Hears of each call, and of "left fields" when the box of a dialog is left.
+inline std::function<void(const std::string& call)> listener;
 
-inline void React(const std::string& call)
+inline void Hear(const std::string& call)
 {
-    if (reaction.second && reaction.first == call)
-        std::exchange(reaction.second, nullptr)();
+    if (listener)
+        listener(call);
 }
 inline void Note(const std::string& call)
 {
     calls.push_back(call);
-    React(call);
+    Hear(call);
+}
+/// Does something in the first such call from now on.
+inline void Once(const std::string& call, const std::function<void()>& work)
+{
+    listener = [=, done = false](const std::string& heard) mutable
+    {
+        if (heard == call && !std::exchange(done, true))
+            work();
+    };
 }
 
 inline Calls TakeCalls()
@@ -53,6 +64,7 @@ public:
     RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
     ~RecordingPage() override { Note("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
+    const CPageDialog* Dialog() const { return dialog; }
 
     int nCount = 0; ///< what its dialog shows
 
@@ -96,7 +108,7 @@ public:
     {
         if (bound)
             bound->nCount = count.GetValue();
-        React("left " + m_strName);
+        Hear("left " + m_strName);
     }
     using CPageDialog::MyAttributeChanged;
 
@@ -126,10 +138,15 @@ struct RecordingClient : AAddPageNotificationClient,
     {
         Note(name + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
-    void PageSelected(CPage* pNew, CPage* pOld) override { Note(NameOf(pNew) + " after " + NameOf(pOld)); }
+    void PageSelected(CPage* pNew, CPage* pOld) override
+    {
+        pTold = pNew;
+        Note(NameOf(pNew) + " after " + NameOf(pOld));
+    }
     void AttributeChangedUsingGUI() override { Note(name + ": changed"); }
 
     std::string name;
+    CPage* pTold = nullptr; ///< the last selection
 };
 
 /// Identities of the host's pages, in the order of adding.
@@ -144,26 +161,45 @@ enum Identity
     idStranger ///< never added
 };
 
-/// A host with a manager. What selects pages is added by those who derive from it.
+/// A host with a manager, a caption and a selector: a tree, or a combo group with its toggle.
+template <class Selector>
 class PagesHost : public CDialog, public APageFrameProvider
 {
 public:
-    explicit PagesHost(UINT nTemplateId = IDD_HOST) : CDialog(nTemplateId), m_nTemplateId(nTemplateId) {}
+    /// With the pages of Identity, or with none.
+    explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
+    Selector selector = MakeSelector();
+    CPageGradientCaptionStatic caption{selector};
     CPageManager manager{this};
-    RecordingClient selects{"selects"};
+    RecordingClient selects{"selects"}; ///< the first one that the selector tells; the manager is the second
     CRect frame{CPoint(200, 40), CSize(300, 180)};
     int oks = 0, cancels = 0;
-    RecordingDialog* fields = nullptr;
-    RecordingDialog* plain = nullptr;
+    std::vector<RecordingDialog*> dialogs;
+    std::vector<RecordingPage*> pages;
+    RecordingDialog *fields = nullptr, *plain = nullptr;
 
-    bool Open() { return Create(m_nTemplateId) && owtest::Activate(m_hWnd); }
+    bool Open()
+    {
+        constexpr bool bPush = std::is_base_of_v<CPageComboButtonSTCtrlGroup, Selector>;
+        const auto form =
+            owtest::DialogTemplate(L"Pages", 300, 140)
+                .Item(kTree ? L"SysTreeView32" : L"COMBOBOX", L"", IDC_SELECTOR,
+                      WS_TABSTOP | (kTree ? TVS_NOSCROLL | WS_BORDER : CBS_DROPDOWNLIST), 5, 5, 90, 80)
+                .Item(L"BUTTON", L"More", IDC_TOGGLE, WS_TABSTOP | (bPush ? BS_PUSHBUTTON : BS_AUTOCHECKBOX),
+                      5, 86, 60, 12)
+                .Edit(IDC_NAME, 5, 100, 90, 14)
+                .Item(L"STATIC", L"Template", IDC_CAPTION, SS_LEFT, 100, 5, 190, 16)
+                .DefaultButton(L"OK", IDOK, 5, 120, 44, 14)
+                .Button(L"Cancel", IDCANCEL, 51, 120, 44, 14);
+        return CreateIndirect(form.get()) && (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
+    }
     /// The pages that the user sees: one at most.
     std::string Shown() const
     {
         std::string names;
-        for (const RecordingDialog* pDialog : {fields, plain})
+        for (const RecordingDialog* pDialog : dialogs)
         {
             EXPECT_EQ(pDialog->IsWindowVisible(), pDialog->IsWindowEnabled());
             names += pDialog->IsWindowVisible() ? NameOf(pDialog->bound) : "";
@@ -174,17 +210,17 @@ public:
     {
         return static_cast<RecordingPage*>(manager.GetPage(static_cast<CPage::EPageID>(id)));
     }
-    RecordingPage* AddPage(const wchar_t* pszName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
+    RecordingPage* AddPage(const CString& strName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
     {
-        auto* pPage = new RecordingPage(pszName, pDialog, nId);
-        manager.AddPage(pPage, pParent);
-        return pPage;
+        pages.push_back(new RecordingPage(strName, pDialog, nId));
+        manager.AddPage(pages.back(), pParent);
+        return pages.back();
     }
     RecordingDialog* AddDialog(UINT nTemplateId, const char* name)
     {
-        auto* pDialog = new RecordingDialog(nTemplateId, name, this);
-        manager.AddDialog(pDialog);
-        return pDialog;
+        dialogs.push_back(new RecordingDialog(nTemplateId, name, this));
+        manager.AddDialog(dialogs.back());
+        return dialogs.back();
     }
     CRect GetPageFrame() override
     {
@@ -193,12 +229,42 @@ public:
     }
 
 protected:
-    template <class Selector>
-    void Fill(Selector& selector)
+    void DoDataExchange(CDataExchange* pDX) override
     {
+        DDX_Control(pDX, IDC_CAPTION, caption);
+        if constexpr (kTree)
+            DDX_Control(pDX, IDC_SELECTOR, selector);
+        else
+            selector.DoDataExchange(pDX);
+    }
+    BOOL OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
         manager.RegisterAddPageNotification(&selector, true);
-        selector.RegisterSelectPageNotification(&selects, true);
-        selector.RegisterSelectPageNotification(&manager, true);
+        for (ASelectPageNotificationClient* pClient :
+             std::initializer_list<ASelectPageNotificationClient*>{&selects, &manager, &caption})
+            selector.RegisterSelectPageNotification(pClient, true);
+        if (m_bFilled)
+            Fill();
+        GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
+        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
+        return FALSE;
+    }
+    void OnOK() override { ++oks; }
+    void OnCancel() override { ++cancels; }
+
+private:
+    static constexpr bool kTree = std::is_base_of_v<CWnd, Selector>;
+
+    static Selector MakeSelector()
+    {
+        if constexpr (kTree)
+            return Selector();
+        else
+            return Selector(IDC_SELECTOR, IDC_TOGGLE);
+    }
+    void Fill()
+    {
         fields = AddDialog(IDD_FIELDS, "fields");
         plain = AddDialog(IDD_PLAIN, "plain");
         AddPage(L"Gamma", plain, idGamma, AddPage(L"Alpha", fields, idAlpha));
@@ -206,48 +272,20 @@ protected:
         CPage* pDelta = AddPage(L"Delta", fields, idDelta);
         AddPage(L"Earlier", plain, idEarlier, pDelta);
         AddPage(L"Later", plain, idLater, pDelta);
-        ShowWindow(SW_SHOW);
     }
-    void OnOK() override { ++oks; }
-    void OnCancel() override { ++cancels; }
 
-private:
-    UINT m_nTemplateId;
+    bool m_bFilled;
 };
 
 /// A tree whose inner operations a test may call.
-class OpenPageTree : public CPageTreeCtrl
+struct OpenPageTree : CPageTreeCtrl
 {
-public:
     using CPageTreeCtrl::OnTvnSelchanged, CPageTreeCtrl::PageToItem;
 };
 
-/// The usual host: with a tree and a caption.
-class TreeHost : public PagesHost
-{
-public:
-    OpenPageTree tree;
-    CPageGradientCaptionStatic caption{tree};
-
-    BOOL OnInitDialog() override
-    {
-        CDialog::OnInitDialog();
-        Fill(tree);
-        tree.RegisterSelectPageNotification(&caption, true);
-        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
-        return FALSE;
-    }
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, IDC_TREE, tree);
-        DDX_Control(pDX, IDC_CAPTION, caption);
-    }
-};
-
 /// An open host.
-class Pages : public ::testing::Test
+template <class Selector>
+class PagesWith : public ::testing::Test
 {
 protected:
     void SetUp() override
@@ -255,10 +293,12 @@ protected:
         ASSERT_TRUE(m_host.Open());
         TakeCalls();
     }
+    void TearDown() override { listener = nullptr; }
     static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
 
-    TreeHost m_host;
+    PagesHost<Selector> m_host;
     CPageManager& m_manager = m_host.manager;
-    OpenPageTree& m_tree = m_host.tree;
+    Selector& m_selector = m_host.selector;
     RecordingPage* Page(Identity id) { return m_host.Page(id); }
 };
+using Pages = PagesWith<OpenPageTree>;

@@ -26,7 +26,7 @@ TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 {
     {
-        PagesHost host;
+        PagesHost<OpenPageTree> host(false);
         ASSERT_TRUE(host.Open());
         CPageManager manager(&host);
         for (const char* name : {"one", "two"})
@@ -104,7 +104,7 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
     TakeCalls();
     m_manager.PageSelected(pGamma, pAlpha);
     m_manager.PageSelected(pAlpha, pBeta);
-    m_tree.SetCurrentPage(nullptr);
+    m_selector.SetCurrentPage(nullptr);
     EXPECT_EQ(TakeCalls(), Calls{});
 }
 
@@ -121,9 +121,8 @@ TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
     {
         m_manager.PageSelected(Page(from), nullptr);
         m_host.fields->count.SetFocus();
-        reaction = {trigger, [&] { m_manager.PageSelected(Page(to), Page(over)); }};
+        Once(trigger, [&] { m_manager.PageSelected(Page(to), Page(over)); });
         m_manager.PageSelected(Page(over), Page(from));
-        EXPECT_FALSE(reaction.second) << trigger;
         EXPECT_EQ(m_host.Shown(), NameOf(Page(to))) << trigger;
     }
 }
@@ -137,7 +136,7 @@ TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
     RecordingClient first("first"), second("second"), unknown("unknown");
     for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
-    reaction = {"first: A below -", [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; }};
+    Once("first: A below -", [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; });
     auto* pParent = new RecordingPage(L"A", nullptr, 1);
     manager.AddPage(pParent, nullptr);
     EXPECT_EQ(TakeCalls(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));

@@ -2,18 +2,11 @@
 
 #include "PagesHost.h"
 
-#include "DialogTemplate.h"
 #include "Handles.h"
 #include "Picture.h"
 
 namespace
 {
-enum Id : WORD
-{
-    idCombo = 1001,
-    idToggle
-};
-
 /// A group with its inner questions opened.
 template <class Group>
 struct OpenGroup : Group
@@ -24,53 +17,21 @@ using ButtonGroup = OpenGroup<CPageComboButtonSTCtrlGroup>;
 using CheckGroup = OpenGroup<CPageComboCheckCtrlGroup>;
 
 template <class Group>
-class GroupHost : public PagesHost
+class PageComboGroups : public PagesWith<Group>
 {
-public:
-    Group group{idCombo, idToggle};
-
-    bool Open()
-    {
-        constexpr DWORD kToggleStyle = std::is_same_v<Group, CheckGroup> ? BS_AUTOCHECKBOX : BS_PUSHBUTTON;
-        const auto form = owtest::DialogTemplate(L"Pages", 160, 90)
-                              .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | WS_TABSTOP, 4, 4, 80, 80)
-                              .Item(L"BUTTON", L"More", idToggle, kToggleStyle | WS_TABSTOP, 90, 4, 60, 14);
-        return CreateIndirect(form.get()) && owtest::Activate(m_hWnd);
-    }
-    CComboBox& Combo() { return static_cast<CComboBox&>(*GetDlgItem(idCombo)); }
-    CWnd& Toggle() { return *GetDlgItem(idToggle); }
+protected:
+    PagesHost<Group>& host = this->m_host;
+    Group& group = this->m_selector;
+    CWnd& toggle() { return *host.GetDlgItem(IDC_TOGGLE); }
+    CComboBox& combo() { return static_cast<CComboBox&>(*host.GetDlgItem(IDC_SELECTOR)); }
 
     /// What the user sees: the page in the frame, the row, and the toggle if there is one.
     std::string Shown()
     {
-        EXPECT_EQ(Toggle().IsWindowVisible(), Toggle().IsWindowEnabled());
-        return PagesHost::Shown() + ' ' + std::to_string(Combo().GetCurSel()) +
-               (Toggle().IsWindowVisible() ? "+" : "");
+        EXPECT_EQ(toggle().IsWindowVisible(), toggle().IsWindowEnabled());
+        return host.Shown() + ' ' + std::to_string(combo().GetCurSel()) +
+               (toggle().IsWindowVisible() ? "+" : "");
     }
-
-protected:
-    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override
-    {
-        PagesHost::OnInitDialog();
-        Fill(group);
-        return TRUE;
-    }
-};
-
-template <class Group>
-class PageComboGroups : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(host.Open());
-        TakeCalls();
-    }
-
-    GroupHost<Group> host;
-    Group& group = host.group;
-    CPage* Page(Identity id) { return host.Page(id); }
 
     using Move = std::function<void()>;
     Move key(WORD nKey)
@@ -79,9 +40,9 @@ protected:
     }
     Move code(Identity id)
     {
-        return [this, id] { group.SetCurrentPage(Page(id)); };
+        return [this, id] { group.SetCurrentPage(this->Page(id)); };
     }
-    const Move click = [this] { owtest::Click(host.Toggle()); };
+    const Move click = [this] { owtest::Click(toggle()); };
 };
 using PageComboButtonGroup = PageComboGroups<ButtonGroup>;
 using PageComboCheckGroup = PageComboGroups<CheckGroup>;
@@ -95,7 +56,7 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     const auto code = [this](Identity id) { return this->code(id); };
     const auto key = [this](WORD nKey) { return this->key(nKey); };
     const auto& click = this->click;
-    const auto space = [this] { this->host.Toggle().SetFocus(), owtest::Press(VK_SPACE); };
+    const auto space = [this] { this->toggle().SetFocus(), owtest::Press(VK_SPACE); };
     /// The page that shows after each move, and its row, with a plus if there is a toggle.
     const std::tuple<std::function<void()>, std::string, std::string> steps[] = {
         {key(VK_DOWN), "Alpha", "0+"},    {click, "Gamma", "0+"},         {space, "Alpha", "0+"},
@@ -108,7 +69,7 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
         {click, "Delta", "2+"},           // the toggle was on
         {code(idAlpha), "Alpha", "0+"},
     };
-    EXPECT_EQ(this->host.Combo().GetCount(), 3) << "children have no row";
+    EXPECT_EQ(this->combo().GetCount(), 3) << "children have no row";
     EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
     std::string before = "-";
     for (const auto& [move, page, row] : steps)
@@ -116,16 +77,16 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
         const std::string told = page + " after " + std::exchange(before, page);
         move();
         EXPECT_EQ(TakeSelections(), Calls{told});
-        EXPECT_EQ(this->host.Shown(), page + ' ' + row) << told;
+        EXPECT_EQ(this->Shown(), page + ' ' + row) << told;
         EXPECT_EQ(NameOf(this->group.GetCurrentPage()), page) << told;
     }
-    this->group.OnExtComboBoxSelChanged(idToggle, 1);
-    this->group.OnButtonClicked(idCombo);
+    this->group.OnExtComboBoxSelChanged(IDC_TOGGLE, 1);
+    this->group.OnButtonClicked(IDC_SELECTOR);
     EXPECT_EQ(TakeSelections(), Calls{}) << "other controls";
-    this->group.OnExtComboBoxSelChanged(idCombo, -1);
+    this->group.OnExtComboBoxSelChanged(IDC_SELECTOR, -1);
     EXPECT_EQ(TakeSelections(), Calls{"- after Alpha"});
-    EXPECT_EQ(this->host.Shown(), " 0");
-    this->group.OnButtonClicked(idToggle);
+    EXPECT_EQ(this->Shown(), " 0");
+    this->group.OnButtonClicked(IDC_TOGGLE);
     EXPECT_EQ(TakeSelections(), Calls{"- after -"}) << "no row";
 }
 
@@ -139,13 +100,13 @@ TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
         EXPECT_EQ(TakeSelections(), Calls{"Gamma after -"}) << "the one that was added";
         this->group.SetCurrentPage(pUnknown);
         EXPECT_EQ(TakeSelections(), Calls{});
-        EXPECT_EQ(this->host.Shown(), "Gamma -1");
+        EXPECT_EQ(this->Shown(), "Gamma -1");
         EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
     }
     this->group.SetCurrentPage(this->Page(idBeta));
     EXPECT_EQ(TakeSelections(), Calls{"Beta after -"});
-    EXPECT_EQ(this->host.Shown(), "Beta 1") << "what was left on the screen goes with the next selection";
+    EXPECT_EQ(this->Shown(), "Beta 1") << "what was left on the screen goes with the next selection";
     EXPECT_EQ(this->group.FindPage(&twin), 1);
     EXPECT_EQ(this->group.FindParent(this->Page(idDelta)), 4) << "its first child";
     EXPECT_EQ(this->group.FindParent(this->Page(idBeta)), -1);
@@ -167,58 +128,46 @@ TYPED_TEST(PageComboGroups, LeaveNoPageThatAnotherChildHasReplaced)
     this->host.AddPage(L"Newest", this->host.fields, idStranger + 1, this->Page(idDelta));
     this->click();
     EXPECT_EQ(TakeSelections(), Calls{"Delta after Newest"});
-    EXPECT_EQ(this->host.Shown(), "Delta 2+");
+    EXPECT_EQ(this->Shown(), "Delta 2+");
 }
 
 // Who is told of one page selects another: that one shows, and whoever has not been told yet hears of it alone.
+// By code, the clients are told before the controls change.
 TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
 {
     RecordingClient last("last");
-    this->group.RegisterSelectPageNotification(&last, true);
-    const std::tuple<std::function<void()>, Identity, std::string> moves[] = {
-        {this->key(VK_DOWN), idAlpha, "Beta"},
-        {this->click, idAlpha, "Gamma"},
-        {this->code(idBeta), idAlpha, "Beta"},
-        {this->code(idBeta), idGamma, "Beta"}};
-    const std::pair<Identity, const char*> targets[] = {{idDelta, "2+"}, {idLater, "2+"}};
-    for (const auto& [move, from, told] : moves)
-        for (const auto& [to, row] : targets)
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(nullptr), &last})
+        this->group.RegisterSelectPageNotification(pClient, true);
+    const std::tuple<std::function<void()>, Identity, Identity, Identity> moves[] = {
+        {this->key(VK_DOWN), idAlpha, idBeta, idBeta}, // from, to, and what the controls show meanwhile
+        {this->click, idAlpha, idGamma, idGamma},
+        {this->code(idBeta), idAlpha, idBeta, idAlpha},
+        {this->code(idBeta), idGamma, idBeta, idGamma}};
+    for (const auto& [move, from, over, meanwhile] : moves)
+        for (const Identity to : {idDelta, idLater})
             for (const bool bByDialog : {false, true}) // the manager is the second client
             {
-                const std::string start = NameOf(this->Page(from)), target = NameOf(this->Page(to));
-                const std::string heard = told + " after " + start, changed = target + " after " + told;
+                const std::string told = NameOf(this->Page(over)), target = NameOf(this->Page(to));
+                const std::string heard = told + " after " + NameOf(this->Page(from)),
+                                  changed = target + " after " + told;
                 SCOPED_TRACE(heard + ", " + changed + (bByDialog ? ", by the dialog" : ""));
                 this->group.SetCurrentPage(this->Page(from));
                 TakeSelections();
-                reaction = {bByDialog ? "bind " + told : heard,
-                            [&] { this->group.SetCurrentPage(this->Page(to)); }};
+                Once(bByDialog ? "bind " + told : heard,
+                     [&]
+                     {
+                         EXPECT_EQ(this->group.GetCurrentPage(), this->Page(meanwhile));
+                         this->group.SetCurrentPage(this->Page(to));
+                     });
                 move();
                 EXPECT_EQ(TakeSelections(), (Calls{heard, changed, changed}));
-                EXPECT_EQ(this->host.Shown(), target + ' ' + row);
+                EXPECT_EQ(this->Shown(), target + " 2+");
                 EXPECT_EQ(this->group.GetCurrentPage(), this->Page(to));
-                this->group.SetCurrentPage(this->Page(idBeta));
-                EXPECT_EQ(TakeSelections()[0], "Beta after " + target);
             }
-}
-
-TYPED_TEST(PageComboGroups, TellTheClientsBeforeTheRowChangesByCode)
-{
-    RecordingClient other("other");
-    for (RecordingClient* pClient : {&other, static_cast<RecordingClient*>(nullptr)})
-        this->group.RegisterSelectPageNotification(pClient, true);
-    CPage* pBefore = nullptr;
-    for (CPage* pPage : {this->Page(idBeta), this->Page(idDelta)})
-    {
-        const std::string told = NameOf(pPage) + " after " + NameOf(pBefore);
-        reaction = {told, [&] { EXPECT_EQ(this->group.GetCurrentPage(), pBefore); }};
-        this->group.SetCurrentPage(pPage);
-        EXPECT_EQ(TakeSelections(), (Calls{told, told}));
-        pBefore = pPage;
-    }
-    for (RecordingClient* pClient : {&this->host.selects, &other})
+    for (RecordingClient* pClient : {&this->host.selects, &last})
         this->group.RegisterSelectPageNotification(pClient, false);
     this->group.SetCurrentPage(this->Page(idBeta));
-    EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"}) << "the first one stays";
+    EXPECT_EQ(TakeSelections(), Calls{"Beta after Later"}) << "the first one stays";
 }
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
@@ -227,53 +176,50 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
     group.SetCurrentPage(Page(idBeta)); // hides the box, and leaves it checked
     group.SetFocus();
     owtest::Press(VK_DOWN);
-    EXPECT_EQ(host.Shown(), "Later 2+");
+    EXPECT_EQ(Shown(), "Later 2+");
     TakeSelections();
     host.ShowWindow(SW_HIDE);
     EXPECT_EQ(group.GetCurrentPage(), Page(idDelta)) << "a box that is not seen does not count";
     host.ShowWindow(SW_SHOW);
     group.SetCurrentPage(Page(idBeta));
     EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"});
-    host.Toggle().ShowWindow(SW_SHOW);
+    toggle().ShowWindow(SW_SHOW);
     EXPECT_EQ(group.GetCurrentPage(), nullptr);
 }
 
 TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUsable)
 {
-    const auto text = [&] { return owtest::TextOf(host.Toggle()); };
-    EXPECT_EQ(text(), _T("More")) << "the template's, until something is selected by code or clicked";
+    const auto expectText = [&](LPCTSTR pszText) { EXPECT_EQ(owtest::TextOf(toggle()), pszText); };
+    expectText(_T("More")); // the template's, until something is selected by code or clicked
     group.SetCurrentPage(Page(idAlpha));
-    EXPECT_EQ(text(), _T("Napred"));
+    expectText(_T("Napred"));
     click();
-    EXPECT_EQ(text(), _T("Nazad"));
     group.SetStateTexts(_T("Close"), _T("Details"));
-    EXPECT_EQ(text(), _T("Nazad")) << "from the next change on";
+    expectText(_T("Nazad")); // until the next change
     group.SetCurrentPage(Page(idAlpha));
-    EXPECT_EQ(text(), _T("Details"));
+    expectText(_T("Details"));
     group.SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(text(), _T("Close"));
+    expectText(_T("Close"));
     host.ShowWindow(SW_HIDE);
     EXPECT_EQ(group.GetCurrentPage(), Page(idGamma)) << "whether the button is seen or not";
     host.ShowWindow(SW_SHOW);
-    host.Toggle().ShowWindow(SW_SHOW);
-    host.Combo().SetCurSel(1);
+    toggle().ShowWindow(SW_SHOW);
+    combo().SetCurSel(1);
     EXPECT_EQ(group.GetCurrentPage(), nullptr) << "no child, with the button on";
 
     group.SetStateTexts(_T(""), _T(""));
     group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
-    owtest::Surface on(60, 20), off(60, 20);
-    int nBefore = 0;
+    owtest::Surface shown[] = {{60, 20}, {60, 20}};
+    int nHandles = 0;
     for (int i = 0; i < 20; ++i)
     {
         group.SetCurrentPage(Page(i % 2 ? idAlpha : idGamma));
-        host.Toggle().UpdateWindow();
-        CClientDC dc(&host.Toggle());
-        (i % 2 ? off : on).dc().BitBlt(0, 0, 60, 20, &dc, 0, 0, SRCCOPY);
-        EXPECT_TRUE(i == 0 || !(on == off)) << "its icon";
-        nBefore = i == 1 ? owtest::CountHandles().gdi : nBefore;
+        toggle().UpdateWindow();
+        CClientDC dc(&toggle());
+        shown[i % 2].dc().BitBlt(0, 0, 60, 20, &dc, 0, 0, SRCCOPY);
+        EXPECT_TRUE(i == 0 || !(shown[0] == shown[1])) << "its icon";
+        nHandles = i == 1 ? owtest::CountHandles().gdi : nHandles;
     }
-    EXPECT_EQ(owtest::CountHandles().gdi, nBefore);
+    EXPECT_EQ(owtest::CountHandles().gdi, nHandles);
     EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt), CButtonST::resultOk);
-    group.SetCurrentPage(nullptr);
-    EXPECT_EQ(text(), _T(""));
 }

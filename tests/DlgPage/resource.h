@@ -1,9 +1,9 @@
 #pragma once
 
-#define IDD_HOST 100
-#define IDC_TREE 1001
-#define IDC_CAPTION 1002
+#define IDC_SELECTOR 1001
+#define IDC_TOGGLE 1002
 #define IDC_NAME 1003
+#define IDC_CAPTION 1004
 
 #define IDD_FIELDS 101
 #define IDD_PLAIN 102

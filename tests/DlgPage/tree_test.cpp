@@ -10,44 +10,45 @@ TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
 {
     constexpr DWORD kStyles =
         TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_DISABLEDRAGDROP | TVS_SHOWSELALWAYS;
-    EXPECT_EQ(m_tree.GetStyle() & (kStyles | TVS_NOSCROLL), kStyles) << "whatever the template says";
+    EXPECT_EQ(m_selector.GetStyle() & (kStyles | TVS_NOSCROLL), kStyles) << "whatever the template says";
     RecordingPage strange(L"strange", nullptr, idStranger);
     const auto pLost = std::make_unique<RecordingPage>(L"lost", nullptr, idStranger);
-    m_tree.PageAdded(pLost.get(), &strange);
-    EXPECT_EQ(m_tree.GetItemData(m_tree.PageToItem(pLost.get())), reinterpret_cast<DWORD_PTR>(pLost.get()));
+    m_selector.PageAdded(pLost.get(), &strange);
+    EXPECT_EQ(m_selector.GetItemData(m_selector.PageToItem(pLost.get())),
+              reinterpret_cast<DWORD_PTR>(pLost.get()));
     const std::function<std::string(HTREEITEM)> branch = [&](HTREEITEM hItem)
     {
         std::string text;
-        for (; hItem; hItem = m_tree.GetNextSiblingItem(hItem))
+        for (; hItem; hItem = m_selector.GetNextSiblingItem(hItem))
         {
-            EXPECT_FALSE(m_tree.GetItemState(hItem, TVIS_EXPANDED) & TVIS_EXPANDED);
-            text += std::string(CStringA(m_tree.GetItemText(hItem))) + "(" +
-                    branch(m_tree.GetChildItem(hItem)) + ")";
+            EXPECT_FALSE(m_selector.GetItemState(hItem, TVIS_EXPANDED) & TVIS_EXPANDED);
+            text += std::string(CStringA(m_selector.GetItemText(hItem))) + "(" +
+                    branch(m_selector.GetChildItem(hItem)) + ")";
         }
         return text;
     };
-    EXPECT_EQ(branch(m_tree.GetRootItem()), "Alpha(Gamma())Beta()Delta(Earlier()Later())lost()");
-    EXPECT_EQ(m_tree.GetCurrentPage(), nullptr);
+    EXPECT_EQ(branch(m_selector.GetRootItem()), "Alpha(Gamma())Beta()Delta(Earlier()Later())lost()");
+    EXPECT_EQ(m_selector.GetCurrentPage(), nullptr);
     EXPECT_EQ(TakeSelections(), Calls{});
 }
 
 TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
 {
-    m_tree.SetCurrentPage(Page(idAlpha));
+    m_selector.SetCurrentPage(Page(idAlpha));
     TakeCalls();
     CRect rect;
-    m_tree.GetItemRect(m_tree.PageToItem(Page(idBeta)), rect, TRUE);
-    owtest::Click(m_tree, rect.CenterPoint());
+    m_selector.GetItemRect(m_selector.PageToItem(Page(idBeta)), rect, TRUE);
+    owtest::Click(m_selector, rect.CenterPoint());
     EXPECT_EQ(TakeCalls(), (Calls{"Beta after Alpha", "bind Beta", "focus fields"}))
         << "in the order of registering";
-    EXPECT_TRUE(HasFocus(m_tree));
-    EXPECT_EQ(m_tree.GetCurrentPage(), Page(idBeta));
+    EXPECT_TRUE(HasFocus(m_selector));
+    EXPECT_EQ(m_selector.GetCurrentPage(), Page(idBeta));
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"Beta");
 
     for (const WORD key : {VK_UP, VK_RIGHT, VK_DOWN}) // the second opens the branch
         owtest::Press(key);
     EXPECT_EQ(TakeSelections(), (Calls{"Alpha after Beta", "Gamma after Alpha"}));
-    EXPECT_TRUE(HasFocus(m_tree));
+    EXPECT_TRUE(HasFocus(m_selector));
     EXPECT_EQ(m_host.Shown(), "Gamma");
 
     owtest::Press(VK_RETURN);
@@ -58,35 +59,27 @@ TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
 
 TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
 {
-    m_tree.SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(TakeSelections(), Calls{"Gamma after -"});
-    EXPECT_TRUE(HasFocus(m_tree));
+    RecordingClient other("other");
+    for (RecordingClient* pClient : {static_cast<RecordingClient*>(nullptr), &other})
+        m_selector.RegisterSelectPageNotification(pClient, true);
+    m_selector.SetCurrentPage(Page(idGamma));
+    EXPECT_EQ(TakeSelections(), (Calls{"Gamma after -", "Gamma after -"}));
+    EXPECT_TRUE(HasFocus(m_selector));
+    for (RecordingClient* pClient : {&m_host.selects, &other}) // the first one stays
+        m_selector.RegisterSelectPageNotification(pClient, false);
     RecordingPage strange(L"strange", nullptr, idStranger);
     for (CPage* pPage : {Page(idGamma), &strange, static_cast<RecordingPage*>(nullptr)})
-        m_tree.SetCurrentPage(pPage);
+        m_selector.SetCurrentPage(pPage);
     CPageTreeCtrl().SetCurrentPage(Page(idGamma));
     EXPECT_EQ(TakeSelections(), Calls{});
-    m_tree.SelectItem(nullptr);
+    m_selector.SelectItem(nullptr);
     EXPECT_EQ(TakeSelections(), Calls{"- after Gamma"});
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"");
     NMTREEVIEW nothing{};
     LRESULT result = 1;
-    m_tree.OnTvnSelchanged(&nothing.hdr, &result);
+    m_selector.OnTvnSelchanged(&nothing.hdr, &result);
     EXPECT_TRUE(result == 0 && TakeSelections() == Calls{"- after -"});
     EXPECT_EQ(m_host.Shown(), "");
-}
-
-TEST_F(Pages, TheFirstClientOfTheTreeStaysAndNullIsPassedOver)
-{
-    RecordingClient other("other"), unknown("unknown");
-    m_tree.RegisterSelectPageNotification(&other, true);
-    m_tree.RegisterSelectPageNotification(nullptr, true);
-    m_tree.SetCurrentPage(Page(idAlpha));
-    EXPECT_EQ(TakeSelections(), (Calls{"Alpha after -", "Alpha after -"}));
-    for (RecordingClient* pClient : {&m_host.selects, &other, &unknown})
-        m_tree.RegisterSelectPageNotification(pClient, false);
-    m_tree.SetCurrentPage(Page(idBeta));
-    EXPECT_EQ(TakeSelections(), Calls{"Beta after Alpha"});
 }
 
 TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
@@ -95,10 +88,10 @@ TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
     {
         for (int i = 0; i < nTimes; ++i)
         {
-            TreeHost host;
+            PagesHost<OpenPageTree> host;
             ASSERT_TRUE(host.Open());
             for (const Identity id : {idAlpha, idGamma, idBeta})
-                host.tree.SetCurrentPage(host.Page(id));
+                host.selector.SetCurrentPage(host.Page(id));
             host.UpdateWindow();
             owtest::Pump();
         }

@@ -14,8 +14,8 @@
 
 using owtest::TextOf;
 
-constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006;
-constexpr WORD kGivenUnit = 1007, kGivenSpin = 1008, kFree = 1009;
+constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006,
+               kGivenUnit = 1007, kGivenSpin = 1008, kFree = 1009;
 
 inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)};
 inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
@@ -61,8 +61,7 @@ struct BoxesDialog : CDialog
     CEditN lines, plain, readOnly;
     OwnControlsBox own;
     CEditDoubleWithRange given; ///< finds its label and its spin in the template
-    int oks = 0, cancels = 0;
-    int changesSeen = 0; ///< notifications that a box has let through
+    int oks = 0, cancels = 0, changesSeen = 0; ///< the last: notifications that a box has let through
 
     bool Open()
     {

@@ -62,12 +62,6 @@ int CountLoaded()
     return (IsBitmap(Pickers().GetBitmap(Pickers().BitmapCount() - 1)) + ...);
 }
 
-template <class... Pickers>
-void LoadAll()
-{
-    (Pickers::LoadBitmaps(Library()), ...);
-}
-
 std::vector<int> Ids(int first, int last)
 {
     std::vector<int> ids(last - first + 1);
@@ -85,9 +79,7 @@ TEST(ModuleInterface, IsOneObjectThatRegistersNothingUnderPlainNames)
     EXPECT_EQ(pInterface, OwGetDllInterface());
     EXPECT_EQ(pInterface->Setup(nullptr), 1);
     pInterface->InitDocument(nullptr);
-    EXPECT_EQ(pInterface->GetClassRegistry(), nullptr);
-    EXPECT_EQ(pInterface->GetCommandRegistry(), nullptr);
-
+    EXPECT_TRUE(!pInterface->GetClassRegistry() && !pInterface->GetCommandRegistry());
     const auto address = [](const char* name)
     { return reinterpret_cast<void*>(::GetProcAddress(Library(), name)); };
     EXPECT_EQ(address("OwGetDllInterface"), reinterpret_cast<void*>(&OwGetDllInterface));
@@ -157,8 +149,10 @@ TEST(SharedGraphics, CleanupGivesBackFourTablesOfSeven)
     CBitmapBtnSTLinija::UnloadBitmaps();
     EXPECT_EQ(left(), 2) << "these are freed by their own class";
 
-    LoadAll<CBitmapBtnSTKotnaLinija, CBitmapBtnSTTekstKote, CBitmapBtnSTSrafura, CBitmapBtnSTVisinskaKota,
-            CBitmapBtnSTLinija>();
+    for (const auto load : {&CBitmapBtnSTKotnaLinija::LoadBitmaps, &CBitmapBtnSTTekstKote::LoadBitmaps,
+                            &CBitmapBtnSTSrafura::LoadBitmaps, &CBitmapBtnSTVisinskaKota::LoadBitmaps,
+                            &CBitmapBtnSTLinija::LoadBitmaps})
+        load(Library());
     ExpectPictures<CBitmapBtnSTSrafura>(Ids(10139, 10148));
     EXPECT_EQ(given() + left(), 7);
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
@@ -171,13 +165,12 @@ TEST(SharedGraphics, ASecondAttachLoadsThePicturesAgainAndKeepsTheIcons)
     const HICON ok = CButtonST::hIconOk;
     const HBITMAP line = CBitmapBtnSTLinija().GetBitmap(0);
     CThemeHelperST* const pTheme = CButtonST::pLocalTheme;
-
-    EXPECT_TRUE(CallEntryPoint(DLL_THREAD_ATTACH));
-    EXPECT_EQ(CBitmapBtnSTLinija().GetBitmap(0), line) << "threads do nothing";
-
-    EXPECT_TRUE(CallEntryPoint(DLL_PROCESS_ATTACH));
-    EXPECT_EQ(CButtonST::hIconOk, ok);
-    EXPECT_NE(CBitmapBtnSTLinija().GetBitmap(0), line);
-    EXPECT_NE(CButtonST::pLocalTheme, pTheme);
+    for (const DWORD reason : {DLL_THREAD_ATTACH, DLL_PROCESS_ATTACH}) // threads do nothing
+    {
+        EXPECT_TRUE(CallEntryPoint(reason));
+        EXPECT_EQ(CButtonST::hIconOk, ok);
+        EXPECT_EQ(CBitmapBtnSTLinija().GetBitmap(0) == line, reason == DLL_THREAD_ATTACH);
+        EXPECT_EQ(CButtonST::pLocalTheme == pTheme, reason == DLL_THREAD_ATTACH);
+    }
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
 }

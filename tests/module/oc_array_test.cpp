@@ -18,9 +18,7 @@ TEST(ObjectArray, CopiesObjectsThatCanBeCopied)
     marks = copy;
     const OCArray<CString>& itself = marks;
     marks = itself;
-    EXPECT_EQ(marks.GetSize(), 2);
-    EXPECT_STREQ(marks[0], L"IPE 200");
-    EXPECT_STREQ(marks[1], L"L 50x5");
+    EXPECT_TRUE(marks.GetSize() == 2 && marks[0] == L"IPE 200" && marks[1] == L"L 50x5");
 }
 
 TEST(ObjectArray, HoldsObjectsThatCannotBeCopied)
@@ -34,10 +32,11 @@ TEST(ObjectArray, HoldsObjectsThatCannotBeCopied)
     };
     {
         OCArray<Counted> array;
-        array.SetSize(3);
-        EXPECT_EQ(s_nCount, 3);
-        array.SetSize(1);
-        EXPECT_EQ(s_nCount, 1);
+        for (const int nSize : {3, 1})
+        {
+            array.SetSize(nSize);
+            EXPECT_EQ(s_nCount, nSize);
+        }
     }
     EXPECT_EQ(s_nCount, 0);
 }

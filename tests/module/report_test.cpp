@@ -38,9 +38,12 @@ protected:
     fs::path TmpLog() const { return m_base / L"tmp" / L"owserror.log"; }
     fs::path CurrentLog() const { return m_base / L"current" / L"owserror.log"; }
 
-    owtest::ChildResult Run(const char* scenario, const fs::path& program = {}) const
+    /// With a name of at least so many characters for the directory.
+    owtest::ChildResult Run(const char* scenario, const fs::path& program = {}, size_t nTmpLength = 0) const
     {
-        return owtest::RunChild(scenario, {.environment = {{L"TMP", (m_base / L"tmp").wstring()}},
+        std::wstring tmp = (m_base / L"tmp").wstring();
+        tmp.resize(std::max(tmp.size(), nTmpLength), L'\\');
+        return owtest::RunChild(scenario, {.environment = {{L"TMP", tmp}},
                                            .directory = (m_base / L"current").wstring(),
                                            .program = program.wstring()});
     }
@@ -130,7 +133,13 @@ TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeW
     ExpectAssertReport(Read(TmpLog()));
     EXPECT_FALSE(fs::exists(CurrentLog()));
 
-    fs::remove(TmpLog());
+    for (const bool bRead : {true, false}) // as many characters as are read, and one more
+    {
+        fs::remove(TmpLog());
+        Run("failed_assert", {}, bRead ? 249 : 250);
+        EXPECT_TRUE(fs::exists(TmpLog()) == bRead && fs::exists(CurrentLog()) != bRead);
+    }
+    fs::remove(CurrentLog());
     RunWithoutTmp();
     ExpectAssertReport(Read(CurrentLog()));
     EXPECT_FALSE(fs::exists(TmpLog()));
