@@ -3,9 +3,22 @@
 #include "grid/GridAxis.h"
 
 #include <algorithm>
+#include <utility>
+
+namespace
+{
+void CheckCount(LONGLONG nCount)
+{
+    if (nCount > CGridAxis::kMostItems)
+        AfxThrowMemoryException();
+}
+} // namespace
 
 void CGridAxis::SetSize(int nItem, int nSize)
 {
+    if (nSize == Size(nItem))
+        return;
+    Reserve(m_nCount);
     m_nExtent += nSize - Size(nItem);
     m_sizes[nItem] = static_cast<UINT>(nSize);
     SizesChangeFrom(nItem);
@@ -13,46 +26,66 @@ void CGridAxis::SetSize(int nItem, int nSize)
 
 void CGridAxis::SetCount(int nCount, int nSizeOfNew)
 {
-    if (nCount > m_nCount)
+    const bool bMore = nCount > m_nCount;
+    m_nFixed = std::min(m_nFixed, nCount);
+    if (nCount == 0)
+        MakeAlike(0, 0);
+    else if (bMore && StaysAlike(nSizeOfNew))
+        MakeAlike(nCount, nSizeOfNew);
+    else if (!bMore && m_bAlike)
+        MakeAlike(nCount, m_nSizeOfAll);
+    else if (bMore)
+    {
         Reserve(nCount);
+        for (int nItem = m_nCount; nItem < nCount; ++nItem)
+            m_sizes[nItem] = static_cast<UINT>(nSizeOfNew);
+        m_nExtent += static_cast<LONGLONG>(nCount - m_nCount) * nSizeOfNew;
+        m_nCount = nCount;
+    }
     else
     {
+        m_nExtent = SumTo(nCount);
+        m_nSummed = std::min(m_nSummed, nCount);
         m_sizes.SetSize(nCount);
         m_sums.SetSize(INT_PTR(nCount) + 1);
+        m_nCount = nCount;
     }
-    for (int nItem = m_nCount; nItem < nCount; ++nItem)
-        m_sizes[nItem] = static_cast<UINT>(nSizeOfNew);
+}
 
-    if (nCount > m_nCount)
-        m_nExtent += static_cast<LONGLONG>(nCount - m_nCount) * nSizeOfNew;
-    else
-        m_nExtent = SumTo(nCount);
-    m_nSummed = std::min(m_nSummed, nCount);
-    m_nFixed = std::min(m_nFixed, nCount);
+/// Gives back what was kept for items that differ.
+void CGridAxis::MakeAlike(int nCount, int nSize)
+{
+    CheckCount(nCount);
+    m_bAlike = true;
+    m_nSizeOfAll = nSize;
     m_nCount = nCount;
+    m_nExtent = static_cast<LONGLONG>(nCount) * nSize;
+    m_sizes.RemoveAll();
+    m_sums.RemoveAll();
+    m_nSummed = 0;
 }
 
 // The room is there as entries that nobody looks at: an array without entries gives its memory back.
 void CGridAxis::Reserve(LONGLONG nCount)
 {
-    if (nCount > kMostItems)
-        AfxThrowMemoryException();
-    if (nCount <= m_sizes.GetSize())
+    CheckCount(nCount);
+    if (!m_bAlike && nCount <= m_sizes.GetSize())
         return;
     m_sums.SetSize(static_cast<INT_PTR>(nCount) + 1);
     m_sizes.SetSize(static_cast<INT_PTR>(nCount)); // the sums may stay too long if this fails: no harm
+    if (std::exchange(m_bAlike, false))
+        std::fill_n(m_sizes.GetData(), m_nCount, static_cast<UINT>(m_nSizeOfAll));
 }
 
 void CGridAxis::SetAllSizes(int nSize)
 {
-    for (int nItem = 0; nItem < m_nCount; ++nItem)
-        m_sizes[nItem] = static_cast<UINT>(nSize);
-    m_nExtent = static_cast<LONGLONG>(m_nCount) * nSize;
-    SizesChangeFrom(0);
+    MakeAlike(m_nCount, nSize);
 }
 
 void CGridAxis::Insert(int nItem, int nSize)
 {
+    if (StaysAlike(nSize))
+        return MakeAlike(m_nCount + 1, nSize);
     Reserve(LONGLONG(m_nCount) + 1);
     UINT* const pSizes = m_sizes.GetData();
     std::copy_backward(pSizes + nItem, pSizes + m_nCount, pSizes + m_nCount + 1);
@@ -64,10 +97,12 @@ void CGridAxis::Insert(int nItem, int nSize)
 
 void CGridAxis::Remove(int nItem)
 {
-    m_nExtent -= Size(nItem);
-    m_sizes.RemoveAt(nItem);
     if (nItem < m_nFixed)
         --m_nFixed;
+    if (m_bAlike)
+        return MakeAlike(m_nCount - 1, m_nSizeOfAll);
+    m_nExtent -= Size(nItem);
+    m_sizes.RemoveAt(nItem);
     --m_nCount;
     SizesChangeFrom(nItem);
     m_nSummed = std::min(m_nSummed, m_nCount);
@@ -75,7 +110,7 @@ void CGridAxis::Remove(int nItem)
 
 void CGridAxis::Swap(int nItem, int nOther)
 {
-    if (m_sizes[nItem] == m_sizes[nOther])
+    if (Size(nItem) == Size(nOther))
         return;
     std::swap(m_sizes[nItem], m_sizes[nOther]);
     SizesChangeFrom(std::min(nItem, nOther));
@@ -127,8 +162,8 @@ CGridAxis::SVisible CGridAxis::Visible(int nFirst, int nClientEnd) const
 /// Sum of the sizes before an item, renewing what is out of date up to there.
 LONGLONG CGridAxis::SumTo(int nItem) const
 {
-    if (m_sums.GetSize() == 0)
-        return 0; // no item yet
+    if (m_bAlike)
+        return static_cast<LONGLONG>(nItem) * m_nSizeOfAll;
     LONGLONG* const pSums = m_sums.GetData();
     for (; m_nSummed < nItem; ++m_nSummed)
         pSums[m_nSummed + 1] = pSums[m_nSummed] + m_sizes[m_nSummed];
@@ -138,14 +173,16 @@ LONGLONG CGridAxis::SumTo(int nItem) const
 /// The first index from `nFrom` on whose sum is at least that; one more than the count if there is none.
 int CGridAxis::FirstWithSum(int nFrom, LONGLONG nSum) const
 {
-    SumTo(std::min(nFrom, m_nCount));
+    nFrom = std::min(nFrom, m_nCount);
+    if (nSum > m_nExtent)
+        return m_nCount + 1;
+    if (m_bAlike) // the sum is no more than that of all: they have a size, or it is none
+        return std::max<int>(nFrom, nSum > 0 ? static_cast<int>((nSum - 1) / m_nSizeOfAll) + 1 : 0);
+    SumTo(nFrom);
     while (m_nSummed < m_nCount && m_sums[m_nSummed] < nSum)
         SumTo(m_nSummed + 1);
-    if (m_sums.GetSize() == 0)
-        return 1;
     const LONGLONG* const pSums = m_sums.GetData();
-    const LONGLONG* const pEnd = pSums + m_nSummed + 1;
-    return static_cast<int>(std::lower_bound(pSums + std::min(nFrom, m_nCount), pEnd, nSum) - pSums);
+    return static_cast<int>(std::lower_bound(pSums + nFrom, pSums + m_nSummed + 1, nSum) - pSums);
 }
 
 void CGridAxis::SizesChangeFrom(int nItem)

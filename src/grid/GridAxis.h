@@ -13,7 +13,8 @@
 // name: a grid of such sizes still has its scroll bars, and shows what they reach.
 //
 // Sums of sizes are kept and renewed only as far as they are asked for: asking is logarithmic, and changing
-// the sizes one after the other, or adding items at the front, does not sum up all the others each time.
+// the sizes one after the other, or adding items at the front, does not sum up all the others each time. Of
+// items that are all alike, the million rows of a virtual grid for instance, one size is kept and no sums.
 
 #include <afxcoll.h>
 #include <afxtempl.h>
@@ -46,11 +47,11 @@ public:
     /// Whether there is such an item, and it is not hidden.
     bool IsShown(int nItem) const { return Has(nItem) && Size(nItem) > 0; }
     /// Pixels of an item that there is; 0 is hidden.
-    int Size(int nItem) const { return static_cast<int>(m_sizes[nItem]); }
+    int Size(int nItem) const { return m_bAlike ? m_nSizeOfAll : static_cast<int>(m_sizes[nItem]); }
 
     /// Fixed items beyond the count cannot be: the caller sees to that.
     void SetFixed(int nFixed) { m_nFixed = nFixed; }
-    /// Pixels; 0 hides the item.
+    /// Pixels; 0 hides the item. The first that differs takes memory for all: an exception changes nothing.
     void SetSize(int nItem, int nSize);
     /// Adds items of a size at the end, or takes items off it. Lowers the fixed count to the new count if
     /// need be. Memory exceptions leave everything as it was.
@@ -95,6 +96,8 @@ public:
     SVisible Visible(int nFirst, int nClientEnd) const;
 
 private:
+    bool StaysAlike(int nSize) const { return m_bAlike && (m_nCount == 0 || nSize == m_nSizeOfAll); }
+    void MakeAlike(int nCount, int nSize);
     LONGLONG SumTo(int nItem) const;
     int FirstWithSum(int nFrom, LONGLONG nSum) const;
     void SizesChangeFrom(int nItem);
@@ -102,6 +105,8 @@ private:
     int m_nCount = 0;
     int m_nFixed = 0;
     LONGLONG m_nExtent = 0;
+    bool m_bAlike = true; ///< all items have one size, and there is no room for others
+    int m_nSizeOfAll = 0;
     CUIntArray m_sizes;                        ///< behind those of the items there may be room for more
     mutable CArray<LONGLONG, LONGLONG> m_sums; ///< one more than sizes: m_sums[i] is what all before i take
     mutable int m_nSummed = 0;                 ///< m_sums is right up to this index

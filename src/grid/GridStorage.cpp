@@ -174,13 +174,14 @@ bool CGridCtrl::AppendRows(int nRows)
     return Guarded(
         [&]
         {
+            if (m_bVirtualMode)
+                return m_rows.SetCount(nRows, nHeight);
             m_rows.Reserve(nRows);
-            for (int nRow = GetRowCount(); nRow < nRows && !m_bVirtualMode; ++nRow)
+            for (int nRow = GetRowCount(); nRow < nRows; ++nRow)
             {
                 m_rowData.InsertRow(nRow, GetColumnCount(), CellMaker());
                 m_rows.SetCount(nRow + 1, nHeight);
             }
-            m_rows.SetCount(nRows, nHeight);
         });
 }
 
