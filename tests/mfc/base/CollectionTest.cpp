@@ -29,7 +29,7 @@ Texts Contents(const CStringArray& array)
 Texts Contents(const CStringList& list)
 {
     Texts texts;
-    for (POSITION pos = list.GetHeadPosition(); pos != NULL;)
+    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
         texts.emplace_back(list.GetNext(pos));
     return texts;
 }
@@ -157,7 +157,7 @@ TEST(Collections, BadPlacesThrow)
 {
     CUIntArray array;
     CObList list;
-    POSITION none = NULL;
+    POSITION none = nullptr;
     array.SetSize(3);
     EXPECT_EQ(array[2], 0u) << "new numbers are zero";
     const std::function<void()> faults[] = {
@@ -228,7 +228,7 @@ TEST(Array, ThrowingElementsLeaveTheArrayAndNoneIsForgotten)
     EXPECT_EQ(Counted::s_alive, 1);
 }
 
-TEST(Array, HoldsObjectsThatCanNotBeMovedAndPointersOfAType)
+TEST(Array, HoldsObjectsThatCanNotBeMoved)
 {
     struct Cell : CObject
     {
@@ -241,7 +241,14 @@ TEST(Array, HoldsObjectsThatCanNotBeMovedAndPointersOfAType)
     EXPECT_EQ(cells[99].m_value, 7);
     cells.RemoveAt(0);
     EXPECT_EQ(cells[0].m_value, 8);
+}
 
+TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
+{
+    struct Cell : CObject
+    {
+        int m_value = 7;
+    } cells[4];
     CTypedPtrArray<CObArray, Cell*> row;
     row.Add(&cells[0]);
     row.SetAtGrow(2, &cells[2]);
@@ -251,6 +258,38 @@ TEST(Array, HoldsObjectsThatCanNotBeMovedAndPointersOfAType)
     row.InsertAt(0, nullptr, 2);
     EXPECT_EQ(row.GetAt(3), &cells[1]);
     EXPECT_TRUE(row.IsKindOf(RUNTIME_CLASS(CObArray)));
+
+    CTypedPtrList<CObList, Cell*> list;
+    const POSITION middle = list.AddTail(&cells[1]);
+    list.InsertBefore(middle, &cells[0]);
+    list.InsertAfter(middle, &cells[2]);
+    list.SetAt(middle, &cells[3]);
+    list.GetAt(middle)->m_value = 9;
+    list.AddHead(&list);
+    list.GetHead() = &cells[2];
+    std::vector<int> values;
+    for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
+        values.push_back(list.GetNext(pos)->m_value);
+    EXPECT_EQ(values, (std::vector<int>{7, 9, 7, 7, 9, 7}));
+    EXPECT_EQ(list.RemoveHead(), &cells[2]);
+    EXPECT_EQ(list.RemoveTail(), &cells[2]);
+    EXPECT_EQ(list.GetTail(), &cells[3]);
+
+    CTypedPtrMap<CMapStringToOb, CString, Cell*> map;
+    map.SetAt(L"a", &cells[0]);
+    map[L"b"] = &cells[1];
+    Cell* found = nullptr;
+    EXPECT_TRUE(map.Lookup(L"b", found));
+    EXPECT_EQ(found, &cells[1]);
+    EXPECT_FALSE(map.Lookup(L"c", found));
+    EXPECT_EQ(found, &cells[1]) << "left alone";
+    EXPECT_TRUE(map.RemoveKey(L"b"));
+    POSITION pos = map.GetStartPosition();
+    CString key;
+    map.GetNextAssoc(pos, key, found);
+    EXPECT_EQ(key, L"a");
+    EXPECT_EQ(found, &cells[0]);
+    EXPECT_EQ(pos, nullptr);
 }
 
 TEST(List, IsADequeLinkedBothWays)
@@ -278,7 +317,7 @@ TEST(List, IsADequeLinkedBothWays)
         case 2:
         case 3:
         case 4:
-            if (position == NULL)
+            if (position == nullptr)
                 break;
             if (at == 0)
                 ASSERT_EQ(list.RemoveHead(), model.front().c_str());
@@ -311,12 +350,12 @@ TEST(List, IsADequeLinkedBothWays)
         }
         ASSERT_EQ(Contents(list), model) << round;
         Texts backward;
-        for (POSITION pos = list.GetTailPosition(); pos != NULL;)
+        for (POSITION pos = list.GetTailPosition(); pos != nullptr;)
             backward.emplace_front(list.GetPrev(pos));
         ASSERT_EQ(backward, model) << round;
 
         std::vector<POSITION> found; // one after the other, from each on
-        for (POSITION pos = list.Find(letter); pos != NULL; pos = list.Find(letter, pos))
+        for (POSITION pos = list.Find(letter); pos != nullptr; pos = list.Find(letter, pos))
             found.push_back(pos);
         size_t n = 0;
         for (size_t i = 0; i < model.size(); ++i)
@@ -389,7 +428,7 @@ TEST(Map, IsAMapWhateverItsHashTable)
         EXPECT_EQ(map.GetHashTableSize(), places);
         EXPECT_EQ(ThrownBy([&] { map.InitHashTable(5); }), kInvalidArg) << "only while it is empty";
 
-        for (POSITION pos = map.GetStartPosition(); pos != NULL;)
+        for (POSITION pos = map.GetStartPosition(); pos != nullptr;)
         {
             int key = 0;
             int value = 0;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 namespace
 {
 template <class... Controls>
@@ -148,4 +150,102 @@ TEST(ListControl, AnImageListWithAnObjectOutlivesTheControl)
     EXPECT_EQ(list.GetImageList(LVSIL_SMALL), &images);
     host.DestroyWindow();
     EXPECT_EQ(images.GetImageCount(), 1) << "the style alone would have the control destroy it";
+}
+
+namespace
+{
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
+
+/// What a call of a control sends, as the structure that the message points to.
+template <class Structure>
+class Sent
+{
+public:
+    explicit Sent(CWnd& control) : m_control(control)
+    {
+        s_sent = {};
+        m_before = ::SetWindowLongPtr(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
+    }
+    ~Sent() { ::SetWindowLongPtr(m_control, GWLP_WNDPROC, m_before); }
+    /// Whether it was this one, byte by byte.
+    bool Is(const Structure& expected) const { return memcmp(&s_sent, &expected, sizeof(Structure)) == 0; }
+
+private:
+    static LRESULT CALLBACK Procedure(HWND, UINT, WPARAM, LPARAM lParam)
+    {
+        s_sent = *reinterpret_cast<const Structure*>(lParam);
+        return 42;
+    }
+    CWnd& m_control;
+    LONG_PTR m_before;
+    static inline Structure s_sent;
+};
+} // namespace
+
+TEST(CommonControls, StructuresAreFilledFromTheArguments)
+{
+    HostWindow host;
+    LPTSTR const text = const_cast<LPTSTR>(L"text");
+    CListCtrl list;
+    list.Create(0, CRect(), &host, 1);
+    {
+        const Sent<LVITEM> sent(list);
+        EXPECT_EQ(list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8), 42);
+        EXPECT_TRUE(sent.Is({1, 2, 3, 4, 5, text, 0, 6, 7, 8}));
+        EXPECT_EQ(list.SetItem(2, 3, 1, text, 6, 4, 5, 7), 42);
+        EXPECT_TRUE(sent.Is({1, 2, 3, 4, 5, text, 0, 6, 7}));
+        EXPECT_EQ(list.InsertItem(1, 2, text, 4, 5, 6, 7), 42);
+        EXPECT_TRUE(sent.Is({1, 2, 0, 4, 5, text, 0, 6, 7}));
+        EXPECT_EQ(list.InsertItem(2, text, 6), 42);
+        EXPECT_TRUE(sent.Is({LVIF_TEXT | LVIF_IMAGE, 2, 0, 0, 0, text, 0, 6}));
+        EXPECT_EQ(list.SetItemState(2, 4, 5), 42);
+        EXPECT_TRUE(sent.Is({0, 0, 0, 4, 5}));
+        EXPECT_EQ(list.SetItemData(2, 7), 42);
+        EXPECT_TRUE(sent.Is({LVIF_PARAM, 2, 0, 0, 0, nullptr, 0, 0, 7}));
+    }
+    {
+        const Sent<LVCOLUMN> sent(list);
+        EXPECT_EQ(list.InsertColumn(2, text, 1, 9, 3), 42);
+        EXPECT_TRUE(sent.Is({LVCF_TEXT | LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM, 1, 9, text, 0, 3}));
+        EXPECT_EQ(list.InsertColumn(2, text), 42);
+        EXPECT_TRUE(sent.Is({LVCF_TEXT | LVCF_FMT, LVCFMT_LEFT, 0, text}));
+    }
+    {
+        const Sent<LVBKIMAGE> sent(list);
+        EXPECT_EQ(list.SetBkImage(HBITMAP(7), TRUE, 3, 4), 42);
+        EXPECT_TRUE(sent.Is({LVBKIF_SOURCE_HBITMAP | LVBKIF_STYLE_TILE, HBITMAP(7), nullptr, 0, 3, 4}));
+        EXPECT_EQ(list.SetBkImage(text, FALSE, 3, 4), 42);
+        EXPECT_TRUE(sent.Is({LVBKIF_SOURCE_URL, nullptr, text, 0, 3, 4}));
+    }
+    CTreeCtrl tree;
+    tree.Create(0, CRect(), &host, 2);
+    const auto node = HTREEITEM(9);
+    {
+        const Sent<TVITEM> sent(tree);
+        EXPECT_EQ(tree.SetItem(node, 1, text, 6, 7, 4, 5, 8), 42);
+        EXPECT_TRUE(sent.Is({1 | TVIF_HANDLE, node, 4, 5, text, 0, 6, 7, 0, 8}));
+        EXPECT_EQ(tree.SetItemImage(node, 6, 7), 42);
+        EXPECT_TRUE(sent.Is({TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE, node, 0, 0, nullptr, 0, 6, 7}));
+        EXPECT_EQ(tree.SetItemState(node, 4, 5), 42);
+        EXPECT_TRUE(sent.Is({TVIF_HANDLE | TVIF_STATE, node, 4, 5}));
+    }
+    {
+        const Sent<TVINSERTSTRUCT> sent(tree);
+        TVINSERTSTRUCT like = {HTREEITEM(2), HTREEITEM(3), {}};
+        EXPECT_EQ(tree.InsertItem(1, text, 6, 7, 4, 5, 8, HTREEITEM(2), HTREEITEM(3)), HTREEITEM(42));
+        like.item = {1, nullptr, 4, 5, text, 0, 6, 7, 0, 8};
+        EXPECT_TRUE(sent.Is(like));
+        EXPECT_EQ(tree.InsertItem(text, 6, 7, HTREEITEM(2), HTREEITEM(3)), HTREEITEM(42));
+        like.item = {TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, nullptr, 0, 0, text, 0, 6, 7};
+        EXPECT_TRUE(sent.Is(like));
+    }
+    CTabCtrl tab;
+    tab.Create(0, CRect(), &host, 3);
+    const Sent<TCITEM> sent(tab);
+    EXPECT_EQ(tab.InsertItem(2, text, 3), 42);
+    EXPECT_TRUE(sent.Is({TCIF_TEXT | TCIF_IMAGE, 0, 0, text, 0, 3}));
+    EXPECT_EQ(tab.InsertItem(TCIF_PARAM, 2, text, 3, 4), 42);
+    EXPECT_TRUE(sent.Is({TCIF_PARAM, 0, 0, text, 0, 3, 4}));
+    EXPECT_EQ(tab.SetItemState(2, 5, 4), 42);
+    EXPECT_TRUE(sent.Is({TCIF_STATE, 4, 5}));
 }

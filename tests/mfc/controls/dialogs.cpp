@@ -110,3 +110,42 @@ TEST(ColorDialog, StartsFromTheColourAndAnswersIt)
     EXPECT_EQ(CColorDialog::GetSavedCustomColors(), dialog.m_cc.lpCustColors)
         << "one palette for all dialogs";
 }
+
+/// Accepts what it starts from.
+class ScriptedFontDialog : public CFontDialog
+{
+public:
+    using CFontDialog::CFontDialog;
+    LOGFONT current = {};
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        GetCurrentFont(&current);
+        PostMessage(WM_COMMAND, IDOK);
+        return CFontDialog::OnInitDialog();
+    }
+};
+
+TEST(FontDialog, StartsFromTheFontAndAnswersIt)
+{
+    LOGFONT start = {};
+    start.lfHeight = -16; // 12 points
+    start.lfWeight = FW_BOLD;
+    start.lfItalic = TRUE;
+    start.lfUnderline = TRUE;
+    ::lstrcpy(start.lfFaceName, L"Liberation Sans");
+    ScriptedFontDialog dialog(&start);
+    ASSERT_EQ(dialog.DoModal(), IDOK);
+    EXPECT_STREQ(dialog.current.lfFaceName, L"Liberation Sans") << "asked of the open dialog";
+    LOGFONT chosen = {};
+    dialog.GetCurrentFont(&chosen);
+    EXPECT_EQ(chosen.lfHeight, -16);
+    EXPECT_EQ(dialog.GetFaceName(), L"Liberation Sans");
+    EXPECT_EQ(dialog.GetSize(), 120);
+    EXPECT_EQ(dialog.GetWeight(), FW_BOLD);
+    EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
+    CClientDC screen(nullptr);
+    EXPECT_EQ(CFontDialog(nullptr, 0, &screen).m_cf.Flags & (CF_PRINTERFONTS | CF_INITTOLOGFONTSTRUCT),
+              DWORD{CF_PRINTERFONTS});
+}

@@ -135,21 +135,125 @@ TEST(GdiObject, RoundsLeaveNothingBehind)
 
 TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
 {
+    const auto pack = [](auto pair) { return LRESULT(*reinterpret_cast<const LONGLONG*>(&pair)); };
+    const auto state = [](const CDC& dc)
+    {
+        CRect clip;
+        dc.GetClipBox(clip);
+        XFORM form = {};
+        dc.GetWorldTransform(&form);
+        const CPoint at = dc.GetCurrentPosition();
+        const CPoint corner = dc.GetViewportOrg() + CSize(dc.GetWindowOrg());
+        const CSize scale(dc.GetViewportExt().cx * 99 + dc.GetWindowExt().cx, dc.GetLayout());
+        return std::vector<double>{double(dc.GetBkColor()),
+                                   double(dc.GetBkMode()),
+                                   double(dc.GetPolyFillMode()),
+                                   double(dc.GetROP2()),
+                                   double(dc.GetStretchBltMode()),
+                                   double(dc.GetTextColor()),
+                                   double(dc.GetMapMode()),
+                                   double(dc.GetGraphicsMode()),
+                                   double(dc.GetArcDirection()),
+                                   double(dc.GetTextAlign()),
+                                   double(dc.GetTextCharacterExtra()),
+                                   double(corner.x),
+                                   double(corner.y),
+                                   double(scale.cx),
+                                   double(scale.cy),
+                                   double(clip.left),
+                                   double(clip.right),
+                                   double(clip.top),
+                                   double(form.eDx),
+                                   double(form.eM11),
+                                   double(at.x),
+                                   double(at.y)};
+    };
+    const XFORM twice = {2, 0, 0, 2, 3, 3};
+    const POINT points[] = {{7, 8}, {9, 3}, {5, 6}};
+    const BYTE lines[] = {PT_MOVETO, PT_LINETO, PT_LINETO};
+    CRgn region;
+    region.CreateRectRgn(5, 5, 20, 20);
+    const struct
+    {
+        std::function<LRESULT(CDC&)> change;
+        LRESULT before; ///< which the call answers, or TRUE
+    } cases[] = {
+        {[](CDC& dc) { return LRESULT(dc.SetBkColor(1)); }, RGB(255, 255, 255)},
+        {[](CDC& dc) { return dc.SetBkMode(TRANSPARENT); }, OPAQUE},
+        {[](CDC& dc) { return dc.SetPolyFillMode(WINDING); }, ALTERNATE},
+        {[](CDC& dc) { return dc.SetROP2(R2_NOT); }, R2_COPYPEN},
+        {[](CDC& dc) { return dc.SetStretchBltMode(COLORONCOLOR); }, BLACKONWHITE},
+        {[](CDC& dc) { return LRESULT(dc.SetTextColor(1)); }, 7},
+        {[](CDC& dc) { return dc.SetArcDirection(AD_CLOCKWISE); }, AD_COUNTERCLOCKWISE},
+        {[](CDC& dc) { return LRESULT(dc.SetTextAlign(TA_LEFT)); }, TA_RIGHT},
+        {[](CDC& dc) { return dc.SetTextCharacterExtra(3); }, 2},
+        {[&](CDC& dc) { return pack(dc.SetViewportOrg(CPoint(8, 9))); }, pack(CPoint(1, 2))},
+        {[&](CDC& dc) { return pack(dc.OffsetViewportOrg(8, 9)); }, pack(CPoint(1, 2))},
+        {[&](CDC& dc) { return pack(dc.SetWindowOrg(8, 9)); }, pack(CPoint(3, 4))},
+        {[&](CDC& dc) { return pack(dc.OffsetWindowOrg(8, 9)); }, pack(CPoint(3, 4))},
+        {[&](CDC& dc) { return pack(dc.SetViewportExt(CSize(8, 9))); }, pack(CSize(10, 20))},
+        {[&](CDC& dc) { return pack(dc.ScaleViewportExt(2, 1, 2, 1)); }, pack(CSize(10, 20))},
+        {[&](CDC& dc) { return pack(dc.SetWindowExt(8, 9)); }, pack(CSize(30, 40))},
+        {[&](CDC& dc) { return pack(dc.ScaleWindowExt(2, 1, 2, 1)); }, pack(CSize(30, 40))},
+        {[](CDC& dc) { return dc.SetMapMode(MM_TEXT); }, MM_ANISOTROPIC},
+        {[](CDC& dc) { return LRESULT(dc.SetLayout(LAYOUT_RTL)); }, 0},
+        {[](CDC& dc) { return LRESULT(dc.SetLayout(0)); }, LAYOUT_RTL},
+        {[](CDC& dc) { return dc.SetGraphicsMode(GM_ADVANCED); }, GM_COMPATIBLE},
+        {[&](CDC& dc) { return dc.SetWorldTransform(&twice); }, TRUE},
+        {[&](CDC& dc) { return dc.ModifyWorldTransform(&twice, MWT_LEFTMULTIPLY); }, TRUE},
+        {[&](CDC& dc) { return dc.ModifyWorldTransform(nullptr, MWT_IDENTITY); }, TRUE},
+        {[&](CDC& dc) { return pack(dc.MoveTo(5, 6)); }, pack(CPoint(0, 0))},
+        {[&](CDC& dc) { return pack(dc.MoveTo(CPoint(6, 7))); }, pack(CPoint(5, 6))},
+        {[&](CDC& dc) { return dc.LineTo(CPoint(3, 3)); }, TRUE},
+        {[&](CDC& dc) { return dc.PolylineTo(points, 2); }, TRUE},
+        {[&](CDC& dc) { return dc.PolyBezierTo(points, 3); }, TRUE},
+        {[&](CDC& dc) { return dc.PolyDraw(points, lines, 2); }, TRUE},
+        {[&](CDC& dc) { return dc.ArcTo(CRect(0, 0, 20, 20), CPoint(20, 0), CPoint(0, 9)); }, TRUE},
+        {[&](CDC& dc) { return dc.AngleArc(20, 20, 10, 0, 90); }, TRUE},
+        {[&](CDC& dc) { return dc.SelectClipRgn(&region); }, SIMPLEREGION},
+        {[&](CDC& dc) { return dc.OffsetClipRgn(CSize(2, 2)); }, SIMPLEREGION},
+        {[&](CDC& dc) { return dc.SelectClipRgn(&region, RGN_OR); }, COMPLEXREGION},
+        {[&](CDC& dc) { return dc.IntersectClipRect(CRect(0, 0, 10, 10)); }, SIMPLEREGION},
+        {[&](CDC& dc) { return dc.ExcludeClipRect(CRect(0, 0, 9, 40)); }, SIMPLEREGION},
+        {[&](CDC& dc) { return dc.SelectClipRgn(nullptr); }, SIMPLEREGION},
+    };
     MemoryDC output;
     MemoryDC attributes;
     CDC dc;
     dc.SetOutputDC(output);
     dc.SetAttribDC(attributes);
-    dc.SetTextColor(RGB(4, 5, 6));
-    dc.SetPixel(3, 3, RGB(7, 8, 9));
-    EXPECT_EQ(output.GetTextColor(), RGB(4, 5, 6));
-    EXPECT_EQ(attributes.GetTextColor(), RGB(4, 5, 6));
-    EXPECT_EQ(output.GetPixel(3, 3), RGB(7, 8, 9));
-    EXPECT_NE(attributes.GetPixel(3, 3), RGB(7, 8, 9));
-    EXPECT_EQ(dc.SaveDC(), -1) << "the contexts count apart, so only the last state has a common name";
-    EXPECT_TRUE(dc.RestoreDC(-1));
+    dc.SetPixel(40, 40, RGB(7, 8, 9));
+    EXPECT_EQ(output.GetPixel(40, 40), RGB(7, 8, 9));
+    EXPECT_NE(attributes.GetPixel(40, 40), RGB(7, 8, 9));
+    for (HDC each : {output.m_hDC, attributes.m_hDC})
+    {
+        ::SetTextColor(each, 7);
+        ::SetTextAlign(each, TA_RIGHT);
+        ::SetTextCharacterExtra(each, 2);
+        ::SetMapMode(each, MM_ANISOTROPIC);
+        ::SetViewportOrgEx(each, 1, 2, nullptr);
+        ::SetWindowOrgEx(each, 3, 4, nullptr);
+        ::SetViewportExtEx(each, 10, 20, nullptr);
+        ::SetWindowExtEx(each, 30, 40, nullptr);
+    }
+    for (const auto& c : cases)
+    {
+        SCOPED_TRACE(&c - cases);
+        const bool scales = &c - cases >= 9 && &c - cases < 17; // each of these from the same mapping
+        const int saved = scales ? dc.SaveDC() : 0;
+        EXPECT_EQ(saved, scales ? -1 : 0)
+            << "the contexts count apart: only the last state has a common name";
+        const auto was = state(attributes);
+        EXPECT_EQ(c.change(dc), c.before);
+        EXPECT_NE(state(attributes), was);
+        EXPECT_EQ(state(output), state(attributes));
+        EXPECT_TRUE(!scales || dc.RestoreDC(saved));
+        EXPECT_TRUE(!scales || state(output) == was);
+    }
+    EXPECT_TRUE(dc.SetTextJustification(3, 1));
     dc.ReleaseOutputDC();
     dc.ReleaseAttribDC();
+    EXPECT_EQ(dc.SetTextColor(1), CLR_INVALID) << "without a context";
 }
 
 TEST(DeviceContext, HimetricIsHundredthsOfAMillimetreAndFontHeightsAreTenthsOfAPoint)
@@ -194,6 +298,52 @@ TEST(Menu, ADestroyedObjectDestroysItsMenuAndASubMenuOnlyPasses)
     }
     EXPECT_FALSE(::IsMenu(owned));
     EXPECT_FALSE(::IsMenu(popupHandle)) << "a pop-up goes with the menu that holds it";
+}
+
+TEST(Menu, ItemsAreFoundByTheirIdOrPlaceAndBringTheirStates)
+{
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(8, 8, 1, 1, nullptr));
+    EXPECT_TRUE(menu.AppendMenu(MF_STRING, 1, L"one"));
+    EXPECT_TRUE(menu.AppendMenu(MF_STRING, 2, &bitmap));
+    EXPECT_TRUE(menu.InsertMenu(0, MF_BYPOSITION, 3, &bitmap));
+    EXPECT_TRUE(menu.InsertMenu(1, MF_BYCOMMAND, 4, L"four"));
+    EXPECT_TRUE(menu.ModifyMenu(2, MF_BYCOMMAND, 2, L"two"));
+    EXPECT_TRUE(menu.ModifyMenu(3, MF_BYCOMMAND, 3, &bitmap));
+    std::vector<UINT> ids;
+    for (UINT i = 0; i < menu.GetMenuItemCount(); ++i)
+        ids.push_back(menu.GetMenuItemID(static_cast<int>(i)));
+    EXPECT_EQ(ids, (std::vector<UINT>{3, 4, 1, 2}));
+    TCHAR text[8] = {};
+    EXPECT_EQ(menu.GetMenuString(2, text, 8, MF_BYCOMMAND), 3);
+    EXPECT_STREQ(text, L"two");
+    EXPECT_NE(menu.GetMenuState(3, MF_BYCOMMAND) & MF_BITMAP, 0u);
+
+    EXPECT_EQ(menu.CheckMenuItem(1, MF_CHECKED), UINT{MF_UNCHECKED});
+    EXPECT_EQ(menu.CheckMenuItem(1, MF_UNCHECKED), UINT{MF_CHECKED});
+    EXPECT_EQ(menu.EnableMenuItem(1, MF_GRAYED), UINT{MF_ENABLED});
+    EXPECT_EQ(menu.EnableMenuItem(1, MF_ENABLED), UINT{MF_GRAYED});
+    EXPECT_TRUE(menu.CheckMenuRadioItem(1, 2, 2, MF_BYCOMMAND));
+    EXPECT_TRUE(menu.SetMenuItemBitmaps(1, MF_BYCOMMAND, &bitmap, nullptr));
+    EXPECT_TRUE(menu.SetDefaultItem(3, TRUE));
+    EXPECT_EQ(menu.GetDefaultItem(0, TRUE), 3u);
+    EXPECT_TRUE(menu.SetMenuContextHelpId(77));
+    EXPECT_EQ(menu.GetMenuContextHelpId(), 77u);
+    MENUITEMINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_ID | MIIM_DATA;
+    EXPECT_TRUE(menu.GetMenuItemInfo(2, &info, TRUE));
+    EXPECT_EQ(info.wID, 1u);
+    info.dwItemData = 5;
+    EXPECT_TRUE(menu.SetMenuItemInfo(1, &info));
+    info.wID = 9;
+    EXPECT_TRUE(menu.InsertMenuItem(0, &info, TRUE));
+    EXPECT_EQ(menu.GetMenuItemID(0), 9u);
+    EXPECT_FALSE(menu.LoadMenu(4999));
+    EXPECT_TRUE(menu.DestroyMenu());
+    EXPECT_FALSE(menu.DestroyMenu());
 }
 
 TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)

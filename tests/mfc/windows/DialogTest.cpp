@@ -365,4 +365,45 @@ TEST_F(Dialog, HandsCommandsOfTheProgramToItsOwnerAndDoesNotHearItsOwnDataExchan
     dialog.SetDlgItemText(idEdit, L"by the program");
     EXPECT_EQ(dialog.m_changesHeard, 1);
 }
+
+TEST(ModalLoop, IdleTimeIsCountedUntilItIsDeclinedAndBeginsAnewWithAMessage)
+{
+    struct CParentWnd : CWnd
+    {
+        int m_idle = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            m_idle += message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX;
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } owner;
+    struct CModalWnd : CWnd
+    {
+        std::vector<LPARAM> m_kicks;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message != WM_KICKIDLE)
+                return CWnd::WindowProc(message, wParam, lParam);
+            m_kicks.push_back(lParam);
+            if (m_kicks.size() == 2)
+                PostMessage(WM_APP);
+            if (m_kicks.size() == 4)
+                EndModalLoop(17);
+            return lParam < 1; // once more
+        }
+    } window;
+    ASSERT_TRUE(CreatePopup(owner));
+    ASSERT_TRUE(CreatePopup(window, &owner));
+    EXPECT_EQ(window.RunModalLoop(MLF_SHOWONIDLE), 17);
+    EXPECT_EQ(window.m_kicks, (std::vector<LPARAM>{0, 1, 0, 1}));
+    EXPECT_EQ(owner.m_idle, 2) << "told once for each idle time";
+    EXPECT_TRUE(window.IsWindowVisible());
+
+    window.ShowWindow(SW_HIDE);
+    window.PostMessage(WM_CLOSE); // which ends the loop with the window
+    EXPECT_EQ(window.RunModalLoop(MLF_NOIDLEMSG | MLF_NOKICKIDLE), 17);
+    EXPECT_EQ(window.m_hWnd, nullptr);
+    EXPECT_EQ(window.m_kicks.size(), 4u);
+    EXPECT_EQ(owner.m_idle, 2);
+}
 } // namespace

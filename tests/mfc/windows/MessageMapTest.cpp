@@ -1,5 +1,6 @@
 // Message maps: dispatch by signature, reflection before the parent, commands, notifications and ranges.
 
+#include "MemberNames.h"
 #include "TestWindows.h"
 
 #include <gtest/gtest.h>
@@ -339,5 +340,74 @@ TEST_F(MessageMap, ItemsKeysAndScrollingAreGivenBackToTheControl)
     EXPECT_EQ(parent.SendMessage(WM_VKEYTOITEM, MAKEWPARAM(3, 7), control), 307);
     parent.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 12), control);
     EXPECT_EQ(trace.back(), "scroll 5 12");
+}
+
+/// Has every window message in its map and no handler of its own.
+class CEverything : public CWnd
+{
+public:
+    std::vector<MSG> m_defaults;
+    static const AFX_MSGMAP_ENTRY* Entries() { return GetThisMessageMap()->lpEntries; }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_defaults.push_back({m_hWnd, message, wParam, lParam, 0, {}});
+        return 1;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CEverything, CWnd)
+    OW_WINDOW_MESSAGES
+END_MESSAGE_MAP()
+
+TEST_F(MessageMap, AHandlerThatIsNotOverriddenHandsItsMessageOnAsItCame)
+{
+    CEverything everything;
+    ASSERT_TRUE(everything.Attach(foreign)); // its messages do not reach the object by themselves
+    const BYTE structure[256] = {};
+    for (auto* entry = CEverything::Entries(); entry->nSig != AfxSig_end; ++entry)
+    {
+        if (entry->nMessage == WM_NCDESTROY)
+            continue; // the end of the object
+        const UINT message = entry->nMessage == WM_CTLCOLOR ? WM_CTLCOLORDLG : entry->nMessage;
+        SCOPED_TRACE(message);
+        everything.m_defaults.clear();
+        const auto lParam = reinterpret_cast<LPARAM>(structure);
+        AfxCallWndProc(&everything, foreign, message, 0x30002, lParam);
+        ASSERT_EQ(everything.m_defaults.size(), 1u);
+        EXPECT_EQ(everything.m_defaults[0].message, message);
+        EXPECT_EQ(everything.m_defaults[0].wParam, WPARAM{0x30002});
+        EXPECT_EQ(everything.m_defaults[0].lParam, lParam);
+    }
+    everything.Detach();
+}
+
+TEST_F(MessageMap, BroadcastsOfTheSystemAreHandedDownByTheTopLevelWindowOnly)
+{
+    struct CListener : CWnd
+    {
+        std::vector<Trace::value_type> m_heard;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            m_heard.push_back(std::to_string(message) + ' ' + std::to_string(wParam) + ' ' +
+                              std::to_string(lParam));
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+    } child, grandChild;
+    ASSERT_TRUE(CreateChild(child, parent, 1));
+    ASSERT_TRUE(CreateChild(grandChild, child, 1));
+    for (UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DISPLAYCHANGE})
+    {
+        const bool carries = message != WM_SYSCOLORCHANGE;
+        child.m_heard.clear();
+        grandChild.m_heard.clear();
+        child.SendMessage(message, 5, 0);
+        EXPECT_TRUE(grandChild.m_heard.empty());
+        child.m_heard.clear();
+        parent.SendMessage(message, carries ? 5 : 0, 0);
+        const Trace heard{std::to_string(message) + (carries ? " 5 0" : " 0 0")};
+        EXPECT_EQ(child.m_heard, heard);
+        EXPECT_EQ(grandChild.m_heard, heard);
+    }
 }
 } // namespace

@@ -344,4 +344,187 @@ TEST(Window, PushButtonsWithoutAHandlerAreDisabledAndNoOtherControl)
         EXPECT_EQ(control.IsWindowEnabled() != FALSE, c.enabled) << c.style;
     }
 }
+
+/// A visible window with an edit and two radio buttons, and with scroll bars of its own or, if it is told so, in their
+/// place a control.
+class CFormWnd : public CWnd
+{
+public:
+    CFormWnd()
+    {
+        EXPECT_TRUE(CreateEx(0, nullptr, L"form of the calls",
+                             WS_POPUP | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, CRect(40, 40, 240, 140),
+                             nullptr, 0));
+        EXPECT_TRUE(
+            m_edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP, CRect(0, 0, 80, 20), this, 1));
+        EXPECT_TRUE(m_first.Create(L"first", radio | WS_GROUP, CRect(0, 20, 80, 40), this, 2));
+        EXPECT_TRUE(m_second.Create(L"second", radio, CRect(0, 40, 80, 60), this, 3));
+        EXPECT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, CRect(0, 60, 80, 70), this, 4));
+    }
+    CScrollBar* GetScrollBarCtrl(int) const override
+    {
+        return m_barCounts ? const_cast<CScrollBar*>(&m_bar) : nullptr;
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        m_last = {m_hWnd, message, wParam, lParam, 0, {}};
+        m_paints += message == WM_PAINT;
+        return message == WM_APP ? 7 : CWnd::WindowProc(message, wParam, lParam);
+    }
+
+    CEdit m_edit;
+    CButton m_first;
+    CButton m_second;
+    CScrollBar m_bar;
+    bool m_barCounts = false;
+    MSG m_last{};
+    int m_paints = 0;
+
+private:
+    static constexpr DWORD radio = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTORADIOBUTTON;
+};
+
+TEST(Window, CallsOnItsPlaceAndItsNeighbours)
+{
+    CFormWnd form;
+    EXPECT_EQ(CWnd::FindWindow(nullptr, L"form of the calls"), &form);
+    EXPECT_EQ(CWnd::FindWindowEx(form, form.m_edit, nullptr, L"second"), &form.m_second);
+    EXPECT_EQ(form.ChildWindowFromPoint(CPoint(5, 25)), &form.m_first);
+    form.m_first.ShowWindow(SW_HIDE);
+    EXPECT_EQ(form.ChildWindowFromPoint(CPoint(5, 25), CWP_SKIPINVISIBLE), &form);
+    EXPECT_EQ(form.GetNextDlgTabItem(&form.m_edit), &form.m_second);
+    form.m_first.ShowWindow(SW_SHOW);
+    EXPECT_EQ(form.GetNextDlgGroupItem(&form.m_second, TRUE), &form.m_first);
+
+    CRect area(0, 0, 10, 10);
+    form.ClientToScreen(area);
+    EXPECT_EQ(area, CRect(40, 40, 50, 50));
+    form.ScreenToClient(area);
+    EXPECT_EQ(area, CRect(0, 0, 10, 10));
+    form.m_second.MapWindowPoints(&form, area);
+    EXPECT_EQ(area, CRect(0, 40, 10, 50));
+    CPoint point(1, 1);
+    form.m_second.MapWindowPoints(&form, &point, 1);
+    EXPECT_EQ(point, CPoint(1, 41));
+    form.MoveWindow(CRect(50, 60, 260, 170));
+    WINDOWPLACEMENT placement = {};
+    EXPECT_TRUE(form.GetWindowPlacement(&placement));
+    EXPECT_EQ(CRect(placement.rcNormalPosition), CRect(50, 60, 260, 170));
+
+    EXPECT_TRUE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED));
+    EXPECT_FALSE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
+    EXPECT_TRUE(CWnd::ModifyStyle(form, 0, WS_DISABLED, 0));
+    EXPECT_TRUE(form.ModifyStyle(WS_DISABLED, 0));
+    EXPECT_TRUE(form.IsWindowEnabled());
+    CRect outside(area);
+    CRect border(area);
+    form.CalcWindowRect(outside, CWnd::adjustOutside);
+    form.CalcWindowRect(border);
+    EXPECT_EQ(border, area);
+    EXPECT_EQ(outside, area + CRect(2, 2, 2, 2)) << "the edge";
+    CWnd other;
+    ASSERT_TRUE(CreatePopup(other));
+    EXPECT_EQ(form.m_bar.SetParent(&other), &form);
+    EXPECT_EQ(form.m_bar.GetParent(), &other);
+    EXPECT_FALSE(form.IsTopParentActive() && other.IsTopParentActive());
+}
+
+TEST(Window, CallsOnItsTextsAndItems)
+{
+    CFormWnd form;
+    form.SetDlgItemInt(1, static_cast<UINT>(-5));
+    BOOL translated = FALSE;
+    EXPECT_EQ(static_cast<int>(form.GetDlgItemInt(1, &translated)), -5);
+    EXPECT_TRUE(translated);
+    TCHAR text[8] = {};
+    EXPECT_EQ(form.m_edit.GetWindowText(text, 8), 2);
+    EXPECT_EQ(form.GetDlgItemText(1, text, 8), 2);
+    EXPECT_STREQ(text, L"-5");
+    CString string(L"before");
+    EXPECT_EQ(form.GetDlgItemText(99, string), 0);
+    EXPECT_TRUE(string.IsEmpty());
+    EXPECT_EQ(form.GetDlgItemText(2, string), 5);
+    EXPECT_EQ(string, L"first");
+    EXPECT_EQ(form.GetCheckedRadioButton(2, 3), 0);
+    form.CheckRadioButton(2, 3, 3);
+    EXPECT_EQ(form.GetCheckedRadioButton(2, 3), 3);
+    EXPECT_EQ(form.SendDlgItemMessage(3, BM_GETCHECK), BST_CHECKED);
+
+    CFont font;
+    font.CreatePointFont(120, L"Liberation Sans");
+    form.m_edit.SetFont(&font);
+    EXPECT_EQ(form.m_edit.GetFont(), &font);
+    form.SendNotifyMessage(WM_APP, 3, 4);
+    EXPECT_EQ(form.m_last.lParam, 4);
+    EXPECT_TRUE(form.PostMessage(WM_APP, 5, 6));
+    MSG posted;
+    EXPECT_TRUE(::PeekMessage(&posted, form, WM_APP, WM_APP, PM_REMOVE) && posted.wParam == 5);
+    CClientDC dc(&form);
+    form.Print(&dc, PRF_CLIENT);
+    EXPECT_EQ(form.m_last.wParam, reinterpret_cast<WPARAM>(dc.m_hDC));
+    form.PrintClient(&dc, PRF_ERASEBKGND);
+    EXPECT_EQ(form.m_last.message, UINT{WM_PRINTCLIENT});
+    const HICON icon = ::LoadIcon(nullptr, IDI_HAND);
+    EXPECT_EQ(form.SetIcon(icon, TRUE), nullptr);
+    EXPECT_EQ(form.GetIcon(TRUE), icon);
+    EXPECT_TRUE(form.SetWindowContextHelpId(9));
+    EXPECT_EQ(form.GetWindowContextHelpId(), 9u);
+    EXPECT_NE(form.SetTimer(5, 1000, nullptr), 0u);
+    EXPECT_TRUE(form.KillTimer(5));
+
+    form.UpdateWindow();
+    CRgn region;
+    region.CreateRectRgn(0, 70, 20, 80);
+    form.InvalidateRgn(&region);
+    CRgn updated;
+    updated.CreateRectRgn(0, 0, 0, 0);
+    EXPECT_EQ(form.GetUpdateRgn(&updated), SIMPLEREGION);
+    EXPECT_TRUE(updated.EqualRgn(&region));
+    const int paints = form.m_paints;
+    EXPECT_TRUE(form.RedrawWindow());
+    EXPECT_EQ(form.m_paints, paints + 1);
+    form.CreateGrayCaret(2, 9);
+    CWnd::SetCaretPos(CPoint(7, 8));
+    EXPECT_EQ(CWnd::GetCaretPos(), CPoint(7, 8));
+    ::DestroyCaret();
+}
+
+TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
+{
+    CFormWnd form;
+    form.m_bar.SetScrollRange(0, 1);
+    for (const bool control : {false, true})
+    {
+        form.m_barCounts = control;
+        int lowest = 0;
+        int highest = 0;
+        form.SetScrollRange(SB_HORZ, -3, 50);
+        form.GetScrollRange(SB_HORZ, &lowest, &highest);
+        EXPECT_EQ(lowest * 100 + highest, -250);
+        form.SetScrollPos(SB_HORZ, 9);
+        EXPECT_EQ(form.SetScrollPos(SB_HORZ, 10), 9);
+        EXPECT_EQ(form.GetScrollPos(SB_HORZ), 10);
+        EXPECT_EQ(form.m_bar.GetScrollPos(), control ? 10 : 0);
+        SCROLLINFO info = {};
+        info.fMask = SIF_PAGE;
+        info.nPage = 11;
+        EXPECT_TRUE(form.SetScrollInfo(SB_HORZ, &info));
+        info = {};
+        EXPECT_TRUE(form.GetScrollInfo(SB_HORZ, &info, SIF_PAGE | SIF_POS));
+        EXPECT_EQ(info.nPage + info.nPos, 21u);
+        EXPECT_EQ(info.nMax, 0) << "not asked for";
+        EXPECT_EQ(form.GetScrollLimit(SB_HORZ), 40);
+        form.ShowScrollBar(SB_HORZ, FALSE);
+        form.EnableScrollBarCtrl(SB_BOTH, FALSE);
+        EXPECT_EQ((form.GetStyle() & WS_HSCROLL) == 0 && form.m_bar.IsWindowVisible() != control, true);
+        EXPECT_EQ(form.m_bar.IsWindowEnabled() != FALSE, !control);
+    }
+    form.ShowScrollBar(SB_BOTH);
+    EXPECT_NE(form.GetStyle() & WS_HSCROLL, 0u);
+    SCROLLBARINFO info = {};
+    EXPECT_TRUE(form.GetScrollBarInfo(OBJID_HSCROLL, &info));
+    EXPECT_TRUE(form.EnableScrollBar(SB_HORZ, ESB_DISABLE_BOTH));
+    CRect moved;
+    EXPECT_EQ(form.ScrollWindowEx(0, 5, nullptr, nullptr, nullptr, &moved, SW_INVALIDATE), SIMPLEREGION);
+}
 } // namespace
