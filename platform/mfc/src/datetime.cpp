@@ -280,7 +280,10 @@ BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew)
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew)
 {
-    return AfxSend<BOOL>(DTM_SETSYSTEMTIME, pTimeNew != nullptr ? GDT_VALID : GDT_NONE, pTimeNew);
+    if (pTimeNew != nullptr)
+        return AfxSend<BOOL>(DTM_SETSYSTEMTIME, GDT_VALID, pTimeNew);
+    SYSTEMTIME unread{}; // some systems want an address even so
+    return AfxSend<BOOL>(DTM_SETSYSTEMTIME, GDT_NONE, &unread);
 }
 
 // ---------------------------------------------------------------------------------------------------------

@@ -125,3 +125,65 @@ TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
     Press(VK_RETURN);
     EXPECT_TRUE(program.Ends());
 }
+
+TEST(DatePicker, ShowsTheSpanOfWhatIsChosenAndRefusesAStartAfterTheEnd)
+{
+    Client program(L"date_picker");
+    const HWND dialog = program.Window(L"Dates");
+    EXPECT_TRUE(Shows(dialog, IDC_SPAN, L"12 days to 2024-02-27"));
+    Click(::GetDlgItem(dialog, IDC_DUE), CPoint(10, 8)); // the day
+    Press(VK_UP);
+    Press(VK_UP);
+    EXPECT_TRUE(Shows(dialog, IDC_SPAN, L"14 days to 2024-02-29"));
+    Press(VK_RIGHT);
+    Press(VK_DOWN); // January
+    EXPECT_TRUE(Shows(dialog, IDC_SPAN, L"-17 days to 2024-01-29"));
+
+    Click(::GetDlgItem(dialog, IDC_CHECK));
+    program.Window(L"mfc_date_picker");
+    Press(VK_RETURN);
+    program.Window(L"Dates");
+    EXPECT_TRUE(Shows(dialog, IDC_SPAN, L"-17 days to 2024-01-29"));
+
+    RECT calendar;
+    ::GetClientRect(::GetDlgItem(dialog, IDC_START), &calendar);
+    Click(::GetDlgItem(dialog, IDC_START),
+          CPoint(calendar.right / 14, calendar.bottom * 3 / 10)); // of January
+    Click(::GetDlgItem(dialog, IDC_CHECK));
+    EXPECT_TRUE(Shows(dialog, IDC_SPAN, L"checked"));
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(program.Ends());
+}
+
+TEST(Worker, ReportsToTheDialogAndToAThreadWithAWindowOfItsOwn)
+{
+    Client program(L"worker");
+    const HWND dialog = program.Window(L"Work");
+    Click(::GetDlgItem(dialog, IDC_BEGIN));
+    EXPECT_TRUE(Shows(dialog, IDC_DONE, L"squared"));
+    EXPECT_EQ(::SendMessageW(::GetDlgItem(dialog, IDC_PROGRESS), PBM_GETPOS, 0, 0), 5);
+    Click(::GetDlgItem(dialog, IDC_TOTAL));
+    program.Window(L"Total: 55");
+    program.Window(L"Work");
+    Click(::GetDlgItem(dialog, IDC_HALT));
+    EXPECT_TRUE(Shows(dialog, IDC_DONE, L"7"));
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(program.Ends());
+}
+
+TEST(FirstItems, StandInTheirBoxesAndCanBeChosen)
+{
+    Client program(L"first_items");
+    const HWND dialog = program.Window(L"First items");
+    Press(VK_UP);
+    EXPECT_TRUE(Shows(dialog, IDC_CHOICE, L"Beam of , "));
+    Press(VK_TAB);
+    Press(VK_DOWN);
+    Press(VK_DOWN);
+    EXPECT_TRUE(Shows(dialog, IDC_CHOICE, L"Beam of S355, "));
+    Press(VK_TAB);
+    Press(VK_DOWN);
+    EXPECT_TRUE(Shows(dialog, IDC_CHOICE, L"Beam of S355, Bolts"));
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(program.Ends());
+}

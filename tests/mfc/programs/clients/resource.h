@@ -21,3 +21,26 @@
 #define IDC_HEIGHT 1200
 #define IDC_GRADE 1201
 #define IDC_WELDABLE 1202
+
+// date_picker
+#define IDD_DATES 200
+#define IDC_DUE 1100
+#define IDC_START 1101
+#define IDC_SPAN 1102
+#define IDC_CHECK 1103
+
+// worker
+#define IDD_WORK 300
+#define IDC_BEGIN 1200
+#define IDC_PROGRESS 1201
+#define IDC_DONE 1202
+#define IDC_TOTAL 1203
+#define IDC_HALT 1204
+
+// first_items
+#define IDD_ITEMS 400
+#define IDC_SHAPES 1300
+#define IDC_GRADES 1301
+#define IDC_PICTURES 1302
+#define IDC_CHOICE 1303
+#define IDS_CHOICE 401

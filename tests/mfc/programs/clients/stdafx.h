@@ -9,5 +9,11 @@
 
 #include <afxwin.h>
 #include <afxext.h>
+#include <afxdisp.h>
+#include <afxdtctl.h>
+#ifndef _AFX_NO_AFXCMN_SUPPORT
 #include <afxcmn.h>
+#endif
 #include <afxdlgs.h>
+#include <afxmt.h>
+#include <afxole.h>

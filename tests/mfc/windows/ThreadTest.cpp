@@ -1,0 +1,281 @@
+// Threads, their messages, and what they wait for.
+
+#include "../base/Thrown.h"
+#include "TestWindows.h"
+
+#include <afxdisp.h>
+#include <afxmt.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace
+{
+/// Runs a function on a worker until its end; answers the exit code.
+template <class Function>
+DWORD OnWorker(Function function)
+{
+    CWinThread* const worker =
+        AfxBeginThread([](LPVOID called) { return (*static_cast<Function*>(called))(); }, &function,
+                       THREAD_PRIORITY_ABOVE_NORMAL, 0, CREATE_SUSPENDED);
+    worker->m_bAutoDelete = FALSE;
+    EXPECT_EQ(worker->GetThreadPriority(), THREAD_PRIORITY_ABOVE_NORMAL);
+    EXPECT_EQ(worker->SuspendThread(), 1u);
+    EXPECT_EQ(worker->ResumeThread(), 2u);
+    EXPECT_EQ(worker->ResumeThread(), 1u);
+    EXPECT_EQ(::WaitForSingleObject(*worker, 20000), WAIT_OBJECT_0);
+    DWORD exitCode = 0;
+    ::GetExitCodeThread(worker->m_hThread, &exitCode);
+    delete worker;
+    return exitCode;
+}
+
+constexpr UINT numbered = WM_APP + 7;
+const UINT registered = ::RegisterWindowMessage(L"DialogControlsOW thread test");
+
+/// A thread with a queue that adds what it is sent and ends with the sum.
+class CSumThread : public CWinThread
+{
+    DECLARE_DYNCREATE(CSumThread)
+
+public:
+    static inline bool works = true, alive = false;
+
+protected:
+    CSumThread() { alive = true; }
+    ~CSumThread() override { alive = false; }
+    BOOL InitInstance() override { return works; }
+    int ExitInstance() override { return works ? m_sum : -1; }
+    afx_msg void OnNumber(WPARAM wParam, LPARAM lParam) { m_sum += static_cast<int>(wParam * lParam); }
+    afx_msg void OnEnd(WPARAM, LPARAM) { ::PostQuitMessage(0); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    int m_sum = 0;
+};
+
+IMPLEMENT_DYNCREATE(CSumThread, CWinThread)
+
+BEGIN_MESSAGE_MAP(CSumThread, CWinThread)
+    ON_THREAD_MESSAGE(numbered, &CSumThread::OnNumber)
+    ON_REGISTERED_THREAD_MESSAGE(registered, &CSumThread::OnEnd)
+END_MESSAGE_MAP()
+
+/// The exit code of a thread that is at its end, or ends in time.
+DWORD CodeAtEnd(HANDLE thread)
+{
+    EXPECT_EQ(::WaitForSingleObject(thread, 20000), WAIT_OBJECT_0);
+    DWORD code = 0;
+    ::GetExitCodeThread(thread, &code);
+    ::CloseHandle(thread);
+    return code;
+}
+
+HANDLE HandleOf(const CWinThread& thread)
+{
+    HANDLE copy = nullptr;
+    ::DuplicateHandle(::GetCurrentProcess(), thread, ::GetCurrentProcess(), &copy, 0, FALSE,
+                      DUPLICATE_SAME_ACCESS);
+    return copy;
+}
+
+CWinThread* BeginSum()
+{
+    return AfxBeginThread(RUNTIME_CLASS(CSumThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
+}
+} // namespace
+
+TEST(Threads, RunAFunctionBelowTheApplicationsWindow)
+{
+    CWnd window;
+    CreatePopup(window);
+    AfxGetApp()->m_pMainWnd = &window;
+    EXPECT_EQ(OnWorker(
+                  [&window]
+                  {
+                      CWnd* const seen = AfxGetMainWnd();
+                      EXPECT_NE(seen, &window);
+                      EXPECT_EQ(seen->m_hWnd, window.m_hWnd);
+                      EXPECT_EQ(AfxGetThread()->m_nThreadID, ::GetCurrentThreadId());
+                      EXPECT_NE(AfxGetThread(), AfxGetApp());
+                      return 11u;
+                  }),
+              11u);
+    AfxGetApp()->m_pMainWnd = nullptr;
+    EXPECT_TRUE(::IsWindow(window.m_hWnd));
+    EXPECT_EQ(OnWorker(
+                  []() -> UINT
+                  {
+                      AfxEndThread(12);
+                      return 13;
+                  }),
+              12u);
+}
+
+TEST(Threads, WithALoopHandleMessagesOfTheirsFromTheFirstOn)
+{
+    CWinThread* const thread = BeginSum();
+    EXPECT_TRUE(thread->PostThreadMessage(numbered, 2, 3)); // though it has not run yet
+    EXPECT_TRUE(thread->PostThreadMessage(numbered, 4, 5));
+    EXPECT_TRUE(thread->PostThreadMessage(registered, 0, 0));
+    const HANDLE handle = HandleOf(*thread);
+    thread->ResumeThread();
+    EXPECT_EQ(CodeAtEnd(handle), 26u);
+    EXPECT_FALSE(CSumThread::alive);
+}
+
+TEST(Threads, ThatDoNotBeginEndAtOnce)
+{
+    CSumThread::works = false;
+    CWinThread* const thread = BeginSum();
+    thread->m_bAutoDelete = FALSE;
+    const HANDLE handle = HandleOf(*thread);
+    thread->ResumeThread();
+    EXPECT_EQ(CodeAtEnd(handle), static_cast<DWORD>(-1));
+    CSumThread::works = true;
+    EXPECT_TRUE(CSumThread::alive);
+    thread->Delete(); // says no
+    EXPECT_TRUE(CSumThread::alive);
+    delete thread;
+}
+
+TEST(Threads, HaveOleUntilTheirEnd)
+{
+    static bool ended = false;
+    EXPECT_EQ(OnWorker(
+                  []
+                  {
+                      EXPECT_TRUE(AfxOleInit());
+                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
+                      AfxOleTerm(TRUE);
+                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
+                      AfxOleTerm();
+                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), S_OK);
+                      EXPECT_FALSE(AfxOleInit());
+                      ::CoUninitialize();
+                      EXPECT_TRUE(AfxOleInit());
+                      EXPECT_NE(AfxGetThread()->m_lpfnOleTermOrFreeLib, nullptr);
+                      AfxGetThread()->m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { ended = true; };
+                      return 0u;
+                  }),
+              0u);
+    EXPECT_TRUE(ended);
+}
+
+TEST(SyncObjects, BelongToWhoeverLockedThem)
+{
+    CMutex mutex(TRUE);
+    CCriticalSection section;
+    CSemaphore semaphore(1, 3);
+    CEvent automatic(TRUE), manual(FALSE, TRUE);
+    const auto free = [](CSyncObject& object)
+    { return OnWorker([&object] { return static_cast<UINT>(object.Lock(0) && object.Unlock()); }) != 0; };
+
+    EXPECT_FALSE(free(mutex));
+    EXPECT_TRUE(mutex.Lock() && mutex.Unlock());
+    EXPECT_FALSE(free(mutex)); // locked twice, unlocked once
+    EXPECT_TRUE(mutex.Unlock());
+    EXPECT_TRUE(free(mutex));
+    EXPECT_FALSE(mutex.Unlock());
+    EXPECT_EQ(OnWorker([&mutex] { return static_cast<UINT>(mutex.Lock()); }), 1u); // and ends with it
+    EXPECT_TRUE(mutex.Lock(0));
+
+    EXPECT_TRUE(semaphore.Lock(0));
+    EXPECT_FALSE(semaphore.Lock(0));
+    LONG before = -1;
+    EXPECT_TRUE(semaphore.Unlock(2, &before));
+    EXPECT_EQ(before, 0);
+    EXPECT_FALSE(semaphore.Unlock(2));
+    EXPECT_TRUE(semaphore.Unlock());
+    EXPECT_FALSE(semaphore.Unlock());
+
+    EXPECT_TRUE(automatic.Lock(0));
+    EXPECT_FALSE(automatic.Lock(0));
+    EXPECT_FALSE(manual.Lock(0));
+    EXPECT_TRUE(manual.SetEvent() && manual.Lock(0) && manual.Lock(0) && manual.Unlock() && manual.Lock(0));
+    EXPECT_TRUE(manual.ResetEvent());
+    EXPECT_FALSE(manual.Lock(0));
+
+    CEvent named(FALSE, TRUE, L"DialogControlsOW event"), same(FALSE, TRUE, L"DialogControlsOW event");
+    named.SetEvent();
+    EXPECT_TRUE(same.Lock(0));
+    EXPECT_EQ(ThrownBy([] { CMutex(FALSE, L"DialogControlsOW event"); }),
+              "CResourceException"); // the name of another kind
+
+    EXPECT_TRUE(section.Lock());
+    CRITICAL_SECTION* const bare = section;
+    EXPECT_EQ(OnWorker([bare] { return static_cast<UINT>(::TryEnterCriticalSection(bare)); }), 0u);
+    EXPECT_TRUE(section.Unlock());
+}
+
+TEST(Locks, OfOneObjectEndWithTheirScope)
+{
+    EXPECT_EQ(ThrownBy([&] { CSingleLock(nullptr); }), kInvalidArg);
+    CSemaphore semaphore(2, 2);
+    {
+        CSingleLock first(&semaphore, TRUE), second(&semaphore), third(&semaphore);
+        EXPECT_TRUE(first.IsLocked());
+        EXPECT_FALSE(second.IsLocked());
+        EXPECT_TRUE(second.Lock());
+        EXPECT_FALSE(third.Lock(0));
+        EXPECT_FALSE(third.IsLocked());
+        EXPECT_TRUE(third.Unlock());
+        EXPECT_TRUE(first.Unlock());
+        EXPECT_FALSE(first.IsLocked());
+        EXPECT_TRUE(third.Lock(0));
+        LONG before = -1;
+        EXPECT_TRUE(third.Unlock(1, &before));
+        EXPECT_EQ(before, 0);
+        EXPECT_TRUE(third.Lock(0));
+    }
+    EXPECT_FALSE(semaphore.Unlock()); // all are back
+}
+
+TEST(Locks, OfSeveralObjectsWaitForOneOrForAll)
+{
+    CEvent event(FALSE, FALSE);
+    CSemaphore semaphore(1, 1);
+    CMutex mutex;
+    CSyncObject* objects[] = {&event, &semaphore, &mutex};
+    EXPECT_EQ(ThrownBy([&] { CMultiLock(nullptr, 1); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { CMultiLock(objects, 0); }), kInvalidArg);
+    EXPECT_EQ(ThrownBy([&] { CMultiLock(objects, MAXIMUM_WAIT_OBJECTS + 1); }), kInvalidArg);
+    CCriticalSection section;
+    CSyncObject* withoutHandle[] = {&section};
+    EXPECT_EQ(ThrownBy([&] { CMultiLock(withoutHandle, 1); }), kInvalidArg);
+    {
+        CMultiLock lock(objects, 3);
+        EXPECT_EQ(lock.Lock(0), static_cast<DWORD>(WAIT_TIMEOUT));
+        EXPECT_EQ(lock.Lock(0, FALSE), WAIT_OBJECT_0 + 1);
+        EXPECT_TRUE(!lock.IsLocked(0) && lock.IsLocked(1) && !lock.IsLocked(2));
+        EXPECT_FALSE(semaphore.Lock(0));
+        LONG before = -1;
+        EXPECT_TRUE(lock.Unlock(1, &before));
+        EXPECT_EQ(before, 0);
+        EXPECT_FALSE(lock.IsLocked(1));
+        EXPECT_FALSE(lock.Unlock(1, &before));
+
+        event.SetEvent();
+        EXPECT_EQ(lock.Lock(0), WAIT_OBJECT_0);
+        EXPECT_TRUE(lock.IsLocked(0) && lock.IsLocked(1) && lock.IsLocked(2));
+        EXPECT_TRUE(lock.Unlock());
+        EXPECT_TRUE(!lock.IsLocked(0) && !lock.IsLocked(1) && !lock.IsLocked(2));
+
+        CMultiLock eventOnly(objects, 1);
+        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
+        EXPECT_EQ(eventOnly.Lock(INFINITE, FALSE, QS_POSTMESSAGE), WAIT_OBJECT_0 + 1);
+        EXPECT_FALSE(eventOnly.IsLocked(0));
+        OnWorker([&mutex] { return static_cast<UINT>(mutex.Lock()); }); // ends with it
+        semaphore.Lock();
+        EXPECT_EQ(lock.Lock(0, FALSE), static_cast<DWORD>(WAIT_ABANDONED_0) + 2);
+        EXPECT_TRUE(!lock.IsLocked(1) && lock.IsLocked(2));
+        semaphore.Unlock();
+    }
+    event.SetEvent();
+    {
+        const CMultiLock lock(objects, 3, TRUE);
+        EXPECT_FALSE(semaphore.Lock(0));
+    }
+    EXPECT_TRUE(semaphore.Lock(0));
+}
