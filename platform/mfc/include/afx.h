@@ -152,7 +152,7 @@ class AFX_CORE_CLASS CObject
 {
 public:
     virtual CRuntimeClass* GetRuntimeClass() const { return GetThisClass(); }
-    virtual ~CObject() = 0;
+    virtual ~CObject() {}
 
     /// Throws CMemoryException when there is no memory.
     void* PASCAL operator new(size_t nSize);
@@ -174,19 +174,12 @@ public:
     static CRuntimeClass* PASCAL _GetBaseClass() { return nullptr; }
 
 protected:
-    CObject();
+    CObject() {}
 
 private:
     CObject(const CObject& objectSrc);
     void operator=(const CObject& objectSrc);
 };
-
-inline CObject::CObject()
-{
-}
-inline CObject::~CObject()
-{
-}
 
 #define RUNTIME_CLASS(class_name) (class_name::GetThisClass())
 

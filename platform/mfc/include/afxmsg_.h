@@ -12,6 +12,9 @@
 // base, each table from its first entry on; the first entry that fits receives the message. Entries of the
 // _EX forms answer BOOL, and FALSE lets the search go on with the next routing target.
 
+#include <afx.h>
+#include <atltypes.h>
+
 #ifndef AFX_MSG_CALL
 #define AFX_MSG_CALL
 #endif

@@ -17,6 +17,7 @@
 
 #include <afx.h>
 #include <afxmsg_.h>
+#include <afxwin_gdi.h>
 #include <atltypes.h>
 
 #include <commctrl.h>

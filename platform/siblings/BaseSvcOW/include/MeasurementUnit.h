@@ -66,7 +66,11 @@ public:
     /// Number of units of the kind; 0 for an unknown kind.
     static int Count(int nKind);
 
-    friend bool operator==(const CMeasurementUnit&, const CMeasurementUnit&) = default;
+    friend bool operator==(const CMeasurementUnit& a, const CMeasurementUnit& b)
+    {
+        return a.m_nUnit == b.m_nUnit && a.m_nKind == b.m_nKind;
+    }
+    friend bool operator!=(const CMeasurementUnit& a, const CMeasurementUnit& b) { return !(a == b); }
 
 private:
     int m_nUnit = eMetre;

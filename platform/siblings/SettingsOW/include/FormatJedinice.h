@@ -27,5 +27,9 @@ public:
     /// Writes a length given in metres. Decimals out of range count as the nearest bound.
     CString Format(double dLength) const;
 
-    friend bool operator==(const CFormatJedinice&, const CFormatJedinice&) = default;
+    friend bool operator==(const CFormatJedinice& a, const CFormatJedinice& b)
+    {
+        return a.nUnitIndex == b.nUnitIndex && a.nCheckFlag == b.nCheckFlag && a.nEditValue == b.nEditValue;
+    }
+    friend bool operator!=(const CFormatJedinice& a, const CFormatJedinice& b) { return !(a == b); }
 };
