@@ -52,5 +52,5 @@ private:
     int titleChanged = 0;   ///< textBitmap is to be made anew
     CBitmap textBitmap;     ///< gradient and text: what is painted
     CBitmap gradientBitmap; ///< the gradient alone
-    ACurrentPageProvider& currentPageProvider;
+    [[maybe_unused]] ACurrentPageProvider& currentPageProvider; ///< for the host
 };
