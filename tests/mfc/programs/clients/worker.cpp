@@ -36,13 +36,10 @@ class CTotalThread : public CWinThread
 
 public:
     virtual BOOL InitInstance();
-    virtual int ExitInstance();
 
 protected:
     afx_msg void OnAddUp(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
-
-    CFrameWnd* m_pFrame;
 };
 
 IMPLEMENT_DYNCREATE(CTotalThread, CWinThread)
@@ -55,14 +52,9 @@ BOOL CTotalThread::InitInstance()
 {
     if (!AfxOleInit()) // each thread for itself
         return FALSE;
-    m_pFrame = new CFrameWnd;
-    m_pMainWnd = m_pFrame;
-    return m_pFrame->Create(NULL, _T("Total"), WS_OVERLAPPEDWINDOW, CRect(0, 300, 300, 400));
-}
-
-int CTotalThread::ExitInstance()
-{
-    return CWinThread::ExitInstance();
+    CFrameWnd* pFrame = new CFrameWnd;
+    m_pMainWnd = pFrame;
+    return pFrame->Create(NULL, _T("Total"), WS_OVERLAPPEDWINDOW, CRect(0, 300, 300, 400));
 }
 
 void CTotalThread::OnAddUp(WPARAM, LPARAM lParam)
@@ -76,8 +68,8 @@ void CTotalThread::OnAddUp(WPARAM, LPARAM lParam)
     }
     CString strTotal;
     strTotal.Format(_T("Total: %u"), nTotal);
-    m_pFrame->SetWindowText(strTotal);
-    m_pFrame->ShowWindow(SW_SHOW);
+    m_pMainWnd->SetWindowText(strTotal);
+    m_pMainWnd->ShowWindow(SW_SHOW);
 }
 
 class CWorkDlg : public CDialog
