@@ -672,6 +672,11 @@ public:
     BOOL DeleteAllItems() { return AfxSend<BOOL>(LVM_DELETEALLITEMS); }
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const;
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
+    /// As SortItems, but the function compares indices and not item data.
+    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
+    {
+        return AfxSend<BOOL>(LVM_SORTITEMSEX, dwData, pfnCompare);
+    }
     int HitTest(LVHITTESTINFO* pHitTestInfo) const { return AfxSend<int>(LVM_HITTEST, 0, pHitTestInfo); }
     int HitTest(CPoint pt, UINT* pFlags = nullptr) const;
     int SubItemHitTest(LPLVHITTESTINFO pInfo) { return AfxSend<int>(LVM_SUBITEMHITTEST, 0, pInfo); }
@@ -698,3 +703,5 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 };
+
+#include <afxcmn_toolbar.h>

@@ -85,7 +85,10 @@ protected:
     virtual void OnFolderChange();
     virtual void OnHelp();
     virtual void OnTypeChange();
+    /// A dialog without OFN_EXPLORER: the selection of a list is about to change; `nCode` is a CD_LBSEL value.
+    virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
 
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
 private:

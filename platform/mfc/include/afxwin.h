@@ -10,5 +10,6 @@
 #include <afxwin_gdi.h>
 #include <afxwin_wnd.h>
 #include <afxwin_ctl.h>
+#include <afxwin_chk.h>
 #include <afxwin_app.h>
 #include <afxdd_.h>

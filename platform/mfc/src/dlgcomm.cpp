@@ -254,6 +254,18 @@ void CFileDialog::OnTypeChange()
 {
 }
 
+void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT)
+{
+}
+
+LRESULT CFileDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    static const UINT selectionChanges = ::RegisterWindowMessage(LBSELCHSTRING);
+    if (message == selectionChanges)
+        OnLBSelChangedNotify(static_cast<UINT>(wParam), LOWORD(lParam), HIWORD(lParam));
+    return CCommonDialog::WindowProc(message, wParam, lParam);
+}
+
 // ---------------------------------------------------------------------------------------------------------
 // CColorDialog
 
