@@ -673,10 +673,7 @@ public:
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const;
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
     /// As SortItems, but the function compares indices and not item data.
-    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
-    {
-        return AfxSend<BOOL>(LVM_SORTITEMSEX, dwData, pfnCompare);
-    }
+    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData);
     int HitTest(LVHITTESTINFO* pHitTestInfo) const { return AfxSend<int>(LVM_HITTEST, 0, pHitTestInfo); }
     int HitTest(CPoint pt, UINT* pFlags = nullptr) const;
     int SubItemHitTest(LPLVHITTESTINFO pInfo) { return AfxSend<int>(LVM_SUBITEMHITTEST, 0, pInfo); }

@@ -11,7 +11,7 @@
 // Keys and clicks go to whatever window is in front, as a user's do. The program works on them in its own time:
 // whoever presses asks afterwards for what must come of it, and waits.
 
-#include <afxwin.h>
+#include <afxcmn.h>
 
 #include <gtest/gtest.h>
 
@@ -82,6 +82,20 @@ public:
         return Waits([this] { return HasEnded(); });
     }
 
+    /// The text of the tool tip that the program shows, if it does.
+    std::wstring ShownTip() const
+    {
+        for (HWND tip = nullptr; (tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+        {
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(tip, &process);
+            wchar_t text[128] = L"";
+            if (process == m_process.dwProcessId && ::IsWindowVisible(tip) &&
+                ::SendMessageW(tip, WM_GETTEXT, ARRAYSIZE(text), reinterpret_cast<LPARAM>(text)) > 0)
+                return text;
+        }
+        return {};
+    }
     /// Waits until an edit control has the focus and all its text is selected: a refused value is to be typed anew.
     bool IsToBeRetyped(HWND edit) const
     {

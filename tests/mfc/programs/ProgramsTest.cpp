@@ -187,3 +187,59 @@ TEST(FirstItems, StandInTheirBoxesAndCanBeChosen)
     Press(VK_ESCAPE);
     EXPECT_TRUE(program.Ends());
 }
+
+TEST(ModelessDialog, WorksBesideItsOwnerAndDeletesItself)
+{
+    Client program(L"modeless_dialog");
+    const HWND main = program.Window(L"Main");
+    const HWND open = ::GetDlgItem(main, IDC_OPEN);
+    const auto isOpen = [&] { return !::IsWindowEnabled(open); };
+    Click(open);
+    program.Window(L"Notes");
+    EXPECT_TRUE(Waits(isOpen));
+    Type(L"bolt\r"); // Return is Keep
+    EXPECT_TRUE(program.Closes(L"Notes"));
+    EXPECT_TRUE(Shows(main, IDC_STATE, L"bolt"));
+    EXPECT_TRUE(Waits([&] { return !isOpen(); }));
+
+    Click(open);
+    program.Window(L"Notes");
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(Shows(main, IDC_STATE, L"dropped"));
+    EXPECT_TRUE(Waits([&] { return !isOpen(); }));
+    Click(open);
+    program.Window(L"Notes");
+    Click(::GetDlgItem(main, IDCANCEL)); // takes the notes along
+    EXPECT_TRUE(program.Ends());
+}
+
+TEST(PictureList, SortsChecksTurnsAndTells)
+{
+    Client program(L"picture_list");
+    const HWND dialog = program.Window(L"Parts");
+    const HWND parts = ::GetDlgItem(dialog, IDC_PARTS);
+    const HWND header = ::GetTopWindow(parts);
+    Click(header, CPoint(120, 8)); // the masses
+    EXPECT_TRUE(Shows(dialog, IDC_STATE, L"plate anchor beam "));
+    Click(header, CPoint(30, 8)); // the names, backwards
+    EXPECT_TRUE(Shows(dialog, IDC_STATE, L"plate beam anchor "));
+
+    const HWND options = ::GetDlgItem(dialog, IDC_OPTIONS);
+    const int height = static_cast<int>(::SendMessageW(options, LB_GETITEMHEIGHT, 0, 0));
+    const auto line = [height](int item) { return height * item + height / 2; };
+    Click(options, CPoint(6, line(2)));
+    EXPECT_TRUE(Shows(dialog, IDC_STATE, L"001"));
+    Click(options, CPoint(6, line(1))); // disabled
+    Click(options, CPoint(40, line(0)));
+    Press(VK_SPACE);
+    EXPECT_TRUE(Shows(dialog, IDC_STATE, L"101"));
+
+    const HWND turn = ::GetDlgItem(dialog, IDC_TURN);
+    owtest::MoveTo(turn, CPoint(5, 5));
+    EXPECT_TRUE(Waits([&] { return program.ShownTip() == L"turns the part"; })) << program.ShownTip();
+    Click(turn);
+    EXPECT_TRUE(Shows(dialog, IDC_STATE, L"turned"));
+    EXPECT_TRUE(Waits([&] { return program.ShownTip().empty(); })); // the click took it away
+    Press(VK_ESCAPE);
+    EXPECT_TRUE(program.Ends());
+}

@@ -44,3 +44,15 @@
 #define IDC_PICTURES 1302
 #define IDC_CHOICE 1303
 #define IDS_CHOICE 401
+
+// modeless_dialog
+#define IDD_MODELESS_MAIN 300
+#define IDD_NOTES 301
+#define IDC_OPEN 1300
+
+// picture_list
+#define IDD_PICTURE_LIST 400
+#define IDI_PART 401
+#define IDC_PARTS 1400
+#define IDC_OPTIONS 1401
+#define IDC_TURN 1402

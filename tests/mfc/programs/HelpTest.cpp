@@ -1,0 +1,202 @@
+// Command lines, and the roads of help.
+
+#include <afxpriv.h>
+
+#include <gtest/gtest.h>
+
+#include "DialogTemplate.h"
+#include "ImportStandIn.h"
+
+#include <memory>
+#include <vector>
+
+namespace
+{
+struct Asked
+{
+    DWORD_PTR data;
+    UINT command;
+    bool html;
+    bool operator==(const Asked&) const = default;
+};
+std::vector<Asked> s_asked;
+
+BOOL WINAPI NoteWinHelp(HWND, LPCWSTR file, UINT command, ULONG_PTR data)
+{
+    s_asked.push_back({data, command, false});
+    return file != nullptr;
+}
+
+class HelpApp : public CWinApp
+{
+public:
+    HelpApp() : CWinApp(L"HelpTest") { m_pszHelpFilePath = _wcsdup(L"C:\\no\\such.CHM"); }
+    CString boxText;
+    UINT boxHelp = 0;
+    int indexAsked = 0;
+    using CWinApp::DoMessageBox;
+    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT nIDPrompt) override
+    {
+        boxText = lpszPrompt;
+        boxHelp = nIDPrompt;
+        return IDOK;
+    }
+
+protected:
+    afx_msg void OnDefaultHelp() { ++indexAsked; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(HelpApp, CWinApp)
+    ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
+    ON_COMMAND(ID_DEFAULT_HELP, &HelpApp::OnDefaultHelp)
+END_MESSAGE_MAP()
+
+class HelpDialog : public CDialog
+{
+public:
+    bool notesHtml = true;
+    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override
+    {
+        if (notesHtml)
+            s_asked.push_back({dwData, nCmd, true});
+        else
+            CDialog::HtmlHelp(dwData, nCmd);
+    }
+};
+
+class Help : public ::testing::Test
+{
+protected:
+    Help()
+    {
+        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
+        app = std::make_unique<HelpApp>();
+        s_asked.clear();
+        const owtest::DialogTemplate form = owtest::DialogTemplate(L"Help", 80, 40).Edit(1, 4, 4, 40, 12);
+        dialog.CreateIndirect(form.get());
+        app->m_pMainWnd = &dialog;
+    }
+    ~Help() override
+    {
+        app->m_pMainWnd = nullptr;
+        dialog.DestroyWindow();
+        app.reset();
+        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
+        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
+    }
+    void PressF1()
+    {
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        dialog.GetDlgItem(1)->SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    }
+
+    CWinApp* m_programs = AfxGetApp();
+    std::unique_ptr<HelpApp> app;
+    HelpDialog dialog;
+    owtest::ImportStandIn m_winHelp{L"mfcow.dll", "WinHelpW", &NoteWinHelp};
+};
+
+TEST_F(Help, F1AsksForTheDialogsContextOrElseForTheDefault)
+{
+    PressF1();
+    EXPECT_EQ(app->indexAsked, 1);
+    EXPECT_EQ(dialog.SendMessage(WM_HELPHITTEST), 0);
+    dialog.SetHelpID(77);
+    EXPECT_EQ(dialog.SendMessage(WM_HELPHITTEST), 0x2004D);
+    PressF1();
+    EXPECT_EQ(s_asked, std::vector<Asked>({{0x2004D, HELP_CONTEXT, false}}));
+    dialog.SendMessage(WM_COMMANDHELP, 0, 5); // somebody knew better
+    EXPECT_EQ(s_asked.back(), (Asked{5, HELP_CONTEXT, false}));
+    EXPECT_EQ(app->indexAsked, 1);
+    app->m_dwPromptContext = HID_BASE_PROMPT + 9; // a message box is open
+    PressF1();
+    EXPECT_EQ(s_asked.back(), (Asked{HID_BASE_PROMPT + 9, HELP_CONTEXT, false}));
+    app->m_dwPromptContext = HID_BASE_PROMPT + AFX_IDP_FAILED_TO_LAUNCH_HELP;
+    PressF1();
+    EXPECT_EQ(s_asked.size(), 3u);
+}
+
+TEST_F(Help, EachKindHasItsOwnNumbersAndAMissingFileIsTold)
+{
+    app->OnHelpIndex();
+    app->OnHelpFinder();
+    app->OnHelpUsing();
+    app->EnableHtmlHelp();
+    EXPECT_EQ(app->GetHelpMode(), afxHTMLHelp);
+    app->OnHelpIndex();
+    app->OnHelpFinder();
+    app->WinHelpInternal(12);
+    EXPECT_EQ(s_asked,
+              std::vector<Asked>({{0, HELP_INDEX, false},
+                                  {0, HELP_FINDER, false},
+                                  {0, HELP_HELPONHELP, false},
+                                  {0, 1, true},
+                                  {0, 0, true},
+                                  {12, 15, true}})); // HH_DISPLAY_TOC, HH_DISPLAY_TOPIC, HH_HELP_CONTEXT
+    EXPECT_TRUE(app->boxText.IsEmpty());
+    free(const_cast<LPTSTR>(std::exchange(app->m_pszHelpFilePath, nullptr)));
+    dialog.WinHelp(1);
+    EXPECT_EQ(app->boxText, L"Help could not be shown.");
+    EXPECT_EQ(app->boxHelp, UINT{AFX_IDP_FAILED_TO_LAUNCH_HELP});
+}
+
+TEST(HelpFile, StandsBesideTheProgram)
+{
+    wchar_t path[MAX_PATH] = L"";
+    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    EXPECT_EQ(CString(path).SpanExcluding(L".") + L".HLP", AfxGetApp()->m_pszHelpFilePath);
+}
+
+TEST(CommandLine, IsParsedArgumentByArgument)
+{
+    using Info = CCommandLineInfo;
+    const struct
+    {
+        std::vector<const wchar_t*> arguments;
+        int command;
+        const wchar_t* names; ///< file, printer, driver, port
+        BOOL embedded, automated;
+    } cases[] = {
+        {{}, Info::FileNew, L"|||", FALSE, FALSE},
+        {{L"a.dat"}, Info::FileOpen, L"a.dat|||", FALSE, FALSE},
+        {{L"a.dat", L"b.dat"}, Info::FileOpen, L"a.dat|||", FALSE, FALSE},
+        {{L"/p", L"a.dat"}, Info::FilePrint, L"a.dat|||", FALSE, FALSE},
+        {{L"-pt", L"a.dat", L"lp", L"drv", L"out", L"more"},
+         Info::FilePrintTo,
+         L"a.dat|lp|drv|out",
+         FALSE,
+         FALSE},
+        {{L"/P", L"a.dat"}, Info::FileOpen, L"a.dat|||", FALSE, FALSE},
+        {{L"/dde"}, Info::FileDDE, L"|||", FALSE, FALSE},
+        {{L"/regserver"}, Info::AppRegister, L"|||", FALSE, FALSE},
+        {{L"/Register"}, Info::AppRegister, L"|||", FALSE, FALSE},
+        {{L"-unREGISTER"}, Info::AppUnregister, L"|||", FALSE, FALSE},
+        {{L"/Unregserver"}, Info::AppUnregister, L"|||", FALSE, FALSE},
+        {{L"/embedding"}, Info::FileNew, L"|||", TRUE, FALSE},
+        {{L"-Automation", L"a.dat"}, Info::FileOpen, L"a.dat|||", FALSE, TRUE},
+    };
+    for (const auto& [arguments, command, names, embedded, automated] : cases)
+        for (const bool narrow : {false, true})
+        {
+            Info info;
+            for (size_t i = 0; i < arguments.size(); ++i)
+            {
+                const bool flag = arguments[i][0] == L'/' || arguments[i][0] == L'-';
+                const bool last = i + 1 == arguments.size();
+                if (narrow)
+                    info.ParseParam(CStringA(arguments[i] + flag).GetString(), flag, last);
+                else
+                    info.ParseParam(arguments[i] + flag, flag, last);
+            }
+            EXPECT_EQ(info.m_nShellCommand, command) << names;
+            EXPECT_EQ(info.m_strFileName + L"|" + info.m_strPrinterName + L"|" + info.m_strDriverName + L"|" +
+                          info.m_strPortName,
+                      names);
+            EXPECT_EQ(info.m_bRunEmbedded, embedded);
+            EXPECT_EQ(info.m_bRunAutomated, automated);
+            EXPECT_EQ(info.m_bShowSplash, !embedded && !automated);
+        }
+}
+} // namespace
