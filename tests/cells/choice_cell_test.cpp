@@ -114,40 +114,31 @@ TEST_F(CheckCells, TheZoneIsTheBoxAndTheRecordNamesTheFocusCell)
     }
 }
 
-TEST_F(CheckCells, SetCheckRepaintsWhatWasDrawnAndAnswersTheOldState)
+TEST_F(CheckCells, AChangeRepaintsWhatWasDrawn)
 {
-    grid.UpdateWindow();
-    EXPECT_EQ(cell->SetCheck(1), 0);
-    CRect update;
-    EXPECT_TRUE(grid.GetUpdateRect(&update));
-    EXPECT_EQ(update, CellRect());
-    EXPECT_TRUE(told.empty());
-    CGridCellCheck copy;
-    copy = *cell;
-    for (const auto& change : {std::function([&] { copy.SetCheck(0); }),
-                               std::function([&] { copy.OnClick(CPoint(margin, margin)); })})
+    const CPoint box(margin, margin);
+    const auto repainted = [&](const std::function<void()>& change)
     {
+        CRect update;
         grid.UpdateWindow();
         change();
-        EXPECT_TRUE(grid.GetUpdateRect(&update)) << "a copy stands where the other was drawn";
-        EXPECT_EQ(update, CellRect());
-    }
-    told.clear();
-
-    grid.UpdateWindow();
-    CGridCellCheck undrawn;
+        grid.GetUpdateRect(&update);
+        return update;
+    };
+    EXPECT_EQ(repainted([&] { EXPECT_EQ(cell->SetCheck(1), 0) << "the old state"; }), CellRect());
+    EXPECT_TRUE(told.empty());
+    CGridCellCheck copy, undrawn;
+    copy = *cell;
+    EXPECT_EQ(copy.GetCheck(), 1);
+    EXPECT_EQ(repainted([&] { copy.SetCheck(0); }), CellRect()) << "a copy stands where the other was drawn";
+    EXPECT_EQ(repainted([&] { copy.OnClick(box); }), CellRect());
     undrawn.SetGrid(&grid);
-    EXPECT_EQ(undrawn.SetCheck(-1), 0);
-    EXPECT_FALSE(grid.GetUpdateRect(&update));
-    undrawn.OnClick(CPoint(margin, margin));
+    EXPECT_EQ(repainted([&] { undrawn.SetCheck(-1); }), CRect());
+    undrawn.OnClick(box);
     EXPECT_EQ(undrawn.GetCheck(), 0) << "a click counts from the origin then";
-
-    CGridCellCheck alone;
-    alone = *cell;
-    EXPECT_EQ(alone.GetCheck(), 1);
-    alone.SetGrid(nullptr);
-    alone.OnClick(CPoint(margin, margin));
-    EXPECT_EQ(alone.GetCheck(), 0) << "no grid to tell";
+    copy.SetGrid(nullptr);
+    copy.OnClick(box);
+    EXPECT_EQ(copy.GetCheck(), 0) << "no grid to tell";
 }
 
 TEST_F(CheckCells, TheTextStandsClearOfTheBox)
@@ -262,7 +253,7 @@ TEST_F(ComboCells, TheMouseOpensTheListAndChooses)
     EXPECT_EQ(CellText(), L"UPN 120");
 }
 
-TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnce)
+TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnceAndACopyIsOneToo)
 {
     auto& cell = MakeCombo<CChoiceOnlyCell>();
     EXPECT_EQ(cell.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
@@ -273,6 +264,15 @@ TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnce)
     owtest::Press(VK_UP);
     EndByKey(VK_RETURN);
     EXPECT_EQ(CellText(), L"HEA 240");
+    CGridCellCombo copy;
+    copy = cell;
+    EXPECT_EQ(copy.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
+    EXPECT_TRUE(copy.Edit(kRow, kCol, CellRect(), CPoint(), InPlaceControlId, VK_LBUTTON));
+    EXPECT_EQ(copy.DajKomboBoks()->GetCount(), 3);
+    grid.SetFocus();
+    EXPECT_TRUE(EditorCloses());
+    copy = *grid.GetCell(1, 1); // as from any cell
+    EXPECT_STREQ(copy.GetText(), L"1/1");
 }
 
 TEST_F(ComboCells, TheKeyThatOpensAListEndsItWithItsNextRelease)
@@ -292,19 +292,6 @@ TEST_F(ComboCells, TheKeyThatOpensAListEndsItWithItsNextRelease)
         EXPECT_FALSE(cell.IsEditing());
         EndByKey(VK_ESCAPE);
     }
-}
-
-TEST_F(ComboCells, ACopyHasTheListToo)
-{
-    CGridCellCombo copy;
-    copy = MakeCombo<CChoiceOnlyCell>();
-    EXPECT_EQ(copy.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
-    EXPECT_TRUE(copy.Edit(kRow, kCol, CellRect(), CPoint(), InPlaceControlId, VK_LBUTTON));
-    EXPECT_EQ(copy.DajKomboBoks()->GetCount(), 3);
-    grid.SetFocus();
-    EXPECT_TRUE(EditorCloses());
-    copy = *grid.GetCell(1, 1); // as from any cell
-    EXPECT_STREQ(copy.GetText(), L"1/1");
 }
 
 TEST_F(ComboCells, AnArrowTellsOfTheListWhereItCanBeUsed)
@@ -328,25 +315,18 @@ TEST_F(ComboCells, AnArrowTellsOfTheListWhereItCanBeUsed)
               CSize(text.cx + ::GetSystemMetrics(SM_CXVSCROLL), std::max<int>(text.cy, arrow)));
 }
 
-TEST_F(ComboCells, WhileEditingNeitherArrowNorTextShow)
-{
-    auto& cell = MakeCombo();
-    grid.StartEditCell();
-    owtest::Surface surface(120, 60);
-    Draw(surface, CSize(110, 30));
-    const CRect insideFrame(2, 2, 108, 28);
-    EXPECT_EQ(surface.count(insideFrame, kBack), insideFrame.Width() * insideFrame.Height());
-    EXPECT_STREQ(cell.GetText(), L"IPE 200") << "the text is kept all the same";
-    grid.SetFocus();
-    EXPECT_TRUE(EditorCloses());
-}
-
 TEST_F(ComboCells, AnEditBegunAnewEndsTheOldOne)
 {
     auto& cell = MakeCombo();
     owtest::Type(L"RHS 80");
     CComboBox* const pFirst = cell.DajKomboBoks();
     ASSERT_NE(pFirst, nullptr);
+    owtest::Surface surface(120, 60);
+    Draw(surface, CSize(110, 30));
+    const CRect insideFrame(2, 2, 108, 28);
+    EXPECT_EQ(surface.count(insideFrame, kBack), insideFrame.Width() * insideFrame.Height())
+        << "while editing neither arrow nor text show";
+    EXPECT_STREQ(cell.GetText(), L"IPE 200") << "the text is kept all the same";
     grid.StartEditCell();
     EXPECT_EQ(CellText(), L"RHS 80");
     EXPECT_NE(cell.DajKomboBoks(), pFirst);
@@ -426,16 +406,13 @@ TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
     EXPECT_EQ(cell->DajMastAci(), 5);
     EXPECT_EQ(ClickAnswered(L"142", VK_RETURN), 1);
     EXPECT_EQ(cell->DajMastAci(), 142);
-}
 
-TEST_F(ColourCells, OnlyAClickInsideAGridsCellOpensIt)
-{
     owtest::ModalVisit visit([](CWnd&) {});
     cell->OnClick(CPoint(-1, 5));
     cell->OnClick(CPoint(5, -1));
     CGridCellColorCombo().OnClick(CPoint(5, 5));
     owtest::Pump();
-    EXPECT_EQ(visit.Count(), 0);
+    EXPECT_EQ(visit.Count(), 0) << "only a click inside a grid's cell";
 }
 
 TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)

@@ -26,6 +26,7 @@ public:
     using CGridCtrl::GetUnobstructedNonFixedCellRange;
     using CGridCtrl::GetVisibleNonFixedCellRange;
     using CGridCtrl::Initialise;
+    using CGridCtrl::InvalidateCellRect;
     using CGridCtrl::IsVisibleHScroll;
     using CGridCtrl::IsVisibleVScroll;
     using CGridCtrl::m_nHScrollMax;

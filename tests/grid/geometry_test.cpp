@@ -24,13 +24,14 @@ protected:
         grid.UpdateWindow();
         return rect;
     }
-    int WaitingMessages(UINT message)
+    /// The codes of the scroll messages that wait.
+    std::vector<UINT> WaitingScrolls()
     {
         MSG msg;
-        int count = 0;
-        while (::PeekMessage(&msg, grid, message, message, PM_REMOVE))
-            ++count;
-        return count;
+        std::vector<UINT> codes;
+        while (::PeekMessage(&msg, grid, WM_VSCROLL, WM_VSCROLL, PM_REMOVE))
+            codes.push_back(LOWORD(msg.wParam));
+        return codes;
     }
 };
 
@@ -72,6 +73,12 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     grid.SetColumnCount(kCols);
     grid.SetWindowPos(nullptr, 0, 0, 304, 0, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_TRUE(grid.GetStyle() & WS_HSCROLL) << "without height the bars stay";
+    for (const bool large : {true, false, true})
+    {
+        const CSize size = large ? CSize(600, 600) : CSize(304, 204);
+        grid.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_EQ(bars(), std::tuple(!large, !large));
+    }
 }
 
 TEST_F(GridGeometry, ScrollMessagesMoveTheirBarAndRepaintWhatScrolls)
@@ -130,17 +137,19 @@ TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
 
 TEST_F(GridGeometry, TheWheelPostsLinesOrPages)
 {
-    const auto wheel = [&](short delta) { grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), 0); };
-    grid.m_nWheelLines = 3;
-    wheel(60);
-    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 1);
-    wheel(-120);
-    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 3);
-    grid.m_nWheelLines = -1;
-    wheel(60);
-    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 0);
-    wheel(-240);
-    EXPECT_EQ(WaitingMessages(WM_VSCROLL), 2);
+    struct Case
+    {
+        int nLines, nDelta, nMessages;
+        UINT nCode;
+    };
+    for (const Case& c :
+         {Case{3, 60, 1, SB_LINEUP}, Case{3, -120, 3, SB_LINEDOWN}, Case{-1, 60, 0, SB_PAGEUP},
+          Case{-1, -240, 2, SB_PAGEDOWN}, Case{-1, 120, 1, SB_PAGEUP}})
+    {
+        grid.m_nWheelLines = c.nLines;
+        grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, c.nDelta), 0);
+        EXPECT_EQ(WaitingScrolls(), std::vector<UINT>(c.nMessages, c.nCode)) << c.nDelta;
+    }
 }
 
 TEST_F(GridGeometry, EnsureVisibleScrollsAsFarAsNeeded)
@@ -187,6 +196,11 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
     grid.AutoSize();
     EXPECT_EQ(grid.GetRowHeight(4), 0);
     EXPECT_EQ(grid.GetRowHeight(5), grid.GetCellTextExtent(5, 2).cy);
+    for (const int nRow : {0, kRows - 1})
+        grid.SetRowHeight(nRow, 90);
+    grid.AutoSizeRows();
+    for (const int nRow : {0, 4, kRows - 1})
+        EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : grid.GetCellTextExtent(nRow, 2).cy);
 }
 
 TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
@@ -247,6 +261,7 @@ TEST_F(GridGeometry, EachWindowOfAnObjectScrollsForItself)
     };
     OpenGrid bound(kRows, kCols, 1, 1);
     SetSizes(bound);
+    EXPECT_EQ(bound.GetScrollPos32(SB_VERT) + bound.GetScrollPos32(SB_HORZ, TRUE), 0) << "no window";
     for (int turn = 0; turn < 2; ++turn)
     {
         open(bound);

@@ -179,18 +179,6 @@ TEST_F(GridKeyboard, EnterAsTabWalksTheCellsThatCanBeEdited)
     owtest::Pump();
 }
 
-TEST_F(GridKeyboard, AReadOnlyCellOrGridIsNotEdited)
-{
-    MakeReadOnly(2, 2);
-    owtest::Type(L"x");
-    EXPECT_EQ(parent.Take(), Calls{});
-    FocusOn(2, 3);
-    grid.SetEditable(FALSE);
-    owtest::Type(L"x");
-    EXPECT_EQ(parent.Take(), Calls{});
-    EXPECT_EQ(Text(2, 3), L"2/3");
-}
-
 TEST_F(GridKeyboard, TheParentMayForbidAnEditAndRefuseItsText)
 {
     parent.On(LVN_BEGINLABELEDITW, nullptr, -1);

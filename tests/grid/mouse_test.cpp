@@ -93,6 +93,7 @@ TEST_F(GridMouse, ADragBeyondTheEdgeScrollsByTheTimer)
     EXPECT_TRUE(Selected().minRow == 3 && Selected().maxRow >= kRows - 2);
     EXPECT_TRUE(reaches({90, -5}, &CCellID::row, 1));
     EXPECT_TRUE(reaches({310, 100}, &CCellID::col, kCols - 1));
+    EXPECT_EQ(Selected().maxRow, 5) << "as far as the pointer";
     EXPECT_TRUE(reaches({-5, 100}, &CCellID::col, 1));
     owtest::ButtonUp();
     ExpectNoGesture();

@@ -17,6 +17,32 @@ protected:
     OpenGrid grid;
 };
 
+/// What cell (2, 1) could be given, of each kind.
+GV_ITEM FullItem()
+{
+    GV_ITEM item{};
+    item.row = 2;
+    item.col = 1;
+    item.mask = GV_MASK_ALL;
+    item.strText = L"text";
+    item.lParam = 42;
+    item.nState = CELL_SELECTED;
+    item.nFormat = DT_RIGHT;
+    item.crBkClr = RGB(9, 8, 7);
+    item.crFgClr = RGB(6, 5, 4);
+    item.nMargin = 11;
+    item.iImage = 5;
+    item.lfFont.lfHeight = -33;
+    return item;
+}
+
+/// In the order of the bits of the mask.
+std::vector<LONGLONG> ValuesOf(const GV_ITEM& i)
+{
+    return {i.strText.GetLength(), i.iImage, i.lParam, i.nState, i.crBkClr, i.crFgClr, i.nFormat,
+            i.lfFont.lfHeight,     i.nMargin};
+}
+
 /// A cell that cannot be made any more once the supply runs out.
 class ScarceGrid : public OpenGrid
 {
@@ -107,25 +133,7 @@ TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
 
 TEST_F(GridStorage, ItemsGoInAndOutByMask)
 {
-    GV_ITEM item;
-    item.row = 2;
-    item.col = 1;
-    item.strText = L"text";
-    item.lParam = 42;
-    item.nState = CELL_SELECTED;
-    item.nFormat = DT_RIGHT;
-    item.crBkClr = RGB(9, 8, 7);
-    item.crFgClr = RGB(6, 5, 4);
-    item.nMargin = 11;
-    item.iImage = 5;
-    item.lfFont = *grid.GetItemFont(2, 1);
-    item.lfFont.lfHeight = -33;
-    const auto values = [](const GV_ITEM& i)
-    {
-        return std::vector<LONGLONG>{
-            i.strText.GetLength(), i.iImage, i.lParam, i.nState, i.crBkClr, i.crFgClr, i.nFormat,
-            i.lfFont.lfHeight,     i.nMargin};
-    };
+    GV_ITEM item = FullItem();
     for (int bit = 0; bit <= 8; ++bit)
     {
         GV_ITEM before, after;
@@ -137,11 +145,11 @@ TEST_F(GridStorage, ItemsGoInAndOutByMask)
         item.mask = 1 << bit;
         EXPECT_TRUE(grid.SetItem(&item));
         EXPECT_TRUE(grid.GetItem(&after));
-        std::vector<LONGLONG> expected = values(before);
-        expected[bit] = values(item)[bit];
+        std::vector<LONGLONG> expected = ValuesOf(before);
+        expected[bit] = ValuesOf(item)[bit];
         if (item.mask != GV_MASK_STATE) // marked first, and then given a state without the mark
             expected[3] |= CELL_MODIFIED;
-        EXPECT_EQ(values(after), expected) << bit;
+        EXPECT_EQ(ValuesOf(after), expected) << bit;
     }
     EXPECT_TRUE(grid.IsCellSelected(2, 1));
     EXPECT_FALSE(grid.SetItem(nullptr) || grid.GetItem(nullptr));
@@ -149,9 +157,13 @@ TEST_F(GridStorage, ItemsGoInAndOutByMask)
     item.mask = 0;
     EXPECT_TRUE(grid.SetItem(&item));
     EXPECT_TRUE(grid.GetModified(2, 1)) << "whatever the mask holds";
-    grid.SetModified(FALSE, 2, 1);
-    EXPECT_FALSE(grid.GetModified(2, 1));
-    EXPECT_TRUE(grid.GetModified());
+    grid.SetItemText(0, 0, L"x");
+    for (const CCellID cell : {CCellID(0, 0), CCellID(2, 1)})
+    {
+        EXPECT_TRUE(grid.GetModified(cell.row, cell.col) && grid.GetModified());
+        grid.SetModified(FALSE, cell.row, cell.col);
+        EXPECT_FALSE(grid.GetModified(cell.row, cell.col));
+    }
 }
 
 TEST_F(GridStorage, LooksAreNoModification)
@@ -253,7 +265,8 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
 {
     OpenGrid grid;
     grid.SetVirtualMode(TRUE);
-    EXPECT_FALSE(grid.IsEditable());
+    EXPECT_FALSE(grid.IsEditable() || grid.GetHeaderSort() || grid.GetFixedRowSelection() ||
+                 grid.GetFixedColumnSelection());
     EXPECT_EQ(grid.GetAutoSizeStyle(), 1);
     grid.SetColumnCount(3);
     grid.SetRowCount(1000000);
@@ -268,6 +281,15 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
     EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
     EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
     EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());
+    EXPECT_EQ(grid.GetItemFont(0, 1)->lfHeight, grid.GetDefaultCell(TRUE, FALSE)->GetFont()->lfHeight);
+    grid.SetCallbackFunc([](GV_DISPINFO* info, LPARAM) { return info->item = FullItem(), 0; }, 0);
+    GV_ITEM item{};
+    item.row = 2;
+    item.col = 1;
+    item.mask = GV_MASK_ALL;
+    EXPECT_TRUE(grid.GetItem(&item));
+    EXPECT_EQ(ValuesOf(item), ValuesOf(FullItem()));
+    grid.SetCallbackFunc(fill, 7);
 
     EXPECT_FALSE(grid.SetItemText(5, 1, L"x"));
     EXPECT_FALSE(grid.SetItemState(5, 1, CELL_SELECTED));

@@ -84,6 +84,9 @@ TEST_F(GridWalk, PagesHomeAndEnd)
     }
     EXPECT_EQ(walk.ToStart(CCellID(4, 3), true), CCellID(5, 4)) << "none shows";
     EXPECT_EQ(walk.ToEnd(CCellID(4, 3), true), CCellID(2, 2)) << "behind the second of the body";
+    rows.SetCount(2, 0);
+    cols.SetCount(2, 0);
+    EXPECT_EQ(walk.ToEnd(CCellID(1, 1), true), CCellID(1, 1));
 }
 
 TEST_F(GridWalk, ByState)
