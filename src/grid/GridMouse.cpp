@@ -344,10 +344,7 @@ void CGridCtrl::OnLButtonUp(UINT nFlags, CPoint point)
     m_bPressLost = true;
     ::ClipCursor(nullptr);
     if (GetCapture() == this)
-    {
-        ::ReleaseCapture();
-        StopAutoScroll();
-    }
+        ::ReleaseCapture(); // which stops the scrolling
 
     const CPoint pointInCell = GetPointClicked(m_focusCell.row, m_focusCell.col, point);
     if (m_nMouseMode == MODE_PREPARE_EDIT)
@@ -500,7 +497,7 @@ void CGridCtrl::StepSelection(UINT nKey, CPoint pointAtEdge)
 // The mode stays until the release.
 void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
 {
-    if (pWnd != this && m_nTimerId != 0)
+    if (pWnd != this)
         StopAutoScroll();
 }
 
