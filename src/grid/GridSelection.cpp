@@ -207,7 +207,7 @@ void CGridCtrl::SetSelectedRange(int nMinRow, int nMinCol, int nMaxRow, int nMax
 void CGridCtrl::ResetSelectedRange()
 {
     m_mapPrevSelected.RemoveAll();
-    SetSelectedRange(-1, -1, -1, -1, FALSE, TRUE);
+    SetSelectedRange(CCellRange(), FALSE, TRUE);
     SetFocusCell(CCellID(), TRUE);
 }
 
