@@ -134,7 +134,11 @@ TEST_F(PatternCells, NeedColourAndStyleAndAreNotInASelection)
     {
         cell->SetPatternColor(color);
         cell->SetPatternStyle(style);
-        EXPECT_EQ(Colours(), Set{kBack}) << color << ' ' << style;
+        for (const COLORREF back : {CLR_INHERIT, kBack})
+        {
+            cell->SetBackClr(back);
+            EXPECT_EQ(Colours(), Set{back == kBack ? kBack : grid.GetTextBkColor()}) << color << ' ' << style;
+        }
     }
 }
 

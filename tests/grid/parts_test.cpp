@@ -143,6 +143,7 @@ struct Numbers
     std::vector<int> all;
     int leftToCompare = INT_MAX;
     int swaps = 0;
+    bool equalMoved = false;
 
     int CellAt(int nRow) const { return all[nRow]; }
     int Compare(int first, int second)
@@ -152,7 +153,7 @@ struct Numbers
     }
     void Swap(int nRow, int nOther)
     {
-        EXPECT_NE(all[nRow] / 10, all[nOther] / 10) << "equal ones stay";
+        equalMoved = equalMoved || all[nRow] / 10 == all[nOther] / 10;
         std::swap(all[nRow], all[nOther]);
         ++swaps;
     }
@@ -180,6 +181,7 @@ TEST(RowSorter, StopsWhereItIsBrokenAndTakesAnyOrder)
             many.all.push_back(inOrder ? i / 70 : static_cast<int>(random() % 700));
         CRowSorter(many, false).Sort(0, 99999);
         EXPECT_TRUE(std::is_sorted(many.all.rbegin(), many.all.rend(), byTens));
+        EXPECT_FALSE(many.equalMoved) << "equal ones stay";
     }
 }
 

@@ -97,37 +97,29 @@ TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
     {
         const int r = cell.row, c = cell.col;
         EXPECT_EQ(grid.GetCell(r, c), nullptr);
-        EXPECT_FALSE(grid.IsValid(cell));
-        EXPECT_FALSE(grid.SetItemText(r, c, L"x"));
+        for (const BOOL done :
+             {grid.IsValid(cell), grid.SetItemText(r, c, L"x"), grid.SetItemData(r, c, 1),
+              grid.SetItemImage(r, c, 1), grid.SetItemFormat(r, c, 0), grid.SetItemFont(r, c, nullptr),
+              grid.SetCellType(r, c, RUNTIME_CLASS(CGridCell)), grid.RedrawCell(r, c),
+              grid.IsCellVisible(r, c), grid.GetCellRect(r, c, CRect()), grid.IsItemEditing(r, c)})
+            EXPECT_FALSE(done);
         EXPECT_EQ(Text(r, c), L"");
-        EXPECT_FALSE(grid.SetItemData(r, c, 1));
         EXPECT_EQ(grid.GetItemData(r, c), 0);
-        EXPECT_FALSE(grid.SetItemImage(r, c, 1));
         EXPECT_EQ(grid.GetItemImage(r, c), -1);
         EXPECT_EQ(grid.GetItemState(r, c), 0u);
-        EXPECT_FALSE(grid.SetItemFormat(r, c, 0));
-        EXPECT_FALSE(grid.SetItemFont(r, c, nullptr));
         EXPECT_NE(grid.GetItemFont(r, c), nullptr) << "never fails";
         EXPECT_EQ(grid.GetCellTextExtent(r, c), CSize(0, 0));
-        EXPECT_FALSE(grid.SetCellType(r, c, RUNTIME_CLASS(CGridCell)));
-        EXPECT_FALSE(grid.RedrawCell(r, c));
-        EXPECT_FALSE(grid.IsCellVisible(r, c));
-        EXPECT_FALSE(grid.GetCellRect(r, c, CRect()));
-        EXPECT_FALSE(grid.IsItemEditing(r, c));
         EXPECT_TRUE(grid.IsCellEditable(r, c)) << "a missing cell has no state";
         grid.EnsureVisible(r, c);
         grid.OnEditCell(r, c, CPoint(), 'x');
     }
     EXPECT_EQ(grid.GetRowHeight(4), -1);
-    EXPECT_FALSE(grid.SetRowHeight(-1, 5));
-    EXPECT_FALSE(grid.SetRowHeight(1, -5));
-    EXPECT_FALSE(grid.SetColumnWidth(3, 5));
-    EXPECT_FALSE(grid.SetRowCount(-1) || grid.SetFixedColumnCount(-1));
-    EXPECT_FALSE(grid.SetCellType(2, 1, RUNTIME_CLASS(CObject)));
-    EXPECT_FALSE(grid.SetDefaultCellType(RUNTIME_CLASS(CObject)));
-    EXPECT_FALSE(grid.AutoSizeRow(9));
-    EXPECT_FALSE(grid.IsValid(CCellRange(0, 0, 4, 2)));
-    EXPECT_FALSE(grid.IsValid(CCellRange(2, 0, 1, 2)));
+    for (const BOOL done :
+         {grid.SetRowHeight(-1, 5), grid.SetRowHeight(1, -5), grid.SetColumnWidth(3, 5), grid.SetRowCount(-1),
+          grid.SetFixedColumnCount(-1), grid.AutoSizeRow(9), grid.SetCellType(2, 1, RUNTIME_CLASS(CObject)),
+          grid.SetDefaultCellType(RUNTIME_CLASS(CObject)), grid.IsValid(CCellRange(0, 0, 4, 2)),
+          grid.IsValid(CCellRange(2, 0, 1, 2))})
+        EXPECT_FALSE(done);
     EXPECT_TRUE(grid.IsValid(grid.GetCellRange()));
 }
 
