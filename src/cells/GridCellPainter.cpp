@@ -2,10 +2,9 @@
 
 #include "cells/GridCellPainter.h"
 
+#include "cells/PlainLine.h"
 #include "grid/GridCtrl.h"
 #include "module/GdiScope.h"
-
-#include <algorithm>
 
 namespace
 {
@@ -26,6 +25,13 @@ void DrawTriangle(CDC& dc, CPoint at, int size, bool up)
     dc.LineTo(at.x, base);
 }
 
+/// Most cells find the colour of their text on the context. Asking is next to free, setting calls the system.
+void TakeTextColor(CDC& dc, COLORREF clr)
+{
+    if (dc.GetTextColor() != clr)
+        dc.SetTextColor(clr);
+}
+
 /// What a cell changes on the context, put back at the end. SaveDC and RestoreDC would do the same for ten
 /// times as much state, the font chosen anew among it, and take longer than all the rest of a plain cell.
 class CTextState
@@ -37,8 +43,9 @@ public:
     }
     ~CTextState()
     {
-        m_dc.SetBkColor(m_crBk);
-        m_dc.SetTextColor(m_crText);
+        if (m_dc.GetBkColor() != m_crBk)
+            m_dc.SetBkColor(m_crBk);
+        TakeTextColor(m_dc, m_crText);
         m_dc.SetBkMode(m_nBkMode);
     }
     CTextState(const CTextState&) = delete;
@@ -50,100 +57,6 @@ private:
     COLORREF m_crText;
     COLORREF m_crBk;
 };
-
-/// The formats whose text is one line at a place that its extent alone decides.
-constexpr UINT kPlainFormat =
-    DT_CENTER | DT_RIGHT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS;
-
-/// Characters that each stand by themselves, one behind the other: Latin, Greek and Cyrillic letters, digits
-/// and signs. No accents to be put over another, nothing that is joined or written from the right, no control
-/// characters and no soft hyphen.
-bool IsPlain(wchar_t ch)
-{
-    constexpr wchar_t kSoftHyphen = 0xAD;
-    return (ch >= L' ' && ch < 0x7F) || (ch >= 0xA0 && ch < 0x300 && ch != kSoftHyphen) ||
-           (ch >= 0x370 && ch < 0x483);
-}
-
-/// The length of a text of plain characters, or -1.
-int PlainLength(LPCWSTR pszText)
-{
-    int nLength = 0;
-    for (; pszText[nLength]; ++nLength)
-        if (!IsPlain(pszText[nLength]))
-            return -1;
-    return nLength;
-}
-
-/// A line that is cut off, with three points in place of its end, as DrawText cuts it.
-class CShortLine
-{
-public:
-    /// False if not even two characters and the points fit: what is to be done then, DrawText knows.
-    bool Make(CDC& dc, LPCWSTR pszText, int nLength, int nWidth)
-    {
-        SIZE dots, all;
-        int ends[kMostChars];
-        const int nMeasured = std::min(nLength, kMostChars);
-        if (!::GetTextExtentPoint32W(dc.m_hDC, L"...", kDots, &dots) ||
-            !::GetTextExtentExPointW(dc.m_hDC, pszText, nMeasured, 0, nullptr, ends, &all))
-            return false;
-        const int nKept = static_cast<int>(
-            std::upper_bound(ends, ends + nMeasured, nWidth - static_cast<int>(dots.cx)) - ends);
-        if (nKept <= 1 || nKept == kMostChars)
-            return false;
-        std::copy_n(pszText, nKept, m_text);
-        std::fill_n(m_text + nKept, kDots, L'.');
-        m_nLength = nKept + kDots;
-        m_nWidth = ends[nKept - 1] + dots.cx;
-        return true;
-    }
-
-    LPCWSTR Text() const { return m_text; }
-    int Length() const { return m_nLength; }
-    int Width() const { return m_nWidth; }
-
-private:
-    static constexpr int kDots = 3;
-    static constexpr int kMostChars = 256; ///< more do not show in a cell
-
-    wchar_t m_text[kMostChars + kDots];
-    int m_nLength = 0;
-    int m_nWidth = 0;
-};
-
-/// A line put where DrawText would put it, for less than half of its cost: it is not searched for letters that
-/// change their order or shape, and not measured anew for each character that does not fit. False if it is not
-/// plain.
-bool DrawPlainLine(CDC& dc, LPCWSTR pszText, const CRect& rect, UINT nFormat)
-{
-    if ((nFormat & ~kPlainFormat) || !(nFormat & DT_SINGLELINE) || ::GetTextAlign(dc.m_hDC) != TA_LEFT)
-        return false;
-    int nLength = PlainLength(pszText);
-    if (nLength <= 0)
-        return nLength == 0;
-    SIZE size;
-    if (!::GetTextExtentPoint32W(dc.m_hDC, pszText, nLength, &size))
-        return false;
-    CShortLine shortened;
-    if (size.cx > rect.Width() && (nFormat & DT_END_ELLIPSIS))
-    {
-        if (!shortened.Make(dc, pszText, nLength, rect.Width()))
-            return false;
-        pszText = shortened.Text();
-        nLength = shortened.Length();
-        size.cx = shortened.Width();
-    }
-
-    int x = rect.left;
-    if (nFormat & DT_RIGHT)
-        x = rect.right - size.cx;
-    else if (nFormat & DT_CENTER)
-        x = (rect.left + rect.right - size.cx) / 2;
-    const int y = nFormat & DT_VCENTER ? rect.top + rect.Height() / 2 - size.cy / 2 : rect.top;
-    dc.ExtTextOut(x, y, ETO_CLIPPED | ETO_IGNORELANGUAGE, &rect, pszText, nLength, nullptr);
-    return true;
-}
 } // namespace
 
 CGridCellPainter::CGridCellPainter(CGridCellBase& cell, int nRow, int nCol)
@@ -217,7 +130,7 @@ void CGridCellPainter::DrawFocused(CRect& rect, SColors colors)
         FillBackground(Grown(rect), colors.back);
     if (Grid().GetFrameFocusCell())
         FrameFocus(Grid().GetGridLines() != GVL_NONE ? rect : Grown(rect), colors.text);
-    DC().SetTextColor(colors.text);
+    TakeTextColor(DC(), colors.text);
     rect.DeflateRect(1, 1);
 }
 
@@ -232,14 +145,14 @@ void CGridCellPainter::FrameFocus(const CRect& rect, COLORREF clr)
 void CGridCellPainter::DrawSelected(const CRect& rect)
 {
     DC().FillSolidRect(Grown(rect), ::GetSysColor(COLOR_HIGHLIGHT));
-    DC().SetTextColor(::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    TakeTextColor(DC(), ::GetSysColor(COLOR_HIGHLIGHTTEXT));
 }
 
 void CGridCellPainter::DrawPlain(const CRect& rect, const SColors& colors)
 {
     if (colors.erase)
         FillBackground(Grown(rect), colors.back);
-    DC().SetTextColor(colors.text);
+    TakeTextColor(DC(), colors.text);
 }
 
 void CGridCellPainter::FillBackground(const CRect& rect, COLORREF clr)
@@ -336,6 +249,6 @@ void CGridCellPainter::DrawText(CRect rect)
     if (!pszText)
         return;
     const UINT nFormat = m_cell.GetFormat() | DT_NOPREFIX;
-    if (!DrawPlainLine(DC(), pszText, rect, nFormat))
+    if (!gfnDrawPlainLine(DC(), pszText, rect, nFormat))
         DC().DrawText(pszText, -1, &rect, nFormat);
 }
