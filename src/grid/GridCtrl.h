@@ -690,8 +690,8 @@ private:
     class CSelectPass;
     class CScrollRun;
     class CSizing;
+    class CPress;
     class CKeyStroke;
-    struct SLines;
 
     // Construction and settings
     std::array<CGridDefaultCell*, 4> DefaultCells();
@@ -702,21 +702,20 @@ private:
     void ForgetLastWindow();
 
     // Storage
-    SLines Rows();
-    SLines Columns();
     bool EndEditFirst();
     bool CountsChanged();
-    BOOL SetCount(const SLines& lines, int nCount);
-    void DropLines(const SLines& lines, int nCount);
+    BOOL SetCount(EGridWay way, int nCount);
+    void DropLines(EGridWay way, int nCount);
     bool AppendRows(int nRows);
     bool AppendColumns(int nCols);
-    BOOL SetFixedCount(const SLines& lines, int nFixed);
-    void MarkFixedCells(const SLines& lines, int nFixed);
+    BOOL SetFixedCount(EGridWay way, int nFixed);
+    void MarkFixedCells(EGridWay way, int nFixed);
     template <class Prepare>
-    int InsertLine(const SLines& lines, int nAt, LPCWSTR strHeading, Prepare prepare);
-    void PlaceLine(const SLines& lines, int nIndex);
-    BOOL DeleteLine(const SLines& lines, int nLine);
-    void RemoveLine(const SLines& lines, int nLine);
+    int InsertLine(EGridWay way, int nAt, LPCWSTR strHeading, Prepare prepare);
+    void PlaceLine(EGridWay way, int nIndex);
+    BOOL DeleteLine(EGridWay way, int nLine);
+    void RemoveLine(EGridWay way, int nLine);
+    CCellRange CellsOf(EGridWay way, int nFirst, int nEnd) const;
     void RemoveCells(const CCellRange& range);
     CGridCells::MakeCell CellMaker();
     CGridCellBase* MakeVirtualCell(int nRow, int nCol) const;
@@ -740,7 +739,6 @@ private:
 
     // Scrolling
     bool ShowBar(EGridWay way, bool bShow, const CLifeWatch& life);
-    CSize AreaWithoutBars() const;
     void OnScroll(EGridWay way, UINT nSBCode);
     void RepaintScrolled(const CRect& rect);
     bool SendScroll(EGridWay way, UINT nSBCode);
@@ -755,16 +753,9 @@ private:
 
     // Selection
     bool IsRecordedSelected(int nRow, int nCol) const;
-    void RedrawHeadersOf(const CCellID& cell, bool bRow, bool bCol);
 
     // Mouse
-    bool PressGoesOn();
-    bool IsInText(const CCellID& cell, CPoint point);
-    bool IsBodyCell(const CCellID& cell) const;
     bool FindDivider(CPoint point);
-    void DeselectPressed();
-    void BeginGesture(UINT nFlags, CPoint point);
-    void BeginSelecting(UINT nFlags);
     void Hover(CPoint point);
     bool Drag(CPoint point);
     bool DragSelection(const CCellID& cell);
@@ -788,5 +779,4 @@ private:
     CCellWatch* m_pFirstCellWatch = nullptr;
     unsigned m_nStructure = 0; ///< raised whenever rows, columns or cells come or go
     bool m_bPressLost = false; ///< the press that is being answered: nothing more may come of it
-    bool m_bRealPress = false; ///< and it came from the button itself, not as a message only
 };

@@ -11,9 +11,8 @@
 
 #include "grid/GridCtrl.h"
 
-#include "grid/GridClientArea.h"
-#include "grid/GridDivider.h"
 #include "grid/GridLifeWatch.h"
+#include "grid/GridSizing.h"
 
 #include <algorithm>
 #include <utility>
@@ -24,167 +23,168 @@ void ShowStandardCursor(LPCWSTR pszCursor)
 {
     ::SetCursor(::LoadCursor(nullptr, pszCursor));
 }
-} // namespace
 
-/// The dividers that the mouse is over or drags, by the mode.
-class CGridCtrl::CSizing
+bool IsInText(CGridCtrl& grid, const CCellID& cell, CPoint point)
 {
-public:
-    explicit CSizing(CGridCtrl& grid)
-        : m_grid(grid),
-          m_bColumns(grid.m_nMouseMode == MODE_OVER_COL_DIVIDE || grid.m_nMouseMode == MODE_SIZING_COL),
-          m_dividers(m_bColumns ? EGridWay::eColumns : EGridWay::eRows, grid.GetView(),
-                     grid.m_nResizeCaptureRange)
-    {
-    }
+    CRect rect;
+    CGridCellBase* const pCell = grid.GetCell(cell.row, cell.col);
+    if (!pCell || !grid.GetCellRect(cell, &rect))
+        return false;
+    pCell->GetTextRect(&rect);
+    return rect.PtInRect(point);
+}
 
-    static bool IsOver(const CGridCtrl& grid)
-    {
-        return grid.m_nMouseMode == MODE_OVER_COL_DIVIDE || grid.m_nMouseMode == MODE_OVER_ROW_DIVIDE;
-    }
-    static bool IsOn(const CGridCtrl& grid)
-    {
-        return grid.m_nMouseMode == MODE_SIZING_COL || grid.m_nMouseMode == MODE_SIZING_ROW;
-    }
-
-    void ShowCursor() const { ShowStandardCursor(m_bColumns ? IDC_SIZEWE : IDC_SIZENS); }
-
-    // What does not come to its end leaves the mode as it is and the cursor free; the release puts that
-    // right.
-    void Begin(CPoint point) const
-    {
-        m_grid.m_nMouseMode = m_bColumns ? MODE_SIZING_COL : MODE_SIZING_ROW;
-        const BOOL bOpensHidden = m_bColumns ? m_grid.m_bHiddenColUnhide : m_grid.m_bHiddenRowUnhide;
-        CGridDividers::STaken taken = m_dividers.Take(m_grid.m_clickDownCell, point, bOpensHidden != FALSE);
-        if (taken.bMarked)
-            InvertMarker(point);
-        if (!taken.bHeld)
-            return;
-        m_grid.ClientToScreen(&taken.rectHeld);
-        ::ClipCursor(&taken.rectHeld);
-        m_grid.m_ptLastMouse = point;
-    }
-
-    void Drag(CPoint point) const
-    {
-        InvertMarker(m_grid.m_ptLastMouse);
-        InvertMarker(point);
-    }
-
-    /// The new size from the release. False if what was sized is not in view any more.
-    bool End(CPoint point) const
-    {
-        InvertMarker(m_grid.m_ptLastMouse);
-        if (point == m_grid.m_ptClickClient || point == CPoint(0, 0))
-            return true;
-        const CCellID sized = m_grid.m_clickDownCell;
-        const BOOL bMayHide = m_bColumns ? m_grid.m_bColumnHide : m_grid.m_bRowHide;
-        int nSize = 0;
-        if (!m_dividers.Drop(sized, point, bMayHide != FALSE, nSize))
-            return false;
-        if (m_bColumns)
-            m_grid.SetColumnWidth(sized.col, nSize, TRUE);
-        else
-            m_grid.SetRowHeight(sized.row, nSize);
-        m_grid.ResetScrollBars();
-        m_grid.Invalidate();
-        return true;
-    }
-
-    /// Sizes the column or row at a divider to its contents. False where there is none.
-    bool Fit(const CCellID& cell, CPoint point) const
-    {
-        const int nItem = m_dividers.Fit(cell, point);
-        if (nItem < 0)
-            return false;
-        if (m_bColumns)
-            m_grid.AutoSizeColumn(nItem, m_grid.m_nAutoSizeStyle, TRUE);
-        else
-            m_grid.AutoSizeRow(nItem, TRUE);
-        m_grid.Invalidate();
-        return true;
-    }
-
-private:
-    void InvertMarker(CPoint point) const
-    {
-        const CClientArea area(m_grid);
-        if (area.DC())
-            area.DC()->InvertRect(CRect(m_dividers.Marker(point)));
-    }
-
-    CGridCtrl& m_grid;
-    const bool m_bColumns;
-    const CGridDividers m_dividers;
-};
+bool IsBodyCell(CGridCtrl& grid, const CCellID& cell)
+{
+    return grid.IsValid(cell) && !grid.IsCellFixed(cell.row, cell.col);
+}
+} // namespace
 
 // ---- Press ------------------------------------------------------------------------------------------------
 
-void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+/// One press of the left button, up to the gesture that it begins.
+class CGridCtrl::CPress
 {
-    const CLifeWatch life(*this);
-    m_bPressLost = false;
-    m_bRealPress = ::GetKeyState(VK_LBUTTON) < 0;
-    SetFocus();
-    if (!life.WindowLives())
-        return;
-    m_bLButtonDown = TRUE;
-    m_ptClickClient = point;
-    m_clickDownCell = GetCellFromPt(point);
-    if (!IsValid(m_clickDownCell))
-        return;
-    if (!(nFlags & MK_SHIFT))
-        m_selectionStart = m_clickDownCell;
-    else if (!IsValid(m_selectionStart))
-        m_selectionStart = m_focusCell;
-
-    EndEditing();
-    if (!life.WindowLives() || !PressGoesOn())
-        return;
-    if (CGridCellBase* const pCell = GetCell(m_clickDownCell.row, m_clickDownCell.col))
-        pCell->OnClickDown(GetPointClicked(m_clickDownCell.row, m_clickDownCell.col, point));
-    if (!life.WindowLives() || !PressGoesOn() || !IsValid(m_clickDownCell))
-        return;
-
-    const bool bControl = (nFlags & MK_CONTROL) != 0;
-    if (m_clickDownCell == m_focusCell && !bControl && IsInText(m_clickDownCell, point) &&
-        IsCellEditable(m_clickDownCell))
+public:
+    CPress(CGridCtrl& grid, UINT nFlags, CPoint point)
+        : m_grid(grid), m_life(grid), m_cell(grid.m_clickDownCell), m_nFlags(nFlags), m_point(point),
+          m_bReal(::GetKeyState(VK_LBUTTON) < 0)
     {
-        m_nMouseMode = MODE_PREPARE_EDIT;
-        return;
+        grid.m_bPressLost = false;
     }
-    if (IsCellSelected(m_clickDownCell))
+
+    void Answer()
     {
-        if (bControl)
+        m_grid.SetFocus();
+        if (!m_life.WindowLives() || !FindCell() || !TellCell())
+            return;
+        if (BeginsEdit())
         {
-            DeselectPressed();
+            m_grid.m_nMouseMode = MODE_PREPARE_EDIT;
             return;
         }
-    }
-    else if (!CSizing::IsOver(*this))
-    {
-        SetFocusCell(CCellID(), TRUE);
-        if (m_rows.Count() > m_rows.Fixed() && m_cols.Count() > m_cols.Fixed())
-            SetFocusCell(RaisedToBody(m_clickDownCell), TRUE);
-        if (!life.WindowLives() || !PressGoesOn())
+        const bool bSelected = m_grid.IsCellSelected(m_cell) != FALSE;
+        if (bSelected && Has(MK_CONTROL))
+            return Deselect();
+        if (!bSelected && !CSizing::IsOver(m_grid) && !TakeFocus())
             return;
+        m_grid.SetCapture();
+        BeginGesture();
+        if (m_life.WindowLives())
+            m_grid.m_ptLastMouse = m_point;
     }
-    SetCapture();
-    BeginGesture(nFlags, point);
-    if (life.WindowLives())
-        m_ptLastMouse = point;
-}
 
-/// Whoever is told of a press may show a message box, and the button is up again when it closes: whatever the
-/// press was going to begin would then have no end.
-bool CGridCtrl::PressGoesOn()
-{
-    if (!m_bPressLost && (!m_bRealPress || ::GetKeyState(VK_LBUTTON) < 0))
+private:
+    bool Has(UINT nFlag) const { return (m_nFlags & nFlag) != 0; }
+
+    /// Whoever is told of a press may show a message box, and the button is up again when it closes: whatever
+    /// the press was going to begin would then have no end.
+    bool GoesOn()
+    {
+        if (!m_life.WindowLives())
+            return false;
+        if (!m_grid.m_bPressLost && (!m_bReal || ::GetKeyState(VK_LBUTTON) < 0))
+            return true;
+        m_grid.m_bLButtonDown = FALSE;
+        if (GetCapture() == &m_grid)
+            ::ReleaseCapture();
+        return false;
+    }
+
+    /// Where it is, and from where it selects. False outside the cells.
+    bool FindCell()
+    {
+        m_grid.m_bLButtonDown = TRUE;
+        m_grid.m_ptClickClient = m_point;
+        m_cell = m_grid.GetCellFromPt(m_point);
+        if (!m_grid.IsValid(m_cell))
+            return false;
+        if (!Has(MK_SHIFT))
+            m_grid.m_selectionStart = m_cell;
+        else if (!m_grid.IsValid(m_grid.m_selectionStart))
+            m_grid.m_selectionStart = m_grid.m_focusCell;
         return true;
-    m_bLButtonDown = FALSE;
-    if (GetCapture() == this)
-        ::ReleaseCapture();
-    return false;
+    }
+
+    bool TellCell()
+    {
+        m_grid.EndEditing();
+        if (!GoesOn())
+            return false;
+        if (CGridCellBase* const pCell = m_grid.GetCell(m_cell.row, m_cell.col))
+            pCell->OnClickDown(m_grid.GetPointClicked(m_cell.row, m_cell.col, m_point));
+        return GoesOn() && m_grid.IsValid(m_cell);
+    }
+
+    bool BeginsEdit() const
+    {
+        return m_cell == m_grid.m_focusCell && !Has(MK_CONTROL) && IsInText(m_grid, m_cell, m_point) &&
+               m_grid.IsCellEditable(m_cell);
+    }
+
+    /// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
+    void Deselect()
+    {
+        m_grid.SetFocusCell(m_cell, TRUE);
+        if (!m_life.ObjectLives())
+            return;
+        if (m_grid.m_bListMode)
+            m_grid.SelectRows(m_cell, TRUE, FALSE);
+        else
+            m_grid.SelectCells(m_cell, TRUE, FALSE);
+    }
+
+    bool TakeFocus()
+    {
+        m_grid.SetFocusCell(CCellID(), TRUE);
+        if (m_grid.m_rows.Count() > m_grid.m_rows.Fixed() && m_grid.m_cols.Count() > m_grid.m_cols.Fixed())
+            m_grid.SetFocusCell(m_grid.RaisedToBody(m_cell), TRUE);
+        return GoesOn();
+    }
+
+    void BeginGesture()
+    {
+        if (m_grid.m_nMouseMode == MODE_NOTHING)
+            m_grid.FindDivider(m_point);
+        if (CSizing::IsOver(m_grid))
+            CSizing(m_grid).Begin(m_point);
+        else
+            BeginSelecting();
+    }
+
+    void BeginSelecting()
+    {
+        m_grid.SendMessageToParent(m_cell.row, m_cell.col, LVN_ITEMCHANGING);
+        if (!GoesOn())
+            return;
+        m_grid.m_mapPrevSelected.RemoveAll();
+        if (Has(MK_CONTROL))
+            m_grid.m_mapPrevSelected = m_grid.m_mapSelected;
+
+        if (m_grid.m_rows.IsFixed(m_cell.row))
+            m_grid.OnFixedRowClick(m_cell);
+        else if (m_grid.m_cols.IsFixed(m_cell.col))
+            m_grid.OnFixedColumnClick(m_cell);
+        else
+        {
+            // Only here a drag beyond the edge scrolls; one that began on a header does not.
+            m_grid.m_nMouseMode = m_grid.m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
+            m_grid.OnSelecting(m_cell);
+            m_grid.m_nTimerId = m_grid.SetTimer(AutoScrollTimerId, m_grid.m_nTimerInterval, nullptr);
+        }
+    }
+
+    CGridCtrl& m_grid;
+    const CLifeWatch m_life;
+    CCellID& m_cell; ///< the grid's: whoever is told may change it
+    const UINT m_nFlags;
+    const CPoint m_point;
+    const bool m_bReal; ///< it comes from the button itself, not as a message only
+};
+
+void CGridCtrl::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    CPress(*this, nFlags, point).Answer();
 }
 
 // Within one top-level window the focus may move while the button stays down.
@@ -193,52 +193,6 @@ void CGridCtrl::OnKillFocus(CWnd* pNewWnd)
     CWnd::OnKillFocus(pNewWnd);
     if (::GetAncestor(pNewWnd->GetSafeHwnd(), GA_ROOT) != ::GetAncestor(m_hWnd, GA_ROOT))
         m_bPressLost = true;
-}
-
-/// Ctrl on a selected cell takes it, or in list mode its row, out of the selection.
-void CGridCtrl::DeselectPressed()
-{
-    const CLifeWatch life(*this);
-    SetFocusCell(m_clickDownCell, TRUE);
-    if (!life.ObjectLives())
-        return;
-    if (m_bListMode)
-        SelectRows(m_clickDownCell, TRUE, FALSE);
-    else
-        SelectCells(m_clickDownCell, TRUE, FALSE);
-}
-
-void CGridCtrl::BeginGesture(UINT nFlags, CPoint point)
-{
-    if (m_nMouseMode == MODE_NOTHING)
-        FindDivider(point);
-    if (CSizing::IsOver(*this))
-        CSizing(*this).Begin(point);
-    else
-        BeginSelecting(nFlags);
-}
-
-void CGridCtrl::BeginSelecting(UINT nFlags)
-{
-    const CLifeWatch life(*this);
-    SendMessageToParent(m_clickDownCell.row, m_clickDownCell.col, LVN_ITEMCHANGING);
-    if (!life.WindowLives() || !PressGoesOn())
-        return;
-    m_mapPrevSelected.RemoveAll();
-    if (nFlags & MK_CONTROL)
-        m_mapPrevSelected = m_mapSelected;
-
-    if (m_rows.IsFixed(m_clickDownCell.row))
-        OnFixedRowClick(m_clickDownCell);
-    else if (m_cols.IsFixed(m_clickDownCell.col))
-        OnFixedColumnClick(m_clickDownCell);
-    else
-    {
-        // Only here a drag beyond the edge scrolls; one that began on a header does not.
-        m_nMouseMode = m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
-        OnSelecting(m_clickDownCell);
-        m_nTimerId = SetTimer(AutoScrollTimerId, m_nTimerInterval, nullptr);
-    }
 }
 
 /// The mode and the cursor of the divider at a point; false if there is none that may be dragged.
@@ -254,21 +208,6 @@ bool CGridCtrl::FindDivider(CPoint point)
     if (std::exchange(m_nMouseMode, nMode) != nMode)
         CSizing(*this).ShowCursor();
     return true;
-}
-
-bool CGridCtrl::IsInText(const CCellID& cell, CPoint point)
-{
-    CRect rect;
-    CGridCellBase* const pCell = GetCell(cell.row, cell.col);
-    if (!pCell || !GetCellRect(cell, &rect))
-        return false;
-    pCell->GetTextRect(&rect);
-    return rect.PtInRect(point);
-}
-
-bool CGridCtrl::IsBodyCell(const CCellID& cell) const
-{
-    return IsValid(cell) && !m_rows.IsFixed(cell.row) && !m_cols.IsFixed(cell.col);
 }
 
 CCellID CGridCtrl::RaisedToBody(CCellID cell) const
@@ -329,7 +268,7 @@ bool CGridCtrl::DragSelection(const CCellID& cell)
     if (cell == m_focusCell)
         return true;
     OnSelecting(cell);
-    if (IsBodyCell(cell) || m_nMouseMode == MODE_SELECT_COL || m_nMouseMode == MODE_SELECT_ROW)
+    if (IsBodyCell(*this, cell) || m_nMouseMode == MODE_SELECT_COL || m_nMouseMode == MODE_SELECT_ROW)
         SetFocusCell(cell, cell.row != m_focusCell.row);
     return true;
 }
@@ -412,7 +351,7 @@ void CGridCtrl::TellDoubleClick(const CCellID& cell, CPoint point)
 {
     const CLifeWatch life(*this);
     const CPoint pointInCell = GetPointClicked(cell.row, cell.col, point);
-    if (IsBodyCell(cell) && IsInText(cell, point) && (IsValid(m_clickDownCell) || m_bListMode))
+    if (IsBodyCell(*this, cell) && IsInText(*this, cell, point) && (IsValid(m_clickDownCell) || m_bListMode))
         OnEditCell(cell.row, cell.col, pointInCell, VK_LBUTTON);
     if (!life.ObjectLives())
         return;

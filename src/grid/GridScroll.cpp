@@ -83,25 +83,12 @@ bool CGridCtrl::ShowBar(EGridWay way, bool bShow, const CLifeWatch& life)
     return life.WindowLives();
 }
 
-/// The client area as it would be without bars.
-CSize CGridCtrl::AreaWithoutBars() const
-{
-    CSize area = GetClientSize();
-    if (area.cx == 0 || area.cy == 0)
-        return CSize(0, 0);
-    if (m_bars.IsInWindow(EGridWay::eRows))
-        area.cx += ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER);
-    if (m_bars.IsInWindow(EGridWay::eColumns))
-        area.cy += ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER);
-    return area;
-}
-
 void CGridCtrl::ResetScrollBars()
 {
     m_topLeftCell.row = -1;
     if (!m_bAllowDraw || !::IsWindow(m_hWnd))
         return;
-    const CSize area = AreaWithoutBars();
+    const CSize area = m_bars.AreaWithout(GetClientSize());
     if (area == CSize(0, 0))
         return;
 

@@ -104,6 +104,17 @@ bool CGridScrollBars::IsInWindow(EGridWay way) const
     return (m_window.GetStyle() & (way == EGridWay::eColumns ? WS_HSCROLL : WS_VSCROLL)) != 0;
 }
 
+CSize CGridScrollBars::AreaWithout(CSize client) const
+{
+    if (client.cx == 0 || client.cy == 0)
+        return CSize(0, 0);
+    if (IsInWindow(EGridWay::eRows))
+        client.cx += ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER);
+    if (IsInWindow(EGridWay::eColumns))
+        client.cy += ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER);
+    return client;
+}
+
 int CGridScrollBars::Pos(EGridWay way) const
 {
     SCROLLINFO info = Asking(SIF_POS);

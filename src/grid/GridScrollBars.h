@@ -71,6 +71,8 @@ public:
 
     /// Whether the window has the bar, whatever a grid's books say.
     bool IsInWindow(EGridWay way) const;
+    /// A client area as it would be without them. One that has no extent stays without.
+    CSize AreaWithout(CSize client) const;
 
     int Pos(EGridWay way) const;
     /// While the user drags the thumb; 0 if it cannot be told.

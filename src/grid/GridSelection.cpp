@@ -11,6 +11,20 @@
 #include <algorithm>
 #include <memory>
 
+namespace
+{
+/// The headers above and beside a cell, which show where the focus is.
+void RedrawHeadersOf(CGridCtrl& grid, const CCellID& cell, bool bRow, bool bCol)
+{
+    if (!grid.GetTrackFocusCell())
+        return;
+    for (int nRow = 0; bCol && nRow < grid.GetFixedRowCount(); ++nRow)
+        grid.RedrawCell(nRow, cell.col);
+    for (int nCol = 0; bRow && nCol < grid.GetFixedColumnCount(); ++nCol)
+        grid.RedrawCell(cell.row, nCol);
+}
+} // namespace
+
 // ---- The selection's books --------------------------------------------------------------------------------
 
 // With selection off a cell counts as not selected: its bit then comes and goes, and its entry comes and
@@ -82,28 +96,17 @@ CCellID CGridCtrl::SetFocusCell(CCellID cell, BOOL bNotify)
     {
         SetItemState(old.row, old.col, GetItemState(old.row, old.col) & ~CELL_FOCUSED);
         RedrawCell(old);
-        RedrawHeadersOf(old, bOtherRow, bOtherCol);
+        RedrawHeadersOf(*this, old, bOtherRow, bOtherCol);
     }
     if (IsValid(cell))
     {
         SetItemState(cell.row, cell.col, GetItemState(cell.row, cell.col) | CELL_FOCUSED);
         RedrawCell(cell);
-        RedrawHeadersOf(cell, bOtherRow, bOtherCol);
+        RedrawHeadersOf(*this, cell, bOtherRow, bOtherCol);
         if (bNotify)
             SendMessageToParent(cell.row, cell.col, LVN_ITEMCHANGED);
     }
     return old;
-}
-
-/// The headers above and beside a cell, which show where the focus is.
-void CGridCtrl::RedrawHeadersOf(const CCellID& cell, bool bRow, bool bCol)
-{
-    if (!m_bTrackFocusCell)
-        return;
-    for (int nRow = 0; bCol && nRow < m_rows.Fixed(); ++nRow)
-        RedrawCell(nRow, cell.col);
-    for (int nCol = 0; bRow && nCol < m_cols.Fixed(); ++nCol)
-        RedrawCell(cell.row, nCol);
 }
 
 // ---- Ranges -----------------------------------------------------------------------------------------------
@@ -238,7 +241,7 @@ void CGridCtrl::SelectRows(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 
 void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 {
-    if (!m_bEnableSelection || !IsBodyCell(cell))
+    if (!m_bEnableSelection || !IsValid(cell) || IsCellFixed(cell.row, cell.col))
         return;
     SetSelectedRange(std::min(m_selectionStart.row, cell.row), std::min(m_selectionStart.col, cell.col),
                      std::max(m_selectionStart.row, cell.row), std::max(m_selectionStart.col, cell.col),

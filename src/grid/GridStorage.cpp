@@ -5,6 +5,7 @@
 #include "grid/GridCtrl.h"
 
 #include "grid/GridLifeWatch.h"
+#include "grid/GridWay.h"
 
 #include <algorithm>
 #include <memory>
@@ -51,6 +52,12 @@ void MakeFixed(CGridCtrl& grid, int nRow, int nCol, DWORD nBit)
     InheritColours(grid, nRow, nCol);
 }
 
+/// Of a cell in a fixed row, or column.
+DWORD FixedBitOf(EGridWay way)
+{
+    return way == EGridWay::eRows ? CELL_FIXEDROW : CELL_FIXEDCOL;
+}
+
 /// A cell that stays fixed in the other direction keeps its colours.
 void MakeLoose(CGridCtrl& grid, int nRow, int nCol, DWORD nBit, bool bStaysFixed)
 {
@@ -60,36 +67,6 @@ void MakeLoose(CGridCtrl& grid, int nRow, int nCol, DWORD nBit, bool bStaysFixed
         InheritColours(grid, nRow, nCol);
 }
 } // namespace
-
-// ---- Rows, or columns -------------------------------------------------------------------------------------
-
-/// What is done to rows and to columns alike is written once, for lines.
-struct CGridCtrl::SLines
-{
-    CGridAxis& axis;
-    CGridAxis& across; ///< the other direction
-    int CCellID::*index;
-    DWORD fixedBit; ///< of a cell in a fixed line
-    bool areRows;
-
-    /// The cells of the lines from one to before another.
-    CCellRange Cells(int nFirst, int nEnd) const
-    {
-        if (areRows)
-            return CCellRange(nFirst, 0, nEnd - 1, across.Count() - 1);
-        return CCellRange(0, nFirst, across.Count() - 1, nEnd - 1);
-    }
-};
-
-CGridCtrl::SLines CGridCtrl::Rows()
-{
-    return {m_rows, m_cols, &CCellID::row, CELL_FIXEDROW, true};
-}
-
-CGridCtrl::SLines CGridCtrl::Columns()
-{
-    return {m_cols, m_rows, &CCellID::col, CELL_FIXEDCOL, false};
-}
 
 // ---- Before and after every change ------------------------------------------------------------------------
 
@@ -123,17 +100,17 @@ bool CGridCtrl::CountsChanged()
 
 BOOL CGridCtrl::SetRowCount(int nRows)
 {
-    return SetCount(Rows(), nRows);
+    return SetCount(EGridWay::eRows, nRows);
 }
 
 BOOL CGridCtrl::SetColumnCount(int nCols)
 {
-    return SetCount(Columns(), nCols);
+    return SetCount(EGridWay::eColumns, nCols);
 }
 
-BOOL CGridCtrl::SetCount(const SLines& lines, int nCount)
+BOOL CGridCtrl::SetCount(EGridWay way, int nCount)
 {
-    CGridAxis& axis = lines.axis;
+    CGridAxis& axis = Axis(way);
     if (nCount == axis.Count())
         return TRUE;
     if (nCount < 0 || !EndEditFirst())
@@ -142,14 +119,14 @@ BOOL CGridCtrl::SetCount(const SLines& lines, int nCount)
         return TRUE;
     m_topLeftCell.col = -1;
     axis.SetFixed(std::min(axis.Fixed(), nCount));
-    if (m_focusCell.*lines.index >= nCount)
+    if (gfnItemAlong(way, m_focusCell) >= nCount)
         SetFocusCell(CCellID());
 
     bool bDone = true;
     if (nCount < axis.Count())
-        DropLines(lines, nCount);
+        DropLines(way, nCount);
     else
-        bDone = lines.areRows ? AppendRows(nCount) : AppendColumns(nCount);
+        bDone = way == EGridWay::eRows ? AppendRows(nCount) : AppendColumns(nCount);
     SetSortColumn(-1); // here before the bars are reset, elsewhere after
     m_bModified = TRUE;
     if (CountsChanged())
@@ -157,14 +134,14 @@ BOOL CGridCtrl::SetCount(const SLines& lines, int nCount)
     return bDone;
 }
 
-void CGridCtrl::DropLines(const SLines& lines, int nCount)
+void CGridCtrl::DropLines(EGridWay way, int nCount)
 {
-    RemoveCells(lines.Cells(nCount, lines.axis.Count()));
-    if (lines.areRows)
+    RemoveCells(CellsOf(way, nCount, Axis(way).Count()));
+    if (way == EGridWay::eRows)
         m_rowData.CutRows(std::min(nCount, m_rowData.RowCount()));
     else
         m_rowData.SetColumns(nCount);
-    lines.axis.SetCount(nCount, 0);
+    Axis(way).SetCount(nCount, 0);
 }
 
 /// Each row counts as soon as it is complete, so that an exception leaves a grid of those that were built.
@@ -206,30 +183,31 @@ bool CGridCtrl::AppendColumns(int nCols)
 
 BOOL CGridCtrl::SetFixedRowCount(int nFixedRows)
 {
-    return SetFixedCount(Rows(), nFixedRows);
+    return SetFixedCount(EGridWay::eRows, nFixedRows);
 }
 
 BOOL CGridCtrl::SetFixedColumnCount(int nFixedCols)
 {
-    return SetFixedCount(Columns(), nFixedCols);
+    return SetFixedCount(EGridWay::eColumns, nFixedCols);
 }
 
 // The selection goes first for rows and last for columns: a column count that cannot grow leaves it. Wanted.
-BOOL CGridCtrl::SetFixedCount(const SLines& lines, int nFixed)
+BOOL CGridCtrl::SetFixedCount(EGridWay way, int nFixed)
 {
-    if (nFixed == lines.axis.Fixed())
+    CGridAxis& axis = Axis(way);
+    if (nFixed == axis.Fixed())
         return TRUE;
     if (nFixed < 0 || !EndEditFirst())
         return FALSE;
-    if (lines.areRows)
+    if (way == EGridWay::eRows)
         ResetSelectedRange();
     const CLifeWatch life(*this);
-    if (nFixed > lines.axis.Count() && (!SetCount(lines, nFixed) || !life.ObjectLives()))
+    if (nFixed > axis.Count() && (!SetCount(way, nFixed) || !life.ObjectLives()))
         return FALSE;
     ResetSelectedRange();
     if (!m_bVirtualMode)
-        MarkFixedCells(lines, nFixed);
-    lines.axis.SetFixed(nFixed);
+        MarkFixedCells(way, nFixed);
+    axis.SetFixed(nFixed);
     m_topLeftCell.col = -1;
     ++m_nStructure;
     InvalidateGrid();
@@ -237,17 +215,18 @@ BOOL CGridCtrl::SetFixedCount(const SLines& lines, int nFixed)
 }
 
 /// Tells the cells of which the fixed count is about to change what they are from then on.
-void CGridCtrl::MarkFixedCells(const SLines& lines, int nFixed)
+void CGridCtrl::MarkFixedCells(EGridWay way, int nFixed)
 {
-    const int nOld = lines.axis.Fixed();
-    lines.Cells(nOld, nFixed)
-        .ForEach([&](int nRow, int nCol) { MakeFixed(*this, nRow, nCol, lines.fixedBit); });
-    lines.Cells(nFixed, nOld)
+    const int nOld = Axis(way).Fixed();
+    const CGridAxis& across = Axis(gfnOtherWay(way));
+    CellsOf(way, nOld, nFixed)
+        .ForEach([&](int nRow, int nCol) { MakeFixed(*this, nRow, nCol, FixedBitOf(way)); });
+    CellsOf(way, nFixed, nOld)
         .ForEach(
             [&](int nRow, int nCol)
             {
-                const bool bStaysFixed = lines.across.IsFixed(lines.areRows ? nCol : nRow);
-                MakeLoose(*this, nRow, nCol, lines.fixedBit, bStaysFixed);
+                const bool bStaysFixed = across.IsFixed(way == EGridWay::eRows ? nCol : nRow);
+                MakeLoose(*this, nRow, nCol, FixedBitOf(way), bStaysFixed);
             });
 }
 
@@ -255,7 +234,7 @@ void CGridCtrl::MarkFixedCells(const SLines& lines, int nFixed)
 
 int CGridCtrl::InsertColumn(LPCWSTR strHeading, UINT nFormat, int nColumn)
 {
-    return InsertLine(Columns(), nColumn, strHeading,
+    return InsertLine(EGridWay::eColumns, nColumn, strHeading,
                       [&](int nCol)
                       {
                           for (int nRow = 0; nRow < GetRowCount(); ++nRow)
@@ -268,7 +247,7 @@ int CGridCtrl::InsertColumn(LPCWSTR strHeading, UINT nFormat, int nColumn)
 int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
 {
     const bool bHeading = strHeading && *strHeading;
-    return InsertLine(Rows(), nRow, strHeading,
+    return InsertLine(EGridWay::eRows, nRow, strHeading,
                       [&](int nNew) {
                           return bHeading ? GetTextExtent(nNew, 0, strHeading).cy
                                           : m_cellFixedRow.GetHeight();
@@ -277,26 +256,26 @@ int CGridCtrl::InsertRow(LPCWSTR strHeading, int nRow)
 
 /// `prepare` is called with the index of the new line and answers its size.
 template <class Prepare>
-int CGridCtrl::InsertLine(const SLines& lines, int nAt, LPCWSTR strHeading, Prepare prepare)
+int CGridCtrl::InsertLine(EGridWay way, int nAt, LPCWSTR strHeading, Prepare prepare)
 {
-    CGridAxis& axis = lines.axis;
+    CGridAxis& axis = Axis(way);
     const auto isWrong = [&]
     {
         const int nLast =
-            axis.Count() - (lines.areRows ? 1 : 0); // the count itself is a place for columns only
+            axis.Count() - (way == EGridWay::eRows ? 1 : 0); // the count itself is a place for columns only
         return nAt >= 0 && (nAt < axis.Fixed() || nAt > nLast);
     };
     if (isWrong() || !EndEditFirst() || isWrong())
         return -1;
     m_topLeftCell.col = -1;
     ResetSelectedRange();
-    SetCount(lines.areRows ? Columns() : Rows(), std::max(1, lines.across.Count()));
+    SetCount(gfnOtherWay(way), std::max(1, Axis(gfnOtherWay(way)).Count()));
 
     const int nIndex = nAt < 0 ? axis.Count() : nAt;
-    if (!Guarded([&] { PlaceLine(lines, nIndex); }))
+    if (!Guarded([&] { PlaceLine(way, nIndex); }))
         return 0; // not to be told from a new line 0, and kept so
     CCellID heading(0, 0);
-    heading.*lines.index = nIndex;
+    gfnItemAlong(way, heading) = nIndex;
     SetItemText(heading.row, heading.col, strHeading);
     axis.SetSize(nIndex, prepare(nIndex));
     CountsChanged();
@@ -305,13 +284,14 @@ int CGridCtrl::InsertLine(const SLines& lines, int nAt, LPCWSTR strHeading, Prep
 
 /// Puts a line of new cells of size 0 in; an exception takes it out again. A row counts before its cells are
 /// made, a column after it.
-void CGridCtrl::PlaceLine(const SLines& lines, int nIndex)
+void CGridCtrl::PlaceLine(EGridWay way, int nIndex)
 {
-    lines.axis.Reserve(LONGLONG(lines.axis.Count()) + 1);
-    if (!lines.areRows)
+    CGridAxis& axis = Axis(way);
+    axis.Reserve(LONGLONG(axis.Count()) + 1);
+    if (way == EGridWay::eColumns)
         m_rowData.InsertColumn(nIndex, CellMaker());
-    lines.axis.Insert(nIndex, 0);
-    if (!lines.areRows || m_bVirtualMode)
+    axis.Insert(nIndex, 0);
+    if (way == EGridWay::eColumns || m_bVirtualMode)
         return;
     try
     {
@@ -326,33 +306,34 @@ void CGridCtrl::PlaceLine(const SLines& lines, int nIndex)
 
 BOOL CGridCtrl::DeleteRow(int nRow)
 {
-    return DeleteLine(Rows(), nRow);
+    return DeleteLine(EGridWay::eRows, nRow);
 }
 
 BOOL CGridCtrl::DeleteColumn(int nColumn)
 {
-    return DeleteLine(Columns(), nColumn);
+    return DeleteLine(EGridWay::eColumns, nColumn);
 }
 
-BOOL CGridCtrl::DeleteLine(const SLines& lines, int nLine)
+BOOL CGridCtrl::DeleteLine(EGridWay way, int nLine)
 {
-    if (!lines.axis.Has(nLine) || !EndEditFirst() || !lines.axis.Has(nLine))
+    const CGridAxis& axis = Axis(way);
+    if (!axis.Has(nLine) || !EndEditFirst() || !axis.Has(nLine))
         return FALSE;
     ResetSelectedRange();
-    RemoveLine(lines, nLine);
+    RemoveLine(way, nLine);
     CountsChanged();
     return TRUE;
 }
 
 /// Takes a line and its cells out.
-void CGridCtrl::RemoveLine(const SLines& lines, int nLine)
+void CGridCtrl::RemoveLine(EGridWay way, int nLine)
 {
-    RemoveCells(lines.Cells(nLine, nLine + 1));
-    if (!lines.areRows)
+    RemoveCells(CellsOf(way, nLine, nLine + 1));
+    if (way == EGridWay::eColumns)
         m_rowData.RemoveColumn(nLine);
     else if (!m_bVirtualMode)
         m_rowData.RemoveRow(nLine);
-    lines.axis.Remove(nLine);
+    Axis(way).Remove(nLine);
 }
 
 // From the end, so that the indices ahead stay right, and with the bars set once for all of them.
@@ -364,7 +345,7 @@ BOOL CGridCtrl::DeleteNonFixedRows()
     if (GetRowCount() == m_rows.Fixed())
         return TRUE;
     for (int nRow = GetRowCount() - 1; nRow >= m_rows.Fixed(); --nRow)
-        RemoveLine(Rows(), nRow);
+        RemoveLine(EGridWay::eRows, nRow);
     CountsChanged();
     return TRUE;
 }
@@ -374,10 +355,17 @@ BOOL CGridCtrl::DeleteAllItems()
     if (!EndEditFirst())
         return FALSE;
     ResetSelectedRange();
-    DropLines(Rows(), 0);
-    DropLines(Columns(), 0);
+    DropLines(EGridWay::eRows, 0);
+    DropLines(EGridWay::eColumns, 0);
     CountsChanged();
     return TRUE;
+}
+
+/// The cells of the rows, or columns, from one to before another.
+CCellRange CGridCtrl::CellsOf(EGridWay way, int nFirst, int nEnd) const
+{
+    return way == EGridWay::eRows ? CCellRange(nFirst, 0, nEnd - 1, GetColumnCount() - 1)
+                                  : CCellRange(0, nFirst, GetRowCount() - 1, nEnd - 1);
 }
 
 /// Destroys cells and leaves their places empty, so that nobody finds one there while its neighbours go.
