@@ -164,7 +164,7 @@ public:
         m_height = m_grid.GetDefCellHeight();
         m_width = m_grid.GetDefCellWidth();
         if (m_withInput)
-            owtest::Activate(m_parent);
+            Expect(owtest::Activate(m_parent), "the window does not become active");
     }
     ~GridSequence() override { m_parent.DestroyWindow(); }
 
@@ -536,6 +536,8 @@ private:
         CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId);
         if (!editor || !m_grid.IsItemEditing(r, c))
             return Problem("no editor on the focus cell");
+        if (const HWND focus = ::GetFocus(); focus != editor->m_hWnd && !::IsChild(editor->m_hWnd, focus))
+            return Problem("the editor has not got the focus: ", focus, ", active: ", ::GetActiveWindow());
         ModelCell& cell = m_model.At(r, c);
         const std::wstring text = Text();
         const int way = Pick(4);
