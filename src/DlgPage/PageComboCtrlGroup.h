@@ -58,7 +58,7 @@ public:
     CPage* GetCurrentPage() const override;
 
     /// Tells the clients of the page and selects its row. With null or an unknown page nothing is selected,
-    /// the toggle hides, and nobody is told.
+    /// the toggle hides, and nobody is told: what shows in the frame stays until the next selection.
     void SetCurrentPage(CPage* pPage);
 
     /// Gives the focus to the combo box.

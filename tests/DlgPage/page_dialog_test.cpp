@@ -127,16 +127,3 @@ TEST_F(PageInput, ATypedValueIsKeptWhenThePageChangesWithoutLeavingTheBox)
     m_manager.PageSelected(Page(idDelta), nullptr); // by a selector that has lost sight of what shows
     EXPECT_EQ((std::vector{Page(idAlpha)->nCount, Page(idBeta)->nCount}), (std::vector{17, 19}));
 }
-
-TEST_F(PageInput, AChangeTravelsFromTheBoxToTheHost)
-{
-    RecordingClient preview("preview");
-    m_manager.RegisterAttributeChangedNotification(&preview, true);
-    Field(IDC_COUNT).SetFocus();
-    TakeCalls();
-    owtest::Type(L"17");
-    EXPECT_EQ(TakeCalls(), (Calls{"preview: changed", "preview: changed"})) << "one for each key";
-    m_host.fields->AttachAttributeChangeNotificationClient(nullptr);
-    owtest::Type(L"8");
-    EXPECT_EQ(TakeCalls(), Calls{});
-}

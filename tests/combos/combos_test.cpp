@@ -177,10 +177,10 @@ protected:
         return info.hwndList;
     }
     /// The width of a list with that as its longest text.
-    static int WidthFor(CComboBox& combo, const wchar_t* pszText)
+    int WidthFor(const wchar_t* pszText)
     {
-        CClientDC dc(&combo);
-        dc.SelectObject(combo.GetFont());
+        CClientDC dc(&m_ext);
+        dc.SelectObject(m_ext.GetFont());
         return dc.GetTextExtent(pszText).cx + ::GetSystemMetrics(SM_CXVSCROLL) + dc.GetTextExtent(L"0").cx;
     }
 
@@ -205,9 +205,9 @@ protected:
             dc.DrawState(rect.TopLeft(), CSize(16, 16), icon, DSS_NORMAL, static_cast<CBrush*>(nullptr));
         LOGFONT look{};
         look.lfCharSet = DEFAULT_CHARSET;
-        ::lstrcpy(look.lfFaceName, name);
         if (const auto listed = m_fonts.find(name); listed != m_fonts.end())
             look = listed->second;
+        ::lstrcpy(look.lfFaceName, name);
         look.lfHeight = 90;
         look.lfWidth = 0;
         CFont font;
@@ -273,25 +273,37 @@ TEST_F(Combos, ASelectionIsReportedAtEachStepOfTheKeysAndOnceByMouse)
     EXPECT_EQ(m_handler.Take(), Calls{"select 1002: -1"});
 }
 
-TEST_F(Combos, TheListGrowsToItsLongestEntryAndNeverShrinks)
+TEST_F(Combos, TheListGrowsToItsLongestEntryAndToTheIconsAndNeverShrinks)
 {
-    CRect control, list;
+    CRect control;
     m_ext.GetWindowRect(control);
     const CString strLong(L'W', 30), strLonger(L'W', 40);
-    const int nLong = WidthFor(m_ext, strLong), nLonger = WidthFor(m_ext, strLonger);
-    const std::tuple<CString, int, int> entries[] = {
-        {L"W", 0, control.Width()}, {strLong, 0, nLong}, {strLonger, -1, nLonger}, {L"", 0, nLonger}};
-    for (const auto& [strEntry, nRow, nWidth] : entries)
+    const int nLong = WidthFor(strLong), nLonger = WidthFor(strLonger);
+    struct Opening
     {
+        CComboBox& combo;
+        CString strEntry; ///< at the top; none empties the list
+        CSize icons;      ///< the widths of both
+        int nWidth;
+    };
+    const Opening openings[] = {{m_ext, L"W", {}, control.Width()},     {m_ext, strLong, {}, nLong},
+                                {m_ext, strLonger, {}, nLonger},        {m_ext, L"", {}, nLonger},
+                                {m_font, strLonger, {}, nLonger + 4},   {m_font, L"W", {16, 9}, nLonger + 20},
+                                {m_font, L"W", {16, 24}, nLonger + 28}, {m_font, L"", {}, nLonger + 28}};
+    for (const auto& [combo, strEntry, icons, nWidth] : openings)
+    {
+        FontCombo::s_szIconTTF.cx = icons.cx;
+        FontCombo::s_szIconSHX.cx = icons.cy;
         if (strEntry.IsEmpty())
-            m_ext.ResetContent();
+            combo.ResetContent();
         else
-            m_ext.InsertString(nRow, strEntry);
-        Enter(idExt);
-        ::GetWindowRect(OpenList(m_ext), list);
-        EXPECT_EQ(m_ext.GetDroppedWidth(), nWidth);
+            combo.InsertString(0, strEntry);
+        Enter(combo.GetDlgCtrlID());
+        CRect list;
+        ::GetWindowRect(OpenList(combo), list);
+        EXPECT_EQ(combo.GetDroppedWidth(), nWidth);
         EXPECT_GE(list.Width(), nWidth) << "the list that opens is the wide one already";
-        m_ext.ShowDropDown(FALSE);
+        combo.ShowDropDown(FALSE);
     }
 }
 
@@ -348,8 +360,8 @@ TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
     for (const auto& [name, font] : m_fonts)
     {
         const LOGFONT* record = RecordOf(name);
-        EXPECT_TRUE(record->lfFaceName == name && record->lfHeight == font.lfHeight);
-        EXPECT_TRUE(record->lfWeight == font.lfWeight && record->lfItalic == font.lfItalic);
+        EXPECT_TRUE(record->lfFaceName == name && record->lfHeight == font.lfHeight &&
+                    record->lfWeight == font.lfWeight && record->lfItalic == font.lfItalic);
         EXPECT_EQ(*reinterpret_cast<const int*>(record + 1), gFontManager.Find(name));
     }
     LOGFONT own{};
@@ -361,17 +373,15 @@ TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
     EXPECT_EQ(m_font.GetCount(), count + 2) << "the same name, too, but no other type";
     m_font.DeleteString(RowOf(kNoFont));
     EXPECT_EQ(RecordOf(kNoFont)->lfWeight, 123);
-    const auto look = [&](owtest::Surface& picture)
+    owtest::Surface shown[] = {{60, 18}, {60, 18}};
+    for (const int nRow : {-1, 0})
     {
+        m_font.SetCurSel(nRow);
         m_font.UpdateWindow();
         CClientDC dc(&m_font);
-        picture.dc().BitBlt(0, 0, 60, 18, &dc, 0, 0, SRCCOPY);
-    };
-    owtest::Surface none(60, 18), first(60, 18);
-    look(none);
-    m_font.SetCurSel(0);
-    look(first);
-    EXPECT_FALSE(none == first) << "it draws again once it is filled";
+        shown[nRow + 1].dc().BitBlt(0, 0, 60, 18, &dc, 0, 0, SRCCOPY);
+    }
+    EXPECT_FALSE(shown[0] == shown[1]) << "it draws again once it is filled";
 }
 
 TEST_F(Combos, AFontOneThatIsMadePostsAMessageThatItDoesNotHandle)
@@ -379,12 +389,13 @@ TEST_F(Combos, AFontOneThatIsMadePostsAMessageThatItDoesNotHandle)
     FontCombo plain;
     ASSERT_TRUE(plain.Create(kFontStyle, CRect(0, 0, 90, 90), &m_dialog, 1));
     MSG msg;
-    const auto posted = [&] { return ::PeekMessage(&msg, plain, 1147, 1147, PM_NOREMOVE) != FALSE; };
-    EXPECT_TRUE(posted());
-    owtest::Pump();
-    EXPECT_TRUE(plain.GetCount() == 0 && !posted());
-    plain.FillFonts();
-    EXPECT_TRUE(posted());
+    for (int i = 0; i < 2; ++i)
+    {
+        EXPECT_TRUE(::PeekMessage(&msg, plain, 1147, 1147, PM_REMOVE));
+        plain.SendMessage(msg.message, msg.wParam, msg.lParam);
+        EXPECT_EQ(plain.GetCount(), 0);
+        plain.FillFonts();
+    }
     plain.DestroyWindow();
 }
 
@@ -414,22 +425,6 @@ TEST_F(Combos, TheFontOneTellsTheSelectedFontAndItsClass)
     m_dialog.Notify(idFont, CBN_SELCHANGE);
     EXPECT_EQ(m_handler.Take(), (Calls{"font 1003: only a file, 1", "font 1003: , 0"}))
         << "the user's choices alone";
-}
-
-TEST_F(Combos, TheListOfFontsGrowsByTheIconsToo)
-{
-    const CString name(L'W', 40);
-    m_font.AddString(name);
-    const std::tuple<int, int, int> widths[] = {
-        {0, 0, 4}, {16, 9, 20}, {16, 24, 28}, {0, 0, 28}}; // never shrinks
-    for (const auto& [ttf, shx, beside] : widths)
-    {
-        FontCombo::s_szIconTTF.cx = ttf;
-        FontCombo::s_szIconSHX.cx = shx;
-        m_font.ShowDropDown(TRUE);
-        m_font.ShowDropDown(FALSE);
-        EXPECT_EQ(m_font.GetDroppedWidth(), WidthFor(m_font, name) + beside);
-    }
 }
 
 TEST_F(Combos, ARowOfFontsIsItsNameInItsFontAtNinePointsWithAMarkOrAnIcon)
