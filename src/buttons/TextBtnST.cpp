@@ -45,7 +45,6 @@ BOOL CTextBtnST::OnClicked()
 void CTextBtnST::OnSysColorChange()
 {
     CButtonST::OnSysColorChange();
-    DeleteTextMenu();
     CreateTextMenu();
 }
 
@@ -94,7 +93,6 @@ void CTextBtnST::SetTexts(const OCArray<CString>& texts, const OCArray<CString>&
 {
     m_texts = texts;
     m_descriptions = descriptions;
-    DeleteTextMenu();
     CreateTextMenu();
 }
 
@@ -108,6 +106,7 @@ const CString& CTextBtnST::GetText(int nIndex) const
     return m_texts[nIndex];
 }
 
+// A menu that is open stays till it closes.
 void CTextBtnST::CreateTextMenu()
 {
     m_pMenu = std::make_shared<CMenu>();
@@ -117,11 +116,6 @@ void CTextBtnST::CreateTextMenu()
         const CString strDescription = i < m_descriptions.GetSize() ? m_descriptions[i] : CString();
         m_pMenu->AppendMenu(MF_STRING, kFirstCommand + i, MenuLabel(m_texts[i], strDescription));
     }
-}
-
-void CTextBtnST::DeleteTextMenu()
-{
-    m_pMenu.reset();
 }
 
 // ---- Drawing ----------------------------------------------------------------------------------------------

@@ -82,7 +82,6 @@ protected:
 
 private:
     void CreateTextMenu();
-    void DeleteTextMenu();
     int ChosenIndex(UINT nCommand) const;
 
     int* m_pnSource = nullptr;      ///< index of the chosen text, not owned

@@ -3,12 +3,13 @@
 
 #include <afxwin.h>
 
-#include <functional>
 #include <vector>
 
 namespace testimages
 {
 using Pixels = std::vector<DWORD>; ///< 0xAARRGGBB, row by row from the top
+
+constexpr DWORD kRgb = 0xFFFFFF; ///< what is no alpha
 
 constexpr DWORD Opaque(COLORREF cr)
 {
@@ -24,35 +25,36 @@ inline bool IsIcon(HICON hIcon)
     return bIcon;
 }
 
+/// One colour inside, another in a frame.
+inline Pixels Framed(CSize size, DWORD inside, DWORD outside, int frame = 2)
+{
+    Pixels pixels;
+    const CRect rect(frame, frame, size.cx - frame, size.cy - frame);
+    for (int i = 0; i < size.cx * size.cy; ++i)
+        pixels.push_back(rect.PtInRect(CPoint(i % size.cx, i / size.cx)) ? inside : outside);
+    return pixels;
+}
+
 /// An icon of 32 bits; where a pixel is 0 it is transparent.
 class Icon
 {
 public:
-    Icon(int width, int height, const std::function<DWORD(int x, int y)>& pixel)
+    Icon(CSize size, const Pixels& pixels)
     {
-        Pixels pixels;
-        const int maskRow = (width + 15) / 16 * 2;
-        std::vector<BYTE> mask(static_cast<size_t>(maskRow) * height);
-        for (int i = 0; i < width * height; ++i)
-        {
-            pixels.push_back(pixel(i % width, i / width));
-            if (pixels.back() == 0)
-                mask[i / width * maskRow + i % width / 8] |= 0x80 >> (i % width % 8);
-        }
+        const int maskRow = (size.cx + 15) / 16 * 2;
+        std::vector<BYTE> mask(static_cast<size_t>(maskRow) * size.cy);
+        for (int i = 0; i < size.cx * size.cy; ++i)
+            if (pixels[i] == 0)
+                mask[i / size.cx * maskRow + i % size.cx / 8] |= 0x80 >> (i % size.cx % 8);
         CBitmap color, transparent;
-        color.CreateBitmap(width, height, 1, 32, pixels.data());
-        transparent.CreateBitmap(width, height, 1, 1, mask.data());
+        color.CreateBitmap(size.cx, size.cy, 1, 32, pixels.data());
+        transparent.CreateBitmap(size.cx, size.cy, 1, 1, mask.data());
         ICONINFO info{TRUE, 0, 0, transparent, color};
         m_hIcon = ::CreateIconIndirect(&info);
     }
     /// Of one colour, with a transparent frame.
     Icon(int size, COLORREF cr, int frame = 2)
-        : Icon(size, size,
-               [=](int x, int y)
-               {
-                   const CRect inside(frame, frame, size - frame, size - frame);
-                   return inside.PtInRect(CPoint(x, y)) ? Opaque(cr) : 0;
-               })
+        : Icon(CSize(size, size), Framed(CSize(size, size), Opaque(cr), 0, frame))
     {
     }
     ~Icon() { ::DestroyIcon(m_hIcon); }
@@ -65,19 +67,11 @@ private:
     HICON m_hIcon;
 };
 
-/// A bitmap compatible with the screen: one colour inside, another in a frame two pixels wide. The caller's.
+/// One colour inside, another in a frame. The caller's.
 inline HBITMAP MakeBitmap(CSize size, COLORREF cr, COLORREF crFrame)
 {
-    CWindowDC screen(nullptr);
-    CDC dc;
-    dc.CreateCompatibleDC(&screen);
-    CBitmap bitmap;
-    bitmap.CreateCompatibleBitmap(&screen, size.cx, size.cy);
-    const HGDIOBJ old = ::SelectObject(dc, bitmap);
-    dc.FillSolidRect(0, 0, size.cx, size.cy, crFrame);
-    dc.FillSolidRect(2, 2, size.cx - 4, size.cy - 4, cr);
-    ::SelectObject(dc, old);
-    return static_cast<HBITMAP>(bitmap.Detach());
+    const Pixels pixels = Framed(size, Opaque(cr) & kRgb, Opaque(crFrame) & kRgb);
+    return ::CreateBitmap(size.cx, size.cy, 1, 32, pixels.data());
 }
 
 inline bool IsBitmap(HBITMAP hBitmap)

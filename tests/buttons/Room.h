@@ -203,10 +203,6 @@ protected:
         EXPECT_EQ(visit.Count(), nVisitors);
         return m_room.Take();
     }
-    Calls Pick(CWnd& button, std::initializer_list<WORD> keys, WORD nOpener = 0)
-    {
-        return Visit(button, {[=](const owtest::OpenMenu& menu) { menu.Press(keys); }}, nOpener);
-    }
     static bool ShowsFocus(CButton& button)
     {
         return ::GetFocus() == button.m_hWnd && (button.GetState() & BST_FOCUS);

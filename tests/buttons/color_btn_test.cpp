@@ -111,12 +111,12 @@ using ColorPopup = ColorButtons;
 
 TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysAndMakeTheNumberAnewEachTime)
 {
+    const auto isPush = [](const auto& button)
+    { return !button.m_bIsCheckBox && !button.GetDefault() && button.GetButtonStyle() == BS_OWNERDRAW; };
     for (const long dwStyle : {long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX), BS_DEFPUSHBUTTON | WS_DISABLED})
     {
         Reopen(dwStyle);
-        EXPECT_FALSE(m_acad.m_bIsCheckBox || m_acad.GetDefault() || m_rgb.m_bIsCheckBox ||
-                     m_rgb.GetDefault());
-        EXPECT_TRUE(m_acad.GetButtonStyle() == BS_OWNERDRAW && m_rgb.GetButtonStyle() == BS_OWNERDRAW);
+        EXPECT_TRUE(isPush(m_acad) && isPush(m_rgb));
         EXPECT_EQ(m_label.m_hWnd, m_room.GetDlgItem(m_acad.m_nNumberLabelId)->m_hWnd);
         EXPECT_EQ(owtest::TextOf(m_label), L"30");
         EXPECT_EQ(m_label.IsWindowEnabled(), !(dwStyle & WS_DISABLED));

@@ -93,7 +93,7 @@ TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEveryt
         EXPECT_TRUE(this->ShowsFocus(button));
     }
     this->m_room.then = [&] { this->m_other.SetFocus(); };
-    this->Pick(button, {VK_DOWN, VK_RETURN});
+    this->Visit(button, {[](const OpenMenu& menu) { menu.Press({VK_DOWN, VK_RETURN}); }});
     EXPECT_FALSE(button.GetState() & BST_FOCUS) << "the mark follows a handler that moves the focus";
 }
 

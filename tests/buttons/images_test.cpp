@@ -10,7 +10,6 @@ namespace
 constexpr COLORREF kColor = RGB(200, 100, 50);
 constexpr COLORREF kGrey = RGB(124, 124, 124); // 0.299 of 200, 0.587 of 100 and 0.114 of 50
 constexpr COLORREF kDarker = RGB(150, 75, 37);
-constexpr int kRgb = 0xFFFFFF;
 const int kNoResource = 31999;
 
 template <class Handle>
@@ -84,40 +83,37 @@ TEST(ButtonImages, ComeFromTheResourcesOfWhicheverModuleHasThem)
 
 TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
 {
-    const auto pixelAt = [](int x, int y) -> DWORD
+    // From left to right transparent, coloured and black; above half transparent. Of an odd width a copy has one
+    // column less.
+    const auto pixelsOf = [](int width, COLORREF cr)
     {
-        const DWORD alpha = y < 4 ? 0x80000000 : 0xFF000000;
-        return x < 4 ? 0 : x < 12 ? alpha | (Opaque(kColor) & kRgb) : 0xFF000000; // black at the right
+        Pixels pixels;
+        for (int i = 0; i < width * 12; ++i)
+        {
+            const int x = i % width, alpha = i / width < 4 ? 0x80 : 0xFF;
+            pixels.push_back(x < 4 ? 0 : alpha << 24 | (x < 12 ? Opaque(cr) & kRgb : 0));
+        }
+        return pixels;
     };
-    const Icon icon(17, 12, pixelAt); // of an odd width a copy has one column less
-    const auto pixelsOf = [](HICON hIcon)
-    {
-        ICONINFO info{};
-        ::GetIconInfo(hIcon, &info);
-        CBitmap color, mask;
-        color.Attach(info.hbmColor);
-        mask.Attach(info.hbmMask);
-        return PixelsOf(color);
-    };
+    const Icon icon(CSize(17, 12), pixelsOf(17, kColor));
     for (const auto& [copy, cr] : {std::pair(CButtonST::copyGray, kGrey), {CButtonST::copyDarker, kDarker}})
     {
         Open button;
         ASSERT_EQ(button.SetIcon(icon, As<HICON>(copy)), 0u);
-        Pixels expected;
-        for (int i = 0; i < 16 * 12; ++i)
-        {
-            const DWORD pixel = pixelAt(i % 16, i / 16);
-            expected.push_back(pixel & kRgb ? (pixel & ~kRgb) | (Opaque(cr) & kRgb) : pixel);
-        }
         EXPECT_EQ(button.m_icons[1].size, CSize(16, 12));
-        EXPECT_EQ(pixelsOf(button.m_icons[1].hIcon), expected) << "mask, alpha and black stay";
+        ICONINFO info{};
+        ::GetIconInfo(button.m_icons[1].hIcon, &info);
+        CBitmap color, mask;
+        color.Attach(info.hbmColor);
+        mask.Attach(info.hbmMask);
+        EXPECT_EQ(PixelsOf(color), pixelsOf(16, cr)) << "mask, alpha and black stay";
 
         ASSERT_EQ(button.SetBitmaps(Make(), kKey, As<HBITMAP>(copy), kRed), 0u);
         const auto& [first, second] = button.m_bitmaps;
         EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb))
             << "made black where transparent";
         EXPECT_EQ(ColorsOf(second.hBitmap), std::pair(DWORD(0), Opaque(cr) & kRgb));
-        EXPECT_EQ(ColorsOf(first.hMask), std::pair(DWORD(kRgb), DWORD(0)));
+        EXPECT_EQ(ColorsOf(first.hMask), std::pair(kRgb, DWORD(0)));
         EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";
     }
 }
@@ -151,10 +147,7 @@ TEST(ButtonImages, AFailureIsToldAndLeavesNoImages)
         {1, [&] { return button.SetBitmaps(kNoResource, 0, 10101); }},
         {2, [&] { return button.SetBitmaps(hSelected, 0); }},
         {2, [&] { return button.SetBitmaps(Make(), kKey, hSelected, 0); }},
-        {2,
-         [&] {
-             return button.SetBitmaps(hSelected, 0, hBadBitmap);
-         }}, // the first is made whole before the second
+        {2, [&] { return button.SetBitmaps(hSelected, 0, hBadBitmap); }}, // the first is made whole first
         {2, [&] { return button.SetBitmaps(hSelected, 0, hSecond); }}};
     for (size_t i = 0; i < std::size(failures); ++i)
     {

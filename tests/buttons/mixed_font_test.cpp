@@ -39,8 +39,9 @@ protected:
     }
     void Paint(Surface& surface)
     {
+        surface.dc().SetTextColor(kBlue);
         PaintButton(m_lone->button, surface, 0, &kItem);
-        EXPECT_EQ(surface.dc().GetTextColor(), kBlack) << "the context is as it was";
+        EXPECT_EQ(surface.dc().GetTextColor(), kBlue) << "the context is as it was";
         EXPECT_EQ(::GetCurrentObject(surface.dc(), OBJ_PEN), ::GetStockObject(BLACK_PEN));
     }
     void ExpectLook(CPoint boxAt, CPoint textAt, const std::string& what, UINT frame = DFCS_BUTTONCHECK,
@@ -60,7 +61,7 @@ protected:
         CMixedFont::TextOutW(&dc, textAt, kText);
         dc.DrawFrameControl(CRect(boxAt, CSize(13, 13)), DFC_BUTTON, frame);
         ::FrameRect(dc, mark, ::GetSysColorBrush(COLOR_BTNFACE));
-        dc.SetTextColor(kBlack);
+        dc.SetTextColor(kBlue);
         dc.SetBkColor(kWhite);
         if (bFocus)
             dc.DrawFocusRect(mark);

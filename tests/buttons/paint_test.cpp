@@ -45,7 +45,9 @@ struct Look
 
     explicit Look(Random& random)
     {
-        for (bool* pFlag = &bCheckBox; pFlag <= &bToolbar; ++pFlag)
+        for (bool* pFlag :
+             {&bCheckBox, &bChecked, &bFlat, &bBorder, &bFlatFocus, &bDefault, &bHover, &bPressed, &bFocused,
+              &bDisabled, &bEngraves, &bSecondImage, &bPressedDown, &bToolbar})
             *pFlag = random() % 2 != 0;
         bThemed = random() % 4 == 0;
         image = EImage(random() % 3);
@@ -268,25 +270,20 @@ TEST(ButtonPaint, ADisabledIconThatIsTooLargeTurnsTheFaceGreyToo)
 
 TEST(ButtonPaint, MeasuresAndDrawsForSubclassesAsItDrawsTitles)
 {
-    struct Hooks : CButtonST
-    {
-        using CButtonST::DrawItemHook_CalcRect;
-        using CButtonST::DrawItemHook_DrawText;
-    } hooks;
-    struct TextHooks : CTextBtnST
+    struct Hooks : CTextBtnST
     {
         using CTextBtnST::DrawItemHook_CalcRect;
-    } textHooks;
+        using CTextBtnST::DrawItemHook_DrawText;
+    } hooks;
     const CString strText(_T("HHHHHH HHHHHH"));
     Surface ours(60, 40), expected(60, 40);
-    CRect rect(2, 2, 58, 9), expectedRect(rect), besideArrow(rect);
+    CRect rect(6, 2, 58, 9), expectedRect(rect);
     hooks.DrawItemHook_CalcRect(&ours.dc(), strText, rect);
     hooks.DrawItemHook_DrawText(&ours.dc(), strText, rect);
-    textHooks.DrawItemHook_CalcRect(&ours.dc(), strText, besideArrow);
     expected.dc().DrawText(strText, expectedRect, kTitle | DT_CALCRECT);
+    expectedRect.OffsetRect(-4, 0); // beside the arrow
     expected.dc().DrawText(strText, expectedRect, kTitle);
     EXPECT_EQ(rect, expectedRect);
-    EXPECT_EQ(besideArrow, expectedRect - CPoint(4, 0));
     EXPECT_TRUE(ours == expected);
 }
 
@@ -314,8 +311,7 @@ TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGive
     parent.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), _T(""), WS_POPUP | WS_VISIBLE,
                     CRect(40, 40, 240, 140), nullptr, 0);
     Open button;
-    button.Create(_T(""), WS_CHILD, CRect(CPoint(10, 10), kSize), &parent,
-                  1); // hidden: only what is behind shows
+    button.Create(_T(""), WS_CHILD, CRect(CPoint(10, 10), kSize), &parent, 1); // hidden: what is behind shows
     Surface given(300, 200);
     CClientDC dcParent(&parent);
     EXPECT_EQ(button.SetBk(&given.dc()), 5u) << "needs DrawTransparent";
@@ -344,9 +340,6 @@ TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGive
         }
     button.SendMessage(WM_SYSCOLORCHANGE);
     expectBehind(kWhite);
-    for (BYTE i = 0; i < CButtonST::colorCount; ++i)
-        EXPECT_EQ(ColorOf(button, i), ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE))
-            << "new system colours";
     parent.DestroyWindow();
 }
 
