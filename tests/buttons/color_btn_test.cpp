@@ -2,6 +2,7 @@
 
 #include "FatalReport.h"
 #include "ModalVisit.h"
+#include "OtherText.h"
 #include "Room.h"
 #include "module/GdiScope.h"
 
@@ -231,6 +232,7 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
 
 TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
 {
+    const owtest::OtherText other("Other...", "Ostalo");
     const auto look = [](CWnd& popup)
     {
         for (int i = 0; i < CColorBtnST::paletteSize; ++i)
@@ -248,12 +250,13 @@ TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
                 rect.DeflateRect(2, 2);
             EXPECT_EQ(picture.extent(cr), rect) << i;
         }
-        Surface other(9, 9);
+        EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + kOther)), L"Ostalo");
+        Surface nothing(9, 9);
         DRAWITEMSTRUCT item{};
-        item.hDC = other.dc();
+        item.hDC = nothing.dc();
         item.rcItem = {0, 0, 9, 9};
         popup.SendMessage(WM_DRAWITEM, kFirstCell + kOther, reinterpret_cast<LPARAM>(&item));
-        EXPECT_EQ(other.extent(kKey), CRect(0, 0, 9, 9)) << "what is no cell has no colour";
+        EXPECT_EQ(nothing.extent(kKey), CRect(0, 0, 9, 9)) << "what is no cell has no colour";
     };
     Visit(look);
 }

@@ -20,7 +20,7 @@ Handle As(LONG_PTR value)
 
 HBITMAP Make(CSize size = CSize(16, 16))
 {
-    return MakeBitmap(size, kColor, kKey);
+    return MakeBitmap(size, kColor, kWhite);
 }
 
 bool HasImages(const Open<>& button)
@@ -108,7 +108,7 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
         mask.Attach(info.hbmMask);
         EXPECT_EQ(PixelsOf(color), pixelsOf(16, cr)) << "mask, alpha and black stay";
 
-        ASSERT_EQ(button.SetBitmaps(Make(), kKey, As<HBITMAP>(copy), kRed), 0u);
+        ASSERT_EQ(button.SetBitmaps(Make(), kWhite, As<HBITMAP>(copy), kRed), 0u);
         const auto& [first, second] = button.m_bitmaps;
         EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb))
             << "made black where transparent";

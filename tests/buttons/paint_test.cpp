@@ -229,8 +229,10 @@ void Dress(Open<Button>& button, const Look& look)
 
 /// Expects that a button in one of so many looks is as the model.
 template <class Button>
-void ExpectLooks(int nLooks, const std::function<void(Look&, Random&)>& limit,
-                 const std::function<void(Button&)>& prepare, const Overlay& overlay)
+void ExpectLooks(
+    int nLooks, const std::function<void(Look&, Random&)>& limit = [](Look&, Random&) {},
+    const std::function<void(Button&)>& prepare = [](Button&) {},
+    const Overlay& overlay = [](CDC&, const Look&, CRect) {})
 {
     Random random(1);
     Lone<Open<Button>> push(kSize), box(kSize, _T(""), BS_AUTOCHECKBOX);
@@ -251,8 +253,7 @@ void ExpectLooks(int nLooks, const std::function<void(Look&, Random&)>& limit,
 
 TEST(ButtonPaint, IsThatOfTheModelInEveryState)
 {
-    ExpectLooks<CButtonST>(
-        300, [](Look&, Random&) {}, [](CButtonST&) {}, [](CDC&, const Look&, CRect) {});
+    ExpectLooks<CButtonST>(300);
 }
 
 TEST(ButtonPaint, ADisabledIconThatIsTooLargeTurnsTheFaceGreyToo)
@@ -377,10 +378,14 @@ void DrawPicture(CDC& dc, const CRect& area, HBITMAP hPicture, COLORREF crFace)
               info.bmWidth, info.bmHeight, &dcPicture, 0, 0, SRCCOPY);
 }
 
-/// Expects the arrow on the face, and what `draw` adds in the area for it.
+/// What a class adds in the area for it.
+using Draw = std::function<void(CDC&, const Look&, const CRect& area, COLORREF crFace)>;
+
+/// Expects the arrow on the face, and what is added to it.
 template <class Button>
-void ExpectDropLooks(const std::function<void(Button&)>& prepare,
-                     const std::function<void(CDC&, const Look&, const CRect& area, COLORREF crFace)>& draw)
+void ExpectDropLooks(
+    const std::function<void(Button&)>& prepare = [](Button&) {},
+    const Draw& draw = [](CDC&, const Look&, const CRect&, COLORREF) {})
 {
     const auto limit = [](Look& look, Random& random)
     {
@@ -390,8 +395,10 @@ void ExpectDropLooks(const std::function<void(Button&)>& prepare,
         look.bCheckBox = false;
         look.image = noImage;
         look.pszTitle = _T("");
-        if (look.size.cx < 41 || look.size.cy < 17) // no room for an edge
-            look.bFlat = true, look.bBorder = look.bFocused = false;
+        const bool bRoomForEdge = look.size.cx > 40 && look.size.cy > 16;
+        look.bFlat |= !bRoomForEdge;
+        look.bBorder &= bRoomForEdge;
+        look.bFocused &= bRoomForEdge;
     };
     const auto overlay = [&](CDC& dc, const Look& look, CRect face)
     {
@@ -428,7 +435,7 @@ TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
         };
         ExpectDropLooks<Picker>([&](Picker& picker) { picker.SetEnumSource(&index); }, draw);
     }
-    ExpectDropLooks<Picker>([](Picker&) {}, [](CDC&, const Look&, const CRect&, COLORREF) {});
+    ExpectDropLooks<Picker>();
     std::ranges::copy(before, handles);
 
     Lone<Picker> lone(CSize(80, 30));
@@ -473,5 +480,5 @@ TEST(DropFaces, OfColorButtonsHaveASwatchOrAnEmptyFrame)
 
 TEST(DropFaces, OfTextButtonsHaveTheArrowAlone)
 {
-    ExpectDropLooks<CTextBtnST>([](CTextBtnST&) {}, [](CDC&, const Look&, const CRect&, COLORREF) {});
+    ExpectDropLooks<CTextBtnST>();
 }

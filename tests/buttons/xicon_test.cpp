@@ -152,10 +152,10 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
         dc.SetBkMode(TRANSPARENT);
         const CGdiSelection font(dc, label.icon.GetFont()->m_hObject);
         const CSize text = label.TextSize(pszText);
-        const auto topOf = [&, top = margin.y](int height) { return top + (kSize.cy - height - top) / 2; };
+        const auto topOf = [&, top = margin.y](int height) { return top + ((kSize.cy - height - top) >> 1); };
         const auto drawIcon = [&](int x)
         {
-            dc.FillSolidRect(x, topOf(size) - (size > kSize.cy), size, size, size ? kBlue : kBack);
+            dc.FillSolidRect(x, topOf(size), size, size, kBlue);
             return size ? x + size : 0;
         };
         const auto drawText = [&](int x)

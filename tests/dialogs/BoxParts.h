@@ -4,15 +4,12 @@
 #include <DialogControlsOW.h>
 
 #include "ModalVisit.h"
+#include "OtherText.h"
 #include "Picture.h"
-
-#include <Translator.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <string>
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
@@ -77,22 +74,4 @@ struct OwnerWindow : CWnd
         CreateEx(0, AfxRegisterWndClass(0), L"Owner", style, 200, 200, 401, 301, nullptr, nullptr);
     }
     ~OwnerWindow() override { DestroyWindow(); }
-};
-
-/// A catalogue with one other word for "Cancel", for the length of a scope.
-struct OtherCancel
-{
-    explicit OtherCancel(const char* word)
-    {
-        std::ofstream(m_path) << "msgid \"Cancel\"\nmsgstr \"" << word << "\"\n";
-        EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
-    }
-    ~OtherCancel()
-    {
-        gOtLang.Unload();
-        std::filesystem::remove(m_path);
-    }
-
-private:
-    std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"ow cancel.po";
 };

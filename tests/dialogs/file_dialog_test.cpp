@@ -4,6 +4,9 @@
 
 #include "EnglishTexts.h"
 
+#include <filesystem>
+#include <fstream>
+
 namespace
 {
 // Controls of the system's dialog
@@ -63,7 +66,7 @@ TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
     EXPECT_EQ(texts(TRUE, nullptr), L"Ucitaj|Ucitaj|Cancel|Lokacija|Ime fajla|Tip fajla");
     EXPECT_EQ(texts(FALSE, nullptr), L"Snimi kao...|Snimi|Cancel|Lokacija|Ime fajla|Tip fajla");
     {
-        const OtherCancel other("Odustani");
+        const owtest::OtherText other("Cancel", "Odustani");
         EXPECT_EQ(texts(TRUE, nullptr), L"Ucitaj|Ucitaj|Odustani|Lokacija|Ime fajla|Tip fajla");
     }
     const owtest::EnglishTexts english;

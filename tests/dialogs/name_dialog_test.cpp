@@ -92,7 +92,7 @@ TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
         Ask(L"", look, L"Ucitaj");
         EXPECT_EQ(seen, L"Ucitaj|");
     }
-    const OtherCancel other("Odustani");
+    const owtest::OtherText other("Cancel", "Odustani");
     const auto buttons = [](CWnd& dialog)
     {
         EXPECT_EQ(TextOf(*dialog.GetDlgItem(IDCANCEL)), L"Odustani");

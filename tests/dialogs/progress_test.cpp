@@ -161,7 +161,7 @@ TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
 
 TEST_F(Progress, SpeaksTheUsersLanguageAndStandsOverItsParent)
 {
-    const OtherCancel other("Stop");
+    const owtest::OtherText other("Cancel", "Stop");
     m_progress.emplace(kTitle, nullptr, true);
     EXPECT_EQ(TextOf(Cancel()), L"Stop");
     EXPECT_GT(CountColoured(*Box(), IDCANCEL), 20) << "the icon";

@@ -1,0 +1,37 @@
+#pragma once
+// A catalogue with a word of the test's own for one text, for the length of a scope: for texts that no catalogue
+// of the tree changes.
+//
+//     const owtest::OtherText other("Cancel", "Odustani");
+
+#include <afxwin.h>
+
+#include <Translator.h>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace owtest
+{
+class OtherText
+{
+public:
+    OtherText(const char* text, const char* word)
+    {
+        std::ofstream(m_path) << "msgid \"" << text << "\"\nmsgstr \"" << word << "\"\n";
+        EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
+    }
+    ~OtherText()
+    {
+        gOtLang.Unload();
+        std::filesystem::remove(m_path);
+    }
+    OtherText(const OtherText&) = delete;
+    OtherText& operator=(const OtherText&) = delete;
+
+private:
+    std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"ow other text.po";
+};
+} // namespace owtest
