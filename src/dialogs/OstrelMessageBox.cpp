@@ -51,7 +51,6 @@ int ResultOf(const StandardButtons& buttons, int nPressed)
 
 int RunOkBox(COstrelMessageBoxA& box)
 {
-    box.SetPressedButton(1);
     box.DoModal();
     return IDOK;
 }
