@@ -105,7 +105,7 @@ std::optional<SScientific> ToScientific(double dAbsolute, int nDecimals)
     if (dAbsolute == 0.0)
         return SScientific{0, 0};
 
-    int nBinary = 0;
+    int nBinary;
     std::frexp(dAbsolute, &nBinary);
     // Up to one too low, which shows in the digits.
     for (int nExponent = static_cast<int>(std::floor((nBinary - 1) * kLog2));; ++nExponent)
