@@ -3,6 +3,7 @@
 #include "grid/GridAxis.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 namespace
@@ -114,6 +115,22 @@ void CGridAxis::Swap(int nItem, int nOther)
         return;
     std::swap(m_sizes[nItem], m_sizes[nOther]);
     SizesChangeFrom(std::min(nItem, nOther));
+}
+
+bool CGridAxis::Share(int nFirst, int nPixels)
+{
+    int nShown = 0;
+    for (int nItem = nFirst; nItem < m_nCount; ++nItem)
+        nShown += IsShown(nItem);
+    if (nShown == 0)
+        return false;
+    const int nShare = nPixels / nShown;
+    const int nRest = std::abs(nPixels) % nShown;
+    const int nStep = nPixels > 0 ? 1 : -1;
+    for (int nItem = nFirst; nItem < m_nCount; ++nItem)
+        if (IsShown(nItem))
+            SetSize(nItem, std::max(1, Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
+    return true;
 }
 
 int CGridAxis::Offset(int nItem) const

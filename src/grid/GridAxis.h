@@ -68,6 +68,12 @@ public:
     /// Two items change places, and take their sizes with them.
     void Swap(int nItem, int nOther);
 
+    /// Gives the items that show, from this one on, so many pixels more or fewer. Each gets an equal share;
+    /// what the division leaves goes to the first ones, a pixel each. A hidden one among those takes up a
+    /// place without taking the pixel, so that the total can stay some pixels short. None shrinks to nothing.
+    /// False if none shows.
+    bool Share(int nFirst, int nPixels);
+
     /// Pixels of all items before this one; `nItem` may be the count.
     int Offset(int nItem) const;
     /// Pixels of all items.

@@ -105,7 +105,7 @@
 //     GridScroll.cpp     scroll bars and the wheel                GridScrollBars
 //     GridDraw.cpp       painting                                 GridPainter
 //     GridSelection.cpp  focus and selection                      GridSelectionMap, GridStateWalk
-//     GridMouse.cpp      mouse state machine                      GridDivider
+//     GridMouse.cpp      mouse state machine                      GridDivider by GridSizing
 //     GridKeyboard.cpp   keys                                     GridKeyWalk
 //     GridEdit.cpp       the start and the end of an edit
 //     GridSort.cpp       sorting                                  RowSorter

@@ -10,7 +10,6 @@
 #include "grid/SavedWidths.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace
 {
@@ -274,9 +273,6 @@ void CGridCtrl::ExpandRowsToFit(BOOL bExpandFixed)
     Expand(EGridWay::eRows, bExpandFixed);
 }
 
-// Each gets an equal share of what is free, or missing; what the division leaves goes to the first ones, a
-// pixel each. A hidden one among those takes up a place without taking the pixel, so that the total can stay
-// some pixels short. Where there is too little room, one that shows keeps one pixel, and so can come back.
 void CGridCtrl::Expand(EGridWay way, BOOL bExpandFixed)
 {
     CGridAxis& axis = Axis(way);
@@ -285,22 +281,8 @@ void CGridCtrl::Expand(EGridWay way, BOOL bExpandFixed)
         return;
     const CLifeWatch life(*this);
     EnableScrollBars(gfnBarOf(way), FALSE); // which may end an edit
-    if (!life.WindowLives())
+    if (!life.WindowLives() || !axis.Share(nFirst, gfnAlong(way, GetClientSize()) - axis.Extent()))
         return;
-
-    int nShown = 0;
-    for (int nItem = nFirst; nItem < axis.Count(); ++nItem)
-        nShown += axis.IsShown(nItem);
-    if (nShown == 0)
-        return;
-    const int nFree = gfnAlong(way, GetClientSize()) - axis.Extent();
-    const int nShare = nFree / nShown;
-    const int nRest = std::abs(nFree) % nShown;
-    const int nStep = nFree > 0 ? 1 : -1;
-    for (int nItem = nFirst; nItem < axis.Count(); ++nItem)
-        if (axis.IsShown(nItem))
-            axis.SetSize(nItem,
-                         std::max(1, axis.Size(nItem) + nShare + (nItem - nFirst < nRest ? nStep : 0)));
     Invalidate();
     ResetScrollBars();
 }

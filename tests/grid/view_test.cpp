@@ -121,6 +121,52 @@ TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
     }
 }
 
+TEST(GridAxis, KeepsCountOfItsSizesAlsoOfThoseThatAreAllAlike)
+{
+    std::mt19937 random(7);
+    const auto pick = [&](int below) { return static_cast<int>(random() % below); };
+    CGridAxis axis;
+    Walk walk;
+    for (int step = 0; step < 20000; ++step)
+    {
+        const int n = walk.Count(), at = pick(n + 1), other = pick(n + 1), what = n == 0 ? 0 : pick(6);
+        const int size = step < 5000 ? 20 : pick(4) ? pick(40) : 0;
+        if (what == 0)
+        {
+            walk.sizes.insert(walk.sizes.begin() + at, size);
+            axis.Insert(at, size);
+        }
+        else if (what == 1)
+            axis.SetFixed(walk.fixed = pick(std::min(n, 3) + 1));
+        else if (at == n || other == n)
+            continue;
+        else if (what == 2)
+        {
+            walk.sizes.erase(walk.sizes.begin() + at);
+            walk.fixed -= at < walk.fixed;
+            axis.Remove(at);
+        }
+        else if (what == 3)
+        {
+            std::swap(walk.sizes[at], walk.sizes[other]);
+            axis.Swap(at, other);
+        }
+        else if (what == 4 || n <= 30)
+            axis.SetSize(at, walk.sizes[at] = size);
+        else
+        {
+            walk.sizes.resize(at);
+            walk.fixed = std::min(walk.fixed, at);
+            axis.SetCount(at, 0);
+        }
+        ASSERT_EQ(std::pair(axis.Count(), axis.Fixed()), std::pair(walk.Count(), walk.fixed));
+        ASSERT_EQ(axis.Extent(), walk.Offset(walk.Count()));
+        ASSERT_EQ(axis.FixedExtent(), walk.Offset(walk.fixed));
+        const int first = axis.FirstAt(pick(700) - 20), point = pick(700) - 20;
+        ASSERT_EQ(axis.ItemAt(point, first, true), walk.ItemAt(point, first, true)) << "step " << step;
+    }
+}
+
 TEST_F(GridView, ARangeReachesFromItsFirstCellToItsLast)
 {
     CRect rect;
