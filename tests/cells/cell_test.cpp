@@ -23,7 +23,10 @@ TEST(GridCellBase, IsAnEmptyContract)
     EXPECT_EQ(cell.GetTipText(), nullptr);
     EXPECT_EQ(cell.GetImage(), -1);
     EXPECT_EQ(cell.GetDefaultCell(), nullptr);
-    EXPECT_FALSE(cell.Edit(0, 0, CRect(), CPoint(), 8, 'x'));
+    EXPECT_FALSE(cell.Edit(0, 0, CRect(), CPoint(), 8, 'x') || cell.PrintCell(nullptr, 0, 0, CRect()));
+    CRect rect(1, 2, 3, 4);
+    EXPECT_TRUE(cell.GetTextRect(&rect) && cell.GetTipTextRect(&rect));
+    EXPECT_EQ(rect, CRect(1, 2, 3, 4));
     EXPECT_TRUE(cell.ValidateEdit(L"anything"));
     EXPECT_EQ(cell.SendMessageToParent(0, 0, NM_CLICK), 0);
     cell.SetState(CELL_FIXEDCOL | CELL_MODIFIED);
@@ -56,6 +59,8 @@ TEST_F(GridCell, InheritsUntilItIsGivenAValue)
     EXPECT_EQ(alone.GetFormat(), 0u);
     EXPECT_EQ(alone.GetFont(), nullptr);
     EXPECT_STREQ(alone.GetText(), L"");
+    EXPECT_EQ(alone.GetTextExtent(L"text"), CSize(0, 0)) << "nothing to measure on";
+    EXPECT_EQ(alone.GetMargin(), 0u);
 }
 
 TEST_F(GridCell, CopiesWhatTheOtherShows)
@@ -63,6 +68,7 @@ TEST_F(GridCell, CopiesWhatTheOtherShows)
     CGridCell copy;
     cell.SetText(L"text");
     cell.SetData(5);
+    cell.SetImage(3);
     cell.SetFormat(GV_INHERIT);
     copy = cell;
     EXPECT_STREQ(copy.GetText(), L"text");
@@ -108,7 +114,7 @@ TEST_F(GridCell, MeasuresTextWithItsMargins)
     cell.SetFont(&lf);
     const CSize upright = cell.GetTextExtent(L"IPE 200");
     EXPECT_GT(upright.cy, upright.cx);
-    EXPECT_GT(upright.cy, flat.cx);
+    EXPECT_EQ(upright, CSize(flat.cy, flat.cx + 4 * margin));
     dc.SelectStockObject(SYSTEM_FONT);
 }
 

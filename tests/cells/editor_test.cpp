@@ -73,6 +73,13 @@ TEST_F(Editors, AnEditByMouseKeepsTheArrowsUnlessControlIsHeld)
     EXPECT_TRUE(EditorOpens(kRow, kCol - 1));
     EXPECT_FALSE(grid.IsItemEditing(kRow, kCol));
     EndByFocus();
+
+    CGridCell loose;
+    loose.SetGrid(&grid);
+    EXPECT_TRUE(loose.Edit(1, 1, CRect(10, 10, 60, 30), CPoint(), InPlaceControlId, VK_LBUTTON));
+    loose.Reset();
+    EXPECT_FALSE(loose.IsEditing());
+    EndByFocus();
 }
 
 TEST_F(Editors, AnEditIsAlignedAsItsTextAndGrowsToTheGridsEdge)

@@ -3,7 +3,6 @@
 
 #include "GridWindow.h"
 
-#include "DialogTemplate.h"
 #include "Input.h"
 
 #include "cells/SubtractiveMix.h"
@@ -341,27 +340,20 @@ TEST(ExtGridHook, AParentWithoutAnObjectIsNamedByOneThatLasts)
 
 TEST(ExtGridHook, AGridOnADialogTemplateAsksForIt)
 {
-    class Form : public CDialog
-    {
-    public:
-        Handler handler;
-        CExtGridCtrl grid{&handler};
-
-    protected:
-        void DoDataExchange(CDataExchange* pDX) override { DDX_Control(pDX, kGridId, grid); }
-    } form;
-    const auto shape = owtest::DialogTemplate(L"Form", 120, 80)
-                           .Item(L"MFCGridCtrl", L"", kGridId, WS_TABSTOP, 4, 4, 100, 60);
-    ASSERT_TRUE(form.CreateIndirect(shape.get()));
-    form.grid.SetRowCount(5);
-    form.grid.SetColumnCount(2);
-    form.grid.InstallMessageHook();
-    form.grid.InstallMessageHook();
-    form.grid.SetFocusCell(3, 1);
-    EXPECT_EQ(form.handler.Take(), Calls{"77 row 3 after -1"});
-    form.DestroyWindow();
-
-    CExtGridCtrl loose(&form.handler);
+    GridParent& parent = SharedParent();
+    Handler handler;
+    CExtGridCtrl grid(&handler), loose(&handler);
+    grid.SetRowCount(5);
+    grid.SetColumnCount(2);
+    ASSERT_TRUE(grid.SubclassWindow(::CreateWindowEx(0, L"MFCGridCtrl", L"", WS_CHILD, 0, 0, 100, 60, parent,
+                                                     nullptr, AfxGetInstanceHandle(), nullptr)));
+    grid.SetFocusCell(2, 1);
+    EXPECT_EQ(handler.Take(), Calls{});
+    grid.InstallMessageHook();
+    grid.InstallMessageHook();
+    grid.SetFocusCell(3, 1);
+    EXPECT_EQ(handler.Take(), Calls{"0 row 3 after -1"});
+    EXPECT_EQ(parent.Take(), Calls{"changed 2,1"});
     loose.InstallMessageHook(); // neither a window nor a parent
 }
 

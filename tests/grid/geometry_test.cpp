@@ -56,6 +56,12 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     const auto bars = [&] { return std::tuple(grid.IsVisibleVScroll(), grid.IsVisibleHScroll()); };
     EXPECT_EQ(bars(), std::tuple(TRUE, TRUE));
     EXPECT_EQ(CSize(grid.m_nHScrollMax, grid.m_nVScrollMax), CSize(6 * 60 - 1, 20 * 20 - 1));
+    grid.SetRowCount(9);
+    EXPECT_EQ(bars(), std::tuple(FALSE, TRUE)) << "they fit beside one bar, and would not beside two";
+    grid.SetRowCount(kRows);
+    grid.SetColumnCount(4);
+    grid.SetColumnWidth(3, 95, TRUE);
+    EXPECT_EQ(bars(), std::tuple(TRUE, FALSE));
     grid.SetColumnCount(3);
     EXPECT_EQ(bars(), std::tuple(TRUE, FALSE));
     EXPECT_EQ(grid.m_nHScrollMax, 0);
