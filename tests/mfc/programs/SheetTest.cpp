@@ -171,16 +171,17 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
     for (const auto& [act, result, log] : cases)
     {
         first.log.Empty();
+        CString seen;
         owtest::ModalVisit visit(
             [&, &act = act](CWnd&)
             {
                 act(sheet);
                 owtest::PumpUntil([&] { return !sheet.ContinueModal(); }, 2000);
+                seen = first.log; // the visit ends by another Cancel
             });
         EXPECT_EQ(sheet.DoModal(), result);
         EXPECT_EQ(sheet.m_hWnd, nullptr);
-        if (log != nullptr)
-            EXPECT_EQ(first.log, log) << result;
+        EXPECT_TRUE(log == nullptr || seen == log) << result << " " << seen.GetString();
     }
 }
 

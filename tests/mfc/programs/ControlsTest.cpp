@@ -1,0 +1,361 @@
+// Check list boxes, bitmap buttons, tool bar controls and lists sorted by index, from the inside.
+
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxext.h>
+
+#include <gtest/gtest.h>
+
+#include "Input.h"
+#include "Picture.h"
+
+#include <memory>
+#include <vector>
+
+namespace
+{
+/// The parent of a control, which counts its check notifications.
+class Host : public CWnd
+{
+public:
+    Host()
+    {
+        CreateEx(0, AfxRegisterWndClass(0), L"host", WS_POPUP | WS_VISIBLE, CRect(50, 50, 350, 250), nullptr,
+                 0);
+        owtest::Activate(m_hWnd);
+    }
+    ~Host() override { DestroyWindow(); }
+    int checks = 0;
+
+protected:
+    afx_msg void OnChecked() { ++checks; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Host, CWnd)
+    ON_CLBN_CHKCHANGE(1, &Host::OnChecked)
+END_MESSAGE_MAP()
+
+/// A list without strings, whose items are numbers, the greater first.
+class NumberList : public CCheckListBox
+{
+public:
+    std::vector<ULONG_PTR> deleted;
+
+protected:
+    void DrawItem(LPDRAWITEMSTRUCT) override {}
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 40; }
+    void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(item->itemData); }
+    int CompareItem(LPCOMPAREITEMSTRUCT items) override
+    {
+        return static_cast<int>(items->itemData2) - static_cast<int>(items->itemData1);
+    }
+};
+
+class CheckList : public ::testing::Test
+{
+protected:
+    void Make(DWORD style = 0)
+    {
+        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED |
+                                    LBS_NOINTEGRALHEIGHT | style,
+                                CRect(0, 0, 120, 150), &host, 1));
+        for (const wchar_t* text : {L"a", L"b", L"c"})
+            list.AddString(text);
+    }
+    /// The checks of the three items.
+    int Checks() { return 100 * list.GetCheck(0) + 10 * list.GetCheck(1) + list.GetCheck(2); }
+    CPoint At(int item, int x)
+    {
+        CRect rect;
+        list.GetItemRect(item, &rect);
+        return CPoint(x, rect.CenterPoint().y);
+    }
+    void ClickBox(int item) { owtest::Click(list.m_hWnd, At(item, 5)); }
+
+    Host host;
+    CCheckListBox list;
+};
+
+TEST_F(CheckList, ChecksAreChangedByTheirStyle)
+{
+    Make();
+    EXPECT_EQ(list.GetCheckStyle(), UINT{BS_AUTOCHECKBOX});
+    list.SetCheck(0, 2); // no such state
+    list.SetCheck(2, 1);
+    list.SetCheck(3, 1); // no such item
+    EXPECT_EQ(Checks(), 1);
+    ClickBox(0);
+    ClickBox(2);
+    EXPECT_EQ(Checks(), 100);
+    EXPECT_EQ(list.GetCurSel(), 2);
+    owtest::DoubleClick(list.m_hWnd, At(1, 5)); // twice
+    EXPECT_EQ(Checks(), 100);
+    EXPECT_EQ(host.checks, 4);
+
+    list.SetCheckStyle(BS_AUTO3STATE);
+    for (const int check : {1, 2, 0, 1})
+    {
+        owtest::Press(VK_SPACE);
+        EXPECT_EQ(list.GetCheck(1), check);
+    }
+    list.SetCheckStyle(BS_3STATE); // the program's business
+    ClickBox(2);
+    owtest::Press(VK_SPACE);
+    EXPECT_EQ(Checks(), 110);
+    list.SetCheckStyle(BS_AUTOCHECKBOX);
+    owtest::Click(list.m_hWnd, At(0, 60)); // beside the box
+    EXPECT_EQ(Checks(), 110);
+    list.Enable(0, FALSE);
+    EXPECT_FALSE(list.IsEnabled(0));
+    list.SetCurSel(1);
+    ClickBox(0);
+    EXPECT_EQ(Checks(), 110);
+    EXPECT_EQ(list.GetCurSel(), 1) << "a disabled item is not selected";
+    list.SetCurSel(0);
+    owtest::Press(VK_SPACE);
+    EXPECT_EQ(Checks(), 110);
+    EXPECT_EQ(host.checks, 8);
+}
+
+TEST_F(CheckList, ChangesAllSelectedItemsAtOnce)
+{
+    Make(LBS_EXTENDEDSEL);
+    list.SelItemRange(TRUE, 0, 1);
+    ClickBox(1);
+    EXPECT_EQ(Checks(), 110);
+    EXPECT_EQ(list.GetSelCount(), 2);
+    ClickBox(2); // not selected
+    EXPECT_EQ(Checks(), 111);
+    EXPECT_EQ(list.GetSelCount(), 1);
+}
+
+TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
+{
+    Make();
+    list.SetCheck(1, 1);
+    EXPECT_EQ(list.GetItemData(1), 0u);
+    EXPECT_EQ(list.GetItemData(7), static_cast<DWORD_PTR>(LB_ERR));
+    list.SetItemData(1, 55);
+    EXPECT_EQ(list.GetItemData(1), 55u);
+    list.DeleteString(0);
+    EXPECT_EQ(list.GetCheck(0), 1) << "the check goes with its item";
+    EXPECT_EQ(list.GetItemData(0), 55u);
+    EXPECT_GE(list.GetItemHeight(0), ::GetSystemMetrics(SM_CYMENUCHECK) + 1);
+    list.SetItemHeight(0, 1);
+    EXPECT_EQ(list.GetItemHeight(0), list.CalcMinimumItemHeight());
+    CFont large;
+    large.CreatePointFont(300, L"Liberation Sans");
+    list.SetFont(&large);
+    EXPECT_GT(list.GetItemHeight(0), 30);
+    BOOL inCheck = TRUE;
+    EXPECT_EQ(list.CheckFromPoint(CPoint(5, 149), inCheck), -1); // below the items
+    EXPECT_FALSE(inCheck);
+    list.SetFont(nullptr);
+}
+
+TEST_F(CheckList, DrawsBoxTextAndSelection)
+{
+    Make();
+    const auto draw = [&](UINT state)
+    {
+        auto picture = std::make_unique<owtest::Surface>(100, 20);
+        DRAWITEMSTRUCT item{ODT_LISTBOX,     1, 0, ODA_DRAWENTIRE, state, list.m_hWnd, picture->dc().m_hDC,
+                            {0, 0, 100, 20}, 0};
+        host.SendMessage(WM_DRAWITEM, 1, reinterpret_cast<LPARAM>(&item));
+        return picture;
+    };
+    const auto plain = draw(0);
+    EXPECT_EQ(plain->at(90, 10), ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(plain->count(CRect(0, 0, 100, 20), RGB(255, 0, 255)), 0) << "nothing is left out";
+    EXPECT_EQ(draw(ODS_SELECTED)->at(90, 10), ::GetSysColor(COLOR_HIGHLIGHT));
+    list.SetCheck(0, 1);
+    EXPECT_FALSE(*draw(0) == *plain);
+    list.SetCheck(0, 0);
+    EXPECT_TRUE(*draw(0) == *plain);
+    list.Enable(0, FALSE);
+    EXPECT_FALSE(*draw(0) == *plain);
+    EXPECT_EQ(draw(ODS_SELECTED)->at(90, 10), ::GetSysColor(COLOR_WINDOW)) << "never selected";
+}
+
+TEST_F(CheckList, HoldsNumbersInPlaceOfStrings)
+{
+    NumberList numbers;
+    ASSERT_TRUE(numbers.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 2));
+    const auto text = [](INT_PTR number) { return reinterpret_cast<LPCTSTR>(number); };
+    for (const int number : {20, 30, 10})
+        numbers.AddString(text(number));
+    numbers.SetCheck(1, 1);
+    EXPECT_EQ(numbers.GetItemData(0), 30u);
+    EXPECT_EQ(numbers.GetItemData(2), 10u);
+    EXPECT_EQ(numbers.GetItemHeight(1), 40);
+    EXPECT_EQ(numbers.FindStringExact(-1, text(20)), 1);
+    EXPECT_EQ(numbers.FindString(1, text(30)), 0); // all round
+    EXPECT_EQ(numbers.FindString(-1, text(31)), LB_ERR);
+    EXPECT_EQ(numbers.SelectString(-1, text(10)), 2);
+    EXPECT_EQ(numbers.GetCurSel(), 2);
+    INT_PTR read = 0;
+    EXPECT_EQ(numbers.GetText(1, reinterpret_cast<LPTSTR>(&read)), static_cast<int>(sizeof read));
+    EXPECT_EQ(read, 20);
+    numbers.DeleteString(1);
+    EXPECT_EQ(numbers.deleted, std::vector<ULONG_PTR>{20});
+    EXPECT_EQ(numbers.GetCheck(1), 0);
+}
+
+/// Bitmaps of one colour each, in the order up, pressed, focused, disabled; the last may be left out.
+class ColourButton : public CBitmapButton
+{
+public:
+    explicit ColourButton(int count)
+    {
+        CBitmap* const bitmaps[] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
+        CClientDC screen(nullptr);
+        for (int i = 0; i < count; ++i)
+        {
+            bitmaps[i]->CreateCompatibleBitmap(&screen, 12, 9);
+            CDC dc;
+            dc.CreateCompatibleDC(&screen);
+            CBitmap* const before = dc.SelectObject(bitmaps[i]);
+            dc.FillSolidRect(0, 0, 12, 9, Colour(i));
+            dc.SelectObject(before);
+        }
+    }
+    static COLORREF Colour(int index) { return RGB(0, 60 * index, 200); }
+};
+
+TEST(BitmapButton, ShowsTheBitmapOfItsState)
+{
+    Host host;
+    const struct
+    {
+        int bitmaps;
+        UINT state;
+        int shown;
+    } cases[] = {
+        {4, 0, 0},
+        {4, ODS_SELECTED | ODS_FOCUS, 1},
+        {4, ODS_FOCUS, 2},
+        {4, ODS_DISABLED, 3},
+        {1, ODS_SELECTED, 0},
+        {1, ODS_FOCUS | ODS_DISABLED, 0},
+        {3, ODS_DISABLED, 0},
+    };
+    for (const auto& [bitmaps, state, shown] : cases)
+    {
+        ColourButton button(bitmaps);
+        ASSERT_TRUE(button.Create(L"", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 50, 50), &host, 1));
+        button.SizeToContent();
+        CRect size;
+        button.GetClientRect(&size);
+        EXPECT_EQ(size, CRect(0, 0, 12, 9));
+        owtest::Surface picture(20, 20);
+        DRAWITEMSTRUCT item{ODT_BUTTON,     1, 0, ODA_DRAWENTIRE, state, button.m_hWnd, picture.dc().m_hDC,
+                            {3, 4, 15, 13}, 0};
+        host.SendMessage(WM_DRAWITEM, 1, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(picture.extent(ColourButton::Colour(shown)), CRect(3, 4, 15, 13))
+            << bitmaps << " " << state;
+    }
+    CBitmapButton missing;
+    EXPECT_FALSE(missing.LoadBitmaps(L"NO_SUCH_BITMAP"));
+    EXPECT_FALSE(missing.AutoLoad(99, &host));
+}
+
+TEST(ToolBar, KnowsItsButtonsTextsAndStates)
+{
+    Host host;
+    CToolBarCtrl bar;
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(), &host, 5));
+    CBitmap bitmap;
+    CClientDC screen(nullptr);
+    bitmap.CreateCompatibleBitmap(&screen, 32, 16);
+    EXPECT_EQ(bar.AddBitmap(2, &bitmap), 0);
+    EXPECT_EQ(bar.AddStrings(L"cut\0paste\0"), 0);
+    TBBUTTON buttons[3]{};
+    for (int i = 0; i < 3; ++i)
+        buttons[i] = {I_IMAGENONE, 10 + i, TBSTATE_ENABLED, BTNS_CHECK, {}, 0, i % 2};
+    ASSERT_TRUE(bar.AddButtons(3, buttons));
+    EXPECT_EQ(bar.GetButtonCount(), 3);
+    EXPECT_EQ(bar.GetString(1), L"paste");
+    bar.EnableButton(10, FALSE);
+    bar.CheckButton(11);
+    bar.HideButton(12);
+    EXPECT_FALSE(bar.IsButtonEnabled(10));
+    EXPECT_TRUE(bar.IsButtonEnabled(11));
+    EXPECT_TRUE(bar.IsButtonChecked(11));
+    EXPECT_TRUE(bar.IsButtonHidden(12));
+    bar.PressButton(11);
+    bar.Indeterminate(11);
+    EXPECT_TRUE(bar.IsButtonPressed(11));
+    EXPECT_TRUE(bar.IsButtonIndeterminate(11));
+    TBBUTTONINFO info{};
+    info.dwMask = TBIF_LPARAM;
+    info.lParam = 44;
+    EXPECT_TRUE(bar.SetButtonInfo(11, &info));
+    info.lParam = 0;
+    EXPECT_TRUE(bar.GetButtonInfo(11, &info));
+    EXPECT_EQ(info.lParam, 44u);
+    EXPECT_FALSE(bar.GetButtonInfo(99, &info));
+    EXPECT_EQ(bar.CommandToIndex(11), 1u);
+    EXPECT_TRUE(bar.DeleteButton(0));
+    EXPECT_EQ(bar.CommandToIndex(11), 0u);
+    bar.AutoSize();
+    CRect rect;
+    EXPECT_TRUE(bar.GetItemRect(0, &rect));
+    CPoint middle = rect.CenterPoint();
+    EXPECT_EQ(bar.HitTest(&middle), 0);
+
+    CImageList images;
+    images.Create(16, 16, ILC_COLOR32, 1, 1);
+    bar.SetImageList(&images);
+    EXPECT_EQ(bar.GetImageList(), &images);
+    bar.SetImageList(nullptr);
+}
+
+TEST(ListCtrl, IsSortedByIndexAndKeepsItsData)
+{
+    Host host;
+    CListCtrl list;
+    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 100, 100), &host, 3));
+    constexpr int count = 200;
+    for (int i = 0; i < count; ++i)
+    {
+        CString text;
+        text.Format(L"%d", (i * 37) % count); // all numbers, scattered
+        list.SetItemData(list.InsertItem(i, text), 1000 + i);
+    }
+    const auto number = [](LPARAM list, LPARAM item)
+    { return _wtoi(reinterpret_cast<const CListCtrl*>(list)->GetItemText(static_cast<int>(item), 0)); };
+    static auto s_number = number;
+    EXPECT_TRUE(list.SortItemsEx([](LPARAM a, LPARAM b, LPARAM list) -> int
+                                 { return s_number(list, a) - s_number(list, b); },
+                                 reinterpret_cast<DWORD_PTR>(&list)));
+    for (int i = 0; i < count; ++i)
+    {
+        EXPECT_EQ(number(reinterpret_cast<LPARAM>(&list), i), i);
+        EXPECT_EQ((list.GetItemData(i) - 1000) * 37 % count, static_cast<DWORD_PTR>(i));
+    }
+    CListCtrl virtualList;
+    ASSERT_TRUE(virtualList.Create(WS_CHILD | LVS_REPORT | LVS_OWNERDATA, CRect(0, 0, 9, 9), &host, 4));
+    EXPECT_FALSE(virtualList.SortItemsEx([](LPARAM, LPARAM, LPARAM) { return 0; }, 0));
+}
+
+TEST(FileDialog, TellsOfASelectionThatChanges)
+{
+    struct Dialog : CFileDialog
+    {
+        Dialog() : CFileDialog(TRUE) {}
+        UINT told[3]{};
+        void OnLBSelChangedNotify(UINT box, UINT selection, UINT code) override
+        {
+            told[0] = box;
+            told[1] = selection;
+            told[2] = code;
+        }
+        using CFileDialog::WindowProc;
+    } dialog;
+    dialog.WindowProc(::RegisterWindowMessage(LBSELCHSTRING), 1120, MAKELPARAM(3, CD_LBSELCHANGE));
+    EXPECT_EQ(dialog.told[0], 1120u);
+    EXPECT_EQ(dialog.told[1], 3u);
+    EXPECT_EQ(dialog.told[2], UINT{CD_LBSELCHANGE});
+}
+} // namespace
