@@ -46,7 +46,10 @@ public:
     BOOL ChangeBitmap(int nID, int iBitmap) { return AfxSend<BOOL>(TB_CHANGEBITMAP, nID, iBitmap); }
     /// `cbSize` is filled in.
     BOOL GetButtonInfo(int nID, TBBUTTONINFO* ptbbi) const;
-    BOOL SetButtonInfo(int nID, TBBUTTONINFO* ptbbi);
+    BOOL SetButtonInfo(int nID, TBBUTTONINFO* p)
+    {
+        return p->cbSize = sizeof *p, AfxSend<BOOL>(TB_SETBUTTONINFO, nID, p);
+    }
     void GetRect(int nID, LPRECT lpRect) const { AfxSend(TB_GETRECT, nID, lpRect); }
     UINT CommandToIndex(UINT nID) const { return AfxSend<UINT>(TB_COMMANDTOINDEX, nID); }
 
@@ -151,8 +154,8 @@ public:
     void SetToolTips(CToolTipCtrl* pTip);
     void SetOwner(CWnd* pWnd); ///< receives the notifications
     void Customize() { AfxSend(TB_CUSTOMIZE); }
-    void SaveState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName);
-    void RestoreState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName);
+    void SaveState(HKEY root, LPCTSTR key, LPCTSTR value) { SaveOrRestore(true, root, key, value); }
+    void RestoreState(HKEY root, LPCTSTR key, LPCTSTR value) { SaveOrRestore(false, root, key, value); }
     HRESULT GetDropTarget(IDropTarget** ppDropTarget) const;
 
     // The mark between buttons where one would be dropped

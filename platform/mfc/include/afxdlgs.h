@@ -28,7 +28,7 @@ public:
 
 protected:
     void OnOK() override;
-    void OnCancel() override;
+    void OnCancel() override { Default(); }
 };
 
 /// The dialog to open or save files.
@@ -77,16 +77,16 @@ public:
 
 protected:
     /// Answer to a sharing violation: OFN_SHAREFALLTHROUGH, OFN_SHARENOWARN or OFN_SHAREWARN.
-    virtual UINT OnShareViolation(LPCTSTR lpszPathName);
+    virtual UINT OnShareViolation(LPCTSTR) { return OFN_SHAREWARN; }
     /// A last look at the name; nonzero keeps the dialog open.
     virtual BOOL OnFileNameOK() { return FALSE; }
     virtual void OnInitDone() { GetParent()->CenterWindow(); }
-    virtual void OnFileNameChange();
-    virtual void OnFolderChange();
-    virtual void OnHelp();
-    virtual void OnTypeChange();
-    /// A dialog without OFN_EXPLORER: the selection of a list is about to change; `nCode` is a CD_LBSEL value.
-    virtual void OnLBSelChangedNotify(UINT nIDBox, UINT iCurSel, UINT nCode);
+    virtual void OnFileNameChange() {}
+    virtual void OnFolderChange() {}
+    virtual void OnHelp() {}
+    virtual void OnTypeChange() {}
+    /// A dialog without OFN_EXPLORER: the selection of a list is about to change. Box, item, and a CD_LBSEL code.
+    virtual void OnLBSelChangedNotify(UINT, UINT, UINT) {}
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
@@ -204,23 +204,24 @@ public:
     /// Enables the sheet's Apply button, or disables it again once no page is modified.
     void SetModified(BOOL bChanged = TRUE);
     /// After a change that Cancel does not undo: OK becomes Close, and Cancel is disabled.
-    void CancelToClose();
+    void CancelToClose() { GetParent()->PostMessage(PSM_CANCELTOCLOSE); }
     /// Asks each page that exists by PSM_QUERYSIBLINGS until one answers something else than 0.
-    LRESULT QuerySiblings(WPARAM wParam, LPARAM lParam);
+    LRESULT QuerySiblings(WPARAM w, LPARAM l) { return GetParent()->SendMessage(PSM_QUERYSIBLINGS, w, l); }
     CPropertySheet* GetParentSheet() const;
     void EndDialog(int nEndID); ///< ends the sheet
 
-    virtual BOOL OnSetActive();  ///< the page is about to be shown; FALSE skips it
-    virtual BOOL OnKillActive(); ///< FALSE keeps the page: a value was refused
-    virtual BOOL OnApply();      ///< OK or Apply, after OnKillActive: calls OnOK; FALSE keeps the sheet open
-    virtual void OnReset();      ///< Cancel: calls OnCancel
-    void OnOK() override;
-    void OnCancel() override;
-    virtual BOOL OnQueryCancel(); ///< FALSE keeps the sheet open when it is to be cancelled
+    virtual BOOL OnSetActive(); ///< the page is about to be shown; FALSE skips it
+    virtual BOOL OnKillActive() { return UpdateData(TRUE); } ///< FALSE keeps the page: a value was refused
+    /// OK or Apply, after OnKillActive; FALSE keeps the sheet open.
+    virtual BOOL OnApply() { return OnOK(), TRUE; }
+    virtual void OnReset() { OnCancel(); } ///< Cancel
+    void OnOK() override {}
+    void OnCancel() override {}
+    virtual BOOL OnQueryCancel() { return TRUE; } ///< FALSE keeps the sheet open when it is to be cancelled
     /// 0 goes on to the neighbour, -1 stays, the id of a page's template goes there.
-    virtual LRESULT OnWizardBack();
-    virtual LRESULT OnWizardNext();
-    virtual BOOL OnWizardFinish(); ///< FALSE keeps the wizard open
+    virtual LRESULT OnWizardBack() { return 0; }
+    virtual LRESULT OnWizardNext() { return 0; }
+    virtual BOOL OnWizardFinish() { return TRUE; } ///< FALSE keeps the wizard open
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
@@ -320,7 +321,7 @@ protected:
     BOOL m_bModeless = FALSE;
 
     afx_msg BOOL OnNcCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM);
+    afx_msg LRESULT HandleInitDialog(WPARAM, LPARAM) { return OnInitDialog(); }
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);

@@ -35,7 +35,7 @@ public:
     BOOL IsEnabled(int nIndex);
 
     /// Where the box is drawn: by default in the middle of the item's left end, `rectCheckBox`.
-    virtual CRect OnGetCheckPosition(CRect rectItem, CRect rectCheckBox);
+    virtual CRect OnGetCheckPosition(CRect, CRect rectCheckBox) { return rectCheckBox; }
 
     /// The item right of its box. To be overridden for variable heights or lists without strings.
     void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct) override;
@@ -57,10 +57,9 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg LRESULT OnSetFont(WPARAM, LPARAM);
-    afx_msg LRESULT OnLBAddString(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnLBInsertString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnLBAddString(WPARAM w, LPARAM l) { return AddItem(LB_ADDSTRING, w, l); }
+    afx_msg LRESULT OnLBInsertString(WPARAM w, LPARAM l) { return AddItem(LB_INSERTSTRING, w, l); }
     afx_msg LRESULT OnLBFindString(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnLBFindStringExact(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnLBSelectString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnLBGetText(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnLBGetItemData(WPARAM wParam, LPARAM);

@@ -19,7 +19,7 @@ BEGIN_MESSAGE_MAP(CCheckListBox, CListBox)
     ON_MESSAGE(LB_ADDSTRING, &CCheckListBox::OnLBAddString)
     ON_MESSAGE(LB_INSERTSTRING, &CCheckListBox::OnLBInsertString)
     ON_MESSAGE(LB_FINDSTRING, &CCheckListBox::OnLBFindString)
-    ON_MESSAGE(LB_FINDSTRINGEXACT, &CCheckListBox::OnLBFindStringExact)
+    ON_MESSAGE(LB_FINDSTRINGEXACT, &CCheckListBox::OnLBFindString)
     ON_MESSAGE(LB_SELECTSTRING, &CCheckListBox::OnLBSelectString)
     ON_MESSAGE(LB_GETTEXT, &CCheckListBox::OnLBGetText)
     ON_MESSAGE(LB_GETITEMDATA, &CCheckListBox::OnLBGetItemData)
@@ -140,11 +140,6 @@ void CCheckListBox::TellParent()
 
 // ---------------------------------------------------------------------------------------------------------
 // Places
-
-CRect CCheckListBox::OnGetCheckPosition(CRect, CRect rectCheckBox)
-{
-    return rectCheckBox;
-}
 
 /// The box of an item: at its left end, with a pixel around it.
 CRect CCheckListBox::BoxOf(CRect item)
@@ -395,16 +390,6 @@ LRESULT CCheckListBox::AddItem(UINT message, WPARAM wParam, LPARAM lParam)
     return added;
 }
 
-LRESULT CCheckListBox::OnLBAddString(WPARAM wParam, LPARAM lParam)
-{
-    return AddItem(LB_ADDSTRING, wParam, lParam);
-}
-
-LRESULT CCheckListBox::OnLBInsertString(WPARAM wParam, LPARAM lParam)
-{
-    return AddItem(LB_INSERTSTRING, wParam, lParam);
-}
-
 /// The next item with the data, all round; -1 for none.
 int CCheckListBox::FindData(int after, LPARAM data)
 {
@@ -419,11 +404,6 @@ int CCheckListBox::FindData(int after, LPARAM data)
 }
 
 LRESULT CCheckListBox::OnLBFindString(WPARAM wParam, LPARAM lParam)
-{
-    return HasStrings() ? Default() : FindData(static_cast<int>(wParam), lParam);
-}
-
-LRESULT CCheckListBox::OnLBFindStringExact(WPARAM wParam, LPARAM lParam)
 {
     return HasStrings() ? Default() : FindData(static_cast<int>(wParam), lParam);
 }

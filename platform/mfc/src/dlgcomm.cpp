@@ -52,11 +52,6 @@ void CCommonDialog::OnOK()
         Default(); // the system's dialog closes itself
 }
 
-void CCommonDialog::OnCancel()
-{
-    Default();
-}
-
 // ---------------------------------------------------------------------------------------------------------
 // CFileDialog
 
@@ -231,31 +226,6 @@ BOOL CFileDialog::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)
     // The dialog reads the answer here, and not only from the message.
     ::SetWindowLongPtr(m_hWnd, DWLP_MSGRESULT, *pResult);
     return TRUE;
-}
-
-UINT CFileDialog::OnShareViolation(LPCTSTR)
-{
-    return OFN_SHAREWARN;
-}
-
-void CFileDialog::OnFileNameChange()
-{
-}
-
-void CFileDialog::OnFolderChange()
-{
-}
-
-void CFileDialog::OnHelp()
-{
-}
-
-void CFileDialog::OnTypeChange()
-{
-}
-
-void CFileDialog::OnLBSelChangedNotify(UINT, UINT, UINT)
-{
 }
 
 LRESULT CFileDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

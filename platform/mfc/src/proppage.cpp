@@ -167,16 +167,6 @@ void CPropertyPage::SetModified(BOOL bChanged)
         GetParent()->SendMessage(bChanged ? PSM_CHANGED : PSM_UNCHANGED, reinterpret_cast<WPARAM>(m_hWnd));
 }
 
-void CPropertyPage::CancelToClose()
-{
-    GetParent()->PostMessage(PSM_CANCELTOCLOSE);
-}
-
-LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam)
-{
-    return GetParent()->SendMessage(PSM_QUERYSIBLINGS, wParam, lParam);
-}
-
 void CPropertyPage::EndDialog(int nEndID)
 {
     if (CPropertySheet* const sheet = GetParentSheet())
@@ -190,50 +180,6 @@ BOOL CPropertyPage::OnSetActive()
 {
     if (!std::exchange(m_bFirstSetActive, FALSE)) // the first time OnInitDialog has just done it
         UpdateData(FALSE);
-    return TRUE;
-}
-
-BOOL CPropertyPage::OnKillActive()
-{
-    return UpdateData(TRUE);
-}
-
-BOOL CPropertyPage::OnApply()
-{
-    OnOK();
-    return TRUE;
-}
-
-void CPropertyPage::OnReset()
-{
-    OnCancel();
-}
-
-void CPropertyPage::OnOK()
-{
-}
-
-void CPropertyPage::OnCancel()
-{
-}
-
-BOOL CPropertyPage::OnQueryCancel()
-{
-    return TRUE;
-}
-
-LRESULT CPropertyPage::OnWizardBack()
-{
-    return 0;
-}
-
-LRESULT CPropertyPage::OnWizardNext()
-{
-    return 0;
-}
-
-BOOL CPropertyPage::OnWizardFinish()
-{
     return TRUE;
 }
 

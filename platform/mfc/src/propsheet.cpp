@@ -264,11 +264,6 @@ BOOL CPropertySheet::OnNcCreate(LPCREATESTRUCT)
     return static_cast<BOOL>(Default());
 }
 
-LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
-{
-    return OnInitDialog();
-}
-
 BOOL CPropertySheet::OnInitDialog()
 {
     if (!m_bStacked)

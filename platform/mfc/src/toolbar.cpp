@@ -26,12 +26,6 @@ BOOL CToolBarCtrl::GetButtonInfo(int nID, TBBUTTONINFO* ptbbi) const
     return AfxSend<int>(TB_GETBUTTONINFO, nID, ptbbi) != -1;
 }
 
-BOOL CToolBarCtrl::SetButtonInfo(int nID, TBBUTTONINFO* ptbbi)
-{
-    ptbbi->cbSize = sizeof *ptbbi;
-    return AfxSend<BOOL>(TB_SETBUTTONINFO, nID, ptbbi);
-}
-
 int CToolBarCtrl::AddBitmap(int nNumButtons, UINT nBitmapID)
 {
     TBADDBITMAP added{AfxFindResourceHandle(MAKEINTRESOURCE(nBitmapID), RT_BITMAP), nBitmapID};
@@ -92,16 +86,6 @@ void CToolBarCtrl::SaveOrRestore(bool save, HKEY root, LPCTSTR key, LPCTSTR valu
 {
     TBSAVEPARAMS place{root, key, value};
     AfxSend(TB_SAVERESTORE, save, &place);
-}
-
-void CToolBarCtrl::SaveState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName)
-{
-    SaveOrRestore(true, hKeyRoot, lpszSubKey, lpszValueName);
-}
-
-void CToolBarCtrl::RestoreState(HKEY hKeyRoot, LPCTSTR lpszSubKey, LPCTSTR lpszValueName)
-{
-    SaveOrRestore(false, hKeyRoot, lpszSubKey, lpszValueName);
 }
 
 HRESULT CToolBarCtrl::GetDropTarget(IDropTarget** ppDropTarget) const

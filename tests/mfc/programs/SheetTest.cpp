@@ -177,11 +177,11 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
             {
                 act(sheet);
                 owtest::PumpUntil([&] { return !sheet.ContinueModal(); }, 2000);
-                seen = first.log; // the visit ends by another Cancel
+                seen = first.log; // another Cancel may follow
             });
         EXPECT_EQ(sheet.DoModal(), result);
         EXPECT_EQ(sheet.m_hWnd, nullptr);
-        EXPECT_TRUE(log == nullptr || seen == log) << result << " " << seen.GetString();
+        EXPECT_TRUE(log == nullptr || seen.Find(log) == 0) << result << " " << seen.GetString();
     }
 }
 
