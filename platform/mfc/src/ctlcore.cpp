@@ -397,13 +397,7 @@ BOOL CScrollBar::GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask)
 
 int CScrollBar::GetScrollLimit()
 {
-    int minimum = 0;
-    int maximum = 0;
-    GetScrollRange(&minimum, &maximum);
-    SCROLLINFO info = {};
-    if (GetScrollInfo(&info, SIF_PAGE) && info.nPage > 1)
-        maximum -= info.nPage - 1;
-    return maximum;
+    return CWnd::GetScrollLimit(SB_CTL);
 }
 
 BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const

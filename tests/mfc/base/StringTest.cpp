@@ -60,18 +60,12 @@ TEST(String, BuffersMayBeSharedByThreads)
     const auto copyOften = [shared]
     {
         for (int n = 0; n < 20000; ++n)
-        {
-            CString copy = shared;
-            CString another = copy;
-            if (n % 64 == 0)
-                another += L"!";
-        }
+            CString(shared).SetAt(0, L'!');
     };
-    std::vector<std::thread> threads;
+    std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i)
         threads.emplace_back(copyOften);
-    for (std::thread& thread : threads)
-        thread.join();
+    threads.clear();
     EXPECT_STREQ(shared, L"counted by all");
 }
 

@@ -60,6 +60,44 @@ TEST(SpinButton, UnpacksItsRangeAndTellsThatTheBuddyHasNoNumber)
     EXPECT_NE(HIWORD(spin.GetPos()), 0) << "no number";
 }
 
+TEST(CommonControls, RangesAndPanesAreUnpacked)
+{
+    HostWindow host;
+    int low = 0;
+    int high = 0;
+    CSliderCtrl slider;
+    ASSERT_TRUE(slider.Create(CHILD | TBS_ENABLESELRANGE, CRect(0, 0, 100, 30), &host, 1));
+    slider.SetRange(-5, 70000); // more than the message for both bounds holds
+    slider.GetRange(low, high);
+    EXPECT_EQ(low, -5);
+    EXPECT_EQ(high, 70000);
+    slider.SetSelection(3, 9);
+    slider.GetSelection(low, high);
+    EXPECT_EQ(low * 10 + high, 39);
+    CProgressCtrl progress;
+    ASSERT_TRUE(progress.Create(CHILD, CRect(0, 30, 100, 50), &host, 2));
+    progress.SetRange32(-7, 70000);
+    progress.GetRange(low, high);
+    EXPECT_EQ(low, -7);
+    EXPECT_EQ(high, 70000);
+
+    CStatusBarCtrl bar;
+    ASSERT_TRUE(bar.Create(CHILD, CRect(), &host, 3));
+    int edges[] = {100, -1};
+    bar.SetParts(2, edges);
+    EXPECT_TRUE(bar.SetText(L"pane", 1, SBT_POPOUT));
+    int type = 0;
+    EXPECT_EQ(bar.GetText(1, &type), L"pane");
+    EXPECT_EQ(type, SBT_POPOUT);
+    type = 0;
+    EXPECT_EQ(bar.GetTextLength(1, &type), 4);
+    EXPECT_EQ(type, SBT_POPOUT);
+    int borders[3] = {};
+    int spacing = 0;
+    EXPECT_TRUE(bar.GetBorders(borders) && bar.GetBorders(low, high, spacing));
+    EXPECT_EQ((std::vector<int>{low, high, spacing}), std::vector<int>(borders, borders + 3));
+}
+
 TEST(ToolTip, ToolsAreWholeWindowsOrRectanglesAlsoOfDisabledControls)
 {
     HostWindow host;
@@ -101,8 +139,10 @@ TEST(TreeControl, ItemsKeepLongTextsWideDataAndTheirPlaces)
     EXPECT_EQ(tree.GetNextSiblingItem(first), second);
     EXPECT_TRUE(tree.SetItemText(first, CString(L'x', 200)));
     EXPECT_GE(tree.GetItemText(first).GetLength(), 200);
-    EXPECT_TRUE(tree.SetItemData(second, 0x123456789));
+    tree.SetItemData(second, 0x123456789);
     EXPECT_EQ(tree.GetItemData(second), 0x123456789u);
+    EXPECT_TRUE(tree.ItemHasChildren(root) && !tree.ItemHasChildren(second));
+    EXPECT_EQ(tree.GetItemState(second, TVIS_EXPANDED), 0u);
     tree.SetCheck(second);
     EXPECT_EQ(tree.GetCheck(second), 1);
     EXPECT_TRUE(tree.Expand(root, TVE_EXPAND));
@@ -124,9 +164,22 @@ TEST(ListControl, ItemsKeepLongTextsAndWideDataAndColumnsTheirOrder)
     EXPECT_EQ(list.GetItemData(0), 0x1234567890u);
     int order[2] = {1, 0};
     EXPECT_TRUE(list.SetColumnOrderArray(2, order));
-    int read[2] = {};
-    EXPECT_TRUE(list.GetColumnOrderArray(read));
-    EXPECT_EQ(read[0], 1);
+    int read[4] = {};
+    EXPECT_TRUE(list.GetColumnOrderArray(read) && list.GetHeaderCtrl()->SendMessage(HDM_GETITEMCOUNT) == 2);
+    CHeaderCtrl header;
+    ASSERT_TRUE(header.Attach(list.GetHeaderCtrl()->m_hWnd));
+    EXPECT_TRUE(header.GetOrderArray(read + 2)) << "all of them";
+    header.Detach();
+    EXPECT_EQ(std::vector<int>(read, read + 4), (std::vector<int>{1, 0, 1, 0}));
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES);
+    list.SetCheck(1);
+    list.SetCheck(2);
+    list.SetCheck(2, FALSE);
+    EXPECT_EQ(list.GetCheck(1) * 10 + list.GetCheck(2), 10);
+    int across = 0;
+    int down = 0;
+    EXPECT_TRUE(list.GetItemSpacing(TRUE, &across, &down) && list.SetItemPosition(0, CPoint(1, 1)));
+    EXPECT_EQ(MAKELONG(across, down), list.SendMessage(LVM_GETITEMSPACING, TRUE));
 
     EXPECT_EQ(list.GetFirstSelectedItemPosition(), nullptr);
     for (int i : {0, 2, 4})
@@ -152,34 +205,26 @@ TEST(ListControl, AnImageListWithAnObjectOutlivesTheControl)
     EXPECT_EQ(images.GetImageCount(), 1) << "the style alone would have the control destroy it";
 }
 
-namespace
-{
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
 
-/// What a call of a control sends, as the structure that the message points to.
-template <class Structure>
-class Sent
+namespace
 {
-public:
-    explicit Sent(CWnd& control) : m_control(control)
+/// Whether a call makes a control send a structure that is like another, byte by byte, and hands on its answer.
+template <class Structure, class Call>
+bool Sends(CWnd& control, const Structure& expected, Call call)
+{
+    static Structure sent;
+    const auto take = [](HWND, UINT, WPARAM, LPARAM lParam) -> LRESULT
     {
-        s_sent = {};
-        m_before = ::SetWindowLongPtr(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
-    }
-    ~Sent() { ::SetWindowLongPtr(m_control, GWLP_WNDPROC, m_before); }
-    /// Whether it was this one, byte by byte.
-    bool Is(const Structure& expected) const { return memcmp(&s_sent, &expected, sizeof(Structure)) == 0; }
-
-private:
-    static LRESULT CALLBACK Procedure(HWND, UINT, WPARAM, LPARAM lParam)
-    {
-        s_sent = *reinterpret_cast<const Structure*>(lParam);
+        sent = *reinterpret_cast<const Structure*>(lParam);
         return 42;
-    }
-    CWnd& m_control;
-    LONG_PTR m_before;
-    static inline Structure s_sent;
-};
+    };
+    const WNDPROC procedure = take;
+    const auto before = ::SetWindowLongPtr(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+    const bool answered = AfxToMessage<LRESULT>(call()) == 42;
+    ::SetWindowLongPtr(control, GWLP_WNDPROC, before);
+    return answered && memcmp(&sent, &expected, sizeof(Structure)) == 0;
+}
 } // namespace
 
 TEST(CommonControls, StructuresAreFilledFromTheArguments)
@@ -188,64 +233,49 @@ TEST(CommonControls, StructuresAreFilledFromTheArguments)
     LPTSTR const text = const_cast<LPTSTR>(L"text");
     CListCtrl list;
     list.Create(0, CRect(), &host, 1);
-    {
-        const Sent<LVITEM> sent(list);
-        EXPECT_EQ(list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8), 42);
-        EXPECT_TRUE(sent.Is({1, 2, 3, 4, 5, text, 0, 6, 7, 8}));
-        EXPECT_EQ(list.SetItem(2, 3, 1, text, 6, 4, 5, 7), 42);
-        EXPECT_TRUE(sent.Is({1, 2, 3, 4, 5, text, 0, 6, 7}));
-        EXPECT_EQ(list.InsertItem(1, 2, text, 4, 5, 6, 7), 42);
-        EXPECT_TRUE(sent.Is({1, 2, 0, 4, 5, text, 0, 6, 7}));
-        EXPECT_EQ(list.InsertItem(2, text, 6), 42);
-        EXPECT_TRUE(sent.Is({LVIF_TEXT | LVIF_IMAGE, 2, 0, 0, 0, text, 0, 6}));
-        EXPECT_EQ(list.SetItemState(2, 4, 5), 42);
-        EXPECT_TRUE(sent.Is({0, 0, 0, 4, 5}));
-        EXPECT_EQ(list.SetItemData(2, 7), 42);
-        EXPECT_TRUE(sent.Is({LVIF_PARAM, 2, 0, 0, 0, nullptr, 0, 0, 7}));
-    }
-    {
-        const Sent<LVCOLUMN> sent(list);
-        EXPECT_EQ(list.InsertColumn(2, text, 1, 9, 3), 42);
-        EXPECT_TRUE(sent.Is({LVCF_TEXT | LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM, 1, 9, text, 0, 3}));
-        EXPECT_EQ(list.InsertColumn(2, text), 42);
-        EXPECT_TRUE(sent.Is({LVCF_TEXT | LVCF_FMT, LVCFMT_LEFT, 0, text}));
-    }
-    {
-        const Sent<LVBKIMAGE> sent(list);
-        EXPECT_EQ(list.SetBkImage(HBITMAP(7), TRUE, 3, 4), 42);
-        EXPECT_TRUE(sent.Is({LVBKIF_SOURCE_HBITMAP | LVBKIF_STYLE_TILE, HBITMAP(7), nullptr, 0, 3, 4}));
-        EXPECT_EQ(list.SetBkImage(text, FALSE, 3, 4), 42);
-        EXPECT_TRUE(sent.Is({LVBKIF_SOURCE_URL, nullptr, text, 0, 3, 4}));
-    }
+    const auto item = [&](const LVITEM& like, auto call)
+    { EXPECT_TRUE(Sends(list, like, call)) << like.mask; };
+    item({1, 2, 3, 4, 5, text, 0, 6, 7, 8}, [&] { return list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8); });
+    item({1, 2, 3, 4, 5, text, 0, 6, 7}, [&] { return list.SetItem(2, 3, 1, text, 6, 4, 5, 7); });
+    item({1, 2, 0, 4, 5, text, 0, 6, 7}, [&] { return list.InsertItem(1, 2, text, 4, 5, 6, 7); });
+    item({LVIF_TEXT | LVIF_IMAGE, 2, 0, 0, 0, text, 0, 6}, [&] { return list.InsertItem(2, text, 6); });
+    item({0, 0, 0, 4, 5}, [&] { return list.SetItemState(2, 4, 5); });
+    item({LVIF_PARAM, 2, 0, 0, 0, nullptr, 0, 0, 7}, [&] { return list.SetItemData(2, 7); });
+    const auto column = [&](const LVCOLUMN& like, auto call)
+    { EXPECT_TRUE(Sends(list, like, call)) << like.mask; };
+    constexpr UINT all = LVCF_TEXT | LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM;
+    column({all, 1, 9, text, 0, 3}, [&] { return list.InsertColumn(2, text, 1, 9, 3); });
+    column({LVCF_TEXT | LVCF_FMT, 0, 0, text}, [&] { return list.InsertColumn(2, text); });
+    LVBKIMAGE image = {LVBKIF_SOURCE_HBITMAP | LVBKIF_STYLE_TILE, HBITMAP(7), nullptr, 0, 3, 4};
+    EXPECT_TRUE(Sends(list, image, [&] { return list.SetBkImage(HBITMAP(7), TRUE, 3, 4); }));
+    image = {LVBKIF_SOURCE_URL, nullptr, text, 0, 3, 4};
+    EXPECT_TRUE(Sends(list, image, [&] { return list.SetBkImage(text, FALSE, 3, 4); }));
+
     CTreeCtrl tree;
     tree.Create(0, CRect(), &host, 2);
     const auto node = HTREEITEM(9);
-    {
-        const Sent<TVITEM> sent(tree);
-        EXPECT_EQ(tree.SetItem(node, 1, text, 6, 7, 4, 5, 8), 42);
-        EXPECT_TRUE(sent.Is({1 | TVIF_HANDLE, node, 4, 5, text, 0, 6, 7, 0, 8}));
-        EXPECT_EQ(tree.SetItemImage(node, 6, 7), 42);
-        EXPECT_TRUE(sent.Is({TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE, node, 0, 0, nullptr, 0, 6, 7}));
-        EXPECT_EQ(tree.SetItemState(node, 4, 5), 42);
-        EXPECT_TRUE(sent.Is({TVIF_HANDLE | TVIF_STATE, node, 4, 5}));
-    }
-    {
-        const Sent<TVINSERTSTRUCT> sent(tree);
-        TVINSERTSTRUCT like = {HTREEITEM(2), HTREEITEM(3), {}};
-        EXPECT_EQ(tree.InsertItem(1, text, 6, 7, 4, 5, 8, HTREEITEM(2), HTREEITEM(3)), HTREEITEM(42));
-        like.item = {1, nullptr, 4, 5, text, 0, 6, 7, 0, 8};
-        EXPECT_TRUE(sent.Is(like));
-        EXPECT_EQ(tree.InsertItem(text, 6, 7, HTREEITEM(2), HTREEITEM(3)), HTREEITEM(42));
-        like.item = {TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, nullptr, 0, 0, text, 0, 6, 7};
-        EXPECT_TRUE(sent.Is(like));
-    }
+    const auto set = [&](const TVITEM& like, auto call)
+    { EXPECT_TRUE(Sends(tree, like, call)) << like.mask; };
+    constexpr UINT images = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    set({1 | TVIF_HANDLE, node, 4, 5, text, 0, 6, 7, 0, 8},
+        [&] { return tree.SetItem(node, 1, text, 6, 7, 4, 5, 8); });
+    set({TVIF_HANDLE | images, node, 0, 0, nullptr, 0, 6, 7}, [&] { return tree.SetItemImage(node, 6, 7); });
+    set({TVIF_HANDLE | TVIF_STATE, node, 4, 5}, [&] { return tree.SetItemState(node, 4, 5); });
+    TVINSERTSTRUCT insert = {HTREEITEM(2), HTREEITEM(3), {}};
+    insert.item = {1, nullptr, 4, 5, text, 0, 6, 7, 0, 8};
+    EXPECT_TRUE(Sends(tree, insert,
+                      [&] { return tree.InsertItem(1, text, 6, 7, 4, 5, 8, HTREEITEM(2), HTREEITEM(3)); }));
+    insert.item = {TVIF_TEXT | images, nullptr, 0, 0, text, 0, 6, 7};
+    EXPECT_TRUE(Sends(tree, insert, [&] { return tree.InsertItem(text, 6, 7, HTREEITEM(2), HTREEITEM(3)); }));
+
     CTabCtrl tab;
     tab.Create(0, CRect(), &host, 3);
-    const Sent<TCITEM> sent(tab);
-    EXPECT_EQ(tab.InsertItem(2, text, 3), 42);
-    EXPECT_TRUE(sent.Is({TCIF_TEXT | TCIF_IMAGE, 0, 0, text, 0, 3}));
-    EXPECT_EQ(tab.InsertItem(TCIF_PARAM, 2, text, 3, 4), 42);
-    EXPECT_TRUE(sent.Is({TCIF_PARAM, 0, 0, text, 0, 3, 4}));
-    EXPECT_EQ(tab.SetItemState(2, 5, 4), 42);
-    EXPECT_TRUE(sent.Is({TCIF_STATE, 4, 5}));
+    const auto page = [&](const TCITEM& like, auto call)
+    { EXPECT_TRUE(Sends(tab, like, call)) << like.mask; };
+    page({TCIF_TEXT | TCIF_IMAGE, 0, 0, text, 0, 3}, [&] { return tab.InsertItem(2, text, 3); });
+    page({TCIF_PARAM, 0, 0, text, 0, 3, 4}, [&] { return tab.InsertItem(TCIF_PARAM, 2, text, 3, 4); });
+    page({TCIF_STATE, 4, 5}, [&] { return tab.SetItemState(2, 5, 4); });
+    DWORD state = 1;
+    page({TCIF_STATE, 0, 5}, [&] { return tab.GetItemState(2, 5, state); });
+    EXPECT_EQ(state, 0u);
 }

@@ -37,6 +37,19 @@ TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
     EXPECT_EQ(dc.SelectObject(&blue), &red);
     EXPECT_EQ(dc.GetCurrentPen(), &blue);
     EXPECT_EQ(dc.SelectObject(original), &blue);
+    CBrush brush(RGB(1, 2, 3));
+    CFont font;
+    font.CreatePointFont(100, L"Liberation Sans");
+    EXPECT_EQ(dc.SelectObject(&brush)->m_hObject, ::GetStockObject(WHITE_BRUSH));
+    EXPECT_EQ(dc.GetCurrentBrush(), &brush);
+    EXPECT_EQ(dc.SelectStockObject(WHITE_BRUSH), &brush);
+    EXPECT_EQ(dc.SelectObject(&font)->m_hObject, ::GetStockObject(SYSTEM_FONT));
+    EXPECT_EQ(dc.GetCurrentFont(), &font);
+    EXPECT_EQ(dc.SelectStockObject(SYSTEM_FONT), &font);
+    EXPECT_EQ(dc.GetCurrentBitmap()->m_hObject, ::GetCurrentObject(dc, OBJ_BITMAP));
+    EXPECT_EQ(dc.SetBrushOrg(3, 4), CPoint(0, 0));
+    EXPECT_EQ(dc.SetBrushOrg(5, 6), CPoint(3, 4));
+    EXPECT_EQ(dc.GetBrushOrg(), CPoint(5, 6));
 
     CRgn region;
     region.CreateRectRgn(10, 10, 20, 20);
@@ -236,6 +249,12 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
         ::SetViewportExtEx(each, 10, 20, nullptr);
         ::SetWindowExtEx(each, 30, 40, nullptr);
     }
+    EXPECT_EQ(dc.GetViewportOrg(), CPoint(1, 2));
+    EXPECT_EQ(dc.GetWindowOrg(), CPoint(3, 4));
+    EXPECT_EQ(dc.GetViewportExt(), CSize(10, 20));
+    EXPECT_EQ(dc.GetWindowExt(), CSize(30, 40));
+    attributes.SaveDC();
+    EXPECT_FALSE(dc.RestoreDC(-1)) << "the output has no state to go back to";
     for (const auto& c : cases)
     {
         SCOPED_TRACE(&c - cases);
@@ -259,9 +278,20 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
 TEST(DeviceContext, HimetricIsHundredthsOfAMillimetreAndFontHeightsAreTenthsOfAPoint)
 {
     MemoryDC dc;
-    CSize inch(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
-    dc.DPtoHIMETRIC(&inch);
-    EXPECT_EQ(inch, CSize(2540, 2540));
+    const CSize pixels(dc.GetDeviceCaps(LOGPIXELSX), dc.GetDeviceCaps(LOGPIXELSY));
+    for (const auto& [mode, inch, off] : {std::tuple(MM_TEXT, pixels, 0), {MM_LOMETRIC, CSize(254, 254), 30}})
+    {
+        dc.SetMapMode(mode);
+        CSize size(inch);
+        dc.LPtoHIMETRIC(&size);
+        EXPECT_NEAR(size.cx, 2540, off) << "of which physical modes say themselves how large they are";
+        EXPECT_NEAR(size.cy, 2540, off);
+        dc.HIMETRICtoLP(&size);
+        EXPECT_NEAR(size.cx, inch.cx, off / 10);
+        EXPECT_NEAR(size.cy, inch.cy, off / 10);
+        EXPECT_EQ(dc.GetMapMode(), mode);
+    }
+    dc.SetMapMode(MM_TEXT);
 
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(120, L"Liberation Sans", &dc));

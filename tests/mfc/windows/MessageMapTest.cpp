@@ -396,6 +396,10 @@ TEST_F(MessageMap, BroadcastsOfTheSystemAreHandedDownByTheTopLevelWindowOnly)
     } child, grandChild;
     ASSERT_TRUE(CreateChild(child, parent, 1));
     ASSERT_TRUE(CreateChild(grandChild, child, 1));
+    static int foreignHeard;
+    foreignHeard = 0;
+    const WNDPROC count = [](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return ++foreignHeard; };
+    ::SetWindowLongPtr(foreign, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(count));
     for (UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DISPLAYCHANGE})
     {
         const bool carries = message != WM_SYSCOLORCHANGE;
@@ -409,5 +413,7 @@ TEST_F(MessageMap, BroadcastsOfTheSystemAreHandedDownByTheTopLevelWindowOnly)
         EXPECT_EQ(child.m_heard, heard);
         EXPECT_EQ(grandChild.m_heard, heard);
     }
+    EXPECT_EQ(foreignHeard, 0) << "windows with objects only";
+    EXPECT_FALSE(child.SendChildNotifyLastMsg()) << "no message that is given back";
 }
 } // namespace
