@@ -345,8 +345,7 @@ TEST(Window, PushButtonsWithoutAHandlerAreDisabledAndNoOtherControl)
     }
 }
 
-/// A visible window with an edit and two radio buttons, and with scroll bars of its own or, if it is told so, in their
-/// place a control.
+/// A visible window with an edit, two radio buttons and scroll bars: its own, or in their place a control.
 class CFormWnd : public CWnd
 {
 public:
