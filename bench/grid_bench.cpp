@@ -354,8 +354,8 @@ static void MeasureScrollLine(Comparison& compare, const Benchmark::Measure& mea
 {
     CompareScroll(compare, measure, SB_LINEDOWN, SB_LINEUP, 1000);
 }
-// The bar's painting, which both have, is half of the step, and our repaint of the body nearly all the rest; the
-// list view copies the screen instead.
+// The bar's painting, which both have, is half of the step, and our repaint of the body nearly all the rest;
+// the list view copies the screen instead.
 static const Benchmark scrollLine("grid/scroll/line/1000", 1.45, MeasureScrollLine);
 
 // A line of so many rows moves the thumb by less than a pixel: the bar need not be painted.

@@ -1,11 +1,12 @@
 #pragma once
-// For the cells' own sources: memory for cells, in blocks. A grid makes and destroys them by the hundred thousand,
-// and the heap takes longer over one of them than the grid over all the rest of it.
+// For the cells' own sources: memory for cells, in blocks. A grid makes and destroys them by the hundred
+// thousand, and the heap takes longer over one of them than the grid over the rest of its making.
 //
 //     void* CGridCellBase::operator new(size_t nSize) { return gfnTakeCellMemory(nSize); }
 //     void CGridCellBase::operator delete(void* p, size_t nSize) { gfnGiveCellMemory(p, nSize); }
 //
-// Any thread may take and give. A block in which no cell is left goes back to the heap, but for one of each size.
+// Any thread may take and give. A block in which no cell is left goes back to the heap, but for one of each
+// size.
 
 #include <cstddef>
 

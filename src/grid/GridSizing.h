@@ -1,6 +1,6 @@
 #pragma once
-// For the grid's own sources: a column or row that the mouse sizes. CGridDividers says where the dividers are and
-// what a drag makes of them; this is what the grid does about it.
+// For the grid's own sources: a column or row that the mouse sizes. CGridDividers says where the dividers are
+// and what a drag makes of them; this is what the grid does about it.
 
 #include "grid/GridClientArea.h"
 #include "grid/GridCtrl.h"
