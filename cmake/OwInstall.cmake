@@ -59,7 +59,7 @@ file(READ docs/guide.md guide)
 string(REPLACE "](../src/" "](../include/DialogControlsOW/" guide "${guide}")
 string(REPLACE "](../apps/" "](../examples/" guide "${guide}")
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/guide.md "${guide}")
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/guide.md DESTINATION docs)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/guide.md docs/mfc.md DESTINATION docs)
 
 # What the compiler's run-time DLLs are given under.
 foreach(package gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev)
