@@ -72,6 +72,7 @@ TEST(String, BuffersMayBeSharedByThreads)
 TEST(String, ConstructsFromEverySource)
 {
     EXPECT_TRUE(CString(static_cast<LPCWSTR>(nullptr)).IsEmpty());
+    EXPECT_EQ(CString().GetAllocLength(), 0) << "costs no memory";
     EXPECT_STREQ(CString(L'x', 3), L"xxx");
     EXPECT_TRUE(CString(L'x', 0).IsEmpty());
     EXPECT_STREQ(CString(L"abcdef", 3), L"abc");

@@ -298,6 +298,12 @@ TEST_F(ExchangeTest, ChecksListsAndPositions)
     EXPECT_EQ(scroll, 33);
     EXPECT_EQ(slider, 44);
 
+    typed = L"sl";
+    host.exchange = [&](CDataExchange* dx) { DDX_CBString(dx, 302, typed); };
+    host.UpdateData(FALSE);
+    CString shown;
+    host.GetDlgItemText(302, shown);
+    EXPECT_EQ(shown, L"slab") << "the item that begins so";
     host.exchange = [&](CDataExchange* dx) { DDX_LBStringExact(dx, 301, exact); };
     exact = L"beam";
     host.UpdateData(FALSE);
