@@ -40,7 +40,7 @@ endif()
 
 # Resource scripts as dialog editors write them.
 if(MINGW AND NOT CMAKE_HOST_WIN32)
-  string(APPEND CMAKE_RC_FLAGS " --preprocessor=${CMAKE_CURRENT_LIST_DIR}/rc-preprocessor")
+  string(APPEND CMAKE_RC_FLAGS " \"--preprocessor=${CMAKE_CURRENT_LIST_DIR}/rc-preprocessor\"")
 endif()
 
 # The sources of a target: every .cpp below the given folders of the current one.
