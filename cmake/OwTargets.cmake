@@ -38,6 +38,11 @@ if(OW_COVERAGE)
   add_link_options(--coverage)
 endif()
 
+# Clang does not link by itself what the threads of the packaged GCC's library stand on.
+if(MINGW AND CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+  link_libraries(winpthread)
+endif()
+
 # Resource scripts as dialog editors write them.
 if(MINGW AND NOT CMAKE_HOST_WIN32)
   string(APPEND CMAKE_RC_FLAGS " \"--preprocessor=${CMAKE_CURRENT_LIST_DIR}/rc-preprocessor\"")
