@@ -385,7 +385,8 @@ TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)
     EXPECT_EQ(rect & CRect(0, 0, 15, 100), CRect(10, 20, 15, 50));
     EXPECT_EQ(rect | CRect(0, 0, 5, 5), CRect(0, 0, 30, 50));
     CRect same(rect);
-    same &= same;
+    const CRect& itself = same;
+    same &= itself;
     EXPECT_EQ(same, rect) << "an operand may be the target";
 
     for (CRect turned : {CRect(30, 20, 10, 50), CRect(10, 50, 30, 20), rect})
