@@ -49,11 +49,14 @@ TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
 TEST(ColorGrid, ArrowsReachEveryColor)
 {
     std::set<int> reached = {1};
-    for (size_t before = 0; before != std::exchange(before, reached.size());)
+    for (size_t before = 0; before != reached.size();)
+    {
+        before = reached.size();
         for (const int color : std::set(reached))
             for (const int step : {-1, +1})
                 reached.insert(
                     {ColorGridLayout::Sideways(color, step), ColorGridLayout::Vertically(color, step)});
+    }
     EXPECT_EQ(reached.size(), 255u);
 }
 

@@ -110,7 +110,7 @@ TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndWhateverMenuIsMadeMeanwhile)
     {
         button.SetColor(CButtonST::colorBackOut, kRed);
         button.SendMessage(WM_SYSCOLORCHANGE);
-        if constexpr (this->kIsText)
+        if constexpr (TestFixture::kIsText)
             button.SetTexts(Texts({L"other"}));
         menu.Press({VK_DOWN, VK_RETURN});
     };
