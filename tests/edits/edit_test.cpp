@@ -89,7 +89,7 @@ TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDone)
         dialog.cancels = 0;
         owtest::Press(key, shift);
         EXPECT_TRUE(HasFocus(*pTo));
-        EXPECT_TRUE(owtest::PumpUntil([&] { return dialog.cancels == cancels; }));
+        EXPECT_TRUE(owtest::PumpUntil([&, n = cancels] { return dialog.cancels == n; }));
 
         box.SetFocus();
         box.SendMessage(WM_KEYDOWN, key);
