@@ -54,10 +54,18 @@ public:
     Object* LookupTemporary(Handle handle) const;
 
     /// Makes the object the handle's own. The object stays the caller's.
-    void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
+    void SetPermanent(Handle handle, Object* object)
+    {
+        m_permanent[handle] = object;
+        RecentOf(handle) = {};
+    }
 
     /// Forgets the permanent object of the handle. A temporary one stays until `DeleteTemp`.
-    void RemoveHandle(Handle handle) { m_permanent.erase(handle); }
+    void RemoveHandle(Handle handle)
+    {
+        m_permanent.erase(handle);
+        RecentOf(handle) = {};
+    }
 
     /// Deletes the temporary objects; their handles are left as they are.
     void DeleteTemp();
@@ -85,6 +93,20 @@ private:
         return slot.index();
     }
 
+    /// A handle that was asked for, and its permanent object. Each message asks, mostly for the same few windows.
+    struct CRecent
+    {
+        Handle handle = nullptr;
+        Object* object = nullptr;
+    };
+    static constexpr size_t recentCount = 16;
+    CRecent& RecentOf(Handle handle) const
+    {
+        const auto number = reinterpret_cast<size_t>(handle); // even, and counted up
+        return m_recent[number / 2 % recentCount];
+    }
+
+    mutable CRecent m_recent[recentCount];
     std::unordered_map<Handle, Object*> m_permanent;
     std::unordered_map<Handle, std::unique_ptr<Object>> m_temporary;
 };
@@ -117,8 +139,14 @@ Object* CHandleMap<Object>::FromHandle(Handle handle)
 template <class Object>
 Object* CHandleMap<Object>::FromHandlePermanent(Handle handle) const
 {
+    CRecent& recent = RecentOf(handle);
+    if (recent.handle == handle && handle != nullptr)
+        return recent.object;
     const auto found = m_permanent.find(handle);
-    return found == m_permanent.end() ? nullptr : found->second;
+    if (found == m_permanent.end())
+        return nullptr;
+    recent = {handle, found->second};
+    return found->second;
 }
 
 template <class Object>
