@@ -138,6 +138,7 @@ TEST(Threads, ThatDoNotBeginEndAtOnce)
     thread->Delete(); // says no
     EXPECT_TRUE(CSumThread::alive);
     delete thread;
+    EXPECT_FALSE(CWinThread().InitInstance()) << "a thread without a class of its own has no loop";
 }
 
 TEST(Threads, HaveOleUntilTheirEnd)
@@ -270,6 +271,8 @@ TEST(Locks, OfSeveralObjectsWaitForOneOrForAll)
         semaphore.Lock();
         EXPECT_EQ(lock.Lock(0, FALSE), static_cast<DWORD>(WAIT_ABANDONED_0) + 2);
         EXPECT_TRUE(!lock.IsLocked(1) && lock.IsLocked(2));
+        EXPECT_FALSE(lock.Unlock(1)) << "not of a mutex";
+        EXPECT_TRUE(lock.IsLocked(2));
         semaphore.Unlock();
     }
     event.SetEvent();
