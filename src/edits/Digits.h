@@ -28,8 +28,9 @@ inline wchar_t* gfnWritePair(wchar_t* psz, unsigned n)
 }
 
 /// Writes a number so that its last digit stands in front of `psz`; where it begins. Two digits at a time, as
-/// the divisions take the time.
-inline wchar_t* gfnWriteDigits(wchar_t* psz, std::uint64_t n)
+/// the divisions take the time: those of a `Number` of 32 bits take half of it.
+template <class Number>
+wchar_t* gfnWriteDigits(wchar_t* psz, Number n)
 {
     for (; n >= 100; n /= 100)
         psz = gfnWritePair(psz, static_cast<unsigned>(n % 100));
@@ -40,8 +41,14 @@ inline wchar_t* gfnWriteDigits(wchar_t* psz, std::uint64_t n)
 }
 
 /// The same with a point before the last so many digits, and zeros where there are not enough of them.
-inline wchar_t* gfnWriteDecimals(wchar_t* psz, std::uint64_t n, int nDecimals)
+template <class Number>
+wchar_t* gfnWriteDecimals(wchar_t* psz, Number n, int nDecimals)
 {
+    if constexpr (sizeof n > sizeof(std::uint32_t))
+    {
+        if (n <= UINT32_MAX)
+            return gfnWriteDecimals(psz, static_cast<std::uint32_t>(n), nDecimals);
+    }
     if (nDecimals == 0)
         return gfnWriteDigits(psz, n);
     for (int nLeft = nDecimals; nLeft > 0; nLeft -= 2)
