@@ -426,6 +426,7 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     CWinApp& app = *AfxGetApp();
     auto& colors = CColorBtnST::s_colorTable;
     auto& ranks = CColorBtnST::s_colorRecency;
+    CColorBtnST::Reset(); // whatever was chosen before
     const auto delivered = std::pair(colors, ranks);
     const auto loads = [&](LPCTSTR pszEntry, std::vector<BYTE> bytes)
     {
