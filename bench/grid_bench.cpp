@@ -291,7 +291,7 @@ static void MeasureFill3(Comparison& compare, const Benchmark::Measure& measure)
 {
     CompareFill(compare, measure, kMany);
 }
-static const Benchmark fill3("grid/fill/50000", 0.2, MeasureFill3);
+static const Benchmark fill3("grid/fill/50000", 0.1, MeasureFill3);
 
 static void MeasureBytes(Comparison& compare, const Benchmark::Measure& measure)
 {
