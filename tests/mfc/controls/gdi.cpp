@@ -371,7 +371,7 @@ TEST(Menu, ItemsAreFoundByTheirIdOrPlaceAndBringTheirStates)
     info.wID = 9;
     EXPECT_TRUE(menu.InsertMenuItem(0, &info, TRUE));
     EXPECT_EQ(menu.GetMenuItemID(0), 9u);
-    EXPECT_FALSE(menu.LoadMenu(4999));
+    EXPECT_FALSE(CMenu().LoadMenu(4999));
     EXPECT_TRUE(menu.DestroyMenu());
     EXPECT_FALSE(menu.DestroyMenu());
 }
