@@ -104,14 +104,9 @@ void AnswerBox(DWORD processId, ChildResult& result)
     if (!search.second)
         return;
 
-    std::wstring text;
-    for (HWND child = GetWindow(search.second, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-    {
-        wchar_t name[32] = {};
-        GetClassNameW(child, name, static_cast<int>(std::size(name)));
-        if (_wcsicmp(name, L"Static") == 0)
-            text += WindowText(child);
-    }
+    constexpr int kTextOfBox = 0xFFFF; // dialogs of the child's own have none
+    const HWND label = GetDlgItem(search.second, kTextOfBox);
+    const std::wstring text = label ? WindowText(label) : L"";
     if (text.empty())
         return; // still being filled
     result.boxCaption = WindowText(search.second);
