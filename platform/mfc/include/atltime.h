@@ -13,6 +13,8 @@
 
 #include <ctime>
 
+#undef GetCurrentTime // a macro of the Windows headers that hides the member
+
 /// A difference of times; negative where the earlier is taken less the later.
 class AFX_CORE_CLASS CTimeSpan
 {
