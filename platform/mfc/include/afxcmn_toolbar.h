@@ -153,6 +153,10 @@ public:
     CToolTipCtrl* GetToolTips() const;
     void SetToolTips(CToolTipCtrl* pTip);
     void SetOwner(CWnd* pWnd); ///< receives the notifications
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName)
+    {
+        return AfxSend<HRESULT>(TB_SETWINDOWTHEME, 0, pszSubAppName);
+    }
     void Customize() { AfxSend(TB_CUSTOMIZE); }
     void SaveState(HKEY root, LPCTSTR key, LPCTSTR value) { SaveOrRestore(true, root, key, value); }
     void RestoreState(HKEY root, LPCTSTR key, LPCTSTR value) { SaveOrRestore(false, root, key, value); }

@@ -309,6 +309,15 @@ TEST(ToolBar, KnowsItsButtonsTextsAndStates)
     bar.SetImageList(&images);
     EXPECT_EQ(bar.GetImageList(), &images);
     bar.SetImageList(nullptr);
+
+    constexpr auto place = L"Software\\ToolBarTest";
+    const auto isStored = [=](LPCWSTR value)
+    { return ::RegGetValue(HKEY_CURRENT_USER, place, value, RRF_RT_ANY, nullptr, nullptr, nullptr) == 0; };
+    bar.SaveState(HKEY_CURRENT_USER, place, L"saved");
+    bar.RestoreState(HKEY_CURRENT_USER, place, L"missing");
+    EXPECT_TRUE(isStored(L"saved"));
+    EXPECT_FALSE(isStored(L"missing"));
+    ::RegDeleteKey(HKEY_CURRENT_USER, place);
 }
 
 TEST(ListCtrl, IsSortedByIndexAndKeepsItsData)
