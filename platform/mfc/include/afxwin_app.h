@@ -302,7 +302,7 @@ protected:
 
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
     void SetRegistryKey(UINT nIDRegistryKey);
-    /// Reads the profile's standard entries; a dialog program has no list of recent files to read `nMaxMRU` of.
+    /// Reads m_nNumPreviewPages from the profile. There is no list of recent files, and `nMaxMRU` changes nothing.
     void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
     void SetCurrentHandles();
 
