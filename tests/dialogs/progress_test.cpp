@@ -210,8 +210,8 @@ TEST(ProgressBar, IsPaintedForEachStepAndAtOnce)
     {
         progress.SetStep(step);
         progress.Update(first);
-        EXPECT_FALSE(Paints([&] { progress.Update(within); })) << step;
-        EXPECT_TRUE(Paints([&] { progress.Update(beyond); })) << step;
+        EXPECT_FALSE(Paints([&, value = within] { progress.Update(value); })) << step;
+        EXPECT_TRUE(Paints([&, value = beyond] { progress.Update(value); })) << step;
     }
 }
 
