@@ -98,7 +98,9 @@ TEST(PageMemory, WhatIsFreedServesTheNextPages)
     {
         FailingPage() : RecordingPage(L"failing", nullptr, 1) { throw 1; }
     };
-    const void* pPlace = std::make_unique<RecordingPage>(L"one", nullptr, 1).get();
+    auto pFirst = std::make_unique<RecordingPage>(L"one", nullptr, 1);
+    const void* const pPlace = pFirst.get();
+    pFirst.reset();
     for (int i = 0; i < 10; ++i)
     {
         EXPECT_THROW(new FailingPage, int);
