@@ -35,29 +35,34 @@ private:
     {
         m_bReacted = false;
         calls.clear();
-        (this->*OneOf(kOperations))();
+        (this->*OneOf(Operations()))();
         owtest::Pump();
     }
 
     using Operation = void (PagesSequence::*)();
     /// Each as often as it stands here. The first ones are not for calls of the library's.
     static constexpr int kFirstOfHandlers = 4;
-    static constexpr Operation kOperations[] = {
-        &PagesSequence::Reopen,       &PagesSequence::DestroyDialog, &PagesSequence::AddDialog,
-        &PagesSequence::AddDialog,    &PagesSequence::AddPage,       &PagesSequence::AddPage,
-        &PagesSequence::Select,       &PagesSequence::Select,        &PagesSequence::Select,
-        &PagesSequence::MoveFocus,    &PagesSequence::TakeOver,      &PagesSequence::Switch,
-        &PagesSequence::Switch,       &PagesSequence::TypeInPage,    &PagesSequence::TypeInPage,
-        &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
-        &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
-        &PagesSequence::SelectByUser};
+    static std::span<const Operation> Operations()
+    {
+        static constexpr Operation kOperations[] = {
+            &PagesSequence::Reopen,       &PagesSequence::DestroyDialog, &PagesSequence::AddDialog,
+            &PagesSequence::AddDialog,    &PagesSequence::AddPage,       &PagesSequence::AddPage,
+            &PagesSequence::Select,       &PagesSequence::Select,        &PagesSequence::Select,
+            &PagesSequence::MoveFocus,    &PagesSequence::TakeOver,      &PagesSequence::Switch,
+            &PagesSequence::Switch,       &PagesSequence::TypeInPage,    &PagesSequence::TypeInPage,
+            &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
+            &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
+            &PagesSequence::SelectByUser};
+        return kOperations;
+    }
+
     /// What a dialog or client does in a call of the library's: one thing, in one call of a step.
     void React()
     {
         if (!m_pHost || m_bReacted || Pick(3))
             return;
         m_bReacted = true;
-        (this->*OneOf(std::span(kOperations).subspan(kFirstOfHandlers)))();
+        (this->*OneOf(Operations().subspan(kFirstOfHandlers)))();
     }
 
     /// Null if there are none.
