@@ -121,7 +121,7 @@ TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
     {
         m_manager.PageSelected(Page(from), nullptr);
         m_host.fields->count.SetFocus();
-        Once(trigger, [&] { m_manager.PageSelected(Page(to), Page(over)); });
+        Once(trigger, [this, to = to, over = over] { m_manager.PageSelected(Page(to), Page(over)); });
         m_manager.PageSelected(Page(over), Page(from));
         EXPECT_EQ(m_host.Shown(), NameOf(Page(to))) << trigger;
     }

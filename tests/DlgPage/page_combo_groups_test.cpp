@@ -153,9 +153,9 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
             this->group.SetCurrentPage(this->Page(from));
             TakeSelections();
             Once(bByDialog ? "bind " + told : heard,
-                 [&]
+                 [this, shown = meanwhile]
                  {
-                     EXPECT_EQ(this->group.GetCurrentPage(), this->Page(meanwhile));
+                     EXPECT_EQ(this->group.GetCurrentPage(), this->Page(shown));
                      this->group.SetCurrentPage(this->Page(idLater));
                  });
             move();

@@ -153,14 +153,14 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
         const CGdiSelection font(dc, label.icon.GetFont()->m_hObject);
         const CSize text = label.TextSize(pszText);
         const auto topOf = [&, top = margin.y](int height) { return top + ((kSize.cy - height - top) >> 1); };
-        const auto drawIcon = [&](int x)
+        const auto drawIcon = [&, size = size](int x)
         {
             dc.FillSolidRect(x, topOf(size), size, size, kBlue);
             return size ? x + size : 0;
         };
-        const auto drawText = [&](int x)
+        const auto drawText = [&, vertical = vertical, top = margin.y, pszText = pszText](int x)
         {
-            const int y = vertical == BS_TOP      ? margin.y
+            const int y = vertical == BS_TOP      ? top
                           : vertical == BS_BOTTOM ? kSize.cy - text.cy
                                                   : topOf(text.cy);
             dc.DrawText(pszText, -1, CRect(x, y, x + text.cx, y + text.cy), DT_SINGLELINE); // always one line
