@@ -23,3 +23,15 @@ std::string ThrownBy(FUNCTION function)
     }
     return {};
 }
+
+/// Whether the call answers an argument with MFC's exception. A debug build stops at the argument before that, so
+/// that it makes no call.
+template <typename FUNCTION>
+bool RefusesArgument([[maybe_unused]] FUNCTION function)
+{
+#ifdef _DEBUG
+    return true;
+#else
+    return ThrownBy(function) == kInvalidArg;
+#endif
+}

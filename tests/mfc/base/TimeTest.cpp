@@ -101,7 +101,7 @@ TEST(Time, ThatDoesNotExistIsRefusedOrAnswersNothing)
                              +[] { CTime(2024, 1, 1, 0, 60, 0); }, +[] { CTime(2024, 1, 1, 0, 0, 60); },
                              +[] { CTime(2024, 1, 1, -1, 0, 0); }, +[] { CTime(2024, 1, 1, 0, -1, 0); },
                              +[] { CTime(2024, 1, 1, 0, 0, -1); }, +[] { CTime().GetLocalTm(nullptr); }})
-        EXPECT_EQ(ThrownBy(make), kInvalidArg);
+        EXPECT_TRUE(RefusesArgument(make));
     EXPECT_EQ(CTime(SYSTEMTIME{}), CTime());
 
     const CTime never(static_cast<__time64_t>(1) << 60);
