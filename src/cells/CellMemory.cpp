@@ -9,8 +9,8 @@
 namespace
 {
 constexpr std::size_t kAlignment = 16;
-constexpr std::size_t kMostStride =
-    512; ///< from one cell of a block to the next; larger ones come from the heap
+/// From one cell of a block to the next. Larger ones come from the heap.
+constexpr std::size_t kMostStride = 512;
 constexpr std::size_t kBlockSize = 32 * 1024;
 
 constexpr std::size_t Aligned(std::size_t nSize)
@@ -83,8 +83,7 @@ public:
         if (!HasRoom(block, nStride))
             Link(block);
         block.pFree = new (p) SFree{block.pFree};
-        const bool bOnlyOne = m_pRoom == &block && !block.pBehind;
-        if (--block.nUsed > 0 || bOnlyOne)
+        if (--block.nUsed > 0)
             return;
         Unlink(block);
         CObject::operator delete(&block);

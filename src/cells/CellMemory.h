@@ -5,8 +5,7 @@
 //     void* CGridCellBase::operator new(size_t nSize) { return gfnTakeCellMemory(nSize); }
 //     void CGridCellBase::operator delete(void* p, size_t nSize) { gfnGiveCellMemory(p, nSize); }
 //
-// Any thread may take and give. A block in which no cell is left goes back to the heap, but for one of each
-// size.
+// Any thread may take and give. A block in which no cell is left goes back to the heap.
 
 #include <cstddef>
 
