@@ -12,6 +12,8 @@ CExtButton::CExtButton(AButtonSTNotificationHandler* pHandler) : m_pHandler(pHan
 
 BEGIN_MESSAGE_MAP(CExtButton, CButton)
     ON_CONTROL_REFLECT_EX(BN_CLICKED, &CExtButton::OnClicked)
+    ON_WM_LBUTTONUP()
+    ON_WM_KEYUP()
 END_MESSAGE_MAP()
 
 // False: the parent receives the command, too, unless the handler has closed it.
@@ -21,6 +23,30 @@ BOOL CExtButton::OnClicked()
     if (m_pHandler)
         m_pHandler->OnButtonClicked(GetDlgCtrlID());
     return !gfnHasWindow(this, hWnd);
+}
+
+void CExtButton::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    if (MayClick())
+        CButton::OnLButtonUp(nFlags, point);
+    else
+        ::ReleaseCapture(); // which lets the button go
+}
+
+void CExtButton::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    if (MayClick())
+        CButton::OnKeyUp(nChar, nRepCnt, nFlags);
+    else
+        ::ReleaseCapture();
+}
+
+// A click on an automatic radio button goes round the controls of its dialog group, which passes over those that
+// are hidden or disabled: with one of these it may never come back to where it began.
+bool CExtButton::MayClick() const
+{
+    return (GetStyle() & BS_TYPEMASK) != BS_AUTORADIOBUTTON ||
+           (GetStyle() & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
 }
 
 void CExtButton::SetNotificationHandler(AButtonSTNotificationHandler* pHandler)

@@ -8,6 +8,9 @@
 //
 // The system paints it, so a push button, a check box or a radio button looks as anywhere else. The parent's
 // own handling of BN_CLICKED runs as well, after the handler's.
+//
+// An automatic radio button that is hidden or disabled takes no click, even if it became so between the press and
+// its end, as by a handler of the edit that the user leaves with that press.
 
 #include <afxwin.h>
 
@@ -26,8 +29,12 @@ public:
 
 protected:
     afx_msg BOOL OnClicked();
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool MayClick() const;
+
     AButtonSTNotificationHandler* m_pHandler = nullptr;
 };

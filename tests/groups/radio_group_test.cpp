@@ -174,6 +174,23 @@ TEST_F(RadioGroup, TellsItsHandlerOfClicksAndKeys)
     group.Empty();
 }
 
+// The system's click would go round the group for ever.
+TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClick)
+{
+    CRadioGroup group(&dialog, 101);
+    dialog[102].ShowWindow(SW_HIDE);
+    dialog[103].EnableWindow(FALSE);
+    for (const int nId : {102, 103})
+    {
+        dialog[nId].SendMessage(BM_CLICK);
+        for (const UINT message : {WM_KEYDOWN, WM_KEYUP})
+            dialog[nId].SendMessage(message, VK_SPACE);
+        EXPECT_EQ(dialog.Take(), Ids{});
+        EXPECT_EQ(dialog[nId].SendMessage(BM_GETSTATE) & BST_PUSHED, 0) << "let go";
+    }
+    EXPECT_EQ(group.GetOption(), -1);
+}
+
 TEST_F(RadioGroup, LeavesTheButtonsToTheDialog)
 {
     CRadioGroup group(&dialog, 101);
