@@ -51,6 +51,13 @@ int ClientWidth(const CWnd& wnd)
     return rect.Width();
 }
 
+/// At the end of the dialog an own control would join its last group: radio buttons, say, whose arrow keys would
+/// then lead into the spin.
+void PutBehind(CWnd& own, const CWnd& box)
+{
+    own.SetWindowPos(&box, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 struct SLabelMetrics
 {
     int nTextWidth = 1;
@@ -121,6 +128,8 @@ void CEditDoubleWithRange::AttachSpin()
                                             : m_spin.SubclassDlgItem(m_spinId.Get(), GetParent());
     if (!bAttached)
         return;
+    if (m_spinId.IsOwn())
+        PutBehind(m_spin, *this);
     m_spin.SetBuddy(this);
     m_spin.SetRange(kSpinMin, kSpinMax);
     m_spin.SetPos(kSpinPos);
@@ -132,6 +141,7 @@ void CEditDoubleWithRange::CreateOwnUnitLabel()
         return;
     m_unitLabel.Create(L"", kUnitLabelStyle, CalcUnitRect(), GetParent(), m_unitLabelId.Get());
     m_unitLabel.SetFont(GetParent()->GetFont());
+    PutBehind(m_unitLabel, *this);
 }
 
 void CEditDoubleWithRange::PlaceOwnUnitLabel()

@@ -172,6 +172,7 @@ TEST_F(SpinBox, TellsOnlyHandlersThatKnowOfSpins)
 TEST_F(SpinBox, HasItsUnitLabelBesideIt)
 {
     const CRect edit = ClientRectIn(dialog, box), spin = ClientRectIn(dialog, box.Spin());
+    EXPECT_EQ(dialog.given.GetWindow(GW_HWNDPREV), &box.Spin()) << "in no dialog group but that of the box";
     EXPECT_NEAR(spin.left, edit.right, 2 * ::GetSystemMetrics(SM_CXEDGE)) << "it took its width from the box";
     EXPECT_EQ(ClientRectIn(dialog, box.Label()), LabelPlace(dialog, box, box.Spin(), L"x"));
     for (const CComplexUnit& unit : {kMillimetre, CComplexUnit(CMeasurementUnit(), 0), kCentimetre})
