@@ -9,8 +9,8 @@
 // The system paints it, so a push button, a check box or a radio button looks as anywhere else. The parent's
 // own handling of BN_CLICKED runs as well, after the handler's.
 //
-// An automatic radio button that is hidden or disabled takes no click, even if it became so between the press and
-// its end, as by a handler of the edit that the user leaves with that press.
+// An automatic radio button that is hidden or disabled takes no click, even if it became so between the press
+// and its end, as by a handler of the edit that the user leaves with that press.
 
 #include <afxwin.h>
 
