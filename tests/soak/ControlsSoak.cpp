@@ -36,18 +36,18 @@ owtest::DialogTemplate Form()
     const auto add = [&](const wchar_t* windowClass, WORD id, DWORD style)
     {
         const short place = static_cast<short>(id - idPush);
-        form.Item(windowClass, L"Text", id, style | WS_TABSTOP, static_cast<short>(4 + place % 3 * 65),
+        form.Item(windowClass, L"Text", id, style, static_cast<short>(4 + place % 3 * 65),
                   static_cast<short>(4 + place / 3 * 30), 40, 14);
     };
-    add(L"BUTTON", idPush, BS_PUSHBUTTON);
+    add(L"BUTTON", idPush, BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP);
     for (const WORD id : {idCheck, idExt, idWithUnit})
-        add(L"BUTTON", id, BS_AUTOCHECKBOX);
+        add(L"BUTTON", id, BS_AUTOCHECKBOX | WS_TABSTOP);
     for (const WORD id : {idDouble, idInteger, idText, idDecimals})
-        add(L"EDIT", id, ES_AUTOHSCROLL | WS_BORDER);
+        add(L"EDIT", id, ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP);
     for (const WORD id : {idCombo, idUnit})
-        add(L"COMBOBOX", id, CBS_DROPDOWNLIST);
+        add(L"COMBOBOX", id, CBS_DROPDOWNLIST | WS_TABSTOP);
     for (WORD id = idRadio; id <= idLast; ++id)
-        add(L"BUTTON", id, BS_AUTORADIOBUTTON | (id == idRadio ? WS_GROUP : 0));
+        add(L"BUTTON", id, BS_AUTORADIOBUTTON | (id == idRadio ? WS_TABSTOP | WS_GROUP : 0));
     return form;
 }
 

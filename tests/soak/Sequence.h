@@ -17,6 +17,7 @@
 // A step is a number, from which it draws all its choices. So a sequence is a list of numbers, and what a step
 // does hardly changes when others are left out: a sequence that fails can be made shorter (soak.cpp).
 
+#include <atomic>
 #include <cstdio>
 #include <random>
 #include <sstream>
@@ -56,6 +57,7 @@ public:
         for (const unsigned step : steps)
         {
             m_random.seed(step);
+            ++stepsBegun;
             Step();
             Check();
             if (!m_problem.str().empty())
@@ -71,6 +73,8 @@ public:
 
     /// Where steps are written as they begin, so that they are known also when one of them ends the program.
     static inline std::FILE* trace = nullptr;
+    /// By all sequences of the process. A step that never ends is known by it.
+    static inline std::atomic<int> stepsBegun = 0;
 
 protected:
     /// Does one thing, which it has said before.

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
+#include <thread>
 
 using owtest::SoakSubject;
 using owtest::Steps;
@@ -27,8 +28,9 @@ namespace
 CWinApp theApp;
 
 constexpr wchar_t kStepsVariable[] = L"OW_SOAK_STEPS";
-constexpr DWORD kHangMs = 300000;
-constexpr int kMaxReplays = 300;
+constexpr DWORD kHangMs = 300000;   // of a sequence that waits for ever
+constexpr ULONGLONG kStepMs = 3000; // of the processor: far more than any step takes
+constexpr ULONGLONG kShorteningMs = 600000;
 
 std::vector<const SoakSubject*>& Subjects()
 {
@@ -58,11 +60,34 @@ Steps StepsIn(const char* text)
     return Steps(std::istream_iterator<unsigned>(words), {});
 }
 
+ULONGLONG ProcessorMs()
+{
+    ULARGE_INTEGER kernel, user;
+    FILETIME unused;
+    ::GetProcessTimes(::GetCurrentProcess(), &unused, &unused, reinterpret_cast<FILETIME*>(&kernel),
+                      reinterpret_cast<FILETIME*>(&user));
+    return (kernel.QuadPart + user.QuadPart) / 10000;
+}
+
+/// Ends the process when a step runs for ever: so a hang is told in seconds, and can be made shorter.
+void WatchSteps()
+{
+    int step = -1;
+    for (ULONGLONG began = 0;; ::Sleep(200))
+    {
+        if (const int present = owtest::Sequence::stepsBegun; present != step)
+            step = present, began = ProcessorMs();
+        else if (ProcessorMs() - began > kStepMs)
+            std::puts("the step does not end"), ::TerminateProcess(::GetCurrentProcess(), 3);
+    }
+}
+
 /// Runs a sequence in this process, tells each step as it begins, and answers the exit code.
 int RunHere(const SoakSubject& subject, const Steps& steps)
 {
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     owtest::Sequence::trace = stdout;
+    std::thread(WatchSteps).detach();
     const std::string failure = subject.run(steps).failure;
     std::puts(failure.substr(0, failure.find('\n')).c_str());
     return failure.empty() ? 0 : 1;
@@ -87,14 +112,13 @@ std::string Failure(const SoakSubject& subject, const Steps& steps)
 /// Leaves out ever smaller parts of the sequence for as long as the rest still fails.
 Steps Shortest(const SoakSubject& subject, Steps steps)
 {
-    int replays = 0;
+    const ULONGLONG deadline = ::GetTickCount64() + kShorteningMs;
     for (size_t part = std::max<size_t>(steps.size() / 2, 1); part > 0; part /= 2)
-        for (size_t end = steps.size(); end > 0 && replays < kMaxReplays; end -= std::min(part, end))
+        for (size_t end = steps.size(); end > 0 && ::GetTickCount64() < deadline; end -= std::min(part, end))
         {
             const size_t begin = end - std::min(part, end);
             Steps fewer(steps.begin(), steps.begin() + begin);
             fewer.insert(fewer.end(), steps.begin() + std::min(end, steps.size()), steps.end());
-            ++replays;
             if (!Failure(subject, fewer).empty())
                 steps = fewer;
         }
