@@ -77,8 +77,12 @@ bool CRadioGroup::operator!=(const CRadioGroup& other) const
     return !(*this == other);
 }
 
+// The system clears the others, but for those that are hidden or disabled: two options would be checked.
 void CRadioGroup::OnButtonClicked(int nId)
 {
+    CWnd* pControl = HasControls() ? m_pDialog->GetDlgItem(nId) : nullptr;
+    if (pControl && IsCheckedRadioButton(*pControl))
+        SetOption(Find(nId));
     if (m_pHandler)
         m_pHandler->OnButtonClicked(nId);
 }

@@ -29,10 +29,10 @@
 // The ids of a group should run upwards in the order of the dialog with no other control's id in between, as
 // always with radio buttons: GetOption and SetOption work on all ids from the first to the last.
 //
-// Reports. Each click of a member is passed on to the handler with the member's id. SetOption is silent. At
-// first the handler is the dialog, if its class implements AButtonSTNotificationHandler. A control that has
-// an object of its own already (by DDX_Control, or in another group) keeps it, and its clicks do not come
-// here.
+// Reports. Each click of a member is passed on to the handler with the member's id; then no other member is
+// checked, hidden and disabled ones included. SetOption is silent. At first the handler is the dialog, if its
+// class implements AButtonSTNotificationHandler. A control that has an object of its own already (by
+// DDX_Control, or in another group) keeps it, and its clicks do not come here.
 //
 // Ownership. Neither the dialog nor the handler is owned; both must outlive the group, or be taken from it by
 // Empty or by SetNotificationHandler(nullptr). The dialog's window may go before: from then on the group does

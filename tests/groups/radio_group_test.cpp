@@ -174,10 +174,11 @@ TEST_F(RadioGroup, TellsItsHandlerOfClicksAndKeys)
     group.Empty();
 }
 
-// The system's click would go round the group for ever.
-TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClick)
+// The system's click would go round the group for ever, and that on another button would pass them over.
+TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClickAndIsClearedByThoseOnOthers)
 {
     CRadioGroup group(&dialog, 101);
+    group.SetOption(1);
     dialog[102].ShowWindow(SW_HIDE);
     dialog[103].EnableWindow(FALSE);
     for (const int nId : {102, 103})
@@ -187,8 +188,10 @@ TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClick)
             dialog[nId].SendMessage(message, VK_SPACE);
         EXPECT_EQ(dialog.Take(), Ids{});
         EXPECT_EQ(dialog[nId].SendMessage(BM_GETSTATE) & BST_PUSHED, 0) << "let go";
+        EXPECT_EQ(group.GetOption(), 1);
     }
-    EXPECT_EQ(group.GetOption(), -1);
+    EXPECT_EQ(ClickOn(101), Ids{101});
+    EXPECT_TRUE(group.GetOption() == 0 && !dialog.IsDlgButtonChecked(102));
 }
 
 TEST_F(RadioGroup, LeavesTheButtonsToTheDialog)
