@@ -702,7 +702,6 @@ private:
     void ForgetLastWindow();
 
     // Storage
-    bool EndEditFirst();
     bool CountsChanged();
     BOOL SetCount(EGridWay way, int nCount);
     void DropLines(EGridWay way, int nCount);
@@ -768,6 +767,7 @@ private:
     bool StartsEdit(UINT nChar) const;
 
     // Editing
+    bool EndEditFirst();
     bool OfferText(int nRow, int nCol, const CString& str);
 
     // Sorting

@@ -8,6 +8,20 @@
 
 #include <algorithm>
 
+namespace
+{
+/// The focus is in an in-place editor of this grid, or in a part of one.
+bool HasEditorFocus(HWND hGrid)
+{
+    HWND hWnd = ::IsWindow(hGrid) ? ::GetFocus() : nullptr;
+    if (!::IsChild(hGrid, hWnd))
+        return false;
+    while (::GetParent(hWnd) != hGrid)
+        hWnd = ::GetParent(hWnd);
+    return ::GetDlgCtrlID(hWnd) == static_cast<int>(InPlaceControlId);
+}
+} // namespace
+
 // ---- Its start --------------------------------------------------------------------------------------------
 
 void CGridCtrl::StartEditCell()
@@ -45,6 +59,18 @@ void CGridCtrl::EndEditing()
         return;
     if (CGridCellBase* const pCell = GetCell(m_focusCell.row, m_focusCell.col))
         pCell->EndEdit();
+}
+
+/// An edit ends here as by a click elsewhere, before its cell can move away from under it. False if the grid
+/// did not outlive what its parent did about it. Indices are to be checked after it.
+bool CGridCtrl::EndEditFirst()
+{
+    const CLifeWatch life(*this);
+    if (HasEditorFocus(m_hWnd))
+        SetFocus();
+    if (life.WindowLives() && !m_bVirtualMode)
+        EndEditing();
+    return life.ObjectLives();
 }
 
 // A key that moves on (pages, end, home and the arrows stand in a row) carries the edit to the next cell.

@@ -29,17 +29,6 @@ bool Guarded(Work work)
     }
 }
 
-/// The focus is in an in-place editor of this grid, or in a part of one.
-bool HasEditorFocus(HWND hGrid)
-{
-    HWND hWnd = ::IsWindow(hGrid) ? ::GetFocus() : nullptr;
-    if (!::IsChild(hGrid, hWnd))
-        return false;
-    while (::GetParent(hWnd) != hGrid)
-        hWnd = ::GetParent(hWnd);
-    return ::GetDlgCtrlID(hWnd) == static_cast<int>(InPlaceControlId);
-}
-
 void InheritColours(CGridCtrl& grid, int nRow, int nCol)
 {
     grid.SetItemBkColour(nRow, nCol, CLR_INHERIT);
@@ -68,19 +57,7 @@ void MakeLoose(CGridCtrl& grid, int nRow, int nCol, DWORD nBit, bool bStaysFixed
 }
 } // namespace
 
-// ---- Before and after every change ------------------------------------------------------------------------
-
-/// An edit ends here as by a click elsewhere, before its cell can move away from under it. False if the grid
-/// did not outlive what its parent did about it. Indices are to be checked after it.
-bool CGridCtrl::EndEditFirst()
-{
-    const CLifeWatch life(*this);
-    if (HasEditorFocus(m_hWnd))
-        SetFocus();
-    if (life.WindowLives() && !m_bVirtualMode)
-        EndEditing();
-    return life.ObjectLives();
-}
+// ---- After every change -----------------------------------------------------------------------------------
 
 /// What follows every change of the counts. False if the grid did not outlive the end of an edit that a
 /// scroll bar, coming or going, has set off.
