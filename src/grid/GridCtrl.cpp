@@ -164,8 +164,9 @@ void CGridCtrl::PreSubclassWindow()
 void CGridCtrl::ForgetLastWindow()
 {
     m_topLeftCell = CCellID();
-    m_nBarState = (m_bars.IsInWindow(EGridWay::eColumns) ? BAR_HORIZONTAL : 0) |
-                  (m_bars.IsInWindow(EGridWay::eRows) ? BAR_VERTICAL : 0);
+    m_nBarState = 0;
+    for (const EGridWay way : kGridWays)
+        m_nBarState |= m_bars.IsInWindow(way) ? BarBit(way) : 0;
     m_bars.Forget();
     m_nVScrollMax = 0;
     m_nHScrollMax = 0;

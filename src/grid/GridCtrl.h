@@ -542,8 +542,8 @@ protected:
     BOOL SetScrollPos32(int nBar, int nPos, BOOL bRedraw = TRUE);
     void EnableScrollBars(int nBar, BOOL bEnable = TRUE);
     void ResetScrollBars();
-    BOOL IsVisibleVScroll() const { return (m_nBarState & BAR_VERTICAL) != 0; }
-    BOOL IsVisibleHScroll() const { return (m_nBarState & BAR_HORIZONTAL) != 0; }
+    BOOL IsVisibleVScroll() const { return (m_nBarState & BarBit(EGridWay::eRows)) != 0; }
+    BOOL IsVisibleHScroll() const { return (m_nBarState & BarBit(EGridWay::eColumns)) != 0; }
 
     BOOL InvalidateCellRect(int nRow, int nCol);
     BOOL InvalidateCellRect(const CCellID& cell);
@@ -599,8 +599,8 @@ protected:
 
     COLORREF m_crGridBk; ///< behind the cells
     COLORREF m_crGridLine;
-    COLORREF
-    m_crWindowText; ///< these four are the system's as last read: a colour that differs is the user's
+    // These four are the system's as last read: a colour that differs is the user's.
+    COLORREF m_crWindowText;
     COLORREF m_crWindow;
     COLORREF m_cr3DFace;
     COLORREF m_crShadow;
@@ -639,9 +639,7 @@ protected:
     int m_nAutoSizeStyle = GVS_BOTH;
 
     // ---- Rows, columns, cells
-    static constexpr int BAR_HORIZONTAL = 1;
-    static constexpr int BAR_VERTICAL = 2;
-    int m_nBarState = 0; ///< BAR_ bits: which scroll bars show
+    int m_nBarState = 0; ///< which scroll bars show: bit 1 the horizontal, bit 2 the vertical one
     CGridAxis m_rows;
     CGridAxis m_cols;
     int m_nVScrollMax = 0; ///< greatest value of each scroll bar's range in pixels, 0 without a bar
@@ -737,6 +735,7 @@ private:
     void Expand(EGridWay way, BOOL bExpandFixed);
 
     // Scrolling
+    static constexpr int BarBit(EGridWay way) { return 1 << gfnBarOf(way); }
     bool ShowBar(EGridWay way, bool bShow, const CLifeWatch& life);
     void OnScroll(EGridWay way, UINT nSBCode);
     void RepaintScrolled(const CRect& rect);

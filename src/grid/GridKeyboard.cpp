@@ -131,11 +131,11 @@ bool CGridCtrl::CKeyStroke::Go()
         GoPage();
         return true;
     case VK_HOME:
-        if (ScrollToEdge(SB_LEFT))
+        if (ScrollToEdge(SB_TOP))
             m_next = Walk().ToStart(m_next, m_bControl);
         return true;
     case VK_END:
-        if (ScrollToEdge(SB_RIGHT))
+        if (ScrollToEdge(SB_BOTTOM))
             m_next = Walk().ToEnd(m_next, m_bControl);
         return true;
     case VK_F2:
@@ -197,7 +197,7 @@ void CGridCtrl::CKeyStroke::Follow()
         m_grid.Invalidate();
     }
     m_grid.EnsureVisible(m_next);
-    for (const EGridWay way : {EGridWay::eColumns, EGridWay::eRows})
+    for (const EGridWay way : kGridWays)
         if (m_bScrolled[gfnBarOf(way)] && m_life.WindowLives())
             m_grid.SendScroll(way, SB_ENDSCROLL);
 }

@@ -64,11 +64,12 @@ BOOL CGridCtrl::SetScrollPos32(int nBar, int nPos, BOOL bRedraw)
 
 void CGridCtrl::EnableScrollBars(int nBar, BOOL bEnable)
 {
-    for (const auto& [nEach, nBit] : {std::pair(SB_HORZ, BAR_HORIZONTAL), std::pair(SB_VERT, BAR_VERTICAL)})
-        if ((nBar == nEach || nBar == SB_BOTH) && ((m_nBarState & nBit) != 0) != (bEnable != FALSE))
+    for (const EGridWay way : kGridWays)
+        if ((nBar == gfnBarOf(way) || nBar == SB_BOTH) &&
+            ((m_nBarState & BarBit(way)) != 0) != (bEnable != FALSE))
         {
-            m_nBarState ^= nBit;
-            CWnd::ShowScrollBar(nEach, bEnable);
+            m_nBarState ^= BarBit(way);
+            CWnd::ShowScrollBar(gfnBarOf(way), bEnable);
         }
 }
 
@@ -163,10 +164,10 @@ void CGridCtrl::OnScroll(EGridWay way, UINT nSBCode)
         m_bars.Tracked(way);
     SetScrollPos32(gfnBarOf(way), *nPos);
 
-    if (nSBCode == SB_LEFT || nSBCode == SB_RIGHT)
+    if (nSBCode == SB_TOP || nSBCode == SB_BOTTOM)
         RepaintScrolled(CRect(CPoint(0, 0), GetClientSize()));
     else if (bThumb ? GetTopleftNonFixedCell() != oldTopLeft
-                    : nSBCode != SB_LINERIGHT || m_bars.Pos(way) != nOldPos) // the bar limits a line on
+                    : nSBCode != SB_LINEDOWN || m_bars.Pos(way) != nOldPos) // the bar limits a line on
         RepaintScrolled(GetView().ScrollingPart(way));
 }
 
@@ -233,10 +234,10 @@ bool CGridCtrl::ScrollByStepsAlong(EGridWay way, int nFirst, int nLast, int nIte
     const CGridAxis& axis = Axis(way);
     nItem = std::clamp(nItem, -1, axis.Count());
     for (int nStep = nLast + 1; nStep <= nItem; ++nStep)
-        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINERIGHT))
+        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINEDOWN))
             return false;
     for (int nStep = nFirst - 1; nStep >= nItem; --nStep)
-        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINELEFT))
+        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINEUP))
             return false;
     return true;
 }
@@ -252,7 +253,7 @@ bool CGridCtrl::ScrollCellEndIntoView(const CCellID& cell)
     while (rect.right > GetClientSize().cx && rect.left > GetFixedColumnWidth())
     {
         const int nPos = m_bars.Pos(EGridWay::eColumns);
-        if (!SendScroll(EGridWay::eColumns, SB_LINERIGHT))
+        if (!SendScroll(EGridWay::eColumns, SB_LINEDOWN))
             return false;
         if (!GetCellRect(cell, &rect))
             return true;

@@ -7,8 +7,6 @@
 
 namespace
 {
-constexpr EGridWay kWays[] = {EGridWay::eColumns, EGridWay::eRows};
-
 SCROLLINFO Asking(UINT nMask)
 {
     SCROLLINFO info{};
@@ -80,17 +78,17 @@ std::optional<int> gfnScrolledPos(UINT nSBCode, const CGridAxis& axis, const SGr
     const bool bMayOn = state.nPos < state.nMax;
     switch (nSBCode)
     {
-    case SB_LINELEFT:
+    case SB_LINEUP:
         return LineBack(axis, state);
-    case SB_LINERIGHT:
+    case SB_LINEDOWN:
         return LineOn(axis, state);
-    case SB_PAGELEFT:
+    case SB_PAGEUP:
         return If(bMayBack, std::max(0, state.nPos - state.nPage));
-    case SB_PAGERIGHT:
+    case SB_PAGEDOWN:
         return If(bMayOn, std::min<LONGLONG>(state.nMax, LONGLONG(state.nPos) + state.nPage));
-    case SB_LEFT:
+    case SB_TOP:
         return If(bMayBack, 0);
-    case SB_RIGHT:
+    case SB_BOTTOM:
         return If(bMayOn, state.nMax);
     default:
         return {};
@@ -178,7 +176,7 @@ void CGridScrollBars::Changed(EGridWay way)
 void CGridScrollBars::Paint()
 {
     m_bPaintAsked = false;
-    for (const EGridWay way : kWays)
+    for (const EGridWay way : kGridWays)
     {
         SState& state = StateOf(way);
         if (!std::exchange(state.bChanged, false))
@@ -205,7 +203,7 @@ void CGridScrollBars::PaintBar(EGridWay way)
 
 void CGridScrollBars::FramePainted()
 {
-    for (const EGridWay way : kWays)
+    for (const EGridWay way : kGridWays)
         if (StateOf(way).painted != Thumb(way))
             StateOf(way).painted.reset();
 }

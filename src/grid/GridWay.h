@@ -1,6 +1,9 @@
 #pragma once
 // Rows and columns as the two ways that one operation can go. Columns follow one another along x, and the
 // horizontal scroll bar scrolls them; rows along y.
+//
+// The codes of scroll messages mean the same for both bars, and have two names each, as SB_LINEUP and
+// SB_LINELEFT are one. What goes both ways uses those of the vertical bar.
 
 #include <afxwin.h>
 
@@ -11,6 +14,8 @@ enum class EGridWay
     eColumns = SB_HORZ,
     eRows = SB_VERT
 };
+
+constexpr EGridWay kGridWays[] = {EGridWay::eColumns, EGridWay::eRows};
 
 constexpr EGridWay gfnOtherWay(EGridWay way)
 {
