@@ -720,6 +720,7 @@ private:
     // Items
     CGridCellBase* GetCellToChange(int nRow, int nCol) const;
     void ItemChanged(CGridCellBase& cell, int nCol);
+    void MarkItem(const CCellID& cell, UINT nBits, bool bOn);
     template <class Value>
     BOOL ChangeContents(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
     template <class Value>
@@ -749,8 +750,9 @@ private:
     void DrawCells(CDC& dc, const CGridPainter& painter);
     BOOL RedrawCellOn(CDC& dc, int nRow, int nCol, const CRect& rect);
 
-    // Selection
-    bool IsRecordedSelected(int nRow, int nCol) const;
+    // Focus and selection
+    void ShowFocus(const CCellID& cell, bool bFocused, const CCellID& other);
+    void SelectLines(EGridWay way, BOOL bOne, const CCellID& cell, BOOL bForceRepaint, BOOL bSelectCells);
 
     // Mouse
     bool FindDivider(CPoint point);

@@ -24,6 +24,13 @@ void CGridCtrl::ItemChanged(CGridCellBase& cell, int nCol)
     m_bModified = TRUE;
 }
 
+/// Sets bits of a cell's state, or clears them.
+void CGridCtrl::MarkItem(const CCellID& cell, UINT nBits, bool bOn)
+{
+    const UINT nState = GetItemState(cell.row, cell.col);
+    SetItemState(cell.row, cell.col, bOn ? nState | nBits : nState & ~nBits);
+}
+
 /// Looks do not count as a modification.
 template <class Value>
 BOOL CGridCtrl::ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value)
@@ -241,20 +248,19 @@ void CGridCtrl::SetModified(BOOL bModified, int nRow, int nCol)
 
     if (nRow < 0 || nCol < 0)
         m_bModified = bModified;
-    else if (bModified)
-    {
-        SetItemState(nRow, nCol, GetItemState(nRow, nCol) | CELL_MODIFIED);
-        m_bModified = TRUE;
-    }
     else
-        SetItemState(nRow, nCol, GetItemState(nRow, nCol) & ~CELL_MODIFIED);
-
+    {
+        MarkItem(CCellID(nRow, nCol), CELL_MODIFIED, bModified != FALSE);
+        m_bModified = m_bModified || bModified;
+    }
     if (m_bModified || m_bVirtualMode)
         return; // a virtual grid has no cells with marks
-    for (int nEachRow = 0; nEachRow < GetRowCount(); ++nEachRow)
-        for (int nEachCol = 0; nEachCol < GetColumnCount(); ++nEachCol)
-            if (const UINT nState = GetItemState(nEachRow, nEachCol); nState & CELL_MODIFIED)
-                SetItemState(nEachRow, nEachCol, nState & ~CELL_MODIFIED);
+    GetCellRange().ForEach(
+        [this](int nEachRow, int nEachCol)
+        {
+            if (GetModified(nEachRow, nEachCol))
+                MarkItem(CCellID(nEachRow, nEachCol), CELL_MODIFIED, false);
+        });
 }
 
 BOOL CGridCtrl::GetModified(int nRow, int nCol)

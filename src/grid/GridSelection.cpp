@@ -11,34 +11,13 @@
 #include <algorithm>
 #include <memory>
 
-namespace
-{
-/// The headers above and beside a cell, which show where the focus is.
-void RedrawHeadersOf(CGridCtrl& grid, const CCellID& cell, bool bRow, bool bCol)
-{
-    if (!grid.GetTrackFocusCell())
-        return;
-    for (int nRow = 0; bCol && nRow < grid.GetFixedRowCount(); ++nRow)
-        grid.RedrawCell(nRow, cell.col);
-    for (int nCol = 0; bRow && nCol < grid.GetFixedColumnCount(); ++nCol)
-        grid.RedrawCell(cell.row, nCol);
-}
-} // namespace
-
 // ---- The selection's books --------------------------------------------------------------------------------
 
 // With selection off a cell counts as not selected: its bit then comes and goes, and its entry comes and
 // stays.
-bool CGridCtrl::IsRecordedSelected(int nRow, int nCol) const
-{
-    if (!m_bEnableSelection)
-        return false;
-    return m_bVirtualMode ? m_mapSelected.Has(nRow, nCol) : (GetItemState(nRow, nCol) & CELL_SELECTED) != 0;
-}
-
 BOOL CGridCtrl::SetItemState(int nRow, int nCol, UINT nState)
 {
-    const bool bWasSelected = IsRecordedSelected(nRow, nCol);
+    const BOOL bWasSelected = IsCellSelected(nRow, nCol);
     if (bWasSelected && !(nState & CELL_SELECTED))
         m_mapSelected.Remove(nRow, nCol);
     if (!bWasSelected && (nState & CELL_SELECTED))
@@ -58,7 +37,9 @@ BOOL CGridCtrl::IsCellSelected(CCellID& cell) const
 
 BOOL CGridCtrl::IsCellSelected(int nRow, int nCol) const
 {
-    return IsRecordedSelected(nRow, nCol);
+    if (!m_bEnableSelection)
+        return FALSE;
+    return m_bVirtualMode ? m_mapSelected.Has(nRow, nCol) : (GetItemState(nRow, nCol) & CELL_SELECTED) != 0;
 }
 
 CCellRange CGridCtrl::GetSelectedCellRange()
@@ -90,23 +71,26 @@ CCellID CGridCtrl::SetFocusCell(CCellID cell, BOOL bNotify)
         cell.col = std::max(cell.col, m_cols.Fixed());
     m_focusCell = cell;
 
-    const bool bOtherRow = cell.row != old.row;
-    const bool bOtherCol = cell.col != old.col;
-    if (IsValid(old))
-    {
-        SetItemState(old.row, old.col, GetItemState(old.row, old.col) & ~CELL_FOCUSED);
-        RedrawCell(old);
-        RedrawHeadersOf(*this, old, bOtherRow, bOtherCol);
-    }
-    if (IsValid(cell))
-    {
-        SetItemState(cell.row, cell.col, GetItemState(cell.row, cell.col) | CELL_FOCUSED);
-        RedrawCell(cell);
-        RedrawHeadersOf(*this, cell, bOtherRow, bOtherCol);
-        if (bNotify)
-            SendMessageToParent(cell.row, cell.col, LVN_ITEMCHANGED);
-    }
+    ShowFocus(old, false, cell);
+    ShowFocus(cell, true, old);
+    if (bNotify && IsValid(cell))
+        SendMessageToParent(cell.row, cell.col, LVN_ITEMCHANGED);
     return old;
+}
+
+/// Marks a cell, and shows it there and in the headers that it does not share with the other one.
+void CGridCtrl::ShowFocus(const CCellID& cell, bool bFocused, const CCellID& other)
+{
+    if (!IsValid(cell))
+        return;
+    MarkItem(cell, CELL_FOCUSED, bFocused);
+    RedrawCell(cell);
+    if (!m_bTrackFocusCell)
+        return;
+    for (int nRow = 0; cell.col != other.col && nRow < m_rows.Fixed(); ++nRow)
+        RedrawCell(nRow, cell.col);
+    for (int nCol = 0; cell.row != other.row && nCol < m_cols.Fixed(); ++nCol)
+        RedrawCell(cell.row, nCol);
 }
 
 // ---- Ranges -----------------------------------------------------------------------------------------------
@@ -147,17 +131,18 @@ public:
 
     void Change(const CCellRange& range, bool bSelect)
     {
-        for (int nRow = range.minRow; nRow <= range.maxRow; ++nRow)
-            for (int nCol = range.minCol; nCol <= range.maxCol; ++nCol)
+        range.ForEach(
+            [&](int nRow, int nCol)
+            {
                 if ((m_grid.IsCellSelected(nRow, nCol) != FALSE) != bSelect)
                     Mark(CCellID(nRow, nCol), bSelect, true);
+            });
     }
 
 private:
     void Mark(const CCellID& cell, bool bSelected, bool bRepaint)
     {
-        const UINT nState = m_grid.GetItemState(cell.row, cell.col);
-        m_grid.SetItemState(cell.row, cell.col, bSelected ? nState | CELL_SELECTED : nState & ~CELL_SELECTED);
+        m_grid.MarkItem(cell, CELL_SELECTED, bSelected);
         if (bRepaint && m_visible.InRange(cell.row, cell.col))
             Repaint(cell);
     }
@@ -216,32 +201,34 @@ void CGridCtrl::ResetSelectedRange()
 
 void CGridCtrl::SelectAllCells()
 {
-    if (m_bEnableSelection)
-        SetSelectedRange(m_rows.Fixed(), m_cols.Fixed(), GetRowCount() - 1, GetColumnCount() - 1, FALSE,
-                         TRUE);
+    SetSelectedRange(GetCellRange(), FALSE, TRUE);
 }
 
 void CGridCtrl::SelectColumns(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 {
-    if (!m_bEnableSelection || m_cols.IsFixed(cell.col) || !IsValid(cell))
-        return;
-    const int nFrom = m_bSingleColSelection ? cell.col : m_selectionStart.col;
-    SetSelectedRange(m_rows.Fixed(), std::min(nFrom, cell.col), GetRowCount() - 1, std::max(nFrom, cell.col),
-                     bForceRepaint, bSelectCells);
+    SelectLines(EGridWay::eColumns, m_bSingleColSelection, cell, bForceRepaint, bSelectCells);
 }
 
 void CGridCtrl::SelectRows(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 {
-    if (!m_bEnableSelection || m_rows.IsFixed(cell.row) || !IsValid(cell))
+    SelectLines(EGridWay::eRows, GetSingleRowSelection(), cell, bForceRepaint, bSelectCells);
+}
+
+/// Whole rows, or columns, from that of the anchor to that of the cell, or `bOne` only.
+void CGridCtrl::SelectLines(EGridWay way, BOOL bOne, const CCellID& cell, BOOL bForceRepaint,
+                            BOOL bSelectCells)
+{
+    const int nTo = gfnItemAlong(way, cell);
+    if (!IsValid(cell) || Axis(way).IsFixed(nTo))
         return;
-    const int nFrom = GetSingleRowSelection() ? cell.row : m_selectionStart.row;
-    SetSelectedRange(std::min(nFrom, cell.row), m_cols.Fixed(), std::max(nFrom, cell.row),
-                     GetColumnCount() - 1, bForceRepaint, bSelectCells);
+    const int nFrom = bOne ? nTo : gfnItemAlong(way, m_selectionStart);
+    SetSelectedRange(CellsOf(way, std::min(nFrom, nTo), std::max(nFrom, nTo) + 1), bForceRepaint,
+                     bSelectCells);
 }
 
 void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 {
-    if (!m_bEnableSelection || !IsValid(cell) || IsCellFixed(cell.row, cell.col))
+    if (!IsValid(cell) || IsCellFixed(cell.row, cell.col))
         return;
     SetSelectedRange(std::min(m_selectionStart.row, cell.row), std::min(m_selectionStart.col, cell.col),
                      std::max(m_selectionStart.row, cell.row), std::max(m_selectionStart.col, cell.col),
@@ -251,8 +238,6 @@ void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
 /// Selects up to a cell, in the way of the gesture that is going on.
 void CGridCtrl::OnSelecting(const CCellID& cell)
 {
-    if (!m_bEnableSelection)
-        return;
     switch (m_nMouseMode)
     {
     case MODE_SELECT_ALL:

@@ -35,25 +35,10 @@ void InheritColours(CGridCtrl& grid, int nRow, int nCol)
     grid.SetItemFgColour(nRow, nCol, CLR_INHERIT);
 }
 
-void MakeFixed(CGridCtrl& grid, int nRow, int nCol, DWORD nBit)
-{
-    grid.SetItemState(nRow, nCol, grid.GetItemState(nRow, nCol) | CELL_FIXED | nBit);
-    InheritColours(grid, nRow, nCol);
-}
-
 /// Of a cell in a fixed row, or column.
 DWORD FixedBitOf(EGridWay way)
 {
     return way == EGridWay::eRows ? CELL_FIXEDROW : CELL_FIXEDCOL;
-}
-
-/// A cell that stays fixed in the other direction keeps its colours.
-void MakeLoose(CGridCtrl& grid, int nRow, int nCol, DWORD nBit, bool bStaysFixed)
-{
-    const DWORD nState = grid.GetItemState(nRow, nCol) & ~nBit;
-    grid.SetItemState(nRow, nCol, bStaysFixed ? nState : nState & ~CELL_FIXED);
-    if (!bStaysFixed)
-        InheritColours(grid, nRow, nCol);
 }
 } // namespace
 
@@ -196,14 +181,22 @@ void CGridCtrl::MarkFixedCells(EGridWay way, int nFixed)
 {
     const int nOld = Axis(way).Fixed();
     const CGridAxis& across = Axis(gfnOtherWay(way));
+    const UINT nBit = FixedBitOf(way);
     CellsOf(way, nOld, nFixed)
-        .ForEach([&](int nRow, int nCol) { MakeFixed(*this, nRow, nCol, FixedBitOf(way)); });
+        .ForEach(
+            [&](int nRow, int nCol)
+            {
+                MarkItem(CCellID(nRow, nCol), CELL_FIXED | nBit, true);
+                InheritColours(*this, nRow, nCol);
+            });
     CellsOf(way, nFixed, nOld)
         .ForEach(
             [&](int nRow, int nCol)
             {
                 const bool bStaysFixed = across.IsFixed(way == EGridWay::eRows ? nCol : nRow);
-                MakeLoose(*this, nRow, nCol, FixedBitOf(way), bStaysFixed);
+                MarkItem(CCellID(nRow, nCol), bStaysFixed ? nBit : CELL_FIXED | nBit, false);
+                if (!bStaysFixed) // one that does keeps its colours
+                    InheritColours(*this, nRow, nCol);
             });
 }
 
