@@ -406,23 +406,14 @@ void CGridCtrl::OnTimer(UINT_PTR nIDEvent)
     if (nIDEvent != AutoScrollTimerId || !::GetCursorPos(&point))
         return;
     ScreenToClient(&point);
-    const CRect client(CPoint(0, 0), GetClientSize());
-    const CPoint body(GetFixedColumnWidth(), GetFixedRowHeight());
     const CLifeWatch life(*this);
-
-    const int x = std::clamp<int>(point.x, client.left, client.right);
-    if (point.y > client.bottom)
-        StepSelection(VK_DOWN, CPoint(x, client.bottom));
-    else if (point.y < body.y)
-        StepSelection(VK_UP, CPoint(x, body.y + 1));
-    if (!life.WindowLives())
-        return;
-
-    const int y = std::clamp<int>(point.y, client.top, client.bottom);
-    if (point.x > client.right)
-        StepSelection(VK_RIGHT, CPoint(client.right, y));
-    else if (point.x < body.x)
-        StepSelection(VK_LEFT, CPoint(body.x + 1, y));
+    const CGridView view = GetView();
+    const auto vertically = view.Beyond(EGridWay::eRows, point);
+    const auto sideways = view.Beyond(EGridWay::eColumns, point);
+    if (vertically)
+        StepSelection(vertically->bOn ? VK_DOWN : VK_UP, vertically->edge);
+    if (sideways && life.WindowLives())
+        StepSelection(sideways->bOn ? VK_RIGHT : VK_LEFT, sideways->edge);
 }
 
 void CGridCtrl::StepSelection(UINT nKey, CPoint pointAtEdge)

@@ -103,30 +103,28 @@ void CGridPainter::DrawLines(int nLines, COLORREF clr) const
 {
     CPen pen(PS_SOLID, 0, clr);
     m_dc.SelectObject(&pen);
-    const CPoint body = m_view.Body();
     if (nLines & GVL_VERT)
-    {
-        const CGridAxis& cols = m_view.Axis(EGridWay::eColumns);
-        int x = body.x;
-        for (int nCol = m_visible.minCol; nCol <= m_visible.maxCol && cols.Has(nCol); ++nCol)
-        {
-            x = gfnSaturated(LONGLONG(x) + cols.Size(nCol));
-            m_dc.MoveTo(x - 1, body.y);
-            m_dc.LineTo(x - 1, m_rectVisible.bottom);
-        }
-    }
+        DrawLinesBehind(EGridWay::eColumns);
     if (nLines & GVL_HORZ)
-    {
-        const CGridAxis& rows = m_view.Axis(EGridWay::eRows);
-        int y = body.y;
-        for (int nRow = m_visible.minRow; nRow <= m_visible.maxRow && rows.Has(nRow); ++nRow)
-        {
-            y = gfnSaturated(LONGLONG(y) + rows.Size(nRow));
-            m_dc.MoveTo(body.x, y - 1);
-            m_dc.LineTo(m_rectVisible.right, y - 1);
-        }
-    }
+        DrawLinesBehind(EGridWay::eRows);
     m_dc.SelectStockObject(NULL_PEN); // so that the pen can go
+}
+
+/// Along the ends of the columns, or rows, of the body.
+void CGridPainter::DrawLinesBehind(EGridWay way) const
+{
+    const CGridAxis& axis = m_view.Axis(way);
+    const EGridWay across = gfnOtherWay(way);
+    const int nStart = gfnAlong(across, m_view.Body());
+    const int nEnd = gfnAlong(across, m_rectVisible.BottomRight());
+    const int nLast = gfnItemAlong(way, CCellID(m_visible.maxRow, m_visible.maxCol));
+    int nBehind = gfnAlong(way, m_view.Body());
+    for (int nItem = gfnItemAlong(way, m_view.TopLeft()); nItem <= nLast && axis.Has(nItem); ++nItem)
+    {
+        nBehind = gfnSaturated(LONGLONG(nBehind) + axis.Size(nItem));
+        m_dc.MoveTo(gfnPointAlong(way, nBehind - 1, nStart));
+        m_dc.LineTo(gfnPointAlong(way, nBehind - 1, nEnd));
+    }
 }
 
 void CGridPainter::DrawLinesOf(CDC& dc, const CRect& rect, int nLines, COLORREF clr)

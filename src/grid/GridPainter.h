@@ -42,6 +42,7 @@ public:
     /// of rows and columns may shrink meanwhile.
     using CDrawCell = std::function<void(int nRow, int nCol, const CRect& rect)>;
     void DrawCells(const CDrawCell& draw) const;
+    void DrawLinesBehind(EGridWay way) const;
 
     /// Along the last pixels of rows and columns, in the body only. `nLines`: GVL_ values.
     void DrawLines(int nLines, COLORREF clr) const;

@@ -2,6 +2,8 @@
 
 #include "grid/GridView.h"
 
+#include <algorithm>
+
 namespace
 {
 /// The last pixel of what begins at a place, or the furthest that has a pixel behind it.
@@ -91,6 +93,20 @@ bool CGridView::Shows(const CCellID& cell) const
 {
     CPoint origin;
     return Origin(cell, origin) && origin.x < m_client.cx && origin.y < m_client.cy;
+}
+
+// Behind the client area that is the first pixel that does not show; in front of the body, its second one.
+std::optional<CGridView::SBeyond> CGridView::Beyond(EGridWay way, CPoint point) const
+{
+    const EGridWay across = gfnOtherWay(way);
+    const int nAcross = std::clamp(gfnAlong(across, point), 0, gfnAlong(across, m_client));
+    const int nBody = Axis(way).FixedExtent();
+    const int nEnd = gfnAlong(way, m_client);
+    if (gfnAlong(way, point) > nEnd)
+        return SBeyond{true, gfnPointAlong(way, nEnd, nAcross)};
+    if (gfnAlong(way, point) < nBody)
+        return SBeyond{false, gfnPointAlong(way, nBody + 1, nAcross)};
+    return {};
 }
 
 CRect CGridView::ScrollingPart(EGridWay way) const

@@ -12,6 +12,8 @@
 
 #include <afxwin.h>
 
+#include <optional>
+
 #include "grid/GridAxis.h"
 #include "grid/GridTypes.h"
 #include "grid/GridWay.h"
@@ -49,6 +51,14 @@ public:
     CCellRange VisibleWhole() const;
     /// Whether the top and left edges of a cell, fixed or not, lie in the client area.
     bool Shows(const CCellID& cell) const;
+
+    struct SBeyond
+    {
+        bool bOn;    ///< behind the client area, and not in front of the body
+        CPoint edge; ///< the nearest point from which a drag goes on
+    };
+    /// Where a point lies that has left what scrolls along a way; nothing for one that has not.
+    std::optional<SBeyond> Beyond(EGridWay way, CPoint point) const;
 
     /// What scrolls along a way: all but the fixed items at its start.
     CRect ScrollingPart(EGridWay way) const;

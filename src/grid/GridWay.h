@@ -38,6 +38,12 @@ inline int gfnAlong(EGridWay way, SIZE size)
     return way == EGridWay::eColumns ? size.cx : size.cy;
 }
 
+/// The point so far along the way, and so far across it.
+inline CPoint gfnPointAlong(EGridWay way, int nAlong, int nAcross)
+{
+    return way == EGridWay::eColumns ? CPoint(nAlong, nAcross) : CPoint(nAcross, nAlong);
+}
+
 inline int& gfnItemAlong(EGridWay way, CCellID& cell)
 {
     return way == EGridWay::eColumns ? cell.col : cell.row;
