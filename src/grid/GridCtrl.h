@@ -752,6 +752,8 @@ private:
 
     // Focus and selection
     void ShowFocus(const CCellID& cell, bool bFocused, const CCellID& other);
+    void SelectBy(int nMode, const CCellID& cell);
+    int BodyMode() const { return m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS; }
     void SelectLines(EGridWay way, BOOL bOne, const CCellID& cell, BOOL bForceRepaint, BOOL bSelectCells);
 
     // Mouse
@@ -762,7 +764,6 @@ private:
     void TellClick(CPoint pointInCell);
     void TellDoubleClick(const CCellID& cell, CPoint point);
     void StepSelection(UINT nKey, CPoint pointAtEdge);
-    void StopAutoScroll();
 
     // Keyboard
     bool StartsEdit(UINT nChar) const;

@@ -209,10 +209,9 @@ void CGridCtrl::CKeyStroke::Select() const
     if (m_grid.m_nMouseMode != MODE_NOTHING)
         return;
     m_grid.m_mapPrevSelected.RemoveAll();
-    m_grid.m_nMouseMode = m_grid.m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
     if (!m_bShift || m_nKey == VK_TAB)
         m_grid.m_selectionStart = m_next;
-    m_grid.OnSelecting(m_next);
+    m_grid.SelectBy(m_grid.BodyMode(), m_next);
     m_grid.m_nMouseMode = MODE_NOTHING;
 }
 

@@ -168,8 +168,7 @@ private:
         else
         {
             // Only here a drag beyond the edge scrolls; one that began on a header does not.
-            m_grid.m_nMouseMode = m_grid.m_bListMode ? MODE_SELECT_ROW : MODE_SELECT_CELLS;
-            m_grid.OnSelecting(m_cell);
+            m_grid.SelectBy(m_grid.BodyMode(), m_cell);
             m_grid.m_nTimerId = m_grid.SetTimer(AutoScrollTimerId, m_grid.m_nTimerInterval, nullptr);
         }
     }
@@ -316,12 +315,6 @@ void CGridCtrl::TellClick(CPoint pointInCell)
         SendMessageToParent(m_clickDownCell.row, m_clickDownCell.col, NM_CLICK);
 }
 
-void CGridCtrl::StopAutoScroll()
-{
-    KillTimer(AutoScrollTimerId);
-    m_nTimerId = 0;
-}
-
 // ---- Double click -----------------------------------------------------------------------------------------
 
 void CGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
@@ -427,8 +420,10 @@ void CGridCtrl::StepSelection(UINT nKey, CPoint pointAtEdge)
 // The mode stays until the release.
 void CGridCtrl::OnCaptureChanged(CWnd* pWnd)
 {
-    if (pWnd != this)
-        StopAutoScroll();
+    if (pWnd == this)
+        return;
+    KillTimer(AutoScrollTimerId);
+    m_nTimerId = 0;
 }
 
 // ---- Cursor -----------------------------------------------------------------------------------------------

@@ -235,6 +235,13 @@ void CGridCtrl::SelectCells(CCellID cell, BOOL bForceRepaint, BOOL bSelectCells)
                      bForceRepaint, bSelectCells);
 }
 
+/// Begins a gesture that selects in one way.
+void CGridCtrl::SelectBy(int nMode, const CCellID& cell)
+{
+    m_nMouseMode = nMode;
+    OnSelecting(cell);
+}
+
 /// Selects up to a cell, in the way of the gesture that is going on.
 void CGridCtrl::OnSelecting(const CCellID& cell)
 {
@@ -273,18 +280,13 @@ void CGridCtrl::OnFixedRowClick(CCellID& cell)
         Invalidate();
     }
     if (m_bFixedRowSelection)
-    {
-        m_nMouseMode = m_cols.IsFixed(cell.col) ? MODE_SELECT_ALL : MODE_SELECT_COL;
-        OnSelecting(cell);
-    }
+        SelectBy(m_cols.IsFixed(cell.col) ? MODE_SELECT_ALL : MODE_SELECT_COL, cell);
 }
 
 void CGridCtrl::OnFixedColumnClick(CCellID& cell)
 {
-    if (!IsValid(cell) || !m_bFixedColumnSelection)
-        return;
-    m_nMouseMode = m_rows.IsFixed(cell.row) ? MODE_SELECT_ALL : MODE_SELECT_ROW;
-    OnSelecting(cell);
+    if (IsValid(cell) && m_bFixedColumnSelection)
+        SelectBy(m_rows.IsFixed(cell.row) ? MODE_SELECT_ALL : MODE_SELECT_ROW, cell);
 }
 
 // The focus does not move, and is reported all the same.
