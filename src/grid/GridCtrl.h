@@ -723,8 +723,6 @@ private:
     void MarkItem(const CCellID& cell, UINT nBits, bool bOn);
     template <class Value>
     BOOL ChangeContents(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
-    template <class Value>
-    BOOL ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value);
 
     // Geometry
     CGridAxis& Axis(EGridWay way) { return way == EGridWay::eColumns ? m_cols : m_rows; }
@@ -746,6 +744,8 @@ private:
     bool ScrollCellEndIntoView(const CCellID& cell);
 
     // Drawing
+    bool IsPainted(const CCellID& cell, CRect& rect);
+    void InvalidatePixels(CRect rect);
     SGridColors RegionColors() const;
     void DrawCells(CDC& dc, const CGridPainter& painter);
     BOOL RedrawCellOn(CDC& dc, int nRow, int nCol, const CRect& rect);

@@ -79,6 +79,12 @@ void CGridCtrl::DrawCells(CDC& dc, const CGridPainter& painter)
         });
 }
 
+/// Whether a cell shows, and may be painted, and where.
+bool CGridCtrl::IsPainted(const CCellID& cell, CRect& rect)
+{
+    return m_bAllowDraw && IsCellVisible(cell) && GetCellRect(cell, &rect);
+}
+
 // ---- At once ----------------------------------------------------------------------------------------------
 
 BOOL CGridCtrl::RedrawCell(const CCellID& cell, CDC* pDC)
@@ -89,7 +95,7 @@ BOOL CGridCtrl::RedrawCell(const CCellID& cell, CDC* pDC)
 BOOL CGridCtrl::RedrawCell(int nRow, int nCol, CDC* pDC)
 {
     CRect rect;
-    if (!m_bAllowDraw || !IsCellVisible(nRow, nCol) || !GetCellRect(nRow, nCol, &rect))
+    if (!IsPainted(CCellID(nRow, nCol), rect))
         return FALSE;
     if (pDC)
         return RedrawCellOn(*pDC, nRow, nCol, rect);
@@ -163,12 +169,9 @@ BOOL CGridCtrl::InvalidateCellRect(const CCellID& cell)
 BOOL CGridCtrl::InvalidateCellRect(int nRow, int nCol)
 {
     CRect rect;
-    if (!::IsWindow(m_hWnd) || !m_bAllowDraw || !IsValid(nRow, nCol) || !IsCellVisible(nRow, nCol) ||
-        !GetCellRect(nRow, nCol, &rect))
+    if (!IsPainted(CCellID(nRow, nCol), rect))
         return FALSE;
-    rect.right++; // to exclusive corners
-    rect.bottom++;
-    InvalidateRect(&rect, TRUE);
+    InvalidatePixels(rect);
     return TRUE;
 }
 
@@ -182,8 +185,14 @@ BOOL CGridCtrl::InvalidateCellRect(const CCellRange& range)
     CRect rect;
     if (!GetCellRangeRect(part, &rect))
         return FALSE;
+    InvalidatePixels(rect);
+    return TRUE;
+}
+
+/// `rect` holds its last pixel.
+void CGridCtrl::InvalidatePixels(CRect rect)
+{
     rect.right++;
     rect.bottom++;
     InvalidateRect(&rect, TRUE);
-    return TRUE;
 }

@@ -6,6 +6,25 @@
 
 #include <cstdarg>
 
+namespace
+{
+/// `none` where there is no cell.
+template <class Value>
+Value Ask(CGridCellBase* pCell, Value (CGridCellBase::*get)(), Value none)
+{
+    return pCell ? (pCell->*get)() : none;
+}
+
+/// FALSE where there is no cell. Looks do not count as a modification: see ChangeContents.
+template <class Value>
+BOOL Change(CGridCellBase* pCell, void (CGridCellBase::*set)(Value), Value value)
+{
+    if (pCell)
+        (pCell->*set)(value);
+    return pCell != nullptr;
+}
+} // namespace
+
 // ---- Access -----------------------------------------------------------------------------------------------
 
 /// The cell that a setter may change; null in virtual mode, where there is nothing that could keep the
@@ -31,37 +50,15 @@ void CGridCtrl::MarkItem(const CCellID& cell, UINT nBits, bool bOn)
     SetItemState(cell.row, cell.col, bOn ? nState | nBits : nState & ~nBits);
 }
 
-/// Looks do not count as a modification.
-template <class Value>
-BOOL CGridCtrl::ChangeLook(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value)
-{
-    CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
-        return FALSE;
-    (pCell->*set)(value);
-    return TRUE;
-}
-
 template <class Value>
 BOOL CGridCtrl::ChangeContents(int nRow, int nCol, void (CGridCellBase::*set)(Value), Value value)
 {
     CGridCellBase* const pCell = GetCellToChange(nRow, nCol);
-    if (!pCell)
+    if (!Change(pCell, set, value))
         return FALSE;
-    (pCell->*set)(value);
     ItemChanged(*pCell, nCol);
     return TRUE;
 }
-
-namespace
-{
-/// `none` where there is no cell.
-template <class Value>
-Value Ask(CGridCellBase* pCell, Value (CGridCellBase::*get)(), Value none)
-{
-    return pCell ? (pCell->*get)() : none;
-}
-} // namespace
 
 // ---- Contents ---------------------------------------------------------------------------------------------
 
@@ -129,7 +126,7 @@ UINT CGridCtrl::GetItemState(int nRow, int nCol) const
 
 BOOL CGridCtrl::SetItemFormat(int nRow, int nCol, UINT nFormat)
 {
-    return ChangeLook<DWORD>(nRow, nCol, &CGridCellBase::SetFormat, nFormat);
+    return Change<DWORD>(GetCellToChange(nRow, nCol), &CGridCellBase::SetFormat, nFormat);
 }
 
 UINT CGridCtrl::GetItemFormat(int nRow, int nCol) const
@@ -139,7 +136,7 @@ UINT CGridCtrl::GetItemFormat(int nRow, int nCol) const
 
 BOOL CGridCtrl::SetItemBkColour(int nRow, int nCol, COLORREF cr)
 {
-    return ChangeLook(nRow, nCol, &CGridCellBase::SetBackClr, cr);
+    return Change(GetCellToChange(nRow, nCol), &CGridCellBase::SetBackClr, cr);
 }
 
 COLORREF CGridCtrl::GetItemBkColour(int nRow, int nCol) const
@@ -149,7 +146,7 @@ COLORREF CGridCtrl::GetItemBkColour(int nRow, int nCol) const
 
 BOOL CGridCtrl::SetItemFgColour(int nRow, int nCol, COLORREF cr)
 {
-    return ChangeLook(nRow, nCol, &CGridCellBase::SetTextClr, cr);
+    return Change(GetCellToChange(nRow, nCol), &CGridCellBase::SetTextClr, cr);
 }
 
 COLORREF CGridCtrl::GetItemFgColour(int nRow, int nCol) const
@@ -159,7 +156,7 @@ COLORREF CGridCtrl::GetItemFgColour(int nRow, int nCol) const
 
 BOOL CGridCtrl::SetItemFont(int nRow, int nCol, const LOGFONTW* plf)
 {
-    return ChangeLook(nRow, nCol, &CGridCellBase::SetFont, plf);
+    return Change(GetCellToChange(nRow, nCol), &CGridCellBase::SetFont, plf);
 }
 
 const LOGFONTW* CGridCtrl::GetItemFont(int nRow, int nCol) const
