@@ -1,4 +1,5 @@
-// The parts of a grid that need no window: its rows of cells, the sort, the fields of a line, the saved widths.
+// The parts of a grid that need no window: its rows of cells and their memory, the sort, the fields of a line,
+// the saved widths.
 
 #include <DialogControlsOW.h>
 
@@ -11,8 +12,13 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
+#include <functional>
 #include <random>
 #include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
 #include <vector>
 
 // ---- Cells ------------------------------------------------------------------------------------------------
@@ -131,6 +137,96 @@ TEST(GridCells, StayAsTheyWereWhenMemoryEnds)
     cells.SetColumns(4);
     EXPECT_TRUE(RunsOut([&] { cells.FillFrom(3, Maker{1}); }));
     EXPECT_EQ(TextsOf(cells, 4), L"00 01 02 03/10 - 12 -/") << "the rest stays empty";
+}
+
+// ---- Memory of cells --------------------------------------------------------------------------------------
+
+namespace
+{
+std::atomic<int> s_blocks = 0; ///< that the cells' memory has of the heap
+
+void* TakeBlock(size_t size)
+{
+    if (--s_allocations < 0)
+        AfxThrowMemoryException();
+    ++s_blocks;
+    return CObject::operator new(size);
+}
+
+void GiveBlock(void* p)
+{
+    --s_blocks;
+    CObject::operator delete(p);
+}
+
+struct CountedHeap
+{
+    const owtest::ImportStandIn take{L"DialogControlsOW.dll", "_ZN7CObjectnwEy", &TakeBlock};
+    const owtest::ImportStandIn give{L"DialogControlsOW.dll", "_ZN7CObjectdlEPv", &GiveBlock};
+};
+} // namespace
+
+TEST(CellMemory, ComesInBlocksThatGoBackWithTheirLastCell)
+{
+    constexpr size_t size = 504;
+    constexpr int inBlock = 63;
+    const CountedHeap heap;
+    s_allocations = 3;
+    std::vector<void*> cells;
+    const auto takeTo = [&](size_t count)
+    {
+        while (cells.size() < count)
+            cells.push_back(CGridCellBase::operator new(size));
+    };
+    takeTo(2 * inBlock + 1);
+    for (void*& p : {std::ref(cells[inBlock]), std::ref(cells[0])}) // of full blocks, which have room then
+        CGridCellBase::operator delete(std::exchange(p, nullptr), size);
+    for (void*& p : {std::ref(cells[0]), std::ref(cells[inBlock])})
+        p = CGridCellBase::operator new(size);
+    takeTo(3 * inBlock);
+    EXPECT_TRUE(RunsOut([&] { takeTo(cells.size() + 1); })) << "the fourth block";
+    for (int left = static_cast<int>(cells.size()); left > 0;)
+    {
+        EXPECT_EQ(s_blocks, (left + inBlock - 1) / inBlock);
+        CGridCellBase::operator delete(cells[--left], size);
+    }
+    CGridCellBase::operator delete(nullptr, size);
+    EXPECT_EQ(s_blocks, 0);
+}
+
+TEST(CellMemory, IsEachCellsOwnInAnySizeAndThread)
+{
+    const CountedHeap heap;
+    s_allocations = INT_MAX;
+    const auto walk = [](unsigned seed)
+    {
+        std::mt19937 random(seed);
+        std::vector<std::basic_string_view<BYTE>> cells;
+        for (int step = 0; step < 20000 || !cells.empty(); ++step)
+        {
+            if (step < 20000 && random() % 2)
+            {
+                const size_t size = random() % 3 ? 1 + random() % 40 : 490 + random() % 40;
+                auto* const p = static_cast<BYTE*>(CGridCellBase::operator new(size));
+                EXPECT_EQ(reinterpret_cast<size_t>(p) % 16, 0u);
+                std::fill_n(p, size, static_cast<BYTE>(random()));
+                cells.emplace_back(p, size);
+            }
+            else if (!cells.empty())
+            {
+                std::swap(cells[random() % cells.size()], cells.back());
+                EXPECT_EQ(cells.back().find_first_not_of(cells.back().front()), std::string::npos);
+                CGridCellBase::operator delete(const_cast<BYTE*>(cells.back().data()), cells.back().size());
+                cells.pop_back();
+            }
+        }
+    };
+    std::vector<std::thread> threads;
+    for (const unsigned seed : {1, 2, 3})
+        threads.emplace_back(walk, seed);
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(s_blocks, 0);
 }
 
 // ---- Sorting ----------------------------------------------------------------------------------------------

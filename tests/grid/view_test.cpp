@@ -167,6 +167,35 @@ TEST(GridAxis, KeepsCountOfItsSizesAlsoOfThoseThatAreAllAlike)
     }
 }
 
+TEST(GridAxis, SharesWhatIsLeftAmongThoseThatShow)
+{
+    using Sizes = std::vector<int>;
+    struct Case
+    {
+        Sizes before;
+        int nFirst, nPixels;
+        Sizes after; ///< none: nothing to share it among
+    };
+    for (const Case& c : {Case{{60, 60, 60}, 0, 11, {64, 64, 63}},
+                          {{60, 60, 60}, 0, -10, {56, 57, 57}},
+                          {{60, 60, 60}, 1, 5, {60, 63, 62}},
+                          {{60, 0, 60, 60}, 0, 5, {62, 0, 61, 61}}, // the hidden one takes up a place
+                          {{5, 60}, 0, -20, {1, 50}},
+                          {{60, 0, 0}, 1, 5, {}},
+                          {{60, 60}, 2, 5, {}}})
+    {
+        CGridAxis axis;
+        axis.SetCount(static_cast<int>(c.before.size()), 60);
+        for (int item = 0; item < axis.Count(); ++item)
+            axis.SetSize(item, c.before[item]);
+        EXPECT_EQ(axis.Share(c.nFirst, c.nPixels), !c.after.empty());
+        Sizes after;
+        for (int item = 0; item < axis.Count(); ++item)
+            after.push_back(axis.Size(item));
+        EXPECT_EQ(after, c.after.empty() ? c.before : c.after);
+    }
+}
+
 TEST_F(GridView, ARangeReachesFromItsFirstCellToItsLast)
 {
     CRect rect;
@@ -176,6 +205,31 @@ TEST_F(GridView, ARangeReachesFromItsFirstCellToItsLast)
     EXPECT_FALSE(View().RangeRect(CCellRange(-1, 1, 2, 2), rect));
     EXPECT_EQ(View().ScrollingPart(EGridWay::eColumns), CRect(60, 0, 300, 200));
     EXPECT_EQ(View().ScrollingPart(EGridWay::eRows), CRect(0, 20, 300, 200));
+}
+
+TEST_F(GridView, ADragGoesOnFromTheEdgeThatItHasLeft)
+{
+    using Edge = std::optional<std::tuple<bool, int, int>>; // whether it goes on, and not back; from where
+    const auto beyond = [&](EGridWay way, CPoint point)
+    {
+        const auto found = View().Beyond(way, point);
+        return found ? Edge({found->bOn, found->edge.x, found->edge.y}) : Edge();
+    };
+    struct Case
+    {
+        CPoint point;
+        Edge down, sideways;
+    };
+    for (const Case& c : {Case{{300, 200}, {}, {}},
+                          {{60, 20}, {}, {}},
+                          {{301, 201}, {{true, 300, 200}}, {{true, 300, 200}}},
+                          {{59, 19}, {{false, 59, 21}}, {{false, 61, 19}}},
+                          {{-5, 999}, {{true, 0, 200}}, {{false, 61, 200}}},
+                          {{999, -5}, {{false, 300, 21}}, {{true, 300, 0}}}})
+    {
+        EXPECT_EQ(beyond(EGridWay::eRows, c.point), c.down) << c.point.x << ',' << c.point.y;
+        EXPECT_EQ(beyond(EGridWay::eColumns, c.point), c.sideways) << c.point.x << ',' << c.point.y;
+    }
 }
 
 // ---- Dividers ---------------------------------------------------------------------------------------------
@@ -304,6 +358,23 @@ TEST(GridBars, OneBarMayMakeTheOtherNecessary)
     }
     for (const CSize small : {CSize(60, 200), CSize(300, 20), CSize(61, 21)})
         EXPECT_EQ(gfnPlanGridBars(small, fixed, CSize(999, 999), thickness).bOnlyHeadersFit, small.cx != 61);
+}
+
+TEST(GridBars, LeaveTheAreaThatTheyTakeUp)
+{
+    for (const DWORD dwBars : {0L, WS_VSCROLL, WS_HSCROLL, WS_VSCROLL | WS_HSCROLL})
+    {
+        CWnd window;
+        ASSERT_TRUE(
+            window.CreateEx(0, L"STATIC", nullptr, WS_POPUP | dwBars, CRect(0, 0, 99, 99), nullptr, 0));
+        const CGridScrollBars bars(window);
+        const CSize freed(
+            dwBars & WS_VSCROLL ? ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER) : 0,
+            dwBars & WS_HSCROLL ? ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER) : 0);
+        EXPECT_EQ(bars.AreaWithout(CSize(70, 50)), CSize(70, 50) + freed);
+        EXPECT_EQ(bars.AreaWithout(CSize(0, 50)), CSize(0, 0));
+        EXPECT_EQ(bars.AreaWithout(CSize(70, 0)), CSize(0, 0));
+    }
 }
 
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
