@@ -42,7 +42,6 @@ public:
     /// of rows and columns may shrink meanwhile.
     using CDrawCell = std::function<void(int nRow, int nCol, const CRect& rect)>;
     void DrawCells(const CDrawCell& draw) const;
-    void DrawLinesBehind(EGridWay way) const;
 
     /// Along the last pixels of rows and columns, in the body only. `nLines`: GVL_ values.
     void DrawLines(int nLines, COLORREF clr) const;
@@ -51,6 +50,7 @@ public:
 
 private:
     void DrawPass(const CRect& rectClip, const CCellRange& range, CPoint origin, const CDrawCell& draw) const;
+    void DrawLinesBehind(EGridWay way) const;
 
     CDC& m_dc;
     const CGridView m_view;
