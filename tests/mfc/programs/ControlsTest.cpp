@@ -10,6 +10,7 @@
 #include "Picture.h"
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
 namespace
@@ -258,6 +259,14 @@ TEST(BitmapButton, ShowsTheBitmapOfItsState)
     CBitmapButton missing;
     EXPECT_FALSE(missing.LoadBitmaps(L"NO_SUCH_BITMAP"));
     EXPECT_FALSE(missing.AutoLoad(99, &host));
+    CButton plain;
+    ASSERT_TRUE(plain.Create(L"Turn", WS_CHILD | BS_OWNERDRAW, CRect(0, 0, 1, 1), &host, 98));
+    plain.UnsubclassWindow();
+    CBitmapButton turn;
+    EXPECT_TRUE(turn.AutoLoad(98, &host)); // TURNU and TURND; the others are missing
+    CRect size;
+    turn.GetClientRect(&size);
+    EXPECT_GT(size.Width(), 8);
 }
 
 TEST(ToolBar, KnowsItsButtonsTextsAndStates)
@@ -346,6 +355,78 @@ TEST(ListCtrl, IsSortedByIndexAndKeepsItsData)
     CListCtrl virtualList;
     ASSERT_TRUE(virtualList.Create(WS_CHILD | LVS_REPORT | LVS_OWNERDATA, CRect(0, 0, 9, 9), &host, 4));
     EXPECT_FALSE(virtualList.SortItemsEx([](LPARAM, LPARAM, LPARAM) { return 0; }, 0));
+}
+
+/// A window with two buttons and a label below the first, and tips that are the buttons' texts.
+class TippedHost : public Host
+{
+public:
+    TippedHost()
+    {
+        constexpr DWORD visible = WS_CHILD | WS_VISIBLE;
+        first.Create(L"first", visible, CRect(0, 0, 60, 30), this, 11);
+        second.Create(L"second", visible, CRect(100, 0, 160, 30), this, 12);
+        label.Create(L"label", visible, CRect(0, 60, 60, 90), this);
+        EnableToolTips();
+    }
+    /// Whether this text, or for none no tip, is shown in the end.
+    static bool Shows(std::wstring_view text)
+    {
+        return owtest::PumpUntil(
+            [=]
+            {
+                HWND tip = nullptr;
+                while ((tip = ::FindWindowEx(nullptr, tip, TOOLTIPS_CLASS, nullptr)) != nullptr &&
+                       !(CWnd::FromHandlePermanent(tip) != nullptr && ::IsWindowVisible(tip)))
+                    ;
+                return (tip != nullptr ? owtest::TextOf(*CWnd::FromHandle(tip)) : L"") == text;
+            });
+    }
+    CButton first;
+    CButton second;
+    CStatic label;
+
+protected:
+    afx_msg BOOL OnNeedText(UINT, NMHDR* header, LRESULT*)
+    {
+        auto& tip = *reinterpret_cast<TOOLTIPTEXT*>(header);
+        if ((tip.uFlags & TTF_IDISHWND) == 0)
+            return FALSE;
+        ::GetWindowText(reinterpret_cast<HWND>(header->idFrom), tip.szText, ARRAYSIZE(tip.szText));
+        return TRUE;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(TippedHost, Host)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &TippedHost::OnNeedText)
+END_MESSAGE_MAP()
+
+TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
+{
+    TippedHost host;
+    const auto over = [](const CWnd& control) { owtest::MoveTo(control.m_hWnd, CPoint(5, 5)); };
+    over(host.first);
+    EXPECT_TRUE(host.Shows(L"first"));
+    over(host.second);
+    EXPECT_TRUE(host.Shows(L"second"));
+    over(host.label);
+    EXPECT_TRUE(host.Shows(L""));
+    over(host.second);
+    EXPECT_TRUE(host.Shows(L"second"));
+    owtest::Click(host.second.m_hWnd);
+    EXPECT_TRUE(host.Shows(L""));
+    over(host.first);
+    EXPECT_TRUE(host.Shows(L"first"));
+    owtest::Press(VK_SPACE);
+    EXPECT_TRUE(host.Shows(L""));
+    over(host.second);
+    EXPECT_TRUE(host.Shows(L"second"));
+    host.EnableToolTips(FALSE);
+    EXPECT_TRUE(host.Shows(L""));
+    over(host.first);
+    owtest::Pump();
+    EXPECT_TRUE(host.Shows(L""));
 }
 
 TEST(FileDialog, TellsOfASelectionThatChanges)

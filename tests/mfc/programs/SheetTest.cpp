@@ -8,6 +8,7 @@
 #include "DialogTemplate.h"
 #include "Input.h"
 #include "ModalVisit.h"
+#include "resource.h"
 
 #include <functional>
 #include <memory>
@@ -36,17 +37,23 @@ public:
         log += L's';
         return active && CPropertyPage::OnSetActive();
     }
-    BOOL OnKillActive() override { return (log += L'k', CPropertyPage::OnKillActive()); }
+    BOOL OnKillActive() override { return (log += L'k', leaves) && CPropertyPage::OnKillActive(); }
     BOOL OnApply() override { return (log += L'a', applies) && CPropertyPage::OnApply(); }
     void OnOK() override { log += L'o'; }
     void OnCancel() override { log += L'c'; }
     BOOL OnQueryCancel() override { return (log += L'q', mayCancel); }
+    LRESULT OnWizardNext() override { return next; }
+    LRESULT OnWizardBack() override { return back; }
+    BOOL OnWizardFinish() override { return applies; }
 
     CString log;
     BOOL active = TRUE;
+    BOOL leaves = TRUE;
     BOOL applies = TRUE;
     BOOL mayCancel = TRUE;
     LRESULT sibling = 0;
+    LRESULT next = 0;
+    LRESULT back = 0;
     CString value = L"value";
 
 protected:
@@ -208,6 +215,84 @@ TEST_F(Sheet, APageMayKeepItOpen)
         });
     EXPECT_EQ(sheet.DoModal(), IDOK);
     EXPECT_TRUE(refused);
+}
+
+TEST_F(Sheet, ControlWithTabOrAPageKeyChangesThePageUnlessThatKeepsTheUser)
+{
+    ASSERT_TRUE(sheet.Create());
+    ASSERT_TRUE(owtest::Activate(sheet));
+    const auto press = [&](WORD key)
+    {
+        owtest::Press(key, false, true);
+        return sheet.GetActiveIndex();
+    };
+    EXPECT_EQ(press(VK_TAB), 1);
+    EXPECT_EQ(press(VK_PRIOR), 0);
+    EXPECT_EQ(press(VK_NEXT), 1);
+    second.leaves = FALSE;
+    EXPECT_EQ(press(VK_TAB), 1);
+    sheet.DestroyWindow();
+}
+
+TEST_F(Sheet, AsAWizardFollowsWhatItsPagesSay)
+{
+    sheet.RemovePage(1);
+    sheet.AddPage(&third);
+    sheet.AddPage(&second);
+    sheet.SetWizardMode();
+    const auto press = [&](int button, DWORD buttons)
+    {
+        sheet.SetWizardButtons(buttons);
+        const HWND pressed = sheet.GetDlgItem(button)->m_hWnd;
+        EXPECT_TRUE(owtest::PumpUntil([=] { return ::IsWindowEnabled(pressed) != FALSE; }));
+        EXPECT_EQ(::IsWindowEnabled(sheet.GetDlgItem(ID_WIZBACK)->m_hWnd), (buttons & PSWIZB_BACK) != 0);
+        owtest::Click(pressed);
+        return sheet.m_hWnd != nullptr ? sheet.GetActivePage() : nullptr;
+    };
+    owtest::ModalVisit visit(
+        [&](CWnd&)
+        {
+            EXPECT_EQ(press(ID_WIZNEXT, PSWIZB_NEXT), &third);
+            EXPECT_EQ(press(ID_WIZBACK, PSWIZB_BACK), &first);
+            first.next = reinterpret_cast<LRESULT>(second.m_psp.pResource); // past the third
+            EXPECT_EQ(press(ID_WIZNEXT, PSWIZB_NEXT), &second);
+            second.back = -1;
+            EXPECT_EQ(press(ID_WIZBACK, PSWIZB_BACK), &second);
+            second.applies = FALSE;
+            EXPECT_EQ(press(ID_WIZFINISH, PSWIZB_BACK | PSWIZB_FINISH), &second);
+            second.applies = TRUE;
+            press(ID_WIZFINISH, PSWIZB_FINISH);
+        });
+    EXPECT_EQ(sheet.DoModal(), ID_WIZFINISH);
+}
+
+TEST_F(Sheet, TakesItsTextsPicturesAndPagesFromResources)
+{
+    struct BuiltSheet : CPropertySheet
+    {
+        using CPropertySheet::BuildPropPageArray;
+        using CPropertySheet::CPropertySheet;
+    } built(IDS_SHEET, nullptr, 1, HBITMAP(1), HPALETTE(2), HBITMAP(3));
+    CPropertyPage page(IDD_PAGE, IDS_TAB, IDS_HEADER, IDS_SUBTITLE);
+    built.AddPage(&page);
+    built.BuildPropPageArray();
+    EXPECT_STREQ(built.m_psh.pszCaption, L"Beam");
+    EXPECT_EQ(built.m_psh.nStartPage, 1u);
+    constexpr DWORD pictures =
+        PSH_USEHBMWATERMARK | PSH_WATERMARK | PSH_USEHPLWATERMARK | PSH_USEHBMHEADER | PSH_HEADER;
+    EXPECT_EQ(built.m_psh.dwFlags & pictures, pictures);
+    EXPECT_TRUE(built.m_psh.hbmWatermark == HBITMAP(1) && built.m_psh.hplWatermark == HPALETTE(2) &&
+                built.m_psh.hbmHeader == HBITMAP(3));
+    EXPECT_EQ(CPropertySheet(L"plain", nullptr, 0, nullptr).m_psh.dwFlags & pictures, 0u);
+    ASSERT_EQ(built.m_psh.nPages, 1u);
+    EXPECT_STREQ(built.m_psh.ppsp->pszTitle, L"Cross section");
+    EXPECT_STREQ(built.m_psh.ppsp->pszHeaderTitle, L"Header");
+    EXPECT_STREQ(built.m_psh.ppsp->pszHeaderSubTitle, L"Subtitle");
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create());
+    EXPECT_TRUE(sheet.SetActivePage(&page));
+    EXPECT_NE(page.GetDlgItem(IDC_GRADE), nullptr);
+    sheet.DestroyWindow();
 }
 
 TEST_F(Sheet, APageThatIsNotToBeShownIsPassedOver)

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <tuple>
 
 namespace
 {
@@ -57,25 +58,36 @@ TEST(Extension, AMissingResourceAnswersTheCurrentHandle)
     EXPECT_STREQ(text, L"early o");
 }
 
-TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsLists)
+TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
 {
-    CDialog dialog;
-    ASSERT_TRUE(dialog.Create(IDD_EXTENSION_DIALOG));
-    EXPECT_EQ(dialog.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETCOUNT), 2);
-    wchar_t second[16] = L"";
-    dialog.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(second));
-    EXPECT_STREQ(second, L"two");
-
     const auto resource = [](LPCTSTR type)
     {
         const HMODULE module = EarlyExtension();
         return ::LockResource(
             ::LoadResource(module, ::FindResource(module, MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), type)));
     };
+    CDialog named;
     CDialog indirect;
-    const auto form = static_cast<LPCDLGTEMPLATE>(resource(RT_DIALOG));
-    ASSERT_TRUE(indirect.CreateIndirect(form, nullptr, resource(MAKEINTRESOURCE(240))));
-    EXPECT_EQ(indirect.SendDlgItemMessage(IDC_EXTENSION_LIST, CB_GETCOUNT), 2) << "given as memory";
+    ASSERT_TRUE(named.Create(IDD_EXTENSION_DIALOG));
+    ASSERT_TRUE(indirect.CreateIndirect(static_cast<LPCDLGTEMPLATE>(resource(RT_DIALOG)), nullptr,
+                                        resource(MAKEINTRESOURCE(240))));
+    for (CWnd* const dialog : {&named, &indirect})
+        for (const auto& [id, ask, index, text] :
+             {std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 0, L"Beam"),
+              std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 1, L"Plate"),
+              std::tuple(IDC_EXTENSION_LIST, LB_GETTEXT, 0, L"S235")})
+        {
+            wchar_t read[16] = L"";
+            dialog->SendDlgItemMessage(id, ask, index, reinterpret_cast<LPARAM>(read));
+            EXPECT_STREQ(read, text);
+        }
+    wchar_t picture[16] = L"";
+    COMBOBOXEXITEM item{};
+    item.mask = CBEIF_TEXT;
+    item.pszText = picture;
+    item.cchTextMax = ARRAYSIZE(picture);
+    named.SendDlgItemMessage(IDC_EXTENSION_PICTURES, CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
+    EXPECT_STREQ(picture, L"Bolts");
 }
 
 TEST(Extension, ExceptionsCrossModulesByTheirTypes)
