@@ -7,7 +7,8 @@
 struct CThreadState
 {
     // Message dispatch
-    MSG lastSentMessage{}; ///< the message that the innermost AfxCallWndProc handles
+    MSG noMessage{};
+    MSG* lastSentMessage = &noMessage; ///< the message that the innermost AfxCallWndProc handles
     HWND lockoutNotifyWindow =
         nullptr; ///< window whose controls' notifications are dropped: it exchanges data
 

@@ -66,7 +66,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
         const CThreadState& state = GetThreadState();
         if (state.lockoutNotifyWindow == m_hWnd)
             return TRUE;
-        const MSG& last = state.lastSentMessage;
+        const MSG& last = *state.lastSentMessage;
         CWnd* const child = FromHandlePermanent(control);
         if (child != nullptr && child->OnChildNotify(last.message, last.wParam, last.lParam, nullptr))
             return TRUE;
@@ -102,7 +102,7 @@ BOOL PASCAL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult)
 
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult)
 {
-    const MSG message = GetThreadState().lastSentMessage;
+    const MSG& message = *GetThreadState().lastSentMessage;
     return OnChildNotify(message.message, message.wParam, message.lParam, pResult);
 }
 
@@ -260,7 +260,7 @@ void CWnd::OnSysColorChange()
 
 void CWnd::OnSettingChange(UINT, LPCTSTR)
 {
-    const MSG message = GetThreadState().lastSentMessage;
+    const MSG& message = *GetThreadState().lastSentMessage;
     if (IsBroadcastReceiver(*this))
         SendMessageToDescendants(WM_SETTINGCHANGE, message.wParam, message.lParam, TRUE, TRUE);
     Default();

@@ -69,12 +69,8 @@ private:
 
 LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
-    MSG message{};
-    message.hwnd = hWnd;
-    message.message = nMsg;
-    message.wParam = wParam;
-    message.lParam = lParam;
-    const CRestoreValue<MSG> nested(GetThreadState().lastSentMessage, message);
+    MSG message{hWnd, nMsg, wParam, lParam, 0, {}};
+    const CRestoreValue<MSG*> nested(GetThreadState().lastSentMessage, &message);
 
     try
     {
@@ -93,7 +89,7 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, L
 
 const MSG* PASCAL CWnd::GetCurrentMessage()
 {
-    MSG& message = GetThreadState().lastSentMessage;
+    MSG& message = *GetThreadState().lastSentMessage;
     const DWORD position = ::GetMessagePos();
     message.pt.x = static_cast<short>(LOWORD(position));
     message.pt.y = static_cast<short>(HIWORD(position));
@@ -103,7 +99,7 @@ const MSG* PASCAL CWnd::GetCurrentMessage()
 
 LRESULT CWnd::Default()
 {
-    const MSG message = GetThreadState().lastSentMessage;
+    const MSG& message = *GetThreadState().lastSentMessage;
     return DefWindowProc(message.message, message.wParam, message.lParam);
 }
 
