@@ -182,20 +182,43 @@ class AFX_CORE_CLASS CPropertyPage : public CDialog
 public:
     /// The template's caption is the tab's text unless `nIDCaption` names a string. The header texts belong to wizards
     /// with PSH_WIZARD97.
-    CPropertyPage();
-    explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
+    CPropertyPage() { CommonConstruct(nullptr); }
+    explicit CPropertyPage(UINT nIDTemplate, UINT nIDCaption = 0, DWORD dwSize = sizeof(PROPSHEETPAGE))
+        : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption, dwSize)
+    {
+    }
     explicit CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption = 0,
-                           DWORD dwSize = sizeof(PROPSHEETPAGE));
+                           DWORD dwSize = sizeof(PROPSHEETPAGE))
+    {
+        CommonConstruct(lpszTemplateName, nIDCaption, 0, 0, dwSize);
+    }
     CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
-                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+                  DWORD dwSize = sizeof(PROPSHEETPAGE))
+        : CPropertyPage(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, dwSize)
+    {
+    }
     CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0,
-                  DWORD dwSize = sizeof(PROPSHEETPAGE));
+                  DWORD dwSize = sizeof(PROPSHEETPAGE))
+    {
+        CommonConstruct(lpszTemplateName, nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, dwSize);
+    }
     ~CPropertyPage() override;
-    void Construct(UINT nIDTemplate, UINT nIDCaption = 0);
-    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0);
-    void Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0);
-    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
-                   UINT nIDHeaderSubTitle = 0);
+    void Construct(UINT nIDTemplate, UINT nIDCaption = 0)
+    {
+        CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption);
+    }
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0)
+    {
+        CommonConstruct(lpszTemplateName, nIDCaption);
+    }
+    void Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0)
+    {
+        CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle);
+    }
+    void Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle = 0)
+    {
+        CommonConstruct(lpszTemplateName, nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle);
+    }
 
     PROPSHEETPAGE m_psp; ///< may be changed before the page is added; lParam is the object
     PROPSHEETPAGE& GetPSP() { return m_psp; }
@@ -228,8 +251,8 @@ public:
 protected:
     friend class CPropertySheet;
 
-    void CommonConstruct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
-                         UINT nIDHeaderSubTitle, DWORD dwSize);
+    void CommonConstruct(LPCTSTR lpszTemplateName, UINT nIDCaption = 0, UINT nIDHeaderTitle = 0,
+                         UINT nIDHeaderSubTitle = 0, DWORD dwSize = sizeof(PROPSHEETPAGE));
     /// Makes a template in the sheet's font the one that is used.
     void PreProcessPageTemplate(PROPSHEETPAGE& psp, BOOL bWizard);
     LRESULT MapWizardResult(LRESULT lToMap);
@@ -251,21 +274,41 @@ class AFX_CORE_CLASS CPropertySheet : public CWnd
     DECLARE_DYNAMIC(CPropertySheet)
 
 public:
-    CPropertySheet();
-    explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
-    explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
+    CPropertySheet() { CommonConstruct(nullptr, 0); }
+    explicit CPropertySheet(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0)
+    {
+        Construct(nIDCaption, pParentWnd, iSelectPage);
+    }
+    explicit CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0)
+    {
+        Construct(pszCaption, pParentWnd, iSelectPage);
+    }
     /// With the pictures of a wizard; they stay the caller's.
     CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr)
+    {
+        Construct(nIDCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+    }
     CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr)
+    {
+        Construct(pszCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
+    }
     ~CPropertySheet() override;
     void Construct(UINT nIDCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     void Construct(LPCTSTR pszCaption, CWnd* pParentWnd = nullptr, UINT iSelectPage = 0);
     void Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr)
+    {
+        Construct(nIDCaption, pParentWnd, iSelectPage);
+        SetPictures(hbmWatermark, hpalWatermark, hbmHeader);
+    }
     void Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr);
+                   HPALETTE hpalWatermark = nullptr, HBITMAP hbmHeader = nullptr)
+    {
+        Construct(pszCaption, pParentWnd, iSelectPage);
+        SetPictures(hbmWatermark, hpalWatermark, hbmHeader);
+    }
 
     PROPSHEETHEADER m_psh; ///< may be changed before DoModal or Create
     PROPSHEETHEADER& GetPSH() { return m_psh; }

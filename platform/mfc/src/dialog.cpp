@@ -3,6 +3,7 @@
 #include <afxpriv.h>
 
 #include "dialog.h"
+#include "dlgtemplate.h"
 #include "threadstate.h"
 #include "wndclass.h"
 
@@ -73,22 +74,6 @@ private:
     HGLOBAL m_memory;
     void* m_template;
 };
-
-/// The style of a template, which stands elsewhere in the extended form.
-DWORD StyleOf(LPCDLGTEMPLATE dialogTemplate)
-{
-    struct CExtendedHead
-    {
-        WORD version;
-        WORD signature; ///< 0xFFFF marks the extended form
-        DWORD helpId;
-        DWORD exStyle;
-        DWORD style;
-    };
-    CExtendedHead head;
-    memcpy(&head, dialogTemplate, sizeof head);
-    return head.signature == 0xFFFF ? head.style : dialogTemplate->style;
-}
 } // namespace
 
 INT_PTR CALLBACK AfxDlgProc(HWND window, UINT message, WPARAM, LPARAM)

@@ -4,17 +4,6 @@
 
 namespace
 {
-/// The head of the extended form, as far as it is looked at.
-struct CExtendedHead
-{
-    WORD version;
-    WORD signature; ///< 0xFFFF marks the extended form
-    DWORD helpId;
-    DWORD exStyle;
-    DWORD style;
-    WORD items;
-    short x, y, cx, cy;
-};
 constexpr size_t extendedHeadSize = 26; // bytes; the structure is padded at its end
 constexpr size_t plainHeadSize = sizeof(DLGTEMPLATE);
 
@@ -26,8 +15,8 @@ public:
         : m_bytes(reinterpret_cast<const BYTE*>(dialogTemplate))
     {
         const auto& extended = *reinterpret_cast<const CExtendedHead*>(m_bytes);
-        m_isExtended = extended.signature == 0xFFFF;
-        style = m_isExtended ? extended.style : dialogTemplate->style;
+        m_isExtended = extended.signature == CExtendedHead::mark;
+        style = StyleOf(dialogTemplate);
         items = m_isExtended ? extended.items : dialogTemplate->cdit;
         font = m_isExtended ? extendedHeadSize : plainHeadSize;
         for (int name = 0; name < 3; ++name) // menu, class, caption
@@ -78,6 +67,12 @@ private:
     bool m_isExtended;
 };
 } // namespace
+
+DWORD StyleOf(LPCDLGTEMPLATE dialogTemplate)
+{
+    const auto& extended = *reinterpret_cast<const CExtendedHead*>(dialogTemplate);
+    return extended.signature == CExtendedHead::mark ? extended.style : dialogTemplate->style;
+}
 
 CTemplateFont FontOf(LPCDLGTEMPLATE dialogTemplate)
 {

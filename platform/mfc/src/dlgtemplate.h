@@ -3,6 +3,23 @@
 
 #include <afxwin.h>
 
+/// The head of the extended form, as far as it is looked at.
+struct CExtendedHead
+{
+    static constexpr WORD mark = 0xFFFF;
+
+    WORD version;
+    WORD signature; ///< `mark` in this form
+    DWORD helpId;
+    DWORD exStyle;
+    DWORD style;
+    WORD items;
+    short x, y, cx, cy;
+};
+
+/// The style of a template of either form.
+DWORD StyleOf(LPCDLGTEMPLATE dialogTemplate);
+
 /// The font that a template asks for.
 struct CTemplateFont
 {

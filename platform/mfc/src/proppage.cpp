@@ -33,59 +33,9 @@ bool IsHelpHandled()
             return true;
     return false;
 }
-
-constexpr DWORD pageSize = sizeof(PROPSHEETPAGE);
 } // namespace
 
-CPropertyPage::CPropertyPage()
-{
-    CommonConstruct(nullptr, 0, 0, 0, pageSize);
-}
-
-CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, DWORD dwSize)
-{
-    CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, 0, 0, dwSize);
-}
-
-CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, DWORD dwSize)
-{
-    CommonConstruct(lpszTemplateName, nIDCaption, 0, 0, dwSize);
-}
-
-CPropertyPage::CPropertyPage(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle,
-                             DWORD dwSize)
-{
-    CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, dwSize);
-}
-
-CPropertyPage::CPropertyPage(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
-                             UINT nIDHeaderSubTitle, DWORD dwSize)
-{
-    CommonConstruct(lpszTemplateName, nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, dwSize);
-}
-
 CPropertyPage::~CPropertyPage() = default;
-
-void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption)
-{
-    CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, 0, 0, pageSize);
-}
-
-void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption)
-{
-    CommonConstruct(lpszTemplateName, nIDCaption, 0, 0, pageSize);
-}
-
-void CPropertyPage::Construct(UINT nIDTemplate, UINT nIDCaption, UINT nIDHeaderTitle, UINT nIDHeaderSubTitle)
-{
-    CommonConstruct(MAKEINTRESOURCE(nIDTemplate), nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, pageSize);
-}
-
-void CPropertyPage::Construct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
-                              UINT nIDHeaderSubTitle)
-{
-    CommonConstruct(lpszTemplateName, nIDCaption, nIDHeaderTitle, nIDHeaderSubTitle, pageSize);
-}
 
 void CPropertyPage::CommonConstruct(LPCTSTR lpszTemplateName, UINT nIDCaption, UINT nIDHeaderTitle,
                                     UINT nIDHeaderSubTitle, DWORD dwSize)
@@ -187,9 +137,7 @@ BOOL CPropertyPage::OnSetActive()
 LRESULT CPropertyPage::MapWizardResult(LRESULT lToMap)
 {
     const CPropertySheet* const sheet = GetParentSheet();
-    if (lToMap == 0 || lToMap == -1 || sheet == nullptr)
-        return lToMap;
-    for (int index = 0; index < sheet->GetPageCount(); ++index)
+    for (int index = 0; sheet != nullptr && index < sheet->GetPageCount(); ++index)
     {
         const CPropertyPage& page = *sheet->GetPage(index);
         if (reinterpret_cast<LRESULT>(page.m_psp.pszTemplate) == lToMap)

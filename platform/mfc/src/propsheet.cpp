@@ -4,6 +4,7 @@
 #include <afxpriv.h>
 
 #include "dialog.h"
+#include "dlgtemplate.h"
 #include "threadstate.h"
 #include "wndclass.h"
 
@@ -24,33 +25,6 @@ END_MESSAGE_MAP()
 // ---------------------------------------------------------------------------------------------------------
 // Construction
 
-CPropertySheet::CPropertySheet()
-{
-    CommonConstruct(nullptr, 0);
-}
-
-CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
-{
-    Construct(nIDCaption, pParentWnd, iSelectPage);
-}
-
-CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage)
-{
-    Construct(pszCaption, pParentWnd, iSelectPage);
-}
-
-CPropertySheet::CPropertySheet(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                               HPALETTE hpalWatermark, HBITMAP hbmHeader)
-{
-    Construct(nIDCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
-}
-
-CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                               HPALETTE hpalWatermark, HBITMAP hbmHeader)
-{
-    Construct(pszCaption, pParentWnd, iSelectPage, hbmWatermark, hpalWatermark, hbmHeader);
-}
-
 CPropertySheet::~CPropertySheet() = default;
 
 void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage)
@@ -63,20 +37,6 @@ void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 {
     m_strCaption = pszCaption;
     CommonConstruct(pParentWnd, iSelectPage);
-}
-
-void CPropertySheet::Construct(UINT nIDCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                               HPALETTE hpalWatermark, HBITMAP hbmHeader)
-{
-    Construct(nIDCaption, pParentWnd, iSelectPage);
-    SetPictures(hbmWatermark, hpalWatermark, hbmHeader);
-}
-
-void CPropertySheet::Construct(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelectPage, HBITMAP hbmWatermark,
-                               HPALETTE hpalWatermark, HBITMAP hbmHeader)
-{
-    Construct(pszCaption, pParentWnd, iSelectPage);
-    SetPictures(hbmWatermark, hpalWatermark, hbmHeader);
 }
 
 void CPropertySheet::CommonConstruct(CWnd* parent, UINT selectedPage)
@@ -161,16 +121,11 @@ int CALLBACK SheetCallback(HWND, UINT message, LPARAM lParam)
     if (message != PSCB_PRECREATE)
         return 0;
     // The system's template, of either form, and possibly still in its read-only resource.
-    struct CExtendedHead
-    {
-        WORD version, signature;
-        DWORD helpId, exStyle, style;
-    };
     DWORD access = 0;
     ::VirtualProtect(reinterpret_cast<void*>(lParam), sizeof(CExtendedHead), PAGE_READWRITE, &access);
     auto* const extended = reinterpret_cast<CExtendedHead*>(lParam);
     auto* const plain = reinterpret_cast<DLGTEMPLATE*>(lParam);
-    const bool isExtended = extended->signature == 0xFFFF;
+    const bool isExtended = extended->signature == CExtendedHead::mark;
     (isExtended ? extended->style : plain->style) = stylesInCreation.style;
     (isExtended ? extended->exStyle : plain->dwExtendedStyle) = stylesInCreation.exStyle;
     return TRUE;
