@@ -20,7 +20,8 @@ public:
 };
 
 /// Numbers as items, sorted downwards, as high as they are large.
-class DrawnList : public CListBox
+template <class List>
+class DrawnList : public List
 {
 public:
     std::vector<ULONG_PTR> deleted;
@@ -37,6 +38,13 @@ public:
     }
     void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(item->itemData); }
 };
+
+template <class List>
+class OwnerDrawnList : public testing::Test
+{
+};
+using Lists = testing::Types<CListBox, CCheckListBox>;
+TYPED_TEST_SUITE(OwnerDrawnList, Lists);
 } // namespace
 
 TEST(Button, AnOwnerDrawnButtonReceivesItsDrawingFromTheParent)
@@ -52,17 +60,26 @@ TEST(Button, AnOwnerDrawnButtonReceivesItsDrawingFromTheParent)
     EXPECT_NE(button.state & ODS_SELECTED, 0u);
 }
 
-TEST(ListBox, AnOwnerDrawnListMeasuresSortsDrawsAndDeletesItself)
+TYPED_TEST(OwnerDrawnList, MeasuresSortsFindsDrawsAndDeletesItself)
 {
     HostWindow host;
-    DrawnList list;
+    DrawnList<TypeParam> list;
     ASSERT_TRUE(list.Create(CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 1));
-    for (ULONG_PTR item : {10, 30, 20})
-        list.AddString(reinterpret_cast<LPCTSTR>(item));
+    const auto text = [](INT_PTR number) { return reinterpret_cast<LPCTSTR>(number); };
+    for (const int item : {10, 30, 20})
+        list.AddString(text(item));
     EXPECT_EQ(list.GetItemData(0), 30u);
     EXPECT_EQ(list.GetItemData(2), 10u);
     EXPECT_EQ(list.GetItemHeight(0), 30);
     EXPECT_EQ(list.GetItemHeight(1), 20);
+    EXPECT_EQ(list.FindStringExact(-1, text(20)), 1);
+    EXPECT_EQ(list.FindString(1, text(30)), 0); // all round
+    EXPECT_EQ(list.FindString(-1, text(31)), LB_ERR);
+    EXPECT_EQ(list.SelectString(-1, text(10)), 2);
+    EXPECT_EQ(list.GetCurSel(), 2);
+    INT_PTR read = 0;
+    EXPECT_EQ(list.GetText(1, reinterpret_cast<LPTSTR>(&read)), static_cast<int>(sizeof read));
+    EXPECT_EQ(read, 20);
     list.UpdateWindow();
     EXPECT_GE(list.drawn, 3);
     list.DeleteString(1);

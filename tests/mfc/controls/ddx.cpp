@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 namespace
 {
 constexpr int IDC_VALUE = 100;
@@ -249,65 +251,51 @@ TEST_F(ExchangeTest, RadioButtonsOfAGroupAreOneNumber)
     EXPECT_EQ(choice, -1);
 }
 
-TEST_F(ExchangeTest, ChecksListsAndPositions)
+TEST_F(ExchangeTest, ChecksListsAndPositionsMakeTheRoundTrip)
 {
     host.AddControl(WC_BUTTON, 300, BS_AUTO3STATE);
-    CListBox* list = static_cast<CListBox*>(CWnd::FromHandle(host.AddControl(WC_LISTBOX, 301)));
-    list->AddString(L"beam 12");
-    list->AddString(L"beam");
+    const HWND list = host.AddControl(WC_LISTBOX, 301);
     const HWND combo = host.AddControl(WC_COMBOBOX, 302, CBS_DROPDOWN);
-    ::SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"slab"));
-    host.AddControl(WC_SCROLLBAR, 303, SBS_HORZ);
-    ::SetScrollRange(host.GetDlgItem(303)->m_hWnd, SB_CTL, 0, 100, FALSE);
-    host.AddControl(TRACKBAR_CLASS, 304);
-
-    int check = 7;
-    CString prefix(L"beam 1");
-    CString exact(L"beam");
-    CString typed(L"not in the list");
-    int index = -1;
-    int scroll = 33;
-    int slider = 44;
-    host.exchange = [&](CDataExchange* dx)
+    for (LPCTSTR item : {L"beam 12", L"beam"})
     {
-        DDX_Check(dx, 300, check);
-        DDX_LBString(dx, 301, prefix);
-        DDX_LBStringExact(dx, 301, exact);
-        DDX_LBIndex(dx, 301, index);
-        DDX_CBString(dx, 302, typed);
-        DDX_Scroll(dx, 303, scroll);
-        DDX_Slider(dx, 304, slider);
-        if (!dx->m_bSaveAndValidate)
-            DDV_MinMaxSlider(dx, slider, 10, 50);
-    };
-    host.CheckDlgButton(300, BST_CHECKED);
-    host.UpdateData(FALSE);
-    EXPECT_EQ(check, BST_UNCHECKED) << "no check state is unchecked";
-    EXPECT_EQ(host.IsDlgButtonChecked(300), UINT{BST_UNCHECKED});
-    EXPECT_EQ(list->GetCurSel(), -1) << "the index is exchanged last";
-    index = 0;
-    scroll = slider = 0;
-    typed.Empty();
-    list->SetCurSel(1);
-    host.CheckDlgButton(300, BST_INDETERMINATE);
-    host.UpdateData(TRUE);
-    EXPECT_EQ(check, BST_INDETERMINATE);
-    EXPECT_EQ(index, 1);
-    EXPECT_EQ(prefix, exact);
-    EXPECT_EQ(typed, L"not in the list");
-    EXPECT_EQ(scroll, 33);
-    EXPECT_EQ(slider, 44);
+        ::SendMessage(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+        ::SendMessage(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item));
+    }
+    ::SetScrollRange(host.AddControl(WC_SCROLLBAR, 303, SBS_HORZ), SB_CTL, 0, 100, FALSE);
+    const HWND slider = host.AddControl(TRACKBAR_CLASS, 304);
 
-    typed = L"sl";
-    host.exchange = [&](CDataExchange* dx) { DDX_CBString(dx, 302, typed); };
+    const auto back = [&]<class Value>(void(AFXAPI * exchange)(CDataExchange*, int, Value&), int id,
+                                       std::type_identity_t<Value> shown)
+    {
+        Value* value = &shown;
+        host.exchange = [&](CDataExchange* dx) { exchange(dx, id, *value); };
+        EXPECT_TRUE(host.UpdateData(FALSE));
+        Value read{};
+        value = &read;
+        EXPECT_TRUE(host.UpdateData(TRUE));
+        return read;
+    };
+    for (const int state : {BST_CHECKED, BST_UNCHECKED, BST_INDETERMINATE})
+        EXPECT_EQ(back(DDX_Check, 300, state), state);
+    EXPECT_EQ(back(DDX_Check, 300, 7), BST_UNCHECKED) << "no check state is unchecked";
+    EXPECT_EQ(back(DDX_LBIndex, 301, 1), 1);
+    EXPECT_EQ(back(DDX_LBString, 301, L"beam 1"), L"beam 12") << "the item that begins so";
+    EXPECT_EQ(back(DDX_LBStringExact, 301, L"beam"), L"beam");
+    EXPECT_EQ(back(DDX_LBIndex, 301, -1), -1);
+    EXPECT_EQ(back(DDX_CBIndex, 302, 1), 1);
+    EXPECT_EQ(back(DDX_CBString, 302, L"beam 1"), L"beam 12");
+    EXPECT_EQ(back(DDX_CBStringExact, 302, L"beam"), L"beam");
+    EXPECT_EQ(back(DDX_CBString, 302, L"not in the list"), L"not in the list");
+    EXPECT_EQ(back(DDX_Scroll, 303, 33), 33);
+    EXPECT_EQ(back(DDX_Slider, 304, 44), 44);
+    host.exchange = [](CDataExchange* dx)
+    {
+        int value = 30;
+        DDX_Slider(dx, 304, value);
+        DDV_MinMaxSlider(dx, value, 10, 50);
+    };
     host.UpdateData(FALSE);
-    CString shown;
-    host.GetDlgItemText(302, shown);
-    EXPECT_EQ(shown, L"slab") << "the item that begins so";
-    host.exchange = [&](CDataExchange* dx) { DDX_LBStringExact(dx, 301, exact); };
-    exact = L"beam";
-    host.UpdateData(FALSE);
-    CString selected;
-    list->GetText(list->GetCurSel(), selected);
-    EXPECT_EQ(selected, L"beam");
+    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMIN, 0, 0) * 100 +
+                  ::SendMessage(slider, TBM_GETRANGEMAX, 0, 0),
+              1050);
 }

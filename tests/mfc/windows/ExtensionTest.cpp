@@ -1,4 +1,4 @@
-// Extension modules: the chain of resources, modules that come and go, exceptions across modules.
+// Extension modules: the chain of resources, modules that come and go.
 
 #include "TestExtension.h"
 
@@ -72,10 +72,9 @@ TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
     ASSERT_TRUE(indirect.CreateIndirect(static_cast<LPCDLGTEMPLATE>(resource(RT_DIALOG)), nullptr,
                                         resource(MAKEINTRESOURCE(240))));
     for (CWnd* const dialog : {&named, &indirect})
-        for (const auto& [id, ask, index, text] :
-             {std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 0, L"Beam"),
-              std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 1, L"Plate"),
-              std::tuple(IDC_EXTENSION_LIST, LB_GETTEXT, 0, L"S235")})
+        for (const auto& [id, ask, index, text] : {std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 0, L"Beam"),
+                                                   std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 1, L"Plate"),
+                                                   std::tuple(IDC_EXTENSION_LIST, LB_GETTEXT, 0, L"S235")})
         {
             wchar_t read[16] = L"";
             dialog->SendDlgItemMessage(id, ask, index, reinterpret_cast<LPARAM>(read));
@@ -88,21 +87,6 @@ TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
     item.cchTextMax = ARRAYSIZE(picture);
     named.SendDlgItemMessage(IDC_EXTENSION_PICTURES, CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
     EXPECT_STREQ(picture, L"Bolts");
-}
-
-TEST(Extension, ExceptionsCrossModulesByTheirTypes)
-{
-    try
-    {
-        ThrowFromExtension(3);
-        FAIL();
-    }
-    catch (CExtensionException* e)
-    {
-        EXPECT_EQ(e->m_code, 3);
-        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), e->GetRuntimeClass());
-        e->Delete();
-    }
 }
 
 TEST(ModuleState, IsPutInForceForAScope)

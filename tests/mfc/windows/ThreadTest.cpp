@@ -8,7 +8,8 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
+#include <string>
+#include <string_view>
 
 namespace
 {
@@ -164,46 +165,55 @@ TEST(Threads, HaveOleUntilTheirEnd)
     EXPECT_TRUE(ended);
 }
 
+/// The answers of an object that is locked (L), unlocked (U), set (S) or reset (R), as 1 or 0.
+template <class Object>
+std::string Answers(Object& object, std::string_view calls)
+{
+    std::string answers;
+    for (const char call : calls)
+    {
+        BOOL answer = FALSE;
+        if constexpr (std::is_same_v<Object, CEvent>)
+            answer = call == 'S' ? object.SetEvent() : call == 'R' && object.ResetEvent();
+        if (call == 'L' || call == 'U')
+            answer = call == 'L' ? object.Lock(0) : object.Unlock();
+        answers += answer ? '1' : '0';
+    }
+    return answers;
+}
+
 TEST(SyncObjects, BelongToWhoeverLockedThem)
 {
     CMutex mutex(TRUE);
-    CCriticalSection section;
+    const auto isFree = [&]
+    { return OnWorker([&] { return static_cast<UINT>(Answers(mutex, "LU") == "11"); }); };
+    EXPECT_FALSE(isFree());
+    EXPECT_EQ(Answers(mutex, "LU"), "11");
+    EXPECT_FALSE(isFree()); // locked twice, unlocked once
+    EXPECT_EQ(Answers(mutex, "U"), "1");
+    EXPECT_TRUE(isFree());
+    EXPECT_EQ(Answers(mutex, "U"), "0");
+    EXPECT_EQ(OnWorker([&] { return static_cast<UINT>(mutex.Lock()); }), 1u); // and ends with it
+    EXPECT_EQ(Answers(mutex, "L"), "1");
+
     CSemaphore semaphore(1, 3);
-    CEvent automatic(TRUE), manual(FALSE, TRUE);
-    const auto free = [](CSyncObject& object)
-    { return OnWorker([&object] { return static_cast<UINT>(object.Lock(0) && object.Unlock()); }) != 0; };
-
-    EXPECT_FALSE(free(mutex));
-    EXPECT_TRUE(mutex.Lock() && mutex.Unlock());
-    EXPECT_FALSE(free(mutex)); // locked twice, unlocked once
-    EXPECT_TRUE(mutex.Unlock());
-    EXPECT_TRUE(free(mutex));
-    EXPECT_FALSE(mutex.Unlock());
-    EXPECT_EQ(OnWorker([&mutex] { return static_cast<UINT>(mutex.Lock()); }), 1u); // and ends with it
-    EXPECT_TRUE(mutex.Lock(0));
-
-    EXPECT_TRUE(semaphore.Lock(0));
-    EXPECT_FALSE(semaphore.Lock(0));
     LONG before = -1;
+    EXPECT_EQ(Answers(semaphore, "LL"), "10");
     EXPECT_TRUE(semaphore.Unlock(2, &before));
     EXPECT_EQ(before, 0);
     EXPECT_FALSE(semaphore.Unlock(2));
-    EXPECT_TRUE(semaphore.Unlock());
-    EXPECT_FALSE(semaphore.Unlock());
+    EXPECT_EQ(Answers(semaphore, "UU"), "10");
 
-    EXPECT_TRUE(automatic.Lock(0));
-    EXPECT_FALSE(automatic.Lock(0));
-    EXPECT_FALSE(manual.Lock(0));
-    EXPECT_TRUE(manual.SetEvent() && manual.Lock(0) && manual.Lock(0) && manual.Unlock() && manual.Lock(0));
-    EXPECT_TRUE(manual.ResetEvent());
-    EXPECT_FALSE(manual.Lock(0));
-
-    CEvent named(FALSE, TRUE, L"DialogControlsOW event"), same(FALSE, TRUE, L"DialogControlsOW event");
+    CEvent automatic(TRUE), manual(FALSE, TRUE), named(FALSE, TRUE, L"DialogControlsOW event"),
+        same(FALSE, TRUE, L"DialogControlsOW event");
+    EXPECT_EQ(Answers(automatic, "LL"), "10");
+    EXPECT_EQ(Answers(manual, "LSLLULRL"), "01111110");
     named.SetEvent();
-    EXPECT_TRUE(same.Lock(0));
+    EXPECT_EQ(Answers(same, "L"), "1");
     EXPECT_EQ(ThrownBy([] { CMutex(FALSE, L"DialogControlsOW event"); }),
               "CResourceException"); // the name of another kind
 
+    CCriticalSection section;
     EXPECT_TRUE(section.Lock());
     CRITICAL_SECTION* const bare = section;
     EXPECT_EQ(OnWorker([bare] { return static_cast<UINT>(::TryEnterCriticalSection(bare)); }), 0u);

@@ -1,7 +1,7 @@
-// Check list boxes, bitmap buttons, tool bar controls and lists sorted by index, from the inside.
+// Check list boxes, bitmap buttons, tool bar controls, lists sorted by index, and tips.
 
-#include <afxcmn.h>
-#include <afxdlgs.h>
+#include "HostWindow.h"
+
 #include <afxext.h>
 
 #include <gtest/gtest.h>
@@ -16,16 +16,10 @@
 namespace
 {
 /// The parent of a control, which counts its check notifications.
-class Host : public CWnd
+class Host : public HostWindow
 {
 public:
-    Host()
-    {
-        CreateEx(0, AfxRegisterWndClass(0), L"host", WS_POPUP | WS_VISIBLE, CRect(50, 50, 350, 250), nullptr,
-                 0);
-        owtest::Activate(m_hWnd);
-    }
-    ~Host() override { DestroyWindow(); }
+    Host() { owtest::Activate(m_hWnd); }
     int checks = 0;
 
 protected:
@@ -33,32 +27,16 @@ protected:
     DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(Host, CWnd)
+BEGIN_MESSAGE_MAP(Host, HostWindow)
     ON_CLBN_CHKCHANGE(1, &Host::OnChecked)
 END_MESSAGE_MAP()
-
-/// A list without strings, whose items are numbers, the greater first.
-class NumberList : public CCheckListBox
-{
-public:
-    std::vector<ULONG_PTR> deleted;
-
-protected:
-    void DrawItem(LPDRAWITEMSTRUCT) override {}
-    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = 40; }
-    void DeleteItem(LPDELETEITEMSTRUCT item) override { deleted.push_back(item->itemData); }
-    int CompareItem(LPCOMPAREITEMSTRUCT items) override
-    {
-        return static_cast<int>(items->itemData2) - static_cast<int>(items->itemData1);
-    }
-};
 
 class CheckList : public ::testing::Test
 {
 protected:
     void Make(DWORD style = 0)
     {
-        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED |
+        ASSERT_TRUE(list.Create(CHILD | LBS_NOTIFY | LBS_HASSTRINGS | LBS_OWNERDRAWFIXED |
                                     LBS_NOINTEGRALHEIGHT | style,
                                 CRect(0, 0, 120, 150), &host, 1));
         for (const wchar_t* text : {L"a", L"b", L"c"})
@@ -179,30 +157,6 @@ TEST_F(CheckList, DrawsBoxTextAndSelection)
     EXPECT_EQ(draw(ODS_SELECTED)->at(90, 10), ::GetSysColor(COLOR_WINDOW)) << "never selected";
 }
 
-TEST_F(CheckList, HoldsNumbersInPlaceOfStrings)
-{
-    NumberList numbers;
-    ASSERT_TRUE(numbers.Create(WS_CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 2));
-    const auto text = [](INT_PTR number) { return reinterpret_cast<LPCTSTR>(number); };
-    for (const int number : {20, 30, 10})
-        numbers.AddString(text(number));
-    numbers.SetCheck(1, 1);
-    EXPECT_EQ(numbers.GetItemData(0), 30u);
-    EXPECT_EQ(numbers.GetItemData(2), 10u);
-    EXPECT_EQ(numbers.GetItemHeight(1), 40);
-    EXPECT_EQ(numbers.FindStringExact(-1, text(20)), 1);
-    EXPECT_EQ(numbers.FindString(1, text(30)), 0); // all round
-    EXPECT_EQ(numbers.FindString(-1, text(31)), LB_ERR);
-    EXPECT_EQ(numbers.SelectString(-1, text(10)), 2);
-    EXPECT_EQ(numbers.GetCurSel(), 2);
-    INT_PTR read = 0;
-    EXPECT_EQ(numbers.GetText(1, reinterpret_cast<LPTSTR>(&read)), static_cast<int>(sizeof read));
-    EXPECT_EQ(read, 20);
-    numbers.DeleteString(1);
-    EXPECT_EQ(numbers.deleted, std::vector<ULONG_PTR>{20});
-    EXPECT_EQ(numbers.GetCheck(1), 0);
-}
-
 /// Bitmaps of one colour each, in the order up, pressed, focused, disabled; the last may be left out.
 class ColourButton : public CBitmapButton
 {
@@ -273,7 +227,7 @@ TEST(ToolBar, KnowsItsButtonsTextsAndStates)
 {
     Host host;
     CToolBarCtrl bar;
-    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(), &host, 5));
+    ASSERT_TRUE(bar.Create(CHILD, CRect(), &host, 5));
     CBitmap bitmap;
     CClientDC screen(nullptr);
     bitmap.CreateCompatibleBitmap(&screen, 32, 16);
@@ -363,7 +317,7 @@ class TippedHost : public Host
 public:
     TippedHost()
     {
-        constexpr DWORD visible = WS_CHILD | WS_VISIBLE;
+        constexpr DWORD visible = CHILD;
         first.Create(L"first", visible, CRect(0, 0, 60, 30), this, 11);
         second.Create(L"second", visible, CRect(100, 0, 160, 30), this, 12);
         label.Create(L"label", visible, CRect(0, 60, 60, 90), this);
@@ -424,25 +378,5 @@ TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
     EXPECT_TRUE(host.Shows(L"second"));
     host.EnableToolTips(FALSE);
     EXPECT_TRUE(host.Shows(L""));
-}
-
-TEST(FileDialog, TellsOfASelectionThatChanges)
-{
-    struct Dialog : CFileDialog
-    {
-        Dialog() : CFileDialog(TRUE) {}
-        UINT told[3]{};
-        void OnLBSelChangedNotify(UINT box, UINT selection, UINT code) override
-        {
-            told[0] = box;
-            told[1] = selection;
-            told[2] = code;
-        }
-        using CFileDialog::WindowProc;
-    } dialog;
-    dialog.WindowProc(::RegisterWindowMessage(LBSELCHSTRING), 1120, MAKELPARAM(3, CD_LBSELCHANGE));
-    EXPECT_EQ(dialog.told[0], 1120u);
-    EXPECT_EQ(dialog.told[1], 3u);
-    EXPECT_EQ(dialog.told[2], UINT{CD_LBSELCHANGE});
 }
 } // namespace
