@@ -3,6 +3,10 @@
 
 #include <afxcmn.h>
 
+#include "ModalVisit.h"
+
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <vector>
 
@@ -28,6 +32,21 @@ public:
     }
 
     std::function<void(CDataExchange*)> exchange;
+
+    /// Takes the values of the controls, and answers the text of the message box if they are refused.
+    CString Refusal()
+    {
+        CString told;
+        const owtest::ModalVisit visit(
+            [&](CWnd& box)
+            {
+                constexpr int messageId = 0xFFFF;
+                box.GetDlgItemText(messageId, told);
+                box.SendMessage(WM_COMMAND, IDOK);
+            });
+        EXPECT_EQ(UpdateData(TRUE), visit.Count() == 0);
+        return told;
+    }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override

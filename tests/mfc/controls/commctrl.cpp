@@ -2,8 +2,6 @@
 
 #include "HostWindow.h"
 
-#include <gtest/gtest.h>
-
 #include <tuple>
 
 namespace

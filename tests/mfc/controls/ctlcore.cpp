@@ -2,8 +2,6 @@
 
 #include "HostWindow.h"
 
-#include <gtest/gtest.h>
-
 namespace
 {
 /// Paints itself green and keeps its state.

@@ -2,11 +2,7 @@
 
 #include "HostWindow.h"
 
-#include "ModalVisit.h"
-
 #include <afxdtctl.h>
-
-#include <gtest/gtest.h>
 
 namespace
 {
@@ -72,22 +68,6 @@ protected:
     }
     void AddPicker(DWORD style) { Add(DATETIMEPICK_CLASS, style, &DDX_DateTimeCtrl, &DDV_MinMaxDateTime); }
     CDateTimeCtrl& Picker() { return *static_cast<CDateTimeCtrl*>(host.GetDlgItem(IDC_DATE)); }
-
-    /// What the user is told on saving; empty when the value is taken.
-    CString Refusal()
-    {
-        CString told;
-        const owtest::ModalVisit visit(
-            [&](CWnd& box)
-            {
-                constexpr int messageId = 0xFFFF;
-                box.GetDlgItemText(messageId, told);
-                box.SendMessage(WM_COMMAND, IDOK);
-            });
-        const BOOL taken = host.UpdateData(TRUE);
-        EXPECT_EQ(taken, visit.Count() == 0);
-        return told;
-    }
 };
 
 CString ShortDate(const CTime& time)
@@ -199,23 +179,23 @@ TEST_F(DateExchange, OfPickersGoesByDaysUnlessTheyShowTheTime)
     EXPECT_EQ(Picker().GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN));
     Picker().SetRange(static_cast<CTime*>(nullptr), nullptr);
     Picker().SetTime(&leapDay);
-    EXPECT_EQ(Refusal(), L"");
+    EXPECT_EQ(host.Refusal(), L"");
     EXPECT_EQ(value, leapDay);
     Picker().SetTime(&yesterday);
     last = &march;
-    EXPECT_EQ(Refusal(), L"Please choose a date not before " + ShortDate(noon) + L" and not after " +
-                             ShortDate(march) + L".");
+    EXPECT_EQ(host.Refusal(), L"Please choose a date not before " + ShortDate(noon) + L" and not after " +
+                                  ShortDate(march) + L".");
     EXPECT_TRUE(host.UpdateData(FALSE)); // the program's own value is let through
     EXPECT_EQ(Picker().GetRange(&minimum, &maximum), 0u);
 
     Picker().ModifyStyle(0, DTS_TIMEFORMAT);
     Picker().SetTime(&leapDay);
-    EXPECT_EQ(Refusal().Left(32), L"Please choose a date not before ");
+    EXPECT_EQ(host.Refusal().Left(32), L"Please choose a date not before ");
     Picker().SetTime(&evening);
-    EXPECT_EQ(Refusal(), L"");
+    EXPECT_EQ(host.Refusal(), L"");
     first = nullptr;
     last = &noon;
-    EXPECT_EQ(Refusal().Find(L"Please choose a date not after " + ShortDate(noon) + L" 12:00"), 0);
+    EXPECT_EQ(host.Refusal().Find(L"Please choose a date not after " + ShortDate(noon) + L" 12:00"), 0);
 }
 
 TEST_F(DateExchange, OfCalendarsGoesByDays)
@@ -229,11 +209,11 @@ TEST_F(DateExchange, OfCalendarsGoesByDays)
     EXPECT_EQ(value, leapDay);
     calendar.SetRange(static_cast<CTime*>(nullptr), nullptr);
     calendar.SetCurSel(march);
-    EXPECT_EQ(Refusal(), L"");
+    EXPECT_EQ(host.Refusal(), L"");
     EXPECT_EQ(value, march);
     first = &march;
     calendar.SetCurSel(noon);
-    EXPECT_EQ(Refusal(), L"Please choose a date not before " + ShortDate(march) + L".");
+    EXPECT_EQ(host.Refusal(), L"Please choose a date not before " + ShortDate(march) + L".");
 }
 
 TEST_F(DateExchange, ReadsThePickersText)

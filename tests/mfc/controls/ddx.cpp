@@ -2,10 +2,6 @@
 
 #include "HostWindow.h"
 
-#include "ModalVisit.h"
-
-#include <gtest/gtest.h>
-
 #include <type_traits>
 
 namespace
@@ -36,22 +32,6 @@ protected:
         return Text();
     }
 
-    /// Exchanges, and expects one message box, whose text it answers, and the refusal of the data.
-    CString TextOfRefusal()
-    {
-        CString message;
-        const owtest::ModalVisit visit(
-            [&](CWnd& box)
-            {
-                constexpr int messageId = 0xFFFF;
-                box.GetDlgItemText(messageId, message);
-                box.SendMessage(WM_COMMAND, IDOK);
-            });
-        EXPECT_FALSE(host.UpdateData(TRUE));
-        EXPECT_EQ(visit.Count(), 1);
-        return message;
-    }
-
     /// Saves `text`, which is to be accepted as `expected`.
     template <class Value>
     void ExpectAccepted(LPCTSTR text, Value expected)
@@ -80,7 +60,7 @@ protected:
         host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
         ::SetWindowText(edit, text);
         ::SetFocus(other);
-        TextOfRefusal();
+        EXPECT_FALSE(host.Refusal().IsEmpty());
         EXPECT_EQ(value, Value(42));
         EXPECT_EQ(::GetFocus(), edit);
         EXPECT_EQ(Text(), text);
@@ -145,7 +125,7 @@ TEST_F(ExchangeTest, StringsAreTakenAsTheyAreAndCutToTheBuffer)
     EXPECT_TRUE(host.UpdateData(TRUE));
     EXPECT_TRUE(text.IsEmpty());
     ::SetWindowText(edit, L"abcde");
-    TextOfRefusal();
+    EXPECT_FALSE(host.Refusal().IsEmpty());
 }
 
 TEST_F(ExchangeTest, AControlIsSubclassedOnceAndATextThatIsThereAlreadyIsNotSetAgain)
@@ -194,7 +174,7 @@ TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndRefuseOutside)
     }
     ::SetFocus(other);
     ::SetWindowText(edit, L"11");
-    const CString message = TextOfRefusal();
+    const CString message = host.Refusal();
     EXPECT_GE(message.Find(L"-5"), 0);
     EXPECT_GE(message.Find(L"10"), 0);
     EXPECT_EQ(::GetFocus(), edit);
@@ -223,7 +203,7 @@ TEST_F(ExchangeTest, RangesOfOtherTypesAreComparedInTheirType)
         SCOPED_TRACE(i);
         host.exchange = cases[i].check;
         if (cases[i].refused)
-            TextOfRefusal();
+            EXPECT_FALSE(host.Refusal().IsEmpty());
         else
             EXPECT_TRUE(host.UpdateData(TRUE));
         EXPECT_TRUE(host.UpdateData(FALSE)) << "initial values pass";

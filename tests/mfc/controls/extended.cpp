@@ -4,8 +4,6 @@
 
 #include <afxext.h>
 
-#include <gtest/gtest.h>
-
 #include "Input.h"
 #include "Picture.h"
 

@@ -4,8 +4,6 @@
 
 #include "Handles.h"
 
-#include <gtest/gtest.h>
-
 namespace
 {
 /// A memory context with a bitmap of its own.
@@ -158,28 +156,11 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
         const CPoint at = dc.GetCurrentPosition();
         const CPoint corner = dc.GetViewportOrg() + CSize(dc.GetWindowOrg());
         const CSize scale(dc.GetViewportExt().cx * 99 + dc.GetWindowExt().cx, dc.GetLayout());
-        return std::vector<LONGLONG>{dc.GetBkColor(),
-                                     dc.GetBkMode(),
-                                     dc.GetPolyFillMode(),
-                                     dc.GetROP2(),
-                                     dc.GetStretchBltMode(),
-                                     dc.GetTextColor(),
-                                     dc.GetMapMode(),
-                                     dc.GetGraphicsMode(),
-                                     dc.GetArcDirection(),
-                                     dc.GetTextAlign(),
-                                     dc.GetTextCharacterExtra(),
-                                     corner.x,
-                                     corner.y,
-                                     scale.cx,
-                                     scale.cy,
-                                     clip.left,
-                                     clip.right,
-                                     clip.top,
-                                     LONGLONG(form.eDx),
-                                     LONGLONG(form.eM11),
-                                     at.x,
-                                     at.y};
+        return std::tuple(dc.GetBkColor(), dc.GetBkMode(), dc.GetPolyFillMode(), dc.GetROP2(),
+                          dc.GetStretchBltMode(), dc.GetTextColor(), dc.GetMapMode(), dc.GetGraphicsMode(),
+                          dc.GetArcDirection(), dc.GetTextAlign(), dc.GetTextCharacterExtra(), corner.x,
+                          corner.y, scale.cx, scale.cy, clip.left, clip.right, clip.top, form.eDx, form.eM11,
+                          at.x, at.y);
     };
     const XFORM twice = {2, 0, 0, 2, 3, 3};
     const POINT points[] = {{7, 8}, {9, 3}, {5, 6}};

@@ -4,14 +4,10 @@
 
 #include <afxpriv.h>
 
-#include <gtest/gtest.h>
-
-#include <memory>
 #include <string>
 
 namespace
 {
-/// An application of its own beside the test program's, which is put back afterwards.
 class CTestApp : public CWinApp
 {
 public:
@@ -35,26 +31,7 @@ BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
 END_MESSAGE_MAP()
 
-class Application : public ::testing::Test
-{
-protected:
-    Application()
-    {
-        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
-        app = std::make_unique<CTestApp>();
-    }
-    ~Application() override
-    {
-        app.reset();
-        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
-        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
-    }
-
-    std::unique_ptr<CTestApp> app;
-
-private:
-    CWinApp* m_programs = AfxGetApp();
-};
+using Application = WithApplication<CTestApp>;
 
 class Profile : public Application
 {

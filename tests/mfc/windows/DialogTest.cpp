@@ -8,8 +8,6 @@
 #include "Handles.h"
 #include "Input.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <utility>
 

@@ -3,8 +3,6 @@
 #include "MemberNames.h"
 #include "TestWindows.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 

@@ -1,7 +1,11 @@
 #pragma once
-// What the tests of this folder share: small windows, and the message that ends a program.
+// What the tests of this folder share: small windows, the message that ends a program, and another application.
 
 #include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
 
 /// A hidden top-level window without a frame.
 inline BOOL CreatePopup(CWnd& window, CWnd* owner = nullptr, DWORD style = 0)
@@ -20,3 +24,26 @@ inline bool TakeQuitMessage()
     MSG message;
     return ::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != FALSE;
 }
+
+/// A test with an application of its own beside the test program's, which is put back afterwards.
+template <class App>
+class WithApplication : public ::testing::Test
+{
+protected:
+    WithApplication()
+    {
+        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
+        app = std::make_unique<App>();
+    }
+    ~WithApplication() override
+    {
+        app.reset();
+        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
+        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
+    }
+
+    std::unique_ptr<App> app;
+
+private:
+    CWinApp* m_programs = AfxGetApp();
+};

@@ -2,8 +2,6 @@
 
 #include "TestWindows.h"
 
-#include <gtest/gtest.h>
-
 #include <functional>
 #include <string>
 #include <thread>

@@ -1,13 +1,12 @@
 // Command lines, and the roads of help.
 
-#include <afxpriv.h>
+#include "TestWindows.h"
 
-#include <gtest/gtest.h>
+#include <afxpriv.h>
 
 #include "DialogTemplate.h"
 #include "ImportStandIn.h"
 
-#include <memory>
 #include <vector>
 
 namespace
@@ -65,26 +64,17 @@ public:
     }
 };
 
-class Help : public ::testing::Test
+class Help : public WithApplication<HelpApp>
 {
 protected:
     Help()
     {
-        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
-        app = std::make_unique<HelpApp>();
         s_asked.clear();
         const owtest::DialogTemplate form = owtest::DialogTemplate(L"Help", 80, 40).Edit(1, 4, 4, 40, 12);
         dialog.CreateIndirect(form.get());
         app->m_pMainWnd = &dialog;
     }
-    ~Help() override
-    {
-        app->m_pMainWnd = nullptr;
-        dialog.DestroyWindow();
-        app.reset();
-        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
-        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
-    }
+    ~Help() override { app->m_pMainWnd = nullptr; }
     void PressF1()
     {
         HELPINFO info{};
@@ -92,8 +82,6 @@ protected:
         dialog.GetDlgItem(1)->SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
     }
 
-    CWinApp* m_programs = AfxGetApp();
-    std::unique_ptr<HelpApp> app;
     HelpDialog dialog;
     owtest::ImportStandIn m_winHelp{L"mfcow.dll", "WinHelpW", &NoteWinHelp};
 };
