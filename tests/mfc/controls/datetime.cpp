@@ -209,9 +209,10 @@ TEST_F(DateExchange, OfCalendarsGoesByDays)
     EXPECT_EQ(value, leapDay);
     calendar.SetRange(static_cast<CTime*>(nullptr), nullptr);
     calendar.SetCurSel(march);
+    last = &march;
     EXPECT_EQ(host.Refusal(), L"");
     EXPECT_EQ(value, march);
-    first = &march;
+    first = std::exchange(last, nullptr);
     calendar.SetCurSel(noon);
     EXPECT_EQ(host.Refusal(), L"Please choose a date not before " + ShortDate(march) + L".");
 }

@@ -334,9 +334,15 @@ public:
                 return (tip != nullptr ? owtest::TextOf(*CWnd::FromHandle(tip)) : L"") == text;
             });
     }
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* tool) const override
+    {
+        tool->uFlags = always;
+        return Host::OnToolHitTest(point, tool);
+    }
     CButton first;
     CButton second;
     CStatic label;
+    UINT always = 0;
 
 protected:
     afx_msg BOOL OnNeedText(UINT, NMHDR* header, LRESULT*)
@@ -357,7 +363,11 @@ END_MESSAGE_MAP()
 TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
 {
     TippedHost host;
-    const auto over = [](const CWnd& control) { owtest::MoveTo(control.m_hWnd, CPoint(5, 5)); };
+    const auto over = [](const CWnd& control)
+    {
+        owtest::MoveTo(control.m_hWnd, CPoint(5, 5));
+        owtest::MoveTo(control.m_hWnd, CPoint(6, 6));
+    };
     over(host.first);
     EXPECT_TRUE(host.Shows(L"first"));
     over(host.second);
@@ -376,5 +386,11 @@ TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
     EXPECT_TRUE(host.Shows(L"second"));
     host.EnableToolTips(FALSE);
     EXPECT_TRUE(host.Shows(L""));
+    host.EnableToolTips();
+    Host active;
+    active.MoveWindow(500, 500, 50, 50);
+    host.always = TTF_ALWAYSTIP; // also in a window that is not active
+    over(host.first);
+    EXPECT_TRUE(host.Shows(L"first"));
 }
 } // namespace
