@@ -44,7 +44,8 @@ public:
                 box.GetDlgItemText(messageId, told);
                 box.SendMessage(WM_COMMAND, IDOK);
             });
-        EXPECT_EQ(UpdateData(TRUE), visit.Count() == 0);
+        const BOOL taken = UpdateData(TRUE);
+        EXPECT_EQ(taken, visit.Count() == 0);
         return told;
     }
 
