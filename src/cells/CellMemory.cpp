@@ -116,9 +116,9 @@ private:
         return block;
     }
 
+    /// In front. It has none before it: a new one, or one that was taken off the front when it was full.
     void Link(SBlock& block)
     {
-        block.pBefore = nullptr;
         block.pBehind = m_pRoom;
         if (m_pRoom)
             m_pRoom->pBefore = &block;
