@@ -639,7 +639,7 @@ protected:
     int m_nAutoSizeStyle = GVS_BOTH;
 
     // ---- Rows, columns, cells
-    int m_nBarState = 0; ///< which scroll bars show: bit 1 the horizontal, bit 2 the vertical one
+    int m_nBarState = 0; ///< which scroll bars show: 1 for the horizontal one, 2 for the vertical
     CGridAxis m_rows;
     CGridAxis m_cols;
     int m_nVScrollMax = 0; ///< greatest value of each scroll bar's range in pixels, 0 without a bar

@@ -168,8 +168,8 @@ struct CountedHeap
 
 TEST(CellMemory, ComesInBlocksThatGoBackWithTheirLastCell)
 {
-    constexpr size_t size = 504;
-    constexpr int inBlock = 63;
+    constexpr size_t size = 72; // fills a block to its end
+    constexpr int inBlock = 409;
     const CountedHeap heap;
     s_allocations = 3;
     std::vector<void*> cells;

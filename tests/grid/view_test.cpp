@@ -2,6 +2,7 @@
 // window.
 
 #include "grid/GridDivider.h"
+#include "grid/GridPainter.h"
 #include "grid/GridScrollBars.h"
 #include "grid/GridView.h"
 
@@ -232,6 +233,35 @@ TEST_F(GridView, ADragGoesOnFromTheEdgeThatItHasLeft)
     }
 }
 
+TEST_F(GridView, ThePainterDrawsTheCellsThatTouchTheClipBoxInTheirPlaces)
+{
+    CDC dc;
+    CBitmap bitmap;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr) && bitmap.CreateBitmap(300, 200, 1, 1, nullptr));
+    CBitmap* const pOld = dc.SelectObject(&bitmap);
+    const CRect clip(30, 10, 170, 90);
+    dc.IntersectClipRect(clip);
+    topLeft = CCellID(4, 2);
+    rows.SetFixed(2);
+    int left = 0;
+    for (int row = 0; row < kRows; ++row)
+        for (int col = 0; col < kCols; ++col)
+            if (CRect rect; View().CellRect(CCellID(row, col), rect))
+                left += rect.left <= clip.right && rect.right >= clip.left && rect.top <= clip.bottom &&
+                        rect.bottom >= clip.top;
+    CGridPainter(dc, View())
+        .DrawCells(
+            [&](int nRow, int nCol, const CRect& rect)
+            {
+                CRect place;
+                EXPECT_TRUE(View().CellRect(CCellID(nRow, nCol), place));
+                EXPECT_EQ(rect, place) << nRow << ',' << nCol;
+                --left;
+            });
+    EXPECT_EQ(left, 0);
+    dc.SelectObject(pOld);
+}
+
 // ---- Dividers ---------------------------------------------------------------------------------------------
 
 TEST_F(GridView, DividersAreAliveOverTheHeadersOnly)
@@ -375,6 +405,26 @@ TEST(GridBars, LeaveTheAreaThatTheyTakeUp)
         EXPECT_EQ(bars.AreaWithout(CSize(0, 50)), CSize(0, 0));
         EXPECT_EQ(bars.AreaWithout(CSize(70, 0)), CSize(0, 0));
     }
+}
+
+TEST(GridBars, AskForAPaintWhenAThumbMoves)
+{
+    CWnd window;
+    ASSERT_TRUE(window.CreateEx(0, L"STATIC", nullptr, WS_POPUP | WS_VISIBLE | WS_VSCROLL,
+                                CRect(0, 0, 99, 99), nullptr, 0));
+    CGridScrollBars bars(window);
+    bars.SetRange(EGridWay::eRows, {true, 100000, 10});
+    const auto asksFor = [&](int pos)
+    {
+        bars.Paint();
+        window.RedrawWindow(nullptr, nullptr, RDW_VALIDATE | RDW_NOINTERNALPAINT);
+        bars.SetPos(EGridWay::eRows, pos);
+        MSG message;
+        return ::PeekMessage(&message, window.m_hWnd, WM_PAINT, WM_PAINT, PM_NOREMOVE) != FALSE;
+    };
+    EXPECT_TRUE(asksFor(50000));
+    EXPECT_FALSE(asksFor(50001)) << "by less than a pixel";
+    EXPECT_TRUE(asksFor(90000));
 }
 
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
