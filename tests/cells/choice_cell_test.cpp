@@ -46,9 +46,9 @@ protected:
         return rect;
     }
     /// Paints the cell at the origin of a surface.
-    void Draw(owtest::Surface& to, CSize size)
+    BOOL Draw(owtest::Surface& to, CSize size)
     {
-        grid.GetCell(kRow, kCol)->Draw(&to.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE);
+        return grid.GetCell(kRow, kCol)->Draw(&to.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE);
     }
 };
 
@@ -64,11 +64,9 @@ protected:
         margin = static_cast<int>(cell->GetMargin());
         parent.answer = [this](NMHDR& header) -> LRESULT
         {
+            const auto& record = reinterpret_cast<GridNotify&>(header);
             if (static_cast<int>(header.code) == GVN_CHECKCLICKED)
-            {
-                const auto& record = reinterpret_cast<GridNotify&>(header);
                 told.push_back(CCellID(record.iRow, record.iColumn));
-            }
             return 0;
         };
     }
@@ -86,31 +84,26 @@ TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
     grid.SetEditable(FALSE);
     owtest::Click(grid, box);
     EXPECT_EQ(cell->GetCheck(), 0) << "it flips without being editable";
-    EXPECT_EQ(told.size(), 2u);
     grid.SetEditable(TRUE);
-
-    const CPoint text(CellRect().right - 3, CellRect().CenterPoint().y);
-    owtest::Click(grid, text);
+    owtest::Click(grid, CPoint(CellRect().right - 3, CellRect().CenterPoint().y));
     EXPECT_TRUE(EditorOpens(kRow, kCol)) << "beside the box the text is edited";
     EndByKey(VK_ESCAPE);
     EXPECT_EQ(cell->GetCheck(), 0);
     EXPECT_EQ(told.size(), 2u);
-}
 
-TEST_F(CheckCells, TheZoneIsTheBoxAndTheRecordNamesTheFocusCell)
-{
+    // The record names the focus cell.
     grid.SetFocusCell(5, 4);
     const int last = margin + kBoxSize - 1;
-    const std::pair<CPoint, bool> cases[] = {{{margin, margin}, true},      {{last, last}, true},
-                                             {{margin - 1, margin}, false}, {{margin, margin - 1}, false},
-                                             {{last + 1, last}, false},     {{last, last + 1}, false}};
-    for (const auto& [point, hit] : cases)
+    for (const auto& [point, hit] :
+         {std::pair(CPoint(margin, margin), true), std::pair(CPoint(last, last), true),
+          std::pair(CPoint(margin - 1, margin), false), std::pair(CPoint(margin, margin - 1), false),
+          std::pair(CPoint(last + 1, last), false), std::pair(CPoint(last, last + 1), false)})
     {
         told.clear();
         cell->SetCheck(0);
         cell->OnClick(point);
         EXPECT_EQ(cell->GetCheck(), hit) << point.x << ',' << point.y;
-        EXPECT_EQ(told, hit ? std::vector{CCellID(5, 4)} : std::vector<CCellID>{});
+        EXPECT_EQ(told, std::vector(hit, CCellID(5, 4)));
     }
 }
 
@@ -144,17 +137,17 @@ TEST_F(CheckCells, AChangeRepaintsWhatWasDrawn)
 TEST_F(CheckCells, TheTextStandsClearOfTheBox)
 {
     const int room = ::GetSystemMetrics(SM_CXHSCROLL) + 2 * margin;
-    CRect rect(100, 10, 180, 40);
-    EXPECT_TRUE(cell->GetTextRect(&rect));
-    EXPECT_EQ(rect, CRect(100 + room, 10, 180, 40));
-    rect = CRect(100, 10, 110, 40);
-    cell->GetTextRect(&rect);
-    EXPECT_EQ(rect.left, 110) << "never past the right edge";
+    const auto textIn = [&](int right, int image)
+    {
+        CRect rect(100, 10, right, 40);
+        cell->SetImage(image);
+        EXPECT_TRUE(cell->GetTextRect(&rect));
+        return rect;
+    };
     grid.SetImageList(&CGridCtrl::GridImageList);
-    cell->SetImage(0);
-    rect = CRect(100, 10, 180, 40);
-    cell->GetTextRect(&rect);
-    EXPECT_EQ(rect.left, 100 + room + 17 + margin) << "nor under its image";
+    EXPECT_EQ(textIn(180, -1), CRect(100 + room, 10, 180, 40));
+    EXPECT_EQ(textIn(110, -1).left, 110) << "never past the right edge";
+    EXPECT_EQ(textIn(180, 0).left, 100 + room + 17 + margin) << "nor under its image";
     cell->SetImage(-1);
     EXPECT_EQ(cell->GetCellExtent(nullptr), cell->GetTextExtent(cell->GetText()) + CSize(room, room));
 
@@ -222,6 +215,8 @@ TEST_F(ComboCells, KeysTypeAndChoose)
     ASSERT_NE(cell.DajKomboBoks(), nullptr);
     EXPECT_EQ(cell.DajKomboBoks()->GetCount(), 3);
     EXPECT_EQ(cell.GetEditWnd()->GetParent(), cell.DajKomboBoks());
+    owtest::Press(VK_LEFT);
+    EXPECT_TRUE(cell.IsEditing()) << "without Ctrl it moves inside the text";
     EndByKey(VK_RETURN);
     EXPECT_EQ(CellText(), L"RHS 80") << "what the list lacks can be typed";
     EXPECT_EQ(cell.DajKomboBoks(), nullptr);
@@ -230,15 +225,19 @@ TEST_F(ComboCells, KeysTypeAndChoose)
     owtest::Press(VK_DOWN);
     EXPECT_TRUE(EditorCloses()) << "a choice ends the edit at once";
     EXPECT_EQ(CellText(), L"HEA 240");
-    owtest::Type(L"x");
-    EndByKey(VK_ESCAPE);
-    EXPECT_EQ(CellText(), L"HEA 240");
+    for (const auto& [key, text] : {std::pair(UINT('x'), L"x"), std::pair(UINT(VK_BACK), L"HEA 24"),
+                                    std::pair(UINT(VK_DOWN), L"HEA 240"), std::pair(UINT(VK_SPACE), L" ")})
+    {
+        grid.OnEditCell(kRow, kCol, CPoint(), key);
+        EXPECT_EQ(owtest::TextOf(*cell.GetEditWnd()), text) << key;
+        EndByKey(VK_ESCAPE);
+        EXPECT_EQ(CellText(), L"HEA 240");
+    }
 }
 
 TEST_F(ComboCells, TheMouseOpensTheListAndChooses)
 {
     auto& cell = MakeCombo();
-    owtest::Click(grid, CellRect().CenterPoint());
     owtest::Click(grid, CellRect().CenterPoint()); // the focus cell: an edit
     ASSERT_TRUE(owtest::PumpUntil([&] { return cell.DajKomboBoks() != nullptr; }));
     COMBOBOXINFO info{};
@@ -256,7 +255,6 @@ TEST_F(ComboCells, TheMouseOpensTheListAndChooses)
 TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnceAndACopyIsOneToo)
 {
     auto& cell = MakeCombo<CChoiceOnlyCell>();
-    EXPECT_EQ(cell.GetStyle(), static_cast<DWORD>(CBS_DROPDOWNLIST));
     grid.StartEditCell();
     ASSERT_NE(cell.DajKomboBoks(), nullptr);
     EXPECT_TRUE(cell.DajKomboBoks()->GetDroppedState());
@@ -304,12 +302,12 @@ TEST_F(ComboCells, AnArrowTellsOfTheListWhereItCanBeUsed)
     EXPECT_TRUE(ShowsArrow(CSize(arrow + 1, arrow + 1)));
     EXPECT_FALSE(ShowsArrow(CSize(arrow, arrow + 1))) << "no room";
     EXPECT_FALSE(ShowsArrow(CSize(arrow + 1, arrow)));
-    grid.SetItemState(kRow, kCol, CELL_READONLY);
-    EXPECT_FALSE(ShowsArrow(CSize(90, 30)));
-    grid.SetItemState(kRow, kCol, 0);
-    grid.SetEditable(FALSE);
-    EXPECT_FALSE(ShowsArrow(CSize(90, 30)));
-
+    for (const bool readOnly : {true, false})
+    {
+        grid.SetItemState(kRow, kCol, readOnly ? CELL_READONLY : 0);
+        grid.SetEditable(readOnly);
+        EXPECT_FALSE(ShowsArrow(CSize(90, 30)));
+    }
     const CSize text = cell.GetTextExtent(L"");
     EXPECT_EQ(cell.GetCellExtent(nullptr),
               CSize(text.cx + ::GetSystemMetrics(SM_CXVSCROLL), std::max<int>(text.cy, arrow)));
@@ -370,19 +368,21 @@ protected:
         ChoiceCells::SetUp();
         cell = &Make<CPoisonedColorCell>();
     }
-    /// Types a number into the host's dialog and presses a key there.
-    static void Answer(CWnd& dialog, std::wstring_view number, WORD key)
+    /// How many dialogs a click opens, in each of which a number is typed and a key pressed.
+    int Answered(
+        const std::function<void()>& click, std::wstring_view number, WORD key,
+        const std::function<void()>& whileOpen = [] {})
     {
-        dialog.GetDlgItem(IDC_COLOR_TEXT)->SetFocus();
-        dialog.GetDlgItem(IDC_COLOR_TEXT)->SendMessage(EM_SETSEL, 0, -1);
-        owtest::Type(number);
-        owtest::Press(key);
-    }
-    /// How many dialogs a click into the cell opens.
-    int ClickAnswered(std::wstring_view number, WORD key)
-    {
-        owtest::ModalVisit visit([&](CWnd& dialog) { Answer(dialog, number, key); });
-        owtest::Click(grid, CellRect().CenterPoint());
+        owtest::ModalVisit visit(
+            [&](CWnd& dialog)
+            {
+                whileOpen();
+                dialog.GetDlgItem(IDC_COLOR_TEXT)->SetFocus();
+                dialog.GetDlgItem(IDC_COLOR_TEXT)->SendMessage(EM_SETSEL, 0, -1);
+                owtest::Type(number);
+                owtest::Press(key);
+            });
+        click();
         owtest::Pump();
         return visit.Count();
     }
@@ -392,9 +392,10 @@ protected:
 
 TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
 {
+    const auto click = [&] { owtest::Click(grid, CellRect().CenterPoint()); };
     EXPECT_EQ(cell->DajMastAci(), 252);
     EXPECT_EQ(ShownSwatch(), acedGetRGB(252));
-    EXPECT_EQ(ClickAnswered(L"30", VK_RETURN), 1);
+    EXPECT_EQ(Answered(click, L"30", VK_RETURN), 1);
     EXPECT_EQ(cell->DajMastAci(), 30);
     EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "at once";
     EXPECT_EQ(grid.GetDlgItem(InPlaceControlId), nullptr);
@@ -402,35 +403,25 @@ TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
     cell->PostaviMastAci(5);
     EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "a colour by program is not redrawn";
     grid.SetEditable(FALSE);
-    EXPECT_EQ(ClickAnswered(L"142", VK_ESCAPE), 1) << "in a grid that is not editable, too";
+    EXPECT_EQ(Answered(click, L"142", VK_ESCAPE), 1) << "in a grid that is not editable, too";
     EXPECT_EQ(cell->DajMastAci(), 5);
-    EXPECT_EQ(ClickAnswered(L"142", VK_RETURN), 1);
+    EXPECT_EQ(Answered(click, L"142", VK_RETURN), 1);
     EXPECT_EQ(cell->DajMastAci(), 142);
-
-    owtest::ModalVisit visit([](CWnd&) {});
-    cell->OnClick(CPoint(-1, 5));
-    cell->OnClick(CPoint(5, -1));
-    CGridCellColorCombo().OnClick(CPoint(5, 5));
-    owtest::Pump();
-    EXPECT_EQ(visit.Count(), 0) << "only a click inside a grid's cell";
+    const auto clickBeside = [&]
+    {
+        cell->OnClick(CPoint(-1, 5));
+        cell->OnClick(CPoint(5, -1));
+        CGridCellColorCombo().OnClick(CPoint(5, 5));
+    };
+    EXPECT_EQ(Answered(clickBeside, L"1", VK_RETURN), 0) << "only a click inside a grid's cell";
 }
 
 TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
 {
-    const auto clickAnd = [&](const std::function<void()>& harm)
-    {
-        owtest::ModalVisit visit(
-            [&](CWnd& dialog)
-            {
-                harm();
-                Answer(dialog, L"30", VK_RETURN);
-            });
-        cell->OnClick(CPoint(5, 5));
-        EXPECT_EQ(visit.Count(), 1);
-    };
-    clickAnd([&] { grid.DeleteRow(kRow); });
+    const auto click = [&] { cell->OnClick(CPoint(5, 5)); };
+    EXPECT_EQ(Answered(click, L"30", VK_RETURN, [&] { grid.DeleteRow(kRow); }), 1);
     cell = &Make<CGridCellColorCombo>();
-    clickAnd([&] { grid.DestroyWindow(); });
+    EXPECT_EQ(Answered(click, L"30", VK_RETURN, [&] { grid.DestroyWindow(); }), 1);
     EXPECT_EQ(cell->DajMastAci(), 30) << "the cell outlives the grid's window";
 
     auto other = std::make_unique<OpenGrid>(2, 2);
@@ -438,45 +429,41 @@ TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
     CGridCellColorCombo alone;
     alone.SetGrid(other.get());
     cell = &alone;
-    clickAnd(
-        [&]
-        {
-            alone.Reset(); // takes the grid away from it
-            other.reset();
-        });
+    const auto takeGridAway = [&]
+    {
+        alone.Reset();
+        other.reset();
+    };
+    EXPECT_EQ(Answered(click, L"30", VK_RETURN, takeGridAway), 1);
     EXPECT_EQ(alone.DajMastAci(), 30);
 }
 
 TEST_F(ColourCells, TheSwatchNeedsRoom)
 {
-    cell->PostaviMastAci(1);
     const COLORREF red = acedGetRGB(1), black = RGB(0, 0, 0);
-    const auto draw = [&](owtest::Surface& to, int width, int height)
-    { return cell->Draw(&to.dc(), kRow, kCol, CRect(0, 0, width, height), TRUE); };
-
-    owtest::Surface roomy(100, 40);
-    EXPECT_TRUE(draw(roomy, 54, 17));
-    EXPECT_EQ(roomy.count(CRect(0, 0, 100, 40), red), 39 * 10);
-    EXPECT_EQ(roomy.at(7, 3), black);
-    EXPECT_EQ(roomy.at(47, 14), black);
-    EXPECT_EQ(roomy.count(CRect(49, 0, 100, 40), black), 5 + 3 + 1) << "the mark of a list";
-    EXPECT_EQ(roomy.at(58, 7), black);
-    EXPECT_EQ(roomy.at(60, 9), black);
-    for (const CSize size : {CSize(53, 30), CSize(80, 16)})
+    struct Case
     {
-        owtest::Surface small(100, 40);
-        EXPECT_FALSE(draw(small, size.cx, size.cy));
-        EXPECT_EQ(small.count(CRect(0, 0, 100, 40), red), 0);
-        EXPECT_EQ(small.at(1, 1), kBack) << "the cell itself is painted";
+        int color;
+        CSize size;
+        int reds, blacksBeside; ///< the mark of a list has 5 + 3 + 1
+        COLORREF swatchCorner, frame;
+    };
+    for (const Case& c : {Case{1, {54, 17}, 39 * 10, 9, red, black},
+                          {1, {53, 30}, 0, 0, kBack, kBack}, // the cell itself is painted
+                          {1, {80, 16}, 0, 0, kBack, kBack},
+                          {999, {80, 30}, 0, 9, kBack, black}}) // no such colour: an empty swatch
+    {
+        CGridCellColorCombo copy;
+        cell->PostaviMastAci(c.color);
+        copy = *cell;
+        owtest::Surface drawn(100, 40);
+        EXPECT_EQ(copy.Draw(&drawn.dc(), kRow, kCol, CRect(CPoint(0, 0), c.size), TRUE), c.frame == black);
+        EXPECT_EQ(drawn.count(CRect(0, 0, 100, 40), red), c.reds);
+        EXPECT_EQ(drawn.count(CRect(49, 0, 100, 40), black), c.blacksBeside) << c.size.cx;
+        EXPECT_EQ(drawn.at(8, 4), c.swatchCorner);
+        for (const CPoint corner : {CPoint(7, 3), CPoint(47, 14)})
+            EXPECT_EQ(drawn.at(corner.x, corner.y), c.frame);
+        EXPECT_EQ(drawn.at(60, 9) == black, c.frame == black) << "the tip of the mark";
     }
     EXPECT_FALSE(cell->Draw(nullptr, kRow, kCol, CRect(0, 0, 80, 30), TRUE));
-
-    cell->PostaviMastAci(999);
-    owtest::Surface noColour(100, 40);
-    EXPECT_TRUE(draw(noColour, 80, 30));
-    EXPECT_EQ(noColour.at(9, 5), kBack) << "no such colour: an empty swatch";
-
-    CGridCellColorCombo copy;
-    copy = *cell;
-    EXPECT_EQ(copy.DajMastAci(), 999);
 }

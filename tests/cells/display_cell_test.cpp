@@ -8,8 +8,6 @@
 
 #include <MixedFont.h>
 
-#include <set>
-
 namespace
 {
 constexpr int kRow = 3, kCol = 2;
@@ -60,90 +58,66 @@ TEST_F(DisplayCells, NeedAGridAndRoomAndAContext)
 
 // ---- Pattern ----------------------------------------------------------------------------------------------
 
-class PatternCells : public DisplayCells
+TEST_F(DisplayCells, APatternIsInTheMixOnTheBackgroundWhereNothingIsSelected)
 {
-protected:
-    static constexpr COLORREF kPattern = RGB(160, 200, 255), kLines = RGB(160, 185, 200);
-    using Set = std::set<COLORREF>;
-
-    void SetUp() override
+    constexpr COLORREF kPattern = RGB(160, 200, 255), kMix = RGB(160, 185, 200), kNone = 0xFFFFFFFF;
+    const COLORREF selected = ::GetSysColor(COLOR_HIGHLIGHT),
+                   selectedText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    struct Case
     {
-        DisplayCells::SetUp();
-        cell = &Make<CPatternBkgndGridCell>(RUNTIME_CLASS(CPatternBkgndGridCell));
-        cell->SetText(L"");
-        cell->SetPatternColor(kPattern);
-        cell->SetPatternStyle(HS_DIAGCROSS);
-    }
-    Set Colours(BOOL bErase = TRUE)
-    {
-        Canvas canvas;
-        EXPECT_TRUE(Draw(canvas, *cell, CRect(8, 8, 47, 31), bErase));
-        Set found;
-        for (int i = 0; i < 200 * 60; ++i)
-            found.insert(canvas.at(i % 200, i / 200));
-        found.erase(kUntouched);
-        return found;
-    }
-    CPatternBkgndGridCell* cell = nullptr;
-};
-
-TEST_F(PatternCells, LinesAreInTheMixAndGapsInTheBackground)
-{
+        DWORD state;
+        COLORREF back, pattern;
+        int style;
+        COLORREF filled; ///< with this, and with lines in the mix
+        bool hasLines = false;
+        COLORREF frame = kUntouched;
+    };
+    std::vector<Case> cases = {
+        {CELL_SELECTED, kBack, kPattern, HS_CROSS, selected},
+        {CELL_FOCUSED, kBack, kPattern, HS_CROSS, kBack, true, kText},
+        {CELL_FOCUSED | CELL_SELECTED, kBack, kPattern, HS_CROSS, kBack, true, selectedText},
+        {0, CLR_INHERIT, kPattern, HS_CROSS, RGB(0, 0, 0)}, // which counts as black
+        {0, kBack, kPattern, 77, kBack},
+        {0, kBack, kPattern, -1, kBack},
+        {0, kBack, kNone, HS_CROSS, kBack},
+        {0, CLR_INHERIT, kNone, HS_CROSS, grid.GetTextBkColor()}};
     for (int style = HS_HORIZONTAL; style <= HS_DIAGCROSS; ++style)
+        cases.push_back({0, kBack, kPattern, style, kBack, true});
+    auto& cell = Make<CPatternBkgndGridCell>(RUNTIME_CLASS(CPatternBkgndGridCell));
+    EXPECT_EQ(std::pair(cell.GetPatternColor(), cell.GetPatternStyle()), std::pair(kNone, -1));
+    cell.SetText(L"");
+    for (const Case& c : cases)
     {
         Canvas expected, canvas;
-        CBrush brush(style, kLines);
-        expected.dc().SetBkColor(kBack);
-        expected.dc().FillRect(CRect(8, 8, 48, 32), &brush);
-        cell->SetPatternStyle(style);
+        CBrush lines(c.hasLines ? c.style : HS_CROSS, kMix), frame(c.frame);
+        expected.dc().FillSolidRect(CRect(8, 8, 48, 32), c.filled); // which is the brush's background then
+        if (c.hasLines)
+            expected.dc().FillRect(CRect(8, 8, 48, 32), &lines);
+        if (c.frame != kUntouched)
+            expected.dc().FrameRect(CRect(8, 8, 47, 31), &frame);
+        cell.SetState(c.state);
+        cell.SetBackClr(c.back);
+        cell.SetPatternColor(c.pattern);
+        cell.SetPatternStyle(c.style);
+        CPatternBkgndGridCell copy;
+        copy = cell;
         canvas.dc().SetBkColor(RGB(1, 2, 3));
-        EXPECT_TRUE(Draw(canvas, *cell, CRect(8, 8, 47, 31), FALSE))
-            << "its own background is always painted";
-        EXPECT_TRUE(canvas == expected) << style;
+        EXPECT_TRUE(Draw(canvas, copy, CRect(8, 8, 47, 31), c.back == CLR_INHERIT)) << "others always erase";
+        EXPECT_TRUE(canvas == expected) << c.state << ' ' << c.pattern << ' ' << c.style;
         EXPECT_EQ(canvas.dc().GetBkColor(), RGB(1, 2, 3));
         EXPECT_EQ(canvas.dc().GetBkMode(), OPAQUE);
     }
+    cell.SetBackClr(CLR_INHERIT);
+    Canvas untouched;
+    EXPECT_TRUE(Draw(untouched, cell, CRect(8, 8, 47, 31), FALSE));
+    EXPECT_EQ(untouched.Count(kUntouched), 200 * 60) << "nothing to erase";
 }
 
-TEST_F(PatternCells, NeedColourAndStyleAndAreNotInASelection)
+TEST_F(DisplayCells, APatternRunsThroughWhateverPartIsPaintedThroughABuffer)
 {
-    const std::pair<DWORD, Set> states[] = {
-        {CELL_SELECTED, {::GetSysColor(COLOR_HIGHLIGHT)}},
-        {CELL_FOCUSED, {kBack, kLines, kText}}, // with the frame
-        {CELL_FOCUSED | CELL_SELECTED, {kBack, kLines, ::GetSysColor(COLOR_HIGHLIGHTTEXT)}},
-        {0, {kBack, kLines}}};
-    for (const auto& [state, colours] : states)
-    {
-        cell->SetState(state);
-        EXPECT_EQ(Colours(), colours) << state;
-    }
-    CPatternBkgndGridCell copy;
-    EXPECT_EQ(copy.GetPatternStyle(), -1);
-    EXPECT_EQ(copy.GetPatternColor(), 0xFFFFFFFF);
-    copy = *cell;
-    EXPECT_EQ(copy.GetPatternStyle(), HS_DIAGCROSS);
-    EXPECT_EQ(copy.GetPatternColor(), kPattern);
-    EXPECT_EQ(copy.GetBackClr(), kBack);
-
-    cell->SetBackClr(CLR_INHERIT);
-    EXPECT_EQ(Colours(FALSE), Set{}) << "nothing to erase";
-    EXPECT_EQ(Colours(), Set{RGB(0, 0, 0)}) << "an inherited background counts as black";
-    cell->SetBackClr(kBack);
-    const std::pair<COLORREF, int> incomplete[] = {{kPattern, 77}, {kPattern, -1}, {0xFFFFFFFF, HS_CROSS}};
-    for (const auto& [color, style] : incomplete)
-    {
-        cell->SetPatternColor(color);
-        cell->SetPatternStyle(style);
-        for (const COLORREF back : {CLR_INHERIT, kBack})
-        {
-            cell->SetBackClr(back);
-            EXPECT_EQ(Colours(), Set{back == kBack ? kBack : grid.GetTextBkColor()}) << color << ' ' << style;
-        }
-    }
-}
-
-TEST_F(PatternCells, RunThroughWhateverPartIsPaintedThroughABuffer)
-{
+    auto& cell = Make<CPatternBkgndGridCell>(RUNTIME_CLASS(CPatternBkgndGridCell));
+    cell.SetPatternColor(kText);
+    cell.SetPatternStyle(HS_DIAGCROSS);
     grid.SetDoubleBuffering(TRUE);
     CRect rect;
     grid.GetCellRect(kRow, kCol, &rect);
@@ -158,61 +132,53 @@ TEST_F(PatternCells, RunThroughWhateverPartIsPaintedThroughABuffer)
     paint(CRect(0, 0, 300, 200), whole);
     paint(CRect(rect.left + 3, rect.top + 5, rect.right - 9, rect.bottom - 8), part);
     EXPECT_TRUE(part == whole);
+    EXPECT_GT(whole.Count(kBack), 100);
 }
 
-// ---- Image ------------------------------------------------------------------------------------------------
+// ---- Image and mark ---------------------------------------------------------------------------------------
 
 TEST_F(DisplayCells, AnImageStandsWhereTheFormatSaysIfItFits)
 {
     constexpr COLORREF kImage = RGB(200, 30, 30);
-    constexpr int kMargin = 4;
-    CClientDC screen(nullptr);
-    CBitmap bitmap; // 10 by 6 pixels
-    CDC dc;
-    ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&screen, 10, 6) && dc.CreateCompatibleDC(&screen));
-    CBitmap* const old = dc.SelectObject(&bitmap);
-    dc.FillSolidRect(0, 0, 10, 6, kImage);
-    dc.SelectObject(old);
+    owtest::Surface image(10, 6, kImage);
     CImageList images;
-    ASSERT_TRUE(images.Create(10, 6, ILC_COLOR24, 1, 1));
-    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
-    grid.SetImageList(&images);
+    ASSERT_TRUE(images.Create(10, 6, ILC_COLOR32, 1, 1));
+    images.Add(CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(image.dc(), OBJ_BITMAP))),
+               static_cast<CBitmap*>(nullptr));
     CImageGridCell cell;
     cell = Make<CImageGridCell>(RUNTIME_CLASS(CImageGridCell));
-    cell.SetImage(0);
-    cell.SetMargin(kMargin);
-    const auto imageIn = [&](CRect rect)
+    struct Case
     {
-        Canvas canvas;
-        EXPECT_TRUE(Draw(canvas, cell, rect));
-        return canvas.extent(kImage);
+        DWORD format;
+        UINT margin;
+        CRect rect, drawn;
+        int image = 0;
     };
     // In 51 by 39 pixels between the margins, an image of 11 by 7, as its size is counted here.
-    const int left = 20 + kMargin, centre = left + 20, right = left + 40, top = 10, middle = 26, bottom = 42;
-    const std::pair<DWORD, CPoint> cases[] = {{DT_LEFT, {left, top}},
-                                              {DT_CENTER | DT_RIGHT, {centre, top}},
-                                              {DT_VCENTER | DT_BOTTOM, {left, middle}},
-                                              {DT_RIGHT | DT_BOTTOM, {right, bottom}},
-                                              {DT_CENTER | DT_VCENTER | DT_SINGLELINE, {centre, middle}}};
-    for (const auto& [format, place] : cases)
+    const CRect roomy(20, 10, 79, 49);
+    const CRect none;
+    for (const Case& c : {Case{DT_LEFT, 4, roomy, {24, 10, 34, 16}},
+                          {DT_CENTER | DT_RIGHT, 4, roomy, {44, 10, 54, 16}},
+                          {DT_VCENTER | DT_BOTTOM, 4, roomy, {24, 26, 34, 32}},
+                          {DT_RIGHT | DT_BOTTOM, 4, roomy, {64, 42, 74, 48}},
+                          {DT_CENTER | DT_VCENTER | DT_SINGLELINE, 4, roomy, {44, 26, 54, 32}},
+                          {DT_LEFT, 4, {0, 0, 11, 40}, {4, 0, 14, 6}}, // the margins are room, too
+                          {DT_LEFT, 4, {0, 0, 10, 40}, none},
+                          {DT_LEFT, 0, {0, 0, 11, 7}, {0, 0, 10, 6}},
+                          {DT_LEFT, 0, {0, 0, 10, 7}, none},
+                          {DT_LEFT, 0, {0, 0, 11, 6}, none},
+                          {DT_LEFT, 0, roomy, none, 1},
+                          {DT_LEFT, 0, roomy, none, -1}})
     {
-        cell.SetFormat(format);
-        EXPECT_EQ(imageIn(CRect(20, 10, 79, 49)), CRect(place, CSize(10, 6))) << format;
+        grid.SetImageList(c.image < 0 ? nullptr : &images);
+        cell.SetImage(std::abs(c.image));
+        cell.SetFormat(c.format);
+        cell.SetMargin(c.margin);
+        Canvas canvas;
+        EXPECT_TRUE(Draw(canvas, cell, c.rect));
+        EXPECT_EQ(canvas.extent(kImage), c.drawn) << c.format << ' ' << c.margin << ' ' << c.rect.right;
     }
-    EXPECT_FALSE(imageIn(CRect(0, 0, 11, 40)).IsRectEmpty()) << "the margins are room, too";
-    EXPECT_TRUE(imageIn(CRect(0, 0, 10, 40)).IsRectEmpty());
-    cell.SetMargin(0);
-    EXPECT_FALSE(imageIn(CRect(0, 0, 11, 7)).IsRectEmpty());
-    EXPECT_TRUE(imageIn(CRect(0, 0, 10, 7)).IsRectEmpty());
-    EXPECT_TRUE(imageIn(CRect(0, 0, 11, 6)).IsRectEmpty());
-    cell.SetImage(1); // there is none
-    EXPECT_TRUE(imageIn(CRect(0, 0, 80, 40)).IsRectEmpty());
-    cell.SetImage(0);
-    grid.SetImageList(nullptr);
-    EXPECT_TRUE(imageIn(CRect(0, 0, 80, 40)).IsRectEmpty());
 }
-
-// ---- Mark -------------------------------------------------------------------------------------------------
 
 TEST_F(DisplayCells, AMarkIsAStarBehindTheTextThatOnlyPaintingKnows)
 {
@@ -232,13 +198,11 @@ TEST_F(DisplayCells, AMarkIsAStarBehindTheTextThatOnlyPaintingKnows)
         EXPECT_EQ(grid.GetUpdateRect(&update) != FALSE, changes);
         EXPECT_EQ(update, changes ? client : CRect());
     }
-    Draw(marked, cell, CRect(0, 0, 79, 24));
-    EXPECT_TRUE(marked == withStar);
-    EXPECT_FALSE(unmarked == withStar);
-    EXPECT_STREQ(cell.GetText(), L"B 500");
     CMarkedTextCell copy;
     copy = cell;
-    EXPECT_TRUE(copy.IsMarked());
+    Draw(marked, copy, CRect(0, 0, 79, 24));
+    EXPECT_TRUE(marked == withStar);
+    EXPECT_FALSE(unmarked == withStar);
     EXPECT_STREQ(copy.GetText(), L"B 500");
     grid.DestroyWindow();
     copy.Mark(false); // no window, and then no grid to repaint
@@ -262,35 +226,26 @@ TEST_F(DisplayCells, MixedTextStandsByTheFormatInTheFontOfTheGridsWindow)
     cell.SetMargin(9);  // nor does this
     cell.SetText(kMixed);
     grid.SetFont(&font);
-    const auto showIn = [&font](CDC& dc)
-    {
-        dc.SelectObject(&font);
-        dc.SetTextColor(kText);
-        dc.SetBkMode(TRANSPARENT);
-    };
-    CClientDC screen(nullptr);
-    showIn(screen);
-    const CSize size = CMixedFont::GetTextExtent(&screen, kMixed);
-    const int y = rect.top + (rect.Height() - size.cy) / 2;
-    const int right = rect.right - size.cx - 2, centre = rect.left + (rect.Width() - size.cx) / 2;
-    for (const auto& [format, x] : {std::pair<DWORD, int>{DT_LEFT, rect.left + 2},
-                                    {DT_RIGHT | DT_CENTER, right},
-                                    {DT_CENTER | DT_BOTTOM | DT_SINGLELINE, centre}})
+    const auto stateOf = [](CDC& dc)
+    { return std::tuple(dc.GetTextColor(), dc.GetBkMode(), dc.GetCurrentFont()->GetSafeHandle()); };
+    for (const DWORD format : {DT_LEFT, DT_RIGHT | DT_CENTER, DT_CENTER | DT_BOTTOM | DT_SINGLELINE})
     {
         Canvas expected, canvas;
         expected.dc().FillSolidRect(5, 5, 150, 40, kBack);
-        const HGDIOBJ before = canvas.dc().GetCurrentFont()->GetSafeHandle();
-        showIn(expected.dc());
-        CMixedFont::TextOut(&expected.dc(), CPoint(x, y), kMixed);
+        expected.dc().SelectObject(&font);
+        expected.dc().SetTextColor(kText);
+        expected.dc().SetBkMode(TRANSPARENT);
+        const CSize free = rect.Size() - CMixedFont::GetTextExtent(&expected.dc(), kMixed);
+        const int x = format == DT_LEFT ? 2 : format & DT_RIGHT ? free.cx - 2 : free.cx / 2;
+        CMixedFont::TextOut(&expected.dc(), rect.TopLeft() + CSize(x, free.cy / 2), kMixed);
         cell.SetFormat(format);
         canvas.dc().SetTextColor(RGB(1, 2, 3));
+        const auto before = stateOf(canvas.dc());
         EXPECT_TRUE(Draw(canvas, cell, rect));
         EXPECT_TRUE(canvas == expected) << format;
-        EXPECT_STREQ(cell.GetText(), kMixed);
-        EXPECT_EQ(canvas.dc().GetTextColor(), RGB(1, 2, 3));
-        EXPECT_EQ(canvas.dc().GetBkMode(), OPAQUE);
-        EXPECT_EQ(canvas.dc().GetCurrentFont()->GetSafeHandle(), before);
+        EXPECT_EQ(stateOf(canvas.dc()), before);
     }
+    EXPECT_STREQ(cell.GetText(), kMixed);
 }
 
 TEST_F(DisplayCells, MixedTextKeepsTheInheritedColourAndIsCutOff)
@@ -324,13 +279,6 @@ class AnsiCells : public DisplayCells
 {
 protected:
     CEdit& Editor() { return static_cast<CEdit&>(*grid.GetDlgItem(InPlaceControlId)); }
-    /// Edits past the grid, and answers the character set of the editor.
-    BYTE EditAlone(CGridCell& cell)
-    {
-        cell.SetGrid(&grid);
-        EXPECT_TRUE(cell.Edit(kRow, kCol, CRect(10, 10, 90, 30), CPoint(), InPlaceControlId, VK_LBUTTON));
-        return owtest::FontOf(*cell.GetEditWnd()).lfCharSet;
-    }
     BYTE CharSetOf(BOOL bRow, BOOL bCol) { return grid.GetDefaultCell(bRow, bCol)->GetFont()->lfCharSet; }
     owtest::SubLanguage greek{LANG_GREEK};
 };
@@ -379,12 +327,11 @@ TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
 
 TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)
 {
-    const auto edit = [&](CGridCell& cell)
+    const auto charSetOf = [&](CGridCell& cell)
     {
-        const BYTE charSet = EditAlone(cell);
-        cell.EndEdit(); // closes by a message in the queue; the next edit may begin before
-        cell.OnEndEdit();
-        return charSet;
+        cell.SetGrid(&grid);
+        EXPECT_TRUE(cell.Edit(kRow, kCol, CRect(10, 10, 90, 30), CPoint(), InPlaceControlId, VK_LBUTTON));
+        return owtest::FontOf(*cell.GetEditWnd()).lfCharSet;
     };
     const BYTE usual = CharSetOf(FALSE, FALSE);
     ClTranslator russian;
@@ -392,16 +339,24 @@ TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)
     CPatternBkgndGridCell byGreek;
     owtest::SubLanguage::SetDisplays();
     CAnsiGridCell byRussian(&russian), byDisplay, copy;
-    EXPECT_EQ(edit(byGreek), usual) << "back to the display's by now";
-    owtest::SubLanguage::Set(LANG_GREEK);
-    EXPECT_EQ(edit(byDisplay), usual) << "was not needed when it was made";
-    for (CAnsiGridCell* pCell : {&byRussian, static_cast<CAnsiGridCell*>(&byGreek)})
-        for (int i = 0; i < 2; ++i)
-            EXPECT_EQ(edit(*pCell), GREEK_CHARSET);
+    for (const auto& [pCell, language, charSet] :
+         {std::tuple<CAnsiGridCell*, WORD, BYTE>(&byGreek, LANG_NEUTRAL, usual), // the display's by now
+          {&byDisplay, LANG_GREEK, usual}, // was not needed when it was made
+          {&byRussian, LANG_GREEK, GREEK_CHARSET},
+          {&byRussian, LANG_GREEK, GREEK_CHARSET},
+          {&byGreek, LANG_GREEK, GREEK_CHARSET},
+          {&byGreek, LANG_GREEK, GREEK_CHARSET}})
+    {
+        if (language != LANG_NEUTRAL)
+            owtest::SubLanguage::Set(language);
+        EXPECT_EQ(charSetOf(*pCell), charSet);
+        pCell->EndEdit(); // closes by a message in the queue; the next edit may begin before
+        pCell->OnEndEdit();
+    }
     EXPECT_TRUE(EditorCloses());
 
     byGreek.SetText(L"3");
-    EditAlone(byGreek);
+    charSetOf(byGreek);
     EXPECT_TRUE(byGreek.Edit(kRow, kCol, CRect(), CPoint(), InPlaceControlId, L'+'));
     EXPECT_STREQ(gfnWholeText(*byGreek.GetEditWnd()), L"3+") << "the key goes to the open editor";
     copy = byRussian;

@@ -122,24 +122,6 @@ TEST(LimitedDouble, HasAPointInALocaleWithAComma)
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
-TEST(LimitedDouble, BoundsBindTheUserOnly)
-{
-    CLimitedDoubleCell cell;
-    cell.Set(kCol, 5.0);
-    cell.SetLocalMin(0.0, FALSE);
-    cell.SetLocalMax(10.0, FALSE);
-    Refuses(cell, {L"0", L"10"});
-    Takes(cell, {L"9.99", L"9.99", L"0.0001", L"0.00"});
-    cell.SetLocalMin(0.0, TRUE);
-    cell.SetLocalMax(10.0, TRUE);
-    Takes(cell, {L"10", L"10.00", L"0", L"0.00"});
-    Refuses(cell, {L"10.01", L"-0.01"});
-    cell.Set(kCol, -77.0);
-    cell.SetLocalMin(11.0, TRUE);
-    EXPECT_STREQ(cell.GetText(), L"-77.00");
-    Refuses(cell, {L"10", L"10.5", L"11"}); // nothing lies between crossed bounds
-}
-
 TEST(LimitedDouble, ValuesAreGlobalThroughAChangeOfUnit)
 {
     CGridCtrl grid(2, kCol + 2);
@@ -219,7 +201,7 @@ TEST(LimitedQuestionMark, StandsForWhatIsNotPositive)
     EXPECT_STREQ(cell.GetText(), L"?");
 }
 
-TEST(LimitedInt, HasItsBounds)
+TEST(LimitedInt, ReadsATextAsFarAsItIsANumber)
 {
     CLimitedIntCell cell;
     Takes(cell, {L"2147483647", L"2147483647", L"-2147483648", L"-2147483648", L"-", L"0", L"1-2", L"1",
@@ -227,28 +209,9 @@ TEST(LimitedInt, HasItsBounds)
     Refuses(cell, {L"", L"1.5", L" 1", L"1e5", L"abc"});
     TakesAs(cell, INT_MAX, L"99999999999999999999");
     TakesAs(cell, INT_MIN, L"-2147483649");
-    for (const bool inclusive : {false, true})
-    {
-        cell.SetMin(2, inclusive);
-        cell.SetMax(6, inclusive);
-        cell.Set(-100); // bounds bind the user only
-        Refuses(cell, inclusive ? Texts{L"1", L"7"} : Texts{L"2", L"6"});
-        Takes(cell, inclusive ? Texts{L"2", L"2", L"6", L"6"} : Texts{L"3", L"3", L"5", L"5"});
-    }
 }
 
-TEST(LimitedText, TakesWhateverIsTyped)
-{
-    CLimitedTextCell cell;
-    EXPECT_EQ(cell.GetMax(), 0u) << "a new cell has a limit, and has not been told it";
-    cell.SetMax(3);
-    EXPECT_TRUE(cell.ValidateEdit(L"longer") && cell.ValidateEdit(L""));
-    CLimitedTextCell copy;
-    copy = cell;
-    EXPECT_EQ(copy.GetMax(), 3u);
-}
-
-TEST(LimitedCellsAlone, CopiesHaveAllAndNoneHasAFont)
+TEST(LimitedCellsAlone, BoundsBindTheUserOnlyAndAreCopied)
 {
     for (const bool inclusive : {false, true})
     {
@@ -257,25 +220,33 @@ TEST(LimitedCellsAlone, CopiesHaveAllAndNoneHasAFont)
         length.SetBrojDecimala(3);
         length.SetLocalMin(-2.0, inclusive);
         length.SetLocalMax(9.0, !inclusive);
-        length.Set(kCol, 4.0);
+        length.Set(kCol, -77.0);
         count.SetMin(-2, inclusive);
         count.SetMax(9, !inclusive);
-        count.Set(4);
+        count.Set(-77);
         sameLength = length;
         sameCount = count;
-        EXPECT_EQ(sameLength.Get(kCol), 4.0);
-        EXPECT_EQ(sameCount.Get(), 4);
+        EXPECT_EQ(sameLength.Get(kCol), -77.0);
+        EXPECT_EQ(sameCount.Get(), -77);
         Refuses(sameLength, {L"-2.1", inclusive ? L"9" : L"-2", L"9.1"});
         Refuses(sameCount, {L"-3", inclusive ? L"9" : L"-2", L"10"});
+        Takes(sameLength, {L"-1.9999", L"-2.000"});
         Takes(sameLength, inclusive ? Texts{L"-2", L"-2.000"} : Texts{L"9", L"9.000"});
         Takes(sameCount, inclusive ? Texts{L"-2", L"-2"} : Texts{L"9", L"9"});
+        length.SetLocalMin(11.0, TRUE);
+        Refuses(length, {L"8", L"10.5", L"11"}); // nothing lies between crossed bounds
     }
     CLimitedDoubleCell length;
     CLimitedIntCell count;
-    CLimitedTextCell text;
+    CLimitedTextCell text, copy;
     for (CGridCell* cell : std::initializer_list<CGridCell*>{&length, &count, &text})
     {
         cell->SetFont(CGridDefaultCell().GetFont());
         EXPECT_TRUE(cell->IsDefaultFont());
     }
+    EXPECT_EQ(text.GetMax(), 0u) << "a new cell has a limit, and has not been told it";
+    text.SetMax(3);
+    EXPECT_TRUE(text.ValidateEdit(L"longer") && text.ValidateEdit(L"")) << "and does not look at it";
+    copy = text;
+    EXPECT_EQ(copy.GetMax(), 3u);
 }

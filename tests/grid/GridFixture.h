@@ -39,7 +39,8 @@ private:
     }
 };
 
-class GridTest : public ::testing::Test
+template <class Grid>
+class GridTestOf : public ::testing::Test
 {
 protected:
     using Calls = GridParent::Calls;
@@ -115,5 +116,6 @@ protected:
     CCellRange Selected() { return grid.GetSelectedCellRange(); }
 
     GridParent& parent = SharedParent();
-    OpenGrid grid;
+    Grid grid;
 };
+using GridTest = GridTestOf<OpenGrid>;

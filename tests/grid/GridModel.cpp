@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <unordered_map>
 
 namespace
 {
@@ -14,21 +15,17 @@ struct CellKind
     const wchar_t* behindNumber; ///< written behind a number that is typed; null: any text is accepted
 };
 
-const std::vector<CellKind>& Kinds()
-{
-    static const std::vector<CellKind> kinds = {
-        {RUNTIME_CLASS(CGridCell), nullptr},           {RUNTIME_CLASS(CLimitedTextCell), nullptr},
-        {RUNTIME_CLASS(CLimitedIntCell), L""},         {RUNTIME_CLASS(CLimitedDoubleCell), L".00"},
-        {RUNTIME_CLASS(CGridCellCheck), nullptr},      {RUNTIME_CLASS(CGridCellCombo), nullptr},
-        {RUNTIME_CLASS(CGridCellColorCombo), nullptr},
-    };
-    return kinds;
-}
+const CellKind kKinds[] = {
+    {RUNTIME_CLASS(CGridCell), nullptr},           {RUNTIME_CLASS(CLimitedTextCell), nullptr},
+    {RUNTIME_CLASS(CLimitedIntCell), L""},         {RUNTIME_CLASS(CLimitedDoubleCell), L".00"},
+    {RUNTIME_CLASS(CGridCellCheck), nullptr},      {RUNTIME_CLASS(CGridCellCombo), nullptr},
+    {RUNTIME_CLASS(CGridCellColorCombo), nullptr},
+};
 
 /// What becomes of a text that is typed; nothing if the cell refuses it.
 std::optional<std::wstring> Accepted(int kind, const std::wstring& text)
 {
-    const wchar_t* const behind = Kinds()[kind].behindNumber;
+    const wchar_t* const behind = kKinds[kind].behindNumber;
     if (!behind)
         return text;
     if (text.empty() || text.find_first_not_of(L"0123456789") != std::wstring::npos)
@@ -38,65 +35,64 @@ std::optional<std::wstring> Accepted(int kind, const std::wstring& text)
 
 bool IsA(int kind, CRuntimeClass* pClass)
 {
-    return Kinds()[kind].pClass == pClass;
-}
-
-int KindOf(const CGridCellBase& cell)
-{
-    int kind = 0;
-    while (!IsA(kind, cell.GetRuntimeClass()))
-        ++kind;
-    return kind;
+    return kKinds[kind].pClass == pClass;
 }
 
 struct ModelCell
 {
-    int kind = 0; ///< index into Kinds
+    int kind; ///< index into kKinds
     std::wstring text = {};
     LPARAM data = 0;
-    bool modified = false;
-    bool readOnly = false;
-    bool selected = false;
-
-    friend bool operator==(const ModelCell&, const ModelCell&) = default;
-    friend auto operator<=>(const ModelCell&, const ModelCell&) = default;
+    DWORD state = 0; ///< as far as its place does not tell it
 };
 
-struct ModelRow
+/// A row or a column. It goes by its id, wherever it comes to stand.
+struct Line
 {
-    int height = 0;
-    std::vector<ModelCell> cells;
-
-    friend bool operator==(const ModelRow&, const ModelRow&) = default;
-    friend auto operator<=>(const ModelRow&, const ModelRow&) = default;
+    int id;
+    int size;
 };
 
 /// What the grid must hold, written down without any of the grid's means. What is the same for rows and for
 /// columns asks which of them is meant.
-struct Model
+class Model
 {
-    std::vector<ModelRow> rows;
-    std::vector<int> widths;
-    int fixedRows = 0;
-    int fixedCols = 0;
+public:
+    std::vector<Line> lines[2]; ///< columns, rows
+    int fixed[2] = {};
     CCellID focus;
     int sortColumn = -1;
     int newKind; ///< of cells made from now on
 
     explicit Model(int kind = 0) : newKind(kind) {}
 
-    int RowCount() const { return static_cast<int>(rows.size()); }
-    int ColCount() const { return static_cast<int>(widths.size()); }
-    int Count(bool ofRows) const { return ofRows ? RowCount() : ColCount(); }
-    int& Fixed(bool ofRows) { return ofRows ? fixedRows : fixedCols; }
-    int& Size(bool ofRows, int i) { return ofRows ? rows[i].height : widths[i]; }
+    int Count(bool ofRows) const { return static_cast<int>(lines[ofRows].size()); }
+    int RowCount() const { return Count(true); }
+    int ColCount() const { return Count(false); }
     bool Has(int r, int c) const { return r >= 0 && r < RowCount() && c >= 0 && c < ColCount(); }
-    bool HasBody() const { return RowCount() > fixedRows && ColCount() > fixedCols; }
-    ModelCell& At(int r, int c) { return rows[r].cells[c]; }
+    bool HasBody() const { return RowCount() > fixed[true] && ColCount() > fixed[false]; }
+    /// Cells come with the younger of their two lines.
+    ModelCell& At(int r, int c)
+    {
+        const int row = lines[true][r].id, col = lines[false][c].id;
+        return m_cells.try_emplace(LONGLONG(row) << 32 | col, ModelCell{m_kinds[std::max(row, col)]})
+            .first->second;
+    }
+    DWORD StateOf(int r, int c)
+    {
+        return At(r, c).state | (r < fixed[true] ? CELL_FIXED | CELL_FIXEDROW : 0) |
+               (c < fixed[false] ? CELL_FIXED | CELL_FIXEDCOL : 0) |
+               (focus == CCellID(r, c) ? CELL_FOCUSED : 0);
+    }
+    CCellID RaisedToBody(int r, int c) const
+    {
+        return CCellID(std::max(r, fixed[true]), std::max(c, fixed[false]));
+    }
 
     void Select(const CCellRange& range, bool select = true)
     {
-        range.ForEach([&](int r, int c) { At(r, c).selected = select; });
+        range.ForEach([&](int r, int c)
+                      { At(r, c).state = (At(r, c).state & ~CELL_SELECTED) | (select ? CELL_SELECTED : 0); });
     }
     /// And nothing without a range.
     void SelectOnly(const CCellRange& range = CCellRange(0, 0, -1, -1))
@@ -109,56 +105,51 @@ struct Model
         SelectOnly();
         focus = CCellID();
     }
-    ModelCell NewCell() const { return ModelCell{newKind}; }
-    ModelRow NewRow(int height) const { return {height, std::vector<ModelCell>(widths.size(), NewCell())}; }
-    void Resize(int nRows, int nCols, int height, int width)
+    void Resize(bool ofRows, int n, int size)
     {
-        widths.resize(nCols, width);
-        for (ModelRow& row : rows)
-            row.cells.resize(nCols, NewCell());
-        rows.resize(nRows, NewRow(height));
-        fixedRows = std::min(fixedRows, nRows);
-        fixedCols = std::min(fixedCols, nCols);
-        if (focus.row >= nRows || focus.col >= nCols)
+        while (Count(ofRows) < n)
+            lines[ofRows].push_back(NewLine(size));
+        lines[ofRows].resize(n);
+        fixed[ofRows] = std::min(fixed[ofRows], n);
+        if (!Has(focus.row, focus.col))
             focus = CCellID();
         sortColumn = -1;
     }
     void Insert(bool row, int at, int size)
     {
         Reset();
-        if (row)
-            rows.insert(rows.begin() + at, NewRow(size));
-        else
-        {
-            widths.insert(widths.begin() + at, size);
-            for (ModelRow& each : rows)
-                each.cells.insert(each.cells.begin() + at, NewCell());
-        }
+        lines[row].insert(lines[row].begin() + at, NewLine(size));
         sortColumn = -1;
     }
     void Remove(bool row, int at)
     {
         Reset();
-        Fixed(row) -= at < Fixed(row);
-        if (row)
-            rows.erase(rows.begin() + at);
-        else
-        {
-            widths.erase(widths.begin() + at);
-            for (ModelRow& each : rows)
-                each.cells.erase(each.cells.begin() + at);
-        }
+        fixed[row] -= at < fixed[row];
+        lines[row].erase(lines[row].begin() + at);
         sortColumn = -1;
     }
+
+private:
+    Line NewLine(int size)
+    {
+        m_kinds.push_back(newKind);
+        return {static_cast<int>(m_kinds.size()) - 1, size};
+    }
+
+    std::vector<int> m_kinds; ///< of the cells that a line has brought, by its id
+    std::unordered_map<LONGLONG, ModelCell> m_cells;
 };
+
+bool s_bParentRefuses = false; ///< the text of an edit
 
 class GridSequence : public owtest::Sequence
 {
 public:
     explicit GridSequence(const SequenceOptions& options)
-        : m_withInput(options.withInput), m_mixedCells(options.mixedCells), m_inside(options.makeGrid()),
-          m_grid(m_inside->Grid())
+        : m_withInput(options.withInput), m_mixedCells(options.mixedCells), m_pGrid(options.makeGrid())
     {
+        m_parent.answer = [](NMHDR& header)
+        { return header.code == LVN_ENDLABELEDITW && s_bParentRefuses ? -1 : 0; };
         m_parent.Open(360, 280, m_withInput);
         PlaceGrid(m_grid, m_parent, CSize(300, 220));
         m_height = m_grid.GetDefCellHeight();
@@ -207,10 +198,7 @@ private:
             Resize(rows, n);
     }
 
-    void Resize(bool rows, int n)
-    {
-        m_model.Resize(rows ? n : m_model.RowCount(), rows ? m_model.ColCount() : n, m_height, m_width);
-    }
+    void Resize(bool rows, int n) { m_model.Resize(rows, n, rows ? m_height : m_width); }
 
     void SetFixed()
     {
@@ -219,12 +207,12 @@ private:
         Say(rows ? "SetFixedRowCount" : "SetFixedColumnCount", n);
         Expect(rows ? m_grid.SetFixedRowCount(n) : m_grid.SetFixedColumnCount(n),
                "setting the fixed count answers 0");
-        if (n == m_model.Fixed(rows))
+        if (n == m_model.fixed[rows])
             return;
         if (n > m_model.Count(rows))
             Resize(rows, n);
         m_model.Reset();
-        m_model.Fixed(rows) = n;
+        m_model.fixed[rows] = n;
     }
 
     void Insert()
@@ -234,7 +222,7 @@ private:
         const std::wstring heading = Text();
         Say(row ? "InsertRow" : "InsertColumn", at);
         // The count itself is a place for columns only.
-        const bool wrong = at >= 0 && (at < m_model.Fixed(row) || at > count - row);
+        const bool wrong = at >= 0 && (at < m_model.fixed[row] || at > count - row);
         const int expected = wrong ? -1 : at < 0 ? count : at;
         Expect((row ? m_grid.InsertRow(heading.c_str(), at)
                     : m_grid.InsertColumn(heading.c_str(), GV_HEADING_FORMAT, at)) == expected,
@@ -244,10 +232,10 @@ private:
         if (m_model.Count(!row) == 0)
             Resize(!row, 1);
         m_model.Insert(row, expected, row ? m_grid.GetRowHeight(expected) : m_grid.GetColumnWidth(expected));
-        Expect(!row || m_model.rows[expected].height > 0, "an inserted row has no height");
+        Expect(!row || m_model.lines[true][expected].size > 0, "an inserted row has no height");
         ModelCell& head = row ? m_model.At(expected, 0) : m_model.At(0, expected);
         head.text = heading;
-        head.modified = true;
+        head.state = CELL_MODIFIED;
     }
 
     void Delete()
@@ -264,8 +252,8 @@ private:
             Say("DeleteNonFixedRows");
             Expect(m_grid.DeleteNonFixedRows(), "DeleteNonFixedRows answers 0");
             m_model.Reset();
-            if (m_model.RowCount() > m_model.fixedRows)
-                m_model.Resize(m_model.fixedRows, m_model.ColCount(), 0, 0);
+            if (m_model.RowCount() > m_model.fixed[true])
+                Resize(true, m_model.fixed[true]);
         }
         else
             DeleteOne(what < 9);
@@ -287,8 +275,8 @@ private:
     /// Of one cell, or of all that are made from now on.
     void SetKind()
     {
-        const int kind = Pick(static_cast<int>(Kinds().size()));
-        CRuntimeClass* const pClass = Kinds()[kind].pClass;
+        const int kind = Pick(std::size(kKinds));
+        CRuntimeClass* const pClass = kKinds[kind].pClass;
         if (Pick(2))
         {
             Say("SetDefaultCellType", kind);
@@ -310,7 +298,7 @@ private:
     {
         const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount()), what = Pick(5);
         const BOOL exists = m_model.Has(r, c);
-        ModelCell missing;
+        ModelCell missing{0};
         ModelCell& cell = exists ? m_model.At(r, c) : missing;
         Say("change item", r, c, what);
         if (what < 3)
@@ -324,10 +312,9 @@ private:
         }
         else if (exists)
         {
-            m_grid.SetItemState(r, c,
-                                m_grid.GetItemState(r, c) ^ (what == 3 ? CELL_READONLY : CELL_SELECTED));
-            bool& state = what == 3 ? cell.readOnly : cell.selected;
-            state = !state;
+            const DWORD bit = what == 3 ? CELL_READONLY : CELL_SELECTED;
+            m_grid.SetItemState(r, c, m_grid.GetItemState(r, c) ^ bit);
+            cell.state ^= bit;
         }
     }
 
@@ -335,7 +322,7 @@ private:
     {
         if (!m_model.Has(r, c))
             return;
-        m_model.At(r, c).modified = true;
+        m_model.At(r, c).state |= CELL_MODIFIED;
         if (c == m_model.sortColumn)
             m_model.sortColumn = -1;
     }
@@ -350,7 +337,7 @@ private:
         Expect((row ? m_grid.SetRowHeight(at, size) : m_grid.SetColumnWidth(at, size)) == BOOL(exists),
                "setting the size answers wrong");
         if (exists)
-            m_model.Size(row, at) = size;
+            m_model.lines[row][at].size = size;
     }
 
     // ---- Focus, selection, order
@@ -368,7 +355,7 @@ private:
         const int c = Pick(m_model.ColCount());
         Say("SetFocusCell", r, c);
         Expect(m_grid.SetFocusCell(r, c) == m_model.focus, "SetFocusCell answers another old focus");
-        m_model.focus = RaisedToBody(r, c);
+        m_model.focus = m_model.RaisedToBody(r, c);
     }
 
     void SelectRange()
@@ -381,12 +368,12 @@ private:
         m_grid.SetSelectedRange(r1, c1, r2, c2, atOnce, select);
         if (select)
             m_model.SelectOnly();
-        const CCellID from = RaisedToBody(r1, c1), to = RaisedToBody(r2, c2);
+        const CCellID from = m_model.RaisedToBody(r1, c1), to = m_model.RaisedToBody(r2, c2);
         if (r1 >= 0 && c1 >= 0 && m_model.Has(to.row, to.col))
             m_model.Select(CCellRange(from.row, from.col, to.row, to.col), select);
     }
 
-    /// The order of equal rows is not told: the grid's is taken over if it is an order of the same rows.
+    /// The order of equal rows is not told, nor does it matter which of several that are alike stands where.
     void Sort()
     {
         if (m_model.ColCount() == 0)
@@ -394,43 +381,35 @@ private:
         const int c = Pick(m_model.ColCount());
         const bool ascending = Pick(2) != 0;
         Say("SortTextItems", c, ascending);
-        const bool enough = m_model.RowCount() - m_model.fixedRows > 1;
+        const bool enough = m_model.RowCount() - m_model.fixed[true] > 1;
         Expect((m_grid.SortTextItems(c, ascending) != FALSE) == enough, "SortTextItems answers wrong");
-        m_inside->TopLeft(TRUE); // a sort leaves the view at its row, whatever that is now high
+        TopLeft(TRUE); // a sort leaves the view at its row, whatever that is now high
         m_model.Reset();
         m_model.sortColumn = c;
 
-        std::vector<ModelRow> before(m_model.rows.begin() + m_model.fixedRows, m_model.rows.end());
-        for (int r = m_model.fixedRows; r < m_model.RowCount(); ++r)
-            m_model.rows[r] = RowOfGrid(r);
-        std::vector<ModelRow> after(m_model.rows.begin() + m_model.fixedRows, m_model.rows.end());
-        for (size_t i = 1; i < after.size(); ++i)
+        std::vector<Line> left(m_model.lines[true].begin() + m_model.fixed[true], m_model.lines[true].end());
+        for (int r = m_model.fixed[true]; r < m_model.RowCount(); ++r)
         {
-            const auto &first = after[i - 1].cells[c].text, &second = after[i].cells[c].text;
-            Expect(ascending ? first <= second : first >= second, "the rows are not in order");
+            const auto isHere = [&](const Line& row)
+            {
+                m_model.lines[true][r] = row;
+                return IsRowAsTold(r);
+            };
+            const auto found = std::find_if(left.begin(), left.end(), isHere);
+            if (found == left.end())
+                return Problem("sorting changed the rows themselves");
+            left.erase(found);
+            const auto &text = m_model.At(r, c).text,
+                       &above = m_model.At(std::max(r - 1, m_model.fixed[true]), c).text;
+            Expect(ascending ? above <= text : above >= text, "the rows are not in order");
         }
-        std::sort(before.begin(), before.end());
-        std::sort(after.begin(), after.end());
-        Expect(before == after, "sorting changed the rows themselves");
-    }
-
-    ModelRow RowOfGrid(int r)
-    {
-        ModelRow row{m_grid.GetRowHeight(r), {}};
-        for (int c = 0; c < m_model.ColCount(); ++c)
-        {
-            CGridCellBase& cell = *m_grid.GetCell(r, c);
-            row.cells.push_back({KindOf(cell), cell.GetText(), cell.GetData(), cell.IsModified() != 0,
-                                 cell.IsReadOnly() != 0, cell.IsSelected() != 0});
-        }
-        return row;
     }
 
     // ---- Input
 
     bool Shows(bool row, int i)
     {
-        return i >= m_model.Fixed(row) && i < m_model.Count(row) && m_model.Size(row, i) > 0;
+        return i >= m_model.fixed[row] && i < m_model.Count(row) && m_model.lines[row][i].size > 0;
     }
 
     void Key()
@@ -449,9 +428,9 @@ private:
         if (key == VK_TAB && i == m_model.ColCount() && next.row < m_model.RowCount() - 1)
         {
             ++next.row;
-            i = m_model.fixedCols;
+            i = m_model.fixed[false];
         }
-        while (i >= m_model.Fixed(rows) && i < m_model.Count(rows) && !Shows(rows, i))
+        while (i >= m_model.fixed[rows] && i < m_model.Count(rows) && !Shows(rows, i))
             i += step;
         if (Shows(rows, i))
             moved = i;
@@ -477,18 +456,16 @@ private:
         const bool again = Pick(3) == 0 && m_model.Has(focus.row, focus.col);
         const int r = again ? focus.row : Pick(m_model.RowCount());
         const int c = again ? focus.col : Pick(m_model.ColCount());
-        if (!m_grid.IsCellVisible(r, c) || m_model.rows[r].height < 12 || m_model.widths[c] < 12)
-            return;
         const CPoint point = MiddleOf(m_grid, r, c);
         CRect client;
         m_grid.GetClientRect(client);
-        if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c))
-            return;
-        if (OpensDialog(m_model.focus) || OpensDialog(RaisedToBody(r, c)))
+        if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c) ||
+            m_model.lines[true][r].size < 12 || m_model.lines[false][c].size < 12 ||
+            OpensDialog(m_model.focus) || OpensDialog(m_model.RaisedToBody(r, c)))
             return;
         Say("click", r, c);
-        const bool edits =
-            m_model.focus == CCellID(r, c) && !m_model.At(r, c).readOnly && IsInText(r, c, point);
+        const bool edits = m_model.focus == CCellID(r, c) && !(m_model.At(r, c).state & CELL_READONLY) &&
+                           IsInText(r, c, point);
         m_grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
         m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
         if (edits)
@@ -516,19 +493,14 @@ private:
         return rect.PtInRect(point);
     }
 
-    CCellID RaisedToBody(int r, int c) const
-    {
-        return CCellID(std::max(r, m_model.fixedRows), std::max(c, m_model.fixedCols));
-    }
-
     void Clicked(int r, int c)
     {
-        if (!m_model.At(r, c).selected)
-            m_model.focus = m_model.HasBody() ? RaisedToBody(r, c) : CCellID();
-        const CCellID first = RaisedToBody(r, c);
+        if (!(m_model.At(r, c).state & CELL_SELECTED))
+            m_model.focus = m_model.HasBody() ? m_model.RaisedToBody(r, c) : CCellID();
+        const CCellID first = m_model.RaisedToBody(r, c);
         m_model.SelectOnly(CCellRange(first.row, first.col,
-                                      r < m_model.fixedRows ? m_model.RowCount() - 1 : r,
-                                      c < m_model.fixedCols ? m_model.ColCount() - 1 : c));
+                                      r < m_model.fixed[true] ? m_model.RowCount() - 1 : r,
+                                      c < m_model.fixed[false] ? m_model.ColCount() - 1 : c));
     }
 
     void EndEdit(int r, int c)
@@ -542,8 +514,7 @@ private:
         const std::wstring text = Text();
         const int way = Pick(4);
         Say("edit ends by way", way);
-        m_parent.answer = [&](NMHDR& header)
-        { return header.code == LVN_ENDLABELEDITW && way == 1 ? -1 : 0; };
+        s_bParentRefuses = way == 1;
         editor->SetWindowText(text.c_str());
         const UINT message = IsA(cell.kind, RUNTIME_CLASS(CGridCellCombo)) ? WM_KEYUP : WM_CHAR;
         if (way == 0)
@@ -552,7 +523,6 @@ private:
             m_parent.SetFocus();
         else
             editor->SendMessage(message, VK_RETURN);
-        m_parent.answer = nullptr;
         if (way == 0 || text == cell.text)
             return;
         // Cell and parent may refuse it: the old text comes back, and the cell stays marked.
@@ -568,11 +538,11 @@ private:
     {
         Expect(m_grid.GetRowCount() == m_model.RowCount(), "row count");
         Expect(m_grid.GetColumnCount() == m_model.ColCount(), "column count");
-        Expect(m_grid.GetFixedRowCount() == m_model.fixedRows, "fixed row count");
-        Expect(m_grid.GetFixedColumnCount() == m_model.fixedCols, "fixed column count");
+        Expect(m_grid.GetFixedRowCount() == m_model.fixed[true], "fixed row count");
+        Expect(m_grid.GetFixedColumnCount() == m_model.fixed[false], "fixed column count");
         Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
-        Expect(m_inside->MouseMode() == 0, "mouse mode");
+        Expect((m_grid.*&OpenGrid::GetMouseMode)() == 0, "mouse mode");
         if (CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId))
             Problem("an editor is left; focus: ", ::GetFocus(), ", editor: ", editor->m_hWnd,
                     ", parent: ", m_parent.m_hWnd, ", active: ", ::GetActiveWindow());
@@ -580,7 +550,22 @@ private:
             return;
         CheckCells();
         CheckSizes();
-        CheckPlaces();
+        CheckTopLeft();
+    }
+
+    bool IsCellAsTold(int r, int c)
+    {
+        CGridCellBase* const cell = m_grid.GetCell(r, c);
+        const ModelCell& told = m_model.At(r, c);
+        return cell && told.text == cell->GetText() && told.data == cell->GetData() &&
+               cell->GetState() == m_model.StateOf(r, c) && IsA(told.kind, cell->GetRuntimeClass());
+    }
+    bool IsRowAsTold(int r)
+    {
+        bool all = m_grid.GetRowHeight(r) == m_model.lines[true][r].size;
+        for (int c = 0; all && c < m_model.ColCount(); ++c)
+            all = IsCellAsTold(r, c);
+        return all;
     }
 
     void CheckCells()
@@ -589,104 +574,68 @@ private:
         m_grid.GetCellRange().ForEach(
             [&](int r, int c)
             {
-                CGridCellBase* const cell = m_grid.GetCell(r, c);
-                const ModelCell& expected = m_model.At(r, c);
-                if (!cell || expected.text != cell->GetText() || expected.data != cell->GetData() ||
-                    cell->GetState() != StateOf(r, c) || !IsA(expected.kind, cell->GetRuntimeClass()))
+                if (!IsCellAsTold(r, c))
                     Problem("cell ", r, ",", c, " is of another kind, or holds another text, data or state");
-                if ((m_grid.IsCellSelected(r, c) != FALSE) != expected.selected)
-                    Problem("selection of ", r, ",", c);
-                selected += expected.selected;
+                selected += (m_model.At(r, c).state & CELL_SELECTED) != 0;
             });
         Expect(m_grid.GetSelectedCount() == selected, "the selection's books are out of step with the cells");
-    }
-
-    DWORD StateOf(int r, int c)
-    {
-        const ModelCell& cell = m_model.At(r, c);
-        const auto bits = [](bool has, DWORD value) { return has ? value : 0; };
-        return bits(r < m_model.fixedRows, CELL_FIXED | CELL_FIXEDROW) |
-               bits(c < m_model.fixedCols, CELL_FIXED | CELL_FIXEDCOL) | bits(cell.modified, CELL_MODIFIED) |
-               bits(cell.readOnly, CELL_READONLY) | bits(cell.selected, CELL_SELECTED) |
-               bits(m_model.focus == CCellID(r, c), CELL_FOCUSED);
     }
 
     void CheckSizes()
     {
         for (const bool rows : {true, false})
         {
-            int sum = 0, ofFixed = 0;
+            int sum = 0;
             for (int i = 0; i < m_model.Count(rows); ++i)
             {
-                const int size = m_model.Size(rows, i);
+                const int size = m_model.lines[rows][i].size;
                 Expect((rows ? m_grid.GetRowHeight(i) : m_grid.GetColumnWidth(i)) == size,
                        "row height or column width");
                 sum += size;
-                ofFixed += i < m_model.Fixed(rows) ? size : 0;
             }
             Expect((rows ? m_grid.GetVirtualHeight() : m_grid.GetVirtualWidth()) == sum, "sum of sizes");
-            Expect((rows ? m_grid.GetFixedRowHeight() : m_grid.GetFixedColumnWidth()) == ofFixed,
-                   "sum of fixed sizes");
         }
     }
 
-    /// The top-left cell against a walk over the sizes, and one cell's origin against its neighbours' sizes.
-    void CheckPlaces()
+    /// Against a walk over the sizes.
+    void CheckTopLeft()
     {
         const auto firstOf = [&](bool rows)
         {
-            int i = m_model.Fixed(rows), sum = 0;
+            int i = m_model.fixed[rows], sum = 0;
             for (const int pos = m_grid.GetScrollPos(rows ? SB_VERT : SB_HORZ);
                  sum < pos && i < m_model.Count(rows) - 1; ++i)
-                sum += m_model.Size(rows, i);
+                sum += m_model.lines[rows][i].size;
             return i;
         };
         const CCellID topLeft(firstOf(true), firstOf(false));
-        Expect(m_inside->TopLeft(FALSE) == topLeft, "top-left cell");
-        CPoint origin;
-        if (!m_model.Has(topLeft.row, topLeft.col) || !m_grid.GetCellOrigin(topLeft, &origin))
-            return;
-        Expect(origin == CPoint(m_grid.GetFixedColumnWidth(), m_grid.GetFixedRowHeight()),
-               "origin of the body");
-        if (Shows(true, topLeft.row) && Shows(false, topLeft.col))
-            Expect(m_grid.GetCellFromPt(origin, FALSE) == topLeft, "cell at the body's origin");
+        Expect(TopLeft(FALSE) == topLeft, "top-left cell");
+    }
+    CCellID TopLeft(BOOL bForceRecalculation)
+    {
+        return (m_grid.*&OpenGrid::GetTopleftNonFixedCell)(bForceRecalculation);
     }
 
     bool m_withInput;
     bool m_mixedCells;
     GridParent m_parent;
-    std::unique_ptr<ModelGrid> m_inside;
-    CGridCtrl& m_grid; ///< of m_inside
+    std::unique_ptr<CGridCtrl> m_pGrid;
+    CGridCtrl& m_grid = *m_pGrid;
     Model m_model;
     int m_height = 0;
     int m_width = 0;
 };
 
-/// What the parent would have answered if there were no handler: the model decides there about an edit.
-bool ParentAccepts(CWnd& grid)
+/// As if there were no handler: the parent's answer decides about an edit.
+struct NoHandler : AExtGridCtrlNotificationHandler, AExtGridCtrl2NotificationHandler
 {
-    const auto& parent = static_cast<GridParent&>(*grid.GetParent());
-    NMHDR header{grid.m_hWnd, kGridId, static_cast<UINT>(LVN_ENDLABELEDITW)};
-    return !parent.answer || parent.answer(header) >= 0;
-}
-
-class CModelExtGrid : public CExtGridCtrl, public AExtGridCtrlNotificationHandler
-{
-public:
-    CModelExtGrid() : CExtGridCtrl(this) {}
     void OnExtGridRowChanged(int, int, int) override {}
-    bool OnExtGridEndEdit(int, int, int, const CString*) override { return ParentAccepts(*this); }
+    bool OnExtGridEndEdit(int, int, int, const CString*) override { return !s_bParentRefuses; }
     void OnExtGridRClick(int, int) override {}
-};
-
-class CModelExtGrid2 : public CExtGridCtrl2, public AExtGridCtrl2NotificationHandler
-{
-public:
-    CModelExtGrid2() : CExtGridCtrl2(this, nullptr) {}
     void OnExtGrid2CellChanged(int, CCellID, CCellID) override {}
-    bool OnExtGrid2EndEdit(int, CCellID, const CString*) override { return ParentAccepts(*this); }
+    bool OnExtGrid2EndEdit(int, CCellID, const CString*) override { return !s_bParentRefuses; }
     void OnExtGrid2RClick(int, CCellID) override {}
-};
+} s_noHandler;
 } // namespace
 
 owtest::SequenceResult RunGridSequence(const owtest::Steps& steps, const SequenceOptions& options)
@@ -694,12 +643,12 @@ owtest::SequenceResult RunGridSequence(const owtest::Steps& steps, const Sequenc
     return GridSequence(options).Run(steps);
 }
 
-std::unique_ptr<ModelGrid> MakeModelExtGrid()
+std::unique_ptr<CGridCtrl> MakeModelExtGrid()
 {
-    return MakeModelGrid<CModelExtGrid>();
+    return std::make_unique<CExtGridCtrl>(&s_noHandler);
 }
 
-std::unique_ptr<ModelGrid> MakeModelExtGrid2()
+std::unique_ptr<CGridCtrl> MakeModelExtGrid2()
 {
-    return MakeModelGrid<CModelExtGrid2>();
+    return std::make_unique<CExtGridCtrl2>(&s_noHandler, nullptr);
 }

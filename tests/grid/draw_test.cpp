@@ -59,8 +59,8 @@ TEST_F(GridDrawing, RegionsHaveTheirColours)
     EXPECT_EQ(Picture(grid).count(kBehind), 300 * 200);
 }
 
-// Partly repainted, a window shows what it would show painted whole, and but for the corner no cell is asked for
-// in vain.
+// Partly repainted, and through a buffer, a window shows what it would show painted whole, and but for the
+// corner no cell is asked for in vain.
 TEST_F(GridDrawing, APartIsPaintedAsTheWholeIs)
 {
     FillWithPlaces(grid);
@@ -80,7 +80,13 @@ TEST_F(GridDrawing, APartIsPaintedAsTheWholeIs)
                                      CRect(0, 0, clip.left, 200), CRect(clip.right, 0, 300, 200)})
             expected.dc().FillSolidRect(outside, RGB(255, 0, 255));
         part.dc().IntersectClipRect(clip);
-        part.Draw(grid);
+        if (round % 2)
+            part.Draw(grid);
+        else
+        {
+            CMemDC buffer(&part.dc());
+            grid.OnDraw(&buffer);
+        }
         ASSERT_TRUE(part == expected)
             << clip.left << ',' << clip.top << ' ' << clip.right << ',' << clip.bottom;
         const CGridPainter painter(part.dc(), CGridView(rows, cols, CCellID(1, 1), CSize(300, 200)));
@@ -172,6 +178,16 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
     EXPECT_FALSE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 0), TRUE));
     EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 1, 1), TRUE));
     EXPECT_FALSE(plain.Draw(nullptr, 3, 2, CRect(0, 0, 59, 19), TRUE));
+
+    struct OrphanCell : CGridCell
+    {
+        CGridCellBase* GetDefaultCell() override { return nullptr; }
+    } orphan;
+    orphan.SetGrid(&grid);
+    EXPECT_FALSE(orphan.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), TRUE));
+    EXPECT_EQ(bare.dc().GetBkMode(), TRANSPARENT) << "prepared for a text";
+    EXPECT_TRUE(bare.dc().RestoreDC(-1));
+    EXPECT_EQ(bare.dc().GetBkMode(), OPAQUE);
 }
 
 TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
@@ -245,61 +261,47 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
     grid.SetGridLines(GVL_NONE);
     CGridCellBase& cell = *grid.GetCell(3, 2);
     const int margin = static_cast<int>(cell.GetMargin());
+    CFont font;
+    const auto stateOf = [](CDC& dc) {
+        return std::tuple(dc.GetTextColor(), dc.GetBkColor(), dc.GetBkMode(),
+                          ::GetCurrentObject(dc, OBJ_FONT));
+    };
     const auto compare = [&](const wchar_t* text, UINT format, CSize size)
     {
         const CRect place(CPoint(3, 2), size);
         cell.SetText(text);
         cell.SetFormat(format);
         owtest::Surface drawn(90, 30, kBack), expected(90, 30, kBack);
+        drawn.dc().SetTextColor(RGB(1, 2, 3));
+        drawn.dc().SetBkColor(RGB(4, 5, 6));
+        const auto before = stateOf(drawn.dc());
         cell.Draw(&drawn.dc(), 3, 2, place, FALSE);
+        EXPECT_EQ(stateOf(drawn.dc()), before);
         CRect inner(place.left + margin, place.top + margin, place.right - margin, place.bottom);
-        expected.dc().SelectObject(cell.GetFontObject());
+        expected.dc().SelectObject(&font);
         expected.dc().SetBkMode(TRANSPARENT);
         expected.dc().SetTextColor(grid.GetTextColor());
         expected.dc().DrawText(text, -1, &inner, format | DT_NOPREFIX);
         EXPECT_TRUE(drawn == expected) << CStringA(text).GetString() << " format " << format;
     };
-    LOGFONT lf = *cell.GetFont();
+    LOGFONT lf = *cell.GetFont(), told;
     for (lf.lfHeight = -13; lf.lfHeight < -10; ++lf.lfHeight) // even and odd heights of a line
     {
-        cell.SetFont(&lf);
+        font.DeleteObject();
+        font.CreateFontIndirect(&lf);
+        grid.SetFont(&font);
+        cell.SetMargin(margin); // which is the font's otherwise
+        ASSERT_TRUE(grid.GetFont() && grid.GetFont()->GetLogFont(&told));
+        for (const LONG height : {told.lfHeight, grid.GetDefaultCell(TRUE, TRUE)->GetFont()->lfHeight})
+            EXPECT_EQ(height, lf.lfHeight);
         for (const wchar_t* text : {L"12", L"IPE 200", L"fi\x0160 \x0428", L"e\x0301 \x05D0\x05D1",
                                     L"much too long for the width of its column", L"two\nlines"})
             for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})
                 for (const UINT vertical : {UINT(DT_TOP), UINT(DT_VCENTER), UINT(DT_BOTTOM)})
-                    for (const CSize size : {CSize(59, 21), CSize(60, 20), CSize(75, 9)})
+                    for (const CSize size :
+                         {CSize(59, 21), CSize(60, 20), CSize(75, 9), CSize(14 + 2 * margin, 20)})
                         compare(text, align | vertical | DT_SINGLELINE | DT_END_ELLIPSIS, size);
     }
-}
-
-TEST_F(GridDrawing, ACellLeavesTheContextAsItFoundIt)
-{
-    owtest::Surface surface(100, 40);
-    CDC& dc = surface.dc();
-    dc.SetTextColor(RGB(1, 2, 3));
-    dc.SetBkColor(RGB(4, 5, 6));
-    dc.SetBkMode(OPAQUE);
-    const HGDIOBJ font = ::GetCurrentObject(dc, OBJ_FONT);
-    grid.SetItemText(2, 2, L"text");
-    grid.SetSelectedRange(2, 2, 2, 2);
-    grid.GetCell(2, 2)->Draw(&dc, 2, 2, CRect(0, 0, 59, 19), TRUE);
-    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
-    EXPECT_EQ(dc.GetBkColor(), RGB(4, 5, 6));
-    EXPECT_EQ(dc.GetBkMode(), OPAQUE);
-    EXPECT_EQ(::GetCurrentObject(dc, OBJ_FONT), font);
-}
-
-TEST_F(GridDrawing, TheBufferShowsTheSamePicture)
-{
-    Picture buffered;
-    {
-        CMemDC buffer(&buffered.dc());
-        grid.OnDraw(&buffer);
-    }
-    EXPECT_TRUE(Picture(grid) == buffered);
-    grid.SetDoubleBuffering(TRUE);
-    grid.RedrawWindow();
-    EXPECT_EQ(CClientDC(&grid).GetPixel(90, 50), kBack);
 }
 
 TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
@@ -317,17 +319,6 @@ TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
     EXPECT_EQ(followed, other);
     EXPECT_EQ(grid.GetTextBkColor(), old);
     EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
-}
-
-TEST_F(GridDrawing, TheFontGoesToTheDefaultCells)
-{
-    CFont font;
-    font.CreatePointFont(140, L"Liberation Serif");
-    grid.SetFont(&font);
-    EXPECT_STREQ(grid.GetDefaultCell(TRUE, TRUE)->GetFont()->lfFaceName, L"Liberation Serif");
-    LOGFONT told;
-    ASSERT_TRUE(grid.GetFont() && grid.GetFont()->GetLogFont(&told));
-    EXPECT_EQ(told.lfHeight, grid.GetDefaultCell(FALSE, FALSE)->GetFont()->lfHeight);
 }
 
 TEST_F(GridDrawing, NothingPaintsOverAnOpenEditor)

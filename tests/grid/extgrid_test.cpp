@@ -1,16 +1,11 @@
 // The extended grids: what their handlers are told, by real input and by program, and the colours of the
 // cells after each move.
 
-#include "GridWindow.h"
-
-#include "Input.h"
+#include "GridFixture.h"
 
 #include "cells/SubtractiveMix.h"
 #include "grid/ExtGridParts.h"
 
-#include <gtest/gtest.h>
-
-#include <map>
 #include <memory>
 
 namespace
@@ -77,51 +72,50 @@ private:
     Calls m_calls;
 };
 
-struct RowGrid : public CExtGridCtrl
+Handler s_handler; ///< of all grids below
+
+struct RowGrid : CExtGridCtrl
 {
-    explicit RowGrid(Handler& handler) : CExtGridCtrl(&handler) {}
+    RowGrid() : CExtGridCtrl(&s_handler) {}
     using CExtGridCtrl::IsVisibleVScroll;
     using CExtGridCtrl::m_crSelectedRow;
 };
-struct CrossGrid : public CExtGridCtrl2
+struct CrossGrid : CExtGridCtrl2
 {
-    explicit CrossGrid(Handler& handler, bool hasBand = true)
-        : CExtGridCtrl2(&handler, hasBand ? &handler : nullptr)
-    {
-    }
+    CrossGrid() : CExtGridCtrl2(&s_handler, &s_handler) {}
     using CExtGridCtrl2::m_crSelected;
 };
-struct PlainCrossGrid : public CrossGrid
+
+/// The background of each cell, row by row: '.' inherited, 'w' white, '#' the plain colour of what is current,
+/// 'B' band, 'G' body, 'b' and 'g' the same under the cross.
+std::string ColoursOf(const CGridCtrl& grid)
 {
-    explicit PlainCrossGrid(Handler& handler) : CrossGrid(handler, false) {}
-};
+    const std::map<COLORREF, char> letters = {{CLR_INHERIT, '.'}, {kWhite, 'w'},       {kBlue, '#'},
+                                              {kBand, 'B'},       {kBandCrossed, 'b'}, {kBody, 'G'},
+                                              {kBodyCrossed, 'g'}};
+    std::string text;
+    for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow, text += ' ')
+        for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
+            text += letters.at(grid.GetItemBkColour(nRow, nCol));
+    return text;
+}
 
 /// Five rows and four columns, the first of each fixed. Row 1 and column 1 are the first of the body.
 template <class Grid>
-class ExtTest : public testing::Test
+class ExtTest : public GridTestOf<Grid>
 {
 protected:
     void SetUp() override
     {
+        GridTestOf<Grid>::SetUp();
         grid.SetRowCount(5);
         grid.SetColumnCount(4);
-        grid.SetFixedRowCount(1);
-        grid.SetFixedColumnCount(1);
-        ASSERT_TRUE(PlaceGrid(grid, parent));
-        SetSizes(grid);
-        FillWithPlaces(grid);
-        grid.UpdateWindow();
-        ASSERT_TRUE(owtest::Activate(parent));
-    }
-    void ClickCell(int nRow, int nCol)
-    {
-        owtest::Click(grid, MiddleOf(grid, nRow, nCol));
-        owtest::Pump();
+        handler = {};
     }
     void RightClick(CPoint point)
     {
-        grid.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(point.x, point.y));
-        grid.SendMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        this->Send(WM_RBUTTONDOWN, point, MK_RBUTTON);
+        this->Send(WM_RBUTTONUP, point);
     }
     /// Types a text into the focus cell and ends the edit; what the handler was told.
     Calls Enter(const wchar_t* text)
@@ -129,40 +123,22 @@ protected:
         handler.Take();
         grid.SetFocus();
         owtest::Type(text);
-        owtest::Press(VK_RETURN);
-        owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
+        this->EndByKey(VK_RETURN);
         return handler.Take();
     }
     /// Sends the parent a notification as the grid would.
     LRESULT Notify(UINT nCode, int nRow, int nCol)
     {
         GridNotify record{{grid.m_hWnd, kGridId, nCode}, nRow, nCol};
-        return parent.SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
+        return this->parent.SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
     }
-    /// The background of each cell, row by row: '.' inherited, 'w' white, '#' the plain colour of what is
-    /// current, 'B' band, 'G' body, 'b' and 'g' the same under the cross.
-    std::string Colours() const
-    {
-        const std::map<COLORREF, char> letters = {{CLR_INHERIT, '.'}, {kWhite, 'w'},       {kBlue, '#'},
-                                                  {kBand, 'B'},       {kBandCrossed, 'b'}, {kBody, 'G'},
-                                                  {kBodyCrossed, 'g'}};
-        std::string text;
-        for (int nRow = 0; nRow < grid.GetRowCount(); ++nRow)
-        {
-            text += nRow ? " " : "";
-            for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
-                text += letters.at(grid.GetItemBkColour(nRow, nCol));
-        }
-        return text;
-    }
+    std::string Colours() const { return ColoursOf(grid); }
 
-    GridParent& parent = SharedParent();
-    Handler handler;
-    Grid grid{handler};
+    using GridTestOf<Grid>::grid;
+    Handler& handler = s_handler;
 };
 using ExtGrid = ExtTest<RowGrid>;
 using ExtGrid2 = ExtTest<CrossGrid>;
-using ExtGrid2Alone = ExtTest<PlainCrossGrid>;
 } // namespace
 
 // ---- The current row --------------------------------------------------------------------------------------
@@ -172,16 +148,16 @@ TEST_F(ExtGrid, AUserMovesTheCurrentRow)
     grid.SetItemBkColour(2, 1, kOwn);
     ClickCell(2, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 row 2 after -1"});
-    EXPECT_EQ(Colours(), ".... .... .### .... ....");
+    EXPECT_EQ(Colours(), ".... .... .### .... .... ");
 
     ClickCell(2, 3);
     EXPECT_EQ(handler.Take(), Calls{}) << "another cell of the same row";
     owtest::Press(VK_DOWN);
     EXPECT_EQ(handler.Take(), Calls{"77 row 3 after 2"});
-    EXPECT_EQ(Colours(), ".... .... .www .### ....") << "white, whatever the row's colours were";
+    EXPECT_EQ(Colours(), ".... .... .www .### .... ") << "white, whatever the row's colours were";
     ClickCell(0, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 3"}) << "a heading stands for the first row";
-    EXPECT_EQ(Colours(), ".... .### .www .www ....");
+    EXPECT_EQ(Colours(), ".... .### .www .www .... ");
 
     EXPECT_EQ(parent.Take(),
               (Calls{"changing 2,2", "click 2,2", "changing 2,3", "click 2,3", "changing 0,2", "click 0,2"}))
@@ -216,10 +192,10 @@ TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
 
     // A fixed row is remembered as it is, and loses its colour as if it had been painted.
     grid.SelectRowEx(0, 1);
-    EXPECT_EQ(Colours(), ".... .### .... .www ....");
+    EXPECT_EQ(Colours(), ".... .### .... .www .... ");
     grid.SelectRowEx(1, 1);
     EXPECT_EQ(handler.Take(), (Calls{"77 row 1 after 3", "77 row 1 after 0"}));
-    EXPECT_EQ(Colours(), ".www .### .... .www ....");
+    EXPECT_EQ(Colours(), ".www .### .... .www .... ");
 }
 
 TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
@@ -236,14 +212,6 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
     EXPECT_EQ(update, client);
     EXPECT_EQ(grid.GetScrollPos(SB_VERT), 0);
     EXPECT_TRUE(grid.RedrawCell(1, 1)) << "which it does not do while drawing is off";
-
-    grid.SetVirtualMode(TRUE); // nor does a grid without cells mind
-    grid.SetColumnCount(4);
-    grid.SetRowCount(1000);
-    handler.Take();
-    grid.SelectRowEx(900, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 900 after 90"});
-    EXPECT_NE(grid.GetItemBkColour(900, 1), kBlue);
 }
 
 TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
@@ -251,12 +219,12 @@ TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
     handler.onChange = [&] { grid.SetRowCount(2); };
     grid.SetFocusCell(4, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 row 4 after -1"});
-    EXPECT_EQ(Colours(), ".... ....");
+    EXPECT_EQ(Colours(), ".... .... ");
 
     handler.onChange = [&] { grid.DestroyWindow(); };
     grid.SetFocusCell(1, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 4"});
-    EXPECT_EQ(Colours(), ".... .###");
+    EXPECT_EQ(Colours(), ".... .### ");
     grid.SetRowCount(3);
     grid.SelectRowEx(2, 1);
     EXPECT_EQ(handler.Take(), Calls{"0 row 2 after 1"}) << "without a window there is no id";
@@ -295,21 +263,22 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
         std::unique_ptr<CGridCtrl> grids[] = {std::make_unique<CExtGridCtrl>(&handlers[0]),
                                               std::make_unique<CExtGridCtrl2>(&handlers[1], nullptr),
                                               std::make_unique<CGridCtrl>()};
-        UINT id = 0;
-        for (const auto& pGrid : grids)
+        for (UINT id = 0; id < 3; ++id)
         {
-            pGrid->SetRowCount(3);
-            pGrid->SetColumnCount(2);
-            ASSERT_TRUE(pGrid->Create(CRect(0, 0, 100, 100), &parent, id++));
-            pGrid->SetFocusCell(2, 1);
+            grids[id]->SetRowCount(3);
+            grids[id]->SetColumnCount(2);
+            ASSERT_TRUE(grids[id]->Create(CRect(0, 0, 100, 100), &parent, id));
+            grids[id]->SetFocusCell(2, 1);
         }
         EXPECT_EQ(handlers[0].Take(), Calls{"0 row 2 after -1"});
         EXPECT_EQ(handlers[1].Take(), Calls{"1 cell 2,1 after -1,-1"});
+        EXPECT_EQ(ColoursOf(*grids[1]), ".# .# ## ") << "without an extra header";
         EXPECT_EQ(parent.Take(), Calls{"changed 2,1"}) << "of the plain grid";
         const int stays = 1 - goesFirst;
         grids[goesFirst].reset();
         grids[stays]->SetFocusCell(0, 0);
         EXPECT_EQ(handlers[stays].Take(), Calls{stays ? "1 cell 0,0 after 2,1" : "0 row 0 after 2"});
+        EXPECT_EQ(ColoursOf(*grids[stays]), stays ? "## #w #w " : "## .. ww ");
     }
 }
 
@@ -364,19 +333,20 @@ TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
     handler.bandRows = 2;
     ClickCell(2, 2);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 2,2 after -1,-1"});
-    EXPECT_EQ(Colours(), ".... ..b. .bbb ..g. ..g.");
+    EXPECT_EQ(Colours(), ".... ..b. .bbb ..g. ..g. ");
     owtest::Press(VK_DOWN);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,2 after 2,2"});
-    EXPECT_EQ(Colours(), ".... ..b. .BbB .ggg ..g.");
+    EXPECT_EQ(Colours(), ".... ..b. .BbB .ggg ..g. ");
     owtest::Press(VK_LEFT);
-    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG.") << "both old directions rest, both new ones are crossed";
+    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG. ")
+        << "both old directions rest, both new ones are crossed";
     ClickCell(3, 1);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,1 after 3,2"}) << "a click on the current cell is no change";
     EXPECT_EQ(handler.asked, "nhbnhbnhb") << "once for each change, the count first";
     grid.m_crSelected = CLR_NONE;
     grid.SelectCellEx(1, 3);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 1,3 after 3,1"});
-    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG.") << "told, and not painted";
+    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG. ") << "told, and not painted";
 }
 
 TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
@@ -409,18 +379,10 @@ TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
     handler.bandRows = 0;
     grid.SelectCellEx(0, 0);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 1,1 after 2,2"});
-    EXPECT_EQ(Colours(), ".... .ggg .gGG .gG. .gG.");
+    EXPECT_EQ(Colours(), ".... .ggg .gGG .gG. .gG. ");
     grid.SelectCellEx(3, 3);
     EXPECT_EQ(handler.Take(), Calls{"77 cell 3,3 after 0,0"});
-    EXPECT_EQ(Colours(), ".BBB Gggg GgGg Gggg GgGg");
-}
-
-TEST_F(ExtGrid2Alone, WithoutAnExtraHeaderTheCrossIsPlainOnWhite)
-{
-    grid.SelectCellEx(1, 1);
-    EXPECT_EQ(Colours(), ".... .### .#.. .#.. .#..");
-    grid.SelectCellEx(2, 2);
-    EXPECT_EQ(Colours(), ".... .w#w .### .w#. .w#.");
+    EXPECT_EQ(Colours(), ".BBB Gggg GgGg Gggg GgGg ");
 }
 
 TEST(SubtractiveMix, AddsWhatTheColoursTakeFromWhite)

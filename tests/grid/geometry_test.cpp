@@ -24,15 +24,6 @@ protected:
         grid.UpdateWindow();
         return rect;
     }
-    /// The codes of the scroll messages that wait.
-    std::vector<UINT> WaitingScrolls()
-    {
-        MSG msg;
-        std::vector<UINT> codes;
-        while (::PeekMessage(&msg, grid, WM_VSCROLL, WM_VSCROLL, PM_REMOVE))
-            codes.push_back(LOWORD(msg.wParam));
-        return codes;
-    }
 };
 
 TEST_F(GridGeometry, TheGridAsksItsViewWhereItIsScrolledTo)
@@ -53,38 +44,33 @@ TEST_F(GridGeometry, TheGridAsksItsViewWhereItIsScrolledTo)
 
 TEST_F(GridGeometry, TheBarsFollowTheContents)
 {
-    const auto bars = [&] { return std::tuple(grid.IsVisibleVScroll(), grid.IsVisibleHScroll()); };
-    EXPECT_EQ(bars(), std::tuple(TRUE, TRUE));
+    const auto bars = [&] { return std::pair(grid.IsVisibleVScroll(), grid.IsVisibleHScroll()); };
+    EXPECT_EQ(bars(), std::pair(TRUE, TRUE));
     EXPECT_EQ(CSize(grid.m_nHScrollMax, grid.m_nVScrollMax), CSize(6 * 60 - 1, 20 * 20 - 1));
     grid.SetRowCount(9);
-    EXPECT_EQ(bars(), std::tuple(FALSE, TRUE)) << "they fit beside one bar, and would not beside two";
+    EXPECT_EQ(bars(), std::pair(FALSE, TRUE)) << "they fit beside one bar, and would not beside two";
     grid.SetRowCount(kRows);
-    grid.SetColumnCount(4);
-    grid.SetColumnWidth(3, 95, TRUE);
-    EXPECT_EQ(bars(), std::tuple(TRUE, FALSE));
     grid.SetColumnCount(3);
-    EXPECT_EQ(bars(), std::tuple(TRUE, FALSE));
+    EXPECT_EQ(bars(), std::pair(TRUE, FALSE));
     EXPECT_EQ(grid.m_nHScrollMax, 0);
-    grid.SetRowCount(5);
-    EXPECT_EQ(bars(), std::tuple(FALSE, FALSE));
-    EXPECT_EQ(Client(), CRect(0, 0, 300, 200));
 
     // Only the headers fit: both bars go, and the books stay.
-    grid.SetRowCount(kRows);
     grid.SetColumnWidth(0, 400, TRUE);
     EXPECT_TRUE(grid.IsVisibleVScroll());
     EXPECT_FALSE(grid.GetStyle() & WS_VSCROLL);
     grid.SetColumnWidth(0, kColWidth, TRUE);
     EXPECT_TRUE(grid.GetStyle() & WS_VSCROLL) << "as before, and so must the bar be";
     grid.SetColumnCount(kCols);
-    grid.SetWindowPos(nullptr, 0, 0, 304, 0, SWP_NOMOVE | SWP_NOZORDER);
+    const auto resize = [&](int cx, int cy)
+    { grid.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER); };
+    resize(304, 0);
     EXPECT_TRUE(grid.GetStyle() & WS_HSCROLL) << "without height the bars stay";
-    for (const bool large : {true, false, true})
+    for (const int size : {600, 204, 600})
     {
-        const CSize size = large ? CSize(600, 600) : CSize(304, 204);
-        grid.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-        EXPECT_EQ(bars(), std::tuple(!large, !large));
+        resize(size, size);
+        EXPECT_EQ(bars(), std::pair(BOOL(size < 600), BOOL(size < 600)));
     }
+    EXPECT_EQ(Client(), CRect(0, 0, 596, 596));
 }
 
 TEST_F(GridGeometry, ScrollMessagesMoveTheirBarAndRepaintWhatScrolls)
@@ -143,18 +129,17 @@ TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
 
 TEST_F(GridGeometry, TheWheelPostsLinesOrPages)
 {
-    struct Case
+    using Scrolls = std::vector<std::string>;
+    for (const auto& [nLines, nDelta, scrolls] :
+         {std::tuple(3, 60, Scrolls{"v0"}), std::tuple(3, -120, Scrolls(3, "v1")),
+          std::tuple(-1, 60, Scrolls{}), std::tuple(-1, -240, Scrolls(2, "v3")),
+          std::tuple(-1, 120, Scrolls{"v2"})})
     {
-        int nLines, nDelta, nMessages;
-        UINT nCode;
-    };
-    for (const Case& c :
-         {Case{3, 60, 1, SB_LINEUP}, Case{3, -120, 3, SB_LINEDOWN}, Case{-1, 60, 0, SB_PAGEUP},
-          Case{-1, -240, 2, SB_PAGEDOWN}, Case{-1, 120, 1, SB_PAGEUP}})
-    {
-        grid.m_nWheelLines = c.nLines;
-        grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, c.nDelta), 0);
-        EXPECT_EQ(WaitingScrolls(), std::vector<UINT>(c.nMessages, c.nCode)) << c.nDelta;
+        grid.m_nWheelLines = nLines;
+        grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, nDelta), 0);
+        EXPECT_EQ(grid.scrolls, Scrolls{}) << "not in the midst of the message";
+        owtest::Pump();
+        EXPECT_EQ(std::exchange(grid.scrolls, {}), scrolls) << nDelta;
     }
 }
 
@@ -188,41 +173,42 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
 {
     grid.SetItemText(0, 2, L"a heading that is wider than the rest");
     const int nHeading = grid.GetCellTextExtent(0, 2).cx, nBody = grid.GetCellTextExtent(10, 2).cx;
-    EXPECT_TRUE(grid.AutoSizeColumn(2, 1));
-    EXPECT_EQ(grid.GetColumnWidth(2), nHeading);
-    EXPECT_TRUE(grid.AutoSizeColumn(2, 2));
-    EXPECT_EQ(grid.GetColumnWidth(2), nBody);
-    grid.AutoSizeColumn(2);
-    EXPECT_EQ(grid.GetColumnWidth(2), nHeading);
+    for (const auto& [nStyle, nWidth] : {std::pair(1, nHeading), std::pair(2, nBody), std::pair(3, nHeading)})
+    {
+        EXPECT_TRUE(grid.AutoSizeColumn(2, nStyle));
+        EXPECT_EQ(grid.GetColumnWidth(2), nWidth);
+    }
     grid.SetColumnWidth(3, 0, TRUE);
     EXPECT_FALSE(grid.AutoSizeColumn(3));
-    EXPECT_EQ(grid.GetColumnWidth(3), 0);
     grid.SetRowHeight(4, 0);
-    grid.SetRowHeight(5, 90);
-    grid.AutoSize();
-    EXPECT_EQ(grid.GetRowHeight(4), 0);
-    EXPECT_EQ(grid.GetRowHeight(5), grid.GetCellTextExtent(5, 2).cy);
-    for (const int nRow : {0, kRows - 1})
-        grid.SetRowHeight(nRow, 90);
-    grid.AutoSizeRows();
-    for (const int nRow : {0, 4, kRows - 1})
-        EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : grid.GetCellTextExtent(nRow, 2).cy);
+    for (const bool rowsOnly : {false, true})
+    {
+        for (const int nRow : {0, 5, kRows - 1})
+            grid.SetRowHeight(nRow, 90);
+        rowsOnly ? grid.AutoSizeRows() : grid.AutoSize();
+        for (const int nRow : {0, 4, 5, kRows - 1})
+            EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : grid.GetCellTextExtent(nRow, 2).cy);
+        EXPECT_EQ(grid.GetColumnWidth(3), 0);
+    }
 }
 
 TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
 {
+    const auto widths = [&]
+    {
+        return std::vector{grid.GetColumnWidth(0), grid.GetColumnWidth(1), grid.GetColumnWidth(2),
+                           grid.GetColumnWidth(3)};
+    };
+    using Widths = std::vector<int>;
     grid.SetRowCount(4);
     grid.SetColumnCount(4);
     grid.ExpandColumnsToFit();
-    EXPECT_EQ(grid.GetVirtualWidth(), 300);
-    EXPECT_EQ(grid.GetColumnWidth(0), 75);
+    EXPECT_EQ(widths(), Widths(4, 75));
     grid.SetColumnWidth(1, 0, TRUE);
     grid.ExpandColumnsToFit(FALSE); // 37 more for two columns, and one over, which the hidden one takes
-    EXPECT_EQ(grid.GetColumnWidth(0), 75);
-    EXPECT_EQ(grid.GetColumnWidth(2), 112);
-    EXPECT_EQ(grid.GetVirtualWidth(), 299);
+    EXPECT_EQ(widths(), (Widths{75, 0, 112, 112}));
     grid.ExpandLastColumn();
-    EXPECT_EQ(grid.GetVirtualWidth(), 300);
+    EXPECT_EQ(widths(), (Widths{75, 0, 112, 113}));
     grid.ExpandRowsToFit();
     EXPECT_EQ(grid.GetVirtualHeight(), 200);
     grid.AutoFill();

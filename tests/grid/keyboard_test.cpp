@@ -53,31 +53,28 @@ TEST_F(GridKeyboard, EachKeyScrollsInItsWay)
     const int nPage = 9; // whole rows below the headings
     struct Case
     {
-        CCellID from;
         WORD key;
         bool shift, control;
-        CCellID to;
+        CCellID to; ///< and from there with the next
         std::vector<std::string> scrolls;
     };
     const Case cases[] = {
-        {{2, 2}, VK_NEXT, false, false, {2 + nPage, 2}, {"v3", "v8"}},
-        {{2 + nPage, 2}, VK_PRIOR, false, false, {2, 2}, {"v2", "v8"}},
-        {{2, 2}, VK_PRIOR, false, false, {1, 2}, {"v2", "v8"}},
-        {{1, 2}, VK_END, false, false, {1, nLastCol}, {"h7", "h8"}},
-        {{1, nLastCol}, VK_TAB, false, false, {2, 1}, {"v1", "v8"}},
-        {{2, 1}, VK_TAB, true, false, {1, nLastCol}, {"v0", "v8"}},
-        {{1, 2}, VK_HOME, false, false, {1, 1}, {"h6", "h8"}},
-        {{1, 1}, VK_END, false, true, {nLastRow, nLastCol}, {"v7", "h7", "h8", "v8"}},
-        {{nLastRow, nLastCol}, VK_NEXT, false, false, {nLastRow, nLastCol}, {"v3"}},
-        {{nLastRow, nLastCol}, VK_HOME, false, true, {1, 1}, {"v6", "h6", "h8", "v8"}},
+        {VK_NEXT, false, false, {2 + nPage, 2}, {"v3", "v8"}},
+        {VK_PRIOR, false, false, {2, 2}, {"v2", "v8"}},
+        {VK_PRIOR, false, false, {1, 2}, {"v2", "v8"}},
+        {VK_END, false, false, {1, nLastCol}, {"h7", "h8"}},
+        {VK_TAB, false, false, {2, 1}, {"v1", "v8"}},
+        {VK_TAB, true, false, {1, nLastCol}, {"v0", "v8"}},
+        {VK_HOME, false, false, {1, 1}, {"h6", "h8"}},
+        {VK_END, false, true, {nLastRow, nLastCol}, {"v7", "h7", "h8", "v8"}},
+        {VK_NEXT, false, false, {nLastRow, nLastCol}, {"v3"}},
+        {VK_HOME, false, true, {1, 1}, {"v6", "h6", "h8", "v8"}},
     };
     for (const Case& c : cases)
     {
-        FocusOn(c.from.row, c.from.col);
-        grid.scrolls.clear();
         EXPECT_EQ(After(c.key, c.shift, c.control), c.to);
         EXPECT_TRUE(grid.IsCellVisible(c.to));
-        EXPECT_EQ(grid.scrolls, c.scrolls) << "key " << c.key << " from " << c.from.row << ',' << c.from.col;
+        EXPECT_EQ(std::exchange(grid.scrolls, {}), c.scrolls) << "key " << c.key;
     }
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 1));
 }
@@ -93,13 +90,6 @@ TEST_F(GridKeyboard, ControlASelectsAllAndDeleteDoesNothing)
     EXPECT_EQ(parent.Take(), Calls{});
 }
 
-TEST_F(GridKeyboard, TabIsLeftToTheDialogOnRequest)
-{
-    EXPECT_EQ(grid.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_WANTTAB);
-    grid.SetHandleTabKey(FALSE);
-    EXPECT_EQ(grid.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS);
-}
-
 TEST_F(GridKeyboard, TypingReplacesTheTextAndEnterStoresIt)
 {
     owtest::Type(L"abc");
@@ -112,10 +102,8 @@ TEST_F(GridKeyboard, TypingReplacesTheTextAndEnterStoresIt)
     EXPECT_TRUE(grid.GetModified(2, 2)) << "whatever the parent did about it";
     EXPECT_FALSE(grid.GetModified(2, 3));
     EXPECT_EQ(grid.GetFocusCell(), CCellID(2, 2));
-}
 
-TEST_F(GridKeyboard, AnInputMethodsCharacterStartsAnEditLikeATypedOne)
-{
+    // From an input method, too.
     EXPECT_EQ(grid.SendMessage(WM_IME_CHAR, VK_ESCAPE), 0);
     EXPECT_EQ(parent.Take(), Calls{}) << "but Escape does not";
     EXPECT_EQ(grid.SendMessage(WM_IME_CHAR, L'\x5B57'), 0);
@@ -124,6 +112,12 @@ TEST_F(GridKeyboard, AnInputMethodsCharacterStartsAnEditLikeATypedOne)
     grid.EndEditing();
     EXPECT_EQ(Text(2, 2), L"\x5B57");
     ASSERT_TRUE(EditorCloses());
+
+    for (const UINT wanted : {DLGC_WANTTAB, 0})
+    {
+        grid.SetHandleTabKey(wanted != 0);
+        EXPECT_EQ(grid.SendMessage(WM_GETDLGCODE), DLGC_WANTARROWS | DLGC_WANTCHARS | wanted);
+    }
 }
 
 TEST_F(GridKeyboard, EscapeALossOfTheFocusAndAScrollEndAnEdit)

@@ -18,13 +18,14 @@ protected:
     void Make()
     {
         parent.answer = nullptr;
-        grid.reset();
+        grid = nullptr;
         grid = std::make_unique<OpenGrid>(12, 4, 1, 1);
         ASSERT_TRUE(PlaceGrid(*grid, parent));
         FillWithPlaces(*grid);
         grid->SetFocusCell(2, 2);
+        hGrid = grid->m_hWnd;
     }
-    void Send(UINT message, WPARAM wParam, CPoint point)
+    void Send(UINT message, WPARAM wParam, CPoint point = {})
     {
         ::SendMessage(hGrid, message, wParam, MAKELPARAM(point.x, point.y));
     }
@@ -36,13 +37,7 @@ protected:
         {
             Make();
             bool done = false;
-            parent.On(code,
-                      [&]
-                      {
-                          if (!std::exchange(done, true))
-                              harm();
-                      });
-            hGrid = grid->m_hWnd;
+            parent.On(code, [&] { std::exchange(done, true) ? void() : harm(); });
             UseGrid();
             parent.answer = nullptr;
             owtest::Pump();
@@ -52,13 +47,14 @@ protected:
     void UseGrid()
     {
         const CPoint point = MiddleOf(*grid, 3, 2), header = MiddleOf(*grid, 0, 2);
-        Send(WM_LBUTTONDOWN, MK_LBUTTON, point);
-        Send(WM_LBUTTONUP, 0, point);
-        Send(WM_LBUTTONDOWN, MK_LBUTTON, header);
-        Send(WM_LBUTTONUP, 0, header);
-        Send(WM_KEYDOWN, VK_RIGHT, CPoint());
-        Send(WM_KEYDOWN, 'A', CPoint());
-        Send(WM_CHAR, 'x', CPoint());
+        for (const CPoint pressed : {point, header})
+        {
+            Send(WM_LBUTTONDOWN, MK_LBUTTON, pressed);
+            Send(WM_LBUTTONUP, 0, pressed);
+        }
+        Send(WM_KEYDOWN, VK_RIGHT);
+        Send(WM_KEYDOWN, 'A');
+        Send(WM_CHAR, 'x');
         EditAndEnd(VK_TAB);
         Send(WM_LBUTTONDBLCLK, MK_LBUTTON, point);
         EditAndEnd(VK_RETURN);
@@ -69,25 +65,23 @@ protected:
     }
     void EditAndEnd(UINT key)
     {
-        const HWND editor = ::GetDlgItem(hGrid, InPlaceControlId);
-        if (!editor)
-            return;
-        ::SetWindowText(editor, L"another text");
-        ::SendMessage(editor, WM_CHAR, key, 0);
-        owtest::Pump();
+        if (const HWND editor = ::GetDlgItem(hGrid, InPlaceControlId))
+        {
+            ::SetWindowText(editor, L"another text");
+            ::SendMessage(editor, WM_CHAR, key, 0);
+            owtest::Pump();
+        }
     }
 
     using Calls = GridParent::Calls;
 
-    void TypeInto(int nRow, int nCol)
+    /// Ends with what the parent does then.
+    void TypeInto(int nRow, int nCol, const std::function<void()>& harm = nullptr, LRESULT answer = 0)
     {
         grid->SetFocusCell(nRow, nCol);
         parent.Take();
         grid->StartEditCell();
-        ::SetWindowText(::GetDlgItem(grid->m_hWnd, InPlaceControlId), L"typed");
-    }
-    void AnswerEnd(const std::function<void()>& harm, LRESULT answer = 0)
-    {
+        ::SetWindowText(::GetDlgItem(hGrid, InPlaceControlId), L"typed");
         parent.On(LVN_ENDLABELEDITW, harm, answer);
     }
     std::wstring Text(int nRow, int nCol) { return grid->GetItemText(nRow, nCol).GetString(); }
@@ -158,8 +152,7 @@ TEST_F(GridLife, AScrollBarThatComesEndsTheEditAndMaybeTheGrid)
         Make();
         grid->SetRowCount(4);
         grid->SetColumnCount(3);
-        TypeInto(2, 1);
-        AnswerEnd([&] { grid.reset(); });
+        TypeInto(2, 1, [&] { grid.reset(); });
         (grid.get()->*grow)(40);
         EXPECT_EQ(grid, nullptr) << "the bar changes the size, and the size ends the edit";
     }
@@ -183,13 +176,11 @@ TEST_F(GridLife, AChangeEndsTheEditFirstAndIsMadeOnWhatTheParentHasLeft)
         EXPECT_EQ(parent.Take(), Calls{}) << "told once";
 
         Make();
-        TypeInto(2, 2);
-        AnswerEnd([&] { grid->DeleteAllItems(); });
+        TypeInto(2, 2, [&] { grid->DeleteAllItems(); });
         change(*grid);
         EXPECT_EQ(FindTyped(), std::vector<CCellID>{});
         Make();
-        TypeInto(2, 2);
-        AnswerEnd([&] { grid.reset(); });
+        TypeInto(2, 2, [&] { grid.reset(); });
         change(*grid);
         EXPECT_EQ(grid, nullptr);
     }
@@ -197,26 +188,28 @@ TEST_F(GridLife, AChangeEndsTheEditFirstAndIsMadeOnWhatTheParentHasLeft)
 
 TEST_F(GridLife, ARefusedTextIsTakenBackFromItsOwnCellOnly)
 {
-    CGridCtrl& anyGrid = *grid; // a dialog may end an edit
-    TypeInto(2, 2);
-    AnswerEnd([&] { grid->InsertRow(L"", 1); }, -1);
-    parent.Take();
-    anyGrid.EndEditing();
-    EXPECT_FALSE(grid->IsItemEditing(3, 2));
-    EXPECT_EQ(Text(3, 2), L"2/2");
-    EXPECT_EQ(Text(2, 2), L"1/2");
-    owtest::Pump();
-    EXPECT_EQ(parent.Take(), Calls{"end 2,2"}) << "and asked about once";
-
-    TypeInto(4, 2);
-    AnswerEnd([&] { grid->DeleteRow(4); }, -1);
-    anyGrid.EndEditing();
-    EXPECT_EQ(Text(4, 2), L"4/2");
-    owtest::Pump();
-    TypeInto(4, 2);
-    AnswerEnd([&] { grid->SetCellType(4, 2, RUNTIME_CLASS(CGridCellCheck)); }, -1);
-    anyGrid.EndEditing();
-    EXPECT_EQ(Text(4, 2), L"4/2") << "another kind of cell takes it over";
+    struct Case
+    {
+        void (*change)(CGridCtrl&);
+        const wchar_t* row4; ///< and the one before it
+        const wchar_t* row5;
+    };
+    for (const Case& c :
+         {Case{[](CGridCtrl& g) { g.InsertRow(L"", 1); }, L"3/2", L"4/2"},
+          Case{[](CGridCtrl& g) { g.DeleteRow(4); }, L"5/2", L"6/2"},
+          Case{[](CGridCtrl& g) { g.SetCellType(4, 2, RUNTIME_CLASS(CGridCellCheck)); }, L"4/2", L"5/2"}})
+    {
+        Make();
+        CGridCtrl& anyGrid = *grid; // a dialog may end an edit
+        TypeInto(
+            4, 2, [&] { c.change(anyGrid); }, -1);
+        anyGrid.EndEditing();
+        EXPECT_FALSE(grid->IsItemEditing(4, 2) || grid->IsItemEditing(5, 2));
+        EXPECT_EQ(Text(4, 2), c.row4);
+        EXPECT_EQ(Text(5, 2), c.row5);
+        owtest::Pump();
+        EXPECT_EQ(parent.Take(), (Calls{"begin 4,2", "end 4,2"})) << "and asked about once";
+    }
 }
 
 TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
@@ -237,13 +230,12 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
 
 TEST(GridLeaks, LivesEndWhereTheyBegan)
 {
-    GridParent& parent = SharedParent();
-    const auto live = [&](int times)
+    const auto live = [](int times)
     {
         for (int i = 0; i < times; ++i)
         {
             OpenGrid grid(20, 5, 1, 1);
-            ASSERT_TRUE(PlaceGrid(grid, parent));
+            ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
             FillWithPlaces(grid);
             LOGFONT lf{};
             wcscpy(lf.lfFaceName, L"Liberation Sans");
@@ -261,7 +253,7 @@ TEST(GridLeaks, LivesEndWhereTheyBegan)
                 grid.StartEditCell(); // and destroyed in the middle of it
             grid.SortTextItems(1, FALSE);
             owtest::Pump();
-            parent.Take();
+            SharedParent().Take();
         }
     };
     const auto heapBytes = []

@@ -182,30 +182,52 @@ TEST_F(GridMouse, TheDividersChangeTheModeUnderAMovingPointer)
     moveTo(RowDivider(2), 0, IDC_ARROW);
 }
 
-TEST_F(GridMouse, ADragOnADividerSizes)
+TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
 {
-    Drag(ColumnDivider(1), CPoint(150, 10));
-    EXPECT_EQ(grid.GetColumnWidth(1), 150 - kColWidth);
+    const CPoint column = ColumnDivider(1), row = RowDivider(2);
+    Drag(row, CPoint(30, 75));
+    Drag(column, CPoint(150, 10));
+    EXPECT_EQ(SizeOf(2, 1), CSize(150 - kColWidth, 75 - 2 * kRowHeight));
     EXPECT_EQ(grid.GetMouseMode(), 8) << "the pointer stands on the divider that it has moved";
-    Drag(RowDivider(2), CPoint(30, 75));
-    EXPECT_EQ(grid.GetRowHeight(2), 75 - 2 * kRowHeight);
     SetSizes(grid);
-    owtest::ButtonDown(grid, ColumnDivider(1));
+    owtest::ButtonDown(grid, column);
     CRect held;
     ::GetClipCursor(&held);
     grid.ScreenToClient(&held);
     EXPECT_EQ(held.left, kColWidth + 1) << "the cursor is held one pixel behind the column's start";
-    owtest::MoveTo(grid, CPoint(held.left, 10));
     owtest::ButtonUp();
-    EXPECT_EQ(grid.GetColumnWidth(1), 1);
-
-    SetSizes(grid); // without a way, and at the very corner, there is nothing to size
-    Drag(ColumnDivider(1), ColumnDivider(1));
-    DragByMessages(ColumnDivider(1), CPoint(0, 0));
-    EXPECT_EQ(grid.GetColumnWidth(1), kColWidth);
+    DragByMessages(column, CPoint(0, 0));
+    EXPECT_EQ(SizeOf(2, 1), CSize(kColWidth, kRowHeight)) << "without a way, and at the corner, nothing";
     ExpectNoGesture();
-    Send(WM_MOUSEMOVE, ColumnDivider(1));
-    Send(WM_LBUTTONDOWN, ColumnDivider(1), MK_LBUTTON);
+
+    const auto close = [&]
+    {
+        DragByMessages(column, CPoint(kColWidth - 30, 10));
+        DragByMessages(row, CPoint(20, 5));
+        return SizeOf(2, 1);
+    };
+    EXPECT_EQ(close(), CSize(0, 0));
+    Drag(CPoint(kColWidth + 1, 10), CPoint(kColWidth + 41, 10));
+    EXPECT_EQ(grid.GetColumnWidth(1), 41) << "the divider opens what it hid";
+    SetSizes(grid);
+    grid.EnableColumnHide(FALSE);
+    grid.EnableRowHide(FALSE);
+    EXPECT_EQ(close(), CSize(1, 1));
+
+    // With opening switched off the nearest one that shows is sized instead.
+    SetSizes(grid);
+    grid.SetColumnWidth(2, 0, TRUE);
+    grid.SetRowHeight(3, 0);
+    grid.EnableHiddenColUnhide(FALSE);
+    grid.EnableHiddenRowUnhide(FALSE);
+    Drag(column + CSize(2, 0), CPoint(150, 10));
+    Drag(row + CSize(0, 2), CPoint(30, 70));
+    EXPECT_EQ(SizeOf(2, 1), CSize(90, 30));
+    EXPECT_EQ(SizeOf(3, 2), CSize(0, 0));
+
+    SetSizes(grid);
+    Send(WM_MOUSEMOVE, column);
+    Send(WM_LBUTTONDOWN, column, MK_LBUTTON);
     grid.SetScrollPos32(SB_HORZ, 2 * kColWidth);
     Send(WM_LBUTTONUP, CPoint(150, 10));
     EXPECT_EQ(grid.GetColumnWidth(1), kColWidth) << "out of view: there is no start to count from";
@@ -235,31 +257,6 @@ TEST_F(GridMouse, TheMarkerOfADragLeavesNothingBehind)
         EXPECT_FALSE(during == before);
         EXPECT_TRUE(after == before);
     }
-}
-
-TEST_F(GridMouse, ADragHidesWhereItMayAndOpensWhatMayBeOpened)
-{
-    DragByMessages(ColumnDivider(1), CPoint(kColWidth - 30, 10));
-    DragByMessages(RowDivider(3), CPoint(20, 40));
-    EXPECT_EQ(SizeOf(3, 1), CSize(0, 0));
-    Drag(CPoint(kColWidth + 1, 10), CPoint(kColWidth + 41, 10));
-    EXPECT_EQ(grid.GetColumnWidth(1), 41) << "the divider opens what it hid";
-    grid.EnableColumnHide(FALSE);
-    grid.EnableRowHide(FALSE);
-    DragByMessages(CPoint(kColWidth + 40, 10), CPoint(kColWidth - 30, 10));
-    DragByMessages(RowDivider(2), CPoint(20, 5));
-    EXPECT_EQ(SizeOf(2, 1), CSize(1, 1));
-
-    // With opening switched off the nearest one that shows is sized instead.
-    SetSizes(grid);
-    grid.SetColumnWidth(2, 0, TRUE);
-    grid.SetRowHeight(2, 0);
-    grid.EnableHiddenColUnhide(FALSE);
-    grid.EnableHiddenRowUnhide(FALSE);
-    Drag(CPoint(kColWidth * 2 + 1, 10), CPoint(150, 10));
-    Drag(CPoint(30, kRowHeight * 2 + 1), CPoint(30, 50));
-    EXPECT_EQ(SizeOf(1, 1), CSize(90, 30));
-    EXPECT_EQ(SizeOf(2, 2), CSize(0, 0));
 }
 
 TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)

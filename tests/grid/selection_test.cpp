@@ -1,19 +1,8 @@
-// Focus, ranges, modes, and the walk by state.
+// Focus, ranges and the books of what is selected.
 
 #include "GridFixture.h"
 
-class GridSelection : public GridTest
-{
-};
-
-TEST_F(GridSelection, AChangeOfTheFocusIsToldUnlessItIsQuiet)
-{
-    grid.SetFocusCell(0, 0);
-    EXPECT_EQ(parent.Take(), Calls{"changed 1,1"}) << "raised into the body";
-    grid.SetFocusCell(CCellID(4, 4), FALSE);
-    grid.SetFocusCell(-1, -1);
-    EXPECT_EQ(parent.Take(), Calls{});
-}
+using GridSelection = GridTest;
 
 TEST_F(GridSelection, OnlyWhatChangesIsRepainted)
 {
@@ -47,23 +36,29 @@ TEST_F(GridSelection, SwitchingSelectionOffDropsIt)
     EXPECT_EQ(grid.GetSelectedCount(), 1) << "the books take it all the same";
 }
 
-TEST_F(GridSelection, TheHeadersOfTheOldFocusAndTheNewAreRedrawnAtOnce)
+TEST_F(GridSelection, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
 {
-    using Notes = std::vector<std::string>;
     for (int nItem = 0; nItem < 5; ++nItem)
     {
         grid.SetCellType(0, nItem, RUNTIME_CLASS(NotedCell));
         grid.SetCellType(nItem, 0, RUNTIME_CLASS(NotedCell));
     }
+    grid.SetFocusCell(0, 0);
+    EXPECT_EQ(parent.Take(), Calls{"changed 1,1"}) << "raised into the body";
     grid.SetFocusCell(2, 2);
     NotedCell::Take();
     grid.SetFocusCell(2, 4);
-    EXPECT_EQ(NotedCell::Take(), (Notes{"draw 0,2", "draw 0,4"}));
-    grid.SetFocusCell(3, 4);
-    EXPECT_EQ(NotedCell::Take(), (Notes{"draw 2,0", "draw 3,0"}));
+    EXPECT_EQ(NotedCell::Take(), (Calls{"draw 0,2", "draw 0,4"}));
+    parent.Take();
+    grid.SetFocusCell(CCellID(3, 4), FALSE);
+    EXPECT_EQ(NotedCell::Take(), (Calls{"draw 2,0", "draw 3,0"}));
+    EXPECT_EQ(parent.Take(), Calls{}) << "quietly";
     grid.SetTrackFocusCell(FALSE);
     grid.SetFocusCell(4, 2);
-    EXPECT_EQ(NotedCell::Take(), Notes{});
+    EXPECT_EQ(NotedCell::Take(), Calls{});
+    parent.Take();
+    grid.SetFocusCell(-1, -1);
+    EXPECT_EQ(parent.Take(), Calls{});
 }
 
 TEST_F(GridSelection, AVirtualCellIsAskedForWithFocusAndSelection)

@@ -92,33 +92,27 @@ TEST_F(GridStorage, CellsThatBecomeFixedLoseTheirColoursAndTheirsAloneComeBack)
 
 TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
 {
-    for (const CCellID cell :
-         {CCellID(-1, 0), CCellID(0, -1), CCellID(4, 0), CCellID(0, 3), CCellID(INT_MAX, INT_MIN)})
+    for (const auto& [r, c] :
+         {std::pair(-1, 0), std::pair(0, -1), std::pair(4, 0), std::pair(0, 3), std::pair(INT_MAX, INT_MIN)})
     {
-        const int r = cell.row, c = cell.col;
         EXPECT_EQ(grid.GetCell(r, c), nullptr);
-        for (const BOOL done :
-             {grid.IsValid(cell), grid.SetItemText(r, c, L"x"), grid.SetItemData(r, c, 1),
-              grid.SetItemImage(r, c, 1), grid.SetItemFormat(r, c, 0), grid.SetItemFont(r, c, nullptr),
-              grid.SetCellType(r, c, RUNTIME_CLASS(CGridCell)), grid.RedrawCell(r, c),
-              grid.IsCellVisible(r, c), grid.GetCellRect(r, c, CRect()), grid.IsItemEditing(r, c)})
-            EXPECT_FALSE(done);
-        EXPECT_EQ(Text(r, c), L"");
-        EXPECT_EQ(grid.GetItemData(r, c), 0);
-        EXPECT_EQ(grid.GetItemImage(r, c), -1);
-        EXPECT_EQ(grid.GetItemState(r, c), 0u);
+        for (const LONGLONG answer :
+             {LONGLONG(grid.IsValid(CCellID(r, c))), LONGLONG(grid.SetItemImage(r, c, 1)),
+              LONGLONG(grid.SetItemFont(r, c, nullptr)), LONGLONG(grid.RedrawCell(r, c)),
+              LONGLONG(grid.IsCellVisible(r, c)), LONGLONG(grid.GetCellRect(r, c, CRect())),
+              LONGLONG(grid.IsItemEditing(r, c)), LONGLONG(grid.GetItemText(r, c).GetLength()),
+              LONGLONG(grid.GetItemImage(r, c) + 1), LONGLONG(grid.GetItemState(r, c)),
+              LONGLONG(grid.GetCellTextExtent(r, c).cx)})
+            EXPECT_EQ(answer, 0);
         EXPECT_NE(grid.GetItemFont(r, c), nullptr) << "never fails";
-        EXPECT_EQ(grid.GetCellTextExtent(r, c), CSize(0, 0));
         EXPECT_TRUE(grid.IsCellEditable(r, c)) << "a missing cell has no state";
-        grid.EnsureVisible(r, c);
         grid.OnEditCell(r, c, CPoint(), 'x');
     }
     EXPECT_EQ(grid.GetRowHeight(4), -1);
     for (const BOOL done :
-         {grid.SetRowHeight(-1, 5), grid.SetRowHeight(1, -5), grid.SetColumnWidth(3, 5), grid.SetRowCount(-1),
-          grid.SetFixedColumnCount(-1), grid.AutoSizeRow(9), grid.SetCellType(2, 1, RUNTIME_CLASS(CObject)),
-          grid.SetDefaultCellType(RUNTIME_CLASS(CObject)), grid.IsValid(CCellRange(0, 0, 4, 2)),
-          grid.IsValid(CCellRange(2, 0, 1, 2))})
+         {grid.SetRowHeight(1, -5), grid.SetRowCount(-1), grid.SetFixedColumnCount(-1), grid.AutoSizeRow(9),
+          grid.SetCellType(2, 1, RUNTIME_CLASS(CObject)), grid.SetDefaultCellType(RUNTIME_CLASS(CObject)),
+          grid.IsValid(CCellRange(0, 0, 4, 2)), grid.IsValid(CCellRange(2, 0, 1, 2))})
         EXPECT_FALSE(done);
     EXPECT_TRUE(grid.IsValid(grid.GetCellRange()));
 }
@@ -126,49 +120,46 @@ TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
 TEST_F(GridStorage, ItemsGoInAndOutByMask)
 {
     GV_ITEM item = FullItem();
+    const auto values = [&]
+    {
+        GV_ITEM all = FullItem();
+        EXPECT_TRUE(grid.GetItem(&all));
+        return ValuesOf(all);
+    };
     for (int bit = 0; bit <= 8; ++bit)
     {
-        GV_ITEM before, after;
-        before.row = after.row = 2;
-        before.col = after.col = 1;
-        before.mask = after.mask = GV_MASK_ALL;
         grid.SetCellType(2, 1, RUNTIME_CLASS(CGridCell));
-        EXPECT_TRUE(grid.GetItem(&before));
+        std::vector<LONGLONG> expected = values();
         item.mask = 1 << bit;
         EXPECT_TRUE(grid.SetItem(&item));
-        EXPECT_TRUE(grid.GetItem(&after));
-        std::vector<LONGLONG> expected = ValuesOf(before);
         expected[bit] = ValuesOf(item)[bit];
         if (item.mask != GV_MASK_STATE) // marked first, and then given a state without the mark
             expected[3] |= CELL_MODIFIED;
-        EXPECT_EQ(ValuesOf(after), expected) << bit;
+        EXPECT_EQ(values(), expected) << bit;
     }
     EXPECT_TRUE(grid.IsCellSelected(2, 1));
     EXPECT_FALSE(grid.SetItem(nullptr) || grid.GetItem(nullptr));
-    grid.SetModified(FALSE);
-    item.mask = 0;
-    EXPECT_TRUE(grid.SetItem(&item));
-    EXPECT_TRUE(grid.GetModified(2, 1)) << "whatever the mask holds";
-    grid.SetItemText(0, 0, L"x");
-    for (const CCellID cell : {CCellID(0, 0), CCellID(2, 1)})
-    {
-        EXPECT_TRUE(grid.GetModified(cell.row, cell.col) && grid.GetModified());
-        grid.SetModified(FALSE, cell.row, cell.col);
-        EXPECT_FALSE(grid.GetModified(cell.row, cell.col));
-    }
-}
 
-TEST_F(GridStorage, LooksAreNoModification)
-{
-    grid.SetItemBkColour(1, 1, 0);
-    grid.SetItemFormat(1, 1, 0);
-    EXPECT_FALSE(grid.GetModified());
-    grid.SetItemTextFmt(1, 1, L"%d mm", 12);
-    EXPECT_EQ(Text(1, 1), L"12 mm");
-    EXPECT_TRUE(grid.GetModified(1, 1));
-    EXPECT_TRUE(grid.SetItemTextFmtID(2, 1, IDS_PIECES, 3, L"IPE 200"));
-    EXPECT_EQ(Text(2, 1), L"3 of IPE 200");
-    EXPECT_TRUE(grid.GetModified(2, 1));
+    // Of what marks a cell as modified, and the grid with it.
+    const std::tuple<std::function<void()>, const wchar_t*, bool> changes[] = {
+        {[&] { grid.SetItem(&(item.mask = 0, item)); }, L"2/1", true}, // whatever the mask holds
+        {[&] { grid.SetItemTextFmt(2, 1, L"%d mm", 12); }, L"12 mm", true},
+        {[&] { grid.SetItemTextFmtID(2, 1, IDS_PIECES, 3, L"IPE 200"); }, L"3 of IPE 200", true},
+        {[&] { grid.SetItemBkColour(2, 1, 0); }, L"2/1", false},
+        {[&] { grid.SetItemFormat(2, 1, 0); }, L"2/1", false}};
+    for (const auto& [change, text, modifies] : changes)
+    {
+        grid.SetItemText(2, 1, L"2/1");
+        grid.SetModified(FALSE);
+        change();
+        EXPECT_EQ(Text(2, 1), text);
+        EXPECT_EQ(std::pair(grid.GetModified(2, 1) != 0, grid.GetModified() != 0),
+                  std::pair(modifies, modifies));
+        grid.SetModified(FALSE, 2, 1);
+        EXPECT_FALSE(grid.GetModified(2, 1));
+    }
+    grid.SetItemText(0, 0, L"x");
+    EXPECT_TRUE(grid.GetModified(0, 0));
     EXPECT_FALSE(grid.SetItemTextFmtID(2, 3, IDS_PIECES, 3, L"IPE 200"));
 }
 
