@@ -39,12 +39,7 @@ protected:
         grid.RedrawWindow();
         return static_cast<Cell&>(*grid.GetCell(kRow, kCol));
     }
-    CRect CellRect()
-    {
-        CRect rect;
-        grid.GetCellRect(kRow, kCol, &rect);
-        return rect;
-    }
+    CRect CellRect() { return GridTest::CellRect(kRow, kCol); }
     /// Paints the cell at the origin of a surface.
     BOOL Draw(owtest::Surface& to, CSize size)
     {
@@ -110,23 +105,15 @@ TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
 TEST_F(CheckCells, AChangeRepaintsWhatWasDrawn)
 {
     const CPoint box(margin, margin);
-    const auto repainted = [&](const std::function<void()>& change)
-    {
-        CRect update;
-        grid.UpdateWindow();
-        change();
-        grid.GetUpdateRect(&update);
-        return update;
-    };
-    EXPECT_EQ(repainted([&] { EXPECT_EQ(cell->SetCheck(1), 0) << "the old state"; }), CellRect());
+    EXPECT_EQ(Repainted([&] { EXPECT_EQ(cell->SetCheck(1), 0) << "the old state"; }), CellRect());
     EXPECT_TRUE(told.empty());
     CGridCellCheck copy, undrawn;
     copy = *cell;
     EXPECT_EQ(copy.GetCheck(), 1);
-    EXPECT_EQ(repainted([&] { copy.SetCheck(0); }), CellRect()) << "a copy stands where the other was drawn";
-    EXPECT_EQ(repainted([&] { copy.OnClick(box); }), CellRect());
+    EXPECT_EQ(Repainted([&] { copy.SetCheck(0); }), CellRect()) << "a copy stands where the other was drawn";
+    EXPECT_EQ(Repainted([&] { copy.OnClick(box); }), CellRect());
     undrawn.SetGrid(&grid);
-    EXPECT_EQ(repainted([&] { undrawn.SetCheck(-1); }), CRect());
+    EXPECT_EQ(Repainted([&] { undrawn.SetCheck(-1); }), CRect());
     undrawn.OnClick(box);
     EXPECT_EQ(undrawn.GetCheck(), 0) << "a click counts from the origin then";
     copy.SetGrid(nullptr);

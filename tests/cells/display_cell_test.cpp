@@ -119,8 +119,7 @@ TEST_F(DisplayCells, APatternRunsThroughWhateverPartIsPaintedThroughABuffer)
     cell.SetPatternColor(kText);
     cell.SetPatternStyle(HS_DIAGCROSS);
     grid.SetDoubleBuffering(TRUE);
-    CRect rect;
-    grid.GetCellRect(kRow, kCol, &rect);
+    const CRect rect = CellRect(kRow, kCol);
     const auto paint = [&](const CRect& part, Canvas& into)
     {
         grid.InvalidateRect(part);
@@ -191,12 +190,7 @@ TEST_F(DisplayCells, AMarkIsAStarBehindTheTextThatOnlyPaintingKnows)
     for (const bool mark : {true, true, false, false, true})
     {
         const bool changes = cell.IsMarked() != mark;
-        CRect client, update;
-        grid.GetClientRect(&client);
-        grid.UpdateWindow();
-        cell.Mark(mark);
-        EXPECT_EQ(grid.GetUpdateRect(&update) != FALSE, changes);
-        EXPECT_EQ(update, changes ? client : CRect());
+        EXPECT_EQ(Repainted([&] { cell.Mark(mark); }), changes ? Client() : CRect());
     }
     CMarkedTextCell copy;
     copy = cell;

@@ -93,9 +93,7 @@ TEST_F(Editors, AnEditIsAlignedAsItsTextAndGrowsToTheGridsEdge)
     grid.SetItemFormat(kRow, kCol, DT_LEFT);
     CEdit& edit = Edit(VK_LBUTTON, L"");
     EXPECT_EQ(edit.GetStyle() & 3, static_cast<DWORD>(ES_LEFT));
-    CRect cell, client;
-    grid.GetCellRect(kRow, kCol, &cell);
-    grid.GetClientRect(&client);
+    const CRect cell = CellRect(kRow, kCol);
     EXPECT_EQ(RectOf(edit), cell);
     owtest::Type(L"abcdefghijklmnop");
     const int wide = RectOf(edit).right;
@@ -105,7 +103,7 @@ TEST_F(Editors, AnEditIsAlignedAsItsTextAndGrowsToTheGridsEdge)
     owtest::Press(VK_BACK);
     EXPECT_EQ(RectOf(edit).right, wide) << "it never shrinks";
     owtest::Type(L"abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz");
-    EXPECT_EQ(RectOf(edit), CRect(cell.left, cell.top, client.right, cell.bottom));
+    EXPECT_EQ(RectOf(edit), CRect(cell.left, cell.top, Client().right, cell.bottom));
     MSG msg{edit.m_hWnd, WM_SYSCHAR, 'x', 0, 0, {}};
     EXPECT_TRUE(static_cast<CWnd&>(edit).PreTranslateMessage(&msg)) << "Alt with a character is swallowed";
     EXPECT_EQ(edit.SendMessage(WM_GETDLGCODE), DLGC_WANTALLKEYS);

@@ -112,6 +112,27 @@ protected:
     {
         return owtest::PumpUntil([&] { return grid.GetDlgItem(InPlaceControlId) == nullptr; });
     }
+    CRect CellRect(int nRow, int nCol)
+    {
+        CRect rect;
+        EXPECT_TRUE(grid.GetCellRect(nRow, nCol, &rect));
+        return rect;
+    }
+    CRect Client()
+    {
+        CRect rect;
+        grid.GetClientRect(&rect);
+        return rect;
+    }
+    /// What a change leaves to be repainted.
+    CRect Repainted(const std::function<void()>& change)
+    {
+        CRect rect;
+        grid.UpdateWindow();
+        change();
+        grid.GetUpdateRect(&rect);
+        return rect;
+    }
     std::wstring Text(int nRow, int nCol) { return grid.GetItemText(nRow, nCol).GetString(); }
     CCellRange Selected() { return grid.GetSelectedCellRange(); }
 

@@ -52,9 +52,7 @@ TEST_F(GridDrawing, RegionsHaveTheirColours)
         EXPECT_EQ(picture.at(at.x, at.y), color) << at.x << ',' << at.y;
     grid.SetRedraw(FALSE);
     EXPECT_EQ(Picture(grid).count(RGB(255, 0, 255)), 300 * 200) << "nothing is painted while drawing is off";
-    grid.UpdateWindow();
-    grid.SetRedraw(TRUE);
-    EXPECT_TRUE(::GetUpdateRect(grid, nullptr, FALSE));
+    EXPECT_EQ(Repainted([&] { grid.SetRedraw(TRUE); }), Client());
     grid.DeleteAllItems();
     EXPECT_EQ(Picture(grid).count(kBehind), 300 * 200);
 }
@@ -234,8 +232,8 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
                static_cast<CBitmap*>(nullptr));
     grid.SetImageList(&images);
     grid.SetItemImage(2, 2, 0);
-    CRect cell, text;
-    grid.GetCellRect(2, 2, &cell);
+    const CRect cell = CellRect(2, 2);
+    CRect text;
     grid.GetTextRect(2, 2, &text);
     const int margin = static_cast<int>(grid.GetCell(2, 2)->GetMargin());
     EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);

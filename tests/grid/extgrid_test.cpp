@@ -202,14 +202,10 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
 {
     grid.SetRedraw(FALSE);
     grid.SetRowCount(100);
-    grid.ValidateRect(nullptr);
     EXPECT_FALSE(grid.IsVisibleVScroll());
-    grid.SelectRowEx(90, 1);
+    const CRect repainted = Repainted([&] { grid.SelectRowEx(90, 1); });
     EXPECT_TRUE(grid.IsVisibleVScroll()) << "the bars are brought up to date, too";
-    CRect update, client;
-    grid.GetUpdateRect(&update);
-    grid.GetClientRect(&client);
-    EXPECT_EQ(update, client);
+    EXPECT_EQ(repainted, Client());
     EXPECT_EQ(grid.GetScrollPos(SB_VERT), 0);
     EXPECT_TRUE(grid.RedrawCell(1, 1)) << "which it does not do while drawing is off";
 }

@@ -10,19 +10,9 @@ protected:
         for (; times > 0; --times)
             grid.SendMessage(message, code);
     }
-    CRect Client()
+    CRect RepaintedBy(UINT message, UINT code)
     {
-        CRect rect;
-        grid.GetClientRect(&rect);
-        return rect;
-    }
-    /// What is to be repainted, and repaints it.
-    CRect ToRepaint()
-    {
-        CRect rect;
-        ::GetUpdateRect(grid, &rect, FALSE);
-        grid.UpdateWindow();
-        return rect;
+        return Repainted([&] { Scroll(message, code); });
     }
 };
 
@@ -75,19 +65,14 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
 
 TEST_F(GridGeometry, ScrollMessagesMoveTheirBarAndRepaintWhatScrolls)
 {
-    grid.UpdateWindow();
-    Scroll(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(RepaintedBy(WM_HSCROLL, SB_LINERIGHT), CRect(60, 0, Client().right, Client().bottom));
     EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 60);
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 2));
-    EXPECT_EQ(ToRepaint(), CRect(60, 0, Client().right, Client().bottom));
-    Scroll(WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_PAGEDOWN), CRect(0, 20, Client().right, Client().bottom));
     EXPECT_EQ(grid.GetScrollPos32(SB_VERT), Client().bottom - 20);
-    EXPECT_EQ(ToRepaint(), CRect(0, 20, Client().right, Client().bottom));
-    Scroll(WM_VSCROLL, SB_TOP);
+    EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_TOP), Client());
     EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 0);
-    EXPECT_EQ(ToRepaint(), Client());
-    Scroll(WM_VSCROLL, SB_LINEUP);
-    EXPECT_TRUE(ToRepaint().IsRectEmpty()) << "nothing moves";
+    EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_LINEUP), CRect()) << "nothing moves";
 }
 
 // The bars are painted with the window, and only where the thumb is another.
@@ -120,9 +105,12 @@ TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
     grid.UpdateWindow();
     const auto shorter = barOnScreen();
     EXPECT_FALSE(shorter == atTop);
-    for (int nRow = 60; nRow > 0; --nRow)
-        grid.DeleteRow(30);
-    EXPECT_TRUE(ToRepaint().IsRectEmpty());
+    const auto deleteRows = [&]
+    {
+        for (int nRow = 60; nRow > 0; --nRow)
+            grid.DeleteRow(30);
+    };
+    EXPECT_EQ(Repainted(deleteRows), CRect());
     owtest::Pump();
     EXPECT_FALSE(barOnScreen() == shorter);
 }
@@ -146,15 +134,13 @@ TEST_F(GridGeometry, TheWheelPostsLinesOrPages)
 TEST_F(GridGeometry, EnsureVisibleScrollsAsFarAsNeeded)
 {
     grid.EnsureVisible(15, 6);
-    CRect rect;
-    ASSERT_TRUE(grid.GetCellRect(15, 6, &rect));
-    EXPECT_TRUE(rect.right <= Client().right && rect.bottom <= Client().bottom);
+    const CRect shown = CellRect(15, 6);
+    EXPECT_TRUE(shown.right <= Client().right && shown.bottom <= Client().bottom);
     grid.EnsureVisible(2, 1);
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(2, 1));
     grid.SetColumnWidth(3, 1000, TRUE);
     grid.EnsureVisible(2, 3); // wider than the window: its start shows
-    ASSERT_TRUE(grid.GetCellRect(2, 3, &rect));
-    EXPECT_EQ(rect.left, kColWidth);
+    EXPECT_EQ(CellRect(2, 3).left, kColWidth);
     grid.SetRedraw(FALSE);
     grid.EnsureVisible(20, 1);
     EXPECT_FALSE(grid.IsCellVisible(20, 1)) << "not while drawing is off";
@@ -233,9 +219,7 @@ TEST_F(GridGeometry, SizesBeyondAllBoundsKeepTheBars)
     EXPECT_EQ(grid.GetVirtualHeight(), INT_MAX);
     EXPECT_EQ(grid.m_nHScrollMax, INT_MAX - kColWidth - 1);
     EXPECT_TRUE(grid.IsVisibleVScroll() && grid.IsVisibleHScroll());
-    CRect rect;
-    ASSERT_TRUE(grid.GetCellRect(4, 2, &rect));
-    EXPECT_EQ(rect.BottomRight(), CPoint(INT_MAX - 1, INT_MAX - 1));
+    EXPECT_EQ(CellRect(4, 2).BottomRight(), CPoint(INT_MAX - 1, INT_MAX - 1));
     EXPECT_EQ(grid.GetCellFromPt(CPoint(290, 190)), CCellID(3, 2));
     grid.RedrawWindow();
     Scroll(WM_VSCROLL, SB_PAGEDOWN);

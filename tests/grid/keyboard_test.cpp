@@ -51,14 +51,8 @@ TEST_F(GridKeyboard, EachKeyScrollsInItsWay)
 {
     const int nLastRow = kRows - 1, nLastCol = kCols - 1;
     const int nPage = 9; // whole rows below the headings
-    struct Case
-    {
-        WORD key;
-        bool shift, control;
-        CCellID to; ///< and from there with the next
-        std::vector<std::string> scrolls;
-    };
-    const Case cases[] = {
+    // A key, with Shift, with Control, where it leads, the scrolling; and from there with the next.
+    const std::tuple<WORD, bool, bool, CCellID, std::vector<std::string>> cases[] = {
         {VK_NEXT, false, false, {2 + nPage, 2}, {"v3", "v8"}},
         {VK_PRIOR, false, false, {2, 2}, {"v2", "v8"}},
         {VK_PRIOR, false, false, {1, 2}, {"v2", "v8"}},
@@ -70,11 +64,11 @@ TEST_F(GridKeyboard, EachKeyScrollsInItsWay)
         {VK_NEXT, false, false, {nLastRow, nLastCol}, {"v3"}},
         {VK_HOME, false, true, {1, 1}, {"v6", "h6", "h8", "v8"}},
     };
-    for (const Case& c : cases)
+    for (const auto& [key, shift, control, to, scrolls] : cases)
     {
-        EXPECT_EQ(After(c.key, c.shift, c.control), c.to);
-        EXPECT_TRUE(grid.IsCellVisible(c.to));
-        EXPECT_EQ(std::exchange(grid.scrolls, {}), c.scrolls) << "key " << c.key;
+        EXPECT_EQ(After(key, shift, control), to);
+        EXPECT_TRUE(grid.IsCellVisible(CCellID(to)));
+        EXPECT_EQ(std::exchange(grid.scrolls, {}), scrolls) << "key " << key;
     }
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 1));
 }
@@ -139,13 +133,9 @@ TEST_F(GridKeyboard, EscapeALossOfTheFocusAndAScrollEndAnEdit)
 
 TEST_F(GridKeyboard, TheKeyThatEndsAnEditMovesOnAndEditsThere)
 {
-    struct Case
-    {
-        WORD key;
-        CCellID next;
-    };
-    for (const auto& [key, next] :
-         {Case{VK_TAB, {2, 3}}, Case{VK_DOWN, {3, 2}}, Case{VK_UP, {1, 2}}, Case{VK_PRIOR, {1, 2}}})
+    const std::pair<WORD, CCellID> moves[] = {
+        {VK_TAB, {2, 3}}, {VK_DOWN, {3, 2}}, {VK_UP, {1, 2}}, {VK_PRIOR, {1, 2}}};
+    for (const auto& [key, next] : moves)
     {
         TypeInto(2, 2, L"1");
         owtest::Press(key);

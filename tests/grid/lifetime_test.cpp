@@ -98,12 +98,7 @@ protected:
     }
 
     /// What moves or takes cells, and where a text in (2, 2) is afterwards.
-    struct Change
-    {
-        void (*make)(CGridCtrl&);
-        CCellID cell;
-    };
-    static inline const Change kChanges[] = {
+    static inline const std::pair<void (*)(CGridCtrl&), CCellID> kChanges[] = {
         {[](CGridCtrl& g) { g.DeleteRow(1); }, {1, 2}},
         {[](CGridCtrl& g) { g.DeleteRow(2); }, {}},
         {[](CGridCtrl& g) { g.DeleteNonFixedRows(); }, {}},
@@ -188,25 +183,21 @@ TEST_F(GridLife, AChangeEndsTheEditFirstAndIsMadeOnWhatTheParentHasLeft)
 
 TEST_F(GridLife, ARefusedTextIsTakenBackFromItsOwnCellOnly)
 {
-    struct Case
-    {
-        void (*change)(CGridCtrl&);
-        const wchar_t* row4; ///< and the one before it
-        const wchar_t* row5;
-    };
-    for (const Case& c :
-         {Case{[](CGridCtrl& g) { g.InsertRow(L"", 1); }, L"3/2", L"4/2"},
-          Case{[](CGridCtrl& g) { g.DeleteRow(4); }, L"5/2", L"6/2"},
-          Case{[](CGridCtrl& g) { g.SetCellType(4, 2, RUNTIME_CLASS(CGridCellCheck)); }, L"4/2", L"5/2"}})
+    // What the parent does, and the texts of the rows 4 and 5 then.
+    const std::tuple<void (*)(CGridCtrl&), const wchar_t*, const wchar_t*> cases[] = {
+        {[](CGridCtrl& g) { g.InsertRow(L"", 1); }, L"3/2", L"4/2"},
+        {[](CGridCtrl& g) { g.DeleteRow(4); }, L"5/2", L"6/2"},
+        {[](CGridCtrl& g) { g.SetCellType(4, 2, RUNTIME_CLASS(CGridCellCheck)); }, L"4/2", L"5/2"}};
+    for (const auto& [change, row4, row5] : cases)
     {
         Make();
         CGridCtrl& anyGrid = *grid; // a dialog may end an edit
         TypeInto(
-            4, 2, [&] { c.change(anyGrid); }, -1);
+            4, 2, [&, change = change] { change(anyGrid); }, -1);
         anyGrid.EndEditing();
         EXPECT_FALSE(grid->IsItemEditing(4, 2) || grid->IsItemEditing(5, 2));
-        EXPECT_EQ(Text(4, 2), c.row4);
-        EXPECT_EQ(Text(5, 2), c.row5);
+        EXPECT_EQ(Text(4, 2), row4);
+        EXPECT_EQ(Text(5, 2), row5);
         owtest::Pump();
         EXPECT_EQ(parent.Take(), (Calls{"begin 4,2", "end 4,2"})) << "and asked about once";
     }

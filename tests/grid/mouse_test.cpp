@@ -298,9 +298,7 @@ TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
     const auto doubleClick = [&](CPoint point)
     {
         Send(WM_MOUSEMOVE, point);
-        grid.UpdateWindow();
-        Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON);
-        EXPECT_TRUE(::GetUpdateRect(grid, nullptr, FALSE));
+        EXPECT_EQ(Repainted([&] { Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON); }), Client());
     };
     doubleClick(ColumnDivider(1));
     EXPECT_EQ(grid.GetColumnWidth(1), nWide);
@@ -323,9 +321,7 @@ TEST_F(GridMouse, ASecondClickOrADoubleClickInTheTextEdits)
     EndByKey(VK_ESCAPE);
     grid.SetImageList(&CGridCtrl::GridImageList);
     grid.SetItemImage(2, 2, 0);
-    CRect rect;
-    grid.GetCellRect(2, 2, &rect);
-    owtest::ButtonDown(grid, CPoint(rect.left + 5, rect.CenterPoint().y));
+    owtest::ButtonDown(grid, CPoint(CellRect(2, 2).left + 5, CellRect(2, 2).CenterPoint().y));
     EXPECT_EQ(grid.GetMouseMode(), 4) << "outside the text a press selects";
     owtest::ButtonUp();
     grid.SetImageList(nullptr);

@@ -6,18 +6,9 @@ using GridSelection = GridTest;
 
 TEST_F(GridSelection, OnlyWhatChangesIsRepainted)
 {
-    grid.UpdateWindow();
-    grid.SetSelectedRange(2, 2, 2, 2);
-    CRect rect;
-    EXPECT_TRUE(::GetUpdateRect(grid, &rect, FALSE));
-    EXPECT_EQ(rect, CRect(120, 40, 180, 60));
-    grid.UpdateWindow();
-    grid.SetSelectedRange(2, 2, 2, 3, TRUE);
-    EXPECT_FALSE(::GetUpdateRect(grid, nullptr, FALSE)) << "by force it is painted at once";
-    grid.UpdateWindow();
-    EXPECT_TRUE(grid.InvalidateCellRect(CCellRange(3, 1, 4, 2)));
-    EXPECT_TRUE(::GetUpdateRect(grid, &rect, FALSE));
-    EXPECT_EQ(rect, CRect(60, 60, 180, 100));
+    EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
+    EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
+    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellRange(3, 1, 4, 2)); }), CRect(60, 60, 180, 100));
     CCellID none;
     EXPECT_EQ(grid.GetNextItem(none, GVNI_SELECTED | GVNI_ALL), CCellID(2, 2));
 }

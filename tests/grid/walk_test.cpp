@@ -29,13 +29,6 @@ TEST_F(GridWalk, TabGoesBackAndWithATestAroundInItsRow)
     const CGridKeyWalk plain(rows, cols);
     EXPECT_EQ(plain.Tab(CCellID(3, 1), -1), CCellID(2, 4));
     EXPECT_EQ(plain.Tab(CCellID(1, 1), -1), CCellID(1, 1));
-    for (const int nCol : {1, 2, 4})
-    {
-        EXPECT_EQ(plain.TabWraps(CCellID(2, nCol), 1), nCol == 4);
-        EXPECT_EQ(plain.TabWraps(CCellID(2, nCol), -1), nCol == 1);
-        EXPECT_FALSE(plain.TabWraps(CCellID(5, nCol), 1) || plain.TabWraps(CCellID(1, nCol), -1));
-    }
-
     std::vector<CCellID> stops{CCellID(2, 2), CCellID(2, 4), CCellID(5, 1), CCellID(1, 3)};
     const CGridKeyWalk walk(rows, cols,
                             [&](const CCellID& cell)
@@ -54,18 +47,11 @@ TEST_F(GridWalk, TabGoesBackAndWithATestAroundInItsRow)
 TEST_F(GridWalk, PagesHomeAndEnd)
 {
     const CGridKeyWalk walk(rows, cols);
-    struct Page
-    {
-        int row, step, moved, to;
-    };
-    for (const Page& c : {Page{2, 1, 2, 4},
-                          {2, 1, 9, 5},
-                          {4, -1, -2, 2},
-                          {4, -1, -9, 1},
-                          // where the view cannot move, to the end
-                          {2, 1, 0, 5},
-                          {4, -1, 0, 1}})
-        EXPECT_EQ(walk.ByPage(CCellID(c.row, 3), c.step, c.moved), CCellID(c.to, 3)) << c.moved;
+    for (const auto& [nRow, nStep, nMoved, nTo] :
+         {std::tuple(2, 1, 2, 4), std::tuple(2, 1, 9, 5), std::tuple(4, -1, -2, 2), std::tuple(4, -1, -9, 1),
+          // where the view cannot move, to the end
+          std::tuple(2, 1, 0, 5), std::tuple(4, -1, 0, 1)})
+        EXPECT_EQ(walk.ByPage(CCellID(nRow, 3), nStep, nMoved), CCellID(nTo, 3)) << nMoved;
 
     EXPECT_EQ(walk.ToStart(CCellID(4, 3), false), CCellID(4, 1));
     EXPECT_EQ(walk.ToStart(CCellID(4, 3), true), CCellID(1, 1));
@@ -100,34 +86,30 @@ TEST_F(GridWalk, ByState)
                               cell == CCellID(0, 1) || cell == CCellID(3, 0);
         return selected ? CELL_SELECTED | CELL_READONLY : 0;
     };
-    struct Case
-    {
-        CCellID from;
-        int nFlags;
-        CCellID found;
-    };
-    for (const Case& c : {Case{{-1, -1}, GVNI_SELECTED | GVNI_ALL, {2, 2}},
-                          {{2, 2}, GVNI_SELECTED | GVNI_ALL, {2, 3}},
-                          {{2, 3}, GVNI_SELECTED | GVNI_ALL, {4, 1}},
-                          {{2, 3}, GVNI_SELECTED | GVNI_AREA, {}},
-                          {{1, 0}, GVNI_READONLY | GVNI_AREA, {2, 2}},
-                          {{4, 3}, GVNI_SELECTED | GVNI_ABOVE, {2, 3}},
-                          {{4, 1}, GVNI_SELECTED | GVNI_ABOVE, {}},
-                          {{0, 1}, GVNI_SELECTED | GVNI_BELOW, {4, 1}},
-                          {{4, 1}, GVNI_SELECTED | GVNI_BELOW, {}},
-                          {{2, 4}, GVNI_SELECTED | GVNI_TOLEFT, {2, 3}},
-                          {{3, 4}, GVNI_SELECTED | GVNI_TOLEFT, {}},
-                          {{2, 0}, GVNI_SELECTED | GVNI_TORIGHT, {2, 2}},
-                          {{2, 3}, GVNI_SELECTED | GVNI_TORIGHT, {}},
-                          {{2, 0}, GVNI_TORIGHT, {}},
-                          {{2, 0}, GVNI_SELECTED, {}},
-                          {{-1, -1}, GVNI_MODIFIED | GVNI_ALL, {5, 3}},
-                          {{0, 3}, GVNI_FOCUSED | GVNI_BELOW, {5, 3}},
-                          {{INT_MAX, 1}, GVNI_SELECTED | GVNI_ABOVE, {4, 1}},
-                          {{INT_MAX, INT_MAX}, GVNI_SELECTED | GVNI_ALL, {}},
-                          {{4, 3}, GVNI_SELECTED | GVNI_ABOVE | GVNI_TOLEFT, {2, 3}}})
-        EXPECT_EQ(gfnNextCell(rows, cols, c.from, c.nFlags, stateOf), c.found)
-            << c.from.row << ',' << c.from.col << " by " << c.nFlags;
+    const std::tuple<CCellID, int, CCellID> cases[] = {
+        {{-1, -1}, GVNI_SELECTED | GVNI_ALL, {2, 2}},
+        {{2, 2}, GVNI_SELECTED | GVNI_ALL, {2, 3}},
+        {{2, 3}, GVNI_SELECTED | GVNI_ALL, {4, 1}},
+        {{2, 3}, GVNI_SELECTED | GVNI_AREA, {}},
+        {{1, 0}, GVNI_READONLY | GVNI_AREA, {2, 2}},
+        {{4, 3}, GVNI_SELECTED | GVNI_ABOVE, {2, 3}},
+        {{4, 1}, GVNI_SELECTED | GVNI_ABOVE, {}},
+        {{0, 1}, GVNI_SELECTED | GVNI_BELOW, {4, 1}},
+        {{4, 1}, GVNI_SELECTED | GVNI_BELOW, {}},
+        {{2, 4}, GVNI_SELECTED | GVNI_TOLEFT, {2, 3}},
+        {{3, 4}, GVNI_SELECTED | GVNI_TOLEFT, {}},
+        {{2, 0}, GVNI_SELECTED | GVNI_TORIGHT, {2, 2}},
+        {{2, 3}, GVNI_SELECTED | GVNI_TORIGHT, {}},
+        {{2, 0}, GVNI_TORIGHT, {}},
+        {{2, 0}, GVNI_SELECTED, {}},
+        {{-1, -1}, GVNI_MODIFIED | GVNI_ALL, {5, 3}},
+        {{0, 3}, GVNI_FOCUSED | GVNI_BELOW, {5, 3}},
+        {{INT_MAX, 1}, GVNI_SELECTED | GVNI_ABOVE, {4, 1}},
+        {{INT_MAX, INT_MAX}, GVNI_SELECTED | GVNI_ALL, {}},
+        {{4, 3}, GVNI_SELECTED | GVNI_ABOVE | GVNI_TOLEFT, {2, 3}}};
+    for (const auto& [from, nFlags, found] : cases)
+        EXPECT_EQ(gfnNextCell(rows, cols, from, nFlags, stateOf), found)
+            << from.row << ',' << from.col << " by " << nFlags;
     cols.SetFixed(0);
     EXPECT_EQ(gfnNextCell(rows, cols, CCellID(3, 0), GVNI_SELECTED | GVNI_ALL, stateOf), CCellID(4, 1))
         << "behind the first column of the body";
