@@ -18,11 +18,9 @@ protected:
 TEST(GridCellBase, IsAnEmptyContract)
 {
     CGridCellBase cell;
-    cell.SetText(L"x");
     EXPECT_EQ(cell.GetText(), nullptr);
     EXPECT_EQ(cell.GetTipText(), nullptr);
     EXPECT_EQ(cell.GetImage(), -1);
-    EXPECT_EQ(cell.GetDefaultCell(), nullptr);
     EXPECT_FALSE(cell.Edit(0, 0, CRect(), CPoint(), 8, 'x') || cell.PrintCell(nullptr, 0, 0, CRect()));
     CRect rect(1, 2, 3, 4);
     EXPECT_TRUE(cell.GetTextRect(&rect) && cell.GetTipTextRect(&rect));

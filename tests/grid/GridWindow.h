@@ -16,7 +16,6 @@ public:
     using CGridCtrl::CGridCtrl;
 
     using CGridCtrl::ClearCells;
-    using CGridCtrl::CreateCell;
     using CGridCtrl::EndEditing;
     using CGridCtrl::GetCellRangeRect;
     using CGridCtrl::GetMouseMode;

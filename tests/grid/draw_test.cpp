@@ -207,6 +207,12 @@ TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
         EXPECT_TRUE(arrow.Width() > 4 && header.PtInRect(arrow.TopLeft()));
     }
 
+    // It comes with its column, and goes with it.
+    const CRect first(0, 0, 60, 20);
+    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), CRect(0, 0, 120, 20));
+    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(-1); }), first);
+    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), first);
+
     // A text at the right makes room for it.
     constexpr COLORREF kText = RGB(1, 2, 3);
     grid.SetItemText(0, 1, L"H");

@@ -256,20 +256,30 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
     for (const int goesFirst : {0, 1})
     {
         Handler handlers[2];
-        std::unique_ptr<CGridCtrl> grids[] = {std::make_unique<CExtGridCtrl>(&handlers[0]),
+        auto* const pOfTemplate = new CExtGridCtrl(&handlers[0]);
+        std::unique_ptr<CGridCtrl> grids[] = {std::unique_ptr<CGridCtrl>(pOfTemplate),
                                               std::make_unique<CExtGridCtrl2>(&handlers[1], nullptr),
                                               std::make_unique<CGridCtrl>()};
-        for (UINT id = 0; id < 3; ++id)
+        pOfTemplate->InstallMessageHook(); // neither a window nor a parent
+        for (const auto& pGrid : grids)
         {
-            grids[id]->SetRowCount(3);
-            grids[id]->SetColumnCount(2);
-            ASSERT_TRUE(grids[id]->Create(CRect(0, 0, 100, 100), &parent, id));
-            grids[id]->SetFocusCell(2, 1);
+            pGrid->SetRowCount(3);
+            pGrid->SetColumnCount(2);
         }
+        for (const UINT id : {1, 2})
+            ASSERT_TRUE(grids[id]->Create(CRect(0, 0, 100, 100), &parent, id));
+        ASSERT_TRUE(
+            pOfTemplate->SubclassWindow(::CreateWindowEx(0, L"MFCGridCtrl", L"", WS_CHILD, 0, 0, 100, 60,
+                                                         parent, nullptr, AfxGetInstanceHandle(), nullptr)));
+        pOfTemplate->SetFocusCell(1, 1);
+        for (int times = 0; times < 2; ++times)
+            pOfTemplate->InstallMessageHook();
+        for (const auto& pGrid : grids)
+            pGrid->SetFocusCell(2, 1);
         EXPECT_EQ(handlers[0].Take(), Calls{"0 row 2 after -1"});
         EXPECT_EQ(handlers[1].Take(), Calls{"1 cell 2,1 after -1,-1"});
         EXPECT_EQ(ColoursOf(*grids[1]), ".# .# ## ") << "without an extra header";
-        EXPECT_EQ(parent.Take(), Calls{"changed 2,1"}) << "of the plain grid";
+        EXPECT_EQ(parent.Take(), (Calls{"changed 1,1", "changed 2,1"})) << "unhooked, and of the plain grid";
         const int stays = 1 - goesFirst;
         grids[goesFirst].reset();
         grids[stays]->SetFocusCell(0, 0);
@@ -301,25 +311,6 @@ TEST(ExtGridHook, AParentWithoutAnObjectIsNamedByOneThatLasts)
     EXPECT_EQ(grid.changes, 1);
     ::DestroyWindow(parent);
     EXPECT_FALSE(hook.IsHooked());
-}
-
-TEST(ExtGridHook, AGridOnADialogTemplateAsksForIt)
-{
-    GridParent& parent = SharedParent();
-    Handler handler;
-    CExtGridCtrl grid(&handler), loose(&handler);
-    grid.SetRowCount(5);
-    grid.SetColumnCount(2);
-    ASSERT_TRUE(grid.SubclassWindow(::CreateWindowEx(0, L"MFCGridCtrl", L"", WS_CHILD, 0, 0, 100, 60, parent,
-                                                     nullptr, AfxGetInstanceHandle(), nullptr)));
-    grid.SetFocusCell(2, 1);
-    EXPECT_EQ(handler.Take(), Calls{});
-    grid.InstallMessageHook();
-    grid.InstallMessageHook();
-    grid.SetFocusCell(3, 1);
-    EXPECT_EQ(handler.Take(), Calls{"0 row 3 after -1"});
-    EXPECT_EQ(parent.Take(), Calls{"changed 2,1"});
-    loose.InstallMessageHook(); // neither a window nor a parent
 }
 
 // ---- The current cell -------------------------------------------------------------------------------------

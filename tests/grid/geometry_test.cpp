@@ -37,6 +37,7 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     const auto bars = [&] { return std::pair(grid.IsVisibleVScroll(), grid.IsVisibleHScroll()); };
     EXPECT_EQ(bars(), std::pair(TRUE, TRUE));
     EXPECT_EQ(CSize(grid.m_nHScrollMax, grid.m_nVScrollMax), CSize(6 * 60 - 1, 20 * 20 - 1));
+    EXPECT_EQ(Repainted([&] { grid.SetRowCount(kRows - 1); }), Client());
     grid.SetRowCount(9);
     EXPECT_EQ(bars(), std::pair(FALSE, TRUE)) << "they fit beside one bar, and would not beside two";
     grid.SetRowCount(kRows);

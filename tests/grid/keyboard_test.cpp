@@ -71,6 +71,10 @@ TEST_F(GridKeyboard, EachKeyScrollsInItsWay)
         EXPECT_EQ(std::exchange(grid.scrolls, {}), scrolls) << "key " << key;
     }
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 1));
+    FocusOn(5, 2);
+    grid.SendMessage(WM_VSCROLL, SB_BOTTOM);
+    EXPECT_EQ(After(VK_PRIOR), CCellID(1, 2));
+    EXPECT_TRUE(grid.IsCellVisible(1, 2)) << "also if the old focus was out of view";
 }
 
 TEST_F(GridKeyboard, ControlASelectsAllAndDeleteDoesNothing)

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -22,24 +23,6 @@ std::wstring TextsOf(const CGridCtrl& grid, int nFirstRow, int nFirstCol, const 
     return all;
 }
 
-class GridOrder : public ::testing::Test
-{
-protected:
-    GridOrder() : grid(6, 2, 1, 1) {}
-    void Fill(std::initializer_list<const wchar_t*> texts)
-    {
-        int nRow = 1;
-        for (const wchar_t* text : texts)
-        {
-            grid.SetItemText(nRow, 1, text);
-            grid.SetItemData(nRow, 1, nRow);
-            ++nRow;
-        }
-    }
-    std::wstring Column() { return TextsOf(grid, 1, 1, L" "); }
-    OpenGrid grid;
-};
-
 class GridFile : public ::testing::Test
 {
 protected:
@@ -47,43 +30,31 @@ protected:
     {
         wchar_t directory[MAX_PATH];
         ::GetTempPath(MAX_PATH, directory);
-        path = std::wstring(directory) + L"ow_grid_test.txt";
+        path = std::filesystem::path(directory) / L"ow_grid_test.txt";
     }
     ~GridFile() override { ::DeleteFile(path.c_str()); }
-    void Write(const std::string& contents) { std::ofstream(Narrow(), std::ios::binary) << contents; }
+    void Write(const std::string& contents) { std::ofstream(path, std::ios::binary) << contents; }
     std::string Read()
     {
-        std::ifstream file(Narrow(), std::ios::binary);
+        std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
     }
-    std::string Narrow() { return CStringA(path.c_str()).GetString(); }
-    std::wstring path;
+    std::filesystem::path path;
     OpenGrid grid;
 };
 } // namespace
 
-TEST_F(GridOrder, TheHeadersOfTheOldAndTheNewColumnAreRepainted)
+TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
 {
-    ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
-    SetSizes(grid);
-    const auto repainted = [&](int nCol)
+    OpenGrid grid(6, 2, 1, 1);
+    const wchar_t* const texts[] = {L"10", L"9 mm", L"no digits", L"-3", L"100"};
+    for (int nRow = 1; nRow < 6; ++nRow)
     {
-        grid.UpdateWindow();
-        grid.SetSortColumn(nCol);
-        CRect update;
-        grid.GetUpdateRect(&update);
-        return update;
-    };
-    EXPECT_EQ(repainted(1), CRect(kColWidth, 0, 2 * kColWidth, kRowHeight));
-    EXPECT_EQ(repainted(0), CRect(0, 0, 2 * kColWidth, kRowHeight));
-    EXPECT_EQ(repainted(-1), CRect(0, 0, kColWidth, kRowHeight));
-}
-
-TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
-{
-    Fill({L"10", L"9 mm", L"no digits", L"-3", L"100"});
+        grid.SetItemText(nRow, 1, texts[nRow - 1]);
+        grid.SetItemData(nRow, 1, nRow);
+    }
     EXPECT_TRUE(grid.SortItems(CGridCtrl::pfnCellNumericCompare, 1, TRUE));
-    EXPECT_EQ(Column(), L"-3 no digits 9 mm 10 100 ");
+    EXPECT_EQ(TextsOf(grid, 1, 1, L" "), L"-3 no digits 9 mm 10 100 ");
     grid.SetCompareFunction(
         [](LPARAM first, LPARAM second, LPARAM sign)
         {
@@ -91,7 +62,7 @@ TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
                                             reinterpret_cast<CGridCellBase*>(second)->GetData()));
         });
     EXPECT_TRUE(grid.SortItems(1, TRUE, -1));
-    EXPECT_EQ(Column(), L"100 -3 no digits 9 mm 10 ");
+    EXPECT_EQ(TextsOf(grid, 1, 1, L" "), L"100 -3 no digits 9 mm 10 ");
     grid.SortItems(
         [](LPARAM, LPARAM, LPARAM data)
         {
@@ -103,8 +74,9 @@ TEST_F(GridOrder, NumbersAndAFunctionOfTheCallers)
     EXPECT_EQ(grid.GetRowCount(), 5) << "a comparison that deletes rows ends the sort";
 }
 
-TEST_F(GridOrder, WhatCannotBeSortedStillDropsTheSelection)
+TEST(GridOrder, WhatCannotBeSortedStillDropsTheSelection)
 {
+    OpenGrid grid(6, 2, 1, 1);
     grid.SetSelectedRange(1, 1, 2, 1);
     grid.SetFocusCell(1, 1);
     EXPECT_FALSE(grid.SortTextItems(7, TRUE));

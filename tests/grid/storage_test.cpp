@@ -254,26 +254,25 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
     grid.SetColumnCount(3);
     grid.SetRowCount(1000000);
     grid.SetFixedRowCount(1);
-    const auto fill = [](GV_DISPINFO* info, LPARAM param)
-    {
-        info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
-        return 0;
-    };
-    grid.SetCallbackFunc(fill, 7);
-    EXPECT_EQ(grid.GetItemText(999999, 2), L"999999.2.7");
-    EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
-    EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
-    EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());
-    EXPECT_EQ(grid.GetItemFont(0, 1)->lfHeight, grid.GetDefaultCell(TRUE, FALSE)->GetFont()->lfHeight);
     grid.SetCallbackFunc([](GV_DISPINFO* info, LPARAM) { return info->item = FullItem(), 0; }, 0);
-    GV_ITEM item{};
+    GV_ITEM item;
     item.row = 2;
     item.col = 1;
     item.mask = GV_MASK_ALL;
     EXPECT_TRUE(grid.GetItem(&item));
     EXPECT_EQ(ValuesOf(item), ValuesOf(FullItem()));
-    grid.SetCallbackFunc(fill, 7);
-
+    grid.SetCallbackFunc(
+        [](GV_DISPINFO* info, LPARAM param)
+        {
+            info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
+            return 0;
+        },
+        7);
+    EXPECT_EQ(grid.GetItemText(999999, 2), L"999999.2.7");
+    EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
+    EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
+    EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());
+    EXPECT_EQ(grid.GetItemFont(0, 1)->lfHeight, grid.GetDefaultCell(TRUE, FALSE)->GetFont()->lfHeight);
     EXPECT_FALSE(grid.SetItemText(5, 1, L"x"));
     EXPECT_FALSE(grid.SetItemState(5, 1, CELL_SELECTED));
     EXPECT_TRUE(grid.IsCellSelected(5, 1)) << "the answer is 0, and the selection has changed";
@@ -283,13 +282,11 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
 TEST(GridVirtual, WithoutACallbackTheParentIsAskedAndToldAhead)
 {
     GridParent& parent = SharedParent();
-    parent.answer = [](NMHDR& header)
+    parent.answer = [](NMHDR& header) -> LRESULT
     {
+        GV_ITEM& item = reinterpret_cast<GV_DISPINFO&>(header).item;
         if (header.code == LVN_GETDISPINFOW)
-        {
-            GV_ITEM& item = reinterpret_cast<GV_DISPINFO&>(header).item;
             item.strText.Format(L"%d|%d", item.row, item.col);
-        }
         return 0;
     };
     OpenGrid grid;
