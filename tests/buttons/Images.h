@@ -41,11 +41,7 @@ class Icon
 public:
     Icon(CSize size, const Pixels& pixels)
     {
-        const int maskRow = (size.cx + 15) / 16 * 2;
-        std::vector<BYTE> mask(static_cast<size_t>(maskRow) * size.cy);
-        for (int i = 0; i < size.cx * size.cy; ++i)
-            if (pixels[i] == 0)
-                mask[i / size.cx * maskRow + i % size.cx / 8] |= 0x80 >> (i % size.cx % 8);
+        const Pixels mask(pixels.size()); // the alpha channel says it all
         CBitmap color, transparent;
         color.CreateBitmap(size.cx, size.cy, 1, 32, pixels.data());
         transparent.CreateBitmap(size.cx, size.cy, 1, 1, mask.data());

@@ -18,12 +18,9 @@ OCArray<CString> Texts(std::initializer_list<LPCWSTR> texts)
     return array;
 }
 
-/// Adds what a picker has to what every button has.
 template <class Picker>
-class OpenPicker : public Open<Picker>
+struct OpenPicker : Picker
 {
-public:
-    using Open<Picker>::Open;
     using Picker::m_pMenu;
 };
 
@@ -100,21 +97,21 @@ TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEveryt
 TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndWhateverMenuIsMadeMeanwhile)
 {
     auto& button = *this->m_pButton;
-    for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
-        EXPECT_EQ(this->Visit(button, {[](const OpenMenu& menu) { menu.Press({VK_DOWN}); },
-                                       [&](const OpenMenu&)
-                                       { ::PostMessage(button, WM_KEYDOWN, nKey, KF_REPEAT << 16 | 1); },
-                                       [](const OpenMenu& menu) { menu.Press({VK_ESCAPE}); }}),
-                  this->m_click);
-    const auto change = [&](const OpenMenu& menu)
+    const auto hold = [&](const OpenMenu&)
     {
+        for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
+            ::PostMessage(button, WM_KEYDOWN, nKey, KF_REPEAT << 16 | 1);
         button.SetColor(CButtonST::colorBackOut, kRed);
         button.SendMessage(WM_SYSCOLORCHANGE);
         if constexpr (TestFixture::kIsText)
             button.SetTexts(Texts({L"other"}));
-        menu.Press({VK_DOWN, VK_RETURN});
     };
-    EXPECT_EQ(this->Visit(button, {change}), this->Choice(0));
+    const auto choose = [](const OpenMenu& menu) { menu.Press({VK_UP, VK_RETURN}); };
+    EXPECT_EQ(this->Visit(button, {[](const OpenMenu& menu) {
+                                       menu.Press({VK_DOWN, VK_DOWN});
+                                   },
+                                   hold, choose}),
+              this->Choice(0));
     EXPECT_EQ(ColorOf(button), ::GetSysColor(COLOR_BTNFACE)) << "as every button";
 }
 
@@ -122,19 +119,17 @@ TYPED_TEST(DropMenus, DialogAndButtonMayGoInTheHandlerAndWhileTheMenuIsOpen)
 {
     for (const auto& [bDelete, bInHandler] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}})
     {
-        const auto end = [&, bDelete = bDelete]
+        this->m_room.then = [&, bDelete = bDelete]
         {
             this->m_room.DestroyWindow();
             if (bDelete)
                 this->m_pButton.reset();
         };
-        this->m_room.then = end;
         const auto work = [&, bInHandler = bInHandler](const OpenMenu& menu) {
-            bInHandler ? menu.Press({VK_DOWN, VK_RETURN}) : end();
+            bInHandler ? menu.Press({VK_DOWN, VK_RETURN}) : this->m_room.then();
         };
         EXPECT_EQ(this->Visit(*this->m_pButton, {work}), bInHandler ? this->Choice(0) : Calls{});
         this->m_room.then = [] {};
-        this->TearDown();
         this->SetUp();
     }
 }
@@ -169,15 +164,12 @@ TYPED_TEST(DropMenus, TakeEveryCommandForAChoice)
     }
     EXPECT_FALSE(Repaints(button, [&] { button.SetEnumSource(nullptr); }));
     for (const WPARAM command : {nFirst + 2, nEnd})
-    {
         button.SendMessage(WM_COMMAND, command);
-        EXPECT_EQ(this->m_room.Take(), Calls{bIsText && command < nEnd ? "told 1001 2" : "told 1001 0"})
-            << "no source";
-    }
+    EXPECT_EQ(this->m_room.Take(), (Calls{bIsText ? "told 1001 2" : "told 1001 0", "told 1001 0"}))
+        << "no source";
     EXPECT_TRUE(Repaints(button, [&] { button.SetEnumSource(&this->m_nValue); })) << "and a new source shows";
-    EXPECT_FALSE(button.m_bIsCheckBox || button.GetDefault()) << "a push button, whatever it takes over";
+    EXPECT_FALSE(button.m_bIsCheckBox) << "a push button, whatever it takes over";
     EXPECT_EQ(button.GetButtonStyle(), static_cast<UINT>(BS_OWNERDRAW));
-
     Lone<TypeParam> lone(CSize(70, 30), L"", BS_DEFPUSHBUTTON);
     EXPECT_FALSE(lone.button.GetDefault());
     lone.button.SetEnumSource(&this->m_nValue);
@@ -189,35 +181,33 @@ template <class Picker>
 static void ExpectMenu(UINT nFirstId, CSize size)
 {
     const Lone<OpenPicker<Picker>> lone(CSize(70, 30));
-    const auto& picker = lone.button;
-    const auto& menu = *picker.m_pMenu;
-    ASSERT_EQ(menu.popup.GetMenuItemCount(), static_cast<UINT>(picker.BitmapCount()));
-    for (int i = 0; i < picker.BitmapCount(); ++i)
+    const auto& menu = *lone.button.m_pMenu;
+    ASSERT_EQ(menu.popup.GetMenuItemCount(), static_cast<UINT>(lone.button.BitmapCount()));
+    for (int i = 0; i < lone.button.BitmapCount(); ++i)
     {
         MENUITEMINFO item{};
         item.cbSize = sizeof(item);
         item.fMask = MIIM_ID | MIIM_BITMAP;
         ::GetMenuItemInfo(menu.popup, i, TRUE, &item);
-        EXPECT_EQ(item.wID, nFirstId + i);
-        EXPECT_EQ(menu.sizes.at(i), size);
-
-        Pixels wanted = PixelsOf(picker.GetBitmap(i));
+        EXPECT_TRUE(item.wID == nFirstId + i && menu.sizes.at(i) == size);
+        Pixels wanted = PixelsOf(lone.button.GetBitmap(i));
         for (DWORD& pixel : wanted)
             pixel = pixel == kBlack ? kBlack : ::GetSysColor(COLOR_MENU);
         EXPECT_EQ(PixelsOf(item.hbmpItem), wanted) << "picture " << i;
-        EXPECT_GT(std::count(wanted.begin(), wanted.end(), kBlack), 10) << "picture " << i;
+        EXPECT_GT(std::ranges::count(wanted, kBlack), 10) << "picture " << i;
     }
 }
 
 TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
 {
-    ExpectMenu<CBitmapBtnSTKotnaLinija>(36864, CSize(48, 16));
-    ExpectMenu<CBitmapBtnSTTekstKote>(36874, CSize(48, 16));
-    ExpectMenu<CBitmapBtnSTSrafura>(36864, CSize(32, 24));
-    ExpectMenu<CBitmapBtnSTVisinskaKota>(36864, CSize(32, 24));
-    ExpectMenu<CBitmapBtnSTLinija>(36864, CSize(48, 16));
-    ExpectMenu<CBitmapBtnSTSimbolPresekaLinija>(36864, CSize(48, 16));
-    ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864, CSize(32, 24));
+    const CSize low(48, 16), high(32, 24);
+    ExpectMenu<CBitmapBtnSTKotnaLinija>(36864, low);
+    ExpectMenu<CBitmapBtnSTTekstKote>(36874, low);
+    ExpectMenu<CBitmapBtnSTSrafura>(36864, high);
+    ExpectMenu<CBitmapBtnSTVisinskaKota>(36864, high);
+    ExpectMenu<CBitmapBtnSTLinija>(36864, low);
+    ExpectMenu<CBitmapBtnSTSimbolPresekaLinija>(36864, low);
+    ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864, high);
 }
 
 TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
@@ -251,29 +241,26 @@ using TextMenu = DropMenus<CTextBtnST>;
 TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGiven)
 {
     using Labels = std::vector<std::wstring>;
-    const auto shown = [&]
+    const auto expectShown = [&](const Labels& labels)
     {
-        Labels labels;
         const auto look = [&](const OpenMenu& menu)
         {
-            labels = menu.Labels();
+            EXPECT_EQ(menu.Labels(), labels);
             menu.Press({VK_ESCAPE});
         };
         Visit(*m_pButton, {look});
-        return labels;
     };
     m_pButton->SetTexts(Texts({L"%l", L"R&D", L"%h", L"%i"}), Texts({L"plate length", L"A & B", L""}));
     for (int i = 0; i < 2; ++i)
     {
-        EXPECT_EQ(shown(), (Labels{L"%l - plate length", L"R&&D - A && B", L"%h", L"%i"}));
+        expectShown({L"%l - plate length", L"R&&D - A && B", L"%h", L"%i"});
         m_pButton->SendMessage(WM_SYSCOLORCHANGE);
     }
-    EXPECT_EQ(m_pButton->TextCount(), 4);
-    EXPECT_EQ(m_pButton->GetText(1), L"R&D");
+    EXPECT_TRUE(m_pButton->TextCount() == 4 && m_pButton->GetText(1) == L"R&D");
     m_pButton->SetTexts(Texts({L"%l"}), Texts({L"length", L"of nothing"}));
-    EXPECT_EQ(shown(), Labels{L"%l - length"});
+    expectShown({L"%l - length"});
     m_pButton->SetTexts(Texts({L"%w", L"%h"}));
-    EXPECT_EQ(shown(), (Labels{L"%w", L"%h"})) << "no descriptions left";
+    expectShown({L"%w", L"%h"}); // no descriptions left
 }
 
 TEST_F(TextMenu, WithNothingToOfferAClickOnlyTakesTheFocus)
@@ -281,15 +268,13 @@ TEST_F(TextMenu, WithNothingToOfferAClickOnlyTakesTheFocus)
     m_pButton->UnsubclassWindow();
     CTextBtnST button; // has no menu yet
     button.SubclassDlgItem(1001, &m_room);
-    for (const auto& offer :
-         std::initializer_list<std::function<void()>>{[] {}, [&] { button.SendMessage(WM_SYSCOLORCHANGE); },
-                                                      [&] { button.SetTexts({}); }})
+    for (int i = 0; i < 3; ++i)
     {
-        offer();
         m_other.SetFocus();
         owtest::Click(button);
         EXPECT_TRUE(ShowsFocus(button));
         EXPECT_EQ(m_room.Take(), m_click) << "the dialog hears of clicks";
+        i ? button.SetTexts({}) : void(button.SendMessage(WM_SYSCOLORCHANGE));
     }
     button.UnsubclassWindow();
 }

@@ -22,7 +22,6 @@ HBITMAP Make(CSize size = CSize(16, 16))
 {
     return MakeBitmap(size, kColor, kWhite);
 }
-
 bool HasImages(const Open<>& button)
 {
     return button.m_icons[0].hIcon || button.m_icons[1].hIcon || button.m_bitmaps[0].hBitmap ||
@@ -37,47 +36,38 @@ std::pair<DWORD, DWORD> ColorsOf(HBITMAP hBitmap)
 }
 } // namespace
 
-TEST(ButtonImages, OfEitherKindReplaceTheOtherAndAreRemovedByNull)
+TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOther)
 {
     Open button;
     EXPECT_EQ(button.SetBitmaps(Make(CSize(16, 12)), kKey), 0u);
     EXPECT_EQ(button.m_bitmaps[0].size, CSize(16, 12));
-    EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), 0u);
-    EXPECT_EQ(button.m_bitmaps[0].hBitmap, nullptr);
+    using Image = std::array<int, 3>; // id and size; of a copy the first one's
+    const std::tuple<Image, Image, LONG, LONG> rows[] = {
+        {{10000, 0, 0}, {10014, 0, 0}, 32, 24}, // hIconError and h24IconOpen
+        {{10000, 16, 16}, {10014, 48, 48}, 16, 48},
+        {{10000, 0, 0}, {CButtonST::copyGray, 0, 0}, 32, 32},
+        {{10000, 0, 0}, {0, 0, 0}, 32, 0}};
+    for (const auto& [in, out, cxIn, cxOut] : rows)
+    {
+        EXPECT_EQ(button.SetIcon(in[0], in[1], in[2], out[0], out[1], out[2]), 0u);
+        EXPECT_TRUE(button.m_icons[0].size.cx == cxIn && button.m_icons[1].size.cx == cxOut) << cxOut;
+        EXPECT_EQ(button.m_bitmaps[0].hBitmap, nullptr);
+    }
+    for (const int nOut : {int(CButtonST::copyDarker), 10122})
+    {
+        EXPECT_EQ(button.SetBitmaps(10101, kWhite, nOut, kKey), 0u);
+        EXPECT_EQ(button.m_bitmaps[1].size, button.m_bitmaps[0].size);
+        EXPECT_EQ(button.m_bitmaps[1].crTransparent, nOut == 10122 ? kKey : kWhite);
+    }
     const std::function<DWORD()> removals[] = {
         [&] { return button.SetIcon(HICON(nullptr), CButtonST::hIconOk); },
         [&] { return button.SetIcon(0, 10014); }, [&] { return button.SetBitmaps(HBITMAP(nullptr), 0); },
         [&] { return button.SetBitmaps(0, kKey, 10101); }};
     for (const auto& remove : removals)
     {
-        button.SetIcon(CButtonST::hIconOk, CButtonST::hIconOk);
         EXPECT_EQ(remove(), 0u);
         EXPECT_FALSE(HasImages(button));
-    }
-}
-
-TEST(ButtonImages, ComeFromTheResourcesOfWhicheverModuleHasThem)
-{
-    Open button;
-    const struct
-    {
-        int in[3], out[3]; ///< id, and size or 0
-        LONG cxIn, cxOut;
-    } rows[] = {{{10000, 0, 0}, {10014, 0, 0}, 32, 24}, // hIconError and h24IconOpen
-                {{10000, 16, 16}, {10014, 48, 48}, 16, 48},
-                {{10000, 0, 0}, {CButtonST::copyGray, 0, 0}, 32, 32},
-                {{10000, 0, 0}, {0, 0, 0}, 32, 0}};
-    for (const auto& [in, out, cxIn, cxOut] : rows)
-    {
-        EXPECT_EQ(button.SetIcon(in[0], in[1], in[2], out[0], out[1], out[2]), 0u);
-        EXPECT_EQ(std::pair(button.m_icons[0].size.cx, button.m_icons[1].size.cx), std::pair(cxIn, cxOut));
-    }
-    for (const int nOut : {int(CButtonST::copyDarker), 10122})
-    {
-        EXPECT_EQ(button.SetBitmaps(10101, kWhite, nOut, kKey), 0u);
-        EXPECT_EQ(button.m_bitmaps[1].size, button.m_bitmaps[0].size);
-        EXPECT_EQ(button.m_bitmaps[1].crTransparent, nOut == 10122 ? kKey : kWhite)
-            << "of a copy the first one's";
+        button.SetIcon(CButtonST::hIconOk, CButtonST::hIconOk);
     }
 }
 
@@ -110,8 +100,7 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
 
         ASSERT_EQ(button.SetBitmaps(Make(), kWhite, As<HBITMAP>(copy), kRed), 0u);
         const auto& [first, second] = button.m_bitmaps;
-        EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb))
-            << "made black where transparent";
+        EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb)) << "black behind";
         EXPECT_EQ(ColorsOf(second.hBitmap), std::pair(DWORD(0), Opaque(cr) & kRgb));
         EXPECT_EQ(ColorsOf(first.hMask), std::pair(kRgb, DWORD(0)));
         EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";

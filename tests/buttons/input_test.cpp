@@ -53,31 +53,23 @@ TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
     EXPECT_EQ(m_room.Take(), m_pushClick);
 
     owtest::Click(m_ext);
-    EXPECT_EQ(m_room.Take(), (Calls{"told 1005", "dialog 1005"}));
     EXPECT_EQ(m_ext.GetCheck(), 1) << "the system's own check box";
-    m_ext.SetNotificationHandler(nullptr);
-    owtest::Click(m_ext);
-    EXPECT_EQ(m_room.Take(), Calls{"dialog 1005"});
-}
-
-TEST_F(ButtonInput, TheHandlerMayCloseTheDialogWhichThenHearsNoMore)
-{
-    m_room.then = [&] { m_room.DestroyWindow(); };
+    EXPECT_EQ(m_room.Take(), (Calls{"told 1005", "dialog 1005"}));
+    m_room.then = [&] { m_room.DestroyWindow(); }; // which then hears no more
     for (const int nId : {1001, 1005})
     {
         owtest::Click(*m_room.GetDlgItem(nId));
         EXPECT_EQ(m_room.Take(), Calls{"told " + std::to_string(nId)});
         m_room.Open();
     }
-}
-
-TEST_F(ButtonInput, ACheckBoxTogglesBeforeItTells)
-{
+    m_ext.SetNotificationHandler(nullptr);
+    owtest::Click(m_ext);
+    EXPECT_EQ(m_room.Take(), Calls{"dialog 1005"});
     std::vector<int> seen;
     m_room.then = [&] { seen.push_back(m_check.GetCheck()); };
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(Repaints(m_check, [&] { m_check.SendMessage(BM_CLICK); }));
-    EXPECT_EQ(seen, (std::vector<int>{1, 0, 1}));
+    EXPECT_EQ(seen, (std::vector<int>{1, 0, 1})) << "a check box toggles before it tells";
 }
 
 static std::vector<std::wstring> s_opened; ///< by the stand-in for the shell
@@ -105,26 +97,21 @@ TEST_F(ButtonInput, AClickOpensTheAddressOfAPushButtonAndNeverThatOfACheckBox)
         << "kept: a text that fills the field has no terminator there";
 }
 
-TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonIsAnothers)
-{
-    m_push.SetFocus();
-    for (const WORD nKey : {VK_SPACE, VK_RETURN})
-        EXPECT_EQ(CallsOf([&] { owtest::Press(nKey); }), m_pushClick);
-    m_push.SetKbdSensitive(FALSE);
-    m_push.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
-    EXPECT_EQ(CallsOf([&] { owtest::Press(VK_RETURN); }), (Calls{"told 1003", "dialog 1003"}))
-        << "the dialog takes it";
-    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_RETURN); }), m_pushClick);
-    m_push.SetFocus();
-    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_F1); }), Calls{});
-}
-
-TEST_F(ButtonInput, TheDefaultButtonMovesWithTheFocus)
+TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonMovesWithTheFocus)
 {
     EXPECT_TRUE(m_ok.GetDefault());
     EXPECT_TRUE(m_ok.SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
     EXPECT_TRUE(m_push.SendMessage(WM_GETDLGCODE) & DLGC_UNDEFPUSHBUTTON);
     m_push.SetFocus();
+    for (const WORD nKey : {VK_SPACE, VK_RETURN})
+        EXPECT_EQ(CallsOf([&] { owtest::Press(nKey); }), m_pushClick);
+    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_F1); }), Calls{});
+    m_push.SetKbdSensitive(FALSE);
+    m_push.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
+    EXPECT_EQ(CallsOf([&] { owtest::Press(VK_RETURN); }), (Calls{"told 1003", "dialog 1003"}))
+        << "the dialog takes it";
+    EXPECT_EQ(CallsOf([&] { m_push.SendMessage(WM_KEYDOWN, VK_RETURN); }), m_pushClick);
+
     for (const auto& [bShift, pNow, pBefore] :
          {std::tuple(false, &m_other, &m_push), {true, &m_push, &m_other}})
     {
@@ -162,7 +149,7 @@ TEST_F(ButtonInput, HoverEndsWithWhatTakesTheMouseAway)
     EXPECT_FALSE(m_push.m_bMouseOnButton) << "what a former window was at its end is over";
 }
 
-TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouse)
+TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseInAnActiveWindowUnlessItIsAlwaysTracked)
 {
     const auto move = [&](WPARAM buttons, int x)
     { return Repaints(m_other, [&] { m_other.SendMessage(WM_MOUSEMOVE, buttons, MAKELPARAM(x, 10)); }); };
@@ -177,10 +164,6 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouse)
         EXPECT_EQ(m_other.m_bMouseOnButton, bHovers);
         EXPECT_FALSE(move(buttons, x)) << "once";
     }
-}
-
-TEST_F(ButtonInput, HoverNeedsAnActiveWindowUnlessItIsAlwaysTracked)
-{
     ::SetForegroundWindow(::GetDesktopWindow());
     ASSERT_TRUE(owtest::PumpUntil([] { return ::GetActiveWindow() == nullptr; }));
     m_push.SetAlwaysTrack(FALSE);
@@ -245,16 +228,12 @@ TEST_F(Repeating, SendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoAnywhere)
     EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
 }
 
-TEST_F(Repeating, IsForExactlyOneAndAReleaseThatWaitsAlreadySendsNothing)
+TEST_F(Repeating, IsForExactlyOneAndEndsWhenTheButtonCannotBeUsedAnyMore)
 {
     m_push.SetAutoRepeat(1, 20);
-    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), Calls{});
+    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), Calls{}) << "the release waits already";
     m_push.SetAutoRepeat(2, 20);
     EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), m_pushClick) << "an ordinary click";
-}
-
-TEST_F(Repeating, EndsWhenTheButtonCannotBeUsedAnyMore)
-{
     constexpr int kNever = 100;
     EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2)
         << "an even number all the same";

@@ -5,10 +5,10 @@
 namespace
 {
 /// Writes down each call as "clicked 1001".
-struct RecordingHandler : CButtonReflectedNotificationHandler
+struct ReflectedRoom : Room, CButtonReflectedNotificationHandler
 {
-    void ButtonReflectedOnClicked(int nId) override { Record("clicked", nId); }
-    void ButtonReflectedOnDoubleclicked(int nId) override { Record("doubleclicked", nId); }
+    void ButtonReflectedOnClicked(int nId) override { calls.push_back("clicked " + std::to_string(nId)); }
+    void ButtonReflectedOnDoubleclicked(int nId) override { calls.push_back("twice " + std::to_string(nId)); }
     HBRUSH ButtonReflectedOnCtlColor(int nId, CDC* pDC, unsigned int nCtlColor) override
     {
         return pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1005 ? hBrush : nullptr;
@@ -16,100 +16,85 @@ struct RecordingHandler : CButtonReflectedNotificationHandler
     void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
     {
         EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
-        Record(LOWORD(message) == WM_CREATE ? "created" : "destroyed", nId);
+        calls.push_back((LOWORD(message) == WM_CREATE ? "created " : "destroyed ") + std::to_string(nId));
     }
-    void Record(const char* pszWhat, int nId) { told.push_back(pszWhat + (' ' + std::to_string(nId))); }
-    Calls TakeTold() { return std::exchange(told, {}); }
 
-    Calls told;
     HBRUSH hBrush = nullptr;
 };
 
 template <class Button>
 struct OpenReflected : Button
 {
-    using Button::Button;
-    using Button::DoesNotificationHandlerExist;
-    using Button::GetSafeNotificationHandler;
+    using Button::Button, Button::DoesNotificationHandlerExist, Button::GetSafeNotificationHandler;
 };
 
 /// Buttons of both kinds, with a handler and with none but the dialog itself.
-struct ReflectedRoom : Room, RecordingHandler
+class ReflectedButtons : public ::testing::Test
 {
-    ReflectedRoom()
+protected:
+    void SetUp() override
     {
-        controls = {{&given}, {&own}, {&notified, BS_NOTIFY}, {&givenST}, {&ownST, BS_AUTOCHECKBOX}};
-        Open();
+        m_room.controls = {
+            {&m_given}, {&m_own}, {&m_notified, BS_NOTIFY}, {&m_givenST}, {&m_ownST, BS_AUTOCHECKBOX}};
+        m_room.Open();
     }
-    ~ReflectedRoom() override
+    void TearDown() override { m_room.DestroyWindow(); }
+    /// What a parent answers that is asked for what lies behind a button.
+    static HBRUSH BrushOf(const CWnd& button)
     {
-        EXPECT_EQ(calls, Calls{}) << "the notifications do not go on to the dialog";
-        DestroyWindow();
+        CClientDC dc(button.GetParent());
+        return reinterpret_cast<HBRUSH>(button.GetParent()->SendMessage(
+            WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(button.m_hWnd)));
     }
 
-    RecordingHandler handler;
-    OpenReflected<CButtonReflected> given{&handler}, own{nullptr}, notified{nullptr};
-    OpenReflected<CButtonSTReflected> givenST{&handler}, ownST{nullptr};
+    ReflectedRoom m_handler, m_room;
+    OpenReflected<CButtonReflected> m_given{&m_handler}, m_own{nullptr}, m_notified{nullptr};
+    OpenReflected<CButtonSTReflected> m_givenST{&m_handler}, m_ownST{nullptr};
 };
-
-/// What a parent answers that is asked for what lies behind a button.
-HBRUSH BrushOf(const CWnd& button)
-{
-    CClientDC dc(button.GetParent());
-    return reinterpret_cast<HBRUSH>(button.GetParent()->SendMessage(
-        WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(button.m_hWnd)));
-}
 } // namespace
 
-TEST(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
+TEST_F(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
 {
-    ReflectedRoom room;
-    for (const Room::Control& control : room.controls)
+    const auto clicked = [](const std::string& id, const char* pszSecond) {
+        return Calls{"clicked " + id, pszSecond + id, "clicked " + id};
+    };
+    for (const Room::Control& control : m_room.controls)
     {
         owtest::DoubleClick(*control.pControl, CPoint(5, 5));
         owtest::Press(VK_SPACE);
+        const bool bGiven = control.pControl == &m_given || control.pControl == &m_givenST;
+        const bool bTwice = control.pControl == &m_notified; // not a button that paints itself
+        EXPECT_EQ((bGiven ? m_handler : m_room).Take(),
+                  clicked(std::to_string(control.pControl->GetDlgCtrlID()), bTwice ? "twice " : "clicked "));
     }
-    EXPECT_EQ(room.handler.TakeTold(), (Calls{"clicked 1001", "clicked 1001", "clicked 1001", "clicked 1004",
-                                              "clicked 1004", "clicked 1004"}));
-    EXPECT_EQ(room.TakeTold(),
-              (Calls{"clicked 1002", "clicked 1002", "clicked 1002", "clicked 1003", "doubleclicked 1003",
-                     "clicked 1003", "clicked 1005", "clicked 1005", "clicked 1005"}))
-        << "of double clicks not by a button that paints itself";
-    room.own.SetFocus();
-    ClickByProgram(room.ownST);
-    EXPECT_EQ(room.TakeTold(), Calls{"clicked 1005"});
-    EXPECT_EQ(room.ownST.GetCheck(), 0) << "it does nothing of its own";
-    EXPECT_EQ(::GetFocus(), room.own.m_hWnd);
+    m_own.SetFocus();
+    ClickByProgram(m_ownST);
+    EXPECT_EQ(m_room.Take(), Calls{"clicked 1005"}) << "and the dialog itself hears nothing";
+    EXPECT_EQ(m_handler.Take(), Calls{});
+    EXPECT_EQ(m_ownST.GetCheck(), 0) << "it does nothing of its own";
+    EXPECT_EQ(::GetFocus(), m_own.m_hWnd);
 
-    EXPECT_EQ(room.given.GetSafeNotificationHandler(), &room.handler);
-    EXPECT_TRUE(room.own.DoesNotificationHandlerExist());
+    EXPECT_EQ(m_given.GetSafeNotificationHandler(), &m_handler);
+    EXPECT_TRUE(m_own.DoesNotificationHandlerExist());
     Lone<OpenReflected<CButtonReflected>> lone(CSize(9, 9));
     ClickByProgram(lone.button);
     EXPECT_FALSE(lone.button.DoesNotificationHandlerExist());
 }
 
-TEST(ReflectedButtons, TakeTheHandlersBrushOrElseTheParents)
+TEST_F(ReflectedButtons, AskForABrushOrElseTakeTheParentsAndTellThatTheirWindowComesAndGoes)
 {
-    ReflectedRoom room;
     CBrush brush(kGreen);
-    room.handler.hBrush = brush;
-    for (const auto& control : room.controls)
-    {
-        const bool bGiven = control.pControl == &room.given || control.pControl == &room.givenST;
-        EXPECT_EQ(BrushOf(*control.pControl), bGiven ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
-    }
+    m_handler.hBrush = brush;
     const Lone<CButtonSTReflected> lone(CSize(9, 9));
-    EXPECT_EQ(BrushOf(lone.button), ::GetSysColorBrush(COLOR_BTNFACE));
-}
-
-TEST(ReflectedButtons, TellThatTheirWindowComesAndGoes)
-{
-    ReflectedRoom room;
-    for (CButton* pButton : std::initializer_list<CButton*>{&room.given, &room.givenST})
+    const CWnd* const buttons[] = {&m_given, &m_own, &m_givenST, &m_ownST, &lone.button};
+    for (const CWnd* pButton : buttons)
+        EXPECT_EQ(BrushOf(*pButton),
+                  pButton == &m_given || pButton == &m_givenST ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
+    for (CButton* pButton : std::initializer_list<CButton*>{&m_given, &m_givenST})
     {
         pButton->UnsubclassWindow();
-        ASSERT_TRUE(pButton->Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &room, 1005));
+        ASSERT_TRUE(pButton->Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &m_room, 1005));
         pButton->DestroyWindow();
-        EXPECT_EQ(room.handler.TakeTold(), (Calls{"created 1005", "destroyed 1005"}));
+        EXPECT_EQ(m_handler.Take(), (Calls{"created 1005", "destroyed 1005"}));
     }
 }

@@ -52,28 +52,23 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
     pProcessTheme->DrawThemeParentBackground(nullptr, nullptr, &rect);
 }
 
-TEST(ButtonSettings, ABadValueIsAnsweredWithItsCodeAndChangesNothing)
+TEST(ButtonSettings, MayBeMadeWithoutAWindowAndAnswerABadValueWithItsCode)
 {
-    CButtonST button;
+    Open button;
     EXPECT_EQ(button.SetPressedStyle(2), 6u);
     button.SetAlign(CButtonST::alignNone);
     EXPECT_EQ(button.SetAlign(4), 4u);
     EXPECT_EQ(button.GetAlign(), CButtonST::alignNone);
     COLORREF cr = kColor;
-    EXPECT_EQ(button.SetColor(6, kColor), 3u);
-    EXPECT_EQ(button.OffsetColor(6, 1), 3u);
-    EXPECT_EQ(button.GetColor(6, &cr), 3u);
+    for (const DWORD result : {button.SetColor(6, kColor), button.OffsetColor(6, 1), button.GetColor(6, &cr)})
+        EXPECT_EQ(result, 3u);
     EXPECT_EQ(cr, kColor);
+    for (const short nShade : {256, -256})
+        EXPECT_EQ(button.OffsetColor(0, nShade), 5u);
     EXPECT_EQ(button.GetColor(0, nullptr), 5u);
-    EXPECT_EQ(button.OffsetColor(0, 256), 5u);
-    EXPECT_EQ(button.OffsetColor(0, -256), 5u);
     EXPECT_EQ(CButtonST::GetVersionI(), 12);
-}
 
-// Invalidating no window would mean all windows.
-TEST(ButtonSettings, MayBeMadeWithoutAWindow)
-{
-    Open button;
+    // Invalidating no window would mean all windows.
     for (const LPCTSTR pszText : {_T("tip"), static_cast<LPCTSTR>(nullptr)})
         button.SetTooltipText(pszText);
     button.SetTooltipText(IDS_TEXT);
@@ -89,21 +84,12 @@ TEST(ButtonSettings, MayBeMadeWithoutAWindow)
 
 TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
 {
-    const struct
-    {
-        COLORREF before;
-        short nShade;
-        COLORREF after;
-    } rows[] = {{kColor, 40, RGB(255, 25, 25)},
-                {kColor, 5, RGB(245, 15, 15)},
-                {kColor, -40, RGB(230, 0, 0)},
-                {kColor, -255, RGB(230, 0, 0)},
-                {kBlack, 255, kWhite},
-                {RGB(30, 20, 10), -5, RGB(25, 15, 5)},
-                {RGB(10, 20, 240), 255, RGB(25, 35, 255)},
-                {kWhite, -255, kBlack}};
+    using Row = std::tuple<COLORREF, short, COLORREF>; // before, shade, after
     CButtonST button;
-    for (const auto& [before, nShade, after] : rows)
+    for (const auto& [before, nShade, after] :
+         {Row{kColor, 40, RGB(255, 25, 25)}, Row{kColor, 5, RGB(245, 15, 15)},
+          Row{kColor, -255, RGB(230, 0, 0)}, Row{RGB(30, 20, 10), -5, RGB(25, 15, 5)},
+          Row{RGB(10, 20, 240), 255, RGB(25, 35, 255)}, Row{kBlack, 255, kWhite}, Row{kWhite, -255, kBlack}})
     {
         button.SetColor(CButtonST::colorBackOut, before);
         EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, nShade), 0u);
@@ -165,12 +151,12 @@ TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSaysAndOnlyACheckBoxCanBeChec
         CButtonST& button = lone.button;
         EXPECT_EQ(button.GetDefault(), bDefault) << dwType;
         EXPECT_EQ(lone.button.m_nTypeStyle, nTypeStyle) << dwType;
-        for (const auto& [style, bNowDefault] :
+        for (const auto& [style, bNow] :
              {std::pair(BS_DEFPUSHBUTTON, 1), {BS_CHECKBOX, 1}, {BS_PUSHBUTTON, 0}})
         {
             EXPECT_EQ(button.GetStyle() & 0x1F, static_cast<DWORD>(BS_OWNERDRAW)) << dwType;
             button.SendMessage(BM_SETSTYLE, style, FALSE);
-            EXPECT_EQ(button.GetDefault(), bNowDefault) << "only the push button styles say so";
+            EXPECT_EQ(button.GetDefault(), bNow) << "only the push button styles say so";
         }
         EXPECT_EQ(button.SetCheck(7), 0u);
         EXPECT_EQ(button.GetCheck(), bCheckBox) << dwType;

@@ -56,13 +56,11 @@ struct Label : Lone<OpenXIcon>
 TEST(XIcon, TakesNothingAmissBeforeItHasAWindow)
 {
     CXIcon icon;
-    EXPECT_EQ(icon.GetFontFaceName(), L"MS Sans Serif");
     EXPECT_EQ(icon.GetTextColor(), ::GetSysColor(COLOR_BTNTEXT));
+    EXPECT_EQ(icon.GetFontFaceName(), L"MS Sans Serif");
     icon.SetWindowText(nullptr).SetWindowText(L"lost").SetIcon(HICON(nullptr), 16).SetIcon(0u, 16);
-    icon.SetBold(TRUE).SetFont(static_cast<LOGFONTW*>(nullptr)).SetFont(L"Arial", 10);
-    icon.Resize();
-    EXPECT_EQ(icon.GetFontFaceName(), L"Arial");
-    EXPECT_EQ(icon.GetFont(nullptr), 0);
+    icon.SetBold(TRUE).SetFont(static_cast<LOGFONTW*>(nullptr)).SetFont(L"Arial", 10).Resize();
+    EXPECT_TRUE(icon.GetFontFaceName() == L"Arial" && icon.GetFont(nullptr) == 0);
     int x = 0, y = 0;
     icon.SetMargins(3, 4).SetIconSpacing(6).SetAutoResize(FALSE).GetMargins(x, y);
     EXPECT_TRUE(x == 3 && y == 4 && icon.GetIconSpacing() == 6 && !icon.GetAutoResize());
@@ -72,16 +70,12 @@ TEST(XIcon, IsAsWideAsWhatItShowsAndShrinksOnlyToSaveMoreThanFivePixels)
 {
     Label label;
     const int text = label.TextSize(L"Saved").cx;
-    const struct
-    {
-        int marginX, spacing, size; ///< of the icon, or 0
-        LPCWSTR pszText;
-        int width;
-    } rows[] = {{2, 5, 0, L"", 2 + 2},
-                {2, 5, 16, L"", 2 + 16 + 2 + 2},
-                {2, 5, 16, L"Saved", 2 + text + 2 + 5 + 16 + 2 + 2},
-                {2, 5, 0, L"Saved", 2 + text + 2 + 2},
-                {10, 0, 32, L"Saved", 10 + text + 2 + 32 + 2 + 10}};
+    const std::tuple<int, int, int, LPCWSTR, int> rows[] = {
+        // margin, spacing, size of the icon or 0
+        {2, 5, 0, L"", 2 + 2},
+        {2, 5, 16, L"", 2 + 16 + 2 + 2},
+        {2, 5, 16, L"Saved", 2 + text + 2 + 5 + 16 + 2 + 2},
+        {10, 0, 32, L"Saved", 10 + text + 2 + 32 + 2 + 10}};
     for (const auto& [marginX, spacing, size, pszText, width] : rows)
     {
         label.icon.SetMargins(marginX, 3).SetIconSpacing(spacing).SetWindowText(pszText);
