@@ -16,7 +16,6 @@ struct MixedFontSurface : Surface
 {
     explicit MixedFontSurface(COLORREF crFill = kKey) : Surface(230, 60, crFill) {}
 };
-
 /// A button by itself, painted onto a surface, and what it ought to look like.
 class PaintedMixedFont : public ::testing::Test
 {
@@ -82,19 +81,6 @@ protected:
                            {&m_label, SS_RIGHT, kLabel, L"STATIC"},
                            {&m_clearLabel, SS_RIGHT, kLabel, L"STATIC", WS_EX_TRANSPARENT}};
     }
-    /// What the control shows, row by row.
-    static std::vector<COLORREF> Shown(CWnd& control)
-    {
-        control.UpdateWindow();
-        CRect rect;
-        control.GetClientRect(rect);
-        CClientDC dc(&control);
-        std::vector<COLORREF> pixels;
-        for (int i = 0; i < rect.right * rect.bottom; ++i)
-            pixels.push_back(dc.GetPixel(i % rect.right, i / rect.right));
-        return pixels;
-    }
-
     CMixedFontButton m_button{&m_room}, m_other{&m_room};
     CMixedFontStatic m_label, m_clearLabel;
 };
@@ -192,7 +178,7 @@ TEST_F(PaintedMixedFont, KeepsItsOwnCheckStateAndBecomesOwnerDrawn)
     EXPECT_EQ(button.GetCheck(), 1) << "a disabled one keeps it";
 }
 
-TEST_F(MixedFontInRoom, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
+TEST_F(MixedFontInRoom, ClicksGoToTheHandlerAndThenToTheDialogAndWhatChangesItsLookPaintsItAnew)
 {
     for (int i = 0; i < 2; ++i)
     {
@@ -206,24 +192,17 @@ TEST_F(MixedFontInRoom, ClicksByMouseAndKeyGoToTheHandlerAndThenToTheDialog)
     EXPECT_EQ(m_room.Take(), (Calls{"told 1002", "dialog 1002"}));
     owtest::Press(VK_RETURN);
     EXPECT_EQ(m_room.Take().back(), "dialog 1") << "Enter is the default button's";
-}
 
-TEST_F(MixedFontInRoom, IsPaintedAnewByWhatChangesItsLook)
-{
-    const std::function<void()> changes[] = {[&] { m_button.SetCheck(1); }, [&] { m_other.SetFocus(); },
-                                             [&] { m_button.SetFocus(); },
+    const std::function<void()> changes[] = {[&] { m_button.SetFocus(); }, [&] { m_other.SetFocus(); },
+                                             [&] { m_button.SetCheck(1); },
                                              [&] { m_button.RadioButtonLook(TRUE); }};
     for (const auto& change : changes)
         EXPECT_TRUE(Repaints(m_button, change)) << &change - changes;
-}
-
-TEST_F(MixedFontInRoom, APressEndsWithTheFocusAndIsNoClick)
-{
     m_button.SetFocus();
     m_button.SendMessage(WM_KEYDOWN, VK_SPACE);
     EXPECT_EQ(::GetCapture(), m_button.m_hWnd);
     m_other.SetFocus();
-    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(::GetCapture(), nullptr) << "a press ends with the focus, and is no click";
     EXPECT_FALSE(m_button.GetState() & BST_PUSHED);
     EXPECT_EQ(m_room.Take(), Calls{});
 }
@@ -257,7 +236,7 @@ TEST_F(MixedFontInRoom, ALabelShowsTheTextItWasMadeWithAtTheTopByItsStyle)
     EXPECT_TRUE(pByClass && pByClass->IsKindOf(RUNTIME_CLASS(CStatic)));
 }
 
-TEST_F(MixedFontInRoom, ALabelsTextIsReadInFullOrCut)
+TEST_F(MixedFontInRoom, ALabelsTextIsReadInFullOrCutAndGoesWithItsGroundUnlessItIsTransparent)
 {
     EXPECT_EQ(m_label.SendMessage(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"100% %s <b>")), 1);
     EXPECT_EQ(owtest::TextOf(m_label), L"100% %s <b>");
@@ -266,24 +245,32 @@ TEST_F(MixedFontInRoom, ALabelsTextIsReadInFullOrCut)
     EXPECT_EQ(std::wstring(buffer, 5), std::wstring(L"100\0#", 5));
     m_label.SendMessage(WM_SETTEXT);
     EXPECT_EQ(m_label.SendMessage(WM_GETTEXTLENGTH), 0);
-}
 
-TEST_F(MixedFontInRoom, ALabelWipesItsTextAndItsGroundUnlessItIsTransparent)
-{
+    CRect rect;
+    m_label.GetClientRect(rect);
+    Surface before(rect.right, rect.bottom), after(rect.right, rect.bottom);
     for (CMixedFontStatic* pLabel : {&m_label, &m_clearLabel})
     {
-        const auto before = Shown(*pLabel);
+        const auto show = [&](Surface& shown)
+        {
+            pLabel->UpdateWindow();
+            CClientDC dc(pLabel);
+            shown.dc().BitBlt(0, 0, rect.right, rect.bottom, &dc, 0, 0, SRCCOPY);
+        };
+        pLabel->SetWindowText(kLabel);
+        show(before);
         pLabel->EnableWindow(FALSE);
-        EXPECT_EQ(Shown(*pLabel), before) << "no caption of the system's over it";
+        show(after);
+        EXPECT_TRUE(after == before) << "no caption of the system's over it";
         pLabel->SetWindowText(L"");
         MixedFontSurface other;
         pLabel->SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(other.dc().m_hDC), PRF_CLIENT);
-        auto after = Shown(*pLabel);
-        EXPECT_EQ(std::count(after.begin(), after.end(), kFace) == std::ssize(after), pLabel == &m_label);
+        show(after);
+        EXPECT_EQ(after.count(rect, kFace) == rect.right * rect.bottom, pLabel == &m_label);
 
         CClientDC(pLabel).FillSolidRect(0, 0, 1000, 100, kKey); // as a window that stood over it leaves it
         pLabel->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE);
-        after = Shown(*pLabel);
-        EXPECT_EQ(std::count(after.begin(), after.end(), kKey) == 0, pLabel == &m_label);
+        show(after);
+        EXPECT_EQ(after.count(rect, kKey) == 0, pLabel == &m_label);
     }
 }

@@ -205,17 +205,13 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATime)
 TEST(XIcon, LoadsTextsAndIconsById)
 {
     Label label;
-    for (const auto& [nId, pszText] : {std::pair(IDS_TEXT, L"From the resources"), {4711, L""}})
+    for (const auto& [nText, nIcon] : {std::pair(IDS_TEXT, 0), {4711, IDI_STATE}, {4711, 0}})
     {
-        label.icon.SetWindowText(MAKEINTRESOURCE(nId));
-        EXPECT_EQ(owtest::TextOf(label.icon), pszText);
-    }
-    for (const UINT nId : {IDI_STATE, 0})
-    {
-        label.icon.SetIcon(nId, 16);
+        label.icon.SetWindowText(MAKEINTRESOURCE(nText)).SetIcon(UINT(nIcon), 16);
+        EXPECT_EQ(owtest::TextOf(label.icon), nText == IDS_TEXT ? L"From the resources" : L"");
         Surface surface(kSize.cx, kSize.cy);
         PaintButton(label.icon, surface);
         EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), surface.at(0, 0)) == kSize.cx * kSize.cy,
-                  nId == 0);
+                  nText != IDS_TEXT && nIcon == 0);
     }
 }

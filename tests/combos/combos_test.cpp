@@ -279,17 +279,12 @@ TEST_F(Combos, TheListGrowsToItsLongestEntryAndToTheIconsAndNeverShrinks)
     m_ext.GetWindowRect(control);
     const CString strLong(L'W', 30), strLonger(L'W', 40);
     const int nLong = WidthFor(strLong), nLonger = WidthFor(strLonger);
-    struct Opening
-    {
-        CComboBox& combo;
-        CString strEntry; ///< at the top; none empties the list
-        CSize icons;      ///< the widths of both
-        int nWidth;
-    };
-    const Opening openings[] = {{m_ext, L"W", {}, control.Width()},     {m_ext, strLong, {}, nLong},
-                                {m_ext, strLonger, {}, nLonger},        {m_ext, L"", {}, nLonger},
-                                {m_font, strLonger, {}, nLonger + 4},   {m_font, L"W", {16, 9}, nLonger + 20},
-                                {m_font, L"W", {16, 24}, nLonger + 28}, {m_font, L"", {}, nLonger + 28}};
+    // The entry at the top, none empties the list; the widths of both icons; and that of the list.
+    const std::tuple<CComboBox&, CString, CSize, int> openings[] = {
+        {m_ext, L"W", {}, control.Width()},     {m_ext, strLong, {}, nLong},
+        {m_ext, strLonger, {}, nLonger},        {m_ext, L"", {}, nLonger},
+        {m_font, strLonger, {}, nLonger + 4},   {m_font, L"W", {16, 9}, nLonger + 20},
+        {m_font, L"W", {16, 24}, nLonger + 28}, {m_font, L"", {}, nLonger + 28}};
     for (const auto& [combo, strEntry, icons, nWidth] : openings)
     {
         FontCombo::s_szIconTTF.cx = icons.cx;
@@ -307,7 +302,7 @@ TEST_F(Combos, TheListGrowsToItsLongestEntryAndToTheIconsAndNeverShrinks)
     }
 }
 
-TEST_F(Combos, TheReflectedOnePassesOnEachNotification)
+TEST_F(Combos, TheReflectedOnePassesOnEachNotificationToItsHandlerOrElseToAParentThatIsOne)
 {
     const std::pair<int, const char*> notifications[] = {
         {CBN_EDITCHANGE, "editchange"}, {CBN_CLOSEUP, "closeup"},           {CBN_DBLCLK, "dblclk"},
@@ -323,18 +318,14 @@ TEST_F(Combos, TheReflectedOnePassesOnEachNotification)
     Enter(idReflected);
     owtest::Type(L"S");
     EXPECT_EQ(m_handler.Take(), (Calls{"editupdate 1004", "editchange 1004"}));
-}
 
-TEST_F(Combos, WithoutAHandlerOnlyTheReflectedOneTellsTheParent)
-{
-    CombosDialog dialog;
+    CombosDialog dialog; // without a handler; the other boxes do not look for one
     ASSERT_TRUE(dialog.Open());
     dialog.Take();
     for (const int nId : {idReflected, idExt, idFont})
         dialog.Notify(nId, CBN_SELCHANGE);
     EXPECT_EQ(dialog.Take(), Calls{"selchange 1004"});
     dialog.DestroyWindow();
-
     struct OpenCombo : CComboBoxReflected
     {
         using CComboBoxReflected::CComboBoxReflected, CComboBoxReflected::DoesNotificationHandlerExist,

@@ -15,7 +15,7 @@
 using owtest::TextOf;
 
 constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006,
-               kGivenUnit = 1007, kGivenSpin = 1008, kFree = 1009;
+               kGivenUnit = 1007, kGivenSpin = 1008, kInsert = 1009, kFree = 1010;
 
 inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)};
 inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
@@ -60,7 +60,7 @@ struct BoxesDialog : CDialog
     CEditIntegerWithRange whole;
     CEditN lines, plain, readOnly;
     OwnControlsBox own;
-    CEditDoubleWithRange given; ///< finds its label and its spin in the template
+    CEditDoubleWithRange given;                ///< finds its label and its spin in the template
     int oks = 0, cancels = 0, changesSeen = 0; ///< the last: notifications that a box has let through
 
     bool Open()
@@ -75,6 +75,7 @@ struct BoxesDialog : CDialog
                               .Edit(kGiven, 10, 90, 70, 14)
                               .Item(UPDOWN_CLASSW, L"", kGivenSpin, UDS_ARROWKEYS, 80, 90, 10, 14)
                               .Item(L"Static", L"", kGivenUnit, SS_LEFT, 94, 92, 30, 9)
+                              .Button(L"Insert", kInsert, 130, 26, 40, 14)
                               .DefaultButton(L"OK", IDOK, 130, 10, 40, 14);
         return CreateIndirect(form.get());
     }

@@ -11,8 +11,6 @@
 
 namespace
 {
-constexpr int kBox = 1001, kButton = 1002, kNext = 1003;
-
 /// Refuses texts with a "!".
 struct StrictBox : CEditAcadEscSeqSpecLima
 {
@@ -20,40 +18,34 @@ struct StrictBox : CEditAcadEscSeqSpecLima
     bool IsTextValid(const CString& strText) const override { return strText.Find(L'!') < 0; }
 };
 
-/// A box, its button, and a plain box behind them, which has the focus.
-class EscSeq : public ::testing::Test
+/// A box in front of its button; another one has the focus.
+class EscSeq : public Boxes
 {
 protected:
-    ~EscSeq() override { m_dialog.DestroyWindow(); }
-
     template <class Box = StrictBox>
-    Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kButton, bool bNoDimensions = false)
+    Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kInsert)
     {
-        m_dialog.DestroyWindow();
-        auto box = std::make_unique<Box>(&m_handler, nButton);
+        dialog.DestroyWindow();
+        auto box = std::make_unique<Box>(&handler, nButton);
         Box& shown = *box;
         m_box = std::move(box);
-        if constexpr (requires { shown.m_bNoDimensions; })
-            shown.m_bNoDimensions = bNoDimensions;
-        const auto form = owtest::DialogTemplate(L"Labels", 160, 90)
-                              .Edit(kBox, 4, 4, 80, 40, dwStyle)
-                              .Button(L"Insert", kButton, 90, 4, 50, 14)
-                              .Edit(kNext, 4, 50, 80, 14);
-        EXPECT_TRUE(m_dialog.CreateIndirect(form.get()) && m_box->SubclassDlgItem(kBox, &m_dialog));
-        m_dialog.ShowWindow(SW_SHOW);
-        EXPECT_TRUE(owtest::Activate(m_dialog));
-        m_dialog.GetDlgItem(kNext)->SetFocus();
-        m_handler.Take();
-        m_handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
+        EXPECT_TRUE(dialog.Open() && owtest::Activate(dialog));
+        shown.SubclassWindow(::CreateWindow(L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, 210,
+                                            90, 90, 60, dialog, reinterpret_cast<HMENU>(kFree), nullptr,
+                                            nullptr));
+        shown.SetWindowPos(dialog.GetDlgItem(kGivenUnit), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+        handler.Take();
+        handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
         return shown;
     }
-    HWND Button() { return m_dialog.GetDlgItem(kButton)->m_hWnd; }
+    HWND Button() { return dialog.GetDlgItem(kInsert)->m_hWnd; }
     /// Goes to the box by a click, and then to a place in it.
     void Enter(int nPlace, BOOL bNoScroll = FALSE)
     {
         owtest::Click(*m_box, CPoint(40, 8));
-        EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_box->m_hWnd; }));
+        EXPECT_TRUE(HasFocus(*m_box));
         m_box->SetSel(nPlace, nPlace, bNoScroll);
+        handler.Take();
     }
     /// Chooses from the menu of the button with the mouse, or closes it for -1; its labels.
     std::wstring Choose(int nItem)
@@ -79,9 +71,7 @@ protected:
         return m_box->GetValue();
     }
 
-    Recorder m_handler;
     std::unique_ptr<CEditEscSeqText> m_box;
-    CDialog m_dialog;
 };
 
 std::wstring Codes(const CEditEscSeqText& box)
@@ -113,7 +103,9 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     member.m_bNoDimensions = plate.m_bNoDimensions = true;
     EXPECT_EQ(Codes(member) + Codes(plate), L"%i%f%m%o%i%h");
 
-    auto& box = Show<CEditAcadEscSeqSpecLima>(0, kButton, true);
+    auto& box = Show<CEditAcadEscSeqSpecLima>();
+    box.m_bNoDimensions = true;
+    box.UpdateEscSeqList();
     EXPECT_EQ(Choose(-1), L"%i - dimension symbol\n%h - plate thickness\n");
     english.reset();
     box.m_bNoDimensions = false;
@@ -132,10 +124,10 @@ TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
     Enter(2);
     owtest::Type(L"ab");
     owtest::Press(VK_LEFT);
-    m_handler.Take();
+    handler.Take();
     EXPECT_EQ(Insert(2), L"%la%wb");
-    EXPECT_EQ(m_handler.Take(),
-              "leave 1001: %lab; enter 1001: %lab; change 1001: %la%wb; change 1001: %la%wb; ");
+    EXPECT_EQ(handler.Take(),
+              "leave 1010: %lab; enter 1010: %lab; change 1010: %la%wb; change 1010: %la%wb; ");
     EXPECT_EQ(Insert(3), L"%la%w%hb") << "behind the code before";
     owtest::Type(L"x");
     owtest::Press(VK_LEFT, true); // the caret at the left end of a selection, and then at the right one
@@ -144,12 +136,8 @@ TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
     EXPECT_EQ(Insert(0), L"%la%w%h%ix%ib");
     ::SendMessage(Button(), WM_COMMAND, 0xFFFF, 0);
     EXPECT_STREQ(m_box->GetValue(), L"%la%w%h%ix%i%ib") << "a command behind the list: what was chosen last";
-}
 
-TEST_F(EscSeq, WorksByKeysAlone)
-{
-    Show().SetValue(L"ab");
-    m_box->SetFocus();
+    m_box->SetValue(L"ab"); // and now by keys alone
     m_box->SetSel(1, 1);
     owtest::Press(VK_TAB);
     ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }));
@@ -176,7 +164,7 @@ TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
     }
 }
 
-TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedText)
+TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedTextAndIgnoresWhatItCannotInsert)
 {
     auto& box = Show();
     box.SetValue(L"ok");
@@ -184,11 +172,11 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedText)
     EXPECT_EQ(TextOf(box), L"ok");
     EXPECT_TRUE(box.IsDataCurrentlyInGUIValid());
     box.SafeSetWindowText(L"shown");
-    box.OnTextChosen(kButton, 3);
+    box.OnTextChosen(kInsert, 3);
     EXPECT_STREQ(box.GetValue(), L"%hok") << "what the program showed without storing it does not count";
     Enter(0);
     owtest::Type(L"!");
-    box.OnTextChosen(kButton, 1); // without leaving the box
+    box.OnTextChosen(kInsert, 1); // without leaving the box
     EXPECT_EQ(TextOf(box), L"%l!%hok");
     EXPECT_STREQ(box.GetValue(), L"%hok");
     EXPECT_FALSE(box.IsDataCurrentlyInGUIValid() || box.ValidateAndStoreDataFromGUI());
@@ -202,42 +190,39 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedText)
     owtest::Type(L"abcdef!");
     EXPECT_STREQ(m_box->GetValue(), L"abcdef") << "all of it also under a hook, which hands out the half";
     EXPECT_FALSE(m_box->IsDataCurrentlyInGUIValid());
-    m_box->OnTextChosen(kButton, 0);
+    m_box->OnTextChosen(kInsert, 0);
     EXPECT_EQ(gfnWholeText(*m_box), L"%iabcdef!");
-}
 
-TEST_F(EscSeq, IgnoresWhatItCannotInsert)
-{
-    auto& box = Show();
-    box.SetValue(L"ab");
-    for (const auto& [nId, nIndex] : {std::pair(kButton, -1), {kButton, 4}, {kNext, 0}})
-        box.OnTextChosen(nId, nIndex);
-    box.SetReadOnly();
-    box.OnTextChosen(kButton, 0);
-    EXPECT_EQ(m_handler.Take(), "");
-    EXPECT_EQ(TextOf(box), L"ab");
-    box.SetReadOnly(FALSE);
-    box.SetAnsiInterface(true);
-    box.OnTextChosen(kButton, 0);
-    EXPECT_EQ(TextOf(box), L"%iab");
+    auto& other = Show();
+    other.SetValue(L"ab");
+    for (const auto& [nId, nIndex] : {std::pair(kInsert, -1), {kInsert, 4}, {kPlain, 0}})
+        other.OnTextChosen(nId, nIndex);
+    other.SetReadOnly();
+    other.OnTextChosen(kInsert, 0);
+    EXPECT_EQ(handler.Take(), "");
+    EXPECT_EQ(TextOf(other), L"ab");
+    other.SetReadOnly(FALSE);
+    other.SetAnsiInterface(true);
+    other.OnTextChosen(kInsert, 0);
+    EXPECT_EQ(TextOf(other), L"%iab");
     for (const bool bForce : {false, true})
     {
-        box.SafeSetWindowText(L"new");
-        box.SetValue(L"%iab", bForce);
-        EXPECT_EQ(TextOf(box), bForce ? L"%iab" : L"new");
+        other.SafeSetWindowText(L"new");
+        other.SetValue(L"%iab", bForce);
+        EXPECT_EQ(TextOf(other), bForce ? L"%iab" : L"new");
     }
-    m_dialog.DestroyWindow();
-    box.OnTextChosen(kButton, 0);
-    EXPECT_FALSE(box.IsDataCurrentlyInGUIValid() || box.ValidateAndStoreDataFromGUI());
-    EXPECT_STREQ(box.GetValue(), L"%iab");
+    dialog.DestroyWindow();
+    other.OnTextChosen(kInsert, 0);
+    EXPECT_FALSE(other.IsDataCurrentlyInGUIValid() || other.ValidateAndStoreDataFromGUI());
+    EXPECT_STREQ(other.GetValue(), L"%iab");
 }
 
 TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
 {
-    for (const int nButton : {kButton, 0, 1999, kBox})
+    for (const int nButton : {int(kInsert), 0, 1999, int(kFree)})
     {
         auto& box = Show(ES_AUTOHSCROLL | WS_DISABLED, nButton);
-        const bool bOwn = nButton == kButton;
+        const bool bOwn = nButton == kInsert;
         EXPECT_EQ(CWnd::FromHandlePermanent(Button()) != nullptr, bOwn);
         EXPECT_EQ(!::IsWindowEnabled(Button()), bOwn);
         box.EnableWindow();
@@ -255,16 +240,16 @@ TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
 TEST_F(EscSeq, MayBeMadeByCreateAndMoreThanOnce)
 {
     Show(ES_AUTOHSCROLL, 0);
-    CEditAcadEscSeqText box(nullptr, kButton);
+    CEditAcadEscSeqText box(nullptr, kInsert);
     box.SetValue(L"ab");
     for (const bool bAgain : {false, true})
     {
-        ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &m_dialog, 1010));
+        ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &dialog, 1011));
         if (bAgain)
-            box.OnTextChosen(kButton, 0);
+            box.OnTextChosen(kInsert, 0);
         box.SetFocus();
         box.SetSel(2, 2);
-        m_dialog.GetDlgItem(kNext)->SetFocus();
+        dialog.GetDlgItem(kPlain)->SetFocus();
         box.DestroyWindow();
     }
     EXPECT_STREQ(box.GetValue(), L"%%cab") << "a new window has had no caret yet";

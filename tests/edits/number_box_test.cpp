@@ -231,7 +231,7 @@ TEST_F(Boxes, KeepTheEmptyMarkerApartFromOtherNumbersThatAreNone)
     EXPECT_EQ(box.GetValue(), 1.5) << "a range that is none limits nothing";
 }
 
-TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShowUntilTheUnitChanges)
+TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShowUntilTheUnitChangesAndASelection)
 {
     CEditDoubleWithRange& box = dialog.given;
     box.SetValue(0.1234567);
@@ -244,7 +244,7 @@ TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShowUntilTheUnitChanges)
     box.DisableComplexUnit(); // is already
     EXPECT_EQ(box.GetValue(), 0.127);
     EDoubleFormat format{};
-    int decimals = 0;
+    int decimals = 0, start = 0, end = 0;
     box.GetFormat(format, decimals);
     EXPECT_TRUE(format == eDoubleFormatFixed && decimals == 2);
     box.SetComplexUnit(
@@ -252,11 +252,8 @@ TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShowUntilTheUnitChanges)
     box.SetValue(13.0);
     box.SetWindowText(L"1e305");
     EXPECT_EQ(box.GetValue(), 13.0) << "a number whose global value is beyond a double";
-}
+    box.DisableComplexUnit();
 
-TEST_F(Boxes, KeepASelectionOverAnUpdate)
-{
-    CEditDoubleWithRange& box = dialog.own;
     const std::tuple<int, int, const wchar_t*, const wchar_t*> cases[] = {
         {2, 2, L"0.00", L""}, {0, -1, L"0.00", L"5.00"}, {1, 2, L"0.00", L"5.00"}, {0, 0, L"", L"5.00"}};
     for (const auto& [from, to, before, selected] : cases)
@@ -264,7 +261,6 @@ TEST_F(Boxes, KeepASelectionOverAnUpdate)
         box.SafeSetWindowText(before);
         box.SetSel(from, to);
         box.SetValue(5.0, true);
-        int start = 0, end = 0;
         box.GetSel(start, end);
         EXPECT_EQ(TextOf(box).substr(start, end - start), selected) << from << ' ' << to;
     }
