@@ -29,20 +29,11 @@ constexpr COLORREF kKey = RGB(255, 0, 255); ///< transparent colour of bitmaps, 
 
 /// A button whose inner state a test may look at and set.
 template <class Button = CButtonST>
-class Open : public Button
+struct Open : Button
 {
-public:
-    using Button::Button;
-    using Button::m_bDrawBorder;
-    using Button::m_bIsCheckBox;
-    using Button::m_bIsDefault;
-    using Button::m_bitmaps;
-    using Button::m_bMouseOnButton;
-    using Button::m_bShowDisabledBitmap;
-    using Button::m_icons;
-    using Button::m_nTypeStyle;
-    using Button::m_ptImageOrigin;
-    using Button::m_toolTip;
+    using Button::Button, Button::m_bDrawBorder, Button::m_bIsCheckBox, Button::m_bIsDefault,
+        Button::m_bitmaps, Button::m_bMouseOnButton, Button::m_bShowDisabledBitmap, Button::m_icons,
+        Button::m_nTypeStyle, Button::m_ptImageOrigin, Button::m_toolTip;
 };
 
 inline COLORREF ColorOf(const CButtonST& button, BYTE nIndex = CButtonST::colorBackOut)
@@ -55,15 +46,10 @@ inline COLORREF ColorOf(const CButtonST& button, BYTE nIndex = CButtonST::colorB
 /// Paints an owner-drawn button onto the surface as the system would ask for it, with ODS_ flags.
 inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0, const CRect* pItem = nullptr)
 {
-    DRAWITEMSTRUCT item{};
-    item.CtlType = ODT_BUTTON;
-    item.CtlID = button.GetDlgCtrlID();
-    item.hwndItem = button.m_hWnd;
-    item.hDC = surface.dc().m_hDC;
-    item.itemState = nItemState;
-    button.GetClientRect(&item.rcItem);
-    if (pItem)
-        item.rcItem = *pItem;
+    CRect rect;
+    button.GetClientRect(rect);
+    DRAWITEMSTRUCT item{ODT_BUTTON,   UINT(button.GetDlgCtrlID()), 0, ODA_DRAWENTIRE, nItemState, button,
+                        surface.dc(), pItem ? *pItem : rect,       0};
     button.DrawItem(&item);
 }
 
@@ -148,10 +134,7 @@ public:
     std::function<void()> then = [] {}; ///< at the end of each handler
 
     void OnButtonClicked(int nId) override { Told(std::to_string(nId)); }
-    void OnBitmapChosen(int nId, int nIndex) override
-    {
-        Told(std::to_string(nId) + ' ' + std::to_string(nIndex));
-    }
+    void OnBitmapChosen(int nId, int n) override { Told(std::to_string(nId) + ' ' + std::to_string(n)); }
     void OnTextChosen(int nId, int nIndex) override { OnBitmapChosen(nId, nIndex); }
     void OnColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }
     void OnAcadColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }

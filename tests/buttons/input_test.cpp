@@ -20,16 +20,8 @@ protected:
         return owtest::PumpUntil([&] { return button.m_bMouseOnButton == bHover; });
     }
     /// Moves the mouse over a button; whether the button knows it.
-    bool Hover(Open<>& button)
-    {
-        owtest::MoveTo(button, CPoint(10, 10));
-        return HoverBecomes(button, true);
-    }
-    Calls CallsOf(const std::function<void()>& action)
-    {
-        action();
-        return m_room.Take();
-    }
+    bool Hover(Open<>& button) { return owtest::MoveTo(button, CPoint(10, 10)), HoverBecomes(button, true); }
+    Calls CallsOf(const std::function<void()>& action) { return action(), m_room.Take(); }
 
     Open<> m_push{&m_room}, m_other{&m_room}, m_ok{&m_room}, m_check{&m_room};
     CExtButton m_ext{&m_room};
@@ -177,10 +169,8 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseInAnActiveWindowUnlessIt
 
 static void SendMouse(DWORD dwFlags)
 {
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = dwFlags;
-    input.mi.dx = input.mi.dy = 0xFFF0; // the far corner of the screen
+    constexpr LONG kCorner = 0xFFF0; // the far one of the screen
+    INPUT input{INPUT_MOUSE, {{kCorner, kCorner, 0, dwFlags, 0, 0}}};
     ::SendInput(1, &input, sizeof(input));
 }
 
@@ -243,7 +233,7 @@ TEST_F(Repeating, IsForExactlyOneAndEndsWhenTheButtonCannotBeUsedAnyMore)
     EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.DestroyWindow(); }), 1);
 }
 
-TEST_F(ButtonInput, TheTooltipShowsOnceItHasAText)
+TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGiven)
 {
     MSG msg{m_push, WM_NULL, 0, 0, 0, {}};
     m_push.PreTranslateMessage(&msg);
@@ -256,7 +246,7 @@ TEST_F(ButtonInput, TheTooltipShowsOnceItHasAText)
     EXPECT_EQ(m_push.m_toolTip.SendMessage(TTM_GETMAXTIPWIDTH), 400);
     CString strText;
     m_push.m_toolTip.GetText(strText, &m_push, 1);
-    EXPECT_STREQ(strText, _T("From the resources"));
+    EXPECT_EQ(strText, _T("From the resources"));
     EXPECT_EQ(m_push.EnableBalloonTooltip(), 0u);
     EXPECT_FALSE(m_push.m_toolTip.GetStyle() & TTS_BALLOON) << "kept: balloons have no effect";
 
@@ -265,10 +255,7 @@ TEST_F(ButtonInput, TheTooltipShowsOnceItHasAText)
     EXPECT_TRUE(owtest::PumpUntil([&] { return m_push.m_toolTip.IsWindowVisible() != FALSE; }));
     m_push.ActivateTooltip(FALSE);
     EXPECT_FALSE(m_push.m_toolTip.IsWindowVisible());
-}
 
-TEST_F(ButtonInput, ShowsTheCursorThatItWasGiven)
-{
     const HCURSOR hArrow = ::LoadCursor(nullptr, IDC_ARROW);
     const auto showsArrow = [&]
     {

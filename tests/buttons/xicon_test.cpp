@@ -11,9 +11,7 @@ const CSize kSize{120, 40};
 
 struct OpenXIcon : CXIcon
 {
-    using CXIcon::GetFontHeight;
-    using CXIcon::GetFontPointSize;
-    using CXIcon::GetSafeFont;
+    using CXIcon::GetFontHeight, CXIcon::GetFontPointSize, CXIcon::GetSafeFont;
 };
 
 /// A label in a font whose strokes are of one colour.
@@ -121,13 +119,8 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
 
 TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
 {
-    struct Row
-    {
-        DWORD align, vertical; ///< only plain left has the icon first
-        CPoint margin;
-        int spacing, size; ///< of the icon, or 0
-        LPCWSTR pszText;
-    };
+    // Alignment, of which only plain left has the icon first; margin, spacing, size of the icon or 0, and text.
+    using Row = std::tuple<DWORD, DWORD, CPoint, int, int, LPCWSTR>;
     for (const auto& [align, vertical, margin, spacing, size, pszText] :
          {Row{BS_LEFT, 0, {2, 0}, 5, 16, L"HH"}, Row{BS_RIGHT, BS_VCENTER, {2, 0}, 5, 16, L"HH"},
           Row{BS_CENTER, BS_TOP, {4, 6}, 0, 20, L"HH\nH"}, Row{0, BS_BOTTOM, {9, 7}, 8, 16, L"H"},
@@ -191,8 +184,7 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATime)
     EXPECT_TRUE(icon.GetBold() && icon.GetFontPointSize() == 20) << "without a face all else stays";
     EXPECT_FALSE(icon.SetBold(FALSE).GetBold());
     icon.SetBold(TRUE).SetFont(std::wstring(40, L'x').c_str(), 9);
-    EXPECT_EQ(icon.GetFontFaceName(), CString(L'x', 31));
-    EXPECT_EQ(icon.GetFontPointSize(), 9);
+    EXPECT_TRUE(icon.GetFontFaceName() == CString(L'x', 31) && icon.GetFontPointSize() == 9);
     EXPECT_FALSE(icon.GetBold()) << "a new face has no weight";
     EXPECT_EQ(icon.GetFontHeight(72), -CWindowDC(nullptr).GetDeviceCaps(LOGPIXELSY));
     EXPECT_EQ(icon.GetFontPointSize(-icon.GetFontHeight(11)), 11) << "either sign";
