@@ -186,7 +186,7 @@ TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
     EXPECT_EQ(m_room.Take(), Calls{});
 }
 
-TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
+TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfTheButton)
 {
     CRect button, rect;
     const Script look = [&](CWnd& popup) { popup.GetWindowRect(rect); };
@@ -209,12 +209,9 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoom)
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
         EXPECT_EQ(rect, CRect(corner, size));
     }
-}
 
-TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
-{
     const owtest::OtherText other("Other...", "Ostalo");
-    const auto look = [](CWnd& popup)
+    const auto compare = [](CWnd& popup)
     {
         for (int i = 0; i < CColorBtnST::paletteSize; ++i)
         {
@@ -231,10 +228,10 @@ TEST_F(ColorPopup, ShowsThePaletteAndMarksTheColorOfTheButton)
         EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + 9)), L"166, 202, 240") << "read aloud";
         EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + kOther)), L"Ostalo");
     };
-    Visit(look);
+    Visit(compare);
 }
 
-TEST_F(ColorPopup, AClickOnACellChoosesItAndOneOutsideCancelsWhateverCameBefore)
+TEST_F(ColorPopup, AClickOnACellChoosesItAndWhateverTakesTheMouseOrTheForegroundCancels)
 {
     ExpectChoice(ClickOn(4), 0x800000, 4);
     ExpectChoice(ClickOn(kRedCell), kRed, kRedCell); // tells nobody
@@ -262,10 +259,7 @@ TEST_F(ColorPopup, AClickOnACellChoosesItAndOneOutsideCancelsWhateverCameBefore)
     };
     CColorBtnST::Reset();
     ExpectChoice(cancel, kRed, 0);
-}
 
-TEST_F(ColorPopup, IsOverWhenAnotherWindowTakesTheMouseOrTheForegroundButNotByAHeldKey)
-{
     const auto hold = [](WPARAM nKey)
     {
         ::PostMessage(::GetFocus(), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
@@ -341,7 +335,7 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
     }
 }
 
-TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
+TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithWindowDialogOrObject)
 {
     std::unique_ptr<CColorBtnST> pButton;
     const Script endings[] = {[&](CWnd&) { pButton->DestroyWindow(); },
@@ -363,10 +357,7 @@ TEST_F(ColorPopup, EndsWithWindowDialogOrObjectAndTellsNobody)
         EXPECT_EQ(m_room.Take(), Calls{});
         Reopen(BS_PUSHBUTTON);
     }
-}
 
-TEST_F(ColorPopup, AClickByAProgramTakesTheFocusAndOpensNoSecondOne)
-{
     for (CWnd* const pButton : {static_cast<CWnd*>(&m_acad), static_cast<CWnd*>(&m_rgb)})
     {
         const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });

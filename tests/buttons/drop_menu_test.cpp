@@ -198,7 +198,7 @@ static void ExpectMenu(UINT nFirstId, CSize size)
     }
 }
 
-TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
+TEST(PickerMenu, ShowsAllPicturesOnTheMenusColourAndKeepsThePlacesOfMissingOnes)
 {
     const CSize low(48, 16), high(32, 24);
     ExpectMenu<CBitmapBtnSTKotnaLinija>(36864, low);
@@ -208,10 +208,7 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColour)
     ExpectMenu<CBitmapBtnSTLinija>(36864, low);
     ExpectMenu<CBitmapBtnSTSimbolPresekaLinija>(36864, low);
     ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864, high);
-}
 
-TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
-{
     using Hatches = CBitmapBtnSTSrafura;
     Lone<OpenPicker<Hatches>> lone(CSize(80, 30));
     const auto& pMenu = lone.button.m_pMenu;
@@ -238,7 +235,7 @@ TEST(PickerMenu, IsMadeAnewWhenColoursChangeAndKeepsThePlacesOfMissingPictures)
 
 using TextMenu = DropMenus<CTextBtnST>;
 
-TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGiven)
+TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGivenAndNothingWhereThereAreNone)
 {
     using Labels = std::vector<std::wstring>;
     const auto expectShown = [&](const Labels& labels)
@@ -261,10 +258,7 @@ TEST_F(TextMenu, ShowsTextsAndDescriptionsAsTheyAreGiven)
     expectShown({L"%l - length"});
     m_pButton->SetTexts(Texts({L"%w", L"%h"}));
     expectShown({L"%w", L"%h"}); // no descriptions left
-}
 
-TEST_F(TextMenu, WithNothingToOfferAClickOnlyTakesTheFocus)
-{
     m_pButton->UnsubclassWindow();
     CTextBtnST button; // has no menu yet
     button.SubclassDlgItem(1001, &m_room);

@@ -115,7 +115,7 @@ TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonMovesWithTheFocus
     }
 }
 
-TEST_F(ButtonInput, HoverEndsWithWhatTakesTheMouseAway)
+TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAway)
 {
     using Row = std::tuple<UINT, WPARAM, bool>; // message, its parameter, and whether the hover stays
     // clang-format off
@@ -139,16 +139,14 @@ TEST_F(ButtonInput, HoverEndsWithWhatTakesTheMouseAway)
     const HWND hButton = m_push.UnsubclassWindow();
     m_push.SubclassWindow(hButton);
     EXPECT_FALSE(m_push.m_bMouseOnButton) << "what a former window was at its end is over";
-}
 
-TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseInAnActiveWindowUnlessItIsAlwaysTracked)
-{
     const auto move = [&](WPARAM buttons, int x)
     { return Repaints(m_other, [&] { m_other.SendMessage(WM_MOUSEMOVE, buttons, MAKELPARAM(x, 10)); }); };
-    using Row = std::tuple<bool, WPARAM, int, bool>; // flat, mouse buttons, place, and whether it hovers then
+    using Move =
+        std::tuple<bool, WPARAM, int, bool>; // flat, mouse buttons, place, and whether it hovers then
     for (const auto& [bFlat, buttons, x, bHovers] :
-         {Row{true, MK_LBUTTON, 10, false}, Row{false, 0, 10, false}, Row{true, 0, 10, true},
-          Row{true, 0, -30, false}})
+         {Move{true, MK_LBUTTON, 10, false}, Move{false, 0, 10, false}, Move{true, 0, 10, true},
+          Move{true, 0, -30, false}})
     {
         m_other.SetFlat(bFlat);
         const BOOL bBefore = m_other.m_bMouseOnButton;
@@ -198,8 +196,12 @@ protected:
     }
 };
 
-TEST_F(Repeating, SendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoAnywhere)
+TEST_F(Repeating, SendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheButtonCannotBeUsed)
 {
+    m_push.SetAutoRepeat(2, 20);
+    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), m_pushClick) << "an ordinary click";
+    m_push.SetAutoRepeat(1, 20);
+    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), Calls{}) << "the release waits already";
     m_push.SetFlat(FALSE);
     EXPECT_EQ(CommandsOfAHold(1), 2) << "one cycle";
     EXPECT_EQ(CommandsOfAHold(5), 6);
@@ -216,14 +218,7 @@ TEST_F(Repeating, SendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoAnywhere)
     };
     m_push.SendMessage(WM_LBUTTONDOWN);
     EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
-}
 
-TEST_F(Repeating, IsForExactlyOneAndEndsWhenTheButtonCannotBeUsedAnyMore)
-{
-    m_push.SetAutoRepeat(1, 20);
-    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), Calls{}) << "the release waits already";
-    m_push.SetAutoRepeat(2, 20);
-    EXPECT_EQ(CallsOf([&] { owtest::Click(m_push); }), m_pushClick) << "an ordinary click";
     constexpr int kNever = 100;
     EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2)
         << "an even number all the same";

@@ -138,7 +138,7 @@ TEST_F(PaintedMixedFont, LooksAsItsState)
     EXPECT_GT(surface.count(CRect(text, m_text), kKey), 0) << "a transparent one has no ground";
 }
 
-TEST_F(PaintedMixedFont, AShorterTextWipesWhatStoodThereUnlessItIsTransparent)
+TEST_F(PaintedMixedFont, WipesAFormerTextUnlessItIsTransparentAndKeepsItsOwnCheckState)
 {
     for (const DWORD dwExStyle : {0L, WS_EX_TRANSPARENT})
         for (const BOOL bEnabled : {TRUE, FALSE})
@@ -154,10 +154,7 @@ TEST_F(PaintedMixedFont, AShorterTextWipesWhatStoodThereUnlessItIsTransparent)
             const bool bWiped = surface.count(gone, kFace) == gone.Width() * gone.Height();
             EXPECT_EQ(bWiped, dwExStyle == 0) << "shadow and mark, too";
         }
-}
 
-TEST_F(PaintedMixedFont, KeepsItsOwnCheckStateAndBecomesOwnerDrawn)
-{
     for (const auto& [style, type] : {std::pair(BS_PUSHBUTTON, BS_OWNERDRAW),
                                       {BS_AUTORADIOBUTTON | BS_LEFTTEXT, BS_OWNERDRAW | BS_LEFTTEXT},
                                       {BS_RADIOBUTTON, 0xFL /* kept: a bit of this type stays */}})

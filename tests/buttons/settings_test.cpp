@@ -52,7 +52,7 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
     pProcessTheme->DrawThemeParentBackground(nullptr, nullptr, &rect);
 }
 
-TEST(ButtonSettings, MayBeMadeWithoutAWindowAndAnswerABadValueWithItsCode)
+TEST(ButtonSettings, MayBeMadeWithoutAWindowAnswerABadValueWithItsCodeAndShiftColoursTogether)
 {
     Open button;
     EXPECT_EQ(button.SetPressedStyle(2), 6u);
@@ -80,12 +80,8 @@ TEST(ButtonSettings, MayBeMadeWithoutAWindowAndAnswerABadValueWithItsCode)
     EXPECT_EQ(button.SetIcon(CButtonST::hIconOk), 0u);
     button.SizeToContent();
     EXPECT_EQ(button.m_ptImageOrigin, CPoint(3, 3)) << "without a window nothing is sized";
-}
 
-TEST(ButtonSettings, OffsetMovesTheChannelsTogetherUntilTheFirstIsAtItsEnd)
-{
     using Row = std::tuple<COLORREF, short, COLORREF>; // before, shade, after
-    CButtonST button;
     for (const auto& [before, nShade, after] :
          {Row{kColor, 40, RGB(255, 25, 25)}, Row{kColor, 5, RGB(245, 15, 15)},
           Row{kColor, -255, RGB(230, 0, 0)}, Row{RGB(30, 20, 10), -5, RGB(25, 15, 5)},

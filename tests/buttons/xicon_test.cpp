@@ -162,7 +162,7 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
     EXPECT_EQ(Label().icon.SendMessage(WM_ERASEBKGND), 1) << "it covers all of its area";
 }
 
-TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATime)
+TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
 {
     Label label;
     OpenXIcon& icon = label.icon;
@@ -192,11 +192,7 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATime)
     Lone<CXIcon> ordinary(kSize, L"", BS_PUSHBUTTON);
     EXPECT_EQ(ordinary.button.GetFont()->m_hObject, nullptr) << "an ordinary button has none";
     EXPECT_EQ(ordinary.button.GetStyle() & BS_TYPEMASK, BS_PUSHBUTTON);
-}
 
-TEST(XIcon, LoadsTextsAndIconsById)
-{
-    Label label;
     for (const auto& [nText, nIcon] : {std::pair(IDS_TEXT, 0), {4711, IDI_STATE}, {4711, 0}})
     {
         label.icon.SetWindowText(MAKEINTRESOURCE(nText)).SetIcon(UINT(nIcon), 16);

@@ -24,14 +24,7 @@ namespace
 using FontCombo = CFontSelectionComboBox;
 using Calls = std::vector<std::string>;
 
-enum Id : WORD
-{
-    idBefore = 1001,
-    idExt,
-    idFont,
-    idReflected, ///< with an edit part
-    idAfter
-};
+constexpr WORD idBefore = 1001, idExt = 1002, idFont = 1003, idReflected = 1004, idAfter = 1005;
 
 constexpr wchar_t kFile[] = L"only a file", kNoFont[] = L"No such font";
 constexpr DWORD kFontStyle =
@@ -65,7 +58,9 @@ public:
                 .Item(L"COMBOBOX", L"", idReflected, CBS_DROPDOWN | WS_TABSTOP, 4, 60, 60, 80)
                 .Edit(idAfter, 4, 80, 60, 12, WS_TABSTOP)
                 .DefaultButton(L"OK", IDOK, 100, 4, 40, 14);
-        return CreateIndirect(form.get()) && (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
+        return CreateIndirect(form.get()) && ext.SubclassDlgItem(idExt, this) &&
+               font.SubclassDlgItem(idFont, this) && reflected.SubclassDlgItem(idReflected, this) &&
+               (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
     }
     CComboBox& operator[](int nId) { return static_cast<CComboBox&>(*GetDlgItem(nId)); }
     void Notify(int nId, int nCode)
@@ -93,12 +88,6 @@ public:
     void ComboBoxReflectedOnSetfocus(int nId) override { Note("setfocus", nId); }
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, idExt, ext);
-        DDX_Control(pDX, idFont, font);
-        DDX_Control(pDX, idReflected, reflected);
-    }
     void OnOK() override { Note("command", IDOK); }
     void OnCancel() override { Note("command", IDCANCEL); }
 
@@ -373,10 +362,7 @@ TEST_F(Combos, TheFontOneListsEachTrueTypeFontOnceAndThoseThatACallerEnumerates)
         shown[nRow + 1].dc().BitBlt(0, 0, 60, 18, &dc, 0, 0, SRCCOPY);
     }
     EXPECT_FALSE(shown[0] == shown[1]) << "it draws again once it is filled";
-}
 
-TEST_F(Combos, AFontOneThatIsMadePostsAMessageThatItDoesNotHandle)
-{
     FontCombo plain;
     ASSERT_TRUE(plain.Create(kFontStyle, CRect(0, 0, 90, 90), &m_dialog, 1));
     MSG msg;

@@ -75,7 +75,7 @@ TEST_F(Boxes, StoreAValueBeforeTheyTellOfItAndShowItBeforeTheyTellOfLeaving)
     EXPECT_EQ(CallsWhenLeft(box), left("99 'as it was'"));
 }
 
-TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDone)
+TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDoneAndShowTheIBeamUnlessReadOnly)
 {
     CEditN& box = dialog.lines;
     const std::tuple<WORD, bool, CWnd*, int> pressed[] = {
@@ -104,6 +104,19 @@ TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDone)
     EXPECT_TRUE(HasFocus(dialog.own)) << "a read-only box can be left, too";
     const LRESULT keys = dialog.plain.SendMessage(WM_GETDLGCODE);
     EXPECT_TRUE(keys & DLGC_WANTALLKEYS && keys & DLGC_HASSETSEL) << "what an edit answers stays";
+
+    const std::tuple<CEditN*, int, LPCTSTR> cases[] = {{&dialog.plain, HTCLIENT, IDC_IBEAM},
+                                                       {&dialog.plain, HTLEFT, IDC_IBEAM},
+                                                       {&dialog.readOnly, HTCLIENT, IDC_ARROW},
+                                                       {&dialog.readOnly, HTLEFT, IDC_SIZEWE}};
+    for (const auto& [pBox, nHitTest, pszCursor] : cases)
+    {
+        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+        const auto nWindow = reinterpret_cast<WPARAM>(pBox->m_hWnd);
+        const bool answer = pBox->SendMessage(WM_SETCURSOR, nWindow, MAKELPARAM(nHitTest, WM_MOUSEMOVE)) != 0;
+        EXPECT_TRUE(answer || pszCursor == IDC_SIZEWE) << "that one is the system's own";
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pszCursor)) << nHitTest;
+    }
 }
 
 TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
@@ -124,22 +137,6 @@ TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
         box.SetWindowText(L"loud");
         EXPECT_EQ(handler.Take(), "change 1003; ");
         EXPECT_TRUE(box.HasChangedSinceLastSetFocus());
-    }
-}
-
-TEST_F(Boxes, ShowTheIBeamUnlessTheyAreReadOnly)
-{
-    const std::tuple<CEditN*, int, LPCTSTR> cases[] = {{&dialog.plain, HTCLIENT, IDC_IBEAM},
-                                                       {&dialog.plain, HTLEFT, IDC_IBEAM},
-                                                       {&dialog.readOnly, HTCLIENT, IDC_ARROW},
-                                                       {&dialog.readOnly, HTLEFT, IDC_SIZEWE}};
-    for (const auto& [pBox, nHitTest, pszCursor] : cases)
-    {
-        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-        const auto nWindow = reinterpret_cast<WPARAM>(pBox->m_hWnd);
-        const bool answer = pBox->SendMessage(WM_SETCURSOR, nWindow, MAKELPARAM(nHitTest, WM_MOUSEMOVE)) != 0;
-        EXPECT_TRUE(answer || pszCursor == IDC_SIZEWE) << "that one is the system's own";
-        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, pszCursor)) << nHitTest;
     }
 }
 
