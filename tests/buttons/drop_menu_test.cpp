@@ -1,5 +1,6 @@
 // Buttons that drop a menu: what the user does with it, and what stands in it.
 
+#include "Handles.h"
 #include "Images.h"
 #include "Room.h"
 
@@ -212,6 +213,7 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColourAndKeepsThePlacesOfMissingOnes)
     using Hatches = CBitmapBtnSTSrafura;
     Lone<OpenPicker<Hatches>> lone(CSize(80, 30));
     const auto& pMenu = lone.button.m_pMenu;
+    const owtest::HandleCount before = owtest::CountHandles();
     for (const COLORREF cr : {RGB(200, 240, 200), ::GetSysColor(COLOR_MENU)})
     {
         const int nMenu = COLOR_MENU;
@@ -219,6 +221,7 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColourAndKeepsThePlacesOfMissingOnes)
         lone.button.SendMessage(WM_SYSCOLORCHANGE);
         EXPECT_EQ(PixelsOf(pMenu->bitmaps.at(0)).at(33) & 0xFFFFFF, testimages::Opaque(cr) & 0xFFFFFF);
     }
+    EXPECT_EQ(owtest::CountHandles(), before);
     auto& pictures = Hatches::s_pictures;
     const HBITMAP hLast = pictures.handles[9];
     Hatches::UnloadBitmaps();

@@ -1,5 +1,6 @@
 // The images of a button: what they are made from, who owns them, and what is left after a failure.
 
+#include "Handles.h"
 #include "Images.h"
 #include "Room.h"
 
@@ -38,9 +39,21 @@ std::pair<DWORD, DWORD> ColorsOf(HBITMAP hBitmap)
 
 TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOther)
 {
-    Open button;
+    Lone<Open<>> lone(CSize(60, 30));
+    auto& button = lone.button;
+    const auto expectSized = [&](CSize size)
+    {
+        CRect rect;
+        button.SizeToContent();
+        button.GetWindowRect(rect);
+        EXPECT_EQ(rect.Size(), size);
+    };
+    expectSized({60, 30}); // without an image nothing happens
+    EXPECT_EQ(button.m_ptImageOrigin, CPoint(3, 3));
     EXPECT_EQ(button.SetBitmaps(Make(CSize(16, 12)), kKey), 0u);
     EXPECT_EQ(button.m_bitmaps[0].size, CSize(16, 12));
+    expectSized({16, 12});
+    EXPECT_EQ(button.m_ptImageOrigin, CPoint(0, 0));
     using Image = std::array<int, 3>; // id and size; of a copy the first one's
     const std::tuple<Image, Image, LONG, LONG> rows[] = {
         {{10000, 0, 0}, {10014, 0, 0}, 32, 24}, // hIconError and h24IconOpen
@@ -52,6 +65,7 @@ TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOthe
         EXPECT_EQ(button.SetIcon(in[0], in[1], in[2], out[0], out[1], out[2]), 0u);
         EXPECT_TRUE(button.m_icons[0].size.cx == cxIn && button.m_icons[1].size.cx == cxOut) << cxOut;
         EXPECT_EQ(button.m_bitmaps[0].hBitmap, nullptr);
+        expectSized({cxIn, cxIn});
     }
     for (const int nOut : {int(CButtonST::copyDarker), 10122})
     {
@@ -86,9 +100,12 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
         return pixels;
     };
     const Icon icon(CSize(17, 12), pixelsOf(17, kColor));
+    owtest::HandleCount before;
     for (const auto& [copy, cr] : {std::pair(CButtonST::copyGray, kGrey), {CButtonST::copyDarker, kDarker}})
     {
+        before = owtest::CountHandles();
         Open button;
+        button.SetBtnCursor(IDC_CROSSHAIR);
         ASSERT_EQ(button.SetIcon(icon, As<HICON>(copy)), 0u);
         EXPECT_EQ(button.m_icons[1].size, CSize(16, 12));
         ICONINFO info{};
@@ -105,6 +122,8 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
         EXPECT_EQ(ColorsOf(first.hMask), std::pair(kRgb, DWORD(0)));
         EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";
     }
+    // Wanted: an icon that a button made itself is let go of with DeleteObject, which does nothing to an icon.
+    EXPECT_EQ(owtest::CountHandles().user, before.user + 1);
 }
 
 TEST(ButtonImages, AFailureIsToldAndLeavesNoImages)
@@ -138,12 +157,17 @@ TEST(ButtonImages, AFailureIsToldAndLeavesNoImages)
         {2, [&] { return button.SetBitmaps(Make(), kKey, hSelected, 0); }},
         {2, [&] { return button.SetBitmaps(hSelected, 0, hBadBitmap); }}, // the first is made whole first
         {2, [&] { return button.SetBitmaps(hSelected, 0, hSecond); }}};
-    for (size_t i = 0; i < std::size(failures); ++i)
+    owtest::HandleCount before;
+    for (size_t i = 0; i < 2 * std::size(failures); ++i)
     {
+        const auto& [result, set] = failures[i % std::size(failures)];
+        before = i == std::size(failures) ? owtest::CountHandles() : before;
         button.SetIcon(hOk, CButtonST::hIconCancel);
-        EXPECT_EQ(failures[i].second(), failures[i].first) << i;
+        EXPECT_EQ(set(), result) << i;
         EXPECT_FALSE(HasImages(button)) << i;
     }
+    EXPECT_EQ(owtest::CountHandles(), before);
+    EXPECT_TRUE(IsIcon(hOk) && IsIcon(CButtonST::hIconCancel)) << "shared";
     EXPECT_TRUE(::DeleteObject(hSecond)) << "which stays the caller's";
     ::DestroyIcon(hMonochrome);
 }

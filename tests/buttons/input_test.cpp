@@ -1,5 +1,6 @@
 // What a user does to buttons, with real mouse and keyboard.
 
+#include "Handles.h"
 #include "ImportStandIn.h"
 #include "Room.h"
 
@@ -260,12 +261,15 @@ TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGi
         EXPECT_NE(::GetCursor(), nullptr);
         return ::GetCursor() == hArrow;
     };
+    const owtest::HandleCount before = owtest::CountHandles();
     for (const auto& [nId, result] : {std::pair(31999, 1u), {0, 0u}})
     {
         EXPECT_TRUE(showsArrow());
+        m_push.SetBtnCursor(IDC_CROSSHAIR);
         EXPECT_EQ(m_push.SetBtnCursor(IDC_CROSSHAIR), 0u);
         EXPECT_FALSE(showsArrow());
         EXPECT_EQ(m_push.SetBtnCursor(nId), result) << "and the former cursor is gone";
     }
     EXPECT_TRUE(showsArrow());
+    EXPECT_EQ(owtest::CountHandles(), before);
 }

@@ -1,6 +1,7 @@
 // What buttons look like, read back pixel by pixel: all states of one against a model, and what those with a drop-down
 // arrow add.
 
+#include "Handles.h"
 #include "Images.h"
 #include "Room.h"
 #include "module/GdiScope.h"
@@ -245,10 +246,13 @@ void ExpectLooks(
     const Draw& draw = [](CDC&, const Look&, const CRect&, COLORREF) {})
 {
     constexpr bool bDrops = !std::is_same_v<Button, CButtonST>;
+    const int nLooks = bDrops ? 60 : 300;
     Random random(1);
     Lone<Open<Button>> push(kSize), box(kSize, _T(""), BS_AUTOCHECKBOX);
-    for (int i = 0; i < (bDrops ? 60 : 300); ++i)
+    owtest::HandleCount before;
+    for (int i = 0; i < nLooks; ++i)
     {
+        before = i == nLooks / 2 ? owtest::CountHandles() : before;
         Look look{random};
         if (bDrops)
             look.BecomeDropFace();
@@ -259,31 +263,15 @@ void ExpectLooks(
         PaintButton(button, ours, look.ItemState());
         PaintModel(expected.dc(), look, button, bDrops ? &draw : nullptr);
         ASSERT_TRUE(ours == expected) << "case " << i;
+        button.SetIcon(static_cast<HICON>(nullptr)); // gives its image back
     }
+    EXPECT_EQ(owtest::CountHandles(), before);
 }
 } // namespace
 
 TEST(ButtonPaint, IsThatOfTheModelInEveryState)
 {
     ExpectLooks<CButtonST>();
-}
-
-TEST(ButtonPaint, SizesItselfToItsImage)
-{
-    Lone<Open<>> lone(kSize);
-    const auto expectSized = [&](CSize size)
-    {
-        CRect rect;
-        lone.button.SizeToContent();
-        lone.button.GetWindowRect(rect);
-        EXPECT_EQ(rect.Size(), size);
-    };
-    expectSized(kSize); // without an image nothing happens
-    lone.button.SetBitmaps(testimages::MakeBitmap(CSize(30, 18), kRed, kKey), kKey);
-    expectSized({30, 18});
-    EXPECT_EQ(lone.button.m_ptImageOrigin, CPoint(0, 0));
-    lone.button.SetIcon(10000, 24, 24, 0, 0, 0);
-    expectSized({24, 24});
 }
 
 TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGives)

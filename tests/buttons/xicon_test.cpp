@@ -1,5 +1,6 @@
 // The icon label: what it measures, where it paints, and whose its fonts are.
 
+#include "Handles.h"
 #include "Images.h"
 #include "Room.h"
 #include "module/GdiScope.h"
@@ -202,4 +203,16 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
         EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), surface.at(0, 0)) == kSize.cx * kSize.cy,
                   nText != IDS_TEXT && nIcon == 0);
     }
+    const owtest::HandleCount before = owtest::CountHandles();
+    for (int i = 0; i < 3; ++i)
+    {
+        CXIcon().SetIcon(IDI_STATE, 16).SetBold(TRUE).SetFont(L"Arial", 12);
+        icon.SetIcon(IDI_STATE, 16)
+            .SetIcon(label.blue, 16)
+            .SetIcon(IDI_STATE, 32)
+            .SetIcon(0u, 16)
+            .SetBold(TRUE);
+    }
+    EXPECT_EQ(owtest::CountHandles(), before);
+    EXPECT_TRUE(testimages::IsIcon(label.blue)) << "the caller's";
 }

@@ -49,7 +49,8 @@ struct OwnControlsBox : CEditDoubleWithRange
     CWnd& Spin() const { return *GetParent()->GetDlgItem(GetSpinCtrlId()); }
 };
 
-struct BoxesDialog : CDialog
+/// Tells itself where there is no handler.
+struct BoxesDialog : CDialog, Recorder
 {
     explicit BoxesDialog(CEditNNotificationHandler* pHandler)
         : whole(pHandler), lines(pHandler), plain(pHandler), readOnly(pHandler), own(pHandler),

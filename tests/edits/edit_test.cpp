@@ -159,30 +159,16 @@ TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
     box.DestroyWindow();
     ASSERT_TRUE(make(box, &dialog));
     EXPECT_EQ(box.made, 1);
-    EXPECT_FALSE(box.DoesNotificationHandlerExist() || box.GetSafeNotificationHandler());
+    dialog.Take();
+    box.SetWindowText(L"x");
+    EXPECT_EQ(dialog.Take(), "change 1010; ") << "the parent is told where no handler was given";
+    EXPECT_EQ(box.GetSafeNotificationHandler(), &dialog);
     box.DestroyWindow();
+    EXPECT_FALSE(box.DoesNotificationHandlerExist());
 
     CEditIntegerWithRange typed(&handler);
     ASSERT_TRUE(make(typed, &dialog));
     EXPECT_EQ(TextOf(typed) + TextOf(dialog.whole) + TextOf(dialog.own), L"000.00");
     EXPECT_EQ(handler.Take(), "") << "the first text is not reported";
     typed.DestroyWindow();
-}
-
-TEST(BoxHandler, IsTheParentWhereNoneWasGiven)
-{
-    struct TellingDialog : BoxesDialog, Recorder
-    {
-        using BoxesDialog::BoxesDialog;
-    };
-    Recorder given;
-    for (Recorder* pGiven : {static_cast<Recorder*>(nullptr), &given})
-    {
-        TellingDialog telling(pGiven);
-        ASSERT_TRUE(telling.Open());
-        telling.Take(), given.Take();
-        telling.plain.SetWindowText(L"x");
-        EXPECT_EQ(telling.Take() + "/" + given.Take(), pGiven ? "/change 1003; " : "change 1003; /");
-        telling.DestroyWindow();
-    }
 }

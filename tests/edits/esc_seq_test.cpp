@@ -211,10 +211,13 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedTextAndIgnoresWhatItCannotInser
         other.SetValue(L"%iab", bForce);
         EXPECT_EQ(TextOf(other), bForce ? L"%iab" : L"new");
     }
+    other.SetSel(2, 2);
     dialog.DestroyWindow();
     other.OnTextChosen(kInsert, 0);
     EXPECT_FALSE(other.IsDataCurrentlyInGUIValid() || other.ValidateAndStoreDataFromGUI());
-    EXPECT_STREQ(other.GetValue(), L"%iab");
+    ASSERT_TRUE(dialog.Open() && other.Create(WS_CHILD, CRect(0, 0, 90, 20), &dialog, kFree));
+    other.OnTextChosen(kInsert, 1);
+    EXPECT_STREQ(other.GetValue(), L"%l%iab") << "a new window has had no caret yet";
 }
 
 TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
@@ -235,22 +238,4 @@ TEST_F(EscSeq, EnablesItsButtonWithItselfAndLeavesOthersAlone)
         box.EnableWindow(FALSE);
         EXPECT_EQ(!::IsWindowEnabled(Button()), bOwn);
     }
-}
-
-TEST_F(EscSeq, MayBeMadeByCreateAndMoreThanOnce)
-{
-    Show(ES_AUTOHSCROLL, 0);
-    CEditAcadEscSeqText box(nullptr, kInsert);
-    box.SetValue(L"ab");
-    for (const bool bAgain : {false, true})
-    {
-        ASSERT_TRUE(box.Create(WS_CHILD | WS_VISIBLE, CRect(0, 150, 90, 170), &dialog, 1011));
-        if (bAgain)
-            box.OnTextChosen(kInsert, 0);
-        box.SetFocus();
-        box.SetSel(2, 2);
-        dialog.GetDlgItem(kPlain)->SetFocus();
-        box.DestroyWindow();
-    }
-    EXPECT_STREQ(box.GetValue(), L"%%cab") << "a new window has had no caret yet";
 }
