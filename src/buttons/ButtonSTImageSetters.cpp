@@ -83,8 +83,10 @@ DWORD CButtonST::SetIcon(int nIn, int cxIn, int cyIn, int nOut, int cxOut, int c
         return FailImages(resultNoImage);
     if (nOut == 0 || IsCopy(nOut))
         return SetIcon(hIn, CopyRequest<HICON>(nOut));
-    const HICON hOut = LoadIconImage(nOut, CSize(cxOut, cyOut));
-    return hOut ? SetIcon(hIn, hOut) : FailImages(resultNoImage);
+    if (const HICON hOut = LoadIconImage(nOut, CSize(cxOut, cyOut)))
+        return SetIcon(hIn, hOut);
+    ::DestroyIcon(hIn); // nobody has seen it yet
+    return FailImages(resultNoImage);
 }
 
 // The copy is made before the mask is: making the mask changes the first bitmap. Until the first bitmap is
