@@ -95,7 +95,8 @@ class Room : public CDialog,
              public ABitmapBtnSTNotificationHandler,
              public ATextBtnSTNotificationHandler,
              public AColorBtnSTNotificationHandler,
-             public AAcadColorBtnSTNotificationHandler
+             public AAcadColorBtnSTNotificationHandler,
+             public CButtonReflectedNotificationHandler
 {
 public:
     struct Control
@@ -129,6 +130,7 @@ public:
     Calls Take() { return std::exchange(calls, {}); }
 
     Calls calls;
+    HBRUSH hBrush = nullptr;            ///< what it answers reflected buttons that ask for one
     int erases = 0;                     ///< of its own background
     int behind = 0;                     ///< of what lies behind a control
     std::function<void()> then = [] {}; ///< at the end of each handler
@@ -138,6 +140,17 @@ public:
     void OnTextChosen(int nId, int nIndex) override { OnBitmapChosen(nId, nIndex); }
     void OnColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }
     void OnAcadColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }
+    void ButtonReflectedOnClicked(int nId) override { calls.push_back("clicked " + std::to_string(nId)); }
+    void ButtonReflectedOnDoubleclicked(int nId) override { calls.push_back("twice " + std::to_string(nId)); }
+    HBRUSH ButtonReflectedOnCtlColor(int nId, CDC* pDC, unsigned int nCtlColor) override
+    {
+        return pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1005 ? hBrush : nullptr;
+    }
+    void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
+    {
+        EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
+        calls.push_back((LOWORD(message) == WM_CREATE ? "created " : "destroyed ") + std::to_string(nId));
+    }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override

@@ -95,7 +95,7 @@ TYPED_TEST(DropMenus, OpenBesideTheButtonForMouseAndKeysWhichChooseOrLeaveEveryt
     EXPECT_FALSE(button.GetState() & BST_FOCUS) << "the mark follows a handler that moves the focus";
 }
 
-TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndWhateverMenuIsMadeMeanwhile)
+TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndEndWithDialogOrButton)
 {
     auto& button = *this->m_pButton;
     const auto hold = [&](const OpenMenu&)
@@ -107,17 +107,11 @@ TYPED_TEST(DropMenus, StayOpenWhateverKeyIsHeldAndWhateverMenuIsMadeMeanwhile)
         if constexpr (TestFixture::kIsText)
             button.SetTexts(Texts({L"other"}));
     };
+    const auto walk = [](const OpenMenu& menu) { menu.Press({VK_DOWN, VK_DOWN}); };
     const auto choose = [](const OpenMenu& menu) { menu.Press({VK_UP, VK_RETURN}); };
-    EXPECT_EQ(this->Visit(button, {[](const OpenMenu& menu) {
-                                       menu.Press({VK_DOWN, VK_DOWN});
-                                   },
-                                   hold, choose}),
-              this->Choice(0));
+    EXPECT_EQ(this->Visit(button, {walk, hold, choose}), this->Choice(0));
     EXPECT_EQ(ColorOf(button), ::GetSysColor(COLOR_BTNFACE)) << "as every button";
-}
 
-TYPED_TEST(DropMenus, DialogAndButtonMayGoInTheHandlerAndWhileTheMenuIsOpen)
-{
     for (const auto& [bDelete, bInHandler] : {std::pair(0, 0), {0, 1}, {1, 0}, {1, 1}})
     {
         this->m_room.then = [&, bDelete = bDelete]
@@ -213,11 +207,12 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColourAndKeepsThePlacesOfMissingOnes)
     using Hatches = CBitmapBtnSTSrafura;
     Lone<OpenPicker<Hatches>> lone(CSize(80, 30));
     const auto& pMenu = lone.button.m_pMenu;
-    const owtest::HandleCount before = owtest::CountHandles();
+    owtest::HandleCount before;
     for (const COLORREF cr : {RGB(200, 240, 200), ::GetSysColor(COLOR_MENU)})
     {
         const int nMenu = COLOR_MENU;
         ::SetSysColors(1, &nMenu, &cr);
+        before = owtest::CountHandles();
         lone.button.SendMessage(WM_SYSCOLORCHANGE);
         EXPECT_EQ(PixelsOf(pMenu->bitmaps.at(0)).at(33) & 0xFFFFFF, testimages::Opaque(cr) & 0xFFFFFF);
     }

@@ -86,7 +86,7 @@ protected:
 };
 } // namespace
 
-TEST_F(PaintedMixedFont, BoxAndTextStandByTheStyles)
+TEST_F(PaintedMixedFont, BoxAndTextStandByTheStylesAndLookAsTheState)
 {
     using Row = std::tuple<DWORD, int, int>; // style, box, text
     const auto& [l, t, r, b] = static_cast<const RECT&>(kItem);
@@ -104,21 +104,18 @@ TEST_F(PaintedMixedFont, BoxAndTextStandByTheStyles)
             Open(across | down);
             ExpectLook({boxX, boxY}, {textX, textY}, std::to_string(across | down));
         }
-}
 
-TEST_F(PaintedMixedFont, LooksAsItsState)
-{
     const CPoint box(kItem.left, kItem.bottom - 15), text(kItem.left + 20, kItem.bottom - m_text.cy - 2);
-    constexpr UINT kBox = DFCS_BUTTONCHECK | DFCS_CHECKED, kRadio = DFCS_BUTTONRADIO | DFCS_CHECKED;
+    constexpr UINT kChecked = DFCS_BUTTONCHECK | DFCS_CHECKED, kRadio = DFCS_BUTTONRADIO | DFCS_CHECKED;
     Button& button = Open(BS_BOTTOM);
     const std::tuple<std::function<void()>, UINT, bool> rows[] = {
-        {[&] { button.SetCheck(1); }, kBox, false},
-        {[&] { button.SendMessage(WM_SETFOCUS); }, kBox, true},
-        {[&] { button.SendMessage(WM_KILLFOCUS); }, kBox, false},
-        {[&] { button.SetState(TRUE); }, kBox | DFCS_INACTIVE, true},
-        {[&] { button.SetState(FALSE); }, kBox, false},
+        {[&] { button.SetCheck(1); }, kChecked, false},
+        {[&] { button.SendMessage(WM_SETFOCUS); }, kChecked, true},
+        {[&] { button.SendMessage(WM_KILLFOCUS); }, kChecked, false},
+        {[&] { button.SetState(TRUE); }, kChecked | DFCS_INACTIVE, true},
+        {[&] { button.SetState(FALSE); }, kChecked, false},
         {[&] { button.bThirdState = true; }, DFCS_BUTTONCHECK | DFCS_INACTIVE, false},
-        {[&] { button.bThirdState = false; }, kBox, false},
+        {[&] { button.bThirdState = false; }, kChecked, false},
         {[&] { button.RadioButtonLook(0); }, kRadio, false}, // whatever the argument
         {[&] { button.SendMessage(WM_SETFOCUS); }, kRadio, true},
         {[&] { button.EnableWindow(FALSE); }, kRadio | DFCS_INACTIVE, false}, // when the focus goes, too

@@ -4,24 +4,6 @@
 
 namespace
 {
-/// Writes down each call as "clicked 1001".
-struct ReflectedRoom : Room, CButtonReflectedNotificationHandler
-{
-    void ButtonReflectedOnClicked(int nId) override { calls.push_back("clicked " + std::to_string(nId)); }
-    void ButtonReflectedOnDoubleclicked(int nId) override { calls.push_back("twice " + std::to_string(nId)); }
-    HBRUSH ButtonReflectedOnCtlColor(int nId, CDC* pDC, unsigned int nCtlColor) override
-    {
-        return pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1005 ? hBrush : nullptr;
-    }
-    void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
-    {
-        EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
-        calls.push_back((LOWORD(message) == WM_CREATE ? "created " : "destroyed ") + std::to_string(nId));
-    }
-
-    HBRUSH hBrush = nullptr;
-};
-
 template <class Button>
 struct OpenReflected : Button
 {
@@ -29,16 +11,14 @@ struct OpenReflected : Button
 };
 
 /// Buttons of both kinds, with a handler and with none but the dialog itself.
-class ReflectedButtons : public ::testing::Test
+class ReflectedButtons : public InRoom
 {
 protected:
-    void SetUp() override
+    ReflectedButtons()
     {
         m_room.controls = {
             {&m_given}, {&m_own}, {&m_notified, BS_NOTIFY}, {&m_givenST}, {&m_ownST, BS_AUTOCHECKBOX}};
-        m_room.Open();
     }
-    void TearDown() override { m_room.DestroyWindow(); }
     /// What a parent answers that is asked for what lies behind a button.
     static HBRUSH BrushOf(const CWnd& button)
     {
@@ -47,7 +27,7 @@ protected:
             WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(button.m_hWnd)));
     }
 
-    ReflectedRoom m_handler, m_room;
+    Room m_handler;
     OpenReflected<CButtonReflected> m_given{&m_handler}, m_own{nullptr}, m_notified{nullptr};
     OpenReflected<CButtonSTReflected> m_givenST{&m_handler}, m_ownST{nullptr};
 };

@@ -25,16 +25,12 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
     for (CThemeHelperST* pNone : std::initializer_list<CThemeHelperST*>{nullptr, &noTheme})
     {
         Open themed;
-        EXPECT_TRUE(themed.GetFlat() && !themed.m_bDrawBorder);
-        themed.SetThemeHelper(pProcessTheme);
-        EXPECT_FALSE(themed.m_bDrawBorder);
-        for (CThemeHelperST* pTheme : {pNone, pProcessTheme})
+        for (const auto& [pTheme, bBorder] : {std::pair(pProcessTheme, 0), {pNone, 1}, {pProcessTheme, 1}})
         {
             themed.SetThemeHelper(pTheme);
-            EXPECT_TRUE(themed.m_bDrawBorder) << "a helper may bring the border, and never takes it";
+            EXPECT_EQ(themed.m_bDrawBorder, bBorder) << "a helper may bring the border, and never takes it";
             EXPECT_TRUE(themed.GetFlat()) << "flat stays flat";
         }
-
         CButtonST::pLocalTheme = pNone;
         Open plain;
         EXPECT_TRUE(plain.m_bDrawBorder && !plain.GetFlat());

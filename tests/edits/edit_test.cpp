@@ -23,7 +23,7 @@ struct OddBox : CEditN
 };
 } // namespace
 
-TEST_F(Boxes, TellWhatHappensWithTheirOwnStateSetBefore)
+TEST_F(Boxes, TellWhatHappensWithTheirOwnStateAndValueSetBefore)
 {
     CEditN& box = dialog.plain;
     handler.look = [&]
@@ -48,14 +48,13 @@ TEST_F(Boxes, TellWhatHappensWithTheirOwnStateSetBefore)
     }
     EXPECT_EQ(TextOf(box), L"abab");
     EXPECT_EQ(dialog.changesSeen, 0) << "the handler is told, and not the parent";
-}
 
-TEST_F(Boxes, StoreAValueBeforeTheyTellOfItAndShowItBeforeTheyTellOfLeaving)
-{
-    CEditIntegerWithRange& box = dialog.whole;
-    box.SetRange(0, 99);
-    handler.look = [&] {
-        return ": " + std::to_string(box.GetValue()) + " '" + CStringA(TextOf(box).c_str()).GetString() + "'";
+    CEditIntegerWithRange& whole = dialog.whole;
+    whole.SetRange(0, 99);
+    handler.look = [&]
+    {
+        return ": " + std::to_string(whole.GetValue()) + " '" + CStringA(TextOf(whole).c_str()).GetString() +
+               "'";
     };
     const auto left = [](const std::string& shown)
     { return "leave 1001: " + shown + "; enter 1002: " + shown + "; "; };
@@ -65,14 +64,14 @@ TEST_F(Boxes, StoreAValueBeforeTheyTellOfItAndShowItBeforeTheyTellOfLeaving)
         {L"-\b", "change 1001: 99 '-'; change 1001: 99 ''; ", "99 '99'"}};
     for (const auto& [text, told, shown] : texts)
     {
-        TypeInto(box, text);
+        TypeInto(whole, text);
         EXPECT_EQ(handler.Take(), told);
-        EXPECT_EQ(CallsWhenLeft(box), left(shown));
+        EXPECT_EQ(CallsWhenLeft(whole), left(shown));
     }
-    EXPECT_FALSE(box.IsEmpty()) << "clearing the text does not empty the box";
-    box.SafeSetWindowText(L"as it was");
-    TypeInto(box, L"");
-    EXPECT_EQ(CallsWhenLeft(box), left("99 'as it was'"));
+    EXPECT_FALSE(whole.IsEmpty()) << "clearing the text does not empty the box";
+    whole.SafeSetWindowText(L"as it was");
+    TypeInto(whole, L"");
+    EXPECT_EQ(CallsWhenLeft(whole), left("99 'as it was'"));
 }
 
 TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDoneAndShowTheIBeamUnlessReadOnly)

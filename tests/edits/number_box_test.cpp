@@ -212,7 +212,7 @@ TEST_F(Boxes, ForWholeNumbersTakeDigitsWithAnOptionalMinus)
     EXPECT_EQ(TextOf(box), L"-2147483648") << "eleven characters can be typed";
 }
 
-TEST_F(Boxes, KeepTheEmptyMarkerApartFromOtherNumbersThatAreNone)
+TEST_F(Boxes, KeepTheEmptyMarkerApartTheDigitsThatTheFormatDoesNotShowAndASelection)
 {
     CEditDoubleWithRange& box = dialog.own;
     box.SetEmpty();
@@ -229,11 +229,7 @@ TEST_F(Boxes, KeepTheEmptyMarkerApartFromOtherNumbersThatAreNone)
     box.SetValue(1.5);
     box.SetRange(2.0, nan);
     EXPECT_EQ(box.GetValue(), 1.5) << "a range that is none limits nothing";
-}
 
-TEST_F(Boxes, KeepTheDigitsThatTheirFormatDoesNotShowUntilTheUnitChangesAndASelection)
-{
-    CEditDoubleWithRange& box = dialog.given;
     box.SetValue(0.1234567);
     EXPECT_TRUE(box.GetValue() == 0.1234567 && TextOf(box) == L"0.12");
     box.SetComplexUnit(kMillimetre);
