@@ -26,6 +26,20 @@ public:
     }
     CWnd& operator[](int nId) const { return *GetDlgItem(nId); }
     std::wstring TextOf(int nId) const { return owtest::TextOf((*this)[nId]); }
+    /// Texts of controls and states of buttons, in their order; nothing of a hidden one, and a dash behind a disabled one.
+    std::string Seen(const std::vector<int>& ids) const
+    {
+        std::wstring seen;
+        for (const int nId : ids)
+        {
+            const CWnd& control = (*this)[nId];
+            const bool bButton = control.IsKindOf(RUNTIME_CLASS(CButton)) != FALSE;
+            const std::wstring text = bButton ? std::to_wstring(IsDlgButtonChecked(nId)) : TextOf(nId);
+            seen +=
+                L' ' + (control.IsWindowVisible() ? text : L"") + (control.IsWindowEnabled() ? L"" : L"-");
+        }
+        return std::string(CStringA(seen.substr(1).c_str()));
+    }
     void Click(int nId) const { owtest::Click((*this)[nId]); }
     void Press(int nId, WORD key) const
     {

@@ -3,9 +3,12 @@
 #include "GroupDialog.h"
 
 #include <climits>
+#include <functional>
 
 namespace
 {
+using Rule = std::function<void(bool bSet, int* pnValue)>;
+
 enum Id : WORD
 {
     idFirst = 101,
@@ -13,6 +16,15 @@ enum Id : WORD
     idOption, ///< two radio buttons
     idEnd = idOption + 2
 };
+
+/// A value that is shown, or is read after a click, and what is seen then.
+struct Step
+{
+    int nClicked; ///< 0: the value is shown
+    int nValue;
+    const char* seen;
+};
+using Steps = std::vector<Step>;
 
 class CheckBoxRules : public ::testing::Test
 {
@@ -29,103 +41,67 @@ protected:
         first.SubclassDlgItem(idFirst, &dialog);
         second.SubclassDlgItem(idSecond, &dialog);
         options.Set(&dialog, idOption);
-        ASSERT_EQ(options.Count(), 2);
     }
 
-    /// A box or group as a user sees it: its state, and "off" behind it while it is disabled.
-    static std::string Seen(int nState, const CWnd& control)
+    void Expect(const Rule& rule, const std::vector<int>& controls, const Steps& steps)
     {
-        return std::to_string(nState) + (control.IsWindowEnabled() ? "" : " off");
-    }
-    std::string First() const { return Seen(first.GetCheck(), first); }
-    std::string Boxes() const { return First() + ", " + Seen(second.GetCheck(), second); }
-    std::string BoxAndOption() const
-    {
-        return First() + ", " + Seen(options.GetOption(), dialog[idOption + 1]);
+        for (const auto& [nClicked, nExpected, seen] : steps)
+        {
+            int nValue = nClicked ? -1 : nExpected;
+            if (nClicked)
+                dialog.Click(nClicked);
+            rule(nClicked == 0, &nValue);
+            EXPECT_EQ(nValue, nExpected) << seen;
+            EXPECT_EQ(dialog.Seen(controls), seen);
+        }
     }
 
     GroupDialog dialog;
     CButton first, second;
     CRadioGroup options{nullptr, 0};
 };
-using Levels = std::vector<std::pair<int, std::string>>; ///< values, and what shows
 } // namespace
 
 TEST_F(CheckBoxRules, OneBoxIsAFlag)
 {
-    for (int nValue : {1, 0, 2, -7})
-    {
-        const int nRead = nValue != 0;
-        gfnObradiCheckBox(&first, true, &nValue);
-        EXPECT_EQ(first.GetCheck(), nRead);
-        gfnObradiCheckBox(&first, false, &nValue);
-        EXPECT_EQ(nValue, nRead);
-    }
-    second.SetCheck(BST_INDETERMINATE);
-    int nValue = 1;
-    gfnObradiCheckBox(&second, false, &nValue);
-    EXPECT_EQ(nValue, 0) << "indeterminate is not checked";
+    // Indeterminate is not checked.
+    const Steps steps{{0, 1, "1"},  {0, 0, "0"}, {0, 2, "1"},       {idSecond, 0, "2"},
+                      {0, -7, "1"}, {0, 0, "0"}, {idSecond, 1, "1"}};
+    Expect([&](bool bSet, int* pnValue) { gfnObradiCheckBox(&second, bSet, pnValue); }, {idSecond}, steps);
 }
 
 TEST_F(CheckBoxRules, TwoBoxesAreThreeLevels)
 {
-    for (auto [nValue, seen] : Levels{{1, "1, 0"}, {0, "0, 0 off"}, {3, "1, 0"}, {2, "1, 1"}})
-    {
-        gfnObradiDvaCheckBoxa(&first, &second, true, &nValue);
-        EXPECT_EQ(Boxes(), seen) << nValue;
-    }
-    const std::tuple<Id, int, const char*> clicks[] = {
-        {idSecond, 3, "1, 2"}, {idFirst, 0, "0, 0 off"}, {idFirst, 1, "1, 0"}, {idSecond, 2, "1, 1"}};
-    for (const auto& [nId, nRead, seen] : clicks)
-    {
-        int nValue = -1;
-        dialog.Click(nId);
-        gfnObradiDvaCheckBoxa(&first, &second, false, &nValue);
-        EXPECT_EQ(nValue, nRead); // 3 in the third state
-        EXPECT_EQ(Boxes(), seen);
-    }
+    const Steps steps{{0, 1, "1 0"},        {0, 0, "0 0-"},       {0, 3, "1 0"},       {0, 2, "1 1"},
+                      {idSecond, 3, "1 2"}, {idFirst, 0, "0 0-"}, {idFirst, 1, "1 0"}, {idSecond, 2, "1 1"}};
+    const auto rule = [&](bool bSet, int* pnValue) { gfnObradiDvaCheckBoxa(&first, &second, bSet, pnValue); };
+    Expect(rule, {idFirst, idSecond}, steps);
 }
 
 TEST_F(CheckBoxRules, AConditionDecidesWhetherABoxIsRead)
 {
-    for (int nCondition : {0, 1, -2})
-        for (const int nSet : {0, 5})
-        {
-            int nValue = nSet;
-            const std::string seen = std::to_string(nSet != 0) + (nCondition ? "" : " off");
-            gfnObradiUslovniCheckBox(&first, true, &nCondition, &nValue);
-            EXPECT_EQ(First(), seen);
-            first.EnableWindow(nCondition == 0); // reading puts that right
-            gfnObradiUslovniCheckBox(&first, false, &nCondition, &nValue);
-            EXPECT_EQ(nValue, nCondition && nSet ? 1 : nSet) << "without the condition it stays as it was";
-            EXPECT_EQ(First(), seen);
-        }
+    int nCondition = 0;
+    const auto rule = [&](bool bSet, int* pnValue)
+    { gfnObradiUslovniCheckBox(&first, bSet, &nCondition, pnValue); };
+    Expect(rule, {idFirst}, {{idEnd, -1, "0-"}, {0, 5, "1-"}});
+    nCondition = 1;
+    Expect(rule, {idFirst}, {{idEnd, 1, "1"}, {0, 0, "0"}, {0, 5, "1"}}); // reading enables it, too
+    nCondition = -2;
+    Expect(rule, {idFirst}, {{idFirst, 0, "0"}, {0, 5, "1"}});
 }
 
 TEST_F(CheckBoxRules, ABoxSwitchesARadioGroup)
 {
-    const Levels levels{{2, "1, 1"},  {0, "0, -1 off"}, {1, "1, 0"},
-                        {3, "1, -1"}, {-1, "1, -1"},    {INT_MIN, "1, -1"}};
-    for (auto [nValue, seen] : levels)
-    {
-        gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, true, &nValue);
-        EXPECT_EQ(BoxAndOption(), seen) << nValue;
-    }
-    const std::tuple<int, int, const char*> clicks[] = {
-        {idOption + 1, 2, "1, 1"},
-        {idFirst, 0, "0, -1 off"},
-        {idFirst, 1, "1, 0"}, // on always gives an option
-        {idEnd, 1, "1, -1"}}; // and an empty group has no other
-    for (const auto& [nId, nRead, seen] : clicks)
-    {
-        int nValue = -1;
-        dialog.Click(nId);
-        if (nId == idEnd)
-            options.Empty();
-        gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, false, &nValue);
-        EXPECT_EQ(nValue, nRead);
-        EXPECT_EQ(BoxAndOption(), seen);
-    }
+    // On always gives an option.
+    const Steps steps{
+        {0, 2, "1 0 1"},         {0, 0, "0 0- 0-"},    {0, 1, "1 1 0"},       {0, 3, "1 0 0"},
+        {0, 1, "1 1 0"},         {0, -1, "1 0 0"},     {0, INT_MIN, "1 0 0"}, {idOption + 1, 2, "1 0 1"},
+        {idFirst, 0, "0 0- 0-"}, {idFirst, 1, "1 1 0"}};
+    const auto rule = [&](bool bSet, int* pnValue)
+    { gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, bSet, pnValue); };
+    Expect(rule, {idFirst, idOption, idOption + 1}, steps);
+    options.Empty();
+    Expect(rule, {idFirst}, {{idEnd, 1, "1"}, {idFirst, 0, "0"}});
 }
 
 TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
@@ -146,6 +122,5 @@ TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
             gfnObradiChkBoxSaGrupomRadioDugmica(pCheck, options, bSet, pnValue);
         }
     EXPECT_EQ(nValue, 7);
-    EXPECT_EQ(Boxes(), "1, 0 off");
-    EXPECT_EQ(options.GetOption(), -1);
+    EXPECT_EQ(dialog.Seen({idFirst, idSecond, idOption, idOption + 1}), "1 0- 0 0");
 }

@@ -73,9 +73,8 @@ public:
     void OnConfigGroupChanged(CConfigCtrlGroup*) override { calls += L"told;"; }
 };
 
-class ConfigDialog : public GroupDialog
+struct ConfigDialog : GroupDialog
 {
-public:
     ConfigDialog(AConfigSet* set, AConfigCtrlGroupNotificationHandler* handler)
         : group(idCombo, idSave, idDelete, set, handler)
     {
@@ -88,10 +87,14 @@ public:
         group.Refresh(); // does nothing yet
         EXPECT_TRUE(Open(form));
     }
+    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
+    BOOL OnInitDialog() override
+    {
+        EXPECT_TRUE(CDialog::OnInitDialog() && group.OnInitDialog() == 1);
+        return TRUE;
+    }
 
-    CConfigCtrlGroup group;
-
-    /// The rows of the combo box, the selected one in brackets.
+    /// The rows of the combo box by their initials, the selected one in brackets.
     std::wstring Rows() const
     {
         const auto& combo = static_cast<const CComboBox&>((*this)[idCombo]);
@@ -100,18 +103,12 @@ public:
         {
             CString text;
             combo.GetLBText(i, text);
-            rows += combo.GetCurSel() == i ? L'[' + text + L']' : L' ' + text + L' ';
+            rows += combo.GetCurSel() == i ? L'[' + text.Left(1) + L']' : text.Left(1);
         }
         return rows;
     }
 
-protected:
-    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override
-    {
-        EXPECT_TRUE(CDialog::OnInitDialog() && group.OnInitDialog() == 1);
-        return TRUE;
-    }
+    CConfigCtrlGroup group;
 };
 
 /// Types a name in place of what the name dialog begins with, and accepts; expects that beginning.
@@ -167,14 +164,14 @@ protected:
 TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
 {
     Open({L"Roof", L"Floor"}, 1);
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof [Floor]");
+    EXPECT_EQ(dialog->Rows(), L"DR[F]");
     EXPECT_TRUE(dialog->ShowsPicture(idSave) && dialog->ShowsPicture(idDelete)) << "their icons";
     dialog->Press(idCombo, VK_HOME);
     owtest::Press(VK_DOWN);
     EXPECT_EQ(std::exchange(set.calls, {}), L"current -1;told;current 0;told;");
     set.changed = true;
     dialog->group.Refresh();
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof  Floor ");
+    EXPECT_EQ(dialog->Rows(), L"DRF");
     (*dialog)[idAfter].SetFocus();
     dialog->group.OnExtComboBoxSelChanged(idCombo, -1);
     EXPECT_EQ(set.calls, L"told;") << "no row is no entry";
@@ -191,30 +188,20 @@ TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUser
         std::vector<Visitor> visitors;
         const wchar_t *calls, *rows;
     };
-    const Visitor typeWall = TypeOver(L"default", L"Wall"), agree = Answer(kDelete, kYes);
+    const Visitor wall = TypeOver(L"default", L"Wall"), agree = Answer(kDelete, kYes);
+    const Visitor refused = TypeOver(L"default", L"Default"), unsuitable = Answer(kUnsuitable, kYes);
+    // The group judges no name but "Default".
     const Step steps[] = {
-        {true, idSave, {kEscape}, L"", L" Default  Roof  Floor  Wall "},
-        {false, idSave, {TypeOver(L"Floor", L"Gate")}, L"store Gate;", L" Default  Roof  Floor  Wall [Gate]"},
-        {true,
-         idSave,
-         {TypeOver(L"Gate", L"default")},
-         L"store default;", // the group does not judge names
-         L" Default  Roof  Floor  Wall  Gate [default]"},
-        {true,
-         idSave,
-         {typeWall, Answer(kOverwrite, kNo), kEscape},
-         L"",
-         L" Default  Roof  Floor  Wall  Gate  default "},
-        {true,
-         idSave,
-         {TypeOver(L"default", L"Default"), Answer(kUnsuitable, kYes), typeWall, Answer(kOverwrite, kYes)},
-         L"store Wall;",
-         L" Default  Roof  Floor [Wall] Gate  default "},
-        {false, idDelete, {Answer(kDelete, kNo)}, L"", L" Default  Roof  Floor [Wall] Gate  default "},
-        {true, idDelete, {agree}, L"delete 2;told;", L" Default  Roof [Floor] Gate  default "},
-        {false, idDelete, {agree}, L"delete 1;told;", L" Default [Roof] Gate  default "},
-        {false, idDelete, {agree}, L"delete 0;told;", L"[Default] Gate  default "},
-        {false, idDelete, {Answer(kProtected, kYes)}, L"", L"[Default] Gate  default "},
+        {true, idSave, {kEscape}, L"", L"DRFW"},
+        {false, idSave, {TypeOver(L"Floor", L"Gate")}, L"store Gate;", L"DRFW[G]"},
+        {true, idSave, {TypeOver(L"Gate", L"default")}, L"store default;", L"DRFWG[d]"},
+        {true, idSave, {wall, Answer(kOverwrite, kNo), kEscape}, L"", L"DRFWGd"},
+        {true, idSave, {refused, unsuitable, wall, Answer(kOverwrite, kYes)}, L"store Wall;", L"DRF[W]Gd"},
+        {false, idDelete, {Answer(kDelete, kNo)}, L"", L"DRF[W]Gd"},
+        {true, idDelete, {agree}, L"delete 2;told;", L"DR[F]Gd"},
+        {false, idDelete, {agree}, L"delete 1;told;", L"D[R]Gd"},
+        {false, idDelete, {agree}, L"delete 0;told;", L"[D]Gd"},
+        {false, idDelete, {Answer(kProtected, kYes)}, L"", L"[D]Gd"},
     };
     Open({L"Roof", L"Floor", L"Wall"}, 1);
     for (const Step& step : steps)
@@ -235,14 +222,14 @@ TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandlerAndNoSet)
     set.names = {L"Roof", L"Floor", L"Wall"};
     set.current = 2;
     dialog->group.Refresh();
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof ") << "there is no row for the current entry";
+    EXPECT_EQ(dialog->Rows(), L"DR") << "there is no row for the current entry";
     EXPECT_EQ(Click(idDelete, {Answer(kDelete, kYes)}), L"delete 2;");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof ");
+    EXPECT_EQ(dialog->Rows(), L"DR");
     EXPECT_EQ(Click(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate;");
-    EXPECT_EQ(dialog->Rows(), L" Default  Roof  Gate ") << "entry 2 has no row yet";
+    EXPECT_EQ(dialog->Rows(), L"DRG") << "entry 2 has no row yet";
 
     dialog.emplace(nullptr, &set);
     EXPECT_EQ(Click(idSave, {}) + Click(idDelete, {}), L"");
     dialog->group.OnExtComboBoxSelChanged(idCombo, 0);
-    EXPECT_EQ(dialog->Rows(), L"[Default]");
+    EXPECT_EQ(dialog->Rows(), L"[D]");
 }

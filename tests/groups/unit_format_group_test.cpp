@@ -14,11 +14,12 @@ enum Id : WORD
     idElsewhere
 };
 
-/// "unit, flag, number"
+/// "unit flag number"
 std::string Text(const CFormatJedinice& format)
 {
-    return std::to_string(format.nUnitIndex) + ", " + std::to_string(format.nCheckFlag) + ", " +
-           std::to_string(format.nEditValue);
+    CStringA strText;
+    strText.Format("%d %d %d", format.nUnitIndex, format.nCheckFlag, format.nEditValue);
+    return strText.GetString();
 }
 
 owtest::DialogTemplate Form(DWORD buttonStyle)
@@ -30,25 +31,13 @@ owtest::DialogTemplate Form(DWORD buttonStyle)
         .Edit(idElsewhere, 120, 8, 24, 12);
 }
 
-class FormatDialog : public GroupDialog, public AFormatJediniceCtrlGroupNotificationHandler
+struct FormatDialog : GroupDialog, AFormatJediniceCtrlGroupNotificationHandler
 {
-public:
     CFormatJediniceCtrlGroup group{idCombo, idButton, idEdit, this};
     CFormatJedinice record{3, 1, 4};
     Calls calls; ///< as "source: record"
     Calls Take() { return std::exchange(calls, {}); }
 
-    /// What the user sees: "unit symbol, state, number", and "-" for each control that is hidden or disabled.
-    std::wstring Seen()
-    {
-        std::wstring off;
-        for (const int nId : {idCombo, idButton, idEdit})
-            off.append(!(*this)[nId].IsWindowVisible() + !(*this)[nId].IsWindowEnabled(), L'-');
-        return TextOf(idCombo) + L", " + std::to_wstring(IsDlgButtonChecked(idButton)) + L", " +
-               TextOf(idEdit) + off;
-    }
-
-protected:
     void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
     BOOL OnInitDialog() override
     {
@@ -85,9 +74,9 @@ protected:
     }
 
     /// What the user sees, the record, and what was told since the last time.
-    void Expect(const wchar_t* pszSeen, const char* record, const Calls& told = {})
+    void Expect(const char* seen, const char* record, const Calls& told = {})
     {
-        EXPECT_EQ(dialog.Seen(), pszSeen);
+        EXPECT_EQ(dialog.Seen({idCombo, idButton, idEdit}), seen);
         EXPECT_EQ(Text(dialog.record), record);
         EXPECT_EQ(dialog.Take(), told);
     }
@@ -100,18 +89,17 @@ protected:
 
 TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
 {
-    const std::pair<CFormatJedinice, const wchar_t*> formats[] = {
-        {{3, 1, 4}, L"dm, 1, 4"},  {{0, 1, 0}, L"m, 1, 0"},    {{1, 2, 99}, L"cm, 0, 15"},
-        {{2, 0, -3}, L"mm, 0, 0"}, {{4, 1, 15}, L"in, 1, 15"}, {{5, 1, 4}, L"ft, 1, 4"},
-        {{6, 1, 4}, L", 1, 4"},    {{-1, 1, 4}, L", 1, 4"}};
+    const std::pair<CFormatJedinice, const char*> formats[] = {
+        {{3, 1, 4}, "dm 1 4"},   {{0, 1, 0}, "m 1 0"},  {{1, 2, 99}, "cm 0 15"}, {{2, 0, -3}, "mm 0 0"},
+        {{4, 1, 15}, "in 1 15"}, {{5, 1, 4}, "ft 1 4"}, {{6, 1, 4}, " 1 4"},     {{-1, 1, 4}, " 1 4"}};
     dialog[idEdit].SetWindowText(L"x"); // which the first format writes over
     dialog.Take();
     for (const auto& [format, seen] : formats)
     {
         group.SetCtrlState(format);
-        Expect(seen, "3, 1, 4");
+        Expect(seen, "3 1 4");
     }
-    EXPECT_EQ(Text(group.GetCtrlState()), "-1, 1, 4") << "no fallback for no unit";
+    EXPECT_EQ(Text(group.GetCtrlState()), "-1 1 4") << "no fallback for no unit";
 }
 
 TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
@@ -119,13 +107,13 @@ TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
     ChangeAll();
     dialog.Click(idEdit);
     dialog.Click(idElsewhere); // is told also if nothing was typed
-    Expect(L"in, 0, 7", "4, 0, 7", {"0: 4, 1, 4", "1: 4, 0, 4", "2: 4, 0, 4", "3: 4, 0, 7", "3: 4, 0, 7"});
+    Expect("in 0 7", "4 0 7", {"0: 4 1 4", "1: 4 0 4", "2: 4 0 4", "3: 4 0 7", "3: 4 0 7"});
     group.OnExtComboBoxSelChanged(idElsewhere, 0);
     group.OnEditNChange(idElsewhere);
     group.OnEditNKillFocus(idElsewhere);
     dialog.CheckDlgButton(idButton, 1);
     group.OnButtonClicked(idElsewhere);
-    Expect(L"in, 1, 7", "4, 0, 7");
+    Expect("in 1 7", "4 0 7");
 }
 
 TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverIndeterminateAgain)
@@ -133,15 +121,15 @@ TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverI
     Open(BS_3STATE);
     group.Update(true, false);
     dialog.Click(idButton);
-    Expect(L", 1, ", "3, 0, 4", {"1: 3, 0, 4"});
+    Expect(" 1 ", "3 0 4", {"1: 3 0 4"});
     dialog.Click(idButton);
-    Expect(L", 0, ", "3, 1, 4", {"1: 3, 1, 4"});
+    Expect(" 0 ", "3 1 4", {"1: 3 1 4"});
     group.OnButtonClicked(idElsewhere);
-    Expect(L", 1, ", "3, 1, 4"); // toggled for any id
+    Expect(" 1 ", "3 1 4"); // toggled for any id
     Open(BS_AUTO3STATE);
     group.Update(true, false);
     dialog.Click(idButton);
-    EXPECT_EQ(dialog.Seen(), L", 0, ") << "the one that toggles by itself is left alone";
+    EXPECT_EQ(dialog.Seen({idButton}), "0") << "the one that toggles by itself is left alone";
 }
 
 TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
@@ -149,15 +137,15 @@ TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
     Open(BS_3STATE);
     record.nCheckFlag = 0;
     group.Update(true, false);
-    Expect(L", 2, ", "3, 0, 4");
+    Expect(" 2 ", "3 0 4");
     group.Update(false, false);
-    Expect(L"mm, 2, ", "2, 1, 4"); // entry 2, on, and the last number
+    Expect("mm 2 ", "2 1 4"); // entry 2, on, and the last number
     record.nUnitIndex = 5;
     group.Update(true, true);
-    Expect(L"ft, 1, 4", "5, 1, 4"); // the same number ends the empty state
+    Expect("ft 1 4", "5 1 4"); // the same number ends the empty state
     record.nUnitIndex = 0;
     group.Update(false, true);
-    Expect(L"ft, 1, 4", "5, 1, 4");
+    Expect("ft 1 4", "5 1 4");
 }
 
 TEST_F(UnitFormatGroup, IsSilentWithoutARecord)
@@ -167,20 +155,20 @@ TEST_F(UnitFormatGroup, IsSilentWithoutARecord)
     ChangeAll();
     group.Update(true, true);
     group.Update(false, true);
-    Expect(L", 0, 7", "3, 1, 4");
-    EXPECT_EQ(Text(group.GetCtrlState()), "-1, 0, 7") << "the controls work";
+    Expect(" 0 7", "3 1 4");
+    EXPECT_EQ(Text(group.GetCtrlState()), "-1 0 7") << "the controls work";
     group.SetFormatSource(&record);
-    Expect(L"dm, 0, 7", "3, 1, 4"); // the unit at once, the others by Update
+    Expect("dm 0 7", "3 1 4"); // the unit at once, the others by Update
 }
 
 TEST_F(UnitFormatGroup, EnablesAndShowsAllThree)
 {
     group.Enable(FALSE);
-    Expect(L"dm, 1, 4---", "3, 1, 4");
+    Expect("dm- 1- 4-", "3 1 4");
     group.Display(TRUE);
-    Expect(L"dm, 1, 4", "3, 1, 4"); // a group that is shown is enabled, too
+    Expect("dm 1 4", "3 1 4"); // a group that is shown is enabled, too
     group.Display(FALSE);
-    Expect(L"dm, 1, 4------", "3, 1, 4");
+    Expect("- - -", "3 1 4");
 }
 
 TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndTheListWithoutARecord)
@@ -191,7 +179,7 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndTheListWithoutAReco
     group.OnExtComboBoxSelChanged(idCombo, 0);
     group.OnButtonClicked(idButton);
     group.Display(FALSE);
-    EXPECT_EQ(Text(record), "3, 1, 4");
+    EXPECT_EQ(Text(record), "3 1 4");
     EXPECT_EQ(group.GetCtrlState(), CFormatJedinice());
 
     GroupDialog plain;
@@ -209,6 +197,6 @@ TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndTheListWithoutAReco
     unbound.OnExtComboBoxSelChanged(idCombo, 3); // no handler is no fault
     lost.SetFormatSource(&record);
     lost.OnEditNKillFocus(idEdit);
-    EXPECT_EQ(Text(record), "3, 1, 0") << "nor is no window";
+    EXPECT_EQ(Text(record), "3 1 0") << "nor is no window";
     plain.DestroyWindow();
 }
