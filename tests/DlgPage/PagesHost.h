@@ -16,8 +16,7 @@
 #include <vector>
 
 /// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain", "Beta after Alpha".
-using Calls = std::vector<std::string>;
-inline Calls calls;
+inline std::vector<std::string> calls;
 /// Hears of each call, and of "left fields" when the box of a dialog is left.
 inline std::function<void(const std::string& call)> listener;
 
@@ -41,13 +40,16 @@ inline void Once(const std::string& call, const std::function<void()>& work)
     };
 }
 
-inline Calls TakeCalls()
+/// All calls since the last question, with commas between.
+inline std::string TakeCalls()
 {
-    return std::exchange(calls, {});
+    std::string text;
+    for (const std::string& call : std::exchange(calls, {}))
+        text += (text.empty() ? "" : ", ") + call;
+    return text;
 }
-
 /// What the select clients were told since the last question.
-inline Calls TakeSelections()
+inline std::string TakeSelections()
 {
     std::erase_if(calls, [](const std::string& call) { return call.find(" after ") == std::string::npos; });
     return TakeCalls();
@@ -165,12 +167,20 @@ enum Identity
 template <class Selector>
 class PagesHost : public CDialog, public APageFrameProvider
 {
+    static constexpr bool kTree = std::is_base_of_v<CWnd, Selector>;
+
 public:
     /// With the pages of Identity, or with none.
     explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
-    Selector selector = MakeSelector();
+    Selector selector = []
+    {
+        if constexpr (kTree)
+            return Selector();
+        else
+            return Selector(IDC_SELECTOR, IDC_TOGGLE);
+    }();
     CPageGradientCaptionStatic caption{selector};
     CPageManager manager{this};
     RecordingClient selects{"selects"}; ///< the first one that the selector tells; the manager is the second
@@ -245,7 +255,15 @@ protected:
              std::initializer_list<ASelectPageNotificationClient*>{&selects, &manager, &caption})
             selector.RegisterSelectPageNotification(pClient, true);
         if (m_bFilled)
-            Fill();
+        {
+            fields = AddDialog(IDD_FIELDS, "fields");
+            plain = AddDialog(IDD_PLAIN, "plain");
+            AddPage(L"Gamma", plain, idGamma, AddPage(L"Alpha", fields, idAlpha));
+            AddPage(L"Beta", fields, idBeta);
+            CPage* const pDelta = AddPage(L"Delta", fields, idDelta);
+            AddPage(L"Earlier", plain, idEarlier, pDelta);
+            AddPage(L"Later", plain, idLater, pDelta);
+        }
         GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
         GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
         return FALSE;
@@ -254,26 +272,6 @@ protected:
     void OnCancel() override { ++cancels; }
 
 private:
-    static constexpr bool kTree = std::is_base_of_v<CWnd, Selector>;
-
-    static Selector MakeSelector()
-    {
-        if constexpr (kTree)
-            return Selector();
-        else
-            return Selector(IDC_SELECTOR, IDC_TOGGLE);
-    }
-    void Fill()
-    {
-        fields = AddDialog(IDD_FIELDS, "fields");
-        plain = AddDialog(IDD_PLAIN, "plain");
-        AddPage(L"Gamma", plain, idGamma, AddPage(L"Alpha", fields, idAlpha));
-        AddPage(L"Beta", fields, idBeta);
-        CPage* pDelta = AddPage(L"Delta", fields, idDelta);
-        AddPage(L"Earlier", plain, idEarlier, pDelta);
-        AddPage(L"Later", plain, idLater, pDelta);
-    }
-
     bool m_bFilled;
 };
 

@@ -4,18 +4,15 @@
 
 #include "FatalReport.h"
 
-// ---- Adding -----------------------------------------------------------------------------------------------
-
 TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 {
     RecordingClient client("early");
     m_manager.RegisterAttributeChangedNotification(&client, true);
     auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", &m_host);
     pDialog->MyAttributeChanged();
-    EXPECT_EQ(TakeCalls(), Calls{}) << "nobody to tell yet";
+    EXPECT_EQ(TakeCalls(), "") << "nobody to tell yet";
     m_manager.AddDialog(pDialog); // reports a change while its window is being made
-    EXPECT_EQ(TakeCalls(),
-              (Calls{"early: changed", "show new", "init new", "frame", "disable new", "hide new"}));
+    EXPECT_EQ(TakeCalls(), "early: changed, show new, init new, frame, disable new, hide new");
     CRect rect;
     pDialog->GetWindowRect(rect);
     m_host.ScreenToClient(rect);
@@ -33,64 +30,42 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
             manager.AddDialog(new RecordingDialog(IDD_PLAIN, name, &host));
         EXPECT_THROW(manager.AddDialog(new RecordingDialog(IDD_MISSING, "no template", &host)),
                      CResourceException*);
+        EXPECT_EQ(manager.GetPage(CPage::EPageID{1}), nullptr);
         for (const wchar_t* name : {L"A", L"B"})
             manager.AddPage(new RecordingPage(name, nullptr, 1), nullptr);
+        EXPECT_EQ(NameOf(manager.GetPage(CPage::EPageID{1})), "A") << "the first of an identity";
         host.DestroyWindow();
         TakeCalls();
     }
-    EXPECT_EQ(TakeCalls(), (Calls{"delete A", "delete B", "delete one", "delete two", "delete no template"}));
+    EXPECT_EQ(TakeCalls(), "delete A, delete B, delete one, delete two, delete no template");
 }
-
-TEST_F(Pages, TheManagerFindsTheFirstPageOfAnIdentity)
-{
-    const auto id = static_cast<CPage::EPageID>(idStranger);
-    EXPECT_EQ(m_manager.GetPage(id), nullptr);
-    RecordingPage* const pFirst = m_host.AddPage(L"first", nullptr, id);
-    m_host.AddPage(L"second", nullptr, id);
-    EXPECT_EQ(m_manager.GetPage(id), pFirst);
-}
-
-// ---- Selection --------------------------------------------------------------------------------------------
-
-namespace
-{
-Calls Show(const std::string& dialog, const std::string& page)
-{
-    return {"enable " + dialog, "show " + dialog, "bind " + page, "focus " + dialog};
-}
-Calls Leave(const std::string& dialog, const std::string& page)
-{
-    return {"disable " + dialog, "hide " + dialog, "unbind " + page};
-}
-Calls operator+(Calls first, const Calls& second)
-{
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
-} // namespace
 
 // The new page shows before the old one is hidden; pages that share a dialog are rebound, and stay on screen.
 TEST_F(Pages, TheManagerShowsWhatIsSelected)
 {
     RecordingPage *pAlpha = Page(idAlpha), *pBeta = Page(idBeta), *pGamma = Page(idGamma);
     RecordingPage foreign(L"Foreign", m_host.plain, idStranger);
-    const Calls rebindBeta{"bind Beta", "focus fields"};
-    const std::tuple<CPage*, CPage*, Calls> selections[] = {
-        {pAlpha, nullptr, Show("fields", "Alpha")},
-        {pGamma, pAlpha, Show("plain", "Gamma") + Leave("fields", "Alpha")},
-        {nullptr, pGamma, Leave("plain", "Gamma")},
-        {nullptr, nullptr, {}},
-        {pAlpha, nullptr, Show("fields", "Alpha")},
+    const std::string rebindBeta = "bind Beta, focus fields";
+    const auto show = [](const std::string& dialog, const std::string& page)
+    { return "enable " + dialog + ", show " + dialog + ", bind " + page + ", focus " + dialog; };
+    const auto leave = [](const std::string& dialog, const std::string& page)
+    { return "disable " + dialog + ", hide " + dialog + ", unbind " + page; };
+    const std::tuple<CPage*, CPage*, std::string> selections[] = {
+        {pAlpha, nullptr, show("fields", "Alpha")},
+        {pGamma, pAlpha, show("plain", "Gamma") + ", " + leave("fields", "Alpha")},
+        {nullptr, pGamma, leave("plain", "Gamma")},
+        {nullptr, nullptr, ""},
+        {pAlpha, nullptr, show("fields", "Alpha")},
         {pBeta, pAlpha, rebindBeta},
         {pBeta, pBeta, rebindBeta},
         // From here on selectors have lost sight of what shows.
-        {pGamma, nullptr, Show("plain", "Gamma") + Leave("fields", "Beta")},
-        {pAlpha, pBeta, Show("fields", "Alpha") + Leave("plain", "Gamma")},
-        {pGamma, Page(idLater), Show("plain", "Gamma") + Leave("fields", "Alpha")},
-        {pAlpha, Page(idLater), Show("fields", "Alpha") + Leave("plain", "Later")},
-        {&foreign, pAlpha, Show("plain", "Foreign") + Leave("fields", "Alpha")},
-        {nullptr, nullptr, {}}, // a page of another's may be gone by now
-        {nullptr, &foreign, Leave("plain", "Foreign")},
+        {pGamma, nullptr, show("plain", "Gamma") + ", " + leave("fields", "Beta")},
+        {pAlpha, pBeta, show("fields", "Alpha") + ", " + leave("plain", "Gamma")},
+        {pGamma, Page(idLater), show("plain", "Gamma") + ", " + leave("fields", "Alpha")},
+        {pAlpha, Page(idLater), show("fields", "Alpha") + ", " + leave("plain", "Later")},
+        {&foreign, pAlpha, show("plain", "Foreign") + ", " + leave("fields", "Alpha")},
+        {nullptr, nullptr, ""}, // a page of another's may be gone by now
+        {nullptr, &foreign, leave("plain", "Foreign")},
     };
     for (const auto& [pNew, pOld, calls] : selections)
     {
@@ -105,7 +80,7 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
     m_manager.PageSelected(pGamma, pAlpha);
     m_manager.PageSelected(pAlpha, pBeta);
     m_selector.SetCurrentPage(nullptr);
-    EXPECT_EQ(TakeCalls(), Calls{});
+    EXPECT_EQ(TakeCalls(), "");
 }
 
 TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
@@ -127,8 +102,6 @@ TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
     }
 }
 
-// ---- Clients ----------------------------------------------------------------------------------------------
-
 // The first client of a list stays; of those who hear of changed values all stay, and an unknown one is an error.
 TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
@@ -139,22 +112,19 @@ TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
     Once("first: A below -", [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; });
     auto* pParent = new RecordingPage(L"A", nullptr, 1);
     manager.AddPage(pParent, nullptr);
-    EXPECT_EQ(TakeCalls(), (Calls{"first: A below -", "second: A below -", "second: A below -"}));
+    EXPECT_EQ(TakeCalls(), "first: A below -, second: A below -, second: A below -");
     for (RecordingClient* pClient : {&first, &second, &unknown})
         manager.RegisterAddPageNotification(pClient, false);
     manager.AddPage(new RecordingPage(L"B", nullptr, 2), pParent);
-    EXPECT_EQ(TakeCalls(), (Calls{"first: B below A", "second: B below A"}))
-        << "twice registered, removed once";
+    EXPECT_EQ(TakeCalls(), "first: B below A, second: B below A") << "twice registered, removed once";
 
     for (const bool bRegister : {true, false})
         for (RecordingClient* pClient : {&first, &second})
             manager.RegisterAttributeChangedNotification(pClient, bRegister);
     manager.AttributeChangedUsingGUI();
-    EXPECT_EQ(TakeCalls(), (Calls{"first: changed", "second: changed"}));
+    EXPECT_EQ(TakeCalls(), "first: changed, second: changed");
     EXPECT_THROW(manager.RegisterAttributeChangedNotification(&unknown, false), CInvalidArgException*);
 }
-
-// ---- Misuse ends the process ------------------------------------------------------------------------------
 
 OW_CHILD_SCENARIO(null_page)
 {

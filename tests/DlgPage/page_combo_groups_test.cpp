@@ -76,18 +76,18 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     {
         const std::string told = page + " after " + std::exchange(before, page);
         move();
-        EXPECT_EQ(TakeSelections(), Calls{told});
+        EXPECT_EQ(TakeSelections(), told);
         EXPECT_EQ(this->Shown(), page + ' ' + row) << told;
         EXPECT_EQ(NameOf(this->group.GetCurrentPage()), page) << told;
     }
     this->group.OnExtComboBoxSelChanged(IDC_TOGGLE, 1);
     this->group.OnButtonClicked(IDC_SELECTOR);
-    EXPECT_EQ(TakeSelections(), Calls{}) << "other controls";
+    EXPECT_EQ(TakeSelections(), "") << "other controls";
     this->group.OnExtComboBoxSelChanged(IDC_SELECTOR, -1);
-    EXPECT_EQ(TakeSelections(), Calls{"- after Alpha"});
+    EXPECT_EQ(TakeSelections(), "- after Alpha");
     EXPECT_EQ(this->Shown(), " 0");
     this->group.OnButtonClicked(IDC_TOGGLE);
-    EXPECT_EQ(TakeSelections(), Calls{"- after -"}) << "no row";
+    EXPECT_EQ(TakeSelections(), "- after -") << "no row";
 }
 
 TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
@@ -97,15 +97,15 @@ TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
     for (CPage* pUnknown : {static_cast<CPage*>(nullptr), static_cast<CPage*>(&unknown)})
     {
         this->group.SetCurrentPage(&twin);
-        EXPECT_EQ(TakeSelections(), Calls{"Gamma after -"}) << "the one that was added";
+        EXPECT_EQ(TakeSelections(), "Gamma after -") << "the one that was added";
         this->group.SetCurrentPage(pUnknown);
-        EXPECT_EQ(TakeSelections(), Calls{});
+        EXPECT_EQ(TakeSelections(), "");
         EXPECT_EQ(this->Shown(), "Gamma -1");
         EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
     }
     this->group.SetCurrentPage(this->Page(idBeta));
-    EXPECT_EQ(TakeSelections(), Calls{"Beta after -"});
+    EXPECT_EQ(TakeSelections(), "Beta after -");
     EXPECT_EQ(this->Shown(), "Beta 1") << "what was left on the screen goes with the next selection";
     EXPECT_EQ(this->group.FindPage(&twin), 1);
     EXPECT_EQ(this->group.FindParent(this->Page(idDelta)), 4) << "its first child";
@@ -123,11 +123,11 @@ TYPED_TEST(PageComboGroups, LeaveNoPageThatAnotherChildHasReplaced)
     owtest::Type(L"7");
     TakeCalls();
     this->group.SetCurrentPage(this->Page(idLater));
-    EXPECT_EQ(TakeSelections(), Calls{"Later after Newer"});
+    EXPECT_EQ(TakeSelections(), "Later after Newer");
     EXPECT_EQ(this->host.Page(idGamma)->nCount, 7) << "what was typed there is taken over";
     this->host.AddPage(L"Newest", this->host.fields, idStranger + 1, this->Page(idDelta));
     this->click();
-    EXPECT_EQ(TakeSelections(), Calls{"Delta after Newest"});
+    EXPECT_EQ(TakeSelections(), "Delta after Newest");
     EXPECT_EQ(this->Shown(), "Delta 2+");
 }
 
@@ -159,14 +159,14 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
                      this->group.SetCurrentPage(this->Page(idLater));
                  });
             move();
-            EXPECT_EQ(TakeSelections(), (Calls{heard, changed, changed}));
+            EXPECT_EQ(TakeSelections(), heard + ", " + changed + ", " + changed);
             EXPECT_EQ(this->Shown(), "Later 2+");
             EXPECT_EQ(this->group.GetCurrentPage(), this->Page(idLater));
         }
     for (RecordingClient* pClient : {&this->host.selects, &last})
         this->group.RegisterSelectPageNotification(pClient, false);
     this->group.SetCurrentPage(this->Page(idBeta));
-    EXPECT_EQ(TakeSelections(), Calls{"Beta after Later"}) << "the first one stays";
+    EXPECT_EQ(TakeSelections(), "Beta after Later") << "the first one stays";
 }
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
@@ -181,7 +181,7 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
     EXPECT_EQ(group.GetCurrentPage(), Page(idDelta)) << "a box that is not seen does not count";
     host.ShowWindow(SW_SHOW);
     group.SetCurrentPage(Page(idBeta));
-    EXPECT_EQ(TakeSelections(), Calls{"Beta after Delta"});
+    EXPECT_EQ(TakeSelections(), "Beta after Delta");
     toggle().ShowWindow(SW_SHOW);
     EXPECT_EQ(group.GetCurrentPage(), nullptr);
 }

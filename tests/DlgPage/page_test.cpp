@@ -7,55 +7,56 @@
 
 namespace
 {
-CFormatTekstaKote TextFormat(int nTekstKote)
-{
-    CFormatTekstaKote format;
-    format.nTekstKote = nTekstKote;
-    return format;
-}
-
 struct OpenPage : RecordingPage
 {
     OpenPage() : RecordingPage(L"Beams", nullptr, 1) {}
-    using CPage::debljina, CPage::debljinaSet, CPage::duzina, CPage::duzinaSet, CPage::sirina,
-        CPage::sirinaSet;
-    using CPage::formatDole, CPage::formatDoleSet, CPage::formatGore, CPage::formatGoreSet;
-    using CPage::formatIzvor, CPage::formatIzvorSet, CPage::idConf;
-    using CPage::polozaj, CPage::polozajSet, CPage::separator, CPage::separatorSet;
+    std::vector<int> Flags() const
+    {
+        return {formatGoreSet, formatDoleSet, formatIzvorSet, duzinaSet,
+                sirinaSet,     debljinaSet,   separatorSet,   polozajSet};
+    }
+    std::vector<int> Values() const
+    {
+        return {formatGore.nTekstKote,
+                formatDole.nTekstKote,
+                formatIzvor.nTekstKote,
+                duzina.nUnitIndex,
+                sirina.nUnitIndex,
+                debljina.nUnitIndex,
+                separator,
+                polozaj,
+                idConf};
+    }
+    void PreSet(int nGore, int nDole, int nIzvor)
+    {
+        CFormatTekstaKote format;
+        format.nTekstKote = nGore;
+        SetFormatGore(format);
+        format.nTekstKote = nDole;
+        SetFormatDole(format);
+        format.nTekstKote = nIzvor;
+        SetFormatIzvor(format);
+    }
 };
 } // namespace
 
 TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
 {
-    OpenPage page;
-    const auto flags = [&]
-    {
-        return std::vector{page.formatGoreSet, page.formatDoleSet, page.formatIzvorSet, page.duzinaSet,
-                           page.sirinaSet,     page.debljinaSet,   page.separatorSet,   page.polozajSet};
-    };
-    const auto preSet = [&](int nGore, int nDole, int nIzvor)
-    {
-        page.SetFormatGore(TextFormat(nGore));
-        page.SetFormatDole(TextFormat(nDole));
-        page.SetFormatIzvor(TextFormat(nIzvor));
-    };
     constexpr int kNotSet = CFormatTekstaKote::kNotSet;
-    preSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(flags(), std::vector<int>(8, 0)) << "a text format that is not set is ignored";
-    preSet(1, 2, 3);
+    OpenPage page;
+    page.PreSet(kNotSet, kNotSet, kNotSet);
+    EXPECT_EQ(page.Flags(), std::vector<int>(8, 0)) << "a text format that is not set is ignored";
+    page.PreSet(1, 2, 3);
     page.SetDuzina({4, 1, 0});
     page.SetSirina({5, 1, 0});
     page.SetDebljina({6, 1, 0});
     page.SetSeparator(7);
     page.SetPolozaj(-1); // no marker: any position is one
-    preSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(flags(), std::vector<int>(8, 1));
+    page.PreSet(kNotSet, kNotSet, kNotSet);
+    EXPECT_EQ(page.Flags(), std::vector<int>(8, 1));
     page.SetIdConf(12);
-    EXPECT_EQ(flags(), std::vector<int>(8, 0)) << "only the flags go";
-    EXPECT_EQ((std::vector{page.formatGore.nTekstKote, page.formatDole.nTekstKote,
-                           page.formatIzvor.nTekstKote, page.duzina.nUnitIndex, page.sirina.nUnitIndex,
-                           page.debljina.nUnitIndex, page.separator, page.polozaj, page.idConf}),
-              (std::vector{1, 2, 3, 4, 5, 6, 7, -1, 12}));
+    EXPECT_EQ(page.Flags(), std::vector<int>(8, 0)) << "only the flags go";
+    EXPECT_EQ(page.Values(), (std::vector{1, 2, 3, 4, 5, 6, 7, -1, 12}));
 }
 
 TEST(Page, WithoutADialogItIsANameOnly)
@@ -68,8 +69,6 @@ TEST(Page, WithoutADialogItIsANameOnly)
     EXPECT_EQ(NameOf(&page), "Beams");
     EXPECT_TRUE(page.GetPreviewID() == 0 && page.GetDialogTemplateID() == 0);
 }
-
-// ---- Memory below 4 GiB -----------------------------------------------------------------------------------
 
 TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApart)
 {

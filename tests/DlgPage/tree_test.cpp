@@ -2,8 +2,6 @@
 
 #include "PagesHost.h"
 
-#include "Handles.h"
-
 #include <memory>
 
 TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
@@ -29,7 +27,7 @@ TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
     };
     EXPECT_EQ(branch(m_selector.GetRootItem()), "Alpha(Gamma())Beta()Delta(Earlier()Later())lost()");
     EXPECT_EQ(m_selector.GetCurrentPage(), nullptr);
-    EXPECT_EQ(TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), "");
 }
 
 TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
@@ -39,22 +37,21 @@ TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
     CRect rect;
     m_selector.GetItemRect(m_selector.PageToItem(Page(idBeta)), rect, TRUE);
     owtest::Click(m_selector, rect.CenterPoint());
-    EXPECT_EQ(TakeCalls(), (Calls{"Beta after Alpha", "bind Beta", "focus fields"}))
-        << "in the order of registering";
+    EXPECT_EQ(TakeCalls(), "Beta after Alpha, bind Beta, focus fields") << "in the order of registering";
     EXPECT_TRUE(HasFocus(m_selector));
     EXPECT_EQ(m_selector.GetCurrentPage(), Page(idBeta));
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"Beta");
 
     for (const WORD key : {VK_UP, VK_RIGHT, VK_DOWN}) // the second opens the branch
         owtest::Press(key);
-    EXPECT_EQ(TakeSelections(), (Calls{"Alpha after Beta", "Gamma after Alpha"}));
+    EXPECT_EQ(TakeSelections(), "Alpha after Beta, Gamma after Alpha");
     EXPECT_TRUE(HasFocus(m_selector));
     EXPECT_EQ(m_host.Shown(), "Gamma");
 
     owtest::Press(VK_RETURN);
     EXPECT_TRUE(HasFocus(*m_host.GetDlgItem(IDC_NAME))) << "Enter moves on";
     EXPECT_EQ(m_host.oks, 0);
-    EXPECT_EQ(TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), "");
 }
 
 TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
@@ -63,7 +60,7 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     for (RecordingClient* pClient : {static_cast<RecordingClient*>(nullptr), &other})
         m_selector.RegisterSelectPageNotification(pClient, true);
     m_selector.SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(TakeSelections(), (Calls{"Gamma after -", "Gamma after -"}));
+    EXPECT_EQ(TakeSelections(), "Gamma after -, Gamma after -");
     EXPECT_TRUE(HasFocus(m_selector));
     for (RecordingClient* pClient : {&m_host.selects, &other}) // the first one stays
         m_selector.RegisterSelectPageNotification(pClient, false);
@@ -71,29 +68,13 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     for (CPage* pPage : {Page(idGamma), &strange, static_cast<RecordingPage*>(nullptr)})
         m_selector.SetCurrentPage(pPage);
     CPageTreeCtrl().SetCurrentPage(Page(idGamma));
-    EXPECT_EQ(TakeSelections(), Calls{});
+    EXPECT_EQ(TakeSelections(), "");
     m_selector.SelectItem(nullptr);
-    EXPECT_EQ(TakeSelections(), Calls{"- after Gamma"});
+    EXPECT_EQ(TakeSelections(), "- after Gamma");
     EXPECT_EQ(owtest::TextOf(m_host.caption), L"");
     NMTREEVIEW nothing{};
     LRESULT result = 1;
     m_selector.OnTvnSelchanged(&nothing.hdr, &result);
-    EXPECT_TRUE(result == 0 && TakeSelections() == Calls{"- after -"});
+    EXPECT_TRUE(result == 0 && TakeSelections() == "- after -");
     EXPECT_EQ(m_host.Shown(), "");
-}
-
-TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
-{
-    owtest::HandleCount before;
-    for (int i = 0; i < 15; ++i)
-    {
-        before = i == 5 ? owtest::CountHandles() : before;
-        PagesHost<OpenPageTree> host;
-        ASSERT_TRUE(host.Open());
-        for (const Identity id : {idAlpha, idGamma, idBeta})
-            host.selector.SetCurrentPage(host.Page(id));
-        host.UpdateWindow();
-        owtest::Pump();
-    }
-    EXPECT_EQ(owtest::CountHandles(), before);
 }
