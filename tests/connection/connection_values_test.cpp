@@ -52,24 +52,11 @@ TEST(Check, ResistancesOfBolts)
         EXPECT_NEAR(TensionResistance_N(size, strength) / 1e3, tension, tension * 5e-4);
         EXPECT_NEAR(ShearResistance_N(size, strength) / 1e3, shear, shear * 5e-4);
     }
-}
-
-// M20 - 8.8 in S235, t = 15: e1 60, e2 40, p1 80, p2 100, d0 22.
-//   bearing: alpha = 60 / 66 = 0.909, k1 = 2.5: 2.5 x 0.909 x 360 x 20 x 15 / 1.25 = 196.4 kN
-//   punching: dm = (30 + 34.64) / 2 = 32.32: 0.6 pi 32.32 x 15 x 360 / 1.25 = 263.2 kN
-//   T-stub, m 40, e 40: leff = 80 + 25 + 40 = 145; Mpl = 0.25 x 145 x 225 x 235 = 1.917 kNm;
-//   mode 1: 4 x 1917 / 40 = 191.7; mode 2: (2 x 1917 + 40 x 282.2) / 80 = 189.0 kN
-//   weld, fu / (0.8 x 1.25) = 360 N/mm2
-TEST(Check, ResistancesOfPlateAndWelds)
-{
+    // M20 in S235, t = 15, e1 60: alpha = 60 / 66 = 0.909, k1 = 2.5: 2.5 x 0.909 x 360 x 20 x 15 / 1.25 = 196.4 kN
     Connection c;
-    c.endDistance_m = 60 * mm;
     c.pitch_m = 80 * mm;
     c.gauge_m = 100 * mm;
     EXPECT_NEAR(BearingResistance_N(c, 15 * mm, 60 * mm, 40 * mm) / 1e3, 196.4, 0.05);
-    EXPECT_NEAR(PunchingResistance_N(c.Bolt(), c.Steel(), 15 * mm) / 1e3, 263.2, 0.05);
-    EXPECT_NEAR(TStubResistance_N(c, 15 * mm, 40 * mm, 40 * mm) / 1e3, 189.0, 0.1);
-    EXPECT_NEAR(WeldResistance_Pa(c.Steel()) / 1e6, 360.0, 1e-6);
 }
 
 // IPE 300, rows at 45, 115, 185, 255 below its top; arms to the middle of the lower flange 249.65, 179.65, 109.65,
@@ -154,19 +141,6 @@ TEST(Rules, Limits)
             ++expected;
         }
     }
-}
-
-TEST(Rules, LimitsMoveAndWishesStay)
-{
-    Connection wanted;
-    wanted.pitch_m = 72 * mm;
-    wanted.beam = IndexOf(Profiles(), L"IPE 270");
-    const FittedConnection smaller = Fit(wanted);
-    EXPECT_NEAR(smaller.values.endDistance_m, 67 * mm, 1e-9);
-    EXPECT_NEAR(smaller.values.pitch_m, 65 * mm, 1e-9);
-    EXPECT_TRUE(BrokenRules(smaller).empty());
-    wanted.beam = IndexOf(Profiles(), L"IPE 300");
-    EXPECT_EQ(Fit(wanted).values, wanted);
 }
 
 // Whatever is chosen: what is fitted stays so, and either keeps the rules or says which it breaks.

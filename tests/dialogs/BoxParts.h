@@ -17,15 +17,8 @@ constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessag
 using owtest::TextOf;
 using Visitor = owtest::ModalVisit::Visitor;
 
-inline void PressEscape(CWnd&)
-{
-    owtest::Press(VK_ESCAPE);
-}
-
-inline void PressEnter(CWnd&)
-{
-    owtest::Press(VK_RETURN);
-}
+inline const Visitor PressEscape = [](CWnd&) { owtest::Press(VK_ESCAPE); };
+inline const Visitor PressEnter = [](CWnd&) { owtest::Press(VK_RETURN); };
 
 inline Visitor ClickOn(int id)
 {

@@ -64,7 +64,7 @@ TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
     EXPECT_EQ(Ask(L"Roof", PressEnter), Outcome(IDOK, L"Roof"));
     EXPECT_EQ(Ask(L"", typing(L"Floor 2", PressEnter)), Outcome(IDOK, L"Floor 2")) << "not in the list";
     EXPECT_EQ(Ask(L"Roof", typing(L"Floor", ClickOn(IDOK))), Outcome(IDOK, L"Floor")) << "typed over";
-    for (const Visitor& leave : {Visitor(PressEscape), close, ClickOn(IDCANCEL)})
+    for (const Visitor& leave : {PressEscape, close, ClickOn(IDCANCEL)})
         EXPECT_EQ(Ask(L"Roof", typing(L"Floor", leave)), Outcome(IDCANCEL, L"Roof"));
     EXPECT_EQ(Ask(L"Roof", typing(L" \b", PressEnter)), Outcome(IDOK, L"")) << "an empty name is a name";
 

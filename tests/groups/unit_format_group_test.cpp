@@ -116,23 +116,7 @@ TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
     Expect("in 1 7", "4 0 7");
 }
 
-TEST_F(UnitFormatGroup, AThreeStateButtonStoresTheStateBeforeTheClickAndIsNeverIndeterminateAgain)
-{
-    Open(BS_3STATE);
-    group.Update(true, false);
-    dialog.Click(idButton);
-    Expect(" 1 ", "3 0 4", {"1: 3 0 4"});
-    dialog.Click(idButton);
-    Expect(" 0 ", "3 1 4", {"1: 3 1 4"});
-    group.OnButtonClicked(idElsewhere);
-    Expect(" 1 ", "3 1 4"); // toggled for any id
-    Open(BS_AUTO3STATE);
-    group.Update(true, false);
-    dialog.Click(idButton);
-    EXPECT_EQ(dialog.Seen({idButton}), "0") << "the one that toggles by itself is left alone";
-}
-
-TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
+TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommonUntilAClick)
 {
     Open(BS_3STATE);
     record.nCheckFlag = 0;
@@ -146,6 +130,18 @@ TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommon)
     record.nUnitIndex = 0;
     group.Update(false, true);
     Expect("ft 1 4", "5 1 4");
+
+    group.Update(true, false);
+    dialog.Click(idButton);
+    Expect(" 1 ", "5 0 4", {"1: 5 0 4"}); // the state before the click
+    dialog.Click(idButton);
+    Expect(" 0 ", "5 1 4", {"1: 5 1 4"});
+    group.OnButtonClicked(idElsewhere);
+    Expect(" 1 ", "5 1 4"); // toggled for any id
+    Open(BS_AUTO3STATE);
+    group.Update(true, false);
+    dialog.Click(idButton);
+    EXPECT_EQ(dialog.Seen({idButton}), "0") << "the one that toggles by itself is left alone";
 }
 
 TEST_F(UnitFormatGroup, IsSilentWithoutARecord)

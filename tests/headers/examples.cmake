@@ -1,6 +1,7 @@
 # Makes one source of all examples in the public headers and the pages of tasks: the blocks between "// ```cpp" and
-# "// ```", or without slashes. What a reader fills in stands there as three dots. A block that opens with a class or the head of a function stands as it is, any
-# other becomes the body of a dialog's function.
+# "// ```", or without slashes, in a namespace of the header's name. What a reader fills in stands there as three dots.
+# A block that opens with a class or the head of a function stands as it is, any other becomes the body of a dialog's
+# function.
 #   cmake -DSOURCE_DIR=... -DHEADERS="room/Header.h ... ../docs/page.md ..." -DOUTPUT=... -P examples.cmake
 cmake_minimum_required(VERSION 3.21)
 string(REPLACE " " ";" HEADERS "${HEADERS}")
@@ -15,7 +16,6 @@ foreach(header IN LISTS HEADERS)
     set(slashes "")
   endif()
   string(LENGTH "${slashes}```cpp\n" mark)
-  set(line 1)
   set(body "")
   while(TRUE)
     string(FIND "${text}" "${slashes}```cpp\n" begin)
@@ -23,7 +23,6 @@ foreach(header IN LISTS HEADERS)
       break()
     endif()
     math(EXPR begin "${begin} + ${mark}")
-    string(SUBSTRING "${text}" 0 ${begin} before)
     string(SUBSTRING "${text}" ${begin} -1 text)
     string(FIND "${text}" "${slashes}```\n" end)
     if(end EQUAL -1)
@@ -32,24 +31,15 @@ foreach(header IN LISTS HEADERS)
     string(SUBSTRING "${text}" 0 ${end} example)
     string(SUBSTRING "${text}" ${end} -1 text)
 
-    string(REGEX REPLACE "[^\n]" "" newlines "${before}")
-    string(LENGTH "${newlines}" lines)
-    math(EXPR line "${line} + ${lines}")
-    set(position "#line ${line} \"${SOURCE_DIR}/${header}\"\n")
-    string(REGEX REPLACE "[^\n]" "" newlines "${example}")
-    string(LENGTH "${newlines}" lines)
-    math(EXPR line "${line} + ${lines}")
-
     string(REGEX REPLACE "^// ? ? ? ? ?" "" example "${example}")
     string(REGEX REPLACE "\n// ? ? ? ? ?" "\n" example "${example}")
     string(REPLACE "{ ... }" "{}" example "${example}")
     string(REPLACE "..." ";" example "${example}")
     if(NOT example MATCHES "^(class|void|int|BOOL) ")
-      set(example "void CExampleDialog::Example${count}()\n{\n${position}${example}}\n")
+      set(example "void CExampleDialog::Example${count}()\n{\n${example}}\n")
       string(APPEND functions "    void Example${count}();\n")
-      set(position "")
     endif()
-    string(APPEND body "${position}${example}")
+    string(APPEND body "${example}")
     math(EXPR count "${count} + 1")
   endwhile()
 

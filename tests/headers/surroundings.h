@@ -48,12 +48,6 @@ class CPatternSet : public AConfigSet
     CString GetConfigName(int nIndex) override;
 };
 
-class CLayerTable
-{
-public:
-    void GetNames(CStringArray& names);
-};
-
 class CSurroundings : public CDialog,
                       public APageFrameProvider,
                       public AButtonSTNotificationHandler,
@@ -72,7 +66,10 @@ protected:
     CStatic m_label;
     CButtonST m_btn;
     CColorBtnST m_btnFill;
-    CLayerTable m_layers;
+    struct
+    {
+        void GetNames(CStringArray& names);
+    } m_layers;
     CString strText, strCaption;
     DWORD m_crFill;
     int nBeams, nButtons;

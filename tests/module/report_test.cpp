@@ -117,7 +117,8 @@ TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
 TEST_F(FatalReport, PercentSignsInTheNameOfAModuleAreWrittenAsTheyStand)
 {
     const fs::path program = fs::path(owtest::ProgramPath()).parent_path() / L"100%s%n.exe";
-    fs::copy_file(owtest::ProgramPath(), program, fs::copy_options::overwrite_existing);
+    fs::remove(program); // of a run that was broken off
+    fs::copy_file(owtest::ProgramPath(), program);
     const owtest::ChildResult result = Run("failed_assert", program);
     fs::remove(program);
     owtest::ExpectFailedAssert(result, kAssertText);

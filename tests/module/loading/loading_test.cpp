@@ -26,7 +26,8 @@ fs::path Library()
 owtest::ChildResult LoadSpoilt(LPCWSTR type, int id)
 {
     const fs::path path = fs::temp_directory_path() / L"ow_spoilt_library.dll";
-    fs::copy_file(Library(), path, fs::copy_options::overwrite_existing);
+    fs::remove(path); // of a run that was broken off
+    fs::copy_file(Library(), path);
     const HANDLE update = ::BeginUpdateResourceW(path.c_str(), FALSE);
     WORD nothing = 0;
     EXPECT_TRUE(::UpdateResourceW(update, type, MAKEINTRESOURCE(id), kLanguage, &nothing, sizeof nothing));
