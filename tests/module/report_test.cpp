@@ -10,7 +10,6 @@
 #include <filesystem>
 #include <fstream>
 #include <regex>
-#include <sstream>
 
 namespace fs = std::filesystem;
 
@@ -38,27 +37,18 @@ protected:
     fs::path TmpLog() const { return m_base / L"tmp" / L"owserror.log"; }
     fs::path CurrentLog() const { return m_base / L"current" / L"owserror.log"; }
 
-    /// With a name of at least so many characters for the directory.
-    owtest::ChildResult Run(const char* scenario, const fs::path& program = {}, size_t nTmpLength = 0) const
+    /// In the current directory of the test, and with its other one for TMP if the options say nothing of that.
+    owtest::ChildResult Run(const char* scenario, owtest::ChildOptions options = {}) const
     {
-        std::wstring tmp = (m_base / L"tmp").wstring();
-        tmp.resize(std::max(tmp.size(), nTmpLength), L'\\');
-        return owtest::RunChild(scenario, {.environment = {{L"TMP", tmp}},
-                                           .directory = (m_base / L"current").wstring(),
-                                           .program = program.wstring()});
+        options.directory = (m_base / L"current").wstring();
+        if (options.unset.empty())
+            options.environment.emplace(L"TMP", (m_base / L"tmp").wstring());
+        return owtest::RunChild(scenario, options);
     }
-    owtest::ChildResult RunWithoutTmp() const
-    {
-        return owtest::RunChild("failed_assert",
-                                {.unset = {L"TMP"}, .directory = (m_base / L"current").wstring()});
-    }
-
     static std::string Read(const fs::path& path)
     {
         std::ifstream file(path);
-        std::ostringstream text;
-        text << file.rdbuf();
-        return text.str();
+        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     fs::path m_base;
@@ -119,7 +109,7 @@ TEST_F(FatalReport, PercentSignsInTheNameOfAModuleAreWrittenAsTheyStand)
     const fs::path program = fs::path(owtest::ProgramPath()).parent_path() / L"100%s%n.exe";
     fs::remove(program); // of a run that was broken off
     fs::copy_file(owtest::ProgramPath(), program);
-    const owtest::ChildResult result = Run("failed_assert", program);
+    const owtest::ChildResult result = Run("failed_assert", {.program = program.wstring()});
     fs::remove(program);
     owtest::ExpectFailedAssert(result, kAssertText);
     const std::string log = Read(RootLog());
@@ -137,17 +127,20 @@ TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeW
     for (const bool bRead : {true, false}) // as many characters as are read, and one more
     {
         fs::remove(TmpLog());
-        Run("failed_assert", {}, bRead ? 249 : 250);
+        std::wstring tmp = (m_base / L"tmp").wstring();
+        tmp.resize(bRead ? 249 : 250, L'\\');
+        Run("failed_assert", {.environment = {{L"TMP", tmp}}});
         EXPECT_TRUE(fs::exists(TmpLog()) == bRead && fs::exists(CurrentLog()) != bRead);
     }
     fs::remove(CurrentLog());
-    RunWithoutTmp();
+    Run("failed_assert", {.unset = {L"TMP"}});
     ExpectAssertReport(Read(CurrentLog()));
     EXPECT_FALSE(fs::exists(TmpLog()));
 
     fs::remove(CurrentLog());
     fs::create_directory(CurrentLog());
-    owtest::ExpectFailedAssert(RunWithoutTmp(), kAssertText); // the box is shown all the same
+    // The box is shown all the same.
+    owtest::ExpectFailedAssert(Run("failed_assert", {.unset = {L"TMP"}}), kAssertText);
 }
 
 TEST_F(FatalReport, ALongExpressionIsCutInTheBoxAndWholeInTheLog)
