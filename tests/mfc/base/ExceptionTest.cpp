@@ -165,6 +165,7 @@ TEST(Exception, ReportsItsMessageOrTheGivenOne)
             {
                 constexpr int messageId = 0xFFFF;
                 box.GetDlgItemText(messageId, text);
+                EXPECT_EQ(owtest::TextOf(box), AfxGetAppName());
                 box.SendMessage(WM_COMMAND, IDOK);
             });
         EXPECT_EQ(e.ReportError(MB_OK, IDS_GREETING), IDOK);

@@ -62,9 +62,7 @@ TEST(Time, IsMadeOfLocalPartsAndGivesThemBack)
     EXPECT_EQ(parts.wDayOfWeek, 4);
     EXPECT_EQ(parts.wMilliseconds, 0);
     EXPECT_EQ(CTime(86400 * 365).FormatGmt(L"%Y-%m-%d %H"), L"1971-01-01 00");
-    struct tm gmt
-    {
-    };
+    tm gmt{};
     EXPECT_EQ(CTime(5).GetGmtTm(&gmt), &gmt);
     EXPECT_EQ(gmt.tm_sec, 5);
     EXPECT_LE(CTime::GetCurrentTime() - CTime(::_time64(nullptr)), CTimeSpan(0));
@@ -106,9 +104,7 @@ TEST(Time, ThatDoesNotExistIsRefusedOrAnswersNothing)
 
     const CTime never(static_cast<__time64_t>(1) << 60);
     SYSTEMTIME parts{};
-    struct tm local
-    {
-    };
+    tm local{};
     EXPECT_FALSE(never.GetAsSystemTime(parts));
     EXPECT_EQ(never.GetLocalTm(&local), nullptr);
     EXPECT_EQ(never.GetGmtTm(&local), nullptr);

@@ -101,19 +101,15 @@ TEST(FileDialog, TellsOfASelectionThatChanges)
     struct Dialog : CFileDialog
     {
         Dialog() : CFileDialog(TRUE) {}
-        UINT told[3]{};
+        std::vector<UINT> told;
         void OnLBSelChangedNotify(UINT box, UINT selection, UINT code) override
         {
-            told[0] = box;
-            told[1] = selection;
-            told[2] = code;
+            told = {box, selection, code};
         }
         using CFileDialog::WindowProc;
     } dialog;
     dialog.WindowProc(::RegisterWindowMessage(LBSELCHSTRING), 1120, MAKELPARAM(3, CD_LBSELCHANGE));
-    EXPECT_EQ(dialog.told[0], 1120u);
-    EXPECT_EQ(dialog.told[1], 3u);
-    EXPECT_EQ(dialog.told[2], UINT{CD_LBSELCHANGE});
+    EXPECT_EQ(dialog.told, (std::vector<UINT>{1120, 3, CD_LBSELCHANGE}));
 }
 
 TEST(ColorDialog, StartsFromTheColourAndAnswersIt)

@@ -122,6 +122,36 @@ TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
     EXPECT_GE(window.m_paints, 1);
 }
 
+struct CMainApp : CWinApp
+{
+    BOOL begins = FALSE;
+    BOOL InitInstance() override { return begins; }
+    int Run() override { return 7; }
+    int ExitInstance() override { return 5; }
+};
+using Program = WithApplication<CMainApp>;
+
+TEST_F(Program, RunsIfItBeginsAndElseEndsWithItsWindow)
+{
+    TCHAR arguments[] = L"part.dat";
+    const auto run = [&]
+    {
+        const int code = AfxWinMain(AfxGetInstanceHandle(), nullptr, arguments, SW_SHOWNA);
+        AfxInitThread(); // the test goes on
+        return code;
+    };
+    CWnd main;
+    ASSERT_TRUE(CreatePopup(main));
+    app->m_pMainWnd = &main;
+    EXPECT_EQ(run(), 5);
+    EXPECT_EQ(main.m_hWnd, nullptr);
+    TakeQuitMessage();
+    EXPECT_STREQ(app->m_lpCmdLine, arguments);
+    EXPECT_EQ(app->m_nCmdShow, SW_SHOWNA);
+    app->begins = TRUE;
+    EXPECT_EQ(run(), 7);
+}
+
 class CTestFrame : public CFrameWnd
 {
 public:

@@ -39,6 +39,7 @@ protected:
     {
         app.reset();
         AfxGetModuleState()->m_pCurrentWinApp = m_programs;
+        AfxGetModuleState()->m_lpszCurrentAppName = m_programs->m_pszAppName;
         AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
     }
 

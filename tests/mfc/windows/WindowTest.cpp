@@ -147,41 +147,6 @@ TEST(Window, AHandlerMayThrowOrDestroyItsWindow)
     EXPECT_EQ(window.m_postNcDestroy, 1);
 }
 
-class CSelfDeleting : public CWnd
-{
-public:
-    explicit CSelfDeleting(int& alive) : m_alive(alive) { ++m_alive; }
-    ~CSelfDeleting() override { --m_alive; }
-
-protected:
-    void PostNcDestroy() override { delete this; }
-    int& m_alive;
-};
-
-TEST(Window, AnObjectMayDeleteItselfAsItsWindowEnds)
-{
-    int alive = 0;
-    auto* const window = new CSelfDeleting(alive);
-    ASSERT_TRUE(CreatePopup(*window));
-    window->DestroyWindow();
-    EXPECT_EQ(alive, 0);
-
-    // Also where the window never came to be.
-    auto* const failed = new CSelfDeleting(alive);
-    EXPECT_FALSE(failed->CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
-    EXPECT_EQ(alive, 0);
-}
-
-TEST(Window, TheMainWindowEndsTheProgram)
-{
-    CWnd main;
-    ASSERT_TRUE(CreatePopup(main));
-    AfxGetThread()->m_pMainWnd = &main;
-    main.DestroyWindow();
-    EXPECT_EQ(AfxGetMainWnd(), nullptr);
-    EXPECT_TRUE(TakeQuitMessage());
-}
-
 TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTimeUnlessItIsAttached)
 {
     const HWND foreign = MakeStatic();

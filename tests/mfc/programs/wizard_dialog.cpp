@@ -1,6 +1,18 @@
 // A dialog application as a wizard makes it, with two values, a button, and an About box in the system menu.
 
-#include "stdafx.h"
+#define VC_EXTRALEAN
+#define _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
+#define _AFX_ALL_WARNINGS
+
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxdisp.h>
+#include <afxdtctl.h>
+#include <afxcmn.h>
+#include <afxdlgs.h>
+#include <afxmt.h>
+#include <afxole.h>
+
 #include "resource.h"
 
 class CWizardApp : public CWinApp
@@ -41,7 +53,6 @@ protected:
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg HCURSOR OnQueryDragIcon() { return static_cast<HCURSOR>(m_hIcon); }
     afx_msg void OnBnClickedGreet();
-    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -62,7 +73,6 @@ void CWizardDlg::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CWizardDlg, CDialog)
     ON_WM_SYSCOMMAND()
     ON_WM_QUERYDRAGICON()
-    ON_WM_HELPINFO()
     ON_BN_CLICKED(IDC_GREET, &CWizardDlg::OnBnClickedGreet)
 END_MESSAGE_MAP()
 
@@ -96,14 +106,6 @@ void CWizardDlg::OnSysCommand(UINT nID, LPARAM lParam)
     {
         CDialog::OnSysCommand(nID, lParam);
     }
-}
-
-BOOL CWizardDlg::OnHelpInfo(HELPINFO* pHelpInfo)
-{
-    CString strHelp;
-    strHelp.Format(_T("help for %d"), pHelpInfo->iCtrlId);
-    SetDlgItemText(IDC_STATE, strHelp);
-    return TRUE;
 }
 
 void CWizardDlg::OnBnClickedGreet()
