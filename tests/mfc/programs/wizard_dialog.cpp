@@ -1,4 +1,4 @@
-// A dialog application as a wizard makes it, with two values, a button, and an About box in the system menu.
+// A dialog application as a wizard makes it, with two values, and an About box in the system menu.
 
 #define VC_EXTRALEAN
 #define _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
@@ -52,7 +52,6 @@ protected:
 
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
     afx_msg HCURSOR OnQueryDragIcon() { return static_cast<HCURSOR>(m_hIcon); }
-    afx_msg void OnBnClickedGreet();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -73,7 +72,6 @@ void CWizardDlg::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CWizardDlg, CDialog)
     ON_WM_SYSCOMMAND()
     ON_WM_QUERYDRAGICON()
-    ON_BN_CLICKED(IDC_GREET, &CWizardDlg::OnBnClickedGreet)
 END_MESSAGE_MAP()
 
 BOOL CWizardDlg::OnInitDialog()
@@ -106,15 +104,6 @@ void CWizardDlg::OnSysCommand(UINT nID, LPARAM lParam)
     {
         CDialog::OnSysCommand(nID, lParam);
     }
-}
-
-void CWizardDlg::OnBnClickedGreet()
-{
-    if (!UpdateData(TRUE))
-        return;
-    CString strText;
-    strText.Format(_T("%d x %s"), m_nCount, m_strName.GetString());
-    SetDlgItemText(IDC_STATE, strText);
 }
 
 BOOL CWizardApp::InitInstance()

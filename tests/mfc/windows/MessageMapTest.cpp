@@ -384,32 +384,28 @@ TEST_F(MessageMap, BroadcastsOfTheSystemAreHandedDownByTheTopLevelWindowOnly)
 {
     struct CListener : CWnd
     {
-        std::vector<Trace::value_type> m_heard;
         LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
-            m_heard.push_back(std::to_string(message) + ' ' + std::to_string(wParam) + ' ' +
-                              std::to_string(lParam));
+            Enter("heard", GetDlgCtrlID(), message, wParam, lParam);
             return CWnd::WindowProc(message, wParam, lParam);
         }
     } child, grandChild;
     ASSERT_TRUE(CreateChild(child, parent, 1));
-    ASSERT_TRUE(CreateChild(grandChild, child, 1));
+    ASSERT_TRUE(CreateChild(grandChild, child, 2));
     static int foreignHeard;
     foreignHeard = 0;
     const WNDPROC count = [](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return ++foreignHeard; };
     ::SetWindowLongPtr(foreign, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(count));
     for (UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_DISPLAYCHANGE})
     {
-        const bool carries = message != WM_SYSCOLORCHANGE;
-        child.m_heard.clear();
-        grandChild.m_heard.clear();
+        const std::string heard =
+            ' ' + std::to_string(message) + (message == WM_SYSCOLORCHANGE ? " 0 0" : " 5 0");
+        trace.clear();
         child.SendMessage(message, 5, 0);
-        EXPECT_TRUE(grandChild.m_heard.empty());
-        child.m_heard.clear();
-        parent.SendMessage(message, carries ? 5 : 0, 0);
-        const Trace heard{std::to_string(message) + (carries ? " 5 0" : " 0 0")};
-        EXPECT_EQ(child.m_heard, heard);
-        EXPECT_EQ(grandChild.m_heard, heard);
+        EXPECT_EQ(trace, Trace{"heard 1 " + std::to_string(message) + " 5 0"});
+        trace.clear();
+        parent.SendMessage(message, message == WM_SYSCOLORCHANGE ? 0 : 5, 0);
+        EXPECT_EQ(trace, (Trace{"heard 1" + heard, "heard 2" + heard}));
     }
     EXPECT_EQ(foreignHeard, 0) << "windows with objects only";
     EXPECT_FALSE(child.SendChildNotifyLastMsg()) << "no message that is given back";

@@ -120,6 +120,7 @@ TEST_F(Sheet, AModelessOneHasNoButtonsAndTheStyleThatIsWanted)
 {
     ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | DS_SETFONT | WS_SYSMENU, WS_EX_TOOLWINDOW));
     EXPECT_NE(sheet.GetExStyle() & WS_EX_TOOLWINDOW, 0u);
+    EXPECT_EQ(sheet.GetStyle() & DS_MODALFRAME, 0u);
     CRect client;
     sheet.GetClientRect(&client);
     for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW})
