@@ -117,6 +117,11 @@ TEST(ToolTip, ToolsAreWholeWindowsOrRectanglesAlsoOfDisabledControls)
     EXPECT_TRUE(tip.GetToolInfo(info, &button));
     EXPECT_NE(info.uFlags & TTF_IDISHWND, 0u);
     EXPECT_FALSE(tip.GetToolInfo(info, &host, 6));
+    const CRect moved(1, 2, 3, 4);
+    tip.SetToolRect(&host, 5, &moved);
+    TOOLINFO tool = {TTTOOLINFO_V1_SIZE, 0, host, 5};
+    EXPECT_TRUE(tip.SendMessage(TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool)));
+    EXPECT_EQ(moved, CRect(tool.rect));
     tip.DelTool(&button);
     EXPECT_EQ(tip.GetToolCount(), 1);
 

@@ -237,6 +237,7 @@ TEST(ToolBar, KnowsItsButtonsTextsAndStates)
     ASSERT_TRUE(bar.AddButtons(3, buttons));
     EXPECT_EQ(bar.GetButtonCount(), 3);
     EXPECT_EQ(bar.GetString(1), L"paste");
+    EXPECT_EQ(bar.AddString(AFX_IDP_FAILED_TO_LAUNCH_HELP), 2);
     bar.EnableButton(10, FALSE);
     bar.CheckButton(11);
     bar.HideButton(12);
@@ -252,7 +253,8 @@ TEST(ToolBar, KnowsItsButtonsTextsAndStates)
     info.dwMask = TBIF_LPARAM;
     info.lParam = 44;
     EXPECT_TRUE(bar.SetButtonInfo(11, &info));
-    info.lParam = 0;
+    info = {};
+    info.dwMask = TBIF_LPARAM;
     EXPECT_TRUE(bar.GetButtonInfo(11, &info));
     EXPECT_EQ(info.lParam, 44u);
     EXPECT_FALSE(bar.GetButtonInfo(99, &info));

@@ -210,6 +210,10 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
         {[&](CDC& dc) { return dc.IntersectClipRect(CRect(0, 0, 10, 10)); }, SIMPLEREGION},
         {[&](CDC& dc) { return dc.ExcludeClipRect(CRect(0, 0, 9, 40)); }, SIMPLEREGION},
         {[&](CDC& dc) { return dc.SelectClipRgn(nullptr); }, SIMPLEREGION},
+        {[&](CDC& dc) {
+             return dc.BeginPath() && dc.Rectangle(0, 0, 7, 7) && dc.EndPath() && dc.SelectClipPath(RGN_COPY);
+         },
+         TRUE},
     };
     MemoryDC output;
     MemoryDC attributes;
