@@ -119,9 +119,9 @@ TEST(ToolTip, ToolsAreWholeWindowsOrRectanglesAlsoOfDisabledControls)
     EXPECT_FALSE(tip.GetToolInfo(info, &host, 6));
     const CRect moved(1, 2, 3, 4);
     tip.SetToolRect(&host, 5, &moved);
-    TOOLINFO tool = {TTTOOLINFO_V1_SIZE, 0, host, 5};
-    EXPECT_TRUE(tip.SendMessage(TTM_GETTOOLINFO, 0, reinterpret_cast<LPARAM>(&tool)));
-    EXPECT_EQ(moved, CRect(tool.rect));
+    EXPECT_TRUE(tip.GetToolInfo(info, &host, 5));
+    EXPECT_EQ(info.hwnd, host.m_hWnd);
+    EXPECT_EQ(moved, CRect(info.rect));
     tip.DelTool(&button);
     EXPECT_EQ(tip.GetToolCount(), 1);
 

@@ -237,7 +237,8 @@ TEST(ToolBar, KnowsItsButtonsTextsAndStates)
     ASSERT_TRUE(bar.AddButtons(3, buttons));
     EXPECT_EQ(bar.GetButtonCount(), 3);
     EXPECT_EQ(bar.GetString(1), L"paste");
-    EXPECT_EQ(bar.AddString(AFX_IDP_FAILED_TO_LAUNCH_HELP), 2);
+    EXPECT_EQ(bar.AddString(7), 2);
+    EXPECT_EQ(bar.GetString(2), L"of a table");
     bar.EnableButton(10, FALSE);
     bar.CheckButton(11);
     bar.HideButton(12);
@@ -365,34 +366,28 @@ END_MESSAGE_MAP()
 TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
 {
     TippedHost host;
-    const auto over = [](const CWnd& control)
+    const auto showsOver = [](const CWnd& control, std::wstring_view text)
     {
         owtest::MoveTo(control.m_hWnd, CPoint(5, 5));
         owtest::MoveTo(control.m_hWnd, CPoint(6, 6));
+        return TippedHost::Shows(text);
     };
-    over(host.first);
-    EXPECT_TRUE(host.Shows(L"first"));
-    over(host.second);
-    EXPECT_TRUE(host.Shows(L"second"));
-    over(host.label);
-    EXPECT_TRUE(host.Shows(L""));
-    over(host.second);
-    EXPECT_TRUE(host.Shows(L"second"));
+    EXPECT_TRUE(showsOver(host.first, L"first"));
+    EXPECT_TRUE(showsOver(host.second, L"second"));
+    EXPECT_TRUE(showsOver(host.label, L""));
+    EXPECT_TRUE(showsOver(host.second, L"second"));
     owtest::Click(host.second.m_hWnd);
     EXPECT_TRUE(host.Shows(L""));
-    over(host.first);
-    EXPECT_TRUE(host.Shows(L"first"));
+    EXPECT_TRUE(showsOver(host.first, L"first"));
     owtest::Press(VK_SPACE);
     EXPECT_TRUE(host.Shows(L""));
-    over(host.second);
-    EXPECT_TRUE(host.Shows(L"second"));
+    EXPECT_TRUE(showsOver(host.second, L"second"));
     host.EnableToolTips(FALSE);
     EXPECT_TRUE(host.Shows(L""));
     host.EnableToolTips();
     Host active;
     active.MoveWindow(500, 500, 50, 50);
     host.always = TTF_ALWAYSTIP; // also in a window that is not active
-    over(host.first);
-    EXPECT_TRUE(host.Shows(L"first"));
+    EXPECT_TRUE(showsOver(host.first, L"first"));
 }
 } // namespace

@@ -117,7 +117,6 @@ BOOL CWizardApp::InitInstance()
 
     CWizardDlg dlg;
     m_pMainWnd = &dlg;
-    const INT_PTR nResponse = dlg.DoModal();
-    WriteProfileInt(_T("Wizard"), _T("Response"), static_cast<int>(nResponse));
+    dlg.DoModal();
     return FALSE;
 }
