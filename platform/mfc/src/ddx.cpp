@@ -114,7 +114,6 @@ bool ParseInteger(LPCTSTR text, Number& value)
 
 bool ParseReal(LPCTSTR text, double& value)
 {
-    text = SkipBlanks(text);
     LPTSTR end = nullptr;
     const double read = ::wcstod(text, &end);
     if (end == text || *SkipBlanks(end) != 0)

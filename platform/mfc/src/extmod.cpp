@@ -6,10 +6,9 @@
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
 CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL bSystem)
-    : m_hModule(state.hModule), m_hResource(state.hResource), m_bSystem(bSystem)
+    : CDynLinkLibrary(state.hModule, state.hResource)
 {
-    auto& chain = AfxGetAppModuleState()->m_libraryList;
-    chain.insert(chain.begin(), this);
+    m_bSystem = bSystem;
 }
 
 CDynLinkLibrary::CDynLinkLibrary(HINSTANCE hModule, HINSTANCE hResource)

@@ -89,22 +89,11 @@ TEST(Exception, TypesAreKnownAcrossModules)
     EXPECT_THROW(AfxThrowUserException(), CUserException*) << "by the exact class";
     EXPECT_THROW(AfxThrowUserException(), CSimpleException*) << "by a base";
 
-    const CException* former = nullptr; // a memory exception is one object for all
-    for (int round = 0; round < 2; ++round)
-    {
-        try
-        {
-            CObject::operator new(size_t(1) << 60);
-            FAIL();
-        }
-        catch (CMemoryException* e)
-        {
-            e->Delete();
-            EXPECT_FALSE(MessageOf(*e).IsEmpty()) << "still alive";
-            EXPECT_TRUE(former == nullptr || former == e);
-            former = e;
-        }
-    }
+    const auto ask = [] { CObject::operator new(size_t(1) << 60); };
+    EXPECT_EQ(ThrownBy(ask), "CMemoryException");
+    CException* const e = Thrown(ask).get();
+    EXPECT_EQ(Thrown(ask).get(), e) << "one object for all";
+    EXPECT_FALSE(MessageOf(*e).IsEmpty()) << "still alive";
 }
 
 TEST(Exception, MessagesComeFromResourcesAndAreCutToTheBuffer)
@@ -140,18 +129,12 @@ TEST(Exception, FileExceptionsNameTheFileAndTheCause)
     EXPECT_EQ(CFileException::OsErrorToException(ERROR_SHARING_VIOLATION), CFileException::sharingViolation);
     EXPECT_EQ(CFileException::OsErrorToException(0x7FFF), CFileException::genericException);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
-    try
-    {
-        CFileException::ThrowOsError(ERROR_ACCESS_DENIED, L"name");
-        FAIL();
-    }
-    catch (CFileException* thrown)
-    {
-        EXPECT_EQ(thrown->m_cause, CFileException::accessDenied);
-        EXPECT_EQ(thrown->m_lOsError, ERROR_ACCESS_DENIED);
-        EXPECT_STREQ(thrown->m_strFileName, L"name");
-        thrown->Delete();
-    }
+    const auto thrown = Thrown([] { CFileException::ThrowOsError(ERROR_ACCESS_DENIED, L"name"); });
+    const auto* const denied = DYNAMIC_DOWNCAST(CFileException, thrown.get());
+    ASSERT_NE(denied, nullptr);
+    EXPECT_EQ(denied->m_cause, CFileException::accessDenied);
+    EXPECT_EQ(denied->m_lOsError, ERROR_ACCESS_DENIED);
+    EXPECT_STREQ(denied->m_strFileName, L"name");
     EXPECT_EQ(ThrownBy([] { CFileException::ThrowOsError(0); }), "") << "no error is no exception";
 }
 

@@ -59,17 +59,9 @@ protected:
 template <typename FUNCTION>
 int CauseThrownBy(FUNCTION function)
 {
-    try
-    {
-        function();
-    }
-    catch (CFileException* e)
-    {
-        const int cause = e->m_cause;
-        e->Delete();
-        return cause;
-    }
-    return CFileException::none;
+    const auto thrown = Thrown(function);
+    const auto* const e = DYNAMIC_DOWNCAST(CFileException, thrown.get());
+    return e != nullptr ? e->m_cause : CFileException::none;
 }
 
 /// Writes, reads, seeks and sets lengths at random, and expects the contents that a string has then.

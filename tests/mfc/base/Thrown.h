@@ -3,13 +3,14 @@
 
 #include <afx.h>
 
+#include <memory>
 #include <string>
 
 inline constexpr char kInvalidArg[] = "CInvalidArgException";
 
-/// The class name of the MFC exception that the function throws, which is given back; empty for none.
+/// The MFC exception that the function throws, which goes with the answer; null for none.
 template <typename FUNCTION>
-std::string ThrownBy(FUNCTION function)
+std::shared_ptr<CException> Thrown(FUNCTION function)
 {
     try
     {
@@ -17,11 +18,17 @@ std::string ThrownBy(FUNCTION function)
     }
     catch (CException* e)
     {
-        const std::string name = e->GetRuntimeClass()->m_lpszClassName;
-        e->Delete();
-        return name;
+        return {e, [](CException* thrown) { thrown->Delete(); }};
     }
-    return {};
+    return nullptr;
+}
+
+/// The class name of the exception; empty for none.
+template <typename FUNCTION>
+std::string ThrownBy(FUNCTION function)
+{
+    const auto e = Thrown(function);
+    return e ? e->GetRuntimeClass()->m_lpszClassName : "";
 }
 
 /// Whether the call answers an argument with MFC's exception. A debug build stops at the argument before that, so

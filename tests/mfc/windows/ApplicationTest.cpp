@@ -4,6 +4,8 @@
 
 #include <afxpriv.h>
 
+#include "ModalVisit.h"
+
 #include <string>
 
 namespace
@@ -15,7 +17,13 @@ public:
     using CWinApp::SetRegistryKey;
     int m_command = 0;
     CString m_boxText;
+    int m_filtered = 0;
 
+    BOOL ProcessMessageFilter(int code, LPMSG message) override
+    {
+        m_filtered += code == MSGF_DIALOGBOX;
+        return CWinApp::ProcessMessageFilter(code, message);
+    }
     int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override
     {
         m_boxText = lpszPrompt;
@@ -124,7 +132,13 @@ TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
 
 struct CMainApp : CWinApp
 {
-    BOOL begins = FALSE;
+    BOOL applies = TRUE, begins = FALSE;
+    static inline int ends = 0;
+    CMainApp()
+    {
+        m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { ++ends; };
+    }
+    BOOL InitApplication() override { return applies; }
     BOOL InitInstance() override { return begins; }
     int Run() override { return 7; }
     int ExitInstance() override { return 5; }
@@ -150,6 +164,9 @@ TEST_F(Program, RunsIfItBeginsAndElseEndsWithItsWindow)
     EXPECT_EQ(app->m_nCmdShow, SW_SHOWNA);
     app->begins = TRUE;
     EXPECT_EQ(run(), 7);
+    app->applies = FALSE;
+    EXPECT_EQ(run(), -1);
+    EXPECT_EQ(app->ends, 3);
 }
 
 class CTestFrame : public CFrameWnd
@@ -266,6 +283,13 @@ TEST_F(Application, MessagesThatChangeNothingDoNotBringIdleTime)
     EXPECT_FALSE(app->IsIdleMessage(&message));
     message.message = WM_KEYDOWN;
     EXPECT_TRUE(app->IsIdleMessage(&message));
+}
+
+TEST_F(Application, SeesTheMessagesOfTheSystemsOwnLoops)
+{
+    const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });
+    ::MessageBox(nullptr, L"text", L"title", MB_OK);
+    EXPECT_GT(app->m_filtered, 0);
 }
 
 TEST_F(Application, TheWaitCursorIsCounted)

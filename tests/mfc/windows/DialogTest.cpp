@@ -69,6 +69,8 @@ protected:
         if (!exchange->m_bSaveAndValidate)
         {
             ::SetWindowText(edit, m_text);
+            if (m_text == L"no value")
+                exchange->Fail();
             return;
         }
         GetDlgItemText(idEdit, m_text);
@@ -248,6 +250,10 @@ TEST_F(ModalDialog, MayEndBeforeItIsShownOrNeverBegin)
     dialog.m_onInit = [](CTextDialog& self) { self.EndDialog(23); };
     EXPECT_EQ(dialog.DoModal(), 23);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
+
+    dialog.m_onInit = nullptr;
+    dialog.m_text = L"no value";
+    EXPECT_EQ(dialog.DoModal(), -1);
 
     EXPECT_EQ(CDialog(4999u, &owner).DoModal(), -1);
     EXPECT_EQ(CDialog(L"no_such_dialog", &owner).DoModal(), -1);

@@ -7,22 +7,16 @@
 #include "DialogTemplate.h"
 #include "ImportStandIn.h"
 
+#include <string>
 #include <vector>
 
 namespace
 {
-struct Asked
-{
-    DWORD_PTR data;
-    UINT command;
-    bool html;
-    bool operator==(const Asked&) const = default;
-};
-std::vector<Asked> s_asked;
+std::vector<std::string> s_asked; ///< the system, command and data of each
 
 BOOL WINAPI NoteWinHelp(HWND, LPCWSTR file, UINT command, ULONG_PTR data)
 {
-    s_asked.push_back({data, command, false});
+    s_asked.push_back("win " + std::to_string(command) + ' ' + std::to_string(data));
     return file != nullptr;
 }
 
@@ -58,7 +52,7 @@ public:
     void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override
     {
         if (notesHtml)
-            s_asked.push_back({dwData, nCmd, true});
+            s_asked.push_back("html " + std::to_string(nCmd) + ' ' + std::to_string(dwData));
         else
             CDialog::HtmlHelp(dwData, nCmd);
     }
@@ -94,13 +88,13 @@ TEST_F(Help, F1AsksForTheDialogsContextOrElseForTheDefault)
     dialog.SetHelpID(77);
     EXPECT_EQ(dialog.SendMessage(WM_HELPHITTEST), 0x2004D);
     PressF1();
-    EXPECT_EQ(s_asked, std::vector<Asked>({{0x2004D, HELP_CONTEXT, false}}));
-    dialog.SendMessage(WM_COMMANDHELP, 0, 5); // somebody knew better
-    EXPECT_EQ(s_asked.back(), (Asked{5, HELP_CONTEXT, false}));
+    EXPECT_EQ(s_asked, std::vector<std::string>{"win 1 131149"}); // HELP_CONTEXT, 0x2004D
+    dialog.SendMessage(WM_COMMANDHELP, 0, 5);                     // somebody knew better
+    EXPECT_EQ(s_asked.back(), "win 1 5");
     EXPECT_EQ(app->indexAsked, 1);
     app->m_dwPromptContext = HID_BASE_PROMPT + 9; // a message box is open
     PressF1();
-    EXPECT_EQ(s_asked.back(), (Asked{HID_BASE_PROMPT + 9, HELP_CONTEXT, false}));
+    EXPECT_EQ(s_asked.back(), "win 1 196617"); // 0x30009
     app->m_dwPromptContext = HID_BASE_PROMPT + AFX_IDP_FAILED_TO_LAUNCH_HELP;
     PressF1();
     EXPECT_EQ(s_asked.size(), 3u);
@@ -116,13 +110,9 @@ TEST_F(Help, EachKindHasItsOwnNumbersAndAMissingFileIsTold)
     app->OnHelpIndex();
     app->OnHelpFinder();
     app->WinHelpInternal(12);
-    EXPECT_EQ(s_asked,
-              std::vector<Asked>({{0, HELP_INDEX, false},
-                                  {0, HELP_FINDER, false},
-                                  {0, HELP_HELPONHELP, false},
-                                  {0, 1, true},
-                                  {0, 0, true},
-                                  {12, 15, true}})); // HH_DISPLAY_TOC, HH_DISPLAY_TOPIC, HH_HELP_CONTEXT
+    // HELP_INDEX, HELP_FINDER, HELP_HELPONHELP; HH_DISPLAY_TOC, HH_DISPLAY_TOPIC, HH_HELP_CONTEXT
+    EXPECT_EQ(s_asked, (std::vector<std::string>{"win 3 0", "win 11 0", "win 4 0", "html 1 0", "html 0 0",
+                                                 "html 15 12"}));
     EXPECT_TRUE(app->boxText.IsEmpty());
     free(const_cast<LPTSTR>(std::exchange(app->m_pszHelpFilePath, nullptr)));
     dialog.WinHelp(1);

@@ -319,6 +319,8 @@ TEST_F(MessageMap, ColoursComeFromTheControlAndElseFromTheDefault)
               ::DefWindowProc(parent, WM_CTLCOLOREDIT, context, control))
         << "a null brush leaves the choice to the parent";
     EXPECT_EQ(trace.back(), "control's colour 1");
+    parent.SendMessage(WM_CTLCOLORMSGBOX, context, control);
+    EXPECT_EQ(trace.back(), "control's colour 0");
 }
 
 TEST_F(MessageMap, ItemsKeysAndScrollingAreGivenBackToTheControl)

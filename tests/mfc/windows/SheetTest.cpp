@@ -42,9 +42,6 @@ public:
     void OnOK() override { log += L'o'; }
     void OnCancel() override { log += L'c'; }
     BOOL OnQueryCancel() override { return (log += L'q', mayCancel); }
-    LRESULT OnWizardNext() override { return next; }
-    LRESULT OnWizardBack() override { return back; }
-    BOOL OnWizardFinish() override { return applies; }
 
     CString log;
     BOOL active = TRUE;
@@ -52,8 +49,6 @@ public:
     BOOL applies = TRUE;
     BOOL mayCancel = TRUE;
     LRESULT sibling = 0;
-    LRESULT next = 0;
-    LRESULT back = 0;
     CString value = L"value";
 
 protected:
@@ -216,55 +211,6 @@ TEST_F(Sheet, APageMayKeepItOpen)
         });
     EXPECT_EQ(sheet.DoModal(), IDOK);
     EXPECT_TRUE(refused);
-}
-
-TEST_F(Sheet, ControlWithTabOrAPageKeyChangesThePageUnlessThatKeepsTheUser)
-{
-    ASSERT_TRUE(sheet.Create());
-    ASSERT_TRUE(owtest::Activate(sheet));
-    const auto press = [&](WORD key)
-    {
-        owtest::Press(key, false, true);
-        return sheet.GetActiveIndex();
-    };
-    EXPECT_EQ(press(VK_TAB), 1);
-    EXPECT_EQ(press(VK_PRIOR), 0);
-    EXPECT_EQ(press(VK_NEXT), 1);
-    second.leaves = FALSE;
-    EXPECT_EQ(press(VK_TAB), 1);
-    sheet.DestroyWindow();
-}
-
-TEST_F(Sheet, AsAWizardFollowsWhatItsPagesSay)
-{
-    sheet.RemovePage(1);
-    sheet.AddPage(&third);
-    sheet.AddPage(&second);
-    sheet.SetWizardMode();
-    const auto press = [&](int button, DWORD buttons)
-    {
-        sheet.SetWizardButtons(buttons);
-        const HWND pressed = sheet.GetDlgItem(button)->m_hWnd;
-        EXPECT_TRUE(owtest::PumpUntil([=] { return ::IsWindowEnabled(pressed) != FALSE; }));
-        EXPECT_EQ(::IsWindowEnabled(sheet.GetDlgItem(ID_WIZBACK)->m_hWnd), (buttons & PSWIZB_BACK) != 0);
-        owtest::Click(pressed);
-        return sheet.m_hWnd != nullptr ? sheet.GetActivePage() : nullptr;
-    };
-    owtest::ModalVisit visit(
-        [&](CWnd&)
-        {
-            EXPECT_EQ(press(ID_WIZNEXT, PSWIZB_NEXT), &third);
-            EXPECT_EQ(press(ID_WIZBACK, PSWIZB_BACK), &first);
-            first.next = reinterpret_cast<LRESULT>(second.m_psp.pResource); // past the third
-            EXPECT_EQ(press(ID_WIZNEXT, PSWIZB_NEXT), &second);
-            second.back = -1;
-            EXPECT_EQ(press(ID_WIZBACK, PSWIZB_BACK), &second);
-            second.applies = FALSE;
-            EXPECT_EQ(press(ID_WIZFINISH, PSWIZB_BACK | PSWIZB_FINISH), &second);
-            second.applies = TRUE;
-            press(ID_WIZFINISH, PSWIZB_FINISH);
-        });
-    EXPECT_EQ(sheet.DoModal(), ID_WIZFINISH);
 }
 
 TEST_F(Sheet, TakesItsTextsPicturesAndPagesFromResources)

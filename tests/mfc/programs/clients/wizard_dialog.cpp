@@ -1,18 +1,6 @@
-// A dialog application as a wizard makes it, with two values, and an About box in the system menu.
+// A dialog application as a wizard makes it, with two values, a button, and an About box in the system menu.
 
-#define VC_EXTRALEAN
-#define _ATL_CSTRING_EXPLICIT_CONSTRUCTORS
-#define _AFX_ALL_WARNINGS
-
-#include <afxwin.h>
-#include <afxext.h>
-#include <afxdisp.h>
-#include <afxdtctl.h>
-#include <afxcmn.h>
-#include <afxdlgs.h>
-#include <afxmt.h>
-#include <afxole.h>
-
+#include "stdafx.h"
 #include "resource.h"
 
 class CWizardApp : public CWinApp
@@ -51,7 +39,10 @@ protected:
     virtual BOOL OnInitDialog();
 
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg HCURSOR OnQueryDragIcon() { return static_cast<HCURSOR>(m_hIcon); }
+    afx_msg void OnPaint();
+    afx_msg HCURSOR OnQueryDragIcon();
+    afx_msg void OnBnClickedGreet();
+    afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -71,12 +62,18 @@ void CWizardDlg::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CWizardDlg, CDialog)
     ON_WM_SYSCOMMAND()
+    ON_WM_PAINT()
     ON_WM_QUERYDRAGICON()
+    ON_WM_HELPINFO()
+    ON_BN_CLICKED(IDC_GREET, &CWizardDlg::OnBnClickedGreet)
 END_MESSAGE_MAP()
 
 BOOL CWizardDlg::OnInitDialog()
 {
     CDialog::OnInitDialog();
+
+    ASSERT((IDM_ABOUTBOX & 0xFFF0) == IDM_ABOUTBOX);
+    ASSERT(IDM_ABOUTBOX < 0xF000);
     CMenu* pSysMenu = GetSystemMenu(FALSE);
     if (pSysMenu != NULL)
     {
@@ -106,6 +103,43 @@ void CWizardDlg::OnSysCommand(UINT nID, LPARAM lParam)
     }
 }
 
+void CWizardDlg::OnPaint()
+{
+    if (!IsIconic())
+    {
+        CDialog::OnPaint();
+        return;
+    }
+    CPaintDC dc(this);
+    SendMessage(WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
+    CRect rect;
+    GetClientRect(&rect);
+    dc.DrawIcon((rect.Width() - GetSystemMetrics(SM_CXICON) + 1) / 2,
+                (rect.Height() - GetSystemMetrics(SM_CYICON) + 1) / 2, m_hIcon);
+}
+
+HCURSOR CWizardDlg::OnQueryDragIcon()
+{
+    return static_cast<HCURSOR>(m_hIcon);
+}
+
+BOOL CWizardDlg::OnHelpInfo(HELPINFO* pHelpInfo)
+{
+    CString strHelp;
+    strHelp.Format(_T("help for %d"), pHelpInfo->iCtrlId);
+    SetDlgItemText(IDC_STATE, strHelp);
+    return TRUE;
+}
+
+void CWizardDlg::OnBnClickedGreet()
+{
+    if (!UpdateData(TRUE))
+        return;
+    CString strText;
+    strText.Format(_T("%d x %s"), m_nCount, m_strName.GetString());
+    SetDlgItemText(IDC_STATE, strText);
+}
+
 BOOL CWizardApp::InitInstance()
 {
     INITCOMMONCONTROLSEX InitCtrls;
@@ -117,6 +151,7 @@ BOOL CWizardApp::InitInstance()
 
     CWizardDlg dlg;
     m_pMainWnd = &dlg;
-    dlg.DoModal();
+    const INT_PTR nResponse = dlg.DoModal();
+    WriteProfileInt(_T("Wizard"), _T("Response"), static_cast<int>(nResponse));
     return FALSE;
 }

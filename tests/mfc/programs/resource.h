@@ -1,9 +1,0 @@
-#pragma once
-
-#define IDM_ABOUTBOX 0x0010
-#define IDD_ABOUTBOX 100
-#define IDS_ABOUTBOX 101
-#define IDD_WIZARD_DIALOG 102
-#define IDR_MAINFRAME 128
-#define IDC_NAME 1001
-#define IDC_COUNT 1002
