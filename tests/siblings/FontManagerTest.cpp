@@ -40,7 +40,8 @@ TEST_F(FontManager, FindsTheInstalledFacesWhenItIsInitialised)
         EXPECT_TRUE(m_manager.Find(m_manager.Name(i).MakeUpper()) == i && m_manager.Name(i)[0] != L'@');
         EXPECT_EQ(m_manager.Class(i), eFontTrueType);
     }
-    EXPECT_EQ(m_manager.Find(L"No such face"), -1);
+    EXPECT_TRUE(m_manager.Find(L"Liberation Sans") >= 0 && m_manager.Find(L"Marlett") >= 0); // of symbols
+    EXPECT_TRUE(m_manager.Find(L"No such face") == -1 && m_manager.Find(L"System") == -1);   // of bitmaps
     for (int outside : {-1, m_manager.Count()})
         EXPECT_STREQ(m_manager.Name(outside), L"");
 }
@@ -49,12 +50,13 @@ TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
 {
     m_manager.Initialize(m_dc);
     const CString face = m_manager.Name(0), other = m_manager.Name(1);
+    std::filesystem::create_directories(m_directory / L"first");
     for (const CString& file :
-         {CString(L"romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
+         {CString(L"first\\romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
         std::ofstream(m_directory / file.GetString()) << "shapes";
     CStringArray directories;
-    directories.Add((m_directory / L"absent").c_str());
-    directories.Add(m_directory.c_str());
+    for (const wchar_t* directory : {L"first", L"absent", L"."})
+        directories.Add((m_directory / directory).c_str());
     m_manager.SetSHXDirectories(directories);
     EXPECT_FALSE(m_manager.m_bInitialized) << "is to be read anew";
     m_manager.Initialize(m_dc);
@@ -66,4 +68,7 @@ TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
     for (int i = 0; i < m_manager.Count(); ++i)
         listed += m_manager.Name(i).CompareNoCase(face) == 0;
     EXPECT_EQ(listed, 1);
+    m_manager.SetSHXDirectories(CStringArray());
+    m_manager.Initialize(m_dc);
+    EXPECT_EQ(m_manager.Find(L"romans"), -1) << "of a directory that is none any more";
 }

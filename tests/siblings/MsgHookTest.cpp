@@ -90,8 +90,8 @@ TEST_F(MsgHook, LeavesInAnyOrder)
             hooks[leaving - 'a'].Unhook();
             std::erase(expected, leaving);
         }
-        EXPECT_EQ(Probe(), "w");
         EXPECT_EQ(ProcedureOf(m_window), original) << "order " << order;
+        EXPECT_EQ(Probe(), "w");
     } while (std::next_permutation(order.begin(), order.end()));
 }
 
@@ -99,6 +99,7 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
 {
     CWnd noWindow;
     EXPECT_FALSE(a.HookWindow(nullptr) || a.HookWindow(&noWindow) || a.IsHooked());
+    EXPECT_FALSE(a.HookWindow(CWnd::GetDesktopWindow())) << "of another thread";
     a.Unhook();
     ASSERT_TRUE(a.HookWindow(&m_window));
     EXPECT_EQ(a.GetHookedWindow(), &m_window);
@@ -109,6 +110,7 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
 
     m_window.DestroyWindow();
     EXPECT_FALSE(a.IsHooked());
+    a.Unhook(); // has nothing left to do
     ASSERT_TRUE(m_window.Open());
     HookBoth();
     EXPECT_EQ(Probe(), "baw") << "it can take another window";

@@ -20,6 +20,7 @@
 #include "UnitsConvertor.h"
 
 #include <array>
+#include <span>
 
 class BASESVC_API CComplexUnit
 {
@@ -58,6 +59,7 @@ private:
         int nExponent = 0;
     };
 
+    std::span<const STerm> Terms() const { return std::span(m_terms).first(m_nTerms); }
     int ExponentOf(const CMeasurementUnit& unit) const;
     void MultiplyBy(const CMeasurementUnit& unit, int nExponent);
     CComplexUnit Combined(const CComplexUnit& other, int nSign) const;

@@ -1,5 +1,6 @@
 #include "ComplexUnit.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
@@ -97,9 +98,8 @@ CString CComplexUnit::Symbol() const
 {
     CString strAbove;
     CString strBelow;
-    for (int i = 0; i < m_nTerms; ++i)
+    for (const STerm& term : Terms())
     {
-        const STerm& term = m_terms[i];
         if (term.nExponent < 0)
             strBelow += L"/" + Factor(term.unit, -term.nExponent);
         else
@@ -124,9 +124,9 @@ bool CComplexUnit::operator==(const CComplexUnit& other) const
 {
     if (m_nTerms != other.m_nTerms)
         return false;
-    for (int i = 0; i < m_nTerms; ++i)
+    for (const STerm& term : Terms())
     {
-        if (other.ExponentOf(m_terms[i].unit) != m_terms[i].nExponent)
+        if (other.ExponentOf(term.unit) != term.nExponent)
             return false;
     }
     return true;
@@ -134,39 +134,39 @@ bool CComplexUnit::operator==(const CComplexUnit& other) const
 
 int CComplexUnit::ExponentOf(const CMeasurementUnit& unit) const
 {
-    for (int i = 0; i < m_nTerms; ++i)
+    for (const STerm& term : Terms())
     {
-        if (m_terms[i].unit == unit)
-            return m_terms[i].nExponent;
+        if (term.unit == unit)
+            return term.nExponent;
     }
     return 0;
 }
 
 void CComplexUnit::MultiplyBy(const CMeasurementUnit& unit, int nExponent)
 {
-    int i = 0;
-    while (i < m_nTerms && m_terms[i].unit != unit)
-        ++i;
-    if (i == m_nTerms)
+    if (nExponent == 0)
+        return;
+    const auto end = m_terms.begin() + m_nTerms;
+    const auto term = std::find_if(m_terms.begin(), end, [&](const STerm& has) { return has.unit == unit; });
+    if (term == end)
     {
-        if (nExponent == 0)
-            return;
         if (m_nTerms == kMaxTerms)
             AfxThrowInvalidArgException();
-        m_terms[m_nTerms++] = {unit, 0};
+        *term = {unit, 0};
+        ++m_nTerms;
     }
-    m_terms[i].nExponent += nExponent;
-    if (m_terms[i].nExponent != 0)
+    term->nExponent += nExponent;
+    if (term->nExponent != 0)
         return;
-    for (--m_nTerms; i < m_nTerms; ++i) // cancelled: the terms behind close up
-        m_terms[i] = m_terms[i + 1];
+    std::move(term + 1, end, term); // cancelled: the terms behind close up
+    --m_nTerms;
 }
 
 CComplexUnit CComplexUnit::Combined(const CComplexUnit& other, int nSign) const
 {
     CComplexUnit result(*this);
-    for (int i = 0; i < other.m_nTerms; ++i)
-        result.MultiplyBy(other.m_terms[i].unit, nSign * other.m_terms[i].nExponent);
+    for (const STerm& term : other.Terms())
+        result.MultiplyBy(term.unit, nSign * term.nExponent);
     result.m_ratio = result.Product(CUnitsConvertor::Object);
     return result;
 }
@@ -180,11 +180,11 @@ CUnitsConvertor::SRatio CComplexUnit::Ratio(const CUnitsConvertor& convertor) co
 CUnitsConvertor::SRatio CComplexUnit::Product(const CUnitsConvertor& convertor) const
 {
     CUnitsConvertor::SRatio product;
-    for (int i = 0; i < m_nTerms; ++i)
+    for (const STerm& term : Terms())
     {
-        const CUnitsConvertor::SRatio ratio = convertor.Ratio(m_terms[i].unit);
-        const bool bAbove = m_terms[i].nExponent > 0;
-        const int nPower = std::abs(m_terms[i].nExponent);
+        const CUnitsConvertor::SRatio ratio = convertor.Ratio(term.unit);
+        const bool bAbove = term.nExponent > 0;
+        const int nPower = std::abs(term.nExponent);
         product.dNumerator *= Power(bAbove ? ratio.dNumerator : ratio.dDenominator, nPower);
         product.dDenominator *= Power(bAbove ? ratio.dDenominator : ratio.dNumerator, nPower);
     }
