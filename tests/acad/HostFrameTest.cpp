@@ -7,20 +7,11 @@
 
 #include <gtest/gtest.h>
 
-namespace
-{
-struct HostFrame : testing::Test
-{
-    void TearDown() override { acadhostDestroyFrame(); }
-};
-} // namespace
-
-TEST_F(HostFrame, IsMadeHiddenWhenFirstAskedForUnlessTheProgramHasMadeIt)
+TEST(HostFrame, IsMadeHiddenWhenFirstAskedForUnlessTheProgramHasMadeIt)
 {
     ASSERT_FALSE(acadhostHasFrame());
     EXPECT_FALSE(acedGetAcadFrame()->IsWindowVisible());
     acadhostDestroyFrame();
-
     CFrameWnd* frame = acadhostCreateFrame(L"Drawing", SW_SHOW);
     ASSERT_NE(frame, nullptr);
     EXPECT_TRUE(frame->IsWindowVisible());
@@ -28,22 +19,16 @@ TEST_F(HostFrame, IsMadeHiddenWhenFirstAskedForUnlessTheProgramHasMadeIt)
     EXPECT_EQ(acadhostCreateFrame(L"Other drawing", SW_HIDE), frame);
     EXPECT_EQ(owtest::TextOf(*frame), L"Other drawing");
     EXPECT_FALSE(frame->IsWindowVisible());
-}
 
-TEST_F(HostFrame, IsMadeAnewAfterItsEnd)
-{
-    const HWND first = acedGetAcadFrame()->m_hWnd;
-    acedGetAcadFrame()->DestroyWindow(); // as the user does by closing it
-    EXPECT_FALSE(::IsWindow(first));
+    frame->DestroyWindow(); // as the user does by closing it
     EXPECT_FALSE(acadhostHasFrame());
-    EXPECT_TRUE(::IsWindow(acedGetAcadFrame()->m_hWnd));
-
-    acadhostDestroyFrame();
-    acadhostDestroyFrame(); // without a frame it does nothing
+    EXPECT_TRUE(::IsWindow(acedGetAcadFrame()->m_hWnd)) << "made anew";
+    for (int i = 0; i < 2; ++i) // without a frame it does nothing
+        acadhostDestroyFrame();
     EXPECT_FALSE(acadhostHasFrame());
 }
 
-TEST_F(HostFrame, LentByTheProgramStaysTheProgramsOwn)
+TEST(HostFrame, LentByTheProgramStaysTheProgramsOwn)
 {
     acedGetAcadFrame();
     auto* own = new CFrameWnd; // deletes itself with its window

@@ -13,45 +13,23 @@
 
 namespace
 {
-volatile int s_three = 3; ///< out of the optimiser's sight, as the pointers below are
-
-void WriteBehindTheEnd()
-{
-    char* volatile pBlock = new char[24];
-    pBlock[24] = 1;
-    delete[] pBlock;
+volatile int s_three = 3; ///< out of the optimiser's sight, as the pointer below is
 }
-
-void DeleteTwice()
-{
-    char* volatile pBlock = new char[240];
-    delete[] pBlock;
-    delete[] pBlock;
-}
-
-void IndexBehindTheEnd()
-{
-    std::vector<int> items(3);
-    items[s_three] = 1;
-}
-
-void Overflow()
-{
-    s_three = INT_MAX - s_three + 4;
-}
-} // namespace
 
 int main(int argc, char** argv)
 {
     const std::string_view fault = argc == 2 ? argv[1] : "";
+    char* volatile pBlock = new char[240];
     if (fault == "heap")
-        WriteBehindTheEnd();
-    else if (fault == "twice")
-        DeleteTwice();
-    else if (fault == "container")
-        IndexBehindTheEnd();
-    else if (fault == "arithmetic")
-        Overflow();
+        pBlock[240] = 1;
+    if (fault == "heap" || fault == "twice")
+        delete[] pBlock;
+    if (fault == "twice")
+        delete[] pBlock;
+    if (fault == "container")
+        std::vector<int>(3)[s_three] = 1;
+    if (fault == "arithmetic")
+        s_three = INT_MAX - s_three + 4;
     std::puts("not caught");
     return 0;
 }

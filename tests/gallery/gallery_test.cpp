@@ -42,39 +42,29 @@ void ExpectNothingKept(int nOpenings, const Visit& useIt)
 }
 } // namespace
 
-TEST(GalleryDialog, GivesBackWhatItTook)
+TEST(GalleryDialogs, GiveBackWhatTheyTook)
 {
     ExpectNothingKept<CGalleryDialog>(50, [](CWnd& window) { ForEachPage(window, [](CWnd&) {}); });
-}
-
-TEST(ComboGalleryDialog, GivesBackWhatItTook)
-{
-    ExpectNothingKept<CComboGalleryDialog>(10,
-                                           [](CWnd& window)
-                                           {
-                                               owtest::Press(VK_DOWN);
-                                               window.GetDlgItem(IDC_PAGE_CHECK)->SendMessage(BM_CLICK);
-                                           });
+    const auto useCombos = [](CWnd& window)
+    {
+        owtest::Press(VK_DOWN);
+        window.GetDlgItem(IDC_PAGE_CHECK)->SendMessage(BM_CLICK);
+    };
+    ExpectNothingKept<CComboGalleryDialog>(10, useCombos);
 }
 
 // Escape asks, and takes No for an answer; the button does not ask.
 TEST(GalleryDialog, AsksBeforeEscapeLosesTheLog)
 {
     for (const WORD answer : {VK_ESCAPE, VK_RETURN})
-    {
-        CGalleryDialog dialog(nullptr);
-        bool bClosed = false;
-        owtest::ModalVisit visit({[&](CWnd& window)
-                                  {
-                                      owtest::Press(VK_ESCAPE); // in the tree
-                                      bClosed = !window.IsWindowVisible();
-                                      window.GetDlgItem(IDC_CLOSE)->SendMessage(BM_CLICK);
-                                  },
-                                  [&](CWnd&) { owtest::Press(answer); }});
-        EXPECT_EQ(IDCANCEL, dialog.DoModal());
-        EXPECT_EQ(2, visit.Count());
-        EXPECT_EQ(answer == VK_RETURN, bClosed);
-    }
+        OpenAndClose<CGalleryDialog>(
+            [=](CWnd& window)
+            {
+                const owtest::ModalVisit question([=](CWnd&) { owtest::Press(answer); });
+                owtest::Press(VK_ESCAPE); // in the tree
+                EXPECT_EQ(question.Count(), 1);
+                EXPECT_EQ(!window.IsWindowVisible(), answer == VK_RETURN);
+            });
 }
 
 TEST(GalleryDialog, F6GoesToTheLogFromEveryKindOfControlAndBack)
@@ -131,34 +121,23 @@ TEST(GalleryDialog, ClosesWhileAPageIsInUse)
 // The focus stays with the selector that is worked with; and the toggle answers each press of Space.
 TEST(ComboGalleryDialog, LeavesTheFocusInTheSelector)
 {
-    OpenAndClose<CComboGalleryDialog>(
-        [](CWnd& window)
+    const auto use = [](CWnd& window)
+    {
+        for (const int id : {IDC_PAGE_COMBO_BUTTON, IDC_PAGE_COMBO_CHECK, IDC_PAGE_BUTTON, IDC_PAGE_CHECK})
         {
-            const auto title = [&] { return owtest::TextOf(*window.GetDlgItem(IDC_PAGE_TITLE)); };
-            for (const int id : {IDC_PAGE_COMBO_BUTTON, IDC_PAGE_COMBO_CHECK})
+            CWnd& selector = *window.GetDlgItem(id);
+            const bool bToggle = id == IDC_PAGE_BUTTON || id == IDC_PAGE_CHECK;
+            selector.SetFocus();
+            for (const WORD key : {VK_DOWN, VK_UP, VK_DOWN, VK_UP})
             {
-                CWnd& combo = *window.GetDlgItem(id);
-                combo.SetFocus();
-                for (const WORD key : {VK_DOWN, VK_UP})
-                {
-                    const std::wstring before = title();
-                    owtest::Press(key);
-                    EXPECT_NE(title(), before);
-                    EXPECT_EQ(::GetFocus(), combo.m_hWnd);
-                }
+                const std::wstring before = owtest::TextOf(*window.GetDlgItem(IDC_PAGE_TITLE));
+                owtest::Press(bToggle ? VK_SPACE : key);
+                EXPECT_NE(owtest::TextOf(*window.GetDlgItem(IDC_PAGE_TITLE)), before);
+                EXPECT_EQ(::GetFocus(), selector.m_hWnd);
             }
-            for (const int id : {IDC_PAGE_BUTTON, IDC_PAGE_CHECK})
-            {
-                CWnd& toggle = *window.GetDlgItem(id);
-                toggle.SetFocus();
-                for (int i = 1; i <= 4; ++i)
-                {
-                    owtest::Press(VK_SPACE);
-                    EXPECT_EQ(title(), i % 2 ? L"Numbers" : L"Text boxes");
-                    EXPECT_EQ(::GetFocus(), toggle.m_hWnd);
-                }
-            }
-        });
+        }
+    };
+    OpenAndClose<CComboGalleryDialog>(use);
 }
 
 TEST(GalleryDialog, OpensTheOtherWindowAtTheSamePage)

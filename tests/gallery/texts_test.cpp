@@ -2,43 +2,23 @@
 
 #include "GalleryVisit.h"
 
-#include <Translator.h>
+#include "OtherText.h"
 
-#include <filesystem>
 #include <fstream>
 #include <regex>
-#include <string>
+#include <sstream>
 
 namespace
 {
 constexpr wchar_t kMark = L'\u00AB';
 
-/// The English catalogue with a mark in front of each translation, for the length of a scope.
-class CMarkedTexts
+/// The English catalogue with a mark in front of each translation.
+std::string MarkedCatalogue()
 {
-public:
-    CMarkedTexts()
-    {
-        std::ifstream english(L"locale\\gallery_en.po");
-        {
-            std::ofstream marked(m_path);
-            for (std::string line; std::getline(english, line);)
-                marked << (line.starts_with("msgstr \"") && line != "msgstr \"\""
-                               ? "msgstr \"\u00AB" + line.substr(8)
-                               : line)
-                       << '\n';
-        }
-        EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
-    }
-    ~CMarkedTexts()
-    {
-        gOtLang.Unload();
-        std::filesystem::remove(m_path);
-    }
-
-private:
-    const std::filesystem::path m_path = std::filesystem::temp_directory_path() / L"marked.po";
-};
+    std::stringstream english;
+    english << std::ifstream(L"locale\\gallery_en.po").rdbuf();
+    return std::regex_replace(english.str(), std::regex("\nmsgstr \"(?!\")"), "$&\u00AB");
+}
 
 /// Whether there is a word of some length in a text. Numbers, profiles, formulas and names of calls are the same in
 /// every language, and so are those of files.
@@ -95,7 +75,7 @@ void ExpectControlsTranslated(CWnd& window)
 
 TEST(GalleryTexts, GoThroughTheTranslator)
 {
-    const CMarkedTexts marked;
+    const owtest::OtherText marked(MarkedCatalogue());
     OpenAndClose<CGalleryDialog>(
         [](CWnd& window)
         {

@@ -125,12 +125,11 @@ class ControlsSequence : public owtest::Sequence
 
     void Do()
     {
-        using Operation = void (ControlsSequence::*)();
-        static constexpr Operation kOperations[] = {
-            &ControlsSequence::Click,       &ControlsSequence::Click,     &ControlsSequence::Type,
-            &ControlsSequence::Type,        &ControlsSequence::Choose,    &ControlsSequence::PressKey,
-            &ControlsSequence::MoveFocus,   &ControlsSequence::Switch,    &ControlsSequence::SetNumbers,
-            &ControlsSequence::DressButton, &ControlsSequence::SetGroups, &ControlsSequence::Paint};
+        using Self = ControlsSequence;
+        static constexpr void (Self::*kOperations[])() = {
+            &Self::Click,      &Self::Click,       &Self::Type,      &Self::Type,
+            &Self::Choose,     &Self::PressKey,    &Self::MoveFocus, &Self::Switch,
+            &Self::SetNumbers, &Self::DressButton, &Self::SetGroups, &Self::Paint};
         (this->*OneOf(kOperations))();
     }
 

@@ -39,20 +39,19 @@ private:
         owtest::Pump();
     }
 
-    using Operation = void (PagesSequence::*)();
+    using Self = PagesSequence;
+    using Operation = void (Self::*)();
     /// Each as often as it stands here. The first ones are not for calls of the library's.
     static constexpr int kFirstOfHandlers = 4;
     static std::span<const Operation> Operations()
     {
         static constexpr Operation kOperations[] = {
-            &PagesSequence::Reopen,       &PagesSequence::DestroyDialog, &PagesSequence::AddDialog,
-            &PagesSequence::AddDialog,    &PagesSequence::AddPage,       &PagesSequence::AddPage,
-            &PagesSequence::Select,       &PagesSequence::Select,        &PagesSequence::Select,
-            &PagesSequence::MoveFocus,    &PagesSequence::TakeOver,      &PagesSequence::Switch,
-            &PagesSequence::Switch,       &PagesSequence::TypeInPage,    &PagesSequence::TypeInPage,
-            &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
-            &PagesSequence::SelectByUser, &PagesSequence::SelectByUser,  &PagesSequence::SelectByUser,
-            &PagesSequence::SelectByUser};
+            &Self::Reopen,       &Self::DestroyDialog, &Self::AddDialog,    &Self::AddDialog,
+            &Self::AddPage,      &Self::AddPage,       &Self::Select,       &Self::Select,
+            &Self::Select,       &Self::MoveFocus,     &Self::TakeOver,     &Self::Switch,
+            &Self::Switch,       &Self::TypeInPage,    &Self::TypeInPage,   &Self::SelectByUser,
+            &Self::SelectByUser, &Self::SelectByUser,  &Self::SelectByUser, &Self::SelectByUser,
+            &Self::SelectByUser, &Self::SelectByUser};
         return kOperations;
     }
 

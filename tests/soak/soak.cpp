@@ -11,7 +11,6 @@
 #include "Soak.h"
 
 #include "ChildProcess.h"
-#include "ChildScenario.h"
 
 #include <afxwin.h>
 
@@ -53,7 +52,7 @@ std::string TextOf(const Steps& steps)
     return text.str();
 }
 
-Steps StepsIn(const char* text)
+Steps StepsIn(const std::string& text)
 {
     std::istringstream words(text);
     words >> std::hex;
@@ -174,17 +173,14 @@ int main(int argc, char** argv)
         return 2;
     }
     const SoakSubject* const subject = argc > 2 ? FindSubject(argv[2]) : nullptr;
-    if (subject && argv[1] == std::string_view(owtest::kChildArgument))
+    if (subject &&
+        (argv[1] == std::string_view(owtest::kChildArgument) || argv[1] == std::string_view("replay")))
     {
-        const wchar_t* const steps = _wgetenv(kStepsVariable);
-        return RunHere(*subject, StepsIn(CStringA(steps)));
-    }
-    if (subject && argv[1] == std::string_view("replay"))
-    {
-        Steps steps;
-        std::transform(argv + 3, argv + argc, std::back_inserter(steps),
-                       [](const char* step) { return std::strtoul(step, nullptr, 16); });
-        return RunHere(*subject, steps);
+        const wchar_t* const given = _wgetenv(kStepsVariable);
+        std::string steps = CStringA(given).GetString();
+        for (int i = 3; i < argc; ++i)
+            steps += argv[i] + std::string(" ");
+        return RunHere(*subject, StepsIn(steps));
     }
     const auto now = static_cast<unsigned>(::GetTickCount64());
     return RunFor(std::atof(argv[1]), argc > 2 ? std::strtoul(argv[2], nullptr, 10) : now);

@@ -1,8 +1,8 @@
 #include "ChildProcess.h"
-#include "ChildScenario.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <map>
+#include <memory>
 #include <string_view>
 
 namespace owtest
@@ -21,57 +21,34 @@ std::map<std::string, ScenarioFunction, std::less<>>& Scenarios()
     return scenarios;
 }
 
-/// A handle that is closed when it goes out of scope.
-class Handle
+struct HandleCloser
 {
-public:
-    explicit Handle(HANDLE handle = nullptr) : m_handle(handle) {}
-    ~Handle() { Close(); }
-    Handle(const Handle&) = delete;
-    Handle& operator=(const Handle&) = delete;
-
-    void Close()
-    {
-        if (m_handle)
-            CloseHandle(m_handle);
-        m_handle = nullptr;
-    }
-    HANDLE get() const { return m_handle; }
-    HANDLE* put() { return &m_handle; }
-
-private:
-    HANDLE m_handle;
+    void operator()(HANDLE handle) const { CloseHandle(handle); }
 };
-
-struct NoCaseLess
-{
-    bool operator()(const std::wstring& a, const std::wstring& b) const
-    {
-        return _wcsicmp(a.c_str(), b.c_str()) < 0;
-    }
-};
+using Handle = std::unique_ptr<void, HandleCloser>;
 
 /// Our environment with the wanted changes, as CreateProcess takes it.
 std::wstring EnvironmentBlock(const ChildOptions& options)
 {
-    std::map<std::wstring, std::wstring, NoCaseLess> variables;
-    wchar_t* strings = GetEnvironmentStringsW();
-    for (const wchar_t* p = strings; *p; p += std::wcslen(p) + 1)
-    {
-        std::wstring_view entry(p);
-        size_t split = entry.find(L'=', 1);
-        if (split != std::wstring_view::npos)
-            variables[std::wstring(entry.substr(0, split))] = entry.substr(split + 1);
-    }
-    FreeEnvironmentStringsW(strings);
-
+    std::map<std::wstring, std::wstring> changes = options.environment;
     for (const std::wstring& name : options.unset)
-        variables.erase(name);
-    for (const auto& [name, value] : options.environment)
-        variables[name] = value;
-
+        changes[name];
+    const auto stays = [&](const wchar_t* entry)
+    {
+        return std::none_of(changes.begin(), changes.end(),
+                            [&](const auto& change)
+                            {
+                                const std::wstring start = change.first + L'=';
+                                return _wcsnicmp(entry, start.c_str(), start.size()) == 0;
+                            });
+    };
     std::wstring block;
-    for (const auto& [name, value] : variables)
+    wchar_t* const strings = GetEnvironmentStringsW();
+    for (const wchar_t* entry = strings; *entry; entry += std::wcslen(entry) + 1)
+        if (stays(entry))
+            block += entry + std::wstring(1, L'\0');
+    FreeEnvironmentStringsW(strings);
+    for (const auto& [name, value] : options.environment)
         block += name + L'=' + value + L'\0';
     return block + L'\0';
 }
@@ -83,35 +60,28 @@ std::wstring WindowText(HWND window)
     return text;
 }
 
-BOOL CALLBACK FindBox(HWND window, LPARAM param)
+/// The message box of the process; null if none stands.
+HWND FindBox(DWORD processId)
 {
-    wchar_t name[32] = {};
-    GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    auto& search = *reinterpret_cast<std::pair<DWORD, HWND>*>(param);
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != search.first || std::wcscmp(name, L"#32770") != 0 || !IsWindowVisible(window))
-        return TRUE;
-    search.second = window;
-    return FALSE;
+    HWND box = nullptr;
+    while ((box = FindWindowExW(nullptr, box, L"#32770", nullptr)))
+        if (DWORD owner = 0;
+            GetWindowThreadProcessId(box, &owner), owner == processId && IsWindowVisible(box))
+            break;
+    return box;
 }
 
 /// Reads the message box of the process, if one stands, and closes it.
 void AnswerBox(DWORD processId, ChildResult& result)
 {
-    std::pair<DWORD, HWND> search{processId, nullptr};
-    EnumWindows(FindBox, reinterpret_cast<LPARAM>(&search));
-    if (!search.second)
-        return;
-
+    const HWND box = FindBox(processId);
     constexpr int kTextOfBox = 0xFFFF; // dialogs of the child's own have none
-    const HWND label = GetDlgItem(search.second, kTextOfBox);
-    const std::wstring text = label ? WindowText(label) : L"";
+    const std::wstring text = WindowText(GetDlgItem(box, kTextOfBox));
     if (text.empty())
-        return; // still being filled
-    result.boxCaption = WindowText(search.second);
+        return; // there is none, or it is still being filled
+    result.boxCaption = WindowText(box);
     result.boxText = text;
-    PostMessageW(search.second, WM_COMMAND, IDOK, 0);
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
 }
 
 /// Takes what the child has written so far: a full pipe would stop it.
@@ -144,12 +114,10 @@ bool ServeDebugEvents(DWORD processId, ChildResult& result, int& breakpoints)
                              event.u.Exception.ExceptionRecord.ExceptionCode);
             break;
         case CREATE_PROCESS_DEBUG_EVENT:
-            if (event.u.CreateProcessInfo.hFile)
-                CloseHandle(event.u.CreateProcessInfo.hFile);
+            Handle(event.u.CreateProcessInfo.hFile);
             break;
         case LOAD_DLL_DEBUG_EVENT:
-            if (event.u.LoadDll.hFile)
-                CloseHandle(event.u.LoadDll.hFile);
+            Handle(event.u.LoadDll.hFile);
             break;
         case EXIT_PROCESS_DEBUG_EVENT:
             result.exitCode = event.u.ExitProcess.dwExitCode;
@@ -197,10 +165,11 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
     std::wstring command = L'"' + program + L"\" " + std::wstring(narrow.begin(), narrow.end());
 
     SECURITY_ATTRIBUTES inherit{sizeof(inherit), nullptr, TRUE};
-    Handle readEnd, writeEnd;
-    if (!CreatePipe(readEnd.put(), writeEnd.put(), &inherit, 0))
+    HANDLE ends[2];
+    if (!CreatePipe(&ends[0], &ends[1], &inherit, 0))
         return result;
-    SetHandleInformation(readEnd.get(), HANDLE_FLAG_INHERIT, 0);
+    Handle readEnd(ends[0]), writeEnd(ends[1]);
+    SetHandleInformation(ends[0], HANDLE_FLAG_INHERIT, 0);
 
     STARTUPINFOW start{};
     start.cb = sizeof(start);
@@ -213,7 +182,8 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
     const auto create = [&]
     {
         return CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, flags, environment.data(),
-                              options.directory.empty() ? nullptr : options.directory.c_str(), &start, &created);
+                              options.directory.empty() ? nullptr : options.directory.c_str(), &start,
+                              &created);
     };
     // Wine maps some pages of a new process at fixed addresses, where now and then the system has put its own.
     bool started = create();
@@ -225,7 +195,7 @@ ChildResult RunChild(const char* scenario, const ChildOptions& options)
         return result;
     }
     Handle process(created.hProcess), thread(created.hThread);
-    writeEnd.Close();
+    writeEnd.reset();
     result.started = true;
 
     const ULONGLONG deadline = GetTickCount64() + kPatience * options.timeoutMs;

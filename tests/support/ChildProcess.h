@@ -43,6 +43,11 @@ std::wstring ProgramPath();
 /// Runs a scenario under the debug interface, so that DebugBreak is seen and stepped over.
 ChildResult RunChild(const char* scenario, const ChildOptions& options = {});
 
+/// First argument of a program that is run again as a child; the scenario's name follows.
+inline constexpr char kChildArgument[] = "--child-scenario";
+/// The child's side: runs a registered scenario and answers the exit code. 97 for an unknown name.
+int RunScenario(const char* name);
+
 using ScenarioFunction = void (*)();
 struct ScenarioRegistration
 {

@@ -1,44 +1,7 @@
 #include "DialogTemplate.h"
 
-#include <cstring>
-
 namespace owtest
 {
-namespace
-{
-/// Appends the parts of a template in the order of the format.
-class Writer
-{
-public:
-    template <class Value>
-    void Put(const Value& value)
-    {
-        PutBytes(&value, sizeof value);
-    }
-
-    void Put(const std::wstring& text) { PutBytes(text.c_str(), (text.size() + 1) * sizeof(wchar_t)); }
-
-    void AlignToDoubleWord() { m_bytes.resize((m_bytes.size() + 3) & ~size_t{3}); }
-
-    std::vector<DWORD> Finish()
-    {
-        AlignToDoubleWord();
-        std::vector<DWORD> words(m_bytes.size() / sizeof(DWORD));
-        std::memcpy(words.data(), m_bytes.data(), m_bytes.size());
-        return words;
-    }
-
-private:
-    void PutBytes(const void* data, size_t size)
-    {
-        const auto* const bytes = static_cast<const BYTE*>(data);
-        m_bytes.insert(m_bytes.end(), bytes, bytes + size);
-    }
-
-    std::vector<BYTE> m_bytes;
-};
-} // namespace
-
 DialogTemplate::DialogTemplate(std::wstring title, short cx, short cy) : m_title(std::move(title))
 {
     m_head.cx = cx;
@@ -75,49 +38,35 @@ DialogTemplate& DialogTemplate::Item(std::wstring windowClass, std::wstring text
     return *this;
 }
 
-DialogTemplate& DialogTemplate::Label(std::wstring text, short x, short y, short cx, short cy)
-{
-    return Item(L"Static", std::move(text), 0xFFFF, SS_LEFT, x, y, cx, cy);
-}
-
-DialogTemplate& DialogTemplate::Edit(WORD id, short x, short y, short cx, short cy, DWORD style)
-{
-    return Item(L"Edit", L"", id, style | WS_BORDER | WS_TABSTOP, x, y, cx, cy);
-}
-
-DialogTemplate& DialogTemplate::Button(std::wstring text, WORD id, short x, short y, short cx, short cy)
-{
-    return Item(L"Button", std::move(text), id, BS_PUSHBUTTON | WS_TABSTOP, x, y, cx, cy);
-}
-
-DialogTemplate& DialogTemplate::DefaultButton(std::wstring text, WORD id, short x, short y, short cx,
-                                              short cy)
-{
-    return Item(L"Button", std::move(text), id, BS_DEFPUSHBUTTON | WS_TABSTOP, x, y, cx, cy);
-}
-
 LPCDLGTEMPLATE DialogTemplate::get() const
 {
+    m_memory.clear();
+    const auto put = [this](const auto& part)
+    {
+        const auto* const words = reinterpret_cast<const WORD*>(&part);
+        m_memory.insert(m_memory.end(), words, words + sizeof part / sizeof(WORD));
+    };
+    const auto putText = [this](const std::wstring& text)
+    { m_memory.insert(m_memory.end(), text.c_str(), text.c_str() + text.size() + 1); };
     constexpr WORD none = 0; // no menu, the dialog class, no creation data
 
     DLGTEMPLATE head = m_head;
     head.cdit = static_cast<WORD>(m_controls.size());
-    Writer writer;
-    writer.Put(head);
-    writer.Put(none);
-    writer.Put(none);
-    writer.Put(m_title);
-    writer.Put(m_points);
-    writer.Put(m_face);
+    put(head);
+    put(none);
+    put(none);
+    putText(m_title);
+    put(m_points);
+    putText(m_face);
     for (const Control& control : m_controls)
     {
-        writer.AlignToDoubleWord();
-        writer.Put(control.head);
-        writer.Put(control.windowClass);
-        writer.Put(control.text);
-        writer.Put(none);
+        if (m_memory.size() % 2)
+            put(none); // each begins at a double word
+        put(control.head);
+        putText(control.windowClass);
+        putText(control.text);
+        put(none);
     }
-    m_memory = writer.Finish();
     return reinterpret_cast<LPCDLGTEMPLATE>(m_memory.data());
 }
 } // namespace owtest

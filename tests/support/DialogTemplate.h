@@ -32,10 +32,23 @@ public:
     DialogTemplate& Item(std::wstring windowClass, std::wstring text, WORD id, DWORD style, short x, short y,
                          short cx, short cy, DWORD exStyle = 0);
 
-    DialogTemplate& Label(std::wstring text, short x, short y, short cx, short cy);
-    DialogTemplate& Edit(WORD id, short x, short y, short cx, short cy, DWORD style = ES_AUTOHSCROLL);
-    DialogTemplate& Button(std::wstring text, WORD id, short x, short y, short cx, short cy);
-    DialogTemplate& DefaultButton(std::wstring text, WORD id, short x, short y, short cx, short cy);
+    DialogTemplate& Label(std::wstring text, short x, short y, short cx, short cy)
+    {
+        return Item(L"Static", std::move(text), 0xFFFF, SS_LEFT, x, y, cx, cy);
+    }
+    DialogTemplate& Edit(WORD id, short x, short y, short cx, short cy, DWORD style = ES_AUTOHSCROLL)
+    {
+        return Item(L"Edit", L"", id, style | WS_BORDER | WS_TABSTOP, x, y, cx, cy);
+    }
+    DialogTemplate& Button(std::wstring text, WORD id, short x, short y, short cx, short cy,
+                           DWORD style = BS_PUSHBUTTON)
+    {
+        return Item(L"Button", std::move(text), id, style | WS_TABSTOP, x, y, cx, cy);
+    }
+    DialogTemplate& DefaultButton(std::wstring text, WORD id, short x, short y, short cx, short cy)
+    {
+        return Button(std::move(text), id, x, y, cx, cy, BS_DEFPUSHBUTTON);
+    }
 
     /// The template, valid until the object changes or goes.
     LPCDLGTEMPLATE get() const;
@@ -53,6 +66,6 @@ private:
     WORD m_points = 8;
     std::wstring m_face = L"MS Shell Dlg";
     std::vector<Control> m_controls;
-    mutable std::vector<DWORD> m_memory; ///< double words, because templates begin at their boundary
+    mutable std::vector<WORD> m_memory; ///< at a double word, as all memory is that is allocated
 };
 } // namespace owtest

@@ -33,32 +33,15 @@ const GdiEntry* GdiTable()
     return *reinterpret_cast<const GdiEntry* const*>(block + kGdiTableOffset);
 }
 
-template <class Matches>
-int CountEntries(Matches matches)
+/// The process's windows below a parent; null: its top-level ones.
+int CountWindows(HWND parent)
 {
-    const GdiEntry* table = GdiTable();
     int count = 0;
-    for (int i = 0; i < kGdiTableSize; ++i)
-        count += table[i].type != 0 && matches(table[i].type);
+    HWND window = nullptr;
+    while ((window = FindWindowExW(parent, window, nullptr, nullptr)))
+        if (DWORD process = 0; GetWindowThreadProcessId(window, &process), process == GetCurrentProcessId())
+            count += 1 + (parent == HWND_MESSAGE ? 0 : CountWindows(window));
     return count;
-}
-
-BOOL CALLBACK CountChild(HWND, LPARAM count)
-{
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK CountTopLevel(HWND window, LPARAM count)
-{
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process == GetCurrentProcessId())
-    {
-        ++*reinterpret_cast<int*>(count);
-        EnumChildWindows(window, CountChild, count);
-    }
-    return TRUE;
 }
 
 bool IsMenuIconOrTable(HANDLE handle)
@@ -88,22 +71,19 @@ int CountUserObjects()
 
 int CountGdiObjects(int type)
 {
-    return CountEntries([&](WORD entry) { return (entry & 0x7F) == type; });
+    const GdiEntry* table = GdiTable();
+    int count = 0;
+    for (int i = 0; i < kGdiTableSize; ++i)
+        count += type ? (table[i].type & 0x7F) == type : table[i].type != 0;
+    return count;
 }
 
 HandleCount CountHandles()
 {
     HandleCount count;
     GdiFlush();
-    count.gdi = CountEntries([](WORD) { return true; });
-    EnumWindows(CountTopLevel, reinterpret_cast<LPARAM>(&count.windows));
-    for (HWND only = FindWindowExW(HWND_MESSAGE, nullptr, nullptr, nullptr); only;
-         only = FindWindowExW(HWND_MESSAGE, only, nullptr, nullptr))
-    {
-        DWORD process = 0;
-        GetWindowThreadProcessId(only, &process);
-        count.windows += process == GetCurrentProcessId();
-    }
+    count.gdi = CountGdiObjects(0);
+    count.windows = CountWindows(nullptr) + CountWindows(HWND_MESSAGE);
     count.user = CountUserObjects();
     return count;
 }

@@ -24,7 +24,8 @@ struct HandleCount
 
 HandleCount CountHandles();
 
-/// GDI objects of one type: 0x04 region, 0x05 bitmap, 0x0A font, 0x10 brush, 0x30 pen, 0x01 device context.
+/// GDI objects of one type: 0x04 region, 0x05 bitmap, 0x0A font, 0x10 brush, 0x30 pen, 0x01 device context;
+/// 0 all.
 int CountGdiObjects(int type);
 
 /// Bytes in use on the process heap and the C heap.

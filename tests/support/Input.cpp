@@ -1,7 +1,6 @@
 #include "Input.h"
 
 #include <algorithm>
-#include <vector>
 
 namespace owtest
 {
@@ -19,21 +18,10 @@ INPUT Key(WORD virtualKey, bool up)
     input.ki.wVk = virtualKey;
     input.ki.wScan = static_cast<WORD>(::MapVirtualKeyW(virtualKey, MAPVK_VK_TO_VSC));
     input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-    switch (virtualKey)
-    {
-    case VK_LEFT:
-    case VK_RIGHT:
-    case VK_UP:
-    case VK_DOWN:
-    case VK_HOME:
-    case VK_END:
-    case VK_PRIOR:
-    case VK_NEXT:
-    case VK_INSERT:
-    case VK_DELETE:
+    constexpr WORD kExtended[] = {VK_LEFT, VK_RIGHT, VK_UP,   VK_DOWN,   VK_HOME,
+                                  VK_END,  VK_PRIOR, VK_NEXT, VK_INSERT, VK_DELETE};
+    if (std::find(std::begin(kExtended), std::end(kExtended), virtualKey) != std::end(kExtended))
         input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY;
-        break;
-    }
     return input;
 }
 
@@ -135,16 +123,13 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs)
 void Press(WORD virtualKey, bool shift, bool control)
 {
     std::vector<INPUT> down, up;
-    if (shift)
-        down.push_back(Key(VK_SHIFT, false));
-    if (control)
-        down.push_back(Key(VK_CONTROL, false));
-    down.push_back(Key(virtualKey, false));
-    up.push_back(Key(virtualKey, true));
-    if (control)
-        up.push_back(Key(VK_CONTROL, true));
-    if (shift)
-        up.push_back(Key(VK_SHIFT, true));
+    for (const auto& [key, pressed] :
+         {std::pair<WORD, bool>(VK_SHIFT, shift), {VK_CONTROL, control}, {virtualKey, true}})
+        if (pressed)
+        {
+            down.push_back(Key(key, false));
+            up.insert(up.begin(), Key(key, true));
+        }
 
     // The modifiers stay down until the key has been worked off: handlers ask for them with GetKeyState.
     Send(down);
@@ -250,6 +235,28 @@ std::wstring TextOf(const CWnd& window)
     CString text;
     window.GetWindowText(text);
     return text.GetString();
+}
+
+std::vector<HWND> OpenWindows(std::wstring_view windowClass)
+{
+    std::vector<HWND> windows;
+    ::EnumThreadWindows(
+        ::GetCurrentThreadId(),
+        [](HWND window, LPARAM into) -> BOOL
+        {
+            if (::IsWindowVisible(window))
+                reinterpret_cast<std::vector<HWND>*>(into)->push_back(window);
+            return TRUE;
+        },
+        reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows,
+                  [&](HWND window)
+                  {
+                      wchar_t name[16] = L"";
+                      ::GetClassNameW(window, name, ARRAYSIZE(name));
+                      return name != windowClass;
+                  });
+    return windows;
 }
 
 bool Activate(HWND window)

@@ -14,6 +14,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace owtest
 {
@@ -59,6 +60,9 @@ void Rest();
 
 /// What a window or control shows as its text.
 std::wstring TextOf(const CWnd& window);
+
+/// The top-level windows of this thread that show and have that class.
+std::vector<HWND> OpenWindows(std::wstring_view windowClass);
 
 /// Brings a top-level window to the front and waits until it is active.
 bool Activate(HWND window);

@@ -18,7 +18,6 @@
 #include <functional>
 #include <initializer_list>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -92,8 +91,8 @@ private:
     // A timer is served when no input waits and nothing is to be painted: what came before is worked off.
     static void CALLBACK Poll(HWND, UINT, UINT_PTR, DWORD)
     {
-        if (HWND window = OpenMenuWindow(); window && s_current)
-            s_current->VisitOrClose(window);
+        if (const auto menus = OpenWindows(L"#32768"); !menus.empty() && s_current)
+            s_current->VisitOrClose(menus.front());
     }
 
     void VisitOrClose(HWND window)
@@ -110,24 +109,6 @@ private:
             m_count = 0;
             ::EndMenu();
         }
-    }
-
-    static HWND OpenMenuWindow()
-    {
-        HWND found = nullptr;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM into) -> BOOL
-            {
-                wchar_t name[16] = L"";
-                ::GetClassNameW(window, name, ARRAYSIZE(name));
-                if (std::wstring_view(name) != L"#32768" || !::IsWindowVisible(window))
-                    return TRUE;
-                *reinterpret_cast<HWND*>(into) = window;
-                return FALSE;
-            },
-            reinterpret_cast<LPARAM>(&found));
-        return found;
     }
 
     inline static MenuVisit* s_current = nullptr;

@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -69,26 +68,15 @@ private:
             ::KillTimer(nullptr, m_timer);
         Activate(dialog);
         visitor(*CWnd::FromHandle(dialog));
-        if (IsOpen(dialog))
+        if (::IsWindowVisible(dialog) && ::IsWindowEnabled(dialog))
             ::SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
     }
 
-    static bool IsOpen(HWND window) { return ::IsWindowVisible(window) && ::IsWindowEnabled(window); }
-
+    /// That show and let themselves be used.
     static std::vector<HWND> OpenDialogs()
     {
-        std::vector<HWND> dialogs;
-        ::EnumThreadWindows(
-            ::GetCurrentThreadId(),
-            [](HWND window, LPARAM found) -> BOOL
-            {
-                wchar_t name[16] = L"";
-                ::GetClassNameW(window, name, ARRAYSIZE(name));
-                if (std::wstring_view(name) == L"#32770" && IsOpen(window))
-                    reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-                return TRUE;
-            },
-            reinterpret_cast<LPARAM>(&dialogs));
+        std::vector<HWND> dialogs = OpenWindows(L"#32770");
+        std::erase_if(dialogs, [](HWND dialog) { return !::IsWindowEnabled(dialog); });
         return dialogs;
     }
 

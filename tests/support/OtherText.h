@@ -1,6 +1,6 @@
 #pragma once
 // A catalogue with a word of the test's own for one text, for the length of a scope: for texts that no catalogue
-// of the tree changes.
+// of the tree changes. Or a whole catalogue.
 //
 //     const owtest::OtherText other("Cancel", "Odustani");
 
@@ -12,15 +12,20 @@
 
 #include <filesystem>
 #include <fstream>
+#include <string>
 
 namespace owtest
 {
 class OtherText
 {
 public:
-    OtherText(const char* text, const char* word)
+    OtherText(const std::string& text, const std::string& word)
+        : OtherText("msgid \"" + text + "\"\nmsgstr \"" + word + "\"\n")
     {
-        std::ofstream(m_path) << "msgid \"" << text << "\"\nmsgstr \"" << word << "\"\n";
+    }
+    explicit OtherText(const std::string& catalogue)
+    {
+        std::ofstream(m_path) << catalogue;
         EXPECT_TRUE(gOtLang.Load(m_path.c_str()));
     }
     ~OtherText()

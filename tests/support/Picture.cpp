@@ -12,23 +12,6 @@ namespace owtest
 {
 namespace
 {
-/// GDI+ for the length of one call.
-class GdiplusSession
-{
-public:
-    GdiplusSession()
-    {
-        Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&m_token, &input, nullptr);
-    }
-    ~GdiplusSession() { Gdiplus::GdiplusShutdown(m_token); }
-    GdiplusSession(const GdiplusSession&) = delete;
-    GdiplusSession& operator=(const GdiplusSession&) = delete;
-
-private:
-    ULONG_PTR m_token = 0;
-};
-
 constexpr CLSID kPngEncoder = {0x557cf406, 0x1a04, 0x11d3, {0x9a, 0x73, 0x00, 0x00, 0xf8, 0x1e, 0xf3, 0x2e}};
 } // namespace
 
@@ -101,9 +84,13 @@ void Capture(HWND window, Surface& into)
 
 bool SavePng(HBITMAP bitmap, const std::wstring& path)
 {
-    GdiplusSession session;
-    Gdiplus::Bitmap image(bitmap, nullptr);
-    return image.Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    ULONG_PTR session = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    Gdiplus::GdiplusStartup(&session, &input, nullptr);
+    const bool saved =
+        Gdiplus::Bitmap(bitmap, nullptr).Save(path.c_str(), &kPngEncoder, nullptr) == Gdiplus::Ok;
+    Gdiplus::GdiplusShutdown(session);
+    return saved;
 }
 
 bool SaveWindowPng(HWND window, const std::wstring& path)

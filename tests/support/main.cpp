@@ -1,12 +1,17 @@
-// The entry point of every test program: an MFC application in a console program.
+// The entry point of every test program: an MFC application in a console program. One that ends in the middle of its
+// work says why on standard error, and ends with a code other than 0: an exception that nobody handles, abort, a call
+// of exit or ExitProcess. Two ends are beyond it: TerminateProcess, and a full stack under Wine, which ends the
+// program with code 1 and tells only its own log (WINEDEBUG=err+virtual).
 
-#include "ChildScenario.h"
-#include "Ending.h"
+#include "ChildProcess.h"
 #include "Input.h"
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdio>
 
 #ifdef OW_CHECK
 #include "check/FaultReport.h"
@@ -15,16 +20,52 @@
 namespace
 {
 CWinApp theApp;
+bool s_bMayEnd = true;
 
 class RestBeforeEachTest : public ::testing::EmptyTestEventListener
 {
     void OnTestStart(const ::testing::TestInfo&) override { owtest::Rest(); }
 };
 
-std::string PresentTest()
+[[noreturn]] void TellTheEnd(const char* why)
 {
     const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
-    return test ? std::string("in ") + test->test_suite_name() + '.' + test->name() : "outside of its tests";
+    std::fflush(stdout);
+    std::fprintf(stderr, "The program ends in %s.%s: %s.\n", test ? test->test_suite_name() : "no test",
+                 test ? test->name() : "", why);
+    std::fflush(stderr);
+    ::TerminateProcess(::GetCurrentProcess(), 3); // as abort does
+    std::abort();
+}
+
+LONG WINAPI OnException(EXCEPTION_POINTERS* exception)
+{
+    const EXCEPTION_RECORD& record = *exception->ExceptionRecord;
+    HMODULE module = nullptr;
+    char path[MAX_PATH] = "no module";
+    if (::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                                 GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                             static_cast<const char*>(record.ExceptionAddress), &module))
+        ::GetModuleFileNameA(module, path, MAX_PATH);
+    char why[MAX_PATH + 64];
+    std::snprintf(why, sizeof(why), "exception %08lX at %p in %s (at %p)", record.ExceptionCode,
+                  record.ExceptionAddress, path, static_cast<void*>(module));
+    TellTheEnd(why);
+}
+
+void NTAPI OnProcessEnd(void*)
+{
+    if (!s_bMayEnd)
+        TellTheEnd("exit or ExitProcess was called");
+}
+
+void WatchForTheEnd()
+{
+    s_bMayEnd = false;
+    ::SetUnhandledExceptionFilter(&OnException);
+    std::signal(SIGABRT, [](int) { TellTheEnd("abort was called"); });
+    // The system calls this at the end of the process, exit and ExitProcess alike, and before any module goes.
+    ::FlsSetValue(::FlsAlloc(&OnProcessEnd), &s_bMayEnd);
 }
 } // namespace
 
@@ -40,9 +81,11 @@ int main(int argc, char** argv)
 
     ::testing::InitGoogleTest(&argc, argv);
     ::testing::UnitTest::GetInstance()->listeners().Append(new RestBeforeEachTest); // the list owns it
-    const owtest::EndingGuard guard(&PresentTest);
+    WatchForTheEnd();
 #ifdef OW_CHECK
     owtest::ReportFaults();
 #endif
-    return RUN_ALL_TESTS();
+    const int result = RUN_ALL_TESTS();
+    s_bMayEnd = true;
+    return result;
 }
