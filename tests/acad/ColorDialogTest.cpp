@@ -12,7 +12,6 @@
 
 #include <gtest/gtest.h>
 
-
 namespace
 {
 /// The open dialog in a user's hands.
@@ -32,13 +31,14 @@ public:
         return text;
     }
 
-    /// The middle of a colour's swatch, in the grid's client area.
-    CPoint Swatch(int color) const
+    /// A colour's swatch and its middle, in the grid's client area.
+    CRect Cell(int color) const
     {
         CRect client;
         ::GetClientRect(Item(IDC_COLOR_GRID), &client);
-        return ColorGridLayout(client.Size()).CellRect(color).CenterPoint();
+        return ColorGridLayout(client.Size()).CellRect(color);
     }
+    CPoint Swatch(int color) const { return Cell(color).CenterPoint(); }
 
     void ClickSwatch(int color) const { owtest::Click(Item(IDC_COLOR_GRID), Swatch(color)); }
     void Hover(CPoint point) const { owtest::MoveTo(Item(IDC_COLOR_GRID), point); }
@@ -47,15 +47,19 @@ public:
     /// The middle of the old (left) or new (right) half of the preview.
     COLORREF OldColor() const { return PreviewColor(1); }
     COLORREF NewColor() const { return PreviewColor(3); }
+    COLORREF Pixel(int id, CPoint point) const
+    {
+        CWnd* const control = CWnd::FromHandle(Item(id));
+        control->UpdateWindow();
+        return CClientDC(control).GetPixel(point);
+    }
 
 private:
     COLORREF PreviewColor(int quarter) const
     {
-        CWnd* const preview = CWnd::FromHandle(Item(IDC_COLOR_PREVIEW));
-        preview->UpdateWindow();
         CRect client;
-        preview->GetClientRect(&client);
-        return CClientDC(preview).GetPixel(client.Width() * quarter / 4, client.Height() / 2);
+        ::GetClientRect(Item(IDC_COLOR_PREVIEW), &client);
+        return Pixel(IDC_COLOR_PREVIEW, CPoint(client.Width() * quarter / 4, client.Height() / 2));
     }
 
     HWND m_dialog;
@@ -95,6 +99,20 @@ TEST(ColorDialog, TakesTheSwatchThatWasClicked)
         EXPECT_EQ(dialog.Text(IDC_COLOR_RGB), L"Red, green, blue: 255, 127, 0");
         EXPECT_EQ(dialog.OldColor(), RGB(0, 0, 255));
         EXPECT_EQ(dialog.NewColor(), RGB(255, 127, 0));
+
+        const CRect cell = dialog.Cell(30);
+        EXPECT_EQ(dialog.Pixel(IDC_COLOR_GRID, cell.TopLeft()), RGB(0, 0, 0)) << "framed";
+        EXPECT_EQ(dialog.Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 1)), RGB(255, 255, 255));
+        const auto dots = [&]
+        {
+            int found = 0;
+            for (int x = cell.left + 3; x < cell.right - 3; ++x)
+                found += dialog.Pixel(IDC_COLOR_GRID, CPoint(x, cell.top + 2)) != RGB(255, 127, 0);
+            return found;
+        };
+        EXPECT_GT(dots(), 0) << "the focus";
+        ::SetFocus(dialog.Item(IDC_COLOR_TEXT));
+        EXPECT_EQ(dots(), 0);
         owtest::Press(VK_RETURN);
     };
     EXPECT_EQ(Choose(5, enter), Outcome(true, 30));
@@ -120,12 +138,12 @@ TEST(ColorDialog, IsWorkedByKeys)
     const auto arrows = [](const OpenDialog& dialog)
     {
         EXPECT_EQ(::GetFocus(), dialog.Item(IDC_COLOR_GRID));
-        for (WORD key : {VK_RIGHT, VK_RIGHT, VK_DOWN})
+        for (WORD key : {VK_RIGHT, VK_RIGHT, VK_LEFT, VK_DOWN, VK_UP, VK_UP})
             owtest::Press(key);
-        EXPECT_EQ(dialog.Text(), L"31");
+        EXPECT_EQ(dialog.Text(), L"22");
         owtest::Click(dialog.Item(IDOK));
     };
-    EXPECT_EQ(Choose(10, arrows), Outcome(true, 31));
+    EXPECT_EQ(Choose(10, arrows), Outcome(true, 22));
     const auto number = [](const OpenDialog& dialog)
     {
         owtest::Type(L"142");
@@ -135,10 +153,11 @@ TEST(ColorDialog, IsWorkedByKeys)
         EXPECT_EQ(dialog.Text(IDC_COLOR_INDEX), L"Index color: 142");
         owtest::Press(VK_RETURN);
     };
-    EXPECT_EQ(Choose(7, number), Outcome(true, 142));
+    for (const bool metaColors : {false, true})
+        EXPECT_EQ(Choose(7, number, metaColors), Outcome(true, 142));
     const auto wrongNumbers = [](const OpenDialog& dialog)
     {
-        for (const wchar_t* text : {L"256", L"0"})
+        for (const wchar_t* text : {L"256", L"0", L"byblock"})
         {
             ::SetFocus(dialog.Item(IDC_COLOR_TEXT));
             ::SendMessage(dialog.Item(IDC_COLOR_TEXT), EM_SETSEL, 0, -1);
@@ -154,6 +173,7 @@ TEST(ColorDialog, IsWorkedByKeys)
     const auto noChoice = [](const OpenDialog& dialog)
     {
         EXPECT_EQ(dialog.Text(), L"");
+        EXPECT_NE(dialog.NewColor(), ::GetSysColor(COLOR_BTNFACE)) << "struck out";
         owtest::Press(VK_RETURN);
         EXPECT_TRUE(dialog.IsOpen()) << "there is nothing to accept";
         owtest::Press(VK_ESCAPE);

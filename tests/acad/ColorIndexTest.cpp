@@ -19,7 +19,7 @@ TEST(ColorIndex, HasItsKnownColors)
         {210, RGB(255, 0, 255)},      {240, RGB(255, 0, 63)},       {250, RGB(51, 51, 51)},
         {251, RGB(91, 91, 91)},       {254, RGB(214, 214, 214)},    {255, RGB(255, 255, 255)},
         {0, RGB(255, 255, 255)},      {256, RGB(255, 255, 255)}, // the foreground
-        {-1, CLR_INVALID},            {257, CLR_INVALID},
+        {-1, CLR_INVALID},            {257, CLR_INVALID},         {60, RGB(191, 255, 0)},
         // clang-format on
     };
     for (const auto& [index, color] : cases)
