@@ -74,10 +74,17 @@ void WatchSteps()
     int step = -1;
     for (ULONGLONG began = 0;; ::Sleep(200))
     {
+        const ULONGLONG now = ProcessorMs();
         if (const int present = owtest::Sequence::stepsBegun; present != step)
-            step = present, began = ProcessorMs();
-        else if (ProcessorMs() - began > kStepMs)
-            std::puts("the step does not end"), ::TerminateProcess(::GetCurrentProcess(), 3);
+        {
+            step = present;
+            began = now;
+        }
+        else if (now - began > kStepMs)
+        {
+            std::puts("the step does not end");
+            ::TerminateProcess(::GetCurrentProcess(), 3);
+        }
     }
 }
 
