@@ -96,13 +96,11 @@ TEST_F(GridStorage, AnAddressOutOfRangeAnswersNothing)
          {std::pair(-1, 0), std::pair(0, -1), std::pair(4, 0), std::pair(0, 3), std::pair(INT_MAX, INT_MIN)})
     {
         EXPECT_EQ(grid.GetCell(r, c), nullptr);
-        for (const LONGLONG answer :
-             {LONGLONG(grid.IsValid(CCellID(r, c))), LONGLONG(grid.SetItemImage(r, c, 1)),
-              LONGLONG(grid.SetItemFont(r, c, nullptr)), LONGLONG(grid.RedrawCell(r, c)),
-              LONGLONG(grid.IsCellVisible(r, c)), LONGLONG(grid.GetCellRect(r, c, CRect())),
-              LONGLONG(grid.IsItemEditing(r, c)), LONGLONG(grid.GetItemText(r, c).GetLength()),
-              LONGLONG(grid.GetItemImage(r, c) + 1), LONGLONG(grid.GetItemState(r, c)),
-              LONGLONG(grid.GetCellTextExtent(r, c).cx)})
+        for (const LONGLONG answer : std::initializer_list<LONGLONG>{
+                 grid.IsValid(CCellID(r, c)), grid.SetItemImage(r, c, 1), grid.SetItemFont(r, c, nullptr),
+                 grid.RedrawCell(r, c), grid.IsCellVisible(r, c), grid.GetCellRect(r, c, CRect()),
+                 grid.IsItemEditing(r, c), grid.GetItemText(r, c).GetLength(), grid.GetItemImage(r, c) + 1,
+                 grid.GetItemState(r, c), grid.GetCellTextExtent(r, c).cx})
             EXPECT_EQ(answer, 0);
         EXPECT_NE(grid.GetItemFont(r, c), nullptr) << "never fails";
         EXPECT_TRUE(grid.IsCellEditable(r, c)) << "a missing cell has no state";
