@@ -184,12 +184,16 @@ protected:
         return cell;
     }
     std::wstring CellText() { return Text(kRow, kCol); }
+    /// Painted where it belongs, so that painting it again changes nothing.
     bool ShowsArrow(CSize size)
     {
-        owtest::Surface surface(120, 60);
-        Draw(surface, size);
-        // A pixel of the arrow's raised edge, where a cell without an arrow has its background.
-        return surface.at(size.cx - 2, ::GetSystemMetrics(SM_CYHSCROLL) - 2) != kBack;
+        const CSize arrow(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
+        const CRect place(CPoint(size.cx - arrow.cx, 0), arrow);
+        owtest::Surface once(120, 60), again(120, 60);
+        EXPECT_TRUE(Draw(once, size) && Draw(again, size));
+        again.dc().IntersectClipRect(place.left + 1, 0, place.right, place.bottom); // the cell takes a pixel
+        again.dc().DrawFrameControl(CRect(place), DFC_SCROLL, DFCS_SCROLLDOWN);
+        return once == again;
     }
 };
 

@@ -240,8 +240,11 @@ TEST(GridLeaks, LivesEndWhereTheyBegan)
             editor->SetWindowText(L"new");
             editor->SendMessage(WM_CHAR, VK_RETURN);
             ASSERT_EQ(grid.GetItemText(2, 2), L"new");
-            if (i % 2)
-                grid.StartEditCell(); // and destroyed in the middle of it
+            if (i % 2) // and destroyed in the middle of it
+            {
+                grid.SetCellType(2, 2, i % 4 == 1 ? RUNTIME_CLASS(CGridCell) : RUNTIME_CLASS(CGridCellCombo));
+                grid.StartEditCell();
+            }
             grid.SortTextItems(1, FALSE);
             owtest::Pump();
             SharedParent().Take();
