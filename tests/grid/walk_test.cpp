@@ -100,6 +100,8 @@ TEST_F(GridWalk, ByState)
         {{3, 4}, GVNI_SELECTED | GVNI_TOLEFT, {}},
         {{2, 0}, GVNI_SELECTED | GVNI_TORIGHT, {2, 2}},
         {{2, 3}, GVNI_SELECTED | GVNI_TORIGHT, {}},
+        {{-1, 1}, GVNI_SELECTED | GVNI_BELOW, {0, 1}},
+        {{3, -1}, GVNI_SELECTED | GVNI_TORIGHT, {3, 0}},
         {{2, 0}, GVNI_TORIGHT, {}},
         {{2, 0}, GVNI_SELECTED, {}},
         {{-1, -1}, GVNI_MODIFIED | GVNI_ALL, {5, 3}},
