@@ -158,6 +158,9 @@ TEST_F(GridStorage, ItemsGoInAndOutByMask)
     }
     grid.SetItemText(0, 0, L"x");
     EXPECT_TRUE(grid.GetModified(0, 0));
+    grid.SetModified(FALSE, 0, 0);
+    EXPECT_FALSE(grid.GetModified(0, 0));
+    EXPECT_TRUE(grid.GetModified()) << "as far as the grid knows";
     EXPECT_FALSE(grid.SetItemTextFmtID(2, 3, IDS_PIECES, 3, L"IPE 200"));
 }
 
