@@ -28,6 +28,7 @@ TEST_F(GridWalk, TabGoesBackAndWithATestAroundInItsRow)
 {
     const CGridKeyWalk plain(rows, cols);
     EXPECT_EQ(plain.Tab(CCellID(3, 1), -1), CCellID(2, 4));
+    EXPECT_EQ(plain.Tab(CCellID(3, 2), -1), CCellID(3, 1));
     EXPECT_EQ(plain.Tab(CCellID(1, 1), -1), CCellID(1, 1));
     std::vector<CCellID> stops{CCellID(2, 2), CCellID(2, 4), CCellID(5, 1), CCellID(1, 3)};
     const CGridKeyWalk walk(rows, cols,
