@@ -5,6 +5,7 @@
 #include "DialogTemplate.h"
 #include "FatalReport.h"
 #include "Handles.h"
+#include "ImportStandIn.h"
 #include "Input.h"
 #include "Picture.h"
 
@@ -63,14 +64,8 @@ public:
                (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
     }
     CComboBox& operator[](int nId) { return static_cast<CComboBox&>(*GetDlgItem(nId)); }
-    void Notify(int nId, int nCode)
-    {
-        SendMessage(WM_COMMAND, MAKEWPARAM(nId, nCode), LPARAM((*this)[nId].m_hWnd));
-    }
-    void OnExtComboBoxSelChanged(int nId, int nSel) override
-    {
-        Note("select", nId, ": " + std::to_string(nSel));
-    }
+    void Notify(int nId, int n) { SendMessage(WM_COMMAND, MAKEWPARAM(nId, n), LPARAM((*this)[nId].m_hWnd)); }
+    void OnExtComboBoxSelChanged(int nId, int n) override { Note("select", nId, ": " + std::to_string(n)); }
     void OnFontSelected(int nId, const CString& strFont, EFontClass eClass) override
     {
         Note("font", nId, ": " + std::string(CStringA(strFont)) + ", " + std::to_string(eClass));
@@ -173,10 +168,7 @@ protected:
     }
 
     int RowOf(const wchar_t* name) { return m_font.FindStringExact(-1, name); }
-    LOGFONT* RecordOf(const wchar_t* name)
-    {
-        return static_cast<LOGFONT*>(m_font.GetItemDataPtr(RowOf(name)));
-    }
+    LOGFONT* RecordOf(LPCWSTR name) { return static_cast<LOGFONT*>(m_font.GetItemDataPtr(RowOf(name))); }
     /// Whether a row looks as it should: a text of 9 points behind the icon, which may be null.
     bool LooksLike(const wchar_t* name, const CString& text, UINT state, COLORREF back, COLORREF color,
                    HICON icon = nullptr)
@@ -276,10 +268,7 @@ TEST_F(Combos, TheListGrowsToItsLongestEntryAndToTheIconsAndNeverShrinks)
     {
         FontCombo::s_szIconTTF.cx = icons.cx;
         FontCombo::s_szIconSHX.cx = icons.cy;
-        if (strEntry.IsEmpty())
-            combo.ResetContent();
-        else
-            combo.InsertString(0, strEntry);
+        strEntry.IsEmpty() ? combo.ResetContent() : void(combo.InsertString(0, strEntry));
         Enter(combo.GetDlgCtrlID());
         CRect list;
         ::GetWindowRect(OpenList(combo), list);
@@ -397,6 +386,14 @@ TEST_F(Combos, TheFontOneTellsTheSelectedFontAndItsClass)
         << "the user's choices alone";
 }
 
+OW_CHILD_SCENARIO(no_shx_icon)
+{
+    FontCombo::s_hIconTTF = ::LoadIcon(nullptr, IDI_APPLICATION); // is there, and so not looked for
+    const auto loadNothing = [](HINSTANCE, LPCWSTR, UINT, int, int, UINT) -> HANDLE { return nullptr; };
+    const owtest::ImportStandIn noIcon(L"DialogControlsOW.dll", "LoadImageW", +loadNothing);
+    FontCombo::LoadIcons();
+}
+
 TEST_F(Combos, ARowOfFontsIsItsNameInItsFontAtNinePointsWithAMarkOrAnIcon)
 {
     const COLORREF back = ::GetSysColor(COLOR_WINDOW), text = ::GetSysColor(COLOR_WINDOWTEXT);
@@ -436,6 +433,9 @@ TEST_F(Combos, ARowOfFontsIsItsNameInItsFontAtNinePointsWithAMarkOrAnIcon)
     m_font.SetHilightColors(3, 4);
     EXPECT_TRUE(m_font.GetUpdateRect(nullptr) && LooksLike(name, name, ODS_SELECTED, 3, 4, ttf));
     FontCombo().SetNormalColors(1, 2); // before there is a window
+    owtest::ExpectFailedAssert(
+        owtest::RunChild("no_shx_icon"),
+        L"ASSERT(s_hIconSHX = gfnLoadIconResource(IDI_OW_SHX))\n[.\\FontSelectionComboBox : 33]\n");
 }
 
 TEST_F(Combos, ARecordOfAFontGoesWithItsRowOrWithTheWindow)
@@ -465,23 +465,4 @@ TEST_F(Combos, ARecordOfAFontGoesWithItsRowOrWithTheWindow)
         EXPECT_TRUE(window < 8 || owtest::CountHandles() == handles);
     }
     ::DestroyWindow(parents[1]);
-}
-
-// Without the pictures in the icon's group, in this process.
-OW_CHILD_SCENARIO(no_shx_icon)
-{
-    const HINSTANCE library = AfxFindResourceHandle(MAKEINTRESOURCE(10100), RT_GROUP_ICON);
-    const HRSRC found = ::FindResource(library, MAKEINTRESOURCE(10100), RT_GROUP_ICON);
-    auto* header = static_cast<WORD*>(::LockResource(::LoadResource(library, found)));
-    DWORD before;
-    ::VirtualProtect(header, 6, PAGE_READWRITE, &before);
-    header[2] = 0;
-    FontCombo::LoadIcons();
-}
-
-TEST(FontComboIcons, EndTheProcessWhereOneIsMissing)
-{
-    owtest::ExpectFailedAssert(
-        owtest::RunChild("no_shx_icon"),
-        L"ASSERT(s_hIconSHX = gfnLoadIconResource(IDI_OW_SHX))\n[.\\FontSelectionComboBox : 33]\n");
 }

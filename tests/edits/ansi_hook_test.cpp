@@ -122,6 +122,7 @@ TEST_F(AnsiHook, FillsHalfOfABufferAndTheWholeTextIsReadAllTheSame)
         EXPECT_EQ(TextOf(box), std::wstring(kGreek, 3)) << "half of a text and its end";
         EXPECT_EQ(gfnWholeText(box), kGreek);
         EXPECT_EQ(CEditCtrlAnsiInterface(box).GetText(), kGreek);
+        EXPECT_EQ(CEditCtrlAnsiInterface(box).GetCodePage(), 1253u);
     }
     box.SetWindowText(nullptr);
     EXPECT_TRUE(gfnWholeText(box) == L"" && gfnWholeText(CEdit()) == L"") << "no window";
