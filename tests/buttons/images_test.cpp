@@ -117,7 +117,8 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
 
         ASSERT_EQ(button.SetBitmaps(Make(), kWhite, As<HBITMAP>(copy), kRed), 0u);
         const auto& [first, second] = button.m_bitmaps;
-        EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb)) << "black behind";
+        EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), Opaque(kColor) & kRgb))
+            << "made black where transparent";
         EXPECT_EQ(ColorsOf(second.hBitmap), std::pair(DWORD(0), Opaque(cr) & kRgb));
         EXPECT_EQ(ColorsOf(first.hMask), std::pair(kRgb, DWORD(0)));
         EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";

@@ -143,8 +143,8 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAw
 
     const auto move = [&](WPARAM buttons, int x)
     { return Repaints(m_other, [&] { m_other.SendMessage(WM_MOUSEMOVE, buttons, MAKELPARAM(x, 10)); }); };
-    using Move =
-        std::tuple<bool, WPARAM, int, bool>; // flat, mouse buttons, place, and whether it hovers then
+    // Flat, mouse buttons, place, and whether it hovers then.
+    using Move = std::tuple<bool, WPARAM, int, bool>;
     for (const auto& [bFlat, buttons, x, bHovers] :
          {Move{true, MK_LBUTTON, 10, false}, Move{false, 0, 10, false}, Move{true, 0, 10, true},
           Move{true, 0, -30, false}})

@@ -194,24 +194,17 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
     EXPECT_EQ(ordinary.button.GetFont()->m_hObject, nullptr) << "an ordinary button has none";
     EXPECT_EQ(ordinary.button.GetStyle() & BS_TYPEMASK, BS_PUSHBUTTON);
 
+    const owtest::HandleCount before = owtest::CountHandles();
     for (const auto& [nText, nIcon] : {std::pair(IDS_TEXT, 0), {4711, IDI_STATE}, {4711, 0}})
     {
-        label.icon.SetWindowText(MAKEINTRESOURCE(nText)).SetIcon(UINT(nIcon), 16);
+        CXIcon().SetIcon(IDI_STATE, 16).SetBold(TRUE).SetFont(L"Arial", 12);
+        icon.SetIcon(IDI_STATE, 32).SetIcon(label.blue, 16).SetBold(TRUE);
+        icon.SetWindowText(MAKEINTRESOURCE(nText)).SetIcon(UINT(nIcon), 16);
         EXPECT_EQ(owtest::TextOf(label.icon), nText == IDS_TEXT ? L"From the resources" : L"");
         Surface surface(kSize.cx, kSize.cy);
         PaintButton(label.icon, surface);
         EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), surface.at(0, 0)) == kSize.cx * kSize.cy,
                   nText != IDS_TEXT && nIcon == 0);
-    }
-    const owtest::HandleCount before = owtest::CountHandles();
-    for (int i = 0; i < 3; ++i)
-    {
-        CXIcon().SetIcon(IDI_STATE, 16).SetBold(TRUE).SetFont(L"Arial", 12);
-        icon.SetIcon(IDI_STATE, 16)
-            .SetIcon(label.blue, 16)
-            .SetIcon(IDI_STATE, 32)
-            .SetIcon(0u, 16)
-            .SetBold(TRUE);
     }
     EXPECT_EQ(owtest::CountHandles(), before);
     EXPECT_TRUE(testimages::IsIcon(label.blue)) << "the caller's";

@@ -212,7 +212,7 @@ TEST_F(Boxes, ForWholeNumbersTakeDigitsWithAnOptionalMinus)
     EXPECT_EQ(TextOf(box), L"-2147483648") << "eleven characters can be typed";
 }
 
-TEST_F(Boxes, KeepTheEmptyMarkerApartTheDigitsThatTheFormatDoesNotShowAndASelection)
+TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
 {
     CEditDoubleWithRange& box = dialog.own;
     box.SetEmpty();
