@@ -10,7 +10,7 @@ namespace
 constexpr wchar_t kText[] = L"<f Symbol>s</f><sub>max</sub> [kN/cm<sup>2</sup>]",
                   kLabel[] = L"kN/cm<sup>2</sup>";
 const COLORREF kFace = ::GetSysColor(COLOR_BTNFACE);
-const CRect kItem(10, 6, 211, 47); ///< odd sizes, and not from the corner
+const CRect kItem(10, 6, 211, 48); ///< sizes that halving tells apart, and not from the corner
 
 struct MixedFontSurface : Surface
 {
