@@ -325,13 +325,17 @@ TEST(SavedWidths, AreKeptUnderTheirKey)
 
 // ---- Items ------------------------------------------------------------------------------------------------
 
-TEST(GridItems, AChangeOfContentsMarksTheGridAndOneOfStateOrLooksDoesNot)
+TEST(GridItems, AChangeOfContentsMarksTheGridAndItsSortColumnIsSortedNoMore)
 {
     CGridCtrl grid(2, 2);
     grid.SetModified(FALSE);
+    grid.SetSortColumn(1);
     EXPECT_TRUE(grid.SetItemState(1, 1, CELL_SELECTED));
     EXPECT_TRUE(grid.SetItemFormat(1, 1, DT_RIGHT));
     EXPECT_FALSE(grid.GetModified());
-    EXPECT_TRUE(grid.SetItemText(1, 1, L"x"));
+    EXPECT_TRUE(grid.SetItemText(1, 0, L"x"));
     EXPECT_TRUE(grid.GetModified());
+    EXPECT_EQ(grid.GetSortColumn(), 1);
+    EXPECT_TRUE(grid.SetItemText(1, 1, L"x"));
+    EXPECT_EQ(grid.GetSortColumn(), -1);
 }
