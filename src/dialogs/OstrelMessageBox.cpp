@@ -44,7 +44,7 @@ const StandardButtons* FindButtons(unsigned int uType)
 
 int ResultOf(const StandardButtons& buttons, int nPressed)
 {
-    if (nPressed < 1 || nPressed > buttons.nCount)
+    if (nPressed > buttons.nCount)
         INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", kMessageBoxSource, buttons.nLine);
     return buttons.results[nPressed - 1];
 }

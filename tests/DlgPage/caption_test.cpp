@@ -140,15 +140,20 @@ COLORREF FaceMinus(int n)
 }
 } // namespace
 
-TEST(Gradient, IsTheSameInBandsButForTheirSteps)
+TEST(Gradient, GoesFromTheColourToThatOfADialogsFace)
 {
-    const CRect rect(3, 2, 195, 10);
-    const COLORREF crLeft = RGB(16, 64, 128);
-    const auto smooth = Columns(gfnFillGradient, rect, crLeft),
-               bands = Columns(gfnFillGradientBands, rect, crLeft);
-    for (int x = 0; x < rect.Width(); ++x)
-        for (const int nShift : {0, 8, 16})
-            ASSERT_NEAR(smooth[x] >> nShift & 0xFF, bands[x] >> nShift & 0xFF, 6) << x;
+    const COLORREF crLeft = RGB(16, 64, 128), crFace = ::GetSysColor(COLOR_BTNFACE);
+    for (const auto& [fill, nStep] : {std::pair{&gfnFillGradient, 2}, {&gfnFillGradientBands, 6}})
+    {
+        const auto columns = Columns(*fill, CRect(3, 2, 195, 10), crLeft);
+        for (int x = 0; x < 192; ++x)
+            for (const int nShift : {0, 8, 16})
+            {
+                const auto channel = [&](COLORREF color) { return static_cast<int>(color >> nShift & 0xFF); };
+                const int nWay = channel(crFace) - channel(crLeft);
+                ASSERT_NEAR(channel(columns[x]), channel(crLeft) + nWay * x / 192, nStep) << x;
+            }
+    }
 }
 
 TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)

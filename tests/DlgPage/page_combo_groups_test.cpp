@@ -57,8 +57,8 @@ using Groups = ::testing::Types<ButtonGroup, CheckGroup>;
 TYPED_TEST_SUITE(PageComboGroups, Groups);
 } // namespace
 
-// A click is noted where it is made, also for the next row with a child; it does not count while the toggle is hidden.
-// Of two children only the later can be reached.
+// A click counts for the next row with a child, too, but not while the toggle is hidden. Of two children only the later
+// can be reached.
 TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
 {
     const std::pair<std::string, std::string> steps[] = {

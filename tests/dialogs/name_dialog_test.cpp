@@ -107,6 +107,7 @@ TEST(NameComboDialog, ListsTheNamesAsGiven)
     const auto look = [&](CWnd& dialog)
     {
         auto& combo = static_cast<CComboBox&>(*dialog.GetDlgItem(kCombo));
+        EXPECT_TRUE(PlaceOf(dialog, kCombo).left > 0 && PlaceOf(dialog, kCombo).Width() > 100);
         EXPECT_EQ(combo.GetCount(), 3);
         EXPECT_EQ(combo.FindStringExact(-1, L"Walls"), 0);
         EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";

@@ -26,7 +26,7 @@ public:
     }
     CWnd& operator[](int nId) const { return *GetDlgItem(nId); }
     std::wstring TextOf(int nId) const { return owtest::TextOf((*this)[nId]); }
-    /// Texts of controls and states of buttons, in their order; nothing of a hidden one, and a dash behind a disabled one.
+    /// Texts of controls and states of buttons; hidden ones as nothing, disabled ones with a dash.
     std::string Seen(const std::vector<int>& ids) const
     {
         std::wstring seen;
