@@ -20,7 +20,6 @@
 #include "UnitsConvertor.h"
 
 #include <array>
-#include <span>
 
 class BASESVC_API CComplexUnit
 {
@@ -59,7 +58,15 @@ private:
         int nExponent = 0;
     };
 
-    std::span<const STerm> Terms() const { return std::span(m_terms).first(m_nTerms); }
+    /// Those terms that there are, for a loop.
+    struct STerms
+    {
+        const STerm *pBegin, *pEnd;
+        const STerm* begin() const { return pBegin; }
+        const STerm* end() const { return pEnd; }
+    };
+
+    STerms Terms() const { return {m_terms.data(), m_terms.data() + m_nTerms}; }
     int ExponentOf(const CMeasurementUnit& unit) const;
     void MultiplyBy(const CMeasurementUnit& unit, int nExponent);
     CComplexUnit Combined(const CComplexUnit& other, int nSign) const;
