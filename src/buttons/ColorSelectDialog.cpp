@@ -130,17 +130,19 @@ void CColorSelectDialog::OnLButtonDown(UINT nFlags, CPoint point)
     CDialog::OnLButtonDown(nFlags, point);
 }
 
-// Of all parts only the cells paint themselves.
 void CColorSelectDialog::OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
-    CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
-    const CRect rect(lpDrawItemStruct->rcItem);
-    CBrush brush(CColorBtnST::s_colorTable[nIDCtl - IDC_OW_FIRST_COLOR]);
-    const CGdiSelection noPen(dc, ::GetStockObject(NULL_PEN));
-    const CGdiSelection fill(dc, brush);
-    dc.Rectangle(rect.left, rect.top, rect.right + 1, rect.bottom + 1); // without a pen it is one less
-    if (lpDrawItemStruct->itemState & ODS_FOCUS)
-        DrawFocusMark(dc, rect);
+    if (nIDCtl >= IDC_OW_FIRST_COLOR && nIDCtl <= IDC_OW_LAST_COLOR)
+    {
+        CDC& dc = *CDC::FromHandle(lpDrawItemStruct->hDC);
+        const CRect rect(lpDrawItemStruct->rcItem);
+        CBrush brush(CColorBtnST::s_colorTable[nIDCtl - IDC_OW_FIRST_COLOR]);
+        const CGdiSelection noPen(dc, ::GetStockObject(NULL_PEN));
+        const CGdiSelection fill(dc, brush);
+        dc.Rectangle(rect.left, rect.top, rect.right + 1, rect.bottom + 1); // without a pen it is one less
+        if (lpDrawItemStruct->itemState & ODS_FOCUS)
+            DrawFocusMark(dc, rect);
+    }
     CDialog::OnDrawItem(nIDCtl, lpDrawItemStruct);
 }
 

@@ -30,15 +30,15 @@ void CExtButton::OnLButtonUp(UINT nFlags, CPoint point)
     if (MayClick())
         CButton::OnLButtonUp(nFlags, point);
     else
-        ::ReleaseCapture(); // which lets the button go
+        LetGo();
 }
 
 void CExtButton::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
-    if (MayClick())
+    if (nChar != VK_SPACE || MayClick())
         CButton::OnKeyUp(nChar, nRepCnt, nFlags);
     else
-        ::ReleaseCapture();
+        LetGo();
 }
 
 // A click on an automatic radio button goes round the controls of its dialog group, which passes over those that
@@ -47,6 +47,13 @@ bool CExtButton::MayClick() const
 {
     return (GetStyle() & BS_TYPEMASK) != BS_AUTORADIOBUTTON ||
            (GetStyle() & (WS_VISIBLE | WS_DISABLED)) == WS_VISIBLE;
+}
+
+/// Ends a press without a click.
+void CExtButton::LetGo()
+{
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
 }
 
 void CExtButton::SetNotificationHandler(AButtonSTNotificationHandler* pHandler)

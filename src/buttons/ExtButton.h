@@ -35,6 +35,7 @@ protected:
 
 private:
     bool MayClick() const;
+    void LetGo();
 
     AButtonSTNotificationHandler* m_pHandler = nullptr;
 };

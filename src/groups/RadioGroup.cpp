@@ -77,12 +77,9 @@ bool CRadioGroup::operator!=(const CRadioGroup& other) const
     return !(*this == other);
 }
 
-// The system clears the others, but for those that are hidden or disabled: two options would be checked.
 void CRadioGroup::OnButtonClicked(int nId)
 {
-    CWnd* pControl = HasControls() ? m_pDialog->GetDlgItem(nId) : nullptr;
-    if (pControl && IsCheckedRadioButton(*pControl))
-        SetOption(Find(nId));
+    ClearOthers(nId);
     if (m_pHandler)
         m_pHandler->OnButtonClicked(nId);
 }
@@ -204,6 +201,20 @@ void CRadioGroup::Enable(bool bEnable)
 bool CRadioGroup::HasControls() const
 {
     return m_pDialog && m_pDialog->m_hWnd && !m_arrIds.IsEmpty();
+}
+
+// The system clears the others, but for those that are hidden or disabled: two options would be checked.
+void CRadioGroup::ClearOthers(int nId) const
+{
+    CWnd* const pClicked = HasControls() && Find(nId) >= 0 ? m_pDialog->GetDlgItem(nId) : nullptr;
+    if (!pClicked || !IsCheckedRadioButton(*pClicked))
+        return;
+    ForEachControl(
+        [pClicked](CWnd& control)
+        {
+            if (&control != pClicked && IsCheckedRadioButton(control))
+                control.SendMessage(BM_SETCHECK, BST_UNCHECKED);
+        });
 }
 
 template <class Function>

@@ -29,8 +29,8 @@
 // The ids of a group should run upwards in the order of the dialog with no other control's id in between, as
 // always with radio buttons: GetOption and SetOption work on all ids from the first to the last.
 //
-// Reports. Each click of a member is passed on to the handler with the member's id; then no other member is
-// checked, hidden and disabled ones included. SetOption is silent. At first the handler is the dialog, if its
+// Reports. On each click of a member no other member stays checked, hidden and disabled ones included; then the
+// handler is told, with the member's id. SetOption is silent. At first the handler is the dialog, if its
 // class implements AButtonSTNotificationHandler. A control that has an object of its own already (by
 // DDX_Control, or in another group) keeps it, and its clicks do not come here.
 //
@@ -92,6 +92,7 @@ protected:
     void OnButtonClicked(int nId) override;
 
 private:
+    void ClearOthers(int nId) const;
     bool HasControls() const;
     void CollectIds(CWnd& first);
     void BindButtons();

@@ -2,6 +2,8 @@
 
 #include "PagesHost.h"
 
+#include "Handles.h"
+
 #include <memory>
 
 TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
@@ -77,4 +79,20 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     m_selector.OnTvnSelchanged(&nothing.hdr, &result);
     EXPECT_TRUE(result == 0 && TakeSelections() == "- after -");
     EXPECT_EQ(m_host.Shown(), "");
+}
+
+TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
+{
+    owtest::HandleCount before;
+    for (int i = 0; i < 15; ++i)
+    {
+        before = i == 5 ? owtest::CountHandles() : before;
+        PagesHost<OpenPageTree> host;
+        ASSERT_TRUE(host.Open());
+        for (const Identity id : {idAlpha, idGamma, idBeta})
+            host.selector.SetCurrentPage(host.Page(id));
+        host.UpdateWindow();
+        owtest::Pump();
+    }
+    EXPECT_EQ(owtest::CountHandles(), before);
 }

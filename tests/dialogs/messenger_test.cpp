@@ -2,6 +2,7 @@
 
 #include "BoxParts.h"
 
+#include "ChildProcess.h"
 #include "ImportStandIn.h"
 
 #include <acadhost.h>
@@ -76,6 +77,23 @@ protected:
     }
 };
 } // namespace
+
+OW_CHILD_SCENARIO(messenger_outlives_the_frame)
+{
+    auto* frame = new HostFrame;
+    frame->Create(nullptr, L"Host");
+    acadhostUseFrame(frame);
+    const bool hooked = COstrelMessenger::Instance().IsHooked();
+    acadhostUseFrame(nullptr);
+    frame->DestroyWindow();
+    COstrelMessenger::Instance().PostMsg(1); // is dropped, as nobody will look for it
+    std::printf("hooked %d, then %d", hooked, COstrelMessenger::Instance().IsHooked());
+}
+
+TEST(MessengerOfAClosedHost, LetsGoOfItsWindow)
+{
+    EXPECT_EQ(owtest::RunChild("messenger_outlives_the_frame").output, "hooked 1, then 0");
+}
 
 TEST_F(Messenger, LooksEveryFiveSecondsAndPassesTheHostsMessagesOn)
 {

@@ -208,6 +208,13 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
     EXPECT_EQ(repainted, Client());
     EXPECT_EQ(grid.GetScrollPos(SB_VERT), 0);
     EXPECT_TRUE(grid.RedrawCell(1, 1)) << "which it does not do while drawing is off";
+
+    grid.SetVirtualMode(TRUE); // nor does a grid without cells mind
+    grid.SetColumnCount(4);
+    grid.SetRowCount(1000);
+    handler.Take();
+    grid.SelectRowEx(900, 1);
+    EXPECT_EQ(handler.Take(), Calls{"77 row 900 after 90"});
 }
 
 TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)

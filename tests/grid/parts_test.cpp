@@ -108,7 +108,7 @@ TEST(GridCells, ComeGoAndMove)
 
 namespace
 {
-int s_allocations = 0; ///< how many large ones there is memory for
+std::atomic<int> s_allocations = 0; ///< how many large ones there is memory for
 void* ScarceMemory(size_t count, size_t size)
 {
     if (count >= 1000 && --s_allocations < 0)

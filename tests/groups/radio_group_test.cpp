@@ -181,6 +181,9 @@ TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClickAndIsClearedByThoseO
     }
     EXPECT_EQ(ClickOn(101), Ids{101});
     EXPECT_TRUE(group.GetOption() == 0 && !dialog.IsDlgButtonChecked(102));
+    dialog[101].ShowWindow(SW_HIDE);
+    dialog[101].SendMessage(BM_CLICK);
+    EXPECT_EQ(dialog.Take(), Ids{}) << "the first one neither";
 }
 
 TEST_F(RadioGroup, LeavesTheButtonsToTheDialog)

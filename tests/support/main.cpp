@@ -12,6 +12,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <string>
 
 #ifdef OW_CHECK
 #include "check/FaultReport.h"
@@ -31,8 +32,9 @@ class RestBeforeEachTest : public ::testing::EmptyTestEventListener
 {
     const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
     std::fflush(stdout);
-    std::fprintf(stderr, "The program ends in %s.%s: %s.\n", test ? test->test_suite_name() : "no test",
-                 test ? test->name() : "", why);
+    const std::string place =
+        test ? std::string("in ") + test->test_suite_name() + '.' + test->name() : "outside of its tests";
+    std::fprintf(stderr, "The program ends %s: %s.\n", place.c_str(), why);
     std::fflush(stderr);
     ::TerminateProcess(::GetCurrentProcess(), 3); // as abort does
     std::abort();

@@ -4,12 +4,7 @@
 
 CThreadState& GetThreadState()
 {
-    // Each message asks, and the system's own slot is found sooner than a thread_local variable.
-    static const DWORD slot = ::TlsAlloc();
-    if (void* const known = ::TlsGetValue(slot))
-        return *static_cast<CThreadState*>(known);
     static thread_local CThreadState state;
-    ::TlsSetValue(slot, &state);
     return state;
 }
 

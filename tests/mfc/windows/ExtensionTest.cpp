@@ -1,4 +1,4 @@
-// Extension modules: the chain of resources, modules that come and go.
+// Extension modules: the chain of resources, modules that come and go, exceptions across modules.
 
 #include "TestExtension.h"
 
@@ -87,6 +87,21 @@ TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
     item.cchTextMax = ARRAYSIZE(picture);
     named.SendDlgItemMessage(IDC_EXTENSION_PICTURES, CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
     EXPECT_STREQ(picture, L"Bolts");
+}
+
+TEST(Extension, ExceptionsCrossModulesByTheirTypes)
+{
+    try
+    {
+        ThrowFromExtension(3);
+        FAIL();
+    }
+    catch (CExtensionException* e)
+    {
+        EXPECT_EQ(e->m_code, 3);
+        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), e->GetRuntimeClass());
+        e->Delete();
+    }
 }
 
 TEST(ModuleState, IsPutInForceForAScope)
