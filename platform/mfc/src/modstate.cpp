@@ -2,10 +2,38 @@
 
 #include "threadstate.h"
 
+namespace
+{
+/// Each message asks, and the system's own slot is found sooner than a thread_local variable.
+DWORD Slot()
+{
+    static const DWORD slot = ::TlsAlloc();
+    return slot;
+}
+} // namespace
+
 CThreadState& GetThreadState()
 {
-    static thread_local CThreadState state;
-    return state;
+    const DWORD error = ::GetLastError(); // which finding the slot's value clears
+    auto* state = static_cast<CThreadState*>(::TlsGetValue(Slot()));
+    if (state == nullptr)
+    {
+        state = new CThreadState;
+        ::TlsSetValue(Slot(), state);
+    }
+    ::SetLastError(error);
+    return *state;
+}
+
+// Whoever still asks at the end of the thread gets a new state.
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID)
+{
+    if (reason == DLL_THREAD_DETACH)
+    {
+        delete static_cast<CThreadState*>(::TlsGetValue(Slot()));
+        ::TlsSetValue(Slot(), nullptr);
+    }
+    return TRUE;
 }
 
 namespace

@@ -95,6 +95,7 @@ TEST(Window, ACreationThatFailsLeavesNoHandle)
 
     CLifeWnd unknownClass; // the system refuses before it makes anything
     EXPECT_FALSE(unknownClass.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
+    EXPECT_NE(::GetLastError(), 0u) << "the reason is still there to be asked for";
     EXPECT_EQ(unknownClass.m_preSubclass, 0);
     EXPECT_EQ(unknownClass.m_postNcDestroy, 1);
 
