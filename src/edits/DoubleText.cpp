@@ -77,10 +77,13 @@ std::optional<std::uint64_t> CountLastDecimals(double dAbsolute, int nDecimals)
     const double dScaled = dAbsolute * kPowersOfTen[nDecimals];
     if (!(dScaled < kExact))
         return std::nullopt;
-    const auto nWhole = static_cast<std::int64_t>(dScaled); // signed: that is one instruction
-    double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5;
-    if (std::fabs(dBeyondHalf) <= dScaled / kExact) // twice what the product may be off
-        dBeyondHalf += ErrorOfProduct(dAbsolute, kPowersOfTen[nDecimals], dScaled);
+    const auto nNearest = static_cast<std::int64_t>(dScaled + 0.5); // signed: that is one instruction
+    const double dOff = std::fabs(dScaled - static_cast<double>(nNearest));
+    if (0.5 - dOff > dScaled / kExact) // twice what the product may be off
+        return nNearest;
+    const auto nWhole = static_cast<std::int64_t>(dScaled);
+    const double dBeyondHalf = dScaled - static_cast<double>(nWhole) - 0.5 +
+                               ErrorOfProduct(dAbsolute, kPowersOfTen[nDecimals], dScaled);
     if (dBeyondHalf == 0.0)
         return RoundsTiesUp() ? nWhole + 1 : nWhole + (nWhole & 1);
     return dBeyondHalf > 0.0 ? nWhole + 1 : nWhole;
