@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <bitset>
 #include <unordered_map>
 #include <vector>
@@ -64,15 +65,24 @@ public:
         m_nCount = 0;
     }
 
-    /// A copy, so that the map may change while a caller walks over it. In any order.
+    /// A copy, so that the map may change while a caller walks over it. In any order, but neighbours close to
+    /// each other, as they stand in memory.
     std::vector<CCellID> Cells() const
     {
+        const auto byRows = [](const auto* pLeft, const auto* pRight)
+        { return std::rotr(pLeft->first, kRowBits) < std::rotr(pRight->first, kRowBits); };
+        std::vector<const CPages::value_type*> pages;
+        pages.reserve(m_pages.size());
+        for (const auto& entry : m_pages)
+            pages.push_back(&entry);
+        std::sort(pages.begin(), pages.end(), byRows);
+
         std::vector<CCellID> cells;
         cells.reserve(m_nCount);
-        for (const auto& [nKey, page] : m_pages)
+        for (const auto* const pEntry : pages)
             for (size_t nPlace = 0; nPlace < kPageSize; ++nPlace)
-                if (page.used[nPlace])
-                    cells.push_back(page.cells[nPlace]);
+                if (pEntry->second.used[nPlace])
+                    cells.push_back(pEntry->second.cells[nPlace]);
         return cells;
     }
 
@@ -98,8 +108,11 @@ private:
         std::array<CCellID, kPageSize> cells;
     };
 
+    using CPages = std::unordered_map<DWORD, SPage>; ///< by the key of their first cell / kPageSize
+    static constexpr int kRowBits = 10; ///< low in such a key: the row's; above them the column's
+
     static size_t PlaceOf(int nRow) { return static_cast<DWORD>(nRow) % kPageSize; }
 
-    std::unordered_map<DWORD, SPage> m_pages;
+    CPages m_pages;
     int m_nCount = 0;
 };
