@@ -22,7 +22,8 @@ void CPageTreeCtrl::OnTvnSelchanged(NMHDR* pNMHDR, LRESULT* pResult)
     const auto& change = *reinterpret_cast<NMTREEVIEW*>(pNMHDR);
     CPage* pNew = ItemToPage(change.itemNew.hItem);
     CPage* pOld = ItemToPage(change.itemOld.hItem);
-    for (INT_PTR i = 0; i < selectClients.GetSize(); ++i)
+    const int selection = ++selections;
+    for (INT_PTR i = 0; i < selectClients.GetSize() && selection == selections; ++i)
         if (auto* pClient = selectClients[i])
             pClient->PageSelected(pNew, pOld);
     SetFocus(); // the page that was shown has taken it

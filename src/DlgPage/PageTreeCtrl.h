@@ -66,4 +66,5 @@ protected:
 private:
     CMap<CPage*, CPage*, HTREEITEM, HTREEITEM> pageToItem; ///< the complete record, with the whole pointers
     ow::CClientList<ASelectPageNotificationClient> selectClients;
+    int selections = 0; ///< a client that selects another page has told all clients of that one
 };

@@ -136,10 +136,13 @@ void CInPlaceList::PostNcDestroy()
     DeleteWithWindow();
 }
 
+// Escape takes a choice back, too: a list without an edit part shows it already.
 void CInPlaceList::EndEdit()
 {
     CString strText;
-    if (::IsWindow(m_hWnd))
+    if (m_nLastChar == VK_ESCAPE)
+        strText = m_sInitText;
+    else if (::IsWindow(m_hWnd))
         GetWindowText(strText);
     NotifyEnd(strText);
 }

@@ -3,8 +3,9 @@
 //
 // Like CInPlaceEdit it creates its window in the constructor, tells the grid by LVN_ENDLABELEDITW, closes
 // itself and deletes itself. It ends on Tab, Enter or Escape when the key is released, but not by the release
-// of the key that has opened it; on a choice from the list; and on the loss of the focus. With
-// CBS_DROPDOWNLIST the list opens at once and a text that it lacks is lost.
+// of the key that has opened it; on an arrow or page key with Ctrl, or where the edit leaves on arrows; on a
+// choice from the list; and on the loss of the focus. Escape keeps the text from before. With CBS_DROPDOWNLIST
+// the list opens at once, and otherwise a text that it lacks is lost.
 
 #include <afxwin.h>
 #include <afxcoll.h>

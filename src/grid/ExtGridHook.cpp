@@ -24,22 +24,35 @@ void CParentHook::HookParent()
     HookWindow(pParent ? pParent : &m_parent);
 }
 
+// Called past the parent, which would have reported the exception of a handler.
 LRESULT CParentHook::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message != WM_NOTIFY || !IsGridId(wParam))
         return Default();
-    auto* const pHeader = reinterpret_cast<NMHDR*>(lParam);
+    const MSG msg{m_pWnd->GetSafeHwnd(), message, wParam, lParam, 0, {}};
+    try
+    {
+        return OnGridNotify(*reinterpret_cast<NMHDR*>(lParam));
+    }
+    catch (CException* e)
+    {
+        return AfxGetThread()->ProcessWndProcException(e, &msg);
+    }
+}
+
+LRESULT CParentHook::OnGridNotify(NMHDR& header)
+{
     LRESULT lResult = 1;
-    switch (pHeader->code)
+    switch (header.code)
     {
     case LVN_ENDLABELEDITW:
-        OnGridEndEdit(pHeader, &lResult);
+        OnGridEndEdit(&header, &lResult);
         return lResult;
     case LVN_ITEMCHANGED:
-        OnGridSelChanged(pHeader, &lResult);
+        OnGridSelChanged(&header, &lResult);
         return lResult;
     case NM_RCLICK:
-        OnGridRClick(pHeader, &lResult);
+        OnGridRClick(&header, &lResult);
         return lResult;
     default:
         return Default();

@@ -30,6 +30,7 @@ protected:
 
 private:
     bool IsGridId(WPARAM wParam) const;
+    LRESULT OnGridNotify(NMHDR& header);
 
     CWnd& m_grid;
     CWnd m_parent; ///< names a parent that is no object of its own, for as long as it is hooked
