@@ -84,7 +84,14 @@ CLowMemory& LowMemory()
 
 void* gfnAllocateLow(std::size_t size)
 {
-    return LowMemory().Allocate(sizeof(Header) + RoundUp(size, alignof(Header))) + 1;
+    try
+    {
+        return LowMemory().Allocate(sizeof(Header) + RoundUp(size, alignof(Header))) + 1;
+    }
+    catch (const std::bad_alloc&) // of the books
+    {
+        AfxThrowMemoryException();
+    }
 }
 
 void gfnFreeLow(void* pBlock) noexcept

@@ -270,7 +270,8 @@ void CButtonST::PreSubclassWindow()
 BOOL CButtonST::PreTranslateMessage(MSG* pMsg)
 {
     InitToolTip();
-    m_toolTip.RelayEvent(pMsg);
+    if (m_toolTip.m_hWnd)
+        m_toolTip.RelayEvent(pMsg);
     // Before the dialog sees it: the dialog would press its default button.
     if (pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_RETURN && m_bKbdSensitive)
         pMsg->wParam = VK_SPACE;

@@ -2,6 +2,8 @@
 
 #include "edits/EditDoubleWithRange.h"
 
+#include "module/HasWindow.h"
+
 #include <bit>
 #include <cfloat>
 #include <cmath>
@@ -29,8 +31,7 @@ constexpr double kSnap = 0.4995;
 /// counted in a double, so that a count of any size is defined.
 std::optional<double> StepFrom(double dBase, double dStep, int nDelta)
 {
-    const double dCount =
-        nDelta > 0 ? std::floor(dBase / dStep + kSnap) : std::ceil(dBase / dStep - kSnap);
+    const double dCount = nDelta > 0 ? std::floor(dBase / dStep + kSnap) : std::ceil(dBase / dStep - kSnap);
     const double dNext = (dCount + nDelta) * dStep;
     return std::isfinite(dNext) ? std::optional(dNext) : std::nullopt;
 }
@@ -124,8 +125,10 @@ void CEditDoubleWithRange::AttachSpin()
         return;
     CRect rect;
     GetClientRect(rect);
-    const BOOL bAttached = m_spinId.IsOwn() ? m_spin.Create(kSpinStyle, rect, GetParent(), m_spinId.Get())
-                                            : m_spin.SubclassDlgItem(m_spinId.Get(), GetParent());
+    const HWND hSpin = ::GetDlgItem(::GetParent(m_hWnd), m_spinId.Get());
+    const BOOL bAttached = m_spinId.IsOwn()
+                               ? m_spin.Create(kSpinStyle, rect, GetParent(), m_spinId.Get())
+                               : hSpin && !FromHandlePermanent(hSpin) && m_spin.SubclassWindow(hSpin);
     if (!bAttached)
         return;
     if (m_spinId.IsOwn())
@@ -419,8 +422,9 @@ void CEditDoubleWithRange::OnSpinDeltapos(NM_UPDOWN* pNMUpDown, LRESULT* pResult
         return;
     LocalRange().Clamp(*next);
     // Not guarded, so that the new text is stored and reported like a typed one.
+    const HWND hWnd = m_hWnd;
     SetWindowText(gfnFormatDouble(GetPrintfFormatString(), *next));
-    if (!m_hWnd)
+    if (!gfnHasWindow(this, hWnd))
         return; // the handler closed the dialog
     if (auto* pHandler = dynamic_cast<CEditDWRNotificationHandler*>(GetNotificationHandler()))
         pHandler->OnEditDWRSpinDeltaPos(GetDlgCtrlID());

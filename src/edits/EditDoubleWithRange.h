@@ -45,8 +45,9 @@
 // Control ids. The unit label and the spin may stand in the dialog template; then their ids are given. Or the
 // box creates them, for which kCreateControl is given: they get ids of the ResourceIdPool, enough for a
 // hundred such boxes at a time, and belong to the box. They come up visible, are shown and hidden with the
-// box from then on, and end with it; those of the template are left alone. An id of 0 means that there is no
-// such control. A spin with UDS_ALIGNRIGHT, as the box's own one is, takes its width from the box's.
+// box from then on, and end with it; those of the template are left alone, and a spin that the dialog has bound
+// to an object of its own is the dialog's affair. An id of 0 means that there is no such control. A spin with
+// UDS_ALIGNRIGHT, as the box's own one is, takes its width from the box's.
 //
 // The forcing argument of the setters does their work, the writing of the text included, where nothing
 // changes, too.

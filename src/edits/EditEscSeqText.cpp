@@ -2,6 +2,8 @@
 
 #include "edits/EditEscSeqText.h"
 
+#include "module/HasWindow.h"
+
 #include <Translator.h>
 
 #include <algorithm>
@@ -114,7 +116,10 @@ void CEditEscSeqText::OnTextChosen(int nId, int nIndex)
         return;
     if (nIndex < 0 || nIndex >= m_button.TextCount())
         return;
+    const HWND hWnd = m_hWnd;
     DodajTekstBezProvere(m_button.GetText(nIndex));
+    if (!gfnHasWindow(this, hWnd))
+        return; // the handler closed the dialog
     if (auto* pHandler = GetNotificationHandler())
         pHandler->OnEditNChange(GetDlgCtrlID()); // wanted: the second report of one insertion
 }
@@ -127,7 +132,10 @@ void CEditEscSeqText::DodajTekstBezProvere(CString strText)
     // A text that is refused stands in the control only, and must not be lost to the stored one.
     const CString strOld = IsTextValid(strShown) ? m_strValue : strShown;
     SafeSetWindowText(strOld.Left(nPos) + strText + strOld.Mid(nPos));
+    const HWND hWnd = m_hWnd;
     TakeFocus();
+    if (!gfnHasWindow(this, hWnd))
+        return;
     const int nBehind = nPos + strText.GetLength();
     SetSel(nBehind, nBehind);
     HandlerOnChange();

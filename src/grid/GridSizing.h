@@ -5,6 +5,7 @@
 #include "grid/GridClientArea.h"
 #include "grid/GridCtrl.h"
 #include "grid/GridDivider.h"
+#include "grid/GridLifeWatch.h"
 
 /// The dividers that the mouse is over or drags, by the mode.
 class CGridCtrl::CSizing
@@ -62,10 +63,13 @@ public:
         int nSize = 0;
         if (!m_dividers.Drop(sized, point, bMayHide != FALSE, nSize))
             return false;
+        const CLifeWatch life(m_grid); // a bar that comes or goes ends an edit
         if (m_bColumns)
             m_grid.SetColumnWidth(sized.col, nSize, TRUE);
         else
             m_grid.SetRowHeight(sized.row, nSize);
+        if (!life.WindowLives())
+            return false;
         m_grid.ResetScrollBars();
         m_grid.Invalidate();
         return true;
@@ -77,10 +81,13 @@ public:
         const int nItem = m_dividers.Fit(cell, point);
         if (nItem < 0)
             return false;
+        const CLifeWatch life(m_grid);
         if (m_bColumns)
             m_grid.AutoSizeColumn(nItem, m_grid.m_nAutoSizeStyle, TRUE);
         else
             m_grid.AutoSizeRow(nItem, TRUE);
+        if (!life.WindowLives())
+            return false;
         m_grid.Invalidate();
         return true;
     }

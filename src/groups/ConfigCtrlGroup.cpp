@@ -89,7 +89,8 @@ void CConfigCtrlGroup::OnExtComboBoxSelChanged(int, int)
     if (m_pConfigSet && nRow >= 0)
         m_pConfigSet->SetCurrentConfig(ConfigOf(nRow));
     TellChanged();
-    m_combo.SetFocus();
+    if (m_combo.m_hWnd)
+        m_combo.SetFocus();
 }
 
 void CConfigCtrlGroup::ShowCurrent()
