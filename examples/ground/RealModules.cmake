@@ -3,10 +3,11 @@
 #   cmake --preset msvc-real-modules -DADDON_SDK_DIR=C:/addon/sdk -DHOST_SDK_DIR=C:/host/sdk
 #   cmake --build --preset msvc-real-modules --target DialogControlsOW
 #
-# Each is a folder of headers and an import library. The library includes, by these names: acdocman.h and aced.h of the
-# host; Translator.h, ComplexUnit.h, MixedFont.h and MsgHook.h of BaseSvcOW; FormatJedinice.h and FormatTekstaKote.h of
-# SettingsOW; FontManager.h of AcadOleSvcOW. Where a real header has another name, a header of one line leads to it. What
-# the library calls of them stands in the stand-ins' headers below platform/, and nothing more is needed.
+# Each is a folder of headers and an import library. The library includes, by these names: acdocman.h, aced.h and
+# rxmfcapi.h of the host; Translator.h, ComplexUnit.h, MixedFont.h and MsgHook.h of BaseSvcOW; FormatJedinice.h and
+# FormatTekstaKote.h of SettingsOW; FontManager.h and epgFont.h of AcadOleSvcOW. Where a real header has
+# another name, a header of one line leads to it. What the library calls of them stands in the stand-ins' headers below
+# platform/, and nothing more is needed.
 set(ADDON_SDK_DIR "" CACHE PATH "Where include/ and lib/ of BaseSvcOW, SettingsOW and AcadOleSvcOW are")
 set(HOST_SDK_DIR "" CACHE PATH "Where include/ and lib/ of the host are")
 

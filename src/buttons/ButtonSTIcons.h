@@ -1,9 +1,8 @@
 #pragma once
 // The names of the shared icons, all of them static members of CButtonST.
 //
-// X is applied to each name. The first list is what this library loads at start-up, from the resources whose
-// ids stand in Initialize.cpp. The second is declared and exported here and stays null in this library:
-// sibling modules fill those members and share them.
+// X is applied to each name. The first list is what this library loads at start-up. The second is declared and
+// exported here and stays null in this library: sibling modules fill those members and share them.
 
 // clang-format off
 #define OW_BUTTONST_LOADED_ICONS(X)                                                                          \

@@ -50,7 +50,7 @@ public:
     CXIcon& SetTextColor(DWORD crText, int bRepaint = TRUE);
     DWORD GetTextColor() const;
 
-    /// Whether Resize runs by itself after each change. Off at first.
+    /// Whether Resize runs by itself after each change. On at first.
     CXIcon& SetAutoResize(int bAutoResize, int bRepaint = TRUE);
     int GetAutoResize() const;
 

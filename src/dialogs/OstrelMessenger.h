@@ -15,7 +15,7 @@
 // box.
 //
 // The first call of Instance must come on the main thread, which owns the host's window; the object sees that
-// window's messages from then on, and lives until the library ends or the window goes.
+// window's messages until it goes. A code that is posted after that is not shown.
 
 #include <afxwin.h>
 

@@ -36,8 +36,8 @@ int CEditCtrlAnsiMsgHook::HookWindow(CWnd* pWnd)
     const unsigned char nCharSet = gOtSubLang.GetCurrentCharacterSet();
     if (nCharSet == ClTranslator::GetDisplayCharacterSet())
         return 1;
-    CFont
-        left; // of the last box, which still shows it if it was left through the base class, and may be this one
+    // Of the last box, which still shows it if it was left through the base class, and may be this one.
+    CFont left;
     if (!IsHooked())
         GiveUpFont(left);
     const int nHooked = CMsgHook::HookWindow(pWnd);

@@ -18,8 +18,8 @@
 //     WM_SETTEXT   sets the text, and answers 1.
 //     WM_GETTEXT   wParam is taken for bytes, although it counts characters: this is wanted. Half of the
 //                  buffer is filled, and a null put behind; the answer is the length of the whole text all
-//                  the same. So GetWindowText gives half of a text. The library's own boxes and the editors
-//                  of cells read theirs by gfnWholeText (edits/WholeText.h), as a dialog should, too.
+//                  the same. So GetWindowText gives half of a text. The library's own boxes and CInPlaceEdit
+//                  read theirs by gfnWholeText (edits/WholeText.h), as a dialog should, too.
 //
 // Hook on the thread that owns the box. Box and hook may go in any order.
 

@@ -416,11 +416,12 @@ public:
     void SetHeaderSort(BOOL bSortOnClick = TRUE) { m_bHeaderSort = bSortOnClick; }
     BOOL GetHeaderSort() const { return m_bHeaderSort; }
 
-    /// A text file, one line for each row. What Load reads of what Save wrote is told in GridFile.cpp.
+    /// A text file, one line for each row. Load puts the first field of each data line one row below the
+    /// others: a file of more than one column does not come back as it was saved.
     BOOL Load(LPCWSTR szFileName, wchar_t chSeparator = L',');
     BOOL Save(LPCWSTR szFileName, wchar_t chSeparator = L',');
     /// Keeps the column widths in the application's profile from one run to the next; `n` tells the grids of
-    /// one dialog apart. SetColumnWidth reads them, the destructor writes them.
+    /// one dialog apart. SetColumnWidth reads them, and nothing else does; the destructor writes them.
     void SetPersistentGridColumnsWidth(const CString& key, int n);
 
     /// The unit of a column, by index; indices do not follow columns that are inserted or deleted.

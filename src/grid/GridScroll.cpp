@@ -116,7 +116,7 @@ void CGridCtrl::ResetScrollBars()
 
 // ---- Messages ---------------------------------------------------------------------------------------------
 
-// The guard is one for all grids of the thread: changing the bars changes the size again.
+// The guard is one for all grids: changing the bars changes the size again.
 void CGridCtrl::OnSize(UINT nType, int cx, int cy)
 {
     static bool s_bSizing = false;

@@ -16,7 +16,8 @@
 // - The control changes its own state first and calls then. The call is synchronous, on the dialog's thread.
 // - nId is the control id (GetDlgCtrlID), so one handler can serve many controls. A group gives itself
 //   instead.
-// - Handlers are not owned, are never deleted by a control, and must outlive it. No handler means silence.
+// - Handlers are not owned, are never deleted by a control, and must outlive it. No handler means silence;
+//   only the extended grids must have one.
 // - A handler may change the control. It must not destroy it, except that a button's handler may close the
 //   dialog.
 //
@@ -128,8 +129,8 @@ public:
     virtual void OnExtGrid2RClick(int nId, CCellID cell) = 0;
 };
 
-/// Colours of the extended grid's selection cross, asked while it is painted. Rows whose distance from the
-/// fixed rows is below the count form a band of the header colour; columns have no such band.
+/// Colours of the rows under the extended grid's cross, asked at each change of the current cell. Rows whose
+/// distance from the fixed rows is below the count form a band of the header colour; columns have no such band.
 class AExtGridCtrl2ExtraHeaderSupport
 {
 public:
@@ -177,7 +178,7 @@ public:
 
 // ---- Pages ------------------------------------------------------------------------------------------------
 
-/// Told by the page selectors that the user selected a page. Either pointer may be null.
+/// Told by the page selectors that a page was selected, by the user or by code. Either pointer may be null.
 class ASelectPageNotificationClient
 {
 public:

@@ -30,8 +30,8 @@ public:
 };
 
 /// This library's interface. Its `Setup` always answers 1 and does nothing, since loading has done the work;
-/// its `Cleanup` gives back four of the seven bitmap tables (see DialogControlsInterface.cpp). Both may be
-/// called any number of times, in any order.
+/// its `Cleanup` gives back four of the seven bitmap tables. Both may be called any number of times, in any
+/// order.
 extern "C" OW_DIALOGCONTROLS_API OwDllInterface* OwGetDllInterface();
 
 /// The host's version handshake, called by the host when it loads the module.
