@@ -2,14 +2,13 @@
 // A program of the folder clients/ that runs beside the test, and its windows.
 //
 //     Client program(L"wizard_dialog");
-//     const HWND dialog = program.Window(L"Wizard's dialog");
-//     owtest::Click(::GetDlgItem(dialog, IDC_GREET));
-//     EXPECT_TRUE(Shows(dialog, IDC_STATE, L"3 x beam"));
+//     program.Window(L"Wizard's dialog");
+//     program.Click(IDC_GREET);
+//     program.Shows(IDC_STATE, L"3 x beam");
 //     owtest::Press(VK_ESCAPE);
-//     EXPECT_TRUE(program.Ends());
 //
 // Keys and clicks go to whatever window is in front, as a user's do. The program works on them in its own time:
-// whoever presses asks afterwards for what must come of it, and waits.
+// whoever presses asks afterwards for what must come of it, and waits. At the end the program has to end.
 
 #include <afxcmn.h>
 
@@ -33,23 +32,21 @@ public:
     /// Starts mfc_NAME.exe, which stands beside the test's own program.
     explicit Client(const std::wstring& name, const std::wstring& arguments = {})
     {
-        wchar_t folder[MAX_PATH] = L"";
-        ::GetModuleFileNameW(nullptr, folder, MAX_PATH);
-        const std::wstring path(folder);
-        std::wstring command =
-            L'"' + path.substr(0, path.rfind(L'\\')) + L"\\mfc_" + name + L".exe\" " + arguments;
+        wchar_t path[MAX_PATH] = L"";
+        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+        wcsrchr(path, L'\\')[1] = 0;
+        std::wstring command = L'"' + std::wstring(path) + L"mfc_" + name + L".exe\" " + arguments;
         STARTUPINFOW start{};
         start.cb = sizeof start;
         // Wine now and then cannot place a new process at its fixed addresses; the next try does.
         for (int tries = 0; m_process.hProcess == nullptr && tries < 3; ++tries)
             ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                              &m_process);
-        EXPECT_NE(m_process.hProcess, nullptr) << "the program did not start";
     }
     ~Client()
     {
-        if (!HasEnded())
-            ::TerminateProcess(m_process.hProcess, 99);
+        EXPECT_TRUE(Waits([this] { return HasEnded(); })) << "it does not end";
+        ::TerminateProcess(m_process.hProcess, 99);
         ::CloseHandle(m_process.hThread);
         ::CloseHandle(m_process.hProcess);
     }
@@ -57,108 +54,110 @@ public:
     Client& operator=(const Client&) = delete;
 
     /// Waits for a visible, enabled window of the program with that title, or any, and brings it to the front.
-    HWND Window(const std::wstring& title = {}) const
+    /// The items are those of that window from now on.
+    HWND Window(const std::wstring& title = {})
     {
-        HWND found = nullptr;
-        EXPECT_TRUE(Waits([&] { return (found = Find(title)) != nullptr || HasEnded(); }));
-        EXPECT_NE(found, nullptr) << "no window of this title";
+        EXPECT_TRUE(Waits([&] { return (m_window = Find(title)) != nullptr || HasEnded(); }));
+        EXPECT_NE(m_window, nullptr) << "no window of this title";
         // It comes to the front by itself, as a rule; to help it then would take the focus from where it was put.
-        const auto isInFront = [&] { return ::GetForegroundWindow() == found; };
+        const auto isInFront = [&] { return ::GetForegroundWindow() == m_window; };
         if (!owtest::PumpUntil(isInFront, 1000))
         {
-            ::SetForegroundWindow(found);
+            ::SetForegroundWindow(m_window);
             EXPECT_TRUE(Waits(isInFront));
         }
-        return found;
+        return m_window;
     }
-    /// Waits until the program has no such window any more.
-    bool Closes(const std::wstring& title) const
+    /// A message box of a title that is answered by Return.
+    void Confirm(const std::wstring& title, const std::wstring& text = {})
     {
-        return Waits([&] { return Find(title) == nullptr; });
-    }
-    /// Waits for the program's end.
-    bool Ends() const
-    {
-        return Waits([this] { return HasEnded(); });
+        Window(title);
+        if (!text.empty())
+            Shows(0xFFFF, text);
+        owtest::Press(VK_RETURN);
     }
 
-    /// The text of the tool tip that the program shows, if it does.
-    std::wstring ShownTip() const
+    /// A control of the window, or of the page of a sheet that shows; null if there is none.
+    HWND Item(int id) const
     {
-        for (HWND tip = nullptr; (tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+        if (const HWND item = ::GetDlgItem(m_window, id))
+            return item;
+        for (HWND page = ::GetTopWindow(m_window); page != nullptr; page = ::GetWindow(page, GW_HWNDNEXT))
+            if (const HWND item = ::IsWindowVisible(page) ? ::GetDlgItem(page, id) : nullptr)
+                return item;
+        return nullptr;
+    }
+    bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
+    bool WaitsFor(int id) const
+    {
+        return Waits([=, this] { return IsEnabled(id); });
+    }
+    /// Clicks a control as soon as it is there and enabled.
+    void Click(int id) const
+    {
+        EXPECT_TRUE(WaitsFor(id)) << id;
+        owtest::Click(Item(id));
+    }
+    /// Waits until a control shows a text. GetWindowText would answer only what stands in its frame.
+    void Shows(int id, const std::wstring& text) const
+    {
+        wchar_t shown[256] = L"";
+        const auto shows = [&]
         {
-            DWORD process = 0;
-            ::GetWindowThreadProcessId(tip, &process);
-            wchar_t text[128] = L"";
-            if (process == m_process.dwProcessId && ::IsWindowVisible(tip) &&
-                ::SendMessageW(tip, WM_GETTEXT, ARRAYSIZE(text), reinterpret_cast<LPARAM>(text)) > 0)
-                return text;
-        }
-        return {};
+            DWORD_PTR length = 0;
+            ::SendMessageTimeoutW(Item(id), WM_GETTEXT, ARRAYSIZE(shown), reinterpret_cast<LPARAM>(shown),
+                                  SMTO_ABORTIFHUNG, 5000, &length);
+            return text == shown;
+        };
+        EXPECT_TRUE(Waits(shows)) << ::testing::PrintToString(std::wstring(shown));
     }
     /// Waits until an edit control has the focus and all its text is selected: a refused value is to be typed anew.
-    bool IsToBeRetyped(HWND edit) const
+    void IsToBeRetyped(int id) const
     {
-        return Waits(
-            [=]
-            {
-                GUITHREADINFO info{};
-                info.cbSize = sizeof info;
-                const LRESULT length = ::SendMessageW(edit, WM_GETTEXTLENGTH, 0, 0);
-                return ::GetGUIThreadInfo(::GetWindowThreadProcessId(edit, nullptr), &info) &&
-                       info.hwndFocus == edit && ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
-            });
+        const auto isSelected = [this, edit = Item(id)]
+        {
+            GUITHREADINFO info{};
+            info.cbSize = sizeof info;
+            const LRESULT length = ::SendMessageW(edit, WM_GETTEXTLENGTH, 0, 0);
+            return ::GetGUIThreadInfo(m_process.dwThreadId, &info) && info.hwndFocus == edit &&
+                   ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
+        };
+        EXPECT_TRUE(Waits(isSelected)) << id;
+    }
+    /// Waits until the program shows a tool tip of this text; of none, if it is empty.
+    void ShowsTip(const std::wstring& text) const
+    {
+        EXPECT_TRUE(Waits([&] { return ShownTip() == text; })) << ::testing::PrintToString(ShownTip());
     }
 
 private:
-    struct Search
+    bool IsShown(HWND window) const
     {
-        const Client& client;
-        const std::wstring& title;
-        HWND found;
-    };
-
-    HWND Find(const std::wstring& title) const
-    {
-        Search search{*this, title, nullptr};
-        ::EnumWindows(&IsWanted, reinterpret_cast<LPARAM>(&search));
-        return search.found;
-    }
-    static BOOL CALLBACK IsWanted(HWND window, LPARAM parameter)
-    {
-        auto& search = *reinterpret_cast<Search*>(parameter);
         DWORD process = 0;
         ::GetWindowThreadProcessId(window, &process);
-        wchar_t text[128] = L"";
-        if (process != search.client.m_process.dwProcessId || !::IsWindowVisible(window) ||
-            !::IsWindowEnabled(window) || ::GetWindowTextW(window, text, ARRAYSIZE(text)) == 0 ||
-            (!search.title.empty() && text != search.title))
-            return TRUE;
-        search.found = window;
-        return FALSE;
+        return process == m_process.dwProcessId && ::IsWindowVisible(window);
     }
-    bool HasEnded() const { return ::WaitForSingleObject(m_process.hProcess, 0) == WAIT_OBJECT_0; }
+    std::wstring ShownTip() const
+    {
+        wchar_t text[128] = L"";
+        for (HWND tip = nullptr; (tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+            if (IsShown(tip))
+                ::SendMessageW(tip, WM_GETTEXT, ARRAYSIZE(text), reinterpret_cast<LPARAM>(text));
+        return text;
+    }
+    HWND Find(const std::wstring& title) const
+    {
+        for (HWND window = ::GetTopWindow(nullptr); window; window = ::GetWindow(window, GW_HWNDNEXT))
+        {
+            wchar_t text[128] = L"";
+            if (IsShown(window) && ::IsWindowEnabled(window) &&
+                ::GetWindowTextW(window, text, ARRAYSIZE(text)) > 0 && (title.empty() || title == text))
+                return window;
+        }
+        return nullptr;
+    }
+    bool HasEnded() const { return ::WaitForSingleObject(m_process.hProcess, 0) != WAIT_TIMEOUT; }
 
     PROCESS_INFORMATION m_process{};
+    HWND m_window = nullptr;
 };
-
-/// The control of a message box that shows its text.
-constexpr int kBoxText = 0xFFFF;
-
-/// The text of a control of another program; GetWindowText answers only what stands in its frame.
-inline std::wstring TextOfItem(HWND dialog, int id)
-{
-    wchar_t text[256] = L"";
-    DWORD_PTR length = 0;
-    ::SendMessageTimeoutW(::GetDlgItem(dialog, id), WM_GETTEXT, ARRAYSIZE(text),
-                          reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG, 5000, &length);
-    return text;
-}
-
-/// Waits until a control shows a text; what it shows instead otherwise.
-inline ::testing::AssertionResult Shows(HWND dialog, int id, const std::wstring& text)
-{
-    if (Waits([&] { return TextOfItem(dialog, id) == text; }))
-        return ::testing::AssertionSuccess();
-    return ::testing::AssertionFailure() << ::testing::PrintToString(TextOfItem(dialog, id));
-}

@@ -4,34 +4,32 @@
 
 #include <afxpriv.h>
 
-#include "ModalVisit.h"
-
-#include <string>
-
 namespace
 {
 class CTestApp : public CWinApp
 {
 public:
-    CTestApp() : CWinApp(L"ProfileTest") {}
+    CTestApp() : CWinApp(L"ProfileTest")
+    {
+        m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { Note("ends"); };
+    }
     using CWinApp::SetRegistryKey;
-    int m_command = 0;
-    CString m_boxText;
-    int m_filtered = 0;
+    BOOL applies = TRUE, begins = FALSE, isProgram = FALSE;
 
+    BOOL InitApplication() override { return applies; }
+    BOOL InitInstance() override { return begins; }
+    int Run() override { return isProgram ? 7 : CWinApp::Run(); }
+    int ExitInstance() override { return isProgram ? 5 : CWinApp::ExitInstance(); }
     BOOL ProcessMessageFilter(int code, LPMSG message) override
     {
-        m_filtered += code == MSGF_DIALOGBOX;
+        Note("filter", code);
+        ::CallMsgFilter(message, MSGF_DIALOGBOX); // as a loop in a filter would; it is not told of that one
         return CWinApp::ProcessMessageFilter(code, message);
     }
-    int DoMessageBox(LPCTSTR lpszPrompt, UINT, UINT) override
-    {
-        m_boxText = lpszPrompt;
-        return IDOK;
-    }
+    int DoMessageBox(LPCTSTR prompt, UINT, UINT) override { return Note(*prompt ? "box" : "") ? IDOK : 0; }
 
 protected:
-    afx_msg void OnCommand() { ++m_command; }
+    afx_msg void OnCommand() { Note("application"); }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -39,113 +37,80 @@ BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
 END_MESSAGE_MAP()
 
-using Application = WithApplication<CTestApp>;
-
-class Profile : public Application
+class Application : public WithApplication<CTestApp>
 {
 protected:
-    void CheckValues()
+    Application() { Noted(); }
+    void CheckProfile()
     {
-        EXPECT_EQ(app->GetProfileInt(L"Numbers", L"missing", -4), static_cast<UINT>(-4));
-        ASSERT_TRUE(app->WriteProfileInt(L"Numbers", L"negative", -17));
-        EXPECT_EQ(static_cast<int>(app->GetProfileInt(L"Numbers", L"negative", 0)), -17);
+        const auto number = [this] { return static_cast<int>(app->GetProfileInt(L"Numbers", L"n", -4)); };
+        EXPECT_EQ(number(), -4);
+        EXPECT_TRUE(app->WriteProfileInt(L"Numbers", L"n", -17));
+        EXPECT_EQ(number(), -17);
 
         const auto name = [this] { return app->GetProfileString(L"Texts", L"name", L"default"); };
+        const auto write = [this](LPCTSTR entry, LPCTSTR text)
+        { EXPECT_TRUE(app->WriteProfileString(L"Texts", entry, text)); };
         EXPECT_EQ(name(), L"default");
-        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"steel beam"));
+        write(L"name", L"steel beam");
         EXPECT_EQ(name(), L"steel beam");
-        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", nullptr));
+        write(L"name", nullptr);
         EXPECT_EQ(name(), L"default") << "the entry is gone";
-        ASSERT_TRUE(app->WriteProfileString(L"Texts", L"name", L"again"));
-        ASSERT_TRUE(app->WriteProfileString(L"Texts", nullptr, nullptr));
+        write(L"name", L"again");
+        write(nullptr, nullptr);
         EXPECT_EQ(name(), L"default") << "the section is gone";
 
         BYTE written[] = {0x00, 0x01, 0x7F, 0x80, 0xFF};
-        ASSERT_TRUE(app->WriteProfileBinary(L"Data", L"bytes", written, sizeof written));
+        EXPECT_TRUE(app->WriteProfileBinary(L"Data", L"bytes", written, sizeof written));
         LPBYTE read = nullptr;
         UINT size = 0;
         ASSERT_TRUE(app->GetProfileBinary(L"Data", L"bytes", &read, &size));
         const std::unique_ptr<BYTE[]> owner(read);
-        ASSERT_EQ(size, sizeof written);
-        EXPECT_TRUE(std::equal(read, read + size, written));
+        EXPECT_TRUE(std::equal(read, read + size, std::begin(written), std::end(written)));
         EXPECT_FALSE(app->GetProfileBinary(L"Data", L"missing", &read, &size));
-        EXPECT_EQ(read, nullptr);
-        EXPECT_EQ(size, 0u);
+        EXPECT_TRUE(read == nullptr && size == 0);
     }
 };
 
-TEST_F(Profile, LivesInTheRegistryBelowCompanyAndProgram)
+TEST_F(Application, HasItsProfileInTheRegistryOrInAFile)
 {
-    app->SetRegistryKey(L"DialogControlsOW Tests");
-    CheckValues();
+    wchar_t folder[MAX_PATH], file[MAX_PATH];
+    ::GetTempPath(MAX_PATH, folder);
+    ASSERT_NE(::GetTempFileName(folder, L"prf", 0, file), 0u);
+    app->m_pszProfileName = _wcsdup(file); // freed by the application
+    CheckProfile();
+    EXPECT_EQ(app->GetProfileString(L"Data", L"bytes"), L"AABAPHAIPP") << "two letters, the low half first";
+    ::DeleteFile(file);
 
-    DWORD value = 0;
+    app->SetRegistryKey(L"DialogControlsOW Tests");
+    CheckProfile();
+    int value = 0;
     DWORD size = sizeof value;
-    EXPECT_EQ(::RegGetValue(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers",
-                            L"negative", RRF_RT_REG_DWORD, nullptr, &value, &size),
-              ERROR_SUCCESS);
-    EXPECT_EQ(static_cast<int>(value), -17);
+    ::RegGetValue(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers", L"n",
+                  RRF_RT_REG_DWORD, nullptr, &value, &size);
+    EXPECT_EQ(value, -17);
     EXPECT_EQ(app->DelRegTree(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests"), ERROR_SUCCESS);
 }
 
-TEST_F(Profile, LivesInAFileWithoutARegistryKey)
-{
-    wchar_t folder[MAX_PATH];
-    wchar_t file[MAX_PATH];
-    ASSERT_NE(::GetTempPath(MAX_PATH, folder), 0u);
-    ASSERT_NE(::GetTempFileName(folder, L"prf", 0, file), 0u);
-    app->m_pszProfileName = _wcsdup(file); // freed by the application
-    CheckValues();
-    // A byte is two letters, its low half first.
-    EXPECT_EQ(app->GetProfileString(L"Data", L"bytes"), L"AABAPHAIPP");
-    ::DeleteFile(file);
-}
-
-/// Its handlers of commands and of painting fail.
-struct CFailingWnd : CWnd
-{
-    int m_paints = 0;
-
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        m_paints += message == WM_PAINT;
-        if (message == WM_COMMAND || message == WM_PAINT)
-            AfxThrowNotSupportedException();
-        return CWnd::WindowProc(message, wParam, lParam);
-    }
-};
-
 TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
 {
-    CFailingWnd window;
+    CSeenWnd window(
+        [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
+        {
+            if (message == WM_COMMAND || message == WM_PAINT)
+                AfxThrowNotSupportedException();
+            return std::nullopt;
+        });
     ASSERT_TRUE(CreatePopup(window, nullptr, WS_VISIBLE));
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 1), TRUE); // handled, although it failed
-    EXPECT_FALSE(app->m_boxText.IsEmpty());
-
-    app->m_boxText.Empty();
+    EXPECT_EQ(Noted(), "box;");
     window.Invalidate();
     window.UpdateWindow();
-    EXPECT_TRUE(app->m_boxText.IsEmpty()); // a box would make the window paint again
+    EXPECT_EQ(Noted(), "") << "a box would make the window paint again";
     EXPECT_FALSE(window.GetUpdateRect(nullptr));
-    EXPECT_GE(window.m_paints, 1);
 }
 
-struct CMainApp : CWinApp
-{
-    BOOL applies = TRUE, begins = FALSE;
-    static inline int ends = 0;
-    CMainApp()
-    {
-        m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { ++ends; };
-    }
-    BOOL InitApplication() override { return applies; }
-    BOOL InitInstance() override { return begins; }
-    int Run() override { return 7; }
-    int ExitInstance() override { return 5; }
-};
-using Program = WithApplication<CMainApp>;
-
-TEST_F(Program, RunsIfItBeginsAndElseEndsWithItsWindow)
+TEST_F(Application, RunsIfItBeginsAndElseEndsWithItsWindow)
 {
     TCHAR arguments[] = L"part.dat";
     const auto run = [&]
@@ -154,28 +119,30 @@ TEST_F(Program, RunsIfItBeginsAndElseEndsWithItsWindow)
         AfxInitThread(); // the test goes on
         return code;
     };
+    app->isProgram = TRUE;
+    AfxSetResourceHandle(nullptr);
     CWnd main;
     ASSERT_TRUE(CreatePopup(main));
     app->m_pMainWnd = &main;
     EXPECT_EQ(run(), 5);
     EXPECT_EQ(main.m_hWnd, nullptr);
     TakeQuitMessage();
+    EXPECT_EQ(AfxGetResourceHandle(), AfxGetInstanceHandle());
     EXPECT_STREQ(app->m_lpCmdLine, arguments);
     EXPECT_EQ(app->m_nCmdShow, SW_SHOWNA);
     app->begins = TRUE;
     EXPECT_EQ(run(), 7);
     app->applies = FALSE;
     EXPECT_EQ(run(), -1);
-    EXPECT_EQ(app->ends, 3);
+    EXPECT_EQ(Noted(), "ends;ends;ends;");
+    app.reset();
+    EXPECT_EQ(AfxGetApp(), nullptr);
 }
 
 class CTestFrame : public CFrameWnd
 {
-public:
-    int m_command = 0;
-
 protected:
-    afx_msg void OnOwnCommand() { ++m_command; }
+    afx_msg void OnOwnCommand() { Note("frame"); }
     afx_msg void OnUpdateOwn(CCmdUI* item) { item->SetCheck(1); }
     DECLARE_MESSAGE_MAP()
 };
@@ -206,35 +173,32 @@ protected:
 TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
 {
     frame->SendMessage(WM_COMMAND, 0x8124);
-    EXPECT_EQ(frame->m_command, 1);
     frame->SendMessage(WM_COMMAND, 0x8123);
-    EXPECT_EQ(app->m_command, 1);
-
+    EXPECT_EQ(Noted(), "frame;application;");
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
-    for (UINT command : {0x8124, 0x8123, 0x8125}) // its own, the application's, nobody's
-        menu.AppendMenu(MF_STRING, command, L"item");
+    const std::pair<UINT, UINT> items[] = {
+        {0x8124, MF_CHECKED}, {0x8123, MF_ENABLED}, {0x8125, MF_GRAYED}, {0xF000, MF_ENABLED}};
+    for (const auto& [command, state] : items)
+        menu.AppendMenu(MF_STRING, command, L"item"); // its own, the application's, nobody's, the system's
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
-    EXPECT_EQ(menu.GetMenuState(0, MF_BYPOSITION), UINT{MF_CHECKED});
-    EXPECT_EQ(menu.GetMenuState(1, MF_BYPOSITION), UINT{MF_ENABLED});
-    EXPECT_EQ(menu.GetMenuState(2, MF_BYPOSITION), UINT{MF_GRAYED});
+    for (const auto& [command, state] : items)
+        EXPECT_EQ(menu.GetMenuState(command, MF_BYCOMMAND), state) << command;
 }
 
 TEST_F(Frame, DisablingItDisablesTheWindowsItOwnsAndFramesWhoeverEnablesThem)
 {
-    CWnd palette;
-    CWnd alreadyDisabled;
+    CWnd palette, alreadyDisabled;
     ASSERT_TRUE(CreatePopup(palette, frame));
     ASSERT_TRUE(CreatePopup(alreadyDisabled, frame, WS_DISABLED));
     auto* const owned = new CFrameWnd; // goes with its owner
     ASSERT_TRUE(owned->Create(nullptr, L"owned", WS_POPUP, CRect(0, 0, 50, 50), frame));
     frame->EnableWindow(FALSE);
     owned->EnableWindow(TRUE);
-    EXPECT_FALSE(owned->IsWindowEnabled());
-    EXPECT_FALSE(palette.IsWindowEnabled());
+    EXPECT_FALSE(owned->IsWindowEnabled() || palette.IsWindowEnabled());
     frame->EnableWindow(TRUE);
-    EXPECT_TRUE(owned->IsWindowEnabled());
-    EXPECT_TRUE(palette.IsWindowEnabled());
+    EXPECT_TRUE(owned->IsWindowEnabled() && palette.IsWindowEnabled());
+    EXPECT_EQ(owned->GetTopLevelFrame(), frame);
     EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
 }
 
@@ -242,54 +206,45 @@ TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)
 {
     frame->PostMessage(WM_COMMAND, ID_APP_EXIT);
     EXPECT_EQ(app->Run(), 0);
-    EXPECT_EQ(app->m_pMainWnd, nullptr);
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
 }
 
-struct CIdleWnd : CWnd
-{
-    int m_updates = 0;
-
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        m_updates += message == WM_IDLEUPDATECMDUI;
-        return CWnd::WindowProc(message, wParam, lParam);
-    }
-};
-
 TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
 {
-    CIdleWnd child;
-    ASSERT_TRUE(CreateChild(child, *frame, 1));
+    CSeenWnd child(
+        [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
+            return message == WM_IDLEUPDATECMDUI && Note("update") ? std::optional<LRESULT>(0) : std::nullopt;
+        });
+    CWnd middle;
+    ASSERT_TRUE(CreateChild(middle, *frame, 1));
+    ASSERT_TRUE(CreateChild(child, middle, 2));
+    EXPECT_TRUE(child.GetParentFrame() == frame && child.GetTopLevelFrame() == frame);
     EXPECT_TRUE(app->OnIdle(0));
-    EXPECT_EQ(child.m_updates, 0); // the frame is hidden
-    frame->ShowWindow(SW_SHOW);
+    EXPECT_EQ(Noted(), "") << "the frame is hidden";
+    frame->ActivateFrame();
     EXPECT_TRUE(app->OnIdle(0));
-    EXPECT_EQ(child.m_updates, 1);
+    EXPECT_EQ(Noted(), "update;");
     EXPECT_FALSE(app->OnIdle(1));
-    EXPECT_EQ(child.m_updates, 1);
+    EXPECT_EQ(Noted(), "");
 }
 
 TEST_F(Application, MessagesThatChangeNothingDoNotBringIdleTime)
 {
-    MSG message{};
-    message.message = WM_MOUSEMOVE;
-    message.pt = {5, 5};
-    EXPECT_TRUE(app->IsIdleMessage(&message));
-    EXPECT_FALSE(app->IsIdleMessage(&message)); // the system repeats it without a movement
-    message.pt = {6, 5};
-    EXPECT_TRUE(app->IsIdleMessage(&message));
-    message.message = WM_PAINT;
-    EXPECT_FALSE(app->IsIdleMessage(&message));
-    message.message = WM_KEYDOWN;
-    EXPECT_TRUE(app->IsIdleMessage(&message));
+    const std::tuple<UINT, LONG, bool> cases[] = {
+        {WM_MOUSEMOVE, 5, true}, {WM_MOUSEMOVE, 5, false}, // repeated without a movement
+        {WM_MOUSEMOVE, 6, true}, {WM_NCMOUSEMOVE, 6, true}, {WM_PAINT, 6, false}, {WM_KEYDOWN, 6, true}};
+    for (const auto& [number, x, changes] : cases)
+    {
+        MSG message{nullptr, number, 0, 0, 0, {x, 5}};
+        EXPECT_EQ(app->IsIdleMessage(&message) != FALSE, changes) << number << ' ' << x;
+    }
 }
 
 TEST_F(Application, SeesTheMessagesOfTheSystemsOwnLoops)
 {
-    const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });
-    ::MessageBox(nullptr, L"text", L"title", MB_OK);
-    EXPECT_GT(app->m_filtered, 0);
+    MSG message{};
+    EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
+    EXPECT_EQ(Noted(), "filter 2;");
 }
 
 TEST_F(Application, TheWaitCursorIsCounted)
@@ -299,10 +254,7 @@ TEST_F(Application, TheWaitCursorIsCounted)
     ::SetCursor(arrow);
     {
         CWaitCursor outer;
-        {
-            CWaitCursor inner;
-            EXPECT_EQ(::GetCursor(), wait);
-        }
+        CWaitCursor().Restore();
         EXPECT_EQ(::GetCursor(), wait);
         ::SetCursor(arrow);
         outer.Restore();
@@ -315,10 +267,15 @@ TEST(WindowClass, EqualRequestsGiveOneClass)
 {
     const CString first = AfxRegisterWndClass(CS_DBLCLKS);
     EXPECT_EQ(CString(AfxRegisterWndClass(CS_DBLCLKS)), first);
-    EXPECT_NE(CString(AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_CROSS))), first);
+    const HCURSOR cross = ::LoadCursor(nullptr, IDC_CROSS);
+    const HBRUSH gray = static_cast<HBRUSH>(::GetStockObject(GRAY_BRUSH));
+    const HICON hand = ::LoadIcon(nullptr, IDI_HAND);
+    const CString second = AfxRegisterWndClass(CS_DBLCLKS, cross, gray, hand);
+    EXPECT_NE(second, first);
     WNDCLASS found{};
-    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), first, &found));
-    EXPECT_EQ(found.style, UINT{CS_DBLCLKS});
+    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), second, &found));
+    EXPECT_EQ(std::tuple(found.style, found.hCursor, found.hbrBackground, found.hIcon),
+              std::tuple(UINT{CS_DBLCLKS}, cross, gray, hand));
 }
 
 TEST(DumpStack, PutsTheFramesOnTheClipboard)

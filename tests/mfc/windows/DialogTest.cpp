@@ -8,13 +8,11 @@
 #include "Handles.h"
 #include "Input.h"
 
-#include <functional>
-#include <utility>
+#include <vector>
 
 namespace
 {
 constexpr UINT idEdit = 201;
-constexpr UINT idMemo = 202;
 
 owtest::DialogTemplate Form()
 {
@@ -24,33 +22,35 @@ owtest::DialogTemplate Form()
         .Button(L"Cancel", IDCANCEL, 48, 40, 40, 14);
 }
 
-/// A form that the system refuses to make.
-owtest::DialogTemplate BrokenForm()
+/// A template whose window cannot be made, and one whose control cannot.
+const struct
 {
-    return owtest::DialogTemplate(L"", 50, 50).Item(L"NoSuchClass", L"", 1, 0, 0, 0, 10, 10);
-}
+    DLGTEMPLATE head{WS_POPUP, 0, 0, 0, 0, 50, 50};
+    wchar_t menu[1]{}, windowClass[8]{L"Unknown"}, title[1]{};
+} kNoWindow;
+const auto kNoControl = owtest::DialogTemplate(L"", 50, 50).Item(L"NoSuchClass", L"", 1, 0, 0, 0, 10, 10);
 
-/// A dialog with one text; shown as a modal one, it does something as soon as it waits for its user.
+/// A dialog with one text, which does something as soon as it waits for its user.
 class CTextDialog : public CDialog
 {
 public:
     using Action = std::function<void(CTextDialog&)>;
 
     CTextDialog() = default;
-    CTextDialog(const owtest::DialogTemplate& form, Action action, CWnd* parent) : m_action(std::move(action))
+    CTextDialog(LPCDLGTEMPLATE form, Action action, CWnd* parent) : m_action(std::move(action))
     {
-        InitModalIndirect(form.get(), parent);
+        EXPECT_TRUE(InitModalIndirect(form, parent));
     }
 
     Action m_onInit;
     CString m_text;
-    int m_shortest = 0; ///< characters below which the text is refused
-    int m_changesHeard = 0;
-    BOOL m_ownerEnabled = FALSE; ///< when the window is destroyed
+    int m_shortest = 0;         ///< characters below which the text is refused
+    BOOL m_ownerEnabled = TRUE; ///< when the window was destroyed
 
     BOOL DestroyWindow() override
     {
-        m_ownerEnabled = ::IsWindowEnabled(::GetWindow(m_hWnd, GW_OWNER));
+        if (m_hWnd != nullptr)
+            m_ownerEnabled = ::IsWindowEnabled(::GetWindow(m_hWnd, GW_OWNER));
         return CDialog::DestroyWindow();
     }
 
@@ -62,29 +62,23 @@ protected:
             m_onInit(*this);
         return TRUE;
     }
-
     void DoDataExchange(CDataExchange* exchange) override
     {
         const HWND edit = exchange->PrepareEditCtrl(idEdit);
-        if (!exchange->m_bSaveAndValidate)
-        {
+        if (exchange->m_bSaveAndValidate)
+            GetDlgItemText(idEdit, m_text);
+        else
             ::SetWindowText(edit, m_text);
-            if (m_text == L"no value")
-                exchange->Fail();
-            return;
-        }
-        GetDlgItemText(idEdit, m_text);
-        if (m_text.GetLength() < m_shortest)
+        if (exchange->m_bSaveAndValidate ? m_text.GetLength() < m_shortest : m_text == L"no value")
             exchange->Fail();
     }
-
     afx_msg LRESULT OnKickIdle(WPARAM, LPARAM)
     {
         if (const Action action = std::exchange(m_action, nullptr))
             action(*this);
         return FALSE;
     }
-    afx_msg void OnChange() { ++m_changesHeard; }
+    afx_msg void OnChange() { Note("change"); }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -96,20 +90,6 @@ BEGIN_MESSAGE_MAP(CTextDialog, CDialog)
     ON_EN_CHANGE(idEdit, &CTextDialog::OnChange)
 END_MESSAGE_MAP()
 
-/// An owner that notes the commands which come to it.
-class COwner : public CWnd
-{
-public:
-    UINT m_command = 0;
-
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
-    {
-        if (nCode == CN_COMMAND)
-            m_command = nID;
-        return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
-    }
-};
-
 struct Dialog : testing::Test
 {
     void SetUp() override
@@ -117,22 +97,29 @@ struct Dialog : testing::Test
         ASSERT_TRUE(owner.CreateEx(0, nullptr, L"owner", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
                                    CRect(50, 50, 450, 350), nullptr, 0));
     }
-
-    COwner owner;
-    const owtest::DialogTemplate form = Form();
-};
-
-struct ModalDialog : Dialog
-{
     void TearDown() override { EXPECT_TRUE(owner.IsWindowEnabled()) << "after the dialog"; }
 
     INT_PTR Show(CTextDialog::Action action, CWnd* parent = nullptr)
     {
-        return CTextDialog(form, std::move(action), parent ? parent : &owner).DoModal();
+        return CTextDialog(form.get(), std::move(action), parent ? parent : &owner).DoModal();
     }
+
+    /// Notes the commands which come to it.
+    struct : CWnd
+    {
+        BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
+        {
+            if (nCode == CN_COMMAND)
+                Note("owner", nID);
+            return CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+        }
+    } owner;
+    const owtest::DialogTemplate form = Form();
 };
 
-TEST_F(ModalDialog, AnswersHowItEnded)
+const CTextDialog::Action kEnd = [](CTextDialog& self) { self.EndDialog(17); };
+
+TEST_F(Dialog, AnswersHowItEnded)
 {
     const struct
     {
@@ -140,7 +127,7 @@ TEST_F(ModalDialog, AnswersHowItEnded)
         INT_PTR result;
         LPCTSTR text;
     } cases[] = {
-        {[](CTextDialog& self) { self.EndDialog(17); }, 17, L"before"},
+        {kEnd, 17, L"before"},
         {[](CTextDialog& self) { self.DestroyWindow(); }, -1, L"before"},
         {[](CTextDialog&) { owtest::Press(VK_RETURN); }, IDOK, L"abc"},
         {[](CTextDialog&) { owtest::Press(VK_ESCAPE); }, IDCANCEL, L"before"},
@@ -148,17 +135,14 @@ TEST_F(ModalDialog, AnswersHowItEnded)
     };
     for (const auto& c : cases)
     {
-        CTextDialog dialog(
-            form,
-            [&](CTextDialog& self)
-            {
-                EXPECT_FALSE(owner.IsWindowEnabled());
-                EXPECT_TRUE(self.IsWindowVisible());
-                ASSERT_TRUE(owtest::Activate(self));
-                owtest::Type(L"abc");
-                c.action(self);
-            },
-            &owner);
+        const auto act = [&](CTextDialog& self)
+        {
+            EXPECT_TRUE(!owner.IsWindowEnabled() && self.IsWindowVisible());
+            ASSERT_TRUE(owtest::Activate(self));
+            owtest::Type(L"abc");
+            c.action(self);
+        };
+        CTextDialog dialog(form.get(), act, &owner);
         dialog.m_text = L"before";
         EXPECT_EQ(dialog.DoModal(), c.result);
         EXPECT_EQ(dialog.m_text, c.text);
@@ -169,104 +153,106 @@ TEST_F(ModalDialog, AnswersHowItEnded)
     EXPECT_TRUE(TakeQuitMessage()) << "passed on to the loop outside";
 }
 
-TEST_F(ModalDialog, LeavesAnOwnerDisabledAndAnotherWindowActiveThatWereSoBefore)
+TEST_F(Dialog, LeavesAnOwnerDisabledAndAnotherWindowActiveThatWereSoBefore)
 {
     CWnd other;
     ASSERT_TRUE(CreatePopup(other, nullptr, WS_VISIBLE));
-    const auto leave = [&](CTextDialog& self)
-    {
-        other.SetActiveWindow();
-        self.EndDialog(1);
-    };
-    EXPECT_EQ(Show(leave), 1);
+    Show(
+        [&](CTextDialog& self)
+        {
+            other.SetActiveWindow();
+            kEnd(self);
+        });
     EXPECT_EQ(::GetActiveWindow(), other.m_hWnd);
-
     owner.EnableWindow(FALSE);
-    EXPECT_EQ(Show([](CTextDialog& self) { self.EndDialog(1); }), 1);
+    Show(kEnd);
     EXPECT_FALSE(owner.IsWindowEnabled());
     owner.EnableWindow(TRUE);
 }
 
-TEST_F(ModalDialog, IsOwnedByTheTopLevelWindowOfAChildAndNestsWithEachOwnerDisabled)
+TEST_F(Dialog, IsOwnedByTheTopLevelWindowOfAChildAndNestsWithEachOwnerDisabled)
 {
     CWnd child;
     ASSERT_TRUE(CreateChild(child, owner, 1));
     const auto showInner = [&](CTextDialog& outer)
     {
         EXPECT_EQ(::GetWindow(outer, GW_OWNER), owner.m_hWnd);
-        const auto lookAround = [&](CTextDialog& inner)
-        {
-            EXPECT_FALSE(outer.IsWindowEnabled());
-            EXPECT_FALSE(owner.IsWindowEnabled());
-            inner.EndDialog(2);
-        };
-        EXPECT_EQ(Show(lookAround, &outer), 2);
-        EXPECT_TRUE(outer.IsWindowEnabled());
-        EXPECT_FALSE(owner.IsWindowEnabled());
+        Show(
+            [&](CTextDialog& inner)
+            {
+                EXPECT_FALSE(outer.IsWindowEnabled() || owner.IsWindowEnabled());
+                kEnd(inner);
+            },
+            &outer);
+        EXPECT_TRUE(outer.IsWindowEnabled() && !owner.IsWindowEnabled());
         outer.EndDialog(1);
     };
     EXPECT_EQ(Show(showInner, &child), 1);
 }
 
-TEST_F(ModalDialog, StaysOpenWhenAValueIsRefused)
+TEST_F(Dialog, StaysOpenWhenAValueIsRefused)
 {
-    CTextDialog dialog(
-        form,
-        [](CTextDialog& self)
-        {
-            ASSERT_TRUE(owtest::Activate(self));
-            self.GetDlgItem(IDOK)->SetFocus();
-            self.SendMessage(WM_COMMAND, IDOK);
-            EXPECT_TRUE(self.ContinueModal());
-            EXPECT_EQ(::GetFocus(), ::GetDlgItem(self, idEdit)) << "the refused control";
-            self.SetDlgItemText(idEdit, L"long enough");
-            self.SendMessage(WM_COMMAND, IDOK);
-        },
-        &owner);
+    const auto confirmTwice = [](CTextDialog& self)
+    {
+        ASSERT_TRUE(owtest::Activate(self));
+        self.GetDlgItem(IDOK)->SetFocus();
+        self.SendMessage(WM_COMMAND, IDOK);
+        EXPECT_TRUE(self.ContinueModal());
+        EXPECT_EQ(::GetFocus(), ::GetDlgItem(self, idEdit)) << "the refused control";
+        self.SetDlgItemText(idEdit, L"long enough");
+        self.SendMessage(WM_COMMAND, IDOK);
+    };
+    CTextDialog dialog(form.get(), confirmTwice, &owner);
     dialog.m_shortest = 3;
     EXPECT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.m_text, L"long enough");
     EXPECT_TRUE(dialog.m_ownerEnabled) << "another program would come to the front";
 }
 
-TEST_F(ModalDialog, EscapeInAMultilineEditCancelsAsElsewhere)
+TEST_F(Dialog, EscapeInAMultilineEditCancelsUnlessTheButtonIsDisabled)
 {
-    const auto withoutCancel = owtest::DialogTemplate(L"Form", 120, 60)
-                                   .Edit(idEdit, 4, 4, 100, 12)
-                                   .Edit(idMemo, 4, 20, 100, 30, ES_MULTILINE | ES_WANTRETURN);
-    const auto escape = [](CTextDialog& self)
+    auto memo = owtest::DialogTemplate(L"Memo", 120, 60).Edit(idEdit, 4, 4, 100, 30, ES_MULTILINE);
+    for (const INT_PTR result : {IDCANCEL, 17})
     {
-        ASSERT_TRUE(owtest::Activate(self));
-        self.GetDlgItem(idMemo)->SetFocus();
-        owtest::Press(VK_ESCAPE);
-    };
-    EXPECT_EQ(CTextDialog(withoutCancel, escape, &owner).DoModal(), IDCANCEL);
+        const auto escape = [&](CTextDialog& self)
+        {
+            MSG key{self.GetDlgItem(idEdit)->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
+            self.PreTranslateMessage(&key);
+            EXPECT_EQ(self.ContinueModal() != FALSE, result == 17);
+            self.EndDialog(static_cast<int>(result));
+        };
+        EXPECT_EQ(CTextDialog(memo.get(), escape, &owner).DoModal(), result);
+        memo.Button(L"Cancel", IDCANCEL, 48, 40, 40, 14, WS_DISABLED);
+    }
 }
 
-TEST_F(ModalDialog, MayEndBeforeItIsShownOrNeverBegin)
+TEST_F(Dialog, MayEndBeforeItIsShownOrNeverBegin)
 {
-    CTextDialog dialog(
-        form, [](CTextDialog&) { ADD_FAILURE() << "it waits for its user"; }, &owner);
-    dialog.m_onInit = [](CTextDialog& self) { self.EndDialog(23); };
-    EXPECT_EQ(dialog.DoModal(), 23);
+    const auto waits = [](CTextDialog&) { ADD_FAILURE() << "it waits for its user"; };
+    CTextDialog dialog(form.get(), waits, &owner);
+    dialog.m_onInit = kEnd;
+    EXPECT_EQ(dialog.DoModal(), 17);
     EXPECT_EQ(dialog.m_hWnd, nullptr);
-
     dialog.m_onInit = nullptr;
     dialog.m_text = L"no value";
     EXPECT_EQ(dialog.DoModal(), -1);
+    CTextDialog modeless;
+    modeless.m_onInit = kEnd;
+    EXPECT_FALSE(modeless.CreateIndirect(form.get(), &owner));
+    EXPECT_EQ(modeless.m_hWnd, nullptr);
 
     EXPECT_EQ(CDialog(4999u, &owner).DoModal(), -1);
     EXPECT_EQ(CDialog(L"no_such_dialog", &owner).DoModal(), -1);
-    EXPECT_EQ(CTextDialog(BrokenForm(), nullptr, &owner).DoModal(), -1);
+    EXPECT_EQ(CTextDialog(kNoControl.get(), nullptr, &owner).DoModal(), -1);
 }
 
-TEST_F(ModalDialog, LeavesNothingBehind)
+TEST_F(Dialog, LeavesNothingBehind)
 {
     const auto open = [&](int times)
     {
         for (; times > 0; --times)
         {
-            Show([](CTextDialog& self) { self.EndDialog(IDOK); });
+            Show(kEnd);
             AfxGetThread()->OnIdle(1); // where temporary objects go
         }
         return owtest::CountHandles();
@@ -281,34 +267,19 @@ TEST_F(ModalDialog, LeavesNothingBehind)
 class CModelessDialog : public CDialog
 {
 public:
-    explicit CModelessDialog(int& alive) : m_alive(alive) { ++m_alive; }
-    ~CModelessDialog() override { --m_alive; }
+    static inline int s_alive = 0;
+    CModelessDialog() { ++s_alive; }
+    ~CModelessDialog() override { --s_alive; }
 
 protected:
     void OnCancel() override { DestroyWindow(); }
     void PostNcDestroy() override { delete this; }
-    int& m_alive;
 };
-
-TEST_F(Dialog, AModelessOneLivesBesideTheOthersAndDeletesItself)
-{
-    int alive = 0;
-    auto* const dialog = new CModelessDialog(alive);
-    ASSERT_TRUE(dialog->CreateIndirect(form.get(), &owner));
-    dialog->ShowWindow(SW_SHOW);
-    EXPECT_TRUE(owner.IsWindowEnabled());
-    ASSERT_TRUE(owtest::Activate(*dialog));
-    owtest::Press(VK_TAB); // by PreTranslateMessage
-    EXPECT_EQ(::GetFocus(), ::GetDlgItem(*dialog, IDOK));
-    owtest::Press(VK_ESCAPE);
-    EXPECT_EQ(alive, 0);
-}
 
 /// Goes in its OnInitDialog; its memory is spoilt, so that a later look at the object is noticed.
 class CShortDialog : public CModelessDialog
 {
 public:
-    using CModelessDialog::CModelessDialog;
     static void* operator new(size_t size) { return ::operator new(size); }
     static void operator delete(void* memory)
     {
@@ -320,14 +291,21 @@ protected:
     BOOL OnInitDialog() override { return DestroyWindow(); }
 };
 
-TEST_F(Dialog, AModelessOneMayDeleteItselfWhileItIsInitialisedOrCannotBeMade)
+TEST_F(Dialog, AModelessOneLivesBesideTheOthersAndDeletesItself)
 {
-    int alive = 0;
-    EXPECT_FALSE((new CShortDialog(alive))->CreateIndirect(form.get()));
-    EXPECT_EQ(alive, 0);
-    const auto broken = BrokenForm();
-    EXPECT_FALSE((new CModelessDialog(alive))->CreateIndirect(broken.get()));
-    EXPECT_EQ(alive, 0);
+    auto* const dialog = new CModelessDialog;
+    ASSERT_TRUE(dialog->CreateIndirect(form.get(), &owner));
+    dialog->ShowWindow(SW_SHOW);
+    EXPECT_TRUE(owner.IsWindowEnabled());
+    ASSERT_TRUE(owtest::Activate(*dialog));
+    owtest::Press(VK_TAB); // by PreTranslateMessage
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(*dialog, IDOK));
+    owtest::Press(VK_ESCAPE);
+    EXPECT_EQ(CModelessDialog::s_alive, 0);
+    EXPECT_FALSE((new CShortDialog)->CreateIndirect(form.get()));
+    for (const LPCDLGTEMPLATE broken : {kNoControl.get(), &kNoWindow.head})
+        EXPECT_FALSE((new CModelessDialog)->CreateIndirect(broken));
+    EXPECT_EQ(CModelessDialog::s_alive, 0);
 }
 
 TEST_F(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
@@ -340,9 +318,9 @@ TEST_F(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
         const auto look = [&](CTextDialog& self)
         {
             self.GetWindowRect(&rect);
-            self.EndDialog(1);
+            kEnd(self);
         };
-        CTextDialog dialog(shown, look, &owner);
+        CTextDialog dialog(shown.get(), look, &owner);
         dialog.m_onInit = std::move(onInit);
         dialog.DoModal();
         const CSize off = rect.CenterPoint() - ownerRect.CenterPoint();
@@ -357,57 +335,51 @@ TEST_F(Dialog, HandsCommandsOfTheProgramToItsOwnerAndDoesNotHearItsOwnDataExchan
 {
     CTextDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(form.get(), &owner));
-    dialog.SendMessage(WM_COMMAND, 0x8001);
-    EXPECT_EQ(owner.m_command, 0x8001u);
-    owner.m_command = 0;
-    dialog.SendMessage(WM_COMMAND, idMemo);
-    EXPECT_EQ(owner.m_command, 0u) << "an id of the dialog's own";
-
+    Noted();
+    for (const UINT id :
+         {0x8000u, 0x7FFFu, 0xEFFFu, 0xF000u}) // the two others are the dialog's and the system's
+        dialog.SendMessage(WM_COMMAND, id);
+    EXPECT_EQ(Noted(), "owner 32768;owner 61439;");
     dialog.m_text = L"from the member";
     dialog.UpdateData(FALSE);
-    EXPECT_EQ(dialog.m_changesHeard, 0);
+    EXPECT_EQ(Noted(), "");
     dialog.SetDlgItemText(idEdit, L"by the program");
-    EXPECT_EQ(dialog.m_changesHeard, 1);
+    EXPECT_EQ(Noted(), "change;");
 }
 
 TEST(ModalLoop, IdleTimeIsCountedUntilItIsDeclinedAndBeginsAnewWithAMessage)
 {
-    struct CParentWnd : CWnd
+    CSeenWnd owner, window;
+    std::vector<LPARAM> kicks;
+    owner.see = [&](UINT message, WPARAM wParam, LPARAM)
     {
-        int m_idle = 0;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            m_idle += message == WM_ENTERIDLE && wParam == MSGF_DIALOGBOX;
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-    } owner;
-    struct CModalWnd : CWnd
+        if (message == WM_ENTERIDLE)
+            Note("idle", wParam);
+        return std::nullopt;
+    };
+    window.see = [&](UINT message, WPARAM, LPARAM count) -> std::optional<LRESULT>
     {
-        std::vector<LPARAM> m_kicks;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message != WM_KICKIDLE)
-                return CWnd::WindowProc(message, wParam, lParam);
-            m_kicks.push_back(lParam);
-            if (m_kicks.size() == 2)
-                PostMessage(WM_APP);
-            if (m_kicks.size() == 4)
-                EndModalLoop(17);
-            return lParam < 1; // once more
-        }
-    } window;
+        if (message != WM_KICKIDLE)
+            return std::nullopt;
+        kicks.push_back(count);
+        if (kicks.size() == 2)
+            window.PostMessage(WM_APP);
+        if (kicks.size() == 4)
+            window.EndModalLoop(17);
+        return count < 1; // once more
+    };
     ASSERT_TRUE(CreatePopup(owner));
     ASSERT_TRUE(CreatePopup(window, &owner));
     EXPECT_EQ(window.RunModalLoop(MLF_SHOWONIDLE), 17);
-    EXPECT_EQ(window.m_kicks, (std::vector<LPARAM>{0, 1, 0, 1}));
-    EXPECT_EQ(owner.m_idle, 2) << "told once for each idle time";
+    EXPECT_EQ(kicks, (std::vector<LPARAM>{0, 1, 0, 1}));
+    EXPECT_EQ(Noted(), "idle 0;idle 0;") << "told once for each idle time";
     EXPECT_TRUE(window.IsWindowVisible());
 
     window.ShowWindow(SW_HIDE);
     window.PostMessage(WM_CLOSE); // which ends the loop with the window
     EXPECT_EQ(window.RunModalLoop(MLF_NOIDLEMSG | MLF_NOKICKIDLE), 17);
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_EQ(window.m_kicks.size(), 4u);
-    EXPECT_EQ(owner.m_idle, 2);
+    EXPECT_EQ(kicks.size(), 4u);
+    EXPECT_EQ(Noted(), "");
 }
 } // namespace

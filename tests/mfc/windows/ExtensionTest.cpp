@@ -2,9 +2,10 @@
 
 #include "TestExtension.h"
 
+#include <afxpriv.h>
+
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <tuple>
 
 namespace
@@ -21,28 +22,25 @@ CString TextOf(UINT id)
     return text;
 }
 
-TEST(Extension, TheChainWorksBeforeTheProgramIsInitialised)
+TEST(Extension, AsksTheCurrentHandleAndThenTheLatestModuleWhichLeavesTheChainWhenItGoes)
 {
     // Imported by the program, and so attached before AfxWinInit and before the application object was made.
     EXPECT_EQ(TextAtAttach(), L"early");
-    EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only");
-    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG), EarlyExtension());
-}
-
-TEST(Extension, TheCurrentHandleIsAskedBeforeTheLatestModuleWhichLeavesTheChainWhenItGoes)
-{
+    const HMODULE late = ::LoadLibrary(L"mfc_test_extension_late.dll");
+    ASSERT_NE(late, nullptr);
+    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
+    EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only")
+        << "an empty place in a block of strings is no string";
+    AFX_MODULE_STATE other; // puts a handle in force for a scope
+    other.m_hCurrentResourceHandle = EarlyExtension();
     {
-        const std::shared_ptr<void> late(::LoadLibrary(L"mfc_test_extension_late.dll"),
-                                         [](void* module) { ::FreeLibrary(static_cast<HMODULE>(module)); });
-        ASSERT_NE(late, nullptr);
-        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
-        EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only")
-            << "an empty place in a block of strings is no string";
-        const HINSTANCE program = AfxGetResourceHandle();
-        AfxSetResourceHandle(EarlyExtension());
+        AFX_MANAGE_STATE(&other);
         EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
-        AfxSetResourceHandle(program);
+        EXPECT_EQ(AfxGetApp(), nullptr);
     }
+    EXPECT_NE(AfxGetApp(), nullptr);
+    EXPECT_EQ(AfxGetStaticModuleState(), AfxGetModuleState());
+    ::FreeLibrary(late);
     EXPECT_EQ(::GetModuleHandle(L"mfc_test_extension_late.dll"), nullptr);
     EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
 }
@@ -60,62 +58,36 @@ TEST(Extension, AMissingResourceAnswersTheCurrentHandle)
 
 TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
 {
-    const auto resource = [](LPCTSTR type)
+    const HMODULE module = AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG);
+    EXPECT_EQ(module, EarlyExtension());
+    const auto resource = [=](LPCTSTR type)
     {
-        const HMODULE module = EarlyExtension();
         return ::LockResource(
             ::LoadResource(module, ::FindResource(module, MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), type)));
     };
-    CDialog named;
-    CDialog indirect;
+    CDialog named, indirect;
     ASSERT_TRUE(named.Create(IDD_EXTENSION_DIALOG));
+    EXPECT_EQ(named.SendMessage(WM_HELPHITTEST), 0x20000 + IDD_EXTENSION_DIALOG) << "its help's number";
+    CDialog withHelp;
+    withHelp.SetHelpID(7);
+    ASSERT_TRUE(withHelp.Create(IDD_EXTENSION_DIALOG));
+    EXPECT_EQ(withHelp.SendMessage(WM_HELPHITTEST), 0x20007);
     ASSERT_TRUE(indirect.CreateIndirect(static_cast<LPCDLGTEMPLATE>(resource(RT_DIALOG)), nullptr,
                                         resource(MAKEINTRESOURCE(240))));
     for (CWnd* const dialog : {&named, &indirect})
+    {
+        wchar_t read[16] = L"";
+        const auto out = reinterpret_cast<LPARAM>(read);
         for (const auto& [id, ask, index, text] : {std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 0, L"Beam"),
                                                    std::tuple(IDC_EXTENSION_COMBO, CB_GETLBTEXT, 1, L"Plate"),
                                                    std::tuple(IDC_EXTENSION_LIST, LB_GETTEXT, 0, L"S235")})
         {
-            wchar_t read[16] = L"";
-            dialog->SendDlgItemMessage(id, ask, index, reinterpret_cast<LPARAM>(read));
+            dialog->SendDlgItemMessage(id, ask, index, out);
             EXPECT_STREQ(read, text);
         }
-    wchar_t picture[16] = L"";
-    COMBOBOXEXITEM item{};
-    item.mask = CBEIF_TEXT;
-    item.pszText = picture;
-    item.cchTextMax = ARRAYSIZE(picture);
-    named.SendDlgItemMessage(IDC_EXTENSION_PICTURES, CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
-    EXPECT_STREQ(picture, L"Bolts");
-}
-
-TEST(Extension, ExceptionsCrossModulesByTheirTypes)
-{
-    try
-    {
-        ThrowFromExtension(3);
-        FAIL();
+        COMBOBOXEXITEM item{CBEIF_TEXT, 0, read, ARRAYSIZE(read), 0, 0, 0, 0, 0};
+        dialog->SendDlgItemMessage(IDC_EXTENSION_PICTURES, CBEM_GETITEM, 0, reinterpret_cast<LPARAM>(&item));
+        EXPECT_STREQ(read, L"Bolts");
     }
-    catch (CExtensionException* e)
-    {
-        EXPECT_EQ(e->m_code, 3);
-        EXPECT_EQ(CRuntimeClass::FromName("CExtensionException"), e->GetRuntimeClass());
-        e->Delete();
-    }
-}
-
-TEST(ModuleState, IsPutInForceForAScope)
-{
-    AFX_MODULE_STATE* const ours = AfxGetModuleState();
-    AFX_MODULE_STATE other;
-    other.m_hCurrentResourceHandle = EarlyExtension();
-    {
-        AFX_MANAGE_STATE(&other);
-        EXPECT_EQ(AfxGetResourceHandle(), EarlyExtension());
-        EXPECT_EQ(AfxGetApp(), nullptr);
-    }
-    EXPECT_EQ(AfxGetModuleState(), ours);
-    EXPECT_EQ(AfxGetStaticModuleState(), ours);
-    EXPECT_NE(AfxGetApp(), nullptr);
 }
 } // namespace

@@ -1,17 +1,13 @@
 // Property sheets from the inside: pages that come and go, what ends a sheet, fonts.
 
+#include "TestWindows.h"
+
 #include <afxdlgs.h>
 #include <afxpriv.h>
 
-#include <gtest/gtest.h>
-
 #include "DialogTemplate.h"
-#include "Input.h"
 #include "ModalVisit.h"
 #include "resource.h"
-
-#include <functional>
-#include <memory>
 
 namespace
 {
@@ -32,24 +28,17 @@ public:
         m_psp.pResource = m_template.get();
     }
 
-    BOOL OnSetActive() override
-    {
-        log += L's';
-        return active && CPropertyPage::OnSetActive();
-    }
-    BOOL OnKillActive() override { return (log += L'k', leaves) && CPropertyPage::OnKillActive(); }
-    BOOL OnApply() override { return (log += L'a', applies) && CPropertyPage::OnApply(); }
-    void OnOK() override { log += L'o'; }
-    void OnCancel() override { log += L'c'; }
-    BOOL OnQueryCancel() override { return (log += L'q', mayCancel); }
-
     CString log;
-    BOOL active = TRUE;
-    BOOL leaves = TRUE;
-    BOOL applies = TRUE;
-    BOOL mayCancel = TRUE;
+    CString refused; ///< the letters of what it says no to
     LRESULT sibling = 0;
     CString value = L"value";
+
+    BOOL OnSetActive() override { return Ask(L's') && CPropertyPage::OnSetActive(); }
+    BOOL OnKillActive() override { return Ask(L'k') && CPropertyPage::OnKillActive(); }
+    BOOL OnApply() override { return Ask(L'a') && CPropertyPage::OnApply(); }
+    void OnOK() override { Ask(L'o'); }
+    void OnCancel() override { Ask(L'c'); }
+    BOOL OnQueryCancel() override { return Ask(L'q'); }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, kValue, value); }
@@ -59,21 +48,24 @@ protected:
     }
 
 private:
+    BOOL Ask(wchar_t letter)
+    {
+        log += letter;
+        return refused.Find(letter) < 0;
+    }
     owtest::DialogTemplate m_template;
 };
 
-class Sheet : public ::testing::Test
+struct Sheet : ::testing::Test
 {
-protected:
     Sheet()
     {
         sheet.AddPage(&first);
         sheet.AddPage(&second);
     }
+    ~Sheet() override { sheet.DestroyWindow(); }
 
-    TestPage first{L"First"};
-    TestPage second{L"Second", 14, L"Liberation Serif"};
-    TestPage third{L"Third"};
+    TestPage first{L"First"}, second{L"Second", 14, L"Liberation Serif"}, third{L"Third"};
     CPropertySheet sheet{L"Sheet"};
 };
 
@@ -102,6 +94,10 @@ TEST_F(Sheet, PagesComeAndGoBeforeAndWhileItIsShown)
     third.sibling = 7;
     EXPECT_EQ(second.QuerySiblings(1, 2), 7);
     EXPECT_TRUE(sheet.SetActivePage(0));
+    third.refused = L"s"; // not to be shown: passed over
+    sheet.SetActivePage(1);
+    EXPECT_EQ(sheet.GetActivePage(), &second);
+    sheet.SetActivePage(0);
     sheet.RemovePage(&second);
     EXPECT_EQ(sheet.GetTabControl()->GetItemCount(), 2);
     EXPECT_EQ(sheet.GetPageCount(), 2);
@@ -116,12 +112,11 @@ TEST_F(Sheet, AModelessOneHasNoButtonsAndTheStyleThatIsWanted)
     ASSERT_TRUE(sheet.Create(nullptr, WS_POPUP | WS_CAPTION | DS_SETFONT | WS_SYSMENU, WS_EX_TOOLWINDOW));
     EXPECT_NE(sheet.GetExStyle() & WS_EX_TOOLWINDOW, 0u);
     EXPECT_EQ(sheet.GetStyle() & DS_MODALFRAME, 0u);
-    CRect client;
-    sheet.GetClientRect(&client);
     for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW})
         EXPECT_FALSE(sheet.GetDlgItem(id)->IsWindowVisible() || sheet.GetDlgItem(id)->IsWindowEnabled())
             << id;
-    CRect button;
+    CRect client, button;
+    sheet.GetClientRect(&client);
     sheet.GetDlgItem(IDOK)->GetWindowRect(&button);
     sheet.ScreenToClient(&button);
     EXPECT_GE(button.top + 8, client.bottom) << "it ends where they would begin";
@@ -134,14 +129,15 @@ TEST_F(Sheet, ShowsAllPagesInItsOwnFontAndKeepsTheirValues)
     ASSERT_TRUE(sheet.Create());
     sheet.SetActivePage(1);
     LOGFONT fonts[2]{};
-    ::GetObject(sheet.GetFont()->GetSafeHandle(), sizeof fonts[0], &fonts[0]);
-    ::GetObject(second.GetFont()->GetSafeHandle(), sizeof fonts[1], &fonts[1]);
+    CRect rects[2];
+    for (int i = 0; CWnd* const page : {static_cast<CWnd*>(&first), static_cast<CWnd*>(&second)})
+    {
+        page->GetDlgItem(kValue)->GetWindowRect(&rects[i]);
+        page->GetFont()->GetLogFont(&fonts[i++]);
+    }
+    EXPECT_EQ(rects[1], rects[0]);
     EXPECT_EQ(fonts[1].lfHeight, fonts[0].lfHeight);
     EXPECT_STREQ(fonts[1].lfFaceName, fonts[0].lfFaceName);
-    CRect rects[2];
-    first.GetDlgItem(kValue)->GetWindowRect(&rects[0]);
-    second.GetDlgItem(kValue)->GetWindowRect(&rects[1]);
-    EXPECT_EQ(rects[1], rects[0]);
 
     EXPECT_EQ(second.log, L"s");
     second.SetDlgItemText(kValue, L"typed");
@@ -151,7 +147,6 @@ TEST_F(Sheet, ShowsAllPagesInItsOwnFontAndKeepsTheirValues)
     second.value = L"shown again";
     sheet.SetActivePage(1);
     EXPECT_EQ(owtest::TextOf(*second.GetDlgItem(kValue)), L"shown again");
-    sheet.DestroyWindow();
 }
 
 TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
@@ -168,8 +163,8 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
         {[](CPropertySheet& s) { s.PressButton(PSBTN_OK); }, IDOK, L"skao"},
         {[](CPropertySheet& s) { s.PressButton(PSBTN_CANCEL); }, IDCANCEL, L"sqc"},
         {[](CPropertySheet& s) { s.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }, IDCANCEL, L"sqc"},
-        {[](CPropertySheet& s) { s.EndDialog(77); }, 77, nullptr},
-        {[](CPropertySheet& s) { s.GetPage(0)->EndDialog(78); }, 78, nullptr},
+        {[](CPropertySheet& s) { s.EndDialog(77); }, 77, L"s"},
+        {[](CPropertySheet& s) { s.GetPage(0)->EndDialog(78); }, 78, L"s"},
     };
     for (const auto& [act, result, log] : cases)
     {
@@ -184,33 +179,32 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
             });
         EXPECT_EQ(sheet.DoModal(), result);
         EXPECT_EQ(sheet.m_hWnd, nullptr);
-        EXPECT_TRUE(log == nullptr || seen.Find(log) == 0) << result << " " << seen.GetString();
+        EXPECT_EQ(seen.Find(log), 0) << result << " " << seen.GetString();
     }
 }
 
 TEST_F(Sheet, APageMayKeepItOpen)
 {
-    first.mayCancel = FALSE;
-    first.applies = FALSE;
-    bool refused = false;
+    first.refused = L"qa";
     owtest::ModalVisit visit(
         [&](CWnd&)
         {
             owtest::Press(VK_ESCAPE);
             owtest::Press(VK_RETURN);
-            refused = sheet.ContinueModal() && first.log == L"sqka";
-            first.applies = TRUE;
-            first.SetModified();
-            const HWND apply = ::GetDlgItem(sheet.m_hWnd, ID_APPLY_NOW);
-            refused &= ::IsWindowEnabled(apply) != FALSE;
-            first.SetModified(FALSE);
-            refused &= ::IsWindowEnabled(apply) == FALSE;
+            EXPECT_TRUE(sheet.ContinueModal());
+            EXPECT_EQ(first.log, L"sqka");
+            first.refused.Empty();
+            for (const BOOL modified : {TRUE, FALSE})
+            {
+                first.SetModified(modified);
+                EXPECT_EQ(sheet.GetDlgItem(ID_APPLY_NOW)->IsWindowEnabled(), modified);
+            }
             first.CancelToClose();
-            refused &= owtest::PumpUntil([&] { return !sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled(); });
+            EXPECT_TRUE(owtest::PumpUntil([&] { return !sheet.GetDlgItem(IDCANCEL)->IsWindowEnabled(); }));
             owtest::Press(VK_RETURN);
         });
     EXPECT_EQ(sheet.DoModal(), IDOK);
-    EXPECT_TRUE(refused);
+    EXPECT_EQ(visit.Count(), 1);
 }
 
 TEST_F(Sheet, TakesItsTextsPicturesAndPagesFromResources)
@@ -223,32 +217,22 @@ TEST_F(Sheet, TakesItsTextsPicturesAndPagesFromResources)
     CPropertyPage page(IDD_PAGE, IDS_TAB, IDS_HEADER, IDS_SUBTITLE);
     built.AddPage(&page);
     built.BuildPropPageArray();
-    EXPECT_STREQ(built.m_psh.pszCaption, L"Beam");
-    EXPECT_EQ(built.m_psh.nStartPage, 1u);
+    const auto& header = built.m_psh;
+    EXPECT_STREQ(header.pszCaption, L"Beam");
+    EXPECT_EQ(header.nStartPage, 1u);
     constexpr DWORD pictures =
         PSH_USEHBMWATERMARK | PSH_WATERMARK | PSH_USEHPLWATERMARK | PSH_USEHBMHEADER | PSH_HEADER;
-    EXPECT_EQ(built.m_psh.dwFlags & pictures, pictures);
-    EXPECT_TRUE(built.m_psh.hbmWatermark == HBITMAP(1) && built.m_psh.hplWatermark == HPALETTE(2) &&
-                built.m_psh.hbmHeader == HBITMAP(3));
+    EXPECT_EQ(header.dwFlags & pictures, pictures);
+    EXPECT_EQ(std::tuple(header.hbmWatermark, header.hplWatermark, header.hbmHeader),
+              std::tuple(HBITMAP(1), HPALETTE(2), HBITMAP(3)));
     EXPECT_EQ(CPropertySheet(L"plain", nullptr, 0, nullptr).m_psh.dwFlags & pictures, 0u);
-    ASSERT_EQ(built.m_psh.nPages, 1u);
-    EXPECT_STREQ(built.m_psh.ppsp->pszTitle, L"Cross section");
-    EXPECT_STREQ(built.m_psh.ppsp->pszHeaderTitle, L"Header");
-    EXPECT_STREQ(built.m_psh.ppsp->pszHeaderSubTitle, L"Subtitle");
+    ASSERT_EQ(header.nPages, 1u);
+    EXPECT_STREQ(header.ppsp->pszTitle, L"Cross section");
+    EXPECT_STREQ(header.ppsp->pszHeaderTitle, L"Header");
+    EXPECT_STREQ(header.ppsp->pszHeaderSubTitle, L"Subtitle");
     sheet.AddPage(&page);
     ASSERT_TRUE(sheet.Create());
     EXPECT_TRUE(sheet.SetActivePage(&page));
     EXPECT_NE(page.GetDlgItem(IDC_GRADE), nullptr);
-    sheet.DestroyWindow();
-}
-
-TEST_F(Sheet, APageThatIsNotToBeShownIsPassedOver)
-{
-    sheet.AddPage(&third);
-    second.active = FALSE;
-    ASSERT_TRUE(sheet.Create());
-    sheet.SetActivePage(1);
-    EXPECT_NE(sheet.GetActivePage(), &second);
-    sheet.DestroyWindow();
 }
 } // namespace

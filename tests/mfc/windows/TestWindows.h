@@ -1,11 +1,44 @@
 #pragma once
-// What the tests of this folder share: small windows, the message that ends a program, and another application.
+// What the tests of this folder share: small windows, notes of what happened, and another application.
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+
+/// Notes a word and its numbers, as "size 2 640 480;". Noted answers all notes and begins anew.
+inline std::string s_notes;
+template <class... Numbers>
+bool Note(const std::string& word, Numbers... numbers)
+{
+    s_notes += word;
+    ((s_notes += ' ' + std::to_string(numbers)), ...);
+    s_notes += ';';
+    return true;
+}
+inline std::string Noted()
+{
+    return std::exchange(s_notes, "");
+}
+
+/// A window whose messages a function of the test sees first, and may answer.
+struct CSeenWnd : CWnd
+{
+    using See = std::function<std::optional<LRESULT>(UINT, WPARAM, LPARAM)>;
+    See see;
+
+    explicit CSeenWnd(See first = nullptr) : see(std::move(first)) {}
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const auto answer = see ? see(message, wParam, lParam) : std::nullopt;
+        return answer ? *answer : CWnd::WindowProc(message, wParam, lParam);
+    }
+};
 
 /// A hidden top-level window without a frame.
 inline BOOL CreatePopup(CWnd& window, CWnd* owner = nullptr, DWORD style = 0)

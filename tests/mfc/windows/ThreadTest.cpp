@@ -6,32 +6,34 @@
 #include <afxdisp.h>
 #include <afxmt.h>
 
-#include <string>
 #include <string_view>
 
 namespace
 {
+constexpr UINT numbered = WM_APP + 7;
+const UINT registered = ::RegisterWindowMessage(L"DialogControlsOW thread test");
+
+/// Runs a suspended thread to its end; answers the exit code.
+DWORD CodeAtEnd(CWinThread* thread)
+{
+    HANDLE handle = nullptr; // which outlives the object
+    const HANDLE process = ::GetCurrentProcess();
+    ::DuplicateHandle(process, *thread, process, &handle, 0, FALSE, DUPLICATE_SAME_ACCESS);
+    EXPECT_EQ(thread->ResumeThread(), 1u);
+    EXPECT_EQ(::WaitForSingleObject(handle, 20000), WAIT_OBJECT_0);
+    DWORD code = 0;
+    ::GetExitCodeThread(handle, &code);
+    ::CloseHandle(handle);
+    return code;
+}
+
 /// Runs a function on a worker until its end; answers the exit code.
 template <class Function>
 DWORD OnWorker(Function function)
 {
-    CWinThread* const worker =
-        AfxBeginThread([](LPVOID called) { return (*static_cast<Function*>(called))(); }, &function,
-                       THREAD_PRIORITY_ABOVE_NORMAL, 0, CREATE_SUSPENDED);
-    worker->m_bAutoDelete = FALSE;
-    EXPECT_EQ(worker->GetThreadPriority(), THREAD_PRIORITY_ABOVE_NORMAL);
-    EXPECT_EQ(worker->SuspendThread(), 1u);
-    EXPECT_EQ(worker->ResumeThread(), 2u);
-    EXPECT_EQ(worker->ResumeThread(), 1u);
-    EXPECT_EQ(::WaitForSingleObject(*worker, 20000), WAIT_OBJECT_0);
-    DWORD exitCode = 0;
-    ::GetExitCodeThread(worker->m_hThread, &exitCode);
-    delete worker;
-    return exitCode;
+    return CodeAtEnd(AfxBeginThread([](LPVOID called) { return UINT((*static_cast<Function*>(called))()); },
+                                    &function, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED));
 }
-
-constexpr UINT numbered = WM_APP + 7;
-const UINT registered = ::RegisterWindowMessage(L"DialogControlsOW thread test");
 
 /// A thread with a queue that adds what it is sent and ends with the sum.
 class CSumThread : public CWinThread
@@ -40,6 +42,10 @@ class CSumThread : public CWinThread
 
 public:
     static inline bool works = true, alive = false;
+    static CWinThread* Begin()
+    {
+        return AfxBeginThread(RUNTIME_CLASS(CSumThread), THREAD_PRIORITY_ABOVE_NORMAL, 0, CREATE_SUSPENDED);
+    }
 
 protected:
     CSumThread() { alive = true; }
@@ -60,29 +66,6 @@ BEGIN_MESSAGE_MAP(CSumThread, CWinThread)
     ON_THREAD_MESSAGE(numbered, &CSumThread::OnNumber)
     ON_REGISTERED_THREAD_MESSAGE(registered, &CSumThread::OnEnd)
 END_MESSAGE_MAP()
-
-/// The exit code of a thread that is at its end, or ends in time.
-DWORD CodeAtEnd(HANDLE thread)
-{
-    EXPECT_EQ(::WaitForSingleObject(thread, 20000), WAIT_OBJECT_0);
-    DWORD code = 0;
-    ::GetExitCodeThread(thread, &code);
-    ::CloseHandle(thread);
-    return code;
-}
-
-HANDLE HandleOf(const CWinThread& thread)
-{
-    HANDLE copy = nullptr;
-    ::DuplicateHandle(::GetCurrentProcess(), thread, ::GetCurrentProcess(), &copy, 0, FALSE,
-                      DUPLICATE_SAME_ACCESS);
-    return copy;
-}
-
-CWinThread* BeginSum()
-{
-    return AfxBeginThread(RUNTIME_CLASS(CSumThread), THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED);
-}
 } // namespace
 
 TEST(Threads, RunAFunctionBelowTheApplicationsWindow)
@@ -90,50 +73,46 @@ TEST(Threads, RunAFunctionBelowTheApplicationsWindow)
     CWnd window;
     CreatePopup(window);
     AfxGetApp()->m_pMainWnd = &window;
-    EXPECT_EQ(OnWorker(
-                  [&window]
-                  {
-                      CWnd* const seen = AfxGetMainWnd();
-                      EXPECT_NE(seen, &window);
-                      EXPECT_EQ(seen->m_hWnd, window.m_hWnd);
-                      EXPECT_EQ(AfxGetThread()->m_nThreadID, ::GetCurrentThreadId());
-                      EXPECT_NE(AfxGetThread(), AfxGetApp());
-                      return 11u;
-                  }),
-              11u);
+    const auto look = [&window]
+    {
+        CWnd* const seen = AfxGetMainWnd();
+        EXPECT_NE(seen, &window);
+        EXPECT_EQ(seen->m_hWnd, window.m_hWnd);
+        EXPECT_EQ(AfxGetThread()->m_nThreadID, ::GetCurrentThreadId());
+        EXPECT_NE(AfxGetThread(), AfxGetApp());
+        return 11;
+    };
+    EXPECT_EQ(OnWorker(look), 11u);
     AfxGetApp()->m_pMainWnd = nullptr;
     EXPECT_TRUE(::IsWindow(window.m_hWnd));
-    EXPECT_EQ(OnWorker(
-                  []() -> UINT
-                  {
-                      AfxEndThread(12);
-                      return 13;
-                  }),
-              12u);
+    const auto endEarly = []
+    {
+        AfxEndThread(12);
+        return 13;
+    };
+    EXPECT_EQ(OnWorker(endEarly), 12u);
 }
 
 TEST(Threads, WithALoopHandleMessagesOfTheirsFromTheFirstOn)
 {
-    CWinThread* const thread = BeginSum();
+    CWinThread* const thread = CSumThread::Begin();
     EXPECT_TRUE(thread->PostThreadMessage(numbered, 2, 3)); // though it has not run yet
     EXPECT_TRUE(thread->PostThreadMessage(numbered, 4, 5));
     EXPECT_TRUE(thread->PostThreadMessage(registered, 0, 0));
-    const HANDLE handle = HandleOf(*thread);
-    thread->ResumeThread();
-    EXPECT_EQ(CodeAtEnd(handle), 26u);
+    EXPECT_EQ(thread->GetThreadPriority(), THREAD_PRIORITY_ABOVE_NORMAL);
+    EXPECT_EQ(thread->SuspendThread(), 1u);
+    EXPECT_EQ(thread->ResumeThread(), 2u);
+    EXPECT_EQ(CodeAtEnd(thread), 26u);
     EXPECT_FALSE(CSumThread::alive);
 }
 
 TEST(Threads, ThatDoNotBeginEndAtOnce)
 {
     CSumThread::works = false;
-    CWinThread* const thread = BeginSum();
+    CWinThread* const thread = CSumThread::Begin();
     thread->m_bAutoDelete = FALSE;
-    const HANDLE handle = HandleOf(*thread);
-    thread->ResumeThread();
-    EXPECT_EQ(CodeAtEnd(handle), static_cast<DWORD>(-1));
+    EXPECT_EQ(CodeAtEnd(thread), static_cast<DWORD>(-1));
     CSumThread::works = true;
-    EXPECT_TRUE(CSumThread::alive);
     thread->Delete(); // says no
     EXPECT_TRUE(CSumThread::alive);
     delete thread;
@@ -142,24 +121,25 @@ TEST(Threads, ThatDoNotBeginEndAtOnce)
 
 TEST(Threads, HaveOleUntilTheirEnd)
 {
-    static bool ended = false;
-    EXPECT_EQ(OnWorker(
-                  []
-                  {
-                      EXPECT_TRUE(AfxOleInit());
-                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
-                      AfxOleTerm(TRUE);
-                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
-                      AfxOleTerm();
-                      EXPECT_EQ(::CoInitializeEx(nullptr, COINIT_MULTITHREADED), S_OK);
-                      EXPECT_FALSE(AfxOleInit());
-                      ::CoUninitialize();
-                      EXPECT_TRUE(AfxOleInit());
-                      EXPECT_NE(AfxGetThread()->m_lpfnOleTermOrFreeLib, nullptr);
-                      AfxGetThread()->m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { ended = true; };
-                      return 0u;
-                  }),
-              0u);
+    static bool ended;
+    ended = false;
+    OnWorker(
+        []
+        {
+            const auto otherModel = [] { return ::CoInitializeEx(nullptr, COINIT_MULTITHREADED); };
+            EXPECT_TRUE(AfxOleInit());
+            EXPECT_EQ(otherModel(), RPC_E_CHANGED_MODE);
+            AfxOleTerm(TRUE);
+            EXPECT_EQ(otherModel(), RPC_E_CHANGED_MODE);
+            AfxOleTerm();
+            EXPECT_EQ(otherModel(), S_OK);
+            EXPECT_FALSE(AfxOleInit());
+            ::CoUninitialize();
+            EXPECT_TRUE(AfxOleInit());
+            EXPECT_NE(AfxGetThread()->m_lpfnOleTermOrFreeLib, nullptr);
+            AfxGetThread()->m_lpfnOleTermOrFreeLib = [](BOOL, BOOL) { ended = true; };
+            return 0;
+        });
     EXPECT_TRUE(ended);
 }
 
@@ -183,15 +163,14 @@ std::string Answers(Object& object, std::string_view calls)
 TEST(SyncObjects, BelongToWhoeverLockedThem)
 {
     CMutex mutex(TRUE);
-    const auto isFree = [&]
-    { return OnWorker([&] { return static_cast<UINT>(Answers(mutex, "LU") == "11"); }); };
+    const auto isFree = [&] { return OnWorker([&] { return Answers(mutex, "LU") == "11"; }) != 0; };
     EXPECT_FALSE(isFree());
     EXPECT_EQ(Answers(mutex, "LU"), "11");
     EXPECT_FALSE(isFree()); // locked twice, unlocked once
     EXPECT_EQ(Answers(mutex, "U"), "1");
     EXPECT_TRUE(isFree());
     EXPECT_EQ(Answers(mutex, "U"), "0");
-    EXPECT_EQ(OnWorker([&] { return static_cast<UINT>(mutex.Lock()); }), 1u); // and ends with it
+    EXPECT_EQ(OnWorker([&] { return mutex.Lock(); }), 1u); // and ends with it
     EXPECT_EQ(Answers(mutex, "L"), "1");
 
     CSemaphore semaphore(1, 3);
@@ -202,21 +181,23 @@ TEST(SyncObjects, BelongToWhoeverLockedThem)
     EXPECT_FALSE(semaphore.Unlock(2));
     EXPECT_EQ(Answers(semaphore, "UU"), "10");
 
-    CEvent automatic(TRUE), manual(FALSE, TRUE), named(FALSE, TRUE, L"DialogControlsOW event"),
-        same(FALSE, TRUE, L"DialogControlsOW event");
+    constexpr wchar_t name[] = L"DialogControlsOW event";
+    CEvent automatic(TRUE), manual(FALSE, TRUE), named(FALSE, TRUE, name), same(FALSE, TRUE, name);
     EXPECT_EQ(Answers(automatic, "LL"), "10");
-    EXPECT_TRUE(Answers(manual, "L") == "0" && manual.SetEvent() && Answers(manual, "LLUL") == "1111");
+    EXPECT_EQ(Answers(manual, "L"), "0");
+    EXPECT_TRUE(manual.SetEvent());
+    EXPECT_EQ(Answers(manual, "LLUL"), "1111");
     EXPECT_TRUE(manual.ResetEvent() && named.SetEvent());
     EXPECT_EQ(Answers(manual, "L"), "0");
     EXPECT_EQ(Answers(same, "L"), "1");
-    EXPECT_EQ(ThrownBy([] { CMutex(FALSE, L"DialogControlsOW event"); }),
-              "CResourceException"); // the name of another kind
+    EXPECT_EQ(ThrownBy([&] { CMutex(FALSE, name); }), "CResourceException"); // the name of another kind
 
     CCriticalSection section;
     EXPECT_TRUE(section.Lock());
     CRITICAL_SECTION* const bare = section;
-    EXPECT_EQ(OnWorker([bare] { return static_cast<UINT>(::TryEnterCriticalSection(bare)); }), 0u);
+    EXPECT_EQ(OnWorker([bare] { return ::TryEnterCriticalSection(bare); }), 0u);
     EXPECT_TRUE(section.Unlock());
+    EXPECT_EQ(OnWorker([bare] { return ::TryEnterCriticalSection(bare); }), 1u);
 }
 
 TEST(Locks, OfOneObjectEndWithTheirScope)
@@ -233,7 +214,7 @@ TEST(Locks, OfOneObjectEndWithTheirScope)
         LONG before = -1;
         EXPECT_TRUE(third.Unlock(1, &before));
         EXPECT_EQ(before, 0);
-        EXPECT_EQ(Answers(third, "L"), "1");
+        EXPECT_EQ(Answers(third, "?L"), "01");
     }
     EXPECT_FALSE(semaphore.Unlock()); // all are back
 }
@@ -243,46 +224,45 @@ TEST(Locks, OfSeveralObjectsWaitForOneOrForAll)
     CEvent event(FALSE, FALSE);
     CSemaphore semaphore(1, 1);
     CMutex mutex;
+    CCriticalSection section;
     CSyncObject* objects[] = {&event, &semaphore, &mutex};
+    CSyncObject* withoutHandle[] = {&section};
     EXPECT_TRUE(RefusesArgument([&] { CMultiLock(nullptr, 1); }));
     EXPECT_TRUE(RefusesArgument([&] { CMultiLock(objects, 0); }));
     EXPECT_TRUE(RefusesArgument([&] { CMultiLock(objects, MAXIMUM_WAIT_OBJECTS + 1); }));
-    CCriticalSection section;
-    CSyncObject* withoutHandle[] = {&section};
     EXPECT_TRUE(RefusesArgument([&] { CMultiLock(withoutHandle, 1); }));
     {
         CMultiLock lock(objects, 3);
-        const auto held = [&]
-        { return std::to_string(lock.IsLocked(0) * 100 + lock.IsLocked(1) * 10 + lock.IsLocked(2)); };
+        const auto held = [&] { return lock.IsLocked(0) * 100 + lock.IsLocked(1) * 10 + lock.IsLocked(2); };
         EXPECT_EQ(lock.Lock(0), static_cast<DWORD>(WAIT_TIMEOUT));
         EXPECT_EQ(lock.Lock(0, FALSE), WAIT_OBJECT_0 + 1);
-        EXPECT_EQ(held(), "10");
+        EXPECT_EQ(held(), 10);
         EXPECT_FALSE(semaphore.Lock(0));
         LONG before = -1;
         EXPECT_TRUE(lock.Unlock(1, &before));
         EXPECT_EQ(before, 0);
-        EXPECT_EQ(held(), "0");
+        EXPECT_EQ(held(), 0);
         EXPECT_FALSE(lock.Unlock(1, &before));
 
         event.SetEvent();
         EXPECT_EQ(lock.Lock(0), WAIT_OBJECT_0);
-        EXPECT_EQ(held(), "111");
+        EXPECT_EQ(held(), 111);
         EXPECT_TRUE(lock.Unlock());
-        EXPECT_EQ(held(), "0");
+        EXPECT_EQ(held(), 0);
 
         CMultiLock eventOnly(objects, 1);
         ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
         EXPECT_EQ(eventOnly.Lock(INFINITE, FALSE, QS_POSTMESSAGE), WAIT_OBJECT_0 + 1);
         EXPECT_FALSE(eventOnly.IsLocked(0));
-        OnWorker([&mutex] { return static_cast<UINT>(mutex.Lock()); }); // ends with it
+        OnWorker([&mutex] { return mutex.Lock(); }); // ends with it
         semaphore.Lock();
         EXPECT_EQ(lock.Lock(0, FALSE), static_cast<DWORD>(WAIT_ABANDONED_0) + 2);
-        EXPECT_EQ(held(), "1");
+        EXPECT_EQ(held(), 1);
         EXPECT_FALSE(lock.Unlock(1)) << "not of a mutex";
-        EXPECT_EQ(held(), "1");
+        EXPECT_EQ(held(), 1);
         semaphore.Unlock();
+        event.SetEvent();
     }
-    event.SetEvent();
     {
         const CMultiLock lock(objects, 3, TRUE);
         EXPECT_FALSE(semaphore.Lock(0));

@@ -1,47 +1,30 @@
-// CWnd and its handle: creation, subclassing, handle maps, the end of windows, exceptions in handlers.
+// CWnd and its handle: creation, subclassing, handle maps, the end of windows, exceptions in handlers, calls.
 
 #include "TestWindows.h"
 
-#include <functional>
-#include <string>
 #include <thread>
-#include <utility>
 
 namespace
 {
-/// Counts the stations of a window's life.
-class CLifeWnd : public CWnd
+/// Notes the stations of a window's life.
+class CLifeWnd : public CSeenWnd
 {
 public:
-    int m_preSubclass = 0;
-    int m_created = 0;
-    int m_postNcDestroy = 0;
-    std::function<LRESULT()> m_onCreate;
-
+    using CSeenWnd::CSeenWnd;
     void PreSubclassWindow() override
     {
-        ++m_preSubclass;
+        Note("attached");
         EXPECT_EQ(FromHandlePermanent(m_hWnd), this);
     }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        switch (message)
-        {
-        case WM_CREATE:
-            ++m_created;
-            EXPECT_EQ(m_preSubclass, 1);
-            return m_onCreate ? m_onCreate() : CWnd::WindowProc(message, wParam, lParam);
-        case WM_APP:
-            DestroyWindow();
-            return m_hWnd == nullptr ? 77 : 0;
-        case WM_APP + 1:
-            AfxThrowUserException(); // reported already: no message box
-        }
-        return CWnd::WindowProc(message, wParam, lParam);
+        if (message == WM_CREATE)
+            Note("made");
+        return CSeenWnd::WindowProc(message, wParam, lParam);
     }
 
 protected:
-    void PostNcDestroy() override { ++m_postNcDestroy; }
+    void PostNcDestroy() override { Note("gone"); }
 };
 
 HWND MakeStatic(HWND parent = nullptr)
@@ -57,17 +40,16 @@ WNDPROC ProcedureOf(HWND window)
 
 TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
 {
+    Noted();
     CLifeWnd window;
     ASSERT_TRUE(CreatePopup(window));
-    EXPECT_EQ(window.m_preSubclass, 1);
-    EXPECT_EQ(window.m_created, 1);
+    EXPECT_EQ(Noted(), "attached;made;");
     EXPECT_EQ(CWnd::FromHandle(window.m_hWnd), &window);
     EXPECT_EQ(ProcedureOf(window), AfxGetAfxWndProc());
-
     EXPECT_TRUE(window.DestroyWindow());
     EXPECT_EQ(window.m_hWnd, nullptr);
-    EXPECT_EQ(window.m_postNcDestroy, 1);
     EXPECT_FALSE(window.DestroyWindow());
+    EXPECT_EQ(Noted(), "gone;");
 
     HWND handle = nullptr;
     {
@@ -80,72 +62,76 @@ TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
 
 TEST(Window, ACreationThatFailsLeavesNoHandle)
 {
-    const std::function<LRESULT()> failures[] = {
-        [] { return -1; },
-        []() -> LRESULT { AfxThrowResourceException(); },
-    };
-    for (const auto& failure : failures)
+    Noted();
+    for (const bool throws : {false, true})
     {
-        CLifeWnd window;
-        window.m_onCreate = failure;
+        CLifeWnd window(
+            [=](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
+            {
+                if (message != WM_CREATE)
+                    return std::nullopt;
+                if (throws)
+                    AfxThrowResourceException();
+                return -1;
+            });
         EXPECT_FALSE(CreatePopup(window));
         EXPECT_EQ(window.m_hWnd, nullptr);
-        EXPECT_EQ(window.m_postNcDestroy, 1);
+        EXPECT_EQ(Noted(), "attached;made;gone;");
     }
-
     CLifeWnd unknownClass; // the system refuses before it makes anything
     EXPECT_FALSE(unknownClass.CreateEx(0, L"no such class", L"", WS_POPUP, CRect(0, 0, 1, 1), nullptr, 0));
     EXPECT_NE(::GetLastError(), 0u) << "the reason is still there to be asked for";
-    EXPECT_EQ(unknownClass.m_preSubclass, 0);
-    EXPECT_EQ(unknownClass.m_postNcDestroy, 1);
-
+    EXPECT_EQ(Noted(), "gone;");
     CLifeWnd next; // which must not be taken for one of those
     EXPECT_TRUE(CreatePopup(next));
-    EXPECT_EQ(next.m_preSubclass, 1);
+    EXPECT_EQ(Noted(), "attached;made;");
 }
 
 TEST(Window, SubclassingTakesTheProcedureAndGivesItBack)
 {
+    Noted();
     const HWND handle = MakeStatic();
     const WNDPROC original = ProcedureOf(handle);
     CLifeWnd window;
     ASSERT_TRUE(window.SubclassWindow(handle));
-    EXPECT_EQ(window.m_preSubclass, 1);
     EXPECT_NE(ProcedureOf(handle), original);
     window.SetWindowText(L"through the old procedure");
     EXPECT_EQ(window.GetWindowTextLength(), 25);
-
     EXPECT_EQ(window.UnsubclassWindow(), handle);
     EXPECT_EQ(window.m_hWnd, nullptr);
     EXPECT_EQ(ProcedureOf(handle), original);
     EXPECT_EQ(CWnd::FromHandlePermanent(handle), nullptr);
     ::DestroyWindow(handle);
-    EXPECT_EQ(window.m_postNcDestroy, 0);
-}
+    EXPECT_EQ(Noted(), "attached;") << "it was its window no more";
 
-TEST(Window, ASubclassedWindowThatDiesReleasesItsObjectForAnother)
-{
     CWnd parent;
     ASSERT_TRUE(CreatePopup(parent));
-    CLifeWnd window;
-    for (int round = 1; round <= 2; ++round)
+    for (int round = 0; round < 2; ++round) // one that dies releases its object for another
     {
         ASSERT_TRUE(window.SubclassWindow(MakeStatic(parent)));
         ::DestroyWindow(window.m_hWnd);
         EXPECT_EQ(window.m_hWnd, nullptr);
-        EXPECT_EQ(window.m_postNcDestroy, round);
+        EXPECT_EQ(Noted(), "attached;gone;");
     }
-    EXPECT_FALSE(window.SubclassDlgItem(999, &parent));
+    EXPECT_FALSE(window.SubclassDlgItem(999, &parent) || window.SubclassWindow(nullptr));
 }
 
 TEST(Window, AHandlerMayThrowOrDestroyItsWindow)
 {
     CLifeWnd window;
+    window.see = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
+    {
+        if (message == WM_APP + 1)
+            AfxThrowUserException(); // reported already: no message box
+        if (message != WM_APP)
+            return std::nullopt;
+        window.DestroyWindow();
+        return window.m_hWnd == nullptr ? 77 : 0;
+    };
     ASSERT_TRUE(CreatePopup(window));
     EXPECT_EQ(window.SendMessage(WM_APP + 1), 0) << "the exception stops at the procedure";
     EXPECT_TRUE(::IsWindow(window));
     EXPECT_EQ(::SendMessage(window.m_hWnd, WM_APP, 0, 0), 77);
-    EXPECT_EQ(window.m_postNcDestroy, 1);
 }
 
 TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTimeUnlessItIsAttached)
@@ -158,7 +144,7 @@ TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTimeUnlessItIsAttached
     AfxGetThread()->OnIdle(1);
     EXPECT_EQ(CWnd::FromHandle(foreign), temporary);
     EXPECT_EQ(temporary->m_hWnd, foreign);
-    AfxUnlockTempMaps();
+    EXPECT_FALSE(AfxUnlockTempMaps());
     AfxGetThread()->OnIdle(1);
     EXPECT_TRUE(::IsWindow(foreign)); // the object did not own it
 
@@ -168,58 +154,28 @@ TEST(HandleMap, AForeignHandleHasATemporaryObjectUntilIdleTimeUnlessItIsAttached
     AfxGetThread()->OnIdle(1);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), &window);
     EXPECT_EQ(ProcedureOf(foreign), original) << "it takes no messages";
+    CWnd* seen = &window;
+    std::thread([&] { seen = CWnd::FromHandlePermanent(foreign); }).join();
+    EXPECT_EQ(seen, nullptr) << "a map belongs to its thread";
+    EXPECT_EQ(seen->GetSafeHwnd(), nullptr);
     EXPECT_EQ(window.Detach(), foreign);
     EXPECT_EQ(CWnd::FromHandlePermanent(foreign), nullptr);
     ::DestroyWindow(foreign);
     EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
 }
 
-TEST(HandleMap, BelongsToItsThreadAndSafeHandlesToNobody)
+/// Notes its name where it is asked, and may take the message.
+struct CWalker : CWnd
 {
-    CWnd window;
-    ASSERT_TRUE(CreatePopup(window));
-    CWnd* seen = &window;
-    std::thread([&seen, handle = window.m_hWnd] { seen = CWnd::FromHandlePermanent(handle); }).join();
-    EXPECT_EQ(seen, nullptr);
-    EXPECT_EQ(seen->GetSafeHwnd(), nullptr);
-}
-
-TEST(Window, PlacesOfTheOrderAreNoWindowsOfTheirOwn)
-{
-    CWnd window;
-    ASSERT_TRUE(CreatePopup(window));
-    for (const auto& [place, style] : {std::pair(&CWnd::wndTopMost, WS_EX_TOPMOST), {&CWnd::wndNoTopMost, 0}})
-    {
-        ASSERT_TRUE(window.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE));
-        EXPECT_EQ(window.GetExStyle() & WS_EX_TOPMOST, DWORD(style));
-    }
-}
-
-/// Writes its name where it is asked, and may take the message.
-class CWalker : public CWnd
-{
-public:
-    CWalker(std::string name, std::string& walk) : m_name(std::move(name)), m_walk(walk) {}
-    bool m_take = false;
-
-    BOOL PreTranslateMessage(MSG*) override
-    {
-        m_walk += m_name;
-        return m_take;
-    }
-
-private:
+    explicit CWalker(std::string name) : m_name(std::move(name)) {}
+    BOOL PreTranslateMessage(MSG*) override { return Note(m_name) && m_take; }
     std::string m_name;
-    std::string& m_walk;
+    bool m_take = false;
 };
 
 TEST(PreTranslate, WalksFromTheTargetToTheTopAndStopsAtTheFirstTaker)
 {
-    std::string walk;
-    CWalker top("top ", walk);
-    CWalker middle("middle ", walk);
-    CWalker inner("inner ", walk);
-    CWalker main("main ", walk);
+    CWalker top("top"), middle("middle"), inner("inner"), main("main");
     ASSERT_TRUE(CreatePopup(top));
     ASSERT_TRUE(CreateChild(middle, top, 1));
     ASSERT_TRUE(CreateChild(inner, middle, 1));
@@ -227,124 +183,106 @@ TEST(PreTranslate, WalksFromTheTargetToTheTopAndStopsAtTheFirstTaker)
     MSG message{};
     message.hwnd = MakeStatic(inner); // without an object: the walk begins at its parent
     message.message = WM_KEYDOWN;
-
+    Noted();
     EXPECT_FALSE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(std::exchange(walk, ""), "inner middle top ");
-
+    EXPECT_EQ(Noted(), "inner;middle;top;");
     EXPECT_FALSE(CWnd::WalkPreTranslateTree(middle, &message));
-    EXPECT_EQ(std::exchange(walk, ""), "inner middle ") << "a walk may end early";
-
+    EXPECT_EQ(Noted(), "inner;middle;") << "a walk may end early";
     AfxGetThread()->m_pMainWnd = &main;
     EXPECT_FALSE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(std::exchange(walk, ""), "inner middle top main ") << "the main window beside them comes last";
+    EXPECT_EQ(Noted(), "inner;middle;top;main;") << "the main window beside them comes last";
     AfxGetThread()->m_pMainWnd = nullptr;
-
     middle.m_take = true;
     EXPECT_TRUE(AfxPreTranslateMessage(&message));
-    EXPECT_EQ(walk, "inner middle ");
+    EXPECT_EQ(Noted(), "inner;middle;");
 }
 
 TEST(RelatedWindows, OwnersAndDescendants)
 {
-    CWnd owner;
-    CWnd popup;
-    CWnd child;
-    CWnd grandChild;
+    CWnd owner, popup, child, grandChild, inner;
     ASSERT_TRUE(CreatePopup(owner));
     ASSERT_TRUE(CreatePopup(popup, &owner));
     ASSERT_TRUE(CreateChild(child, popup, 5));
     ASSERT_TRUE(CreateChild(grandChild, child, 6));
-
+    ASSERT_TRUE(CreateChild(inner, child, 5));
+    EXPECT_EQ(popup.GetDescendantWindow(5, TRUE), &inner) << "which is meant, and not the control around it";
     EXPECT_EQ(grandChild.GetTopLevelParent(), &owner);
+    EXPECT_EQ(popup.GetTopLevelOwner(), &owner);
     EXPECT_EQ(grandChild.GetParentOwner(), &popup);
     EXPECT_EQ(popup.GetDescendantWindow(6, TRUE), &grandChild);
     EXPECT_EQ(child.GetOwner(), &popup);
     EXPECT_EQ(CWnd::GetSafeOwner(&grandChild), &popup) << "a child cannot own a dialog";
+    HWND top = nullptr;
+    EXPECT_EQ(CWnd::GetSafeOwner(&grandChild, &top), &popup);
+    EXPECT_TRUE(top == owner.m_hWnd && !owner.IsWindowEnabled()) << "who is to be enabled again";
 }
 
 TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
 {
-    CWnd owner;
-    CWnd popup;
+    CWnd owner, popup, child;
     ASSERT_TRUE(CreatePopup(owner, nullptr, WS_VISIBLE));
     ASSERT_TRUE(CreatePopup(popup, &owner));
-    owner.MoveWindow(100, 100, 200, 100);
-    CRect place;
-    popup.CenterWindow();
-    popup.GetWindowRect(&place);
-    EXPECT_EQ(place, CRect(175, 125, 225, 175));
-
-    owner.MoveWindow(-150, -80, 200, 100);
-    popup.CenterWindow();
-    popup.GetWindowRect(&place);
-    EXPECT_EQ(place.TopLeft(), CPoint(0, 0));
-
-    CWnd child; // over its parent
     ASSERT_TRUE(CreateChild(child, popup, 1));
-    child.CenterWindow();
-    child.GetWindowRect(&place);
-    EXPECT_EQ(place, CRect(15, 15, 35, 35));
+    const auto placeOf = [](CWnd& window)
+    {
+        CRect place;
+        window.CenterWindow();
+        window.GetWindowRect(&place);
+        return place;
+    };
+    owner.MoveWindow(100, 100, 200, 100);
+    EXPECT_EQ(placeOf(popup), CRect(175, 125, 225, 175));
+    owner.MoveWindow(-150, -80, 200, 100);
+    EXPECT_EQ(placeOf(popup), CRect(0, 0, 50, 50));
+    EXPECT_EQ(placeOf(child), CRect(15, 15, 35, 35)) << "over its parent";
+    CRect screen;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &screen, 0);
+    owner.ShowWindow(SW_HIDE);
+    EXPECT_EQ(placeOf(popup).CenterPoint(), screen.CenterPoint()) << "an owner that does not show is none";
 }
 
 TEST(Window, PushButtonsWithoutAHandlerAreDisabledAndNoOtherControl)
 {
-    const struct
-    {
-        LPCTSTR className;
-        DWORD style;
-        bool enabled;
-    } cases[] = {
+    const std::tuple<LPCTSTR, DWORD, bool> cases[] = {
         {L"Button", BS_PUSHBUTTON, false},     {L"Button", BS_AUTOCHECKBOX, true},
         {L"Button", BS_AUTO3STATE, true},      {L"Button", BS_GROUPBOX, true},
         {L"Button", BS_AUTORADIOBUTTON, true}, {L"Edit", 0, true},
     };
     CWnd window;
     ASSERT_TRUE(CreatePopup(window));
-    for (const auto& c : cases)
+    for (const auto& [className, style, enabled] : cases)
     {
         CWnd control;
-        ASSERT_TRUE(control.Create(c.className, L"", WS_CHILD | c.style, CRect(), &window, 300));
+        ASSERT_TRUE(control.Create(className, L"", WS_CHILD | style, CRect(), &window, 300));
         window.UpdateDialogControls(&window, TRUE);
-        EXPECT_EQ(control.IsWindowEnabled() != FALSE, c.enabled) << c.style;
+        EXPECT_EQ(control.IsWindowEnabled() != FALSE, enabled) << style;
     }
 }
 
 /// A visible window with an edit, two radio buttons and scroll bars: its own, or in their place a control.
-class CFormWnd : public CWnd
+class CFormWnd : public CSeenWnd
 {
 public:
     CFormWnd()
     {
+        constexpr DWORD shown = WS_CHILD | WS_VISIBLE, radio = shown | WS_TABSTOP | BS_AUTORADIOBUTTON;
         EXPECT_TRUE(CreateEx(0, nullptr, L"form of the calls",
                              WS_POPUP | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, CRect(40, 40, 240, 140),
                              nullptr, 0));
-        EXPECT_TRUE(
-            m_edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_GROUP, CRect(0, 0, 80, 20), this, 1));
-        EXPECT_TRUE(m_first.Create(L"first", radio | WS_GROUP, CRect(0, 20, 80, 40), this, 2));
-        EXPECT_TRUE(m_second.Create(L"second", radio, CRect(0, 40, 80, 60), this, 3));
-        EXPECT_TRUE(m_bar.Create(WS_CHILD | WS_VISIBLE | SBS_HORZ, CRect(0, 60, 80, 70), this, 4));
+        m_edit.Create(shown | WS_TABSTOP | WS_GROUP, CRect(0, 0, 80, 20), this, 1);
+        m_first.Create(L"first", radio | WS_GROUP, CRect(0, 20, 80, 40), this, 2);
+        m_second.Create(L"second", radio, CRect(0, 40, 80, 60), this, 3);
+        m_bar.Create(shown | SBS_HORZ, CRect(0, 60, 80, 70), this, 4);
     }
     CScrollBar* GetScrollBarCtrl(int) const override
     {
         return m_barCounts ? const_cast<CScrollBar*>(&m_bar) : nullptr;
     }
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        m_last = {m_hWnd, message, wParam, lParam, 0, {}};
-        m_paints += message == WM_PAINT;
-        return message == WM_APP ? 7 : CWnd::WindowProc(message, wParam, lParam);
-    }
 
     CEdit m_edit;
-    CButton m_first;
-    CButton m_second;
+    CButton m_first, m_second;
     CScrollBar m_bar;
     bool m_barCounts = false;
-    MSG m_last{};
-    int m_paints = 0;
-
-private:
-    static constexpr DWORD radio = WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTORADIOBUTTON;
 };
 
 TEST(Window, CallsOnItsPlaceAndItsNeighbours)
@@ -363,7 +301,6 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.ClientToScreen(area);
     EXPECT_EQ(area, CRect(40, 40, 50, 50));
     form.ScreenToClient(area);
-    EXPECT_EQ(area, CRect(0, 0, 10, 10));
     form.m_second.MapWindowPoints(&form, area);
     EXPECT_EQ(area, CRect(0, 40, 10, 50));
     CPoint point(1, 1);
@@ -373,14 +310,21 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     WINDOWPLACEMENT placement = {};
     EXPECT_TRUE(form.GetWindowPlacement(&placement));
     EXPECT_EQ(CRect(placement.rcNormalPosition), CRect(50, 60, 260, 170));
+    for (const auto& [place, style] : {std::pair(&CWnd::wndTopMost, WS_EX_TOPMOST), {&CWnd::wndNoTopMost, 0}})
+    {
+        form.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        EXPECT_EQ(form.GetExStyle() & WS_EX_TOPMOST, DWORD(style));
+    }
 
     EXPECT_TRUE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED));
     EXPECT_FALSE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
+    CRect client;
+    form.GetClientRect(&client);
+    EXPECT_LT(client.Width(), 210 - 2) << "the frame was changed at once";
     EXPECT_TRUE(CWnd::ModifyStyle(form, 0, WS_DISABLED, 0));
     EXPECT_TRUE(form.ModifyStyle(WS_DISABLED, 0));
     EXPECT_TRUE(form.IsWindowEnabled());
-    CRect outside(area);
-    CRect border(area);
+    CRect outside(area), border(area);
     form.CalcWindowRect(outside, CWnd::adjustOutside);
     form.CalcWindowRect(border);
     EXPECT_EQ(border, area);
@@ -412,21 +356,10 @@ TEST(Window, CallsOnItsTextsAndItems)
     form.CheckRadioButton(2, 3, 3);
     EXPECT_EQ(form.GetCheckedRadioButton(2, 3), 3);
     EXPECT_EQ(form.SendDlgItemMessage(3, BM_GETCHECK), BST_CHECKED);
-
     CFont font;
     font.CreatePointFont(120, L"Liberation Sans");
     form.m_edit.SetFont(&font);
     EXPECT_EQ(form.m_edit.GetFont(), &font);
-    form.SendNotifyMessage(WM_APP, 3, 4);
-    EXPECT_EQ(form.m_last.lParam, 4);
-    EXPECT_TRUE(form.PostMessage(WM_APP, 5, 6));
-    MSG posted;
-    EXPECT_TRUE(::PeekMessage(&posted, form, WM_APP, WM_APP, PM_REMOVE) && posted.wParam == 5);
-    CClientDC dc(&form);
-    form.Print(&dc, PRF_CLIENT);
-    EXPECT_EQ(form.m_last.wParam, reinterpret_cast<WPARAM>(dc.m_hDC));
-    form.PrintClient(&dc, PRF_ERASEBKGND);
-    EXPECT_EQ(form.m_last.message, UINT{WM_PRINTCLIENT});
     const HICON icon = ::LoadIcon(nullptr, IDI_HAND);
     EXPECT_EQ(form.SetIcon(icon, TRUE), nullptr);
     EXPECT_EQ(form.GetIcon(TRUE), icon);
@@ -436,16 +369,32 @@ TEST(Window, CallsOnItsTextsAndItems)
     EXPECT_TRUE(form.KillTimer(5));
 
     form.UpdateWindow();
-    CRgn region;
+    Noted();
+    CClientDC dc(&form);
+    const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
+    form.see = [&](UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_APP || wParam == context)
+            Note("got", message, lParam);
+        if (message == WM_PAINT)
+            Note("paint");
+        return std::nullopt;
+    };
+    form.SendNotifyMessage(WM_APP, 3, 4);
+    form.Print(&dc, PRF_NONCLIENT);
+    form.PrintClient(&dc, PRF_CLIENT);
+    EXPECT_EQ(Noted(), "got 32768 4;got 791 2;got 792 4;");
+    EXPECT_TRUE(form.PostMessage(WM_APP, 5, 6));
+    MSG posted;
+    EXPECT_TRUE(::PeekMessage(&posted, form, WM_APP, WM_APP, PM_REMOVE) && posted.wParam == 5);
+    CRgn region, updated;
     region.CreateRectRgn(0, 70, 20, 80);
-    form.InvalidateRgn(&region);
-    CRgn updated;
     updated.CreateRectRgn(0, 0, 0, 0);
+    form.InvalidateRgn(&region);
     EXPECT_EQ(form.GetUpdateRgn(&updated), SIMPLEREGION);
     EXPECT_TRUE(updated.EqualRgn(&region));
-    const int paints = form.m_paints;
     EXPECT_TRUE(form.RedrawWindow());
-    EXPECT_EQ(form.m_paints, paints + 1);
+    EXPECT_EQ(Noted(), "paint;");
     form.CreateGrayCaret(2, 9);
     CWnd::SetCaretPos(CPoint(7, 8));
     EXPECT_EQ(CWnd::GetCaretPos(), CPoint(7, 8));
@@ -459,8 +408,7 @@ TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
     for (const bool control : {false, true})
     {
         form.m_barCounts = control;
-        int lowest = 0;
-        int highest = 0;
+        int lowest = 0, highest = 0;
         form.SetScrollRange(SB_HORZ, -3, 50);
         form.GetScrollRange(SB_HORZ, &lowest, &highest);
         EXPECT_EQ(lowest * 100 + highest, -250);
@@ -479,8 +427,9 @@ TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
         EXPECT_EQ(form.GetScrollLimit(SB_HORZ), 40);
         form.ShowScrollBar(SB_HORZ, FALSE);
         form.EnableScrollBarCtrl(SB_BOTH, FALSE);
-        EXPECT_EQ((form.GetStyle() & WS_HSCROLL) == 0 && form.m_bar.IsWindowVisible() != control, true);
-        EXPECT_EQ(form.m_bar.IsWindowEnabled() != FALSE, !control);
+        EXPECT_EQ(form.GetStyle() & WS_HSCROLL, 0u);
+        EXPECT_EQ(form.m_bar.IsWindowVisible() == FALSE, control);
+        EXPECT_EQ(form.m_bar.IsWindowEnabled() == FALSE, control);
     }
     form.ShowScrollBar(SB_BOTH);
     EXPECT_NE(form.GetStyle() & WS_HSCROLL, 0u);

@@ -2,22 +2,11 @@
 
 #include <afxdllx.h>
 
-IMPLEMENT_DYNAMIC(CExtensionException, CException)
-
 namespace
 {
 AFX_EXTENSION_MODULE module = {};
 wchar_t textAtAttach[32];
 } // namespace
-
-CExtensionException::CExtensionException(int code) : m_code(code)
-{
-}
-
-void ThrowFromExtension(int code)
-{
-    throw new CExtensionException(code);
-}
 
 CString TextAtAttach()
 {
