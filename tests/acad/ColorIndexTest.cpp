@@ -8,35 +8,28 @@
 
 TEST(ColorIndex, HasItsKnownColors)
 {
-    const std::pair<int, COLORREF> cases[] = {
-        // clang-format off
-        {1, RGB(255, 0, 0)},          {2, RGB(255, 255, 0)},        {3, RGB(0, 255, 0)},
-        {4, RGB(0, 255, 255)},        {5, RGB(0, 0, 255)},          {6, RGB(255, 0, 255)},
-        {7, RGB(255, 255, 255)},      {8, RGB(128, 128, 128)},      {9, RGB(192, 192, 192)},
-        {10, RGB(255, 0, 0)},         {11, RGB(255, 127, 127)},     {12, RGB(165, 0, 0)},
-        {15, RGB(127, 63, 63)},       {19, RGB(38, 19, 19)},        {20, RGB(255, 63, 0)},
-        {31, RGB(255, 191, 127)},     {90, RGB(0, 255, 0)},         {150, RGB(0, 127, 255)},
-        {210, RGB(255, 0, 255)},      {240, RGB(255, 0, 63)},       {250, RGB(51, 51, 51)},
-        {251, RGB(91, 91, 91)},       {254, RGB(214, 214, 214)},    {255, RGB(255, 255, 255)},
-        {0, RGB(255, 255, 255)},      {256, RGB(255, 255, 255)}, // the foreground
-        {-1, CLR_INVALID},            {257, CLR_INVALID},         {60, RGB(191, 255, 0)},
-        // clang-format on
-    };
+    const std::pair<int, unsigned> cases[] = {
+        // as 0xRRGGBB
+        {1, 0xFF0000},   {2, 0xFFFF00},   {3, 0x00FF00},   {4, 0x00FFFF},   {5, 0x0000FF},   {6, 0xFF00FF},
+        {7, 0xFFFFFF},   {8, 0x808080},   {9, 0xC0C0C0},   {10, 0xFF0000},  {11, 0xFF7F7F},  {12, 0xA50000},
+        {15, 0x7F3F3F},  {19, 0x261313},  {20, 0xFF3F00},  {31, 0xFFBF7F},  {60, 0xBFFF00},  {90, 0x00FF00},
+        {150, 0x007FFF}, {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {251, 0x5B5B5B}, {254, 0xD6D6D6},
+        {255, 0xFFFFFF}, {0, 0xFFFFFF},   {256, 0xFFFFFF}}; // the last two are the foreground
     for (const auto& [index, color] : cases)
-        EXPECT_EQ(acedGetRGB(index), color) << "index " << index;
+        EXPECT_EQ(acedGetRGB(index), RGB(color >> 16, color >> 8, color)) << "index " << index;
+    for (const int outside : {-1, 257})
+        EXPECT_EQ(acedGetRGB(outside), CLR_INVALID);
 }
 
 TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
 {
-    const CSize client(365, 181); // not a multiple of the cells
-    const ColorGridLayout layout(client);
+    const CRect client(0, 0, 365, 181); // not a multiple of the cells
+    const ColorGridLayout layout(client.Size());
     for (int color = 1; color <= 255; ++color)
     {
         const CRect cell = layout.CellRect(color);
         EXPECT_EQ(layout.HitTest(cell.CenterPoint()), color);
-        CRect common;
-        common.IntersectRect(cell, CRect(CPoint(0, 0), client));
-        EXPECT_EQ(common, cell) << color << " lies inside";
+        EXPECT_EQ(CRect(cell & client), cell) << color << " lies inside";
     }
     EXPECT_TRUE(layout.CellRect(0).IsRectEmpty() && layout.CellRect(256).IsRectEmpty());
     EXPECT_EQ(layout.HitTest(CPoint(-1, 0)), kNoColor);

@@ -1,12 +1,13 @@
-// Units: sizes, symbols, products, and values that come back as they were typed.
+// Units: sizes, symbols, products, and values that come back as they were typed; the records of drawing settings.
 
 #include <ComplexUnit.h>
+#include <FormatJedinice.h>
+#include <FormatTekstaKote.h>
 
 #include <gtest/gtest.h>
 
 #include <bit>
 #include <cmath>
-#include <limits>
 #include <numbers>
 #include <utility>
 
@@ -65,8 +66,8 @@ TEST(ComplexUnit, TypedValuesComeBackAsTheyWereTyped)
 TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
 {
     const CComplexUnit kN(CMeasurementUnit(CMeasurementUnit::eKilonewton, CMeasurementUnit::eForce)),
+        degree(CMeasurementUnit(CMeasurementUnit::eDegree, CMeasurementUnit::eAngle)),
         moment = kN * Length(0);
-    const CComplexUnit degree(CMeasurementUnit(CMeasurementUnit::eDegree, CMeasurementUnit::eAngle));
     const std::tuple<CComplexUnit, LPCWSTR, double> cases[] = {
         {kN / Length(0, 2), L"kN/m²", 1e3},
         {kN / Length(1, 2), L"kN/cm²", 1e7},
@@ -87,20 +88,37 @@ TEST(ComplexUnit, PowersAndProductsConvertAndWriteThemselves)
     EXPECT_THROW(four * Length(4), CInvalidArgException*) << "too many units";
     EXPECT_TRUE(CComplexUnit() == Length(0) && Length(0) != Length(1) && Length(0) != Length(0, 2));
     EXPECT_TRUE(moment == Length(0) * kN && Length(2) / Length(2) == kDimensionless);
-}
 
-TEST(ComplexUnit, CustomConvertorChangesTheSizeOfAUnit)
-{
     struct SurveyFoot : CUnitsConvertor
     {
         SRatio Ratio(const CMeasurementUnit& unit) const override
         {
-            if (unit == CMeasurementUnit(CMeasurementUnit::eFoot, CMeasurementUnit::eLength))
-                return {1200.0, 3937.0};
-            return CUnitsConvertor::Ratio(unit);
+            return unit.Symbol() == CString(L"ft") ? SRatio{1200.0, 3937.0} : CUnitsConvertor::Ratio(unit);
         }
     };
     EXPECT_EQ(Length(5).ToGlobal(3937.0, SurveyFoot()), 1200.0);
     EXPECT_EQ(Length(5).ToLocal(1200.0, SurveyFoot()), 3937.0);
     EXPECT_EQ(Length(4).ToGlobal(1.0, SurveyFoot()), 0.0254);
+}
+
+TEST(FormatJedinice, WritesLengthsInItsUnitWithTheNearestSenseOfItsFields)
+{
+    const std::tuple<CFormatJedinice, LPCWSTR, LPCWSTR> formats[] = {
+        {{}, L"125", L"mm"},
+        {{CMeasurementUnit::eCentimetre, 1, 1}, L"12.5 cm", L"cm"},
+        {{-1, 0, -3}, L"125", L"mm"},
+        {{-1, 0, 99}, L"125.000000000000000", L"mm"}};
+    for (const auto& [format, text, unit] : formats)
+    {
+        EXPECT_STREQ(format.Format(0.125), text);
+        EXPECT_STREQ(format.Unit().Symbol(), unit);
+    }
+    const CFormatTekstaKote unset;
+    CFormatTekstaKote written;
+    EXPECT_TRUE(!written.IsSet() && written == unset) << "until a text is chosen";
+    written.nTekstKote = 0;
+    written.strPrefiks = L"L=";
+    written.strSufiks = L"*";
+    EXPECT_TRUE(written.IsSet() && written != unset);
+    EXPECT_STREQ(written.Format(1.25), L"L=1250*");
 }

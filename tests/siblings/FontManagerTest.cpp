@@ -8,67 +8,49 @@
 #include <filesystem>
 #include <fstream>
 
-namespace
+TEST(FontManager, FindsTheInstalledFacesAndTheSHXFilesOfItsDirectories)
 {
-struct FontManager : testing::Test
-{
-    FontManager()
+    CFontManager manager;
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    const auto find = [&](const CString& name) { return manager.Find(name); };
+    EXPECT_FALSE(manager.Initialize(nullptr) || manager.m_bInitialized);
+    EXPECT_EQ(manager.Count(), 0);
+    ASSERT_TRUE(manager.Initialize(dc) && manager.m_bInitialized && manager.Count() > 0);
+    for (int i = 0; i < manager.Count(); ++i)
     {
-        std::filesystem::create_directories(m_directory);
-        m_dc.CreateCompatibleDC(nullptr);
+        EXPECT_TRUE(find(manager.Name(i).MakeUpper()) == i && manager.Name(i)[0] != L'@');
+        EXPECT_EQ(manager.Class(i), eFontTrueType);
     }
-    ~FontManager() override
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_directory, ignored);
-    }
+    EXPECT_TRUE(find(L"Liberation Sans") >= 0 && find(L"Marlett") >= 0); // of symbols
+    EXPECT_EQ(find(L"No such face"), -1);
+    for (int outside : {-1, manager.Count()})
+        EXPECT_STREQ(manager.Name(outside), L"");
 
-    const std::filesystem::path m_directory =
-        std::filesystem::temp_directory_path() / (L"shx" + std::to_wstring(::GetCurrentProcessId()));
-    CDC m_dc;
-    CFontManager m_manager;
-};
-} // namespace
-
-TEST_F(FontManager, FindsTheInstalledFacesWhenItIsInitialised)
-{
-    EXPECT_FALSE(m_manager.Initialize(nullptr) || m_manager.m_bInitialized);
-    EXPECT_EQ(m_manager.Count(), 0);
-    ASSERT_TRUE(m_manager.Initialize(m_dc) && m_manager.m_bInitialized && m_manager.Count() > 0);
-    for (int i = 0; i < m_manager.Count(); ++i)
-    {
-        EXPECT_TRUE(m_manager.Find(m_manager.Name(i).MakeUpper()) == i && m_manager.Name(i)[0] != L'@');
-        EXPECT_EQ(m_manager.Class(i), eFontTrueType);
-    }
-    EXPECT_TRUE(m_manager.Find(L"Liberation Sans") >= 0 && m_manager.Find(L"Marlett") >= 0); // of symbols
-    EXPECT_EQ(m_manager.Find(L"No such face"), -1);
-    for (int outside : {-1, m_manager.Count()})
-        EXPECT_STREQ(m_manager.Name(outside), L"");
-}
-
-TEST_F(FontManager, ListsTheSHXFilesOfItsDirectories)
-{
-    m_manager.Initialize(m_dc);
-    const CString face = m_manager.Name(0), other = m_manager.Name(1);
-    std::filesystem::create_directories(m_directory / L"first");
+    namespace fs = std::filesystem;
+    const fs::path root = fs::temp_directory_path() / (L"shx" + std::to_wstring(::GetCurrentProcessId()));
+    fs::create_directories(root / L"first");
+    const CString face = manager.Name(0), other = manager.Name(1);
     for (const CString& file :
          {CString(L"first\\romans.shx"), CString(L"TXT.SHX"), CString(L"readme.txt"), face + L".shx"})
-        std::ofstream(m_directory / file.GetString()) << "shapes";
+        std::ofstream(root / file.GetString()) << "shapes";
     CStringArray directories;
     for (const wchar_t* directory : {L"first", L"absent", L"."})
-        directories.Add((m_directory / directory).c_str());
-    m_manager.SetSHXDirectories(directories);
-    EXPECT_FALSE(m_manager.m_bInitialized) << "is to be read anew";
-    m_manager.Initialize(m_dc);
+        directories.Add((root / directory).c_str());
+    manager.SetSHXDirectories(directories);
+    EXPECT_FALSE(manager.m_bInitialized) << "is to be read anew";
+    manager.Initialize(dc);
+    std::error_code ignored;
+    fs::remove_all(root, ignored);
     for (const CString& name : {CString(L"romans"), CString(L"txt"), face}) // a file counts more than a face
-        EXPECT_EQ(m_manager.Class(m_manager.Find(name)), eFontSHX) << CStringA(name);
-    EXPECT_EQ(m_manager.Find(L"readme"), -1);
-    EXPECT_EQ(m_manager.Class(m_manager.Find(other)), eFontTrueType);
+        EXPECT_EQ(manager.Class(find(name)), eFontSHX) << CStringA(name);
+    EXPECT_EQ(find(L"readme"), -1);
+    EXPECT_EQ(manager.Class(find(other)), eFontTrueType);
     int listed = 0;
-    for (int i = 0; i < m_manager.Count(); ++i)
-        listed += m_manager.Name(i).CompareNoCase(face) == 0;
+    for (int i = 0; i < manager.Count(); ++i)
+        listed += manager.Name(i).CompareNoCase(face) == 0;
     EXPECT_EQ(listed, 1);
-    m_manager.SetSHXDirectories(CStringArray());
-    m_manager.Initialize(m_dc);
-    EXPECT_EQ(m_manager.Find(L"romans"), -1) << "of a directory that is none any more";
+    manager.SetSHXDirectories(CStringArray());
+    manager.Initialize(dc);
+    EXPECT_EQ(find(L"romans"), -1) << "of a directory that is none any more";
 }

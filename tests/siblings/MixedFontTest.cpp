@@ -13,37 +13,53 @@ namespace
 {
 constexpr COLORREF kPaper = RGB(255, 255, 255);
 
+/// A picture with a font, in which texts are measured and drawn.
+struct Paper : owtest::Surface
+{
+    Paper() : Surface(300, 100, kPaper)
+    {
+        Select();
+        dc().SetBkMode(TRANSPARENT);
+    }
+    ~Paper() { dc().SelectObject(m_old); }
+    /// Makes the font that `look` says the current one.
+    void Select()
+    {
+        if (m_old)
+            dc().SelectObject(m_old);
+        font.DeleteObject();
+        font.CreateFontIndirect(&look);
+        m_old = dc().SelectObject(&font);
+    }
+    /// Number of pixels that are not paper.
+    int Ink(const CRect& area) const { return area.Width() * area.Height() - count(area, kPaper); }
+
+    LOGFONT look{-16, 0, 0, 0, 0, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, L"Liberation Sans"};
+    CFont font;
+
+private:
+    CFont* m_old = nullptr;
+};
+
 struct MixedFont : testing::Test
 {
-    void SetUp() override
-    {
-        m_font.CreateFont(-16, 0, 0, 0, 0, 0, 0, 0, ANSI_CHARSET, 0, 0, 0, 0, L"Liberation Sans");
-        m_old = m_surface.dc().SelectObject(&m_font);
-        m_surface.dc().SetBkMode(TRANSPARENT);
-    }
-    void TearDown() override { m_surface.dc().SelectObject(m_old); }
-    CSize Extent(LPCWSTR text) { return CMixedFont::GetTextExtent(&m_surface.dc(), text); }
-    CSize PlainExtent(LPCWSTR text) { return m_surface.dc().GetTextExtent(text, lstrlenW(text)); }
-    void Draw(LPCWSTR text, CPoint point = {0, 0}) { CMixedFont::TextOut(&m_surface.dc(), point, text); }
-    /// Number of pixels that are not paper.
-    int Ink(const CRect& area) { return area.Width() * area.Height() - m_surface.count(area, kPaper); }
+    CSize Extent(LPCWSTR text) { return CMixedFont::GetTextExtent(&dc, text); }
+    CSize PlainExtent(LPCWSTR text) { return dc.GetTextExtent(text, lstrlenW(text)); }
+    void Draw(LPCWSTR text, CPoint point = {0, 0}) { CMixedFont::TextOut(&dc, point, text); }
 
-    owtest::Surface m_surface{300, 100, kPaper};
-    CFont m_font;
-    CFont* m_old = nullptr;
+    Paper paper;
+    CDC& dc = paper.dc();
+    const CRect all{0, 0, 300, 100};
 };
 } // namespace
 
-TEST_F(MixedFont, TextWithoutMarksMeasuresAsPlainText)
+TEST_F(MixedFont, MeasuresPlainTextAsTheContextAndPartsByTheirSum)
 {
     for (LPCWSTR text : {L"Greda", L"a < b", L"a <bold> b", L"</b>", L"100 % & <", L"a\\b", L""})
         EXPECT_EQ(Extent(text), PlainExtent(text)) << CStringA(text);
     EXPECT_EQ(Extent(nullptr), CSize(0, 0));
     EXPECT_EQ(Extent(L"\\<b>x"), PlainExtent(L"<b>x")) << "an escaped bracket is a character";
-}
 
-TEST_F(MixedFont, PartsAddUp)
-{
     const int bold = Extent(L"<b>Nosac</b>").cx;
     EXPECT_GT(bold, PlainExtent(L"Nosac").cx);
     EXPECT_EQ(Extent(L"IPE <b>Nosac</b> 200").cx, PlainExtent(L"IPE ").cx + bold + PlainExtent(L" 200").cx);
@@ -59,27 +75,39 @@ TEST_F(MixedFont, PartsAddUp)
     EXPECT_LT(Extent(L"<sup><sup>8</sup></sup>").cx, Extent(L"<sup>8</sup>").cx);
 }
 
-TEST_F(MixedFont, DrawsInsideItsExtent)
+TEST_F(MixedFont, DrawsInsideItsExtentAndFillsItInOpaqueMode)
 {
     const LPCWSTR text = L"A<sub>min</sub><sup>2</sup> <b>Wj</b> <f Liberation Serif>q</f>";
-    const CPoint corner(20, 15);
-    Draw(text, corner);
-    const CRect box(corner, Extent(text));
-    const int ink = Ink(box);
+    const CRect box(CPoint(20, 15), Extent(text));
+    const UINT align = dc.SetTextAlign(TA_RIGHT | TA_BOTTOM); // the corner is the upper left one all the same
+    dc.SetBkColor(RGB(255, 255, 0));
+    Draw(text, box.TopLeft());
+    const int ink = paper.Ink(box);
     EXPECT_GT(ink, 100);
-    EXPECT_EQ(Ink(CRect(0, 0, 300, 100)), ink) << "nothing outside";
-    EXPECT_GT(Ink(CRect(box.right - 5, box.top, box.right, box.bottom)), 0) << "the last part stands last";
+    EXPECT_EQ(paper.Ink(all), ink) << "nothing outside";
+    EXPECT_GT(paper.Ink(CRect(box.right - 5, box.top, box.right, box.bottom)), 0)
+        << "the last part stands last";
+    dc.SetBkMode(OPAQUE);
+    Draw(text, box.TopLeft());
+    EXPECT_EQ(paper.Ink(box), box.Width() * box.Height());
+    EXPECT_EQ(paper.Ink(all), paper.Ink(box));
+    EXPECT_EQ(paper.at(box.left, box.top), RGB(255, 255, 0));
+    EXPECT_EQ(dc.GetBkMode(), OPAQUE) << "the context is as it was";
+    EXPECT_EQ(dc.GetBkColor(), RGB(255, 255, 0));
+    EXPECT_EQ(dc.SetTextAlign(align), static_cast<UINT>(TA_RIGHT | TA_BOTTOM));
+    EXPECT_EQ(dc.GetCurrentFont()->m_hObject, paper.font.m_hObject);
 
-    Draw(L"<sup>o</sup>", CPoint(200, 50));
-    Draw(L"<sub>o</sub>", CPoint(250, 50));
-    const auto firstInkedRow = [this](int left)
+    dc.SetBkMode(TRANSPARENT);
+    int top[2]{};
+    for (const LPCWSTR script : {L"<sup>o</sup>", L"<sub>o</sub>"})
     {
-        int y = 0;
-        while (y < 100 && Ink(CRect(left, y, left + 50, y + 1)) == 0)
+        dc.FillSolidRect(all, kPaper);
+        Draw(script);
+        int& y = top[script[3] == L'b'];
+        while (y < 100 && paper.Ink(CRect(0, y, 300, y + 1)) == 0)
             ++y;
-        return y;
-    };
-    EXPECT_LT(firstInkedRow(200), firstInkedRow(250));
+    }
+    EXPECT_LT(top[0], top[1]);
 }
 
 TEST_F(MixedFont, DrawsAPartAsTheContextDoesWithThatFont)
@@ -91,79 +119,43 @@ TEST_F(MixedFont, DrawsAPartAsTheContextDoesWithThatFont)
         {L"<f Marlett>Stap 12",
          [](LOGFONT& font) { font.lfCharSet = SYMBOL_CHARSET, lstrcpyW(font.lfFaceName, L"Marlett"); }}};
     TEXTMETRIC base, metrics;
-    m_surface.dc().GetTextMetrics(&base);
+    dc.GetTextMetrics(&base);
     for (const auto& [text, change] : looks)
     {
-        LOGFONT font;
-        m_font.GetLogFont(&font);
-        change(font);
-        CFont changed;
-        changed.CreateFontIndirect(&font);
-        owtest::Surface expected(300, 100, kPaper);
-        CFont* const old = expected.dc().SelectObject(&changed);
-        expected.dc().SetBkMode(TRANSPARENT);
+        Paper expected;
+        change(expected.look);
+        expected.Select();
         expected.dc().SetTextAlign(TA_BASELINE);
         expected.dc().GetTextMetrics(&metrics);
         expected.dc().TextOut(7, 9 + std::max(base.tmAscent, metrics.tmAscent), L"Stap 12", 7);
         EXPECT_EQ(Extent(text).cx, expected.dc().GetTextExtent(L"Stap 12", 7).cx) << CStringA(text);
-        expected.dc().SelectObject(old);
-        m_surface.dc().FillSolidRect(0, 0, 300, 100, kPaper);
+        dc.FillSolidRect(all, kPaper);
         Draw(text, CPoint(7, 9));
-        EXPECT_TRUE(m_surface == expected) << CStringA(text);
+        EXPECT_TRUE(paper == expected) << CStringA(text);
     }
 }
 
-TEST_F(MixedFont, OpaqueModeFillsTheExtent)
+TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTimeAndKeepsNoMoreThanItNeeds)
 {
-    const CRect box(CPoint(10, 10), Extent(L"m<sup>2</sup>")), all(0, 0, 300, 100);
-    m_surface.dc().SetBkMode(OPAQUE);
-    m_surface.dc().SetBkColor(RGB(255, 255, 0));
-    Draw(L"m<sup>2</sup>", box.TopLeft());
-    EXPECT_EQ(m_surface.count(box, kPaper), 0);
-    EXPECT_EQ(m_surface.count(all, kPaper), 300 * 100 - box.Width() * box.Height());
-    EXPECT_EQ(m_surface.at(box.left, box.top), RGB(255, 255, 0));
-    EXPECT_EQ(m_surface.dc().GetBkMode(), OPAQUE);
-}
-
-TEST_F(MixedFont, GoesByTheFontAndTheContextOfThisTime)
-{
-    const LPCWSTR text = L"A<sub>2</sub> <b>b</b>", bold = L"<b>Nosac</b>";
+    const LPCWSTR text = L"A<sub>2</sub> <b>Nosac</b>";
     const CSize first = Extent(text);
-    Extent(bold);
-    CDC& dc = m_surface.dc();
     dc.SetMapMode(MM_ANISOTROPIC);
     dc.SetWindowExt(2, 2);
     EXPECT_NE(Extent(text), first);
     dc.SetMapMode(MM_TEXT);
     dc.SetTextCharacterExtra(3);
-    EXPECT_EQ(Extent(text).cx, first.cx + 3 * 4);
+    EXPECT_EQ(Extent(text).cx, first.cx + 3 * 8);
     dc.SetTextCharacterExtra(0);
-    CFont large, turned; // the latter has the same measures
-    large.CreatePointFont(240, L"Liberation Sans");
-    LOGFONT font;
-    m_font.GetLogFont(&font);
-    font.lfEscapement = font.lfOrientation = 900;
-    turned.CreateFontIndirect(&font);
-    dc.SelectObject(&large);
+    paper.look.lfHeight *= 2;
+    paper.Select();
     EXPECT_GT(Extent(text).cx, first.cx * 3 / 2);
-    dc.SelectObject(&m_font);
+    paper.look.lfHeight /= 2;
+    paper.Select();
     EXPECT_EQ(Extent(text), first);
-    dc.SelectObject(&turned);
-    Draw(bold, CPoint(50, 80));
-    EXPECT_GT(Ink(CRect(0, 0, 300, 80)), 0) << "upwards";
-    dc.SelectObject(&m_font);
-}
-
-TEST_F(MixedFont, LeavesTheContextAsItWasAndKeepsNoMoreThanItNeeds)
-{
-    CDC& dc = m_surface.dc();
-    const UINT nAlign = dc.SetTextAlign(TA_RIGHT | TA_BOTTOM);
-    dc.SetBkColor(RGB(1, 2, 3));
-    Draw(L"x<b>y</b>", CPoint(5, 5));
-    EXPECT_EQ(dc.SetTextAlign(nAlign), static_cast<UINT>(TA_RIGHT | TA_BOTTOM));
-    EXPECT_EQ(dc.GetBkColor(), RGB(1, 2, 3));
-    EXPECT_EQ(dc.GetCurrentFont()->m_hObject, m_font.m_hObject);
-    EXPECT_GT(Ink(CRect(5, 5, 60, 60)), 0) << "the corner is the upper left one whatever the alignment";
+    paper.look.lfEscapement = paper.look.lfOrientation = 900; // of the same measures
+    paper.Select();
+    Draw(text, CPoint(50, 80));
+    EXPECT_GT(paper.Ink(CRect(0, 0, 300, 60)), 0) << "upwards";
 
     CString many; // more looks than fonts are kept
     for (int i = 0; i < 12; ++i)
@@ -172,11 +164,7 @@ TEST_F(MixedFont, LeavesTheContextAsItWasAndKeepsNoMoreThanItNeeds)
     const CSize size = Extent(many);
     const int handles = owtest::CountHandles().gdi;
     for (int i = 0; i < 2500; ++i)
-    {
-        CString text;
-        text.Format(L"<b>%d</b>", i);
-        Extent(text);
-    }
+        Extent(L"<b>" + CString(std::to_wstring(i).c_str()));
     EXPECT_EQ(Extent(many), size);
     EXPECT_LE(owtest::CountHandles().gdi, handles + 8);
 }

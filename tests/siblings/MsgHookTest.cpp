@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <functional>
+#include <random>
 #include <string>
 
 namespace
@@ -27,15 +27,15 @@ struct CProbedWnd : CWnd
         s_log += 'w';
         return kWindowsAnswer;
     }
+    WNDPROC Procedure() const { return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC)); }
 };
 
-/// A hook: logs its letter for a probe, does what the test wants, and passes the probe on.
+/// A hook: logs its letter for a probe, does what the test wants, passes the probe on, and may end then.
 struct CProbeHook : CMsgHook
 {
     explicit CProbeHook(char letter) : m_letter(letter) {}
     using CMsgHook::Default;
-    std::function<void()> m_action = [] {};
-    bool m_goes = false; ///< ends when the probe has passed
+    std::function<void()> m_action, m_then;
     char m_letter;
 
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
@@ -43,18 +43,14 @@ struct CProbeHook : CMsgHook
         if (message != kProbe)
             return Default();
         s_log += m_letter;
-        m_action();
+        if (m_action)
+            m_action();
         const LRESULT answer = Default();
-        if (m_goes)
-            delete this;
+        if (m_then)
+            m_then();
         return answer;
     }
 };
-
-WNDPROC ProcedureOf(HWND window)
-{
-    return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC));
-}
 
 struct MsgHook : testing::Test
 {
@@ -70,29 +66,50 @@ struct MsgHook : testing::Test
 
     CProbedWnd m_window;
     LRESULT m_answer = 0;
-    CProbeHook a{'a'}, b{'b'};
+    CProbeHook m_hooks[3] = {CProbeHook('a'), CProbeHook('b'), CProbeHook('c')};
+    CProbeHook &a = m_hooks[0], &b = m_hooks[1];
 };
 } // namespace
 
-TEST_F(MsgHook, LeavesInAnyOrder)
+TEST_F(MsgHook, HooksJoinAndLeaveInAnyOrderAlsoWhileAMessageIsOnItsWay)
 {
-    const WNDPROC original = ProcedureOf(m_window);
-    std::string order = "abc";
-    do
+    const WNDPROC original = m_window.Procedure();
+    std::mt19937 random(1);
+    std::string line; // who is hooked, the latest first
+    for (int step = 0; step < 400; ++step)
     {
-        CProbeHook hooks[] = {CProbeHook('a'), CProbeHook('b'), CProbeHook('c')};
-        for (CProbeHook& hook : hooks)
-            ASSERT_TRUE(hook.HookWindow(&m_window));
-        std::string expected = "cbaw";
-        for (char leaving : order)
+        CProbeHook &actor = m_hooks[random() % 3], &target = m_hooks[random() % 3];
+        const auto toggle = [&, isHooked = target.IsHooked()]
         {
-            EXPECT_EQ(Probe(), expected);
-            hooks[leaving - 'a'].Unhook();
-            std::erase(expected, leaving);
+            if (isHooked)
+                target.Unhook();
+            else
+                EXPECT_TRUE(target.HookWindow(&m_window));
+        };
+        std::string expected = line + 'w', after = line;
+        if (target.IsHooked())
+            std::erase(after, target.m_letter);
+        else
+            after.insert(0, 1, target.m_letter);
+        if (actor.IsHooked()) // in the middle of the message, which one that joins does not see any more
+        {
+            actor.m_action = toggle;
+            const size_t leaves = expected.find(target.m_letter);
+            if (leaves != std::string::npos && leaves > expected.find(actor.m_letter))
+                expected.erase(leaves, 1);
         }
-        EXPECT_EQ(ProcedureOf(m_window), original) << "order " << order;
-        EXPECT_EQ(Probe(), "w");
-    } while (std::next_permutation(order.begin(), order.end()));
+        else
+        {
+            toggle();
+            expected = after + 'w';
+        }
+        EXPECT_EQ(Probe(), expected) << actor.m_letter << target.m_letter << " of " << line;
+        EXPECT_EQ(m_answer, kWindowsAnswer);
+        actor.m_action = nullptr;
+        line = after;
+        EXPECT_EQ(Probe(), line + 'w');
+        EXPECT_EQ(m_window.Procedure() == original, line.empty());
+    }
 }
 
 TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
@@ -105,7 +122,6 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
     EXPECT_EQ(a.GetHookedWindow(), &m_window);
     EXPECT_FALSE(a.HookWindow(&m_window)) << "it has a window already";
     EXPECT_EQ(Probe(), "aw");
-    EXPECT_EQ(m_answer, kWindowsAnswer);
     EXPECT_EQ(a.Default(), 0) << "there is no current message";
 
     m_window.DestroyWindow();
@@ -113,37 +129,16 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
     a.Unhook(); // has nothing left to do
     ASSERT_TRUE(m_window.Open());
     HookBoth();
-    EXPECT_EQ(Probe(), "baw") << "it can take another window";
+    auto* const going = new CProbeHook('g');
+    going->m_then = [=] { delete going; };
+    going->HookWindow(&m_window);
+    EXPECT_EQ(Probe(), "gbaw");
+    EXPECT_EQ(m_answer, kWindowsAnswer);
+    EXPECT_EQ(Probe(), "baw");
     b.m_action = [&] { m_window.DestroyWindow(); };
     EXPECT_EQ(Probe(), "b") << "the window may die inside a hook";
     EXPECT_EQ(m_answer, 0);
     EXPECT_FALSE(a.IsHooked() || b.IsHooked());
-}
-
-TEST_F(MsgHook, HooksMayJoinAndLeaveWhileAMessageIsOnItsWay)
-{
-    CProbeHook c('c');
-    HookBoth();
-    b.m_action = [&] { c.HookWindow(&m_window); };
-    EXPECT_EQ(Probe(), "baw");
-    EXPECT_EQ(Probe(), "cbaw") << "one that joins sees the next message";
-    c.m_action = [&] { b.Unhook(); };
-    EXPECT_EQ(Probe(), "caw") << "one that has not seen the message yet";
-    c.m_action = [] {};
-    a.m_action = [&] { c.Unhook(); };
-    EXPECT_EQ(Probe(), "caw") << "one that has";
-    EXPECT_EQ(Probe(), "aw");
-    a.m_action = [&] { a.Unhook(); };
-    EXPECT_EQ(Probe(), "aw") << "the hook itself: Default still passes on";
-    EXPECT_EQ(m_answer, kWindowsAnswer);
-    EXPECT_EQ(Probe(), "w");
-
-    auto* const pGoing = new CProbeHook('g');
-    pGoing->m_goes = true;
-    pGoing->HookWindow(&m_window);
-    EXPECT_EQ(Probe(), "gw");
-    EXPECT_EQ(m_answer, kWindowsAnswer);
-    EXPECT_EQ(Probe(), "w");
 }
 
 TEST_F(MsgHook, AMessageInsideAMessageGoesThroughTheWholeLine)
@@ -162,8 +157,7 @@ TEST_F(MsgHook, AMessageInsideAMessageGoesThroughTheWholeLine)
         {
             if (message != WM_SETTEXT || IsWorkingOn(WM_SETTEXT))
                 return Default();
-            CString text(reinterpret_cast<LPCWSTR>(lParam));
-            m_pWnd->SetWindowText(text.MakeUpper());
+            m_pWnd->SetWindowText(CString(reinterpret_cast<LPCWSTR>(lParam)).MakeUpper());
             return TRUE;
         }
     } shout;
@@ -177,25 +171,24 @@ TEST_F(MsgHook, AMessageInsideAMessageGoesThroughTheWholeLine)
 TEST_F(MsgHook, ForeignSubclassingOnTopIsKept)
 {
     static WNDPROC s_below;
-    const WNDPROC original = ProcedureOf(m_window);
+    const WNDPROC original = m_window.Procedure();
     a.HookWindow(&m_window);
-
-    s_below = ProcedureOf(m_window);
+    s_below = m_window.Procedure();
     const WNDPROC foreign = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT
     {
         if (message == kProbe)
             s_log += 'f';
         return ::CallWindowProcW(s_below, window, message, wParam, lParam);
     };
-    ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(foreign));
+    const auto put = [this](WNDPROC procedure)
+    { ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)); };
+    put(foreign);
     a.Unhook();
     EXPECT_EQ(Probe(), "fw");
-
     EXPECT_TRUE(b.HookWindow(&m_window));
     EXPECT_EQ(Probe(), "fbw");
     b.Unhook();
-
-    ::SetWindowLongPtrW(m_window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(s_below));
+    put(s_below);
     EXPECT_EQ(Probe(), "w");
-    EXPECT_EQ(ProcedureOf(m_window), original) << "the hooks' procedure leaves when it is on top again";
+    EXPECT_EQ(m_window.Procedure(), original) << "the hooks' procedure leaves when it is on top again";
 }

@@ -132,23 +132,23 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
 TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
 {
     ASSERT_TRUE(Load(kGood));
-    CWnd dialog, page;
+    CWnd dialog;
     ASSERT_TRUE(
         dialog.CreateEx(0, AfxRegisterWndClass(0), L"Snimi", WS_POPUP, 0, 0, 200, 100, nullptr, nullptr));
-    page.CreateEx(0, AfxRegisterWndClass(0), L"", WS_CHILD, 0, 50, 200, 50, dialog.m_hWnd, nullptr);
-    const auto addTo = [](CWnd& parent, LPCWSTR className)
+    const auto add = [](HWND parent, LPCWSTR className)
     {
         const HWND window = ::CreateWindowExW(0, className, L"", WS_CHILD | CBS_DROPDOWN, 0, 0, 50, 20,
                                               parent, nullptr, nullptr, nullptr);
         ::SetWindowTextW(window, L"Snimi");
         return window;
     };
+    const HWND page = add(dialog, L"Static");
     const HWND windows[] = {dialog,
-                            addTo(dialog, L"Button"),
-                            addTo(dialog, L"Static"),
-                            addTo(page, L"Button"),
-                            addTo(dialog, L"Edit"),
-                            addTo(dialog, L"ComboBox")};
+                            add(dialog, L"Button"),
+                            page,
+                            add(page, L"Button"),
+                            add(dialog, L"Edit"),
+                            add(dialog, L"ComboBox")};
     for (const int children : {0, 1})
     {
         m_translator.TranslateDialog(&dialog, children);
@@ -166,17 +166,14 @@ TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
 
 TEST_F(Translator, LanguageSettlesCodePageAndCharacterSet)
 {
-    const auto expect = [&](UINT codePage, int characterSet)
-    {
-        EXPECT_EQ(m_translator.GetCurrentCodePage(), codePage);
-        EXPECT_EQ(m_translator.GetCurrentCharacterSet(), characterSet);
-    };
-    expect(::GetACP(), ClTranslator::GetDisplayCharacterSet());
+    const auto current = [&]
+    { return std::pair(m_translator.GetCurrentCodePage(), int{m_translator.GetCurrentCharacterSet()}); };
+    EXPECT_EQ(current(), std::pair(::GetACP(), int{ClTranslator::GetDisplayCharacterSet()}));
     EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_SERBIAN, SUBLANG_SERBIAN_SERBIA_LATIN)));
-    expect(1250, EASTEUROPE_CHARSET);
+    EXPECT_EQ(current(), std::pair(1250u, EASTEUROPE_CHARSET));
     EXPECT_TRUE(m_translator.SetCurrentLanguage(MAKELANGID(LANG_GREEK, SUBLANG_DEFAULT)));
     EXPECT_FALSE(m_translator.SetCurrentLanguage(0x3FF));
-    expect(1253, GREEK_CHARSET); // an unknown language changes nothing
+    EXPECT_EQ(current(), std::pair(1253u, GREEK_CHARSET)) << "an unknown language changes nothing";
 }
 
 TEST(EnglishCatalogue, TranslatesEachOfItsTextsOnce)
