@@ -319,8 +319,7 @@ bool IsEscapeInMultilineEdit(const MSG& message)
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg)
 {
-    if (CWnd::PreTranslateMessage(pMsg))
-        return TRUE;
+    CWnd::PreTranslateMessage(pMsg); // which takes nothing
     if (IsEscapeInMultilineEdit(*pMsg))
     {
         const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);

@@ -107,13 +107,8 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
     if (GetSafeHwnd() == nullptr)
         return nullptr;
     CFrameWnd* frame = IsFrameWnd() ? static_cast<CFrameWnd*>(const_cast<CWnd*>(this)) : GetParentFrame();
-    while (frame != nullptr)
-    {
-        CFrameWnd* const above = frame->GetParentFrame();
-        if (above == nullptr)
-            break;
+    for (CFrameWnd* above = frame; above != nullptr; above = above->GetParentFrame())
         frame = above;
-    }
     return frame;
 }
 
@@ -162,9 +157,8 @@ CWnd* PASCAL CWnd::GetDescendantWindow(HWND hWnd, int nID, BOOL bOnlyPerm)
     if (const HWND child = ::GetDlgItem(hWnd, nID))
     {
         // Controls that build their own children may use the id a second time, below the one that is meant.
-        if (::GetTopWindow(child) != nullptr)
-            if (CWnd* const inner = GetDescendantWindow(child, nID, bOnlyPerm))
-                return inner;
+        if (CWnd* const inner = GetDescendantWindow(child, nID, bOnlyPerm))
+            return inner;
         CWnd* const found = bOnlyPerm ? FromHandlePermanent(child) : FromHandle(child);
         if (found != nullptr)
             return found;
@@ -189,7 +183,7 @@ void PASCAL CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wPara
             ::SendMessage(child, message, wParam, lParam);
         else if (CWnd* const window = FromHandlePermanent(child))
             AfxCallWndProc(window, child, message, wParam, lParam);
-        if (bDeep && ::GetTopWindow(child) != nullptr)
+        if (bDeep)
             SendMessageToDescendants(child, message, wParam, lParam, bDeep, bOnlyPerm);
     }
 }

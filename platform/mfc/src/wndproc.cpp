@@ -190,12 +190,10 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 /// The seven WM_CTLCOLORxxx messages share the map entry of WM_CTLCOLOR.
 BOOL CWnd::OnCtlColorMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    const AFX_MSGMAP_ENTRY* const entry = FindWindowMessage(GetMessageMap(), WM_CTLCOLOR);
-    if (entry == nullptr)
-        return FALSE;
+    const AFX_MSGMAP_ENTRY& entry = *FindWindowMessage(GetMessageMap(), WM_CTLCOLOR); // at least CWnd's own
     const CColorRequest request{reinterpret_cast<HWND>(lParam), reinterpret_cast<HDC>(wParam),
                                 message - WM_CTLCOLORMSGBOX};
-    return OnMappedMsg(*entry, 0, reinterpret_cast<LPARAM>(&request), pResult);
+    return OnMappedMsg(entry, 0, reinterpret_cast<LPARAM>(&request), pResult);
 }
 
 /// A control asked for its own colours. A null brush leaves the choice to the parent.
