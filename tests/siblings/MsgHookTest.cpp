@@ -30,12 +30,13 @@ struct CProbedWnd : CWnd
     WNDPROC Procedure() const { return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC)); }
 };
 
-/// A hook: logs its letter for a probe, does what the test wants, passes the probe on, and may end then.
+/// A hook: logs its letter for a probe, does what the test wants, passes the probe on, and may end itself then.
 struct CProbeHook : CMsgHook
 {
     explicit CProbeHook(char letter) : m_letter(letter) {}
     using CMsgHook::Default;
-    std::function<void()> m_action, m_then;
+    std::function<void()> m_action = [] {};
+    bool m_goes = false;
     char m_letter;
 
     LRESULT WindowProc(UINT message, WPARAM, LPARAM) override
@@ -43,11 +44,10 @@ struct CProbeHook : CMsgHook
         if (message != kProbe)
             return Default();
         s_log += m_letter;
-        if (m_action)
-            m_action();
+        m_action();
         const LRESULT answer = Default();
-        if (m_then)
-            m_then();
+        if (m_goes)
+            delete this;
         return answer;
     }
 };
@@ -105,7 +105,7 @@ TEST_F(MsgHook, HooksJoinAndLeaveInAnyOrderAlsoWhileAMessageIsOnItsWay)
         }
         EXPECT_EQ(Probe(), expected) << actor.m_letter << target.m_letter << " of " << line;
         EXPECT_EQ(m_answer, kWindowsAnswer);
-        actor.m_action = nullptr;
+        actor.m_action = [] {};
         line = after;
         EXPECT_EQ(Probe(), line + 'w');
         EXPECT_EQ(m_window.Procedure() == original, line.empty());
@@ -130,7 +130,7 @@ TEST_F(MsgHook, HasOneWindowAtATimeAndOneThatIsThere)
     ASSERT_TRUE(m_window.Open());
     HookBoth();
     auto* const going = new CProbeHook('g');
-    going->m_then = [=] { delete going; };
+    going->m_goes = true;
     going->HookWindow(&m_window);
     EXPECT_EQ(Probe(), "gbaw");
     EXPECT_EQ(m_answer, kWindowsAnswer);

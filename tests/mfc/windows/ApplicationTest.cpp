@@ -1,8 +1,14 @@
-// The application: profile, message boxes, frame windows, idle time, wait cursor, stack dumps.
+// The application: profile, message boxes, frame windows, idle time, help, command lines, wait cursor, stack dumps.
 
 #include "TestWindows.h"
 
 #include <afxpriv.h>
+
+#include "DialogTemplate.h"
+#include "ImportStandIn.h"
+
+#include <memory>
+#include <vector>
 
 namespace
 {
@@ -26,22 +32,50 @@ public:
         ::CallMsgFilter(message, MSGF_DIALOGBOX); // as a loop in a filter would; it is not told of that one
         return CWinApp::ProcessMessageFilter(code, message);
     }
-    int DoMessageBox(LPCTSTR prompt, UINT, UINT) override { return Note(*prompt ? "box" : "") ? IDOK : 0; }
+    int DoMessageBox(LPCTSTR prompt, UINT, UINT help) override
+    {
+        return Note(CStringA(prompt).GetString(), help) ? IDOK : 0;
+    }
 
 protected:
     afx_msg void OnCommand() { Note("application"); }
+    afx_msg void OnDefaultHelp() { Note("index"); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
+    ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
+    ON_COMMAND(ID_DEFAULT_HELP, &CTestApp::OnDefaultHelp)
 END_MESSAGE_MAP()
 
-class Application : public WithApplication<CTestApp>
+/// A test with an application of its own beside the test program's, which is put back afterwards.
+class Application : public ::testing::Test
 {
 protected:
-    Application() { Noted(); }
-    void CheckProfile()
+    Application()
+    {
+        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
+        app = std::make_unique<CTestApp>();
+        Noted();
+    }
+    ~Application() override
+    {
+        app.reset();
+        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
+        AfxGetModuleState()->m_lpszCurrentAppName = m_programs->m_pszAppName;
+        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
+    }
+
+    std::unique_ptr<CTestApp> app;
+
+private:
+    CWinApp* m_programs = AfxGetApp();
+};
+
+TEST_F(Application, HasItsProfileInTheRegistryOrInAFile)
+{
+    const auto checkProfile = [this]
     {
         const auto number = [this] { return static_cast<int>(app->GetProfileInt(L"Numbers", L"n", -4)); };
         EXPECT_EQ(number(), -4);
@@ -69,21 +103,17 @@ protected:
         EXPECT_TRUE(std::equal(read, read + size, std::begin(written), std::end(written)));
         EXPECT_FALSE(app->GetProfileBinary(L"Data", L"missing", &read, &size));
         EXPECT_TRUE(read == nullptr && size == 0);
-    }
-};
-
-TEST_F(Application, HasItsProfileInTheRegistryOrInAFile)
-{
+    };
     wchar_t folder[MAX_PATH], file[MAX_PATH];
     ::GetTempPath(MAX_PATH, folder);
     ASSERT_NE(::GetTempFileName(folder, L"prf", 0, file), 0u);
     app->m_pszProfileName = _wcsdup(file); // freed by the application
-    CheckProfile();
+    checkProfile();
     EXPECT_EQ(app->GetProfileString(L"Data", L"bytes"), L"AABAPHAIPP") << "two letters, the low half first";
     ::DeleteFile(file);
 
     app->SetRegistryKey(L"DialogControlsOW Tests");
-    CheckProfile();
+    checkProfile();
     int value = 0;
     DWORD size = sizeof value;
     ::RegGetValue(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers", L"n",
@@ -103,7 +133,7 @@ TEST_F(Application, TellsTheUserAboutAnExceptionInACommand)
         });
     ASSERT_TRUE(CreatePopup(window, nullptr, WS_VISIBLE));
     EXPECT_EQ(window.SendMessage(WM_COMMAND, 1), TRUE); // handled, although it failed
-    EXPECT_EQ(Noted(), "box;");
+    EXPECT_EQ(Noted().find("This operation is not supported."), 0u);
     window.Invalidate();
     window.UpdateWindow();
     EXPECT_EQ(Noted(), "") << "a box would make the window paint again";
@@ -245,6 +275,124 @@ TEST_F(Application, SeesTheMessagesOfTheSystemsOwnLoops)
     MSG message{};
     EXPECT_FALSE(::CallMsgFilter(&message, MSGF_MENU));
     EXPECT_EQ(Noted(), "filter 2;");
+}
+
+BOOL WINAPI NoteWinHelp(HWND, LPCWSTR file, UINT command, ULONG_PTR data)
+{
+    return Note("win", command, data) && file != nullptr;
+}
+
+struct HelpDialog : CDialog
+{
+    void HtmlHelp(DWORD_PTR dwData, UINT nCmd) override { Note("html", nCmd, dwData); }
+};
+
+class Help : public Application
+{
+protected:
+    Help()
+    {
+        const auto form = owtest::DialogTemplate(L"Help", 80, 40).Edit(1, 4, 4, 40, 12);
+        dialog.CreateIndirect(form.get());
+        app->m_pMainWnd = &dialog;
+        app->m_pszHelpFilePath = _wcsdup(L"C:\\no\\such.CHM");
+        Noted();
+    }
+    ~Help() override { app->m_pMainWnd = nullptr; }
+    std::string F1()
+    {
+        HELPINFO info{};
+        info.cbSize = sizeof info;
+        dialog.GetDlgItem(1)->SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+        return Noted();
+    }
+
+    HelpDialog dialog;
+    owtest::ImportStandIn m_winHelp{L"mfcow.dll", "WinHelpW", &NoteWinHelp};
+};
+TEST_F(Help, F1AsksForTheDialogsContextOrElseForTheDefault)
+{
+    EXPECT_EQ(F1(), "index;");
+    EXPECT_EQ(dialog.SendMessage(WM_HELPHITTEST), 0);
+    dialog.SetHelpID(77);
+    EXPECT_EQ(dialog.SendMessage(WM_HELPHITTEST), 0x2004D);
+    EXPECT_EQ(F1(), "win 1 131149;");         // HELP_CONTEXT, 0x2004D
+    dialog.SendMessage(WM_COMMANDHELP, 0, 5); // somebody knew better
+    EXPECT_EQ(Noted(), "win 1 5;");
+    app->m_dwPromptContext = HID_BASE_PROMPT + 9; // a message box is open
+    EXPECT_EQ(F1(), "win 1 196617;");             // 0x30009
+    app->m_dwPromptContext = HID_BASE_PROMPT + AFX_IDP_FAILED_TO_LAUNCH_HELP;
+    EXPECT_EQ(F1(), "");
+}
+
+TEST_F(Help, EachKindHasItsOwnNumbersAndAMissingFileIsTold)
+{
+    app->OnHelpIndex();
+    app->OnHelpFinder();
+    app->OnHelpUsing();
+    EXPECT_EQ(Noted(), "win 3 0;win 11 0;win 4 0;"); // HELP_INDEX, HELP_FINDER, HELP_HELPONHELP
+    app->EnableHtmlHelp();
+    EXPECT_EQ(app->GetHelpMode(), afxHTMLHelp);
+    app->OnHelpIndex();
+    app->OnHelpFinder();
+    app->WinHelpInternal(12);
+    EXPECT_EQ(Noted(), "html 1 0;html 0 0;html 15 12;"); // HH_DISPLAY_TOC, HH_DISPLAY_TOPIC, HH_HELP_CONTEXT
+    free(const_cast<LPTSTR>(std::exchange(app->m_pszHelpFilePath, nullptr)));
+    dialog.WinHelp(1);
+    EXPECT_EQ(Noted(),
+              "win 1 1;Help could not be shown. " + std::to_string(AFX_IDP_FAILED_TO_LAUNCH_HELP) + ';');
+}
+
+TEST(HelpFile, StandsBesideTheProgram)
+{
+    wchar_t path[MAX_PATH] = L"";
+    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    EXPECT_EQ(CString(path).SpanExcluding(L".") + L".HLP", AfxGetApp()->m_pszHelpFilePath);
+}
+
+TEST(CommandLine, IsParsedArgumentByArgument)
+{
+    using Info = CCommandLineInfo;
+    const struct
+    {
+        std::vector<const wchar_t*> arguments;
+        int command;
+        const wchar_t* names; ///< file, printer, driver, port
+        BOOL embedded = FALSE, automated = FALSE;
+    } cases[] = {
+        {{}, Info::FileNew, L"|||"},
+        {{L"a.dat"}, Info::FileOpen, L"a.dat|||"},
+        {{L"a.dat", L"b.dat"}, Info::FileOpen, L"a.dat|||"},
+        {{L"/p", L"a.dat"}, Info::FilePrint, L"a.dat|||"},
+        {{L"-pt", L"a", L"lp", L"drv", L"out", L"x"}, Info::FilePrintTo, L"a|lp|drv|out"},
+        {{L"/P", L"a.dat"}, Info::FileOpen, L"a.dat|||"},
+        {{L"/dde"}, Info::FileDDE, L"|||"},
+        {{L"/regserver"}, Info::AppRegister, L"|||"},
+        {{L"/Register"}, Info::AppRegister, L"|||"},
+        {{L"-unREGISTER"}, Info::AppUnregister, L"|||"},
+        {{L"/Unregserver"}, Info::AppUnregister, L"|||"},
+        {{L"/embedding"}, Info::FileNew, L"|||", TRUE},
+        {{L"-Automation", L"a.dat"}, Info::FileOpen, L"a.dat|||", FALSE, TRUE},
+    };
+    for (const auto& [arguments, command, names, embedded, automated] : cases)
+        for (const bool narrow : {false, true})
+        {
+            Info info;
+            for (size_t i = 0; i < arguments.size(); ++i)
+            {
+                const bool flag = wcschr(L"/-", arguments[i][0]) != nullptr;
+                const bool last = i + 1 == arguments.size();
+                narrow ? info.ParseParam(CStringA(arguments[i] + flag).GetString(), flag, last)
+                       : info.ParseParam(arguments[i] + flag, flag, last);
+            }
+            EXPECT_EQ(info.m_nShellCommand, command) << names;
+            EXPECT_EQ(info.m_strFileName + L"|" + info.m_strPrinterName + L"|" + info.m_strDriverName + L"|" +
+                          info.m_strPortName,
+                      names);
+            EXPECT_EQ(info.m_bRunEmbedded, embedded);
+            EXPECT_EQ(info.m_bRunAutomated, automated);
+            EXPECT_EQ(info.m_bShowSplash, !embedded && !automated);
+        }
 }
 
 TEST_F(Application, TheWaitCursorIsCounted)

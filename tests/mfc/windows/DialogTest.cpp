@@ -46,11 +46,15 @@ public:
     CString m_text;
     int m_shortest = 0;         ///< characters below which the text is refused
     BOOL m_ownerEnabled = TRUE; ///< when the window was destroyed
+    CRect m_place;              ///< then, too
 
     BOOL DestroyWindow() override
     {
         if (m_hWnd != nullptr)
+        {
             m_ownerEnabled = ::IsWindowEnabled(::GetWindow(m_hWnd, GW_OWNER));
+            GetWindowRect(&m_place);
+        }
         return CDialog::DestroyWindow();
     }
 
@@ -314,16 +318,10 @@ TEST_F(Dialog, IsCentredUnlessItsTemplateOrItsStartPlacesIt)
     owner.GetWindowRect(&ownerRect);
     const auto isCentred = [&](const owtest::DialogTemplate& shown, CTextDialog::Action onInit)
     {
-        CRect rect;
-        const auto look = [&](CTextDialog& self)
-        {
-            self.GetWindowRect(&rect);
-            kEnd(self);
-        };
-        CTextDialog dialog(shown.get(), look, &owner);
+        CTextDialog dialog(shown.get(), kEnd, &owner);
         dialog.m_onInit = std::move(onInit);
         dialog.DoModal();
-        const CSize off = rect.CenterPoint() - ownerRect.CenterPoint();
+        const CSize off = dialog.m_place.CenterPoint() - ownerRect.CenterPoint();
         return abs(off.cx) <= 1 && abs(off.cy) <= 1;
     };
     EXPECT_TRUE(isCentred(form, nullptr));

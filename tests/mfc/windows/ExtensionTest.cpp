@@ -1,66 +1,74 @@
-// Extension modules: the chain of resources, modules that come and go, exceptions across modules.
+// Extension modules: the chain of resources, and modules that come and go.
 
-#include "TestExtension.h"
-
+#include <afxcmn.h>
 #include <afxpriv.h>
 
 #include <gtest/gtest.h>
 
 #include <tuple>
 
+#include "resource.h"
+
 namespace
 {
-HMODULE EarlyExtension()
-{
-    return ::GetModuleHandle(L"mfc_test_extension_early.dll");
-}
+const HINSTANCE s_beforeStart = AfxGetResourceHandle(); ///< before AfxWinInit, as modules may ask
 
-CString TextOf(UINT id)
+struct Extension : testing::Test
 {
-    CString text;
-    text.LoadString(id);
-    return text;
-}
+    ~Extension() override { ::FreeLibrary(module); }
+    static CString TextOf(UINT id)
+    {
+        CString text;
+        text.LoadString(id);
+        return text;
+    }
+    const HINSTANCE program = AfxGetResourceHandle();
+    HMODULE module = ::LoadLibrary(L"mfc_test_extension.dll");
+};
 
-TEST(Extension, AsksTheCurrentHandleAndThenTheLatestModuleWhichLeavesTheChainWhenItGoes)
+TEST_F(Extension, IsAskedAfterTheCurrentHandleTheLatestFirstUntilItGoes)
 {
-    // Imported by the program, and so attached before AfxWinInit and before the application object was made.
-    EXPECT_EQ(TextAtAttach(), L"early");
-    const HMODULE late = ::LoadLibrary(L"mfc_test_extension_late.dll");
-    ASSERT_NE(late, nullptr);
-    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"late");
-    EXPECT_EQ(TextOf(IDS_EXTENSION_EARLY), L"early only")
-        << "an empty place in a block of strings is no string";
-    AFX_MODULE_STATE other; // puts a handle in force for a scope
-    other.m_hCurrentResourceHandle = EarlyExtension();
+    ASSERT_NE(module, nullptr);
+    EXPECT_EQ(s_beforeStart, program);
+    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"program");
+    EXPECT_EQ(TextOf(IDS_EXTENSION_ONLY), L"extension only") << "an empty place in a block is no string";
+    AfxSetResourceHandle(::GetModuleHandle(L"kernel32.dll"));
+    {
+        AFX_EXTENSION_MODULE state{TRUE, program, program, nullptr, nullptr};
+        const CDynLinkLibrary system(state, TRUE);
+        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"extension");
+        const CDynLinkLibrary latest(program, program);
+        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"program");
+    }
+    AfxSetResourceHandle(program);
+    AFX_MODULE_STATE other;
+    other.m_hCurrentResourceHandle = module;
     {
         AFX_MANAGE_STATE(&other);
-        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
+        EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"extension");
         EXPECT_EQ(AfxGetApp(), nullptr);
     }
     EXPECT_NE(AfxGetApp(), nullptr);
     EXPECT_EQ(AfxGetStaticModuleState(), AfxGetModuleState());
-    ::FreeLibrary(late);
-    EXPECT_EQ(::GetModuleHandle(L"mfc_test_extension_late.dll"), nullptr);
-    EXPECT_EQ(TextOf(IDS_EXTENSION_NAME), L"early");
+    ::FreeLibrary(std::exchange(module, nullptr));
+    EXPECT_EQ(TextOf(IDS_EXTENSION_ONLY), L"");
 }
 
-TEST(Extension, AMissingResourceAnswersTheCurrentHandle)
+TEST_F(Extension, AMissingResourceAnswersTheCurrentHandle)
 {
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(4999), RT_DIALOG), AfxGetResourceHandle());
     EXPECT_EQ(AfxFindStringResourceHandle(41999), AfxGetResourceHandle());
     wchar_t text[8] = L"old";
     EXPECT_EQ(AfxLoadString(41999, text, ARRAYSIZE(text)), 0);
     EXPECT_STREQ(text, L"");
-    EXPECT_EQ(AfxLoadString(IDS_EXTENSION_EARLY, text, ARRAYSIZE(text)), 7); // cut to the buffer
-    EXPECT_STREQ(text, L"early o");
+    EXPECT_EQ(AfxLoadString(IDS_EXTENSION_ONLY, text, ARRAYSIZE(text)), 7); // cut to the buffer
+    EXPECT_STREQ(text, L"extensi");
 }
 
-TEST(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
+TEST_F(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
 {
-    const HMODULE module = AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG);
-    EXPECT_EQ(module, EarlyExtension());
-    const auto resource = [=](LPCTSTR type)
+    EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG), module);
+    const auto resource = [this](LPCTSTR type)
     {
         return ::LockResource(
             ::LoadResource(module, ::FindResource(module, MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), type)));

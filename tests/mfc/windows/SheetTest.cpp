@@ -39,6 +39,8 @@ public:
     void OnOK() override { Ask(L'o'); }
     void OnCancel() override { Ask(L'c'); }
     BOOL OnQueryCancel() override { return Ask(L'q'); }
+    LRESULT OnWizardBack() override { return -1; }
+    LRESULT OnWizardNext() override { return 7; }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, kValue, value); }
@@ -65,7 +67,7 @@ struct Sheet : ::testing::Test
     }
     ~Sheet() override { sheet.DestroyWindow(); }
 
-    TestPage first{L"First"}, second{L"Second", 14, L"Liberation Serif"}, third{L"Third"};
+    TestPage first{L"First"}, second{L"Second", 14, L"Liberation Serif"}, third{L"Third", 14};
     CPropertySheet sheet{L"Sheet"};
 };
 
@@ -126,19 +128,19 @@ TEST_F(Sheet, AModelessOneHasNoButtonsAndTheStyleThatIsWanted)
 
 TEST_F(Sheet, ShowsAllPagesInItsOwnFontAndKeepsTheirValues)
 {
+    sheet.AddPage(&third);
     ASSERT_TRUE(sheet.Create());
-    sheet.SetActivePage(1);
-    LOGFONT fonts[2]{};
-    CRect rects[2];
-    for (int i = 0; CWnd* const page : {static_cast<CWnd*>(&first), static_cast<CWnd*>(&second)})
+    LOGFONT fonts[3]{};
+    CRect rects[3];
+    for (const int i : {0, 2, 1})
     {
-        page->GetDlgItem(kValue)->GetWindowRect(&rects[i]);
-        page->GetFont()->GetLogFont(&fonts[i++]);
+        sheet.SetActivePage(i);
+        sheet.GetActivePage()->GetDlgItem(kValue)->GetWindowRect(&rects[i]);
+        sheet.GetActivePage()->GetFont()->GetLogFont(&fonts[i]);
+        EXPECT_EQ(rects[i], rects[0]) << i;
+        EXPECT_EQ(fonts[i].lfHeight, fonts[0].lfHeight);
+        EXPECT_STREQ(fonts[i].lfFaceName, fonts[0].lfFaceName);
     }
-    EXPECT_EQ(rects[1], rects[0]);
-    EXPECT_EQ(fonts[1].lfHeight, fonts[0].lfHeight);
-    EXPECT_STREQ(fonts[1].lfFaceName, fonts[0].lfFaceName);
-
     EXPECT_EQ(second.log, L"s");
     second.SetDlgItemText(kValue, L"typed");
     second.value = L"set meanwhile";
@@ -147,6 +149,22 @@ TEST_F(Sheet, ShowsAllPagesInItsOwnFontAndKeepsTheirValues)
     second.value = L"shown again";
     sheet.SetActivePage(1);
     EXPECT_EQ(owtest::TextOf(*second.GetDlgItem(kValue)), L"shown again");
+}
+
+TEST_F(Sheet, PagesAnswerTheSystemInItsOwnTerms)
+{
+    const std::tuple<UINT, const wchar_t*, LRESULT> cases[] = {
+        {PSN_SETACTIVE, L"", 0},   {PSN_SETACTIVE, L"s", -1},  {PSN_KILLACTIVE, L"", 0},
+        {PSN_KILLACTIVE, L"k", 1}, {PSN_APPLY, L"", 0},        {PSN_APPLY, L"a", PSNRET_INVALID_NOCHANGEPAGE},
+        {PSN_QUERYCANCEL, L"", 0}, {PSN_QUERYCANCEL, L"q", 1}, {PSN_WIZBACK, L"", -1},
+        {PSN_WIZNEXT, L"", 7},     {PSN_WIZFINISH, L"", 0}};
+    ASSERT_TRUE(sheet.Create());
+    for (const auto& [code, refused, answer] : cases)
+    {
+        NMHDR header{sheet, 0, code};
+        first.refused = refused;
+        EXPECT_EQ(first.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), answer) << code;
+    }
 }
 
 TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)

@@ -1,12 +1,11 @@
 #pragma once
-// What the tests of this folder share: small windows, notes of what happened, and another application.
+// What the tests of this folder share: small windows, and notes of what happened.
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -57,27 +56,3 @@ inline bool TakeQuitMessage()
     MSG message;
     return ::PeekMessage(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE) != FALSE;
 }
-
-/// A test with an application of its own beside the test program's, which is put back afterwards.
-template <class App>
-class WithApplication : public ::testing::Test
-{
-protected:
-    WithApplication()
-    {
-        AfxGetModuleState()->m_pCurrentWinApp = nullptr;
-        app = std::make_unique<App>();
-    }
-    ~WithApplication() override
-    {
-        app.reset();
-        AfxGetModuleState()->m_pCurrentWinApp = m_programs;
-        AfxGetModuleState()->m_lpszCurrentAppName = m_programs->m_pszAppName;
-        AfxGetModuleThreadState()->m_pCurrentWinThread = m_programs;
-    }
-
-    std::unique_ptr<App> app;
-
-private:
-    CWinApp* m_programs = AfxGetApp();
-};

@@ -108,6 +108,7 @@ TEST(Threads, WithALoopHandleMessagesOfTheirsFromTheFirstOn)
 
 TEST(Threads, ThatDoNotBeginEndAtOnce)
 {
+    EXPECT_FALSE(CWinThread().InitInstance()) << "a thread without a class of its own has no loop";
     CSumThread::works = false;
     CWinThread* const thread = CSumThread::Begin();
     thread->m_bAutoDelete = FALSE;
@@ -116,7 +117,6 @@ TEST(Threads, ThatDoNotBeginEndAtOnce)
     thread->Delete(); // says no
     EXPECT_TRUE(CSumThread::alive);
     delete thread;
-    EXPECT_FALSE(CWinThread().InitInstance()) << "a thread without a class of its own has no loop";
 }
 
 TEST(Threads, HaveOleUntilTheirEnd)
