@@ -159,12 +159,9 @@ void CFrameWnd::ActivateFrame(int nCmdShow)
         else if (IsIconic())
             nCmdShow = SW_RESTORE;
     }
-    BringWindowToTop();
     if (nCmdShow != -1)
-    {
         ShowWindow(nCmdShow);
-        BringWindowToTop();
-    }
+    BringWindowToTop();
 }
 
 namespace

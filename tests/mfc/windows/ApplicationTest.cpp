@@ -6,6 +6,7 @@
 
 #include "DialogTemplate.h"
 #include "ImportStandIn.h"
+#include "resource.h"
 
 #include <memory>
 #include <vector>
@@ -119,6 +120,8 @@ TEST_F(Application, HasItsProfileInTheRegistryOrInAFile)
     ::RegGetValue(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests\\ProfileTest\\Numbers", L"n",
                   RRF_RT_REG_DWORD, nullptr, &value, &size);
     EXPECT_EQ(value, -17);
+    app->WriteProfileString(L"Numbers", L"n", L"12");
+    EXPECT_EQ(app->GetProfileInt(L"Numbers", L"n", 5), 5u) << "a value of another type";
     EXPECT_EQ(app->DelRegTree(HKEY_CURRENT_USER, L"Software\\DialogControlsOW Tests"), ERROR_SUCCESS);
 }
 
@@ -204,7 +207,10 @@ TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
 {
     frame->SendMessage(WM_COMMAND, 0x8124);
     frame->SendMessage(WM_COMMAND, 0x8123);
-    EXPECT_EQ(Noted(), "frame;application;");
+    EXPECT_TRUE(frame->LoadAccelTable(MAKEINTRESOURCE(IDR_KEYS)));
+    MSG key{*frame, WM_KEYDOWN, VK_F5, 0, 0, {}};
+    EXPECT_TRUE(frame->PreTranslateMessage(&key));
+    EXPECT_EQ(Noted(), "frame;application;frame;");
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
     const std::pair<UINT, UINT> items[] = {
@@ -357,24 +363,24 @@ TEST(CommandLine, IsParsedArgumentByArgument)
     {
         std::vector<const wchar_t*> arguments;
         int command;
-        const wchar_t* names; ///< file, printer, driver, port
-        BOOL embedded = FALSE, automated = FALSE;
+        const wchar_t*
+            rest; ///< file, printer, driver, port; whether it is embedded, automated, shows the splash
     } cases[] = {
-        {{}, Info::FileNew, L"|||"},
-        {{L"a.dat"}, Info::FileOpen, L"a.dat|||"},
-        {{L"a.dat", L"b.dat"}, Info::FileOpen, L"a.dat|||"},
-        {{L"/p", L"a.dat"}, Info::FilePrint, L"a.dat|||"},
-        {{L"-pt", L"a", L"lp", L"drv", L"out", L"x"}, Info::FilePrintTo, L"a|lp|drv|out"},
-        {{L"/P", L"a.dat"}, Info::FileOpen, L"a.dat|||"},
-        {{L"/dde"}, Info::FileDDE, L"|||"},
-        {{L"/regserver"}, Info::AppRegister, L"|||"},
-        {{L"/Register"}, Info::AppRegister, L"|||"},
-        {{L"-unREGISTER"}, Info::AppUnregister, L"|||"},
-        {{L"/Unregserver"}, Info::AppUnregister, L"|||"},
-        {{L"/embedding"}, Info::FileNew, L"|||", TRUE},
-        {{L"-Automation", L"a.dat"}, Info::FileOpen, L"a.dat|||", FALSE, TRUE},
+        {{}, Info::FileNew, L"||||001"},
+        {{L"a.dat"}, Info::FileOpen, L"a.dat||||001"},
+        {{L"a.dat", L"b.dat"}, Info::FileOpen, L"a.dat||||001"},
+        {{L"/p", L"a.dat"}, Info::FilePrint, L"a.dat||||001"},
+        {{L"-pt", L"a", L"lp", L"drv", L"out", L"x"}, Info::FilePrintTo, L"a|lp|drv|out|001"},
+        {{L"/P", L"a.dat"}, Info::FileOpen, L"a.dat||||001"},
+        {{L"/dde"}, Info::FileDDE, L"||||001"},
+        {{L"/regserver"}, Info::AppRegister, L"||||001"},
+        {{L"/Register"}, Info::AppRegister, L"||||001"},
+        {{L"-unREGISTER"}, Info::AppUnregister, L"||||001"},
+        {{L"/Unregserver"}, Info::AppUnregister, L"||||001"},
+        {{L"/embedding"}, Info::FileNew, L"||||100"},
+        {{L"-Automation", L"a.dat"}, Info::FileOpen, L"a.dat||||010"},
     };
-    for (const auto& [arguments, command, names, embedded, automated] : cases)
+    for (const auto& [arguments, command, rest] : cases)
         for (const bool narrow : {false, true})
         {
             Info info;
@@ -385,13 +391,11 @@ TEST(CommandLine, IsParsedArgumentByArgument)
                 narrow ? info.ParseParam(CStringA(arguments[i] + flag).GetString(), flag, last)
                        : info.ParseParam(arguments[i] + flag, flag, last);
             }
-            EXPECT_EQ(info.m_nShellCommand, command) << names;
-            EXPECT_EQ(info.m_strFileName + L"|" + info.m_strPrinterName + L"|" + info.m_strDriverName + L"|" +
-                          info.m_strPortName,
-                      names);
-            EXPECT_EQ(info.m_bRunEmbedded, embedded);
-            EXPECT_EQ(info.m_bRunAutomated, automated);
-            EXPECT_EQ(info.m_bShowSplash, !embedded && !automated);
+            EXPECT_EQ(info.m_nShellCommand, command) << CStringA(rest);
+            CString parsed = info.m_strFileName + L"|" + info.m_strPrinterName + L"|";
+            parsed += info.m_strDriverName + L"|" + info.m_strPortName;
+            parsed.AppendFormat(L"|%d%d%d", info.m_bRunEmbedded, info.m_bRunAutomated, info.m_bShowSplash);
+            EXPECT_EQ(parsed, rest);
         }
 }
 

@@ -115,11 +115,8 @@ protected:
         return Note("wheel", delta, point.x, point.y);
     }
     afx_msg void OnTimer(UINT_PTR id) { Note("timer", id); }
-    afx_msg void OnMove(int x, int y) { Note("moved", x, y); }
-    afx_msg void OnKeyDown(UINT key, UINT times, UINT flags) { Note("key", key, times, flags); }
     afx_msg void OnEnterIdle(UINT why, CWnd* who) { Note("idle", why, who->GetDlgCtrlID()); }
     afx_msg void OnMenuSelect(UINT item, UINT flags, HMENU) { Note("select", item, flags); }
-    afx_msg void OnShowWindow(BOOL show, UINT status) { Note("show", show, status); }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type)
     {
         Note("parent's colour", type);
@@ -133,11 +130,8 @@ BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
     ON_WM_TIMER()
-    ON_WM_MOVE()
-    ON_WM_KEYDOWN()
     ON_WM_ENTERIDLE()
     ON_WM_MENUSELECT()
-    ON_WM_SHOWWINDOW()
     ON_WM_CTLCOLOR()
     ON_BN_CLICKED(idTaker, &CParent::OnClick)
     ON_BN_CLICKED(idSharer, &CParent::OnClick)
@@ -254,11 +248,8 @@ TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
         {WM_MOUSEMOVE, 0, MAKELPARAM(-3, -4), "move -3 -4;0"},
         {WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5), "wheel -120 -1 5;1"},
         {WM_TIMER, UINT_PTR{0x100000001}, 0, "timer 4294967297;0"},
-        {WM_MOVE, 0, MAKELPARAM(-5, 6), "moved -5 6;0"},
-        {WM_KEYDOWN, 'A', MAKELPARAM(2, 0x11E), "key 65 2 286;0"},
         {WM_ENTERIDLE, MSGF_MENU, control, "idle 2 102;0"},
         {WM_MENUSELECT, MAKEWPARAM(7, MF_GRAYED), 0, "select 7 1;0"},
-        {WM_SHOWWINDOW, TRUE, SW_PARENTOPENING, "show 1 3;0"},
         // given back to the control
         {WM_DRAWITEM, idTaker, reinterpret_cast<LPARAM>(&draw), "draw 4;0"},
         {WM_DELETEITEM, idTaker, reinterpret_cast<LPARAM>(&gone), "delete 6;0"},

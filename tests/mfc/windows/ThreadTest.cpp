@@ -52,8 +52,14 @@ protected:
     ~CSumThread() override { alive = false; }
     BOOL InitInstance() override { return works; }
     int ExitInstance() override { return works ? m_sum : -1; }
+    BOOL ProcessMessageFilter(int code, LPMSG) override { return m_sum += code; }
     afx_msg void OnNumber(WPARAM wParam, LPARAM lParam) { m_sum += static_cast<int>(wParam * lParam); }
-    afx_msg void OnEnd(WPARAM, LPARAM) { ::PostQuitMessage(0); }
+    afx_msg void OnEnd(WPARAM, LPARAM)
+    {
+        MSG message{};
+        ::CallMsgFilter(&message, 1000); // as a box of the thread's would
+        ::PostQuitMessage(0);
+    }
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -102,7 +108,7 @@ TEST(Threads, WithALoopHandleMessagesOfTheirsFromTheFirstOn)
     EXPECT_EQ(thread->GetThreadPriority(), THREAD_PRIORITY_ABOVE_NORMAL);
     EXPECT_EQ(thread->SuspendThread(), 1u);
     EXPECT_EQ(thread->ResumeThread(), 2u);
-    EXPECT_EQ(CodeAtEnd(thread), 26u);
+    EXPECT_EQ(CodeAtEnd(thread), 1026u);
     EXPECT_FALSE(CSumThread::alive);
 }
 

@@ -6,6 +6,7 @@
 #define IDS_TAB 202
 #define IDS_HEADER 203
 #define IDS_SUBTITLE 204
+#define IDR_KEYS 206
 #define IDC_GRADE 1201
 
 #define IDS_EXTENSION_NAME 41001 // in both, with different texts
