@@ -179,6 +179,7 @@ TEST_F(ColorDialog, LayerAndBlockAreOfferedOnlyWhereAllowed)
     {
         EXPECT_EQ(Text(), L"ByLayer");
         Click(IDC_COLOR_BYBLOCK);
+        EXPECT_EQ(Text(), L"ByBlock");
         Click(IDOK);
     };
     EXPECT_EQ(Choose(256, chooseBlock, true), Outcome(true, 0));

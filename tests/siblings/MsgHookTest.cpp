@@ -103,12 +103,12 @@ TEST_F(MsgHook, HooksJoinAndLeaveInAnyOrderAlsoWhileAMessageIsOnItsWay)
             toggle();
             expected = after + 'w';
         }
-        EXPECT_EQ(Probe(), expected) << actor.m_letter << target.m_letter << " of " << line;
+        ASSERT_EQ(Probe(), expected) << actor.m_letter << target.m_letter << " of " << line;
         EXPECT_EQ(m_answer, kWindowsAnswer);
         actor.m_action = [] {};
         line = after;
-        EXPECT_EQ(Probe(), line + 'w');
-        EXPECT_EQ(m_window.Procedure() == original, line.empty());
+        ASSERT_EQ(Probe(), line + 'w');
+        ASSERT_EQ(m_window.Procedure() == original, line.empty());
     }
 }
 

@@ -44,9 +44,9 @@ public:
 
     Action m_onInit;
     CString m_text;
-    int m_shortest = 0;         ///< characters below which the text is refused
-    BOOL m_ownerEnabled = TRUE; ///< when the window was destroyed
-    CRect m_place;              ///< then, too
+    int m_shortest = 0;          ///< characters below which the text is refused
+    BOOL m_ownerEnabled = FALSE; ///< when the window was destroyed
+    CRect m_place;               ///< then, too
 
     BOOL DestroyWindow() override
     {
