@@ -192,6 +192,7 @@ TEST_F(ColorDialog, ReadoutFollowsTheMouse)
         const CPoint swatch = Cell(50).CenterPoint();
         Hover(swatch);
         EXPECT_EQ(Index(), L"Index color: 50");
+        EXPECT_EQ(Pixel(IDC_COLOR_GRID, Cell(50).TopLeft()), ::GetSysColor(COLOR_HIGHLIGHT));
         EXPECT_EQ(Text(), L"1") << "the choice stays";
         Press(VK_RIGHT);
         EXPECT_EQ(Index(), L"Index color: 2") << "a new choice counts more";

@@ -82,7 +82,7 @@ msgstr[0] "%d sheet"
 msgstr[1] "%d sheets"
 )"
                      "msgid \"\xC5\xA0irina\"\r\n" // a line that ends in two characters
-                     "msgstr \"Width \\\"\xC2\xB2\\\" \\\\ \\t \\x41\\102\""))
+                     "msgstr \"Width \\\"\xC2\xB2\\\" \\\\ \\t \\x4a\\x4B\\102\""))
         << CStringA(m_error.Format());
     Expect({{L"Prva\ndruga", L"First\nsecond"},
             {L"Otvori", L"Otvori"}, // stands under its context only
@@ -90,7 +90,7 @@ msgstr[1] "%d sheets"
             {L"Prazno", L"Prazno"},
             {L"Nekad", L"Nekad"},
             {L"%d list", L"%d sheet"},
-            {L"Širina", L"Width \"²\" \\ \t AB"}});
+            {L"Širina", L"Width \"²\" \\ \t JKB"}});
     EXPECT_STREQ(m_translator.Do(L"dugme", L"Otvori"), L"Open");
     EXPECT_STREQ(m_translator.Do(L"meni", L"Otvori"), L"Otvori");
     EXPECT_EQ(m_translator.Count(), 4);
@@ -101,7 +101,7 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
     const std::tuple<const char*, std::string, int> cases[] = {
         {"no closing quotation mark", "msgid \"a\"\nmsgstr \"b\n", 2},
         {"text behind the text", "msgid \"a\" b\n", 1},
-        {"unknown keyword", "msgid \"a\"\nmsgtext \"b\"\n", 2},
+        {"unknown keyword", "msgid \"a\"\nmsgtext] \"b\"\n", 2},
         {"unknown escape sequence", "msgid \"a\"\nmsgstr \"\\q\"\n", 2},
         {"escape sequence of no character", "msgid \"a\"\nmsgstr \"\\400\"\n", 2},
         {"text without a keyword", "\n\"a\"\n", 2},
@@ -142,17 +142,19 @@ TEST_F(Translator, DialogIsTranslatedExceptForWhatTheUserEnters)
         ::SetWindowTextW(window, L"Snimi");
         return window;
     };
+    ASSERT_NE(::LoadLibraryW(L"riched20.dll"), nullptr);
     const HWND page = add(dialog, L"Static");
     const HWND windows[] = {dialog,
                             add(dialog, L"Button"),
                             page,
                             add(page, L"Button"),
                             add(dialog, L"Edit"),
-                            add(dialog, L"ComboBox")};
+                            add(dialog, L"ComboBox"),
+                            add(dialog, L"RichEdit20W")};
     for (const int children : {0, 1})
     {
         m_translator.TranslateDialog(&dialog, children);
-        for (int i = 0; i < 6; ++i)
+        for (int i = 0; i < std::ssize(windows); ++i)
         {
             wchar_t text[32] = L"";
             ::GetWindowTextW(windows[i], text, 32);

@@ -177,7 +177,7 @@ int CColorGrid::FocusColor() const
 
 void CColorGrid::InvalidateSwatch(int nColor)
 {
-    if (m_hWnd && nColor != kNoColor)
+    if (m_hWnd)
         InvalidateRect(Layout().CellRect(nColor), FALSE);
 }
 

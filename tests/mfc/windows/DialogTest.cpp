@@ -246,7 +246,11 @@ TEST_F(Dialog, MayEndBeforeItIsShownOrNeverBegin)
     EXPECT_EQ(modeless.m_hWnd, nullptr);
     struct : CDialog
     {
-        BOOL OnInitDialog() override { return EndDialog(5), TRUE; }
+        BOOL OnInitDialog() override
+        {
+            EndDialog(5);
+            return TRUE;
+        }
     } fromMemory;
     const HGLOBAL memory = ::GlobalAlloc(GMEM_FIXED, sizeof kEmpty);
     memcpy(memory, &kEmpty, sizeof kEmpty);

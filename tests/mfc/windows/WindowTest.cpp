@@ -20,6 +20,7 @@ public:
     {
         if (message == WM_CREATE)
             Note("made");
+        EXPECT_EQ(CPoint(GetCurrentMessage()->pt), CPoint(::GetMessagePos()));
         return CSeenWnd::WindowProc(message, wParam, lParam);
     }
 
