@@ -1,5 +1,5 @@
 #pragma once
-// A dialog around one group of controls.
+// A dialog around one group of controls; with it as a base, the room of a test.
 
 #include <DialogControlsOW.h>
 
@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -25,16 +27,16 @@ public:
         return CreateIndirect(form.get()) && (ShowWindow(SW_SHOW), owtest::Activate(m_hWnd));
     }
     CWnd& operator[](int nId) const { return *GetDlgItem(nId); }
-    std::wstring TextOf(int nId) const { return owtest::TextOf((*this)[nId]); }
     /// Texts of controls and states of buttons; hidden ones as nothing, disabled ones with a dash.
     std::string Seen(const std::vector<int>& ids) const
     {
         std::wstring seen;
         for (const int nId : ids)
         {
-            const CWnd& control = (*this)[nId];
-            const bool bButton = control.IsKindOf(RUNTIME_CLASS(CButton)) != FALSE;
-            const std::wstring text = bButton ? std::to_wstring(IsDlgButtonChecked(nId)) : TextOf(nId);
+            CWnd& control = (*this)[nId];
+            const bool bButton = control.SendMessage(WM_GETDLGCODE) & (DLGC_BUTTON | DLGC_RADIOBUTTON);
+            const std::wstring text =
+                bButton ? std::to_wstring(IsDlgButtonChecked(nId)) : owtest::TextOf(control);
             seen +=
                 L' ' + (control.IsWindowVisible() ? text : L"") + (control.IsWindowEnabled() ? L"" : L"-");
         }
@@ -63,5 +65,12 @@ public:
         Click(nId);
         (*this)[nId].SendMessage(EM_SETSEL, 0, -1);
         owtest::Type(pszText);
+    }
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        CDialog::OnInitDialog();
+        return FALSE;
     }
 };

@@ -2,106 +2,74 @@
 
 #include "GroupDialog.h"
 
-#include <climits>
-#include <functional>
-
 namespace
 {
 using Rule = std::function<void(bool bSet, int* pnValue)>;
 
-enum Id : WORD
-{
-    idFirst = 101,
-    idSecond, ///< with a third state
-    idOption, ///< two radio buttons
-    idEnd = idOption + 2
-};
+/// Moves name them a to d.
+constexpr WORD idFirst = 101, idSecond = 102, idOption = 103, idOther = 104;
 
-/// A value that is shown, or is read after a click, and what is seen then.
-struct Step
-{
-    int nClicked; ///< 0: the value is shown
-    int nValue;
-    const char* seen;
-};
-using Steps = std::vector<Step>;
-
-class CheckBoxRules : public ::testing::Test
+class CheckBoxRules : public ::testing::Test, public GroupDialog
 {
 protected:
     void SetUp() override
     {
         const auto form = owtest::DialogTemplate(L"Rules", 160, 20)
-                              .Item(L"BUTTON", L"", idFirst, BS_AUTOCHECKBOX | WS_TABSTOP, 4, 4, 12, 12)
-                              .Item(L"BUTTON", L"", idSecond, BS_AUTO3STATE | WS_TABSTOP, 24, 4, 12, 12)
-                              .Item(L"BUTTON", L"", idOption, BS_AUTORADIOBUTTON | WS_GROUP, 44, 4, 12, 12)
-                              .Item(L"BUTTON", L"", idOption + 1, BS_AUTORADIOBUTTON, 64, 4, 12, 12)
-                              .Button(L"", idEnd, 84, 4, 12, 12);
-        ASSERT_TRUE(dialog.Open(form));
-        first.SubclassDlgItem(idFirst, &dialog);
-        second.SubclassDlgItem(idSecond, &dialog);
-        options.Set(&dialog, idOption);
+                              .Button(L"", idFirst, 4, 4, 12, 12, BS_AUTOCHECKBOX)
+                              .Button(L"", idSecond, 24, 4, 12, 12, BS_AUTO3STATE)
+                              .Button(L"", idOption, 44, 4, 12, 12, BS_AUTORADIOBUTTON | WS_GROUP)
+                              .Item(L"BUTTON", L"", idOther, BS_AUTORADIOBUTTON, 64, 4, 12, 12)
+                              .Button(L"", idOther + 1, 84, 4, 12, 12);
+        ASSERT_TRUE(Open(form));
+        first.SubclassDlgItem(idFirst, this);
+        second.SubclassDlgItem(idSecond, this);
+        options.Set(this, idOption);
     }
 
-    void Expect(const Rule& rule, const std::vector<int>& controls, const Steps& steps)
+    /// "=1" shows the value 1, "b" clicks a control and reads, "?" reads only: what the value is and what is seen then.
+    std::string Run(const Rule& rule, const std::vector<int>& controls, const std::string& moves)
     {
-        for (const auto& [nClicked, nExpected, seen] : steps)
+        std::istringstream in(moves);
+        std::string log;
+        for (std::string move; in >> move;)
         {
-            int nValue = nClicked ? -1 : nExpected;
-            if (nClicked)
-                dialog.Click(nClicked);
-            rule(nClicked == 0, &nValue);
-            EXPECT_EQ(nValue, nExpected) << seen;
-            EXPECT_EQ(dialog.Seen(controls), seen);
+            const bool bSet = move[0] == '=';
+            int nValue = bSet ? std::stoi(move.substr(1)) : -1;
+            if (!bSet && move != "?")
+                Click(idFirst + move[0] - 'a');
+            rule(bSet, &nValue);
+            log += (log.empty() ? "" : ", ") + std::to_string(nValue) + ": " + Seen(controls);
         }
+        return log;
     }
-
-    GroupDialog dialog;
     CButton first, second;
     CRadioGroup options{nullptr, 0};
 };
 } // namespace
 
-TEST_F(CheckBoxRules, OneBoxIsAFlag)
+TEST_F(CheckBoxRules, ShowValuesAndReadThemAgain)
 {
-    // Indeterminate is not checked.
-    const Steps steps{{0, 1, "1"},  {0, 0, "0"}, {0, 2, "1"},       {idSecond, 0, "2"},
-                      {0, -7, "1"}, {0, 0, "0"}, {idSecond, 1, "1"}};
-    Expect([&](bool bSet, int* pnValue) { gfnObradiCheckBox(&second, bSet, pnValue); }, {idSecond}, steps);
-}
+    const Rule flag = [&](bool bSet, int* pn) { gfnObradiCheckBox(&second, bSet, pn); };
+    EXPECT_EQ(Run(flag, {idSecond}, "=1 =0 =2 b =-7 =0 b"), "1: 1, 0: 0, 2: 1, 0: 2, -7: 1, 0: 0, 1: 1")
+        << "indeterminate is not checked";
+    const Rule levels = [&](bool bSet, int* pn) { gfnObradiDvaCheckBoxa(&first, &second, bSet, pn); };
+    EXPECT_EQ(Run(levels, {idFirst, idSecond}, "=1 =0 =3 =2 b a a b"),
+              "1: 1 0, 0: 0 0-, 3: 1 0, 2: 1 1, 3: 1 2, 0: 0 0-, 1: 1 0, 2: 1 1");
 
-TEST_F(CheckBoxRules, TwoBoxesAreThreeLevels)
-{
-    const Steps steps{{0, 1, "1 0"},        {0, 0, "0 0-"},       {0, 3, "1 0"},       {0, 2, "1 1"},
-                      {idSecond, 3, "1 2"}, {idFirst, 0, "0 0-"}, {idFirst, 1, "1 0"}, {idSecond, 2, "1 1"}};
-    const auto rule = [&](bool bSet, int* pnValue) { gfnObradiDvaCheckBoxa(&first, &second, bSet, pnValue); };
-    Expect(rule, {idFirst, idSecond}, steps);
-}
-
-TEST_F(CheckBoxRules, AConditionDecidesWhetherABoxIsRead)
-{
     int nCondition = 0;
-    const auto rule = [&](bool bSet, int* pnValue)
-    { gfnObradiUslovniCheckBox(&first, bSet, &nCondition, pnValue); };
-    Expect(rule, {idFirst}, {{idEnd, -1, "0-"}, {0, 5, "1-"}});
-    nCondition = 1;
-    Expect(rule, {idFirst}, {{idEnd, 1, "1"}, {0, 0, "0"}, {0, 5, "1"}}); // reading enables it, too
+    const Rule onlyIf = [&](bool bSet, int* pn) { gfnObradiUslovniCheckBox(&first, bSet, &nCondition, pn); };
+    EXPECT_EQ(Run(onlyIf, {idFirst}, "? =0 ? =5"), "-1: 1-, 0: 0-, -1: 0-, 5: 1-");
     nCondition = -2;
-    Expect(rule, {idFirst}, {{idFirst, 0, "0"}, {0, 5, "1"}});
-}
+    EXPECT_EQ(Run(onlyIf, {idFirst}, "? =0 a a =5"), "1: 1, 0: 0, 1: 1, 0: 0, 5: 1") << "reading enables";
 
-TEST_F(CheckBoxRules, ABoxSwitchesARadioGroup)
-{
-    // On always gives an option.
-    const Steps steps{
-        {0, 2, "1 0 1"},         {0, 0, "0 0- 0-"},    {0, 1, "1 1 0"},       {0, 3, "1 0 0"},
-        {0, 1, "1 1 0"},         {0, -1, "1 0 0"},     {0, INT_MIN, "1 0 0"}, {idOption + 1, 2, "1 0 1"},
-        {idFirst, 0, "0 0- 0-"}, {idFirst, 1, "1 1 0"}};
-    const auto rule = [&](bool bSet, int* pnValue)
-    { gfnObradiChkBoxSaGrupomRadioDugmica(&first, options, bSet, pnValue); };
-    Expect(rule, {idFirst, idOption, idOption + 1}, steps);
-    options.Empty();
-    Expect(rule, {idFirst}, {{idEnd, 1, "1"}, {idFirst, 0, "0"}});
+    const Rule options = [&](bool bSet, int* pn)
+    { gfnObradiChkBoxSaGrupomRadioDugmica(&first, this->options, bSet, pn); };
+    EXPECT_EQ(Run(options, {idFirst, idOption, idOther}, "=2 =0 =1 =3 =1 =-1 =-2147483648 d a a"),
+              "2: 1 0 1, 0: 0 0- 0-, 1: 1 1 0, 3: 1 0 0, 1: 1 1 0, -1: 1 0 0, -2147483648: 1 0 0, "
+              "2: 1 0 1, 0: 0 0- 0-, 1: 1 1 0")
+        << "on always gives an option";
+    this->options.Empty();
+    EXPECT_EQ(Run(options, {idFirst}, "? a"), "1: 1, 0: 0");
 }
 
 TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
@@ -122,5 +90,5 @@ TEST_F(CheckBoxRules, DoNothingWithoutABoxOrAValue)
             gfnObradiChkBoxSaGrupomRadioDugmica(pCheck, options, bSet, pnValue);
         }
     EXPECT_EQ(nValue, 7);
-    EXPECT_EQ(dialog.Seen({idFirst, idSecond, idOption, idOption + 1}), "1 0- 0 0");
+    EXPECT_EQ(Seen({idFirst, idSecond, idOption, idOther}), "1 0- 0 0");
 }

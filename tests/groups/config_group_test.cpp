@@ -8,34 +8,28 @@
 #include <algorithm>
 #include <optional>
 
-using owtest::TextOf;
 using Visitor = owtest::ModalVisit::Visitor;
 
 namespace
 {
-enum Id : WORD
-{
-    idCombo = 1001,
-    idSave,
-    idDelete,
-    idAfter
-};
-
+constexpr WORD idCombo = 1001, idSave = 1002, idDelete = 1003, idAfter = 1004;
 constexpr int kNameBox = 10001, kMessage = 104, kYes = IDOK, kNo = 101;
-constexpr wchar_t kUnsuitable[] = L"Neodgovarajuci naziv";
-constexpr wchar_t kOverwrite[] = L"Da li zelite da prethodna konfiguracija bude prepisana?";
-constexpr wchar_t kProtected[] = L"Ne mozete da obrisete Default konfiguraciju";
-constexpr wchar_t kDelete[] = L"Brisanje tekuce konfiguracije?";
+constexpr wchar_t kUnsuitable[] = L"Neodgovarajuci naziv", kDelete[] = L"Brisanje tekuce konfiguracije?",
+                  kOverwrite[] = L"Da li zelite da prethodna konfiguracija bude prepisana?",
+                  kProtected[] = L"Ne mozete da obrisete Default konfiguraciju";
 
 /// Keeps names only, and writes down what it is told, as a handler too.
-class NameSet : public AConfigSet, public AConfigCtrlGroupNotificationHandler
+struct NameSet : AConfigSet, AConfigCtrlGroupNotificationHandler
 {
-public:
     std::vector<CString> names;
     int current = -1;
     bool changed = false;
     std::wstring calls;
 
+    int IndexOf(const CString& name) const
+    {
+        return static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
+    }
     int GetConfigNames(CStringArray& result) override
     {
         for (const CString& name : names)
@@ -44,7 +38,7 @@ public:
     }
     bool AddConfig(const CString& name) override
     {
-        if (std::find(names.begin(), names.end(), name) != names.end())
+        if (IndexOf(name) < static_cast<int>(names.size()))
             return false;
         names.push_back(name);
         OverwriteConfig(name);
@@ -53,7 +47,7 @@ public:
     void OverwriteConfig(const CString& name) override
     {
         calls += L"store " + name + L';';
-        current = static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
+        current = IndexOf(name);
         changed = false;
     }
     void DeleteConfig(int index) override
@@ -64,51 +58,12 @@ public:
     }
     void SetCurrentConfig(int index) override
     {
-        calls += L"current " + std::to_wstring(index) + L';';
-        current = index;
+        calls += L"current " + std::to_wstring(current = index) + L';';
     }
     bool IsConfigChanged() override { return changed; }
     int GetCurrentConfig() override { return current; }
     CString GetConfigName(int index) override { return index < 0 ? CString() : names[index]; }
     void OnConfigGroupChanged(CConfigCtrlGroup*) override { calls += L"told;"; }
-};
-
-struct ConfigDialog : GroupDialog
-{
-    ConfigDialog(AConfigSet* set, AConfigCtrlGroupNotificationHandler* handler)
-        : group(idCombo, idSave, idDelete, set, handler)
-    {
-        const auto form =
-            owtest::DialogTemplate(L"Configurations", 160, 60)
-                .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | CBS_SORT | WS_TABSTOP, 4, 4, 80, 80)
-                .Button(L"", idSave, 90, 4, 16, 14)
-                .Button(L"", idDelete, 110, 4, 16, 14)
-                .Edit(idAfter, 4, 30, 80, 12);
-        group.Refresh(); // does nothing yet
-        EXPECT_TRUE(Open(form));
-    }
-    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override
-    {
-        EXPECT_TRUE(CDialog::OnInitDialog() && group.OnInitDialog() == 1);
-        return TRUE;
-    }
-
-    /// The rows of the combo box by their initials, the selected one in brackets.
-    std::wstring Rows() const
-    {
-        const auto& combo = static_cast<const CComboBox&>((*this)[idCombo]);
-        std::wstring rows;
-        for (int i = 0; i < combo.GetCount(); ++i)
-        {
-            CString text;
-            combo.GetLBText(i, text);
-            rows += combo.GetCurSel() == i ? L'[' + text.Left(1) + L']' : text.Left(1);
-        }
-        return rows;
-    }
-
-    CConfigCtrlGroup group;
 };
 
 /// Types a name in place of what the name dialog begins with, and accepts; expects that beginning.
@@ -117,8 +72,8 @@ Visitor TypeOver(std::wstring begins, std::wstring name)
     return [=](CWnd& box)
     {
         ASSERT_NE(box.GetDlgItem(kNameBox), nullptr);
-        EXPECT_EQ(TextOf(box), gOtLang.Do(L"Snimi").GetString());
-        EXPECT_EQ(TextOf(*box.GetDlgItem(kNameBox)), begins);
+        EXPECT_EQ(owtest::TextOf(box), gOtLang.Do(L"Snimi").GetString());
+        EXPECT_EQ(owtest::TextOf(*box.GetDlgItem(kNameBox)), begins);
         owtest::Press(VK_DELETE);
         owtest::Type(name);
         owtest::Press(VK_RETURN);
@@ -128,88 +83,102 @@ Visitor TypeOver(std::wstring begins, std::wstring name)
 const Visitor kEscape = [](CWnd&) { owtest::Press(VK_ESCAPE); };
 
 /// Answers a message box by a button, and expects its text.
-Visitor Answer(std::wstring text, int button)
+Visitor Answer(const wchar_t* text, int button)
 {
     return [=](CWnd& box)
     {
         ASSERT_NE(box.GetDlgItem(kMessage), nullptr);
-        EXPECT_EQ(TextOf(box) + L'|' + TextOf(*box.GetDlgItem(kMessage)), L'|' + text);
+        EXPECT_EQ(owtest::TextOf(box), L"");
+        EXPECT_EQ(owtest::TextOf(*box.GetDlgItem(kMessage)), text);
         owtest::Click(*box.GetDlgItem(button));
     };
 }
 
-class ConfigGroup : public testing::Test
+class ConfigGroup : public testing::Test, public GroupDialog
 {
 protected:
-    NameSet set;
-    std::optional<ConfigDialog> dialog;
-
-    void Open(const std::vector<CString>& names, int current, bool withHandler = true)
+    void Open(AConfigSet* pSet, AConfigCtrlGroupNotificationHandler* pHandler)
     {
-        set.names = names;
-        set.current = current;
-        dialog.emplace(&set, withHandler ? &set : nullptr);
+        DestroyWindow();
+        group.emplace(idCombo, idSave, idDelete, pSet, pHandler);
+        group->Refresh(); // does nothing yet
+        EXPECT_TRUE(GroupDialog::Open(
+            owtest::DialogTemplate(L"Configurations", 160, 60)
+                .Item(L"COMBOBOX", L"", idCombo, CBS_DROPDOWNLIST | CBS_SORT | WS_TABSTOP, 4, 4, 80, 80)
+                .Button(L"", idSave, 90, 4, 16, 14)
+                .Button(L"", idDelete, 110, 4, 16, 14)
+                .Edit(idAfter, 4, 30, 80, 12)));
+        EXPECT_EQ(group->OnInitDialog(), 1);
     }
-    /// Clicks a button and goes through all the dialogs that this opens; what set and handler were told.
-    std::wstring Click(int id, const std::vector<Visitor>& visitors)
+    void DoDataExchange(CDataExchange* pDX) override { group->DoDataExchange(pDX); }
+
+    /// Clicks a button, if any, and goes through all the dialogs that this opens. What set and handler were told, and
+    /// the rows of the combo box by their initials, the selected one in brackets.
+    std::wstring State(int nId = 0, const std::vector<Visitor>& visitors = {})
     {
         owtest::ModalVisit visit(visitors);
-        dialog->Click(id);
+        if (nId)
+            Click(nId);
         EXPECT_EQ(visit.Count(), static_cast<int>(visitors.size()));
-        return std::exchange(set.calls, {});
+        const auto& combo = static_cast<CComboBox&>((*this)[idCombo]);
+        std::wstring state = std::exchange(set.calls, {}) + L' ';
+        for (int i = 0; i < combo.GetCount(); ++i)
+        {
+            CString text;
+            combo.GetLBText(i, text);
+            state += combo.GetCurSel() == i ? L'[' + text.Left(1) + L']' : text.Left(1);
+        }
+        return state;
     }
+    NameSet set;
+    std::optional<CConfigCtrlGroup> group;
 };
 } // namespace
 
 TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
 {
-    Open({L"Roof", L"Floor"}, 1);
-    EXPECT_EQ(dialog->Rows(), L"DR[F]");
-    EXPECT_TRUE(dialog->ShowsPicture(idSave) && dialog->ShowsPicture(idDelete)) << "their icons";
-    dialog->Press(idCombo, VK_HOME);
+    set.names = {L"Roof", L"Floor"};
+    set.current = 1;
+    Open(&set, &set);
+    EXPECT_EQ(State(), L" DR[F]");
+    EXPECT_TRUE(ShowsPicture(idSave) && ShowsPicture(idDelete)) << "their icons";
+    Press(idCombo, VK_HOME);
     owtest::Press(VK_DOWN);
-    EXPECT_EQ(std::exchange(set.calls, {}), L"current -1;told;current 0;told;");
+    EXPECT_EQ(State(), L"current -1;told;current 0;told; D[R]F");
     set.changed = true;
-    dialog->group.Refresh();
-    EXPECT_EQ(dialog->Rows(), L"DRF");
-    (*dialog)[idAfter].SetFocus();
-    dialog->group.OnExtComboBoxSelChanged(idCombo, -1);
-    EXPECT_EQ(set.calls, L"told;") << "no row is no entry";
-    EXPECT_EQ(::GetFocus(), (*dialog)[idCombo].m_hWnd);
-    dialog->group.OnButtonClicked(idAfter); // no button of the group
+    group->Refresh();
+    (*this)[idAfter].SetFocus();
+    group->OnExtComboBoxSelChanged(idCombo, -1);
+    EXPECT_EQ(State(), L"told; DRF") << "no row is no entry";
+    EXPECT_EQ(::GetFocus(), (*this)[idCombo].m_hWnd);
+    group->OnButtonClicked(idAfter); // no button of the group
 }
 
 TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUserAgrees)
 {
-    struct Step
-    {
-        bool changed; ///< nothing shows as current before the step, and yet there is a current entry
-        int button;
-        std::vector<Visitor> visitors;
-        const wchar_t *calls, *rows;
-    };
     const Visitor wall = TypeOver(L"default", L"Wall"), agree = Answer(kDelete, kYes);
     const Visitor refused = TypeOver(L"default", L"Default"), unsuitable = Answer(kUnsuitable, kYes);
-    // The group judges no name but "Default".
-    const Step steps[] = {
-        {true, idSave, {kEscape}, L"", L"DRFW"},
-        {false, idSave, {TypeOver(L"Floor", L"Gate")}, L"store Gate;", L"DRFW[G]"},
-        {true, idSave, {TypeOver(L"Gate", L"default")}, L"store default;", L"DRFWG[d]"},
-        {true, idSave, {wall, Answer(kOverwrite, kNo), kEscape}, L"", L"DRFWGd"},
-        {true, idSave, {refused, unsuitable, wall, Answer(kOverwrite, kYes)}, L"store Wall;", L"DRF[W]Gd"},
-        {false, idDelete, {Answer(kDelete, kNo)}, L"", L"DRF[W]Gd"},
-        {true, idDelete, {agree}, L"delete 2;told;", L"DR[F]Gd"},
-        {false, idDelete, {agree}, L"delete 1;told;", L"D[R]Gd"},
-        {false, idDelete, {agree}, L"delete 0;told;", L"[D]Gd"},
-        {false, idDelete, {Answer(kProtected, kYes)}, L"", L"[D]Gd"},
+    // The group judges no name but "Default". Where values have changed nothing shows as current, and yet an entry is.
+    const std::tuple<bool, int, std::vector<Visitor>, const wchar_t*> steps[] = {
+        {true, idSave, {kEscape}, L" DRFW"},
+        {false, idSave, {TypeOver(L"Floor", L"Gate")}, L"store Gate; DRFW[G]"},
+        {true, idSave, {TypeOver(L"Gate", L"default")}, L"store default; DRFWG[d]"},
+        {true, idSave, {wall, Answer(kOverwrite, kNo), kEscape}, L" DRFWGd"},
+        {true, idSave, {refused, unsuitable, wall, Answer(kOverwrite, kYes)}, L"store Wall; DRF[W]Gd"},
+        {false, idDelete, {Answer(kDelete, kNo)}, L" DRF[W]Gd"},
+        {true, idDelete, {agree}, L"delete 2;told; DR[F]Gd"},
+        {false, idDelete, {agree}, L"delete 1;told; D[R]Gd"},
+        {false, idDelete, {agree}, L"delete 0;told; [D]Gd"},
+        {false, idDelete, {Answer(kProtected, kYes)}, L" [D]Gd"},
     };
-    Open({L"Roof", L"Floor", L"Wall"}, 1);
-    for (const Step& step : steps)
+    set.names = {L"Roof", L"Floor", L"Wall"};
+    set.current = 1;
+    Open(&set, &set);
+    for (const auto& [changed, nId, visitors, state] : steps)
     {
-        set.changed = step.changed;
-        dialog->group.Refresh();
-        EXPECT_EQ(Click(step.button, step.visitors), step.calls);
-        EXPECT_EQ(dialog->Rows(), step.rows);
+        set.changed = changed;
+        group->Refresh();
+        EXPECT_EQ(State(nId, visitors), state);
     }
     const owtest::EnglishTexts english;
     for (const wchar_t* text : {L"Default", L"Snimi", kUnsuitable, kOverwrite, kProtected, kDelete})
@@ -218,18 +187,18 @@ TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUser
 
 TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandlerAndNoSet)
 {
-    Open({L"Roof"}, 0, false);
+    set.names = {L"Roof"};
+    Open(&set, nullptr);
     set.names = {L"Roof", L"Floor", L"Wall"};
     set.current = 2;
-    dialog->group.Refresh();
-    EXPECT_EQ(dialog->Rows(), L"DR") << "there is no row for the current entry";
-    EXPECT_EQ(Click(idDelete, {Answer(kDelete, kYes)}), L"delete 2;");
-    EXPECT_EQ(dialog->Rows(), L"DR");
-    EXPECT_EQ(Click(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate;");
-    EXPECT_EQ(dialog->Rows(), L"DRG") << "entry 2 has no row yet";
+    group->Refresh();
+    EXPECT_EQ(State(), L" DR") << "there is no row for the current entry";
+    EXPECT_EQ(State(idDelete, {Answer(kDelete, kYes)}), L"delete 2; DR");
+    EXPECT_EQ(State(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate; DRG") << "entry 2 has no row yet";
 
-    dialog.emplace(nullptr, &set);
-    EXPECT_EQ(Click(idSave, {}) + Click(idDelete, {}), L"");
-    dialog->group.OnExtComboBoxSelChanged(idCombo, 0);
-    EXPECT_EQ(dialog->Rows(), L"[D]");
+    Open(nullptr, &set);
+    EXPECT_EQ(State(idSave), L" [D]");
+    EXPECT_EQ(State(idDelete), L" [D]");
+    group->OnExtComboBoxSelChanged(idCombo, 0);
+    EXPECT_EQ(State(), L"told; [D]");
 }

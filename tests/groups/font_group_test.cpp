@@ -11,23 +11,37 @@ namespace
 constexpr WORD idFont = 101, idHeight = 102, idColor = 103, idCheck1 = 104, idCheck2 = 105, idCheck3 = 106,
                idApply = 107, idElsewhere = 108;
 
-struct FontDialog : GroupDialog, AFontCtrlGroupNotificationHandler
+class FontGroup : public ::testing::Test, public GroupDialog, public AFontCtrlGroupNotificationHandler
 {
-    CFontCtrlGroup group{idFont, idHeight, idColor, idCheck1, idCheck2, idCheck3, idApply, this};
-    epgFont record;
-    std::string calls; ///< the record at each, with "apply" in front for the button
-    std::string Take() { return std::exchange(calls, {}); }
-
-    bool Open()
+protected:
+    void SetUp() override
+    {
+        Reopen();
+        ASSERT_GT(Combo().GetCount(), 3);
+        record = {FontOfRow(1), 0.0035, 30, 1, 0, 1, eFontTrueType};
+        group.SetFontSource(&record);
+    }
+    void Reopen()
     {
         constexpr DWORD kFontStyle = CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | CBS_SORT;
         owtest::DialogTemplate form(L"Font", 200, 130);
         form.Item(L"COMBOBOX", L"", idFont, kFontStyle | WS_TABSTOP, 4, 4, 120, 90);
-        form.Edit(idHeight, 4, 24, 30, 12).Item(L"BUTTON", L"", idColor, WS_TABSTOP, 4, 40, 40, 14);
+        form.Edit(idHeight, 4, 24, 30, 12).Button(L"", idColor, 4, 40, 40, 14);
         for (const WORD id : {idCheck1, idCheck2, idCheck3})
-            form.Item(L"BUTTON", L"", id, BS_AUTOCHECKBOX | WS_TABSTOP, 50 * (id - idCheck1), 58, 40, 10);
-        form.Button(L"Apply", idApply, 4, 100, 40, 16).Edit(idElsewhere, 100, 100, 40, 12);
-        return GroupDialog::Open(form);
+            form.Button(L"", id, 50 * (id - idCheck1), 58, 40, 10, BS_AUTOCHECKBOX);
+        ASSERT_TRUE(Open(form.Button(L"Apply", idApply, 4, 100, 40, 16).Edit(idElsewhere, 100, 100, 40, 12)));
+        EXPECT_EQ(group.OnInitDialog(), 1);
+    }
+    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
+    void OnFontGroupChanged(CFontCtrlGroup* pGroup, epgFont* pFont) override
+    {
+        EXPECT_TRUE(pGroup == &group && pFont == &record);
+        calls += Text(*pFont);
+    }
+    void OnFontGroupButton(CFontCtrlGroup* pGroup, epgFont* pFont) override
+    {
+        calls += "apply ";
+        OnFontGroupChanged(pGroup, pFont);
     }
     CComboBox& Combo() { return static_cast<CComboBox&>((*this)[idFont]); }
     CString FontOfRow(int nRow)
@@ -50,7 +64,16 @@ struct FontDialog : GroupDialog, AFontCtrlGroupNotificationHandler
                        font.nColor, font.nCheck1, font.nCheck2, font.nCheck3, font.eClass);
         return strText.GetString();
     }
-    /// The user chooses a row by keys.
+    /// What was told since the last time, each with its record; then the font, height, boxes and colour's number seen.
+    std::string State()
+    {
+        std::string state = std::exchange(calls, {}) + NameOf(owtest::TextOf(Combo()).c_str()) + ' ' +
+                            Seen({idHeight, idCheck1, idCheck2, idCheck3});
+        for (int id = 11000; id < 11200; ++id)
+            if (GetDlgItem(id) && ::iswdigit(owtest::TextOf((*this)[id])[0]))
+                state += ' ' + Seen({id});
+        return state;
+    }
     void Choose(int nRow)
     {
         Combo().SetCurSel(nRow - 1);
@@ -64,109 +87,68 @@ struct FontDialog : GroupDialog, AFontCtrlGroupNotificationHandler
         ::GetClientRect(hSpin, rect);
         owtest::Click(hSpin, CPoint(rect.Width() / 2, rect.Height() * (bUp ? 1 : 3) / 4));
     }
-    /// Whether the host's dialog opens; the colour is typed into it.
+    /// Types a number into the host's dialog, if it opens. Whether it does.
     bool ChooseColor(const wchar_t* pszNumber)
     {
         const owtest::ModalVisit visit([=](CWnd&) { owtest::Type(pszNumber), owtest::Press(VK_RETURN); });
         Click(idColor);
         return visit.Count() == 1;
     }
-    /// "font height check boxes colour's number"
-    std::string Shown()
-    {
-        std::string shown =
-            NameOf(TextOf(idFont).c_str()) + ' ' + Seen({idHeight, idCheck1, idCheck2, idCheck3});
-        for (int id = 11000; id < 11200; ++id)
-            if (GetDlgItem(id) && ::iswdigit(TextOf(id)[0]))
-                shown += ' ' + Seen({id});
-        return shown;
-    }
 
-    void DoDataExchange(CDataExchange* pDX) override { group.DoDataExchange(pDX); }
-    BOOL OnInitDialog() override { return CDialog::OnInitDialog() && group.OnInitDialog(); }
-    void OnFontGroupChanged(CFontCtrlGroup* pGroup, epgFont* pFont) override
-    {
-        EXPECT_TRUE(pGroup == &group && pFont == &record);
-        calls += Text(*pFont);
-    }
-    void OnFontGroupButton(CFontCtrlGroup* pGroup, epgFont* pFont) override
-    {
-        calls += "apply ";
-        OnFontGroupChanged(pGroup, pFont);
-    }
-};
-
-struct FontList : CFontSelectionComboBox
-{
-    using CFontSelectionComboBox::s_hIconSHX;
-};
-
-class FontGroup : public ::testing::Test
-{
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(dialog.Open());
-        ASSERT_GT(dialog.Combo().GetCount(), 3);
-        record = {dialog.FontOfRow(1), 0.0035, 30, 1, 0, 1, eFontTrueType};
-        group.SetFontSource(&record);
-    }
-    FontDialog dialog;
-    CFontCtrlGroup& group = dialog.group;
-    epgFont& record = dialog.record;
+    CFontCtrlGroup group{idFont, idHeight, idColor, idCheck1, idCheck2, idCheck3, idApply, this};
+    epgFont record;
+    std::string calls;
 };
 } // namespace
 
 // Only another class touches the check boxes, and nothing but the user their fields.
 TEST_F(FontGroup, StoresEachChangeOfTheUserAndThenTellsIt)
 {
-    struct Step
-    {
-        std::function<void()> change;
-        const char *told, *shown;
-    };
     const auto otherClass = [&] { group.OnFontSelected(idFont, L"romans", eFontSHX); };
-    const Step steps[] = {
-        {[&] { dialog.Choose(2); }, "F2 3.50 30 101 0; ", "F2 3.5 1 0 - 30"},
-        {[&] { dialog.TypeInto(idHeight, L"7"); }, "", "F2 7 1 0 - 30"},
-        {[&] { dialog.Click(idElsewhere); }, "F2 7.00 30 101 0; ", "F2 7.0 1 0 - 30"}, // the edit is left
-        {[&] { dialog.PressSpin(); }, "F2 7.50 30 101 0; ", "F2 7.5 1 0 - 30"},        // at once
-        {[&] { dialog.PressSpin(false); }, "F2 7.00 30 101 0; ", "F2 7.0 1 0 - 30"},
-        {[&] { dialog.Click(idElsewhere); }, "F2 7.00 30 101 0; ", "F2 7.0 1 0 - 30"}, // changed or not
-        {[&] { dialog.ChooseColor(L"142"); }, "F2 7.00 142 101 0; ", "F2 7.0 1 0 - 142"},
-        {[&] { dialog.Click(idCheck1); }, "F2 7.00 142 001 0; ", "F2 7.0 0 0 - 142"},
-        {[&] { dialog.Press(idCheck2, VK_SPACE); }, "F2 7.00 142 011 0; ", "F2 7.0 0 1 - 142"},
-        {[&] { group.OnButtonClicked(idCheck3); }, "F2 7.00 142 011 0; ", "F2 7.0 0 1 - 142"},
-        {[&] { dialog.Click(idApply); }, "apply F2 7.00 142 011 0; ", "F2 7.0 0 1 - 142"},
-        {otherClass, "romans 7.00 142 011 1; ", "F2 7.0 0- 0- - 142"},
-        {[&] { group.OnButtonClicked(idCheck3); }, "romans 7.00 142 010 1; ", "F2 7.0 0- 0- - 142"},
-        {[&] { dialog.Click(idCheck1); }, "", "F2 7.0 0- 0- - 142"},
-        {[&] { dialog.Choose(3); }, "F3 7.00 142 010 0; ", "F3 7.0 0 0 - 142"}, // clear all the same
-        {[&] { dialog.Click(idCheck1); }, "F3 7.00 142 110 0; ", "F3 7.0 1 0 - 142"},
-        {[&] { dialog[idCheck1].EnableWindow(FALSE); }, "", "F3 7.0 1- 0 - 142"}, // by the dialog itself
-        {otherClass, "romans 7.00 142 110 1; ", "F3 7.0 1- 0 - 142"},
-        {[&] { group.OnFontSelected(idElsewhere, L"x", eFontSHX); }, "", "F3 7.0 1- 0 - 142"},
-        {[&] { group.OnEditNKillFocus(idElsewhere); }, "", "F3 7.0 1- 0 - 142"},
-        {[&] { group.OnAcadColorChosen(idElsewhere, 1); }, "", "F3 7.0 1- 0 - 142"},
-        {[&] { group.OnButtonClicked(idElsewhere); }, "", "F3 7.0 1- 0 - 142"},
+    const std::pair<std::function<void()>, const char*> steps[] = {
+        {[&] { Choose(2); }, "F2 3.50 30 101 0; F2 3.5 1 0 - 30"},
+        {[&] { TypeInto(idHeight, L"7"); }, "F2 7 1 0 - 30"},
+        {[&] { Click(idElsewhere); }, "F2 7.00 30 101 0; F2 7.0 1 0 - 30"}, // the edit is left
+        {[&] { PressSpin(); }, "F2 7.50 30 101 0; F2 7.5 1 0 - 30"},        // at once
+        {[&] { PressSpin(false); }, "F2 7.00 30 101 0; F2 7.0 1 0 - 30"},
+        {[&] { Click(idElsewhere); }, "F2 7.00 30 101 0; F2 7.0 1 0 - 30"}, // changed or not
+        {[&] { ChooseColor(L"142"); }, "F2 7.00 142 101 0; F2 7.0 1 0 - 142"},
+        {[&] { Click(idCheck1); }, "F2 7.00 142 001 0; F2 7.0 0 0 - 142"},
+        {[&] { Press(idCheck2, VK_SPACE); }, "F2 7.00 142 011 0; F2 7.0 0 1 - 142"},
+        {[&] { group.OnButtonClicked(idCheck3); }, "F2 7.00 142 011 0; F2 7.0 0 1 - 142"},
+        {[&] { Click(idApply); }, "apply F2 7.00 142 011 0; F2 7.0 0 1 - 142"},
+        {otherClass, "romans 7.00 142 011 1; F2 7.0 0- 0- - 142"},
+        {[&] { group.OnButtonClicked(idCheck3); }, "romans 7.00 142 010 1; F2 7.0 0- 0- - 142"},
+        {[&] { Click(idCheck1); }, "F2 7.0 0- 0- - 142"},
+        {[&] { Choose(3); }, "F3 7.00 142 010 0; F3 7.0 0 0 - 142"}, // clear all the same
+        {[&] { Click(idCheck1); }, "F3 7.00 142 110 0; F3 7.0 1 0 - 142"},
+        {[&] { (*this)[idCheck1].EnableWindow(FALSE); }, "F3 7.0 1- 0 - 142"}, // by the dialog itself
+        {otherClass, "romans 7.00 142 110 1; F3 7.0 1- 0 - 142"},
+        {[&] { group.OnFontSelected(idElsewhere, L"x", eFontSHX); }, "F3 7.0 1- 0 - 142"},
+        {[&] { group.OnEditNKillFocus(idElsewhere); }, "F3 7.0 1- 0 - 142"},
+        {[&] { group.OnAcadColorChosen(idElsewhere, 1); }, "F3 7.0 1- 0 - 142"},
+        {[&] { group.OnButtonClicked(idElsewhere); }, "F3 7.0 1- 0 - 142"},
     };
-    for (const Step& step : steps)
+    for (const auto& [change, state] : steps)
     {
-        step.change();
-        EXPECT_EQ(dialog.Take(), step.told) << &step - steps;
-        EXPECT_EQ(dialog.Shown(), step.shown) << &step - steps;
+        change();
+        EXPECT_EQ(State(), state);
     }
-    EXPECT_EQ(dialog.Text(record), "romans 7.00 142 110 1; ");
-    EXPECT_TRUE(dialog.TextOf(idApply) == L"" && dialog.ShowsPicture(idApply)) << "its icon";
+    EXPECT_EQ(Text(record), "romans 7.00 142 110 1; ");
+    EXPECT_TRUE(owtest::TextOf((*this)[idApply]).empty() && ShowsPicture(idApply)) << "its icon";
+    struct FontList : CFontSelectionComboBox
+    {
+        using CFontSelectionComboBox::s_hIconSHX;
+    };
     EXPECT_TRUE(FontList::s_hIconSHX) << "those of the list are loaded";
 }
 
 TEST_F(FontGroup, ShowsARecordAndTellsNobody)
 {
-    EXPECT_EQ(dialog.Shown(), "F1 3.5 1 0 - 30") << "the third never shows";
-    EXPECT_EQ(dialog.IsDlgButtonChecked(idCheck3), 1u) << "but follows its field";
-    const CString strLarge = dialog.FontOfRow(2).MakeUpper();
-    const std::tuple<epgFont, const char*> records[] = {
+    EXPECT_EQ(State(), "F1 3.5 1 0 - 30") << "the third never shows";
+    EXPECT_EQ(IsDlgButtonChecked(idCheck3), 1u) << "but follows its field";
+    const CString strLarge = FontOfRow(2).MakeUpper();
+    const std::pair<epgFont, const char*> records[] = {
         {{L"No such font", 0.0125, 7, 0, -1, 1, eFontTrueType}, "F1 12.5 0 1 - 7"}, // the selection stays
         {{strLarge, 0.0004, 7, 1, 1, 1, eFontTrueType}, "F2 1.0 1 1 - 7"},
         {{strLarge, 0.3, 7, 1, 1, 1, eFontSHX}, "F2 20.0 0- 0- - 7"},
@@ -175,48 +157,44 @@ TEST_F(FontGroup, ShowsARecordAndTellsNobody)
     {
         epgFont font = record;
         group.SetFontSource(&font);
-        EXPECT_EQ(dialog.Shown(), shown);
-        EXPECT_EQ(dialog.Text(font), dialog.Text(record)) << "not written";
-        EXPECT_EQ(dialog.IsDlgButtonChecked(idCheck3) == 1, font.nCheck3 && font.eClass == eFontTrueType);
+        EXPECT_EQ(State(), shown);
+        EXPECT_EQ(Text(font), Text(record)) << "not written";
+        EXPECT_EQ(IsDlgButtonChecked(idCheck3) == 1, font.nCheck3 && font.eClass == eFontTrueType);
     }
-    EXPECT_EQ(dialog.Take(), "");
 }
 
 TEST_F(FontGroup, WithoutARecordStoresNothingAndCallsNobody)
 {
     group.SetFontSource(nullptr);
-    EXPECT_EQ(dialog.Shown(), "F1 3.5 1 0 - 30");
-    dialog.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    EXPECT_FALSE(dialog.ChooseColor(L"9")) << "the button opens nothing";
-    dialog.Choose(2);
-    dialog.TypeInto(idHeight, L"7");
-    dialog.PressSpin();
+    EXPECT_EQ(State(), "F1 3.5 1 0 - 30");
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    EXPECT_FALSE(ChooseColor(L"9")) << "the button opens nothing";
+    Choose(2);
+    TypeInto(idHeight, L"7");
+    PressSpin();
     for (const int id : {idCheck1, idCheck2, idApply})
-        dialog.Click(id);
+        Click(id);
     group.OnAcadColorChosen(idColor, 9);
-    EXPECT_EQ(dialog.Text(record), "F1 3.50 30 101 0; ");
-    EXPECT_EQ(dialog.Take(), "");
-    EXPECT_EQ(dialog.Shown(), "F2 7.5 0 1 - 30") << "the controls work";
+    EXPECT_EQ(Text(record), "F1 3.50 30 101 0; ");
+    EXPECT_EQ(State(), "F2 7.5 0 1 - 30") << "the controls work";
 }
 
-TEST_F(FontGroup, ComesBackWithTheNextWindow)
+TEST_F(FontGroup, ComesBackWithTheNextWindowAndNeedsItsControlsAndNoHandler)
 {
     record.dHeight = 0.00354;
-    dialog.DestroyWindow();
+    DestroyWindow();
     group.SetFontSource(&record); // before there are controls
     group.OnFontSelected(idFont, record.strName, eFontTrueType);
-    ASSERT_TRUE(dialog.Open());
-    EXPECT_EQ(dialog.Shown(), "F1 3.5 1 0 - 30");
-    dialog.PressSpin();
-    EXPECT_EQ(dialog.Text(record), "F1 4.00 30 101 0; ");
+    Reopen();
+    calls.clear();
+    EXPECT_EQ(State(), "F1 3.5 1 0 - 30");
+    PressSpin();
+    EXPECT_EQ(Text(record), "F1 4.00 30 101 0; ");
     group.SetFontSource(nullptr);
-    ASSERT_TRUE(dialog.Open());
-    EXPECT_EQ(dialog.Seen({idCheck1, idCheck2, idCheck3}), "1 0 -") << "without a record, too";
-}
+    Reopen();
+    EXPECT_EQ(Seen({idCheck1, idCheck2, idCheck3}), "1 0 -") << "without a record, too";
 
-TEST_F(FontGroup, NeedsItsControlsAndNoHandler)
-{
-    CDataExchange exchange(&dialog, FALSE);
+    CDataExchange exchange(this, FALSE);
     CFontCtrlGroup lost(idElsewhere, 999, 999, 999, 999, 999, 999, nullptr);
     EXPECT_THROW(lost.DoDataExchange(&exchange), CNotSupportedException*);
     lost.SetFontSource(&record);
