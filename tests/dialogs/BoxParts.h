@@ -3,13 +3,18 @@
 
 #include <DialogControlsOW.h>
 
+#include "EnglishTexts.h"
+#include "Handles.h"
 #include "ModalVisit.h"
 #include "OtherText.h"
 #include "Picture.h"
 
+#include <acdocman.h>
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
@@ -23,6 +28,16 @@ inline const Visitor PressEnter = [](CWnd&) { owtest::Press(VK_RETURN); };
 inline Visitor ClickOn(int id)
 {
     return [id](CWnd& box) { owtest::Click(*box.GetDlgItem(id)); };
+}
+
+/// Texts of a dialog and of those of the controls that are shown, with bars between.
+inline std::wstring TextsOf(CWnd& dialog, std::initializer_list<int> ids)
+{
+    std::wstring texts = TextOf(dialog);
+    for (const int id : ids)
+        if (dialog.GetDlgItem(id)->IsWindowVisible())
+            texts += L'|' + TextOf(*dialog.GetDlgItem(id));
+    return texts;
 }
 
 /// Where a control stands in its dialog's client area.

@@ -2,7 +2,6 @@
 
 #include "BoxParts.h"
 
-#include "EnglishTexts.h"
 #include "FatalReport.h"
 #include "ImportStandIn.h"
 
@@ -11,9 +10,9 @@
 namespace
 {
 const wchar_t* const kOneLine = L"Short message";
-const wchar_t* const kPangram = L"Dva stuba i tri grede u osi C nisu povezana sa temeljnom gredom. ";
+const CString kPangram = L"Dva stuba i tri grede u osi C nisu povezana sa temeljnom gredom. ";
 
-CString Repeat(const wchar_t* text, int count)
+CString Repeat(const CString& text, int count)
 {
     CString repeated;
     while (count-- > 0)
@@ -24,16 +23,6 @@ CString Repeat(const wchar_t* text, int count)
 CEdit& MessageOf(CWnd& box)
 {
     return *static_cast<CEdit*>(box.GetDlgItem(kMessage));
-}
-
-/// Caption, text and the captions of the buttons that are shown, with bars between.
-std::wstring TextsOf(CWnd& box)
-{
-    std::wstring texts = TextOf(box) + L'|' + TextOf(MessageOf(box));
-    for (int id : {kFirst, kSecond, kThird, kFourth})
-        if (box.GetDlgItem(id)->IsWindowVisible())
-            texts += L'|' + TextOf(*box.GetDlgItem(id));
-    return texts;
 }
 
 CSize ClientSize(CWnd& box)
@@ -52,7 +41,7 @@ Outcome Visit(const std::function<int()>& open, const Visitor& visitor)
     owtest::ModalVisit visit(
         [&](CWnd& box)
         {
-            texts = TextsOf(box);
+            texts = TextsOf(box, {kMessage, kFirst, kSecond, kThird, kFourth});
             visitor(box);
             if (box.IsWindowVisible())
                 texts += L" - still open";
@@ -62,61 +51,47 @@ Outcome Visit(const std::function<int()>& open, const Visitor& visitor)
     return {answer, texts};
 }
 
-Outcome Show(unsigned int type, const Visitor& visitor, const wchar_t* text = L"Text")
+Outcome Show(unsigned int type, const Visitor& visitor, const CString& text = L"Text")
 {
     return Visit([=] { return COstrelMessageBox::MessageBox(text, L"Caption", type); }, visitor);
 }
 
-Outcome ShowFree(std::initializer_list<CString> texts, const Visitor& visitor)
+Outcome ShowFree(std::array<CString, 4> b, const Visitor& visitor)
 {
-    const CString* b = texts.begin();
-    const auto open = [=]
-    { return COstrelMessageBox::MessageBox(L"Greska", L"Snimi", 0, b[0], b[1], b[2], b[3]); };
-    return Visit(open, visitor);
+    return Visit([=]
+                 { return COstrelMessageBox::MessageBox(L"Greska", L"Snimi", 0, b[0], b[1], b[2], b[3]); },
+                 visitor);
 }
 } // namespace
 
 TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
 {
-    const Visitor close = [](CWnd& box)
-    {
-        box.SendMessage(WM_SYSCOMMAND, SC_CLOSE);
-        owtest::Pump();
+    const std::tuple<unsigned int, Visitor, Outcome> cases[] = {
+        {MB_OK, PressEnter, {IDOK, L"OK"}},
+        {MB_OK, PressEscape, {IDOK, L"OK"}}, // there is no other answer
+        {MB_OKCANCEL, PressEnter, {IDOK, L"OK|Cancel"}},
+        {MB_OKCANCEL, PressEscape, {IDCANCEL, L"OK|Cancel"}},
+        {MB_YESNO, PressEnter, {IDYES, L"Yes|No"}},
+        {MB_YESNO, ClickOn(kSecond), {IDNO, L"Yes|No"}},
+        {MB_YESNO, PressEscape, {IDNO, L"Yes|No"}},
+        {MB_YESNOCANCEL, ClickOn(kFirst), {IDYES, L"Yes|No|Cancel"}},
+        {MB_YESNOCANCEL, ClickOn(kSecond), {IDNO, L"Yes|No|Cancel"}},
+        {MB_YESNOCANCEL, ClickOn(kThird), {IDCANCEL, L"Yes|No|Cancel"}},
+        {MB_YESNOCANCEL, PressEscape, {IDCANCEL, L"Yes|No|Cancel"}},
+        {MB_ABORTRETRYIGNORE, PressEscape, {IDOK, L"OK"}}, // buttons that it does not have: OK alone
     };
-    const Visitor tabAndEnter = [](CWnd&)
-    {
-        owtest::Press(VK_TAB);
-        owtest::Press(VK_RETURN); // presses what has the focus
-    };
-    const std::wstring ok = L"|OK", okCancel = L"|OK|Cancel", yesNo = L"|Yes|No",
-                       yesNoCancel = L"|Yes|No|Cancel";
-    const std::tuple<unsigned int, std::wstring, Visitor, int> cases[] = {
-        {MB_OK, ok, PressEnter, IDOK},
-        {MB_OK, ok, PressEscape, IDOK}, // there is no other answer
-        {MB_OKCANCEL, okCancel, PressEnter, IDOK},
-        {MB_OKCANCEL, okCancel, PressEscape, IDCANCEL},
-        {MB_OKCANCEL, okCancel, ClickOn(kSecond), IDCANCEL},
-        {MB_YESNO, yesNo, PressEnter, IDYES},
-        {MB_YESNO, yesNo, close, IDNO},
-        {MB_YESNO, yesNo, ClickOn(kSecond), IDNO},
-        {MB_YESNOCANCEL, yesNoCancel, ClickOn(kFirst), IDYES},
-        {MB_YESNOCANCEL, yesNoCancel, tabAndEnter, IDNO},
-        {MB_YESNOCANCEL, yesNoCancel, ClickOn(kThird), IDCANCEL},
-        {MB_YESNOCANCEL, yesNoCancel, PressEscape, IDCANCEL},
-        {MB_ABORTRETRYIGNORE, ok, PressEscape, IDOK}, // buttons that it does not have: OK alone
-    };
-    for (const auto& [type, buttons, visitor, answer] : cases)
-        EXPECT_EQ(Show(type, visitor), Outcome(answer, L"Caption|Text" + buttons)) << type;
+    for (const auto& [type, visitor, outcome] : cases)
+        EXPECT_EQ(Show(type, visitor), Outcome(outcome.first, L"Caption|Text|" + outcome.second)) << type;
 
-    EXPECT_EQ(ShowFree({L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kThird)),
-              Outcome(3, L"Snimi|Greska|Zameni|Sve|Ne|Cancel"));
-    EXPECT_EQ(ShowFree({L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kFourth)).first, 4);
-    EXPECT_EQ(ShowFree({L"A", L"B", L"", L""}, PressEscape).first, 2) << "the last one";
-    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEnter), Outcome(1, L"Snimi|Greska|OK"));
-    EXPECT_EQ(ShowFree({L"", L"", L"", L""}, PressEscape).first, 0) << "no button has a text";
-    EXPECT_EQ(ShowFree({L"", L"", L"C", L""}, PressEscape), Outcome(3, L"Snimi|Greska|OK||C"))
-        << "a blank one";
-
+    const std::tuple<std::array<CString, 4>, Visitor, Outcome> own[] = {
+        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kThird), {3, L"Zameni|Sve|Ne|Cancel"}},
+        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kFourth), {4, L"Zameni|Sve|Ne|Cancel"}},
+        {{L"A", L"B", L"", L""}, PressEscape, {2, L"A|B"}}, // the last one
+        {{L"", L"", L"", L""}, PressEnter, {1, L"OK"}},
+        {{L"", L"", L"", L""}, PressEscape, {0, L"OK"}}, // no button has a text
+        {{L"", L"", L"C", L""}, PressEscape, {3, L"OK||C"}}};
+    for (const auto& [texts, visitor, outcome] : own)
+        EXPECT_EQ(ShowFree(texts, visitor), Outcome(outcome.first, L"Snimi|Greska|" + outcome.second));
     const owtest::EnglishTexts english;
     EXPECT_EQ(ShowFree({L"Ucitaj", L"Cancel", L"", L""}, PressEnter), Outcome(1, L"Save|Error|Load|Cancel"));
 }
@@ -125,25 +100,23 @@ TEST(OstrelMessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
 {
     const auto look = [](CWnd& box)
     {
-        for (const int id : {kFirst, kThird})
-            EXPECT_GT(CountColoured(box, id), 10) << id;
-        for (const int id : {kSecond, kFourth})
-            EXPECT_EQ(CountColoured(box, id), 0) << id;
+        for (const int id : {kFirst, kSecond, kThird, kFourth})
+            EXPECT_EQ(CountColoured(box, id) > 10, id == kFirst || id == kThird) << id;
         EXPECT_EQ(::SendMessage(box, WM_GETICON, ICON_SMALL, 0),
                   reinterpret_cast<LRESULT>(CButtonST::hIconBlueOn));
-        const auto hasFocus = [&](int id)
-        { return owtest::PumpUntil([&, id] { return ::GetFocus() == box.GetDlgItem(id)->m_hWnd; }); };
-        EXPECT_TRUE(hasFocus(kFirst));
+        const auto expectFocus = [&](int id)
+        { EXPECT_TRUE(owtest::PumpUntil([&, id] { return ::GetFocus() == box.GetDlgItem(id)->m_hWnd; })); };
+        expectFocus(kFirst);
         owtest::Press(VK_TAB);
-        EXPECT_TRUE(hasFocus(kSecond));
-        owtest::Click(MessageOf(box));
-        EXPECT_TRUE(hasFocus(kFirst)) << "a click on the text gives it back";
+        expectFocus(kSecond);
+        owtest::Click(MessageOf(box)); // gives it back
+        expectFocus(kFirst);
     };
     ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"}, look);
 }
 
 /// Whether the text has the least width with the fewest lines, and all else stands around it.
-static void ExpectArranged(CWnd& box, int left)
+static void ExpectArranged(CWnd& box, int left, int buttons)
 {
     constexpr int kMargin = 12, kGap = 8;
     const CRect place = PlaceOf(box, kMessage), button = PlaceOf(box, kFirst);
@@ -152,30 +125,25 @@ static void ExpectArranged(CWnd& box, int left)
         MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
         return MessageOf(box).GetLineCount();
     };
-    const int fewest = linesAt(500);
+    const int fewest = linesAt(500), row = buttons * (button.Width() + kGap) - kGap;
     int least = fewest == 1 ? 200 : 205;
     while (linesAt(least) != fewest)
         least += 5;
-    const auto shown = [&](int id) { return box.GetDlgItem(id)->IsWindowVisible(); };
-    const int row = (shown(kSecond) ? shown(kThird) ? 3 : 2 : 1) * (button.Width() + kGap) - kGap;
     EXPECT_EQ(place, CRect(CPoint(left, kMargin), CSize(std::max(least, row), std::max(39, 13 * fewest))));
     EXPECT_EQ(ClientSize(box),
               CSize(place.right, place.bottom + kMargin + button.Height()) + CSize(kMargin, kMargin));
-    CPoint at(ClientSize(box).cx / 2 - row / 2, place.bottom + kMargin);
-    for (const int id : {kFirst, kSecond, kThird})
-    {
-        EXPECT_TRUE(!shown(id) || PlaceOf(box, id).TopLeft() == at) << id;
-        at.x += button.Width() + kGap;
-    }
+    const CPoint first(ClientSize(box).cx / 2 - row / 2, place.bottom + kMargin);
+    for (int i = 0; i < buttons; ++i)
+        EXPECT_EQ(PlaceOf(box, i ? kSecond + i - 1 : kFirst).TopLeft(),
+                  first + CSize(i * (button.Width() + kGap), 0));
 }
 
 TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
 {
-    for (const CString& text :
-         {CString(kOneLine), CString(kPangram), Repeat(kPangram, 8), CString(L"One\r\nTwo")})
-        for (const unsigned int type : {MB_OK, MB_YESNO, MB_YESNOCANCEL})
+    for (const CString& text : {CString(kOneLine), kPangram, Repeat(kPangram, 8), CString(L"One\r\nTwo")})
+        for (const auto& [type, buttons] : {std::pair{MB_OK, 1}, {MB_YESNO, 2}, {MB_YESNOCANCEL, 3}})
             Show(
-                type, [](CWnd& box) { ExpectArranged(box, 12); }, text);
+                type, [buttons = buttons](CWnd& box) { ExpectArranged(box, 12, buttons); }, text);
 
     const std::pair<unsigned int, HICON> icons[] = {{MB_ICONERROR, CButtonST::hIconError},
                                                     {MB_ICONQUESTION, CButtonST::hIconQuestion},
@@ -188,10 +156,9 @@ TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
         const auto withIcon = [&](CWnd& box)
         {
             CClientDC dc(&box);
-            const auto drawn = [&]
-            { return seen.dc().BitBlt(0, 0, 32, 32, &dc, 12, 12, SRCCOPY) && seen == expected; };
-            EXPECT_TRUE(owtest::PumpUntil(drawn));
-            ExpectArranged(box, 56);
+            EXPECT_TRUE(owtest::PumpUntil(
+                [&] { return seen.dc().BitBlt(0, 0, 32, 32, &dc, 12, 12, SRCCOPY) && seen == expected; }));
+            ExpectArranged(box, 56, 1);
         };
         Show(MB_OK | type, withIcon, kOneLine);
     }
@@ -209,8 +176,7 @@ TEST(MessageBoxSize, StaysOnTheScreenWithATextThatIsTooLongForIt)
         EXPECT_EQ(PlaceOf(box, kSecond).bottom, ClientSize(box).cy - 12);
 
         CEdit& message = MessageOf(box);
-        EXPECT_EQ(TextOf(message), text.GetString());
-        EXPECT_NE(message.GetStyle() & WS_VSCROLL, 0u);
+        EXPECT_TRUE(TextOf(message) == text.GetString() && message.GetStyle() & WS_VSCROLL);
         EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
         EXPECT_EQ(message.GetFirstVisibleLine(), 0);
         owtest::Press(VK_NEXT);
@@ -248,31 +214,25 @@ TEST(MessageBoxSize, FollowsTheScreensResolution)
     EXPECT_EQ(layout(1, 1.0, 200, 39).MaxLines(50), 3) << "the least text stays, whatever the screen";
 }
 
-static std::wstring s_box; ///< by the stand-in for the system's
-
-static int WINAPI NoteBox(HWND, LPCWSTR pszText, LPCWSTR pszCaption, UINT nType)
-{
-    EXPECT_EQ(nType, UINT{MB_ICONERROR | MB_TASKMODAL});
-    s_box = std::wstring(pszCaption) + L'|' + (pszText ? pszText : L"");
-    return IDOK;
-}
-
 TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
 {
-    const auto boxP = [] { return COstrelMessageBox::ErrorBoxP(12); };
     const auto boxL = [] { return COstrelMessageBox::ErrorBoxL(12); };
-    EXPECT_EQ(Visit(boxP, PressEscape), Outcome(0, L"Greska|Provera zastite programa nije uspela (12).|OK"));
+    EXPECT_EQ(Visit([] { return COstrelMessageBox::ErrorBoxP(12); }, PressEscape),
+              Outcome(0, L"Greska|Provera zastite programa nije uspela (12).|OK"));
     EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Greska|Provera licence programa nije uspela (12).|OK"));
     {
         const owtest::EnglishTexts english;
         EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Error|The licence check failed (12).|OK"));
     }
-    const owtest::ImportStandIn noBox(L"DialogControlsOW.dll", "MessageBoxW", &NoteBox);
-    const auto systems = [](unsigned long error)
+    static std::wstring s_box;
+    const auto noteBox = [](HWND, LPCWSTR pszText, LPCWSTR pszCaption, UINT nType) -> int
     {
-        EXPECT_EQ(COstrelMessageBox::ErrorBox(error), 0);
-        return s_box;
+        EXPECT_EQ(nType, UINT{MB_ICONERROR | MB_TASKMODAL});
+        s_box = std::wstring(pszCaption) + L'|' + (pszText ? pszText : L"");
+        return IDOK;
     };
+    const owtest::ImportStandIn noBox(L"DialogControlsOW.dll", "MessageBoxW", +noteBox);
+    const auto systems = [](unsigned long error) { return COstrelMessageBox::ErrorBox(error) ? L"" : s_box; };
     EXPECT_EQ(systems(ERROR_FILE_NOT_FOUND).substr(0, 7), L"Greska|");
     EXPECT_NE(systems(ERROR_FILE_NOT_FOUND), systems(ERROR_ACCESS_DENIED));
     EXPECT_EQ(systems(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
@@ -280,15 +240,15 @@ TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
 
 TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
 {
-    auto owner = std::make_unique<OwnerWindow>();
-    COstrelMessageBox box(owner.get());
+    OwnerWindow owner;
+    COstrelMessageBox box(&owner);
     box.SetButtonText(3, L"Treci");
     EXPECT_EQ(box.DoModal(), 0) << "opens nothing without a text";
     box.Set(kOneLine, L"Caption");
     box.SetButtonText(2, L"Drugi");
     const auto show = [&] { return box.DoModal(); };
     EXPECT_EQ(Visit(show, ClickOn(kThird)), Outcome(3, L"Caption|Short message|OK|Drugi|Treci"));
-    owner->DestroyWindow();
+    owner.DestroyWindow();
     EXPECT_EQ(Visit(show, PressEscape).first, 0) << "whatever was pressed the last time";
 }
 
@@ -301,8 +261,8 @@ static void PressHidden(unsigned int type, int button)
 static const std::pair<std::function<void()>, const wchar_t*> kMisuses[] = {
     {[] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
     {[] { COstrelMessageBox(nullptr).SetButtonText(5, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
-    {[] { COstrelMessageBox::MessageBox(kOneLine, L"", MB_OK | 0x50); }, L"194]\nNedozvoljena vrednost."},
-    {[] { COstrelMessageBox::MessageBox(kOneLine, L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); },
+    {[] { COstrelMessageBox::MessageBox(L"", L"", MB_OK | 0x50); }, L"194]\nNedozvoljena vrednost."},
+    {[] { COstrelMessageBox::MessageBox(L"", L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); },
      L"194]\nNedozvoljena vrednost."},
     {[] { PressHidden(MB_OKCANCEL, kThird); }, L"324]\nNedozvoljena vrednost."},
     {[] { PressHidden(MB_YESNO, kThird); }, L"330]\nNedozvoljena vrednost."},

@@ -1,0 +1,286 @@
+// The dialogs that ask for a name or a file, through the functions that open them; and what all dialogs that wait for
+// an answer have in common: over which window they stand, whose resources they use, that they give everything back.
+
+#include "BoxParts.h"
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+namespace
+{
+// Controls of the name dialogs, and of the system's file dialog
+constexpr int kEdit = 10000, kCombo = 10001;
+constexpr int kFileName = 1148, kFileTypeLabel = 1089, kFileNameLabel = 1090, kFolderLabel = 1091;
+
+using Outcome = std::pair<int, std::wstring>; ///< answer, and name or path
+
+int StartEdit(CString& name, const CString& caption, CWnd* = nullptr)
+{
+    return gfnStartNazivDlg(name, caption);
+}
+
+int StartCombo(CString& name, const CString& caption, CWnd* parent = nullptr)
+{
+    CStringArray names;
+    for (const wchar_t* layer : {L"Walls", L"Axes", L"Columns"})
+        names.Add(layer);
+    return gfnStartNazivComboDlg(name, names, caption, parent);
+}
+
+int StartBox(CString&, const CString&, CWnd*)
+{
+    return COstrelMessageBox::MessageBox(L"", L"", MB_YESNOCANCEL | MB_ICONERROR);
+}
+
+int StartFile(CString& path, const CString&, CWnd* parent)
+{
+    const HWND window = parent ? parent->m_hWnd : reinterpret_cast<HWND>(0x12340);
+    return gfnStartTranslatedFileDialog(path, TRUE, L"", nullptr, 0, nullptr, window, nullptr);
+}
+
+/// One of the two name dialogs; what both do is tested with both.
+struct Kind
+{
+    int box;
+    int (*start)(CString& name, const CString& caption, CWnd* parent);
+    std::wstring caption, english;
+};
+
+class NameDialog : public testing::TestWithParam<Kind>
+{
+protected:
+    static Outcome Ask(const std::wstring& start, const Visitor& visitor, const CString& caption = L"")
+    {
+        owtest::ModalVisit visit(visitor);
+        CString name(start.c_str());
+        const int result = GetParam().start(name, caption, nullptr);
+        EXPECT_EQ(visit.Count(), 1);
+        return {result, name.GetString()};
+    }
+    static Visitor Typing(const std::wstring& text, const Visitor& then)
+    {
+        return [=](CWnd& dialog)
+        {
+            CWnd& box = *dialog.GetDlgItem(GetParam().box);
+            EXPECT_TRUE(::GetFocus() == box || box.IsChild(CWnd::GetFocus()));
+            owtest::Type(text);
+            then(dialog);
+        };
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Both, NameDialog,
+                         testing::Values(Kind{kEdit, &StartEdit, L"Naziv", L"Name"},
+                                         Kind{kCombo, &StartCombo, L"Snimi", L"Save"}));
+} // namespace
+
+TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
+{
+    const std::wstring wide(60, L'W'), longer(40000, L'l'); // than the box, and than its limit
+    const Visitor paste = [&](CWnd& dialog)
+    {
+        ::SendMessage(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(longer.c_str()));
+        PressEnter(dialog);
+    };
+    const std::tuple<std::wstring, Visitor, Outcome> cases[] = {
+        {L"Roof", PressEnter, {IDOK, L"Roof"}},
+        {L"", Typing(L"Floor 2", PressEnter), {IDOK, L"Floor 2"}}, // not in the list
+        {L"Roof", Typing(L"Floor", ClickOn(IDOK)), {IDOK, L"Floor"}},
+        {L"Roof", Typing(L"Floor", PressEscape), {IDCANCEL, L"Roof"}},
+        {L"Roof", Typing(L"Floor", ClickOn(IDCANCEL)), {IDCANCEL, L"Roof"}},
+        {L"Roof", Typing(L" \b", PressEnter), {IDOK, L""}}, // an empty name is a name
+        {L"", Typing(wide, PressEnter), {IDOK, wide}},
+        {longer, PressEnter, {IDOK, longer}},
+        {L"Roof", paste, {IDOK, longer}}};
+    for (const auto& [start, visitor, outcome] : cases)
+        EXPECT_EQ(Ask(start, visitor), outcome) << &outcome - &std::get<2>(cases[0]);
+}
+
+TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
+{
+    const auto textsOf = [](const std::wstring& name, const CString& caption)
+    {
+        std::wstring seen;
+        Ask(
+            name,
+            [&](CWnd& dialog) {
+                seen = TextsOf(dialog, {GetParam().box, IDCANCEL});
+            },
+            caption);
+        return seen;
+    };
+    EXPECT_EQ(textsOf(L"Naziv", L""), GetParam().caption + L"|Naziv|Cancel");
+    {
+        const owtest::EnglishTexts english;
+        EXPECT_EQ(textsOf(L"Naziv", L""), GetParam().english + L"|Naziv|Cancel");
+        EXPECT_EQ(textsOf(L"", L"Ucitaj"), L"Ucitaj||Cancel");
+    }
+    const owtest::OtherText other("Cancel", "Odustani");
+    EXPECT_EQ(textsOf(L"", L""), GetParam().caption + L"||Odustani");
+    const auto icons = [](CWnd& dialog)
+    { EXPECT_TRUE(CountColoured(dialog, IDOK) > 10 && CountColoured(dialog, IDCANCEL) > 10); };
+    Ask(L"", icons);
+}
+
+TEST(NameComboDialog, ListsTheNamesAsGiven)
+{
+    const auto look = [&](CWnd& dialog)
+    {
+        auto& combo = static_cast<CComboBox&>(*dialog.GetDlgItem(kCombo));
+        EXPECT_TRUE(PlaceOf(dialog, kCombo).left > 0 && PlaceOf(dialog, kCombo).Width() > 100);
+        EXPECT_TRUE(combo.GetCount() == 3 && combo.FindStringExact(-1, L"Walls") == 0);
+        EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";
+        for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
+            owtest::Press(key);
+    };
+    owtest::ModalVisit visit(look);
+    CString name = L"Walls";
+    EXPECT_TRUE(StartCombo(name, L"") == IDOK && name == L"Axes");
+}
+
+namespace
+{
+struct Arguments
+{
+    int open = TRUE;
+    const wchar_t* name = nullptr;
+    unsigned long flags = 0;
+    const wchar_t *filter = nullptr, *title = nullptr;
+};
+
+Outcome AskFile(const Arguments& given, const Visitor& visitor)
+{
+    owtest::ModalVisit visit(visitor);
+    CString path = L"before";
+    const int result = gfnStartTranslatedFileDialog(path, given.open, L"txt", given.name, given.flags,
+                                                    given.filter, nullptr, given.title);
+    EXPECT_EQ(visit.Count(), 1);
+    return {result, path.GetString()};
+}
+
+/// Types a name over what stands there, and accepts; so it does with a box by which the system refuses it.
+Visitor TypeName(const wchar_t* name)
+{
+    return [=](CWnd& dialog)
+    {
+        owtest::ModalVisit box([](CWnd& message) { message.PostMessage(WM_COMMAND, IDOK); });
+        owtest::Click(*dialog.GetDlgItem(kFileName));
+        owtest::Press(VK_HOME);
+        owtest::Press(VK_END, true);
+        owtest::Type(name);
+        owtest::Click(*dialog.GetDlgItem(IDOK));
+    };
+}
+} // namespace
+
+TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
+{
+    const auto texts = [&](int open, const wchar_t* title)
+    {
+        std::wstring seen;
+        const auto look = [&](CWnd& dialog) {
+            seen = TextsOf(dialog, {IDOK, IDCANCEL, kFolderLabel, kFileNameLabel, kFileTypeLabel});
+        };
+        AskFile({.open = open, .title = title}, look);
+        return seen;
+    };
+    EXPECT_EQ(texts(FALSE, nullptr), L"Snimi kao...|Snimi|Cancel|Lokacija|Ime fajla|Tip fajla");
+    {
+        const owtest::OtherText other("Cancel", "Odustani");
+        EXPECT_EQ(texts(TRUE, nullptr), L"Ucitaj|Ucitaj|Odustani|Lokacija|Ime fajla|Tip fajla");
+    }
+    const owtest::EnglishTexts english;
+    EXPECT_EQ(texts(TRUE, nullptr), L"Load|Load|Cancel|Look in|File name|File type");
+    EXPECT_EQ(texts(FALSE, L"Snimi"), L"Snimi|Save|Cancel|Look in|File name|File type") << "as it stands";
+    EXPECT_EQ(texts(TRUE, L""), L"|Load|Cancel|Look in|File name|File type");
+}
+
+TEST(TranslatedFileDialog, GivesThePathWhateverTheAnswer)
+{
+    const auto folder = std::filesystem::temp_directory_path();
+    const std::wstring start = folder / L"ow start.txt", present = folder / L"ow present.txt",
+                       longName(10000, L'a');
+    std::ofstream{std::filesystem::path(present)};
+    const auto ask = [&](int open, unsigned long flags, const wchar_t* name) {
+        return AskFile({open, start.c_str(), flags | OFN_NOCHANGEDIR, L"Text (*.txt)|*.txt||"},
+                       TypeName(name));
+    };
+    EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow present.txt"), Outcome(IDOK, present));
+    EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow absent.txt").first, IDCANCEL) << "it stayed open";
+    EXPECT_EQ(ask(FALSE, 0, L"ow plan 2"), Outcome(IDOK, folder / L"ow plan 2.txt"));
+    std::filesystem::remove(present);
+    EXPECT_EQ(AskFile({}, PressEscape), Outcome(IDCANCEL, L""));
+    EXPECT_EQ(AskFile({.open = FALSE, .name = L"plan.txt"}, PressEscape), Outcome(IDCANCEL, L"plan.txt"));
+    EXPECT_EQ(AskFile({.name = longName.c_str()}, PressEscape),
+              Outcome(IDCANCEL, longName.substr(0, MAX_PATH - 1)));
+}
+
+TEST(TranslatedFileDialog, CompletesItsFilter)
+{
+    const std::wstring text(L"Text\0*.txt\0\0", 12), all(L"Text\0*.txt\0All\0*.*\0\0", 20);
+    // clang-format off
+    const std::pair<const wchar_t*, std::wstring> cases[] = {
+        {L"Text|*.txt||", text}, {L"Text|*.txt|", text}, {L"Text|*.txt", text}, {L"Text|*.txt|All||", all},
+        {L"Text|*.txt|All", all}, {L"", L""}, {L"||", L""}, {nullptr, L""}};
+    // clang-format on
+    for (const auto& [filter, expected] : cases)
+    {
+        const CTranslatedFileDialog dialog(TRUE, nullptr, nullptr, 0, filter, nullptr, nullptr);
+        const wchar_t* completed = dialog.m_ofn.lpstrFilter;
+        EXPECT_EQ(completed != nullptr, !expected.empty());
+        EXPECT_EQ(std::wstring(completed ? completed : L"", expected.size()), expected);
+    }
+}
+
+TEST(DialogSurroundings, AreTheParentOrTheWindowInFrontAndInTheEndAsBefore)
+{
+    const HINSTANCE resources = AfxGetResourceHandle();
+    CString text;
+    for (const auto start : {&StartBox, &StartEdit, &StartCombo, &StartFile})
+    {
+        const bool takesParent = start == &StartCombo || start == &StartFile;
+        OwnerWindow parent, main;
+        AfxGetApp()->m_pMainWnd = &main;
+        const auto expectOver = [&](CWnd* given, const CWnd& expected)
+        {
+            ASSERT_TRUE(owtest::Activate(main));
+            main.SetFocus();
+            const auto look = [&](CWnd& dialog)
+            {
+                EXPECT_EQ(dialog.GetWindow(GW_OWNER), &expected);
+                EXPECT_FALSE(expected.IsWindowEnabled());
+                EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
+                EXPECT_NE(AfxGetResourceHandle(), resources);
+            };
+            owtest::ModalVisit visit(look);
+            EXPECT_TRUE(start(text, L"", given) == IDCANCEL && visit.Count() == 1);
+            EXPECT_TRUE(expected.IsWindowEnabled());
+            EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+            EXPECT_EQ(AfxGetResourceHandle(), resources);
+        };
+        expectOver(nullptr, main);
+        expectOver(&parent, takesParent ? parent : main);
+        parent.DestroyWindow();
+        expectOver(&parent, main); // a parent without a window is none
+        const owtest::HandleCount before = owtest::CountHandles();
+        for (int i = 0; i < 12 && start != &StartFile; ++i) // the system's keeps some of its own
+            expectOver(nullptr, main);
+        EXPECT_EQ(owtest::CountHandles(), before);
+        AfxGetApp()->m_pMainWnd = nullptr;
+    }
+    EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconOk), CButtonST::resultOk) << "the shared icons live on";
+
+    struct Thrower : OwnerWindow // breaks out of the message loop
+    {
+        BOOL PreTranslateMessage(MSG* message) override
+        {
+            return message->message == WM_APP ? throw std::runtime_error("stop") : FALSE;
+        }
+    } thrower;
+    for (const auto start : {&StartBox, &StartEdit, &StartCombo}) // the fourth one's loop is the system's
+    {
+        thrower.PostMessage(WM_APP);
+        EXPECT_THROW(start(text, L"", nullptr), std::runtime_error);
+        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    }
+}
