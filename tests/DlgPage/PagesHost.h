@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -40,19 +41,19 @@ inline void Once(const std::string& call, const std::function<void()>& work)
     };
 }
 
-/// All calls since the last question, with commas between.
-inline std::string TakeCalls()
+/// All calls since the last question that have a word in them, with commas between.
+inline std::string TakeCalls(const char* word = "")
 {
     std::string text;
     for (const std::string& call : std::exchange(calls, {}))
-        text += (text.empty() ? "" : ", ") + call;
+        if (call.find(word) != call.npos)
+            text += (text.empty() ? "" : ", ") + call;
     return text;
 }
 /// What the select clients were told since the last question.
 inline std::string TakeSelections()
 {
-    std::erase_if(calls, [](const std::string& call) { return call.find(" after ") == std::string::npos; });
-    return TakeCalls();
+    return TakeCalls(" after ");
 }
 
 inline std::string NameOf(const CPage* pPage)
@@ -151,26 +152,15 @@ struct RecordingClient : AAddPageNotificationClient,
     CPage* pTold = nullptr; ///< the last selection
 };
 
-/// Identities of the host's pages, in the order of adding.
-enum Identity
-{
-    idAlpha = 1, ///< on the dialog of the fields, as beta and delta
-    idGamma,     ///< below alpha, on the plain dialog, as the other children
-    idBeta,
-    idDelta,
-    idEarlier, ///< below delta, as the next
-    idLater,
-    idStranger ///< never added
-};
-
 /// A host with a manager, a caption and a selector: a tree, or a combo group with its toggle.
 template <class Selector>
 class PagesHost : public CDialog, public APageFrameProvider
 {
     static constexpr bool kTree = std::is_base_of_v<CWnd, Selector>;
+    static constexpr bool kPush = std::is_base_of_v<CPageComboButtonSTCtrlGroup, Selector>;
 
 public:
-    /// With the pages of Identity, or with none.
+    /// With six pages, or with none.
     explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
@@ -192,13 +182,12 @@ public:
 
     bool Open()
     {
-        constexpr bool bPush = std::is_base_of_v<CPageComboButtonSTCtrlGroup, Selector>;
+        constexpr DWORD kSelectorStyle = kTree ? TVS_NOSCROLL | WS_BORDER : CBS_DROPDOWNLIST;
         const auto form =
             owtest::DialogTemplate(L"Pages", 300, 140)
-                .Item(kTree ? L"SysTreeView32" : L"COMBOBOX", L"", IDC_SELECTOR,
-                      WS_TABSTOP | (kTree ? TVS_NOSCROLL | WS_BORDER : CBS_DROPDOWNLIST), 5, 5, 90, 80)
-                .Item(L"BUTTON", L"More", IDC_TOGGLE, WS_TABSTOP | (bPush ? BS_PUSHBUTTON : BS_AUTOCHECKBOX),
-                      5, 86, 60, 12)
+                .Item(kTree ? L"SysTreeView32" : L"COMBOBOX", L"", IDC_SELECTOR, WS_TABSTOP | kSelectorStyle,
+                      5, 5, 90, 80)
+                .Button(L"More", IDC_TOGGLE, 5, 86, 60, 12, kPush ? BS_PUSHBUTTON : BS_AUTOCHECKBOX)
                 .Edit(IDC_NAME, 5, 100, 90, 14)
                 .Item(L"STATIC", L"Template", IDC_CAPTION, SS_LEFT, 100, 5, 190, 16)
                 .DefaultButton(L"OK", IDOK, 5, 120, 44, 14)
@@ -216,9 +205,12 @@ public:
         }
         return names;
     }
-    RecordingPage* Page(Identity id) const
+    /// Null if there is none of that name.
+    RecordingPage* Page(const std::string& name) const
     {
-        return static_cast<RecordingPage*>(manager.GetPage(static_cast<CPage::EPageID>(id)));
+        const auto found =
+            std::find_if(pages.begin(), pages.end(), [&](auto* p) { return NameOf(p) == name; });
+        return found == pages.end() ? nullptr : *found;
     }
     RecordingPage* AddPage(const CString& strName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
     {
@@ -239,31 +231,21 @@ public:
     }
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, IDC_CAPTION, caption);
-        if constexpr (kTree)
-            DDX_Control(pDX, IDC_SELECTOR, selector);
-        else
-            selector.DoDataExchange(pDX);
-    }
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();
+        CDataExchange exchange(this, FALSE);
+        DDX_Control(&exchange, IDC_CAPTION, caption);
+        if constexpr (kTree)
+            DDX_Control(&exchange, IDC_SELECTOR, selector);
+        else
+            selector.DoDataExchange(&exchange);
         manager.RegisterAddPageNotification(&selector, true);
         for (ASelectPageNotificationClient* pClient :
              std::initializer_list<ASelectPageNotificationClient*>{&selects, &manager, &caption})
             selector.RegisterSelectPageNotification(pClient, true);
         if (m_bFilled)
-        {
-            fields = AddDialog(IDD_FIELDS, "fields");
-            plain = AddDialog(IDD_PLAIN, "plain");
-            AddPage(L"Gamma", plain, idGamma, AddPage(L"Alpha", fields, idAlpha));
-            AddPage(L"Beta", fields, idBeta);
-            CPage* const pDelta = AddPage(L"Delta", fields, idDelta);
-            AddPage(L"Earlier", plain, idEarlier, pDelta);
-            AddPage(L"Later", plain, idLater, pDelta);
-        }
+            Fill();
         GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
         GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
         return FALSE;
@@ -272,6 +254,19 @@ protected:
     void OnCancel() override { ++cancels; }
 
 private:
+    void Fill()
+    {
+        fields = AddDialog(IDD_FIELDS, "fields");
+        plain = AddDialog(IDD_PLAIN, "plain");
+        int nId = 0;
+        for (const auto& [name, parent] : {std::pair{L"Alpha", ""},
+                                           {L"Gamma", "Alpha"},
+                                           {L"Beta", ""},
+                                           {L"Delta", ""},
+                                           {L"Earlier", "Delta"},
+                                           {L"Later", "Delta"}})
+            AddPage(name, *parent ? plain : fields, ++nId, Page(parent));
+    }
     bool m_bFilled;
 };
 
@@ -279,24 +274,24 @@ private:
 struct OpenPageTree : CPageTreeCtrl
 {
     using CPageTreeCtrl::OnTvnSelchanged, CPageTreeCtrl::PageToItem;
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override
+    {
+        Note("tip?");
+        return -1;
+    }
 };
 
 /// An open host.
 template <class Selector>
-class PagesWith : public ::testing::Test
+class PagesWith : public ::testing::Test, public PagesHost<Selector>
 {
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(m_host.Open());
+        ASSERT_TRUE(this->Open());
         TakeCalls();
     }
     void TearDown() override { listener = nullptr; }
     static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
-
-    PagesHost<Selector> m_host;
-    CPageManager& m_manager = m_host.manager;
-    Selector& m_selector = m_host.selector;
-    RecordingPage* Page(Identity id) { return m_host.Page(id); }
 };
 using Pages = PagesWith<OpenPageTree>;

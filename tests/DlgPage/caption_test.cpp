@@ -7,8 +7,6 @@
 
 #include <DlgPage/GradientFill.h>
 
-#include <string>
-
 namespace
 {
 constexpr COLORREF kDark = 0x404040;
@@ -21,8 +19,7 @@ protected:
     {
         ASSERT_TRUE(m_parent.CreateEx(WS_EX_TOPMOST, _T("STATIC"), _T(""), WS_POPUP | WS_VISIBLE,
                                       CRect(CPoint(30, 30), CSize(300, 60)), nullptr, 0));
-        ASSERT_TRUE(m_caption.Create(_T("not kept here"), WS_CHILD | WS_VISIBLE, CRect(CPoint(0, 0), m_size),
-                                     &m_parent));
+        ASSERT_TRUE(m_caption.Create(_T("not kept here"), WS_CHILD | WS_VISIBLE, m_rect, &m_parent));
     }
     void TearDown() override { m_parent.DestroyWindow(); }
     CPage* GetCurrentPage() const override { return nullptr; }
@@ -32,9 +29,10 @@ protected:
     {
         m_caption.UpdateWindow();
         CClientDC dc(&m_caption);
-        picture.dc().BitBlt(0, 0, m_size.cx, m_size.cy, &dc, 0, 0, SRCCOPY);
+        picture.dc().BitBlt(0, 0, m_rect.right, m_rect.bottom, &dc, 0, 0, SRCCOPY);
     }
-    const CSize m_size{240, 30};
+    CRect m_rect{0, 0, 240, 30};
+    owtest::Surface m_first{240, 30}, m_second{240, 30};
     CStatic m_parent;
     CPageGradientCaptionStatic m_caption{*this};
 };
@@ -53,8 +51,8 @@ TEST_F(Caption, KeepsTheTextOfTheWindowItself)
 
 TEST_F(Caption, ShowsTheNameOfThePageInTheParentsFontBoldAndAFifthLarger)
 {
-    const auto makeFont = [](int nHeight, int nWeight)
-    { return ::CreateFont(nHeight, 0, 0, 0, nWeight, 0, 0, 0, 0, 0, 0, 0, 0, _T("Liberation Serif")); };
+    const auto makeFont = [](CFont& font, int nHeight, int nWeight)
+    { font.CreateFont(nHeight, 0, 0, 0, nWeight, 0, 0, 0, 0, 0, 0, 0, 0, _T("Liberation Serif")); };
     const std::tuple<int, int, CString> titles[] = {
         {-13, -16, L"Beams && pillars"}, {14, 17, L"W"}, {14, 17, L""}};
     std::vector<int> handles;
@@ -62,21 +60,20 @@ TEST_F(Caption, ShowsTheNameOfThePageInTheParentsFontBoldAndAFifthLarger)
     {
         RecordingPage page(strTitle, nullptr, 1);
         CFont parent, bold;
-        parent.Attach(makeFont(nParent, FW_NORMAL));
-        bold.Attach(makeFont(nCaption, FW_BOLD));
+        makeFont(parent, nParent, FW_NORMAL);
+        makeFont(bold, nCaption, FW_BOLD);
         m_parent.SetFont(&parent, FALSE);
         m_caption.PageSelected(strTitle.IsEmpty() ? nullptr : &page, &page);
-        owtest::Surface shown(m_size.cx, m_size.cy), wanted(m_size.cx, m_size.cy);
-        Look(shown);
-        CRect rect(CPoint(0, 0), m_size);
-        gfnFillGradient(wanted.dc(), rect, kDark);
-        const HGDIOBJ hOld = wanted.dc().SelectObject(&bold)->m_hObject;
-        wanted.dc().SetBkMode(TRANSPARENT);
-        wanted.dc().SetTextColor(::GetSysColor(COLOR_BTNFACE));
+        Look(m_first);
+        CDC& dc = m_second.dc();
+        gfnFillGradient(dc, m_rect, kDark);
+        const HGDIOBJ hOld = dc.SelectObject(&bold)->m_hObject;
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(::GetSysColor(COLOR_BTNFACE));
         if (!strTitle.IsEmpty())
-            wanted.dc().DrawText(L" " + strTitle, rect, DT_SINGLELINE | DT_VCENTER);
-        ::SelectObject(wanted.dc(), hOld);
-        EXPECT_TRUE(shown == wanted) << nParent << CStringA(strTitle);
+            dc.DrawText(L" " + strTitle, m_rect, DT_SINGLELINE | DT_VCENTER);
+        ::SelectObject(dc, hOld);
+        EXPECT_TRUE(m_first == m_second) << nParent << CStringA(strTitle);
         handles.push_back(owtest::CountHandles().gdi);
     }
     EXPECT_EQ(handles[0], handles[2]);
@@ -84,21 +81,20 @@ TEST_F(Caption, ShowsTheNameOfThePageInTheParentsFontBoldAndAFifthLarger)
 
 TEST_F(Caption, ARepaintCopiesThePictureThatIsThere)
 {
-    owtest::Surface first(m_size.cx, m_size.cy), second(m_size.cx, m_size.cy);
     m_caption.SetWindowText(L"Beams");
-    Look(first);
-    CClientDC(&m_caption).PatBlt(0, 0, m_size.cx, m_size.cy, WHITENESS);
+    Look(m_first);
+    CClientDC(&m_caption).PatBlt(0, 0, m_rect.right, m_rect.bottom, WHITENESS);
     const int nFace = COLOR_BTNFACE;
     const COLORREF crFace = ::GetSysColor(nFace), crOther = RGB(0, 0, 160);
     ::SetSysColors(1, &nFace, &crOther);
     m_caption.Invalidate();
-    Look(second);
-    EXPECT_TRUE(first == second) << "whatever has changed but the text";
+    Look(m_second);
+    EXPECT_TRUE(m_first == m_second) << "whatever has changed but the text";
     m_caption.SetWindowText(L"Beams");
-    Look(second);
+    Look(m_second);
     ::SetSysColors(1, &nFace, &crFace);
-    EXPECT_FALSE(first == second) << "a text set anew is drawn in the new colour";
-    EXPECT_EQ(second.at(m_size.cx - 1, 0), first.at(m_size.cx - 1, 0)) << "on the gradient made at first";
+    EXPECT_FALSE(m_first == m_second) << "a text set anew is drawn in the new colour";
+    EXPECT_EQ(m_second.at(239, 0), m_first.at(239, 0)) << "on the gradient made at first";
 }
 
 namespace
@@ -114,9 +110,8 @@ std::vector<COLORREF> Columns(decltype(gfnFillGradient) fill, const CRect& rect,
         columns.push_back(surface.at(x, rect.top));
         EXPECT_EQ(surface.at(x, rect.bottom - 1), columns.back());
     }
-    const int nAll = surface.width() * surface.height();
-    EXPECT_EQ(surface.count(CRect(0, 0, surface.width(), surface.height()), RGB(255, 0, 255)),
-              nAll - rect.Width() * rect.Height());
+    const CRect all(0, 0, surface.width(), surface.height());
+    EXPECT_EQ(surface.count(all, RGB(255, 0, 255)), all.right * all.bottom - rect.Width() * rect.Height());
     return columns;
 }
 
@@ -132,11 +127,6 @@ Bands BandsOf(const CRect& rect, COLORREF crLeft)
         ++bands.back().second;
     }
     return bands;
-}
-
-COLORREF FaceMinus(int n)
-{
-    return ::GetSysColor(COLOR_BTNFACE) - RGB(n, n, n);
 }
 } // namespace
 
@@ -158,14 +148,15 @@ TEST(Gradient, GoesFromTheColourToThatOfADialogsFace)
 
 TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)
 {
+    const auto faceMinus = [](int n) { return ::GetSysColor(COLOR_BTNFACE) - RGB(n, n, n); };
     const CRect rect(3, 2, 103, 12);
-    EXPECT_EQ(BandsOf(rect, FaceMinus(0)), (Bands{{FaceMinus(0), 100}})) << "no step: one band";
-    EXPECT_EQ(BandsOf(rect, FaceMinus(3)), (Bands{{FaceMinus(3), 50}, {FaceMinus(2), 50}}));
+    EXPECT_EQ(BandsOf(rect, faceMinus(0)), (Bands{{faceMinus(0), 100}})) << "no step: one band";
+    EXPECT_EQ(BandsOf(rect, faceMinus(3)), (Bands{{faceMinus(3), 50}, {faceMinus(2), 50}}));
     EXPECT_EQ(BandsOf(rect, RGB(255, 255, 255)).size(), 1u) << "downwards counts as no step";
     for (const COLORREF crFar : {RGB(1, 0, 0), RGB(0, 1, 0), RGB(0, 0, 1)}) // the channel with the most steps
-        EXPECT_EQ(BandsOf(rect, FaceMinus(3) - 20 * crFar).size(), 13u);
+        EXPECT_EQ(BandsOf(rect, faceMinus(3) - 20 * crFar).size(), 13u);
     for (const int nWidth : {10, 12}) // bands are at least 4 wide
-        EXPECT_EQ(BandsOf(CRect(0, 0, nWidth, 4), FaceMinus(100)),
-                  (Bands{{FaceMinus(100), 4}, {FaceMinus(67), 4}, {FaceMinus(34), nWidth - 8}}));
-    EXPECT_EQ(BandsOf(CRect(2, 0, 2, 4), FaceMinus(100)).size(), 0u);
+        EXPECT_EQ(BandsOf(CRect(0, 0, nWidth, 4), faceMinus(100)),
+                  (Bands{{faceMinus(100), 4}, {faceMinus(67), 4}, {faceMinus(34), nWidth - 8}}));
+    EXPECT_EQ(BandsOf(CRect(2, 0, 2, 4), faceMinus(100)).size(), 0u);
 }

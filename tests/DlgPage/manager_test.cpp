@@ -7,17 +7,16 @@
 TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 {
     RecordingClient client("early");
-    m_manager.RegisterAttributeChangedNotification(&client, true);
-    auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", &m_host);
+    manager.RegisterAttributeChangedNotification(&client, true);
+    auto* pDialog = new RecordingDialog(IDD_PLAIN, "new", this);
     pDialog->MyAttributeChanged();
     EXPECT_EQ(TakeCalls(), "") << "nobody to tell yet";
-    m_manager.AddDialog(pDialog); // reports a change while its window is being made
+    manager.AddDialog(pDialog); // reports a change while its window is being made
     EXPECT_EQ(TakeCalls(), "early: changed, show new, init new, frame, disable new, hide new");
     CRect rect;
     pDialog->GetWindowRect(rect);
-    m_host.ScreenToClient(rect);
-    EXPECT_EQ(rect, m_host.frame);
-    EXPECT_EQ(pDialog->GetParent(), &m_host);
+    ScreenToClient(rect);
+    EXPECT_TRUE(rect == frame && pDialog->GetParent() == this);
 }
 
 TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
@@ -25,15 +24,13 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
     {
         PagesHost<OpenPageTree> host(false);
         ASSERT_TRUE(host.Open());
-        CPageManager manager(&host);
         for (const char* name : {"one", "two"})
-            manager.AddDialog(new RecordingDialog(IDD_PLAIN, name, &host));
-        EXPECT_THROW(manager.AddDialog(new RecordingDialog(IDD_MISSING, "no template", &host)),
-                     CResourceException*);
-        EXPECT_EQ(manager.GetPage(CPage::EPageID{1}), nullptr);
+            host.AddDialog(IDD_PLAIN, name);
+        EXPECT_THROW(host.AddDialog(IDD_MISSING, "no template"), CResourceException*);
+        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{1}), nullptr);
         for (const wchar_t* name : {L"A", L"B"})
-            manager.AddPage(new RecordingPage(name, nullptr, 1), nullptr);
-        EXPECT_EQ(NameOf(manager.GetPage(CPage::EPageID{1})), "A") << "the first of an identity";
+            host.AddPage(name, nullptr, 1);
+        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{1}), host.Page("A")) << "the first of an identity";
         host.DestroyWindow();
         TakeCalls();
     }
@@ -43,69 +40,70 @@ TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 // The new page shows before the old one is hidden; pages that share a dialog are rebound, and stay on screen.
 TEST_F(Pages, TheManagerShowsWhatIsSelected)
 {
-    RecordingPage *pAlpha = Page(idAlpha), *pBeta = Page(idBeta), *pGamma = Page(idGamma);
-    RecordingPage foreign(L"Foreign", m_host.plain, idStranger);
-    const std::string rebindBeta = "bind Beta, focus fields";
-    const auto show = [](const std::string& dialog, const std::string& page)
-    { return "enable " + dialog + ", show " + dialog + ", bind " + page + ", focus " + dialog; };
-    const auto leave = [](const std::string& dialog, const std::string& page)
-    { return "disable " + dialog + ", hide " + dialog + ", unbind " + page; };
-    const std::tuple<CPage*, CPage*, std::string> selections[] = {
-        {pAlpha, nullptr, show("fields", "Alpha")},
-        {pGamma, pAlpha, show("plain", "Gamma") + ", " + leave("fields", "Alpha")},
-        {nullptr, pGamma, leave("plain", "Gamma")},
-        {nullptr, nullptr, ""},
-        {pAlpha, nullptr, show("fields", "Alpha")},
-        {pBeta, pAlpha, rebindBeta},
-        {pBeta, pBeta, rebindBeta},
+    RecordingPage foreign(L"Foreign", plain, 99);
+    const auto page = [&](const std::string& name) -> CPage*
+    { return name == "Foreign" ? &foreign : Page(name); };
+    const std::string rebind = "bind Beta, focus fields",
+                      showFields = "enable fields, show fields, bind Alpha, focus fields",
+                      showPlain = "enable plain, show plain, bind ",
+                      leaveFields = ", focus plain, disable fields, hide fields, unbind ",
+                      leavePlain = "disable plain, hide plain, unbind ";
+    const std::tuple<const char*, const char*, std::string> selections[] = {
+        {"Alpha", "", showFields},
+        {"Gamma", "Alpha", showPlain + "Gamma" + leaveFields + "Alpha"},
+        {"", "Gamma", leavePlain + "Gamma"},
+        {"", "", ""},
+        {"Alpha", "", showFields},
+        {"Beta", "Alpha", rebind},
+        {"Beta", "Beta", rebind},
         // From here on selectors have lost sight of what shows.
-        {pGamma, nullptr, show("plain", "Gamma") + ", " + leave("fields", "Beta")},
-        {pAlpha, pBeta, show("fields", "Alpha") + ", " + leave("plain", "Gamma")},
-        {pGamma, Page(idLater), show("plain", "Gamma") + ", " + leave("fields", "Alpha")},
-        {pAlpha, Page(idLater), show("fields", "Alpha") + ", " + leave("plain", "Later")},
-        {&foreign, pAlpha, show("plain", "Foreign") + ", " + leave("fields", "Alpha")},
-        {nullptr, nullptr, ""}, // a page of another's may be gone by now
-        {nullptr, &foreign, leave("plain", "Foreign")},
+        {"Gamma", "", showPlain + "Gamma" + leaveFields + "Beta"},
+        {"Alpha", "Beta", showFields + ", " + leavePlain + "Gamma"},
+        {"Gamma", "Later", showPlain + "Gamma" + leaveFields + "Alpha"},
+        {"Alpha", "Later", showFields + ", " + leavePlain + "Later"},
+        {"Foreign", "Alpha", showPlain + "Foreign" + leaveFields + "Alpha"},
+        {"", "", ""}, // a page of another's may be gone by now
+        {"", "Foreign", leavePlain + "Foreign"},
     };
-    for (const auto& [pNew, pOld, calls] : selections)
+    for (const auto& [newName, oldName, calls] : selections)
     {
-        m_manager.PageSelected(pNew, pOld);
-        EXPECT_EQ(TakeCalls(), calls) << NameOf(pNew) << " after " << NameOf(pOld);
+        manager.PageSelected(page(newName), page(oldName));
+        EXPECT_EQ(TakeCalls(), calls) << newName << " after " << oldName;
     }
-    m_manager.PageSelected(pBeta, nullptr);
-    owtest::Click(m_host.fields->count);
+    manager.PageSelected(Page("Beta"), nullptr);
+    owtest::Click(fields->count);
     owtest::Type(L"5");
-    m_host.DestroyWindow(); // while a page is shown
+    DestroyWindow(); // while a page is shown
     TakeCalls();
-    m_manager.PageSelected(pGamma, pAlpha);
-    m_manager.PageSelected(pAlpha, pBeta);
-    m_selector.SetCurrentPage(nullptr);
+    manager.PageSelected(Page("Gamma"), Page("Alpha"));
+    manager.PageSelected(Page("Alpha"), Page("Beta"));
+    selector.SetCurrentPage(nullptr);
     EXPECT_EQ(TakeCalls(), "");
 }
 
 TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
 {
-    const std::tuple<const char*, Identity, Identity, Identity> redirections[] = {
-        {"bind Gamma", idAlpha, idGamma, idBeta},   // back to the dialog that is about to go
-        {"bind Beta", idAlpha, idBeta, idGamma},    // from a shared dialog to another one
-        {"left fields", idAlpha, idBeta, idGamma},  // before the new page shows
-        {"left fields", idAlpha, idBeta, idDelta},  // on the same dialog
-        {"unbind Alpha", idAlpha, idGamma, idBeta}, // when all is done
+    const char* const redirections[][4] = {
+        {"bind Gamma", "Alpha", "Gamma", "Beta"},   // back to the dialog that is about to go
+        {"bind Beta", "Alpha", "Beta", "Gamma"},    // from a shared dialog to another one
+        {"left fields", "Alpha", "Beta", "Gamma"},  // before the new page shows
+        {"left fields", "Alpha", "Beta", "Delta"},  // on the same dialog
+        {"unbind Alpha", "Alpha", "Gamma", "Beta"}, // when all is done
     };
     for (const auto& [trigger, from, over, to] : redirections)
     {
-        m_manager.PageSelected(Page(from), nullptr);
-        m_host.fields->count.SetFocus();
-        Once(trigger, [this, to = to, over = over] { m_manager.PageSelected(Page(to), Page(over)); });
-        m_manager.PageSelected(Page(over), Page(from));
-        EXPECT_EQ(m_host.Shown(), NameOf(Page(to))) << trigger;
+        manager.PageSelected(Page(from), nullptr);
+        fields->count.SetFocus();
+        Once(trigger, [this, to = to, over = over] { manager.PageSelected(Page(to), Page(over)); });
+        manager.PageSelected(Page(over), Page(from));
+        EXPECT_EQ(Shown(), to) << trigger;
     }
 }
 
 // The first client of a list stays; of those who hear of changed values all stay, and an unknown one is an error.
 TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
 {
-    CPageManager manager(&m_host);
+    CPageManager manager(this);
     RecordingClient first("first"), second("second"), unknown("unknown");
     for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);

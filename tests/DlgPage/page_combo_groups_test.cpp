@@ -22,17 +22,18 @@ template <class Group>
 class PageComboGroups : public PagesWith<Group>
 {
 protected:
-    PagesHost<Group>& host = this->m_host;
-    Group& group = this->m_selector;
-    CWnd& toggle() { return *host.GetDlgItem(IDC_TOGGLE); }
-    CComboBox& combo() { return static_cast<CComboBox&>(*host.GetDlgItem(IDC_SELECTOR)); }
+    Group& group = this->selector;
+    CWnd& toggle() { return *this->GetDlgItem(IDC_TOGGLE); }
+    CComboBox& combo() { return static_cast<CComboBox&>(*this->GetDlgItem(IDC_SELECTOR)); }
 
-    /// What the user sees: the page in the frame, the row, and the toggle if there is one.
-    std::string Shown()
+    /// What the user sees: the page in the frame, the row, and the toggle if there is one; then the group's page, and
+    /// what was told since the last time.
+    std::string State()
     {
         EXPECT_EQ(toggle().IsWindowVisible(), toggle().IsWindowEnabled());
-        return host.Shown() + ' ' + std::to_string(combo().GetCurSel()) +
-               (toggle().IsWindowVisible() ? "+" : "");
+        return this->Shown() + ' ' + std::to_string(combo().GetCurSel()) +
+               (toggle().IsWindowVisible() ? "+ " : " ") + NameOf(group.GetCurrentPage()) + ": " +
+               TakeSelections();
     }
 
     /// Selects by a key in the combo box, by the toggle, or a page of this name by code.
@@ -45,9 +46,8 @@ protected:
             toggle().SetFocus(), owtest::Press(VK_SPACE);
         else if (move == "click")
             owtest::Click(toggle());
-        for (RecordingPage* pPage : host.pages)
-            if (NameOf(pPage) == move)
-                group.SetCurrentPage(pPage);
+        else
+            group.SetCurrentPage(this->Page(move));
     }
 };
 using PageComboButtonGroup = PageComboGroups<ButtonGroup>;
@@ -61,7 +61,7 @@ TYPED_TEST_SUITE(PageComboGroups, Groups);
 // can be reached.
 TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
 {
-    const std::pair<std::string, std::string> steps[] = {
+    const std::pair<const char*, std::string> steps[] = {
         {"down", "Alpha 0+"},  {"click", "Gamma 0+"}, {"space", "Alpha 0+"},   {"down", "Beta 1"},
         {"down", "Delta 2+"},  {"Alpha", "Alpha 0+"}, {"click", "Gamma 0+"},   {"Beta", "Beta 1"},
         {"Gamma", "Gamma 0+"}, {"end", "Later 2+"},   {"up", "Beta 1"},        {"up", "Gamma 0+"},
@@ -74,40 +74,34 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     {
         const std::string page = shown.substr(0, shown.find(' '));
         this->Do(move);
-        EXPECT_EQ(TakeSelections(), page + " after " + std::exchange(before, page)) << move;
-        EXPECT_EQ(this->Shown(), shown) << move;
-        EXPECT_EQ(NameOf(this->group.GetCurrentPage()), page) << move;
+        EXPECT_EQ(this->State(), shown + ' ' + page + ": " + page + " after " + before) << move;
+        before = page;
     }
     this->group.OnExtComboBoxSelChanged(IDC_TOGGLE, 1);
     this->group.OnButtonClicked(IDC_SELECTOR);
-    EXPECT_EQ(TakeSelections(), "") << "other controls";
+    EXPECT_EQ(this->State(), "Alpha 0+ Alpha: ") << "other controls";
     this->group.OnExtComboBoxSelChanged(IDC_SELECTOR, -1);
-    EXPECT_EQ(TakeSelections(), "- after Alpha");
-    EXPECT_EQ(this->Shown(), " 0");
     this->group.OnButtonClicked(IDC_TOGGLE);
-    EXPECT_EQ(TakeSelections(), "- after -") << "no row";
+    EXPECT_EQ(TakeSelections(), "- after Alpha, - after -") << "no row";
+    EXPECT_EQ(this->Shown(), "");
 }
 
 TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
 {
-    RecordingPage twin(_T("Another object"), nullptr, idGamma);
-    RecordingPage unknown(_T("Stranger"), nullptr, idStranger);
+    RecordingPage twin(_T("Another object"), nullptr, this->Page("Gamma")->GetPageID());
+    RecordingPage unknown(_T("Stranger"), nullptr, 99);
     for (CPage* pUnknown : {static_cast<CPage*>(nullptr), static_cast<CPage*>(&unknown)})
     {
         this->group.SetCurrentPage(&twin);
-        EXPECT_EQ(TakeSelections(), "Gamma after -") << "the one that was added";
         this->group.SetCurrentPage(pUnknown);
-        EXPECT_EQ(TakeSelections(), "");
-        EXPECT_EQ(this->Shown(), "Gamma -1");
-        EXPECT_EQ(this->group.GetCurrentPage(), nullptr);
+        EXPECT_EQ(this->State(), "Gamma -1 -: Gamma after -") << "the one that was added";
         EXPECT_EQ(this->group.FindPage(pUnknown), -1);
     }
     this->Do("Beta");
-    EXPECT_EQ(TakeSelections(), "Beta after -");
-    EXPECT_EQ(this->Shown(), "Beta 1") << "what was left on the screen goes with the next selection";
+    EXPECT_EQ(this->State(), "Beta 1 Beta: Beta after -") << "what was left goes with the next selection";
     EXPECT_EQ(this->group.FindPage(&twin), 1);
-    EXPECT_EQ(this->group.FindParent(this->Page(idDelta)), 4) << "its first child";
-    EXPECT_EQ(this->group.FindParent(this->Page(idBeta)), -1);
+    EXPECT_EQ(this->group.FindParent(this->Page("Delta")), 4) << "its first child";
+    EXPECT_EQ(this->group.FindParent(this->Page("Beta")), -1);
     EXPECT_THROW(this->group.PageAdded(&twin, &unknown), CInvalidArgException*);
     EXPECT_EQ(TypeParam(1, 2).GetCurrentPage(), nullptr) << "without controls";
 }
@@ -120,29 +114,27 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
     for (RecordingClient* pClient : {static_cast<RecordingClient*>(nullptr), &last})
         this->group.RegisterSelectPageNotification(pClient, true);
     // What is done, the pages before and after it, and what the controls show meanwhile.
-    const std::vector<std::string> moves[] = {{"down", "Alpha", "Beta", "Beta"},
-                                              {"click", "Alpha", "Gamma", "Gamma"},
-                                              {"Beta", "Alpha", "Beta", "Alpha"},
-                                              {"Beta", "Gamma", "Beta", "Gamma"}};
-    for (const auto& move : moves)
+    const std::string moves[][4] = {{"down", "Alpha", "Beta", "Beta"},
+                                    {"click", "Alpha", "Gamma", "Gamma"},
+                                    {"Beta", "Alpha", "Beta", "Alpha"},
+                                    {"Beta", "Gamma", "Beta", "Gamma"}};
+    for (const auto& [move, from, to, meanwhile] : moves)
         for (const bool bByDialog : {false, true}) // the manager is the second client
         {
-            const std::string heard = move[2] + " after " + move[1], changed = "Later after " + move[2];
-            SCOPED_TRACE(heard + ", " + changed + (bByDialog ? ", by the dialog" : ""));
-            this->Do(move[1]);
+            const std::string heard = to + " after " + from, changed = "Later after " + to;
+            this->Do(from);
             TakeSelections();
-            const auto redirect = [&]
+            const auto redirect = [&, meanwhile = meanwhile]
             {
-                EXPECT_EQ(NameOf(this->group.GetCurrentPage()), move[3]);
+                EXPECT_EQ(NameOf(this->group.GetCurrentPage()), meanwhile);
                 this->Do("Later");
             };
-            Once(bByDialog ? "bind " + move[2] : heard, redirect);
-            this->Do(move[0]);
-            EXPECT_EQ(TakeSelections(), heard + ", " + changed + ", " + changed);
-            EXPECT_EQ(this->Shown(), "Later 2+");
-            EXPECT_EQ(NameOf(this->group.GetCurrentPage()), "Later");
+            Once(bByDialog ? "bind " + to : heard, redirect);
+            this->Do(move);
+            EXPECT_EQ(this->State(), "Later 2+ Later: " + heard + ", " + changed + ", " + changed)
+                << bByDialog;
         }
-    for (RecordingClient* pClient : {&this->host.selects, &last})
+    for (RecordingClient* pClient : {&this->selects, &last})
         this->group.RegisterSelectPageNotification(pClient, false);
     this->Do("Beta");
     EXPECT_EQ(TakeSelections(), "Beta after Later") << "the first one stays";
@@ -150,14 +142,12 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
 {
-    Do("Gamma");
-    Do("Beta"); // hides the box, and leaves it checked
-    Do("down");
-    EXPECT_EQ(Shown(), "Later 2+");
-    TakeSelections();
-    host.ShowWindow(SW_HIDE);
-    EXPECT_EQ(group.GetCurrentPage(), Page(idDelta)) << "a box that is not seen does not count";
-    host.ShowWindow(SW_SHOW);
+    for (const char* move : {"Gamma", "Beta", "down"}) // the second hides the box, and leaves it checked
+        Do(move);
+    EXPECT_EQ(State(), "Later 2+ Later: Gamma after -, Beta after Gamma, Later after Beta");
+    ShowWindow(SW_HIDE);
+    EXPECT_EQ(group.GetCurrentPage(), Page("Delta")) << "a box that is not seen does not count";
+    ShowWindow(SW_SHOW);
     Do("Beta");
     EXPECT_EQ(TakeSelections(), "Beta after Delta");
     toggle().ShowWindow(SW_SHOW);
@@ -166,20 +156,21 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
 
 TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUsable)
 {
-    const auto expectText = [&](LPCTSTR pszText) { EXPECT_EQ(owtest::TextOf(toggle()), pszText); };
-    expectText(_T("More")); // the template's, until something is selected by code or clicked
-    Do("Alpha");
-    expectText(_T("Napred"));
-    Do("click");
-    group.SetStateTexts(_T("Close"), _T("Details"));
-    expectText(_T("Nazad")); // until the next change
-    Do("Alpha");
-    expectText(_T("Details"));
-    Do("Gamma");
-    expectText(_T("Close"));
-    host.ShowWindow(SW_HIDE);
-    EXPECT_EQ(group.GetCurrentPage(), Page(idGamma)) << "whether the button is seen or not";
-    host.ShowWindow(SW_SHOW);
+    // At first the template's text; texts set anew show from the next change on.
+    const std::pair<const char*, const wchar_t*> moves[] = {{"", L"More"},         {"Alpha", L"Napred"},
+                                                            {"click", L"Nazad"},   {"texts", L"Nazad"},
+                                                            {"Alpha", L"Details"}, {"Gamma", L"Close"}};
+    for (const auto& [move, text] : moves)
+    {
+        if (std::string(move) == "texts")
+            group.SetStateTexts(_T("Close"), _T("Details"));
+        else if (*move)
+            Do(move);
+        EXPECT_EQ(owtest::TextOf(toggle()), text) << move;
+    }
+    ShowWindow(SW_HIDE);
+    EXPECT_EQ(group.GetCurrentPage(), Page("Gamma")) << "whether the button is seen or not";
+    ShowWindow(SW_SHOW);
     toggle().ShowWindow(SW_SHOW);
     combo().SetCurSel(1);
     EXPECT_EQ(group.GetCurrentPage(), nullptr) << "no child, with the button on";

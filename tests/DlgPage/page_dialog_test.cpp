@@ -13,11 +13,9 @@ protected:
     void SetUp() override
     {
         Pages::SetUp();
-        Page(idBeta)->nCount = 200;
-        m_selector.SetCurrentPage(Page(idAlpha));
+        Page("Beta")->nCount = 200;
+        selector.SetCurrentPage(Page("Alpha"));
     }
-    CWnd& Field(int nId) { return *m_host.fields->GetDlgItem(nId); }
-
     /// Types a new text into a box, without leaving it.
     static void TypeInto(CWnd& box, const wchar_t* pszText)
     {
@@ -29,35 +27,31 @@ protected:
 } // namespace
 
 // Escape does nothing; Enter breaks the line of a multi-line box, and goes on to the host elsewhere.
-TEST_F(PageInput, EscapeAndEnterLeaveTheTextsAndThePageAsTheyAre)
+TEST_F(PageInput, EscapeAndEnterLeaveTheTextsAndThePageAsTheyAreAndTabGoesThroughIt)
 {
-    CEdit& name = static_cast<CEdit&>(*m_host.GetDlgItem(IDC_NAME));
-    const std::tuple<CWnd&, WORD, const wchar_t*, CWnd&, int, int> keys[] = {
-        {Field(IDC_COUNT), VK_ESCAPE, L"1", Field(IDC_COUNT), 0, 0},
-        {Field(IDC_PLAIN), VK_ESCAPE, L"1", Field(IDC_PLAIN), 0, 0},
-        {Field(IDC_NOTES), VK_ESCAPE, L"1", Field(IDC_NOTES), 0, 0},
-        {Field(IDC_COUNT), VK_RETURN, L"1", Field(IDC_PLAIN), 0, 0}, // moves on
-        {Field(IDC_PLAIN), VK_RETURN, L"1", Field(IDC_PLAIN), 1, 0}, // the default button
-        {Field(IDC_NOTES), VK_RETURN, L"1\r\n", Field(IDC_NOTES), 0, 0},
-        {name, VK_ESCAPE, L"1", name, 0, 1}, // beside the page they are the host's
-        {name, VK_RETURN, L"1", name, 1, 0}};
-    for (const auto& [box, key, text, target, nOks, nCancels] : keys)
+    // Box, key, text, box with the focus then, OKs and Cancels of the host.
+    const std::tuple<int, WORD, const wchar_t*, int, int, int> keys[] = {
+        {IDC_COUNT, VK_ESCAPE, L"1", IDC_COUNT, 0, 0},
+        {IDC_PLAIN, VK_ESCAPE, L"1", IDC_PLAIN, 0, 0},
+        {IDC_NOTES, VK_ESCAPE, L"1", IDC_NOTES, 0, 0},
+        {IDC_COUNT, VK_RETURN, L"1", IDC_PLAIN, 0, 0}, // moves on
+        {IDC_PLAIN, VK_RETURN, L"1", IDC_PLAIN, 1, 0}, // the default button
+        {IDC_NOTES, VK_RETURN, L"1\r\n", IDC_NOTES, 0, 0},
+        {IDC_NAME, VK_ESCAPE, L"1", IDC_NAME, 0, 1}, // beside the page they are the host's
+        {IDC_NAME, VK_RETURN, L"1", IDC_NAME, 1, 0}};
+    const auto box = [&](int nId) { return nId == IDC_NAME ? GetDlgItem(nId) : fields->GetDlgItem(nId); };
+    for (const auto& [nBox, key, text, nTarget, nOks, nCancels] : keys)
     {
-        m_host.oks = m_host.cancels = 0;
-        TypeInto(box, L"1");
+        oks = cancels = 0;
+        TypeInto(*box(nBox), L"1");
         owtest::Press(key);
-        EXPECT_TRUE(HasFocus(target) && TextOf(box) == text) << key << ' ' << box.GetDlgCtrlID();
-        EXPECT_TRUE(m_host.oks == nOks && m_host.cancels == nCancels) << key << ' ' << box.GetDlgCtrlID();
+        EXPECT_TRUE(HasFocus(*box(nTarget)) && TextOf(*box(nBox)) == text) << key << ' ' << nBox;
+        EXPECT_TRUE(oks == nOks && cancels == nCancels) << key << ' ' << nBox;
     }
-    EXPECT_EQ(m_host.Shown(), "Alpha");
-}
-
-TEST_F(PageInput, TabGoesThroughThePage)
-{
-    Field(IDC_PLAIN).SetFocus();
-    MSG tab{Field(IDC_PLAIN), WM_KEYDOWN, VK_TAB, 1, 0, {}};
-    EXPECT_TRUE(m_host.fields->PreTranslateMessage(&tab)) << "translated by the page";
-    EXPECT_TRUE(HasFocus(Field(IDC_NOTES)));
+    EXPECT_EQ(Shown(), "Alpha");
+    box(IDC_PLAIN)->SetFocus();
+    MSG tab{*box(IDC_PLAIN), WM_KEYDOWN, VK_TAB, 1, 0, {}};
+    EXPECT_TRUE(fields->PreTranslateMessage(&tab) && HasFocus(*box(IDC_NOTES))) << "translated by the page";
 }
 
 TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
@@ -72,15 +66,14 @@ TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
             return CWnd::WindowProc(message, wParam, lParam);
         }
     };
-    CWnd& page = *m_host.fields;
-    const std::tuple<const wchar_t*, CWnd&, DWORD, int, BOOL> edits[] = {
-        {L"Edit", page, ES_WANTRETURN, 1, TRUE},
-        {L"Edit", page, 0, 1, FALSE},                   // wants no Enter
-        {L"EDITNOTES1", page, ES_WANTRETURN, 0, FALSE}, // a longer name
-        {L"Notes", page, ES_WANTRETURN, 0, FALSE},      // another name
-        {L"Edit", m_host, ES_WANTRETURN, 0, FALSE},     // outside of the page
-        {nullptr, page, 0, 0, FALSE}};                  // none at all
-    for (const auto& [pszClass, parent, dwStyle, nCommits, bTaken] : edits)
+    const std::tuple<const wchar_t*, CWnd*, DWORD, int, BOOL> edits[] = {
+        {L"Edit", fields, ES_WANTRETURN, 1, TRUE},
+        {L"Edit", fields, 0, 1, FALSE},                   // wants no Enter
+        {L"EDITNOTES1", fields, ES_WANTRETURN, 0, FALSE}, // a longer name
+        {L"Notes", fields, ES_WANTRETURN, 0, FALSE},      // another name
+        {L"Edit", this, ES_WANTRETURN, 0, FALSE},         // outside of the page
+        {nullptr, fields, 0, 0, FALSE}};                  // none at all
+    for (const auto& [pszClass, pParent, dwStyle, nCommits, bTaken] : edits)
     {
         WNDCLASS windowClass{};
         ::GetClassInfo(nullptr, _T("EDIT"), &windowClass);
@@ -90,29 +83,29 @@ TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
         if (pszClass)
             watch.SubclassWindow(::CreateWindow(pszClass, _T(""),
                                                 WS_CHILD | WS_VISIBLE | ES_MULTILINE | dwStyle, 150, 10, 90,
-                                                40, parent, nullptr, nullptr, nullptr));
+                                                40, *pParent, nullptr, nullptr, nullptr));
         ::SetFocus(watch);
-        m_host.fields->SendFocusedControlKillFocusMessage();
-        MSG enter{page, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
-        EXPECT_EQ(m_host.fields->PreTranslateMessage(&enter), bTaken);
+        fields->SendFocusedControlKillFocusMessage();
+        MSG enter{*fields, WM_KEYDOWN, VK_RETURN, 1, 0, {}};
+        EXPECT_EQ(fields->PreTranslateMessage(&enter), bTaken);
         EXPECT_EQ(watch.commits, nCommits) << CStringA(pszClass);
     }
 }
 
 TEST_F(PageInput, ATypedValueIsKeptWhenThePageChangesWithoutLeavingTheBox)
 {
-    CWnd& count = Field(IDC_COUNT);
+    CWnd& count = fields->count;
     TypeInto(count, L"0042");
-    EXPECT_EQ(Page(idAlpha)->nCount, 0) << "taken over when the user leaves";
-    Page(idAlpha)->SendFocusedControlKillFocusMessage();
-    EXPECT_TRUE(Page(idAlpha)->nCount == 42 && TextOf(count) == L"42" && HasFocus(count));
+    EXPECT_EQ(Page("Alpha")->nCount, 0) << "taken over when the user leaves";
+    Page("Alpha")->SendFocusedControlKillFocusMessage();
+    EXPECT_TRUE(Page("Alpha")->nCount == 42 && TextOf(count) == L"42" && HasFocus(count));
     TypeInto(count, L"17");
-    m_selector.SetCurrentPage(Page(idBeta));
+    selector.SetCurrentPage(Page("Beta"));
     EXPECT_EQ(TextOf(count), L"200") << "two pages on one dialog";
     TypeInto(count, L"18");
-    m_manager.PageSelected(Page(idGamma), Page(idBeta)); // with another dialog
-    m_manager.PageSelected(Page(idBeta), Page(idGamma));
+    manager.PageSelected(Page("Gamma"), Page("Beta")); // with another dialog
+    manager.PageSelected(Page("Beta"), Page("Gamma"));
     TypeInto(count, L"19");
-    m_manager.PageSelected(Page(idDelta), nullptr); // by a selector that has lost sight of what shows
-    EXPECT_EQ((std::vector{Page(idAlpha)->nCount, Page(idBeta)->nCount}), (std::vector{17, 19}));
+    manager.PageSelected(Page("Delta"), nullptr); // by a selector that has lost sight of what shows
+    EXPECT_EQ((std::vector{Page("Alpha")->nCount, Page("Beta")->nCount}), (std::vector{17, 19}));
 }

@@ -10,12 +10,13 @@ namespace
 struct OpenPage : RecordingPage
 {
     OpenPage() : RecordingPage(L"Beams", nullptr, 1) {}
-    std::vector<int> Flags() const
+    using Ints = std::vector<int>;
+    Ints Flags() const
     {
         return {formatGoreSet, formatDoleSet, formatIzvorSet, duzinaSet,
                 sirinaSet,     debljinaSet,   separatorSet,   polozajSet};
     }
-    std::vector<int> Values() const
+    Ints Values() const
     {
         return {formatGore.nTekstKote,
                 formatDole.nTekstKote,
@@ -29,13 +30,13 @@ struct OpenPage : RecordingPage
     }
     void PreSet(int nGore, int nDole, int nIzvor)
     {
-        CFormatTekstaKote format;
-        format.nTekstKote = nGore;
-        SetFormatGore(format);
-        format.nTekstKote = nDole;
-        SetFormatDole(format);
-        format.nTekstKote = nIzvor;
-        SetFormatIzvor(format);
+        CFormatTekstaKote gore, dole, izvor;
+        gore.nTekstKote = nGore;
+        dole.nTekstKote = nDole;
+        izvor.nTekstKote = nIzvor;
+        SetFormatGore(gore);
+        SetFormatDole(dole);
+        SetFormatIzvor(izvor);
     }
 };
 } // namespace
@@ -45,7 +46,7 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     constexpr int kNotSet = CFormatTekstaKote::kNotSet;
     OpenPage page;
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(page.Flags(), std::vector<int>(8, 0)) << "a text format that is not set is ignored";
+    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 0)) << "a text format that is not set is ignored";
     page.PreSet(1, 2, 3);
     page.SetDuzina({4, 1, 0});
     page.SetSirina({5, 1, 0});
@@ -53,24 +54,19 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     page.SetSeparator(7);
     page.SetPolozaj(-1); // no marker: any position is one
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(page.Flags(), std::vector<int>(8, 1));
+    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 1));
     page.SetIdConf(12);
-    EXPECT_EQ(page.Flags(), std::vector<int>(8, 0)) << "only the flags go";
-    EXPECT_EQ(page.Values(), (std::vector{1, 2, 3, 4, 5, 6, 7, -1, 12}));
-}
+    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 0)) << "only the flags go";
+    EXPECT_EQ(page.Values(), (OpenPage::Ints{1, 2, 3, 4, 5, 6, 7, -1, 12}));
 
-TEST(Page, WithoutADialogItIsANameOnly)
-{
-    OpenPage page;
-    page.ChangeVisibility(true);
-    page.ChangeVisibility(false);
+    for (const bool bVisible : {true, false})
+        page.ChangeVisibility(bVisible);
     page.SendFocusedControlKillFocusMessage();
     page.DrawPreview(nullptr);
-    EXPECT_EQ(NameOf(&page), "Beams");
-    EXPECT_TRUE(page.GetPreviewID() == 0 && page.GetDialogTemplateID() == 0);
+    EXPECT_TRUE(page.GetPreviewID() == 0 && page.GetDialogTemplateID() == 0) << "a name only";
 }
 
-TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApart)
+TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApartAndWhatIsFreedServesTheNext)
 {
     struct LargePage : RecordingPage
     {
@@ -89,21 +85,18 @@ TEST(PageMemory, PagesOfAnySizeLieBelow4GiBAndApart)
         ASSERT_EQ(pages[i]->GetPageID(), i) << "overwritten by another page";
     EXPECT_THROW(CPage::operator new (std::size_t{1} << 33), CMemoryException*);
     EXPECT_EQ(CPage::operator new (std::size_t{1} << 33, std::nothrow), nullptr) << "no room below 4 GiB";
-}
 
-TEST(PageMemory, WhatIsFreedServesTheNextPages)
-{
     struct FailingPage : RecordingPage
     {
         FailingPage() : RecordingPage(L"failing", nullptr, 1) { throw 1; }
     };
-    auto pFirst = std::make_unique<RecordingPage>(L"one", nullptr, 1);
-    const void* const pPlace = pFirst.get();
-    pFirst.reset();
+    const void* const pPlace = pages[399].get();
     for (int i = 0; i < 10; ++i)
     {
+        pages[399].reset();
         EXPECT_THROW(new FailingPage, int);
         EXPECT_THROW(new (std::nothrow) FailingPage, int);
-        ASSERT_EQ(std::make_unique<RecordingPage>(L"one", nullptr, 1).get(), pPlace);
+        pages[399] = std::make_unique<RecordingPage>(L"one", nullptr, 1);
+        ASSERT_EQ(pages[399].get(), pPlace);
     }
 }
