@@ -15,34 +15,32 @@ namespace fs = std::filesystem;
 
 namespace
 {
+constexpr wchar_t kAssertText[] = L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n";
+
 /// Two directories and the drive's root, which is where logs may come to stand; clean before and after.
 class FatalReport : public ::testing::Test
 {
 protected:
-    void SetUp() override
+    FatalReport()
     {
-        m_base = fs::temp_directory_path() / L"owserror_test";
-        fs::remove_all(m_base);
-        fs::create_directories(m_base / L"tmp");
-        fs::create_directories(m_base / L"current");
-        fs::remove_all(RootLog());
+        Clean();
+        fs::create_directories(m_tmp);
+        fs::create_directories(m_current);
     }
-    void TearDown() override
+    ~FatalReport() override { Clean(); }
+    void Clean() const
     {
-        fs::remove_all(RootLog());
+        fs::remove_all(m_rootLog);
         fs::remove_all(m_base);
     }
-
-    fs::path RootLog() const { return m_base.root_path() / L"owserror.log"; }
-    fs::path TmpLog() const { return m_base / L"tmp" / L"owserror.log"; }
-    fs::path CurrentLog() const { return m_base / L"current" / L"owserror.log"; }
-
-    /// In the current directory of the test, and with its other one for TMP if the options say nothing of that.
-    owtest::ChildResult Run(const char* scenario, owtest::ChildOptions options = {}) const
+    /// In the current directory of the test, and with a value for TMP, or without one.
+    owtest::ChildResult Run(const char* scenario, const std::wstring& tmp, const fs::path& program = {}) const
     {
-        options.directory = (m_base / L"current").wstring();
-        if (options.unset.empty())
-            options.environment.emplace(L"TMP", (m_base / L"tmp").wstring());
+        owtest::ChildOptions options{.directory = m_current, .program = program};
+        if (tmp.empty())
+            options.unset = {L"TMP"};
+        else
+            options.environment[L"TMP"] = tmp;
         return owtest::RunChild(scenario, options);
     }
     static std::string Read(const fs::path& path)
@@ -50,24 +48,20 @@ protected:
         std::ifstream file(path);
         return {std::istreambuf_iterator<char>(file), {}};
     }
+    /// A report of the failed assertion.
+    static void ExpectReport(const std::string& log)
+    {
+        static const std::regex s_start(
+            R"(##### BEGINING OF STACK DUMP\n\nDate \[\d\d\.\d\d\.\d{4}\]\nLocal System Time \[\d\d:\d\d\]\n\n)"
+            R"(ASSERT\(1 \+ 1 == 3\)\nFILE: \.\\Sums\nLINE: 12\n\n)");
+        EXPECT_TRUE(std::regex_search(log, s_start, std::regex_constants::match_continuous)) << log;
+        EXPECT_TRUE(log.ends_with("\n##### END OF STACK DUMP\n\n\n\n\n\n\n\n")) << log;
+    }
 
-    fs::path m_base;
+    const fs::path m_base = fs::temp_directory_path() / L"owserror_test", m_tmp = m_base / L"tmp",
+                   m_current = m_base / L"current", m_rootLog = m_base.root_path() / L"owserror.log",
+                   m_tmpLog = m_tmp / L"owserror.log", m_currentLog = m_current / L"owserror.log";
 };
-
-constexpr wchar_t kAssertText[] = L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n";
-constexpr char kAssertReportStart[] =
-    R"(##### BEGINING OF STACK DUMP\n\nDate \[\d\d\.\d\d\.\d{4}\]\nLocal System Time \[\d\d:\d\d\]\n\n)"
-    R"(ASSERT\(1 \+ 1 == 3\)\nFILE: \.\\Sums\nLINE: 12\n\n)";
-constexpr char kReportEnd[] = "\n##### END OF STACK DUMP\n\n\n\n\n\n\n\n";
-
-void ExpectAssertReport(const std::string& log)
-{
-    std::smatch start;
-    EXPECT_TRUE(
-        std::regex_search(log, start, std::regex(kAssertReportStart), std::regex_constants::match_continuous))
-        << log;
-    EXPECT_TRUE(log.ends_with(kReportEnd)) << log;
-}
 } // namespace
 
 OW_CHILD_SCENARIO(failed_assert)
@@ -87,64 +81,53 @@ OW_CHILD_SCENARIO(assert_of_long_expression)
     gfnReportFailedAssert(std::string(5000, 'x').c_str(), ".\\Long", 1);
 }
 
+// The stack text holds the paths of modules, and goes through a format.
 TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
 {
-    const owtest::ChildResult result = Run("failed_assert");
-    owtest::ExpectFailedAssert(result, kAssertText);
-    EXPECT_EQ(result.output, "") << "nothing runs after the report";
-    const std::string log = Read(RootLog());
-    ExpectAssertReport(log);
-    EXPECT_NE(log.find("DialogControlsOW"), log.npos) << "the stack stands between failure and end:\n" << log;
-    EXPECT_FALSE(fs::exists(TmpLog()));
-
-    owtest::ExpectInternalError(Run("internal_error"), L"[.\\Choice : 40]\nNedozvoljena vrednost.");
-    const std::string longer = Read(RootLog());
-    EXPECT_TRUE(longer.starts_with(log)) << "reports are appended";
-    EXPECT_NE(longer.find("ASSERT(L\"Nedozvoljena vrednost.\")\nFILE: .\\Choice\nLINE: 40\n\n"), longer.npos);
-}
-
-// The stack text holds the paths of modules, and goes through a format.
-TEST_F(FatalReport, PercentSignsInTheNameOfAModuleAreWrittenAsTheyStand)
-{
     const fs::path program = fs::path(owtest::ProgramPath()).parent_path() / L"100%s%n.exe";
-    fs::remove(program); // of a run that was broken off
-    fs::copy_file(owtest::ProgramPath(), program);
-    const owtest::ChildResult result = Run("failed_assert", {.program = program.wstring()});
+    fs::copy_file(owtest::ProgramPath(), program, fs::copy_options::overwrite_existing);
+    const owtest::ChildResult result = Run("failed_assert", m_tmp, program);
     fs::remove(program);
     owtest::ExpectFailedAssert(result, kAssertText);
-    const std::string log = Read(RootLog());
-    ExpectAssertReport(log);
-    EXPECT_NE(log.find("100%s%n.exe"), log.npos) << log;
+    EXPECT_EQ(result.output, "") << "nothing runs after the report";
+    const std::string log = Read(m_rootLog);
+    ExpectReport(log);
+    for (const char* module : {"DialogControlsOW", "100%s%n.exe"})
+        EXPECT_NE(log.find(module), log.npos) << "the stack stands between failure and end:\n" << log;
+    EXPECT_FALSE(fs::exists(m_tmpLog));
+
+    owtest::ExpectInternalError(Run("internal_error", m_tmp), L"[.\\Choice : 40]\nNedozvoljena vrednost.");
+    const std::string longer = Read(m_rootLog);
+    EXPECT_TRUE(longer.starts_with(log)) << "reports are appended";
+    EXPECT_NE(longer.find("ASSERT(L\"Nedozvoljena vrednost.\")\nFILE: .\\Choice\nLINE: 40\n\n"), longer.npos);
+
+    EXPECT_EQ(Run("assert_of_long_expression", m_tmp).boxText.size(), 1023u)
+        << "cut in the box, and whole in the log";
+    EXPECT_NE(Read(m_rootLog).find(std::string(5000, 'x')), std::string::npos);
 }
 
 TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeWritten)
 {
-    fs::create_directory(RootLog()); // a directory of that name is in the way
-    Run("failed_assert");
-    ExpectAssertReport(Read(TmpLog()));
-    EXPECT_FALSE(fs::exists(CurrentLog()));
+    fs::create_directory(m_rootLog); // a directory of that name is in the way
+    Run("failed_assert", m_tmp);
+    ExpectReport(Read(m_tmpLog));
+    EXPECT_FALSE(fs::exists(m_currentLog));
 
     for (const bool bRead : {true, false}) // as many characters as are read, and one more
     {
-        fs::remove(TmpLog());
-        std::wstring tmp = (m_base / L"tmp").wstring();
+        fs::remove(m_tmpLog);
+        std::wstring tmp = m_tmp.wstring();
         tmp.resize(bRead ? 249 : 250, L'\\');
-        Run("failed_assert", {.environment = {{L"TMP", tmp}}});
-        EXPECT_TRUE(fs::exists(TmpLog()) == bRead && fs::exists(CurrentLog()) != bRead);
+        Run("failed_assert", tmp);
+        EXPECT_TRUE(fs::exists(m_tmpLog) == bRead && fs::exists(m_currentLog) != bRead);
     }
-    fs::remove(CurrentLog());
-    Run("failed_assert", {.unset = {L"TMP"}});
-    ExpectAssertReport(Read(CurrentLog()));
-    EXPECT_FALSE(fs::exists(TmpLog()));
+    fs::remove(m_currentLog);
+    Run("failed_assert", L"");
+    ExpectReport(Read(m_currentLog));
+    EXPECT_FALSE(fs::exists(m_tmpLog));
 
-    fs::remove(CurrentLog());
-    fs::create_directory(CurrentLog());
-    // The box is shown all the same.
-    owtest::ExpectFailedAssert(Run("failed_assert", {.unset = {L"TMP"}}), kAssertText);
-}
-
-TEST_F(FatalReport, ALongExpressionIsCutInTheBoxAndWholeInTheLog)
-{
-    EXPECT_EQ(Run("assert_of_long_expression").boxText.size(), 1023u);
-    EXPECT_NE(Read(RootLog()).find(std::string(5000, 'x')), std::string::npos);
+    fs::remove(m_currentLog);
+    fs::create_directory(m_currentLog);
+    owtest::ExpectFailedAssert(Run("failed_assert", L""),
+                               kAssertText); // the box is shown all the same
 }
