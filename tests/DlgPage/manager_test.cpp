@@ -124,28 +124,17 @@ TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
     EXPECT_THROW(manager.RegisterAttributeChangedNotification(&unknown, false), CInvalidArgException*);
 }
 
-OW_CHILD_SCENARIO(null_page)
-{
-    CPageManager(nullptr).AddPage(nullptr, nullptr);
-}
-
-OW_CHILD_SCENARIO(parent_that_was_not_added)
-{
-    CPageManager manager(nullptr);
-    manager.AddPage(new RecordingPage(L"twin", nullptr, 1), nullptr);
-    RecordingPage parent(L"parent", nullptr, 1), child(L"child", nullptr, 2);
-    manager.AddPage(&child, &parent);
-}
-
-OW_CHILD_SCENARIO(null_dialog)
-{
-    CPageManager(nullptr).AddDialog(nullptr);
-}
-
-OW_CHILD_SCENARIO(page_dialog_by_class_name)
-{
-    RUNTIME_CLASS(CPageDialog)->CreateObject();
-}
+static const owtest::ScenarioRegistration s_misuses[] = {
+    {"null_page", [] { CPageManager(nullptr).AddPage(nullptr, nullptr); }},
+    {"null_dialog", [] { CPageManager(nullptr).AddDialog(nullptr); }},
+    {"page_dialog_by_class_name", [] { RUNTIME_CLASS(CPageDialog)->CreateObject(); }},
+    {"parent_that_was_not_added", []
+     {
+         CPageManager manager(nullptr);
+         manager.AddPage(new RecordingPage(L"twin", nullptr, 1), nullptr);
+         RecordingPage parent(L"parent", nullptr, 1), child(L"child", nullptr, 2);
+         manager.AddPage(&child, &parent);
+     }}};
 
 TEST(PageMisuse, EndsTheProcessWithAReportOfItsPlace)
 {

@@ -10,23 +10,16 @@ namespace
 struct OpenPage : RecordingPage
 {
     OpenPage() : RecordingPage(L"Beams", nullptr, 1) {}
-    using Ints = std::vector<int>;
-    Ints Flags() const
+    /// The eight flags, and the values.
+    std::string State() const
     {
-        return {formatGoreSet, formatDoleSet, formatIzvorSet, duzinaSet,
-                sirinaSet,     debljinaSet,   separatorSet,   polozajSet};
-    }
-    Ints Values() const
-    {
-        return {formatGore.nTekstKote,
-                formatDole.nTekstKote,
-                formatIzvor.nTekstKote,
-                duzina.nUnitIndex,
-                sirina.nUnitIndex,
-                debljina.nUnitIndex,
-                separator,
-                polozaj,
-                idConf};
+        CStringA strState;
+        strState.Format("%d%d%d%d%d%d%d%d: %d %d %d %d %d %d %d %d %d", formatGoreSet, formatDoleSet,
+                        formatIzvorSet, duzinaSet, sirinaSet, debljinaSet, separatorSet, polozajSet,
+                        formatGore.nTekstKote, formatDole.nTekstKote, formatIzvor.nTekstKote,
+                        duzina.nUnitIndex, sirina.nUnitIndex, debljina.nUnitIndex, separator, polozaj,
+                        idConf);
+        return strState.GetString();
     }
     void PreSet(int nGore, int nDole, int nIzvor)
     {
@@ -46,7 +39,7 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     constexpr int kNotSet = CFormatTekstaKote::kNotSet;
     OpenPage page;
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 0)) << "a text format that is not set is ignored";
+    EXPECT_TRUE(page.State().starts_with("00000000:")) << "a text format that is not set is ignored";
     page.PreSet(1, 2, 3);
     page.SetDuzina({4, 1, 0});
     page.SetSirina({5, 1, 0});
@@ -54,10 +47,9 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     page.SetSeparator(7);
     page.SetPolozaj(-1); // no marker: any position is one
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 1));
+    EXPECT_EQ(page.State(), "11111111: 1 2 3 4 5 6 7 -1 0");
     page.SetIdConf(12);
-    EXPECT_EQ(page.Flags(), OpenPage::Ints(8, 0)) << "only the flags go";
-    EXPECT_EQ(page.Values(), (OpenPage::Ints{1, 2, 3, 4, 5, 6, 7, -1, 12}));
+    EXPECT_EQ(page.State(), "00000000: 1 2 3 4 5 6 7 -1 12") << "only the flags go";
 
     for (const bool bVisible : {true, false})
         page.ChangeVisibility(bVisible);

@@ -49,19 +49,15 @@ inline CRect PlaceOf(const CWnd& dialog, int id)
     return rect;
 }
 
-/// Pixels inside the edge of a button, painted by it, in which one part of the colour is twice another.
+/// Pixels inside the edge of a button, as it shows, in which one part of the colour is twice another.
 inline int CountColoured(CWnd& box, int id)
 {
     constexpr int kEdge = 3;
-    auto* button = static_cast<CButton*>(CWnd::FromHandlePermanent(box.GetDlgItem(id)->m_hWnd));
-    DRAWITEMSTRUCT item{};
-    button->GetClientRect(&item.rcItem);
-    owtest::Surface picture(item.rcItem.right, item.rcItem.bottom);
-    item.CtlType = ODT_BUTTON;
-    item.hwndItem = button->m_hWnd;
-    item.hDC = picture.dc().m_hDC;
-    button->DrawItem(&item);
-
+    CRect rect;
+    box.GetDlgItem(id)->GetWindowRect(rect);
+    owtest::Surface picture(rect.Width(), rect.Height());
+    box.GetDlgItem(id)->UpdateWindow();
+    owtest::Capture(*box.GetDlgItem(id), picture);
     int found = 0;
     for (int y = kEdge; y < picture.height() - kEdge; ++y)
         for (int x = kEdge; x < picture.width() - kEdge; ++x)

@@ -258,30 +258,25 @@ static void PressHidden(unsigned int type, int button)
     Show(type, [=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
 }
 
-static const std::pair<std::function<void()>, const wchar_t*> kMisuses[] = {
-    {[] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
-    {[] { COstrelMessageBox(nullptr).SetButtonText(5, L""); }, L"273]\nVrednost za <n> mora biti od 1 do 4!"},
-    {[] { COstrelMessageBox::MessageBox(L"", L"", MB_OK | 0x50); }, L"194]\nNedozvoljena vrednost."},
-    {[] { COstrelMessageBox::MessageBox(L"", L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); },
-     L"194]\nNedozvoljena vrednost."},
-    {[] { PressHidden(MB_OKCANCEL, kThird); }, L"324]\nNedozvoljena vrednost."},
-    {[] { PressHidden(MB_YESNO, kThird); }, L"330]\nNedozvoljena vrednost."},
-    {[] { PressHidden(MB_YESNOCANCEL, kFourth); }, L"337]\nNedozvoljena vrednost."},
-};
-
-OW_CHILD_SCENARIO(misuse)
-{
-    wchar_t number[4] = L"";
-    ::GetEnvironmentVariableW(L"OW_MISUSE", number, ARRAYSIZE(number));
-    kMisuses[_wtoi(number)].first();
-}
+// By the line of the report.
+static const owtest::ScenarioRegistration s_misuses[] = {
+    {"273", [] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }},
+    {"273-beyond", [] { COstrelMessageBox(nullptr).SetButtonText(5, L""); }},
+    {"194", [] { Show(MB_OK | 0x50, PressEnter); }},
+    {"194-buttons",
+     [] { COstrelMessageBox::MessageBox(L"", L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); }},
+    {"324", [] { PressHidden(MB_OKCANCEL, kThird); }},
+    {"330", [] { PressHidden(MB_YESNO, kThird); }},
+    {"337", [] { PressHidden(MB_YESNOCANCEL, kFourth); }}};
 
 TEST(MessageBoxMisuse, EndsTheProcessWithAReportOfItsPlace)
 {
-    for (size_t i = 0; i < std::size(kMisuses); ++i)
+    for (const char* scenario : {"273", "273-beyond", "194", "194-buttons", "324", "330", "337"})
     {
-        SCOPED_TRACE(i);
-        const auto result = owtest::RunChild("misuse", {.environment = {{L"OW_MISUSE", std::to_wstring(i)}}});
-        owtest::ExpectInternalError(result, std::wstring(L"[.\\OstrelMessageBox : ") + kMisuses[i].second);
+        const std::wstring line(scenario, scenario + 3);
+        const wchar_t* text =
+            line == L"273" ? L"Vrednost za <n> mora biti od 1 do 4!" : L"Nedozvoljena vrednost.";
+        owtest::ExpectInternalError(owtest::RunChild(scenario),
+                                    L"[.\\OstrelMessageBox : " + line + L"]\n" + text);
     }
 }

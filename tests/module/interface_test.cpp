@@ -13,19 +13,16 @@
 
 namespace
 {
-HMODULE Library()
-{
-    return ::GetModuleHandle(L"DialogControlsOW.dll");
-}
+const HMODULE kLibrary = ::GetModuleHandle(L"DialogControlsOW.dll");
 
 BOOL CallEntryPoint(DWORD reason)
 {
-    const auto base = reinterpret_cast<ULONG_PTR>(Library());
-    const auto* headers =
-        reinterpret_cast<IMAGE_NT_HEADERS64*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
-    using EntryPoint = BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID);
-    const auto entry = reinterpret_cast<EntryPoint>(base + headers->OptionalHeader.AddressOfEntryPoint);
-    return entry(Library(), reason, nullptr);
+    const auto* base = reinterpret_cast<const BYTE*>(kLibrary);
+    const auto* headers = reinterpret_cast<const IMAGE_NT_HEADERS64*>(
+        base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    const void* entry = base + headers->OptionalHeader.AddressOfEntryPoint;
+    return reinterpret_cast<BOOL(WINAPI*)(HINSTANCE, DWORD, LPVOID)>(const_cast<void*>(entry))(
+        kLibrary, reason, nullptr);
 }
 
 /// The raw pixels of a bitmap, to tell whether two show the same.
@@ -39,14 +36,14 @@ std::vector<BYTE> Pixels(HBITMAP bitmap)
 }
 
 template <class Picker>
-void ExpectPictures(const std::vector<int>& ids)
+void ExpectPictures(std::vector<int> ids)
 {
     const Picker picker;
     ASSERT_EQ(picker.BitmapCount(), static_cast<int>(ids.size()));
     for (int i = 0; i < picker.BitmapCount(); ++i)
     {
         CBitmap expected;
-        expected.Attach(::LoadBitmap(Library(), MAKEINTRESOURCE(ids[i])));
+        expected.Attach(::LoadBitmap(kLibrary, MAKEINTRESOURCE(ids[i])));
         EXPECT_TRUE(picker.GetBitmap(i) && Pixels(picker.GetBitmap(i)) == Pixels(expected))
             << "picture " << i;
     }
@@ -72,12 +69,10 @@ const std::vector<int> kLineIds = {10076, 10077, 10078, 10079, 10080, 10183, 101
 
 TEST(ModuleInterface, IsOneObjectThatRegistersNothingUnderPlainNames)
 {
-    OwDllInterface* pInterface = OwGetDllInterface();
-    EXPECT_EQ(pInterface->Setup(nullptr), 1);
-    pInterface->InitDocument(nullptr);
-    EXPECT_TRUE(!pInterface->GetClassRegistry() && !pInterface->GetCommandRegistry());
+    EXPECT_EQ(OwGetDllInterface()->Setup(nullptr), 1);
+    EXPECT_FALSE(OwGetDllInterface()->GetClassRegistry() || OwGetDllInterface()->GetCommandRegistry());
     const auto address = [](const char* name)
-    { return reinterpret_cast<void*>(::GetProcAddress(Library(), name)); };
+    { return reinterpret_cast<void*>(::GetProcAddress(kLibrary, name)); };
     EXPECT_EQ(address("OwGetDllInterface"), reinterpret_cast<void*>(&OwGetDllInterface));
     const auto version = reinterpret_cast<unsigned int (*)(unsigned int)>(address("acrxGetApiVersion"));
     ASSERT_NE(version, nullptr);
@@ -95,18 +90,15 @@ TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoadedInTheirSizes)
     EXPECT_EQ(exported, 336);
     EXPECT_EQ(loaded, 102);
 
-    const std::pair<HICON, LONG> sizes[] = {
-        {CButtonST::hIconError, 32}, {CButtonST::h24IconOpen, 24}, {CButtonST::hIconPrfGrI0, 16}};
-    for (const auto& [icon, size] : sizes)
+    for (const auto& [icon, size] : {std::pair{CButtonST::hIconError, 32u},
+                                     {CButtonST::h24IconOpen, 24u},
+                                     {CButtonST::hIconPrfGrI0, 16u}})
     {
         ICONINFO info{};
         EXPECT_TRUE(::GetIconInfo(icon, &info));
-        CBitmap color, mask;
-        color.Attach(info.hbmColor);
-        mask.Attach(info.hbmMask);
-        BITMAP bitmap{};
-        color.GetBitmap(&bitmap);
-        EXPECT_EQ(CSize(bitmap.bmWidth, bitmap.bmHeight), CSize(size, size));
+        EXPECT_EQ(info.xHotspot * 2, size) << "an icon's is its middle";
+        ::DeleteObject(info.hbmColor);
+        ::DeleteObject(info.hbmMask);
     }
 }
 
@@ -153,7 +145,7 @@ TEST(SharedGraphics, CleanupGivesBackFourTablesOfSevenAndASecondAttachLoadsThePi
     CBitmapBtnSTLinija::UnloadBitmaps();
     EXPECT_EQ(left(), 2) << "these are freed by their own class";
     for (const auto load : {&CBitmapBtnSTVisinskaKota::LoadBitmaps, &CBitmapBtnSTLinija::LoadBitmaps})
-        load(Library());
+        load(kLibrary);
     EXPECT_EQ(given() + left(), 7);
     EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
     EXPECT_EQ(AfxGetResourceHandle(), resources) << "loading leaves the host's as it was";
@@ -175,17 +167,13 @@ TEST(ResourceIdPool, IsAStackOfTwoHundredThatSurvivesBeingEmptied)
 OW_CHILD_SCENARIO(pool_exhausted)
 {
     for (int i = 0; i < 201; ++i)
-    {
-        s_pool.AcquireId();
-        std::printf("%d ", i);
-        std::fflush(stdout);
-    }
+        std::printf("%u ", s_pool.AcquireId()), std::fflush(stdout);
 }
 
 TEST(ResourceIdPool, RunningDryIsFatal)
 {
     const owtest::ChildResult result = owtest::RunChild("pool_exhausted");
-    EXPECT_TRUE(result.output.ends_with("199 ")) << result.output;
+    EXPECT_TRUE(result.output.ends_with(" 11000 ")) << result.output;
     owtest::ExpectFailedAssert(result, L"ASSERT(!m_listId.IsEmpty())\n[.\\ResourceIdPool : 37]\n");
 }
 
