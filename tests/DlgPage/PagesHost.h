@@ -61,24 +61,20 @@ inline std::string NameOf(const CPage* pPage)
     return pPage ? std::string(CStringA(pPage->GetTreeItemName())) : "-";
 }
 
-class RecordingPage : public CPage
+struct RecordingPage : CPage
 {
-public:
     RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
     ~RecordingPage() override { Note("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
     const CPageDialog* Dialog() const { return dialog; }
 
     int nCount = 0; ///< what its dialog shows
-
-private:
     int m_nId;
 };
 
 /// A dialog for the count of one page or of several. The page takes the count over when the user leaves the box.
-class RecordingDialog : public CPageDialog, public CEditNNotificationHandler
+struct RecordingDialog : CPageDialog, CEditNNotificationHandler
 {
-public:
     RecordingDialog(UINT nTemplateId, std::string strName, CWnd* pHost)
         : CPageDialog(nTemplateId, pHost), m_strName(std::move(strName))
     {
@@ -114,8 +110,6 @@ public:
         Hear("left " + m_strName);
     }
     using CPageDialog::MyAttributeChanged;
-
-protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_ENABLE)
@@ -126,8 +120,6 @@ protected:
             Note("focus " + m_strName);
         return CPageDialog::WindowProc(message, wParam, lParam);
     }
-
-private:
     std::string m_strName;
 };
 
@@ -224,11 +216,7 @@ public:
         manager.AddDialog(dialogs.back());
         return dialogs.back();
     }
-    CRect GetPageFrame() override
-    {
-        Note("frame");
-        return frame;
-    }
+    CRect GetPageFrame() override { return Note("frame"), frame; }
 
 protected:
     BOOL OnInitDialog() override
@@ -252,8 +240,6 @@ protected:
     }
     void OnOK() override { ++oks; }
     void OnCancel() override { ++cancels; }
-
-private:
     void Fill()
     {
         fields = AddDialog(IDD_FIELDS, "fields");
@@ -274,11 +260,7 @@ private:
 struct OpenPageTree : CPageTreeCtrl
 {
     using CPageTreeCtrl::OnTvnSelchanged, CPageTreeCtrl::PageToItem;
-    INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override
-    {
-        Note("tip?");
-        return -1;
-    }
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override { return Note("tip?"), -1; }
 };
 
 /// An open host.

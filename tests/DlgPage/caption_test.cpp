@@ -97,66 +97,49 @@ TEST_F(Caption, ARepaintCopiesThePictureThatIsThere)
     EXPECT_EQ(m_second.at(239, 0), m_first.at(239, 0)) << "on the gradient made at first";
 }
 
-namespace
-{
-/// The columns of a rectangle that is filled, each of one colour; nothing beyond it is painted.
-std::vector<COLORREF> Columns(decltype(gfnFillGradient) fill, const CRect& rect, COLORREF crLeft)
-{
-    owtest::Surface surface(rect.right + 10, rect.bottom + 2);
-    fill(surface.dc(), rect, crLeft);
-    std::vector<COLORREF> columns;
-    for (int x = rect.left; x < rect.right; ++x)
-    {
-        columns.push_back(surface.at(x, rect.top));
-        EXPECT_EQ(surface.at(x, rect.bottom - 1), columns.back());
-    }
-    const CRect all(0, 0, surface.width(), surface.height());
-    EXPECT_EQ(surface.count(all, RGB(255, 0, 255)), all.right * all.bottom - rect.Width() * rect.Height());
-    return columns;
-}
-
-/// The colours of the bands that fill a rectangle, and their widths.
-using Bands = std::vector<std::pair<COLORREF, int>>;
-Bands BandsOf(const CRect& rect, COLORREF crLeft)
-{
-    Bands bands;
-    for (const COLORREF cr : Columns(gfnFillGradientBands, rect, crLeft))
-    {
-        if (bands.empty() || bands.back().first != cr)
-            bands.push_back({cr, 0});
-        ++bands.back().second;
-    }
-    return bands;
-}
-} // namespace
-
 TEST(Gradient, GoesFromTheColourToThatOfADialogsFace)
 {
     const COLORREF crLeft = RGB(16, 64, 128), crFace = ::GetSysColor(COLOR_BTNFACE);
-    for (const auto& [fill, nStep] : {std::pair{&gfnFillGradient, 2}, {&gfnFillGradientBands, 6}})
-    {
-        const auto columns = Columns(*fill, CRect(3, 2, 195, 10), crLeft);
-        for (int x = 0; x < 192; ++x)
-            for (const int nShift : {0, 8, 16})
-            {
-                const auto channel = [&](COLORREF color) { return static_cast<int>(color >> nShift & 0xFF); };
-                const int nWay = channel(crFace) - channel(crLeft);
-                ASSERT_NEAR(channel(columns[x]), channel(crLeft) + nWay * x / 192, nStep) << x;
-            }
-    }
+    owtest::Surface surface(205, 12);
+    gfnFillGradient(surface.dc(), CRect(3, 2, 195, 10), crLeft);
+    for (int x = 0; x < 192; ++x)
+        for (const int nShift : {0, 8, 16})
+        {
+            const auto channel = [&](COLORREF color) { return static_cast<int>(color >> nShift & 0xFF); };
+            const int nWanted = channel(crLeft) + (channel(crFace) - channel(crLeft)) * x / 192;
+            ASSERT_NEAR(channel(surface.at(3 + x, 2)), nWanted, 2) << x;
+            ASSERT_EQ(surface.at(3 + x, 9), surface.at(3 + x, 2));
+        }
+    EXPECT_EQ(surface.count(CRect(0, 0, 205, 12), RGB(255, 0, 255)), 205 * 12 - 192 * 8) << "nothing beyond";
 }
 
 TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)
 {
-    const auto faceMinus = [](int n) { return ::GetSysColor(COLOR_BTNFACE) - RGB(n, n, n); };
-    const CRect rect(3, 2, 103, 12);
-    EXPECT_EQ(BandsOf(rect, faceMinus(0)), (Bands{{faceMinus(0), 100}})) << "no step: one band";
-    EXPECT_EQ(BandsOf(rect, faceMinus(3)), (Bands{{faceMinus(3), 50}, {faceMinus(2), 50}}));
-    EXPECT_EQ(BandsOf(rect, RGB(255, 255, 255)).size(), 1u) << "downwards counts as no step";
-    for (const COLORREF crFar : {RGB(1, 0, 0), RGB(0, 1, 0), RGB(0, 0, 1)}) // the channel with the most steps
-        EXPECT_EQ(BandsOf(rect, faceMinus(3) - 20 * crFar).size(), 13u);
-    for (const int nWidth : {10, 12}) // bands are at least 4 wide
-        EXPECT_EQ(BandsOf(CRect(0, 0, nWidth, 4), faceMinus(100)),
-                  (Bands{{faceMinus(100), 4}, {faceMinus(67), 4}, {faceMinus(34), nWidth - 8}}));
-    EXPECT_EQ(BandsOf(CRect(2, 0, 2, 4), faceMinus(100)).size(), 0u);
+    const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
+    // Width, colour at the left, width of a band, and their number.
+    const std::tuple<int, COLORREF, int, int> fills[] = {
+        {100, crFace, 100, 1}, // no step
+        {100, crFace - RGB(3, 3, 3), 50, 2},
+        {100, RGB(255, 255, 255), 100, 1},    // downwards counts as no step
+        {100, crFace - RGB(23, 3, 3), 8, 13}, // the channel with the most steps
+        {100, crFace - RGB(3, 23, 3), 8, 13},
+        {100, crFace - RGB(3, 3, 23), 8, 13},
+        {10, crFace - RGB(100, 100, 100), 4, 3}, // at least 4 wide
+        {12, crFace - RGB(100, 100, 100), 4, 3},
+        {0, crFace - RGB(100, 100, 100), 4, 0}};
+    for (const auto& [nWidth, crLeft, nBand, nBands] : fills)
+    {
+        const CRect rect(CPoint(3, 2), CSize(nWidth, 10));
+        owtest::Surface seen(120, 15), wanted(120, 15);
+        gfnFillGradientBands(seen.dc(), rect, crLeft);
+        for (int i = 0; i < nBands; ++i)
+        {
+            const auto channel = [i, n = nBands](int from, int to) { return from + i * (to - from) / n; };
+            const COLORREF cr = RGB(channel(GetRValue(crLeft), GetRValue(crFace)),
+                                    channel(GetGValue(crLeft), GetGValue(crFace)),
+                                    channel(GetBValue(crLeft), GetBValue(crFace)));
+            wanted.dc().FillSolidRect(CRect(CPoint(3 + i * nBand, 2), CSize(nBand, 10)) & rect, cr);
+        }
+        EXPECT_TRUE(seen == wanted) << nWidth << ' ' << nBands;
+    }
 }

@@ -30,6 +30,15 @@ inline Visitor ClickOn(int id)
     return [id](CWnd& box) { owtest::Click(*box.GetDlgItem(id)); };
 }
 
+/// What `open` answers. The visitor has the dialog that it opens.
+inline int Visited(const std::function<int()>& open, const Visitor& visitor)
+{
+    owtest::ModalVisit visit(visitor);
+    const int answer = open();
+    EXPECT_EQ(visit.Count(), 1);
+    return answer;
+}
+
 /// Texts of a dialog and of those of the controls that are shown, with bars between.
 inline std::wstring TextsOf(CWnd& dialog, std::initializer_list<int> ids)
 {

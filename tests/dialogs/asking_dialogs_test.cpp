@@ -12,8 +12,6 @@ namespace
 constexpr int kEdit = 10000, kCombo = 10001;
 constexpr int kFileName = 1148, kFileTypeLabel = 1089, kFileNameLabel = 1090, kFolderLabel = 1091;
 
-using Outcome = std::pair<int, std::wstring>; ///< answer, and name or path
-
 /// The functions that open them; the name dialogs know three names.
 struct Start
 {
@@ -40,38 +38,32 @@ struct Start
 struct Kind
 {
     int box;
-    int (*start)(CString& name, const CString& caption, CWnd* parent);
+    decltype(&Start::Edit) start;
     std::wstring caption, english;
-};
 
-class NameDialog : public testing::TestWithParam<Kind>
-{
-protected:
-    static Outcome Ask(const std::wstring& start, const Visitor& visitor, const CString& caption = L"")
+    /// The name in the end, and the answer.
+    std::wstring Ask(const std::wstring& begins, const Visitor& visitor,
+                     const CString& strCaption = L"") const
     {
-        owtest::ModalVisit visit(visitor);
-        CString name(start.c_str());
-        const int result = GetParam().start(name, caption, nullptr);
-        EXPECT_EQ(visit.Count(), 1);
-        return {result, name.GetString()};
+        CString name(begins.c_str());
+        const int answer = Visited([&] { return start(name, strCaption, nullptr); }, visitor);
+        return name.GetString() + (L": " + std::to_wstring(answer));
     }
-    static Visitor Typing(const std::wstring& text, const Visitor& then)
+    Visitor Typing(const std::wstring& text, const Visitor& then) const
     {
-        return [=](CWnd& dialog)
+        return [=, this](CWnd& dialog)
         {
-            CWnd& box = *dialog.GetDlgItem(GetParam().box);
-            EXPECT_TRUE(::GetFocus() == box || box.IsChild(CWnd::GetFocus()));
+            CWnd& control = *dialog.GetDlgItem(box);
+            EXPECT_TRUE(::GetFocus() == control || control.IsChild(CWnd::GetFocus()));
             owtest::Type(text);
             then(dialog);
         };
     }
 };
-INSTANTIATE_TEST_SUITE_P(Both, NameDialog,
-                         testing::Values(Kind{kEdit, &Start::Edit, L"Naziv", L"Name"},
-                                         Kind{kCombo, &Start::Combo, L"Snimi", L"Save"}));
+const Kind kKinds[] = {{kEdit, &Start::Edit, L"Naziv", L"Name"}, {kCombo, &Start::Combo, L"Snimi", L"Save"}};
 } // namespace
 
-TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
+TEST(NameDialogs, TakeOverANameOnOkAndLeaveItOtherwise)
 {
     const std::wstring wide(60, L'W'), longer(40000, L'l'); // than the box, and than its limit
     const Visitor paste = [&](CWnd& dialog)
@@ -79,47 +71,51 @@ TEST_P(NameDialog, TakesOverANameOnOkAndLeavesItOtherwise)
         ::SendMessage(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(longer.c_str()));
         PressEnter(dialog);
     };
-    const std::tuple<std::wstring, Visitor, Outcome> cases[] = {
-        {L"Roof", PressEnter, {IDOK, L"Roof"}},
-        {L"", Typing(L"Floor 2", PressEnter), {IDOK, L"Floor 2"}}, // not in the list
-        {L"Roof", Typing(L"Floor", ClickOn(IDOK)), {IDOK, L"Floor"}},
-        {L"Roof", Typing(L"Floor", PressEscape), {IDCANCEL, L"Roof"}},
-        {L"Roof", Typing(L"Floor", ClickOn(IDCANCEL)), {IDCANCEL, L"Roof"}},
-        {L"Roof", Typing(L" \b", PressEnter), {IDOK, L""}}, // an empty name is a name
-        {L"", Typing(wide, PressEnter), {IDOK, wide}},
-        {longer, PressEnter, {IDOK, longer}},
-        {L"Roof", paste, {IDOK, longer}}};
-    for (const auto& [start, visitor, outcome] : cases)
-        EXPECT_EQ(Ask(start, visitor), outcome) << &outcome - &std::get<2>(cases[0]);
-}
-
-TEST_P(NameDialog, IsInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
-{
-    const auto textsOf = [](const std::wstring& name, const CString& caption)
+    for (const Kind& kind : kKinds)
     {
-        std::wstring seen;
-        Ask(
-            name,
-            [&](CWnd& dialog) {
-                seen = TextsOf(dialog, {GetParam().box, IDCANCEL});
-            },
-            caption);
-        return seen;
-    };
-    EXPECT_EQ(textsOf(L"Naziv", L""), GetParam().caption + L"|Naziv|Cancel");
-    {
-        const owtest::EnglishTexts english;
-        EXPECT_EQ(textsOf(L"Naziv", L""), GetParam().english + L"|Naziv|Cancel");
-        EXPECT_EQ(textsOf(L"", L"Ucitaj"), L"Ucitaj||Cancel");
+        const std::tuple<std::wstring, Visitor, std::wstring> cases[] = {
+            {L"Roof", PressEnter, L"Roof: 1"},
+            {L"", kind.Typing(L"Floor 2", PressEnter), L"Floor 2: 1"}, // not in the list
+            {L"Roof", kind.Typing(L"Floor", ClickOn(IDOK)), L"Floor: 1"},
+            {L"Roof", kind.Typing(L"Floor", PressEscape), L"Roof: 2"},
+            {L"Roof", kind.Typing(L"Floor", ClickOn(IDCANCEL)), L"Roof: 2"},
+            {L"Roof", kind.Typing(L" \b", PressEnter), L": 1"}, // an empty name is a name
+            {L"", kind.Typing(wide, PressEnter), wide + L": 1"},
+            {longer, PressEnter, longer + L": 1"},
+            {L"Roof", paste, longer + L": 1"}};
+        for (const auto& [begins, visitor, outcome] : cases)
+            EXPECT_TRUE(kind.Ask(begins, visitor) == outcome)
+                << kind.box << CStringA(outcome.substr(0, 20).c_str());
     }
-    const owtest::OtherText other("Cancel", "Odustani");
-    EXPECT_EQ(textsOf(L"", L""), GetParam().caption + L"||Odustani");
-    const auto icons = [](CWnd& dialog)
-    { EXPECT_TRUE(CountColoured(dialog, IDOK) > 10 && CountColoured(dialog, IDCANCEL) > 10); };
-    Ask(L"", icons);
 }
 
-TEST(NameComboDialog, ListsTheNamesAsGiven)
+TEST(NameDialogs, AreInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
+{
+    for (const Kind& kind : kKinds)
+    {
+        const auto texts = [&](const std::wstring& name, const CString& caption)
+        {
+            std::wstring seen;
+            const auto look = [&](CWnd& dialog)
+            {
+                seen = TextsOf(dialog, {kind.box, IDCANCEL});
+                EXPECT_TRUE(CountColoured(dialog, IDOK) > 10 && CountColoured(dialog, IDCANCEL) > 10)
+                    << "icons";
+            };
+            kind.Ask(name, look, caption);
+            return seen;
+        };
+        {
+            const owtest::OtherText other("Cancel", "Odustani");
+            EXPECT_EQ(texts(L"Naziv", L""), kind.caption + L"|Naziv|Odustani");
+        }
+        const owtest::EnglishTexts english;
+        EXPECT_EQ(texts(L"Naziv", L""), kind.english + L"|Naziv|Cancel");
+        EXPECT_EQ(texts(L"", L"Ucitaj"), L"Ucitaj||Cancel");
+    }
+}
+
+TEST(NameDialogs, ListTheNamesAsGiven)
 {
     const auto look = [&](CWnd& dialog)
     {
@@ -130,9 +126,9 @@ TEST(NameComboDialog, ListsTheNamesAsGiven)
         for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
             owtest::Press(key);
     };
-    owtest::ModalVisit visit(look);
     CString name = L"Walls";
-    EXPECT_TRUE(Start::Combo(name, L"", nullptr) == IDOK && name == L"Axes");
+    EXPECT_EQ(Visited([&] { return Start::Combo(name, L"", nullptr); }, look), IDOK);
+    EXPECT_EQ(name, L"Axes");
 }
 
 namespace
@@ -145,14 +141,17 @@ struct Arguments
     const wchar_t *filter = nullptr, *title = nullptr;
 };
 
-Outcome AskFile(const Arguments& given, const Visitor& visitor)
+/// The path in the end, and the answer.
+std::wstring AskFile(const Arguments& given, const Visitor& visitor)
 {
-    owtest::ModalVisit visit(visitor);
     CString path = L"before";
-    const int result = gfnStartTranslatedFileDialog(path, given.open, L"txt", given.name, given.flags,
-                                                    given.filter, nullptr, given.title);
-    EXPECT_EQ(visit.Count(), 1);
-    return {result, path.GetString()};
+    const auto open = [&]
+    {
+        return gfnStartTranslatedFileDialog(path, given.open, L"txt", given.name, given.flags, given.filter,
+                                            nullptr, given.title);
+    };
+    const int answer = Visited(open, visitor);
+    return path.GetString() + (L": " + std::to_wstring(answer));
 }
 
 /// Accepts a name; so it does with a box by which the system refuses it.
@@ -198,14 +197,13 @@ TEST(TranslatedFileDialog, GivesThePathWhateverTheAnswer)
     const auto ask = [&](int open, unsigned long flags, const wchar_t* name) {
         return AskFile({open, start.c_str(), flags | OFN_NOCHANGEDIR, L"Text (*.txt)|*.txt||"}, Accept(name));
     };
-    EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow present.txt"), Outcome(IDOK, present));
-    EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow absent.txt").first, IDCANCEL) << "it stayed open";
-    EXPECT_EQ(ask(FALSE, 0, L"ow plan 2"), Outcome(IDOK, folder / L"ow plan 2.txt"));
+    EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow present.txt"), present + L": 1");
+    EXPECT_TRUE(ask(TRUE, OFN_FILEMUSTEXIST, L"ow absent.txt").ends_with(L": 2")) << "it stayed open";
+    EXPECT_EQ(ask(FALSE, 0, L"ow plan 2"), (folder / L"ow plan 2.txt: 1").wstring());
     std::filesystem::remove(present);
-    EXPECT_EQ(AskFile({}, PressEscape), Outcome(IDCANCEL, L""));
-    EXPECT_EQ(AskFile({.open = FALSE, .name = L"plan.txt"}, PressEscape), Outcome(IDCANCEL, L"plan.txt"));
-    EXPECT_EQ(AskFile({.name = longName.c_str()}, PressEscape),
-              Outcome(IDCANCEL, longName.substr(0, MAX_PATH - 1)));
+    EXPECT_EQ(AskFile({}, PressEscape), L": 2");
+    EXPECT_EQ(AskFile({.open = FALSE, .name = L"plan.txt"}, PressEscape), L"plan.txt: 2");
+    EXPECT_EQ(AskFile({.name = longName.c_str()}, PressEscape), longName.substr(0, MAX_PATH - 1) + L": 2");
 }
 
 TEST(TranslatedFileDialog, CompletesItsFilter)
@@ -245,8 +243,7 @@ TEST(DialogSurroundings, AreTheParentOrTheWindowInFrontAndInTheEndAsBefore)
                 EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 1);
                 EXPECT_NE(AfxGetResourceHandle(), resources);
             };
-            owtest::ModalVisit visit(look);
-            EXPECT_TRUE(start(text, L"", given) == IDCANCEL && visit.Count() == 1);
+            EXPECT_EQ(Visited([&] { return start(text, L"", given); }, look), IDCANCEL);
             EXPECT_TRUE(expected.IsWindowEnabled());
             EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
             EXPECT_EQ(AfxGetResourceHandle(), resources);

@@ -9,94 +9,102 @@
 
 namespace
 {
-const wchar_t* const kOneLine = L"Short message";
-const CString kPangram = L"Dva stuba i tri grede u osi C nisu povezana sa temeljnom gredom. ";
+const std::wstring kPangram = L"Dva stuba i tri grede u osi C nisu povezana sa temeljnom gredom. ";
 
-CString Repeat(const CString& text, int count)
+struct MessageBoxes : ::testing::Test
 {
-    CString repeated;
-    while (count-- > 0)
-        repeated += text;
-    return repeated;
-}
+    static CEdit& MessageOf(CWnd& box) { return *static_cast<CEdit*>(box.GetDlgItem(kMessage)); }
 
-CEdit& MessageOf(CWnd& box)
-{
-    return *static_cast<CEdit*>(box.GetDlgItem(kMessage));
-}
-
-CSize ClientSize(CWnd& box)
-{
-    CRect client;
-    box.GetClientRect(client);
-    return client.Size();
-}
-
-/// Answer and texts of a box that `open` opens.
-using Outcome = std::pair<int, std::wstring>;
-
-Outcome Visit(const std::function<int()>& open, const Visitor& visitor)
-{
-    std::wstring texts;
-    owtest::ModalVisit visit(
-        [&](CWnd& box)
+    /// Texts of the box that `open` opens, and what it answers.
+    static std::wstring Visit(const std::function<int()>& open, const Visitor& visitor)
+    {
+        std::wstring texts;
+        const auto look = [&](CWnd& box)
         {
             texts = TextsOf(box, {kMessage, kFirst, kSecond, kThird, kFourth});
             visitor(box);
             if (box.IsWindowVisible())
                 texts += L" - still open";
-        });
-    const int answer = open();
-    EXPECT_EQ(visit.Count(), 1);
-    return {answer, texts};
-}
-
-Outcome Show(unsigned int type, const Visitor& visitor, const CString& text = L"Text")
-{
-    return Visit([=] { return COstrelMessageBox::MessageBox(text, L"Caption", type); }, visitor);
-}
-
-Outcome ShowFree(std::array<CString, 4> b, const Visitor& visitor)
-{
-    return Visit([=]
-                 { return COstrelMessageBox::MessageBox(L"Greska", L"Snimi", 0, b[0], b[1], b[2], b[3]); },
-                 visitor);
-}
+        };
+        const int answer = Visited(open, look);
+        return texts + L": " + std::to_wstring(answer);
+    }
+    static std::wstring Show(unsigned int type, const Visitor& visitor, const std::wstring& text = L"Text")
+    {
+        return Visit([&] { return COstrelMessageBox::MessageBox(text.c_str(), L"Caption", type); }, visitor);
+    }
+    using Texts = std::array<const wchar_t*, 4>;
+    static std::wstring ShowFree(Texts b, const Visitor& visitor)
+    {
+        return Visit(
+            [=] { return COstrelMessageBox::MessageBox(L"Greska", L"Snimi", 0, b[0], b[1], b[2], b[3]); },
+            visitor);
+    }
+    /// A box of the type in which a button is pressed that it does not show.
+    static void PressHidden(unsigned int type, int button)
+    {
+        Show(type, [=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
+    }
+    /// Whether the text has the least width with the fewest lines, and all else stands around it.
+    static void ExpectArranged(CWnd& box, int left, int buttons)
+    {
+        constexpr int kMargin = 12, kGap = 8;
+        const CRect place = PlaceOf(box, kMessage), button = PlaceOf(box, kFirst);
+        const auto linesAt = [&](int width)
+        {
+            MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
+            return MessageOf(box).GetLineCount();
+        };
+        const int fewest = linesAt(500), row = buttons * (button.Width() + kGap) - kGap;
+        int least = fewest == 1 ? 200 : 205;
+        while (linesAt(least) != fewest)
+            least += 5;
+        EXPECT_EQ(place,
+                  CRect(CPoint(left, kMargin), CSize(std::max(least, row), std::max(39, 13 * fewest))));
+        CRect client;
+        box.GetClientRect(client);
+        EXPECT_EQ(client.BottomRight(), place.BottomRight() + CSize(kMargin, 2 * kMargin + button.Height()));
+        const CPoint first(client.right / 2 - row / 2, place.bottom + kMargin);
+        for (int i = 0; i < buttons; ++i)
+            EXPECT_EQ(PlaceOf(box, i ? kSecond + i - 1 : kFirst).TopLeft(),
+                      first + CSize(i * (button.Width() + kGap), 0));
+    }
+};
 } // namespace
 
-TEST(OstrelMessageBox, AnswersWithTheButtonPressedAsTheSystemsDoes)
+TEST_F(MessageBoxes, AnswerWithTheButtonPressedAsTheSystemsDo)
 {
-    const std::tuple<unsigned int, Visitor, Outcome> cases[] = {
-        {MB_OK, PressEnter, {IDOK, L"OK"}},
-        {MB_OK, PressEscape, {IDOK, L"OK"}}, // there is no other answer
-        {MB_OKCANCEL, PressEnter, {IDOK, L"OK|Cancel"}},
-        {MB_OKCANCEL, PressEscape, {IDCANCEL, L"OK|Cancel"}},
-        {MB_YESNO, PressEnter, {IDYES, L"Yes|No"}},
-        {MB_YESNO, ClickOn(kSecond), {IDNO, L"Yes|No"}},
-        {MB_YESNO, PressEscape, {IDNO, L"Yes|No"}},
-        {MB_YESNOCANCEL, ClickOn(kFirst), {IDYES, L"Yes|No|Cancel"}},
-        {MB_YESNOCANCEL, ClickOn(kSecond), {IDNO, L"Yes|No|Cancel"}},
-        {MB_YESNOCANCEL, ClickOn(kThird), {IDCANCEL, L"Yes|No|Cancel"}},
-        {MB_YESNOCANCEL, PressEscape, {IDCANCEL, L"Yes|No|Cancel"}},
-        {MB_ABORTRETRYIGNORE, PressEscape, {IDOK, L"OK"}}, // buttons that it does not have: OK alone
+    const std::tuple<unsigned int, Visitor, std::wstring> standard[] = {
+        {MB_OK, PressEnter, L"OK: 1"},
+        {MB_OK, PressEscape, L"OK: 1"}, // there is no other answer
+        {MB_OKCANCEL, PressEnter, L"OK|Cancel: 1"},
+        {MB_OKCANCEL, PressEscape, L"OK|Cancel: 2"},
+        {MB_YESNO, PressEnter, L"Yes|No: 6"},
+        {MB_YESNO, ClickOn(kSecond), L"Yes|No: 7"},
+        {MB_YESNO, PressEscape, L"Yes|No: 7"},
+        {MB_YESNOCANCEL, ClickOn(kFirst), L"Yes|No|Cancel: 6"},
+        {MB_YESNOCANCEL, ClickOn(kSecond), L"Yes|No|Cancel: 7"},
+        {MB_YESNOCANCEL, ClickOn(kThird), L"Yes|No|Cancel: 2"},
+        {MB_YESNOCANCEL, PressEscape, L"Yes|No|Cancel: 2"},
+        {MB_ABORTRETRYIGNORE, PressEscape, L"OK: 1"}, // buttons that it does not have: OK alone
     };
-    for (const auto& [type, visitor, outcome] : cases)
-        EXPECT_EQ(Show(type, visitor), Outcome(outcome.first, L"Caption|Text|" + outcome.second)) << type;
+    for (const auto& [type, visitor, outcome] : standard)
+        EXPECT_EQ(Show(type, visitor), L"Caption|Text|" + outcome) << type;
 
-    const std::tuple<std::array<CString, 4>, Visitor, Outcome> own[] = {
-        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kThird), {3, L"Zameni|Sve|Ne|Cancel"}},
-        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kFourth), {4, L"Zameni|Sve|Ne|Cancel"}},
-        {{L"A", L"B", L"", L""}, PressEscape, {2, L"A|B"}}, // the last one
-        {{L"", L"", L"", L""}, PressEnter, {1, L"OK"}},
-        {{L"", L"", L"", L""}, PressEscape, {0, L"OK"}}, // no button has a text
-        {{L"", L"", L"C", L""}, PressEscape, {3, L"OK||C"}}};
+    const std::tuple<Texts, Visitor, std::wstring> own[] = {
+        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kThird), L"Zameni|Sve|Ne|Cancel: 3"},
+        {{L"Zameni", L"Sve", L"Ne", L"Cancel"}, ClickOn(kFourth), L"Zameni|Sve|Ne|Cancel: 4"},
+        {{L"A", L"B", L"", L""}, PressEscape, L"A|B: 2"}, // the last one
+        {{L"", L"", L"", L""}, PressEnter, L"OK: 1"},
+        {{L"", L"", L"", L""}, PressEscape, L"OK: 0"}, // no button has a text
+        {{L"", L"", L"C", L""}, PressEscape, L"OK||C: 3"}};
     for (const auto& [texts, visitor, outcome] : own)
-        EXPECT_EQ(ShowFree(texts, visitor), Outcome(outcome.first, L"Snimi|Greska|" + outcome.second));
+        EXPECT_EQ(ShowFree(texts, visitor), L"Snimi|Greska|" + outcome);
     const owtest::EnglishTexts english;
-    EXPECT_EQ(ShowFree({L"Ucitaj", L"Cancel", L"", L""}, PressEnter), Outcome(1, L"Save|Error|Load|Cancel"));
+    EXPECT_EQ(ShowFree({L"Ucitaj", L"Cancel", L"", L""}, PressEnter), L"Save|Error|Load|Cancel: 1");
 }
 
-TEST(OstrelMessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
+TEST_F(MessageBoxes, HaveIconsOnOkAndCancelOnlyAndTheFocusOnTheFirstButton)
 {
     const auto look = [](CWnd& box)
     {
@@ -115,32 +123,11 @@ TEST(OstrelMessageBox, HasIconsOnOkAndCancelOnlyAndTheFocusOnItsFirstButton)
     ShowFree({L"OK", L"Ok", L"Cancel", L"Cancel all"}, look);
 }
 
-/// Whether the text has the least width with the fewest lines, and all else stands around it.
-static void ExpectArranged(CWnd& box, int left, int buttons)
+TEST_F(MessageBoxes, HaveTheLeastWidthWithTheFewestLines)
 {
-    constexpr int kMargin = 12, kGap = 8;
-    const CRect place = PlaceOf(box, kMessage), button = PlaceOf(box, kFirst);
-    const auto linesAt = [&](int width)
-    {
-        MessageOf(box).SetWindowPos(nullptr, 0, 0, width, 39, SWP_NOMOVE | SWP_NOZORDER);
-        return MessageOf(box).GetLineCount();
-    };
-    const int fewest = linesAt(500), row = buttons * (button.Width() + kGap) - kGap;
-    int least = fewest == 1 ? 200 : 205;
-    while (linesAt(least) != fewest)
-        least += 5;
-    EXPECT_EQ(place, CRect(CPoint(left, kMargin), CSize(std::max(least, row), std::max(39, 13 * fewest))));
-    EXPECT_EQ(ClientSize(box),
-              CSize(place.right, place.bottom + kMargin + button.Height()) + CSize(kMargin, kMargin));
-    const CPoint first(ClientSize(box).cx / 2 - row / 2, place.bottom + kMargin);
-    for (int i = 0; i < buttons; ++i)
-        EXPECT_EQ(PlaceOf(box, i ? kSecond + i - 1 : kFirst).TopLeft(),
-                  first + CSize(i * (button.Width() + kGap), 0));
-}
-
-TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
-{
-    for (const CString& text : {CString(kOneLine), kPangram, Repeat(kPangram, 8), CString(L"One\r\nTwo")})
+    const std::wstring two = kPangram + kPangram, eight = two + two + two + two;
+    for (const std::wstring& text :
+         {std::wstring(L"Short message"), kPangram, eight, std::wstring(L"One\r\nTwo")})
         for (const auto& [type, buttons] : {std::pair{MB_OK, 1}, {MB_YESNO, 2}, {MB_YESNOCANCEL, 3}})
             Show(
                 type, [buttons = buttons](CWnd& box) { ExpectArranged(box, 12, buttons); }, text);
@@ -160,23 +147,26 @@ TEST(MessageBoxSize, IsTheLeastWidthWithTheFewestLines)
                 [&] { return seen.dc().BitBlt(0, 0, 32, 32, &dc, 12, 12, SRCCOPY) && seen == expected; }));
             ExpectArranged(box, 56, 1);
         };
-        Show(MB_OK | type, withIcon, kOneLine);
+        Show(MB_OK | type, withIcon);
     }
 }
 
-TEST(MessageBoxSize, StaysOnTheScreenWithATextThatIsTooLongForIt)
+TEST_F(MessageBoxes, StayOnTheScreenWithATextThatIsTooLongForIt)
 {
-    const CString text = Repeat(kPangram, 10000 / 65 + 1) + L"END";
+    std::wstring text;
+    while (text.size() < 10000)
+        text += kPangram;
     const auto look = [&](CWnd& box)
     {
-        CRect window, work;
+        CRect window, work, client;
         box.GetWindowRect(window);
         ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
         EXPECT_EQ(window & work, window) << "nothing of it is outside";
-        EXPECT_EQ(PlaceOf(box, kSecond).bottom, ClientSize(box).cy - 12);
+        box.GetClientRect(client);
+        EXPECT_EQ(PlaceOf(box, kSecond).bottom, client.bottom - 12);
 
         CEdit& message = MessageOf(box);
-        EXPECT_TRUE(TextOf(message) == text.GetString() && message.GetStyle() & WS_VSCROLL);
+        EXPECT_TRUE(TextOf(message) == text && message.GetStyle() & WS_VSCROLL);
         EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
         EXPECT_EQ(message.GetFirstVisibleLine(), 0);
         owtest::Press(VK_NEXT);
@@ -190,7 +180,7 @@ TEST(MessageBoxSize, StaysOnTheScreenWithATextThatIsTooLongForIt)
 }
 
 // The arrangement as numbers, on screens that are not at hand.
-TEST(MessageBoxSize, FollowsTheScreensResolution)
+TEST_F(MessageBoxes, FollowTheScreensResolution)
 {
     const auto layout = [](int nButtons, double dScale, int nTextWidth, int nTextHeight)
     {
@@ -214,15 +204,15 @@ TEST(MessageBoxSize, FollowsTheScreensResolution)
     EXPECT_EQ(layout(1, 1.0, 200, 39).MaxLines(50), 3) << "the least text stays, whatever the screen";
 }
 
-TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
+TEST_F(MessageBoxes, OfErrorsAreTranslatedWithTheCodeInThem)
 {
+    const auto boxP = [] { return COstrelMessageBox::ErrorBoxP(12); };
     const auto boxL = [] { return COstrelMessageBox::ErrorBoxL(12); };
-    EXPECT_EQ(Visit([] { return COstrelMessageBox::ErrorBoxP(12); }, PressEscape),
-              Outcome(0, L"Greska|Provera zastite programa nije uspela (12).|OK"));
-    EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Greska|Provera licence programa nije uspela (12).|OK"));
+    EXPECT_EQ(Visit(boxP, PressEscape), L"Greska|Provera zastite programa nije uspela (12).|OK: 0");
+    EXPECT_EQ(Visit(boxL, PressEscape), L"Greska|Provera licence programa nije uspela (12).|OK: 0");
     {
         const owtest::EnglishTexts english;
-        EXPECT_EQ(Visit(boxL, PressEscape), Outcome(0, L"Error|The licence check failed (12).|OK"));
+        EXPECT_EQ(Visit(boxL, PressEscape), L"Error|The licence check failed (12).|OK: 0");
     }
     static std::wstring s_box;
     const auto noteBox = [](HWND, LPCWSTR pszText, LPCWSTR pszCaption, UINT nType) -> int
@@ -238,38 +228,33 @@ TEST(ErrorBoxes, AreTranslatedWithTheCodeInThem)
     EXPECT_EQ(systems(0x2FFFFFFF), L"Greska|") << "a code that nobody knows";
 }
 
-TEST(PreparedMessageBox, ShowsWhatItWasGivenAsOftenAsItIsAsked)
+TEST_F(MessageBoxes, ThatArePreparedShowWhatTheyWereGivenAsOftenAsTheyAreAsked)
 {
     OwnerWindow owner;
     COstrelMessageBox box(&owner);
     box.SetButtonText(3, L"Treci");
     EXPECT_EQ(box.DoModal(), 0) << "opens nothing without a text";
-    box.Set(kOneLine, L"Caption");
+    box.Set(L"Text", L"Caption");
     box.SetButtonText(2, L"Drugi");
     const auto show = [&] { return box.DoModal(); };
-    EXPECT_EQ(Visit(show, ClickOn(kThird)), Outcome(3, L"Caption|Short message|OK|Drugi|Treci"));
+    EXPECT_EQ(Visit(show, ClickOn(kThird)), L"Caption|Text|OK|Drugi|Treci: 3");
     owner.DestroyWindow();
-    EXPECT_EQ(Visit(show, PressEscape).first, 0) << "whatever was pressed the last time";
-}
-
-/// A box of the type in which a button is pressed that it does not show.
-static void PressHidden(unsigned int type, int button)
-{
-    Show(type, [=](CWnd& box) { box.SendMessage(WM_COMMAND, MAKEWPARAM(button, BN_CLICKED)); });
+    EXPECT_EQ(Visit(show, PressEscape), L"Caption|Text|OK|Drugi|Treci: 0")
+        << "whatever was pressed the last time";
 }
 
 // By the line of the report.
 static const owtest::ScenarioRegistration s_misuses[] = {
     {"273", [] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }},
     {"273-beyond", [] { COstrelMessageBox(nullptr).SetButtonText(5, L""); }},
-    {"194", [] { Show(MB_OK | 0x50, PressEnter); }},
+    {"194", [] { MessageBoxes::Show(MB_OK | 0x50, PressEnter); }},
     {"194-buttons",
      [] { COstrelMessageBox::MessageBox(L"", L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); }},
-    {"324", [] { PressHidden(MB_OKCANCEL, kThird); }},
-    {"330", [] { PressHidden(MB_YESNO, kThird); }},
-    {"337", [] { PressHidden(MB_YESNOCANCEL, kFourth); }}};
+    {"324", [] { MessageBoxes::PressHidden(MB_OKCANCEL, kThird); }},
+    {"330", [] { MessageBoxes::PressHidden(MB_YESNO, kThird); }},
+    {"337", [] { MessageBoxes::PressHidden(MB_YESNOCANCEL, kFourth); }}};
 
-TEST(MessageBoxMisuse, EndsTheProcessWithAReportOfItsPlace)
+TEST_F(MessageBoxes, ThatAreMisusedEndTheProcessWithAReportOfThePlace)
 {
     for (const char* scenario : {"273", "273-beyond", "194", "194-buttons", "324", "330", "337"})
     {

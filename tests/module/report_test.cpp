@@ -71,15 +71,9 @@ OW_CHILD_SCENARIO(failed_assert)
     std::puts("went on");
 }
 
-OW_CHILD_SCENARIO(internal_error)
-{
-    INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", ".\\Choice", 40);
-}
-
-OW_CHILD_SCENARIO(assert_of_long_expression)
-{
-    gfnReportFailedAssert(std::string(5000, 'x').c_str(), ".\\Long", 1);
-}
+static const owtest::ScenarioRegistration s_others[] = {
+    {"internal_error", [] { INTERNAL_ERROR_AT(L"Nedozvoljena vrednost.", ".\\Choice", 40); }},
+    {"long_expression", [] { gfnReportFailedAssert(std::string(5000, 'x').c_str(), ".\\Long", 1); }}};
 
 // The stack text holds the paths of modules, and goes through a format.
 TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
@@ -101,8 +95,7 @@ TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
     EXPECT_TRUE(longer.starts_with(log)) << "reports are appended";
     EXPECT_NE(longer.find("ASSERT(L\"Nedozvoljena vrednost.\")\nFILE: .\\Choice\nLINE: 40\n\n"), longer.npos);
 
-    EXPECT_EQ(Run("assert_of_long_expression", m_tmp).boxText.size(), 1023u)
-        << "cut in the box, and whole in the log";
+    EXPECT_EQ(Run("long_expression", m_tmp).boxText.size(), 1023u) << "cut in the box, and whole in the log";
     EXPECT_NE(Read(m_rootLog).find(std::string(5000, 'x')), std::string::npos);
 }
 
@@ -128,6 +121,5 @@ TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeW
 
     fs::remove(m_currentLog);
     fs::create_directory(m_currentLog);
-    owtest::ExpectFailedAssert(Run("failed_assert", L""),
-                               kAssertText); // the box is shown all the same
+    owtest::ExpectFailedAssert(Run("failed_assert", L""), kAssertText); // shows all the same
 }
