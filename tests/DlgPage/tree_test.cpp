@@ -2,6 +2,8 @@
 
 #include "PagesHost.h"
 
+#include "Handles.h"
+
 #include <memory>
 
 TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
@@ -77,4 +79,20 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     LRESULT result = 1;
     selector.OnTvnSelchanged(&nothing.hdr, &result);
     EXPECT_TRUE(result == 0 && TakeSelections() == "- after -" && Shown().empty());
+}
+
+TEST(PagesHostLife, OpeningAndClosingGivesBackEverything)
+{
+    owtest::HandleCount before;
+    for (int i = 0; i < 15; ++i)
+    {
+        before = i == 5 ? owtest::CountHandles() : before;
+        PagesHost<OpenPageTree> host;
+        ASSERT_TRUE(host.Open());
+        for (RecordingPage* pPage : host.pages)
+            host.selector.SetCurrentPage(pPage);
+        host.UpdateWindow();
+        owtest::Pump();
+    }
+    EXPECT_EQ(owtest::CountHandles(), before);
 }

@@ -259,4 +259,19 @@ TEST(DialogSurroundings, AreTheParentOrTheWindowInFrontAndInTheEndAsBefore)
         AfxGetApp()->m_pMainWnd = nullptr;
     }
     EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconOk), CButtonST::resultOk) << "the shared icons live on";
+
+    struct Thrower : OwnerWindow // breaks out of the message loop
+    {
+        BOOL PreTranslateMessage(MSG* message) override
+        {
+            return message->message == WM_APP ? throw 1 : FALSE;
+        }
+    } thrower;
+    for (const auto start :
+         {&Start::Box, &Start::Edit, &Start::Combo}) // the fourth one's loop is the system's
+    {
+        thrower.PostMessage(WM_APP);
+        EXPECT_THROW(start(text, L"", nullptr), int);
+        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    }
 }

@@ -74,6 +74,7 @@ struct MessageBoxes : ::testing::Test
 
 TEST_F(MessageBoxes, AnswerWithTheButtonPressedAsTheSystemsDo)
 {
+    // 1 is OK, 2 Cancel, 6 Yes and 7 No.
     const std::tuple<unsigned int, Visitor, std::wstring> standard[] = {
         {MB_OK, PressEnter, L"OK: 1"},
         {MB_OK, PressEscape, L"OK: 1"}, // there is no other answer

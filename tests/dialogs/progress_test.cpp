@@ -201,10 +201,13 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
     {
         Bar().SetVertical(vertical);
         Bar().SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER);
+        pos == 0 ? Bar().UpdateWindow() : void(progress.Update(pos)); // it begins with 0
+        EXPECT_FALSE(Bar().GetUpdateRect(nullptr));
         CRect client;
         Bar().GetClientRect(client);
         const int w = client.right, h = client.bottom, part = std::clamp(pos, 0, 100);
         owtest::Surface seen(w + 1, h + 1, face), wanted(w + 1, h + 1, face);
+        seen.dc().BitBlt(0, 0, w, h, std::make_unique<CClientDC>(&Bar()).get(), 0, 0, SRCCOPY);
         CRect done(2, 2, w - 2, h - 2), rest = done;
         if (vertical)
             done.top = rest.bottom = h - 2 - (h - 4) * part / 100;
@@ -214,8 +217,7 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
             done = rest = CRect();
         CDC& dc = wanted.dc();
         CFont* old = dc.SelectObject(Box()->GetFont());
-        CString text;
-        text.Format(L"%d %%", pos);
+        const CString text = (std::to_wstring(pos) + L" %").c_str();
         const CSize size = dc.GetTextExtent(text);
         const int x = size.cx < w - 4 ? (w - 2 - size.cx - 2) / 2 + 2 : 2;
         const int y = size.cy < h - 4 ? (h - 2 - size.cy - 2) / 2 + 2 : 2;
@@ -227,10 +229,6 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
             dc.ExtTextOut(x, y, ETO_CLIPPED, area, text, nullptr);
         }
         dc.SelectObject(old);
-
-        pos == 0 ? Bar().UpdateWindow() : void(progress.Update(pos)); // it begins with 0
-        EXPECT_FALSE(Bar().GetUpdateRect(nullptr));
-        seen.dc().BitBlt(0, 0, w, h, std::make_unique<CClientDC>(&Bar()).get(), 0, 0, SRCCOPY);
         EXPECT_TRUE(seen == wanted) << pos;
     }
 }

@@ -68,6 +68,18 @@ public:
     }
 
 protected:
+    /// What a room looks at after each step.
+    virtual std::string State() { return {}; }
+    using Step = std::pair<std::function<void()>, const char*>;
+    void Play(std::initializer_list<Step> steps)
+    {
+        for (int nStep = 0; const auto& [step, state] : steps)
+        {
+            step();
+            EXPECT_EQ(State(), state) << "step " << nStep;
+            ++nStep;
+        }
+    }
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();

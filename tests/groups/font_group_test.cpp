@@ -65,7 +65,7 @@ protected:
         return strText.GetString();
     }
     /// What was told since the last time, each with its record; then the font, height, boxes and colour's number seen.
-    std::string State()
+    std::string State() override
     {
         std::string state = std::exchange(calls, {}) + NameOf(owtest::TextOf(Combo()).c_str()) + ' ' +
                             Seen({idHeight, idCheck1, idCheck2, idCheck3});
@@ -105,7 +105,7 @@ protected:
 TEST_F(FontGroup, StoresEachChangeOfTheUserAndThenTellsIt)
 {
     const auto otherClass = [&] { group.OnFontSelected(idFont, L"romans", eFontSHX); };
-    const std::pair<std::function<void()>, const char*> steps[] = {
+    Play({
         {[&] { Choose(2); }, "F2 3.50 30 101 0; F2 3.5 1 0 - 30"},
         {[&] { TypeInto(idHeight, L"7"); }, "F2 7 1 0 - 30"},
         {[&] { Click(idElsewhere); }, "F2 7.00 30 101 0; F2 7.0 1 0 - 30"}, // the edit is left
@@ -128,12 +128,7 @@ TEST_F(FontGroup, StoresEachChangeOfTheUserAndThenTellsIt)
         {[&] { group.OnEditNKillFocus(idElsewhere); }, "F3 7.0 1- 0 - 142"},
         {[&] { group.OnAcadColorChosen(idElsewhere, 1); }, "F3 7.0 1- 0 - 142"},
         {[&] { group.OnButtonClicked(idElsewhere); }, "F3 7.0 1- 0 - 142"},
-    };
-    for (const auto& [change, state] : steps)
-    {
-        change();
-        EXPECT_EQ(State(), state);
-    }
+    });
     EXPECT_EQ(Text(record), "romans 7.00 142 110 1; ");
     EXPECT_TRUE(owtest::TextOf((*this)[idApply]).empty() && ShowsPicture(idApply)) << "its icon";
     struct FontList : CFontSelectionComboBox
@@ -165,18 +160,18 @@ TEST_F(FontGroup, ShowsARecordAndTellsNobody)
 
 TEST_F(FontGroup, WithoutARecordStoresNothingAndCallsNobody)
 {
-    group.SetFontSource(nullptr);
-    EXPECT_EQ(State(), "F1 3.5 1 0 - 30");
-    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    EXPECT_FALSE(ChooseColor(L"9")) << "the button opens nothing";
-    Choose(2);
-    TypeInto(idHeight, L"7");
-    PressSpin();
-    for (const int id : {idCheck1, idCheck2, idApply})
-        Click(id);
-    group.OnAcadColorChosen(idColor, 9);
+    Play({{[&] { group.SetFontSource(nullptr); }, "F1 3.5 1 0 - 30"},
+          {[&] { RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN); },
+           "F1 3.5 1 0 - 30"},
+          {[&] { EXPECT_FALSE(ChooseColor(L"9")); }, "F1 3.5 1 0 - 30"}, // the button opens nothing
+          {[&] { Choose(2); }, "F2 3.5 1 0 - 30"},
+          {[&] { TypeInto(idHeight, L"7"); }, "F2 7 1 0 - 30"},
+          {[&] { PressSpin(); }, "F2 7.5 1 0 - 30"},
+          {[&] { Click(idCheck1); }, "F2 7.5 0 0 - 30"},
+          {[&] { Click(idCheck2); }, "F2 7.5 0 1 - 30"},
+          {[&] { Click(idApply); }, "F2 7.5 0 1 - 30"},
+          {[&] { group.OnAcadColorChosen(idColor, 9); }, "F2 7.5 0 1 - 30"}});
     EXPECT_EQ(Text(record), "F1 3.50 30 101 0; ");
-    EXPECT_EQ(State(), "F2 7.5 0 1 - 30") << "the controls work";
 }
 
 TEST_F(FontGroup, ComesBackWithTheNextWindowAndNeedsItsControlsAndNoHandler)

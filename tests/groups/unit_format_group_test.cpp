@@ -47,16 +47,8 @@ protected:
         EXPECT_TRUE(pGroup == &group && pFormat == &record);
         calls += ", " + std::to_string(nSource) + ": " + Text(record);
     }
-    /// A change of each control by the user: the next unit, the button, and 7 decimals.
-    void ChangeAll()
-    {
-        Press(idCombo, VK_DOWN);
-        Click(idButton);
-        TypeInto(idEdit, L"7");
-        Click(idElsewhere);
-    }
     /// What the user sees, the record, and the sources and records of what was told since the last time.
-    std::string State()
+    std::string State() override
     {
         return Seen({idCombo, idButton, idEdit}) + " | " + Text(record) + std::exchange(calls, {});
     }
@@ -84,65 +76,54 @@ TEST_F(UnitFormatGroup, ShowsFormatsWithinWhatTheControlsTake)
 
 TEST_F(UnitFormatGroup, TellsEachSourceAfterStoringButTypingBefore)
 {
-    ChangeAll();
-    Click(idEdit);
-    Click(idElsewhere); // is told also if nothing was typed
-    EXPECT_EQ(State(), "in 0 7 | 4 0 7, 0: 4 1 4, 1: 4 0 4, 2: 4 0 4, 3: 4 0 7, 3: 4 0 7");
-    group.OnExtComboBoxSelChanged(idElsewhere, 0);
-    group.OnEditNChange(idElsewhere);
-    group.OnEditNKillFocus(idElsewhere);
-    CheckDlgButton(idButton, 1);
-    group.OnButtonClicked(idElsewhere);
-    EXPECT_EQ(State(), "in 1 7 | 4 0 7");
+    Play({{[&] { Press(idCombo, VK_DOWN); }, "in 1 4 | 4 1 4, 0: 4 1 4"},
+          {[&] { Click(idButton); }, "in 0 4 | 4 0 4, 1: 4 0 4"},
+          {[&] { TypeInto(idEdit, L"7"); }, "in 0 7 | 4 0 4, 2: 4 0 4"},
+          {[&] { Click(idElsewhere); }, "in 0 7 | 4 0 7, 3: 4 0 7"},
+          {[&] { Click(idEdit); }, "in 0 7 | 4 0 7"},
+          {[&] { Click(idElsewhere); }, "in 0 7 | 4 0 7, 3: 4 0 7"}, // also if nothing was typed
+          {[&] { group.OnExtComboBoxSelChanged(idElsewhere, 0); }, "in 0 7 | 4 0 7"},
+          {[&] { group.OnEditNChange(idElsewhere); }, "in 0 7 | 4 0 7"},
+          {[&] { group.OnEditNKillFocus(idElsewhere); }, "in 0 7 | 4 0 7"},
+          {[&] { CheckDlgButton(idButton, 1); }, "in 1 7 | 4 0 7"},
+          {[&] { group.OnButtonClicked(idElsewhere); }, "in 1 7 | 4 0 7"}});
 }
 
 TEST_F(UnitFormatGroup, ShowsThatObjectsHaveNothingInCommonUntilAClick)
 {
-    Reopen(BS_3STATE);
-    EXPECT_EQ(State(), "dm 0 4 | 3 1 4") << "the units are listed again";
-    record.nCheckFlag = 0;
-    group.Update(true, false);
-    EXPECT_EQ(State(), " 2  | 3 0 4");
-    group.Update(false, false);
-    EXPECT_EQ(State(), "mm 2  | 2 1 4") << "entry 2, on, and the last number";
-    record.nUnitIndex = 5;
-    group.Update(true, true);
-    EXPECT_EQ(State(), "ft 1 4 | 5 1 4") << "the same number ends the empty state";
-    record.nUnitIndex = 0;
-    group.Update(false, true);
-    EXPECT_EQ(State(), "ft 1 4 | 5 1 4");
-
-    group.Update(true, false);
-    Click(idButton);
-    EXPECT_EQ(State(), " 1  | 5 0 4, 1: 5 0 4") << "the state before the click";
-    Click(idButton);
-    EXPECT_EQ(State(), " 0  | 5 1 4, 1: 5 1 4");
-    group.OnButtonClicked(idElsewhere);
-    EXPECT_EQ(State(), " 1  | 5 1 4") << "toggled for any id";
-    Reopen(BS_AUTO3STATE);
-    group.Update(true, false);
-    Click(idButton);
-    EXPECT_EQ(Seen({idButton}), "0") << "the one that toggles by itself is left alone";
+    Play({{[&] { Reopen(BS_3STATE); }, "dm 0 4 | 3 1 4"}, // the units are listed again
+          {[&] { record.nCheckFlag = 0; }, "dm 0 4 | 3 0 4"},
+          {[&] { group.Update(true, false); }, " 2  | 3 0 4"},
+          {[&] { group.Update(false, false); }, "mm 2  | 2 1 4"}, // entry 2, on, and the last number
+          {[&] { record.nUnitIndex = 5; }, "mm 2  | 5 1 4"},
+          {[&] { group.Update(true, true); }, "ft 1 4 | 5 1 4"}, // the same number ends the empty state
+          {[&] { record.nUnitIndex = 0; }, "ft 1 4 | 0 1 4"},
+          {[&] { group.Update(false, true); }, "ft 1 4 | 5 1 4"},
+          {[&] { group.Update(true, false); }, " 2  | 5 1 4"},
+          {[&] { Click(idButton); }, " 1  | 5 0 4, 1: 5 0 4"}, // the state before the click
+          {[&] { Click(idButton); }, " 0  | 5 1 4, 1: 5 1 4"},
+          {[&] { group.OnButtonClicked(idElsewhere); }, " 1  | 5 1 4"}, // toggled for any id
+          {[&] { Reopen(BS_AUTO3STATE); }, "ft 0  | 5 1 4"},
+          {[&] { group.Update(true, false); }, " 2  | 5 1 4"},
+          {[&] { Click(idButton); }, " 0  | 5 0 4, 1: 5 0 4"}}); // toggles by itself
 }
 
 TEST_F(UnitFormatGroup, IsSilentWithoutARecordAndShowsAndEnablesAllThree)
 {
-    group.SetFormatSource(nullptr);
+    Play({{[&] { group.SetFormatSource(nullptr); }, " 1 4 | 3 1 4"},
+          {[&] { Press(idCombo, VK_DOWN); }, " 1 4 | 3 1 4"},
+          {[&] { Click(idButton); }, " 0 4 | 3 1 4"},
+          {[&] { TypeInto(idEdit, L"7"); }, " 0 7 | 3 1 4"},
+          {[&] { Click(idElsewhere); }, " 0 7 | 3 1 4"},
+          {[&] { group.Update(true, true); }, " 0 7 | 3 1 4"},
+          {[&] { group.Update(false, true); }, " 0 7 | 3 1 4"}});
     EXPECT_EQ((*this)[idCombo].SendMessage(CB_GETCOUNT), 0);
-    ChangeAll();
-    group.Update(true, true);
-    group.Update(false, true);
-    EXPECT_EQ(State(), " 0 7 | 3 1 4");
     EXPECT_EQ(Text(group.GetCtrlState()), "-1 0 7") << "the controls work";
-    group.SetFormatSource(&record);
-    EXPECT_EQ(State(), "dm 0 7 | 3 1 4") << "the unit at once, the others by Update";
-
-    group.Enable(FALSE);
-    EXPECT_EQ(State(), "dm- 0- 7- | 3 1 4");
-    group.Display(TRUE);
-    EXPECT_EQ(State(), "dm 0 7 | 3 1 4") << "a group that is shown is enabled, too";
-    group.Display(FALSE);
-    EXPECT_EQ(State(), "- - - | 3 1 4");
+    Play({{[&] { group.SetFormatSource(&record); },
+           "dm 0 7 | 3 1 4"}, // the unit at once, the others by Update
+          {[&] { group.Enable(FALSE); }, "dm- 0- 7- | 3 1 4"},
+          {[&] { group.Display(TRUE); }, "dm 0 7 | 3 1 4"}, // a group that is shown is enabled, too
+          {[&] { group.Display(FALSE); }, "- - - | 3 1 4"}});
 }
 
 TEST_F(UnitFormatGroup, LeavesTheRecordAloneWithoutWindowsAndTheListWithoutARecord)
