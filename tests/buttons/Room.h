@@ -1,14 +1,14 @@
 #pragma once
-// What the tests of buttons share: a dialog that writes down what they tell, and buttons by themselves.
+// What the tests of buttons share: images, buttons by themselves, and a dialog that writes down what they tell.
 
 #include <DialogControlsOW.h>
 
 #include "DialogTemplate.h"
+#include "Handles.h"
 #include "Input.h"
 #include "MenuVisit.h"
 #include "Picture.h"
-
-#include "resource.h"
+#include "module/GdiScope.h"
 
 #include <gtest/gtest.h>
 
@@ -20,12 +20,73 @@
 #include <utility>
 #include <vector>
 
-using Calls = std::vector<std::string>;
 using owtest::Surface;
 
+constexpr int IDC_CROSSHAIR = 200, IDS_TEXT = 300, IDI_STATE = 400; // as in buttons.rc
 constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255);
 constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255);
 constexpr COLORREF kKey = RGB(255, 0, 255); ///< transparent colour of bitmaps, and what a new surface has
+
+// ---- Images ---------------------------------------------------------------------------------------------------------
+
+using Pixels = std::vector<DWORD>; ///< 0xAARRGGBB, row by row from the top
+
+/// The pixel of a colour, without its alpha.
+constexpr DWORD PixelOf(COLORREF cr)
+{
+    return RGB(GetBValue(cr), GetGValue(cr), GetRValue(cr));
+}
+
+/// One colour inside, another in a frame.
+inline Pixels Framed(CSize size, DWORD inside, DWORD outside, int frame = 2)
+{
+    Pixels pixels;
+    const CRect rect(frame, frame, size.cx - frame, size.cy - frame);
+    for (int i = 0; i < size.cx * size.cy; ++i)
+        pixels.push_back(rect.PtInRect(CPoint(i % size.cx, i / size.cx)) ? inside : outside);
+    return pixels;
+}
+
+using Icon = std::unique_ptr<std::remove_pointer_t<HICON>, decltype(&::DestroyIcon)>;
+
+/// Of 32 bits; where a pixel is 0 it is transparent.
+inline Icon MakeIcon(CSize size, const Pixels& pixels)
+{
+    CBitmap color, transparent; // the alpha channel says it all
+    color.CreateBitmap(size.cx, size.cy, 1, 32, pixels.data());
+    transparent.CreateBitmap(size.cx, size.cy, 1, 1, Pixels(pixels.size()).data());
+    ICONINFO info{TRUE, 0, 0, transparent, color};
+    return Icon(::CreateIconIndirect(&info), &::DestroyIcon);
+}
+
+/// Of one colour, with a transparent frame.
+inline Icon MakeIcon(int size, COLORREF cr, int frame = 2)
+{
+    return MakeIcon(CSize(size, size), Framed(CSize(size, size), 0xFF000000 | PixelOf(cr), 0, frame));
+}
+
+inline bool IsIcon(HICON hIcon)
+{
+    return ::DestroyIcon(::CopyIcon(hIcon));
+}
+
+/// One colour inside, another in a frame. The caller's.
+inline HBITMAP MakeBitmap(CSize size, COLORREF cr, COLORREF crFrame)
+{
+    return ::CreateBitmap(size.cx, size.cy, 1, 32, Framed(size, PixelOf(cr), PixelOf(crFrame)).data());
+}
+
+inline Pixels PixelsOf(HBITMAP hBitmap)
+{
+    BITMAP info{};
+    ::GetObject(hBitmap, sizeof(info), &info);
+    Pixels pixels(static_cast<size_t>(info.bmWidth) * info.bmHeight);
+    BITMAPINFO header{{sizeof(BITMAPINFOHEADER), info.bmWidth, -info.bmHeight, 1, 32, 0, 0, 0, 0, 0, 0}, {}};
+    ::GetDIBits(CWindowDC(nullptr), hBitmap, 0, info.bmHeight, pixels.data(), &header, DIB_RGB_COLORS);
+    return pixels;
+}
+
+// ---- Buttons --------------------------------------------------------------------------------------------------------
 
 /// A button whose inner state a test may look at and set.
 template <class Button = CButtonST>
@@ -69,27 +130,27 @@ bool Repaints(CWnd& window, const Action& action)
     return window.GetUpdateRect(nullptr) != FALSE;
 }
 
-/// A control by itself, on a parent that is not shown.
+/// A control by itself, on a parent that is not shown and has a black ground.
 template <class Button>
-class Lone
+struct Lone
 {
-public:
-    explicit Lone(CSize size, LPCTSTR pszTitle = _T(""), DWORD dwType = BS_PUSHBUTTON)
+    explicit Lone(CSize size, LPCTSTR pszTitle = L"", DWORD dwType = BS_PUSHBUTTON)
     {
-        m_parent.CreateEx(0, AfxRegisterWndClass(0), _T(""), WS_POPUP, CRect(0, 0, 600, 200), nullptr, 0);
-        button.SubclassWindow(::CreateWindow(_T("BUTTON"), pszTitle, WS_CHILD | WS_VISIBLE | dwType, 10, 10,
-                                             size.cx, size.cy, m_parent, nullptr, nullptr, nullptr));
+        parent.CreateEx(0, AfxRegisterWndClass(0, nullptr, HBRUSH(::GetStockObject(BLACK_BRUSH))), L"",
+                        WS_POPUP, CRect(0, 0, 600, 200), nullptr, 0);
+        button.SubclassWindow(::CreateWindow(L"BUTTON", pszTitle, WS_CHILD | WS_VISIBLE | dwType, 10, 10,
+                                             size.cx, size.cy, parent, nullptr, nullptr, nullptr));
     }
-    ~Lone() { m_parent.DestroyWindow(); }
+    ~Lone() { parent.DestroyWindow(); }
 
     Button button;
-
-private:
-    CWnd m_parent;
+    CWnd parent;
 };
 
-/// A dialog for controls of any kind. Writes down what they tell, "told 1001" or with a value "told 1001 5",
-/// and the clicks that it receives itself, "dialog 1001".
+// ---- The dialog -----------------------------------------------------------------------------------------------------
+
+/// Writes down what controls tell, "told 1001; " or with a value "told 1001 5; ", and the clicks that it receives
+/// itself, "dialog 1001; ".
 class Room : public CDialog,
              public AButtonSTNotificationHandler,
              public ABitmapBtnSTNotificationHandler,
@@ -103,45 +164,42 @@ public:
     {
         CWnd* pControl;
         DWORD style = BS_PUSHBUTTON;
-        LPCWSTR title = L"";
-        LPCWSTR windowClass = L"BUTTON";
+        LPCWSTR title = L"", windowClass = L"BUTTON";
         DWORD exStyle = 0;
     };
     std::vector<Control> controls; ///< what Open makes; ids count from 1001
+    std::string calls;
+    HBRUSH hBrush = nullptr;            ///< what it answers reflected buttons that ask for one
+    int erases = 0;                     ///< of its background
+    std::function<void()> then = [] {}; ///< at the end of each handler
 
     ~Room() override { DestroyWindow(); }
 
     void Open()
     {
         owtest::DialogTemplate form(L"Buttons", 200, 130);
-        for (short i = 0; i < std::ssize(controls); ++i)
+        for (short i = 0; const auto& [pControl, style, title, windowClass, exStyle] : controls)
         {
-            const auto& [pControl, style, title, windowClass, exStyle] = controls[i];
             form.Item(windowClass, title, 1001 + i, style | WS_TABSTOP, 10 + i % 2 * 90, 10 + i / 2 * 20, 80,
                       14, exStyle);
+            ++i;
         }
         EXPECT_TRUE(CreateIndirect(form.get(), nullptr));
-        for (int i = 0; i < std::ssize(controls); ++i)
-            EXPECT_TRUE(controls[i].pControl->SubclassDlgItem(1001 + i, this));
+        for (int nId = 1001; const Control& control : controls)
+            EXPECT_TRUE(control.pControl->SubclassDlgItem(nId++, this));
         SetWindowPos(nullptr, 100, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_SHOWWINDOW);
         EXPECT_TRUE(owtest::Activate(m_hWnd));
         owtest::MoveTo(*this, CPoint(1, 1)); // no button is under the mouse
     }
-    Calls Take() { return std::exchange(calls, {}); }
+    std::string Take() { return std::exchange(calls, {}); }
 
-    Calls calls;
-    HBRUSH hBrush = nullptr;            ///< what it answers reflected buttons that ask for one
-    int erases = 0;                     ///< of its own background
-    int behind = 0;                     ///< of what lies behind a control
-    std::function<void()> then = [] {}; ///< at the end of each handler
-
-    void OnButtonClicked(int nId) override { Told(std::to_string(nId)); }
-    void OnBitmapChosen(int nId, int n) override { Told(std::to_string(nId) + ' ' + std::to_string(n)); }
+    void OnButtonClicked(int nId) override { Told(nId); }
+    void OnBitmapChosen(int nId, int n) override { Told(nId, ' ' + std::to_string(n)); }
     void OnTextChosen(int nId, int nIndex) override { OnBitmapChosen(nId, nIndex); }
     void OnColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }
     void OnAcadColorChosen(int nId, int nColor) override { OnBitmapChosen(nId, nColor); }
-    void ButtonReflectedOnClicked(int nId) override { calls.push_back("clicked " + std::to_string(nId)); }
-    void ButtonReflectedOnDoubleclicked(int nId) override { calls.push_back("twice " + std::to_string(nId)); }
+    void ButtonReflectedOnClicked(int nId) override { Note("clicked ", nId); }
+    void ButtonReflectedOnDoubleclicked(int nId) override { Note("twice ", nId); }
     HBRUSH ButtonReflectedOnCtlColor(int nId, CDC* pDC, unsigned int nCtlColor) override
     {
         return pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1005 ? hBrush : nullptr;
@@ -149,29 +207,29 @@ public:
     void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
     {
         EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
-        calls.push_back((LOWORD(message) == WM_CREATE ? "created " : "destroyed ") + std::to_string(nId));
+        Note(LOWORD(message) == WM_CREATE ? "created " : "destroyed ", nId);
     }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == WM_ERASEBKGND)
-            ++(::WindowFromDC(reinterpret_cast<HDC>(wParam)) == m_hWnd ? erases : behind);
+        erases += message == WM_ERASEBKGND && ::WindowFromDC(reinterpret_cast<HDC>(wParam)) == m_hWnd;
         return CDialog::WindowProc(message, wParam, lParam);
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
         if ((nCode == BN_CLICKED || nCode == BN_DOUBLECLICKED) && !pHandlerInfo)
-            calls.push_back("dialog " + std::to_string(nID));
+            Note("dialog ", nID);
         return CDialog::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
     }
     void OnOK() override {}
     void OnCancel() override {}
 
 private:
-    void Told(const std::string& what)
+    void Note(const std::string& what, int nId) { calls += what + std::to_string(nId) + "; "; }
+    void Told(int nId, const std::string& value = "")
     {
-        calls.push_back("told " + what);
+        calls += "told " + std::to_string(nId) + value + "; ";
         const auto last = then; // which may be the end of this dialog
         last();
     }
@@ -181,27 +239,28 @@ private:
 class InRoom : public ::testing::Test
 {
 protected:
+    using Visitors = std::vector<owtest::MenuVisit::Visitor>;
+
     void SetUp() override { m_room.Open(); }
     void TearDown() override { m_room.DestroyWindow(); }
 
+    /// What is told of what is done.
+    std::string CallsOf(const std::function<void()>& action) { return action(), m_room.Take(); }
+    std::string Click(CWnd& button) { return owtest::Click(button), m_room.Take(); }
+    std::string Press(WORD nKey) { return owtest::Press(nKey), m_room.Take(); }
+
     /// Opens a button's menu by a key or, without one, by a click, works on it, and answers what was told.
-    Calls Visit(CWnd& button, std::vector<owtest::MenuVisit::Visitor> visitors, WORD nOpener = 0)
+    std::string Visit(CWnd& button, const Visitors& visitors, WORD nOpener = 0)
     {
-        const int nVisitors = static_cast<int>(visitors.size());
-        owtest::MenuVisit visit(std::move(visitors));
-        if (nOpener)
-        {
-            owtest::QueueKey(nOpener); // down and up
-            owtest::Pump();
-        }
-        else
-            owtest::Click(button);
-        EXPECT_EQ(visit.Count(), nVisitors);
+        owtest::MenuVisit visit(visitors);
+        nOpener ? owtest::QueueKey(nOpener) : owtest::Click(button);
+        owtest::Pump();
+        EXPECT_EQ(visit.Count(), std::ssize(visitors));
         return m_room.Take();
     }
     static bool ShowsFocus(CButton& button)
     {
-        return ::GetFocus() == button.m_hWnd && (button.GetState() & BST_FOCUS);
+        return ::GetFocus() == button && (button.GetState() & BST_FOCUS);
     }
 
     Room m_room;

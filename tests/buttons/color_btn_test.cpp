@@ -4,7 +4,6 @@
 #include "ModalVisit.h"
 #include "OtherText.h"
 #include "Room.h"
-#include "module/GdiScope.h"
 
 #include <acdocman.h>
 #include <afxdlgs.h>
@@ -15,7 +14,7 @@ constexpr COLORREF kNewColor = RGB(1, 2, 3);
 constexpr UINT kFirstCell = 10153;
 constexpr int kRedCell = 13, kOther = 20; ///< parts of the pop-up
 
-using Script = std::function<void(CWnd&)>;
+using Script = std::function<void(CWnd& popup)>;
 
 struct OpenAcadButton : Open<CAcadColorBtnST>
 {
@@ -25,32 +24,12 @@ struct OpenAcadButton : Open<CAcadColorBtnST>
 struct RgbButton : Open<CColorBtnST>
 {
     using Open::Open;
-    void OnClickedHook() override { static_cast<Room*>(GetParent())->calls.push_back("hook"); }
+    void OnClickedHook() override { static_cast<Room*>(GetParent())->calls += "hook; "; }
 };
 
 HWND Part(CWnd& popup, int nIndex)
 {
     return popup.GetDlgItem(kFirstCell + nIndex)->m_hWnd;
-}
-
-/// Whether the pop-up gets so far: open, with the mouse; or over.
-bool Becomes(bool bOpen, CWnd& popup)
-{
-    return owtest::PumpUntil(
-        [&] { return !popup.ContinueModal() == !bOpen && (CWnd::GetCapture() == &popup) == bOpen; });
-}
-
-/// What chooses the nth part by the mouse, and by "Other...".
-Script ClickOn(int nPart)
-{
-    return [=](CWnd& popup) { owtest::Click(Part(popup, nPart)); };
-}
-
-void VisitOther(CWnd& popup, const Script& script)
-{
-    const owtest::ModalVisit visit(script);
-    ClickOn(kOther)(popup);
-    EXPECT_EQ(visit.Count(), 1);
 }
 
 class ColorButtons : public InRoom
@@ -71,8 +50,25 @@ protected:
         m_room.controls = {{&m_rgb, dwStyle}, {&m_acad, dwStyle}};
         InRoom::SetUp();
     }
-    /// Opens the pop-up by a click, and closes it by what the script does, or else by Escape.
-    void Visit(const Script& script)
+    /// Whether the pop-up gets so far: open, with the mouse; or over.
+    static bool Becomes(bool bOpen, CWnd& popup)
+    {
+        return owtest::PumpUntil(
+            [&] { return !popup.ContinueModal() != bOpen && (CWnd::GetCapture() == &popup) == bOpen; });
+    }
+    /// What chooses the nth part by the mouse, and by "Other...".
+    static Script ClickOn(int nPart)
+    {
+        return [=](CWnd& popup) { owtest::Click(Part(popup, nPart)); };
+    }
+    static void VisitOther(CWnd& popup, const Script& script)
+    {
+        const owtest::ModalVisit visit(script);
+        ClickOn(kOther)(popup);
+        EXPECT_EQ(visit.Count(), 1);
+    }
+    /// Opens the pop-up by a click, and closes it by what the script does, or else by Escape; what is told.
+    std::string Visit(const Script& script)
     {
         const auto work = [&](CWnd& popup)
         {
@@ -81,8 +77,8 @@ protected:
         };
         const owtest::ModalVisit visit(work);
         owtest::Click(m_rgb);
-        EXPECT_EQ(visit.Count(), 1);
-        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_TRUE(visit.Count() == 1 && !::GetCapture());
+        return m_room.Take();
     }
     /// From red; what stands in the variable afterwards, and which entry was used last: the first one's at the
     /// beginning, so that kRed and 0 mean that nothing changes.
@@ -92,10 +88,9 @@ protected:
         for (const BYTE nRank = ranks[nUsed]; BYTE & nOther : ranks)
             nOther = nOther == nRank ? 1 : nOther + (nOther < nRank);
         m_color = kRed;
-        Visit(script);
+        EXPECT_EQ(Visit(script),
+                  (cr == kRed ? "" : "hook; told 1001 " + std::to_string(cr) + "; ") + "dialog 1001; ");
         EXPECT_EQ(m_color, cr);
-        const Calls told{"hook", "told 1001 " + std::to_string(cr), "dialog 1001"};
-        EXPECT_EQ(m_room.Take(), cr != kRed ? told : Calls{"dialog 1001"});
         EXPECT_EQ(CColorBtnST::s_colorRecency, ranks);
     }
 
@@ -112,7 +107,6 @@ TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysWithANumberMadeAnewEac
 {
     const auto isPush = [](const auto& button)
     { return !button.m_bIsCheckBox && !button.GetDefault() && button.GetButtonStyle() == BS_OWNERDRAW; };
-    CRect button, rect;
     for (const long dwStyle : {BS_DEFPUSHBUTTON | WS_DISABLED, long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX)})
     {
         Reopen(dwStyle);
@@ -122,6 +116,7 @@ TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysWithANumberMadeAnewEac
     }
     EXPECT_EQ(m_label.GetStyle() & (WS_VISIBLE | 0xFFFF), static_cast<DWORD>(WS_VISIBLE | SS_CENTERIMAGE));
     EXPECT_EQ(m_label.GetFont()->m_hObject, m_room.GetFont()->m_hObject);
+    CRect button, rect;
     CClientDC dc(&m_room);
     const CGdiSelection font(dc, m_room.GetFont()->m_hObject);
     m_acad.GetWindowRect(button);
@@ -139,22 +134,22 @@ TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysWithANumberMadeAnewEac
     EXPECT_TRUE(Repaints(m_rgb, [&] { m_rgb.SetColorSource(&m_color); }));
     EXPECT_FALSE(Repaints(m_acad, [&] { m_acad.SetColorSource(nullptr); }));
     EXPECT_FALSE(Repaints(m_rgb, [&] { m_rgb.SetColorSource(nullptr); }));
-
-    const HWND hButton = m_acad.UnsubclassWindow();
-    ::ShowWindow(hButton, SW_HIDE);
-    m_acad.SubclassWindow(hButton); // the same window once more
+    m_acad.ShowWindow(SW_HIDE);
+    m_acad.SubclassWindow(m_acad.UnsubclassWindow()); // the same window once more
     EXPECT_EQ(owtest::TextOf(m_label), L"") << "no source, no number";
     EXPECT_FALSE(m_label.GetStyle() & WS_VISIBLE);
     m_acad.DestroyWindow();
     EXPECT_EQ(m_room.GetDlgItem(m_acad.m_nNumberLabelId), nullptr) << "nor an older one";
     EXPECT_NE(OpenAcadButton().m_nNumberLabelId, OpenAcadButton().m_nNumberLabelId)
-        << "wanted: an id is never given back";
+        << "wanted: never given back";
     m_rgb.SetColorSource(&m_color); // as it is painted
 }
 
 TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
 {
-    const auto choose = [&](const wchar_t* pszTyped, WORD nKey, const std::function<void()>& meanwhile)
+    const auto choose =
+        [&](
+            const wchar_t* pszTyped, WORD nKey, const std::function<void()>& meanwhile = [] {})
     {
         const owtest::ModalVisit visit([&](CWnd&)
                                        { owtest::Type(pszTyped), meanwhile(), owtest::Press(nKey); });
@@ -169,33 +164,30 @@ TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
         EXPECT_TRUE(m_acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls";
         m_room.erases = 0;
     };
-    EXPECT_EQ(choose(L"142", VK_RETURN, [] {}), L"142");
+    EXPECT_EQ(choose(L"142", VK_RETURN), L"142");
     m_room.UpdateWindow();
     EXPECT_EQ(m_room.erases, 0);
-    EXPECT_EQ(m_index, 142);
-    EXPECT_EQ(m_room.Take(), Calls{"told 1002 142"}) << "and the dialog does not receive the click";
-
-    EXPECT_EQ(choose(L"7", VK_ESCAPE, [] {}), L"before");
-    EXPECT_EQ(choose(L"142", VK_RETURN, [] {}), L"142") << "the same colour";
+    EXPECT_EQ(m_room.Take(), "told 1002 142; ") << "and the dialog does not receive the click";
+    EXPECT_EQ(choose(L"7", VK_ESCAPE), L"before");
+    EXPECT_EQ(choose(L"142", VK_RETURN), L"142") << "the same colour";
     const auto loseSource = [&] { m_acad.ShowWindow(SW_HIDE), m_acad.SetColorSource(nullptr); };
     EXPECT_EQ(choose(L"7", VK_RETURN, loseSource), L"before");
     m_acad.SetColorSource(&m_index);
     m_acad.ShowWindow(SW_SHOW);
     EXPECT_EQ(choose(L"7", VK_RETURN, [&] { m_acad.DestroyWindow(); }), L"gone");
-    EXPECT_EQ(m_index, 142);
-    EXPECT_EQ(m_room.Take(), Calls{});
+    EXPECT_TRUE(m_index == 142 && m_room.Take().empty());
 }
 
 TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfTheButton)
 {
     CRect button, rect;
+    CPoint mouse;
     const Script look = [&](CWnd& popup) { popup.GetWindowRect(rect); };
     m_rgb.GetWindowRect(button);
     Visit(look);
     EXPECT_EQ(rect.TopLeft(), CPoint(button.left, button.bottom));
     const int right = ::GetSystemMetrics(SM_CXSCREEN), bottom = ::GetSystemMetrics(SM_CYSCREEN);
     const CSize size = rect.Size();
-    CPoint mouse;
     ::GetCursorPos(&mouse);
     const std::pair<CRect, CPoint> anchors[] = {
         {{200, 300, 240, bottom - size.cy}, {200, bottom - size.cy}}, // it just fits
@@ -209,13 +201,11 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfT
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
         EXPECT_EQ(rect, CRect(corner, size));
     }
-
     const owtest::OtherText other("Other...", "Ostalo");
     const auto compare = [](CWnd& popup)
     {
         for (int i = 0; i < CColorBtnST::paletteSize; ++i)
         {
-            const COLORREF cr = CColorBtnST::s_colorTable[i];
             CRect rect;
             ::GetClientRect(Part(popup, i), rect);
             Surface picture(rect.Width(), rect.Height());
@@ -223,7 +213,7 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfT
             EXPECT_EQ(picture.at(0, 0) == kBlack && picture.at(1, 1) == kWhite, i == kRedCell) << i;
             if (i == kRedCell)
                 rect.DeflateRect(2, 2);
-            EXPECT_EQ(picture.extent(cr), rect) << i;
+            EXPECT_EQ(picture.extent(CColorBtnST::s_colorTable[i]), rect) << i;
         }
         EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + 9)), L"166, 202, 240") << "read aloud";
         EXPECT_EQ(owtest::TextOf(*popup.GetDlgItem(kFirstCell + kOther)), L"Ostalo");
@@ -235,11 +225,11 @@ TEST_F(ColorPopup, AClickOnACellChoosesItAndWhateverTakesTheMouseOrTheForeground
 {
     ExpectChoice(ClickOn(4), 0x800000, 4);
     ExpectChoice(ClickOn(kRedCell), kRed, kRedCell); // tells nobody
+    CColorBtnST::Reset();
     const auto cancelOther = [](CWnd& window)
     {
-        const auto& dialog = static_cast<CColorDialog&>(window);
-        EXPECT_EQ(dialog.m_cc.rgbResult, kRed) << "where it begins";
-        EXPECT_TRUE(dialog.m_cc.Flags & CC_FULLOPEN);
+        const CHOOSECOLOR& choice = static_cast<CColorDialog&>(window).m_cc;
+        EXPECT_TRUE(choice.rgbResult == kRed && choice.Flags & CC_FULLOPEN) << "where it begins";
         owtest::Press(VK_ESCAPE);
     };
     const auto cancel = [&](CWnd& popup)
@@ -257,46 +247,47 @@ TEST_F(ColorPopup, AClickOnACellChoosesItAndWhateverTakesTheMouseOrTheForeground
         owtest::Click(m_room, CPoint(100, 100));
         EXPECT_TRUE(Becomes(false, popup));
     };
-    CColorBtnST::Reset();
     ExpectChoice(cancel, kRed, 0);
-
-    const auto hold = [](WPARAM nKey)
+    const auto holdKeys = []
     {
-        ::PostMessage(::GetFocus(), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
-        ::PostMessage(::GetFocus(), WM_KEYUP, nKey, 1 | (KF_REPEAT | KF_UP) << 16);
+        for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
+            for (const auto& [message, nUp] : {std::pair(WM_KEYDOWN, 0), {WM_KEYUP, KF_UP}})
+                ::PostMessage(::GetFocus(), message, nKey, 1 | (KF_REPEAT | nUp) << 16);
         owtest::Pump();
     };
-    const auto expectOver = [&](bool bOver, const std::function<void()>& act)
+    const std::pair<bool, std::function<void()>> events[] = {
+        {true, [&] { m_rgb.SetCapture(); }},
+        {true, [] { ::SetForegroundWindow(::GetDesktopWindow()); }},
+        {false, holdKeys}};
+    for (const auto& [bEnds, happen] : events)
     {
-        const auto visit = [&](CWnd& popup)
+        const auto visit = [&, bOver = bEnds, &act = happen](CWnd& popup)
         {
             act();
             EXPECT_TRUE(Becomes(!bOver, popup));
             ::ReleaseCapture();
         };
         ExpectChoice(visit, kRed, 0);
-    };
-    expectOver(true, [&] { m_rgb.SetCapture(); });
-    expectOver(true, [] { ::SetForegroundWindow(::GetDesktopWindow()); });
-    expectOver(false, [&] { hold(VK_RETURN), hold(VK_SPACE); });
+    }
 }
 
 TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
 {
     constexpr WORD L = VK_LEFT, R = VK_RIGHT, U = VK_UP, D = VK_DOWN, T = VK_TAB;
-    const auto press = [](CWnd& popup, std::vector<std::pair<WORD, int>> keys, WORD nChooser)
+    using Tour = std::vector<std::pair<WORD, int>>; // keys, and the part that each leads to
+    const auto press = [](CWnd& popup, const Tour& tour, WORD nChooser)
     {
-        for (const auto& [nKey, nPart] : keys)
+        for (const auto& [nKey, nPart] : tour)
         {
             owtest::Press(nKey);
-            EXPECT_TRUE(owtest::PumpUntil([&, n = nPart] { return ::GetFocus() == Part(popup, n); }))
-                << nPart;
+            const auto arrives = [&, n = nPart] { return ::GetFocus() == Part(popup, n); };
+            EXPECT_TRUE(owtest::PumpUntil(arrives)) << nPart;
         }
         owtest::Press(nChooser);
     };
-    const std::vector<std::pair<WORD, int>> tour{
-        {L, 12}, {L, 11}, {R, 12}, {U, 8},  {U, 4},  {U, 0},  {U, 0},  {L, 0},  {R, 1},  {T, 20}, {T, 1},
-        {D, 5},  {D, 9},  {D, 13}, {D, 17}, {D, 20}, {T, 17}, {D, 20}, {D, 20}, {L, 19}, {R, 20}, {U, 16}};
+    const Tour tour{{L, 12}, {L, 11}, {R, 12}, {U, 8},  {U, 4},  {U, 0},  {U, 0},  {L, 0},
+                    {R, 1},  {T, 20}, {T, 1},  {D, 5},  {D, 9},  {D, 13}, {D, 17}, {D, 20},
+                    {T, 17}, {D, 20}, {D, 20}, {L, 19}, {R, 20}, {U, 16}};
     ExpectChoice([&](CWnd& popup) { press(popup, tour, VK_RETURN); }, 0xFF0000, 16);
     CColorBtnST::s_colorTable[kRedCell] = kNewColor; // without the button's colour it begins at the first
     const auto chooseSecond = [&](CWnd& popup)
@@ -311,27 +302,29 @@ TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
 
 TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
 {
-    constexpr int kRedBox = 706; ///< the boxes for green and blue have the next ids
     const Script accept = [](CWnd& window)
     {
         for (int i = 0; i < 3; ++i)
         {
+            constexpr int kRedBox = 706; // the boxes for green and blue have the next ids
             owtest::Click(*window.GetDlgItem(kRedBox + i));
             window.SendDlgItemMessage(kRedBox + i, EM_SETSEL, 0, -1);
             owtest::Type(std::to_wstring(kNewColor >> 8 * i & 0xFF));
         }
         owtest::Press(VK_RETURN);
     };
-    const Script acceptNew = [&](CWnd& popup) { VisitOther(popup, accept); };
-    ExpectChoice(acceptNew, kNewColor, 10);
-    EXPECT_EQ(CColorBtnST::s_colorTable[10], kNewColor);
-    for (const int nFirst : {7, 0})
+    auto& colors = CColorBtnST::s_colorTable;
+    for (const int nUsed : {10, 7, 0})
     {
-        CColorBtnST::s_colorTable.fill(RGB(9, 9, 9));
-        CColorBtnST::s_colorTable[nFirst] = CColorBtnST::s_colorTable[8] = kNewColor;
-        const auto before = CColorBtnST::s_colorTable;
-        ExpectChoice(acceptNew, kNewColor, nFirst);
-        EXPECT_EQ(CColorBtnST::s_colorTable, before);
+        if (nUsed != 10)
+        {
+            colors.fill(RGB(9, 9, 9));
+            colors[nUsed] = colors[8] = kNewColor;
+        }
+        auto expected = colors;
+        expected[nUsed] = kNewColor;
+        ExpectChoice([&](CWnd& popup) { VisitOther(popup, accept); }, kNewColor, nUsed);
+        EXPECT_EQ(colors, expected);
     }
 }
 
@@ -353,29 +346,25 @@ TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithWindowDialogOr
         };
         const owtest::ModalVisit visit(endAll);
         owtest::Click(*pButton);
-        EXPECT_EQ(m_color, kRed);
-        EXPECT_EQ(m_room.Take(), Calls{});
+        EXPECT_TRUE(m_color == kRed && m_room.Take().empty());
         Reopen(BS_PUSHBUTTON);
     }
-
-    for (CWnd* const pButton : {static_cast<CWnd*>(&m_acad), static_cast<CWnd*>(&m_rgb)})
+    for (CWnd* const pWindow : {static_cast<CWnd*>(&m_acad), static_cast<CWnd*>(&m_rgb)})
     {
         const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });
-        ClickByProgram(*pButton);
-        EXPECT_EQ(visit.Count(), 1);
-        EXPECT_EQ(::GetFocus(), pButton->m_hWnd);
+        ClickByProgram(*pWindow);
+        EXPECT_TRUE(visit.Count() == 1 && ::GetFocus() == pWindow->m_hWnd);
     }
     m_room.Take();
     m_room.then = [&] { m_room.DestroyWindow(); }; // which then hears no more
     const auto choose = [&](CWnd& popup)
     {
         ClickByProgram(m_rgb);
-        EXPECT_EQ(m_room.Take(), Calls{"dialog 1001"});
+        EXPECT_EQ(m_room.Take(), "dialog 1001; ");
         EXPECT_TRUE(Becomes(true, popup));
         ClickOn(4)(popup);
     };
-    Visit(choose);
-    EXPECT_EQ(m_room.Take(), (Calls{"hook", "told 1001 " + std::to_string(0x800000)}));
+    EXPECT_EQ(Visit(choose), "hook; told 1001 " + std::to_string(0x800000) + "; ");
 }
 
 TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
@@ -398,38 +387,27 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
         ranks.fill(0);
         return CColorBtnST::Load();
     };
-    EXPECT_EQ(loads(L"other", {}), 1);
-    EXPECT_TRUE(colors[3] == kNewColor && ranks[19] == 1);
-    EXPECT_EQ(loads(L"ColorTable", {1, 2, 3, 0, 9}), 1);
-    EXPECT_TRUE(colors[0] == kNewColor && colors[1] == 9 && colors[2] == 0 && ranks[19] == 1);
-    EXPECT_EQ(loads(L"MRU", std::vector<BYTE>(30000, 7)), 1);
-    EXPECT_TRUE(std::ranges::count(ranks, 7) == 20 && colors[3] == kNewColor);
+    EXPECT_TRUE(loads(L"ColorTable", {1, 2, 3, 0, 9}) && ranks[19] == 1);
+    EXPECT_TRUE(colors[0] == kNewColor && colors[1] == 9 && colors[2] == 0);
+    EXPECT_TRUE(loads(L"MRU", std::vector<BYTE>(30000, 7)) && colors[3] == kNewColor);
+    EXPECT_EQ(std::ranges::count(ranks, 7), 20);
     for (const LPCTSTR pszEntry : {L"ColorTable", L"MRU"})
-    {
-        EXPECT_EQ(loads(pszEntry, {}), 0);
-        EXPECT_TRUE(std::pair(colors, ranks) == delivered) << "an entry is missing";
-    }
+        EXPECT_TRUE(!loads(pszEntry, {}) && std::pair(colors, ranks) == delivered) << "an entry is missing";
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
     const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\folder\\x.ini");
     EXPECT_EQ(CColorBtnST::Store(), 0);
     app.m_pszProfileName = pszName;
 }
 
-template <class Button>
-static void UseWithoutSource(bool bPaint)
+template <class Button, bool bPaint>
+static void UseWithoutSource()
 {
     Lone<Button> lone(CSize(60, 26));
     Surface surface(60, 26);
     bPaint ? PaintButton(lone.button, surface) : ClickByProgram(lone.button);
 }
 
-// clang-format off
-OW_CHILD_SCENARIO(rgb_paint) { UseWithoutSource<CColorBtnST>(true); }
-OW_CHILD_SCENARIO(rgb_click) { UseWithoutSource<CColorBtnST>(false); }
-OW_CHILD_SCENARIO(acad_paint) { UseWithoutSource<CAcadColorBtnST>(true); }
-OW_CHILD_SCENARIO(acad_click) { UseWithoutSource<CAcadColorBtnST>(false); }
-// clang-format on
-OW_CHILD_SCENARIO(rgb_choose)
+static void LoseSourceAndChoose()
 {
     DWORD color = 0;
     Lone<CColorBtnST> lone(CSize(60, 26));
@@ -439,13 +417,20 @@ OW_CHILD_SCENARIO(rgb_choose)
     ClickByProgram(lone.button);
 }
 
+static const struct
+{
+    const char* name;
+    std::wstring place;
+    owtest::ScenarioRegistration registered;
+} s_fatal[] = {
+    {"rgb_paint", L"ColorBtnST : 198", {"rgb_paint", &UseWithoutSource<CColorBtnST, true>}},
+    {"rgb_click", L"ColorBtnST : 273", {"rgb_click", &UseWithoutSource<CColorBtnST, false>}},
+    {"rgb_choose", L"ColorBtnST : 276", {"rgb_choose", &LoseSourceAndChoose}},
+    {"acad_paint", L"AcadColorBtnST : 147", {"acad_paint", &UseWithoutSource<CAcadColorBtnST, true>}},
+    {"acad_click", L"AcadColorBtnST : 249", {"acad_click", &UseWithoutSource<CAcadColorBtnST, false>}}};
+
 TEST(ColorButton, WithoutASourceItIsFatal)
 {
-    for (const auto& [pszScenario, place] : {std::pair("rgb_paint", L"ColorBtnST : 198"),
-                                             {"rgb_click", L"ColorBtnST : 273"},
-                                             {"rgb_choose", L"ColorBtnST : 276"},
-                                             {"acad_paint", L"AcadColorBtnST : 147"},
-                                             {"acad_click", L"AcadColorBtnST : 249"}})
-        owtest::ExpectFailedAssert(owtest::RunChild(pszScenario),
-                                   std::wstring(L"ASSERT(m_pCurrentColor)\n[.\\") + place + L"]\n");
+    for (const auto& [name, place, registered] : s_fatal)
+        owtest::ExpectFailedAssert(owtest::RunChild(name), L"ASSERT(m_pCurrentColor)\n[.\\" + place + L"]\n");
 }

@@ -1,9 +1,6 @@
 // The icon label: what it measures, where it paints, and whose its fonts are.
 
-#include "Handles.h"
-#include "Images.h"
 #include "Room.h"
-#include "module/GdiScope.h"
 
 namespace
 {
@@ -29,16 +26,8 @@ struct Label : Lone<OpenXIcon>
     {
         CRect rect;
         icon.GetWindowRect(rect);
-        icon.GetParent()->ScreenToClient(rect);
+        parent.ScreenToClient(rect);
         return rect;
-    }
-    /// The width that the label gives itself when it has another one.
-    int WidthFrom(int width)
-    {
-        icon.SetWindowPos(nullptr, 0, 0, width, kSize.cy, SWP_NOMOVE | SWP_NOZORDER);
-        icon.Resize();
-        EXPECT_EQ(Rect(), CRect(CPoint(10, 10), CSize(Rect().Width(), kSize.cy)));
-        return Rect().Width();
     }
     CSize TextSize(const CString& text)
     {
@@ -48,22 +37,9 @@ struct Label : Lone<OpenXIcon>
     }
 
     OpenXIcon& icon = button;
-    const testimages::Icon blue{16, kBlue, 0};
+    const Icon blue = MakeIcon(16, kBlue, 0);
 };
 } // namespace
-
-TEST(XIcon, TakesNothingAmissBeforeItHasAWindow)
-{
-    CXIcon icon;
-    EXPECT_EQ(icon.GetTextColor(), ::GetSysColor(COLOR_BTNTEXT));
-    EXPECT_EQ(icon.GetFontFaceName(), L"MS Sans Serif");
-    icon.SetWindowText(nullptr).SetWindowText(L"lost").SetIcon(HICON(nullptr), 16).SetIcon(0u, 16);
-    icon.SetBold(TRUE).SetFont(static_cast<LOGFONTW*>(nullptr)).SetFont(L"Arial", 10).Resize();
-    EXPECT_TRUE(icon.GetFontFaceName() == L"Arial" && icon.GetFont(nullptr) == 0);
-    int x = 0, y = 0;
-    icon.SetMargins(3, 4).SetIconSpacing(6).SetAutoResize(FALSE).GetMargins(x, y);
-    EXPECT_TRUE(x == 3 && y == 4 && icon.GetIconSpacing() == 6 && !icon.GetAutoResize());
-}
 
 TEST(XIcon, IsAsWideAsWhatItShowsAndShrinksOnlyToSaveMoreThanFivePixels)
 {
@@ -78,9 +54,14 @@ TEST(XIcon, IsAsWideAsWhatItShowsAndShrinksOnlyToSaveMoreThanFivePixels)
     for (const auto& [marginX, spacing, size, pszText, width] : rows)
     {
         label.icon.SetMargins(marginX, 3).SetIconSpacing(spacing).SetWindowText(pszText);
-        label.icon.SetIcon(size ? HICON(label.blue) : nullptr, size);
+        label.icon.SetIcon(size ? label.blue.get() : nullptr, size);
         for (const auto& [before, after] : {std::pair(0, 0), {-1, 0}, {4, 4}, {5, 5}, {6, 0}})
-            EXPECT_EQ(label.WidthFrom(width + before), width + after) << pszText << before;
+        {
+            label.icon.SetWindowPos(nullptr, 0, 0, width + before, kSize.cy, SWP_NOMOVE | SWP_NOZORDER);
+            label.icon.Resize();
+            EXPECT_EQ(label.Rect(), CRect(CPoint(10, 10), CSize(width + after, kSize.cy)))
+                << pszText << before;
+        }
     }
 }
 
@@ -90,7 +71,7 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
     CXIcon& icon = label.icon;
     LOGFONTW font{};
     icon.GetFont(&font);
-    icon.GetParent()->ShowWindow(SW_SHOWNA);
+    label.parent.ShowWindow(SW_SHOWNA);
     const std::tuple<std::function<void(int)>, LPCWSTR, int> rows[] = {
         // and the width: a text's and more
         {[&](int repaint) { icon.SetWindowText(L"Text", repaint); }, L"", kSize.cx}, // not yet
@@ -100,7 +81,7 @@ TEST(XIcon, FollowsEverySetterWhileResizingIsAutomaticAndIsPaintedWhenToldTo)
         {[&](int repaint) { icon.SetBold(TRUE, repaint); }, L"Text", 102},
         {[&](int repaint) { icon.SetFont(&font, repaint); }, L"Text", 102},
         {[&](int repaint) { icon.SetWindowText(nullptr, repaint); }, L"", 100},
-        {[&](int repaint) { icon.SetIcon(label.blue, 40, repaint); }, L"", 142},
+        {[&](int repaint) { icon.SetIcon(label.blue.get(), 40, repaint); }, L"", 142},
         {[&](int repaint) { icon.SetIconSpacing(9, repaint); }, L"", 142},
         {[&](int repaint) { icon.SetTextColor(kText, repaint); }, L"", 142},
         {[&](int repaint) { icon.SetIcon(0u, 16, repaint); }, L"", 100}};
@@ -130,7 +111,7 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
     {
         Label label(align | vertical);
         label.icon.SetMargins(margin.x, margin.y).SetIconSpacing(spacing).SetWindowText(pszText);
-        label.icon.SetIcon(size ? HICON(label.blue) : nullptr, size);
+        label.icon.SetIcon(size ? label.blue.get() : nullptr, size);
         Surface ours(kSize.cx, kSize.cy), expected(kSize.cx, kSize.cy, kBack);
         ours.dc().SetBkColor(kBack);
         PaintButton(label.icon, ours);
@@ -140,24 +121,16 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
         dc.SetBkMode(TRANSPARENT);
         const CGdiSelection font(dc, label.icon.GetFont()->m_hObject);
         const CSize text = label.TextSize(pszText);
-        const auto topOf = [&, top = margin.y](int height) { return top + ((kSize.cy - height - top) >> 1); };
-        const auto drawIcon = [&, size = size](int x)
-        {
-            dc.FillSolidRect(x, topOf(size), size, size, kBlue);
-            return size ? x + size : 0;
-        };
-        const auto drawText = [&, vertical = vertical, top = margin.y, pszText = pszText](int x)
-        {
-            const int y = vertical == BS_TOP      ? top
-                          : vertical == BS_BOTTOM ? kSize.cy - text.cy
-                                                  : topOf(text.cy);
-            dc.DrawText(pszText, -1, CRect(x, y, x + text.cx, y + text.cy), DT_SINGLELINE); // always one line
-            return *pszText ? x + text.cx + 2 : 0; // where nothing is the other begins at the spacing alone
-        };
-        if (align == BS_LEFT)
-            drawText(drawIcon(margin.x) + spacing);
-        else
-            drawIcon(drawText(margin.x) + spacing);
+        const auto topOf = [top = margin.y](int height) { return top + ((kSize.cy - height - top) >> 1); };
+        const int textTop = vertical == BS_TOP      ? margin.y
+                            : vertical == BS_BOTTOM ? kSize.cy - text.cy
+                                                    : topOf(text.cy);
+        // Where nothing is the other begins at the spacing alone.
+        const int iconEnd = size ? margin.x + size : 0, textEnd = *pszText ? margin.x + text.cx + 2 : 0;
+        const int iconX = align == BS_LEFT ? margin.x : textEnd + spacing;
+        const int textX = align == BS_LEFT ? iconEnd + spacing : margin.x;
+        dc.FillSolidRect(iconX, topOf(size), size, size, kBlue);
+        dc.DrawText(pszText, -1, CRect(CPoint(textX, textTop), text), DT_SINGLELINE); // always one line
         EXPECT_TRUE(ours == expected) << align << ' ' << vertical << ' ' << size;
     }
     EXPECT_EQ(Label().icon.SendMessage(WM_ERASEBKGND), 1) << "it covers all of its area";
@@ -165,6 +138,16 @@ TEST(XIcon, PaintsWhatIsFirstAtTheMarginAndTheOtherBehindItOnItsOwnGround)
 
 TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
 {
+    CXIcon bare; // takes nothing amiss before it has a window
+    bare.SetWindowText(L"lost").SetIcon(HICON(nullptr), 16).SetIcon(0u, 16).Resize();
+    EXPECT_TRUE(bare.GetFontFaceName() == L"MS Sans Serif" &&
+                bare.GetTextColor() == ::GetSysColor(COLOR_BTNTEXT));
+    bare.SetBold(TRUE).SetFont(static_cast<LOGFONTW*>(nullptr)).SetFont(L"Arial", 10).SetAutoResize(FALSE);
+    EXPECT_TRUE(bare.GetFontFaceName() == L"Arial" && bare.GetFont(nullptr) == 0);
+    int x = 0, y = 0;
+    bare.SetMargins(3, 4).SetIconSpacing(6).GetMargins(x, y);
+    EXPECT_TRUE(x == 3 && y == 4 && bare.GetIconSpacing() == 6 && !bare.GetAutoResize());
+
     Label label;
     OpenXIcon& icon = label.icon;
     LOGFONTW font{}, window{};
@@ -173,7 +156,6 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
     EXPECT_TRUE(font.lfHeight == window.lfHeight && !wcscmp(font.lfFaceName, window.lfFaceName));
     EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);
     EXPECT_NE(icon.GetFont()->m_hObject, icon.GetSafeFont()->m_hObject);
-
     CFont given;
     given.CreatePointFont(140, L"Arial");
     icon.SetFont(&given);
@@ -189,23 +171,22 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
     EXPECT_FALSE(icon.GetBold()) << "a new face has no weight";
     EXPECT_EQ(icon.GetFontHeight(72), -CWindowDC(nullptr).GetDeviceCaps(LOGPIXELSY));
     EXPECT_EQ(icon.GetFontPointSize(-icon.GetFontHeight(11)), 11) << "either sign";
-
-    Lone<CXIcon> ordinary(kSize, L"", BS_PUSHBUTTON);
-    EXPECT_EQ(ordinary.button.GetFont()->m_hObject, nullptr) << "an ordinary button has none";
-    EXPECT_EQ(ordinary.button.GetStyle() & BS_TYPEMASK, BS_PUSHBUTTON);
+    Lone<CXIcon> ordinary(kSize, L"", BS_PUSHBUTTON); // has none, and stays what it is
+    EXPECT_TRUE(!ordinary.button.GetFont()->m_hObject && ordinary.button.GetButtonStyle() == BS_PUSHBUTTON);
 
     const owtest::HandleCount before = owtest::CountHandles();
     for (const auto& [nText, nIcon] : {std::pair(IDS_TEXT, 0), {4711, IDI_STATE}, {4711, 0}})
     {
         CXIcon().SetIcon(IDI_STATE, 16).SetBold(TRUE).SetFont(L"Arial", 12);
-        icon.SetIcon(IDI_STATE, 32).SetIcon(label.blue, 16).SetBold(TRUE);
+        icon.SetIcon(IDI_STATE, 32).SetIcon(label.blue.get(), 16).SetBold(TRUE);
         icon.SetWindowText(MAKEINTRESOURCE(nText)).SetIcon(UINT(nIcon), 16);
-        EXPECT_EQ(owtest::TextOf(label.icon), nText == IDS_TEXT ? L"From the resources" : L"");
+        EXPECT_EQ(owtest::TextOf(icon), nText == IDS_TEXT ? L"From the resources" : L"");
         Surface surface(kSize.cx, kSize.cy);
-        PaintButton(label.icon, surface);
-        EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), surface.at(0, 0)) == kSize.cx * kSize.cy,
-                  nText != IDS_TEXT && nIcon == 0);
+        PaintButton(icon, surface);
+        const bool bEmpty =
+            surface.count(CRect(CPoint(0, 0), kSize), surface.at(0, 0)) == kSize.cx * kSize.cy;
+        EXPECT_EQ(bEmpty, nText != IDS_TEXT && nIcon == 0);
     }
     EXPECT_EQ(owtest::CountHandles(), before);
-    EXPECT_TRUE(testimages::IsIcon(label.blue)) << "the caller's";
+    EXPECT_TRUE(IsIcon(label.blue.get())) << "the caller's";
 }

@@ -4,18 +4,26 @@
 #include <DialogControlsOW.h>
 
 #include "DialogTemplate.h"
+#include "Handles.h"
 #include "Input.h"
+#include "MenuVisit.h"
+#include "SubLanguage.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 using owtest::TextOf;
 
 constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006,
                kGivenUnit = 1007, kGivenSpin = 1008, kInsert = 1009, kFree = 1010;
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)};
 inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
@@ -66,28 +74,19 @@ struct BoxesDialog : CDialog, Recorder
 
     bool Open()
     {
-        const auto form = owtest::DialogTemplate(L"Boxes", 180, 120)
-                              .Style(WS_POPUP | WS_VISIBLE | WS_CAPTION)
-                              .Edit(kWhole, 10, 10, 70, 14)
-                              .Edit(kLines, 10, 26, 70, 14, ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL)
-                              .Edit(kPlain, 10, 42, 70, 14)
-                              .Edit(kReadOnly, 10, 58, 70, 14, ES_READONLY)
-                              .Edit(kOwn, 10, 74, 70, 14)
-                              .Edit(kGiven, 10, 90, 70, 14)
-                              .Item(UPDOWN_CLASSW, L"", kGivenSpin, UDS_ARROWKEYS, 80, 90, 10, 14)
-                              .Item(L"Static", L"", kGivenUnit, SS_LEFT, 94, 92, 30, 9)
-                              .Button(L"Insert", kInsert, 130, 26, 40, 14)
-                              .DefaultButton(L"OK", IDOK, 130, 10, 40, 14);
-        return CreateIndirect(form.get());
-    }
-    void DoDataExchange(CDataExchange* pDX) override
-    {
-        DDX_Control(pDX, kWhole, whole);
-        DDX_Control(pDX, kLines, lines);
-        DDX_Control(pDX, kPlain, plain);
-        DDX_Control(pDX, kReadOnly, readOnly);
-        DDX_Control(pDX, kOwn, own);
-        DDX_Control(pDX, kGiven, given);
+        constexpr DWORD styles[] = {0, ES_MULTILINE | ES_WANTRETURN | ES_AUTOVSCROLL, 0, ES_READONLY, 0, 0};
+        auto form = owtest::DialogTemplate(L"Boxes", 180, 120).Style(WS_POPUP | WS_VISIBLE | WS_CAPTION);
+        for (short i = 0; i < 6; ++i)
+            form.Edit(kWhole + i, 10, 10 + 16 * i, 70, 14, styles[i] ? styles[i] : ES_AUTOHSCROLL);
+        form.Item(UPDOWN_CLASSW, L"", kGivenSpin, UDS_ARROWKEYS, 80, 90, 10, 14)
+            .Item(L"Static", L"", kGivenUnit, SS_LEFT, 94, 92, 30, 9)
+            .Button(L"Insert", kInsert, 130, 26, 40, 14)
+            .DefaultButton(L"OK", IDOK, 130, 10, 40, 14);
+        bool bOpen = CreateIndirect(form.get());
+        for (int nId = kWhole;
+             CEdit * pBox : std::initializer_list<CEdit*>{&whole, &lines, &plain, &readOnly, &own, &given})
+            bOpen = bOpen && pBox->SubclassDlgItem(nId++, this);
+        return bOpen && owtest::Activate(m_hWnd);
     }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pInfo) override
     {
@@ -103,7 +102,7 @@ class Boxes : public ::testing::Test
 protected:
     void SetUp() override
     {
-        ASSERT_TRUE(dialog.Open() && owtest::Activate(dialog));
+        ASSERT_TRUE(dialog.Open());
         handler.Take();
     }
     void TearDown() override { dialog.DestroyWindow(); }
@@ -112,19 +111,13 @@ protected:
     {
         return owtest::PumpUntil([&] { return ::GetFocus() == wnd.m_hWnd; });
     }
-    /// Enters the box and types over what stands in it; the calls since it was entered wait to be taken.
-    void TypeInto(CEdit& box, std::wstring_view text)
+    /// Enters the box and types over what stands in it; the calls since it was entered.
+    std::string TypeInto(CEdit& box, std::wstring_view text)
     {
         box.SetFocus();
         box.SetSel(0, -1);
         handler.Take();
         owtest::Type(text);
-    }
-    /// Leaves the box by Tab; also what the next one has been told.
-    std::string CallsWhenLeft(const CWnd& box)
-    {
-        owtest::Press(VK_TAB);
-        EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() != box.m_hWnd; }));
         return handler.Take();
     }
 

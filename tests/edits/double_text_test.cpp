@@ -59,8 +59,7 @@ TEST(DoubleText, IsBoundedWhateverTheNumberAndTheDecimals)
         EXPECT_EQ(Read(Written(fixed, 2, value)), value) << "and none is lost";
     }
     const CString all = gfnFormatAllDigits(3, -DBL_MAX);
-    EXPECT_EQ(all.GetLength(), 1 + 309 + 4);
-    EXPECT_EQ(Read(all.GetString()), -DBL_MAX);
+    EXPECT_TRUE(all.GetLength() == 1 + 309 + 4 && Read(all.GetString()) == -DBL_MAX);
     EXPECT_EQ(gfnFormatAllDigits(-1, 2.0), L"2");
     EXPECT_EQ(gfnFormatAllDigits(INT_MAX, 2.0).GetLength(), 2 + 65535);
     EXPECT_EQ(gfnFormatAllDigits(3, std::nan("")), L"nan");
@@ -75,9 +74,8 @@ TEST(DoubleText, IsReadFromItsBeginningAndHasAPointInALocaleWithAComma)
     // clang-format on
     for (const auto& [text, value] : cases)
         EXPECT_EQ(Read(text), value) << text;
-    const wchar_t* none[] = {L"",    L" ",     L"abc",    L"-",   L".",  L"e5",
-                             L"--5", L"1e999", L"-1e999", L"nan", L"inf"};
-    for (const wchar_t* text : none)
+    for (const auto text :
+         {L"", L" ", L"abc", L"-", L".", L"e5", L"--5", L"1e999", L"-1e999", L"nan", L"inf"})
         EXPECT_EQ(Read(text), kNothing) << text;
 
     // The same whatever the locale of the process, which its host may have set.
@@ -87,10 +85,8 @@ TEST(DoubleText, IsReadFromItsBeginningAndHasAPointInALocaleWithAComma)
     ExpectSameFast(2, 3.75);
     ExpectSameFast(9, 3.75);
     EXPECT_EQ(gfnFormatAllDigits(2, 3.75), L"3.75");
-    EXPECT_EQ(Read(L"2.25"), 2.25);
-    EXPECT_EQ(Read(L"7,5"), 7.0) << "a comma ends the number";
-    EXPECT_EQ(Read(L"1.5,5"), 1.5);
-    EXPECT_EQ(Read(L",5"), kNothing);
+    EXPECT_TRUE(Read(L"2.25") == 2.25 && Read(L"1.5,5") == 1.5);
+    EXPECT_TRUE(Read(L"7,5") == 7.0 && Read(L",5") == kNothing) << "a comma ends the number";
     std::setlocale(LC_NUMERIC, before.c_str());
 }
 
@@ -103,7 +99,6 @@ TEST(DoubleText, IsTheSameWhereItIsWrittenFast)
     for (const double value : special)
         for (const int decimals : {-1, 0, 1, 2, 3, 6, 7, 40, 1000})
             ExpectSameFast(decimals, value);
-
     std::mt19937_64 random(1);
     for (int i = 0; i < 20000 && !testing::Test::HasFailure(); ++i)
     {

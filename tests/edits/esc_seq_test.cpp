@@ -3,11 +3,6 @@
 #include "Boxes.h"
 
 #include "EnglishTexts.h"
-#include "MenuVisit.h"
-#include "SubLanguage.h"
-
-#include <memory>
-#include <optional>
 
 namespace
 {
@@ -26,17 +21,15 @@ protected:
     Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kInsert)
     {
         dialog.DestroyWindow();
-        auto box = std::make_unique<Box>(&handler, nButton);
-        Box& shown = *box;
-        m_box = std::move(box);
-        EXPECT_TRUE(dialog.Open() && owtest::Activate(dialog));
-        shown.SubclassWindow(::CreateWindow(L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, 210,
-                                            90, 90, 60, dialog, reinterpret_cast<HMENU>(kFree), nullptr,
-                                            nullptr));
-        shown.SetWindowPos(dialog.GetDlgItem(kGivenUnit), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+        m_box = std::make_unique<Box>(&handler, nButton);
+        EXPECT_TRUE(dialog.Open());
+        m_box->SubclassWindow(::CreateWindow(L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, 210,
+                                             90, 90, 60, dialog, reinterpret_cast<HMENU>(kFree), nullptr,
+                                             nullptr));
+        m_box->SetWindowPos(dialog.GetDlgItem(kGivenUnit), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
         handler.Take();
         handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
-        return shown;
+        return static_cast<Box&>(*m_box);
     }
     HWND Button() { return dialog.GetDlgItem(kInsert)->m_hWnd; }
     /// Goes to the box by a click, and then to a place in it.
@@ -51,13 +44,13 @@ protected:
     std::wstring Choose(int nItem)
     {
         std::wstring labels;
-        owtest::MenuVisit visit(
-            [&](const owtest::OpenMenu& menu)
-            {
-                for (const std::wstring& label : menu.Labels())
-                    labels += label + L'\n';
-                nItem < 0 ? menu.Press({VK_ESCAPE}) : menu.Click(nItem);
-            });
+        const auto choose = [&](const owtest::OpenMenu& menu)
+        {
+            for (const std::wstring& label : menu.Labels())
+                labels += label + L'\n';
+            nItem < 0 ? menu.Press({VK_ESCAPE}) : menu.Click(nItem);
+        };
+        owtest::MenuVisit visit(choose);
         owtest::Click(Button());
         EXPECT_EQ(visit.Count(), 1);
         return labels;
@@ -70,24 +63,23 @@ protected:
         EXPECT_EQ(TextOf(*m_box), m_box->GetValue().GetString());
         return m_box->GetValue();
     }
+    static std::wstring Codes(const CEditEscSeqText& box)
+    {
+        OCArray<CString> codes, descriptions;
+        codes.Add(L"old");
+        const int nCount = box.EnumEscSeq(codes, descriptions);
+        EXPECT_TRUE(codes.GetSize() == nCount && descriptions.GetSize() == nCount);
+        std::wstring line;
+        for (int i = 0; i < nCount; ++i)
+        {
+            line += codes[i];
+            EXPECT_TRUE(gOtLang.Has(descriptions[i])) << CStringA(descriptions[i]).GetString();
+        }
+        return line;
+    }
 
     std::unique_ptr<CEditEscSeqText> m_box;
 };
-
-std::wstring Codes(const CEditEscSeqText& box)
-{
-    OCArray<CString> codes, descriptions;
-    codes.Add(L"old");
-    const int nCount = box.EnumEscSeq(codes, descriptions);
-    EXPECT_TRUE(codes.GetSize() == nCount && descriptions.GetSize() == nCount);
-    std::wstring line;
-    for (int i = 0; i < nCount; ++i)
-    {
-        line += codes[i];
-        EXPECT_TRUE(gOtLang.Has(descriptions[i])) << CStringA(descriptions[i]).GetString();
-    }
-    return line;
-}
 } // namespace
 
 TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
@@ -95,9 +87,8 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     std::optional<owtest::EnglishTexts> english(std::in_place);
     CEditAcadEscSeqSpecStapa member;
     CEditAcadEscSeqSpecLima plate;
-    EXPECT_EQ(Codes(CEditAcadEscSeqText()), L"%%c");
-    EXPECT_EQ(Codes(member), L"%i%f%m%o%d");
-    EXPECT_EQ(Codes(plate), L"%i%l%w%h");
+    EXPECT_EQ(Codes(CEditAcadEscSeqText()) + L' ' + Codes(member) + L' ' + Codes(plate),
+              L"%%c %i%f%m%o%d %i%l%w%h");
     EXPECT_EQ(Codes(CEditAcadEscSeqSpecProizvStapa()), L"%i%f%m%o%d%a%n%k%l%p%s%h");
     EXPECT_EQ(Codes(CEditEscSeqText(nullptr, 0)), L"");
     member.m_bNoDimensions = plate.m_bNoDimensions = true;
@@ -140,14 +131,12 @@ TEST_F(EscSeq, InsertsWhereTheCaretWasAndTellsTwice)
     m_box->SetValue(L"ab"); // and now by keys alone
     m_box->SetSel(1, 1);
     owtest::Press(VK_TAB);
-    ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }));
     const auto isDefault = [&] { return ::SendMessage(Button(), WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON; };
-    EXPECT_TRUE(isDefault());
+    ASSERT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == Button(); }) && isDefault());
     owtest::MenuVisit visit([&](const owtest::OpenMenu& menu) { menu.Press({VK_DOWN, VK_RETURN}); });
     owtest::Press(VK_SPACE);
     EXPECT_STREQ(m_box->GetValue(), L"a%ib");
-    EXPECT_EQ(::GetFocus(), m_box->m_hWnd);
-    EXPECT_FALSE(isDefault()) << "the default button is where the focus is";
+    EXPECT_TRUE(::GetFocus() == m_box->m_hWnd && !isDefault()) << "the default button is where the focus is";
 }
 
 TEST_F(EscSeq, FindsItsPlaceInLongTextsAndInManyLines)
@@ -169,8 +158,7 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedTextAndIgnoresWhatItCannotInser
     auto& box = Show();
     box.SetValue(L"ok");
     box.SetValue(L"no!");
-    EXPECT_EQ(TextOf(box), L"ok");
-    EXPECT_TRUE(box.IsDataCurrentlyInGUIValid());
+    EXPECT_TRUE(TextOf(box) == L"ok" && box.IsDataCurrentlyInGUIValid());
     box.SafeSetWindowText(L"shown");
     box.OnTextChosen(kInsert, 3);
     EXPECT_STREQ(box.GetValue(), L"%hok") << "what the program showed without storing it does not count";
@@ -199,8 +187,7 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedTextAndIgnoresWhatItCannotInser
         other.OnTextChosen(nId, nIndex);
     other.SetReadOnly();
     other.OnTextChosen(kInsert, 0);
-    EXPECT_EQ(handler.Take(), "");
-    EXPECT_EQ(TextOf(other), L"ab");
+    EXPECT_TRUE(handler.Take().empty() && TextOf(other) == L"ab");
     other.SetReadOnly(FALSE);
     other.SetAnsiInterface(true);
     other.OnTextChosen(kInsert, 0);

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <climits>
-#include <limits>
-#include <optional>
 #include <random>
 
 namespace
@@ -44,8 +42,7 @@ public:
         if (min == m_min && max == m_max && !force)
             return;
         m_min = min, m_max = max;
-        const bool moves = HasNumber() && Clamped(m_value) != m_value;
-        if (moves || force)
+        if ((HasNumber() && Clamped(m_value) != m_value) || force)
             Show(m_value, m_empty);
     }
     void SetMinRange(Number min, bool force) { SetRange(min, std::numeric_limits<Number>::max(), force); }
@@ -64,11 +61,7 @@ public:
         Show(m_value, m_empty);
     }
     void SetComplexUnit(const CComplexUnit& unit) { ChangeUnit(unit); }
-    void DisableComplexUnit()
-    {
-        if (m_unit)
-            ChangeUnit(std::nullopt);
-    }
+    void DisableComplexUnit() { m_unit ? ChangeUnit(std::nullopt) : void(); }
     /// A box for whole numbers keeps its last one while it is empty.
     bool HasNumber() const { return !m_empty || std::is_integral_v<Number>; }
 
