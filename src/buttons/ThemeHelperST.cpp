@@ -50,8 +50,7 @@ HRESULT CThemeHelperST::DrawThemeBackground(HTHEME hTheme, HDC hDC, int nPart, i
 
 void CThemeHelperST::DrawThemeParentBackground(HWND hWnd, HDC hDC, const RECT* pRect) const
 {
-    if (!m_hThemeModule || !hWnd)
-        return;
-    if (const auto draw = OW_ENTRY_POINT(DrawThemeParentBackground))
+    const auto draw = m_hThemeModule ? OW_ENTRY_POINT(DrawThemeParentBackground) : nullptr;
+    if (draw && hWnd)
         draw(hWnd, hDC, const_cast<RECT*>(pRect)); // older headers declare the rectangle without const
 }

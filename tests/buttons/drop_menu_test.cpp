@@ -140,7 +140,8 @@ TEST_P(DropMenus, TakeEveryCommandForAChoice)
         m_pButton->SetFocus();
         m_pButton->SendMessage(WM_KILLFOCUS);
         m_room.erases = 0;
-        EXPECT_TRUE(Repaints(m_room, [&, n = command] { m_pButton->SendMessage(WM_COMMAND, n); }));
+        EXPECT_TRUE(
+            Repaints(m_room, [&, n = command] { EXPECT_EQ(m_pButton->SendMessage(WM_COMMAND, n), 0); }));
         m_room.UpdateWindow();
         EXPECT_EQ(m_room.erases, 0) << "the parent is painted anew without being erased";
         EXPECT_TRUE(ShowsFocus(*m_pButton));

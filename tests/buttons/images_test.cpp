@@ -62,6 +62,8 @@ TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOthe
         EXPECT_TRUE(button.m_icons[1].size.cx == cxOut && !button.m_bitmaps[0].hBitmap) << cxOut;
         expectSized({cxIn, cxIn});
     }
+    EXPECT_EQ(button.SetIcon(10000, 10014), 0u); // the sizes that they have
+    EXPECT_TRUE(button.m_icons[0].size == CSize(32, 32) && button.m_icons[1].size == CSize(24, 24));
     for (const int nOut : {int(CButtonST::copyDarker), 10122})
     {
         EXPECT_EQ(button.SetBitmaps(10101, kWhite, nOut, kKey), 0u);
