@@ -10,8 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include "Picture.h"
+
 #include <algorithm>
 #include <random>
+#include <sstream>
 
 namespace
 {
@@ -53,6 +56,14 @@ struct Walk
         return {Count() - 1, x, false};
     }
 };
+using Sizes = std::vector<int>;
+
+void SetSizes(CGridAxis& axis, const Sizes& sizes)
+{
+    axis.SetCount(static_cast<int>(sizes.size()), 0);
+    for (int item = 0; item < axis.Count(); ++item)
+        axis.SetSize(item, sizes[item]);
+}
 } // namespace
 
 /// 21 rows of 20 and 7 columns of 60 pixels, the first of each fixed, seen through 300 by 200 pixels.
@@ -67,7 +78,39 @@ protected:
         cols.SetFixed(1);
     }
     CGridView View() const { return CGridView(rows, cols, topLeft, CSize(300, 200)); }
-    CGridDividers Dividers(EGridWay way) const { return CGridDividers(way, View(), 3); }
+    /// What a press and a double click mean along the headers, as "58-62: 0 f0" for a run of pixels.
+    std::string Dividers(EGridWay way, bool opens) const
+    {
+        const CGridDividers dividers(way, View(), 3);
+        const int end = gfnAlong(way, CSize(300, 200));
+        std::string all, last;
+        for (int pixel = 0, from = 0; pixel <= end; ++pixel)
+        {
+            const CPoint point = gfnPointAlong(way, pixel, 5);
+            CCellID cell = View().CellAt(point);
+            std::ostringstream now;
+            if (pixel < end && dividers.IsAt(point))
+            {
+                const int fit = dividers.Fit(cell, point);
+                const auto taken = dividers.Take(cell, point, opens);
+                CRect held(0, 0, 300, 200);
+                CPoint start(-1, -1);
+                View().Origin(cell, start);
+                gfnStartAlong(way, held) = gfnAlong(way, start) + 1;
+                gfnEndAlong(way, held) = gfnAlong(way, start) + 1 + end - gfnAlong(way, View().Body());
+                EXPECT_TRUE(!taken.bHeld || taken.rectHeld == held) << pixel;
+                now << ": " << (taken.bMarked ? gfnItemAlong(way, cell) : -1) << (taken.bHeld ? " f" : "? f")
+                    << fit;
+            }
+            if (now.str() == last)
+                continue;
+            if (!last.empty())
+                all += std::to_string(from) + '-' + std::to_string(pixel - 1) + last + "; ";
+            last = now.str();
+            from = pixel;
+        }
+        return all;
+    }
 
     CGridAxis rows, cols;
     CCellID topLeft{1, 1};
@@ -75,6 +118,7 @@ protected:
 
 TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
 {
+    owtest::Surface context(300, 200);
     std::mt19937 random(7);
     const auto pick = [&](int below) { return static_cast<int>(random() % below); };
     for (int round = 0; round < 3000; ++round)
@@ -103,11 +147,14 @@ TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
         ASSERT_EQ(origin, x && y ? CPoint(*x, *y) : CPoint(-7, -7));
         ASSERT_EQ(view.FromOrigin(cell, point), x && y ? CPoint(point - origin) : CPoint(0, 0));
         ASSERT_EQ(view.Shows(cell), x && y && *x < 300 && *y < 200);
-        ASSERT_EQ(view.CellRect(cell, rect), x && y);
-        if (x && y)
+        const CCellID last(pick(down.Count() + 2) - 1, pick(right.Count() + 2) - 1);
+        const auto y2 = down.Start(last.row, topLeft.row), x2 = right.Start(last.col, topLeft.col);
+        ASSERT_EQ(view.RangeRect(CCellRange(cell.row, cell.col, last.row, last.col), rect),
+                  x && y && x2 && y2);
+        if (x && y && x2 && y2)
         {
-            const CSize size(right.sizes[cell.col], down.sizes[cell.row]);
-            ASSERT_EQ(rect, CRect(origin, size - CSize(1, 1))) << "with its last pixel";
+            const CPoint end(*x2 + right.sizes[last.col], *y2 + down.sizes[last.row]);
+            ASSERT_EQ(rect, CRect(origin, end - CSize(1, 1))) << "with its last pixel";
         }
 
         const CGridAxis::SVisible rowsSeen = down.Visible(topLeft.row, 200),
@@ -119,6 +166,44 @@ TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
         { return seen.nLast - (seen.nLast > 0 && seen.nEnd > end); };
         ASSERT_EQ(view.VisibleWhole(),
                   CCellRange(topLeft.row, topLeft.col, whole(rowsSeen, 200), whole(colsSeen, 300)));
+
+        for (const EGridWay way : kGridWays)
+        {
+            const int at = gfnAlong(way, point), body = gfnAlong(way, view.Body());
+            const int end = gfnAlong(way, CSize(300, 200));
+            const auto beyond = view.Beyond(way, point); // a drag goes on from the edge that it has left
+            ASSERT_EQ(beyond.has_value(), at > end || at < body);
+            const CPoint edge = gfnPointAlong(way, at > end ? end : body + 1,
+                                              std::clamp<int>(gfnAlong(gfnOtherWay(way), point), 0,
+                                                              gfnAlong(gfnOtherWay(way), CSize(300, 200))));
+            ASSERT_TRUE(!beyond || (beyond->bOn == (at > end) && beyond->edge == edge));
+            CRect part(0, 0, 300, 200);
+            gfnStartAlong(way, part) = body;
+            ASSERT_EQ(view.ScrollingPart(way), part);
+        }
+
+        CRect clip(CPoint(pick(290), pick(190)), CSize(1 + pick(60), 1 + pick(40)));
+        context.dc().SelectClipRgn(nullptr);
+        context.dc().IntersectClipRect(clip);
+        context.dc().GetClipBox(&clip);
+        const auto overlaps = [&](int row, int col, int edge) // the corner is drawn without asking
+        {
+            return (row < down.fixed && col < right.fixed) ||
+                   (rect.left < clip.right + edge && rect.right >= clip.left &&
+                    rect.top < clip.bottom + edge && rect.bottom >= clip.top);
+        };
+        int left = 0;
+        for (int row = 0; row < down.Count(); ++row)
+            for (int col = 0; col < right.Count(); ++col)
+                left += view.CellRect(CCellID(row, col), rect) && overlaps(row, col, 0);
+        const auto drawn = [&](int row, int col, const CRect& place)
+        {
+            EXPECT_TRUE(view.CellRect(CCellID(row, col), rect) && rect == place) << row << ',' << col;
+            EXPECT_TRUE(overlaps(row, col, 1));
+            left -= overlaps(row, col, 0);
+        };
+        CGridPainter(context.dc(), view).DrawCells(drawn);
+        ASSERT_EQ(left, 0);
     }
 }
 
@@ -170,221 +255,79 @@ TEST(GridAxis, KeepsCountOfItsSizesAlsoOfThoseThatAreAllAlike)
 
 TEST(GridAxis, SharesWhatIsLeftAmongThoseThatShow)
 {
-    using Sizes = std::vector<int>;
-    struct Case
-    {
-        Sizes before;
-        int nFirst, nPixels;
-        Sizes after; ///< none: nothing to share it among
-    };
-    for (const Case& c : {Case{{60, 60, 60}, 0, 11, {64, 64, 63}},
-                          {{60, 60, 60}, 0, -10, {56, 57, 57}},
-                          {{60, 60, 60}, 1, 5, {60, 63, 62}},
-                          {{60, 0, 60, 60}, 0, 5, {62, 0, 61, 61}}, // the hidden one takes up a place
-                          {{5, 60}, 0, -20, {1, 50}},
-                          {{60, 0, 0}, 1, 5, {}},
-                          {{60, 60}, 2, 5, {}}})
+    // The sizes, the first that takes part, the pixels; the sizes after, none where nothing can be shared.
+    for (const auto& [before, first, pixels, after] :
+         {std::tuple(Sizes{60, 60, 60}, 0, 11, Sizes{64, 64, 63}),
+          std::tuple(Sizes{60, 60, 60}, 0, -10, Sizes{56, 57, 57}),
+          std::tuple(Sizes{60, 60, 60}, 1, 5, Sizes{60, 63, 62}),
+          std::tuple(Sizes{60, 0, 60, 60}, 0, 5, Sizes{62, 0, 61, 61}), // the hidden one takes up a place
+          std::tuple(Sizes{5, 60}, 0, -20, Sizes{1, 50}), std::tuple(Sizes{60, 0, 0}, 1, 5, Sizes{}),
+          std::tuple(Sizes{60, 60}, 2, 5, Sizes{})})
     {
         CGridAxis axis;
-        axis.SetCount(static_cast<int>(c.before.size()), 60);
+        SetSizes(axis, before);
+        EXPECT_EQ(axis.Share(first, pixels), !after.empty());
         for (int item = 0; item < axis.Count(); ++item)
-            axis.SetSize(item, c.before[item]);
-        EXPECT_EQ(axis.Share(c.nFirst, c.nPixels), !c.after.empty());
-        Sizes after;
-        for (int item = 0; item < axis.Count(); ++item)
-            after.push_back(axis.Size(item));
-        EXPECT_EQ(after, c.after.empty() ? c.before : c.after);
+            EXPECT_EQ(axis.Size(item), (after.empty() ? before : after)[item]);
     }
-}
-
-TEST_F(GridView, ARangeReachesFromItsFirstCellToItsLast)
-{
-    CRect rect;
-    ASSERT_TRUE(View().RangeRect(CCellRange(1, 1, 2, 2), rect));
-    EXPECT_EQ(rect, CRect(60, 20, 179, 59));
-    EXPECT_FALSE(View().RangeRect(CCellRange(1, 1, kRows, 2), rect));
-    EXPECT_FALSE(View().RangeRect(CCellRange(-1, 1, 2, 2), rect));
-    EXPECT_EQ(View().ScrollingPart(EGridWay::eColumns), CRect(60, 0, 300, 200));
-    EXPECT_EQ(View().ScrollingPart(EGridWay::eRows), CRect(0, 20, 300, 200));
-}
-
-TEST_F(GridView, ADragGoesOnFromTheEdgeThatItHasLeft)
-{
-    using Edge = std::optional<std::tuple<bool, int, int>>; // whether it goes on, and not back; from where
-    const auto beyond = [&](EGridWay way, CPoint point)
-    {
-        const auto found = View().Beyond(way, point);
-        return found ? Edge({found->bOn, found->edge.x, found->edge.y}) : Edge();
-    };
-    struct Case
-    {
-        CPoint point;
-        Edge down, sideways;
-    };
-    for (const Case& c : {Case{{300, 200}, {}, {}},
-                          {{60, 20}, {}, {}},
-                          {{301, 201}, {{true, 300, 200}}, {{true, 300, 200}}},
-                          {{59, 19}, {{false, 59, 21}}, {{false, 61, 19}}},
-                          {{-5, 999}, {{true, 0, 200}}, {{false, 61, 200}}},
-                          {{999, -5}, {{false, 300, 21}}, {{true, 300, 0}}}})
-    {
-        EXPECT_EQ(beyond(EGridWay::eRows, c.point), c.down) << c.point.x << ',' << c.point.y;
-        EXPECT_EQ(beyond(EGridWay::eColumns, c.point), c.sideways) << c.point.x << ',' << c.point.y;
-    }
-}
-
-TEST_F(GridView, ThePainterDrawsTheCellsThatTouchTheClipBoxInTheirPlaces)
-{
-    CDC dc;
-    CBitmap bitmap;
-    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr) && bitmap.CreateBitmap(300, 200, 1, 1, nullptr));
-    CBitmap* const pOld = dc.SelectObject(&bitmap);
-    const CRect clip(30, 10, 170, 90);
-    dc.IntersectClipRect(clip);
-    topLeft = CCellID(4, 2);
-    rows.SetFixed(2);
-    int left = 0;
-    for (int row = 0; row < kRows; ++row)
-        for (int col = 0; col < kCols; ++col)
-            if (CRect rect; View().CellRect(CCellID(row, col), rect))
-                left += rect.left <= clip.right && rect.right >= clip.left && rect.top <= clip.bottom &&
-                        rect.bottom >= clip.top;
-    CGridPainter(dc, View())
-        .DrawCells(
-            [&](int nRow, int nCol, const CRect& rect)
-            {
-                CRect place;
-                EXPECT_TRUE(View().CellRect(CCellID(nRow, nCol), place));
-                EXPECT_EQ(rect, place) << nRow << ',' << nCol;
-                --left;
-            });
-    EXPECT_EQ(left, 0);
-    dc.SelectObject(pOld);
 }
 
 // ---- Dividers ---------------------------------------------------------------------------------------------
 
-TEST_F(GridView, DividersAreAliveOverTheHeadersOnly)
+TEST_F(GridView, ADividerMeansTheItemBeforeIt)
 {
-    cols.SetCount(4, 0);
-    const auto alive = [](int at, int size, int last)
+    using enum EGridWay;
+    // Sizes, the first that is not scrolled away, whether hidden ones are opened.
+    const std::tuple<EGridWay, Sizes, int, bool, std::string> cases[] = {
+        {eColumns, {60, 60, 60}, 1, true, "58-62: 0 f0; 118-122: 1 f1; 178-179: 2 f2; "},
+        // of rows a double click means the one under the pointer in all but the top pixels
+        {eRows, {20, 20, 20}, 1, true, "18-19: 0 f0; 20-22: 0 f1; 38-39: 1 f1; 40-42: 1 f2; 58-59: 2 f2; "},
+        // what is scrolled away is marked and not held
+        {eColumns, {60, 60, 60, 60}, 2, true, "58-59: 0 f0; 60-62: 1? f1; 118-122: 2 f2; 178-179: 3 f3; "},
+        {eRows, {20, 20, 20, 20}, 3, true, "18-19: 0 f0; 20-22: 2? f3; 38-39: 3 f3; "},
+        {eColumns, {60, 60, 0, 60}, 1, true, "58-62: 0 f0; 118-119: 1 f1; 120-122: 2 f1; 178-179: 3 f3; "},
+        {eColumns, {60, 60, 0, 60}, 1, false, "58-62: 0 f0; 118-122: 1 f1; 178-179: 3 f3; "},
+        {eColumns, {60, 0, 0, 60}, 1, true, "58-59: 0 f0; 60-62: 2 f0; 118-119: 3 f3; "},
+        {eColumns, {60, 0, 0, 60}, 1, false, "58-62: 0 f0; 118-119: 3 f3; "},
+        {eColumns, {0, 0, 0, 60}, 1, true, "0-2: 2 f-1; 58-59: 3 f3; "},
+        {eColumns, {0, 0, 0, 60}, 1, false, "0-2: -1? f-1; 58-59: 3 f3; "}, // none before it shows
+        {eColumns, {0, 0, 0, 60, 60}, 4, true, "0-2: 3? f3; 58-59: 4 f4; "},
+        // the last one can be taken though it is nearly closed
+        {eColumns, {60, 60, 0}, 1, true, "58-62: 0 f0; 118-119: 2 f1; "},
+        {eColumns, {60, 60, 0}, 1, false, "58-62: 0 f0; 118-119: 2 f1; "},
+        {eColumns, {60, 60, 1}, 1, true, "58-62: 0 f0; 118-118: 1 f1; 119-120: 2 f1; "},
+        {eColumns, {60, 60, 2}, 1, true, "58-62: 0 f0; 118-119: 1 f1; 120-121: 2 f1; "},
+        {eColumns, {60, 60, 3}, 1, false, "58-62: 0 f0; 118-122: 1 f1; "}};
+    for (const auto& [way, sizes, first, opens, meant] : cases)
     {
-        const int next = (at + 2) / size; // the divider that this is before, or just behind
-        return next > 0 && next <= last && std::abs(at - next * size) < 3 && at < last * size;
-    };
-    for (int x = 0; x < 300; ++x)
-    {
-        EXPECT_EQ(Dividers(EGridWay::eColumns).IsAt(CPoint(x, 19)), alive(x, kColWidth, 4)) << x;
-        EXPECT_FALSE(Dividers(EGridWay::eColumns).IsAt(CPoint(x, 20))) << "in the body";
+        SetSizes(way == eColumns ? cols : rows, sizes);
+        gfnItemAlong(way, topLeft = CCellID(1, 1)) = first;
+        EXPECT_EQ(Dividers(way, opens), meant);
     }
-    for (int y = 0; y < 200; ++y)
-    {
-        EXPECT_EQ(Dividers(EGridWay::eRows).IsAt(CPoint(59, y)), alive(y, kRowHeight, kRows)) << y;
-        EXPECT_FALSE(Dividers(EGridWay::eRows).IsAt(CPoint(60, y)));
-    }
-}
-
-TEST_F(GridView, APressTakesTheItemBeforeTheDivider)
-{
-    struct Case
-    {
-        EGridWay way;
-        CPoint point;
-        CCellID pressed, taken;
-        CRect held;
-    };
-    for (const Case& c : {Case{EGridWay::eColumns, {119, 5}, {0, 1}, {0, 1}, {61, 0, 301, 200}},
-                          {EGridWay::eColumns, {122, 5}, {0, 2}, {0, 1}, {61, 0, 301, 200}},
-                          {EGridWay::eColumns, {123, 5}, {0, 2}, {0, 2}, {121, 0, 361, 200}},
-                          {EGridWay::eRows, {9, 59}, {2, 0}, {2, 0}, {0, 41, 300, 221}},
-                          {EGridWay::eRows, {9, 61}, {3, 0}, {2, 0}, {0, 41, 300, 221}}})
-    {
-        CCellID cell = c.pressed;
-        const CGridDividers::STaken taken = Dividers(c.way).Take(cell, c.point, true);
-        EXPECT_TRUE(taken.bMarked && taken.bHeld);
-        EXPECT_EQ(cell, c.taken) << c.point.x << ',' << c.point.y;
-        EXPECT_EQ(taken.rectHeld, c.held);
-    }
-    EXPECT_EQ(Dividers(EGridWay::eColumns).Marker(CPoint(119, 5)), CRect(119, 0, 121, 200));
-    EXPECT_EQ(Dividers(EGridWay::eRows).Marker(CPoint(9, 61)), CRect(0, 61, 300, 63));
-
-    topLeft = CCellID(4, 2);
-    const auto take = [&](int nCol, int x)
-    {
-        CCellID cell(0, nCol);
-        const auto taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(x, 5), true);
-        return std::tuple(taken.bMarked, taken.bHeld, cell.col);
-    };
-    EXPECT_EQ(take(3, 121), std::tuple(true, true, 2)) << "a column is looked up in the headings";
-    EXPECT_EQ(take(2, 61), std::tuple(true, false, 1)) << "what is scrolled away is marked and not held";
-    EXPECT_EQ(take(1, 61), std::tuple(false, false, 1));
-}
-
-TEST_F(GridView, AHiddenItemIsOpenedOrPassedOver)
-{
-    cols.SetSize(2, 0);
-    const CGridDividers dividers = Dividers(EGridWay::eColumns);
-    const auto take = [&](int nCol, int x, bool bOpens)
-    {
-        CCellID cell(0, nCol);
-        return dividers.Take(cell, CPoint(x, 5), bOpens).bMarked ? cell.col : -9;
-    };
-    EXPECT_EQ(take(3, 121, true), 2);
-    EXPECT_EQ(take(3, 121, false), 1);
-    EXPECT_EQ(take(3, 178, false), 3);
-    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(122, 5)), 1) << "a double click means one that shows";
-    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(123, 5)), 3);
-    cols.SetSize(1, 0);
-    cols.SetSize(0, 0);
-    EXPECT_EQ(take(3, 1, true), 2);
-    EXPECT_EQ(take(3, 1, false), -9) << "none before it shows";
-    EXPECT_EQ(dividers.Fit(CCellID(0, 3), CPoint(2, 5)), -1);
-    topLeft = CCellID(1, 4);
-    EXPECT_EQ(Dividers(EGridWay::eColumns).Fit(CCellID(0, 3), CPoint(2, 5)), -1) << "scrolled away";
-}
-
-TEST_F(GridView, ANearlyClosedLastItemCanStillBeTaken)
-{
-    cols.SetCount(4, 0);
-    struct Case
-    {
-        int nSize, x, nTaken;
-    };
-    for (const Case& c : {Case{0, 179, 3}, Case{0, 178, 3}, Case{0, 177, 2}, Case{1, 179, 3}, Case{1, 178, 2},
-                          Case{2, 181, 3}, Case{2, 180, 3}, Case{2, 179, 2}, Case{3, 181, 2}})
-    {
-        cols.SetSize(3, c.nSize);
-        CCellID cell(0, c.x < 180 ? 2 : 3);
-        const auto taken = Dividers(EGridWay::eColumns).Take(cell, CPoint(c.x, 5), c.x % 2 != 0);
-        EXPECT_TRUE(taken.bHeld);
-        EXPECT_EQ(taken.rectHeld.left, 60 * c.nTaken + 1);
-        EXPECT_EQ(cell.col, c.nTaken) << c.x << " at " << c.nSize;
-    }
+    EXPECT_FALSE(CGridDividers(eColumns, View(), 3).IsAt(CPoint(119, 20))) << "in the body";
+    EXPECT_FALSE(CGridDividers(eRows, View(), 3).IsAt(CPoint(60, 39)));
+    EXPECT_EQ(CGridDividers(eColumns, View(), 3).Marker(CPoint(119, 5)), CRect(119, 0, 121, 200));
+    EXPECT_EQ(CGridDividers(eRows, View(), 3).Marker(CPoint(9, 61)), CRect(0, 61, 300, 63));
 }
 
 // ---- Bars -------------------------------------------------------------------------------------------------
 
 TEST(GridBars, OneBarMayMakeTheOtherNecessary)
 {
-    struct Case
-    {
-        CSize all;
-        SGridBar vertical, horizontal;
-    };
     const CSize area(300, 200), fixed(60, 20), thickness(17, 15);
     const auto told = [](const SGridBar& bar) { return std::tuple(bar.bShows, bar.nMax, bar.nPage); };
-    for (const Case& c : {Case{{300, 200}, {}, {}},
-                          {{301, 180}, {}, {true, 240, 240}},
-                          {{283, 201}, {true, 180, 180}, {}},
-                          {{301, 185}, {}, {true, 240, 240}},
-                          {{284, 201}, {true, 180, 165}, {true, 223, 223}},
-                          {{301, 186}, {true, 165, 165}, {true, 240, 240}},
-                          {{999, 999}, {true, 978, 165}, {true, 938, 223}}})
+    for (const auto& [all, vertical, horizontal] : {std::tuple(CSize(300, 200), SGridBar(), SGridBar()),
+                                                    {CSize(301, 180), {}, {true, 240, 240}},
+                                                    {CSize(283, 201), {true, 180, 180}, {}},
+                                                    {CSize(301, 185), {}, {true, 240, 240}},
+                                                    {CSize(284, 201), {true, 180, 165}, {true, 223, 223}},
+                                                    {CSize(301, 186), {true, 165, 165}, {true, 240, 240}},
+                                                    {CSize(999, 999), {true, 978, 165}, {true, 938, 223}}})
     {
-        const SGridBarPlan plan = gfnPlanGridBars(area, fixed, c.all, thickness);
+        const SGridBarPlan plan = gfnPlanGridBars(area, fixed, all, thickness);
         EXPECT_FALSE(plan.bOnlyHeadersFit);
-        EXPECT_EQ(told(plan.Of(EGridWay::eRows)), told(c.vertical)) << c.all.cx << ',' << c.all.cy;
-        EXPECT_EQ(told(plan.Of(EGridWay::eColumns)), told(c.horizontal)) << c.all.cx << ',' << c.all.cy;
+        EXPECT_EQ(told(plan.vertical), told(vertical)) << all.cx << ',' << all.cy;
+        EXPECT_EQ(told(plan.horizontal), told(horizontal)) << all.cx << ',' << all.cy;
     }
     for (const CSize small : {CSize(60, 200), CSize(300, 20), CSize(61, 21)})
         EXPECT_EQ(gfnPlanGridBars(small, fixed, CSize(999, 999), thickness).bOnlyHeadersFit, small.cx != 61);
