@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 /// A cell that writes down what the grid tells it, as "click 5,3" with the point in the cell.
 class NotedCell : public CGridCell
 {
@@ -98,6 +100,28 @@ protected:
     {
         owtest::Press(key);
         EXPECT_TRUE(EditorCloses());
+    }
+    /// Focus and selection, what goes on, and what the parent and the bars were told since the last time: "3,2
+    /// [3,2-4,2]=2 mode 4 timer capture changed 3,2 v1", and "#" for a command.
+    std::string Seen()
+    {
+        owtest::Pump();
+        std::ostringstream seen;
+        seen << grid.GetFocusCell().row << ',' << grid.GetFocusCell().col;
+        if (const CCellRange all = Selected(); grid.GetSelectedCount() > 0)
+            seen << " [" << all.minRow << ',' << all.minCol << '-' << all.maxRow << ',' << all.maxCol
+                 << "]=" << grid.GetSelectedCount();
+        if (grid.GetMouseMode() != 0)
+            seen << " mode " << grid.GetMouseMode();
+        seen << (grid.m_nTimerId ? " timer" : "") << (::GetCapture() ? " capture" : "");
+        for (const auto* told : {&parent.calls, &grid.scrolls})
+            for (const std::string& call : *told)
+                seen << ' ' << call;
+        for (; parent.commands > 0; --parent.commands)
+            seen << " #";
+        parent.calls.clear();
+        grid.scrolls.clear();
+        return seen.str();
     }
     void MakeReadOnly(int nRow, int nCol)
     {
