@@ -10,20 +10,20 @@
 
 namespace
 {
-using Calls = std::vector<std::string>;
+using Calls = GridParent::Calls;
 
 constexpr COLORREF kWhite = RGB(255, 255, 255), kBlue = RGB(0xE0, 0xE0, 0xFF);
 constexpr COLORREF kBand = RGB(255, 240, 200), kBandCrossed = RGB(0xE0, 0xD1, 200);
 constexpr COLORREF kBody = RGB(250, 250, 240), kBodyCrossed = RGB(0xDB, 0xDB, 0xF0);
 constexpr COLORREF kOwn = RGB(1, 2, 3); ///< given to a cell by its client
 
-/// Hears for both kinds of grid, and writes down each call as "77 row 2 after -1".
+/// Hears for both kinds of grid, and writes down each call as "77 row 2 after -1; ".
 class Handler : public AExtGridCtrlNotificationHandler,
                 public AExtGridCtrl2NotificationHandler,
                 public AExtGridCtrl2ExtraHeaderSupport
 {
 public:
-    Calls Take() { return std::exchange(m_calls, {}); }
+    std::string Take() { return std::exchange(m_told, {}); }
 
     std::function<bool(const CString&)> accepts = [](const CString&) { return true; };
     std::function<void()> onChange = [] {};
@@ -66,10 +66,10 @@ private:
     {
         CStringA text;
         text.Format(format, parts...);
-        m_calls.push_back(text.GetString());
+        m_told += text.GetString() + std::string("; ");
     }
 
-    Calls m_calls;
+    std::string m_told;
 };
 
 Handler s_handler; ///< of all grids below
@@ -118,7 +118,7 @@ protected:
         this->Send(WM_RBUTTONUP, point);
     }
     /// Types a text into the focus cell and ends the edit; what the handler was told.
-    Calls Enter(const wchar_t* text)
+    std::string Enter(const wchar_t* text)
     {
         handler.Take();
         grid.SetFocus();
@@ -133,6 +133,8 @@ protected:
         return this->parent.SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
     }
     std::string Colours() const { return ColoursOf(grid); }
+    /// What the handler was told, and the colours since.
+    std::string Told() { return handler.Take() + Colours(); }
 
     using GridTestOf<Grid>::grid;
     Handler& handler = s_handler;
@@ -147,17 +149,15 @@ TEST_F(ExtGrid, AUserMovesTheCurrentRow)
 {
     grid.SetItemBkColour(2, 1, kOwn);
     ClickCell(2, 2);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 2 after -1"});
-    EXPECT_EQ(Colours(), ".... .... .### .... .... ");
+    EXPECT_EQ(Told(), "77 row 2 after -1; .... .... .### .... .... ");
 
     ClickCell(2, 3);
-    EXPECT_EQ(handler.Take(), Calls{}) << "another cell of the same row";
+    EXPECT_EQ(handler.Take(), "") << "another cell of the same row";
     owtest::Press(VK_DOWN);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 3 after 2"});
-    EXPECT_EQ(Colours(), ".... .... .www .### .... ") << "white, whatever the row's colours were";
+    EXPECT_EQ(Told(), "77 row 3 after 2; .... .... .www .### .... ")
+        << "white, whatever the row's colours were";
     ClickCell(0, 2);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 3"}) << "a heading stands for the first row";
-    EXPECT_EQ(Colours(), ".... .### .www .www .... ");
+    EXPECT_EQ(Told(), "77 row 1 after 3; .... .### .www .www .... ") << "a heading stands for the first row";
 
     EXPECT_EQ(parent.Take(),
               (Calls{"changing 2,2", "click 2,2", "changing 2,3", "click 2,3", "changing 0,2", "click 0,2"}))
@@ -167,10 +167,10 @@ TEST_F(ExtGrid, AUserMovesTheCurrentRow)
 TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
 {
     grid.SetFocusCell(2, 2);
-    EXPECT_EQ(Enter(L"IPE 200"), Calls{"77 text 2,2 IPE 200"});
+    EXPECT_EQ(Enter(L"IPE 200"), "77 text 2,2 IPE 200; ");
     EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200");
     handler.accepts = [&](const CString& text) { return grid.GetItemText(2, 2) != text; };
-    EXPECT_EQ(Enter(L"x"), Calls{"77 text 2,2 x"});
+    EXPECT_EQ(Enter(L"x"), "77 text 2,2 x; ");
     EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200")
         << "refused; the cell held it already when the handler was asked";
     handler.accepts = [&](const CString&)
@@ -178,7 +178,7 @@ TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
         grid.SetFocusCell(4, 1); // moves on from within the call
         return true;
     };
-    EXPECT_EQ(Enter(L"y"), (Calls{"77 text 2,2 y", "77 row 4 after 2"}));
+    EXPECT_EQ(Enter(L"y"), "77 text 2,2 y; 77 row 4 after 2; ");
     EXPECT_EQ(parent.Take(), Calls(3, "begin 2,2")) << "of the end only the handler hears";
 }
 
@@ -187,15 +187,14 @@ TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
     grid.SelectRowEx(3, 1);
     grid.SelectRowEx(3, 2);
     grid.SelectRowEx(5, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 3 after -1"});
+    EXPECT_EQ(handler.Take(), "77 row 3 after -1; ");
     EXPECT_EQ(grid.GetFocusCell(), CCellID()) << "the focus is another matter";
 
     // A fixed row is remembered as it is, and loses its colour as if it had been painted.
     grid.SelectRowEx(0, 1);
     EXPECT_EQ(Colours(), ".... .### .... .www .... ");
     grid.SelectRowEx(1, 1);
-    EXPECT_EQ(handler.Take(), (Calls{"77 row 1 after 3", "77 row 1 after 0"}));
-    EXPECT_EQ(Colours(), ".www .### .... .www .... ");
+    EXPECT_EQ(Told(), "77 row 1 after 3; 77 row 1 after 0; .www .### .... .www .... ");
 }
 
 TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
@@ -214,26 +213,24 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
     grid.SetRowCount(1000);
     handler.Take();
     grid.SelectRowEx(900, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 900 after 90"});
+    EXPECT_EQ(handler.Take(), "77 row 900 after 90; ");
 }
 
 TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
 {
     handler.onChange = [&] { grid.SetRowCount(2); };
     grid.SetFocusCell(4, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 4 after -1"});
-    EXPECT_EQ(Colours(), ".... .... ");
+    EXPECT_EQ(Told(), "77 row 4 after -1; .... .... ");
 
     handler.onChange = [&] { grid.DestroyWindow(); };
     grid.SetFocusCell(1, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 row 1 after 4"});
-    EXPECT_EQ(Colours(), ".... .### ");
+    EXPECT_EQ(Told(), "77 row 1 after 4; .... .### ");
     grid.SetRowCount(3);
     grid.SelectRowEx(2, 1);
-    EXPECT_EQ(handler.Take(), Calls{"0 row 2 after 1"}) << "without a window there is no id";
+    EXPECT_EQ(handler.Take(), "0 row 2 after 1; ") << "without a window there is no id";
     GridNotify foreign{{nullptr, 0, NM_RCLICK}, 1, 1};
     parent.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&foreign));
-    EXPECT_EQ(handler.Take(), Calls{}) << "and nobody else's notification is the grid's";
+    EXPECT_EQ(handler.Take(), "") << "and nobody else's notification is the grid's";
 }
 
 TEST_F(ExtGrid, TheHookAnswersForTheParent)
@@ -247,8 +244,8 @@ TEST_F(ExtGrid, TheHookAnswersForTheParent)
             EXPECT_EQ(Notify(nCode, nRow, 1), 1);
     RightClick(CPoint(290, 190)); // outside all cells
     EXPECT_EQ(Notify(NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
-    EXPECT_EQ(handler.Take(), (Calls{"77 text 2,1 2/1", "77 text 2,2 2/2", "77 row 3 after -1",
-                                     "77 row 1 after 3", "77 rclick 3", "77 rclick 1", "77 rclick 1"}));
+    EXPECT_EQ(handler.Take(), "77 text 2,1 2/1; 77 text 2,2 2/2; 77 row 3 after -1; 77 row 1 after 3; 77 "
+                              "rclick 3; 77 rclick 1; 77 rclick 1; ");
     const std::string before = Colours();
     grid.m_crSelectedRow = CLR_NONE;
     grid.SelectRowEx(4, 1);
@@ -283,15 +280,15 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
             pOfTemplate->InstallMessageHook();
         for (const auto& pGrid : grids)
             pGrid->SetFocusCell(2, 1);
-        EXPECT_EQ(handlers[0].Take(), Calls{"0 row 2 after -1"});
-        EXPECT_EQ(handlers[1].Take(), Calls{"1 cell 2,1 after -1,-1"});
+        EXPECT_EQ(handlers[0].Take(), "0 row 2 after -1; ");
+        EXPECT_EQ(handlers[1].Take(), "1 cell 2,1 after -1,-1; ");
         EXPECT_EQ(ColoursOf(*grids[1]), ".# .# ## ") << "without an extra header";
         EXPECT_EQ(parent.Take(), (Calls{"changed 1,1", "changed 2,1"})) << "unhooked, and of the plain grid";
         const int stays = 1 - goesFirst;
         grids[goesFirst].reset();
         grids[stays]->SetFocusCell(0, 0);
-        EXPECT_EQ(handlers[stays].Take(), Calls{stays ? "1 cell 0,0 after 2,1" : "0 row 0 after 2"});
-        EXPECT_EQ(ColoursOf(*grids[stays]), stays ? "## #w #w " : "## .. ww ");
+        EXPECT_EQ(handlers[stays].Take() + ColoursOf(*grids[stays]),
+                  stays ? "1 cell 0,0 after 2,1; ## #w #w " : "0 row 0 after 2; ## .. ww ");
     }
 }
 
@@ -326,38 +323,34 @@ TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
 {
     handler.bandRows = 2;
     ClickCell(2, 2);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 2,2 after -1,-1"});
-    EXPECT_EQ(Colours(), ".... ..b. .bbb ..g. ..g. ");
+    EXPECT_EQ(Told(), "77 cell 2,2 after -1,-1; .... ..b. .bbb ..g. ..g. ");
     owtest::Press(VK_DOWN);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,2 after 2,2"});
-    EXPECT_EQ(Colours(), ".... ..b. .BbB .ggg ..g. ");
+    EXPECT_EQ(Told(), "77 cell 3,2 after 2,2; .... ..b. .BbB .ggg ..g. ");
     owtest::Press(VK_LEFT);
     EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG. ")
         << "both old directions rest, both new ones are crossed";
     ClickCell(3, 1);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,1 after 3,2"}) << "a click on the current cell is no change";
+    EXPECT_EQ(handler.Take(), "77 cell 3,1 after 3,2; ") << "a click on the current cell is no change";
     EXPECT_EQ(handler.asked, "nhbnhbnhb") << "once for each change, the count first";
     grid.m_crSelected = CLR_NONE;
     grid.SelectCellEx(1, 3);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 1,3 after 3,1"});
-    EXPECT_EQ(Colours(), ".... .bB. .bBB .ggg .gG. ") << "told, and not painted";
+    EXPECT_EQ(Told(), "77 cell 1,3 after 3,1; .... .bB. .bBB .ggg .gG. ") << "told, and not painted";
 }
 
 TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
 {
     grid.SetFocusCell(2, 3);
     handler.accepts = [](const CString&) { return false; };
-    EXPECT_EQ(Enter(L"7"), Calls{"77 text 2,3 7"});
+    EXPECT_EQ(Enter(L"7"), "77 text 2,3 7; ");
     EXPECT_EQ(grid.GetItemText(2, 3), L"2/3");
     RightClick(MiddleOf(grid, 0, 2));
     RightClick(MiddleOf(grid, 3, 0));
-    EXPECT_EQ(handler.Take(),
-              (Calls{"77 cell 1,2 after 2,3", "77 rclick 1,2", "77 cell 3,1 after 1,2", "77 rclick 3,1"}));
+    EXPECT_EQ(handler.Take(), "77 cell 1,2 after 2,3; 77 rclick 1,2; 77 cell 3,1 after 1,2; 77 rclick 3,1; ");
     for (const auto& [nCode, cell] :
          {std::pair(NM_RCLICK, CCellID(5, 1)), std::pair(NM_RCLICK, CCellID(1, 4)),
           std::pair(LVN_ITEMCHANGED, CCellID(1, 4))})
         EXPECT_EQ(Notify(nCode, cell.row, cell.col), 1);
-    EXPECT_EQ(handler.Take(), Calls{}) << "past the end";
+    EXPECT_EQ(handler.Take(), "") << "past the end";
 }
 
 TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
@@ -366,17 +359,15 @@ TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
     grid.SelectCellEx(2, 2);
     grid.SelectCellEx(2, 4);
     grid.SelectCellEx(5, 2);
-    EXPECT_EQ(handler.Take(), (Calls{"77 cell 2,2 after -1,-1", "77 cell 2,2 after -1,-1"}));
+    EXPECT_EQ(handler.Take(), "77 cell 2,2 after -1,-1; 77 cell 2,2 after -1,-1; ");
 
     // A fixed address is remembered as it is, and rests in its turn: a row above the body lies before the end
     // of any band, an empty one, too.
     handler.bandRows = 0;
     grid.SelectCellEx(0, 0);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 1,1 after 2,2"});
-    EXPECT_EQ(Colours(), ".... .ggg .gGG .gG. .gG. ");
+    EXPECT_EQ(Told(), "77 cell 1,1 after 2,2; .... .ggg .gGG .gG. .gG. ");
     grid.SelectCellEx(3, 3);
-    EXPECT_EQ(handler.Take(), Calls{"77 cell 3,3 after 0,0"});
-    EXPECT_EQ(Colours(), ".BBB Gggg GgGg Gggg GgGg ");
+    EXPECT_EQ(Told(), "77 cell 3,3 after 0,0; .BBB Gggg GgGg Gggg GgGg ");
 }
 
 TEST(SubtractiveMix, AddsWhatTheColoursTakeFromWhite)
