@@ -57,17 +57,9 @@ protected:
         ChoiceCells::SetUp();
         cell = &Make<CGridCellCheck>();
         margin = static_cast<int>(cell->GetMargin());
-        parent.answer = [this](NMHDR& header) -> LRESULT
-        {
-            const auto& record = reinterpret_cast<GridNotify&>(header);
-            if (static_cast<int>(header.code) == GVN_CHECKCLICKED)
-                told.push_back(CCellID(record.iRow, record.iColumn));
-            return 0;
-        };
     }
     CGridCellCheck* cell = nullptr;
     int margin = 0;
-    std::vector<CCellID> told;
 };
 
 TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
@@ -75,7 +67,7 @@ TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
     const CPoint box = CellRect().TopLeft() + CSize(margin + kBoxSize / 2, margin + kBoxSize / 2);
     owtest::Click(grid, box);
     EXPECT_EQ(cell->GetCheck(), 1) << "the first click, which also brings the focus";
-    EXPECT_EQ(told, std::vector{CCellID(kRow, kCol)});
+    EXPECT_EQ(Seen(), "3,2 [3,2-3,2]=1 changed 3,2 changing 3,2 check 3,2 click 3,2 #");
     grid.SetEditable(FALSE);
     owtest::Click(grid, box);
     EXPECT_EQ(cell->GetCheck(), 0) << "it flips without being editable";
@@ -83,22 +75,21 @@ TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
     owtest::Click(grid, CPoint(CellRect().right - 3, CellRect().CenterPoint().y));
     EXPECT_TRUE(EditorOpens(kRow, kCol)) << "beside the box the text is edited";
     EndByKey(VK_ESCAPE);
-    EXPECT_EQ(cell->GetCheck(), 0);
-    EXPECT_EQ(told.size(), 2u);
+    EXPECT_EQ(Seen(), "3,2 [3,2-3,2]=1 changing 3,2 check 3,2 click 3,2 begin 3,2 # #");
 
     // The record names the focus cell.
     grid.SetFocusCell(5, 4);
+    parent.Take();
     const int last = margin + kBoxSize - 1;
     for (const auto& [point, hit] :
          {std::pair(CPoint(margin, margin), true), std::pair(CPoint(last, last), true),
           std::pair(CPoint(margin - 1, margin), false), std::pair(CPoint(margin, margin - 1), false),
           std::pair(CPoint(last + 1, last), false), std::pair(CPoint(last, last + 1), false)})
     {
-        told.clear();
         cell->SetCheck(0);
         cell->OnClick(point);
         EXPECT_EQ(cell->GetCheck(), hit) << point.x << ',' << point.y;
-        EXPECT_EQ(told, std::vector(hit, CCellID(5, 4)));
+        EXPECT_EQ(parent.Take(), Calls(hit, "check 5,4"));
     }
 }
 
@@ -106,7 +97,7 @@ TEST_F(CheckCells, AChangeRepaintsWhatWasDrawn)
 {
     const CPoint box(margin, margin);
     EXPECT_EQ(Repainted([&] { EXPECT_EQ(cell->SetCheck(1), 0) << "the old state"; }), CellRect());
-    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(parent.Take(), Calls{});
     CGridCellCheck copy, undrawn;
     copy = *cell;
     EXPECT_EQ(copy.GetCheck(), 1);
@@ -432,29 +423,25 @@ TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
 TEST_F(ColourCells, TheSwatchNeedsRoom)
 {
     const COLORREF red = acedGetRGB(1), black = RGB(0, 0, 0);
-    struct Case
-    {
-        int color;
-        CSize size;
-        int reds, blacksBeside; ///< the mark of a list has 5 + 3 + 1
-        COLORREF swatchCorner, frame;
-    };
-    for (const Case& c : {Case{1, {54, 17}, 39 * 10, 9, red, black},
-                          {1, {53, 30}, 0, 0, kBack, kBack}, // the cell itself is painted
-                          {1, {80, 16}, 0, 0, kBack, kBack},
-                          {999, {80, 30}, 0, 9, kBack, black}}) // no such colour: an empty swatch
+    // The colour and the size; reds, blacks beside the swatch (the mark of a list has 5 + 3 + 1), its corner and
+    // its frame.
+    for (const auto& [color, size, reds, blacks, swatch, frame] :
+         {std::tuple(1, CSize(54, 17), 39 * 10, 9, red, black),
+          std::tuple(1, CSize(53, 30), 0, 0, kBack, kBack), // the cell itself is painted
+          std::tuple(1, CSize(80, 16), 0, 0, kBack, kBack),
+          std::tuple(999, CSize(80, 30), 0, 9, kBack, black)}) // no such colour: an empty swatch
     {
         CGridCellColorCombo copy;
-        cell->PostaviMastAci(c.color);
+        cell->PostaviMastAci(color);
         copy = *cell;
         owtest::Surface drawn(100, 40);
-        EXPECT_EQ(copy.Draw(&drawn.dc(), kRow, kCol, CRect(CPoint(0, 0), c.size), TRUE), c.frame == black);
-        EXPECT_EQ(drawn.count(CRect(0, 0, 100, 40), red), c.reds);
-        EXPECT_EQ(drawn.count(CRect(49, 0, 100, 40), black), c.blacksBeside) << c.size.cx;
-        EXPECT_EQ(drawn.at(8, 4), c.swatchCorner);
+        EXPECT_EQ(copy.Draw(&drawn.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE), frame == black);
+        EXPECT_EQ(drawn.count(CRect(0, 0, 100, 40), red), reds);
+        EXPECT_EQ(drawn.count(CRect(49, 0, 100, 40), black), blacks) << size.cx;
+        EXPECT_EQ(drawn.at(8, 4), swatch);
         for (const CPoint corner : {CPoint(7, 3), CPoint(47, 14)})
-            EXPECT_EQ(drawn.at(corner.x, corner.y), c.frame);
-        EXPECT_EQ(drawn.at(60, 9) == black, c.frame == black) << "the tip of the mark";
+            EXPECT_EQ(drawn.at(corner.x, corner.y), frame);
+        EXPECT_EQ(drawn.at(60, 9) == black, frame == black) << "the tip of the mark";
     }
     EXPECT_FALSE(cell->Draw(nullptr, kRow, kCol, CRect(0, 0, 80, 30), TRUE));
 }

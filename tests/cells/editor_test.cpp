@@ -35,27 +35,20 @@ protected:
 
 TEST_F(Editors, TheFirstKeyDecidesWhatHappensToTheText)
 {
-    struct Case
+    // The key, the text then, and its selection.
+    for (const auto& [key, text, from, to] : {std::tuple(UINT(VK_LBUTTON), L"text", 4, 4),
+                                              {VK_RETURN, L"text", 4, 4},
+                                              {VK_BACK, L"tex", 3, 3},
+                                              {VK_TAB, L"text", 0, 4},
+                                              {VK_SPACE, L"text", 0, 4},
+                                              {VK_PRIOR, L"text", 0, 4},
+                                              {VK_DOWN, L"text", 0, 4},
+                                              {L'q', L"q", 1, 1},
+                                              {0x448, L"\x448", 1, 1}})
     {
-        UINT key;
-        const wchar_t* text;
-        int from, to; ///< selection
-    };
-    for (const Case& c : {Case{VK_LBUTTON, L"text", 4, 4},
-                          {VK_RETURN, L"text", 4, 4},
-                          {VK_BACK, L"tex", 3, 3},
-                          {VK_TAB, L"text", 0, 4},
-                          {VK_SPACE, L"text", 0, 4},
-                          {VK_PRIOR, L"text", 0, 4},
-                          {VK_DOWN, L"text", 0, 4},
-                          {L'q', L"q", 1, 1},
-                          {0x448, L"\x448", 1, 1}})
-    {
-        CEdit& edit = Edit(c.key);
-        EXPECT_EQ(owtest::TextOf(edit), c.text) << c.key;
-        int from = -1, to = -1;
-        edit.GetSel(from, to);
-        EXPECT_EQ(std::pair(from, to), std::pair(c.from, c.to)) << c.key;
+        CEdit& edit = Edit(key);
+        EXPECT_EQ(owtest::TextOf(edit), text) << key;
+        EXPECT_EQ(edit.GetSel(), MAKELONG(from, to)) << key;
         edit.SendMessage(WM_CHAR, VK_ESCAPE);
         EXPECT_TRUE(EditorCloses());
         EXPECT_EQ(Text(kRow, kCol), L"text") << "what it began with";

@@ -15,27 +15,13 @@ class OpenGrid : public CGridCtrl
 public:
     using CGridCtrl::CGridCtrl;
 
-    using CGridCtrl::ClearCells;
-    using CGridCtrl::EndEditing;
-    using CGridCtrl::GetCellRangeRect;
-    using CGridCtrl::GetMouseMode;
-    using CGridCtrl::GetPointClicked;
-    using CGridCtrl::GetScrollPos32;
-    using CGridCtrl::GetTopleftNonFixedCell;
-    using CGridCtrl::GetUnobstructedNonFixedCellRange;
-    using CGridCtrl::GetVisibleNonFixedCellRange;
-    using CGridCtrl::Initialise;
-    using CGridCtrl::InvalidateCellRect;
-    using CGridCtrl::IsVisibleHScroll;
-    using CGridCtrl::IsVisibleVScroll;
-    using CGridCtrl::m_nHScrollMax;
-    using CGridCtrl::m_nTimerId;
-    using CGridCtrl::m_nVScrollMax;
-    using CGridCtrl::m_nWheelLines;
-    using CGridCtrl::m_selectionStart;
-    using CGridCtrl::OnDraw;
-    using CGridCtrl::OnEditCell;
-    using CGridCtrl::SetScrollPos32;
+    using CGridCtrl::ClearCells, CGridCtrl::EndEditing, CGridCtrl::GetCellRangeRect, CGridCtrl::GetMouseMode,
+        CGridCtrl::GetPointClicked, CGridCtrl::GetScrollPos32, CGridCtrl::GetTopleftNonFixedCell,
+        CGridCtrl::GetUnobstructedNonFixedCellRange, CGridCtrl::GetVisibleNonFixedCellRange,
+        CGridCtrl::Initialise, CGridCtrl::InvalidateCellRect, CGridCtrl::IsVisibleHScroll,
+        CGridCtrl::IsVisibleVScroll, CGridCtrl::m_nHScrollMax, CGridCtrl::m_nTimerId,
+        CGridCtrl::m_nVScrollMax, CGridCtrl::m_nWheelLines, CGridCtrl::m_selectionStart, CGridCtrl::OnDraw,
+        CGridCtrl::OnEditCell, CGridCtrl::SetScrollPos32;
 
     std::vector<std::string> scrolls; ///< the scroll messages, as "v1" for one line down
 
@@ -110,7 +96,7 @@ private:
             {NM_CLICK, "click"},          {NM_DBLCLK, "dblclk"},
             {NM_RCLICK, "rclick"},        {LVN_ITEMCHANGING, "changing"},
             {LVN_ITEMCHANGED, "changed"}, {LVN_BEGINLABELEDITW, "begin"},
-            {LVN_ENDLABELEDITW, "end"}};
+            {LVN_ENDLABELEDITW, "end"},   {UINT(GVN_CHECKCLICKED), "check"}};
         const auto found = names.find(code);
         return found == names.end() ? nullptr : found->second;
     }
