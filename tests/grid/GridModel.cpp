@@ -9,6 +9,17 @@
 
 namespace
 {
+/// Knows how many there are.
+class CCountedCell : public CGridCell
+{
+    DECLARE_DYNCREATE(CCountedCell)
+public:
+    CCountedCell() { ++s_alive; }
+    ~CCountedCell() override { --s_alive; }
+    static inline int s_alive = 0;
+};
+IMPLEMENT_DYNCREATE(CCountedCell, CGridCell)
+
 struct CellKind
 {
     CRuntimeClass* pClass;
@@ -19,7 +30,7 @@ const CellKind kKinds[] = {
     {RUNTIME_CLASS(CGridCell), nullptr},           {RUNTIME_CLASS(CLimitedTextCell), nullptr},
     {RUNTIME_CLASS(CLimitedIntCell), L""},         {RUNTIME_CLASS(CLimitedDoubleCell), L".00"},
     {RUNTIME_CLASS(CGridCellCheck), nullptr},      {RUNTIME_CLASS(CGridCellCombo), nullptr},
-    {RUNTIME_CLASS(CGridCellColorCombo), nullptr},
+    {RUNTIME_CLASS(CGridCellColorCombo), nullptr}, {RUNTIME_CLASS(CCountedCell), nullptr},
 };
 
 /// What becomes of a text that is typed; nothing if the cell refuses it.
@@ -62,6 +73,7 @@ public:
     int fixed[2] = {};
     CCellID focus;
     int sortColumn = -1;
+    bool modified = false;
     int newKind; ///< of cells made from now on
 
     explicit Model(int kind = 0) : newKind(kind) {}
@@ -100,6 +112,13 @@ public:
         Select(CCellRange(0, 0, RowCount() - 1, ColCount() - 1), false);
         Select(range);
     }
+    void ForgetChanges()
+    {
+        for (auto& cell : m_cells)
+            cell.second.state &= ~CELL_MODIFIED;
+        modified = false;
+        sortColumn = -1;
+    }
     void Reset()
     {
         SelectOnly();
@@ -107,6 +126,7 @@ public:
     }
     void Resize(bool ofRows, int n, int size)
     {
+        modified = true;
         while (Count(ofRows) < n)
             lines[ofRows].push_back(NewLine(size));
         lines[ofRows].resize(n);
@@ -118,12 +138,14 @@ public:
     void Insert(bool row, int at, int size)
     {
         Reset();
+        modified = true;
         lines[row].insert(lines[row].begin() + at, NewLine(size));
         sortColumn = -1;
     }
     void Remove(bool row, int at)
     {
         Reset();
+        modified = true;
         fixed[row] -= at < fixed[row];
         lines[row].erase(lines[row].begin() + at);
         sortColumn = -1;
@@ -246,6 +268,7 @@ private:
             Say("DeleteAllItems");
             Expect(m_grid.DeleteAllItems(), "DeleteAllItems answers 0");
             m_model = Model(m_model.newKind);
+            m_model.modified = true;
         }
         else if (what == 1)
         {
@@ -296,7 +319,7 @@ private:
 
     void ChangeItem()
     {
-        const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount()), what = Pick(5);
+        const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount()), what = Pick(6);
         const BOOL exists = m_model.Has(r, c);
         ModelCell missing{0};
         ModelCell& cell = exists ? m_model.At(r, c) : missing;
@@ -309,6 +332,11 @@ private:
                              : m_grid.SetItemData(r, c, cell.data)) == exists,
                    "changing an item answers wrong");
             Changed(r, c);
+        }
+        else if (what == 5)
+        {
+            m_grid.SetModified(FALSE);
+            m_model.ForgetChanges();
         }
         else if (exists)
         {
@@ -323,6 +351,7 @@ private:
         if (!m_model.Has(r, c))
             return;
         m_model.At(r, c).state |= CELL_MODIFIED;
+        m_model.modified = true;
         if (c == m_model.sortColumn)
             m_model.sortColumn = -1;
     }
@@ -542,6 +571,7 @@ private:
         Expect(m_grid.GetFixedColumnCount() == m_model.fixed[false], "fixed column count");
         Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
+        Expect((m_grid.GetModified() != 0) == m_model.modified, "whether it is modified");
         Expect((m_grid.*&OpenGrid::GetMouseMode)() == 0, "mouse mode");
         if (CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId))
             Problem("an editor is left; focus: ", ::GetFocus(), ", editor: ", editor->m_hWnd,
@@ -570,14 +600,16 @@ private:
 
     void CheckCells()
     {
-        int selected = 0;
+        int selected = 0, counted = 0;
         m_grid.GetCellRange().ForEach(
             [&](int r, int c)
             {
                 if (!IsCellAsTold(r, c))
                     Problem("cell ", r, ",", c, " is of another kind, or holds another text, data or state");
                 selected += (m_model.At(r, c).state & CELL_SELECTED) != 0;
+                counted += IsA(m_model.At(r, c).kind, RUNTIME_CLASS(CCountedCell));
             });
+        Expect(CCountedCell::s_alive == counted, "cells outlive their place");
         Expect(m_grid.GetSelectedCount() == selected, "the selection's books are out of step with the cells");
     }
 

@@ -77,35 +77,6 @@ bool RunsOut(Work work)
 }
 } // namespace
 
-TEST(GridCells, ComeGoAndMove)
-{
-    {
-        CGridCells cells;
-        for (const int nRow : {0, 1, 0})
-            cells.InsertRow(nRow, 2, Maker());
-        EXPECT_EQ(TextsOf(cells, 2), L"00 01/00 01/10 -/");
-        cells.InsertColumn(1, Maker());
-        cells.SwapRows(0, 2);
-        EXPECT_EQ(TextsOf(cells, 3), L"10 21 -/00 - 01/00 01 01/");
-        cells.SetColumns(4);
-        EXPECT_EQ(cells.At(0, 3), nullptr);
-        cells.FillFrom(3, Maker());
-        EXPECT_EQ(TextsOf(cells, 4), L"10 21 - 03/00 - 01 13/00 01 01 23/");
-        cells.RemoveColumn(0);
-        cells.RemoveRow(1);
-        EXPECT_EQ(TextsOf(cells, 3), L"21 - 03/01 01 23/");
-        EXPECT_EQ(CCountedCell::s_alive, 5);
-        cells.SetColumns(1);
-        EXPECT_EQ(TextsOf(cells, 1), L"21/01/");
-        cells.CutRows(1);
-        EXPECT_EQ(TextsOf(cells, 1), L"21/");
-        EXPECT_EQ(CCountedCell::s_alive, 1);
-        delete cells.At(0, 0);
-        cells.Put(0, 0, new CCountedCell);
-    }
-    EXPECT_EQ(CCountedCell::s_alive, 0) << "what is in its place goes with the rows";
-}
-
 namespace
 {
 std::atomic<int> s_allocations = 0; ///< how many large ones there is memory for
@@ -321,21 +292,4 @@ TEST(SavedWidths, AreKeptUnderTheirKey)
     EXPECT_EQ(CSavedWidths(CString()).Read(1, 50), 50);
     AfxGetApp()->WriteProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_3", -9);
     EXPECT_EQ(CSavedWidths(key).Read(3, 50), 0) << "nobody has a negative width";
-}
-
-// ---- Items ------------------------------------------------------------------------------------------------
-
-TEST(GridItems, AChangeOfContentsMarksTheGridAndItsSortColumnIsSortedNoMore)
-{
-    CGridCtrl grid(2, 2);
-    grid.SetModified(FALSE);
-    grid.SetSortColumn(1);
-    EXPECT_TRUE(grid.SetItemState(1, 1, CELL_SELECTED));
-    EXPECT_TRUE(grid.SetItemFormat(1, 1, DT_RIGHT));
-    EXPECT_FALSE(grid.GetModified());
-    EXPECT_TRUE(grid.SetItemText(1, 0, L"x"));
-    EXPECT_TRUE(grid.GetModified());
-    EXPECT_EQ(grid.GetSortColumn(), 1);
-    EXPECT_TRUE(grid.SetItemText(1, 1, L"x"));
-    EXPECT_EQ(grid.GetSortColumn(), -1);
 }
