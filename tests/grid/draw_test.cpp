@@ -44,17 +44,10 @@ protected:
     std::string Map()
     {
         const std::string letters = ". -RCXtshd";
-        const auto of = ::GetSysColor;
-        const COLORREF colors[] = {kBack,
-                                   kBehind,
-                                   kLine,
-                                   kRowHead,
-                                   kColHead,
-                                   kCorner,
-                                   kText,
-                                   of(COLOR_HIGHLIGHT),
-                                   of(COLOR_3DHIGHLIGHT),
-                                   of(COLOR_3DDKSHADOW)};
+        const COLORREF selected = ::GetSysColor(COLOR_HIGHLIGHT), light = ::GetSysColor(COLOR_3DHIGHLIGHT),
+                       dark = ::GetSysColor(COLOR_3DDKSHADOW);
+        const COLORREF colors[] = {kBack,   kBehind, kLine,    kRowHead, kColHead,
+                                   kCorner, kText,   selected, light,    dark};
         const Picture picture(grid);
         std::string map;
         for (const int y : {0, 10, 19, 20, 21, 30, 38, 39, 50, 180})

@@ -6,7 +6,6 @@
 #include "ImportStandIn.h"
 
 #include "grid/RowSorter.h"
-#include "grid/SavedWidths.h"
 #include "grid/TextFields.h"
 
 #include <gtest/gtest.h>
@@ -245,51 +244,28 @@ TEST(RowSorter, StopsWhereItIsBrokenAndTakesAnyOrder)
     }
 }
 
-// ---- Files and widths -------------------------------------------------------------------------------------
+// ---- Files ------------------------------------------------------------------------------------------------
 
 TEST(TextFields, EndAtSeparatorsAndGoOnBehindAnUnendedLine)
 {
     using Fields = std::vector<std::wstring>;
-    struct Case
-    {
-        std::wstring line; ///< what the line left of the one before it, if any, follows a 0
-        Fields fields;
-    };
-    for (const Case& c : {Case{L"a;b\n", {L"a", L"b"}},
-                          {L"x;;y\n", {L"x", L"", L"y"}},
-                          {L"\n", {L""}},
-                          {L"", {}},
-                          {L"a,b", {L"a,b"}},
-                          {L"end;\n", {L"end", L""}},
-                          {std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
-                          {std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
-                          {std::wstring(1023, L';'), Fields(1023)}})
+    // A line, what the line left of the one before it, if any, follows a 0; and its fields.
+    for (const auto& [text, expected] : {std::pair<std::wstring, Fields>(L"a;b\n", {L"a", L"b"}),
+                                         {L"x;;y\n", {L"x", L"", L"y"}},
+                                         {L"\n", {L""}},
+                                         {L"", {}},
+                                         {L"a,b", {L"a,b"}},
+                                         {L"end;\n", {L"end", L""}},
+                                         {std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
+                                         {std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
+                                         {std::wstring(1023, L';'), Fields(1023)}})
     {
         wchar_t line[CTextFields::kLineSize] = {};
-        std::copy(c.line.begin(), c.line.end(), line);
+        std::copy(text.begin(), text.end(), line);
         CTextFields fields(line, L';');
         Fields found;
         while (const wchar_t* const field = fields.Next())
             found.push_back(field);
-        EXPECT_EQ(found, c.fields) << c.line.c_str();
+        EXPECT_EQ(found, expected) << text.c_str();
     }
-}
-
-TEST(SavedWidths, AreKeptUnderTheirKey)
-{
-    CGridAxis columns;
-    columns.SetCount(3, 60);
-    columns.SetSize(1, 123);
-    const CString key = CSavedWidths::KeyOf(L"GridWidthsTest", 4);
-    AfxGetApp()->WriteProfileString(L"OstrelWorks", key + L"_col_3", nullptr); // of an earlier run
-    CSavedWidths(key).Write(columns);
-    CSavedWidths(CString()).Write(columns); // nothing is written, and nothing read
-    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_1", -1), 123u);
-    EXPECT_EQ(AfxGetApp()->GetProfileInt(L"OstrelWorks", L"_col_1", 7), 7u);
-    EXPECT_EQ(CSavedWidths(key).Read(1, 50), 123);
-    EXPECT_EQ(CSavedWidths(key).Read(2, 50), 60);
-    EXPECT_EQ(CSavedWidths(key).Read(3, 50), 50);
-    EXPECT_EQ(CSavedWidths(CString()).Read(1, 50), 50);
-    AfxGetApp()->WriteProfileInt(L"OstrelWorks", L"GridWidthsTest_4_col_3", -9);
-    EXPECT_EQ(CSavedWidths(key).Read(3, 50), 0) << "nobody has a negative width";
 }

@@ -169,18 +169,26 @@ TEST_F(GridFile, EmptyBinaryAndMissingFilesLeaveASoundGrid)
     EXPECT_FALSE(grid.Load(path.c_str(), L','));
 }
 
-TEST(GridWidths, WinOverTheFirstOneThatIsSet)
+TEST(GridWidths, AreKeptUnderTheirKeyAndWinOverTheFirstOneThatIsSet)
 {
+    const auto saved = [](const wchar_t* key) { return AfxGetApp()->GetProfileInt(L"OstrelWorks", key, -1); };
     const CString key(L"GridWidthsTest");
+    AfxGetApp()->WriteProfileString(L"OstrelWorks", key + L"_5_col_3", nullptr); // of an earlier run
     {
-        OpenGrid first(1, 3);
+        OpenGrid first(1, 3), unnamed(1, 3);
         first.SetPersistentGridColumnsWidth(key, 5);
         first.SetColumnWidth(1, 123, TRUE);
     }
-    OpenGrid second(1, 3);
+    EXPECT_EQ(saved(L"GridWidthsTest_5_col_1"), 123u);
+    EXPECT_EQ(saved(L"_col_1"), UINT(-1)) << "without a key nothing is written";
+    AfxGetApp()->WriteProfileInt(L"OstrelWorks", key + L"_5_col_2", -9);
+    OpenGrid second(1, 4);
     second.SetPersistentGridColumnsWidth(key, 5);
-    second.SetColumnWidth(1, 50);
-    EXPECT_EQ(second.GetColumnWidth(1), 123);
+    for (const auto& [nCol, nWidth] : {std::pair(1, 123), std::pair(2, 0), std::pair(3, 50)})
+    {
+        second.SetColumnWidth(nCol, 50);
+        EXPECT_EQ(second.GetColumnWidth(nCol), nWidth) << "nobody has a negative width";
+    }
     second.SetColumnWidth(1, 50, TRUE);
     EXPECT_EQ(second.GetColumnWidth(1), 50);
 }

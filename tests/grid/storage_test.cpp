@@ -237,12 +237,6 @@ TEST(GridDefaults, CreateForgetsSizesAndGivesASunkenEdge)
     EXPECT_EQ(grid.GetRowCount(), 200 / grid.GetDefCellHeight() + 1);
     EXPECT_EQ(grid.GetColumnCount(), 300 / grid.GetDefCellWidth() + 1);
     EXPECT_TRUE(grid.IsCellFixed(0, 1) && grid.IsCellFixed(1, 0) && !grid.IsCellFixed(1, 1));
-
-    WNDCLASS windowClass;
-    ASSERT_TRUE(::GetClassInfo(AfxGetInstanceHandle(), L"MFCGridCtrl", &windowClass));
-    EXPECT_EQ(windowClass.style, static_cast<UINT>(CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS));
-    EXPECT_EQ(CGridCtrl::GridImageList.GetImageCount(), 11 + 32);
-    EXPECT_EQ(CGridCtrl::nFirstGridIconIdx, 11);
 }
 
 TEST(GridVirtual, CellsAreMadeUpForEachCall)

@@ -333,61 +333,32 @@ TEST(GridBars, OneBarMayMakeTheOtherNecessary)
         EXPECT_EQ(gfnPlanGridBars(small, fixed, CSize(999, 999), thickness).bOnlyHeadersFit, small.cx != 61);
 }
 
-TEST(GridBars, LeaveTheAreaThatTheyTakeUp)
-{
-    for (const DWORD dwBars : {0L, WS_VSCROLL, WS_HSCROLL, WS_VSCROLL | WS_HSCROLL})
-    {
-        CWnd window;
-        ASSERT_TRUE(
-            window.CreateEx(0, L"STATIC", nullptr, WS_POPUP | dwBars, CRect(0, 0, 99, 99), nullptr, 0));
-        const CGridScrollBars bars(window);
-        const CSize freed(
-            dwBars & WS_VSCROLL ? ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER) : 0,
-            dwBars & WS_HSCROLL ? ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER) : 0);
-        EXPECT_EQ(bars.AreaWithout(CSize(70, 50)), CSize(70, 50) + freed);
-        EXPECT_EQ(bars.AreaWithout(CSize(0, 50)), CSize(0, 0));
-        EXPECT_EQ(bars.AreaWithout(CSize(70, 0)), CSize(0, 0));
-    }
-}
-
-TEST(GridBars, AskForAPaintWhenAThumbMoves)
-{
-    CWnd window;
-    ASSERT_TRUE(window.CreateEx(0, L"STATIC", nullptr, WS_POPUP | WS_VISIBLE | WS_VSCROLL,
-                                CRect(0, 0, 99, 99), nullptr, 0));
-    CGridScrollBars bars(window);
-    bars.SetRange(EGridWay::eRows, {true, 100000, 10});
-    const auto asksFor = [&](int pos)
-    {
-        bars.Paint();
-        window.RedrawWindow(nullptr, nullptr, RDW_VALIDATE | RDW_NOINTERNALPAINT);
-        bars.SetPos(EGridWay::eRows, pos);
-        MSG message;
-        return ::PeekMessage(&message, window.m_hWnd, WM_PAINT, WM_PAINT, PM_NOREMOVE) != FALSE;
-    };
-    EXPECT_TRUE(asksFor(50000));
-    EXPECT_FALSE(asksFor(50001)) << "by less than a pixel";
-    EXPECT_TRUE(asksFor(90000));
-}
-
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
 {
     rows.SetSize(3, 0);
     rows.SetSize(7, 1);
-    struct Case
-    {
-        UINT nCode;
-        int nPos, nFirst;
-        std::optional<int> nNewPos;
-    };
-    for (const Case& c :
-         {Case{SB_LINEDOWN, 20, 2, 40},   Case{SB_LINEDOWN, 40, 3, 60},   Case{SB_LINEDOWN, 100, 7, 101},
-          Case{SB_LINEUP, 101, 8, 100},   Case{SB_LINEDOWN, 379, 19, {}}, Case{SB_LINEDOWN, 370, 20, 390},
-          Case{SB_LINEUP, 40, 4, 20},     Case{SB_LINEUP, 0, 1, {}},      Case{SB_LINEUP, 5, 2, 0},
-          Case{SB_LINEUP, 5, 1, {}},      Case{SB_PAGEDOWN, 0, 1, 180},   Case{SB_PAGEDOWN, 300, 16, 379},
-          Case{SB_PAGEDOWN, 379, 20, {}}, Case{SB_PAGEUP, 200, 11, 20},   Case{SB_PAGEUP, 100, 6, 0},
-          Case{SB_PAGEUP, 0, 1, {}},      Case{SB_TOP, 9, 2, 0},          Case{SB_TOP, 0, 1, {}},
-          Case{SB_BOTTOM, 9, 2, 379},     Case{SB_BOTTOM, 379, 20, {}},   Case{SB_ENDSCROLL, 9, 2, {}}})
-        EXPECT_EQ(gfnScrolledPos(c.nCode, rows, {c.nPos, 379, 180, c.nFirst}), c.nNewPos)
-            << c.nCode << " at " << c.nPos;
+    // The message, the position, the first item that scrolls, and the position then.
+    using To = std::optional<int>;
+    for (const auto& [code, pos, first, to] : {std::tuple(SB_LINEDOWN, 20, 2, To(40)),
+                                               {SB_LINEDOWN, 40, 3, 60},
+                                               {SB_LINEDOWN, 100, 7, 101},
+                                               {SB_LINEUP, 101, 8, 100},
+                                               {SB_LINEDOWN, 379, 19, {}},
+                                               {SB_LINEDOWN, 370, 20, 390},
+                                               {SB_LINEUP, 40, 4, 20},
+                                               {SB_LINEUP, 0, 1, {}},
+                                               {SB_LINEUP, 5, 2, 0},
+                                               {SB_LINEUP, 5, 1, {}},
+                                               {SB_PAGEDOWN, 0, 1, 180},
+                                               {SB_PAGEDOWN, 300, 16, 379},
+                                               {SB_PAGEDOWN, 379, 20, {}},
+                                               {SB_PAGEUP, 200, 11, 20},
+                                               {SB_PAGEUP, 100, 6, 0},
+                                               {SB_PAGEUP, 0, 1, {}},
+                                               {SB_TOP, 9, 2, 0},
+                                               {SB_TOP, 0, 1, {}},
+                                               {SB_BOTTOM, 9, 2, 379},
+                                               {SB_BOTTOM, 379, 20, {}},
+                                               {SB_ENDSCROLL, 9, 2, {}}})
+        EXPECT_EQ(gfnScrolledPos(code, rows, {pos, 379, 180, first}), to) << code << " at " << pos;
 }
