@@ -301,9 +301,10 @@ TEST_F(GridView, ADividerMeansTheItemBeforeIt)
     for (const auto& [way, sizes, first, opens, meant] : cases)
     {
         SetSizes(way == eColumns ? cols : rows, sizes);
-        gfnItemAlong(way, topLeft = CCellID(1, 1)) = first;
+        gfnItemAlong(way, topLeft = CCellID(2, 2)) = first;
         EXPECT_EQ(Dividers(way, opens), meant);
     }
+    EXPECT_EQ(CGridDividers(eColumns, View(), 3).Fit(CCellID(0, -1), CPoint(119, 5)), -1);
     EXPECT_FALSE(CGridDividers(eColumns, View(), 3).IsAt(CPoint(119, 20))) << "in the body";
     EXPECT_FALSE(CGridDividers(eRows, View(), 3).IsAt(CPoint(60, 39)));
     EXPECT_EQ(CGridDividers(eColumns, View(), 3).Marker(CPoint(119, 5)), CRect(119, 0, 121, 200));
@@ -333,14 +334,38 @@ TEST(GridBars, OneBarMayMakeTheOtherNecessary)
         EXPECT_EQ(gfnPlanGridBars(small, fixed, CSize(999, 999), thickness).bOnlyHeadersFit, small.cx != 61);
 }
 
+TEST(GridBars, KeepTheirPagesAndLeaveTheAreaThatTheyTakeUp)
+{
+    for (const DWORD dwBars : {0L, WS_VSCROLL, WS_HSCROLL, WS_VSCROLL | WS_HSCROLL})
+    {
+        CWnd window;
+        ASSERT_TRUE(
+            window.CreateEx(0, L"STATIC", nullptr, WS_POPUP | dwBars, CRect(0, 0, 99, 99), nullptr, 0));
+        CGridScrollBars bars(window);
+        const CSize freed(
+            dwBars & WS_VSCROLL ? ::GetSystemMetrics(SM_CXVSCROLL) + ::GetSystemMetrics(SM_CXBORDER) : 0,
+            dwBars & WS_HSCROLL ? ::GetSystemMetrics(SM_CYHSCROLL) + ::GetSystemMetrics(SM_CYBORDER) : 0);
+        EXPECT_EQ(bars.AreaWithout(CSize(70, 50)), CSize(70, 50) + freed);
+        for (const CSize none : {CSize(0, 50), CSize(70, 0)})
+            EXPECT_EQ(bars.AreaWithout(none), CSize(0, 0));
+        SCROLLINFO info{};
+        info.cbSize = sizeof info;
+        info.fMask = SIF_PAGE;
+        for (const int page : {10, 20})
+            bars.SetRange(EGridWay::eRows, {true, 100, page});
+        EXPECT_TRUE(::GetScrollInfo(window, SB_VERT, &info) && info.nPage == 20u);
+    }
+}
+
 TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
 {
     rows.SetSize(3, 0);
+    rows.SetSize(4, 30);
     rows.SetSize(7, 1);
     // The message, the position, the first item that scrolls, and the position then.
     using To = std::optional<int>;
     for (const auto& [code, pos, first, to] : {std::tuple(SB_LINEDOWN, 20, 2, To(40)),
-                                               {SB_LINEDOWN, 40, 3, 60},
+                                               {SB_LINEDOWN, 40, 3, 70},
                                                {SB_LINEDOWN, 100, 7, 101},
                                                {SB_LINEUP, 101, 8, 100},
                                                {SB_LINEDOWN, 379, 19, {}},
