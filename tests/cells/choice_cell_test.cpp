@@ -1,65 +1,29 @@
 // Cells to choose in: the check box, the list and the colour.
 
-#include "../grid/GridFixture.h"
+#include "CellTest.h"
 
 #include "../../platform/acad/src/resource.h"
 
 #include <aced.h>
 
 #include "ModalVisit.h"
-#include "Picture.h"
 
 #include <memory>
 
-namespace
-{
-constexpr int kRow = 3, kCol = 2;
-constexpr int kBoxSize = 13;
-constexpr COLORREF kBack = RGB(250, 251, 252), kText = RGB(10, 20, 200);
-} // namespace
-
-class ChoiceCells : public GridTest
-{
-protected:
-    void SetUp() override
-    {
-        GridTest::SetUp();
-        for (int nRow = 0; nRow < kRows; ++nRow)
-            grid.SetRowHeight(nRow, 30);
-        for (int nCol = 0; nCol < kCols; ++nCol)
-            grid.SetColumnWidth(nCol, 80, TRUE);
-        grid.SetTextBkColor(kBack);
-        grid.SetTextColor(kText);
-        grid.UpdateWindow();
-    }
-    template <class Cell>
-    Cell& Make()
-    {
-        EXPECT_TRUE(grid.SetCellType(kRow, kCol, RUNTIME_CLASS(Cell)));
-        grid.RedrawWindow();
-        return static_cast<Cell&>(*grid.GetCell(kRow, kCol));
-    }
-    CRect CellRect() { return GridTest::CellRect(kRow, kCol); }
-    /// Paints the cell at the origin of a surface.
-    BOOL Draw(owtest::Surface& to, CSize size)
-    {
-        return grid.GetCell(kRow, kCol)->Draw(&to.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE);
-    }
-};
-
 // ---- Check ------------------------------------------------------------------------------------------------
 
-class CheckCells : public ChoiceCells
+class CheckCells : public CellTest
 {
 protected:
     void SetUp() override
     {
-        ChoiceCells::SetUp();
+        CellTest::SetUp();
         cell = &Make<CGridCellCheck>();
         margin = static_cast<int>(cell->GetMargin());
     }
     CGridCellCheck* cell = nullptr;
     int margin = 0;
+    static constexpr int kBoxSize = 13;
 };
 
 TEST_F(CheckCells, AClickIntoTheBoxFlipsItAndTells)
@@ -134,7 +98,7 @@ TEST_F(CheckCells, TheTextStandsClearOfTheBox)
     {
         owtest::Surface surface(120, 40);
         cell->SetCheck(check);
-        Draw(surface, CSize(100, 30));
+        Draw(surface, *cell, CRect(0, 0, 100, 30));
         EXPECT_NE(surface.at(box.left, box.top), kBack);
         EXPECT_EQ(surface.at(box.right, box.bottom), kBack);
         return surface.count(box, RGB(0, 0, 0));
@@ -158,7 +122,7 @@ public:
 IMPLEMENT_DYNCREATE(CChoiceOnlyCell, CGridCellCombo)
 } // namespace
 
-class ComboCells : public ChoiceCells
+class ComboCells : public CellTest
 {
 protected:
     template <class Cell = CGridCellCombo>
@@ -174,14 +138,14 @@ protected:
         grid.SetFocusCell(kRow, kCol);
         return cell;
     }
-    std::wstring CellText() { return Text(kRow, kCol); }
     /// Painted where it belongs, so that painting it again changes nothing.
     bool ShowsArrow(CSize size)
     {
         const CSize arrow(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
         const CRect place(CPoint(size.cx - arrow.cx, 0), arrow);
         owtest::Surface once(120, 60), again(120, 60);
-        EXPECT_TRUE(Draw(once, size) && Draw(again, size));
+        for (owtest::Surface* to : {&once, &again})
+            EXPECT_TRUE(Draw(*to, *grid.GetCell(kRow, kCol), CRect(CPoint(0, 0), size)));
         again.dc().IntersectClipRect(place.left + 1, 0, place.right, place.bottom); // the cell takes a pixel
         again.dc().DrawFrameControl(CRect(place), DFC_SCROLL, DFCS_SCROLLDOWN);
         return once == again;
@@ -302,7 +266,7 @@ TEST_F(ComboCells, AnEditBegunAnewEndsTheOldOne)
     CComboBox* const pFirst = cell.DajKomboBoks();
     ASSERT_NE(pFirst, nullptr);
     owtest::Surface surface(120, 60);
-    Draw(surface, CSize(110, 30));
+    Draw(surface, cell, CRect(0, 0, 110, 30));
     const CRect insideFrame(2, 2, 108, 28);
     EXPECT_EQ(surface.count(insideFrame, kBack), insideFrame.Width() * insideFrame.Height())
         << "while editing neither arrow nor text show";
@@ -342,12 +306,12 @@ public:
 IMPLEMENT_DYNCREATE(CPoisonedColorCell, CGridCellColorCombo)
 } // namespace
 
-class ColourCells : public ChoiceCells
+class ColourCells : public CellTest
 {
 protected:
     void SetUp() override
     {
-        ChoiceCells::SetUp();
+        CellTest::SetUp();
         cell = &Make<CPoisonedColorCell>();
     }
     /// How many dialogs a click opens, in each of which a number is typed and a key pressed.
@@ -435,7 +399,7 @@ TEST_F(ColourCells, TheSwatchNeedsRoom)
         cell->PostaviMastAci(color);
         copy = *cell;
         owtest::Surface drawn(100, 40);
-        EXPECT_EQ(copy.Draw(&drawn.dc(), kRow, kCol, CRect(CPoint(0, 0), size), TRUE), frame == black);
+        EXPECT_EQ(Draw(drawn, copy, CRect(CPoint(0, 0), size)), frame == black);
         EXPECT_EQ(drawn.count(CRect(0, 0, 100, 40), red), reds);
         EXPECT_EQ(drawn.count(CRect(49, 0, 100, 40), black), blacks) << size.cx;
         EXPECT_EQ(drawn.at(8, 4), swatch);

@@ -1,17 +1,15 @@
 // Cells that look different, by their pixels, and the one that is edited in another character set, by typing.
 
-#include "../grid/GridFixture.h"
+#include "CellTest.h"
 
 #include "Handles.h"
-#include "Picture.h"
 #include "SubLanguage.h"
 
 #include <MixedFont.h>
 
 namespace
 {
-constexpr int kRow = 3, kCol = 2;
-constexpr COLORREF kUntouched = RGB(255, 0, 255), kBack = RGB(255, 240, 200), kText = RGB(10, 20, 200);
+constexpr COLORREF kUntouched = RGB(255, 0, 255);
 
 struct Canvas : owtest::Surface
 {
@@ -19,23 +17,7 @@ struct Canvas : owtest::Surface
     int Count(COLORREF color) const { return count(CRect(0, 0, 200, 60), color); }
 };
 
-class DisplayCells : public GridTest
-{
-protected:
-    template <class Cell = CGridCell>
-    Cell& Make(CRuntimeClass* pClass)
-    {
-        EXPECT_TRUE(grid.SetCellType(kRow, kCol, pClass));
-        auto& cell = static_cast<Cell&>(*grid.GetCell(kRow, kCol));
-        cell.SetBackClr(kBack);
-        cell.SetTextClr(kText);
-        return cell;
-    }
-    static BOOL Draw(owtest::Surface& to, CGridCellBase& cell, CRect rect, BOOL bErase = TRUE)
-    {
-        return cell.Draw(&to.dc(), kRow, kCol, rect, bErase);
-    }
-};
+using DisplayCells = CellTest;
 } // namespace
 
 TEST_F(DisplayCells, NeedAGridAndRoomAndAContext)
@@ -119,7 +101,7 @@ TEST_F(DisplayCells, APatternRunsThroughWhateverPartIsPaintedThroughABuffer)
     cell.SetPatternColor(kText);
     cell.SetPatternStyle(HS_DIAGCROSS);
     grid.SetDoubleBuffering(TRUE);
-    const CRect rect = CellRect(kRow, kCol);
+    const CRect rect = CellRect();
     const auto paint = [&](const CRect& part, Canvas& into)
     {
         grid.InvalidateRect(part);
@@ -296,14 +278,14 @@ TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
     grid.SetFocusCell(kRow, kCol);
     for (int i = 0; i < 2; ++i)
     {
-        const std::wstring expected = Text(kRow, kCol) + std::wstring(60, L'\u0394');
+        const std::wstring expected = CellText() + std::wstring(60, L'\u0394');
         ClickCell(kRow, kCol);
         ASSERT_TRUE(EditorOpens(kRow, kCol));
         EXPECT_EQ(owtest::FontOf(Editor()).lfCharSet, GREEK_CHARSET) << i;
         owtest::Type(std::wstring(60, L'\u0394'));
         EXPECT_STREQ(gfnWholeText(Editor()), expected.c_str()) << i;
         EndByKey(VK_RETURN);
-        EXPECT_EQ(Text(kRow, kCol), expected);
+        EXPECT_EQ(CellText(), expected);
         EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "a font for the length of an edit";
     }
     ClickCell(1, 1); // a click on the focus cell would begin the edit

@@ -1,14 +1,12 @@
 // The in-place editors in a grid: first key, keys that end an edit, growth, looks.
 
-#include "../grid/GridFixture.h"
+#include "CellTest.h"
 
 namespace
 {
-class Editors : public GridTest
+class Editors : public CellTest
 {
 protected:
-    static constexpr int kRow = 3, kCol = 2;
-
     /// Begins an edit as a key does.
     CEdit& Edit(UINT firstChar, const wchar_t* text = L"text")
     {
@@ -51,7 +49,7 @@ TEST_F(Editors, TheFirstKeyDecidesWhatHappensToTheText)
         EXPECT_EQ(edit.GetSel(), MAKELONG(from, to)) << key;
         edit.SendMessage(WM_CHAR, VK_ESCAPE);
         EXPECT_TRUE(EditorCloses());
-        EXPECT_EQ(Text(kRow, kCol), L"text") << "what it began with";
+        EXPECT_EQ(CellText(), L"text") << "what it began with";
         EXPECT_EQ(grid.GetFocusCell(), CCellID(kRow, kCol));
     }
 }
@@ -86,7 +84,7 @@ TEST_F(Editors, AnEditIsAlignedAsItsTextAndGrowsToTheGridsEdge)
     grid.SetItemFormat(kRow, kCol, DT_LEFT);
     CEdit& edit = Edit(VK_LBUTTON, L"");
     EXPECT_EQ(edit.GetStyle() & 3, static_cast<DWORD>(ES_LEFT));
-    const CRect cell = CellRect(kRow, kCol);
+    const CRect cell = CellRect();
     EXPECT_EQ(RectOf(edit), cell);
     owtest::Type(L"abcdefghijklmnop");
     const int wide = RectOf(edit).right;

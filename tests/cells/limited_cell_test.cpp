@@ -1,6 +1,6 @@
 // Cells for numbers and texts: what they accept, what becomes of it, and in which unit it is kept.
 
-#include "../grid/GridFixture.h"
+#include "CellTest.h"
 
 #include <cfloat>
 #include <climits>
@@ -9,8 +9,6 @@
 
 namespace
 {
-constexpr int kCol = 2;
-
 CComplexUnit Length(CMeasurementUnit::EUnit unit)
 {
     return CComplexUnit(CMeasurementUnit(unit, CMeasurementUnit::eLength));
@@ -60,9 +58,7 @@ void TakesAs(Cell& cell, double value, const wchar_t* entered)
 }
 } // namespace
 
-class LimitedCells : public GridTest
-{
-};
+using LimitedCells = CellTest;
 
 TEST_F(LimitedCells, AreTypedInto)
 {
