@@ -1,5 +1,5 @@
-// The parts of a grid that need no window: its rows of cells and their memory, the sort, the fields of a line,
-// the saved widths, its books.
+// The parts of a grid that need no window: rows of cells whose memory ends, that memory, the sort, the fields of
+// a line.
 
 #include <DialogControlsOW.h>
 
@@ -74,10 +74,7 @@ bool RunsOut(Work work)
         return true;
     }
 }
-} // namespace
 
-namespace
-{
 std::atomic<int> s_allocations = 0; ///< how many large ones there is memory for
 void* ScarceMemory(size_t count, size_t size)
 {
@@ -85,6 +82,49 @@ void* ScarceMemory(size_t count, size_t size)
         AfxThrowMemoryException();
     return AfxAllocElements(count, size);
 }
+
+std::atomic<int> s_blocks = 0; ///< that the cells' memory has of the heap
+
+struct CountedHeap
+{
+    const owtest::ImportStandIn take{L"DialogControlsOW.dll", "_ZN7CObjectnwEy",
+                                     +[](size_t size)
+                                     {
+                                         if (--s_allocations < 0)
+                                             AfxThrowMemoryException();
+                                         ++s_blocks;
+                                         return CObject::operator new(size);
+                                     }};
+    const owtest::ImportStandIn give{L"DialogControlsOW.dll", "_ZN7CObjectdlEPv",
+                                     +[](void* p)
+                                     {
+                                         --s_blocks;
+                                         CObject::operator delete(p);
+                                     }};
+};
+
+/// Numbers as rows, sorted by their tens.
+struct Numbers
+{
+    std::vector<int> all;
+    int leftToCompare = INT_MAX;
+    int swaps = 0;
+    bool equalMoved = false;
+
+    int CellAt(int nRow) const { return all[nRow]; }
+    int Compare(int first, int second)
+    {
+        --leftToCompare;
+        return first / 10 - second / 10;
+    }
+    void Swap(int nRow, int nOther)
+    {
+        equalMoved = equalMoved || all[nRow] / 10 == all[nOther] / 10;
+        std::swap(all[nRow], all[nOther]);
+        ++swaps;
+    }
+    bool Broken() const { return leftToCompare <= 0; }
+};
 } // namespace
 
 TEST(GridCells, StayAsTheyWereWhenMemoryEnds)
@@ -109,29 +149,6 @@ TEST(GridCells, StayAsTheyWereWhenMemoryEnds)
 }
 
 // ---- Memory of cells --------------------------------------------------------------------------------------
-
-namespace
-{
-std::atomic<int> s_blocks = 0; ///< that the cells' memory has of the heap
-
-struct CountedHeap
-{
-    const owtest::ImportStandIn take{L"DialogControlsOW.dll", "_ZN7CObjectnwEy",
-                                     +[](size_t size)
-                                     {
-                                         if (--s_allocations < 0)
-                                             AfxThrowMemoryException();
-                                         ++s_blocks;
-                                         return CObject::operator new(size);
-                                     }};
-    const owtest::ImportStandIn give{L"DialogControlsOW.dll", "_ZN7CObjectdlEPv",
-                                     +[](void* p)
-                                     {
-                                         --s_blocks;
-                                         CObject::operator delete(p);
-                                     }};
-};
-} // namespace
 
 TEST(CellMemory, ComesInBlocksThatGoBackWithTheirLastCell)
 {
@@ -193,32 +210,6 @@ TEST(CellMemory, IsEachCellsOwnInAnySizeAndThread)
 }
 
 // ---- Sorting ----------------------------------------------------------------------------------------------
-
-namespace
-{
-/// Numbers as rows, sorted by their tens.
-struct Numbers
-{
-    std::vector<int> all;
-    int leftToCompare = INT_MAX;
-    int swaps = 0;
-    bool equalMoved = false;
-
-    int CellAt(int nRow) const { return all[nRow]; }
-    int Compare(int first, int second)
-    {
-        --leftToCompare;
-        return first / 10 - second / 10;
-    }
-    void Swap(int nRow, int nOther)
-    {
-        equalMoved = equalMoved || all[nRow] / 10 == all[nOther] / 10;
-        std::swap(all[nRow], all[nOther]);
-        ++swaps;
-    }
-    bool Broken() const { return leftToCompare <= 0; }
-};
-} // namespace
 
 TEST(RowSorter, StopsWhereItIsBrokenAndTakesAnyOrder)
 {

@@ -9,6 +9,7 @@ TEST_F(GridSelection, OnlyWhatChangesIsRepainted)
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
     EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellRange(3, 1, 4, 2)); }), CRect(60, 60, 180, 100));
+    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellID(3, 1)); }), CRect(60, 60, 120, 80));
     CCellID none;
     EXPECT_EQ(grid.GetNextItem(none, GVNI_SELECTED | GVNI_ALL), CCellID(2, 2));
 }
