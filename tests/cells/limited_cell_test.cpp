@@ -1,6 +1,8 @@
 // Cells for numbers and texts: what they accept, what becomes of it, and in which unit it is kept.
 
-#include "CellTest.h"
+#include <DialogControlsOW.h>
+
+#include <gtest/gtest.h>
 
 #include <cfloat>
 #include <climits>
@@ -9,6 +11,8 @@
 
 namespace
 {
+constexpr int kCol = 2;
+
 CComplexUnit Length(CMeasurementUnit::EUnit unit)
 {
     return CComplexUnit(CMeasurementUnit(unit, CMeasurementUnit::eLength));
@@ -57,30 +61,6 @@ void TakesAs(Cell& cell, double value, const wchar_t* entered)
     EXPECT_EQ(ValueOf(cell), value) << entered;
 }
 } // namespace
-
-using LimitedCells = CellTest;
-
-TEST_F(LimitedCells, AreTypedInto)
-{
-    ClickCell(1, kCol);
-    parent.Take();
-    grid.SetCellType(1, kCol, RUNTIME_CLASS(CLimitedDoubleCell));
-    auto& cell = static_cast<CLimitedDoubleCell&>(*grid.GetCell(1, kCol));
-    const auto type = [&](const wchar_t* text)
-    {
-        owtest::Type(text);
-        owtest::Press(VK_RETURN);
-        EXPECT_TRUE(EditorCloses());
-        return Text(1, kCol);
-    };
-    EXPECT_EQ(type(L"3"), L"3.00");
-    EXPECT_EQ(parent.Take(), (Calls{"begin 1,2", "end 1,2"}));
-    EXPECT_EQ(type(L"1e5"), L"3.00") << "the old text comes back";
-    EXPECT_EQ(parent.Take(), Calls{"begin 1,2"}) << "without a word";
-    grid.ClearCells(CCellRange(1, kCol, 1, kCol));
-    EXPECT_EQ(Text(1, kCol), L"3.00");
-    EXPECT_EQ(cell.Get(kCol), 3.0);
-}
 
 TEST(LimitedDouble, ReadsATextAsFarAsItIsANumber)
 {

@@ -219,36 +219,30 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
     EXPECT_LT(grid->GetRowCount(), 50);
 }
 
-TEST(GridLeaks, LivesEndWhereTheyBegan)
+TEST_F(GridLife, EndsWhereItBegan)
 {
-    const auto live = [](int times)
+    LOGFONT lf{};
+    wcscpy(lf.lfFaceName, L"Liberation Sans");
+    const auto live = [&](int times)
     {
         for (int i = 0; i < times; ++i)
         {
-            OpenGrid grid(20, 5, 1, 1);
-            ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
-            FillWithPlaces(grid);
-            LOGFONT lf{};
-            wcscpy(lf.lfFaceName, L"Liberation Sans");
-            grid.SetItemFont(3, 3, &lf);
-            grid.SetFocusCell(2, 2);
-            grid.SetSelectedRange(2, 2, 6, 3);
-            grid.UpdateWindow();
-            grid.StartEditCell();
-            CWnd* const editor = grid.GetDlgItem(InPlaceControlId);
-            ASSERT_NE(editor, nullptr);
-            editor->SetWindowText(L"new");
-            editor->SendMessage(WM_CHAR, VK_RETURN);
-            ASSERT_EQ(grid.GetItemText(2, 2), L"new");
+            Make();
+            grid->SetItemFont(3, 3, &lf);
+            grid->UpdateWindow();
+            UseGrid();
             if (i % 2) // and destroyed in the middle of it
             {
-                grid.SetCellType(2, 2, i % 4 == 1 ? RUNTIME_CLASS(CGridCell) : RUNTIME_CLASS(CGridCellCombo));
-                grid.StartEditCell();
+                grid->SetCellType(2, 2,
+                                  i % 4 == 1 ? RUNTIME_CLASS(CGridCell) : RUNTIME_CLASS(CGridCellCombo));
+                grid->SetFocusCell(2, 2);
+                grid->StartEditCell();
             }
-            grid.SortTextItems(1, FALSE);
-            owtest::Pump();
-            SharedParent().Take();
+            grid->SortTextItems(1, FALSE);
         }
+        grid = nullptr;
+        owtest::Pump();
+        parent.Take();
     };
     const auto heapBytes = []
     {

@@ -38,7 +38,7 @@ TEST_F(GridSelection, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
     grid.SetFocusCell(0, 0);
     EXPECT_EQ(parent.Take(), Calls{"changed 1,1"}) << "raised into the body";
     grid.SetFocusCell(2, 2);
-    NotedCell::Take();
+    NotedCell::notesDraws = true;
     grid.SetFocusCell(2, 4);
     EXPECT_EQ(NotedCell::Take(), (Calls{"draw 0,2", "draw 0,4"}));
     parent.Take();
@@ -49,6 +49,7 @@ TEST_F(GridSelection, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
     grid.SetFocusCell(4, 2);
     EXPECT_EQ(NotedCell::Take(), Calls{});
     parent.Take();
+    NotedCell::notesDraws = false;
     grid.SetFocusCell(-1, -1);
     EXPECT_EQ(parent.Take(), Calls{});
 }
