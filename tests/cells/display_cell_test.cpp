@@ -45,47 +45,41 @@ TEST_F(DisplayCells, APatternIsInTheMixOnTheBackgroundWhereNothingIsSelected)
     constexpr COLORREF kPattern = RGB(160, 200, 255), kMix = RGB(160, 185, 200), kNone = 0xFFFFFFFF;
     const COLORREF selected = ::GetSysColor(COLOR_HIGHLIGHT),
                    selectedText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
-    struct Case
-    {
-        DWORD state;
-        COLORREF back, pattern;
-        int style;
-        COLORREF filled; ///< with this, and with lines in the mix
-        bool hasLines = false;
-        COLORREF frame = kUntouched;
-    };
+    // The state, the colours of cell and pattern, the style; the colour that fills it, whether there are lines in
+    // the mix on it, and the frame.
+    using Case = std::tuple<DWORD, COLORREF, COLORREF, int, COLORREF, bool, COLORREF>;
     std::vector<Case> cases = {
-        {CELL_SELECTED, kBack, kPattern, HS_CROSS, selected},
+        {CELL_SELECTED, kBack, kPattern, HS_CROSS, selected, false, kUntouched},
         {CELL_FOCUSED, kBack, kPattern, HS_CROSS, kBack, true, kText},
         {CELL_FOCUSED | CELL_SELECTED, kBack, kPattern, HS_CROSS, kBack, true, selectedText},
-        {0, CLR_INHERIT, kPattern, HS_CROSS, RGB(0, 0, 0)}, // which counts as black
-        {0, kBack, kPattern, 77, kBack},
-        {0, kBack, kPattern, -1, kBack},
-        {0, kBack, kNone, HS_CROSS, kBack},
-        {0, CLR_INHERIT, kNone, HS_CROSS, grid.GetTextBkColor()}};
+        {0, CLR_INHERIT, kPattern, HS_CROSS, RGB(0, 0, 0), false, kUntouched}, // which counts as black
+        {0, kBack, kPattern, 77, kBack, false, kUntouched},
+        {0, kBack, kPattern, -1, kBack, false, kUntouched},
+        {0, kBack, kNone, HS_CROSS, kBack, false, kUntouched},
+        {0, CLR_INHERIT, kNone, HS_CROSS, grid.GetTextBkColor(), false, kUntouched}};
     for (int style = HS_HORIZONTAL; style <= HS_DIAGCROSS; ++style)
-        cases.push_back({0, kBack, kPattern, style, kBack, true});
+        cases.push_back({0, kBack, kPattern, style, kBack, true, kUntouched});
     auto& cell = Make<CPatternBkgndGridCell>(RUNTIME_CLASS(CPatternBkgndGridCell));
     EXPECT_EQ(std::pair(cell.GetPatternColor(), cell.GetPatternStyle()), std::pair(kNone, -1));
     cell.SetText(L"");
-    for (const Case& c : cases)
+    for (const auto& [state, back, pattern, style, filled, hasLines, frameColor] : cases)
     {
         Canvas expected, canvas;
-        CBrush lines(c.hasLines ? c.style : HS_CROSS, kMix), frame(c.frame);
-        expected.dc().FillSolidRect(CRect(8, 8, 48, 32), c.filled); // which is the brush's background then
-        if (c.hasLines)
+        CBrush lines(hasLines ? style : HS_CROSS, kMix), frame(frameColor);
+        expected.dc().FillSolidRect(CRect(8, 8, 48, 32), filled); // which is the brush's background then
+        if (hasLines)
             expected.dc().FillRect(CRect(8, 8, 48, 32), &lines);
-        if (c.frame != kUntouched)
+        if (frameColor != kUntouched)
             expected.dc().FrameRect(CRect(8, 8, 47, 31), &frame);
-        cell.SetState(c.state);
-        cell.SetBackClr(c.back);
-        cell.SetPatternColor(c.pattern);
-        cell.SetPatternStyle(c.style);
+        cell.SetState(state);
+        cell.SetBackClr(back);
+        cell.SetPatternColor(pattern);
+        cell.SetPatternStyle(style);
         CPatternBkgndGridCell copy;
         copy = cell;
         canvas.dc().SetBkColor(RGB(1, 2, 3));
-        EXPECT_TRUE(Draw(canvas, copy, CRect(8, 8, 47, 31), c.back == CLR_INHERIT)) << "others always erase";
-        EXPECT_TRUE(canvas == expected) << c.state << ' ' << c.pattern << ' ' << c.style;
+        EXPECT_TRUE(Draw(canvas, copy, CRect(8, 8, 47, 31), back == CLR_INHERIT)) << "others always erase";
+        EXPECT_TRUE(canvas == expected) << state << ' ' << pattern << ' ' << style;
         EXPECT_EQ(canvas.dc().GetBkColor(), RGB(1, 2, 3));
         EXPECT_EQ(canvas.dc().GetBkMode(), OPAQUE);
     }

@@ -33,16 +33,11 @@ protected:
 
 TEST_F(Editors, TheFirstKeyDecidesWhatHappensToTheText)
 {
-    // The key, the text then, and its selection.
-    for (const auto& [key, text, from, to] : {std::tuple(UINT(VK_LBUTTON), L"text", 4, 4),
-                                              {VK_RETURN, L"text", 4, 4},
-                                              {VK_BACK, L"tex", 3, 3},
-                                              {VK_TAB, L"text", 0, 4},
-                                              {VK_SPACE, L"text", 0, 4},
-                                              {VK_PRIOR, L"text", 0, 4},
-                                              {VK_DOWN, L"text", 0, 4},
-                                              {L'q', L"q", 1, 1},
-                                              {0x448, L"\x448", 1, 1}})
+    using Row = std::tuple<UINT, const wchar_t*, int, int>; // the key, the text then, and its selection
+    for (const auto& [key, text, from, to] :
+         {Row{VK_LBUTTON, L"text", 4, 4}, Row{VK_RETURN, L"text", 4, 4}, Row{VK_BACK, L"tex", 3, 3},
+          Row{VK_TAB, L"text", 0, 4}, Row{VK_SPACE, L"text", 0, 4}, Row{VK_PRIOR, L"text", 0, 4},
+          Row{VK_DOWN, L"text", 0, 4}, Row{L'q', L"q", 1, 1}, Row{0x448, L"\x448", 1, 1}})
     {
         CEdit& edit = Edit(key);
         EXPECT_EQ(owtest::TextOf(edit), text) << key;

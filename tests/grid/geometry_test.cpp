@@ -48,7 +48,7 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     // Only the headers fit: both bars go, and the books stay.
     grid.SetColumnWidth(0, 400, TRUE);
     EXPECT_TRUE(grid.IsVisibleVScroll());
-    EXPECT_FALSE(grid.GetStyle() & WS_VSCROLL);
+    EXPECT_FALSE(grid.GetStyle() & (WS_VSCROLL | WS_HSCROLL));
     grid.SetColumnWidth(0, kColWidth, TRUE);
     EXPECT_TRUE(grid.GetStyle() & WS_VSCROLL) << "as before, and so must the bar be";
     grid.SetColumnCount(kCols);
@@ -118,11 +118,10 @@ TEST_F(GridGeometry, ABarIsPaintedOnceAndOnlyWhenItsThumbHasMoved)
 
 TEST_F(GridGeometry, TheWheelPostsLinesOrPages)
 {
-    for (const auto& [nLines, nDelta, scrolls] : {std::tuple(3, 60, " v0"),
-                                                  {3, -120, " v1 v1 v1"},
-                                                  {-1, 60, ""},
-                                                  {-1, -240, " v3 v3"},
-                                                  {-1, 120, " v2"}})
+    using Row = std::tuple<int, int, const char*>;
+    for (const auto& [nLines, nDelta, scrolls] :
+         {Row{3, 60, " v0"}, Row{3, -120, " v1 v1 v1"}, Row{-1, 60, ""}, Row{-1, -240, " v3 v3"},
+          Row{-1, 120, " v2"}})
     {
         grid.m_nWheelLines = nLines;
         grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, nDelta), 0);
@@ -149,6 +148,8 @@ TEST_F(GridGeometry, EnsureVisibleScrollsAsFarAsNeeded)
     // It comes back even where nothing fits.
     grid.SetColumnWidth(0, 290, TRUE);
     grid.EnsureVisible(20, 6);
+    grid.SetRowHeight(0, 250);
+    grid.EnsureVisible(20, 6);
     OpenGrid(9, 9, 1, 1).EnsureVisible(8, 8);
     SetSizes(grid);
     grid.EnsureVisible(INT_MAX, INT_MIN);
@@ -167,13 +168,18 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
     grid.SetColumnWidth(3, 0, TRUE);
     EXPECT_FALSE(grid.AutoSizeColumn(3));
     grid.SetRowHeight(4, 0);
+    LOGFONT big = *grid.GetItemFont(5, 2);
+    big.lfHeight *= 2;
+    grid.SetItemFont(5, 2, &big);
     for (const bool rowsOnly : {false, true})
     {
+        grid.SetColumnWidth(2, 10, TRUE);
         for (const int nRow : {0, 5, kRows - 1})
             grid.SetRowHeight(nRow, 90);
         rowsOnly ? grid.AutoSizeRows() : grid.AutoSize();
         for (const int nRow : {0, 4, 5, kRows - 1})
             EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : grid.GetCellTextExtent(nRow, 2).cy);
+        EXPECT_EQ(grid.GetColumnWidth(2), rowsOnly ? 10 : nHeading);
         EXPECT_EQ(grid.GetColumnWidth(3), 0);
     }
 }

@@ -58,6 +58,13 @@ TEST_F(GridKeyboard, EachKeyMovesSelectsTellsAndScrollsInItsWay)
     }
     EXPECT_EQ(Text(1, 1), L"1/1") << "Delete clears nothing";
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 1));
+    for (const int hidden : {1, kRows - 1})
+        grid.SetRowHeight(hidden, 0);
+    for (const int hidden : {1, kCols - 1})
+        grid.SetColumnWidth(hidden, 0, TRUE);
+    EXPECT_TRUE(After(VK_END, "c").starts_with("19,5 [19,5-19,5]=1")) << "the last one that shows";
+    EXPECT_TRUE(After(VK_HOME, "c").starts_with("2,2 [2,2-2,2]=1"));
+    SetSizes(grid);
     grid.SetListMode();
     FocusOn(5, 2);
     grid.SendMessage(WM_VSCROLL, SB_BOTTOM);

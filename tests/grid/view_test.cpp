@@ -363,27 +363,14 @@ TEST_F(GridView, ScrollMessagesMoveByLinesPagesAndEnds)
     rows.SetSize(4, 30);
     rows.SetSize(7, 1);
     // The message, the position, the first item that scrolls, and the position then.
-    using To = std::optional<int>;
-    for (const auto& [code, pos, first, to] : {std::tuple(SB_LINEDOWN, 20, 2, To(40)),
-                                               {SB_LINEDOWN, 40, 3, 70},
-                                               {SB_LINEDOWN, 100, 7, 101},
-                                               {SB_LINEUP, 101, 8, 100},
-                                               {SB_LINEDOWN, 379, 19, {}},
-                                               {SB_LINEDOWN, 370, 20, 390},
-                                               {SB_LINEUP, 40, 4, 20},
-                                               {SB_LINEUP, 0, 1, {}},
-                                               {SB_LINEUP, 5, 2, 0},
-                                               {SB_LINEUP, 5, 1, {}},
-                                               {SB_PAGEDOWN, 0, 1, 180},
-                                               {SB_PAGEDOWN, 300, 16, 379},
-                                               {SB_PAGEDOWN, 379, 20, {}},
-                                               {SB_PAGEUP, 200, 11, 20},
-                                               {SB_PAGEUP, 100, 6, 0},
-                                               {SB_PAGEUP, 0, 1, {}},
-                                               {SB_TOP, 9, 2, 0},
-                                               {SB_TOP, 0, 1, {}},
-                                               {SB_BOTTOM, 9, 2, 379},
-                                               {SB_BOTTOM, 379, 20, {}},
-                                               {SB_ENDSCROLL, 9, 2, {}}})
+    using Row = std::tuple<UINT, int, int, std::optional<int>>;
+    for (const auto& [code, pos, first, to] :
+         {Row{SB_LINEDOWN, 20, 2, 40},   Row{SB_LINEDOWN, 40, 3, 70},   Row{SB_LINEDOWN, 100, 7, 101},
+          Row{SB_LINEUP, 101, 8, 100},   Row{SB_LINEDOWN, 379, 19, {}}, Row{SB_LINEDOWN, 370, 20, 390},
+          Row{SB_LINEUP, 40, 4, 20},     Row{SB_LINEUP, 0, 1, {}},      Row{SB_LINEUP, 5, 2, 0},
+          Row{SB_LINEUP, 5, 1, {}},      Row{SB_PAGEDOWN, 0, 1, 180},   Row{SB_PAGEDOWN, 300, 16, 379},
+          Row{SB_PAGEDOWN, 379, 20, {}}, Row{SB_PAGEUP, 200, 11, 20},   Row{SB_PAGEUP, 100, 6, 0},
+          Row{SB_PAGEUP, 0, 1, {}},      Row{SB_TOP, 9, 2, 0},          Row{SB_TOP, 0, 1, {}},
+          Row{SB_BOTTOM, 9, 2, 379},     Row{SB_BOTTOM, 379, 20, {}},   Row{SB_ENDSCROLL, 9, 2, {}}})
         EXPECT_EQ(gfnScrolledPos(code, rows, {pos, 379, 180, first}), to) << code << " at " << pos;
 }
