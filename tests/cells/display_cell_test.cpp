@@ -122,23 +122,21 @@ TEST_F(DisplayCells, AnImageStandsWhereTheFormatSaysIfItFits)
                static_cast<CBitmap*>(nullptr));
     CImageGridCell cell;
     cell = Make<CImageGridCell>(RUNTIME_CLASS(CImageGridCell));
-    // In 51 by 39 pixels between the margins, an image of 11 by 7, as its size is counted here. The format, the
+    // In 51 by 39 pixels between the margins, which are room, too, an image of 11 by 7, as its size is counted. The format, the
     // margin, the cell, where the image is drawn, and which one.
     const CRect roomy(20, 10, 79, 49);
     const CRect none;
+    using Row = std::tuple<DWORD, UINT, CRect, CRect, int>;
     for (const auto& [format, margin, rect, drawn, index] :
-         {std::tuple(DWORD(DT_LEFT), 4u, roomy, CRect(24, 10, 34, 16), 0),
-          {DT_CENTER | DT_RIGHT, 4, roomy, {44, 10, 54, 16}, 0},
-          {DT_VCENTER | DT_BOTTOM, 4, roomy, {24, 26, 34, 32}, 0},
-          {DT_RIGHT | DT_BOTTOM, 4, roomy, {64, 42, 74, 48}, 0},
-          {DT_CENTER | DT_VCENTER | DT_SINGLELINE, 4, roomy, {44, 26, 54, 32}, 0},
-          {DT_LEFT, 4, {0, 0, 11, 40}, {4, 0, 14, 6}, 0}, // the margins are room, too
-          {DT_LEFT, 4, {0, 0, 10, 40}, none, 0},
-          {DT_LEFT, 0, {0, 0, 11, 7}, {0, 0, 10, 6}, 0},
-          {DT_LEFT, 0, {0, 0, 10, 7}, none, 0},
-          {DT_LEFT, 0, {0, 0, 11, 6}, none, 0},
-          {DT_LEFT, 0, roomy, none, 1},
-          {DT_LEFT, 0, roomy, none, -1}})
+         {Row{DT_LEFT, 4, roomy, {24, 10, 34, 16}, 0},
+          Row{DT_CENTER | DT_RIGHT, 4, roomy, {44, 10, 54, 16}, 0},
+          Row{DT_VCENTER | DT_BOTTOM, 4, roomy, {24, 26, 34, 32}, 0},
+          Row{DT_RIGHT | DT_BOTTOM, 4, roomy, {64, 42, 74, 48}, 0},
+          Row{DT_CENTER | DT_VCENTER | DT_SINGLELINE, 4, roomy, {44, 26, 54, 32}, 0},
+          Row{DT_LEFT, 4, {0, 0, 11, 40}, {4, 0, 14, 6}, 0}, Row{DT_LEFT, 4, {0, 0, 10, 40}, none, 0},
+          Row{DT_LEFT, 0, {0, 0, 11, 7}, {0, 0, 10, 6}, 0}, Row{DT_LEFT, 0, {0, 0, 10, 7}, none, 0},
+          Row{DT_LEFT, 0, {0, 0, 11, 6}, none, 0}, Row{DT_LEFT, 0, roomy, none, 1},
+          Row{DT_LEFT, 0, roomy, none, -1}})
     {
         grid.SetImageList(index < 0 ? nullptr : &images);
         cell.SetImage(std::abs(index));

@@ -2,6 +2,8 @@
 
 #include "GridFixture.h"
 
+#include <algorithm>
+
 class GridGeometry : public GridTest
 {
 protected:
@@ -170,7 +172,8 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
     grid.SetRowHeight(4, 0);
     LOGFONT big = *grid.GetItemFont(5, 2);
     big.lfHeight *= 2;
-    grid.SetItemFont(5, 2, &big);
+    for (const CCellID cell : {CCellID(5, 2), CCellID(kRows - 1, 0)})
+        grid.SetItemFont(cell.row, cell.col, &big);
     for (const bool rowsOnly : {false, true})
     {
         grid.SetColumnWidth(2, 10, TRUE);
@@ -178,7 +181,11 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
             grid.SetRowHeight(nRow, 90);
         rowsOnly ? grid.AutoSizeRows() : grid.AutoSize();
         for (const int nRow : {0, 4, 5, kRows - 1})
-            EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : grid.GetCellTextExtent(nRow, 2).cy);
+        {
+            const int nHeight =
+                std::max(grid.GetCellTextExtent(nRow, 0).cy, grid.GetCellTextExtent(nRow, 2).cy);
+            EXPECT_EQ(grid.GetRowHeight(nRow), nRow == 4 ? 0 : nHeight);
+        }
         EXPECT_EQ(grid.GetColumnWidth(2), rowsOnly ? 10 : nHeading);
         EXPECT_EQ(grid.GetColumnWidth(3), 0);
     }

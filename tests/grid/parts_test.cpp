@@ -241,15 +241,13 @@ TEST(TextFields, EndAtSeparatorsAndGoOnBehindAnUnendedLine)
 {
     using Fields = std::vector<std::wstring>;
     // A line, what the line left of the one before it, if any, follows a 0; and its fields.
-    for (const auto& [text, expected] : {std::pair<std::wstring, Fields>(L"a;b\n", {L"a", L"b"}),
-                                         {L"x;;y\n", {L"x", L"", L"y"}},
-                                         {L"\n", {L""}},
-                                         {L"", {}},
-                                         {L"a,b", {L"a,b"}},
-                                         {L"end;\n", {L"end", L""}},
-                                         {std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
-                                         {std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
-                                         {std::wstring(1023, L';'), Fields(1023)}})
+    using Row = std::pair<std::wstring, Fields>;
+    for (const auto& [text, expected] :
+         {Row{L"a;b\n", {L"a", L"b"}}, Row{L"x;;y\n", {L"x", L"", L"y"}}, Row{L"\n", {L""}}, Row{L"", {}},
+          Row{L"a,b", {L"a,b"}}, Row{L"end;\n", {L"end", L""}},
+          Row{std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
+          Row{std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
+          Row{std::wstring(1023, L';'), Fields(1023)}})
     {
         wchar_t line[CTextFields::kLineSize] = {};
         std::copy(text.begin(), text.end(), line);

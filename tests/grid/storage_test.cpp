@@ -263,7 +263,13 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
             return 0;
         },
         7);
+    EXPECT_TRUE(grid.GetItem(&item)); // of what was said before nothing is left
+    CGridDefaultCell& body = *grid.GetDefaultCell(FALSE, FALSE);
+    EXPECT_EQ(ValuesOf(item), (std::vector<LONGLONG>{5, body.GetImage(), body.GetData(), 0, body.GetBackClr(),
+                                                     body.GetTextClr(), body.GetFormat(),
+                                                     body.GetFont()->lfHeight, body.GetMargin()}));
     EXPECT_EQ(grid.GetItemText(999999, 2), L"999999.2.7");
+    EXPECT_EQ(grid.GetItemState(5, 0), 0u) << "there is no fixed column";
     EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
     EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
     EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());
@@ -272,6 +278,8 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
     EXPECT_FALSE(grid.SetItemState(5, 1, CELL_SELECTED));
     EXPECT_TRUE(grid.IsCellSelected(5, 1)) << "the answer is 0, and the selection has changed";
     EXPECT_TRUE(grid.GetCell(5, 1)->IsSelected());
+    grid.SetCallbackFunc([](GV_DISPINFO*, LPARAM) { return 0; }, 0);
+    EXPECT_EQ(grid.GetItemText(5, 1), L"") << "nobody has said a text";
 }
 
 TEST(GridVirtual, WithoutACallbackTheParentIsAskedAndToldAhead)
