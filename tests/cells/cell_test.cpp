@@ -2,6 +2,8 @@
 
 #include <DialogControlsOW.h>
 
+#include "Handles.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -141,6 +143,10 @@ TEST(GridDefaultCell, DerivesSizeAndMarginFromItsFont)
     lf.lfHeight *= 3;
     cell.SetFont(&lf);
     EXPECT_GT(cell.GetHeight(), 2 * height);
+    constexpr int kFonts = 0x0A; // type of a GDI object
+    const int fonts = owtest::CountGdiObjects(kFonts);
+    cell.SetFont(&lf);
+    EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts);
     CClientDC dc(nullptr);
     dc.SelectObject(cell.GetFontObject());
     EXPECT_EQ(cell.GetMargin(), static_cast<UINT>(dc.GetTextExtent(L" ", 1).cx));

@@ -205,7 +205,10 @@ TEST(LimitedCellsAlone, BoundsBindTheUserOnlyAndAreCopied)
     }
     CLimitedDoubleCell length;
     CLimitedIntCell count;
-    CLimitedTextCell text, copy;
+    struct CTextCell : CLimitedTextCell
+    {
+        using CLimitedTextCell::m_bHasMax;
+    } text, copy;
     for (CGridCell* cell : std::initializer_list<CGridCell*>{&length, &count, &text})
     {
         cell->SetFont(CGridDefaultCell().GetFont());
@@ -216,4 +219,11 @@ TEST(LimitedCellsAlone, BoundsBindTheUserOnlyAndAreCopied)
     EXPECT_TRUE(text.ValidateEdit(L"longer") && text.ValidateEdit(L"")) << "and does not look at it";
     copy = text;
     EXPECT_EQ(copy.GetMax(), 3u);
+    copy.m_bHasMax = FALSE;
+    copy.SetText(L"HEA");
+    text = copy;
+    EXPECT_EQ(text.GetMax(), 100u);
+    EXPECT_STREQ(text.GetText(), L"HEA");
+    text.SetMax(4);
+    EXPECT_EQ(text.GetMax(), 4u);
 }

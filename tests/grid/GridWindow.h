@@ -29,8 +29,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_VSCROLL || message == WM_HSCROLL)
-            scrolls.push_back(std::string(message == WM_VSCROLL ? "v" : "h") +
-                              std::to_string(LOWORD(wParam)));
+            scrolls.push_back((message == WM_VSCROLL ? 'v' : 'h') + std::to_string(LOWORD(wParam)));
         return CGridCtrl::WindowProc(message, wParam, lParam);
     }
 };

@@ -4,7 +4,7 @@
 
 using GridSelection = GridTest;
 
-TEST_F(GridSelection, OnlyWhatChangesIsRepainted)
+TEST_F(GridSelection, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
 {
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
@@ -12,10 +12,8 @@ TEST_F(GridSelection, OnlyWhatChangesIsRepainted)
     EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellID(3, 1)); }), CRect(60, 60, 120, 80));
     CCellID none;
     EXPECT_EQ(grid.GetNextItem(none, GVNI_SELECTED | GVNI_ALL), CCellID(2, 2));
-}
 
-TEST_F(GridSelection, SwitchingSelectionOffDropsIt)
-{
+    // Switching selection off drops it.
     grid.SetFocusCell(2, 2);
     grid.SetSelectedRange(2, 2, 4, 4);
     EXPECT_EQ(Seen(), "2,2 [2,2-4,4]=9 changed 2,2");

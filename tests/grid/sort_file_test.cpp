@@ -23,6 +23,16 @@ std::wstring TextsOf(const CGridCtrl& grid, int nFirstRow, int nFirstCol, const 
     return all;
 }
 
+/// Knows the place that it was told last.
+class CPlacedCell : public CGridCell
+{
+    DECLARE_DYNCREATE(CPlacedCell)
+public:
+    void SetCoords(int nRow, int nCol) override { place = CCellID(nRow, nCol); }
+    CCellID place;
+};
+IMPLEMENT_DYNCREATE(CPlacedCell, CGridCell)
+
 class GridFile : public ::testing::Test
 {
 protected:
@@ -50,11 +60,14 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
     const wchar_t* const texts[] = {L"10", L"9 mm", L"no digits", L"-3", L"100"};
     for (int nRow = 1; nRow < 6; ++nRow)
     {
+        grid.SetCellType(nRow, 1, RUNTIME_CLASS(CPlacedCell));
         grid.SetItemText(nRow, 1, texts[nRow - 1]);
         grid.SetItemData(nRow, 1, nRow);
     }
     EXPECT_TRUE(grid.SortItems(CGridCtrl::pfnCellNumericCompare, 1, TRUE));
     EXPECT_EQ(TextsOf(grid, 1, 1, L" "), L"-3 no digits 9 mm 10 100 ");
+    for (int nRow = 1; nRow < 6; ++nRow)
+        EXPECT_EQ(static_cast<CPlacedCell&>(*grid.GetCell(nRow, 1)).place, CCellID(nRow, 1));
     grid.SetCompareFunction(
         [](LPARAM first, LPARAM second, LPARAM sign)
         {
@@ -72,18 +85,18 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
         },
         1, TRUE, reinterpret_cast<LPARAM>(&grid));
     EXPECT_EQ(grid.GetRowCount(), 5) << "a comparison that deletes rows ends the sort";
-}
 
-TEST(GridOrder, WhatCannotBeSortedStillDropsTheSelection)
-{
-    OpenGrid grid(6, 2, 1, 1);
+    // What cannot be sorted still drops the selection.
     grid.SetSelectedRange(1, 1, 2, 1);
     grid.SetFocusCell(1, 1);
     EXPECT_FALSE(grid.SortTextItems(7, TRUE));
     EXPECT_EQ(grid.GetSelectedCount(), 0);
     EXPECT_EQ(grid.GetFocusCell(), CCellID());
-    EXPECT_TRUE(grid.SortTextItems(-1, TRUE)) << "a negative column finds no cells, and moves nothing";
-    grid.SetFixedRowCount(6);
+    const std::wstring before = TextsOf(grid, 1, 1, L" ");
+    for (const auto compare : {CGridCtrl::pfnCellTextCompare, CGridCtrl::pfnCellNumericCompare})
+        EXPECT_TRUE(grid.SortItems(compare, -1, TRUE)) << "a negative column finds no cells";
+    EXPECT_EQ(TextsOf(grid, 1, 1, L" "), before) << "and moves nothing";
+    grid.SetFixedRowCount(5);
     EXPECT_FALSE(grid.SortTextItems(1, TRUE));
 }
 
