@@ -10,6 +10,8 @@
 #include <functional>
 #include <vector>
 
+#pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
+
 /// A visible top-level window of 400 by 300 pixels. Its data exchange is whatever the test puts into
 /// `exchange`.
 class HostWindow : public CWnd

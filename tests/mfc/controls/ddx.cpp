@@ -2,12 +2,15 @@
 
 #include "HostWindow.h"
 
+#include <limits>
 #include <type_traits>
 
 namespace
 {
 constexpr int IDC_VALUE = 100;
 constexpr int IDC_OTHER = 101;
+const CString refusedWhole = L"Please enter a whole number.";
+const CString refusedReal = L"Please enter a number.";
 
 /// A window with an edit IDC_VALUE that exchanges one member.
 class ExchangeTest : public testing::Test
@@ -17,115 +20,89 @@ protected:
     HWND edit = host.AddControl(WC_EDIT, IDC_VALUE);
     HWND other = host.AddControl(WC_EDIT, IDC_OTHER);
 
-    CString Text() const
-    {
-        CString text;
-        host.GetDlgItemText(IDC_VALUE, text);
-        return text;
-    }
-
+    /// Puts a text into the edit and saves; answers what the value shows then, or the refusal, after which the
+    /// text is as it was and selected, and the value too.
     template <class Value>
-    CString Load(Value value)
+    CString Taken(LPCTSTR text, Value value = 42)
     {
-        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
-        EXPECT_TRUE(host.UpdateData(FALSE));
-        return Text();
-    }
-
-    /// Saves `text`, which is to be accepted as `expected`.
-    template <class Value>
-    void ExpectAccepted(LPCTSTR text, Value expected)
-    {
-        Value value{};
-        host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
-        ::SetWindowText(edit, text);
-        EXPECT_TRUE(host.UpdateData(TRUE)) << CStringA(text).GetString();
-        EXPECT_EQ(value, expected);
-    }
-
-    template <class Value>
-    void ExpectRoundTrip(Value value, LPCTSTR text)
-    {
-        EXPECT_EQ(Load(value), text);
-        ExpectAccepted(text, value);
-    }
-
-    /// Saves `text`, which is to be refused with one message box, the value and the text unchanged and the
-    /// focus on the edit with its text selected.
-    template <class Value>
-    void ExpectRefused(LPCTSTR text)
-    {
-        SCOPED_TRACE(CStringA(text).GetString());
-        Value value = 42;
+        const Value before = value;
         host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, value); };
         ::SetWindowText(edit, text);
         ::SetFocus(other);
-        EXPECT_FALSE(host.Refusal().IsEmpty());
-        EXPECT_EQ(value, Value(42));
-        EXPECT_EQ(::GetFocus(), edit);
-        EXPECT_EQ(Text(), text);
-        EXPECT_EQ(::SendMessage(edit, EM_GETSEL, 0, 0), MAKELONG(0, ::lstrlen(text)));
+        const CString refusal = host.Refusal();
+        if (!refusal.IsEmpty())
+        {
+            EXPECT_EQ(value, before);
+            EXPECT_EQ(::GetFocus(), edit);
+            EXPECT_EQ(Text(), text);
+            EXPECT_EQ(::SendMessage(edit, EM_GETSEL, 0, 0), MAKELONG(0, ::lstrlen(text)));
+            return refusal;
+        }
+        ::SetWindowText(edit, L"");
+        EXPECT_TRUE(host.UpdateData(FALSE));
+        return Text();
     }
+    CString Text() const { return owtest::TextOf(*CWnd::FromHandle(edit)).c_str(); }
 };
 } // namespace
 
-TEST_F(ExchangeTest, NumbersOfEveryTypeMakeTheRoundTripWithTheirDigits)
+TEST_F(ExchangeTest, NumbersOfEveryTypeMakeTheRoundTripWithTheirDigitsOrAreRefused)
 {
-    ExpectRoundTrip<BYTE>(255, L"255");
-    ExpectRoundTrip<short>(-32768, L"-32768");
-    ExpectRoundTrip<int>(-2147483647 - 1, L"-2147483648");
-    ExpectRoundTrip<UINT>(4294967295u, L"4294967295");
-    ExpectRoundTrip<long>(-7, L"-7");
-    ExpectRoundTrip<DWORD>(4294967295ul, L"4294967295");
-    ExpectRoundTrip<LONGLONG>(-9223372036854775807ll, L"-9223372036854775807");
-    ExpectRoundTrip<ULONGLONG>(18446744073709551615ull, L"18446744073709551615");
-    ExpectAccepted<int>(L"  +7 ", 7);
-    ExpectRoundTrip<float>(0.1f, L"0.1");
-    ExpectRoundTrip<double>(0.1, L"0.1");
-    ExpectRoundTrip<double>(-1234567.25, L"-1234567.25");
-    ExpectRoundTrip<double>(1e100, L"1e+100");
-    ExpectAccepted<double>(L" -1e-3 ", -1e-3);
-}
+    EXPECT_EQ(Taken<BYTE>(L"255"), L"255");
+    EXPECT_EQ(Taken<short>(L"-32768"), L"-32768");
+    EXPECT_EQ(Taken<int>(L"-2147483648"), L"-2147483648");
+    EXPECT_EQ(Taken<int>(L" \t+7 \t"), L"7");
+    EXPECT_EQ(Taken<UINT>(L"4294967295"), L"4294967295");
+    EXPECT_EQ(Taken<long>(L"-7"), L"-7");
+    EXPECT_EQ(Taken<DWORD>(L"4294967295"), L"4294967295");
+    EXPECT_EQ(Taken<LONGLONG>(L"-9223372036854775807"), L"-9223372036854775807");
+    EXPECT_EQ(Taken<ULONGLONG>(L"18446744073709551615"), L"18446744073709551615");
+    EXPECT_EQ(Taken<float>(L"0.1"), L"0.1");
+    EXPECT_EQ(Taken<double>(L"0.1"), L"0.1");
+    EXPECT_EQ(Taken<double>(L"-1234567.25"), L"-1234567.25");
+    EXPECT_EQ(Taken<double>(L"1e100"), L"1e+100");
+    EXPECT_EQ(Taken<double>(L" -1e-3 "), L"-0.001");
 
-TEST_F(ExchangeTest, WhatIsNoNumberOfTheTypeIsRefused)
-{
     for (LPCTSTR text : {L"", L"12x", L"1.5", L"2147483648"})
-        ExpectRefused<int>(text);
+        EXPECT_EQ(Taken<int>(text), refusedWhole);
+    EXPECT_EQ(Taken<short>(L"40000"), refusedWhole);
+    EXPECT_EQ(Taken<LONGLONG>(L"9223372036854775808"), refusedWhole);
     for (LPCTSTR text : {L"256", L"-1"})
-        ExpectRefused<BYTE>(text);
-    ExpectRefused<short>(L"40000");
-    ExpectRefused<UINT>(L"-1");
-    ExpectRefused<DWORD>(L"4294967296");
-    ExpectRefused<LONGLONG>(L"9223372036854775808");
-    ExpectRefused<ULONGLONG>(L"-1");
+        EXPECT_EQ(Taken<BYTE>(text), L"Please enter a whole number from 0 to 255.");
+    for (LPCTSTR text : {L" -1", L"4294967296"})
+        EXPECT_EQ(Taken<DWORD>(text), L"Please enter a whole number that is not negative.");
+    EXPECT_EQ(Taken<ULONGLONG>(L"-1"), L"Please enter a whole number that is not negative.");
     for (LPCTSTR text : {L"", L"2.5 m", L"wide"})
-        ExpectRefused<double>(text);
+        EXPECT_EQ(Taken<double>(text), refusedReal);
 }
 
 TEST_F(ExchangeTest, StringsAreTakenAsTheyAreAndCutToTheBuffer)
 {
-    const CString blanks(L"  blanks stay ");
-    EXPECT_EQ(Load(blanks), blanks);
-    ExpectAccepted(blanks, blanks);
+    EXPECT_EQ(Taken<CString>(L"  blanks stay ", L""), L"  blanks stay ");
     TCHAR buffer[5] = L"none";
     host.exchange = [&](CDataExchange* dx) { DDX_Text(dx, IDC_VALUE, buffer, 5); };
+    host.UpdateData(FALSE);
+    EXPECT_EQ(Text(), L"none");
     ::SetWindowText(edit, L"123456");
     EXPECT_TRUE(host.UpdateData(TRUE));
     EXPECT_STREQ(buffer, L"1234");
 
+    const HWND combo = host.AddControl(WC_COMBOBOX, 102, CBS_DROPDOWN);
     CString text(L"abc");
     host.exchange = [&](CDataExchange* dx)
     {
+        DDX_CBString(dx, 102, text);
+        DDV_MaxChars(dx, text, 5);
         DDX_Text(dx, IDC_VALUE, text);
         DDV_MaxChars(dx, text, 4);
     };
     host.UpdateData(FALSE);
     EXPECT_EQ(::SendMessage(edit, EM_GETLIMITTEXT, 0, 0), 4);
-    ::SetWindowText(edit, L"");
-    EXPECT_TRUE(host.UpdateData(TRUE));
-    EXPECT_TRUE(text.IsEmpty());
+    EXPECT_EQ(::SendMessage(::GetWindow(combo, GW_CHILD), EM_GETLIMITTEXT, 0, 0), 5);
+    ::SetWindowText(edit, L"abcd");
+    EXPECT_EQ(host.Refusal(), L"");
     ::SetWindowText(edit, L"abcde");
-    EXPECT_FALSE(host.Refusal().IsEmpty());
+    EXPECT_EQ(host.Refusal(), L"Please enter no more than 4 characters.");
 }
 
 TEST_F(ExchangeTest, AControlIsSubclassedOnceAndATextThatIsThereAlreadyIsNotSetAgain)
@@ -152,51 +129,52 @@ TEST_F(ExchangeTest, AControlIsSubclassedOnceAndATextThatIsThereAlreadyIsNotSetA
     EXPECT_TRUE(host.UpdateData(FALSE));
     EXPECT_TRUE(host.UpdateData(TRUE));
     EXPECT_EQ(::GetWindowLongPtr(edit, GWLP_WNDPROC), procedure);
-    EXPECT_EQ(object.m_hWnd, edit);
     EXPECT_EQ(object.textsSet, 1);
-
-    CDataExchange exchange(&host, TRUE);
-    EXPECT_THROW(exchange.PrepareCtrl(9999), CNotSupportedException*) << "a programmer's fault";
 }
 
-TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndRefuseOutside)
+TEST_F(ExchangeTest, AFailureGoesToTheLastControlOfASave)
 {
-    int value = 0;
-    host.exchange = [&](CDataExchange* dx)
+    for (const bool saves : {false, true})
     {
-        DDX_Text(dx, IDC_VALUE, value);
-        DDV_MinMaxInt(dx, value, -5, 10);
-    };
-    for (LPCTSTR inside : {L"-5", L"10"})
-    {
-        ::SetWindowText(edit, inside);
-        EXPECT_TRUE(host.UpdateData(TRUE));
+        ::SetFocus(other);
+        CDataExchange exchange(&host, saves);
+        EXPECT_THROW(exchange.PrepareCtrl(9999), CNotSupportedException*) << "a programmer's fault";
+        EXPECT_THROW(exchange.Fail(), CUserException*) << "without a control";
+        EXPECT_EQ(::GetFocus(), other);
+        ::SetWindowText(edit, L"text");
+        exchange.PrepareEditCtrl(IDC_OTHER);
+        exchange.PrepareCtrl(IDC_VALUE);
+        EXPECT_THROW(exchange.Fail(), CUserException*);
+        EXPECT_EQ(::GetFocus(), saves ? edit : other);
+        EXPECT_EQ(::SendMessage(edit, EM_GETSEL, 0, 0), 0) << "no edit as far as the exchange knows";
     }
-    ::SetFocus(other);
-    ::SetWindowText(edit, L"11");
-    const CString message = host.Refusal();
-    EXPECT_GE(message.Find(L"-5"), 0);
-    EXPECT_GE(message.Find(L"10"), 0);
-    EXPECT_EQ(::GetFocus(), edit);
 }
 
-TEST_F(ExchangeTest, RangesOfOtherTypesAreComparedInTheirType)
+TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndAreComparedInTheirType)
 {
-    const std::pair<std::function<void(CDataExchange*)>, bool> cases[] = {
-        {[](CDataExchange* dx) { DDV_MinMaxByte(dx, 9, 10, 20); }, true},
-        {[](CDataExchange* dx) { DDV_MinMaxShort(dx, -3, -2, 2); }, true},
-        {[](CDataExchange* dx) { DDV_MinMaxLong(dx, 2, -2, 2); }, false},
-        {[](CDataExchange* dx) { DDV_MinMaxUInt(dx, 0xFFFFFFFFu, 0, 0x7FFFFFFFu); }, true},
-        {[](CDataExchange* dx) { DDV_MinMaxDWord(dx, 0xFFFFFFFFul, 0, 0xFFFFFFFFul); }, false},
-        {[](CDataExchange* dx) { DDV_MinMaxLongLong(dx, 1ll << 40, 0, 1ll << 39); }, true},
-        {[](CDataExchange* dx) { DDV_MinMaxULongLong(dx, 1ull << 63, 0, ~0ull); }, false},
-        {[](CDataExchange* dx) { DDV_MinMaxFloat(dx, 0.5f, 0.0f, 0.4f); }, true},
-        {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, 0.4, 0.0, 0.4); }, false},
+    const std::pair<std::function<void(CDataExchange*)>, CString> cases[] = {
+        {[](CDataExchange* dx) { DDV_MinMaxInt(dx, -5, -5, 10); }, L""},
+        {[](CDataExchange* dx) { DDV_MinMaxInt(dx, 11, -5, 10); }, L" whole number from -5 to 10."},
+        {[](CDataExchange* dx) { DDV_MinMaxByte(dx, 9, 10, 20); }, L" whole number from 10 to 20."},
+        {[](CDataExchange* dx) { DDV_MinMaxShort(dx, -3, -2, 2); }, L" whole number from -2 to 2."},
+        {[](CDataExchange* dx) { DDV_MinMaxLong(dx, 2, -2, 2); }, L""},
+        {[](CDataExchange* dx) { DDV_MinMaxUInt(dx, ~0u, 0, ~0u / 2); },
+         L" whole number from 0 to 2147483647."},
+        {[](CDataExchange* dx) { DDV_MinMaxDWord(dx, ~0ul, 0, ~0ul); }, L""},
+        {[](CDataExchange* dx) { DDV_MinMaxLongLong(dx, 1ll << 40, 0, 1ll << 33); },
+         L" whole number from 0 to 8589934592."},
+        {[](CDataExchange* dx) { DDV_MinMaxULongLong(dx, 1ull << 63, 0, ~0ull); }, L""},
+        {[](CDataExchange* dx) { DDV_MinMaxFloat(dx, 0.5f, 0.1f, 0.4f); }, L" number from 0.1 to 0.4."},
+        {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, 0.4, 0.4, 0.4); }, L""},
+        {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, 0.1, 0.123456789, 1); },
+         L" number from 0.123456789 to 1."},
+        {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, std::numeric_limits<double>::quiet_NaN(), 0, 1); },
+         L" number from 0 to 1."},
     };
-    for (const auto& [check, refused] : cases)
+    for (const auto& [check, refusal] : cases)
     {
         host.exchange = check;
-        EXPECT_EQ(!host.Refusal().IsEmpty(), refused);
+        EXPECT_EQ(host.Refusal(), refusal.IsEmpty() ? L"" : L"Please enter a" + refusal);
         EXPECT_TRUE(host.UpdateData(FALSE)) << "initial values pass";
     }
 }
@@ -209,10 +187,11 @@ TEST_F(ExchangeTest, RadioButtonsOfAGroupAreOneNumber)
     host.AddControl(WC_BUTTON, 203, BS_AUTORADIOBUTTON | WS_GROUP);
     int choice = 1;
     host.exchange = [&](CDataExchange* dx) { DDX_Radio(dx, 200, choice); };
+    host.CheckDlgButton(200, BST_CHECKED);
+    host.CheckDlgButton(203, BST_CHECKED);
     host.UpdateData(FALSE);
     EXPECT_FALSE(host.IsDlgButtonChecked(200));
-    EXPECT_TRUE(host.IsDlgButtonChecked(202));
-    host.CheckDlgButton(203, BST_CHECKED);
+    EXPECT_TRUE(host.IsDlgButtonChecked(202) && host.IsDlgButtonChecked(203));
     choice = -1;
     host.UpdateData(TRUE);
     EXPECT_EQ(choice, 1) << "windows between do not count, the next group does not take part";
@@ -248,11 +227,13 @@ TEST_F(ExchangeTest, ChecksListsAndPositionsMakeTheRoundTrip)
     };
     for (const int state : {BST_CHECKED, BST_UNCHECKED, BST_INDETERMINATE})
         EXPECT_EQ(back(DDX_Check, 300, state), state);
-    EXPECT_EQ(back(DDX_Check, 300, 7), BST_UNCHECKED) << "no check state is unchecked";
+    for (const int state : {-1, 7})
+        EXPECT_EQ(back(DDX_Check, 300, state), BST_UNCHECKED) << "no check state";
     EXPECT_EQ(back(DDX_LBIndex, 301, 1), 1);
     EXPECT_EQ(back(DDX_LBString, 301, L"beam"), L"beam 12") << "the first that begins so";
     EXPECT_EQ(back(DDX_LBStringExact, 301, L"beam"), L"beam");
     EXPECT_EQ(back(DDX_LBIndex, 301, -1), -1);
+    EXPECT_EQ(back(DDX_LBString, 301, L"other"), L"") << "nothing is selected";
     EXPECT_EQ(back(DDX_CBIndex, 302, 1), 1);
     EXPECT_EQ(back(DDX_CBString, 302, L"beam"), L"beam 12");
     EXPECT_EQ(back(DDX_CBStringExact, 302, L"beam"), L"beam");
@@ -266,7 +247,6 @@ TEST_F(ExchangeTest, ChecksListsAndPositionsMakeTheRoundTrip)
         DDV_MinMaxSlider(dx, value, 10, 50);
     };
     host.UpdateData(FALSE);
-    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMIN, 0, 0) * 100 +
-                  ::SendMessage(slider, TBM_GETRANGEMAX, 0, 0),
-              1050);
+    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMIN, 0, 0), 10);
+    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMAX, 0, 0), 50);
 }

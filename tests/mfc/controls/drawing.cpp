@@ -1,4 +1,4 @@
-// What reaches the pixels.
+// What reaches the pixels, and what a context tells about its fonts.
 
 #include <afxcmn.h>
 
@@ -6,12 +6,228 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
+
 namespace
 {
 constexpr COLORREF BACK = RGB(255, 255, 255);
 constexpr COLORREF RED = RGB(255, 0, 0);
 constexpr COLORREF BLUE = RGB(0, 0, 255);
+constexpr COLORREF PINK = RGB(255, 0, 255);
+const CRect whole(0, 0, 40, 40);
+
+/// A surface with a blue pen, a red brush and a font of this height.
+struct Canvas : owtest::Surface
+{
+    explicit Canvas(int height) : Surface(40, 40, BACK)
+    {
+        font.CreateFont(height, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, L"Liberation Sans");
+        dc().SelectObject(&pen);
+        dc().SelectObject(&brush);
+        dc().SelectObject(&font);
+    }
+    ~Canvas() { dc().RestoreDC(before); }
+
+    int before = dc().SaveDC();
+    CPen pen{PS_SOLID, 1, BLUE};
+    CBrush brush{RED};
+    CFont font;
+};
+
+BOOL CALLBACK DrawLine(HDC dc, LPARAM x, WPARAM, int, int)
+{
+    return ::MoveToEx(dc, int(x), 0, nullptr) && ::LineTo(dc, 9, 9);
+}
+
+BOOL CALLBACK DrawLetters(HDC dc, LPARAM, int count)
+{
+    return ::TextOut(dc, 0, 0, L"abcd", count);
+}
+
+/// A context that draws into one canvas and takes its attributes from another, and the system's own beside it.
+class DrawingTest : public testing::Test
+{
+protected:
+    DrawingTest()
+    {
+        dc.SetOutputDC(drawn.dc());
+        dc.SetAttribDC(attributes.dc());
+    }
+    ~DrawingTest() override
+    {
+        dc.ReleaseOutputDC();
+        dc.ReleaseAttribDC();
+    }
+    /// That the two calls draw the same, answer the same and fill `out` in the same way.
+    template <class Call, class Meant>
+    void ExpectSame(Call call, Meant meantCall, const char* name)
+    {
+        const auto run = [&](auto& canvas, auto& made)
+        {
+            canvas.dc().FillSolidRect(whole, BACK);
+            std::memset(out, 0, sizeof out);
+            if constexpr (std::is_void_v<decltype(made())>)
+                return made(), 1;
+            else
+                return made();
+        };
+        const auto answer = run(drawn, call);
+        LONG told[std::size(out)];
+        std::memcpy(told, out, sizeof out);
+        EXPECT_EQ(answer, run(meant, meantCall)) << name;
+        EXPECT_TRUE(drawn == meant) << name;
+        EXPECT_EQ(std::memcmp(told, out, sizeof out), 0) << name;
+        EXPECT_TRUE(std::ranges::count(out, 0) < 200 || meant.count(whole, BACK) < 40 * 40)
+            << name << ": there is nothing to see";
+    }
+
+    Canvas drawn{12};
+    Canvas meant{12};
+    Canvas attributes{24};
+    const HDC h = meant.dc();      ///< for what is drawn,
+    const HDC a = attributes.dc(); ///< and what is asked
+    CDC dc;
+    LONG out[200] = {};
+    CBrush brush{RGB(0, 128, 0)};
+};
+#define EXPECT_SAME(member, system) ExpectSame([&] { return dc.member; }, [&] { return system; }, #member)
 } // namespace
+
+TEST_F(DrawingTest, ShapesAndBitmapsAreTheSystems)
+{
+    const CRect box(3, 4, 30, 28);
+    const CPoint from(30, 5), to(2, 27);
+    POINT points[] = {{3, 3}, {30, 9}, {9, 30}, {33, 33}, {12, 5}};
+    DWORD lines[] = {3, 2};
+    INT counts[] = {3, 2};
+    CRgn region;
+    region.CreateEllipticRgn(3, 4, 30, 28);
+    EXPECT_SAME(FillRgn(&region, &brush), ::FillRgn(h, region, brush));
+    EXPECT_SAME(FrameRgn(&region, &brush, 2, 3), ::FrameRgn(h, region, brush, 2, 3));
+    EXPECT_SAME(InvertRgn(&region), ::InvertRgn(h, region));
+    EXPECT_SAME(PaintRgn(&region), ::PaintRgn(h, region));
+    EXPECT_SAME(Arc(box, from, to), ::Arc(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    EXPECT_SAME(Chord(box, from, to), ::Chord(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    EXPECT_SAME(Pie(box, from, to), ::Pie(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    EXPECT_SAME(Rectangle(box), ::Rectangle(h, 3, 4, 30, 28));
+    EXPECT_SAME(RoundRect(box, CPoint(9, 16)), ::RoundRect(h, 3, 4, 30, 28, 9, 16));
+    EXPECT_SAME(PolyPolyline(points, lines, 2), ::PolyPolyline(h, points, lines, 2));
+    EXPECT_SAME(PolyPolygon(points, counts, 2), ::PolyPolygon(h, points, counts, 2));
+    EXPECT_SAME(FillRect(box, &brush), void(::FillRect(h, box, brush)));
+    EXPECT_SAME(FrameRect(box, &brush), void(::FrameRect(h, box, brush)));
+    TRIVERTEX corners[] = {{2, 3, 0xFF00, 0, 0, 0}, {30, 20, 0, 0, 0xFF00, 0}};
+    GRADIENT_RECT area = {0, 1};
+    EXPECT_SAME(GradientFill(corners, 2, &area, 1, 1), ::GradientFill(h, corners, 2, &area, 1, 1));
+    CRect button(box);
+    EXPECT_SAME(DrawFrameControl(button, DFC_BUTTON, 16), ::DrawFrameControl(h, button, DFC_BUTTON, 16));
+    EXPECT_SAME(PatBlt(3, 4, 9, 7, PATCOPY), ::PatBlt(h, 3, 4, 9, 7, PATCOPY));
+    EXPECT_SAME(ExtFloodFill(3, 4, BACK, 1), ::ExtFloodFill(h, 3, 4, BACK, 1));
+    EXPECT_SAME(Rectangle(box) && dc.ScrollDC(5, 7, box, whole, nullptr, nullptr),
+                ::Rectangle(h, 3, 4, 30, 28) && ::ScrollDC(h, 5, 7, box, whole, nullptr, nullptr));
+
+    Canvas source(12);
+    CDC* const s = &source.dc();
+    s->Ellipse(2, 3, 30, 20);
+    CBitmap mask;
+    constexpr WORD stripes[8] = {0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA, 0x55, 0xAA};
+    mask.CreateBitmap(8, 8, 1, 1, stripes);
+    const BLENDFUNCTION half = {AC_SRC_OVER, 0, 100, 0};
+    constexpr DWORD masked = MAKEROP4(SRCCOPY, BLACKNESS);
+    EXPECT_SAME(BitBlt(3, 4, 9, 7, s, 5, 6, SRCCOPY), ::BitBlt(h, 3, 4, 9, 7, *s, 5, 6, SRCCOPY));
+    EXPECT_SAME(StretchBlt(3, 4, 19, 27, s, 5, 6, 9, 8, SRCCOPY),
+                ::StretchBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, SRCCOPY));
+    EXPECT_SAME(MaskBlt(3, 4, 6, 5, s, 5, 6, mask, 1, 2, masked),
+                ::MaskBlt(h, 3, 4, 6, 5, *s, 5, 6, mask, 1, 2, masked));
+    EXPECT_SAME(PlgBlt(points, s, 5, 6, 7, 4, mask, 1, 2), ::PlgBlt(h, points, *s, 5, 6, 7, 4, mask, 1, 2));
+    EXPECT_SAME(TransparentBlt(3, 4, 19, 27, s, 5, 6, 9, 8, RED),
+                ::TransparentBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, RED));
+    EXPECT_SAME(AlphaBlend(3, 4, 19, 27, s, 5, 6, 9, 8, half),
+                ::AlphaBlend(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, half));
+}
+
+TEST_F(DrawingTest, StatesAreOfTheKindOfTheCallWhateverTheFlagsSay)
+{
+    const CPoint at(5, 6);
+    const CSize size(8, 9);
+    CBitmap picture;
+    picture.CreateCompatibleBitmap(&drawn.dc(), 8, 8);
+    const HICON icon = ::LoadIcon(nullptr, IDI_WARNING);
+    const auto state = [&](UINT flags, auto data, WPARAM extra = 0, DRAWSTATEPROC procedure = nullptr)
+    { return ::DrawState(h, brush, procedure, LPARAM(data), extra, 5, 6, 8, 9, flags); };
+    EXPECT_SAME(DrawState(at, size, &picture, DSS_MONO | DST_TEXT, &brush),
+                state(DSS_MONO | DST_BITMAP, picture.m_hObject));
+    EXPECT_SAME(DrawState(at, size, icon, DST_TEXT, &brush), state(DST_ICON, icon));
+    EXPECT_SAME(DrawState(at, size, L"a&bc", DSS_MONO, TRUE, 3, &brush),
+                state(DSS_MONO | DST_PREFIXTEXT, L"a&bc", 3));
+    EXPECT_SAME(DrawState(at, size, L"a&bc", DSS_MONO, FALSE, 3, &brush),
+                state(DSS_MONO | DST_TEXT, L"a&bc", 3));
+    EXPECT_SAME(DrawState(at, size, DrawLine, 3, DSS_MONO, &brush), state(DSS_MONO, 3, 0, DrawLine));
+}
+
+TEST_F(DrawingTest, TextsAreTheSystemsAndMeasuredByTheAttributesUnlessSaid)
+{
+    const CString text(L"A\tjet");
+    INT stops[] = {30};
+    CRect box(3, 4, 30, 28);
+    const auto letters = const_cast<LPTSTR>(text.GetString());
+    EXPECT_SAME(TextOut(3, 4, text, 1), ::TextOut(h, 3, 4, text, 1));
+    EXPECT_SAME(ExtTextOut(3, 4, ETO_CLIPPED, box, text, nullptr),
+                ::ExtTextOut(h, 3, 4, ETO_CLIPPED, box, text, 5, nullptr));
+    EXPECT_SAME(TabbedTextOut(3, 4, text, 1, stops, 9),
+                CSize(DWORD(::TabbedTextOut(h, 3, 4, text, 5, 1, stops, 9))));
+    EXPECT_SAME(DrawText(text, box, DT_CENTER), ::DrawText(h, text, 5, box, DT_CENTER));
+    EXPECT_SAME(DrawTextEx(text, box, DT_RIGHT, nullptr),
+                ::DrawTextEx(h, letters, 5, box, DT_RIGHT, nullptr));
+    EXPECT_SAME(GrayString(&brush, DrawLetters, 1, 2, 3, 4, 30, 20),
+                ::GrayString(h, brush, DrawLetters, 1, 2, 3, 4, 30, 20));
+
+    const auto extent = [&](HDC from, int count)
+    {
+        CSize size;
+        return ::GetTextExtentPoint32(from, text, count, &size), size;
+    };
+    const auto tabbed = [&](HDC from)
+    { return CSize(DWORD(::GetTabbedTextExtent(from, text, 5, 1, stops))); };
+    EXPECT_EQ(dc.GetTextExtent(text), extent(a, 5));
+    EXPECT_EQ(dc.GetTextExtent(text, 1), extent(a, 1));
+    EXPECT_EQ(dc.GetOutputTextExtent(text), extent(h, 5));
+    EXPECT_EQ(dc.GetOutputTextExtent(text, 1), extent(h, 1));
+    EXPECT_EQ(dc.GetTabbedTextExtent(text, 1, stops), tabbed(a));
+    EXPECT_EQ(dc.GetTabbedTextExtent(text, 5, 1, stops), tabbed(a));
+    EXPECT_EQ(dc.GetOutputTabbedTextExtent(text, 1, stops), tabbed(h));
+    EXPECT_EQ(dc.GetOutputTabbedTextExtent(text, 5, 1, stops), tabbed(h));
+
+    const auto bytes = reinterpret_cast<BYTE*>(out);
+    const auto ints = reinterpret_cast<INT*>(out);
+    const auto size = reinterpret_cast<SIZE*>(out);
+    const auto abc = reinterpret_cast<ABC*>(out);
+    const auto metrics = reinterpret_cast<GLYPHMETRICS*>(out);
+    WORD glyphs[] = {40, 50};
+    const MAT2 identity = {{0, 1}, {}, {}, {0, 1}};
+    EXPECT_SAME(GetCharWidth('A', 'C', ints), ::GetCharWidth32(a, 'A', 'C', ints));
+    EXPECT_SAME(GetOutputCharWidth('A', 'C', ints), ::GetCharWidth32(h, 'A', 'C', ints));
+    EXPECT_SAME(GetCharABCWidths('A', 'C', abc), ::GetCharABCWidths(a, 'A', 'C', abc));
+    EXPECT_SAME(GetCharABCWidths('A', 'C', reinterpret_cast<ABCFLOAT*>(out)),
+                ::GetCharABCWidthsFloat(a, 'A', 'C', reinterpret_cast<ABCFLOAT*>(out)));
+    EXPECT_SAME(GetCharWidthI(40, 2, glyphs, ints), ::GetCharWidthI(a, 40, 2, glyphs, ints));
+    EXPECT_SAME(GetCharABCWidthsI(40, 2, glyphs, abc), ::GetCharABCWidthsI(a, 40, 2, glyphs, abc));
+    EXPECT_SAME(GetTextExtentPointI(glyphs, 2, size), ::GetTextExtentPointI(a, glyphs, 2, size));
+    EXPECT_SAME(GetTextExtentExPointI(glyphs, 2, 90, ints, ints + 1, size + 2),
+                ::GetTextExtentExPointI(a, glyphs, 2, 90, ints, ints + 1, size + 2));
+    EXPECT_SAME(GetFontData(0, 4, bytes, 99), ::GetFontData(a, 0, 4, bytes, 99));
+    EXPECT_SAME(GetKerningPairs(9, reinterpret_cast<KERNINGPAIR*>(out)),
+                ::GetKerningPairs(a, 9, reinterpret_cast<KERNINGPAIR*>(out)));
+    EXPECT_SAME(GetOutlineTextMetrics(400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)),
+                ::GetOutlineTextMetrics(a, 400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)));
+    EXPECT_SAME(GetGlyphOutline('A', GGO_BITMAP, metrics, 400, bytes + 40, &identity),
+                ::GetGlyphOutline(a, 'A', GGO_BITMAP, metrics, 400, bytes + 40, &identity));
+    EXPECT_SAME(GetTextFace(20, reinterpret_cast<LPTSTR>(out)),
+                ::GetTextFace(a, 20, reinterpret_cast<LPTSTR>(out)));
+    CString face;
+    EXPECT_EQ(dc.GetTextFace(face), 16);
+    EXPECT_EQ(face, L"Liberation Sans");
+}
 
 TEST(Drawing, Draw3dRectGivesTheSharedCornersToRightAndBottom)
 {
@@ -25,84 +241,105 @@ TEST(Drawing, Draw3dRectGivesTheSharedCornersToRightAndBottom)
     EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), BLUE), 10 + 7);
 }
 
-TEST(Drawing, DrawStateTakesTheKindOfPictureFromTheCall)
-{
-    owtest::Surface source(8, 8, BACK);
-    CBitmap picture;
-    ASSERT_TRUE(picture.CreateCompatibleBitmap(&source.dc(), 8, 8));
-    CDC memory;
-    memory.CreateCompatibleDC(&source.dc());
-    CBitmap* before = memory.SelectObject(&picture);
-    memory.FillSolidRect(0, 0, 8, 8, BLUE);
-    memory.SelectObject(before);
-
-    owtest::Surface surface(20, 20, BACK);
-    // The flags name text; the bitmap decides all the same.
-    EXPECT_TRUE(surface.dc().DrawState(CPoint(5, 5), CSize(8, 8), &picture, DSS_NORMAL | DST_TEXT));
-    EXPECT_EQ(surface.count(CRect(5, 5, 13, 13), BLUE), 64);
-    EXPECT_EQ(surface.count(CRect(0, 0, 20, 20), BLUE), 64);
-}
-
 TEST(Drawing, ADragFrameVanishesWhenItIsDrawnOverItself)
 {
     owtest::Surface surface(40, 40, BACK);
-    const CRect whole(0, 0, 40, 40);
-    CBrush brush(RGB(255, 255, 255));
+    CBrush brush(BACK);
+    CBrush other(BACK);
     CDC& dc = surface.dc();
     const CRect first(5, 5, 25, 25);
     const CRect second(10, 10, 30, 30);
+    const auto black = [&] { return surface.count(whole, RGB(0, 0, 0)); };
     dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0), &brush);
-    EXPECT_EQ(surface.count(whole, RGB(0, 0, 0)), 20 * 20 - 16 * 16);
-    dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2), &brush, &brush);
-    EXPECT_EQ(surface.at(5, 5), BACK);
-    EXPECT_EQ(surface.at(29, 29), RGB(0, 0, 0));
-    EXPECT_EQ(surface.count(whole, RGB(0, 0, 0)), 20 * 20 - 16 * 16);
+    EXPECT_EQ(black(), 20 * 20 - 16 * 16);
+    for (CBrush* last : {&brush, &other})
+    {
+        dc.DrawDragRect(second, CSize(2, 2), first, CSize(2, 2), &brush, last);
+        EXPECT_EQ(surface.at(5, 5), BACK);
+        EXPECT_EQ(surface.at(29, 29), RGB(0, 0, 0));
+        EXPECT_EQ(black(), 20 * 20 - 16 * 16);
+        dc.DrawDragRect(first, CSize(2, 2), second, CSize(2, 2), &brush);
+    }
+    dc.DrawDragRect(first, CSize(20, 20), first, CSize(2, 2), &brush);
+    EXPECT_EQ(black(), 20 * 20) << "a frame is no thicker than its rectangle";
+    dc.FillSolidRect(whole, BACK);
+    dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0));
+    EXPECT_EQ(black(), (20 * 20 - 16 * 16) / 2) << "every second pixel";
+    EXPECT_NE(surface.at(6, 6), surface.at(6, 5));
+    CRect clip;
+    EXPECT_EQ(dc.GetClipBox(clip), SIMPLEREGION);
+    EXPECT_EQ(clip, whole);
 }
 
-TEST(Drawing, TextIsMeasuredAndShortenedInPlace)
+TEST(Drawing, TextIsShortenedInPlaceWhereThatIsWanted)
 {
     owtest::Surface surface(200, 30, BACK);
     CDC& dc = surface.dc();
-    CString text(L"a rather long text that does not fit");
-    const CSize whole = dc.GetTextExtent(text);
-    EXPECT_GT(whole.cx, 60);
-
-    const CString before = text;
-    CRect box(0, 0, 60, 30);
-    dc.DrawText(text, box, DT_SINGLELINE | DT_END_ELLIPSIS);
-    EXPECT_EQ(text, before);
-    dc.DrawText(text, box, DT_SINGLELINE | DT_END_ELLIPSIS | DT_MODIFYSTRING);
-    EXPECT_EQ(text.Right(3), L"...");
-    EXPECT_LE(dc.GetTextExtent(text).cx, 60);
+    for (const bool extended : {false, true})
+    {
+        CString text(L"a rather long text that does not fit");
+        const CString before = text;
+        CRect box(0, 0, 60, 30);
+        const auto draw = [&](UINT format)
+        { return extended ? dc.DrawTextEx(text, box, format, nullptr) : dc.DrawText(text, box, format); };
+        const int height = draw(DT_SINGLELINE | DT_END_ELLIPSIS);
+        EXPECT_EQ(text, before);
+        EXPECT_EQ(draw(DT_SINGLELINE | DT_END_ELLIPSIS | DT_MODIFYSTRING), height);
+        EXPECT_EQ(text.Right(3), L"...");
+        EXPECT_LE(dc.GetTextExtent(text).cx, 60);
+    }
 }
 
-TEST(ImageList, PicturesAreCopiedAndMasked)
+TEST(ImageList, PicturesAreCopiedMaskedAndDrawn)
 {
-    owtest::Surface screen(32, 16, BACK);
+    owtest::Surface screen(64, 16, BACK);
+    CDC& dc = screen.dc();
     CBitmap strip;
-    ASSERT_TRUE(strip.CreateCompatibleBitmap(&screen.dc(), 16, 8));
+    ASSERT_TRUE(strip.CreateCompatibleBitmap(&dc, 16, 8));
     CDC memory;
-    memory.CreateCompatibleDC(&screen.dc());
+    memory.CreateCompatibleDC(&dc);
     CBitmap* before = memory.SelectObject(&strip);
     memory.FillSolidRect(0, 0, 8, 8, RED);
     memory.FillSolidRect(8, 0, 8, 8, BLUE);
-    memory.FillSolidRect(8, 0, 4, 8, RGB(255, 0, 255));
+    memory.FillSolidRect(8, 0, 4, 8, PINK);
     memory.SelectObject(before);
 
     CImageList images;
     ASSERT_TRUE(images.Create(8, 8, ILC_COLOR24 | ILC_MASK, 0, 4));
-    EXPECT_EQ(images.Add(&strip, RGB(255, 0, 255)), 0);
+    EXPECT_EQ(images.Add(&strip, PINK), 0);
     EXPECT_EQ(images.GetImageCount(), 2) << "a strip is cut into pictures";
+    EXPECT_EQ(images.Add(&strip, static_cast<CBitmap*>(nullptr)), 2);
     strip.DeleteObject();
 
-    EXPECT_TRUE(images.Draw(&screen.dc(), 0, CPoint(0, 0), ILD_NORMAL));
-    EXPECT_TRUE(images.Draw(&screen.dc(), 1, CPoint(10, 0), ILD_TRANSPARENT));
-    EXPECT_EQ(screen.count(CRect(0, 0, 8, 8), RED), 64);
+    EXPECT_TRUE(images.Draw(&dc, 0, CPoint(1, 2), ILD_NORMAL));
+    EXPECT_EQ(screen.extent(RED), CRect(1, 2, 9, 10));
+    EXPECT_TRUE(images.Draw(&dc, 1, CPoint(10, 0), ILD_TRANSPARENT));
     EXPECT_EQ(screen.count(CRect(10, 0, 14, 8), BACK), 32);
-    EXPECT_EQ(screen.count(CRect(14, 0, 18, 8), BLUE), 32);
+    EXPECT_EQ(screen.extent(BLUE), CRect(14, 0, 18, 8));
+    dc.FillSolidRect(0, 0, 64, 16, BACK);
+    EXPECT_TRUE(images.DrawEx(&dc, 1, CPoint(20, 1), CSize(7, 6), RED, CLR_NONE, ILD_NORMAL));
+    EXPECT_EQ(screen.extent(RED), CRect(20, 1, 24, 7));
+    EXPECT_EQ(screen.extent(BLUE), CRect(24, 1, 27, 7));
+    dc.FillSolidRect(0, 0, 64, 16, BACK);
+    EXPECT_TRUE(images.DrawIndirect(&dc, 3, CPoint(40, 2), CSize(6, 4), CPoint(1, 0), ILD_NORMAL));
+    EXPECT_EQ(screen.extent(BLUE), CRect(43, 2, 46, 6)) << "one column of the picture is left out";
+
+    EXPECT_TRUE(images.Copy(1, &images, 0, ILCF_SWAP));
+    dc.FillSolidRect(0, 0, 64, 16, BACK);
+    EXPECT_TRUE(images.Draw(&dc, 1, CPoint(0, 0), ILD_NORMAL));
+    EXPECT_EQ(screen.extent(RED), CRect(0, 0, 8, 8));
+    CImageList both;
+    EXPECT_TRUE(both.Create(images, 1, images, 0, 3, 2));
+    IMAGEINFO info;
+    EXPECT_TRUE(both.GetImageInfo(0, &info));
+    EXPECT_EQ(CRect(info.rcImage), CRect(0, 0, 11, 10));
+    EXPECT_TRUE(images.SetOverlayImage(1, 1));
 
     EXPECT_EQ(CImageList::FromHandle(images), &images);
     const HIMAGELIST handle = images.Detach();
     EXPECT_EQ(CImageList::FromHandlePermanent(handle), nullptr);
+    EXPECT_FALSE(images.DeleteImageList());
     EXPECT_TRUE(::ImageList_Destroy(handle));
+    EXPECT_TRUE(images.Create(L"TURNU", 8, 1, PINK));
+    EXPECT_GT(images.GetImageCount(), 1);
 }

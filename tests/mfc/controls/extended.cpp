@@ -1,4 +1,4 @@
-// Check list boxes, bitmap buttons, tool bar controls, lists sorted by index, and tips.
+// Check list boxes, bitmap buttons, and tips.
 
 #include "HostWindow.h"
 
@@ -219,97 +219,6 @@ TEST(BitmapButton, ShowsTheBitmapOfItsState)
     CRect size;
     turn.GetClientRect(&size);
     EXPECT_GT(size.Width(), 8);
-}
-
-TEST(ToolBar, KnowsItsButtonsTextsAndStates)
-{
-    Host host;
-    CToolBarCtrl bar;
-    ASSERT_TRUE(bar.Create(CHILD, CRect(), &host, 5));
-    CBitmap bitmap;
-    CClientDC screen(nullptr);
-    bitmap.CreateCompatibleBitmap(&screen, 32, 16);
-    EXPECT_EQ(bar.AddBitmap(2, &bitmap), 0);
-    EXPECT_EQ(bar.AddStrings(L"cut\0paste\0"), 0);
-    TBBUTTON buttons[3]{};
-    for (int i = 0; i < 3; ++i)
-        buttons[i] = {I_IMAGENONE, 10 + i, TBSTATE_ENABLED, BTNS_CHECK, {}, 0, i % 2};
-    ASSERT_TRUE(bar.AddButtons(3, buttons));
-    EXPECT_EQ(bar.GetButtonCount(), 3);
-    EXPECT_EQ(bar.GetString(1), L"paste");
-    EXPECT_EQ(bar.AddString(7), 2);
-    EXPECT_EQ(bar.GetString(2), L"of a table");
-    bar.EnableButton(10, FALSE);
-    bar.CheckButton(11);
-    bar.HideButton(12);
-    EXPECT_FALSE(bar.IsButtonEnabled(10));
-    EXPECT_TRUE(bar.IsButtonEnabled(11));
-    EXPECT_TRUE(bar.IsButtonChecked(11));
-    EXPECT_TRUE(bar.IsButtonHidden(12));
-    bar.PressButton(11);
-    bar.Indeterminate(11);
-    EXPECT_TRUE(bar.IsButtonPressed(11));
-    EXPECT_TRUE(bar.IsButtonIndeterminate(11));
-    TBBUTTONINFO info{};
-    info.dwMask = TBIF_LPARAM;
-    info.lParam = 44;
-    EXPECT_TRUE(bar.SetButtonInfo(11, &info));
-    info = {};
-    info.dwMask = TBIF_LPARAM;
-    EXPECT_TRUE(bar.GetButtonInfo(11, &info));
-    EXPECT_EQ(info.lParam, 44u);
-    EXPECT_FALSE(bar.GetButtonInfo(99, &info));
-    EXPECT_EQ(bar.CommandToIndex(11), 1u);
-    EXPECT_TRUE(bar.DeleteButton(0));
-    EXPECT_EQ(bar.CommandToIndex(11), 0u);
-    bar.AutoSize();
-    CRect rect;
-    EXPECT_TRUE(bar.GetItemRect(0, &rect));
-    CPoint middle = rect.CenterPoint();
-    EXPECT_EQ(bar.HitTest(&middle), 0);
-
-    CImageList images;
-    images.Create(16, 16, ILC_COLOR32, 1, 1);
-    bar.SetImageList(&images);
-    EXPECT_EQ(bar.GetImageList(), &images);
-    bar.SetImageList(nullptr);
-
-    constexpr auto place = L"Software\\ToolBarTest";
-    const auto isStored = [=](LPCWSTR value)
-    { return ::RegGetValue(HKEY_CURRENT_USER, place, value, RRF_RT_ANY, nullptr, nullptr, nullptr) == 0; };
-    bar.SaveState(HKEY_CURRENT_USER, place, L"saved");
-    bar.RestoreState(HKEY_CURRENT_USER, place, L"missing");
-    EXPECT_TRUE(isStored(L"saved"));
-    EXPECT_FALSE(isStored(L"missing"));
-    ::RegDeleteKey(HKEY_CURRENT_USER, place);
-}
-
-TEST(ListCtrl, IsSortedByIndexAndKeepsItsData)
-{
-    Host host;
-    CListCtrl list;
-    ASSERT_TRUE(list.Create(WS_CHILD | LVS_REPORT, CRect(0, 0, 100, 100), &host, 3));
-    constexpr int count = 200;
-    for (int i = 0; i < count; ++i)
-    {
-        CString text;
-        text.Format(L"%d", (i * 37) % count); // all numbers, scattered
-        list.SetItemData(list.InsertItem(i, text), 1000 + i);
-    }
-    const auto number = [](LPARAM list, LPARAM item)
-    { return _wtoi(reinterpret_cast<const CListCtrl*>(list)->GetItemText(static_cast<int>(item), 0)); };
-    static auto s_number = number;
-    EXPECT_TRUE(list.SortItemsEx([](LPARAM a, LPARAM b, LPARAM list) -> int
-                                 { return s_number(list, a) - s_number(list, b); },
-                                 reinterpret_cast<DWORD_PTR>(&list)));
-    for (int i = 0; i < count; ++i)
-    {
-        EXPECT_EQ(number(reinterpret_cast<LPARAM>(&list), i), i);
-        EXPECT_EQ((list.GetItemData(i) - 1000) * 37 % count, static_cast<DWORD_PTR>(i));
-    }
-    CListCtrl virtualList;
-    ASSERT_TRUE(virtualList.Create(WS_CHILD | LVS_REPORT | LVS_OWNERDATA, CRect(0, 0, 9, 9), &host, 4));
-    EXPECT_FALSE(virtualList.SortItemsEx([](LPARAM, LPARAM, LPARAM) { return 0; }, 0));
 }
 
 /// A window with two buttons and a label below the first, and tips that are the buttons' texts.
