@@ -58,12 +58,8 @@ int CToolBarCtrl::AddString(UINT nStringID)
 
 CString CToolBarCtrl::GetString(int nString) const
 {
-    return WholeText(
-        [this, nString](LPTSTR buffer, int size)
-        {
-            const int length = AfxSend<int>(TB_GETSTRING, MAKEWPARAM(size, nString), buffer);
-            return (std::max)(length, 0);
-        });
+    return WholeText([this, nString](LPTSTR buffer, int size)
+                     { return AfxSend<int>(TB_GETSTRING, MAKEWPARAM(size, nString), buffer); });
 }
 
 CToolTipCtrl* CToolBarCtrl::GetToolTips() const
