@@ -55,7 +55,16 @@ public:
 
     int m_value;
     static inline int s_alive = 0;
-    static inline int s_stepsToThrow = 0; ///< the construction or copy that throws; 0 for none
+
+    /// Whether the function throws, if the nth construction or copy from now on does.
+    template <class Function>
+    static bool Throws(int nth, Function function)
+    {
+        s_stepsToThrow = nth;
+        const std::string thrown = ThrownBy(function);
+        s_stepsToThrow = 0;
+        return thrown == "CMemoryException";
+    }
 
 private:
     static void Step()
@@ -63,6 +72,7 @@ private:
         if (s_stepsToThrow > 0 && --s_stepsToThrow == 0)
             AfxThrowMemoryException();
     }
+    static inline int s_stepsToThrow = 0;
 };
 
 struct CellKey
@@ -207,16 +217,12 @@ TEST(Array, ThrowingElementsLeaveTheArrayAndNoneIsForgotten)
         for (int i = 0; i < 4; ++i)
             array.Add(Counted(i));
         array.FreeExtra();
-        Counted::s_stepsToThrow = nth;
-        ThrownBy([&] { array.SetSize(10); });
-        Counted::s_stepsToThrow = 0;
-        ASSERT_TRUE(array.GetSize() == 4 || array.GetSize() == 10) << nth;
+        const bool stays = Counted::Throws(nth, [&] { array.SetSize(10); });
+        ASSERT_EQ(array.GetSize(), stays ? 4 : 10) << nth;
 
         array.SetSize(4);
         array.FreeExtra();
-        Counted::s_stepsToThrow = nth;
-        const bool thrown = !ThrownBy([&] { array.Add(extra); }).empty();
-        Counted::s_stepsToThrow = 0;
+        const bool thrown = Counted::Throws(nth, [&] { array.Add(extra); });
         ASSERT_EQ(array.GetSize(), thrown ? 4 : 5) << nth;
         for (int i = 0; i < 4; ++i)
             ASSERT_EQ(array[i].m_value, i);
@@ -254,10 +260,9 @@ TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
     row.SetAtGrow(2, &cells[2]);
     row[1] = &cells[1];
     row.ElementAt(1)->m_value = 5;
-    EXPECT_EQ(cells[1].m_value, 5);
     row.InsertAt(0, nullptr, 2);
     EXPECT_EQ(row.GetAt(3), &cells[1]);
-    EXPECT_TRUE(row.IsKindOf(RUNTIME_CLASS(CObArray)));
+    EXPECT_TRUE(cells[1].m_value == 5 && row.IsKindOf(RUNTIME_CLASS(CObArray)));
 
     CTypedPtrList<CObList, Cell*> list;
     const POSITION middle = list.AddTail(&cells[1]);
@@ -267,29 +272,24 @@ TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
     list.GetAt(middle)->m_value = 9;
     list.AddHead(&list);
     list.GetHead() = &cells[2];
-    std::vector<int> values;
+    std::string values;
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
-        values.push_back(list.GetNext(pos)->m_value);
-    EXPECT_EQ(values, (std::vector<int>{7, 9, 7, 7, 9, 7}));
-    EXPECT_EQ(list.RemoveHead(), &cells[2]);
-    EXPECT_EQ(list.RemoveTail(), &cells[2]);
-    EXPECT_EQ(list.GetTail(), &cells[3]);
+        values += std::to_string(list.GetNext(pos)->m_value);
+    EXPECT_EQ(values, "797797");
+    EXPECT_TRUE(list.RemoveHead() == &cells[2] && list.RemoveTail() == &cells[2] &&
+                list.GetTail() == &cells[3]);
 
     CTypedPtrMap<CMapStringToOb, CString, Cell*> map;
     map.SetAt(L"a", &cells[0]);
     map[L"b"] = &cells[1];
     Cell* found = nullptr;
-    EXPECT_TRUE(map.Lookup(L"b", found));
-    EXPECT_EQ(found, &cells[1]);
-    EXPECT_FALSE(map.Lookup(L"c", found));
+    EXPECT_TRUE(map.Lookup(L"b", found) && !map.Lookup(L"c", found));
     EXPECT_EQ(found, &cells[1]) << "left alone";
     EXPECT_TRUE(map.RemoveKey(L"b"));
     POSITION pos = map.GetStartPosition();
     CString key;
     map.GetNextAssoc(pos, key, found);
-    EXPECT_EQ(key, L"a");
-    EXPECT_EQ(found, &cells[0]);
-    EXPECT_EQ(pos, nullptr);
+    EXPECT_TRUE(key == L"a" && found == &cells[0] && pos == nullptr);
 }
 
 TEST(List, IsADequeLinkedBothWays)
@@ -388,10 +388,8 @@ TEST(List, GivesItsMemoryBackWithTheLastElementAndAfterAFailure)
     const Counted element(3);
     for (int nth = 1; nth <= 2; ++nth)
     {
-        Counted::s_stepsToThrow = nth;
-        EXPECT_EQ(ThrownBy([&] { list.AddTail(element); }), "CMemoryException");
-        EXPECT_TRUE(list.IsEmpty());
-        EXPECT_FALSE(list.HasBlocks());
+        EXPECT_TRUE(Counted::Throws(nth, [&] { list.AddTail(element); }));
+        EXPECT_TRUE(list.IsEmpty() && !list.HasBlocks());
     }
     EXPECT_EQ(Counted::s_alive, 1);
 }
@@ -458,18 +456,14 @@ TEST(Map, TakesTextsAndClassesWithTheirOwnHashAsKeys)
     cells.SetAt({2, 1}, L"second");
     cells.SetAt({1, 2}, L"again");
     EXPECT_EQ(cells.GetCount(), 2);
-    ASSERT_NE(cells.PLookup({1, 2}), nullptr);
-    EXPECT_EQ(cells.PLookup({1, 2})->value, L"again");
-    EXPECT_EQ(cells.PLookup({3, 3}), nullptr);
+    EXPECT_TRUE(cells.PLookup({1, 2})->value == L"again" && cells.PLookup({3, 3}) == nullptr);
 
     CMapStringToString texts;
     texts[L"a"] = L"1";
     texts[CString(L"a")] += L"2";
-    EXPECT_EQ(texts[L"a"], L"12");
     LPCTSTR ownKey = nullptr;
-    EXPECT_TRUE(texts.LookupKey(CString(L"a"), ownKey));
-    EXPECT_STREQ(ownKey, L"a");
-    EXPECT_FALSE(texts.LookupKey(L"other", ownKey));
+    EXPECT_TRUE(texts.LookupKey(CString(L"a"), ownKey) && !texts.LookupKey(L"other", ownKey));
+    EXPECT_EQ(texts[ownKey], L"12");
 }
 
 TEST(Map, EveryValueIsDestroyedOnce)
@@ -481,8 +475,7 @@ TEST(Map, EveryValueIsDestroyedOnce)
         EXPECT_EQ(Counted::s_alive, 100);
         map.RemoveKey(50);
         EXPECT_EQ(Counted::s_alive, 99);
-        Counted::s_stepsToThrow = 1;
-        EXPECT_EQ(ThrownBy([&] { map[50]; }), "CMemoryException");
+        EXPECT_TRUE(Counted::Throws(1, [&] { map[50]; }));
         EXPECT_EQ(map.GetCount(), 99);
         EXPECT_EQ(map.PLookup(50), nullptr);
     }

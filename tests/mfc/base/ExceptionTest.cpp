@@ -84,7 +84,6 @@ TEST(Exception, TypesAreKnownAcrossModules)
 {
     EXPECT_EQ(ThrownBy([] { AfxThrowNotSupportedException(); }), "CNotSupportedException");
     EXPECT_EQ(ThrownBy([] { AfxThrowResourceException(); }), "CResourceException");
-    EXPECT_EQ(ThrownBy([] { AfxThrowUserException(); }), "CUserException");
     EXPECT_EQ(ThrownBy([] { AfxThrowInvalidArgException(); }), kInvalidArg);
     EXPECT_THROW(AfxThrowUserException(), CUserException*) << "by the exact class";
     EXPECT_THROW(AfxThrowUserException(), CSimpleException*) << "by a base";
@@ -99,48 +98,59 @@ TEST(Exception, TypesAreKnownAcrossModules)
 TEST(Exception, MessagesComeFromResourcesAndAreCutToTheBuffer)
 {
     CMemoryException memory(FALSE);
-    const CString full = MessageOf(memory);
-    EXPECT_GT(full.GetLength(), 5);
-    TCHAR szShort[5];
-    UINT nHelp = 77;
-    EXPECT_TRUE(memory.GetErrorMessage(szShort, 5, &nHelp));
-    EXPECT_EQ(full.Left(4), szShort);
-    EXPECT_EQ(nHelp, 0u);
-
+    CFileException file(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, L"c:\\some\\file.txt");
+    for (CException* e : {static_cast<CException*>(&memory), static_cast<CException*>(&file)})
+    {
+        const CString full = MessageOf(*e);
+        EXPECT_GT(full.GetLength(), 5);
+        TCHAR szShort[5] = {};
+        UINT nHelp = 77;
+        EXPECT_FALSE(e->GetErrorMessage(szShort, 0) && e == &file);
+        EXPECT_TRUE(e->GetErrorMessage(szShort, 5, &nHelp));
+        EXPECT_EQ(full.Left(4), szShort);
+        EXPECT_EQ(nHelp, 0u);
+    }
     CSimpleException fromResource(FALSE, IDS_GREETING);
-    EXPECT_EQ(MessageOf(fromResource), L"Good day");
     CSimpleException missing(FALSE, IDS_NO_SUCH_STRING);
-    EXPECT_EQ(MessageOf(missing), L"(none)");
     CException silent(FALSE);
-    EXPECT_EQ(MessageOf(silent), L"(none)");
+    EXPECT_EQ(MessageOf(fromResource), L"Good day");
+    EXPECT_EQ(MessageOf(missing) + MessageOf(silent), L"(none)(none)");
+
+    CFileException unnamed(CFileException::diskFull);
+    CFileException unknown(99);
+    EXPECT_GE(MessageOf(file).Find(L"c:\\some\\file.txt"), 0);
+    EXPECT_NE(MessageOf(unnamed), MessageOf(file));
+    EXPECT_LT(MessageOf(unnamed).Find(L'%'), 0);
+    EXPECT_NE(MessageOf(unknown), L"(none)");
 }
 
-TEST(Exception, FileExceptionsNameTheFileAndTheCause)
+TEST(Exception, FileExceptionsKnowTheCauseOfAnError)
 {
-    CFileException e(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, L"c:\\some\\file.txt");
-    EXPECT_GE(MessageOf(e).Find(L"c:\\some\\file.txt"), 0);
-    CFileException unnamed(CFileException::diskFull);
-    EXPECT_NE(MessageOf(unnamed), MessageOf(e));
-    EXPECT_LT(MessageOf(unnamed).Find(L'%'), 0);
-    CFileException unknown(99);
-    EXPECT_NE(MessageOf(unknown), L"(none)");
-
     EXPECT_EQ(CFileException::OsErrorToException(ERROR_FILE_NOT_FOUND), CFileException::fileNotFound);
     EXPECT_EQ(CFileException::OsErrorToException(ERROR_SHARING_VIOLATION), CFileException::sharingViolation);
     EXPECT_EQ(CFileException::OsErrorToException(0x7FFF), CFileException::genericException);
     EXPECT_EQ(CFileException::ErrnoToException(EACCES), CFileException::accessDenied);
-    const auto thrown = Thrown([] { CFileException::ThrowOsError(ERROR_ACCESS_DENIED, L"name"); });
-    const auto* const denied = DYNAMIC_DOWNCAST(CFileException, thrown.get());
-    ASSERT_NE(denied, nullptr);
-    EXPECT_EQ(denied->m_cause, CFileException::accessDenied);
-    EXPECT_EQ(denied->m_lOsError, ERROR_ACCESS_DENIED);
-    EXPECT_STREQ(denied->m_strFileName, L"name");
-    EXPECT_EQ(ThrownBy([] { CFileException::ThrowOsError(0); }), "") << "no error is no exception";
+    for (const auto& fails : {+[] { CFileException::ThrowOsError(ERROR_ACCESS_DENIED, L"name"); },
+                              +[]
+                              {
+                                  _doserrno = ERROR_ACCESS_DENIED;
+                                  CFileException::ThrowErrno(EACCES, L"name");
+                              }})
+    {
+        const auto thrown = Thrown(fails);
+        const auto* const denied = DYNAMIC_DOWNCAST(CFileException, thrown.get());
+        ASSERT_NE(denied, nullptr);
+        EXPECT_EQ(denied->m_cause, CFileException::accessDenied);
+        EXPECT_EQ(denied->m_lOsError, ERROR_ACCESS_DENIED);
+        EXPECT_STREQ(denied->m_strFileName, L"name");
+    }
+    const auto none = [] { CFileException::ThrowOsError(0), CFileException::ThrowErrno(0); };
+    EXPECT_EQ(ThrownBy(none), "") << "no error is no exception";
 }
 
-TEST(Exception, ReportsItsMessageOrTheGivenOne)
+TEST(Exception, ReportsItsMessageOrTheGivenOneOrThatThereIsNone)
 {
-    const auto textShown = [](CException& e)
+    const auto textShown = [](CException& e, UINT given)
     {
         CString text;
         owtest::ModalVisit visit(
@@ -151,13 +161,14 @@ TEST(Exception, ReportsItsMessageOrTheGivenOne)
                 EXPECT_EQ(owtest::TextOf(box), AfxGetAppName());
                 box.SendMessage(WM_COMMAND, IDOK);
             });
-        EXPECT_EQ(e.ReportError(MB_OK, IDS_GREETING), IDOK);
+        EXPECT_EQ(e.ReportError(MB_OK, given), IDOK);
         return text;
     };
     CFileException named(CFileException::fileNotFound, ERROR_FILE_NOT_FOUND, L"missing.txt");
-    EXPECT_GE(textShown(named).Find(L"missing.txt"), 0);
+    EXPECT_GE(textShown(named, IDS_GREETING).Find(L"missing.txt"), 0);
     CException silent(FALSE);
-    EXPECT_EQ(textShown(silent), L"Good day");
+    EXPECT_EQ(textShown(silent, IDS_GREETING), L"Good day");
+    EXPECT_FALSE(textShown(silent, 0).IsEmpty());
 }
 
 OW_CHILD_SCENARIO(failed_assertion)

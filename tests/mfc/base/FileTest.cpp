@@ -2,6 +2,7 @@
 
 #include "Dice.h"
 #include "Thrown.h"
+#include "Told.h"
 
 #include <gtest/gtest.h>
 
@@ -196,15 +197,22 @@ TEST_F(File, KnowsItsNamesAndStatus)
 {
     Write("12345");
     CFile file(m_path, CFile::modeRead | CFile::shareDenyNone);
-    EXPECT_EQ(file.GetFileName(), L"data.test.txt");
-    EXPECT_EQ(file.GetFileTitle(), L"data.test");
+    EXPECT_EQ(Told(file.GetFileName(), file.GetFileTitle()), "data.test.txt,data.test");
     EXPECT_EQ(file.GetFilePath().CompareNoCase(m_path), 0);
     CFileStatus status;
     EXPECT_TRUE(file.GetStatus(status));
-    EXPECT_EQ(status.m_size, 5u);
+    EXPECT_EQ(Told(status.m_size, status.m_attribute & CFile::directory, status.m_szFullName),
+              Told(5, 0, m_path));
     EXPECT_TRUE(CFile::GetStatus(m_folder, status));
-    EXPECT_TRUE(status.m_attribute & CFile::directory);
+    EXPECT_EQ(Told(status.m_attribute & CFile::directory, status.m_szFullName),
+              Told(CFile::directory, m_folder));
     EXPECT_FALSE(CFile::GetStatus(m_folder + L"\\none", status));
+    file.Close();
+    const CString other = m_folder + L"\\other";
+    CFile::Rename(m_path, other);
+    EXPECT_EQ(CauseThrownBy([&] { CFile::Rename(m_path, other); }), CFileException::fileNotFound);
+    CFile::Remove(other);
+    EXPECT_EQ(CauseThrownBy([&] { CFile::Remove(other); }), CFileException::fileNotFound);
 }
 
 TEST_F(File, TextIsStoredInTheAnsiCodePageWithItsLineEndsOrAsItIs)
@@ -239,10 +247,8 @@ TEST_F(File, TextIsStoredInTheAnsiCodePageWithItsLineEndsOrAsItIs)
     Write("second\r\n");
     CStdioFile file(m_path, CFile::modeRead); // in pieces of the buffer
     TCHAR buffer[32];
-    EXPECT_EQ(file.ReadString(buffer, 4), buffer);
-    EXPECT_STREQ(buffer, L"sec");
-    EXPECT_NE(file.ReadString(buffer, 32), nullptr);
-    EXPECT_STREQ(buffer, L"ond\n");
+    EXPECT_STREQ(file.ReadString(buffer, 4), L"sec");
+    EXPECT_STREQ(file.ReadString(buffer, 32), L"ond\n");
     EXPECT_EQ(file.ReadString(buffer, 32), nullptr);
 }
 

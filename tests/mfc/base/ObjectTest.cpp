@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
+#include <memory>
 
 class CTestShape : public CObject
 {
@@ -14,9 +14,6 @@ class CTestShape : public CObject
 class CTestCircle : public CTestShape
 {
     DECLARE_DYNCREATE(CTestCircle)
-
-public:
-    int m_radius = 11;
 };
 
 class CTestFailing : public CObject
@@ -44,24 +41,18 @@ TEST(RuntimeClass, KnowsItsObjectsAndItsBases)
     EXPECT_EQ(DYNAMIC_DOWNCAST(CTestShape, static_cast<CObject*>(nullptr)), nullptr);
 }
 
-TEST(RuntimeClass, MakesObjectsByName)
+TEST(RuntimeClass, IsFoundAndMakesObjectsByNameWhileItIsListed)
 {
-    EXPECT_EQ(CRuntimeClass::FromName("CTestCircle"), RUNTIME_CLASS(CTestCircle));
     EXPECT_EQ(CRuntimeClass::FromName(L"CStringArray"), RUNTIME_CLASS(CStringArray)) << "of another module";
     EXPECT_EQ(CRuntimeClass::FromName("CNoSuchClass"), nullptr);
-
-    CObject* const pObject = CRuntimeClass::CreateObject("CTestCircle");
-    ASSERT_NE(pObject, nullptr);
-    EXPECT_EQ(STATIC_DOWNCAST(CTestCircle, pObject)->m_radius, 11);
-    delete pObject;
-
+    const std::unique_ptr<CObject> object(CRuntimeClass::CreateObject("CTestCircle"));
+    ASSERT_NE(object, nullptr);
+    EXPECT_EQ(object->GetRuntimeClass(), RUNTIME_CLASS(CTestCircle));
+    EXPECT_EQ(STATIC_DOWNCAST(CTestCircle, object.get()), object.get());
     EXPECT_EQ(CRuntimeClass::CreateObject(L"CNoSuchClass"), nullptr);
     EXPECT_EQ(RUNTIME_CLASS(CTestShape)->CreateObject(), nullptr) << "declared without creation";
     EXPECT_EQ(RUNTIME_CLASS(CTestFailing)->CreateObject(), nullptr);
-}
 
-TEST(RuntimeClass, ListLosesAClassThatIsTakenOut)
-{
     CRuntimeClass temporary = {"CTestTemporary", sizeof(CObject), 0xFFFF, nullptr, &CObject::GetThisClass};
     {
         const AFX_CLASSINIT entry(&temporary);
@@ -74,15 +65,21 @@ TEST(RuntimeClass, ListLosesAClassThatIsTakenOut)
 TEST(Diagnostics, MemoryIsValidUpToAPageWithoutAccess)
 {
     EXPECT_FALSE(AfxIsValidAddress(nullptr, 1));
+    EXPECT_FALSE(AfxIsValidAddress("", UINTPTR_MAX));
     EXPECT_FALSE(AfxIsValidString(static_cast<LPCWSTR>(nullptr)));
     BYTE* const pages = static_cast<BYTE*>(VirtualAlloc(nullptr, 8192, MEM_RESERVE, PAGE_NOACCESS));
     ASSERT_NE(VirtualAlloc(pages, 4096, MEM_COMMIT, PAGE_READWRITE), nullptr);
+    const auto text = reinterpret_cast<LPCSTR>(pages);
     memset(pages, 'x', 4096);
-    EXPECT_TRUE(AfxIsValidAddress(pages, 4096));
-    EXPECT_FALSE(AfxIsValidAddress(pages, 4097));
-    EXPECT_FALSE(AfxIsValidString(reinterpret_cast<LPCSTR>(pages))) << "it has no end that can be read";
+    EXPECT_TRUE(AfxIsValidAddress(pages, 4096) && AfxIsValidString(text, 4096));
+    EXPECT_FALSE(AfxIsValidAddress(pages, 4097) || AfxIsValidString(text, 4097));
+    EXPECT_FALSE(AfxIsValidString(text)) << "it has no end that can be read";
+    EXPECT_FALSE(AfxIsValidString(reinterpret_cast<LPCWSTR>(text + 1))) << "nor half a character of one";
     pages[4095] = 0;
-    EXPECT_TRUE(AfxIsValidString(reinterpret_cast<LPCSTR>(pages)));
+    EXPECT_TRUE(AfxIsValidString(text));
+    DWORD before = 0;
+    ASSERT_TRUE(VirtualProtect(pages, 4096, PAGE_READONLY, &before));
+    EXPECT_TRUE(AfxIsValidAddress(pages, 4096, FALSE) && !AfxIsValidAddress(pages, 4096, TRUE));
     VirtualFree(pages, 0, MEM_RELEASE);
 }
 
@@ -92,13 +89,15 @@ TEST(Diagnostics, DumpsToAFile)
     CDumpContext dump(&file);
     CStringArray array;
     array.SetSize(3);
-    dump << array << "narrow " << L"wide " << 5 << " " << 2.5 << " " << BYTE(7);
-    dump.HexDump(L"#", reinterpret_cast<BYTE*>(const_cast<char*>("AB")), 2, 16);
+    dump << array << "narrow " << L"wide " << LPCSTR() << 5 << " " << ~0ull << " " << 2.5 << " " << BYTE(7);
+    dump.DumpAsHex(255).HexDump(L"#", reinterpret_cast<BYTE*>(const_cast<char*>("ABC")), 3, 2);
 
-    const int nLength = int(file.GetLength() / sizeof(WCHAR));
     CString text;
     file.SeekToBegin();
-    file.Read(text.GetBufferSetLength(nLength), UINT(file.GetLength()));
+    file.Read(text.GetBufferSetLength(int(file.GetLength() / sizeof(WCHAR))), UINT(file.GetLength()));
     EXPECT_EQ(text.Find(L"a CStringArray at $"), 0) << CStringA(text).GetString();
-    EXPECT_GT(text.Find(L"with 3 elements\nnarrow wide 5 2.5 7# 41 42\n"), 0) << CStringA(text).GetString();
+    EXPECT_GT(
+        text.Find(L"with 3 elements\nnarrow wide (nullptr)5 18446744073709551615 2.5 70xFF# 41 42\n# 43\n"),
+        0)
+        << CStringA(text).GetString();
 }

@@ -17,27 +17,6 @@ SYSTEMTIME PartsOf(const CTime& time)
     return parts;
 }
 
-/// What both controls do with the range of what can be chosen.
-template <class Control>
-void CheckRangeOf(Control& control)
-{
-    CTime minimum, maximum;
-    EXPECT_EQ(control.GetRange(&minimum, &maximum), 0u);
-    EXPECT_TRUE(control.SetRange(&leapDay, nullptr));
-    EXPECT_EQ(control.GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN));
-    EXPECT_EQ(minimum, leapDay);
-    EXPECT_EQ(maximum, CTime());
-
-    SYSTEMTIME first = PartsOf(leapDay), last = PartsOf(march);
-    EXPECT_TRUE(control.SetRange(&first, &last));
-    SYSTEMTIME readFirst{}, readLast{};
-    EXPECT_EQ(control.GetRange(&readFirst, &readLast), static_cast<DWORD>(GDTR_MIN | GDTR_MAX));
-    EXPECT_EQ(CTime(readFirst), leapDay);
-    EXPECT_EQ(CTime(readLast), march);
-    control.GetRange(static_cast<CTime*>(nullptr), &maximum);
-    EXPECT_EQ(maximum, march);
-}
-
 /// A window with a control that exchanges `value`, and checks it against two bounds.
 class DateExchange : public testing::Test
 {
@@ -70,25 +49,7 @@ CString ShortDate(const CTime& time)
 }
 } // namespace
 
-TEST(DateTimePicker, HoldsATimeOrNone)
-{
-    HostWindow host;
-    CDateTimeCtrl picker;
-    ASSERT_TRUE(picker.Create(DTS_SHOWNONE, CRect(0, 0, 150, 24), &host, IDC_DATE));
-    const CTime time(2024, 2, 29, 13, 14, 15);
-    EXPECT_TRUE(picker.SetFormat(L"yyyy'/'MM'/'dd HH':'mm':'ss"));
-    EXPECT_TRUE(picker.SetTime(&time));
-    EXPECT_EQ(owtest::TextOf(picker), L"2024/02/29 13:14:15");
-    CTime read;
-    EXPECT_EQ(picker.GetTime(read), static_cast<DWORD>(GDT_VALID));
-    EXPECT_EQ(read, time);
-    EXPECT_TRUE(picker.SetTime(static_cast<const CTime*>(nullptr)));
-    EXPECT_EQ(picker.GetTime(read), static_cast<DWORD>(GDT_NONE));
-    EXPECT_EQ(read, time);
-    CheckRangeOf(picker);
-}
-
-TEST(MonthCalendar, HoldsDaysRangesAndItsSettings)
+TEST(MonthCalendar, IsAsLargeAsAMonth)
 {
     HostWindow host;
     CMonthCalCtrl calendar;
@@ -98,27 +59,6 @@ TEST(MonthCalendar, HoldsDaysRangesAndItsSettings)
     host.ScreenToClient(&placed);
     ASSERT_TRUE(calendar.GetMinReqRect(&needed));
     EXPECT_EQ(placed, CRect(CPoint(10, 20), needed.Size()));
-
-    EXPECT_TRUE(calendar.SetCurSel(leapDay + CTimeSpan(0, 13, 0, 0)));
-    CTime day, minimum, maximum;
-    EXPECT_TRUE(calendar.GetCurSel(day));
-    EXPECT_EQ(day, leapDay);
-    calendar.SetToday(march);
-    EXPECT_TRUE(calendar.GetToday(day));
-    EXPECT_EQ(day, march);
-    EXPECT_EQ(calendar.GetMonthRange(minimum, maximum, GMR_VISIBLE), 1);
-    EXPECT_EQ(minimum, CTime(2024, 2, 1, 0, 0, 0));
-    EXPECT_EQ(maximum, leapDay);
-    EXPECT_EQ(calendar.GetMonthRange(minimum, maximum, GMR_DAYSTATE), 3);
-    CheckRangeOf(calendar);
-
-    CMonthCalCtrl several;
-    ASSERT_TRUE(several.Create(MCS_MULTISELECT, CRect(0, 0, 300, 250), &host, IDC_DATE + 1));
-    EXPECT_TRUE(several.SetMaxSelCount(20));
-    EXPECT_TRUE(several.SetSelRange(leapDay + CTimeSpan(0, 5, 0, 0), march));
-    EXPECT_TRUE(several.GetSelRange(minimum, maximum));
-    EXPECT_EQ(minimum, leapDay);
-    EXPECT_EQ(maximum, march);
 }
 
 TEST_F(DateExchange, OfPickersGoesByDaysUnlessTheyShowTheTime)

@@ -71,7 +71,7 @@ TEST_F(ExchangeTest, NumbersOfEveryTypeMakeTheRoundTripWithTheirDigitsOrAreRefus
         EXPECT_EQ(Taken<BYTE>(text), L"Please enter a whole number from 0 to 255.");
     for (LPCTSTR text : {L" -1", L"4294967296"})
         EXPECT_EQ(Taken<DWORD>(text), L"Please enter a whole number that is not negative.");
-    EXPECT_EQ(Taken<ULONGLONG>(L"-1"), L"Please enter a whole number that is not negative.");
+    EXPECT_EQ(Taken<ULONGLONG>(L" -1"), L"Please enter a whole number that is not negative.");
     for (LPCTSTR text : {L"", L"2.5 m", L"wide"})
         EXPECT_EQ(Taken<double>(text), refusedReal);
 }

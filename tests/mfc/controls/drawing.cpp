@@ -61,7 +61,7 @@ protected:
     }
     /// That the two calls draw the same, answer the same and fill `out` in the same way.
     template <class Call, class Meant>
-    void ExpectSame(Call call, Meant meantCall, const char* name)
+    void Same(Call call, Meant meantCall, const char* name)
     {
         const auto run = [&](auto& canvas, auto& made)
         {
@@ -91,7 +91,7 @@ protected:
     LONG out[200] = {};
     CBrush brush{RGB(0, 128, 0)};
 };
-#define EXPECT_SAME(member, system) ExpectSame([&] { return dc.member; }, [&] { return system; }, #member)
+#define SAME(member, system) Same([&] { return dc.member; }, [&] { return system; }, #member)
 } // namespace
 
 TEST_F(DrawingTest, ShapesAndBitmapsAreTheSystems)
@@ -103,28 +103,28 @@ TEST_F(DrawingTest, ShapesAndBitmapsAreTheSystems)
     INT counts[] = {3, 2};
     CRgn region;
     region.CreateEllipticRgn(3, 4, 30, 28);
-    EXPECT_SAME(FillRgn(&region, &brush), ::FillRgn(h, region, brush));
-    EXPECT_SAME(FrameRgn(&region, &brush, 2, 3), ::FrameRgn(h, region, brush, 2, 3));
-    EXPECT_SAME(InvertRgn(&region), ::InvertRgn(h, region));
-    EXPECT_SAME(PaintRgn(&region), ::PaintRgn(h, region));
-    EXPECT_SAME(Arc(box, from, to), ::Arc(h, 3, 4, 30, 28, 30, 5, 2, 27));
-    EXPECT_SAME(Chord(box, from, to), ::Chord(h, 3, 4, 30, 28, 30, 5, 2, 27));
-    EXPECT_SAME(Pie(box, from, to), ::Pie(h, 3, 4, 30, 28, 30, 5, 2, 27));
-    EXPECT_SAME(Rectangle(box), ::Rectangle(h, 3, 4, 30, 28));
-    EXPECT_SAME(RoundRect(box, CPoint(9, 16)), ::RoundRect(h, 3, 4, 30, 28, 9, 16));
-    EXPECT_SAME(PolyPolyline(points, lines, 2), ::PolyPolyline(h, points, lines, 2));
-    EXPECT_SAME(PolyPolygon(points, counts, 2), ::PolyPolygon(h, points, counts, 2));
-    EXPECT_SAME(FillRect(box, &brush), void(::FillRect(h, box, brush)));
-    EXPECT_SAME(FrameRect(box, &brush), void(::FrameRect(h, box, brush)));
+    SAME(FillRgn(&region, &brush), ::FillRgn(h, region, brush));
+    SAME(FrameRgn(&region, &brush, 2, 3), ::FrameRgn(h, region, brush, 2, 3));
+    SAME(InvertRgn(&region), ::InvertRgn(h, region));
+    SAME(PaintRgn(&region), ::PaintRgn(h, region));
+    SAME(Arc(box, from, to), ::Arc(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    SAME(Chord(box, from, to), ::Chord(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    SAME(Pie(box, from, to), ::Pie(h, 3, 4, 30, 28, 30, 5, 2, 27));
+    SAME(Rectangle(box), ::Rectangle(h, 3, 4, 30, 28));
+    SAME(RoundRect(box, CPoint(9, 16)), ::RoundRect(h, 3, 4, 30, 28, 9, 16));
+    SAME(PolyPolyline(points, lines, 2), ::PolyPolyline(h, points, lines, 2));
+    SAME(PolyPolygon(points, counts, 2), ::PolyPolygon(h, points, counts, 2));
+    SAME(FillRect(box, &brush), void(::FillRect(h, box, brush)));
+    SAME(FrameRect(box, &brush), void(::FrameRect(h, box, brush)));
     TRIVERTEX corners[] = {{2, 3, 0xFF00, 0, 0, 0}, {30, 20, 0, 0, 0xFF00, 0}};
     GRADIENT_RECT area = {0, 1};
-    EXPECT_SAME(GradientFill(corners, 2, &area, 1, 1), ::GradientFill(h, corners, 2, &area, 1, 1));
+    SAME(GradientFill(corners, 2, &area, 1, 1), ::GradientFill(h, corners, 2, &area, 1, 1));
     CRect button(box);
-    EXPECT_SAME(DrawFrameControl(button, DFC_BUTTON, 16), ::DrawFrameControl(h, button, DFC_BUTTON, 16));
-    EXPECT_SAME(PatBlt(3, 4, 9, 7, PATCOPY), ::PatBlt(h, 3, 4, 9, 7, PATCOPY));
-    EXPECT_SAME(ExtFloodFill(3, 4, BACK, 1), ::ExtFloodFill(h, 3, 4, BACK, 1));
-    EXPECT_SAME(Rectangle(box) && dc.ScrollDC(5, 7, box, whole, nullptr, nullptr),
-                ::Rectangle(h, 3, 4, 30, 28) && ::ScrollDC(h, 5, 7, box, whole, nullptr, nullptr));
+    SAME(DrawFrameControl(button, DFC_BUTTON, 16), ::DrawFrameControl(h, button, DFC_BUTTON, 16));
+    SAME(PatBlt(3, 4, 9, 7, PATCOPY), ::PatBlt(h, 3, 4, 9, 7, PATCOPY));
+    SAME(ExtFloodFill(3, 4, BACK, 1), ::ExtFloodFill(h, 3, 4, BACK, 1));
+    SAME(Rectangle(box) && dc.ScrollDC(5, 7, box, whole, nullptr, nullptr),
+         ::Rectangle(h, 3, 4, 30, 28) && ::ScrollDC(h, 5, 7, box, whole, nullptr, nullptr));
 
     Canvas source(12);
     CDC* const s = &source.dc();
@@ -134,16 +134,15 @@ TEST_F(DrawingTest, ShapesAndBitmapsAreTheSystems)
     mask.CreateBitmap(8, 8, 1, 1, stripes);
     const BLENDFUNCTION half = {AC_SRC_OVER, 0, 100, 0};
     constexpr DWORD masked = MAKEROP4(SRCCOPY, BLACKNESS);
-    EXPECT_SAME(BitBlt(3, 4, 9, 7, s, 5, 6, SRCCOPY), ::BitBlt(h, 3, 4, 9, 7, *s, 5, 6, SRCCOPY));
-    EXPECT_SAME(StretchBlt(3, 4, 19, 27, s, 5, 6, 9, 8, SRCCOPY),
-                ::StretchBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, SRCCOPY));
-    EXPECT_SAME(MaskBlt(3, 4, 6, 5, s, 5, 6, mask, 1, 2, masked),
-                ::MaskBlt(h, 3, 4, 6, 5, *s, 5, 6, mask, 1, 2, masked));
-    EXPECT_SAME(PlgBlt(points, s, 5, 6, 7, 4, mask, 1, 2), ::PlgBlt(h, points, *s, 5, 6, 7, 4, mask, 1, 2));
-    EXPECT_SAME(TransparentBlt(3, 4, 19, 27, s, 5, 6, 9, 8, RED),
-                ::TransparentBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, RED));
-    EXPECT_SAME(AlphaBlend(3, 4, 19, 27, s, 5, 6, 9, 8, half),
-                ::AlphaBlend(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, half));
+    SAME(BitBlt(3, 4, 9, 7, s, 5, 6, SRCCOPY), ::BitBlt(h, 3, 4, 9, 7, *s, 5, 6, SRCCOPY));
+    SAME(StretchBlt(3, 4, 19, 27, s, 5, 6, 9, 8, SRCCOPY),
+         ::StretchBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, SRCCOPY));
+    SAME(MaskBlt(3, 4, 6, 5, s, 5, 6, mask, 1, 2, masked),
+         ::MaskBlt(h, 3, 4, 6, 5, *s, 5, 6, mask, 1, 2, masked));
+    SAME(PlgBlt(points, s, 5, 6, 7, 4, mask, 1, 2), ::PlgBlt(h, points, *s, 5, 6, 7, 4, mask, 1, 2));
+    SAME(TransparentBlt(3, 4, 19, 27, s, 5, 6, 9, 8, RED),
+         ::TransparentBlt(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, RED));
+    SAME(AlphaBlend(3, 4, 19, 27, s, 5, 6, 9, 8, half), ::AlphaBlend(h, 3, 4, 19, 27, *s, 5, 6, 9, 8, half));
 }
 
 TEST_F(DrawingTest, StatesAreOfTheKindOfTheCallWhateverTheFlagsSay)
@@ -155,14 +154,13 @@ TEST_F(DrawingTest, StatesAreOfTheKindOfTheCallWhateverTheFlagsSay)
     const HICON icon = ::LoadIcon(nullptr, IDI_WARNING);
     const auto state = [&](UINT flags, auto data, WPARAM extra = 0, DRAWSTATEPROC procedure = nullptr)
     { return ::DrawState(h, brush, procedure, LPARAM(data), extra, 5, 6, 8, 9, flags); };
-    EXPECT_SAME(DrawState(at, size, &picture, DSS_MONO | DST_TEXT, &brush),
-                state(DSS_MONO | DST_BITMAP, picture.m_hObject));
-    EXPECT_SAME(DrawState(at, size, icon, DST_TEXT, &brush), state(DST_ICON, icon));
-    EXPECT_SAME(DrawState(at, size, L"a&bc", DSS_MONO, TRUE, 3, &brush),
-                state(DSS_MONO | DST_PREFIXTEXT, L"a&bc", 3));
-    EXPECT_SAME(DrawState(at, size, L"a&bc", DSS_MONO, FALSE, 3, &brush),
-                state(DSS_MONO | DST_TEXT, L"a&bc", 3));
-    EXPECT_SAME(DrawState(at, size, DrawLine, 3, DSS_MONO, &brush), state(DSS_MONO, 3, 0, DrawLine));
+    SAME(DrawState(at, size, &picture, DSS_MONO | DST_TEXT, &brush),
+         state(DSS_MONO | DST_BITMAP, picture.m_hObject));
+    SAME(DrawState(at, size, icon, DST_TEXT, &brush), state(DST_ICON, icon));
+    SAME(DrawState(at, size, L"a&bc", DSS_MONO, TRUE, 3, &brush),
+         state(DSS_MONO | DST_PREFIXTEXT, L"a&bc", 3));
+    SAME(DrawState(at, size, L"a&bc", DSS_MONO, FALSE, 3, &brush), state(DSS_MONO | DST_TEXT, L"a&bc", 3));
+    SAME(DrawState(at, size, DrawLine, 3, DSS_MONO, &brush), state(DSS_MONO, 3, 0, DrawLine));
 }
 
 TEST_F(DrawingTest, TextsAreTheSystemsAndMeasuredByTheAttributesUnlessSaid)
@@ -171,16 +169,15 @@ TEST_F(DrawingTest, TextsAreTheSystemsAndMeasuredByTheAttributesUnlessSaid)
     INT stops[] = {30};
     CRect box(3, 4, 30, 28);
     const auto letters = const_cast<LPTSTR>(text.GetString());
-    EXPECT_SAME(TextOut(3, 4, text, 1), ::TextOut(h, 3, 4, text, 1));
-    EXPECT_SAME(ExtTextOut(3, 4, ETO_CLIPPED, box, text, nullptr),
-                ::ExtTextOut(h, 3, 4, ETO_CLIPPED, box, text, 5, nullptr));
-    EXPECT_SAME(TabbedTextOut(3, 4, text, 1, stops, 9),
-                CSize(DWORD(::TabbedTextOut(h, 3, 4, text, 5, 1, stops, 9))));
-    EXPECT_SAME(DrawText(text, box, DT_CENTER), ::DrawText(h, text, 5, box, DT_CENTER));
-    EXPECT_SAME(DrawTextEx(text, box, DT_RIGHT, nullptr),
-                ::DrawTextEx(h, letters, 5, box, DT_RIGHT, nullptr));
-    EXPECT_SAME(GrayString(&brush, DrawLetters, 1, 2, 3, 4, 30, 20),
-                ::GrayString(h, brush, DrawLetters, 1, 2, 3, 4, 30, 20));
+    SAME(TextOut(3, 4, text, 1), ::TextOut(h, 3, 4, text, 1));
+    SAME(ExtTextOut(3, 4, ETO_CLIPPED, box, text, nullptr),
+         ::ExtTextOut(h, 3, 4, ETO_CLIPPED, box, text, 5, nullptr));
+    SAME(TabbedTextOut(3, 4, text, 1, stops, 9),
+         CSize(DWORD(::TabbedTextOut(h, 3, 4, text, 5, 1, stops, 9))));
+    SAME(DrawText(text, box, DT_CENTER), ::DrawText(h, text, 5, box, DT_CENTER));
+    SAME(DrawTextEx(text, box, DT_RIGHT, nullptr), ::DrawTextEx(h, letters, 5, box, DT_RIGHT, nullptr));
+    SAME(GrayString(&brush, DrawLetters, 1, 2, 3, 4, 30, 20),
+         ::GrayString(h, brush, DrawLetters, 1, 2, 3, 4, 30, 20));
 
     const auto extent = [&](HDC from, int count)
     {
@@ -205,25 +202,24 @@ TEST_F(DrawingTest, TextsAreTheSystemsAndMeasuredByTheAttributesUnlessSaid)
     const auto metrics = reinterpret_cast<GLYPHMETRICS*>(out);
     WORD glyphs[] = {40, 50};
     const MAT2 identity = {{0, 1}, {}, {}, {0, 1}};
-    EXPECT_SAME(GetCharWidth('A', 'C', ints), ::GetCharWidth32(a, 'A', 'C', ints));
-    EXPECT_SAME(GetOutputCharWidth('A', 'C', ints), ::GetCharWidth32(h, 'A', 'C', ints));
-    EXPECT_SAME(GetCharABCWidths('A', 'C', abc), ::GetCharABCWidths(a, 'A', 'C', abc));
-    EXPECT_SAME(GetCharABCWidths('A', 'C', reinterpret_cast<ABCFLOAT*>(out)),
-                ::GetCharABCWidthsFloat(a, 'A', 'C', reinterpret_cast<ABCFLOAT*>(out)));
-    EXPECT_SAME(GetCharWidthI(40, 2, glyphs, ints), ::GetCharWidthI(a, 40, 2, glyphs, ints));
-    EXPECT_SAME(GetCharABCWidthsI(40, 2, glyphs, abc), ::GetCharABCWidthsI(a, 40, 2, glyphs, abc));
-    EXPECT_SAME(GetTextExtentPointI(glyphs, 2, size), ::GetTextExtentPointI(a, glyphs, 2, size));
-    EXPECT_SAME(GetTextExtentExPointI(glyphs, 2, 90, ints, ints + 1, size + 2),
-                ::GetTextExtentExPointI(a, glyphs, 2, 90, ints, ints + 1, size + 2));
-    EXPECT_SAME(GetFontData(0, 4, bytes, 99), ::GetFontData(a, 0, 4, bytes, 99));
-    EXPECT_SAME(GetKerningPairs(9, reinterpret_cast<KERNINGPAIR*>(out)),
-                ::GetKerningPairs(a, 9, reinterpret_cast<KERNINGPAIR*>(out)));
-    EXPECT_SAME(GetOutlineTextMetrics(400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)),
-                ::GetOutlineTextMetrics(a, 400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)));
-    EXPECT_SAME(GetGlyphOutline('A', GGO_BITMAP, metrics, 400, bytes + 40, &identity),
-                ::GetGlyphOutline(a, 'A', GGO_BITMAP, metrics, 400, bytes + 40, &identity));
-    EXPECT_SAME(GetTextFace(20, reinterpret_cast<LPTSTR>(out)),
-                ::GetTextFace(a, 20, reinterpret_cast<LPTSTR>(out)));
+    SAME(GetCharWidth('A', 'C', ints), ::GetCharWidth32(a, 'A', 'C', ints));
+    SAME(GetOutputCharWidth('A', 'C', ints), ::GetCharWidth32(h, 'A', 'C', ints));
+    SAME(GetCharABCWidths('A', 'C', abc), ::GetCharABCWidths(a, 'A', 'C', abc));
+    SAME(GetCharABCWidths('A', 'C', reinterpret_cast<ABCFLOAT*>(out)),
+         ::GetCharABCWidthsFloat(a, 'A', 'C', reinterpret_cast<ABCFLOAT*>(out)));
+    SAME(GetCharWidthI(40, 2, glyphs, ints), ::GetCharWidthI(a, 40, 2, glyphs, ints));
+    SAME(GetCharABCWidthsI(40, 2, glyphs, abc), ::GetCharABCWidthsI(a, 40, 2, glyphs, abc));
+    SAME(GetTextExtentPointI(glyphs, 2, size), ::GetTextExtentPointI(a, glyphs, 2, size));
+    SAME(GetTextExtentExPointI(glyphs, 2, 90, ints, ints + 1, size + 2),
+         ::GetTextExtentExPointI(a, glyphs, 2, 90, ints, ints + 1, size + 2));
+    SAME(GetFontData(0, 4, bytes, 99), ::GetFontData(a, 0, 4, bytes, 99));
+    SAME(GetKerningPairs(9, reinterpret_cast<KERNINGPAIR*>(out)),
+         ::GetKerningPairs(a, 9, reinterpret_cast<KERNINGPAIR*>(out)));
+    SAME(GetOutlineTextMetrics(400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)),
+         ::GetOutlineTextMetrics(a, 400, reinterpret_cast<OUTLINETEXTMETRIC*>(out)));
+    SAME(GetGlyphOutline('A', GGO_BITMAP, metrics, 400, bytes + 40, &identity),
+         ::GetGlyphOutline(a, 'A', GGO_BITMAP, metrics, 400, bytes + 40, &identity));
+    SAME(GetTextFace(20, reinterpret_cast<LPTSTR>(out)), ::GetTextFace(a, 20, reinterpret_cast<LPTSTR>(out)));
     CString face;
     EXPECT_EQ(dc.GetTextFace(face), 16);
     EXPECT_EQ(face, L"Liberation Sans");

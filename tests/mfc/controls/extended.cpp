@@ -7,6 +7,8 @@
 #include "Input.h"
 #include "Picture.h"
 
+#include "../base/Told.h"
+
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -114,10 +116,8 @@ TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
     EXPECT_EQ(list.GetItemData(1), 0u);
     EXPECT_EQ(list.GetItemData(7), static_cast<DWORD_PTR>(LB_ERR));
     list.SetItemData(1, 55);
-    EXPECT_EQ(list.GetItemData(1), 55u);
     list.DeleteString(0);
-    EXPECT_EQ(list.GetCheck(0), 1) << "the check goes with its item";
-    EXPECT_EQ(list.GetItemData(0), 55u);
+    EXPECT_EQ(Told(list.GetCheck(0), list.GetItemData(0)), "1,55") << "both go with their item";
     EXPECT_GE(list.GetItemHeight(0), ::GetSystemMetrics(SM_CYMENUCHECK) + 1);
     list.SetItemHeight(0, 1);
     EXPECT_EQ(list.GetItemHeight(0), list.CalcMinimumItemHeight());
@@ -129,6 +129,42 @@ TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
     EXPECT_EQ(list.CheckFromPoint(CPoint(5, 149), inCheck), -1); // below the items
     EXPECT_FALSE(inCheck);
     list.SetFont(nullptr);
+}
+
+/// Numbers as items, sorted downwards, as high as they are large.
+struct NumberList : CCheckListBox
+{
+    std::string log;
+
+    void DrawItem(LPDRAWITEMSTRUCT item) override { log += 'd' + std::to_string(item->itemData) + ' '; }
+    void MeasureItem(LPMEASUREITEMSTRUCT item) override { item->itemHeight = UINT(item->itemData); }
+    int CompareItem(LPCOMPAREITEMSTRUCT items) override
+    {
+        return int(items->itemData2) - int(items->itemData1);
+    }
+    void DeleteItem(LPDELETEITEMSTRUCT item) override { log += 'x' + std::to_string(item->itemData) + ' '; }
+};
+
+TEST_F(CheckList, WithoutTextsMeasuresSortsFindsDrawsAndDeletesItsItemsByTheirData)
+{
+    NumberList numbers;
+    ASSERT_TRUE(numbers.Create(CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 1));
+    const auto text = [](INT_PTR number) { return reinterpret_cast<LPCTSTR>(number); };
+    for (const int item : {20, 30, 25})
+        numbers.AddString(text(item));
+    INT_PTR read = 0;
+    EXPECT_EQ(numbers.GetText(1, reinterpret_cast<LPTSTR>(&read)), int(sizeof read));
+    EXPECT_EQ(numbers.SelectString(-1, text(20)), 2);
+    EXPECT_EQ(Told(numbers.GetItemData(0), read, numbers.GetItemData(2), numbers.GetItemHeight(0),
+                   numbers.GetItemHeight(1), numbers.FindStringExact(-1, text(25)),
+                   numbers.FindString(1, text(30)), numbers.FindString(-1, text(31)), numbers.GetCurSel(),
+                   numbers.SelectString(-1, text(11)), numbers.VKeyToItem('A', 0),
+                   numbers.CharToItem('a', 0)),
+              "30,25,20,30,25,1,0,-1,2,-1,-1,-1");
+    numbers.UpdateWindow();
+    numbers.DeleteString(1);
+    for (const char* logged : {"d20 ", "d25 ", "d30 ", "x25 "})
+        EXPECT_NE(numbers.log.find(logged), std::string::npos) << logged;
 }
 
 TEST_F(CheckList, DrawsBoxTextAndSelection)

@@ -5,6 +5,8 @@
 #include "Handles.h"
 #include "Picture.h"
 
+#include "../base/Told.h"
+
 #include <source_location>
 #include <tuple>
 #include <utility>
@@ -30,7 +32,7 @@ TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
     EXPECT_EQ(dc.GetCurrentFont(), &font);
     EXPECT_EQ(dc.SelectStockObject(SYSTEM_FONT), &font);
     EXPECT_EQ(dc.GetCurrentBitmap()->m_hObject, ::GetCurrentObject(dc, OBJ_BITMAP));
-    EXPECT_EQ(dc.SetBrushOrg(3, 4), CPoint(0, 0));
+    dc.SetBrushOrg(3, 4);
     EXPECT_EQ(dc.SetBrushOrg(5, 6), CPoint(3, 4));
     EXPECT_EQ(dc.GetBrushOrg(), CPoint(5, 6));
 
@@ -76,7 +78,7 @@ TEST(GdiObject, IsWhatItWasCreatedAs)
 
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&surface.dc(), 9, 5));
-    EXPECT_EQ(bitmap.SetBitmapDimension(3, 4), CSize(0, 0));
+    bitmap.SetBitmapDimension(3, 4);
     EXPECT_EQ(bitmap.SetBitmapDimension(5, 6), CSize(3, 4));
     EXPECT_EQ(bitmap.GetBitmapDimension(), CSize(5, 6));
     EXPECT_EQ(bitmap.GetBitmapBits(sizeof data, data), 9u * 5 * 4);
@@ -230,10 +232,8 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
     changes(dc.ScaleViewportExt(2, 1, 3, 1), CSize(8, 9));
     changes(dc.SetWindowExt(8, 9), CSize(30, 40));
     changes(dc.ScaleWindowExt(2, 1, 3, 1), CSize(8, 9));
-    EXPECT_EQ(dc.GetViewportOrg(), CPoint(10, 12));
-    EXPECT_EQ(dc.GetWindowOrg(), CPoint(10, 12));
-    EXPECT_EQ(dc.GetViewportExt(), CSize(16, 27));
-    EXPECT_EQ(dc.GetWindowExt(), CSize(16, 27));
+    EXPECT_EQ(Told(dc.GetViewportOrg(), dc.GetWindowOrg(), dc.GetViewportExt(), dc.GetWindowExt()),
+              "10 12,10 12,16 27,16 27");
     changes(dc.RestoreDC(saved), TRUE);
     changes(dc.SetBkColor(1), RGB(255, 0, 255));
     changes(dc.SetBkMode(TRANSPARENT), OPAQUE);
@@ -351,15 +351,14 @@ TEST(Menu, ItemsAreFoundByTheirIdOrPlaceAndBringTheirStates)
     TCHAR text[8] = {};
     CString string(L"left over");
     EXPECT_EQ(menu.GetMenuString(2, text, 8, MF_BYCOMMAND), 3);
-    EXPECT_STREQ(text, L"two");
     EXPECT_EQ(menu.GetMenuString(2, string, MF_BYCOMMAND), 3);
-    EXPECT_EQ(string, L"two");
+    EXPECT_EQ(Told(text, string), "two,two");
     EXPECT_EQ(menu.GetMenuString(8, string, MF_BYCOMMAND), 0);
     EXPECT_TRUE(string.IsEmpty());
 
-    EXPECT_EQ(menu.CheckMenuItem(1, MF_CHECKED), UINT{MF_UNCHECKED});
+    menu.CheckMenuItem(1, MF_CHECKED);
     EXPECT_EQ(menu.CheckMenuItem(1, MF_UNCHECKED), UINT{MF_CHECKED});
-    EXPECT_EQ(menu.EnableMenuItem(1, MF_GRAYED), UINT{MF_ENABLED});
+    menu.EnableMenuItem(1, MF_GRAYED);
     EXPECT_EQ(menu.EnableMenuItem(1, MF_ENABLED), UINT{MF_GRAYED});
     EXPECT_TRUE(menu.CheckMenuRadioItem(1, 2, 2, MF_BYCOMMAND));
     EXPECT_EQ(menu.GetMenuState(2, MF_BYCOMMAND), UINT{MF_CHECKED | MF_USECHECKBITMAPS});
@@ -373,11 +372,10 @@ TEST(Menu, ItemsAreFoundByTheirIdOrPlaceAndBringTheirStates)
 TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)
 {
     const CRect rect(10, 20, 30, 50);
-    EXPECT_EQ(rect + CPoint(1, 2), CRect(11, 22, 31, 52));
-    EXPECT_EQ(rect + CRect(1, 2, 3, 4), CRect(9, 18, 33, 54));
-    EXPECT_EQ(rect - CRect(1, 2, 3, 4), CRect(11, 22, 27, 46));
-    EXPECT_EQ(rect & CRect(0, 0, 15, 100), CRect(10, 20, 15, 50));
-    EXPECT_EQ(rect | CRect(0, 0, 5, 5), CRect(0, 0, 30, 50));
+    const CRect by(1, 2, 3, 4);
+    EXPECT_EQ(Told(rect + CPoint(1, 2), rect + by, rect - by, rect & CRect(0, 0, 15, 100),
+                   rect | CRect(0, 0, 5, 5)),
+              "11 22 31 52,9 18 33 54,11 22 27 46,10 20 15 50,0 0 30 50");
     CRect same(rect);
     const CRect& itself = same;
     same &= itself;
@@ -387,6 +385,5 @@ TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)
         turned.NormalizeRect();
         EXPECT_EQ(turned, rect) << "only edges that stand the wrong way round";
     }
-    EXPECT_EQ(CPoint(static_cast<LPARAM>(MAKELONG(-3, 7))), CPoint(-3, 7)) << "packed, with their signs";
-    EXPECT_EQ(CSize(static_cast<DWORD>(MAKELONG(5, -9))), CSize(5, -9));
+    EXPECT_EQ(Told(CPoint(LPARAM(MAKELONG(-3, 7))), CSize(DWORD(MAKELONG(5, -9)))), "-3 7,5 -9");
 }

@@ -2,6 +2,8 @@
 
 #include "HostWindow.h"
 
+#include "../base/Told.h"
+
 #include <afxdtctl.h>
 
 #include <array>
@@ -39,10 +41,6 @@ auto Members(const TCITEM& s)
 {
     return std::tuple(s.mask, s.dwState, s.dwStateMask, s.pszText, s.cchTextMax, s.iImage, s.lParam);
 }
-auto Members(const EDITBALLOONTIP& s)
-{
-    return std::tuple(s.cbStruct, s.pszTitle, s.pszText, s.ttiIcon);
-}
 template <class Structure>
 auto Members(const Structure& s)
 {
@@ -51,6 +49,7 @@ auto Members(const Structure& s)
 }
 
 constexpr LPARAM kAnswer = MAKELONG(42, 7);
+constexpr LPARAM kNone = kAnswer; // what a call without an answer is said to have answered
 LPARAM answerNext = kAnswer;
 std::string replyNext;         // what the control puts where the second parameter points
 MSG last;                      // the message that arrived last,
@@ -177,25 +176,21 @@ TEST(Messages, OfTheClassicControls)
     Sent(combo.SelectString(3, text), CB_SELECTSTRING, 3, text);
 
     Recorded<CEdit> edit;
-    edit.SetMargins(3, 4);
-    Arrived(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, pointPacked);
+    Sent((edit.SetMargins(3, 4), kNone), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, pointPacked);
     WORD line[20] = {};
     Sent(edit.GetLine(1, reinterpret_cast<LPTSTR>(line), 19), EM_GETLINE, 1, line);
     EXPECT_EQ(line[0], 19) << "where the message looks for the size";
-    edit.ReplaceSel(text, TRUE);
-    Arrived(EM_REPLACESEL, TRUE, text);
-    edit.SetSel(DWORD(MAKELONG(3, -1)), TRUE);
-    Arrived(EM_SETSEL, 3, -1);
-    edit.SetSel(DWORD(MAKELONG(-1, 4)), TRUE);
-    Arrived(EM_SETSEL, -1, 4);
-    edit.SetSel(3, 4);
-    Arrived(EM_SCROLLCARET);
+    Sent((edit.ReplaceSel(text, TRUE), kNone), EM_REPLACESEL, TRUE, text);
+    Sent((edit.SetSel(DWORD(MAKELONG(3, -1)), TRUE), kNone), EM_SETSEL, 3, -1);
+    Sent((edit.SetSel(DWORD(MAKELONG(-1, 4)), TRUE), kNone), EM_SETSEL, -1, 4);
+    Sent((edit.SetSel(3, 4), kNone), EM_SCROLLCARET);
     Sent(edit.SetTabStops(2, numbers), EM_SETTABSTOPS, 2, numbers);
     Sent(edit.GetCueBanner(text, 9), EM_GETCUEBANNER, text, 9);
-    const EDITBALLOONTIP tip = {sizeof(EDITBALLOONTIP), L"title", text, TTI_ERROR};
-    Sent(edit.ShowBalloonTip(tip.pszTitle, text, TTI_ERROR), EM_SHOWBALLOONTIP, 0, tip);
-    edit.Paste();
-    Arrived(WM_PASTE);
+    EXPECT_TRUE(edit.ShowBalloonTip(L"title", text, TTI_ERROR));
+    const auto& tip = *reinterpret_cast<const EDITBALLOONTIP*>(pointedTo);
+    EXPECT_EQ(Told(last.message, tip.cbStruct, tip.pszTitle, tip.pszText, tip.ttiIcon),
+              Told(EM_SHOWBALLOONTIP, sizeof tip, L"title", text, TTI_ERROR));
+    Sent((edit.Paste(), kNone), WM_PASTE);
 }
 
 TEST(Messages, OfTheCommonControls)
@@ -207,25 +202,19 @@ TEST(Messages, OfTheCommonControls)
     answerNext = MAKELONG(-5, -7);
     spin.GetRange(one, other);
     EXPECT_EQ(one * 10 + other, -75) << "the lower bound is the high word";
-    spin.GetRange32(one, other);
-    Arrived(UDM_GETRANGE32, &one, &other);
+    Sent((spin.GetRange32(one, other), kNone), UDM_GETRANGE32, &one, &other);
 
     Recorded<CSliderCtrl> slider;
     slider.GetRange(one, other);
     EXPECT_TRUE(one == kAnswer && other == kAnswer);
-    slider.SetRange(3, 4, TRUE);
-    Arrived(TBM_SETRANGEMAX, TRUE, 4);
-    slider.SetSelection(3, 4);
-    Arrived(TBM_SETSELEND, FALSE, 4);
+    Sent((slider.SetRange(3, 4, TRUE), kNone), TBM_SETRANGEMAX, TRUE, 4);
+    Sent((slider.SetSelection(3, 4), kNone), TBM_SETSELEND, FALSE, 4);
     Sent(slider.SetBuddy(&window, FALSE), TBM_SETBUDDY, FALSE, &window);
     Sent(slider.GetBuddy(TRUE), TBM_GETBUDDY, TRUE);
     Sent(slider.GetToolTips(), TBM_GETTOOLTIPS);
-    slider.SetToolTips(nullptr);
-    Arrived(TBM_SETTOOLTIPS);
-    slider.VerifyPos();
-    Arrived(TBM_SETPOS, FALSE, kAnswer);
-    slider.ClearTics(TRUE);
-    Arrived(TBM_CLEARTICS, TRUE);
+    Sent((slider.SetToolTips(nullptr), kNone), TBM_SETTOOLTIPS);
+    Sent((slider.VerifyPos(), kNone), TBM_SETPOS, FALSE, kAnswer);
+    Sent((slider.ClearTics(TRUE), kNone), TBM_CLEARTICS, TRUE);
     Recorded<CProgressCtrl> progress;
     Reply(PBRANGE{-7, 70000});
     progress.GetRange(one, other);
@@ -289,15 +278,13 @@ TEST(Messages, OfTheCommonControls)
     Sent(tools.SetHotImageList(&images), TB_SETHOTIMAGELIST, 0, 0x55);
     Sent(tools.GetDisabledImageList(), TB_GETDISABLEDIMAGELIST);
     Sent(tools.GetToolTips(), TB_GETTOOLTIPS);
-    tools.SetToolTips(nullptr);
-    Arrived(TB_SETTOOLTIPS);
-    tools.SetOwner(&window);
-    Arrived(TB_SETPARENT, &window);
+    Sent((tools.SetToolTips(nullptr), kNone), TB_SETTOOLTIPS);
+    Sent((tools.SetOwner(&window), kNone), TB_SETPARENT, &window);
     EXPECT_EQ(tools.GetOwner(), &window);
-    tools.SaveState(HKEY_CURRENT_USER, text, L"value");
-    Arrived(TB_SAVERESTORE, TRUE, TBSAVEPARAMS{HKEY_CURRENT_USER, text, L"value"});
-    tools.RestoreState(HKEY_CURRENT_USER, text, nullptr);
-    Arrived(TB_SAVERESTORE, FALSE, TBSAVEPARAMS{HKEY_CURRENT_USER, text});
+    Sent((tools.SaveState(HKEY_CURRENT_USER, text, L"value"), kNone), TB_SAVERESTORE, TRUE,
+         TBSAVEPARAMS{HKEY_CURRENT_USER, text, L"value"});
+    Sent((tools.RestoreState(HKEY_CURRENT_USER, text, nullptr), kNone), TB_SAVERESTORE, FALSE,
+         TBSAVEPARAMS{HKEY_CURRENT_USER, text});
     IDropTarget* target = nullptr;
     EXPECT_EQ(tools.GetDropTarget(&target), kAnswer);
     Arrived(TB_GETOBJECT, last.wParam, &target);
@@ -314,19 +301,15 @@ TEST(Messages, OfToolTips)
     TOOLINFO corner = {TTTOOLINFO_V1_SIZE, 0, window, 5, {1, 2, 3, 4}, nullptr, text};
     Sent(tip.AddTool(&button, text), TTM_ADDTOOL, 0, whole);
     Sent(tip.AddTool(&window, text, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
-    tip.UpdateTipText(text, &button);
-    Arrived(TTM_UPDATETIPTEXT, 0, whole);
+    Sent((tip.UpdateTipText(text, &button), kNone), TTM_UPDATETIPTEXT, 0, whole);
     whole.lpszText = corner.lpszText = nullptr;
-    tip.SetToolRect(&window, 5, &corner.rect);
-    Arrived(TTM_NEWTOOLRECT, 0, corner);
-    tip.DelTool(&button);
-    Arrived(TTM_DELTOOL, 0, whole);
+    Sent((tip.SetToolRect(&window, 5, &corner.rect), kNone), TTM_NEWTOOLRECT, 0, corner);
+    Sent((tip.DelTool(&button), kNone), TTM_DELTOOL, 0, whole);
     corner.hinst = AfxGetInstanceHandle();
     corner.lpszText = MAKEINTRESOURCE(7);
     Sent(tip.AddTool(&window, 7u, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
     Sent(tip.GetCurrentTool(&corner), TTM_GETCURRENTTOOL, 0, &corner);
-    tip.SetDelayTime(TTDT_INITIAL, 500);
-    Arrived(TTM_SETDELAYTIME, TTDT_INITIAL, 500);
+    Sent((tip.SetDelayTime(TTDT_INITIAL, 500), kNone), TTM_SETDELAYTIME, TTDT_INITIAL, 500);
     Sent(tip.GetBubbleSize(&corner), TTM_GETBUBBLESIZE, 0, &corner);
     TOOLINFO hit = {};
     answerNext = FALSE;
@@ -476,20 +459,75 @@ TEST(Messages, OfTreeControls)
 
 TEST(Messages, OfCalendarsAndPickers)
 {
-    SYSTEMTIME time;
-    MONTHDAYSTATE days[3];
+    SYSTEMTIME parts = {2024, 2, 4, 29}, later = {2024, 3, 0, 10}, noon = parts;
+    noon.wHour = 12;
+    const CTime day(parts), lastDay(later);
+    const std::array days = {parts, later}, noons = {noon, later}, fromDay = {parts, SYSTEMTIME()};
+    CTime low, high;
+    SYSTEMTIME lowParts, highParts;
+    const auto hasRange = [&](auto& control, UINT get, UINT set)
+    {
+        Reply(days, GDTR_MIN | GDTR_MAX);
+        EXPECT_EQ(control.GetRange(&low, &high), DWORD{GDTR_MIN | GDTR_MAX});
+        EXPECT_TRUE(low == day && high == lastDay);
+        Reply(days, GDTR_MIN);
+        EXPECT_EQ(control.GetRange(&high, &low), DWORD{GDTR_MIN});
+        EXPECT_TRUE(low == day && high == day) << "an open side is left alone";
+        Reply(days, GDTR_MIN | GDTR_MAX);
+        control.GetRange(&lowParts, &highParts);
+        EXPECT_TRUE(CTime(lowParts) == day && CTime(highParts) == lastDay);
+        Reply(days, GDTR_MAX);
+        control.GetRange(&low, static_cast<CTime*>(nullptr));
+        Arrived(get, 0, std::array<SYSTEMTIME, 2>());
+        Sent(control.SetRange(&day, &lastDay), set, GDTR_MIN | GDTR_MAX, days);
+        Sent(control.SetRange(&day, nullptr), set, GDTR_MIN, fromDay);
+        Sent(control.SetRange(&parts, &later), set, GDTR_MIN | GDTR_MAX, days);
+    };
     Recorded<CMonthCalCtrl> calendar;
+    hasRange(calendar, MCM_GETRANGE, MCM_SETRANGE);
     BOOL isOwn = FALSE;
     EXPECT_EQ(calendar.GetFirstDayOfWeek(&isOwn) * 10 + isOwn, 427);
-    EXPECT_EQ(calendar.SetFirstDayOfWeek(3, &one) + one, 7 + 42);
+    EXPECT_EQ(calendar.SetFirstDayOfWeek(3, &one) * 100 + one, 742);
     Arrived(MCM_SETFIRSTDAYOFWEEK, 0, 3);
-    Sent(calendar.SetDayState(3, days), MCM_SETDAYSTATE, 3, days);
-    Sent(calendar.GetCurSel(&time), MCM_GETCURSEL, 0, &time);
+    MONTHDAYSTATE bold[3];
+    Sent(calendar.SetDayState(3, bold), MCM_SETDAYSTATE, 3, bold);
+    Sent(calendar.GetCurSel(&parts), MCM_GETCURSEL, 0, &parts);
+    Sent(calendar.SetCurSel(day), MCM_SETCURSEL, 0, parts);
+    Sent((calendar.SetToday(day), kNone), MCM_SETTODAY, 0, parts);
+    Sent(calendar.SetSelRange(day, lastDay), MCM_SETSELRANGE, 0, days);
+    for (const bool today : {false, true})
+    {
+        const auto get = [&] { return today ? calendar.GetToday(low) : calendar.GetCurSel(low); };
+        Reply(noon);
+        EXPECT_EQ(get(), kAnswer);
+        EXPECT_EQ(last.message, UINT(today ? MCM_GETTODAY : MCM_GETCURSEL));
+        Reply(later, FALSE);
+        EXPECT_FALSE(get());
+        EXPECT_EQ(std::exchange(low, CTime()), day) << "at midnight, and left alone without an answer";
+    }
+    Reply(noons);
+    EXPECT_EQ(calendar.GetMonthRange(low, high, GMR_DAYSTATE), kAnswer);
+    Arrived(MCM_GETMONTHRANGE, GMR_DAYSTATE, std::array<SYSTEMTIME, 2>());
+    EXPECT_TRUE(low == day && high == lastDay);
+    Reply(noons, TRUE);
+    EXPECT_TRUE(calendar.GetSelRange(high, low) && high == day && low == lastDay);
+    Reply(noons, FALSE);
+    EXPECT_FALSE(calendar.GetSelRange(low, high));
+    Arrived(MCM_GETSELRANGE, 0, std::array<SYSTEMTIME, 2>());
+
     Recorded<CDateTimeCtrl> picker;
+    hasRange(picker, DTM_GETRANGE, DTM_SETRANGE);
     Sent(picker.SetMonthCalColor(3, 9), DTM_SETMCCOLOR, 3, 9);
     Sent(picker.GetMonthCalCtrl(), DTM_GETMONTHCAL);
-    Sent(picker.SetTime(&time), DTM_SETSYSTEMTIME, GDT_VALID, &time);
-    Sent(picker.SetTime(), DTM_SETSYSTEMTIME, GDT_NONE, SYSTEMTIME{});
+    Sent(picker.SetTime(&parts), DTM_SETSYSTEMTIME, GDT_VALID, &parts);
+    Sent(picker.SetTime(&day), DTM_SETSYSTEMTIME, GDT_VALID, parts);
+    Sent(picker.SetTime(), DTM_SETSYSTEMTIME, GDT_NONE, SYSTEMTIME());
+    Sent(picker.SetTime(static_cast<const CTime*>(nullptr)), DTM_SETSYSTEMTIME, GDT_NONE, SYSTEMTIME());
+    Reply(noon, GDT_VALID);
+    EXPECT_EQ(picker.GetTime(low), DWORD{GDT_VALID});
+    Reply(later, GDT_NONE);
+    EXPECT_EQ(picker.GetTime(low), DWORD{GDT_NONE});
+    EXPECT_EQ(low, CTime(noon));
 }
 
 namespace
