@@ -57,6 +57,11 @@ void CDataExchange::Fail()
 
 namespace
 {
+LRESULT Ask(HWND control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+{
+    return ::SendMessage(control, message, wParam, lParam);
+}
+
 CString TextOf(HWND control)
 {
     CString text;
@@ -214,19 +219,19 @@ void AFXAPI DDX_Check(CDataExchange* pDX, int nIDC, int& value)
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
     {
-        value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
+        value = static_cast<int>(Ask(control, BM_GETCHECK));
         return;
     }
     if (value < BST_UNCHECKED || value > BST_INDETERMINATE)
         value = BST_UNCHECKED;
-    ::SendMessage(control, BM_SETCHECK, value, 0);
+    Ask(control, BM_SETCHECK, value);
 }
 
 namespace
 {
 bool IsRadioButton(HWND window)
 {
-    return (::SendMessage(window, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON) != 0;
+    return (Ask(window, WM_GETDLGCODE) & DLGC_RADIOBUTTON) != 0;
 }
 
 /// The next window of the group, or null where the next group begins.
@@ -252,8 +257,8 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
         if (!IsRadioButton(button))
             continue;
         if (!pDX->m_bSaveAndValidate)
-            ::SendMessage(button, BM_SETCHECK, index == value ? BST_CHECKED : BST_UNCHECKED, 0);
-        else if (::SendMessage(button, BM_GETCHECK, 0, 0) != BST_UNCHECKED)
+            Ask(button, BM_SETCHECK, index == value ? BST_CHECKED : BST_UNCHECKED);
+        else if (Ask(button, BM_GETCHECK) != BST_UNCHECKED)
             value = index;
         ++index;
     }
@@ -268,11 +273,11 @@ namespace
 CString SelectedText(HWND list)
 {
     CString text;
-    const auto index = static_cast<int>(::SendMessage(list, LB_GETCURSEL, 0, 0));
-    const auto length = static_cast<int>(::SendMessage(list, LB_GETTEXTLEN, index, 0));
+    const auto index = static_cast<int>(Ask(list, LB_GETCURSEL));
+    const auto length = static_cast<int>(Ask(list, LB_GETTEXTLEN, index));
     if (index == LB_ERR || length == LB_ERR)
         return text;
-    ::SendMessage(list, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
+    Ask(list, LB_GETTEXT, index, reinterpret_cast<LPARAM>(text.GetBufferSetLength(length)));
     text.ReleaseBuffer();
     return text;
 }
@@ -280,9 +285,8 @@ CString SelectedText(HWND list)
 /// Looks for a text in the whole list by `findMessage` and selects what was found; false if nothing was.
 bool SelectText(HWND list, UINT findMessage, UINT selectMessage, LPCTSTR text)
 {
-    const LRESULT index =
-        ::SendMessage(list, findMessage, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
-    return index != LB_ERR && ::SendMessage(list, selectMessage, index, 0) != LB_ERR;
+    const LRESULT index = Ask(list, findMessage, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(text));
+    return index != LB_ERR && Ask(list, selectMessage, index) != LB_ERR;
 }
 
 void ExchangeListText(CDataExchange* pDX, int nIDC, CString& value, UINT findMessage)
@@ -307,9 +311,9 @@ void ExchangeIndex(CDataExchange* pDX, int nIDC, int& index, UINT getMessage, UI
 {
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
-        index = static_cast<int>(::SendMessage(control, getMessage, 0, 0));
+        index = static_cast<int>(Ask(control, getMessage));
     else
-        ::SendMessage(control, setMessage, index, 0);
+        Ask(control, setMessage, index);
 }
 } // namespace
 
@@ -359,9 +363,9 @@ void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value)
 {
     const HWND slider = pDX->PrepareCtrl(nIDC);
     if (pDX->m_bSaveAndValidate)
-        value = static_cast<int>(::SendMessage(slider, TBM_GETPOS, 0, 0));
+        value = static_cast<int>(Ask(slider, TBM_GETPOS));
     else
-        ::SendMessage(slider, TBM_SETPOS, TRUE, value);
+        Ask(slider, TBM_SETPOS, TRUE, value);
 }
 
 // ---------------------------------------------------------------------------------------------------------
