@@ -234,27 +234,14 @@ TEST(Array, ThrowingElementsLeaveTheArrayAndNoneIsForgotten)
     EXPECT_EQ(Counted::s_alive, 1);
 }
 
-TEST(Array, HoldsObjectsThatCanNotBeMoved)
-{
-    struct Cell : CObject
-    {
-        int m_value = 7;
-    };
-    CArray<Cell> cells;
-    cells.SetSize(2);
-    cells[1].m_value = 8;
-    cells.SetSize(100);
-    EXPECT_EQ(cells[99].m_value, 7);
-    cells.RemoveAt(0);
-    EXPECT_EQ(cells[0].m_value, 8);
-}
-
 TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
 {
     struct Cell : CObject
     {
         int m_value = 7;
-    } cells[4];
+    };
+    CArray<Cell> cells; // that can not be copied
+    cells.SetSize(4);
     CTypedPtrArray<CObArray, Cell*> row;
     row.Add(&cells[0]);
     row.SetAtGrow(2, &cells[2]);
@@ -290,6 +277,9 @@ TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
     CString key;
     map.GetNextAssoc(pos, key, found);
     EXPECT_TRUE(key == L"a" && found == &cells[0] && pos == nullptr);
+    cells.SetSize(100);
+    cells.RemoveAt(0);
+    EXPECT_EQ(cells[0].m_value * 10 + cells[98].m_value, 57);
 }
 
 TEST(List, IsADequeLinkedBothWays)

@@ -66,8 +66,9 @@ TEST(String, ConstructsFromEverySource)
 {
     EXPECT_EQ(CString().GetAllocLength(), 0) << "costs no memory";
     EXPECT_EQ(Told(CString(static_cast<LPCWSTR>(nullptr)), CString(L'x', 3), CString(L'x', 0)), ",xxx,");
-    EXPECT_EQ(Told(CString(L"abcdef", 3), CString("narrow"), CString("narrow", 3), CString('y', 2)),
-              "abc,narrow,nar,yy");
+    EXPECT_EQ(Told(CString(L"abcdef", 3), CString("narrow"), CString("narrow", 3), CString("x", 0),
+                   CString('y', 2)),
+              "abc,narrow,nar,,yy");
     EXPECT_STREQ(CStringA(L"wide"), "wide");
     EXPECT_EQ(CString(CString(L"a\0b", 3)).GetLength(), 3);
 
@@ -80,6 +81,10 @@ TEST(String, ConstructsFromEverySource)
     wide = narrow;
     wide += narrow;
     EXPECT_STREQ(wide, CString(umlaut[0], 2));
+    BSTR system = CString(L"before").AllocSysString();
+    EXPECT_EQ(wide.SetSysString(&system), system);
+    EXPECT_STREQ(system, wide);
+    ::SysFreeString(system);
 }
 
 TEST(String, LoadsStringsFromResourcesAndTheEnvironment)

@@ -6,8 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 namespace
 {
 constexpr LONG day = 24 * 3600;
@@ -82,18 +80,15 @@ TEST(Time, IsCountedWithSpansAndCompared)
 
 TEST(Time, ThatDoesNotExistIsRefusedOrAnswersNothing)
 {
-    for (const auto& t : {std::array{1899, 1, 1, 0, 0, 0},
-                          {2024, 0, 1, 0, 0, 0},
-                          {2024, 13, 1, 0, 0, 0},
-                          {2024, 1, 0, 0, 0, 0},
-                          {2024, 1, 32, 0, 0, 0},
-                          {2024, 1, 1, 24, 0, 0},
-                          {2024, 1, 1, 0, 60, 0},
-                          {2024, 1, 1, 0, 0, 60},
-                          {2024, 1, 1, -1, 0, 0},
-                          {2024, 1, 1, 0, -1, 0},
-                          {2024, 1, 1, 0, 0, -1}})
-        EXPECT_TRUE(RefusesArgument([&] { CTime(t[0], t[1], t[2], t[3], t[4], t[5]); })) << &t;
+    constexpr int wrong[][2] = {{0, 1899}, {1, 0},  {1, 13}, {2, 0},  {2, 32}, {3, 24},
+                                {3, -1},   {4, 60}, {4, -1}, {5, 60}, {5, -1}};
+    for (const auto& [part, value] : wrong)
+    {
+        int t[] = {2024, 1, 1, 0, 0, 0};
+        t[part] = value;
+        EXPECT_TRUE(RefusesArgument([&] { CTime(t[0], t[1], t[2], t[3], t[4], t[5]); }))
+            << part << ' ' << value;
+    }
     EXPECT_TRUE(RefusesArgument([] { CTime().GetLocalTm(nullptr); }));
     EXPECT_EQ(CTime(SYSTEMTIME{}), CTime());
 

@@ -2,6 +2,8 @@
 
 #include "HostWindow.h"
 
+#include "../base/Told.h"
+
 #include <limits>
 #include <type_traits>
 
@@ -9,8 +11,6 @@ namespace
 {
 constexpr int IDC_VALUE = 100;
 constexpr int IDC_OTHER = 101;
-const CString refusedWhole = L"Please enter a whole number.";
-const CString refusedReal = L"Please enter a number.";
 
 /// A window with an edit IDC_VALUE that exchanges one member.
 class ExchangeTest : public testing::Test
@@ -48,32 +48,25 @@ protected:
 
 TEST_F(ExchangeTest, NumbersOfEveryTypeMakeTheRoundTripWithTheirDigitsOrAreRefused)
 {
-    EXPECT_EQ(Taken<BYTE>(L"255"), L"255");
-    EXPECT_EQ(Taken<short>(L"-32768"), L"-32768");
-    EXPECT_EQ(Taken<int>(L"-2147483648"), L"-2147483648");
-    EXPECT_EQ(Taken<int>(L" \t+7 \t"), L"7");
-    EXPECT_EQ(Taken<UINT>(L"4294967295"), L"4294967295");
-    EXPECT_EQ(Taken<long>(L"-7"), L"-7");
-    EXPECT_EQ(Taken<DWORD>(L"4294967295"), L"4294967295");
-    EXPECT_EQ(Taken<LONGLONG>(L"-9223372036854775807"), L"-9223372036854775807");
-    EXPECT_EQ(Taken<ULONGLONG>(L"18446744073709551615"), L"18446744073709551615");
-    EXPECT_EQ(Taken<float>(L"0.1"), L"0.1");
-    EXPECT_EQ(Taken<double>(L"0.1"), L"0.1");
-    EXPECT_EQ(Taken<double>(L"-1234567.25"), L"-1234567.25");
-    EXPECT_EQ(Taken<double>(L"1e100"), L"1e+100");
-    EXPECT_EQ(Taken<double>(L" -1e-3 "), L"-0.001");
+    EXPECT_EQ(Told(Taken<BYTE>(L"255"), Taken<short>(L"-32768"), Taken<int>(L" \t+7 \t"), Taken<long>(L"-7"),
+                   Taken<int>(L"-2147483648"), Taken<UINT>(L"4294967295"), Taken<DWORD>(L"4294967295"),
+                   Taken<LONGLONG>(L"-9223372036854775807"), Taken<ULONGLONG>(L"18446744073709551615")),
+              "255,-32768,7,-7,-2147483648,4294967295,4294967295,-9223372036854775807,18446744073709551615");
+    EXPECT_EQ(Told(Taken<float>(L"0.1"), Taken<double>(L"0.1"), Taken<double>(L"-1234567.25"),
+                   Taken<double>(L"1e100"), Taken<double>(L" -1e-3 ")),
+              "0.1,0.1,-1234567.25,1e+100,-0.001");
 
-    for (LPCTSTR text : {L"", L"12x", L"1.5", L"2147483648"})
-        EXPECT_EQ(Taken<int>(text), refusedWhole);
-    EXPECT_EQ(Taken<short>(L"40000"), refusedWhole);
-    EXPECT_EQ(Taken<LONGLONG>(L"9223372036854775808"), refusedWhole);
-    for (LPCTSTR text : {L"256", L"-1"})
-        EXPECT_EQ(Taken<BYTE>(text), L"Please enter a whole number from 0 to 255.");
-    for (LPCTSTR text : {L" -1", L"4294967296"})
-        EXPECT_EQ(Taken<DWORD>(text), L"Please enter a whole number that is not negative.");
-    EXPECT_EQ(Taken<ULONGLONG>(L" -1"), L"Please enter a whole number that is not negative.");
-    for (LPCTSTR text : {L"", L"2.5 m", L"wide"})
-        EXPECT_EQ(Taken<double>(text), refusedReal);
+    for (const CString& refusal :
+         {Taken<int>(L""), Taken<int>(L"12x"), Taken<int>(L"1.5"), Taken<int>(L"2147483648"),
+          Taken<short>(L"40000"), Taken<LONGLONG>(L"9223372036854775808")})
+        EXPECT_EQ(refusal, L"Please enter a whole number.");
+    for (const CString& refusal : {Taken<BYTE>(L"256"), Taken<BYTE>(L"-1")})
+        EXPECT_EQ(refusal, L"Please enter a whole number from 0 to 255.");
+    for (const CString& refusal :
+         {Taken<DWORD>(L"-1"), Taken<DWORD>(L"4294967296"), Taken<ULONGLONG>(L" -1")})
+        EXPECT_EQ(refusal, L"Please enter a whole number that is not negative.");
+    for (const CString& refusal : {Taken<double>(L""), Taken<double>(L"2.5 m"), Taken<double>(L"wide")})
+        EXPECT_EQ(refusal, L"Please enter a number.");
 }
 
 TEST_F(ExchangeTest, StringsAreTakenAsTheyAreAndCutToTheBuffer)
@@ -126,8 +119,7 @@ TEST_F(ExchangeTest, AControlIsSubclassedOnceAndATextThatIsThereAlreadyIsNotSetA
     EXPECT_TRUE(host.UpdateData(FALSE));
     const auto procedure = ::GetWindowLongPtr(edit, GWLP_WNDPROC);
     EXPECT_EQ(CWnd::FromHandlePermanent(edit), &object);
-    EXPECT_TRUE(host.UpdateData(FALSE));
-    EXPECT_TRUE(host.UpdateData(TRUE));
+    EXPECT_TRUE(host.UpdateData(FALSE) && host.UpdateData(TRUE));
     EXPECT_EQ(::GetWindowLongPtr(edit, GWLP_WNDPROC), procedure);
     EXPECT_EQ(object.textsSet, 1);
 }
@@ -225,21 +217,17 @@ TEST_F(ExchangeTest, ChecksListsAndPositionsMakeTheRoundTrip)
         EXPECT_TRUE(host.UpdateData(TRUE));
         return read;
     };
-    for (const int state : {BST_CHECKED, BST_UNCHECKED, BST_INDETERMINATE})
-        EXPECT_EQ(back(DDX_Check, 300, state), state);
-    for (const int state : {-1, 7})
-        EXPECT_EQ(back(DDX_Check, 300, state), BST_UNCHECKED) << "no check state";
-    EXPECT_EQ(back(DDX_LBIndex, 301, 1), 1);
+    for (const int state : {BST_CHECKED, BST_UNCHECKED, BST_INDETERMINATE, -1, 7})
+        EXPECT_EQ(back(DDX_Check, 300, state), state < 0 || state > 2 ? BST_UNCHECKED : state);
     EXPECT_EQ(back(DDX_LBString, 301, L"beam"), L"beam 12") << "the first that begins so";
     EXPECT_EQ(back(DDX_LBStringExact, 301, L"beam"), L"beam");
     EXPECT_EQ(back(DDX_LBIndex, 301, -1), -1);
     EXPECT_EQ(back(DDX_LBString, 301, L"other"), L"") << "nothing is selected";
-    EXPECT_EQ(back(DDX_CBIndex, 302, 1), 1);
     EXPECT_EQ(back(DDX_CBString, 302, L"beam"), L"beam 12");
     EXPECT_EQ(back(DDX_CBStringExact, 302, L"beam"), L"beam");
     EXPECT_EQ(back(DDX_CBString, 302, L"not in the list"), L"not in the list");
-    EXPECT_EQ(back(DDX_Scroll, 303, 33), 33);
-    EXPECT_EQ(back(DDX_Slider, 304, 44), 44);
+    EXPECT_EQ(Told(back(DDX_LBIndex, 301, 1), back(DDX_CBIndex, 302, 1)), "1,1");
+    EXPECT_EQ(Told(back(DDX_Scroll, 303, 33), back(DDX_Slider, 304, 44)), "33,44");
     host.exchange = [](CDataExchange* dx)
     {
         int value = 30;
@@ -247,6 +235,7 @@ TEST_F(ExchangeTest, ChecksListsAndPositionsMakeTheRoundTrip)
         DDV_MinMaxSlider(dx, value, 10, 50);
     };
     host.UpdateData(FALSE);
-    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMIN, 0, 0), 10);
-    EXPECT_EQ(::SendMessage(slider, TBM_GETRANGEMAX, 0, 0), 50);
+    EXPECT_EQ(
+        Told(::SendMessage(slider, TBM_GETRANGEMIN, 0, 0), ::SendMessage(slider, TBM_GETRANGEMAX, 0, 0)),
+        "10,50");
 }

@@ -1,5 +1,7 @@
 // The common dialogs.
 
+#include "../base/Told.h"
+
 #include <afxdlgs.h>
 
 #include <gtest/gtest.h>
@@ -91,9 +93,8 @@ TEST(FileDialog, ARefusedNameKeepsTheDialogOpen)
     ASSERT_EQ(dialog.DoModal(), IDOK);
     EXPECT_EQ(dialog.refusals, -1) << "asked twice";
     EXPECT_EQ(dialog.pathAsked.CompareNoCase(path), 0);
-    EXPECT_EQ(dialog.GetFileName(), L"mfc_controls.test.dat");
-    EXPECT_EQ(dialog.GetFileTitle(), L"mfc_controls.test");
-    EXPECT_EQ(dialog.GetFileExt(), L"dat");
+    EXPECT_EQ(Told(dialog.GetFileName(), dialog.GetFileTitle(), dialog.GetFileExt()),
+              "mfc_controls.test.dat,mfc_controls.test,dat");
     dialog.WindowProc(::RegisterWindowMessage(LBSELCHSTRING), 1120, MAKELPARAM(3, CD_LBSELCHANGE));
     EXPECT_EQ(dialog.told, (std::vector<UINT>{1120, 3, CD_LBSELCHANGE}));
 }
@@ -121,10 +122,8 @@ TEST(FontDialog, StartsFromTheFontAndAnswersIt)
     ASSERT_EQ(dialog.DoModal(), IDOK);
     LOGFONT chosen = {};
     dialog.GetCurrentFont(&chosen);
-    EXPECT_EQ(chosen.lfHeight, -16);
-    EXPECT_EQ(dialog.GetFaceName(), L"Liberation Sans");
-    EXPECT_EQ(dialog.GetSize(), 120);
-    EXPECT_EQ(dialog.GetWeight(), FW_BOLD);
+    EXPECT_EQ(Told(chosen.lfHeight, dialog.GetFaceName(), dialog.GetSize(), dialog.GetWeight()),
+              "-16,Liberation Sans,120,700");
     EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
     CClientDC screen(nullptr);
     EXPECT_EQ(CFontDialog(nullptr, 0, &screen).m_cf.Flags & (CF_PRINTERFONTS | CF_INITTOLOGFONTSTRUCT),
