@@ -7,6 +7,7 @@
 #include <afxdtctl.h>
 
 #include <array>
+#include <cstring>
 #include <source_location>
 #include <string>
 #include <tuple>
@@ -57,7 +58,7 @@ LRESULT CALLBACK Record(HWND, UINT message, WPARAM wParam, LPARAM lParam)
     previous = std::exchange(last, {nullptr, message, wParam, lParam});
     if (const auto data = reinterpret_cast<const void*>(lParam);
         AfxIsValidAddress(data, sizeof pointedTo, FALSE))
-        memcpy(pointedTo, data, sizeof pointedTo);
+        std::memcpy(pointedTo, data, sizeof pointedTo);
     const std::string reply = std::exchange(replyNext, "");
     reply.copy(reinterpret_cast<char*>(lParam), reply.size());
     return std::exchange(answerNext, kAnswer);
@@ -70,7 +71,7 @@ struct Recorded : Control
     Recorded()
     {
         static const HWND window =
-            ::CreateWindow(WC_STATIC, L"", WS_POPUP | 0x1FB, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+            ::CreateWindow(WC_STATIC, L"", WS_POPUP | 0x1F9, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
         ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Record));
         this->m_hWnd = window;
     }
@@ -128,7 +129,7 @@ constexpr LPARAM pointPacked = MAKELPARAM(3, 4);
 int one = 0;
 int other = 0;
 
-/// An image list or a window that nobody looks at.
+/// An image list that nobody looks at.
 struct Images : CImageList
 {
     Images() { m_hImageList = HIMAGELIST(0x55); }
@@ -142,7 +143,7 @@ TEST(Messages, OfTheClassicControls)
     Sent(label.SetEnhMetaFile(HENHMETAFILE(9)), STM_SETIMAGE, IMAGE_ENHMETAFILE, 9);
 
     Recorded<CButton> button;
-    EXPECT_EQ(button.GetButtonStyle(), 0xFBu);
+    EXPECT_EQ(button.GetButtonStyle(), 0xF9u);
 
     Recorded<CListBox> list;
     BOOL outside = FALSE;
@@ -231,6 +232,7 @@ TEST(Messages, OfTheCommonControls)
     Sent(tab.SetImageList(&images), TCM_SETIMAGELIST, 0, 0x55);
     Sent(tab.GetItem(3, &page), TCM_GETITEM, 3, &page);
     Sent(tab.SetItemSize(CSize(3, 4)), TCM_SETITEMSIZE, 0, pointPacked);
+    Sent(tab.GetToolTips(), TCM_GETTOOLTIPS);
     Sent(tab.SetExtendedStyle(3, 4), TCM_SETEXTENDEDSTYLE, 4, 3);
     DWORD state = 1;
     Reply(TCITEM{0, 4});
@@ -396,10 +398,10 @@ TEST(Messages, OfTreeControls)
     Sent(tree.GetItemRect(node, rect, TRUE), TVM_GETITEMRECT, TRUE, &rect);
     EXPECT_EQ(rect.left, 9) << "where the message looks for the item";
 
-    constexpr UINT images2 = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    constexpr UINT pictures = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
     const TVITEM reply = {0, node, 0x2006, 0, nullptr, 0, 3, 4, 5, 0x123456789};
     Reply(reply);
-    Sent(tree.GetItemImage(node, one, other), TVM_GETITEM, 0, TVITEM{TVIF_HANDLE | images2, node});
+    Sent(tree.GetItemImage(node, one, other), TVM_GETITEM, 0, TVITEM{TVIF_HANDLE | pictures, node});
     EXPECT_EQ(one * 10 + other, 34);
     Reply(reply);
     EXPECT_EQ(tree.GetItemState(node, 5), 4u);
@@ -419,14 +421,14 @@ TEST(Messages, OfTreeControls)
          TVITEM{1 | TVIF_HANDLE, node, 4, 5, text, 0, 6, 7, 0, 8});
     Sent(tree.SetItemText(node, text), TVM_SETITEM, 0, TVITEM{TVIF_HANDLE | TVIF_TEXT, node, 0, 0, text});
     Sent(tree.SetItemImage(node, 6, 7), TVM_SETITEM, 0,
-         TVITEM{TVIF_HANDLE | images2, node, 0, 0, nullptr, 0, 6, 7});
+         TVITEM{TVIF_HANDLE | pictures, node, 0, 0, nullptr, 0, 6, 7});
     Sent(tree.SetItemState(node, 4, 5), TVM_SETITEM, 0, TVITEM{TVIF_HANDLE | TVIF_STATE, node, 4, 5});
     Sent(tree.SetItemData(node, 8), TVM_SETITEM, 0,
          TVITEM{TVIF_HANDLE | TVIF_PARAM, node, 0, 0, nullptr, 0, 0, 0, 0, 8});
     TVINSERTSTRUCT insert = {HTREEITEM(2), HTREEITEM(3), {}};
     insert.item = {1, nullptr, 4, 5, text, 0, 6, 7, 0, 8};
     Sent(tree.InsertItem(1, text, 6, 7, 4, 5, 8, HTREEITEM(2), HTREEITEM(3)), TVM_INSERTITEM, 0, insert);
-    insert.item = {TVIF_TEXT | images2, nullptr, 0, 0, text, 0, 6, 7};
+    insert.item = {TVIF_TEXT | pictures, nullptr, 0, 0, text, 0, 6, 7};
     Sent(tree.InsertItem(text, 6, 7, HTREEITEM(2), HTREEITEM(3)), TVM_INSERTITEM, 0, insert);
     insert.item = {TVIF_TEXT, nullptr, 0, 0, text};
     Sent(tree.InsertItem(text, HTREEITEM(2), HTREEITEM(3)), TVM_INSERTITEM, 0, insert);
