@@ -48,12 +48,12 @@ TEST_F(GridGeometry, TheBarsFollowTheContents)
     EXPECT_EQ(grid.m_nHScrollMax, 0);
 
     // Only the headers fit: both bars go, and the books stay.
+    grid.SetColumnCount(kCols);
     grid.SetColumnWidth(0, 400, TRUE);
     EXPECT_TRUE(grid.IsVisibleVScroll());
     EXPECT_FALSE(grid.GetStyle() & (WS_VSCROLL | WS_HSCROLL));
     grid.SetColumnWidth(0, kColWidth, TRUE);
     EXPECT_TRUE(grid.GetStyle() & WS_VSCROLL) << "as before, and so must the bar be";
-    grid.SetColumnCount(kCols);
     const auto resize = [&](int cx, int cy)
     { grid.SetWindowPos(nullptr, 0, 0, cx, cy, SWP_NOMOVE | SWP_NOZORDER); };
     resize(304, 0);
@@ -169,6 +169,9 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
     }
     grid.SetColumnWidth(3, 0, TRUE);
     EXPECT_FALSE(grid.AutoSizeColumn(3));
+    grid.AutoSizeColumns();
+    for (const int nCol : {0, kCols - 1})
+        EXPECT_LT(grid.GetColumnWidth(nCol), kColWidth) << "of the narrow ones each";
     grid.SetRowHeight(4, 0);
     LOGFONT big = *grid.GetItemFont(5, 2);
     big.lfHeight *= 2;

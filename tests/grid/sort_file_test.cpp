@@ -93,8 +93,12 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
     EXPECT_EQ(grid.GetSelectedCount(), 0);
     EXPECT_EQ(grid.GetFocusCell(), CCellID());
     const std::wstring before = TextsOf(grid, 1, 1, L" ");
+    const auto same = reinterpret_cast<LPARAM>(grid.GetCell(1, 1));
     for (const auto compare : {CGridCtrl::pfnCellTextCompare, CGridCtrl::pfnCellNumericCompare})
+    {
         EXPECT_TRUE(grid.SortItems(compare, -1, TRUE)) << "a negative column finds no cells";
+        EXPECT_EQ(compare(same, same, 0), 0);
+    }
     EXPECT_EQ(TextsOf(grid, 1, 1, L" "), before) << "and moves nothing";
     grid.SetFixedRowCount(5);
     EXPECT_FALSE(grid.SortTextItems(1, TRUE));

@@ -259,6 +259,7 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
     grid.SetCallbackFunc(
         [](GV_DISPINFO* info, LPARAM param)
         {
+            EXPECT_EQ(std::exchange(info->item.mask, 0u), UINT(GV_MASK_ALL)) << "each time anew";
             info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
             return 0;
         },
@@ -269,7 +270,7 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
                                                      body.GetTextClr(), body.GetFormat(),
                                                      body.GetFont()->lfHeight, body.GetMargin()}));
     EXPECT_EQ(grid.GetItemText(999999, 2), L"999999.2.7");
-    EXPECT_EQ(grid.GetItemState(5, 0), 0u) << "there is no fixed column";
+    EXPECT_EQ(grid.GetItemState(1, 0), 0u) << "the first of the body";
     EXPECT_EQ(grid.GetCell(5, 1), grid.GetCell(6, 2)) << "one cell for all";
     EXPECT_EQ(grid.GetCell(1000000, 0), nullptr);
     EXPECT_TRUE(grid.GetCell(0, 1)->IsFixedRow());

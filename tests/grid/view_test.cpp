@@ -354,6 +354,10 @@ TEST(GridBars, KeepTheirPagesAndLeaveTheAreaThatTheyTakeUp)
         for (const int page : {10, 20})
             bars.SetRange(EGridWay::eRows, {true, 100, page});
         EXPECT_TRUE(::GetScrollInfo(window, SB_VERT, &info) && info.nPage == 20u);
+        bars.SetRange(EGridWay::eColumns, {true, 100, 10});
+        for (const EGridWay way : kGridWays)
+            bars.SetRange(way, {});
+        EXPECT_EQ(window.GetStyle() & (WS_VSCROLL | WS_HSCROLL), WS_VSCROLL) << "greyed, the other one gone";
     }
 }
 
