@@ -27,8 +27,8 @@ TEST(GridCellBase, IsAnEmptyContract)
     CRect rect(1, 2, 3, 4);
     EXPECT_TRUE(cell.GetTextRect(&rect) && cell.GetTipTextRect(&rect));
     EXPECT_EQ(rect, CRect(1, 2, 3, 4));
-    EXPECT_TRUE(cell.ValidateEdit(L"anything"));
-    EXPECT_EQ(cell.SendMessageToParent(0, 0, NM_CLICK), 0);
+    EXPECT_TRUE(cell.ValidateEdit(L"anything") && cell.OnSetCursor());
+    EXPECT_EQ(cell.SendMessageToParent(0, 0, NM_CLICK) + cell.GetData(), 0);
     cell.SetState(CELL_FIXEDCOL | CELL_MODIFIED);
     EXPECT_EQ(cell.IsFixedCol(), 64) << "the bit, and not 1";
     EXPECT_EQ(cell.IsModified(), 128);
@@ -85,10 +85,14 @@ TEST_F(GridCell, CopiesWhatTheOtherShows)
     EXPECT_EQ(copy.GetFont()->lfHeight, -33);
     EXPECT_EQ(copy.GetFontObject(), cell.GetFontObject())
         << "one object for all cells with fonts of their own";
+    copy.SetTextClr(RGB(1, 2, 3));
+    copy.SetBackClr(RGB(1, 2, 3));
     copy.Reset();
     EXPECT_EQ(copy.GetData(), 5) << "the one thing that Reset leaves";
     EXPECT_EQ(copy.GetGrid(), nullptr);
     EXPECT_EQ(copy.GetImage(), -1);
+    EXPECT_TRUE(copy.GetTextClr() == CLR_INHERIT && copy.GetBackClr() == CLR_INHERIT);
+    EXPECT_EQ(copy.GetFont(), nullptr);
 }
 
 TEST_F(GridCell, MeasuresTextWithItsMargins)

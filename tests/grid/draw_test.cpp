@@ -191,6 +191,15 @@ TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
         EXPECT_TRUE(arrow.Width() > 4 && header.PtInRect(arrow.TopLeft()));
     }
 
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT);
+    EXPECT_GT(up.count(header, light), plain.count(header, light)) << "engraved";
+    for (const int nWidth : {12, 2})
+    {
+        grid.SetColumnWidth(1, nWidth, TRUE);
+        EXPECT_EQ(Picture(grid).extent(shadow).IsRectEmpty() != FALSE, nWidth == 2) << "no room";
+    }
+    grid.SetColumnWidth(1, kColWidth, TRUE);
+
     // It comes with its column, and goes with it.
     const CRect first(0, 0, 60, 20);
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), CRect(0, 0, 120, 20));

@@ -78,7 +78,8 @@ protected:
         cols.SetFixed(1);
     }
     CGridView View() const { return CGridView(rows, cols, topLeft, CSize(300, 200)); }
-    /// What a press and a double click mean along the headers, as "58-62: 0 f0" for a run of pixels.
+    /// What a press and, behind an f, a double click mean along the headers, as "58-62: 0 f0" for a run of
+    /// pixels; a press that is marked and not held as "0?".
     std::string Dividers(EGridWay way, bool opens) const
     {
         const CGridDividers dividers(way, View(), 3);
