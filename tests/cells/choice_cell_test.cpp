@@ -387,8 +387,8 @@ TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
 TEST_F(ColourCells, TheSwatchNeedsRoom)
 {
     const COLORREF red = acedGetRGB(1), black = RGB(0, 0, 0);
-    // The colour and the size; reds, blacks beside the swatch (the mark of a list has 5 + 3 + 1), its corner and
-    // its frame.
+    // The colour and the size; reds, blacks beside the swatch (the mark of a list has 5 + 3 + 1), its corner
+    // and its frame.
     for (const auto& [color, size, reds, blacks, swatch, frame] :
          {std::tuple(1, CSize(54, 17), 39 * 10, 9, red, black),
           std::tuple(1, CSize(53, 30), 0, 0, kBack, kBack), // the cell itself is painted

@@ -45,8 +45,8 @@ TEST_F(DisplayCells, APatternIsInTheMixOnTheBackgroundWhereNothingIsSelected)
     constexpr COLORREF kPattern = RGB(160, 200, 255), kMix = RGB(160, 185, 200), kNone = 0xFFFFFFFF;
     const COLORREF selected = ::GetSysColor(COLOR_HIGHLIGHT),
                    selectedText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
-    // The state, the colours of cell and pattern, the style; the colour that fills it, whether there are lines in
-    // the mix on it, and the frame.
+    // The state, the colours of cell and pattern, the style; the colour that fills it, whether there are
+    // lines in the mix on it, and the frame.
     using Case = std::tuple<DWORD, COLORREF, COLORREF, int, COLORREF, bool, COLORREF>;
     std::vector<Case> cases = {
         {CELL_SELECTED, kBack, kPattern, HS_CROSS, selected, false, kUntouched},
@@ -122,8 +122,8 @@ TEST_F(DisplayCells, AnImageStandsWhereTheFormatSaysIfItFits)
                static_cast<CBitmap*>(nullptr));
     CImageGridCell cell;
     cell = Make<CImageGridCell>(RUNTIME_CLASS(CImageGridCell));
-    // In 51 by 39 pixels between the margins, which are room, too, an image of 11 by 7, as its size is counted. The format, the
-    // margin, the cell, where the image is drawn, and which one.
+    // In 51 by 39 pixels between the margins, which are room, too, an image of 11 by 7, as it is counted.
+    // The format, the margin, the cell, where the image is drawn, and which one.
     const CRect roomy(20, 10, 79, 49);
     const CRect none;
     using Row = std::tuple<DWORD, UINT, CRect, CRect, int>;

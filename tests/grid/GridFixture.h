@@ -103,8 +103,8 @@ protected:
         owtest::Press(key);
         EXPECT_TRUE(EditorCloses());
     }
-    /// Focus and selection, what goes on, and what the parent and the bars were told since the last time: "3,2
-    /// [3,2-4,2]=2 mode 4 timer capture changed 3,2 v1", and "#" for a command.
+    /// Focus and selection, what goes on, and what the parent and the bars were told since the last time:
+    /// "3,2 [3,2-4,2]=2 mode 4 timer capture changed 3,2 v1", and "#" for a command.
     std::string Seen()
     {
         owtest::Pump();

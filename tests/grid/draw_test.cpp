@@ -38,7 +38,7 @@ protected:
         using Surface::count;
         int count(COLORREF color) const { return count(CRect(0, 0, 300, 200), color); }
     };
-    /// Pixels of the headings, the cells (1, 1) and (2, 2) and what is behind, row by row: 'R' row heading, 'C'
+    /// Pixels of the headings, of the cells (1, 1) and (2, 2), and behind, by rows: 'R' row heading, 'C'
     /// column heading, 'X' corner, '.' cell, '-' line, ' ' behind, 's' selected, 't' text, 'h' highlight, 'd'
     /// shadow, 'o' any other.
     std::string Map()

@@ -1,5 +1,5 @@
-// The parts of a grid that need no window: rows of cells whose memory ends, that memory, the sort, the fields of
-// a line.
+// The parts of a grid that need no window: rows of cells whose memory ends, that memory, the sort, the fields
+// of a line.
 
 #include <DialogControlsOW.h>
 
