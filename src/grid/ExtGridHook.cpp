@@ -36,7 +36,9 @@ LRESULT CParentHook::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     catch (CException* e)
     {
-        return AfxGetThread()->ProcessWndProcException(e, &msg);
+        const LRESULT lResult = AfxProcessWndProcException(e, &msg);
+        e->Delete();
+        return lResult;
     }
 }
 

@@ -65,6 +65,10 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     selector.SetCurrentPage(Page("Gamma"));
     EXPECT_EQ(TakeSelections(), "Gamma after -, Gamma after -");
     EXPECT_TRUE(HasFocus(selector));
+    Once("Beta after Gamma", [&] { selector.SetCurrentPage(Page("Gamma")); });
+    selector.SetCurrentPage(Page("Beta"));
+    EXPECT_EQ(TakeSelections(), "Beta after Gamma, Gamma after Beta, Gamma after Beta")
+        << "not told of Beta any more";
     for (RecordingClient* pClient : {&selects, &other}) // the first one stays
         selector.RegisterSelectPageNotification(pClient, false);
     RecordingPage strange(L"strange", nullptr, 99);

@@ -205,6 +205,11 @@ TEST_F(ComboCells, AListWithoutAnEditPartOpensAtOnceAndACopyIsOneToo)
     ASSERT_NE(cell.DajKomboBoks(), nullptr);
     EXPECT_TRUE(cell.DajKomboBoks()->GetDroppedState());
     EXPECT_EQ(cell.GetEditWnd(), nullptr);
+    const std::wstring before = CellText();
+    owtest::Press(VK_UP);
+    EndByKey(VK_ESCAPE);
+    EXPECT_EQ(CellText(), before);
+    grid.StartEditCell();
     owtest::Press(VK_UP);
     EndByKey(VK_RETURN);
     EXPECT_EQ(CellText(), L"HEA 240");

@@ -278,7 +278,7 @@ TEST_F(AnsiCells, TakeALongTextAndAgainInTheSameCell)
         EXPECT_STREQ(gfnWholeText(Editor()), expected.c_str()) << i;
         EndByKey(VK_RETURN);
         EXPECT_EQ(CellText(), expected);
-        EXPECT_EQ(owtest::CountGdiObjects(kFonts), fonts) << "a font for the length of an edit";
+        EXPECT_LE(owtest::CountGdiObjects(kFonts), fonts) << "a font for the length of an edit";
     }
     ClickCell(1, 1); // a click on the focus cell would begin the edit
     ClickCell(kRow, kCol);

@@ -218,9 +218,12 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
 
 TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
 {
+    handler.onChange = [] { AfxThrowUserException(); }; // which shows no box
+    grid.SetFocusCell(3, 1);
     handler.onChange = [&] { grid.SetRowCount(2); };
     grid.SetFocusCell(4, 1);
-    EXPECT_EQ(Told(), "77 row 4 after -1; .... .... ");
+    EXPECT_EQ(Told(), "77 row 3 after -1; 77 row 4 after -1; .... .... ")
+        << "the exception is not the caller's";
 
     handler.onChange = [&] { grid.DestroyWindow(); };
     grid.SetFocusCell(1, 1);
