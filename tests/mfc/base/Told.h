@@ -15,7 +15,9 @@ std::string Told(const Values&... values)
     const auto put = [&]<class Value>(const Value& value)
     {
         text << std::exchange(separator, ",");
-        if constexpr (std::is_convertible_v<Value, LPCWSTR>)
+        if constexpr (std::is_same_v<Value, CString>)
+            text << CStringA(value.GetString(), value.GetLength()).GetString();
+        else if constexpr (std::is_convertible_v<Value, LPCWSTR>)
             text << CStringA(value).GetString();
         else if constexpr (std::is_base_of_v<POINT, Value>)
             text << value.x << ' ' << value.y;

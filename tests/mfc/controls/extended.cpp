@@ -91,6 +91,9 @@ TEST_F(CheckList, ChecksAreChangedByTheirStyle)
     list.SetCurSel(0);
     owtest::Press(VK_SPACE);
     EXPECT_EQ(Told(Checks(), host.checks), "110,8");
+    list.ResetContent();
+    owtest::Press(VK_SPACE);
+    EXPECT_EQ(host.checks, 8) << "an empty list has nothing to check";
 }
 
 TEST_F(CheckList, ChangesAllSelectedItemsAtOnce)
@@ -169,7 +172,9 @@ TEST_F(CheckList, DrawsBoxTextAndSelection)
         return picture;
     };
     const auto plain = draw(0);
-    EXPECT_EQ(plain->at(90, 10), ::GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(Told(plain->at(0, 0), plain->at(90, 10)),
+              Told(::GetSysColor(COLOR_WINDOW), ::GetSysColor(COLOR_WINDOW)));
+    EXPECT_EQ(draw(ODS_SELECTED)->at(0, 0), ::GetSysColor(COLOR_HIGHLIGHT));
     EXPECT_EQ(plain->count(CRect(0, 0, 100, 20), RGB(255, 0, 255)), 0) << "nothing is left out";
     EXPECT_EQ(draw(ODS_SELECTED)->at(90, 10), ::GetSysColor(COLOR_HIGHLIGHT));
     list.SetCheck(0, 1);

@@ -337,6 +337,13 @@ TEST(Messages, OfListControls)
     Sent(list.SetItem(2, 3, 1, text, 6, 4, 5, 7), LVM_SETITEM, 0, LVITEM{1, 2, 3, 4, 5, text, 0, 6, 7});
     Sent(list.SetItemState(2, 4, 5), LVM_SETITEMSTATE, 2, LVITEM{0, 0, 0, 4, 5});
     Sent(list.GetItemText(2, 3, text, 9), LVM_GETITEMTEXT, 2, LVITEM{0, 0, 3, 0, 0, text, 9});
+    TCHAR buffer[8] = L"mine";
+    for (const int length : {0, 3})
+    {
+        Reply(LVITEM{0, 0, 0, 0, 0, const_cast<LPTSTR>(L"own")}, length);
+        EXPECT_EQ(list.GetItemText(2, 3, buffer, 8), length);
+        EXPECT_STREQ(buffer, length == 0 ? L"mine" : L"own") << "a text that is the control's";
+    }
     Sent(list.SetItemText(2, 3, text), LVM_SETITEMTEXT, 2, LVITEM{0, 0, 3, 0, 0, text});
     Reply(LVITEM{0, 0, 0, 0, 0, nullptr, 0, 0, 0x123456789});
     EXPECT_EQ(list.GetItemData(2), 0x123456789u);
@@ -399,7 +406,7 @@ TEST(Messages, OfTreeControls)
     EXPECT_EQ(rect.left, 9) << "where the message looks for the item";
 
     constexpr UINT pictures = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
-    const TVITEM reply = {0, node, 0x2006, 0, nullptr, 0, 3, 4, 5, 0x123456789};
+    const TVITEM reply = {0, node, 0x2006, 0, const_cast<LPTSTR>(L"own"), 0, 3, 4, 1, 0x123456789};
     Reply(reply);
     Sent(tree.GetItemImage(node, one, other), TVM_GETITEM, 0, TVITEM{TVIF_HANDLE | pictures, node});
     EXPECT_EQ(one * 10 + other, 34);
@@ -414,6 +421,8 @@ TEST(Messages, OfTreeControls)
     Reply(reply);
     EXPECT_EQ(tree.ItemHasChildren(node), TRUE);
     Arrived(TVM_GETITEM, 0, TVITEM{TVIF_HANDLE | TVIF_CHILDREN, node});
+    Reply(reply);
+    EXPECT_EQ(tree.GetItemText(node), L"own") << "a text that is the control's";
     constexpr UINT checks = TVIF_HANDLE | TVIF_STATE;
     Sent(tree.SetCheck(node), TVM_SETITEM, 0, TVITEM{checks, node, 0x2000, TVIS_STATEIMAGEMASK});
     Sent(tree.SetCheck(node, FALSE), TVM_SETITEM, 0, TVITEM{checks, node, 0x1000, TVIS_STATEIMAGEMASK});
