@@ -30,13 +30,14 @@ public:
 TEST(Controls, AreMadeAsPlainChildren)
 {
     HostWindow host;
-    const auto expect = [&](auto&&... made)
+    const auto expect = [&](DWORD style, auto&&... made)
     {
-        EXPECT_TRUE((made.Create(CHILD, CRect(0, 0, 80, 20), &host, 7) && ...));
+        EXPECT_TRUE((made.Create(style, CRect(0, 0, 80, 20), &host, 7) && ...));
         EXPECT_TRUE(((made.GetParent() == &host && (made.GetExStyle() & WS_EX_DLGMODALFRAME) == 0) && ...));
     };
-    expect(CSpinButtonCtrl(), CSliderCtrl(), CProgressCtrl(), CHeaderCtrl(), CTabCtrl(), CStatusBarCtrl(),
-           CListCtrl(), CTreeCtrl(), CToolBarCtrl(), CScrollBar());
+    expect(WS_VISIBLE, CSpinButtonCtrl(), CSliderCtrl(), CProgressCtrl(), CHeaderCtrl(), CTabCtrl(),
+           CStatusBarCtrl(), CListCtrl(), CTreeCtrl()); // without being asked to be
+    expect(CHILD, CToolBarCtrl(), CScrollBar());
 }
 
 TEST(Lists, AnswerTheTextsOfTheirItems)

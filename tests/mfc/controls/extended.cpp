@@ -311,6 +311,9 @@ TEST(ToolTips, FollowTheMouseOverTheControlsOfAWindowThatHasThem)
         owtest::MoveTo(control.m_hWnd, CPoint(6, 6));
         return TippedHost::Shows(text);
     };
+    EXPECT_EQ(Told(host.CWnd::OnToolHitTest(CPoint(5, 5), nullptr),
+                   host.CWnd::OnToolHitTest(CPoint(5, 65), nullptr)),
+              "11,-1");
     EXPECT_TRUE(showsOver(host.first, L"first"));
     EXPECT_TRUE(showsOver(host.second, L"second"));
     EXPECT_TRUE(showsOver(host.label, L""));
