@@ -52,8 +52,8 @@ struct ColorDialog : testing::Test
         return Pixel(IDC_COLOR_PREVIEW, CPoint(client.Width() * quarter / 4, client.Height() / 2));
     }
 
-    /// Opens the dialog on a colour and lets the script work it until it is closed. Whether the dialog was accepted,
-    /// and the colour afterwards.
+    /// Opens the dialog on a colour and lets the script work it until it is closed. Whether it was accepted, and
+    /// the colour afterwards.
     using Outcome = std::pair<bool, int>;
     Outcome Choose(int color, void (*script)(), bool metaColors = false, int layerColor = 0)
     {

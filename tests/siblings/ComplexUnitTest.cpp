@@ -1,4 +1,4 @@
-// Units: sizes, symbols, products, and values that come back as they were typed; the records of drawing settings.
+// Units: sizes, symbols, products, values that come back as they were typed; records of drawing settings.
 
 #include <ComplexUnit.h>
 #include <FormatJedinice.h>

@@ -30,7 +30,7 @@ struct CProbedWnd : CWnd
     WNDPROC Procedure() const { return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(m_hWnd, GWLP_WNDPROC)); }
 };
 
-/// A hook: logs its letter for a probe, does what the test wants, passes the probe on, and may end itself then.
+/// A hook: logs its letter for a probe, does what the test wants, passes the probe on, and may end then.
 struct CProbeHook : CMsgHook
 {
     explicit CProbeHook(char letter) : m_letter(letter) {}

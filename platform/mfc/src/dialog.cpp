@@ -319,7 +319,7 @@ bool IsEscapeInMultilineEdit(const MSG& message)
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg)
 {
-    CWnd::PreTranslateMessage(pMsg); // which takes nothing
+    CWnd::PreTranslateMessage(pMsg); // tool tips look on
     if (IsEscapeInMultilineEdit(*pMsg))
     {
         const HWND cancel = ::GetDlgItem(m_hWnd, IDCANCEL);

@@ -85,7 +85,7 @@ BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
 
 BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg)
 {
-    CWnd::PreTranslateMessage(pMsg); // which takes nothing
+    CWnd::PreTranslateMessage(pMsg); // tool tips look on
     const bool isKey = pMsg->message >= WM_KEYFIRST && pMsg->message <= WM_KEYLAST;
     return isKey && m_hAccelTable != nullptr && ::TranslateAccelerator(m_hWnd, m_hAccelTable, pMsg) != 0;
 }
@@ -133,7 +133,7 @@ void UpdateMenu(CFrameWnd& frame, CMenu& popup, bool disableWithoutHandler)
     item.m_nIndexMax = popup.GetMenuItemCount();
     for (item.m_nIndex = 0; item.m_nIndex < item.m_nIndexMax; ++item.m_nIndex)
     {
-        // 0 for a separator and -1 for a pop-up, which is brought up to date when it opens: neither has a state.
+        // 0 for a separator, -1 for a pop-up, which is brought up to date when it opens: both have no state.
         item.m_nID = popup.GetMenuItemID(static_cast<int>(item.m_nIndex));
         item.DoUpdate(&frame, disableWithoutHandler && item.m_nID < 0xF000);
         item.m_nIndexMax = popup.GetMenuItemCount(); // a handler may change the menu

@@ -314,7 +314,7 @@ BOOL CPropertySheet::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERI
 
 BOOL CPropertySheet::PreTranslateMessage(MSG* pMsg)
 {
-    CWnd::PreTranslateMessage(pMsg); // which takes nothing
+    CWnd::PreTranslateMessage(pMsg); // tool tips look on
     // Ctrl with Tab or a page key changes the page.
     const bool changesPage = pMsg->message == WM_KEYDOWN && ::GetKeyState(VK_CONTROL) < 0 &&
                              (pMsg->wParam == VK_TAB || pMsg->wParam == VK_PRIOR || pMsg->wParam == VK_NEXT);

@@ -111,7 +111,7 @@ public:
         };
         EXPECT_TRUE(Waits(shows)) << ::testing::PrintToString(std::wstring(shown));
     }
-    /// Waits until an edit control has the focus and all its text is selected: a refused value is to be typed anew.
+    /// Waits until an edit control has the focus and its text is selected: a refused value is to be typed anew.
     void IsToBeRetyped(int id) const
     {
         const auto isSelected = [this, edit = Item(id)]

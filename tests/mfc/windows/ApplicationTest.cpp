@@ -1,4 +1,4 @@
-// The application: profile, message boxes, frame windows, idle time, help, command lines, wait cursor, stack dumps.
+// The application: profile, message boxes, frames, idle time, help, command lines, wait cursor, stack dumps.
 
 #include "TestWindows.h"
 
