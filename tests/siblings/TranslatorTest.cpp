@@ -101,7 +101,7 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
     const std::tuple<const char*, std::string, int> cases[] = {
         {"no closing quotation mark", "msgid \"a\"\nmsgstr \"b\n", 2},
         {"text behind the text", "msgid \"a\" b\n", 1},
-        {"unknown keyword", "msgid \"a\"\nmsgid_plural \"b\"\nmsgtext] \"c\"\n", 3},
+        {"unknown keyword", "msgid \"a\"\nmsgid_plural \"b\"\nmsgstr[0] \"c\"\nmsgtext] \"d\"\n", 4},
         {"unknown escape sequence", "msgid \"a\"\nmsgstr \"\\q\"\n", 2},
         {"escape sequence of no character", "msgid \"a\"\nmsgstr \"\\400\"\n", 2},
         {"text without a keyword", "\n\"a\"\n", 2},
