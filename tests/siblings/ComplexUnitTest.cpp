@@ -54,7 +54,6 @@ TEST(ComplexUnit, TypedValuesComeBackAsTheyWereTyped)
         }
     const double large = 123456789012345.0, third = 1.0 / 3.0;
     EXPECT_EQ(Length(4).ToLocal(Length(4).ToGlobal(large)), large);
-    EXPECT_DOUBLE_EQ(Length(2).ToLocal(1e17), 1e20);
     EXPECT_EQ(Length(0).ToLocal(third), third) << "what is no short decimal is not rounded";
     EXPECT_DOUBLE_EQ(Length(2).ToLocal(third), 1000.0 / 3.0);
     for (const std::uint64_t bits : {0xFFF8000000001234ull, 0x7FF0000000000000ull}) // no number, and infinity

@@ -2,6 +2,8 @@
 
 #include "TestWindows.h"
 
+#include "Input.h"
+
 #include <thread>
 
 namespace
@@ -20,7 +22,6 @@ public:
     {
         if (message == WM_CREATE)
             Note("made");
-        EXPECT_EQ(CPoint(GetCurrentMessage()->pt), CPoint(::GetMessagePos()));
         return CSeenWnd::WindowProc(message, wParam, lParam);
     }
 
@@ -370,6 +371,7 @@ TEST(Window, CallsOnItsTextsAndItems)
     EXPECT_TRUE(form.KillTimer(5));
 
     form.UpdateWindow();
+    owtest::MoveTo(form, CPoint(150, 30));
     Noted();
     CClientDC dc(&form);
     const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
@@ -379,6 +381,7 @@ TEST(Window, CallsOnItsTextsAndItems)
             Note("got", message, lParam);
         if (message == WM_PAINT)
             Note("paint");
+        EXPECT_EQ(CPoint(CWnd::GetCurrentMessage()->pt), CPoint(190, 70)) << "where the mouse was";
         return std::nullopt;
     };
     form.SendNotifyMessage(WM_APP, 3, 4);
