@@ -38,7 +38,7 @@ CString NameOfNonNumber(double dValue)
 {
     if (std::isnan(dValue))
         return L"nan";
-    return dValue < 0.0 ? L"-inf" : L"inf";
+    return std::signbit(dValue) ? L"-inf" : L"inf";
 }
 
 /// All that a double holds exactly.

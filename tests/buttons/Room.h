@@ -1,5 +1,5 @@
 #pragma once
-// What the tests of buttons share: images, buttons by themselves, and a dialog that writes down what they tell.
+// What the tests of buttons share: images, buttons by themselves, a dialog that writes down what they tell.
 
 #include <DialogControlsOW.h>
 
@@ -26,8 +26,6 @@ constexpr int IDC_CROSSHAIR = 200, IDS_TEXT = 300, IDI_STATE = 400; // as in but
 constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255);
 constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlue = RGB(0, 0, 255);
 constexpr COLORREF kKey = RGB(255, 0, 255); ///< transparent colour of bitmaps, and what a new surface has
-
-// ---- Images ---------------------------------------------------------------------------------------------------------
 
 using Pixels = std::vector<DWORD>; ///< 0xAARRGGBB, row by row from the top
 
@@ -85,8 +83,6 @@ inline Pixels PixelsOf(HBITMAP hBitmap)
     ::GetDIBits(CWindowDC(nullptr), hBitmap, 0, info.bmHeight, pixels.data(), &header, DIB_RGB_COLORS);
     return pixels;
 }
-
-// ---- Buttons --------------------------------------------------------------------------------------------------------
 
 /// A button whose inner state a test may look at and set.
 template <class Button = CButtonST>
@@ -147,10 +143,8 @@ struct Lone
     CWnd parent;
 };
 
-// ---- The dialog -----------------------------------------------------------------------------------------------------
-
-/// Writes down what controls tell, "told 1001; " or with a value "told 1001 5; ", and the clicks that it receives
-/// itself, "dialog 1001; ".
+/// Writes down what controls tell, "told 1001; " or with a value "told 1001 5; ", and the clicks that it
+/// receives itself, "dialog 1001; ".
 class Room : public CDialog,
              public AButtonSTNotificationHandler,
              public ABitmapBtnSTNotificationHandler,
@@ -245,7 +239,6 @@ protected:
     void TearDown() override { m_room.DestroyWindow(); }
 
     /// What is told of what is done.
-    std::string CallsOf(const std::function<void()>& action) { return action(), m_room.Take(); }
     std::string Click(CWnd& button) { return owtest::Click(button), m_room.Take(); }
     std::string Press(WORD nKey) { return owtest::Press(nKey), m_room.Take(); }
 

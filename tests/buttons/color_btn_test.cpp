@@ -80,8 +80,8 @@ protected:
         EXPECT_TRUE(visit.Count() == 1 && !::GetCapture());
         return m_room.Take();
     }
-    /// From red; what stands in the variable afterwards, and which entry was used last: the first one's at the
-    /// beginning, so that kRed and 0 mean that nothing changes.
+    /// From red, what stands in the variable afterwards, and which entry was used last: the first one's at
+    /// the beginning, so that kRed and 0 mean that nothing changes.
     void ExpectChoice(const Script& script, COLORREF cr, int nUsed)
     {
         auto ranks = CColorBtnST::s_colorRecency;

@@ -131,7 +131,7 @@ TEST_F(PaintedMixedFont, BoxAndTextStandByTheStylesAndLookAsTheState)
     Open(BS_BOTTOM, WS_EX_TRANSPARENT);
     Picture picture;
     Paint(picture);
-    EXPECT_GT(picture.count(CRect(l + 20, b - h - 2, r, b - 2), kKey), 0)
+    EXPECT_GT(picture.count(CRect(CPoint(l + 20, b - h - 2), m_text), kKey), 0)
         << "a transparent one has no ground";
 }
 
