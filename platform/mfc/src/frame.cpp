@@ -159,9 +159,12 @@ void CFrameWnd::ActivateFrame(int nCmdShow)
         else if (IsIconic())
             nCmdShow = SW_RESTORE;
     }
-    if (nCmdShow != -1)
-        ShowWindow(nCmdShow);
     BringWindowToTop();
+    if (nCmdShow != -1)
+    {
+        ShowWindow(nCmdShow);
+        BringWindowToTop();
+    }
 }
 
 namespace
