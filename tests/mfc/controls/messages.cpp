@@ -191,6 +191,7 @@ TEST(Messages, OfTheCommonControls)
     Images images;
     Recorded<CSpinButtonCtrl> spin;
     Sent(spin.SetBuddy(&window), UDM_SETBUDDY, &window);
+    Sent((spin.SetRange(-7, -5), kNone), UDM_SETRANGE, 0, MAKELPARAM(-5, -7));
     answerNext = MAKELONG(-5, -7);
     spin.GetRange(one, other);
     EXPECT_EQ(one * 10 + other, -75) << "the lower bound is the high word";
@@ -215,6 +216,7 @@ TEST(Messages, OfTheCommonControls)
     Reply(PBRANGE{-7, 70000});
     progress.GetRange(one, other);
     EXPECT_EQ(Told(one, other), "-7,70000");
+    Sent((progress.SetRange32(-7, 70000), kNone), PBM_SETRANGE32, -7, 70000);
     Sent(progress.SetMarquee(TRUE, 4), PBM_SETMARQUEE, TRUE, 4);
 
     Recorded<CHeaderCtrl> header;
@@ -268,6 +270,22 @@ TEST(Messages, OfTheCommonControls)
     const HINSTANCE own = AfxGetInstanceHandle();
     Sent(tools.AddBitmap(2, 9u), TB_ADDBITMAP, 2, TBADDBITMAP{own, 9});
     Sent(tools.AddBitmap(2, &bitmap), TB_ADDBITMAP, 2, TBADDBITMAP{nullptr, UINT_PTR(bitmap.m_hObject)});
+    Sent(tools.EnableButton(3, FALSE), TB_ENABLEBUTTON, 3, FALSE);
+    Sent(tools.CheckButton(3), TB_CHECKBUTTON, 3, TRUE);
+    Sent(tools.HideButton(3), TB_HIDEBUTTON, 3, TRUE);
+    Sent(tools.PressButton(3), TB_PRESSBUTTON, 3, TRUE);
+    Sent(tools.Indeterminate(3), TB_INDETERMINATE, 3, TRUE);
+    Sent(tools.IsButtonEnabled(3), TB_ISBUTTONENABLED, 3);
+    Sent(tools.IsButtonChecked(3), TB_ISBUTTONCHECKED, 3);
+    Sent(tools.IsButtonHidden(3), TB_ISBUTTONHIDDEN, 3);
+    Sent(tools.IsButtonPressed(3), TB_ISBUTTONPRESSED, 3);
+    Sent(tools.IsButtonIndeterminate(3), TB_ISBUTTONINDETERMINATE, 3);
+    Sent(tools.SetButtonInfo(3, &info), TB_SETBUTTONINFO, 3, &info);
+    Sent(tools.CommandToIndex(3), TB_COMMANDTOINDEX, 3);
+    Sent(tools.DeleteButton(3), TB_DELETEBUTTON, 3);
+    Sent(tools.GetItemRect(3, rect), TB_GETITEMRECT, 3, &rect);
+    Sent(tools.HitTest(&rect.TopLeft()), TB_HITTEST, 0, &rect.TopLeft());
+    Sent(tools.GetImageList(), TB_GETIMAGELIST);
     Sent(tools.SetHotImageList(&images), TB_SETHOTIMAGELIST, 0, 0x55);
     Sent(tools.GetDisabledImageList(), TB_GETDISABLEDIMAGELIST);
     Sent((tools.SetOwner(&window), kNone), TB_SETPARENT, &window);
@@ -395,7 +413,8 @@ TEST(Messages, OfTreeControls)
     Recorded<CTreeCtrl> tree;
     Sent(tree.GetImageList(TVSIL_STATE), TVM_GETIMAGELIST, TVSIL_STATE);
     Sent(tree.SetImageList(&images, TVSIL_STATE), TVM_SETIMAGELIST, TVSIL_STATE, 0x55);
-    Sent(tree.GetNextItem(node, TVGN_NEXT), TVM_GETNEXTITEM, TVGN_NEXT, node);
+    Sent(tree.GetNextSiblingItem(node), TVM_GETNEXTITEM, TVGN_NEXT, node);
+    Sent(tree.Expand(node, TVE_EXPAND), TVM_EXPAND, TVE_EXPAND, node);
     Sent(tree.SetInsertMark(node, FALSE), TVM_SETINSERTMARK, FALSE, node);
     Sent(tree.EditLabel(node), TVM_EDITLABEL, 0, node);
     UINT flags = 1;
