@@ -115,6 +115,8 @@ BOOL CWnd::EnableToolTips(BOOL bEnable)
     }
     else if ((m_nFlags & WF_TOOLTIPS) != 0)
     {
+        if (GetThreadState().lastToolWindow == this)
+            CancelToolTips(TRUE);
         ForgetToolTips(*this);
         m_nFlags &= ~WF_TOOLTIPS;
     }
