@@ -120,7 +120,7 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs)
     }
 }
 
-void Press(WORD virtualKey, bool shift, bool control)
+void Press(WORD virtualKey, bool shift, bool control, const std::function<bool()>& worked)
 {
     std::vector<INPUT> down, up;
     for (const auto& [key, pressed] :
@@ -133,7 +133,7 @@ void Press(WORD virtualKey, bool shift, bool control)
 
     // The modifiers stay down until the key has been worked off: handlers ask for them with GetKeyState.
     Send(down);
-    Pump();
+    PumpUntil(worked);
     Send(up);
     Pump();
 }

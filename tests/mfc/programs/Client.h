@@ -42,6 +42,8 @@ public:
         for (int tries = 0; m_process.hProcess == nullptr && tries < 3; ++tries)
             ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
                              &m_process);
+        ::WaitForInputIdle(m_process.hProcess,
+                           20000); // until its window is painted: some controls need that first
     }
     ~Client()
     {
@@ -87,6 +89,13 @@ public:
                 return item;
         return nullptr;
     }
+    bool HasFocus(int id) const
+    {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return ::GetGUIThreadInfo(m_process.dwThreadId, &info) && info.hwndFocus &&
+               info.hwndFocus == Item(id);
+    }
     bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
     bool WaitsFor(int id) const
     {
@@ -114,13 +123,10 @@ public:
     /// Waits until an edit control has the focus and its text is selected: a refused value is to be typed anew.
     void IsToBeRetyped(int id) const
     {
-        const auto isSelected = [this, edit = Item(id)]
+        const auto isSelected = [=, this, edit = Item(id)]
         {
-            GUITHREADINFO info{};
-            info.cbSize = sizeof info;
             const LRESULT length = ::SendMessageW(edit, WM_GETTEXTLENGTH, 0, 0);
-            return ::GetGUIThreadInfo(m_process.dwThreadId, &info) && info.hwndFocus == edit &&
-                   ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
+            return HasFocus(id) && ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
         };
         EXPECT_TRUE(Waits(isSelected)) << id;
     }
