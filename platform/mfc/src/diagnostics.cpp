@@ -4,6 +4,7 @@
 
 #include <cstdarg>
 #include <cstdint>
+#include <cstring>
 
 // ---------------------------------------------------------------------------------------------------------
 // Assertions
@@ -121,7 +122,9 @@ BOOL IsReadableText(const CH* lpsz, int nLength)
                 (pEnd = FindRegionEnd(pLast, dwReadable)) == nullptr)
                 return FALSE;
         }
-        if (*lpsz == 0)
+        CH character;
+        std::memcpy(&character, lpsz, sizeof character); // the address may be odd
+        if (character == 0)
             return TRUE;
     }
 }
