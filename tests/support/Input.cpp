@@ -120,7 +120,7 @@ bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs)
     }
 }
 
-void Press(WORD virtualKey, bool shift, bool control, const std::function<bool()>& worked)
+void Press(WORD virtualKey, bool shift, bool control)
 {
     std::vector<INPUT> down, up;
     for (const auto& [key, pressed] :
@@ -133,7 +133,7 @@ void Press(WORD virtualKey, bool shift, bool control, const std::function<bool()
 
     // The modifiers stay down until the key has been worked off: handlers ask for them with GetKeyState.
     Send(down);
-    PumpUntil(worked);
+    Pump();
     Send(up);
     Pump();
 }

@@ -25,11 +25,8 @@ void Pump();
 /// or a fault comes near to.
 bool PumpUntil(const std::function<bool()>& condition, DWORD timeoutMs = 20000);
 
-/// Presses and releases one key; with `shift` or `control` held around it until `worked`: a program of another
-/// process takes the key in its own time.
-void Press(
-    WORD virtualKey, bool shift = false, bool control = false,
-    const std::function<bool()>& worked = [] { return true; });
+/// Presses and releases one key; with `shift` or `control` held around it.
+void Press(WORD virtualKey, bool shift = false, bool control = false);
 
 /// Types characters as the keyboard sends them: letters, digits, signs, blanks.
 void Type(std::wstring_view text);
