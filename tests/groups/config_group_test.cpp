@@ -114,7 +114,7 @@ protected:
 
     /// Clicks a button, if any, and goes through all the dialogs that this opens. What set and handler were told, and
     /// the rows of the combo box by their initials, the selected one in brackets.
-    std::wstring State(int nId = 0, const std::vector<Visitor>& visitors = {})
+    std::wstring Seen(int nId = 0, const std::vector<Visitor>& visitors = {})
     {
         owtest::ModalVisit visit(visitors);
         if (nId)
@@ -140,16 +140,16 @@ TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
     set.names = {L"Roof", L"Floor"};
     set.current = 1;
     Open(&set, &set);
-    EXPECT_EQ(State(), L" DR[F]");
+    EXPECT_EQ(Seen(), L" DR[F]");
     EXPECT_TRUE(ShowsPicture(idSave) && ShowsPicture(idDelete)) << "their icons";
     Press(idCombo, VK_HOME);
     owtest::Press(VK_DOWN);
-    EXPECT_EQ(State(), L"current -1;told;current 0;told; D[R]F");
+    EXPECT_EQ(Seen(), L"current -1;told;current 0;told; D[R]F");
     set.changed = true;
     group->Refresh();
     (*this)[idAfter].SetFocus();
     group->OnExtComboBoxSelChanged(idCombo, -1);
-    EXPECT_EQ(State(), L"told; DRF") << "no row is no entry";
+    EXPECT_EQ(Seen(), L"told; DRF") << "no row is no entry";
     EXPECT_EQ(::GetFocus(), (*this)[idCombo].m_hWnd);
     group->OnButtonClicked(idAfter); // no button of the group
 }
@@ -178,7 +178,7 @@ TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUser
     {
         set.changed = changed;
         group->Refresh();
-        EXPECT_EQ(State(nId, visitors), state);
+        EXPECT_EQ(Seen(nId, visitors), state);
     }
     const owtest::EnglishTexts english;
     for (const wchar_t* text : {L"Default", L"Snimi", kUnsuitable, kOverwrite, kProtected, kDelete})
@@ -192,13 +192,13 @@ TEST_F(ConfigGroup, BearsASetThatChangesWithoutItAndNoHandlerAndNoSet)
     set.names = {L"Roof", L"Floor", L"Wall"};
     set.current = 2;
     group->Refresh();
-    EXPECT_EQ(State(), L" DR") << "there is no row for the current entry";
-    EXPECT_EQ(State(idDelete, {Answer(kDelete, kYes)}), L"delete 2; DR");
-    EXPECT_EQ(State(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate; DRG") << "entry 2 has no row yet";
+    EXPECT_EQ(Seen(), L" DR") << "there is no row for the current entry";
+    EXPECT_EQ(Seen(idDelete, {Answer(kDelete, kYes)}), L"delete 2; DR");
+    EXPECT_EQ(Seen(idSave, {TypeOver(L"Floor", L"Gate")}), L"store Gate; DRG") << "entry 2 has no row yet";
 
     Open(nullptr, &set);
-    EXPECT_EQ(State(idSave), L" [D]");
-    EXPECT_EQ(State(idDelete), L" [D]");
+    EXPECT_EQ(Seen(idSave), L" [D]");
+    EXPECT_EQ(Seen(idDelete), L" [D]");
     group->OnExtComboBoxSelChanged(idCombo, 0);
-    EXPECT_EQ(State(), L"told; [D]");
+    EXPECT_EQ(Seen(), L"told; [D]");
 }

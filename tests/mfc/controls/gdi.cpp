@@ -7,7 +7,6 @@
 
 #include "../base/Told.h"
 
-#include <source_location>
 #include <tuple>
 #include <utility>
 
@@ -193,13 +192,12 @@ TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
     };
     // Each changes the state, and answers what was before or its success.
     auto was = state(attributes.dc());
-    const auto changes =
-        [&](auto answer, decltype(answer) before, std::source_location here = std::source_location::current())
+    const auto changes = [&](auto answer, decltype(answer) before, int atLine = __builtin_LINE())
     {
         const auto now = state(attributes.dc());
-        EXPECT_EQ(answer, before) << here.line();
-        EXPECT_NE(now, std::exchange(was, now)) << here.line();
-        EXPECT_EQ(state(output.dc()), now) << here.line();
+        EXPECT_EQ(answer, before) << atLine;
+        EXPECT_NE(now, std::exchange(was, now)) << atLine;
+        EXPECT_EQ(state(output.dc()), now) << atLine;
     };
     dc.SetPixel(40, 40, RGB(7, 8, 9));
     EXPECT_NE(output.dc().GetPixel(40, 40), attributes.dc().GetPixel(40, 40));

@@ -8,7 +8,6 @@
 
 #include <array>
 #include <cstring>
-#include <source_location>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -93,24 +92,23 @@ LPARAM Number(const Value& value)
 
 /// Expects the last message; `second` is its parameter, or the structure to which that pointed.
 template <class First = int, class Second = int>
-void Arrived(UINT message, First first = 0, const Second& second = 0,
-             std::source_location here = std::source_location::current())
+void Arrived(UINT message, First first = 0, const Second& second = 0, int atLine = __builtin_LINE())
 {
-    EXPECT_EQ(last.message, message) << here.line();
-    EXPECT_EQ(LPARAM(last.wParam), Number(first)) << here.line();
+    EXPECT_EQ(last.message, message) << atLine;
+    EXPECT_EQ(LPARAM(last.wParam), Number(first)) << atLine;
     if constexpr (std::is_class_v<Second>)
-        EXPECT_EQ(Members(*reinterpret_cast<const Second*>(pointedTo)), Members(second)) << here.line();
+        EXPECT_EQ(Members(*reinterpret_cast<const Second*>(pointedTo)), Members(second)) << atLine;
     else
-        EXPECT_EQ(last.lParam, Number(second)) << here.line();
+        EXPECT_EQ(last.lParam, Number(second)) << atLine;
 }
 
 /// And that its answer is the call's.
 template <class Answer, class First = int, class Second = int>
 void Sent(const Answer& answer, UINT message, First first = 0, const Second& second = 0,
-          std::source_location here = std::source_location::current())
+          int atLine = __builtin_LINE())
 {
-    EXPECT_EQ(Number(answer), kAnswer) << here.line();
-    Arrived(message, first, second, here);
+    EXPECT_EQ(Number(answer), kAnswer) << atLine;
+    Arrived(message, first, second, atLine);
 }
 
 /// What the next message is answered with, beside the number.
@@ -302,8 +300,9 @@ TEST(Messages, OfToolTips)
     CButton button;
     button.Create(L"", WS_CHILD, CRect(), &window, 9);
     Recorded<CToolTipCtrl> tip;
-    TOOLINFO whole = {TTTOOLINFO_V1_SIZE, TTF_IDISHWND, window, UINT_PTR(button.m_hWnd), {}, nullptr, text};
-    TOOLINFO corner = {TTTOOLINFO_V1_SIZE, 0, window, 5, {1, 2, 3, 4}, nullptr, text};
+    TOOLINFO whole = {
+        UINT(TTTOOLINFO_V1_SIZE), TTF_IDISHWND, window, UINT_PTR(button.m_hWnd), {}, nullptr, text};
+    TOOLINFO corner = {UINT(TTTOOLINFO_V1_SIZE), 0, window, 5, {1, 2, 3, 4}, nullptr, text};
     Sent(tip.AddTool(&button, text), TTM_ADDTOOL, 0, whole);
     Sent(tip.AddTool(&window, text, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
     Sent((tip.UpdateTipText(text, &button), kNone), TTM_UPDATETIPTEXT, 0, whole);
@@ -321,7 +320,7 @@ TEST(Messages, OfToolTips)
     EXPECT_FALSE(tip.HitTest(&window, point, &hit));
     Reply(TTHITTESTINFO{window, point, corner});
     EXPECT_TRUE(tip.HitTest(&window, point, &hit));
-    Arrived(TTM_HITTEST, 0, TTHITTESTINFO{window, point, {TTTOOLINFO_V1_SIZE}});
+    Arrived(TTM_HITTEST, 0, TTHITTESTINFO{window, point, {UINT(TTTOOLINFO_V1_SIZE)}});
     EXPECT_EQ(hit.uId, 5u);
     CString told;
     Reply(TOOLINFO{});
