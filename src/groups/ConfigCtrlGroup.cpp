@@ -4,6 +4,7 @@
 
 #include "dialogs/NazivComboDlg.h"
 #include "dialogs/OstrelMessageBox.h"
+#include "module/HasWindow.h"
 
 #include <Translator.h>
 
@@ -88,8 +89,9 @@ void CConfigCtrlGroup::OnExtComboBoxSelChanged(int, int)
     const int nRow = m_combo.GetCurSel();
     if (m_pConfigSet && nRow >= 0)
         m_pConfigSet->SetCurrentConfig(ConfigOf(nRow));
+    const HWND hCombo = m_combo.m_hWnd;
     TellChanged();
-    if (m_combo.m_hWnd)
+    if (gfnHasWindow(&m_combo, hCombo)) // the handler may have closed the dialog
         m_combo.SetFocus();
 }
 
