@@ -125,14 +125,18 @@ void CEditDoubleWithRange::AttachSpin()
         return;
     CRect rect;
     GetClientRect(rect);
-    const HWND hSpin = ::GetDlgItem(::GetParent(m_hWnd), m_spinId.Get());
-    const BOOL bAttached = m_spinId.IsOwn()
-                               ? m_spin.Create(kSpinStyle, rect, GetParent(), m_spinId.Get())
-                               : hSpin && !FromHandlePermanent(hSpin) && m_spin.SubclassWindow(hSpin);
-    if (!bAttached)
-        return;
     if (m_spinId.IsOwn())
+    {
+        if (!m_spin.Create(kSpinStyle, rect, GetParent(), m_spinId.Get()))
+            return;
         PutBehind(m_spin, *this);
+    }
+    else
+    {
+        const HWND hSpin = ::GetDlgItem(::GetParent(m_hWnd), m_spinId.Get());
+        if (!hSpin || FromHandlePermanent(hSpin) || !m_spin.SubclassWindow(hSpin))
+            return;
+    }
     m_spin.SetBuddy(this);
     m_spin.SetRange(kSpinMin, kSpinMax);
     m_spin.SetPos(kSpinPos);
