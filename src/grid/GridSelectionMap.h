@@ -80,9 +80,7 @@ public:
         std::vector<CCellID> cells;
         cells.reserve(m_nCount);
         for (const auto* const pEntry : pages)
-            for (size_t nPlace = 0; nPlace < kPageSize; ++nPlace)
-                if (pEntry->second.used[nPlace])
-                    cells.push_back(pEntry->second.cells[nPlace]);
+            pEntry->second.ForEach([&](const CCellID& cell) { cells.push_back(cell); });
         return cells;
     }
 
@@ -90,13 +88,15 @@ public:
     CCellRange Around(int nRowCount, int nColCount) const
     {
         CCellRange range(nRowCount, nColCount, -1, -1);
-        for (const CCellID& cell : Cells())
-        {
-            range.minRow = std::min(range.minRow, cell.row);
-            range.minCol = std::min(range.minCol, cell.col);
-            range.maxRow = std::max(range.maxRow, cell.row);
-            range.maxCol = std::max(range.maxCol, cell.col);
-        }
+        for (const auto& [nKey, page] : m_pages)
+            page.ForEach(
+                [&](const CCellID& cell)
+                {
+                    range.minRow = std::min(range.minRow, cell.row);
+                    range.minCol = std::min(range.minCol, cell.col);
+                    range.maxRow = std::max(range.maxRow, cell.row);
+                    range.maxCol = std::max(range.maxCol, cell.col);
+                });
         return range;
     }
 
@@ -106,6 +106,14 @@ private:
     {
         std::bitset<kPageSize> used;
         std::array<CCellID, kPageSize> cells;
+
+        template <class Work>
+        void ForEach(Work work) const
+        {
+            for (size_t nPlace = 0; nPlace < kPageSize; ++nPlace)
+                if (used[nPlace])
+                    work(cells[nPlace]);
+        }
     };
 
     using CPages = std::unordered_map<DWORD, SPage>; ///< by the key of their first cell / kPageSize
