@@ -177,7 +177,7 @@ int CColorGrid::FocusColor() const
 
 void CColorGrid::InvalidateSwatch(int nColor)
 {
-    if (m_hWnd)
+    if (m_hWnd && nColor != kNoColor)
         InvalidateRect(Layout().CellRect(nColor), FALSE);
 }
 
