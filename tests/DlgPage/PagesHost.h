@@ -4,17 +4,8 @@
 
 #include <DialogControlsOW.h>
 
-#include "DialogTemplate.h"
-#include "Input.h"
 #include "resource.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
+#include "Testing.h"
 
 /// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain", "Beta after Alpha".
 inline std::vector<std::string> calls;

@@ -2,9 +2,6 @@
 
 #include "PagesHost.h"
 
-#include "Handles.h"
-#include "Picture.h"
-
 #include <DlgPage/GradientFill.h>
 
 namespace

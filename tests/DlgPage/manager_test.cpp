@@ -2,8 +2,6 @@
 
 #include "PagesHost.h"
 
-#include "FatalReport.h"
-
 TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 {
     RecordingClient client("early");

@@ -2,11 +2,6 @@
 
 #include "PagesHost.h"
 
-#include "Handles.h"
-#include "Picture.h"
-
-#include <map>
-
 namespace
 {
 /// A group with its inner questions opened.

@@ -3,7 +3,6 @@
 #include "PagesHost.h"
 
 #include <cstdint>
-#include <memory>
 
 namespace
 {

@@ -2,10 +2,6 @@
 
 #include "PagesHost.h"
 
-#include "Handles.h"
-
-#include <memory>
-
 TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
 {
     constexpr DWORD kStyles =

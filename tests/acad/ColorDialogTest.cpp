@@ -5,12 +5,11 @@
 
 #include "../../platform/acad/src/ColorGridLayout.h"
 #include "../../platform/acad/src/resource.h"
+#include "Testing.h"
 
 #include <Handles.h>
 #include <Input.h>
 #include <ModalVisit.h>
-
-#include <gtest/gtest.h>
 
 using owtest::Press;
 using owtest::Type;

@@ -3,8 +3,7 @@
 #include <aced.h>
 
 #include "../../platform/acad/src/ColorGridLayout.h"
-
-#include <gtest/gtest.h>
+#include "Testing.h"
 
 TEST(ColorIndex, HasItsKnownColors)
 {

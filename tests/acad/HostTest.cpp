@@ -4,9 +4,9 @@
 #include <acdocman.h>
 #include <rxmfcapi.h>
 
-#include <Input.h>
+#include "Testing.h"
 
-#include <gtest/gtest.h>
+#include <Input.h>
 
 TEST(HostFrame, IsMadeHiddenWhenFirstAskedForUnlessTheProgramHasMadeIt)
 {

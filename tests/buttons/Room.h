@@ -3,22 +3,8 @@
 
 #include <DialogControlsOW.h>
 
-#include "DialogTemplate.h"
-#include "Handles.h"
-#include "Input.h"
-#include "MenuVisit.h"
-#include "Picture.h"
 #include "module/GdiScope.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <memory>
-#include <string>
-#include <tuple>
-#include <utility>
-#include <vector>
+#include "Testing.h"
 
 using owtest::Surface;
 

@@ -1,7 +1,5 @@
 // The two colour buttons: number, palette, broken assumptions, and the pop-up in a user's hands.
 
-#include "FatalReport.h"
-#include "ModalVisit.h"
 #include "OtherText.h"
 #include "Room.h"
 

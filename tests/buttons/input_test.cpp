@@ -1,11 +1,8 @@
 // What a user does to buttons, with real mouse and keyboard.
 
-#include "ImportStandIn.h"
 #include "Room.h"
 
 #include <shellapi.h>
-
-#include <random>
 
 namespace
 {

@@ -3,9 +3,6 @@
 
 #include "Room.h"
 
-#include <climits>
-#include <random>
-
 #include <uxtheme.h>
 
 #include <vsstyle.h>

@@ -3,8 +3,6 @@
 
 #include "../grid/GridFixture.h"
 
-#include "Picture.h"
-
 constexpr int kRow = 3, kCol = 2;
 constexpr COLORREF kBack = RGB(255, 240, 200), kText = RGB(10, 20, 200);
 

@@ -2,9 +2,7 @@
 
 #include <DialogControlsOW.h>
 
-#include "Handles.h"
-
-#include <gtest/gtest.h>
+#include "Testing.h"
 
 namespace
 {

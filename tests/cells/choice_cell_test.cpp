@@ -6,10 +6,6 @@
 
 #include <aced.h>
 
-#include "ModalVisit.h"
-
-#include <memory>
-
 // ---- Check ------------------------------------------------------------------------------------------------
 
 class CheckCells : public CellTest

@@ -2,7 +2,6 @@
 
 #include "CellTest.h"
 
-#include "Handles.h"
 #include "SubLanguage.h"
 
 #include <MixedFont.h>

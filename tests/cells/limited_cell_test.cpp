@@ -2,10 +2,9 @@
 
 #include <DialogControlsOW.h>
 
-#include <gtest/gtest.h>
+#include "Testing.h"
 
 #include <cfloat>
-#include <climits>
 #include <clocale>
 #include <limits>
 

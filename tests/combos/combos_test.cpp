@@ -2,21 +2,9 @@
 
 #include <DialogControlsOW.h>
 
-#include "DialogTemplate.h"
-#include "FatalReport.h"
-#include "Handles.h"
-#include "ImportStandIn.h"
-#include "Input.h"
-#include "Picture.h"
+#include "Testing.h"
 
 #include <acdocman.h>
-
-#include <filesystem>
-#include <fstream>
-#include <map>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace
 {

@@ -4,18 +4,10 @@
 #include <DialogControlsOW.h>
 
 #include "EnglishTexts.h"
-#include "Handles.h"
-#include "ModalVisit.h"
 #include "OtherText.h"
-#include "Picture.h"
+#include "Testing.h"
 
 #include <acdocman.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <string>
 
 constexpr int kFirst = IDOK, kSecond = 101, kThird = 102, kFourth = 103, kMessage = 104;
 

@@ -3,9 +3,6 @@
 
 #include "BoxParts.h"
 
-#include <filesystem>
-#include <fstream>
-
 namespace
 {
 // Controls of the name dialogs, and of the system's file dialog

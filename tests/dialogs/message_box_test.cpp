@@ -2,9 +2,6 @@
 
 #include "BoxParts.h"
 
-#include "FatalReport.h"
-#include "ImportStandIn.h"
-
 #include <dialogs/MessageBoxLayout.h>
 
 namespace

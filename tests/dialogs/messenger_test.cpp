@@ -2,13 +2,8 @@
 
 #include "BoxParts.h"
 
-#include "ChildProcess.h"
-#include "ImportStandIn.h"
-
 #include <acadhost.h>
 #include <rxmfcapi.h>
-
-#include <thread>
 
 namespace
 {

@@ -5,9 +5,6 @@
 
 #include <dialogs/ProgressCtrlEx.h>
 
-#include <climits>
-#include <optional>
-
 namespace
 {
 const wchar_t* const kTitle = L"Calculation";

@@ -3,21 +3,10 @@
 
 #include <DialogControlsOW.h>
 
-#include "DialogTemplate.h"
-#include "Handles.h"
-#include "Input.h"
-#include "MenuVisit.h"
 #include "SubLanguage.h"
+#include "Testing.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <limits>
-#include <memory>
-#include <optional>
-#include <string>
-#include <tuple>
-#include <utility>
 
 using owtest::TextOf;
 

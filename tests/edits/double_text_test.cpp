@@ -2,15 +2,10 @@
 
 #include <DialogControlsOW.h>
 
-#include <gtest/gtest.h>
+#include "Testing.h"
 
 #include <cfloat>
-#include <climits>
 #include <clocale>
-#include <cmath>
-#include <random>
-#include <string>
-#include <tuple>
 
 namespace
 {

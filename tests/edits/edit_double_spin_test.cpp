@@ -2,8 +2,6 @@
 
 #include "Boxes.h"
 
-#include <cmath>
-
 namespace
 {
 class SpinBox : public Boxes

@@ -3,9 +3,6 @@
 
 #include "Boxes.h"
 
-#include <climits>
-#include <random>
-
 namespace
 {
 /// What a box holds and shows, by the rules alone.

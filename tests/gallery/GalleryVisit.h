@@ -3,12 +3,7 @@
 
 #include "GalleryDialog.h"
 #include "resource.h"
-
-#include "ModalVisit.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
+#include "Testing.h"
 
 using Visit = std::function<void(CWnd&)>;
 

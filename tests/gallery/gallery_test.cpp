@@ -4,12 +4,6 @@
 
 #include "ComboGalleryDialog.h"
 
-#include "Handles.h"
-#include "Input.h"
-#include "Picture.h"
-
-#include <set>
-#include <string>
 #include <typeinfo>
 
 namespace

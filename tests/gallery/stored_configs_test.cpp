@@ -1,11 +1,7 @@
 // The bolt patterns of the gallery: they outlive the program, with any name, and another window's stay.
 
 #include "StoredConfigs.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
+#include "Testing.h"
 
 namespace
 {

@@ -4,9 +4,7 @@
 
 #include "OtherText.h"
 
-#include <fstream>
 #include <regex>
-#include <sstream>
 
 namespace
 {

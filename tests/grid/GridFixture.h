@@ -3,12 +3,6 @@
 
 #include "GridWindow.h"
 
-#include "Input.h"
-
-#include <gtest/gtest.h>
-
-#include <sstream>
-
 /// A cell that writes down what the grid tells it, as "click 5,3" with the point in the cell.
 class NotedCell : public CGridCell
 {

@@ -1,10 +1,7 @@
 #include "GridModel.h"
 
 #include "GridWindow.h"
-#include "Input.h"
 
-#include <algorithm>
-#include <optional>
 #include <unordered_map>
 
 namespace

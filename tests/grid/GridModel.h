@@ -8,8 +8,7 @@
 #include <DialogControlsOW.h>
 
 #include "../soak/Sequence.h"
-
-#include <memory>
+#include "Testing.h"
 
 struct SequenceOptions
 {

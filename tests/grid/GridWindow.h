@@ -3,11 +3,7 @@
 
 #include <DialogControlsOW.h>
 
-#include <functional>
-#include <map>
-#include <string>
-#include <utility>
-#include <vector>
+#include "Testing.h"
 
 /// A grid whose inner operations a test may call.
 class OpenGrid : public CGridCtrl

@@ -2,11 +2,6 @@
 
 #include "GridFixture.h"
 
-#include "Picture.h"
-
-#include <algorithm>
-#include <random>
-
 class GridDrawing : public GridTest
 {
 protected:

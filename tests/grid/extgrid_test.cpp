@@ -6,8 +6,6 @@
 #include "cells/SubtractiveMix.h"
 #include "grid/ExtGridParts.h"
 
-#include <memory>
-
 namespace
 {
 using Calls = GridParent::Calls;

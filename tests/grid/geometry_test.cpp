@@ -2,8 +2,6 @@
 
 #include "GridFixture.h"
 
-#include <algorithm>
-
 class GridGeometry : public GridTest
 {
 protected:

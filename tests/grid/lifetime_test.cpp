@@ -2,10 +2,6 @@
 
 #include "GridFixture.h"
 
-#include "Handles.h"
-
-#include <memory>
-
 namespace
 {
 /// A grid on the heap, so that a receiver can delete it.

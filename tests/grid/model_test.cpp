@@ -3,8 +3,6 @@
 
 #include "GridModel.h"
 
-#include <gtest/gtest.h>
-
 namespace
 {
 void RunAll(unsigned firstSeed, int seeds, int steps, SequenceOptions options)

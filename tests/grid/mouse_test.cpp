@@ -2,12 +2,6 @@
 
 #include "GridFixture.h"
 
-#include "ModalVisit.h"
-#include "Picture.h"
-
-#include <algorithm>
-#include <memory>
-
 IMPLEMENT_DYNCREATE(NotedCell, CGridCell)
 
 class GridMouse : public GridTest

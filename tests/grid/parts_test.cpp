@@ -3,21 +3,11 @@
 
 #include <DialogControlsOW.h>
 
-#include "ImportStandIn.h"
-
 #include "grid/RowSorter.h"
 #include "grid/TextFields.h"
+#include "Testing.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <atomic>
-#include <functional>
-#include <random>
-#include <string>
-#include <thread>
-#include <utility>
-#include <vector>
 
 // ---- Cells ------------------------------------------------------------------------------------------------
 

@@ -1,14 +1,9 @@
 // Sorting, text files, saved widths, units of columns.
 
 #include "GridWindow.h"
-#include "ModalVisit.h"
 
 #include <Translator.h>
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 #include <iterator>
 
 namespace

@@ -1,10 +1,7 @@
 // Rows, columns, cells: counts, addresses, items, defaults, failures.
 
 #include "GridWindow.h"
-#include "ModalVisit.h"
 #include "resource.h"
-
-#include <gtest/gtest.h>
 
 namespace
 {

@@ -8,14 +8,6 @@
 
 #include "GridWindow.h"
 
-#include <gtest/gtest.h>
-
-#include "Picture.h"
-
-#include <algorithm>
-#include <random>
-#include <sstream>
-
 namespace
 {
 /// What an axis answers, by summing up.

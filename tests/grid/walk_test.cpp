@@ -5,10 +5,6 @@
 
 #include "GridWindow.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 /// 6 rows and 5 columns, the first of each fixed.
 class GridWalk : public ::testing::Test
 {

@@ -3,17 +3,7 @@
 
 #include <DialogControlsOW.h>
 
-#include "DialogTemplate.h"
-#include "Input.h"
-#include "Picture.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <sstream>
-#include <string>
-#include <utility>
-#include <vector>
+#include "Testing.h"
 
 class GroupDialog : public CDialog
 {

@@ -3,10 +3,6 @@
 #include "GroupDialog.h"
 
 #include "EnglishTexts.h"
-#include "ModalVisit.h"
-
-#include <algorithm>
-#include <optional>
 
 using Visitor = owtest::ModalVisit::Visitor;
 

@@ -2,10 +2,6 @@
 
 #include "GroupDialog.h"
 
-#include "ModalVisit.h"
-
-#include <cmath>
-
 namespace
 {
 constexpr WORD idFont = 101, idHeight = 102, idColor = 103, idCheck1 = 104, idCheck2 = 105, idCheck3 = 106,

@@ -2,13 +2,9 @@
 
 #include <DialogControlsOW.h>
 
-#include "FatalReport.h"
+#include "Testing.h"
 
 #include <acdocman.h>
-
-#include <gtest/gtest.h>
-
-#include <vector>
 
 namespace
 {

@@ -3,12 +3,8 @@
 #include <DialogControlsOW.h>
 #include <module/AssertReport.h>
 
-#include "FatalReport.h"
+#include "Testing.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 #include <regex>
 
 namespace fs = std::filesystem;

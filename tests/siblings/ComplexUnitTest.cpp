@@ -4,12 +4,10 @@
 #include <FormatJedinice.h>
 #include <FormatTekstaKote.h>
 
-#include <gtest/gtest.h>
+#include "Testing.h"
 
 #include <bit>
-#include <cmath>
 #include <numbers>
-#include <utility>
 
 namespace
 {

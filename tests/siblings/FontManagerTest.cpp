@@ -3,10 +3,7 @@
 #include <FontManager.h>
 #include <epgFont.h>
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
+#include "Testing.h"
 
 TEST(FontManager, FindsTheInstalledFacesAndTheSHXFilesOfItsDirectories)
 {

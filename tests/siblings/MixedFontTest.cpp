@@ -2,12 +2,10 @@
 
 #include <MixedFont.h>
 
+#include "Testing.h"
+
 #include <Handles.h>
 #include <Picture.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace
 {

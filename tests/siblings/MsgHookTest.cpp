@@ -2,11 +2,7 @@
 
 #include <MsgHook.h>
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <random>
-#include <string>
+#include "Testing.h"
 
 namespace
 {

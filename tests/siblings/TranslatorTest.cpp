@@ -2,13 +2,7 @@
 
 #include <Translator.h>
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
-#include <string>
-#include <tuple>
-#include <vector>
+#include "Testing.h"
 
 namespace
 {

@@ -6,13 +6,8 @@
 
 #include <afxcoll.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <deque>
-#include <functional>
 #include <iterator>
-#include <map>
 
 namespace
 {

@@ -3,7 +3,7 @@
 
 #include <afx.h>
 
-#include <random>
+#include "Testing.h"
 
 class Dice
 {

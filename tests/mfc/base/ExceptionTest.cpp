@@ -7,10 +7,6 @@
 #include <ChildProcess.h>
 #include <ModalVisit.h>
 
-#include <gtest/gtest.h>
-
-#include <cstdio>
-
 namespace
 {
 /// An exception that counts its like.

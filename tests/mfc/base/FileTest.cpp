@@ -4,10 +4,6 @@
 #include "Thrown.h"
 #include "Told.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-
 namespace
 {
 /// Each test has a folder of its own, which goes with it.

@@ -2,9 +2,7 @@
 
 #include <afxcoll.h>
 
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "Testing.h"
 
 class CTestShape : public CObject
 {

@@ -5,12 +5,6 @@
 #include "Told.h"
 #include "resource.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <thread>
-
 TEST(String, CopiesShareTheBufferUntilOneIsReallyChanged)
 {
     CString first(L"shared");

@@ -3,8 +3,7 @@
 
 #include <afx.h>
 
-#include <memory>
-#include <string>
+#include "Testing.h"
 
 inline constexpr char kInvalidArg[] = "CInvalidArgException";
 

@@ -4,8 +4,6 @@
 
 #include <atltime.h>
 
-#include <gtest/gtest.h>
-
 namespace
 {
 constexpr LONG day = 24 * 3600;

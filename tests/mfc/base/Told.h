@@ -3,9 +3,7 @@
 
 #include <atltypes.h>
 
-#include <sstream>
-#include <string>
-#include <utility>
+#include "Testing.h"
 
 template <class... Values>
 std::string Told(const Values&... values)

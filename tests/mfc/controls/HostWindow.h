@@ -3,12 +3,7 @@
 
 #include <afxcmn.h>
 
-#include "ModalVisit.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <vector>
+#include "Testing.h"
 
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
 

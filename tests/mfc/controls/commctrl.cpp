@@ -6,8 +6,6 @@
 
 #include <afxpriv.h>
 
-#include <algorithm>
-
 namespace
 {
 /// A list in report view with two columns and five items.

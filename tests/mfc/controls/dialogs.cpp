@@ -4,11 +4,6 @@
 
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <vector>
-
 namespace
 {
 /// Presses a button of the dialog as soon as it is there, and again as often as the name is refused.

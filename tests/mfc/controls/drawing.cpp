@@ -2,14 +2,7 @@
 
 #include <afxcmn.h>
 
-#include "Picture.h"
-
 #include "../base/Told.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstring>
 
 namespace
 {

@@ -4,14 +4,7 @@
 
 #include <afxext.h>
 
-#include "Input.h"
-#include "Picture.h"
-
 #include "../base/Told.h"
-
-#include <memory>
-#include <string_view>
-#include <vector>
 
 namespace
 {

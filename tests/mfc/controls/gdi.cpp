@@ -2,13 +2,7 @@
 
 #include "HostWindow.h"
 
-#include "Handles.h"
-#include "Picture.h"
-
 #include "../base/Told.h"
-
-#include <tuple>
-#include <utility>
 
 TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
 {

@@ -6,12 +6,6 @@
 
 #include <afxdtctl.h>
 
-#include <array>
-#include <cstring>
-#include <string>
-#include <tuple>
-#include <utility>
-
 namespace
 {
 // What lies between the members of a structure is nobody's.

@@ -12,13 +12,8 @@
 
 #include <afxcmn.h>
 
-#include <gtest/gtest.h>
-
-#include "Input.h"
 #include "clients/resource.h"
-
-#include <functional>
-#include <string>
+#include "Testing.h"
 
 /// Waits for a condition, no longer for long once the test has failed.
 inline bool Waits(const std::function<bool()>& condition)

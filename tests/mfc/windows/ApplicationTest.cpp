@@ -4,12 +4,7 @@
 
 #include <afxpriv.h>
 
-#include "DialogTemplate.h"
-#include "ImportStandIn.h"
 #include "resource.h"
-
-#include <memory>
-#include <vector>
 
 namespace
 {

@@ -4,11 +4,6 @@
 
 #include <afxpriv.h>
 
-#include "DialogTemplate.h"
-#include "Input.h"
-
-#include <vector>
-
 namespace
 {
 constexpr UINT idEdit = 201;

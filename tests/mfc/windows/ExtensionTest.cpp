@@ -3,11 +3,8 @@
 #include <afxcmn.h>
 #include <afxpriv.h>
 
-#include <gtest/gtest.h>
-
-#include <tuple>
-
 #include "resource.h"
+#include "Testing.h"
 
 namespace
 {

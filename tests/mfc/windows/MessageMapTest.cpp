@@ -3,8 +3,6 @@
 #include "MemberNames.h"
 #include "TestWindows.h"
 
-#include <vector>
-
 namespace
 {
 constexpr UINT idTaker = 102;            // an object whose _EX handlers answer TRUE

@@ -5,8 +5,6 @@
 #include <afxdlgs.h>
 #include <afxpriv.h>
 
-#include "DialogTemplate.h"
-#include "ModalVisit.h"
 #include "resource.h"
 
 namespace

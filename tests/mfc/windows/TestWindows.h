@@ -1,14 +1,7 @@
 #pragma once
 // What the tests of this folder share: small windows, and notes of what happened.
 
-#include <afxwin.h>
-
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <optional>
-#include <string>
-#include <utility>
+#include "Testing.h"
 
 /// Notes a word and its numbers, as "size 2 640 480;". Noted answers all notes and begins anew.
 inline std::string s_notes;

@@ -6,8 +6,6 @@
 #include <afxdisp.h>
 #include <afxmt.h>
 
-#include <string_view>
-
 namespace
 {
 constexpr UINT numbered = WM_APP + 7;

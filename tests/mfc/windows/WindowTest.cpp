@@ -2,10 +2,6 @@
 
 #include "TestWindows.h"
 
-#include "Input.h"
-
-#include <thread>
-
 namespace
 {
 /// Notes the stations of a window's life.
