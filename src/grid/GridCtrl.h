@@ -740,9 +740,6 @@ private:
     void OnScroll(EGridWay way, UINT nSBCode);
     void RepaintScrolled(const CRect& rect);
     bool SendScroll(EGridWay way, UINT nSBCode);
-    bool ScrollBySteps(int nRow, int nCol);
-    bool ScrollByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem);
-    bool ScrollCellEndIntoView(const CCellID& cell);
 
     // Drawing
     bool IsPainted(const CCellID& cell, CRect& rect);

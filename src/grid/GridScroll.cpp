@@ -21,7 +21,7 @@ EGridWay WayOf(int nBar)
 }
 } // namespace
 
-/// Stands on the stack of an operation that scrolls many steps: what they uncover is repainted once.
+/// Scrolls to a cell in many steps: what they uncover is repainted once, when this goes.
 class CGridCtrl::CScrollRun
 {
 public:
@@ -42,7 +42,15 @@ public:
 
     void Add(const CRect& rect) { m_rect.UnionRect(&m_rect, &rect); }
 
+    /// False if the window did not outlive what the end of a running edit set off.
+    bool BringIntoView(const CCellID& cell) const { return GoBySteps(cell) && BringEndIntoView(cell); }
+
 private:
+    bool GoBySteps(const CCellID& cell) const;
+    bool GoByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem) const;
+    bool BringEndIntoView(const CCellID& cell) const;
+    bool CutOffAt(EGridWay way, const CRect& rect) const;
+
     CGridCtrl& m_grid;
     const CLifeWatch m_life;
     CScrollRun* m_pOuter;
@@ -214,59 +222,59 @@ void CGridCtrl::EnsureVisible(int nRow, int nCol)
         return;
     const HWND hFocus = ::GetFocus(); // each step ends any edit
     const CScrollRun run(*this);
-    if (!ScrollBySteps(nRow, nCol) || !ScrollCellEndIntoView(CCellID(nRow, nCol)))
-        return;
-    if (::IsWindow(hFocus))
+    if (run.BringIntoView(CCellID(nRow, nCol)) && ::IsWindow(hFocus))
         ::SetFocus(hFocus);
 }
 
 /// Line by line in whole rows and columns, counted from the visible range. Hidden ones use up a step, and so
 /// would those beyond the ends, to which nothing can be scrolled.
-bool CGridCtrl::ScrollBySteps(int nRow, int nCol)
+bool CGridCtrl::CScrollRun::GoBySteps(const CCellID& cell) const
 {
-    const CCellRange visible = GetVisibleNonFixedCellRange();
-    return ScrollByStepsAlong(EGridWay::eColumns, visible.minCol, visible.maxCol, nCol) &&
-           ScrollByStepsAlong(EGridWay::eRows, visible.minRow, visible.maxRow, nRow);
+    const CCellRange visible = m_grid.GetVisibleNonFixedCellRange();
+    return GoByStepsAlong(EGridWay::eColumns, visible.minCol, visible.maxCol, cell.col) &&
+           GoByStepsAlong(EGridWay::eRows, visible.minRow, visible.maxRow, cell.row);
 }
 
-bool CGridCtrl::ScrollByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem)
+bool CGridCtrl::CScrollRun::GoByStepsAlong(EGridWay way, int nFirst, int nLast, int nItem) const
 {
-    const CGridAxis& axis = Axis(way);
+    const CGridAxis& axis = m_grid.Axis(way);
     nItem = std::clamp(nItem, -1, axis.Count());
     for (int nStep = nLast + 1; nStep <= nItem; ++nStep)
-        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINEDOWN))
+        if (axis.IsShown(nStep) && !m_grid.SendScroll(way, SB_LINEDOWN))
             return false;
     for (int nStep = nFirst - 1; nStep >= nItem; --nStep)
-        if (axis.IsShown(nStep) && !SendScroll(way, SB_LINEUP))
+        if (axis.IsShown(nStep) && !m_grid.SendScroll(way, SB_LINEUP))
             return false;
     return true;
 }
 
-/// A cell cut off by the right or bottom edge, as far as its own start stays in view.
-bool CGridCtrl::ScrollCellEndIntoView(const CCellID& cell)
+/// Its end lies beyond the window's edge, and there is room yet to go.
+bool CGridCtrl::CScrollRun::CutOffAt(EGridWay way, const CRect& rect) const
+{
+    return gfnAlong(way, rect.BottomRight()) > gfnAlong(way, m_grid.GetClientSize()) &&
+           gfnAlong(way, rect.TopLeft()) > m_grid.Axis(way).FixedExtent();
+}
+
+/// A cell cut off by the right or bottom edge, as far as its own start stays in view. Sideways only the bar's
+/// end and the headers stop it: the rectangle may stand still for a step and go on.
+bool CGridCtrl::CScrollRun::BringEndIntoView(const CCellID& cell) const
 {
     CRect rect;
-    if (!GetCellRect(cell, &rect))
-        return true;
-    // Sideways only the bar's end and the headers stop it: the rectangle may stand still for a step and go
-    // on.
-    while (rect.right > GetClientSize().cx && rect.left > GetFixedColumnWidth())
+    for (const EGridWay way : kGridWays)
     {
-        const int nPos = m_bars.Pos(EGridWay::eColumns);
-        if (!SendScroll(EGridWay::eColumns, SB_LINEDOWN))
-            return false;
-        if (!GetCellRect(cell, &rect))
+        if (!m_grid.GetCellRect(cell, &rect))
             return true;
-        if (m_bars.Pos(EGridWay::eColumns) == nPos)
-            break;
-    }
-    while (rect.bottom > GetClientSize().cy && rect.top > GetFixedRowHeight())
-    {
-        const CRect rectBefore = rect;
-        if (!SendScroll(EGridWay::eRows, SB_LINEDOWN))
-            return false;
-        if (!GetCellRect(cell, &rect) || rect == rectBefore)
-            return true;
+        while (CutOffAt(way, rect))
+        {
+            const CRect rectBefore = rect;
+            const int nPosBefore = m_grid.m_bars.Pos(way);
+            if (!m_grid.SendScroll(way, SB_LINEDOWN))
+                return false;
+            if (!m_grid.GetCellRect(cell, &rect))
+                return true;
+            if (way == EGridWay::eColumns ? m_grid.m_bars.Pos(way) == nPosBefore : rect == rectBefore)
+                break;
+        }
     }
     return true;
 }
