@@ -40,6 +40,20 @@ INPUT Mouse(DWORD flags, CPoint screen)
     return input;
 }
 
+/// The display repeats a move that a program has made, some time later, as if a hand had moved the mouse: the same
+/// move once more, in the middle of what follows.
+bool IsEcho(const MSG& msg)
+{
+    static HWND s_last = nullptr;
+    static CPoint s_at;
+    if (msg.message < WM_MOUSEFIRST || msg.message > WM_MOUSELAST)
+        return false;
+    const bool again = msg.message == WM_MOUSEMOVE && msg.hwnd == s_last && msg.pt == s_at;
+    s_last = msg.hwnd;
+    s_at = msg.pt;
+    return again;
+}
+
 /// A left click that carries a time of its own: the system tells a double click by the times of its presses.
 std::vector<INPUT> LeftClick(DWORD time)
 {
@@ -91,6 +105,8 @@ void Pump()
     MSG msg;
     while (::PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE))
     {
+        if (IsEcho(msg))
+            continue;
         if (msg.message == WM_QUIT)
         {
             ::PostQuitMessage(static_cast<int>(msg.wParam));
