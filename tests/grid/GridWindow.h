@@ -20,13 +20,21 @@ public:
         CGridCtrl::OnEditCell, CGridCtrl::SetScrollPos32;
 
     std::vector<std::string> scrolls; ///< the scroll messages, as "v1" for one line down
+    CCellID tracked;                  ///< the first of the body where a thumb's move has it repainted
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_VSCROLL || message == WM_HSCROLL)
             scrolls.push_back((message == WM_VSCROLL ? 'v' : 'h') + std::to_string(LOWORD(wParam)));
-        return CGridCtrl::WindowProc(message, wParam, lParam);
+        const LRESULT result = CGridCtrl::WindowProc(message, wParam, lParam);
+        if ((message == WM_VSCROLL || message == WM_HSCROLL) && LOWORD(wParam) == SB_THUMBTRACK &&
+            GetUpdateRect(nullptr))
+        {
+            tracked = GetTopleftNonFixedCell();
+            UpdateWindow();
+        }
+        return result;
     }
 };
 

@@ -32,6 +32,24 @@ TEST_F(GridGeometry, TheGridAsksItsViewWhereItIsScrolledTo)
     EXPECT_EQ(grid.GetCellFromPt(CPoint(30, 5), FALSE), CCellID()) << "there is no body";
 }
 
+TEST_F(GridGeometry, AThumbScrollsWhileItIsDraggedAndStaysWhereItIsReleased)
+{
+    for (const bool rows : {true, false})
+    {
+        SCROLLBARINFO bar{};
+        bar.cbSize = sizeof bar;
+        ASSERT_TRUE(::GetScrollBarInfo(grid, rows ? OBJID_VSCROLL : OBJID_HSCROLL, &bar));
+        const int at = (bar.xyThumbTop + bar.xyThumbBottom) / 2, by = 40;
+        const CPoint thumb = CRect(bar.rcScrollBar).TopLeft() + (rows ? CSize(5, at) : CSize(at, 5));
+        const CCellID before = grid.GetTopleftNonFixedCell();
+        owtest::QueueDrag(thumb, thumb + (rows ? CSize(0, by) : CSize(by, 0)));
+        owtest::Pump();
+        const CCellID after = grid.GetTopleftNonFixedCell();
+        EXPECT_TRUE(rows ? after.row > before.row : after.col > before.col);
+        EXPECT_EQ(grid.tracked, after);
+    }
+}
+
 TEST_F(GridGeometry, TheBarsFollowTheContents)
 {
     const auto bars = [&] { return std::pair(grid.IsVisibleVScroll(), grid.IsVisibleHScroll()); };

@@ -221,6 +221,13 @@ void QueueKey(WORD virtualKey)
     Send({Key(virtualKey, false), Key(virtualKey, true)});
 }
 
+void QueueDrag(CPoint from, CPoint to)
+{
+    constexpr DWORD kMove = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    const std::vector<INPUT> click = LeftClick(TimeOfNextPress());
+    Send({Mouse(kMove, from), click.front(), Mouse(kMove, to), click.back()});
+}
+
 void QueueClick(CPoint screen)
 {
     Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});

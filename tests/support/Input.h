@@ -48,11 +48,13 @@ void DoubleClick(HWND window, CPoint client);
 void ButtonDown(HWND window, CPoint client);
 void ButtonUp();
 
-/// Presses and releases a key, or clicks a point of the screen or the middle of a window, and leaves it in
-/// the queue: for a loop that takes its input itself, as a menu's, or that the program runs itself.
+/// Presses and releases a key, clicks a point of the screen or the middle of a window, or drags from a point of
+/// the screen to another, and leaves it in the queue: for a loop that takes its input itself, as a menu's or a
+/// scroll bar's, or that the program runs itself.
 void QueueKey(WORD virtualKey);
 void QueueClick(CPoint screen);
 void QueueClick(HWND window);
+void QueueDrag(CPoint from, CPoint to);
 
 /// What every test starts from: no key and no button is down, nothing waits in the queue, and the mouse rests in
 /// the far corner of the screen, where no list or menu opens under it.
