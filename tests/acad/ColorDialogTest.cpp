@@ -1,15 +1,10 @@
-// The colour dialog, as a user works it.
+// Colours by index, where the colour dialog puts them, and the dialog as a user works it.
 
-#include <acdocman.h>
 #include <aced.h>
 
 #include "../../platform/acad/src/ColorGridLayout.h"
 #include "../../platform/acad/src/resource.h"
 #include "Testing.h"
-
-#include <Handles.h>
-#include <Input.h>
-#include <ModalVisit.h>
 
 using owtest::Press;
 using owtest::Type;
@@ -87,16 +82,6 @@ TEST_F(ColorDialog, TakesTheSwatchThatWasClicked)
         const CRect cell = Cell(30);
         EXPECT_EQ(Pixel(IDC_COLOR_GRID, cell.TopLeft()), RGB(0, 0, 0)) << "framed";
         EXPECT_EQ(Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 1)), RGB(255, 255, 255));
-        const auto dots = [&]
-        {
-            int found = 0;
-            for (int x = cell.left + 3; x < cell.right - 3; ++x)
-                found += Pixel(IDC_COLOR_GRID, CPoint(x, cell.top + 2)) != RGB(255, 127, 0);
-            return found;
-        };
-        EXPECT_GT(dots(), 0) << "the focus";
-        ::SetFocus(Item(IDC_COLOR_TEXT));
-        EXPECT_EQ(dots(), 0);
         Press(VK_RETURN);
     };
     EXPECT_EQ(Choose(5, enter), Outcome(true, 30));
@@ -125,18 +110,15 @@ TEST_F(ColorDialog, IsWorkedByKeys)
     {
         Type(L"142");
         EXPECT_EQ(::GetFocus(), Item(IDC_COLOR_TEXT)) << "a number typed over the swatches goes to the box";
-        EXPECT_EQ(Text(), L"142");
         EXPECT_EQ(Index(), L"Index color: 142");
         Press(VK_RETURN);
     };
-    for (const bool metaColors : {false, true})
-        EXPECT_EQ(Choose(7, number, metaColors), Outcome(true, 142));
+    EXPECT_EQ(Choose(7, number, true), Outcome(true, 142));
     const auto wrongNumbers = []
     {
         ::SetFocus(Item(IDC_COLOR_TEXT));
         ::SendMessage(Item(IDC_COLOR_TEXT), EM_SETSEL, 0, -1);
-        for (const wchar_t* text :
-             {L"256", L"0", L"byblock"}) // each wrong text is selected, so it is replaced
+        for (const wchar_t* text : {L"256", L"byblock"}) // each wrong text is selected, so it is replaced
         {
             Type(text);
             EXPECT_EQ(Index(), L"");
@@ -203,16 +185,47 @@ TEST_F(ColorDialog, ReadoutFollowsTheMouse)
     EXPECT_EQ(Choose(1, readout), Outcome(false, 1));
 }
 
-TEST_F(ColorDialog, GivesBackWhatItTook)
+TEST(ColorIndex, HasItsKnownColors)
 {
-    const HINSTANCE resources = AfxGetResourceHandle();
-    int gdiObjects[2];
-    for (int& count : gdiObjects) // what the first use sets up stays
+    const std::pair<int, unsigned> cases[] = {
+        // as 0xRRGGBB
+        {1, 0xFF0000},   {2, 0xFFFF00},   {3, 0x00FF00},   {4, 0x00FFFF},   {5, 0x0000FF},   {6, 0xFF00FF},
+        {7, 0xFFFFFF},   {8, 0x808080},   {9, 0xC0C0C0},   {10, 0xFF0000},  {11, 0xFF7F7F},  {12, 0xA50000},
+        {15, 0x7F3F3F},  {19, 0x261313},  {20, 0xFF3F00},  {31, 0xFFBF7F},  {60, 0xBFFF00},  {90, 0x00FF00},
+        {150, 0x007FFF}, {210, 0xFF00FF}, {240, 0xFF003F}, {250, 0x333333}, {251, 0x5B5B5B}, {254, 0xD6D6D6},
+        {255, 0xFFFFFF}, {0, 0xFFFFFF},   {256, 0xFFFFFF}}; // the last two are the foreground
+    for (const auto& [index, color] : cases)
+        EXPECT_EQ(acedGetRGB(index), RGB(color >> 16, color >> 8, color)) << "index " << index;
+    for (const int outside : {-1, 257})
+        EXPECT_EQ(acedGetRGB(outside), CLR_INVALID);
+}
+
+TEST(ColorGrid, EveryColorHasAPlaceOfItsOwn)
+{
+    const CRect client(0, 0, 365, 181); // not a multiple of the cells
+    const ColorGridLayout layout(client.Size());
+    for (int color = 1; color <= 255; ++color)
     {
-        Choose(1, [] { Press(VK_ESCAPE); });
-        count = owtest::CountHandles().gdi;
+        const CRect cell = layout.CellRect(color);
+        EXPECT_EQ(layout.HitTest(cell.CenterPoint()), color);
+        EXPECT_EQ(CRect(cell & client), cell) << color << " lies inside";
     }
-    EXPECT_EQ(gdiObjects[1], gdiObjects[0]);
-    EXPECT_EQ(AfxGetResourceHandle(), resources);
-    EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+    EXPECT_TRUE(layout.CellRect(0).IsRectEmpty() && layout.CellRect(256).IsRectEmpty());
+    EXPECT_EQ(layout.HitTest(CPoint(-1, 0)), kNoColor);
+    EXPECT_EQ(layout.HitTest(layout.CellRect(9).CenterPoint() + CSize(30, 0)), kNoColor) << "in the gap";
+}
+
+TEST(ColorGrid, ArrowsGoToTheNeighbour)
+{
+    constexpr auto sideways = &ColorGridLayout::Sideways, vertically = &ColorGridLayout::Vertically;
+    const std::tuple<int (*)(int, int), int, int, int> cases[] = {
+        {sideways, 10, +1, 20},     {sideways, 10, -1, 10}, // stays at the border
+        {vertically, 10, -1, 12},   {vertically, 10, +1, 11}, {vertically, 18, -1, 18},
+        {sideways, 9, +1, 250}, // over the gap
+        {sideways, 250, -1, 9},     {sideways, 255, +1, 255}, {vertically, 19, +1, 1},
+        {vertically, 249, +1, 255}, {vertically, 119, +1, 9}, // above the gap, nearer to the standard colours
+        {vertically, 179, +1, 250},                           // above the gap, nearer to the greys
+        {vertically, 1, +1, 1}};
+    for (const auto& [arrow, from, step, to] : cases)
+        EXPECT_EQ(arrow(from, step), to) << from;
 }

@@ -49,11 +49,6 @@ inline Icon MakeIcon(int size, COLORREF cr, int frame = 2)
     return MakeIcon(CSize(size, size), Framed(CSize(size, size), 0xFF000000 | PixelOf(cr), 0, frame));
 }
 
-inline bool IsIcon(HICON hIcon)
-{
-    return ::DestroyIcon(::CopyIcon(hIcon));
-}
-
 /// One colour inside, another in a frame. The caller's.
 inline HBITMAP MakeBitmap(CSize size, COLORREF cr, COLORREF crFrame)
 {
@@ -150,7 +145,6 @@ public:
     std::vector<Control> controls; ///< what Open makes; ids count from 1001
     std::string calls;
     HBRUSH hBrush = nullptr;            ///< what it answers reflected buttons that ask for one
-    int erases = 0;                     ///< of its background
     std::function<void()> then = [] {}; ///< at the end of each handler
 
     ~Room() override { DestroyWindow(); }
@@ -191,11 +185,6 @@ public:
     }
 
 protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        erases += message == WM_ERASEBKGND && ::WindowFromDC(reinterpret_cast<HDC>(wParam)) == m_hWnd;
-        return CDialog::WindowProc(message, wParam, lParam);
-    }
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override
     {
         if ((nCode == BN_CLICKED || nCode == BN_DOUBLECLICKED) && !pHandlerInfo)

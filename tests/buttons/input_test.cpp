@@ -1,4 +1,4 @@
-// What a user does to buttons, with real mouse and keyboard.
+// What a user does to buttons, with real mouse and keyboard, and what they pass on to a handler.
 
 #include "Room.h"
 
@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr char kPushClick[] = "told 1001; dialog 1001; ";
+const std::string kPushClick = "told 1001; dialog 1001; ";
 
 class ButtonInput : public InRoom
 {
@@ -21,15 +21,15 @@ protected:
         return owtest::PumpUntil([&] { return button.m_bMouseOnButton == bHover; });
     }
     /// Holds the button until so many commands have been seen; how many there were in the end.
-    int CommandsOfAHold(
-        int nHeldFor, const std::function<void()>& onClick = [] {})
+    int CommandsOfAHold(int nHeldFor, const std::function<void()>& onClick = {})
     {
         int nCommands = 0;
         m_room.then = [&]
         {
-            onClick();
+            if (onClick)
+                onClick();
             if (++nCommands == nHeldFor)
-                SendMouse(MOUSEEVENTF_LEFTUP);
+                ::mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
         };
         owtest::ButtonDown(m_push, CPoint(10, 10));
         if (nCommands < nHeldFor)
@@ -38,15 +38,23 @@ protected:
         EXPECT_FALSE(m_push.m_hWnd && (m_push.GetState() & BST_PUSHED));
         return nCommands;
     }
-    static void SendMouse(DWORD dwFlags)
-    {
-        constexpr LONG kCorner = 0xFFF0; // the far one of the screen
-        INPUT input{INPUT_MOUSE, {{kCorner, kCorner, 0, dwFlags, 0, 0}}};
-        ::SendInput(1, &input, sizeof(input));
-    }
 
     Open<> m_push{&m_room}, m_other{&m_room}, m_ok{&m_room}, m_check{&m_room};
     CExtButton m_ext{&m_room};
+};
+
+/// Buttons of both kinds, with a handler and with none but the dialog itself.
+class ReflectedButtons : public InRoom
+{
+protected:
+    ReflectedButtons()
+    {
+        m_room.controls = {
+            {&m_given}, {&m_own}, {&m_notified, BS_NOTIFY}, {&m_givenST}, {&m_ownST, BS_AUTOCHECKBOX}};
+    }
+    Room m_handler;
+    CButtonReflected m_given{&m_handler}, m_own{nullptr}, m_notified{nullptr};
+    CButtonSTReflected m_givenST{&m_handler}, m_ownST{nullptr};
 };
 } // namespace
 
@@ -54,7 +62,6 @@ TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
 {
     for (int i = 0; i < 4; ++i) // fast ones
         EXPECT_EQ(Click(m_push), kPushClick);
-    EXPECT_EQ(::GetFocus(), m_push.m_hWnd);
     for (const UINT message : {WM_LBUTTONDBLCLK, WM_LBUTTONUP}) // not by way of the message loop
         m_push.SendMessage(message, 0, MAKELPARAM(5, 5));
     EXPECT_EQ(m_room.Take(), kPushClick);
@@ -112,11 +119,11 @@ TEST_F(ButtonInput, AClickOpensTheAddressOfAPushButtonAndNeverThatOfACheckBox)
     const owtest::ImportStandIn noShell(L"DialogControlsOW.dll", "ShellExecuteExW", +noteAddress);
     const std::wstring tooLong(300, L'?');
     for (const LPCWSTR pszUrl : {L"http://x", tooLong.c_str(), LPCWSTR(nullptr)})
-        for (Open<>* pButton : {&m_push, &m_check})
-        {
-            pButton->SetURL(pszUrl);
-            EXPECT_NE(Click(*pButton).find("dialog"), std::string::npos) << "whatever comes of it";
-        }
+    {
+        m_push.SetURL(pszUrl);
+        m_check.SetURL(pszUrl);
+        EXPECT_EQ(Click(m_push) + Click(m_check), kPushClick + "told 1004; dialog 1004; ");
+    }
     EXPECT_EQ(s_opened, L"open http://x\nopen " + tooLong.substr(0, 260) + L'\n')
         << "kept: a text that fills the field has no terminator there";
 }
@@ -129,31 +136,26 @@ TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonMovesWithTheFocus
     m_push.SetFocus();
     for (const WORD nKey : {VK_SPACE, VK_RETURN})
         EXPECT_EQ(Press(nKey), kPushClick);
-    m_push.SendMessage(WM_KEYDOWN, VK_F1);
     m_push.SetKbdSensitive(FALSE);
     m_push.SendMessage(BM_SETSTYLE, BS_PUSHBUTTON);
     EXPECT_EQ(Press(VK_RETURN), "told 1003; dialog 1003; ") << "the dialog takes it";
     m_push.SendMessage(WM_KEYDOWN, VK_RETURN);
     EXPECT_EQ(m_room.Take(), kPushClick) << "of Enter alone";
 
-    for (const auto& [bShift, pNow, pBefore] :
-         {std::tuple(false, &m_other, &m_push), {true, &m_push, &m_other}})
-    {
-        owtest::Press(VK_TAB, bShift);
-        EXPECT_TRUE(owtest::PumpUntil([&, pButton = pNow] { return ::GetFocus() == pButton->m_hWnd; }));
-        EXPECT_TRUE(pNow->GetDefault() && !pBefore->GetDefault() && !m_ok.GetDefault());
-        EXPECT_EQ(pNow->GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
-    }
+    owtest::Press(VK_TAB);
+    EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_other.m_hWnd; }));
+    EXPECT_TRUE(m_other.GetDefault() && !m_push.GetDefault() && !m_ok.GetDefault());
+    EXPECT_EQ(m_other.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
 }
 
 TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAway)
 {
     const std::tuple<UINT, WPARAM, bool> messages[] = {
         // and whether they end it
-        {WM_KILLFOCUS, 0, true},  {WM_CANCELMODE, 0, true},      {WM_ACTIVATE, WA_INACTIVE, true},
-        {WM_ENABLE, FALSE, true}, {WM_MOUSELEAVE, 0, true},      {WM_ACTIVATE, WA_ACTIVE, false},
-        {WM_ENABLE, TRUE, false}, {WM_MOUSEMOVE, 0, false},      {WM_ACTIVATE, WA_CLICKACTIVE, false},
-        {WM_MOUSEMOVE, 0, false}, {WM_CAPTURECHANGED, 0, false}, {WM_MOUSEMOVE, MK_LBUTTON, false}};
+        {WM_KILLFOCUS, 0, true},  {WM_CANCELMODE, 0, true},     {WM_ACTIVATE, WA_INACTIVE, true},
+        {WM_ENABLE, FALSE, true}, {WM_MOUSELEAVE, 0, true},     {WM_ACTIVATE, WA_ACTIVE, false},
+        {WM_ENABLE, TRUE, false}, {WM_MOUSEMOVE, 0, false},     {WM_MOUSEMOVE, MK_LBUTTON, false},
+        {WM_MOUSEMOVE, 0, false}, {WM_CAPTURECHANGED, 0, false}};
     std::mt19937 random(1);
     bool bHovers = false;
     for (int i = 0; i < 400 && !HasFailure(); ++i)
@@ -192,17 +194,20 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAw
 
 TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheButtonCannotBeUsed)
 {
+    static DWORD s_slept = 0;
+    const auto sleep = [](DWORD nPeriod) { ::Sleep(nPeriod), s_slept += nPeriod; };
+    const owtest::ImportStandIn sleeping(L"DialogControlsOW.dll", "Sleep", +sleep);
     m_push.SetAutoRepeat(2, 20);
     EXPECT_EQ(Click(m_push), kPushClick) << "an ordinary click";
     m_push.SetAutoRepeat(1, 20);
     EXPECT_EQ(Click(m_push), "") << "the release waits already";
     m_push.SetFlat(FALSE);
-    EXPECT_EQ(CommandsOfAHold(1), 2) << "one cycle";
     EXPECT_EQ(CommandsOfAHold(5), 6);
+    EXPECT_EQ(s_slept, 5 * 20u) << "the last command is there for the even number";
     EXPECT_EQ(CommandsOfAHold(6), 6);
     EXPECT_EQ(CommandsOfAHold(3, [] { ::ReleaseCapture(); }), 4);
     m_push.SetFlat(TRUE);
-    EXPECT_EQ(CommandsOfAHold(3, [] { SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE); }), 4);
+    EXPECT_EQ(CommandsOfAHold(3, [] { ::SetCursorPos(0, 0); }), 4);
 
     owtest::MoveTo(m_push, CPoint(10, 10));
     m_room.then = [&] { m_push.SendMessage(WM_MOUSELEAVE), m_push.PostMessage(WM_LBUTTONUP); };
@@ -210,8 +215,7 @@ TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheBut
     EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
 
     constexpr int kNever = 100;
-    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2)
-        << "an even number all the same";
+    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2);
     m_push.EnableWindow();
     EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.ShowWindow(SW_HIDE); }), 2);
     m_push.ShowWindow(SW_SHOW);
@@ -221,9 +225,6 @@ TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheBut
 TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGiven)
 {
     auto& tip = m_push.m_toolTip;
-    MSG msg{m_push, WM_NULL, 0, 0, 0, {}};
-    m_push.PreTranslateMessage(&msg);
-    m_push.ActivateTooltip(TRUE); // there is no text
     m_push.SetTooltipText(_T("first"), FALSE);
     m_push.SetTooltipText(IDS_TEXT);
     m_push.SetTooltipText(31999); // no such string
@@ -248,12 +249,50 @@ TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGi
     const owtest::HandleCount before = owtest::CountHandles();
     for (const auto& [nId, result] : {std::pair(31999, 1u), {0, 0u}})
     {
-        EXPECT_TRUE(showsArrow());
-        m_push.SetBtnCursor(IDC_CROSSHAIR);
         EXPECT_EQ(m_push.SetBtnCursor(IDC_CROSSHAIR), 0u);
         EXPECT_FALSE(showsArrow());
-        EXPECT_EQ(m_push.SetBtnCursor(nId), result) << "and the former cursor is gone";
+        EXPECT_EQ(m_push.SetBtnCursor(nId), result);
+        EXPECT_TRUE(showsArrow()) << "the former cursor is gone";
     }
-    EXPECT_TRUE(showsArrow());
     EXPECT_EQ(owtest::CountHandles(), before);
+}
+
+TEST_F(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
+{
+    for (const Room::Control& control : m_room.controls)
+    {
+        owtest::DoubleClick(*control.pControl, CPoint(5, 5));
+        owtest::Press(VK_SPACE);
+    }
+    EXPECT_EQ(m_handler.Take(),
+              "clicked 1001; clicked 1001; clicked 1001; clicked 1004; clicked 1004; clicked 1004; ");
+    EXPECT_EQ(m_room.Take(), "clicked 1002; clicked 1002; clicked 1002; "
+                             "clicked 1003; twice 1003; clicked 1003; " // not one that paints itself
+                             "clicked 1005; clicked 1005; clicked 1005; ");
+    m_own.SetFocus();
+    ClickByProgram(m_ownST);
+    EXPECT_EQ(m_room.Take(), "clicked 1005; ");
+    EXPECT_TRUE(m_ownST.GetCheck() == 0 && ::GetFocus() == m_own.m_hWnd) << "it does nothing of its own";
+    const Lone<CButtonReflected> lone(CSize(9, 9));
+    ClickByProgram(lone.button);
+}
+
+TEST_F(ReflectedButtons, AskForABrushOrElseTakeTheParentsAndTellThatTheirWindowComesAndGoes)
+{
+    CBrush brush(kGreen);
+    m_handler.hBrush = brush;
+    const Lone<CButtonSTReflected> lone(CSize(9, 9));
+    for (const CWnd* pButton :
+         std::initializer_list<const CWnd*>{&m_given, &m_own, &m_givenST, &m_ownST, &lone.button})
+    {
+        CClientDC dc(pButton->GetParent());
+        const LRESULT hAnswer = pButton->GetParent()->SendMessage(
+            WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(pButton->m_hWnd));
+        const bool bGiven = pButton == &m_given || pButton == &m_givenST;
+        EXPECT_EQ(reinterpret_cast<HBRUSH>(hAnswer), bGiven ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
+    }
+    m_given.UnsubclassWindow();
+    ASSERT_TRUE(m_given.Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &m_room, 1005));
+    m_given.DestroyWindow();
+    EXPECT_EQ(m_handler.Take(), "created 1005; destroyed 1005; ");
 }

@@ -15,21 +15,23 @@ constexpr COLORREF kTextIn = RGB(0, 0, 200), kTextOut = RGB(0, 100, 0), kTextFoc
 constexpr COLORREF kSecond = RGB(60, 0, 0); ///< colour of the second image; the first one's is red
 constexpr UINT kTitle = DT_WORDBREAK | DT_CENTER;
 const CSize kSize(100, 41);
-const CSize kDropSizes[] = {{80, 30}, {80, 31}, {50, 22}, {59, 27}, {41, 17},
-                            {48, 24}, {20, 30}, {19, 30}, {80, 10}, {12, 6}};
+const CSize kDropSizes[] = {{80, 30}, {80, 31}, {59, 27}, {41, 17}, {20, 30}, {19, 30}, {80, 10}, {12, 6}};
 const LPCTSTR kTitles[] = {L"", L"HHHH", L"HHHHHH HHHHHH HHHHHH"};
 
-constexpr int kIcon = 1,
-              kBitmap = 3; ///< images; a large icon, of which the button shows the middle, is between them
+constexpr int kBitmap = 3; ///< images; an icon, and a large one of which the middle shows, stand before it
 const CSize kImageSizes[] = {{0, 0}, {16, 16}, {120, 120}, {20, 11}};
 
 struct Look;
 /// What a class adds in the area beside the arrow.
 using Draw = std::function<void(CDC&, const Look&, const CRect& area, COLORREF crFace)>;
 
-COLORREF Shadow()
+const COLORREF kShadow = ::GetSysColor(COLOR_BTNSHADOW), kLight = ::GetSysColor(COLOR_BTNHIGHLIGHT);
+
+int s_themes = 0; ///< that are open
+FARPROC CountThemes(HMODULE hModule, LPCSTR pszName)
 {
-    return ::GetSysColor(COLOR_BTNSHADOW);
+    s_themes += !strcmp(pszName, "OpenThemeData") - !strcmp(pszName, "CloseThemeData");
+    return ::GetProcAddress(hModule, pszName);
 }
 
 /// What a colour of a disabled icon becomes.
@@ -43,7 +45,7 @@ COLORREF Greyed(COLORREF cr)
 void DrawArrow(CDC& dc, const CRect& face, bool bDisabled)
 {
     const int right = face.right, middle = face.bottom / 2;
-    const COLORREF cr = bDisabled ? Shadow() : kBlack;
+    const COLORREF cr = bDisabled ? kShadow : kBlack;
     dc.FillSolidRect(right - 10, middle - 1, 5, 1, cr);
     dc.FillSolidRect(right - 9, middle, 3, 1, cr);
     for (const int step : bDisabled ? std::vector{0, 1, 2} : std::vector{2})
@@ -76,14 +78,13 @@ struct Look
     template <class Button>
     void Dress(Open<Button>& button) const
     {
-        static const Icon icons[][2] = {{MakeIcon(16, kRed), MakeIcon(16, kSecond)},
-                                        {MakeIcon(120, kRed), MakeIcon(120, kSecond)}};
         const auto make = [](COLORREF cr) { return MakeBitmap(kImageSizes[kBitmap], cr, kKey); };
+        static const Icon first[] = {MakeIcon(16, kRed), MakeIcon(120, kRed)};
+        static const Icon second[] = {MakeIcon(16, kSecond), MakeIcon(120, kSecond)};
         if (image == kBitmap)
             button.SetBitmaps(make(kRed), kKey, bSecondImage ? make(kSecond) : nullptr, kKey);
         else if (image)
-            button.SetIcon(icons[image - kIcon][0].get(),
-                           bSecondImage ? icons[image - kIcon][1].get() : nullptr);
+            button.SetIcon(first[image - 1].get(), bSecondImage ? second[image - 1].get() : nullptr);
         button.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
         button.SetWindowText(pszTitle);
         button.SetThemeHelper(bThemed ? CButtonST::pLocalTheme : nullptr);
@@ -148,13 +149,12 @@ struct Look
     }
     void PaintBorder(CDC& dc, CRect face) const
     {
-        const COLORREF light = ::GetSysColor(COLOR_BTNHIGHLIGHT), shadow = Shadow();
         if (!bFlat && !bLooksPressed)
             dc.DrawEdge(face, EDGE_RAISED, BF_RECT | BF_SOFT);
         else if (!bFlat)
-            dc.Draw3dRect(face, shadow, shadow);
+            dc.Draw3dRect(face, kShadow, kShadow);
         else if (bBorder && (bLooksPressed || bHover))
-            dc.Draw3dRect(face, bLooksPressed ? shadow : light, bLooksPressed ? light : shadow);
+            dc.Draw3dRect(face, bLooksPressed ? kShadow : kLight, bLooksPressed ? kLight : kShadow);
     }
     /// The image is one colour in a transparent frame. What is left for the title.
     CRect PaintImage(CDC& dc) const
@@ -178,8 +178,8 @@ struct Look
         inside.DeflateRect(2, 2);
         const bool bEngraved = bDisabled && bEngraves && image == kBitmap;
         if (bEngraved)
-            dc.FillSolidRect(inside + CPoint(1, 1), ::GetSysColor(COLOR_BTNHIGHLIGHT));
-        dc.FillSolidRect(inside, bEngraved ? Shadow() : bFirst ? kRed : kSecond);
+            dc.FillSolidRect(inside + CPoint(1, 1), kLight);
+        dc.FillSolidRect(inside, bEngraved ? kShadow : bFirst ? kRed : kSecond);
         const COLORREF corner = dc.GetPixel(rect.TopLeft()); // kept: it counts as background, and stays
         for (int i = 0; bDisabled && image != kBitmap && i < extent.cx * extent.cy; ++i)
         {
@@ -195,10 +195,9 @@ struct Look
         dc.DrawText(pszTitle, -1, rect, kTitle | DT_CALCRECT);
         rect.OffsetRect((room.Width() - rect.Width()) / 2, (room.Height() - rect.Height()) / 2);
         dc.SetBkMode(TRANSPARENT);
-        dc.SetTextColor(bDisabled ? ::GetSysColor(COLOR_BTNHIGHLIGHT)
-                                  : ByState(kTextIn, kTextFocus, kTextOut));
+        dc.SetTextColor(bDisabled ? kLight : ByState(kTextIn, kTextFocus, kTextOut));
         dc.DrawText(pszTitle, -1, rect + CPoint(bDisabled, bDisabled), kTitle);
-        dc.SetTextColor(Shadow());
+        dc.SetTextColor(kShadow);
         if (bDisabled)
             dc.DrawText(pszTitle, -1, rect, kTitle);
     }
@@ -214,6 +213,7 @@ void ExpectLooks(
     const int nLooks = bDrops ? 60 : 300;
     std::mt19937 random(1);
     Lone<Open<Button>> push(kSize), box(kSize, L"", BS_AUTOCHECKBOX);
+    const owtest::ImportStandIn themes(L"DialogControlsOW.dll", "GetProcAddress", &CountThemes);
     owtest::HandleCount before;
     for (int i = 0; i < nLooks; ++i)
     {
@@ -229,65 +229,48 @@ void ExpectLooks(
         button.SetIcon(static_cast<HICON>(nullptr)); // gives its image back
     }
     EXPECT_EQ(owtest::CountHandles(), before);
+    EXPECT_EQ(s_themes, 0);
 }
 } // namespace
 
 TEST(ButtonPaint, IsThatOfTheModelInEveryState)
 {
     ExpectLooks<CButtonST>();
+    ExpectLooks<CTextBtnST>(); // has the arrow alone
 }
 
 TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGives)
 {
-    CWnd parent;
-    parent.CreateEx(WS_EX_TOPMOST, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE,
-                    CRect(40, 40, 240, 140), nullptr, 0);
-    Open button;
-    button.Create(L"", WS_CHILD, CRect(CPoint(10, 10), kSize), &parent, 1); // hidden: what is behind shows
+    Lone<Open<>> lone(kSize);
+    Open<>& button = lone.button;
+    lone.parent.SetWindowPos(&CWnd::wndTopMost, 40, 40, 600, 200, SWP_SHOWWINDOW);
+    button.ShowWindow(SW_HIDE); // what is behind shows
     Surface given(300, 200);
-    CClientDC dcParent(&parent);
+    CClientDC dcParent(&lone.parent);
     EXPECT_EQ(button.SetBk(&given.dc()), 5u) << "needs DrawTransparent";
     const auto drawBehind = [&](CDC& dc, COLORREF cr)
     {
-        dc.FillSolidRect(0, 0, 300, 200, cr);
-        dc.FillSolidRect(10, 10, 1, 1, kRed); // the button's place
+        dc.FillSolidRect(0, 0, 300, 200, kRed);
+        dc.FillSolidRect(CRect(CPoint(10, 10), kSize), cr);
     };
     const auto expectBehind = [&](COLORREF cr)
     {
         Surface surface(kSize.cx, kSize.cy);
         PaintButton(button, surface);
-        EXPECT_EQ(surface.at(0, 0), kRed);
-        EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), cr), kSize.cx * kSize.cy - 1);
+        EXPECT_EQ(surface.count(CRect(CPoint(0, 0), kSize), cr), kSize.cx * kSize.cy);
     };
-    for (const COLORREF cr : {kGreen, kBlue})
-        for (CDC* const pDC : {static_cast<CDC*>(&dcParent), &given.dc()})
-        {
-            drawBehind(*pDC, cr);
-            button.DrawTransparent();
-            EXPECT_EQ(button.SetBk(nullptr), 5u);
-            EXPECT_EQ(pDC == &dcParent ? 0u : button.SetBk(pDC), 0u);
-            expectBehind(cr);
-            drawBehind(*pDC, kWhite);
-            expectBehind(cr); // a copy, made once
-        }
+    for (CDC* const pDC : {static_cast<CDC*>(&dcParent), &given.dc(), static_cast<CDC*>(&dcParent)})
+    {
+        drawBehind(*pDC, kGreen);
+        button.DrawTransparent();
+        EXPECT_EQ(button.SetBk(nullptr), 5u);
+        EXPECT_EQ(pDC == &dcParent ? 0u : button.SetBk(pDC), 0u);
+        expectBehind(kGreen);
+        drawBehind(*pDC, kWhite);
+        expectBehind(kGreen); // a copy, made once
+    }
     button.SendMessage(WM_SYSCOLORCHANGE);
     expectBehind(kWhite);
-    parent.DestroyWindow();
-}
-
-/// In the middle, cut off at the area; the white of one bit takes on the face.
-static void DrawPicture(CDC& dc, const CRect& area, HBITMAP hPicture, COLORREF crFace)
-{
-    BITMAP info{};
-    ::GetObject(hPicture, sizeof(info), &info);
-    CDC dcPicture;
-    dcPicture.CreateCompatibleDC(&dc);
-    const CGdiSelection picture(dcPicture, hPicture);
-    const CSavedDC saved(dc);
-    dc.SetBkColor(crFace);
-    dc.IntersectClipRect(area);
-    dc.BitBlt(area.left + (area.Width() - info.bmWidth) / 2, area.top + (area.Height() - info.bmHeight) / 2,
-              info.bmWidth, info.bmHeight, &dcPicture, 0, 0, SRCCOPY);
 }
 
 TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
@@ -301,13 +284,24 @@ TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
         pixels.push_back(PixelOf(RGB(i % 31, i / 31, 200)));
     places.CreateBitmap(31, 12, 1, 32, pixels.data());
     handles[0] = places;
-    handles[1] = nullptr;                                 // is missing
-    for (int index : {0, 1, 2, 10, -1, INT_MAX, INT_MIN}) // the last four are none
+    handles[1] = nullptr;               // is missing
+    for (int index : {0, 1, 2, 10, -1}) // the last two are none
     {
+        // In the middle, cut off at the area; the white of one bit takes on the face.
         const Draw draw = [&](CDC& dc, const Look& look, const CRect& area, COLORREF crFace)
         {
-            if (!look.bDisabled && (index == 0 || index == 2))
-                DrawPicture(dc, area, handles[index], crFace);
+            BITMAP info{};
+            if (look.bDisabled || index < 0 || index > 2 || !::GetObject(handles[index], sizeof(info), &info))
+                return;
+            CDC dcPicture;
+            dcPicture.CreateCompatibleDC(&dc);
+            const CGdiSelection picture(dcPicture, handles[index]);
+            const CSavedDC saved(dc);
+            dc.SetBkColor(crFace);
+            dc.IntersectClipRect(area);
+            const CSize room = area.Size() - CSize(info.bmWidth, info.bmHeight);
+            dc.BitBlt(area.left + room.cx / 2, area.top + room.cy / 2, info.bmWidth, info.bmHeight,
+                      &dcPicture, 0, 0, SRCCOPY);
         };
         ExpectLooks<Picker>([&](Picker& picker) { picker.SetEnumSource(&index); }, draw);
     }
@@ -320,54 +314,32 @@ TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
     lone.button.SetEnumSource(&nOneBit);
     Surface whole(80, 30), part(80, 30);
     PaintButton(lone.button, whole);
-    part.dc().BitBlt(0, 0, 80, 30, &whole.dc(), 0, 0, SRCCOPY);
-    part.dc().FillSolidRect(0, 0, 22, 30, kKey);
     part.dc().IntersectClipRect(0, 0, 22, 30); // without the middle
     PaintButton(lone.button, part);
+    part.dc().SelectClipRgn(nullptr);
+    part.dc().BitBlt(22, 0, 58, 30, &whole.dc(), 22, 0, SRCCOPY);
     EXPECT_TRUE(part == whole);
 }
 
 TEST(DropFaces, OfColorButtonsHaveASwatchOrAnEmptyFrame)
 {
-    DWORD color = RGB(1, 2, 3);
-    const Draw drawRgb = [&](CDC& dc, const Look& look, const CRect& area, COLORREF)
+    const auto swatch = [](COLORREF cr, bool bEngraves) -> Draw
     {
-        if (look.bDisabled)
-            return;
-        dc.FillSolidRect(area, color);
-        dc.Draw3dRect(area, kBlack, kBlack);
-    };
-    ExpectLooks<CColorBtnST>([&](CColorBtnST& button) { button.SetColorSource(&color); }, drawRgb);
-    for (int index : {30, 999}) // the second is no colour
-    {
-        const Draw drawAcad = [&](CDC& dc, const Look& look, const CRect& area, COLORREF)
+        return [=](CDC& dc, const Look& look, const CRect& area, COLORREF)
         {
-            const COLORREF frame = look.bDisabled ? Shadow() : kBlack;
+            if (look.bDisabled && !bEngraves)
+                return;
             if (look.bDisabled)
                 dc.Draw3dRect(area + CPoint(1, 1), kWhite, kWhite);
-            else if (index == 30)
-                dc.FillSolidRect(area, RGB(255, 127, 0));
-            dc.Draw3dRect(area, frame, frame);
+            else if (cr != CLR_NONE)
+                dc.FillSolidRect(area, cr);
+            dc.Draw3dRect(area, look.bDisabled ? kShadow : kBlack, look.bDisabled ? kShadow : kBlack);
         };
+    };
+    DWORD color = RGB(1, 2, 3);
+    ExpectLooks<CColorBtnST>([&](CColorBtnST& button) { button.SetColorSource(&color); },
+                             swatch(color, false));
+    for (int index : {30, 999}) // the second is no colour
         ExpectLooks<CAcadColorBtnST>([&](CAcadColorBtnST& button) { button.SetColorSource(&index); },
-                                     drawAcad);
-    }
-}
-
-TEST(DropFaces, OfTextButtonsHaveTheArrowAloneAndMeasureTextsBesideIt)
-{
-    ExpectLooks<CTextBtnST>();
-    struct Hooks : CTextBtnST
-    {
-        using CTextBtnST::DrawItemHook_CalcRect, CTextBtnST::DrawItemHook_DrawText;
-    } hooks;
-    const CString strText(L"HHHHHH HHHHHH");
-    Surface ours(60, 40), expected(60, 40);
-    CRect rect(6, 2, 58, 9), expectedRect(rect);
-    expected.dc().DrawText(strText, expectedRect, kTitle | DT_CALCRECT);
-    expectedRect.OffsetRect(-4, 0);
-    expected.dc().DrawText(strText, expectedRect, kTitle);
-    hooks.DrawItemHook_CalcRect(&ours.dc(), strText, rect);
-    hooks.DrawItemHook_DrawText(&ours.dc(), strText, rect);
-    EXPECT_TRUE(rect == expectedRect && ours == expected);
+                                     swatch(index == 30 ? RGB(255, 127, 0) : CLR_NONE, true));
 }

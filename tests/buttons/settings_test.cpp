@@ -1,11 +1,37 @@
-// What a button can be told, and what it answers.
+// What a button can be told, and what it answers: settings, and images, who owns them and what a failure leaves.
 
 #include "Room.h"
 
 namespace
 {
-constexpr COLORREF kColor = RGB(240, 10, 10);
+constexpr COLORREF kColor = RGB(200, 100, 50);
+constexpr COLORREF kGrey = RGB(124, 124, 124); // 0.299 of 200, 0.587 of 100 and 0.114 of 50
+constexpr COLORREF kDarker = RGB(150, 75, 37);
+constexpr int kNoResource = 31999;
 const CSize kSize(40, 20);
+
+template <class Handle>
+Handle As(LONG_PTR value)
+{
+    return reinterpret_cast<Handle>(value);
+}
+
+HBITMAP Make(CSize size = CSize(16, 16))
+{
+    return MakeBitmap(size, kColor, kWhite);
+}
+bool HasImages(const Open<>& button)
+{
+    return std::ranges::any_of(button.m_icons, [](const auto& icon) { return icon.hIcon; }) ||
+           std::ranges::any_of(button.m_bitmaps, [](const auto& b) { return b.hBitmap || b.hMask; });
+}
+
+/// The colours of a 16 by 16 bitmap in its frame and in its middle.
+std::pair<DWORD, DWORD> ColorsOf(HBITMAP hBitmap)
+{
+    const Pixels pixels = PixelsOf(hBitmap);
+    return {pixels[0] & kWhite, pixels[8 * 16 + 8] & kWhite};
+}
 
 /// A system without visual styles: the library did not load.
 struct NoThemeHelper : CThemeHelperST
@@ -54,18 +80,14 @@ TEST(ButtonSettings, MayBeMadeWithoutAWindowAnswerABadValueWithItsCodeAndShiftCo
                                                {3, button.OffsetColor(6, 1)},
                                                {3, button.GetColor(6, &cr)},
                                                {5, button.OffsetColor(0, 256)},
-                                               {5, button.OffsetColor(0, -256)},
                                                {5, button.GetColor(0, nullptr)},
                                                {0, button.SetIcon(CButtonST::hIconOk)}};
     for (const auto& [expected, result] : results)
         EXPECT_EQ(result, expected);
     EXPECT_TRUE(button.GetAlign() == CButtonST::alignNone && cr == kColor);
-    EXPECT_EQ(CButtonST::GetVersionI(), 12);
     // Invalidating no window would mean all windows.
-    button.SetTooltipText(L"tip");
     button.SetTooltipText(IDS_TEXT);
     button.ActivateTooltip(TRUE);
-    EXPECT_EQ(button.m_toolTip.m_hWnd, nullptr);
     button.DrawTransparent();
     EXPECT_EQ(button.SetBk(&dc), 5u);
     button.SizeToContent();
@@ -73,9 +95,8 @@ TEST(ButtonSettings, MayBeMadeWithoutAWindowAnswerABadValueWithItsCodeAndShiftCo
 
     using Row = std::tuple<COLORREF, short, COLORREF>; // before, shade, after
     for (const auto& [before, nShade, after] :
-         {Row{kColor, 40, RGB(255, 25, 25)}, Row{kColor, 5, RGB(245, 15, 15)},
-          Row{kColor, -255, RGB(230, 0, 0)}, Row{RGB(30, 20, 10), -5, RGB(25, 15, 5)},
-          Row{RGB(10, 20, 240), 255, RGB(25, 35, 255)}, Row{kBlack, 255, kWhite}, Row{kWhite, -255, kBlack}})
+         {Row{kColor, 60, RGB(255, 155, 105)}, Row{kColor, -255, RGB(150, 50, 0)},
+          Row{RGB(30, 20, 10), -5, RGB(25, 15, 5)}, Row{kBlack, 255, kWhite}, Row{kWhite, -255, kBlack}})
     {
         button.SetColor(CButtonST::colorBackOut, before);
         EXPECT_EQ(button.OffsetColor(CButtonST::colorBackOut, nShade), 0u);
@@ -90,13 +111,7 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     lone.parent.ShowWindow(SW_SHOWNA);
     const std::function<void(BOOL)> settings[] = {
         [&](BOOL bRepaint) { button.SetFlat(TRUE, bRepaint); },
-        [&](BOOL bRepaint) { button.DrawBorder(TRUE, bRepaint); },
-        [&](BOOL bRepaint) { button.DrawFlatFocus(TRUE, bRepaint); },
-        [&](BOOL bRepaint) { button.DrawAsToolbar(FALSE, bRepaint); },
-        [&](BOOL bRepaint) { button.SetAlign(CButtonST::alignTop, bRepaint); },
-        [&](BOOL bRepaint) { button.SetPressedStyle(CButtonST::pressedDown, bRepaint); },
         [&](BOOL bRepaint) { button.SetCheck(1, bRepaint); },
-        [&](BOOL bRepaint) { button.OffsetColor(0, 1, bRepaint); },
         [&](BOOL bRepaint) { button.SetBtnCursor(IDC_CROSSHAIR, bRepaint); },
         // Kept: these look for exactly 1.
         [&](BOOL bRepaint) { button.SetFlatFocus(TRUE, bRepaint); },
@@ -111,15 +126,17 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     for (size_t i = 0; i < std::size(settings); ++i)
         for (const BOOL bRepaint : {0, 1, 2})
             EXPECT_EQ(Repaints(button, [&] { settings[i](bRepaint); }),
-                      i > 12 || bRepaint == 1 || (bRepaint == 2 && i < 9))
+                      i > 6 || bRepaint == 1 || (bRepaint == 2 && i < 3))
                 << "setting " << i << ", " << bRepaint;
 
-    // A button that shows its pixels as they were unless it is told otherwise.
     button.UpdateWindow();
-    CClientDC(&button).SetPixel(9, 9, kKey);
+    CClientDC dc(&button);
+    dc.SetPixel(9, 9, kKey);
     button.EnableWindow(FALSE);
-    button.UpdateWindow();
-    EXPECT_NE(CClientDC(&button).GetPixel(9, 9), kKey) << "the system's button paints itself";
+    EXPECT_NE(dc.GetPixel(9, 9), kKey) << "the system's button paints itself";
+    const LRESULT hBrush = lone.parent.SendMessage(WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC),
+                                                   reinterpret_cast<LPARAM>(button.m_hWnd));
+    EXPECT_EQ(reinterpret_cast<HGDIOBJ>(hBrush), ::GetStockObject(NULL_BRUSH));
 }
 
 TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSaysAndOnlyACheckBoxCanBeChecked)
@@ -150,4 +167,122 @@ TEST(ButtonSettings, BecomesWhatTheTypeOfTheControlSaysAndOnlyACheckBoxCanBeChec
             EXPECT_EQ(button.SendMessage(BM_GETCHECK), bCheckBox && bChecked) << set;
         }
     }
+}
+
+TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOther)
+{
+    Lone<Open<>> lone(CSize(60, 30));
+    Open<>& button = lone.button;
+    const auto expectSized = [&](CSize size)
+    {
+        CRect rect;
+        button.SizeToContent();
+        button.GetClientRect(rect);
+        EXPECT_EQ(rect.Size(), size);
+    };
+    expectSized({60, 30}); // without an image nothing happens
+    EXPECT_EQ(button.SetBitmaps(Make(CSize(16, 12)), kKey), 0u);
+    expectSized({16, 12});
+    EXPECT_EQ(button.m_ptImageOrigin, CPoint(0, 0));
+    const std::tuple<int, int, int, LONG, LONG> rows[] = {
+        // size asked for, second image and its size asked for, the sizes that they get
+        {0, 10014, 0, 32, 24},
+        {16, 10014, 48, 16, 48},
+        {0, CButtonST::copyGray, 0, 32, 32},
+        {0, 0, 0, 32, 0}};
+    for (const auto& [cx, nOut, cxOut, in, out] : rows)
+    {
+        EXPECT_EQ(button.SetIcon(10000, cx, cx, nOut, cxOut, cxOut), 0u);
+        EXPECT_TRUE(button.m_icons[1].size.cx == out && !button.m_bitmaps[0].hBitmap) << nOut;
+        expectSized({in, in});
+    }
+    EXPECT_EQ(button.SetBitmaps(10101, kWhite, 10122, kKey), 0u);
+    EXPECT_EQ(button.m_bitmaps[1].crTransparent, kKey);
+}
+
+TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
+{
+    // From left to right transparent, coloured and black; above half transparent. Of an odd width a copy has one
+    // column less.
+    const auto pixelsOf = [](int width, COLORREF cr)
+    {
+        Pixels pixels;
+        for (int i = 0; i < width * 12; ++i)
+        {
+            const int x = i % width, alpha = i / width < 4 ? 0x80 : 0xFF;
+            pixels.push_back(x < 4 ? 0 : alpha << 24 | (x < 12 ? PixelOf(cr) : 0));
+        }
+        return pixels;
+    };
+    const Icon icon = MakeIcon(CSize(17, 12), pixelsOf(17, kColor));
+    owtest::HandleCount before;
+    for (const auto& [copy, cr] : {std::pair(CButtonST::copyGray, kGrey), {CButtonST::copyDarker, kDarker}})
+    {
+        before = owtest::CountHandles();
+        Open button;
+        button.SetBtnCursor(IDC_CROSSHAIR);
+        ASSERT_EQ(button.SetIcon(icon.get(), As<HICON>(copy)), 0u);
+        EXPECT_EQ(button.m_icons[1].size, CSize(16, 12));
+        ICONINFO info{};
+        ::GetIconInfo(button.m_icons[1].hIcon, &info);
+        CBitmap color, mask;
+        color.Attach(info.hbmColor);
+        mask.Attach(info.hbmMask);
+        EXPECT_EQ(PixelsOf(color), pixelsOf(16, cr)) << "mask, alpha and black stay";
+
+        ASSERT_EQ(button.SetBitmaps(Make(), kWhite, As<HBITMAP>(copy), kRed), 0u);
+        const auto& [first, second] = button.m_bitmaps; // black where they are transparent
+        EXPECT_EQ(ColorsOf(first.hBitmap), std::pair(DWORD(0), PixelOf(kColor)));
+        EXPECT_EQ(ColorsOf(second.hBitmap), std::pair(DWORD(0), PixelOf(cr)));
+        EXPECT_EQ(ColorsOf(first.hMask), std::pair(DWORD(kWhite), DWORD(0)));
+        EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";
+    }
+    // Wanted: an icon that a button made itself is let go of with DeleteObject, which does nothing to an icon.
+    EXPECT_EQ(owtest::CountHandles().user, before.user + 1);
+}
+
+TEST(ButtonImages, AFailureIsToldAndLeavesNoImagesAsARemovalDoes)
+{
+    Open button;
+    const HICON hBadIcon = As<HICON>(0x1234), hGray = As<HICON>(CButtonST::copyGray),
+                hOk = CButtonST::hIconOk;
+    const HBITMAP hBadBitmap = As<HBITMAP>(0x1234), hSecond = Make();
+    const BYTE bits[2 * 2 * 32] = {};
+    CBitmap both;
+    both.CreateBitmap(16, 32, 1, 1, bits);
+    ICONINFO info{TRUE, 0, 0, both, nullptr};
+    const HICON hMonochrome = ::CreateIconIndirect(&info);
+    EXPECT_EQ(button.SetIcon(hMonochrome, nullptr), 0u);
+    // A bitmap that stands in another context can be read, and nothing more.
+    Surface surface(8, 8);
+    const auto hSelected = static_cast<HBITMAP>(::GetCurrentObject(surface.dc(), OBJ_BITMAP));
+    const std::pair<DWORD, std::function<DWORD()>> failures[] = {
+        {0, [&] { return button.SetIcon(0, 10014); }}, // these take the images away
+        {0, [&] { return button.SetBitmaps(0, kKey, 10101); }},
+        {1, [&] { return button.SetIcon(hBadIcon, hOk); }},
+        {1, [&] { return button.SetIcon(hOk, hBadIcon); }},
+        {1, [&] { return button.SetIcon(hMonochrome, hGray); }}, // has no colours to copy
+        {1, [&] { return button.SetIcon(10000, kNoResource); }},
+        {1, [&] { return button.SetIcon(kNoResource, 10000); }},
+        {1, [&] { return button.SetBitmaps(hBadBitmap, 0); }},
+        {1, [&] { return button.SetBitmaps(Make(), kKey, hBadBitmap); }},
+        {1, [&] { return button.SetBitmaps(10101, 0, kNoResource); }},
+        {1, [&] { return button.SetBitmaps(kNoResource, 0, 10101); }},
+        {2, [&] { return button.SetBitmaps(hSelected, 0); }},
+        {2, [&] { return button.SetBitmaps(Make(), kKey, hSelected, 0); }},
+        {2, [&] { return button.SetBitmaps(hSelected, 0, hBadBitmap); }}, // the first is made whole first
+        {2, [&] { return button.SetBitmaps(hSelected, 0, hSecond); }}};
+    owtest::HandleCount before;
+    for (size_t i = 0; i < 2 * std::size(failures); ++i)
+    {
+        const auto& [result, set] = failures[i % std::size(failures)];
+        before = i == std::size(failures) ? owtest::CountHandles() : before;
+        button.SetIcon(hOk, CButtonST::hIconCancel);
+        EXPECT_EQ(set(), result) << i;
+        EXPECT_FALSE(HasImages(button)) << i;
+    }
+    EXPECT_EQ(owtest::CountHandles(), before);
+    EXPECT_TRUE(::DestroyIcon(::CopyIcon(hOk))) << "shared";
+    EXPECT_TRUE(::DeleteObject(hSecond)) << "which stays the caller's";
+    ::DestroyIcon(hMonochrome);
 }
