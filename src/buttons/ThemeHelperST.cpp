@@ -20,7 +20,6 @@ CThemeHelperST::~CThemeHelperST()
 {
     if (m_hThemeModule)
         ::FreeLibrary(m_hThemeModule);
-    m_hThemeModule = nullptr;
 }
 
 // The first four have been in the library since its first version, and are called without a test.
