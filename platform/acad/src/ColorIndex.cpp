@@ -2,6 +2,8 @@
 
 #include "aced.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr COLORREF kStandard[] = {
@@ -18,9 +20,7 @@ constexpr int kBrightness[kShades / 2] = {255, 165, 127, 76, 38};
 /// circle over which a primary rises or falls. `nDistance` is the distance from the primary, in hues.
 constexpr int PrimaryShare(int nDistance)
 {
-    if (nDistance <= 4)
-        return 4;
-    return nDistance >= 8 ? 0 : 8 - nDistance;
+    return std::clamp(8 - nDistance, 0, 4);
 }
 
 /// Distance of two hues on the circle.
