@@ -15,7 +15,6 @@ constexpr COLORREF kKey = RGB(255, 0, 255); ///< transparent colour of bitmaps, 
 
 using Pixels = std::vector<DWORD>; ///< 0xAARRGGBB, row by row from the top
 
-/// The pixel of a colour, without its alpha.
 constexpr DWORD PixelOf(COLORREF cr)
 {
     return RGB(GetBValue(cr), GetGValue(cr), GetRValue(cr));
@@ -91,14 +90,12 @@ inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0, 
     button.DrawItem(&item);
 }
 
-/// A click as a program sends it.
 inline void ClickByProgram(const CWnd& button)
 {
     button.GetParent()->SendMessage(WM_COMMAND, button.GetDlgCtrlID(),
                                     reinterpret_cast<LPARAM>(button.m_hWnd));
 }
 
-/// Whether a window is to be painted after something was done.
 template <class Action>
 bool Repaints(CWnd& window, const Action& action)
 {
@@ -213,7 +210,6 @@ protected:
     void SetUp() override { m_room.Open(); }
     void TearDown() override { m_room.DestroyWindow(); }
 
-    /// What is told of what is done.
     std::string Click(CWnd& button) { return owtest::Click(button), m_room.Take(); }
     std::string Press(WORD nKey) { return owtest::Press(nKey), m_room.Take(); }
 

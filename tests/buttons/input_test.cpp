@@ -86,11 +86,10 @@ TEST_F(ButtonInput, AClickTellsTheHandlerAndThenTheDialog)
 
 TEST_F(ButtonInput, APressOfAnAutomaticRadioButtonThatGoesAwayIsLetGoWithoutAClick)
 {
-    using Row =
-        std::tuple<UINT, DWORD, bool>; // its type, what changes while it is pressed, whether it clicks
-    for (const auto& [type, changed, bClicks] :
-         {Row{BS_AUTORADIOBUTTON, 0, true}, Row{BS_AUTORADIOBUTTON, WS_DISABLED, false},
-          Row{BS_AUTORADIOBUTTON, WS_VISIBLE, false}, Row{BS_AUTOCHECKBOX, WS_VISIBLE, true}})
+    for (const auto& [type, changed, bClicks] : {std::tuple(BS_AUTORADIOBUTTON, 0L, true),
+                                                 {BS_AUTORADIOBUTTON, WS_DISABLED, false},
+                                                 {BS_AUTORADIOBUTTON, WS_VISIBLE, false},
+                                                 {BS_AUTOCHECKBOX, WS_VISIBLE, true}})
         for (const auto& [down, up, nKey] :
              {std::tuple(WM_LBUTTONDOWN, WM_LBUTTONUP, 0), {WM_KEYDOWN, WM_KEYUP, VK_SPACE}})
         {

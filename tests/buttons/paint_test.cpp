@@ -34,7 +34,6 @@ FARPROC CountThemes(HMODULE hModule, LPCSTR pszName)
     return ::GetProcAddress(hModule, pszName);
 }
 
-/// What a colour of a disabled icon becomes.
 COLORREF Greyed(COLORREF cr)
 {
     const int grey = 192 + ((GetRValue(cr) + GetGValue(cr) + GetBValue(cr)) / 3 - 192) * 35 / 100;

@@ -97,13 +97,10 @@ TEST_F(Translator, BadCatalogueIsRefusedWithItsLine)
         {"text behind the text", "msgid \"a\" b\n", 1},
         {"unknown keyword", "msgid \"a\"\nmsgid_plural \"b\"\nmsgstr[0] \"c\"\nmsgtext] \"d\"\n", 4},
         {"unknown escape sequence", "msgid \"a\"\nmsgstr \"\\q\"\n", 2},
-        {"escape sequence of no character", "msgid \"a\"\nmsgstr \"\\400\"\n", 2},
         {"text without a keyword", "\n\"a\"\n", 2},
         {"translation without a text", "# x\nmsgstr \"b\"\n", 2},
         {"text without a translation", "msgid \"a\"\n\nmsgctxt \"c\"\n", 1},
-        {"context alone", "\nmsgctxt \"c\"\n", 2},
         {"translation twice", "msgid \"a\"\nmsgstr \"b\"\nmsgstr \"c\"\n", 3},
-        {"plural forms without a plural", "msgid \"a\"\nmsgstr \"b\"\nmsgstr[1] \"c\"\n", 3},
         {"text twice", kGood + "\n" + kGood, 4},
         {"not UTF-8", "msgid \"a\"\nmsgstr \"\xE8\"\n", 2},
         {"another character set", "msgid \"\"\nmsgstr \"charset=windows-1250\\n\"\n", 2}};
