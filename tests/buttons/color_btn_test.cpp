@@ -388,9 +388,20 @@ static void UseWithoutSource()
     bPaint ? PaintButton(lone.button, surface) : ClickByProgram(lone.button);
 }
 
+static void LoseSourceAndChoose()
+{
+    DWORD color = 0;
+    Lone<CColorBtnST> lone(CSize(60, 26));
+    lone.button.SetColorSource(&color);
+    const owtest::ModalVisit visit([&](CWnd&)
+                                   { lone.button.SetColorSource(nullptr), owtest::Press(VK_RETURN); });
+    ClickByProgram(lone.button);
+}
+
 static const std::tuple<const char*, std::wstring, owtest::ScenarioRegistration> s_fatal[] = {
     {"198", L"ColorBtnST : 198", {"198", &UseWithoutSource<CColorBtnST, true>}},
     {"273", L"ColorBtnST : 273", {"273", &UseWithoutSource<CColorBtnST, false>}},
+    {"276", L"ColorBtnST : 276", {"276", &LoseSourceAndChoose}},
     {"147", L"AcadColorBtnST : 147", {"147", &UseWithoutSource<CAcadColorBtnST, true>}},
     {"249", L"AcadColorBtnST : 249", {"249", &UseWithoutSource<CAcadColorBtnST, false>}}};
 

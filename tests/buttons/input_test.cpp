@@ -108,6 +108,7 @@ TEST_F(ButtonInput, APressOfAnAutomaticRadioButtonThatGoesAwayIsLetGoWithoutACli
 TEST_F(ButtonInput, AClickOpensTheAddressOfAPushButtonAndNeverThatOfACheckBox)
 {
     static std::wstring s_opened;
+    s_opened.clear();
     const auto noteAddress = [](SHELLEXECUTEINFOW* pInfo) -> BOOL
     {
         EXPECT_TRUE(pInfo->cbSize == sizeof(*pInfo) && pInfo->nShow == SW_SHOWMAXIMIZED);
@@ -193,7 +194,8 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAw
 
 TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheButtonCannotBeUsed)
 {
-    static DWORD s_slept = 0;
+    static DWORD s_slept;
+    s_slept = 0;
     const auto sleep = [](DWORD nPeriod) { ::Sleep(nPeriod), s_slept += nPeriod; };
     const owtest::ImportStandIn sleeping(L"DialogControlsOW.dll", "Sleep", +sleep);
     m_push.SetAutoRepeat(2, 20);
