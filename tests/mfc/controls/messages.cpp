@@ -1,4 +1,5 @@
-// What arrives at a control when a member of its class is called, and what the member makes of the answer.
+// What arrives at a control, and what becomes of the answer, where a member of its class does more than pass on:
+// it fills a structure, packs or swaps its arguments, or converts what comes back.
 
 #include "HostWindow.h"
 
@@ -76,8 +77,6 @@ LPARAM Number(const Value& value)
 {
     if constexpr (std::is_convertible_v<Value, const CWnd*>)
         return reinterpret_cast<LPARAM>(value->m_hWnd);
-    else if constexpr (std::is_convertible_v<Value, const CImageList*>)
-        return reinterpret_cast<LPARAM>(value->m_hImageList);
     else if constexpr (std::is_same_v<Value, CSize>)
         return MAKELONG(value.cx, value.cy);
     else
@@ -120,20 +119,10 @@ const CPoint point(3, 4);
 constexpr LPARAM pointPacked = MAKELPARAM(3, 4);
 int one = 0;
 int other = 0;
-
-/// An image list that nobody looks at.
-struct Images : CImageList
-{
-    Images() { m_hImageList = HIMAGELIST(0x55); }
-    ~Images() override { m_hImageList = nullptr; }
-};
 } // namespace
 
 TEST(Messages, OfTheClassicControls)
 {
-    Recorded<CStatic> label;
-    Sent(label.SetEnhMetaFile(HENHMETAFILE(9)), STM_SETIMAGE, IMAGE_ENHMETAFILE, 9);
-
     Recorded<CButton> button;
     EXPECT_EQ(button.GetButtonStyle(), 0xF9u);
 
@@ -141,31 +130,18 @@ TEST(Messages, OfTheClassicControls)
     BOOL outside = FALSE;
     EXPECT_EQ(list.ItemFromPoint(point, outside) * 10 + outside, 427u);
     Arrived(LB_ITEMFROMPOINT, 0, pointPacked);
-    Sent(list.GetSelItems(2, numbers), LB_GETSELITEMS, 2, numbers);
     Sent(list.SelItemRange(TRUE, 3, 5), LB_SELITEMRANGEEX, 3, 5);
     Sent(list.SelItemRange(FALSE, 3, 5), LB_SELITEMRANGEEX, 5, 3); // backwards is without
     Sent(list.SetCaretIndex(3, TRUE), LB_SETCARETINDEX, 3, MAKELPARAM(TRUE, 0));
-    Sent(list.SetItemData(3, 4), LB_SETITEMDATA, 3, 4);
-    Sent(list.SetItemHeight(3, 4), LB_SETITEMHEIGHT, 3, 4);
-    Sent(list.FindString(3, text), LB_FINDSTRING, 3, text);
-    Sent(list.FindStringExact(3, text), LB_FINDSTRINGEXACT, 3, text);
-    Sent(list.SelectString(3, text), LB_SELECTSTRING, 3, text);
 
     Recorded<CComboBox> combo;
     Sent(combo.SetEditSel(3, 4), CB_SETEDITSEL, 0, pointPacked);
-    Sent(combo.SetItemData(3, 4), CB_SETITEMDATA, 3, 4);
-    Sent(combo.SetItemHeight(3, 4), CB_SETITEMHEIGHT, 3, 4);
-    Sent(combo.InsertString(3, text), CB_INSERTSTRING, 3, text);
-    Sent(combo.FindString(3, text), CB_FINDSTRING, 3, text);
-    Sent(combo.FindStringExact(3, text), CB_FINDSTRINGEXACT, 3, text);
-    Sent(combo.SelectString(3, text), CB_SELECTSTRING, 3, text);
 
     Recorded<CEdit> edit;
     Sent((edit.SetMargins(3, 4), kNone), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, pointPacked);
     WORD line[20] = {};
     Sent(edit.GetLine(1, reinterpret_cast<LPTSTR>(line), 19), EM_GETLINE, 1, line);
     EXPECT_EQ(line[0], 19) << "where the message looks for the size";
-    Sent((edit.ReplaceSel(text, TRUE), kNone), EM_REPLACESEL, TRUE, text);
     Sent((edit.SetSel(DWORD(MAKELONG(3, -1)), TRUE), kNone), EM_SETSEL, 3, -1);
     Sent((edit.SetSel(DWORD(MAKELONG(-1, 4)), TRUE), kNone), EM_SETSEL, -1, 4);
     Sent((edit.SetSel(3, 4), kNone), EM_SCROLLCARET);
@@ -174,59 +150,34 @@ TEST(Messages, OfTheClassicControls)
     const auto& tip = *reinterpret_cast<const EDITBALLOONTIP*>(pointedTo);
     EXPECT_EQ(Told(last.message, tip.cbStruct, tip.pszTitle, tip.pszText, tip.ttiIcon),
               Told(EM_SHOWBALLOONTIP, sizeof tip, L"title", text, TTI_ERROR));
-    Sent((edit.Paste(), kNone), WM_PASTE);
 }
 
 TEST(Messages, OfTheCommonControls)
 {
     HostWindow window;
-    Images images;
     Recorded<CSpinButtonCtrl> spin;
-    Sent(spin.SetBuddy(&window), UDM_SETBUDDY, &window);
     Sent((spin.SetRange(-7, -5), kNone), UDM_SETRANGE, 0, MAKELPARAM(-5, -7));
     answerNext = MAKELONG(-5, -7);
     spin.GetRange(one, other);
     EXPECT_EQ(one * 10 + other, -75) << "the lower bound is the high word";
-    Sent((spin.GetRange32(one, other), kNone), UDM_GETRANGE32, &one, &other);
 
     Recorded<CSliderCtrl> slider;
     slider.GetRange(one, other);
     EXPECT_EQ(Told(previous.message, last.message, one, other),
               Told(TBM_GETRANGEMIN, TBM_GETRANGEMAX, kAnswer, kAnswer));
-    slider.GetSelection(one, other);
-    EXPECT_EQ(Told(previous.message, last.message, one, other),
-              Told(TBM_GETSELSTART, TBM_GETSELEND, kAnswer, kAnswer));
     Sent((slider.SetRange(3, 4, TRUE), kNone), TBM_SETRANGEMAX, TRUE, 4);
     EXPECT_EQ(Told(previous.message, previous.wParam, previous.lParam), Told(TBM_SETRANGEMIN, TRUE, 3));
-    Sent((slider.SetSelection(3, 4), kNone), TBM_SETSELEND, FALSE, 4);
-    EXPECT_EQ(Told(previous.message, previous.wParam, previous.lParam), Told(TBM_SETSELSTART, FALSE, 3));
-    Sent(slider.SetBuddy(&window, FALSE), TBM_SETBUDDY, FALSE, &window);
-    Sent(slider.GetBuddy(TRUE), TBM_GETBUDDY, TRUE);
     Sent((slider.VerifyPos(), kNone), TBM_SETPOS, FALSE, kAnswer);
-    Sent((slider.ClearTics(TRUE), kNone), TBM_CLEARTICS, TRUE);
     Recorded<CProgressCtrl> progress;
     Reply(PBRANGE{-7, 70000});
     progress.GetRange(one, other);
     EXPECT_EQ(Told(one, other), "-7,70000");
-    Sent((progress.SetRange32(-7, 70000), kNone), PBM_SETRANGE32, -7, 70000);
-    Sent(progress.SetMarquee(TRUE, 4), PBM_SETMARQUEE, TRUE, 4);
 
     Recorded<CHeaderCtrl> header;
-    HDITEM item;
-    Sent(header.GetItem(3, &item), HDM_GETITEM, 3, &item);
-    Sent(header.SetImageList(&images), HDM_SETIMAGELIST, 0, 0x55);
     Sent(header.GetOrderArray(numbers), HDM_GETORDERARRAY, kAnswer, numbers);
-    Sent(header.GetOrderArray(numbers, 2), HDM_GETORDERARRAY, 2, numbers);
-    Sent(header.GetItemRect(3, rect), HDM_GETITEMRECT, 3, &rect);
-    Sent(header.SetFilterChangeTimeout(9), HDM_SETFILTERCHANGETIMEOUT, 0, 9);
-    Sent(header.EditFilter(3, TRUE), HDM_EDITFILTER, 3, MAKELPARAM(TRUE, 0));
 
     Recorded<CTabCtrl> tab;
-    TCITEM page;
-    Sent(tab.SetImageList(&images), TCM_SETIMAGELIST, 0, 0x55);
-    Sent(tab.GetItem(3, &page), TCM_GETITEM, 3, &page);
     Sent(tab.SetItemSize(CSize(3, 4)), TCM_SETITEMSIZE, 0, pointPacked);
-    Sent(tab.GetToolTips(), TCM_GETTOOLTIPS);
     Sent(tab.SetExtendedStyle(3, 4), TCM_SETEXTENDEDSTYLE, 4, 3);
     DWORD state = 1;
     Reply(TCITEM{0, 4});
@@ -236,7 +187,6 @@ TEST(Messages, OfTheCommonControls)
     Sent(tab.InsertItem(2, text, 3), TCM_INSERTITEM, 2, TCITEM{TCIF_TEXT | TCIF_IMAGE, 0, 0, text, 0, 3});
     Sent(tab.InsertItem(TCIF_PARAM, 2, text, 3, 4), TCM_INSERTITEM, 2,
          TCITEM{TCIF_PARAM, 0, 0, text, 0, 3, 4});
-    Sent(tab.HighlightItem(3), TCM_HIGHLIGHTITEM, 3, MAKELPARAM(TRUE, 0));
 
     Recorded<CStatusBarCtrl> bar;
     Sent(bar.SetText(text, 1, SBT_POPOUT), SB_SETTEXT, 1 | SBT_POPOUT, text);
@@ -262,30 +212,10 @@ TEST(Messages, OfTheCommonControls)
     const HINSTANCE own = AfxGetInstanceHandle();
     Sent(tools.AddBitmap(2, 9u), TB_ADDBITMAP, 2, TBADDBITMAP{own, 9});
     Sent(tools.AddBitmap(2, &bitmap), TB_ADDBITMAP, 2, TBADDBITMAP{nullptr, UINT_PTR(bitmap.m_hObject)});
-    Sent(tools.EnableButton(3, FALSE), TB_ENABLEBUTTON, 3, FALSE);
-    Sent(tools.CheckButton(3), TB_CHECKBUTTON, 3, TRUE);
-    Sent(tools.HideButton(3), TB_HIDEBUTTON, 3, TRUE);
-    Sent(tools.PressButton(3), TB_PRESSBUTTON, 3, TRUE);
-    Sent(tools.Indeterminate(3), TB_INDETERMINATE, 3, TRUE);
-    Sent(tools.IsButtonEnabled(3), TB_ISBUTTONENABLED, 3);
-    Sent(tools.IsButtonChecked(3), TB_ISBUTTONCHECKED, 3);
-    Sent(tools.IsButtonHidden(3), TB_ISBUTTONHIDDEN, 3);
-    Sent(tools.IsButtonPressed(3), TB_ISBUTTONPRESSED, 3);
-    Sent(tools.IsButtonIndeterminate(3), TB_ISBUTTONINDETERMINATE, 3);
-    Sent(tools.SetButtonInfo(3, &info), TB_SETBUTTONINFO, 3, &info);
-    Sent(tools.CommandToIndex(3), TB_COMMANDTOINDEX, 3);
-    Sent(tools.DeleteButton(3), TB_DELETEBUTTON, 3);
-    Sent(tools.GetItemRect(3, rect), TB_GETITEMRECT, 3, &rect);
-    Sent(tools.HitTest(&rect.TopLeft()), TB_HITTEST, 0, &rect.TopLeft());
-    Sent(tools.GetImageList(), TB_GETIMAGELIST);
-    Sent(tools.SetHotImageList(&images), TB_SETHOTIMAGELIST, 0, 0x55);
-    Sent(tools.GetDisabledImageList(), TB_GETDISABLEDIMAGELIST);
     Sent((tools.SetOwner(&window), kNone), TB_SETPARENT, &window);
     EXPECT_EQ(tools.GetOwner(), &window);
     Sent((tools.SaveState(HKEY_CURRENT_USER, text, L"value"), kNone), TB_SAVERESTORE, TRUE,
          TBSAVEPARAMS{HKEY_CURRENT_USER, text, L"value"});
-    Sent((tools.RestoreState(HKEY_CURRENT_USER, text, nullptr), kNone), TB_SAVERESTORE, FALSE,
-         TBSAVEPARAMS{HKEY_CURRENT_USER, text});
 }
 
 TEST(Messages, OfToolTips)
@@ -306,9 +236,6 @@ TEST(Messages, OfToolTips)
     corner.hinst = AfxGetInstanceHandle();
     corner.lpszText = MAKEINTRESOURCE(7);
     Sent(tip.AddTool(&window, 7u, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
-    Sent(tip.GetCurrentTool(&corner), TTM_GETCURRENTTOOL, 0, &corner);
-    Sent((tip.SetDelayTime(TTDT_INITIAL, 500), kNone), TTM_SETDELAYTIME, TTDT_INITIAL, 500);
-    Sent(tip.GetBubbleSize(&corner), TTM_GETBUBBLESIZE, 0, &corner);
     TOOLINFO hit = {};
     answerNext = FALSE;
     EXPECT_FALSE(tip.HitTest(&window, point, &hit));
@@ -324,28 +251,16 @@ TEST(Messages, OfToolTips)
 
 TEST(Messages, OfListControls)
 {
-    Images images;
     Recorded<CListCtrl> list;
-    Sent(list.GetImageList(LVSIL_STATE), LVM_GETIMAGELIST, LVSIL_STATE);
-    Sent(list.SetImageList(&images, LVSIL_STATE), LVM_SETIMAGELIST, LVSIL_STATE, 0x55);
-    Sent(list.SetItemCountEx(3, 4), LVM_SETITEMCOUNT, 3, 4);
-    Sent(list.SetExtendedStyle(3), LVM_SETEXTENDEDLISTVIEWSTYLE, 0, 3);
     EXPECT_TRUE(list.GetItemSpacing(TRUE, &one, &other));
     EXPECT_EQ(one * 10 + other, 427);
     Arrived(LVM_GETITEMSPACING, TRUE);
-    Sent(list.SetIconSpacing(3, 4), LVM_SETICONSPACING, 0, pointPacked);
-    Sent(list.GetHeaderCtrl(), LVM_GETHEADER);
-    Sent(list.GetToolTips(), LVM_GETTOOLTIPS);
     const auto& image = *reinterpret_cast<const LVBKIMAGE*>(pointedTo);
     list.SetBkImage(HBITMAP(7), TRUE, 3, 4);
     EXPECT_EQ(Told(last.message, image.ulFlags, image.hbm, image.xOffsetPercent, image.yOffsetPercent),
               Told(LVM_SETBKIMAGE, LVBKIF_SOURCE_HBITMAP | LVBKIF_STYLE_TILE, HBITMAP(7), 3, 4));
-    list.SetBkImage(text, FALSE, 3, 4);
-    EXPECT_EQ(Told(last.message, image.ulFlags, image.pszImage),
-              Told(LVM_SETBKIMAGE, LVBKIF_SOURCE_URL, text));
 
     Sent(list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8), LVM_SETITEM, 0, LVITEM{1, 2, 3, 4, 5, text, 0, 6, 7, 8});
-    Sent(list.SetItem(2, 3, 1, text, 6, 4, 5, 7), LVM_SETITEM, 0, LVITEM{1, 2, 3, 4, 5, text, 0, 6, 7});
     Sent(list.SetItemState(2, 4, 5), LVM_SETITEMSTATE, 2, LVITEM{0, 0, 0, 4, 5});
     Sent(list.GetItemText(2, 3, text, 9), LVM_GETITEMTEXT, 2, LVITEM{0, 0, 3, 0, 0, text, 9});
     TCHAR buffer[8] = L"mine";
@@ -365,51 +280,31 @@ TEST(Messages, OfListControls)
     EXPECT_EQ(list.GetCheck(2), 1);
     Arrived(LVM_GETITEMSTATE, 2, LVIS_STATEIMAGEMASK);
     Sent(list.SetItemData(2, 7), LVM_SETITEM, 0, LVITEM{LVIF_PARAM, 2, 0, 0, 0, nullptr, 0, 0, 7});
-    CPoint place(point);
-    Sent(list.GetItemPosition(2, &place), LVM_GETITEMPOSITION, 2, &place);
     EXPECT_TRUE(list.SetItemPosition(2, point));
     Arrived(LVM_SETITEMPOSITION32, 2, POINT(point));
     rect = CRect(9, 9, 9, 9);
     Sent(list.GetItemRect(2, rect, LVIR_LABEL), LVM_GETITEMRECT, 2, RECT{LVIR_LABEL, 9, 9, 9});
     Sent(list.GetSubItemRect(2, 3, LVIR_BOUNDS, rect), LVM_GETSUBITEMRECT, 2, RECT{LVIR_BOUNDS, 3, 9, 9});
-    Sent(list.GetNextItem(2, LVNI_SELECTED), LVM_GETNEXTITEM, 2, LVNI_SELECTED);
 
-    Sent(list.SetColumnWidth(2, 30), LVM_SETCOLUMNWIDTH, 2, 30);
     constexpr UINT all = LVCF_TEXT | LVCF_FMT | LVCF_WIDTH | LVCF_SUBITEM;
     Sent(list.InsertColumn(2, text, 1, 9, 3), LVM_INSERTCOLUMN, 2, LVCOLUMN{all, 1, 9, text, 0, 3});
     Sent(list.InsertColumn(2, text), LVM_INSERTCOLUMN, 2, LVCOLUMN{LVCF_TEXT | LVCF_FMT, 0, 0, text});
-    Sent(list.SetColumnOrderArray(2, numbers), LVM_SETCOLUMNORDERARRAY, 2, numbers);
 
     Sent(list.InsertItem(2, text, 6), LVM_INSERTITEM, 0,
          LVITEM{LVIF_TEXT | LVIF_IMAGE, 2, 0, 0, 0, text, 0, 6});
     Sent(list.InsertItem(1, 2, text, 4, 5, 6, 7), LVM_INSERTITEM, 0, LVITEM{1, 2, 0, 4, 5, text, 0, 6, 7});
-    LVFINDINFO find;
-    Sent(list.FindItem(&find, 3), LVM_FINDITEM, 3, &find);
-    const auto compare = [](LPARAM, LPARAM, LPARAM) -> int { return 0; };
-    const PFNLVCOMPARE comparing = compare;
-    Sent(list.SortItems(comparing, 3), LVM_SORTITEMS, 3, comparing);
     UINT flags = 1;
     Reply(LVHITTESTINFO{{}, LVHT_ABOVE});
     Sent(list.HitTest(point, &flags), LVM_HITTEST, 0, POINT(point));
     EXPECT_EQ(flags, UINT{LVHT_ABOVE});
     Reply(UINT(3));
     EXPECT_EQ(list.GetNumberOfWorkAreas(), 3u);
-    Sent(list.EnsureVisible(2, TRUE), LVM_ENSUREVISIBLE, 2, MAKELPARAM(TRUE, 0));
-    Sent(list.EditLabel(2), LVM_EDITLABEL, 2);
-    Sent(list.ApproximateViewRect(CSize(3, 4), 2), LVM_APPROXIMATEVIEWRECT, 2, pointPacked);
 }
 
 TEST(Messages, OfTreeControls)
 {
-    Images images;
     const auto node = HTREEITEM(9);
     Recorded<CTreeCtrl> tree;
-    Sent(tree.GetImageList(TVSIL_STATE), TVM_GETIMAGELIST, TVSIL_STATE);
-    Sent(tree.SetImageList(&images, TVSIL_STATE), TVM_SETIMAGELIST, TVSIL_STATE, 0x55);
-    Sent(tree.GetNextSiblingItem(node), TVM_GETNEXTITEM, TVGN_NEXT, node);
-    Sent(tree.Expand(node, TVE_EXPAND), TVM_EXPAND, TVE_EXPAND, node);
-    Sent(tree.SetInsertMark(node, FALSE), TVM_SETINSERTMARK, FALSE, node);
-    Sent(tree.EditLabel(node), TVM_EDITLABEL, 0, node);
     UINT flags = 1;
     Reply(TVHITTESTINFO{{}, TVHT_ABOVE});
     Sent(tree.HitTest(point, &flags), TVM_HITTEST, 0, POINT(point));
@@ -462,7 +357,6 @@ TEST(Messages, OfCalendarsAndPickers)
     const CTime day(parts), lastDay(later);
     const std::array days = {parts, later}, noons = {noon, later}, fromDay = {parts, SYSTEMTIME()};
     CTime low, high;
-    SYSTEMTIME lowParts, highParts;
     const auto hasRange = [&](auto& control, UINT get, UINT set)
     {
         Reply(days, GDTR_MIN | GDTR_MAX);
@@ -471,15 +365,11 @@ TEST(Messages, OfCalendarsAndPickers)
         Reply(days, GDTR_MIN);
         EXPECT_EQ(control.GetRange(&high, &low), DWORD{GDTR_MIN});
         EXPECT_TRUE(low == day && high == day) << "an open side is left alone";
-        Reply(days, GDTR_MIN | GDTR_MAX);
-        control.GetRange(&lowParts, &highParts);
-        EXPECT_TRUE(CTime(lowParts) == day && CTime(highParts) == lastDay);
         Reply(days, GDTR_MAX);
         control.GetRange(&low, static_cast<CTime*>(nullptr));
         Arrived(get, 0, std::array<SYSTEMTIME, 2>());
         Sent(control.SetRange(&day, &lastDay), set, GDTR_MIN | GDTR_MAX, days);
         Sent(control.SetRange(&day, nullptr), set, GDTR_MIN, fromDay);
-        Sent(control.SetRange(&parts, &later), set, GDTR_MIN | GDTR_MAX, days);
     };
     Recorded<CMonthCalCtrl> calendar;
     hasRange(calendar, MCM_GETRANGE, MCM_SETRANGE);
@@ -487,26 +377,13 @@ TEST(Messages, OfCalendarsAndPickers)
     EXPECT_EQ(calendar.GetFirstDayOfWeek(&isOwn) * 10 + isOwn, 427);
     EXPECT_EQ(calendar.SetFirstDayOfWeek(3, &one) * 100 + one, 742);
     Arrived(MCM_SETFIRSTDAYOFWEEK, 0, 3);
-    MONTHDAYSTATE bold[3];
-    Sent(calendar.SetDayState(3, bold), MCM_SETDAYSTATE, 3, bold);
-    Sent(calendar.GetCurSel(&parts), MCM_GETCURSEL, 0, &parts);
     Sent(calendar.SetCurSel(day), MCM_SETCURSEL, 0, parts);
-    Sent((calendar.SetToday(day), kNone), MCM_SETTODAY, 0, parts);
     Sent(calendar.SetSelRange(day, lastDay), MCM_SETSELRANGE, 0, days);
-    for (const bool today : {false, true})
-    {
-        const auto get = [&] { return today ? calendar.GetToday(low) : calendar.GetCurSel(low); };
-        Reply(noon);
-        EXPECT_EQ(get(), kAnswer);
-        EXPECT_EQ(last.message, UINT(today ? MCM_GETTODAY : MCM_GETCURSEL));
-        Reply(later, FALSE);
-        EXPECT_FALSE(get());
-        EXPECT_EQ(std::exchange(low, CTime()), day) << "at midnight, and left alone without an answer";
-    }
-    Reply(noons);
-    EXPECT_EQ(calendar.GetMonthRange(low, high, GMR_DAYSTATE), kAnswer);
-    Arrived(MCM_GETMONTHRANGE, GMR_DAYSTATE, std::array<SYSTEMTIME, 2>());
-    EXPECT_TRUE(low == day && high == lastDay);
+    Reply(noon);
+    EXPECT_EQ(calendar.GetCurSel(low), kAnswer);
+    Reply(later, FALSE);
+    EXPECT_FALSE(calendar.GetCurSel(low));
+    EXPECT_EQ(low, day) << "at midnight, and left alone without an answer";
     Reply(noons, TRUE);
     EXPECT_TRUE(calendar.GetSelRange(high, low) && high == day && low == lastDay);
     Reply(noons, FALSE);
@@ -515,12 +392,8 @@ TEST(Messages, OfCalendarsAndPickers)
 
     Recorded<CDateTimeCtrl> picker;
     hasRange(picker, DTM_GETRANGE, DTM_SETRANGE);
-    Sent(picker.SetMonthCalColor(3, 9), DTM_SETMCCOLOR, 3, 9);
-    Sent(picker.GetMonthCalCtrl(), DTM_GETMONTHCAL);
-    Sent(picker.SetTime(&parts), DTM_SETSYSTEMTIME, GDT_VALID, &parts);
     Sent(picker.SetTime(&day), DTM_SETSYSTEMTIME, GDT_VALID, parts);
     Sent(picker.SetTime(), DTM_SETSYSTEMTIME, GDT_NONE, SYSTEMTIME());
-    Sent(picker.SetTime(static_cast<const CTime*>(nullptr)), DTM_SETSYSTEMTIME, GDT_NONE, SYSTEMTIME());
     Reply(noon, GDT_VALID);
     EXPECT_EQ(picker.GetTime(low), DWORD{GDT_VALID});
     Reply(later, GDT_NONE);
