@@ -188,7 +188,7 @@ int CCheckListBox::CalcMinimumItemHeight()
 void CCheckListBox::FitItemHeight()
 {
     if (HasStrings() && (GetStyle() & LBS_OWNERDRAWFIXED) != 0)
-        DefWindowProc(LB_SETITEMHEIGHT, 0, CalcMinimumItemHeight());
+        SendMessage(LB_SETITEMHEIGHT, 0, CalcMinimumItemHeight()); // also before it is subclassed
 }
 
 // ---------------------------------------------------------------------------------------------------------

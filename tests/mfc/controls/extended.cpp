@@ -118,6 +118,11 @@ TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
     EXPECT_EQ(list.CheckFromPoint(CPoint(5, 149), inCheck), -1); // below the items
     EXPECT_FALSE(inCheck);
     list.SetFont(nullptr);
+    const HWND made = host.AddControl(WC_LISTBOX, 2, LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    ::SendMessage(made, LB_SETITEMHEIGHT, 0, 1);
+    CCheckListBox ofTemplate;
+    EXPECT_TRUE(ofTemplate.SubclassDlgItem(2, &host));
+    EXPECT_EQ(ofTemplate.GetItemHeight(0), ofTemplate.CalcMinimumItemHeight());
 }
 
 /// Numbers as items, sorted downwards, as high as they are large.
