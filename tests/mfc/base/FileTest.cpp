@@ -173,7 +173,7 @@ TEST_F(File, HandlesAreSharedByDuplicatesAndLeftOpenWhenAttached)
         twin->SeekToEnd();
         EXPECT_EQ(file.GetPosition(), 4u);
         file.Close();
-        EXPECT_EQ(twin->GetLength(), 4u);
+        EXPECT_EQ(Told(file.GetFilePath(), twin->GetLength()), ",4");
         char byte = 0;
         EXPECT_EQ(CauseThrownBy([&] { file.Read(&byte, 1); }), CFileException::invalidFile);
     }
@@ -202,7 +202,7 @@ TEST_F(File, KnowsItsNamesAndStatus)
     EXPECT_TRUE(CFile::GetStatus(m_folder, status));
     EXPECT_EQ(Told(status.m_attribute & CFile::directory, status.m_szFullName),
               Told(CFile::directory, m_folder));
-    EXPECT_FALSE(CFile::GetStatus(m_folder + L"\\none", status));
+    EXPECT_FALSE(CFile::GetStatus(m_folder + L"\\none", status) || status.m_attribute != 0);
     file.Close();
     const CString other = m_folder + L"\\other";
     CFile::Rename(m_path, other);

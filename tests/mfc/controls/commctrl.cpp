@@ -98,6 +98,11 @@ TEST(ToolTip, KnowsItsToolsAndIsAskedForDisabledControlsToo)
     EXPECT_STREQ(info.lpszText, L"");
     EXPECT_TRUE(tip.GetToolInfo(info, &host, 5));
     EXPECT_EQ(CRect(info.rect), CRect(200, 200, 220, 220));
+    tip.SetToolRect(&host, 5, CRect(100, 100, 120, 120));
+    EXPECT_FALSE(tip.HitTest(&host, CPoint(210, 210), &info));
+    EXPECT_TRUE(tip.HitTest(&host, CPoint(110, 110), &info) && info.uId == 5);
+    tip.DelTool(&host, 5);
+    EXPECT_EQ(tip.GetToolCount(), 1);
 
     CPoint inside(20, 20);
     host.ClientToScreen(&inside);
@@ -130,25 +135,30 @@ TEST(Views, AnswerLongTextsAndWalkTheirSelection)
     EXPECT_GE(list.drawn, 5);
 }
 
-TEST(ListControl, IsSortedByIndexAndKeepsItsData)
+TEST(ListControl, IsSortedByIndexAndKeepsItsDataAndTheOrderOfEquals)
 {
     HostWindow host;
     ReportList list(host);
     list.DeleteAllItems();
     constexpr int count = 200;
+    std::vector<int> model;
     for (int i = 0; i < count; ++i) // all numbers, scattered
-        list.SetItemData(list.InsertItem(i, std::to_wstring((i * 37) % count).c_str()), 1000 + i);
+    {
+        model.push_back((i * 37) % count);
+        list.SetItemData(list.InsertItem(i, std::to_wstring(model[i]).c_str()), 1000 + i);
+    }
     const auto compare = [](LPARAM a, LPARAM b, LPARAM list) -> int
     {
         const auto number = [=](LPARAM item)
         { return _wtoi(reinterpret_cast<const CListCtrl*>(list)->GetItemText(static_cast<int>(item), 0)); };
-        return number(a) - number(b);
+        return number(a) / 10 - number(b) / 10;
     };
     EXPECT_TRUE(list.SortItemsEx(compare, reinterpret_cast<DWORD_PTR>(&list)));
+    std::ranges::stable_sort(model, {}, [](int number) { return number / 10; });
     for (int i = 0; i < count; ++i)
     {
-        EXPECT_EQ(list.GetItemText(i, 0), std::to_wstring(i).c_str());
-        EXPECT_EQ((list.GetItemData(i) - 1000) * 37 % count, static_cast<DWORD_PTR>(i));
+        EXPECT_EQ(list.GetItemText(i, 0), std::to_wstring(model[i]).c_str());
+        EXPECT_EQ((list.GetItemData(i) - 1000) * 37 % count, static_cast<DWORD_PTR>(model[i]));
     }
     CListCtrl virtualList;
     ASSERT_TRUE(virtualList.Create(LVS_REPORT | LVS_OWNERDATA, CRect(0, 0, 9, 9), &host, 4));

@@ -192,12 +192,6 @@ TEST(Messages, OfTheCommonControls)
     Sent(bar.SetText(text, 1, SBT_POPOUT), SB_SETTEXT, 1 | SBT_POPOUT, text);
     EXPECT_EQ(bar.GetText(text, 1, &one) * 10 + one, 427);
     Arrived(SB_GETTEXT, 1, text);
-    EXPECT_EQ(bar.GetTextLength(1, &other) * 10 + other, 427);
-    Arrived(SB_GETTEXTLENGTH, 1);
-    int third = 0;
-    Reply(std::array{3, 4, 5});
-    EXPECT_EQ(bar.GetBorders(one, other, third), kAnswer);
-    EXPECT_EQ(one * 100 + other * 10 + third, 345);
     Reply(L"tip");
     EXPECT_EQ(bar.GetTipText(1), L"tip");
 
@@ -214,39 +208,6 @@ TEST(Messages, OfTheCommonControls)
     Sent(tools.AddBitmap(2, &bitmap), TB_ADDBITMAP, 2, TBADDBITMAP{nullptr, UINT_PTR(bitmap.m_hObject)});
     Sent((tools.SetOwner(&window), kNone), TB_SETPARENT, &window);
     EXPECT_EQ(tools.GetOwner(), &window);
-    Sent((tools.SaveState(HKEY_CURRENT_USER, text, L"value"), kNone), TB_SAVERESTORE, TRUE,
-         TBSAVEPARAMS{HKEY_CURRENT_USER, text, L"value"});
-}
-
-TEST(Messages, OfToolTips)
-{
-    HostWindow window;
-    CButton button;
-    button.Create(L"", WS_CHILD, CRect(), &window, 9);
-    Recorded<CToolTipCtrl> tip;
-    TOOLINFO whole = {
-        UINT(TTTOOLINFO_V1_SIZE), TTF_IDISHWND, window, UINT_PTR(button.m_hWnd), {}, nullptr, text};
-    TOOLINFO corner = {UINT(TTTOOLINFO_V1_SIZE), 0, window, 5, {1, 2, 3, 4}, nullptr, text};
-    Sent(tip.AddTool(&button, text), TTM_ADDTOOL, 0, whole);
-    Sent(tip.AddTool(&window, text, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
-    Sent((tip.UpdateTipText(text, &button), kNone), TTM_UPDATETIPTEXT, 0, whole);
-    whole.lpszText = corner.lpszText = nullptr;
-    Sent((tip.SetToolRect(&window, 5, &corner.rect), kNone), TTM_NEWTOOLRECT, 0, corner);
-    Sent((tip.DelTool(&button), kNone), TTM_DELTOOL, 0, whole);
-    corner.hinst = AfxGetInstanceHandle();
-    corner.lpszText = MAKEINTRESOURCE(7);
-    Sent(tip.AddTool(&window, 7u, &corner.rect, 5), TTM_ADDTOOL, 0, corner);
-    TOOLINFO hit = {};
-    answerNext = FALSE;
-    EXPECT_FALSE(tip.HitTest(&window, point, &hit));
-    Reply(TTHITTESTINFO{window, point, corner});
-    EXPECT_TRUE(tip.HitTest(&window, point, &hit));
-    Arrived(TTM_HITTEST, 0, TTHITTESTINFO{window, point, {UINT(TTTOOLINFO_V1_SIZE)}});
-    EXPECT_EQ(hit.uId, 5u);
-    CString told;
-    Reply(TOOLINFO{});
-    tip.GetText(told, &window, 5);
-    EXPECT_EQ(told, L"");
 }
 
 TEST(Messages, OfListControls)
@@ -255,10 +216,6 @@ TEST(Messages, OfListControls)
     EXPECT_TRUE(list.GetItemSpacing(TRUE, &one, &other));
     EXPECT_EQ(one * 10 + other, 427);
     Arrived(LVM_GETITEMSPACING, TRUE);
-    const auto& image = *reinterpret_cast<const LVBKIMAGE*>(pointedTo);
-    list.SetBkImage(HBITMAP(7), TRUE, 3, 4);
-    EXPECT_EQ(Told(last.message, image.ulFlags, image.hbm, image.xOffsetPercent, image.yOffsetPercent),
-              Told(LVM_SETBKIMAGE, LVBKIF_SOURCE_HBITMAP | LVBKIF_STYLE_TILE, HBITMAP(7), 3, 4));
 
     Sent(list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8), LVM_SETITEM, 0, LVITEM{1, 2, 3, 4, 5, text, 0, 6, 7, 8});
     Sent(list.SetItemState(2, 4, 5), LVM_SETITEMSTATE, 2, LVITEM{0, 0, 0, 4, 5});
@@ -297,8 +254,6 @@ TEST(Messages, OfListControls)
     Reply(LVHITTESTINFO{{}, LVHT_ABOVE});
     Sent(list.HitTest(point, &flags), LVM_HITTEST, 0, POINT(point));
     EXPECT_EQ(flags, UINT{LVHT_ABOVE});
-    Reply(UINT(3));
-    EXPECT_EQ(list.GetNumberOfWorkAreas(), 3u);
 }
 
 TEST(Messages, OfTreeControls)

@@ -125,33 +125,16 @@ public:
         };
         EXPECT_TRUE(Waits(isSelected)) << id;
     }
-    /// Waits until the program shows a tool tip of this text; of none, if it is empty.
-    void ShowsTip(const std::wstring& text) const
-    {
-        EXPECT_TRUE(Waits([&] { return ShownTip() == text; })) << ::testing::PrintToString(ShownTip());
-    }
 
 private:
-    bool IsShown(HWND window) const
-    {
-        DWORD process = 0;
-        ::GetWindowThreadProcessId(window, &process);
-        return process == m_process.dwProcessId && ::IsWindowVisible(window);
-    }
-    std::wstring ShownTip() const
-    {
-        wchar_t text[128] = L"";
-        for (HWND tip = nullptr; (tip = ::FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
-            if (IsShown(tip))
-                ::SendMessageW(tip, WM_GETTEXT, ARRAYSIZE(text), reinterpret_cast<LPARAM>(text));
-        return text;
-    }
     HWND Find(const std::wstring& title) const
     {
         for (HWND window = ::GetTopWindow(nullptr); window; window = ::GetWindow(window, GW_HWNDNEXT))
         {
+            DWORD process = 0;
+            ::GetWindowThreadProcessId(window, &process);
             wchar_t text[128] = L"";
-            if (IsShown(window) && ::IsWindowEnabled(window) &&
+            if (process == m_process.dwProcessId && ::IsWindowVisible(window) && ::IsWindowEnabled(window) &&
                 ::GetWindowTextW(window, text, ARRAYSIZE(text)) > 0 && (title.empty() || title == text))
                 return window;
         }

@@ -29,6 +29,29 @@ TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
     Press(VK_ESCAPE);
 }
 
+TEST(WizardDialog, OpensADialogBesideItselfThatDeletesItself)
+{
+    Client program(L"wizard_dialog");
+    const auto open = [&]
+    {
+        program.Window(L"Wizard's dialog");
+        program.Click(IDC_OPEN);
+        program.Window(L"Notes");
+    };
+    open();
+    Type(L"bolt\r"); // Return is Keep
+    program.Window(L"Wizard's dialog");
+    program.Shows(IDC_STATE, L"bolt");
+    open();
+    Press(VK_ESCAPE);
+    program.Window(L"Wizard's dialog");
+    program.Shows(IDC_STATE, L"dropped");
+    open();
+    program.Window(L"Wizard's dialog");
+    EXPECT_FALSE(program.IsEnabled(IDC_OPEN));
+    program.Click(IDCANCEL); // takes the notes along
+}
+
 /// Ctrl+Page Down, again if need be: on a busy display Wine now and then takes the focus away and gives it back, and the
 /// key is lost.
 static void TurnPage(const std::function<bool()>& isTurned)
@@ -93,31 +116,6 @@ TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
     program.Confirm(L"mfc_property_sheet", L" by 12325:  90, grade 0, weldable 0, applied 0");
 }
 
-TEST(DatePicker, ShowsTheSpanOfWhatIsChosenAndRefusesAStartAfterTheEnd)
-{
-    Client program(L"date_picker");
-    program.Window(L"Dates");
-    program.Shows(IDC_SPAN, L"12 days to 2024-02-27");
-    owtest::Click(program.Item(IDC_DUE), CPoint(10, 8)); // the day
-    Press(VK_UP);
-    Press(VK_UP);
-    program.Shows(IDC_SPAN, L"14 days to 2024-02-29");
-    Press(VK_RIGHT);
-    Press(VK_DOWN); // January
-    program.Shows(IDC_SPAN, L"-17 days to 2024-01-29");
-    program.Click(IDC_CHECK);
-    program.Confirm(L"mfc_date_picker");
-    program.Window(L"Dates");
-    program.Shows(IDC_SPAN, L"-17 days to 2024-01-29");
-    RECT calendar;
-    ::GetClientRect(program.Item(IDC_START), &calendar);
-    owtest::Click(program.Item(IDC_START),
-                  CPoint(calendar.right / 14, calendar.bottom * 3 / 10)); // of January
-    program.Click(IDC_CHECK);
-    program.Shows(IDC_SPAN, L"checked");
-    Press(VK_ESCAPE);
-}
-
 TEST(Worker, ReportsToTheDialogAndToAThreadWithAWindowOfItsOwn)
 {
     Client program(L"worker");
@@ -130,59 +128,5 @@ TEST(Worker, ReportsToTheDialogAndToAThreadWithAWindowOfItsOwn)
     program.Window(L"Work");
     program.Click(IDC_HALT);
     program.Shows(IDC_DONE, L"7");
-    Press(VK_ESCAPE);
-}
-
-TEST(ModelessDialog, WorksBesideItsOwnerAndDeletesItself)
-{
-    Client program(L"modeless_dialog");
-    const auto open = [&]
-    {
-        program.Window(L"Main");
-        program.Click(IDC_OPEN);
-        program.Window(L"Notes");
-    };
-    open();
-    Type(L"bolt\r"); // Return is Keep
-    program.Window(L"Main");
-    program.Shows(IDC_STATE, L"bolt");
-    open();
-    Press(VK_ESCAPE);
-    program.Window(L"Main");
-    program.Shows(IDC_STATE, L"dropped");
-    open();
-    program.Window(L"Main");
-    EXPECT_FALSE(program.IsEnabled(IDC_OPEN));
-    program.Click(IDCANCEL); // takes the notes along
-}
-
-TEST(PictureList, SortsChecksTurnsAndTells)
-{
-    Client program(L"picture_list");
-    program.Window(L"Parts");
-    const HWND header = ::GetTopWindow(program.Item(IDC_PARTS));
-    owtest::Click(header, CPoint(120, 8)); // the masses
-    program.Shows(IDC_STATE, L"plate anchor beam ");
-    owtest::Click(header, CPoint(30, 8)); // the names, backwards
-    program.Shows(IDC_STATE, L"plate beam anchor ");
-
-    const HWND options = program.Item(IDC_OPTIONS);
-    const auto click = [=](int x, int item)
-    {
-        const int height = static_cast<int>(::SendMessageW(options, LB_GETITEMHEIGHT, 0, 0));
-        owtest::Click(options, CPoint(x, height * item + height / 2));
-    };
-    click(6, 2);
-    program.Shows(IDC_STATE, L"001");
-    click(6, 1); // disabled
-    click(40, 0);
-    Press(VK_SPACE);
-    program.Shows(IDC_STATE, L"101");
-
-    owtest::MoveTo(program.Item(IDC_TURN), CPoint(5, 5));
-    program.ShowsTip(L"turns the part");
-    owtest::Click(program.Item(IDC_TURN), CPoint(5, 5));
-    program.Shows(IDC_STATE, L"turned");
-    program.ShowsTip(L""); // the click took it away
     Press(VK_ESCAPE);
 }

@@ -373,4 +373,22 @@ TEST(ModalLoop, IdleTimeIsCountedUntilItIsDeclinedAndBeginsAnewWithAMessage)
     EXPECT_EQ(kicks.size(), 4u);
     EXPECT_EQ(Noted(), "");
 }
+
+TEST(ModalLoop, AnAltKeyShowsAWindowThatHasNotBeenIdleYet)
+{
+    CSeenWnd window;
+    int rounds = 0; // of a queue that is never empty
+    window.see = [&](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
+    {
+        if (message == WM_APP)
+            window.PostMessage(WM_APP);
+        if (message == WM_APP && (window.IsWindowVisible() || ++rounds == 100))
+            window.EndModalLoop(rounds);
+        return std::nullopt;
+    };
+    ASSERT_TRUE(CreatePopup(window));
+    window.PostMessage(WM_APP);
+    window.PostMessage(WM_SYSKEYDOWN, 'Q');
+    EXPECT_LT(window.RunModalLoop(MLF_SHOWONIDLE), 100);
+}
 } // namespace

@@ -228,13 +228,16 @@ TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
         window.GetWindowRect(&place);
         return place;
     };
-    owner.MoveWindow(100, 100, 200, 100);
-    EXPECT_EQ(placeOf(popup), CRect(175, 125, 225, 175));
-    owner.MoveWindow(-150, -80, 200, 100);
-    EXPECT_EQ(placeOf(popup), CRect(0, 0, 50, 50));
-    EXPECT_EQ(placeOf(child), CRect(15, 15, 35, 35)) << "over its parent";
     CRect screen;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &screen, 0);
+    popup.MoveWindow(0, 0, 50, 30);
+    owner.MoveWindow(100, 100, 200, 100);
+    EXPECT_EQ(placeOf(popup), CRect(175, 135, 225, 165));
+    owner.MoveWindow(screen.right - 60, screen.bottom - 30, 200, 100);
+    EXPECT_EQ(placeOf(popup).BottomRight(), screen.BottomRight());
+    owner.MoveWindow(-150, -80, 200, 100);
+    EXPECT_EQ(placeOf(popup), CRect(0, 0, 50, 30));
+    EXPECT_EQ(placeOf(child), CRect(15, 5, 35, 25)) << "over its parent";
     owner.ShowWindow(SW_HIDE);
     EXPECT_EQ(placeOf(popup).CenterPoint(), screen.CenterPoint()) << "an owner that does not show is none";
 }
@@ -288,9 +291,6 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.ScreenToClient(area);
     form.m_button.MapWindowPoints(&form, area);
     EXPECT_EQ(area, CRect(0, 40, 10, 50));
-    CPoint point(1, 1);
-    form.m_button.MapWindowPoints(&form, &point, 1);
-    EXPECT_EQ(point, CPoint(1, 41));
     form.MoveWindow(CRect(50, 60, 260, 170));
     WINDOWPLACEMENT placement = {};
     EXPECT_TRUE(form.GetWindowPlacement(&placement));
@@ -325,26 +325,13 @@ TEST(Window, CallsOnItsTextsAndItems)
     EXPECT_EQ(form.GetDlgItemText(3, string), 6);
     EXPECT_EQ(string, L"button");
 
-    form.UpdateWindow();
     owtest::MoveTo(form, CPoint(150, 30));
-    Noted();
-    CClientDC dc(&form);
-    const auto context = reinterpret_cast<WPARAM>(dc.m_hDC);
-    form.see = [&](UINT message, WPARAM wParam, LPARAM lParam)
+    form.see = [](UINT, WPARAM, LPARAM)
     {
-        if (message == WM_APP || wParam == context)
-            Note("got", message, lParam);
-        if (message == WM_PAINT)
-            Note("paint");
         EXPECT_EQ(CPoint(CWnd::GetCurrentMessage()->pt), CPoint(190, 70)) << "where the mouse was";
         return std::nullopt;
     };
-    form.SendNotifyMessage(WM_APP, 3, 4);
-    form.Print(&dc, PRF_NONCLIENT);
-    form.PrintClient(&dc, PRF_CLIENT);
-    EXPECT_EQ(Noted(), "got 32768 4;got 791 2;got 792 4;");
-    EXPECT_TRUE(form.RedrawWindow());
-    EXPECT_EQ(Noted(), "paint;");
+    form.SendMessage(WM_APP);
 }
 
 TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
@@ -377,10 +364,5 @@ TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
         EXPECT_EQ(form.m_bar.IsWindowVisible() == FALSE, control);
         EXPECT_EQ(form.m_bar.IsWindowEnabled() == FALSE, control);
     }
-    form.ShowScrollBar(SB_BOTH);
-    EXPECT_NE(form.GetStyle() & WS_HSCROLL, 0u);
-    SCROLLBARINFO info = {};
-    EXPECT_TRUE(form.GetScrollBarInfo(OBJID_HSCROLL, &info));
-    EXPECT_TRUE(form.EnableScrollBar(SB_HORZ, ESB_DISABLE_BOTH));
 }
 } // namespace

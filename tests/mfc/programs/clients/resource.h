@@ -6,11 +6,13 @@
 #define IDD_ABOUTBOX 100
 #define IDS_ABOUTBOX 101
 #define IDD_WIZARD_DIALOG 102
+#define IDD_NOTES 103
 #define IDR_MAINFRAME 128
 #define IDC_STATE 1000
 #define IDC_NAME 1001
 #define IDC_COUNT 1002
 #define IDC_GREET 1003
+#define IDC_OPEN 1004
 
 // property_sheet
 #define IDD_SECTION 200
@@ -22,13 +24,6 @@
 #define IDC_GRADE 1201
 #define IDC_WELDABLE 1202
 
-// date_picker
-#define IDD_DATES 200
-#define IDC_DUE 1100
-#define IDC_START 1101
-#define IDC_SPAN 1102
-#define IDC_CHECK 1103
-
 // worker
 #define IDD_WORK 300
 #define IDC_BEGIN 1200
@@ -36,15 +31,3 @@
 #define IDC_DONE 1202
 #define IDC_TOTAL 1203
 #define IDC_HALT 1204
-
-// modeless_dialog
-#define IDD_MODELESS_MAIN 300
-#define IDD_NOTES 301
-#define IDC_OPEN 1300
-
-// picture_list
-#define IDD_PICTURE_LIST 400
-#define IDI_PART 401
-#define IDC_PARTS 1400
-#define IDC_OPTIONS 1401
-#define IDC_TURN 1402
