@@ -7,7 +7,6 @@
 #include <afxcoll.h>
 
 #include <deque>
-#include <iterator>
 
 namespace
 {

@@ -4,9 +4,6 @@
 #include "Thrown.h"
 #include "resource.h"
 
-#include <ChildProcess.h>
-#include <ModalVisit.h>
-
 namespace
 {
 /// An exception that counts its like.

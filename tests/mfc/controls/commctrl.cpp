@@ -70,10 +70,6 @@ TEST(ScrollBar, TheLimitIsWhatTheThumbCanReach)
     info = {};
     EXPECT_TRUE(bar.GetScrollInfo(&info, SIF_PAGE));
     EXPECT_EQ(Told(low, high, info.nPage, bar.GetScrollLimit(), bar.GetScrollPos()), "5,99,10,90,90");
-    SCROLLBARINFO parts;
-    EXPECT_TRUE(bar.GetScrollBarInfo(&parts));
-    EXPECT_EQ(CRect(parts.rcScrollBar).Size(), CSize(100, 20));
-    EXPECT_TRUE(bar.EnableScrollBar(ESB_DISABLE_BOTH) && !bar.IsWindowEnabled());
 }
 
 TEST(ToolTip, KnowsItsToolsAndIsAskedForDisabledControlsToo)
@@ -87,13 +83,16 @@ TEST(ToolTip, KnowsItsToolsAndIsAskedForDisabledControlsToo)
     EXPECT_EQ(tip.GetOwner(), &host);
     EXPECT_TRUE(tip.SendMessage(WM_DISABLEMODAL)) << "tips of a modal dialog stay";
     EXPECT_TRUE(tip.AddTool(&button, L"the button"));
-    EXPECT_TRUE(tip.AddTool(&host, L"a corner", CRect(200, 200, 220, 220), 5));
+    EXPECT_TRUE(tip.AddTool(&host, 7u, CRect(200, 200, 220, 220), 5));
     CString text, corner;
     tip.GetText(text, &button);
-    tip.UpdateTipText(7u, &host, 5);
     tip.GetText(corner, &host, 5);
     EXPECT_EQ(Told(text, corner), "the button,of a table");
+    tip.UpdateTipText(7u, &button);
+    tip.GetText(text, &button);
+    EXPECT_EQ(text, L"of a table");
     CToolInfo info;
+    EXPECT_TRUE(tip.GetToolInfo(info, &button) && info.hwnd == host.m_hWnd && info.uFlags == TTF_IDISHWND);
     EXPECT_FALSE(tip.GetToolInfo(info, &host, 6));
     EXPECT_STREQ(info.lpszText, L"");
     EXPECT_TRUE(tip.GetToolInfo(info, &host, 5));

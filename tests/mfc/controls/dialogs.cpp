@@ -120,7 +120,4 @@ TEST(FontDialog, StartsFromTheFontAndAnswersIt)
     EXPECT_EQ(Told(chosen.lfHeight, dialog.GetFaceName(), dialog.GetSize(), dialog.GetWeight()),
               "-16,Liberation Sans,120,700");
     EXPECT_TRUE(dialog.IsBold() && dialog.IsItalic() && dialog.IsUnderline() && !dialog.IsStrikeOut());
-    CClientDC screen(nullptr);
-    EXPECT_EQ(CFontDialog(nullptr, 0, &screen).m_cf.Flags & (CF_PRINTERFONTS | CF_INITTOLOGFONTSTRUCT),
-              DWORD{CF_PRINTERFONTS});
 }

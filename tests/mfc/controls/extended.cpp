@@ -75,7 +75,7 @@ TEST_F(CheckList, ChecksAreChangedByTheirStyle)
     EXPECT_EQ(Checks(), 110);
     list.SetCheckStyle(BS_AUTOCHECKBOX);
     owtest::Click(list.m_hWnd, At(0, 60)); // beside the box
-    EXPECT_EQ(Checks(), 110);
+    EXPECT_EQ(Told(Checks(), list.GetCurSel()), "110,0");
     list.Enable(0, FALSE);
     list.SetCurSel(1);
     ClickBox(0);
@@ -97,6 +97,18 @@ TEST_F(CheckList, ChangesAllSelectedItemsAtOnce)
     EXPECT_EQ(Told(Checks(), list.GetSelCount()), "110,2");
     ClickBox(2); // not selected
     EXPECT_EQ(Told(Checks(), list.GetSelCount()), "111,1");
+}
+
+TEST_F(CheckList, SpaceSelectsFirstAndThenChecksWhereTheSelectionIsOneByOne)
+{
+    Make(LBS_MULTIPLESEL);
+    list.SetFocus();
+    owtest::Press(VK_DOWN); // to the second item
+    for (const char* const state : {"0,1", "10,0", "10,1", "0,0"})
+    {
+        owtest::Press(VK_SPACE);
+        EXPECT_EQ(Told(Checks(), list.GetSel(1)), state);
+    }
 }
 
 TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
@@ -141,17 +153,17 @@ TEST_F(CheckList, WithoutTextsMeasuresSortsFindsDrawsAndDeletesItsItemsByTheirDa
     NumberList numbers;
     ASSERT_TRUE(numbers.Create(CHILD | LBS_OWNERDRAWVARIABLE | LBS_SORT, CRect(0, 0, 100, 100), &host, 1));
     const auto text = [](INT_PTR number) { return reinterpret_cast<LPCTSTR>(number); };
-    for (const int item : {20, 30, 25})
+    for (const int item : {20, 30, 25, 25})
         numbers.AddString(text(item));
     INT_PTR read = 0;
     EXPECT_EQ(numbers.GetText(1, reinterpret_cast<LPTSTR>(&read)), int(sizeof read));
-    EXPECT_EQ(numbers.SelectString(-1, text(20)), 2);
+    EXPECT_EQ(numbers.SelectString(-1, text(20)), 3);
     EXPECT_EQ(Told(numbers.GetItemData(0), read, numbers.GetItemData(2), numbers.GetItemHeight(0),
-                   numbers.GetItemHeight(1), numbers.FindStringExact(-1, text(25)),
+                   numbers.GetItemHeight(1), numbers.FindStringExact(1, text(25)),
                    numbers.FindString(1, text(30)), numbers.FindString(-1, text(31)), numbers.GetCurSel(),
                    numbers.SelectString(-1, text(11)), numbers.VKeyToItem('A', 0),
                    numbers.CharToItem('a', 0)),
-              "30,25,20,30,25,1,0,-1,2,-1,-1,-1");
+              "30,25,25,30,25,2,0,-1,3,-1,-1,-1");
     numbers.UpdateWindow();
     numbers.DeleteString(1);
     for (const char* logged : {"d20 ", "d25 ", "d30 ", "x25 "})

@@ -21,10 +21,6 @@ TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
     EXPECT_TRUE(dc.GetCurrentBrush() == &brush && dc.SelectStockObject(WHITE_BRUSH) == &brush);
     EXPECT_EQ(dc.SelectObject(&font)->m_hObject, ::GetStockObject(SYSTEM_FONT));
     EXPECT_TRUE(dc.GetCurrentFont() == &font && dc.SelectStockObject(SYSTEM_FONT) == &font);
-    EXPECT_EQ(dc.GetCurrentBitmap()->m_hObject, ::GetCurrentObject(dc, OBJ_BITMAP));
-    dc.SetBrushOrg(3, 4);
-    EXPECT_EQ(dc.SetBrushOrg(5, 6), CPoint(3, 4));
-    EXPECT_EQ(dc.GetBrushOrg(), CPoint(5, 6));
 
     CRgn region;
     region.CreateRectRgn(10, 10, 20, 20);
@@ -51,8 +47,6 @@ TEST(GdiObject, IsWhatItWasCreatedAs)
     }
     CBitmap bitmap;
     ASSERT_TRUE(bitmap.CreateCompatibleBitmap(&surface.dc(), 9, 5));
-    bitmap.SetBitmapDimension(3, 4);
-    EXPECT_EQ(bitmap.SetBitmapDimension(5, 6), CSize(3, 4));
     LOGBRUSH cross = {}, pattern = {};
     CBrush(HS_CROSS, RGB(1, 2, 3)).GetLogBrush(&cross);
     CBrush(&bitmap).GetLogBrush(&pattern);
@@ -278,11 +272,6 @@ TEST(Menu, ItemsAreFoundByTheirIdOrPlaceAndBringTheirStates)
     EXPECT_EQ(Told(text, string), "two,two");
     EXPECT_EQ(menu.GetMenuString(8, string, MF_BYCOMMAND), 0);
     EXPECT_TRUE(string.IsEmpty());
-
-    menu.CheckMenuItem(1, MF_CHECKED);
-    EXPECT_EQ(menu.CheckMenuItem(1, MF_UNCHECKED), UINT{MF_CHECKED});
-    EXPECT_TRUE(menu.SetDefaultItem(3, TRUE));
-    EXPECT_EQ(menu.GetDefaultItem(0, TRUE), 3u);
 }
 
 TEST(Geometry, OperatorsMoveByPointsAndInflateByRectangles)

@@ -1,5 +1,5 @@
-// What arrives at a control, and what becomes of the answer, where a member of its class does more than pass on:
-// it fills a structure, packs or swaps its arguments, or converts what comes back.
+// What arrives at a control, and what becomes of the answer, where a member of its class does more than pass
+// on: it fills a structure, packs or swaps its arguments, or converts what comes back.
 
 #include "HostWindow.h"
 
@@ -132,7 +132,6 @@ TEST(Messages, OfTheClassicControls)
     Arrived(LB_ITEMFROMPOINT, 0, pointPacked);
     Sent(list.SelItemRange(TRUE, 3, 5), LB_SELITEMRANGEEX, 3, 5);
     Sent(list.SelItemRange(FALSE, 3, 5), LB_SELITEMRANGEEX, 5, 3); // backwards is without
-    Sent(list.SetCaretIndex(3, TRUE), LB_SETCARETINDEX, 3, MAKELPARAM(TRUE, 0));
 
     Recorded<CComboBox> combo;
     Sent(combo.SetEditSel(3, 4), CB_SETEDITSEL, 0, pointPacked);
@@ -143,7 +142,6 @@ TEST(Messages, OfTheClassicControls)
     Sent(edit.GetLine(1, reinterpret_cast<LPTSTR>(line), 19), EM_GETLINE, 1, line);
     EXPECT_EQ(line[0], 19) << "where the message looks for the size";
     Sent((edit.SetSel(DWORD(MAKELONG(3, -1)), TRUE), kNone), EM_SETSEL, 3, -1);
-    Sent((edit.SetSel(DWORD(MAKELONG(-1, 4)), TRUE), kNone), EM_SETSEL, -1, 4);
     Sent((edit.SetSel(3, 4), kNone), EM_SCROLLCARET);
     EXPECT_EQ(Told(previous.message, previous.wParam, previous.lParam), Told(EM_SETSEL, 3, 4));
     EXPECT_TRUE(edit.ShowBalloonTip(L"title", text, TTI_ERROR));
@@ -185,15 +183,11 @@ TEST(Messages, OfTheCommonControls)
     EXPECT_EQ(state, 4u);
     Sent(tab.SetItemState(3, 5, 4), TCM_SETITEM, 3, TCITEM{TCIF_STATE, 4, 5});
     Sent(tab.InsertItem(2, text, 3), TCM_INSERTITEM, 2, TCITEM{TCIF_TEXT | TCIF_IMAGE, 0, 0, text, 0, 3});
-    Sent(tab.InsertItem(TCIF_PARAM, 2, text, 3, 4), TCM_INSERTITEM, 2,
-         TCITEM{TCIF_PARAM, 0, 0, text, 0, 3, 4});
 
     Recorded<CStatusBarCtrl> bar;
     Sent(bar.SetText(text, 1, SBT_POPOUT), SB_SETTEXT, 1 | SBT_POPOUT, text);
     EXPECT_EQ(bar.GetText(text, 1, &one) * 10 + one, 427);
     Arrived(SB_GETTEXT, 1, text);
-    Reply(L"tip");
-    EXPECT_EQ(bar.GetTipText(1), L"tip");
 
     Recorded<CToolBarCtrl> tools;
     TBBUTTONINFO info = {};
@@ -213,12 +207,8 @@ TEST(Messages, OfTheCommonControls)
 TEST(Messages, OfListControls)
 {
     Recorded<CListCtrl> list;
-    EXPECT_TRUE(list.GetItemSpacing(TRUE, &one, &other));
-    EXPECT_EQ(one * 10 + other, 427);
-    Arrived(LVM_GETITEMSPACING, TRUE);
 
     Sent(list.SetItem(2, 3, 1, text, 6, 4, 5, 7, 8), LVM_SETITEM, 0, LVITEM{1, 2, 3, 4, 5, text, 0, 6, 7, 8});
-    Sent(list.SetItemState(2, 4, 5), LVM_SETITEMSTATE, 2, LVITEM{0, 0, 0, 4, 5});
     Sent(list.GetItemText(2, 3, text, 9), LVM_GETITEMTEXT, 2, LVITEM{0, 0, 3, 0, 0, text, 9});
     TCHAR buffer[8] = L"mine";
     for (const int length : {0, 3})
@@ -227,7 +217,6 @@ TEST(Messages, OfListControls)
         EXPECT_EQ(list.GetItemText(2, 3, buffer, 8), length);
         EXPECT_STREQ(buffer, length == 0 ? L"mine" : L"own") << "a text that is the control's";
     }
-    Sent(list.SetItemText(2, 3, text), LVM_SETITEMTEXT, 2, LVITEM{0, 0, 3, 0, 0, text});
     Reply(LVITEM{0, 0, 0, 0, 0, nullptr, 0, 0, 0x123456789});
     EXPECT_EQ(list.GetItemData(2), 0x123456789u);
     Arrived(LVM_GETITEM, 0, LVITEM{LVIF_PARAM, 2});
@@ -332,7 +321,6 @@ TEST(Messages, OfCalendarsAndPickers)
     EXPECT_EQ(calendar.GetFirstDayOfWeek(&isOwn) * 10 + isOwn, 427);
     EXPECT_EQ(calendar.SetFirstDayOfWeek(3, &one) * 100 + one, 742);
     Arrived(MCM_SETFIRSTDAYOFWEEK, 0, 3);
-    Sent(calendar.SetCurSel(day), MCM_SETCURSEL, 0, parts);
     Sent(calendar.SetSelRange(day, lastDay), MCM_SETSELRANGE, 0, days);
     Reply(noon);
     EXPECT_EQ(calendar.GetCurSel(low), kAnswer);

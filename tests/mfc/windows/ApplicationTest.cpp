@@ -368,10 +368,8 @@ TEST(CommandLine, IsParsedArgumentByArgument)
         {{L"-pt", L"a", L"lp", L"drv", L"out", L"x"}, Info::FilePrintTo, L"a|lp|drv|out|001"},
         {{L"/P", L"a.dat"}, Info::FileOpen, L"a.dat||||001"},
         {{L"/dde"}, Info::FileDDE, L"||||001"},
-        {{L"/regserver"}, Info::AppRegister, L"||||001"},
         {{L"/Register"}, Info::AppRegister, L"||||001"},
         {{L"-unREGISTER"}, Info::AppUnregister, L"||||001"},
-        {{L"/Unregserver"}, Info::AppUnregister, L"||||001"},
         {{L"/embedding"}, Info::FileNew, L"||||100"},
         {{L"-Automation", L"a.dat"}, Info::FileOpen, L"a.dat||||010"},
     };

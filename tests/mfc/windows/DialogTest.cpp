@@ -215,6 +215,14 @@ TEST_F(Dialog, EscapeInAMultilineEditCancelsUnlessTheButtonIsDisabled)
     {
         const auto escape = [&](CTextDialog& self)
         {
+            CSeenWnd keeper(
+                [](UINT message, WPARAM, LPARAM) {
+                    return message == WM_GETDLGCODE ? std::optional<LRESULT>(DLGC_WANTALLKEYS) : std::nullopt;
+                });
+            ASSERT_TRUE(CreateChild(keeper, self, 1));
+            MSG kept{keeper, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
+            self.PreTranslateMessage(&kept);
+            EXPECT_TRUE(self.ContinueModal()) << "by a control that wants all keys";
             MSG key{self.GetDlgItem(idEdit)->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
             self.PreTranslateMessage(&key);
             EXPECT_EQ(self.ContinueModal() != FALSE, result == 17);
@@ -389,6 +397,6 @@ TEST(ModalLoop, AnAltKeyShowsAWindowThatHasNotBeenIdleYet)
     ASSERT_TRUE(CreatePopup(window));
     window.PostMessage(WM_APP);
     window.PostMessage(WM_SYSKEYDOWN, 'Q');
-    EXPECT_LT(window.RunModalLoop(MLF_SHOWONIDLE), 100);
+    EXPECT_EQ(window.RunModalLoop(MLF_SHOWONIDLE), 1);
 }
 } // namespace

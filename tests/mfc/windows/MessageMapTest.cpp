@@ -107,6 +107,7 @@ protected:
     afx_msg void OnUpdateMenuCommand(CCmdUI* item) { item->Enable(m_enabled && item->m_nID == 40002); }
     afx_msg LRESULT OnRegistered(WPARAM w, LPARAM) { return static_cast<LRESULT>(w) + 1; }
     afx_msg void OnSize(UINT type, int cx, int cy) { Note("size", type, cx, cy); }
+    afx_msg void OnSizing(UINT side, LPRECT) { Note("sizing", side); }
     afx_msg void OnMouseMove(UINT, CPoint point) { Note("move", point.x, point.y); }
     afx_msg BOOL OnMouseWheel(UINT, short delta, CPoint point)
     {
@@ -125,6 +126,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_SIZE()
+    ON_WM_SIZING()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
     ON_WM_TIMER()
@@ -243,6 +245,7 @@ TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
         {registeredMessage, 8, 0, "9"},
         {otherMessage, 8, 0, "0"},
         {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 480), "size 2 640 480;0"},
+        {WM_SIZING, WMSZ_TOP, 0, "sizing 3;1"},
         {WM_MOUSEMOVE, 0, MAKELPARAM(-3, -4), "move -3 -4;0"},
         {WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5), "wheel -120 -1 5;1"},
         {WM_TIMER, UINT_PTR{0x100000001}, 0, "timer 4294967297;0"},

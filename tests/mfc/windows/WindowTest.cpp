@@ -349,6 +349,7 @@ TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
         EXPECT_EQ(form.SetScrollPos(SB_HORZ, 10), 9);
         EXPECT_EQ(form.GetScrollPos(SB_HORZ), 10);
         EXPECT_EQ(form.m_bar.GetScrollPos(), control ? 10 : 0);
+        EXPECT_EQ(form.GetScrollLimit(SB_HORZ), 50);
         SCROLLINFO info = {};
         info.fMask = SIF_PAGE;
         info.nPage = 11;

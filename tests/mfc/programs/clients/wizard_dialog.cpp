@@ -42,8 +42,6 @@ protected:
     virtual BOOL OnInitDialog();
 
     afx_msg void OnSysCommand(UINT nID, LPARAM lParam);
-    afx_msg void OnPaint();
-    afx_msg HCURSOR OnQueryDragIcon();
     afx_msg void OnBnClickedGreet();
     afx_msg BOOL OnHelpInfo(HELPINFO* pHelpInfo);
     afx_msg void OnOpen();
@@ -97,8 +95,6 @@ void CWizardDlg::DoDataExchange(CDataExchange* pDX)
 
 BEGIN_MESSAGE_MAP(CWizardDlg, CDialog)
     ON_WM_SYSCOMMAND()
-    ON_WM_PAINT()
-    ON_WM_QUERYDRAGICON()
     ON_WM_HELPINFO()
     ON_BN_CLICKED(IDC_GREET, &CWizardDlg::OnBnClickedGreet)
     ON_BN_CLICKED(IDC_OPEN, &CWizardDlg::OnOpen)
@@ -139,26 +135,6 @@ void CWizardDlg::OnSysCommand(UINT nID, LPARAM lParam)
     {
         CDialog::OnSysCommand(nID, lParam);
     }
-}
-
-void CWizardDlg::OnPaint()
-{
-    if (!IsIconic())
-    {
-        CDialog::OnPaint();
-        return;
-    }
-    CPaintDC dc(this);
-    SendMessage(WM_ICONERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc()), 0);
-    CRect rect;
-    GetClientRect(&rect);
-    dc.DrawIcon((rect.Width() - GetSystemMetrics(SM_CXICON) + 1) / 2,
-                (rect.Height() - GetSystemMetrics(SM_CYICON) + 1) / 2, m_hIcon);
-}
-
-HCURSOR CWizardDlg::OnQueryDragIcon()
-{
-    return static_cast<HCURSOR>(m_hIcon);
 }
 
 BOOL CWizardDlg::OnHelpInfo(HELPINFO* pHelpInfo)
