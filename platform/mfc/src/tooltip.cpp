@@ -94,22 +94,13 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UIN
     return AfxSend<BOOL>(TTM_ADDTOOL, 0, &tool);
 }
 
-namespace
-{
-/// The module of a string; strings stand in tables of 16.
-HINSTANCE StringModule(UINT id)
-{
-    return AfxFindResourceHandle(MAKEINTRESOURCE((id >> 4) + 1), RT_STRING);
-}
-} // namespace
-
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool)
 {
     TOOLINFO tool;
     FillInToolInfo(tool, pWnd, nIDTool);
     if (lpRectTool != nullptr)
         tool.rect = *lpRectTool;
-    tool.hinst = StringModule(nIDText);
+    tool.hinst = AfxFindStringResourceHandle(nIDText);
     tool.lpszText = MAKEINTRESOURCE(nIDText);
     return AfxSend<BOOL>(TTM_ADDTOOL, 0, &tool);
 }

@@ -62,7 +62,7 @@ TEST_F(Extension, AMissingResourceAnswersTheCurrentHandle)
     EXPECT_STREQ(text, L"extensi");
 }
 
-TEST_F(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
+TEST_F(Extension, ADialogOfAModuleComesWithItsTipsAndTheContentsOfItsListsAlsoAsMemory)
 {
     EXPECT_EQ(AfxFindResourceHandle(MAKEINTRESOURCE(IDD_EXTENSION_DIALOG), RT_DIALOG), module);
     const auto resource = [this](LPCTSTR type)
@@ -73,6 +73,11 @@ TEST_F(Extension, ADialogOfAModuleComesWithTheContentsOfItsListsAlsoAsMemory)
     CDialog named, indirect;
     ASSERT_TRUE(named.Create(IDD_EXTENSION_DIALOG));
     EXPECT_EQ(named.SendMessage(WM_HELPHITTEST), 0x20000 + IDD_EXTENSION_DIALOG) << "its help's number";
+    CToolTipCtrl tip;
+    CString told;
+    EXPECT_TRUE(tip.Create(&named) && tip.AddTool(&named, IDS_EXTENSION_ONLY, CRect(0, 0, 9, 9), 1));
+    tip.GetText(told, &named, 1);
+    EXPECT_STREQ(told, L"extension only");
     CDialog withHelp;
     withHelp.SetHelpID(7);
     ASSERT_TRUE(withHelp.Create(IDD_EXTENSION_DIALOG));
