@@ -350,11 +350,13 @@ TEST(List, GivesItsMemoryBackWithTheLastElementAndAfterAFailure)
     for (int i = 0; i < 100; ++i)
         list.AddTail(Counted(i));
     EXPECT_EQ(Counted::s_alive, 100);
+    const size_t filled = owtest::CountHeapBytes();
     while (list.GetCount() > 1)
         list.RemoveAt(list.FindIndex(list.GetCount() / 2));
     EXPECT_TRUE(list.HasBlocks());
     list.RemoveHead();
     EXPECT_FALSE(list.HasBlocks());
+    EXPECT_LT(owtest::CountHeapBytes() + 100 * sizeof(Counted), filled);
     EXPECT_EQ(Counted::s_alive, 0);
 
     const Counted element(3);
@@ -436,7 +438,8 @@ TEST(Map, TakesTextsAndClassesWithTheirOwnHashAsKeys)
     LPCTSTR ownKey = nullptr;
     EXPECT_TRUE(texts.LookupKey(CString(L"a"), ownKey) && !texts.LookupKey(L"other", ownKey));
     EXPECT_EQ(texts[ownKey], L"12");
-    EXPECT_NE(HashKey<LPCTSTR>(L"ab"), HashKey<LPCTSTR>(L"ba")) << "each letter counts, and its place";
+    EXPECT_NE(HashKey<LPCTSTR>(&L"\0abc"[1]), HashKey<LPCTSTR>(&L"\0acb"[1]))
+        << "each letter counts, and its place";
 }
 
 TEST(Map, EveryValueIsDestroyedOnce)

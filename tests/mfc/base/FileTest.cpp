@@ -137,6 +137,10 @@ TEST_F(File, EveryKindReadsWritesSeeksAndMeasuresAlike)
     EXPECT_EQ(block[0], 'X') << "an attached block stays the caller's";
     fixed.SeekToEnd();
     EXPECT_EQ(CauseThrownBy([&] { fixed.Write("!", 1); }), CFileException::diskFull);
+    CMemFile growing(block, sizeof(block), 4);
+    growing.Write("12345678", 8);
+    growing.Write("9", 1);
+    EXPECT_EQ(Told(growing.GetLength(), block[7]), Told(9, BYTE('8'))) << "from there on in its own memory";
 }
 
 TEST_F(File, ModesDecideWhatOpeningDoesAndSharingIsExclusiveUnlessSaid)
@@ -172,7 +176,7 @@ TEST_F(File, HandlesAreSharedByDuplicatesAndLeftOpenWhenAttached)
         EXPECT_EQ(twin->GetFilePath(), file.GetFilePath());
         twin->SeekToEnd();
         EXPECT_EQ(file.GetPosition(), 4u);
-        file.Close();
+        file.Abort();
         EXPECT_EQ(Told(file.GetFilePath(), twin->GetLength()), ",4");
         char byte = 0;
         EXPECT_EQ(CauseThrownBy([&] { file.Read(&byte, 1); }), CFileException::invalidFile);

@@ -77,8 +77,6 @@ LPARAM Number(const Value& value)
 {
     if constexpr (std::is_convertible_v<Value, const CWnd*>)
         return reinterpret_cast<LPARAM>(value->m_hWnd);
-    else if constexpr (std::is_same_v<Value, CSize>)
-        return MAKELONG(value.cx, value.cy);
     else
         return AfxToMessage<LPARAM>(value);
 }
@@ -133,9 +131,6 @@ TEST(Messages, OfTheClassicControls)
     Sent(list.SelItemRange(TRUE, 3, 5), LB_SELITEMRANGEEX, 3, 5);
     Sent(list.SelItemRange(FALSE, 3, 5), LB_SELITEMRANGEEX, 5, 3); // backwards is without
 
-    Recorded<CComboBox> combo;
-    Sent(combo.SetEditSel(3, 4), CB_SETEDITSEL, 0, pointPacked);
-
     Recorded<CEdit> edit;
     Sent((edit.SetMargins(3, 4), kNone), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, pointPacked);
     WORD line[20] = {};
@@ -175,7 +170,6 @@ TEST(Messages, OfTheCommonControls)
     Sent(header.GetOrderArray(numbers), HDM_GETORDERARRAY, kAnswer, numbers);
 
     Recorded<CTabCtrl> tab;
-    Sent(tab.SetItemSize(CSize(3, 4)), TCM_SETITEMSIZE, 0, pointPacked);
     Sent(tab.SetExtendedStyle(3, 4), TCM_SETEXTENDEDSTYLE, 4, 3);
     DWORD state = 1;
     Reply(TCITEM{0, 4});

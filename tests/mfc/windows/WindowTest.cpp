@@ -292,9 +292,6 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.m_button.MapWindowPoints(&form, area);
     EXPECT_EQ(area, CRect(0, 40, 10, 50));
     form.MoveWindow(CRect(50, 60, 260, 170));
-    WINDOWPLACEMENT placement = {};
-    EXPECT_TRUE(form.GetWindowPlacement(&placement));
-    EXPECT_EQ(CRect(placement.rcNormalPosition), CRect(50, 60, 260, 170));
     for (const auto& [place, style] : {std::pair(&CWnd::wndTopMost, WS_EX_TOPMOST), {&CWnd::wndNoTopMost, 0}})
     {
         form.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
