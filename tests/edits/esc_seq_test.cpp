@@ -23,9 +23,7 @@ protected:
         dialog.DestroyWindow();
         m_box = std::make_unique<Box>(&handler, nButton);
         EXPECT_TRUE(dialog.Open());
-        m_box->SubclassWindow(::CreateWindow(L"EDIT", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, 210,
-                                             90, 90, 60, dialog, reinterpret_cast<HMENU>(kFree), nullptr,
-                                             nullptr));
+        m_box->Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | dwStyle, CRect(210, 90, 300, 150), &dialog, kFree);
         m_box->SetWindowPos(dialog.GetDlgItem(kGivenUnit), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
         handler.Take();
         handler.look = [this] { return ": " + std::string(CStringA(m_box->GetValue())); };
@@ -67,14 +65,9 @@ protected:
     {
         OCArray<CString> codes, descriptions;
         codes.Add(L"old");
-        const int nCount = box.EnumEscSeq(codes, descriptions);
-        EXPECT_TRUE(codes.GetSize() == nCount && descriptions.GetSize() == nCount);
         std::wstring line;
-        for (int i = 0; i < nCount; ++i)
-        {
-            line += codes[i];
-            EXPECT_TRUE(gOtLang.Has(descriptions[i])) << CStringA(descriptions[i]).GetString();
-        }
+        for (int i = 0, nCount = box.EnumEscSeq(codes, descriptions); i < nCount; ++i)
+            line += codes[i] + (gOtLang.Has(descriptions[i]) ? L"" : L" has no words in English ");
         return line;
     }
 

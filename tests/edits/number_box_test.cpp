@@ -15,16 +15,13 @@ struct Model
     std::wstring text = L"0";
     Number value = 0, min = 0, max = -1;
     bool empty = false;
-    int decimals = 0;
 
     Number Clamped(Number n) const { return min > max ? n : n < min ? min : n > max ? max : n; }
     void Show(Number n, bool isEmpty)
     {
         value = Clamped(n);
         empty = isEmpty;
-        CString written;
-        written.Format(L"%.*f", decimals, static_cast<double>(value));
-        text = empty ? L"" : written.GetString();
+        text = empty ? L"" : std::to_wstring(static_cast<int>(value));
     }
     void SetValue(Number n, bool force) { n != value || empty || force ? Show(n, false) : void(); }
     void SetEmpty(bool force) { !empty || force ? Show(value, true) : void(); }
@@ -45,11 +42,6 @@ struct Model
         value = Clamped(static_cast<Number>(std::stod(text)));
         empty = false;
     }
-    void SetFormat(EDoubleFormat, int n, bool force)
-    {
-        if (n != std::exchange(decimals, n) || force)
-            Show(value, empty);
-    }
     auto State() const
     {
         const bool valid =
@@ -66,16 +58,12 @@ void ExpectAsModel(auto& box)
     EXPECT_EQ(TextOf(box), model.text);
     for (int step = 0; step < 1000 && !testing::Test::HasFailure(); ++step)
     {
-        const int action = random() % (model.kWhole ? 7 : 8); // of few numbers: equal ones come often
-        const int a = random() % 9 - 4, b = random() % 9 - 4;
+        const int action = random() % 7, a = random() % 9 - 4, b = random() % 9 - 4; // equal ones come often
         const bool force = random() % 4 == 0;
         const std::wstring shown =
             random() % 3 ? L"?" : std::to_wstring(7 * b); // stays if nothing is written
         const auto act = [&](auto& target)
         {
-            if constexpr (!Model<Number>::kWhole)
-                if (action == 7)
-                    return target.SetFormat(eDoubleFormatFixed, a > 0 ? a : 0, force);
             return action == 0   ? target.SetValue(a, force)
                    : action == 1 ? target.SetEmpty(force)
                    : action == 2 ? target.SetRange(a, b, force)
