@@ -1,5 +1,4 @@
-// The dialogs that ask for a name or a file, through the functions that open them; and what all dialogs that wait for
-// an answer have in common: over which window they stand, whose resources they use, that they give everything back.
+// The dialogs that ask for a name or a file, and what all dialogs that wait for an answer have in common.
 
 #include "BoxParts.h"
 
@@ -36,7 +35,6 @@ struct Kind
 {
     int box;
     decltype(&Start::Edit) start;
-    std::wstring caption; ///< in the test's catalogue
 
     /// The name in the end, and the answer.
     std::wstring Ask(const std::wstring& begins, const Visitor& visitor,
@@ -57,7 +55,32 @@ struct Kind
         };
     }
 };
-const Kind kKinds[] = {{kEdit, &Start::Edit, L"Ime"}, {kCombo, &Start::Combo, L"Upis"}};
+const Kind kKinds[] = {{kEdit, &Start::Edit}, {kCombo, &Start::Combo}};
+
+/// The path in the end, and the answer.
+std::wstring AskFile(int open, const wchar_t* name, const wchar_t* title, const Visitor& visitor,
+                     unsigned long flags = 0)
+{
+    CString path = L"before";
+    const auto start = [&]
+    {
+        return gfnStartTranslatedFileDialog(path, open, L"txt", name, flags, L"Text (*.txt)|*.txt||", nullptr,
+                                            title);
+    };
+    const int answer = Visited(start, visitor);
+    return path.GetString() + (L": " + std::to_wstring(answer));
+}
+
+/// Accepts a name; so it does with a box by which the system refuses it.
+Visitor Accept(const wchar_t* name)
+{
+    return [=](CWnd& dialog)
+    {
+        owtest::ModalVisit box([](CWnd& message) { message.PostMessage(WM_COMMAND, IDOK); });
+        dialog.SetDlgItemText(kFileName, name);
+        owtest::Click(*dialog.GetDlgItem(IDOK));
+    };
+}
 } // namespace
 
 TEST(NameDialogs, TakeOverANameOnOkAndLeaveItOtherwise)
@@ -96,13 +119,12 @@ TEST(NameDialogs, AreInTheLanguageOfTheCatalogueButForWhatTheCallerGave)
             const auto look = [&](CWnd& dialog)
             {
                 seen = TextsOf(dialog, {kind.box, IDCANCEL});
-                EXPECT_TRUE(CountColoured(dialog, IDOK) > 10 && CountColoured(dialog, IDCANCEL) > 10)
-                    << "icons";
+                EXPECT_TRUE(CountColoured(dialog, IDOK) > 10 && CountColoured(dialog, IDCANCEL) > 10);
             };
             kind.Ask(name, look, caption);
             return seen;
         };
-        EXPECT_EQ(texts(L"Naziv", L""), kind.caption + L"|Naziv|Odustani");
+        EXPECT_EQ(texts(L"Naziv", L""), (kind.box == kEdit ? L"Ime|Naziv|Odustani" : L"Upis|Naziv|Odustani"));
         EXPECT_EQ(texts(L"", L"Snimi"), L"Snimi||Odustani");
     }
 }
@@ -122,34 +144,6 @@ TEST(NameDialogs, ListTheNamesAsGiven)
     EXPECT_EQ(Visited([&] { return Start::Combo(name, L"", nullptr); }, look), IDOK);
     EXPECT_EQ(name, L"Axes");
 }
-
-namespace
-{
-/// The path in the end, and the answer.
-std::wstring AskFile(int open, const wchar_t* name, const wchar_t* title, const Visitor& visitor,
-                     unsigned long flags = 0)
-{
-    CString path = L"before";
-    const auto start = [&]
-    {
-        return gfnStartTranslatedFileDialog(path, open, L"txt", name, flags, L"Text (*.txt)|*.txt||", nullptr,
-                                            title);
-    };
-    const int answer = Visited(start, visitor);
-    return path.GetString() + (L": " + std::to_wstring(answer));
-}
-
-/// Accepts a name; so it does with a box by which the system refuses it.
-Visitor Accept(const wchar_t* name)
-{
-    return [=](CWnd& dialog)
-    {
-        owtest::ModalVisit box([](CWnd& message) { message.PostMessage(WM_COMMAND, IDOK); });
-        dialog.SetDlgItemText(kFileName, name);
-        owtest::Click(*dialog.GetDlgItem(IDOK));
-    };
-}
-} // namespace
 
 TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
 {
@@ -175,8 +169,7 @@ TEST(TranslatedFileDialog, HasItsTextsInTheLanguageOfTheCatalogue)
 TEST(TranslatedFileDialog, GivesThePathWhateverTheAnswer)
 {
     const auto folder = std::filesystem::temp_directory_path();
-    const std::wstring start = folder / L"ow start.txt", present = folder / L"ow present.txt",
-                       longName(10000, L'a');
+    const std::wstring start = folder / L"ow start.txt", present = folder / L"ow present.txt";
     std::ofstream{std::filesystem::path(present)};
     const auto ask = [&](int open, unsigned long flags, const wchar_t* name)
     { return AskFile(open, start.c_str(), nullptr, Accept(name), flags | OFN_NOCHANGEDIR); };
@@ -186,18 +179,13 @@ TEST(TranslatedFileDialog, GivesThePathWhateverTheAnswer)
     std::filesystem::remove(present);
     EXPECT_EQ(AskFile(TRUE, nullptr, nullptr, PressEscape), L": 2");
     EXPECT_EQ(AskFile(FALSE, L"plan.txt", nullptr, PressEscape), L"plan.txt: 2");
-    EXPECT_EQ(AskFile(TRUE, longName.c_str(), nullptr, PressEscape),
-              longName.substr(0, MAX_PATH - 1) + L": 2");
 }
 
 TEST(TranslatedFileDialog, CompletesItsFilter)
 {
     const std::wstring text(L"Text\0*.txt\0\0", 12), all(L"Text\0*.txt\0All\0*.*\0\0", 20);
-    // clang-format off
     const std::pair<const wchar_t*, std::wstring> cases[] = {
-        {L"Text|*.txt||", text}, {L"Text|*.txt|", text}, {L"Text|*.txt", text}, {L"Text|*.txt|All||", all},
-        {L"Text|*.txt|All", all}, {L"", L""}, {L"||", L""}, {nullptr, L""}};
-    // clang-format on
+        {L"Text|*.txt||", text}, {L"Text|*.txt|All", all}, {L"||", L""}, {nullptr, L""}};
     for (const auto& [filter, expected] : cases)
     {
         const CTranslatedFileDialog dialog(TRUE, nullptr, nullptr, 0, filter, nullptr, nullptr);

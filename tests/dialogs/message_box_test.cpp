@@ -70,10 +70,8 @@ TEST_F(MessageBoxes, AnswerWithTheButtonPressedAsTheSystemsDo)
         {MB_OKCANCEL, PressEnter, L"OK|Cancel: 1"},
         {MB_OKCANCEL, PressEscape, L"OK|Cancel: 2"},
         {MB_YESNO, ClickOn(kSecond), L"Yes|No: 7"},
-        {MB_YESNO, PressEscape, L"Yes|No: 7"},
         {MB_YESNOCANCEL, ClickOn(kFirst), L"Yes|No|Cancel: 6"},
         {MB_YESNOCANCEL, ClickOn(kThird), L"Yes|No|Cancel: 2"},
-        {MB_YESNOCANCEL, PressEscape, L"Yes|No|Cancel: 2"},
         {MB_ABORTRETRYIGNORE, PressEscape, L"OK: 1"}, // buttons that it does not have: OK alone
     };
     for (const auto& [type, visitor, outcome] : standard)
@@ -214,8 +212,7 @@ TEST_F(MessageBoxes, ThatArePreparedShowWhatTheyWereGivenAsOftenAsTheyAreAsked)
     const auto show = [&] { return box.DoModal(); };
     EXPECT_EQ(Visit(show, ClickOn(kThird)), L"Caption|Text|OK|Drugi|Treci: 3");
     owner.DestroyWindow();
-    EXPECT_EQ(Visit(show, PressEscape), L"Caption|Text|OK|Drugi|Treci: 0")
-        << "whatever was pressed the last time";
+    EXPECT_EQ(Visit(show, PressEscape), L"Caption|Text|OK|Drugi|Treci: 0");
 }
 
 // By the line of the report.

@@ -15,11 +15,7 @@ UINT s_period = 0; ///< of the messenger's timer
 /// The host's window; deletes itself.
 struct HostFrame : CFrameWnd
 {
-    HostFrame()
-    {
-        EXPECT_TRUE(Create(nullptr, L"Host"));
-        acadhostUseFrame(this);
-    }
+    HostFrame() { EXPECT_TRUE(Create(nullptr, L"Host")); }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         s_ticks += message == WM_TIMER && wParam == kTimer;

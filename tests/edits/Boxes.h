@@ -18,9 +18,8 @@ inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillim
 inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
 
 /// Writes down each call as "change 1001; ", with what the test wants to know at that moment behind the id.
-class Recorder : public CEditDWRNotificationHandler
+struct Recorder : CEditDWRNotificationHandler
 {
-public:
     std::function<std::string()> look = [] { return ""; };
     std::string Take() { return std::exchange(m_calls, {}); }
 
@@ -29,7 +28,6 @@ public:
     void OnEditNKillFocus(int nId) override { Record("leave ", nId); }
     void OnEditDWRSpinDeltaPos(int nId) override { Record("spin ", nId); }
 
-private:
     void Record(const char* what, int nId) { m_calls += what + std::to_string(nId) + look() + "; "; }
 
     std::string m_calls;
@@ -86,9 +84,8 @@ struct BoxesDialog : CDialog, Recorder
     void OnCancel() override { ++cancels; }
 };
 
-class Boxes : public ::testing::Test
+struct Boxes : ::testing::Test
 {
-protected:
     void SetUp() override
     {
         ASSERT_TRUE(dialog.Open());

@@ -12,9 +12,8 @@ struct OpenHook : CEditCtrlAnsiMsgHook
 };
 
 /// A window without a font, and a box with one.
-class AnsiHook : public ::testing::Test
+struct AnsiHook : ::testing::Test
 {
-protected:
     void SetUp() override
     {
         ASSERT_TRUE(
@@ -49,8 +48,6 @@ TEST_F(AnsiHook, GivesABoxItsFontInTheOtherCharacterSetAndAfterwardsTheParents)
 {
     OpenHook hook;
     EXPECT_EQ(hook.HookWindow(nullptr), 0);
-    hook._CreateCustomFont(GREEK_CHARSET); // for no box
-    hook._DeleteCustomFont();
     const std::wstring parents = owtest::FontOf(parent).lfFaceName;
     for (const std::wstring& face : {std::wstring(L"Liberation Sans"), parents}) // then as it was left
     {

@@ -27,10 +27,8 @@ std::wstring Written(EDoubleFormat format, int decimals, double value)
 void ExpectSameFast(int decimals, double value)
 {
     wchar_t text[kDoubleTextSize];
-    EXPECT_EQ(gfnFormatFixed(text, decimals, value), Written(eDoubleFormatFixed, decimals, value))
-        << decimals;
-    EXPECT_EQ(gfnFormatExponent(text, decimals, value), Written(eDoubleFormatExponent, decimals, value))
-        << decimals;
+    EXPECT_EQ(gfnFormatFixed(text, decimals, value), Written(eDoubleFormatFixed, decimals, value));
+    EXPECT_EQ(gfnFormatExponent(text, decimals, value), Written(eDoubleFormatExponent, decimals, value));
 }
 } // namespace
 
@@ -62,11 +60,10 @@ TEST(DoubleText, IsBoundedWhateverTheNumberAndTheDecimals)
 
 TEST(DoubleText, IsReadFromItsBeginningAndHasAPointInALocaleWithAComma)
 {
-    // clang-format off
     const std::pair<const wchar_t*, double> cases[] = {
-        {L"12kN", 12.0}, {L"  -.5", -0.5}, {L"+5.", 5.0}, {L"1e3", 1000.0}, {L"1,5", 1.0}, {L"12em", 12.0},
-        {L"3 4", 3.0}, {L"1e308", 1e308}, {L"12345678901234567890", 12345678901234567890.0}};
-    // clang-format on
+        {L"12kN", 12.0},  {L"  -.5", -0.5},  {L"+5.", 5.0},
+        {L"1e3", 1000.0}, {L"1,5", 1.0},     {L"12em", 12.0},
+        {L"3 4", 3.0},    {L"1e308", 1e308}, {L"12345678901234567890", 12345678901234567890.0}};
     for (const auto& [text, value] : cases)
         EXPECT_EQ(Read(text), value) << text;
     for (const auto text :
@@ -78,7 +75,6 @@ TEST(DoubleText, IsReadFromItsBeginningAndHasAPointInALocaleWithAComma)
     ASSERT_TRUE(std::setlocale(LC_NUMERIC, "German"));
     EXPECT_EQ(Written(eDoubleFormatFixed, 2, 3.75) + Written(eDoubleFormatGeneral, 2, 3.75), L"3.753.75");
     ExpectSameFast(2, 3.75);
-    ExpectSameFast(9, 3.75);
     EXPECT_EQ(gfnFormatAllDigits(2, 3.75), L"3.75");
     EXPECT_TRUE(Read(L"2.25") == 2.25 && Read(L"1.5,5") == 1.5);
     EXPECT_TRUE(Read(L"7,5") == 7.0 && Read(L",5") == kNothing) << "a comma ends the number";

@@ -4,9 +4,8 @@
 
 namespace
 {
-class SpinBox : public Boxes
+struct SpinBox : Boxes
 {
-protected:
     OwnControlsBox& box = dialog.own;
 
     /// One press, as the spin tells of it; the answer.
@@ -80,12 +79,9 @@ TEST_F(SpinBox, StepsFromMultipleToMultipleInItsLocalUnitAndRange)
         box.SetWindowText(from);
         handler.Take();
         EXPECT_EQ(TextAfter(delta), to ? to : from);
-        EXPECT_EQ(handler.Take(), to ? "change 1005; spin 1005; " : "")
-            << "none for a press that leads nowhere";
+        EXPECT_EQ(handler.Take(), to ? "change 1005; spin 1005; " : "");
         EXPECT_DOUBLE_EQ(box.GetValue(), std::wcstod(TextOf(box).c_str(), nullptr)) << "the text is stored";
     }
-    box.SetValue(kInfinity);
-    EXPECT_EQ(TextAfter(+1), L"inf");
     box.SetValue(0.0);
     box.SetReadOnly(TRUE);
     EXPECT_TRUE(Press(box, +1) == 77 && box.GetValue() == 0.0) << "a read-only box does not touch the answer";
@@ -96,8 +92,6 @@ TEST_F(SpinBox, StepsFromMultipleToMultipleInItsLocalUnitAndRange)
     box.SetValue(0.25);
     box.SafeSetWindowText(L"what");
     EXPECT_EQ(TextAfter(+1), L"260.00") << "from the value where the text is no number";
-    box.SafeSetWindowText(L"1e999");
-    EXPECT_EQ(TextAfter(-1), L"250.00");
     box.SetEmpty();
     EXPECT_EQ(TextAfter(+1), L"10.00") << "from zero in an empty box";
     box.SetRange(0.025, 0.033);
@@ -146,8 +140,7 @@ TEST_F(SpinBox, HasItsUnitLabelBesideIt)
     EXPECT_EQ(dialog.given.GetWindow(GW_HWNDPREV), &box.Spin()) << "in no dialog group but that of the box";
     EXPECT_EQ(box.Spin().GetWindow(GW_HWNDPREV), &box.Label());
     EXPECT_NEAR(ClientRectIn(dialog, box.Spin()).left, ClientRectIn(dialog, box).right,
-                2 * ::GetSystemMetrics(SM_CXEDGE))
-        << "it took its width from the box";
+                2 * ::GetSystemMetrics(SM_CXEDGE));
     ExpectLabel(dialog, box, L"x");
     for (const CComplexUnit& unit : {kMillimetre, CComplexUnit(CMeasurementUnit(), 0), kCentimetre})
     {
@@ -204,7 +197,6 @@ TEST(SpinBoxIds, AreDrawnFromThePoolAndGivenBackInTheOrderOfAStackWithAllThatADi
         before = round == 2 ? owtest::CountHandles() : before; // with what the system sets up once
         BoxesDialog opened(nullptr);
         ASSERT_TRUE(opened.Open());
-        opened.own.SetComplexUnit(kMillimetre);
         EXPECT_EQ(opened.own.GetComplexUnitStaticId(), nFirst);
         EXPECT_EQ(opened.own.GetSpinCtrlId(), nFirst - 1);
         EXPECT_EQ(NextPoolId(), nFirst - 2) << "given ids are not drawn";

@@ -14,9 +14,8 @@ struct StrictBox : CEditAcadEscSeqSpecLima
 };
 
 /// A box in front of its button; another one has the focus.
-class EscSeq : public Boxes
+struct EscSeq : Boxes
 {
-protected:
     template <class Box = StrictBox>
     Box& Show(DWORD dwStyle = ES_AUTOHSCROLL, int nButton = kInsert)
     {
@@ -83,7 +82,6 @@ TEST_F(EscSeq, EachKindOffersItsSequencesInTheLanguageOfTheProgram)
     EXPECT_EQ(Codes(CEditAcadEscSeqText()) + L' ' + Codes(member) + L' ' + Codes(plate),
               L"%%c %i%f%m%o%d %i%l%w%h");
     EXPECT_EQ(Codes(CEditAcadEscSeqSpecProizvStapa()), L"%i%f%m%o%d%a%n%k%l%p%s%h");
-    EXPECT_EQ(Codes(CEditEscSeqText(nullptr, 0)), L"");
     member.m_bNoDimensions = plate.m_bNoDimensions = true;
     EXPECT_EQ(Codes(member) + Codes(plate), L"%i%f%m%o%i%h");
 
@@ -179,7 +177,6 @@ TEST_F(EscSeq, NeitherStoresNorOverwritesARefusedTextAndIgnoresWhatItCannotInser
     other.OnTextChosen(kInsert, 0);
     EXPECT_TRUE(handler.Take().empty() && TextOf(other) == L"ab");
     other.SetReadOnly(FALSE);
-    other.SetAnsiInterface(true);
     other.OnTextChosen(kInsert, 0);
     EXPECT_EQ(TextOf(other), L"%iab");
     for (const bool bForce : {false, true})

@@ -1,6 +1,5 @@
 // Fatal reports: log, box, break and exit, each scenario in a process of its own.
 
-#include <DialogControlsOW.h>
 #include <module/AssertReport.h>
 
 #include "Testing.h"
@@ -14,9 +13,8 @@ namespace
 constexpr wchar_t kAssertText[] = L"ASSERT(1 + 1 == 3)\n[.\\Sums : 12]\n";
 
 /// Two directories and the drive's root, which is where logs may come to stand; clean before and after.
-class FatalReport : public ::testing::Test
+struct FatalReport : ::testing::Test
 {
-protected:
     FatalReport()
     {
         Clean();
@@ -32,10 +30,8 @@ protected:
     /// In the current directory of the test, and with a value for TMP, or without one.
     owtest::ChildResult Run(const char* scenario, const std::wstring& tmp, const fs::path& program = {}) const
     {
-        owtest::ChildOptions options{.directory = m_current, .program = program};
-        if (tmp.empty())
-            options.unset = {L"TMP"};
-        else
+        owtest::ChildOptions options{.unset = {L"TMP"}, .directory = m_current, .program = program};
+        if (!tmp.empty())
             options.environment[L"TMP"] = tmp;
         return owtest::RunChild(scenario, options);
     }
