@@ -29,8 +29,7 @@ struct CombosDialog : CDialog,
     CExtComboBox ext;
     CFontSelectionComboBox font;
     CComboBoxReflected reflected;
-    std::ostringstream
-        calls; ///< as "1 1004; " by its code, "select 1002: 0; ", "font 1003: Arial, 0; ", "command 2; "
+    std::ostringstream calls; ///< as "1 1004; " by its code, "select 1002: 0; ", "font 1003: Arial, 0; "
     std::string Take() { return std::exchange(calls, std::ostringstream()).str(); }
 
     bool Open()

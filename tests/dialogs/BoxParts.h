@@ -50,17 +50,18 @@ inline CRect PlaceOf(const CWnd& dialog, int id)
     return rect;
 }
 
-/// Pixels of a button, as it shows, in which one part of the colour is twice another.
+/// Pixels inside the edge of a button, as it shows, in which one part of the colour is twice another.
 inline int CountColoured(CWnd& box, int id)
 {
+    constexpr int kEdge = 3;
     CRect rect;
     box.GetDlgItem(id)->GetWindowRect(rect);
     owtest::Surface picture(rect.Width(), rect.Height());
     box.GetDlgItem(id)->UpdateWindow();
     owtest::Capture(*box.GetDlgItem(id), picture);
     int found = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
+    for (int y = kEdge; y < picture.height() - kEdge; ++y)
+        for (int x = kEdge; x < picture.width() - kEdge; ++x)
         {
             const COLORREF pixel = picture.at(x, y);
             const auto [low, high] = std::minmax({GetRValue(pixel), GetGValue(pixel), GetBValue(pixel)});

@@ -63,10 +63,7 @@ std::wstring AskFile(int open, const wchar_t* name, const wchar_t* title, const 
 {
     CString path = L"before";
     const auto start = [&]
-    {
-        return gfnStartTranslatedFileDialog(path, open, L"txt", name, flags, L"Text (*.txt)|*.txt||", nullptr,
-                                            title);
-    };
+    { return gfnStartTranslatedFileDialog(path, open, L"txt", name, flags, L"T|*.txt||", nullptr, title); };
     const int answer = Visited(start, visitor);
     return path.GetString() + (L": " + std::to_wstring(answer));
 }

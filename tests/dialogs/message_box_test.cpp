@@ -153,7 +153,6 @@ TEST_F(MessageBoxes, StayOnTheScreenWithATextThatIsTooLongForIt)
         CEdit& message = MessageOf(box);
         EXPECT_TRUE(TextOf(message) == text && message.GetStyle() & WS_VSCROLL);
         EXPECT_EQ(PlaceOf(box, kMessage).Height() % 13, 0) << "no half lines";
-        EXPECT_EQ(message.GetFirstVisibleLine(), 0);
         owtest::Press(VK_NEXT);
         EXPECT_TRUE(owtest::PumpUntil([&] { return message.GetFirstVisibleLine() > 10; }));
         owtest::Press(VK_PRIOR);

@@ -87,8 +87,7 @@ TEST_F(Progress, TheFirstAgreementCountsForGood)
 
     owtest::ModalVisit second([](CWnd&) {});
     owtest::QueueClick(Cancel());
-    for (int i = 0; i < 100; ++i)
-        EXPECT_FALSE(m_progress->Update(i) || m_progress->DispatchPendingWindowMessages());
+    EXPECT_FALSE(m_progress->Update(1) || m_progress->DispatchPendingWindowMessages());
     EXPECT_EQ(second.Count(), 0);
     Box()->DestroyWindow();
     EXPECT_FALSE(m_progress->Update(100)) << "also when the box is gone";
@@ -106,7 +105,9 @@ TEST_F(Progress, TakesItsOwnMessagesAndLeavesAllOthersInTheQueue)
     for (HWND window : {m_work.m_hWnd, Box()->m_hWnd, Cancel().m_hWnd})
         ::PostMessage(window, WM_APP, 0, 0);
     ::PostThreadMessage(::GetCurrentThreadId(), WM_APP, 0, 0);
+    Box()->PostMessage(DM_SETDEFID, 77);
     EXPECT_TRUE(m_progress->DispatchPendingWindowMessages());
+    EXPECT_EQ(LOWORD(Box()->SendMessage(DM_GETDEFID)), 77) << "and lets them be worked on";
     EXPECT_FALSE(IsWaiting(*Box()) || IsWaiting(Cancel())) << "a control is part of the box";
     EXPECT_TRUE(IsWaiting(m_work) && IsWaiting(reinterpret_cast<HWND>(-1))) << "the thread's, too";
     owtest::Pump();

@@ -99,8 +99,6 @@ TEST_F(SpinBox, StepsFromMultipleToMultipleInItsLocalUnitAndRange)
         EXPECT_EQ(TextAfter(+1), text);
     box.SetEmpty();
     EXPECT_EQ(TextAfter(+1), L"25.00") << "one step above zero lies below the range";
-    box.SetMinRange(0.001);
-    EXPECT_EQ(TextAfter(+1), L"30.00") << "a bound that has no local value limits nothing";
 }
 
 TEST_F(SpinBox, FollowsMouseAndArrowKeysForEverAndTellsHandlersThatKnowOfSpins)

@@ -157,6 +157,12 @@ TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
     EXPECT_EQ(box.GetValue(), 0.127);
     box.SetFormat(eDoubleFormatGeneral, 3);
     EXPECT_EQ(TextOf(box), L"0.127");
+    for (const bool bForce : {false, true})
+    {
+        box.SafeSetWindowText(L"?");
+        box.SetFormat(eDoubleFormatGeneral, 3, bForce);
+        EXPECT_EQ(TextOf(box), bForce ? L"0.127" : L"?");
+    }
     box.SetFormat(eDoubleFormatFixed, 2);
     int start = 0, end = 0;
     box.SetComplexUnit(

@@ -57,6 +57,7 @@ std::string Tables()
             Loaded<CBitmapBtnSTSimbolPresekaLinija>(0, 13),
             Loaded<CBitmapBtnSTLinija>(0, 13)};
 }
+
 void CopyLibrary()
 {
     wchar_t path[MAX_PATH] = {};
@@ -74,7 +75,8 @@ owtest::ChildResult LoadSpoilt(LPCWSTR type, int id)
     EXPECT_TRUE(::UpdateResourceW(update, type, MAKEINTRESOURCE(id), nLanguage, &nothing, sizeof nothing));
     EXPECT_TRUE(::EndUpdateResourceW(update, FALSE));
     auto result = owtest::RunChild("load_copy");
-    std::filesystem::remove(kCopy);
+    std::error_code ignored;
+    std::filesystem::remove(kCopy, ignored);
     return result;
 }
 } // namespace
