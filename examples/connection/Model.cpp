@@ -158,7 +158,7 @@ std::vector<NamedConnection> ReadConnections(const std::filesystem::path& path)
     std::vector<NamedConnection> connections;
     if (!std::filesystem::exists(path))
         return connections;
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(path); // lines may end as an editor leaves them
     if (!in)
         Fail(path);
 
