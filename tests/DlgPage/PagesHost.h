@@ -147,13 +147,7 @@ public:
     explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
-    Selector selector = []
-    {
-        if constexpr (kTree)
-            return Selector();
-        else
-            return Selector(IDC_SELECTOR, IDC_TOGGLE);
-    }();
+    Selector selector{IDC_SELECTOR, IDC_TOGGLE};
     CPageGradientCaptionStatic caption{selector};
     CPageManager manager{this};
     RecordingClient selects{"selects"}; ///< the first one that the selector tells; the manager is the second
@@ -191,9 +185,10 @@ public:
     /// Null if there is none of that name.
     RecordingPage* Page(const std::string& name) const
     {
-        const auto found =
-            std::find_if(pages.begin(), pages.end(), [&](auto* p) { return NameOf(p) == name; });
-        return found == pages.end() ? nullptr : *found;
+        for (RecordingPage* pPage : pages)
+            if (NameOf(pPage) == name)
+                return pPage;
+        return nullptr;
     }
     RecordingPage* AddPage(const CString& strName, CPageDialog* pDialog, int nId, CPage* pParent = nullptr)
     {
@@ -247,9 +242,10 @@ protected:
     bool m_bFilled;
 };
 
-/// A tree whose inner operations a test may call.
+/// A tree whose inner operations a test may call, made as the other selectors are.
 struct OpenPageTree : CPageTreeCtrl
 {
+    OpenPageTree(int, int) {}
     using CPageTreeCtrl::OnTvnSelchanged, CPageTreeCtrl::PageToItem;
     INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override { return Note("tip?"), -1; }
 };

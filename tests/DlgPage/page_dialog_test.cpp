@@ -68,22 +68,16 @@ TEST_F(PageInput, OnlyFocusedEditsOfThePageTakeCommitsAndLineBreaks)
     };
     const std::tuple<const wchar_t*, CWnd*, DWORD, int, BOOL> edits[] = {
         {L"Edit", fields, ES_WANTRETURN, 1, TRUE},
-        {L"Edit", fields, 0, 1, FALSE},                   // wants no Enter
-        {L"EDITNOTES1", fields, ES_WANTRETURN, 0, FALSE}, // a longer name
-        {L"Notes", fields, ES_WANTRETURN, 0, FALSE},      // another name
-        {L"Edit", this, ES_WANTRETURN, 0, FALSE},         // outside of the page
-        {nullptr, fields, 0, 0, FALSE}};                  // none at all
+        {L"Edit", fields, 0, 1, FALSE},                // wants no Enter
+        {L"ListBox", fields, ES_WANTRETURN, 0, FALSE}, // no edit
+        {L"Edit", this, ES_WANTRETURN, 0, FALSE},      // outside of the page
+        {nullptr, fields, 0, 0, FALSE}};               // none at all
     for (const auto& [pszClass, pParent, dwStyle, nCommits, bTaken] : edits)
     {
-        WNDCLASS windowClass{};
-        ::GetClassInfo(nullptr, _T("EDIT"), &windowClass);
-        windowClass.lpszClassName = pszClass;
-        ::RegisterClass(&windowClass);
         Watch watch;
         if (pszClass)
-            watch.SubclassWindow(::CreateWindow(pszClass, _T(""),
-                                                WS_CHILD | WS_VISIBLE | ES_MULTILINE | dwStyle, 150, 10, 90,
-                                                40, *pParent, nullptr, nullptr, nullptr));
+            watch.Create(pszClass, _T(""), WS_CHILD | WS_VISIBLE | ES_MULTILINE | dwStyle,
+                         CRect(150, 10, 240, 50), pParent, 1);
         ::SetFocus(watch);
         fields->SendFocusedControlKillFocusMessage();
         MSG enter{*fields, WM_KEYDOWN, VK_RETURN, 1, 0, {}};

@@ -12,23 +12,21 @@ struct OpenPage : RecordingPage
     /// The eight flags, and the values.
     std::string State() const
     {
-        CStringA strState;
-        strState.Format("%d%d%d%d%d%d%d%d: %d %d %d %d %d %d %d %d %d", formatGoreSet, formatDoleSet,
-                        formatIzvorSet, duzinaSet, sirinaSet, debljinaSet, separatorSet, polozajSet,
-                        formatGore.nTekstKote, formatDole.nTekstKote, formatIzvor.nTekstKote,
-                        duzina.nUnitIndex, sirina.nUnitIndex, debljina.nUnitIndex, separator, polozaj,
-                        idConf);
-        return strState.GetString();
+        std::string state;
+        for (const int n : {formatGoreSet, formatDoleSet, formatIzvorSet, duzinaSet, sirinaSet, debljinaSet,
+                            separatorSet, polozajSet})
+            state += std::to_string(n);
+        for (const int n :
+             {formatGore.nTekstKote, formatDole.nTekstKote, formatIzvor.nTekstKote, duzina.nUnitIndex,
+              sirina.nUnitIndex, debljina.nUnitIndex, separator, polozaj, idConf})
+            state += ' ' + std::to_string(n);
+        return state;
     }
     void PreSet(int nGore, int nDole, int nIzvor)
     {
-        CFormatTekstaKote gore, dole, izvor;
-        gore.nTekstKote = nGore;
-        dole.nTekstKote = nDole;
-        izvor.nTekstKote = nIzvor;
-        SetFormatGore(gore);
-        SetFormatDole(dole);
-        SetFormatIzvor(izvor);
+        SetFormatGore({nGore, {}, {}, {}});
+        SetFormatDole({nDole, {}, {}, {}});
+        SetFormatIzvor({nIzvor, {}, {}, {}});
     }
 };
 } // namespace
@@ -38,7 +36,7 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     constexpr int kNotSet = CFormatTekstaKote::kNotSet;
     OpenPage page;
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_TRUE(page.State().starts_with("00000000:")) << "a text format that is not set is ignored";
+    EXPECT_TRUE(page.State().starts_with("00000000 ")) << "a text format that is not set is ignored";
     page.PreSet(1, 2, 3);
     page.SetDuzina({4, 1, 0});
     page.SetSirina({5, 1, 0});
@@ -46,9 +44,9 @@ TEST(Page, KeepsWhatIsPreSetUntilAConfigurationIsChosen)
     page.SetSeparator(7);
     page.SetPolozaj(-1); // no marker: any position is one
     page.PreSet(kNotSet, kNotSet, kNotSet);
-    EXPECT_EQ(page.State(), "11111111: 1 2 3 4 5 6 7 -1 0");
+    EXPECT_EQ(page.State(), "11111111 1 2 3 4 5 6 7 -1 0");
     page.SetIdConf(12);
-    EXPECT_EQ(page.State(), "00000000: 1 2 3 4 5 6 7 -1 12") << "only the flags go";
+    EXPECT_EQ(page.State(), "00000000 1 2 3 4 5 6 7 -1 12") << "only the flags go";
 
     for (const bool bVisible : {true, false})
         page.ChangeVisibility(bVisible);

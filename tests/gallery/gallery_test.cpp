@@ -84,16 +84,16 @@ TEST(GalleryDialog, F6GoesToTheLogFromEveryKindOfControlAndBack)
         [&](CWnd& window)
         {
             goAndComeBack(window, *window.GetDlgItem(IDC_PAGES));
-            ForEachPage(window,
-                        [&](CWnd& page)
-                        {
-                            CWnd* const pFirst = page.GetNextDlgTabItem(nullptr);
-                            CWnd* pControl = pFirst;
-                            do
-                                if (pControl)
-                                    goAndComeBack(window, *pControl);
-                            while (pControl && (pControl = page.GetNextDlgTabItem(pControl)) != pFirst);
-                        });
+            const auto throughPage = [&](CWnd& page)
+            {
+                CWnd* const pFirst = page.GetNextDlgTabItem(nullptr);
+                for (CWnd *p = pFirst, *pNext = nullptr; p && pNext != pFirst; p = pNext)
+                {
+                    goAndComeBack(window, *p);
+                    pNext = page.GetNextDlgTabItem(p);
+                }
+            };
+            ForEachPage(window, throughPage);
         });
     EXPECT_GT(kinds.size(), 20u);
 }
@@ -106,9 +106,7 @@ TEST(GalleryDialog, ClosesWhileAPageIsInUse)
         {
             owtest::Press(VK_TAB); // from the tree into the first page
             owtest::Type(L"HEB 300");
-            CString strText;
-            CWnd::GetFocus()->GetWindowText(strText);
-            EXPECT_EQ(L"HEB 300", strText);
+            EXPECT_EQ(owtest::TextOf(*CWnd::GetFocus()), L"HEB 300");
         });
 }
 
@@ -164,20 +162,20 @@ TEST(GalleryDialog, ShowsPreSetValuesAndThePreview)
                 preview.UpdateWindow();
                 owtest::Surface picture(120, 80);
                 owtest::Capture(preview, picture);
-                return picture.extent(RGB(24, 52, 104));
+                return picture.extent(RGB(24, 52, 104)).Width();
             };
             auto& tree = static_cast<CPageTreeCtrl&>(*window.GetDlgItem(IDC_PAGES));
             while (tree.GetCurrentPage()->GetPageID() != ePageColumn)
                 owtest::Press(VK_DOWN);
             EXPECT_TRUE(preview.IsWindowVisible());
-            const CRect before = drawn();
+            const int nBefore = drawn();
             owtest::Press(VK_F6);
             owtest::Press(VK_F6, true); // by the log to the tree, and from there
             owtest::Press(VK_TAB);      // into the page
             EXPECT_EQ(owtest::TextOf(*CWnd::GetFocus()), L"3.400");
             owtest::Press('A', false, true);
             owtest::Type(L"7");
-            EXPECT_GT(drawn().Width(), before.Width());
+            EXPECT_GT(drawn(), nBefore);
         });
 }
 

@@ -13,60 +13,44 @@ constexpr wchar_t kMark = L'\u00AB';
 /// The English catalogue with a mark in front of each translation.
 std::string MarkedCatalogue()
 {
-    std::stringstream english;
-    english << std::ifstream(L"locale\\gallery_en.po").rdbuf();
-    return std::regex_replace(english.str(), std::regex("\nmsgstr \"(?!\")"), "$&\u00AB");
+    const std::string english = owtest::ContentsOf(L"locale\\gallery_en.po");
+    return std::regex_replace(english, std::regex("\nmsgstr \"(?!\")"), "$&\u00AB");
 }
 
-/// Whether there is a word of some length in a text. Numbers, profiles, formulas and names of calls are the same in
-/// every language, and so are those of files.
-bool HasWord(const CString& strText)
+/// A word of some length has the mark in front. Numbers, profiles, formulas and names of calls are the same in every
+/// language, and so are those of files.
+void ExpectTranslated(const std::wstring& text)
 {
     static const std::wregex s_markup(L"<[^>]*>"), s_word(L"(^|[^A-Za-z_])[A-Za-z][a-z]{3,}($|[^A-Za-z_])");
-    const std::wstring shown = std::regex_replace(std::wstring(strText), s_markup, L"");
-    return strText.Find(L":\\") < 0 && std::regex_search(shown, s_word);
+    const bool bWord = std::regex_search(std::regex_replace(text, s_markup, L""), s_word);
+    EXPECT_TRUE(!bWord || text.find(L":\\") != text.npos || text.find(kMark) != text.npos)
+        << CStringA(text.c_str());
 }
-
 void ExpectTranslated(const CString& strText)
 {
-    EXPECT_TRUE(!HasWord(strText) || strText.Find(kMark) >= 0) << CStringA(strText);
+    ExpectTranslated(std::wstring(strText));
 }
 
-/// The entries of a list; names of fonts are none of the gallery's.
-void ExpectEntriesTranslated(CComboBox& combo)
-{
-    if (dynamic_cast<CFontSelectionComboBox*>(&combo))
-        return;
-    for (int i = 0; i < combo.GetCount(); ++i)
-    {
-        CString strEntry;
-        combo.GetLBText(i, strEntry);
-        ExpectTranslated(strEntry);
-    }
-}
-
-void ExpectHeadingsTranslated(const CGridCtrl& grid)
-{
-    for (int nCol = 0; nCol < grid.GetColumnCount(); ++nCol)
-        ExpectTranslated(grid.GetItemText(0, nCol));
-}
-
-/// The controls of a window; not what a user's own data fill: edits and the bodies of grids.
+/// The controls of a window; not what a user's own data fill: edits, lists of fonts and the bodies of grids.
 void ExpectControlsTranslated(CWnd& window)
 {
     for (CWnd* pChild = window.GetWindow(GW_CHILD); pChild; pChild = pChild->GetNextWindow())
     {
         wchar_t szClass[16] = L"";
         ::GetClassNameW(*pChild, szClass, 16);
-        const CString strClass(szClass);
-        CString strText;
-        pChild->GetWindowText(strText);
-        if (strClass == L"Static" || strClass == L"Button")
-            ExpectTranslated(strText);
-        else if (strClass == L"ComboBox")
-            ExpectEntriesTranslated(static_cast<CComboBox&>(*pChild));
+        const std::wstring className = szClass;
+        if (className == L"Static" || className == L"Button")
+            ExpectTranslated(owtest::TextOf(*pChild));
+        else if (className == L"ComboBox" && !dynamic_cast<CFontSelectionComboBox*>(pChild))
+        {
+            CString strEntry;
+            auto& combo = static_cast<CComboBox&>(*pChild);
+            for (int i = 0; i < combo.GetCount(); ++i)
+                combo.GetLBText(i, strEntry), ExpectTranslated(strEntry);
+        }
         else if (auto* pGrid = dynamic_cast<CGridCtrl*>(pChild))
-            ExpectHeadingsTranslated(*pGrid);
+            for (int nCol = 0; nCol < pGrid->GetColumnCount(); ++nCol)
+                ExpectTranslated(pGrid->GetItemText(0, nCol));
     }
 }
 } // namespace
@@ -77,16 +61,12 @@ TEST(GalleryTexts, GoThroughTheTranslator)
     OpenAndClose<CGalleryDialog>(
         [](CWnd& window)
         {
-            CString strText;
-            window.GetWindowText(strText);
-            ExpectTranslated(strText);
-            ForEachPage(window, [](CWnd& page) { ExpectControlsTranslated(page); });
+            ExpectTranslated(owtest::TextOf(window));
+            ForEachPage(window, &ExpectControlsTranslated);
             ExpectControlsTranslated(window);
             auto& log = static_cast<CListCtrl&>(*window.GetDlgItem(IDC_LOG));
             for (int i = 0; i < log.GetItemCount(); ++i)
-            {
-                ExpectTranslated(log.GetItemText(i, 0));
-                ExpectTranslated(log.GetItemText(i, 1));
-            }
+                for (const int nColumn : {0, 1})
+                    ExpectTranslated(log.GetItemText(i, nColumn));
         });
 }

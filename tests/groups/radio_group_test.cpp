@@ -10,21 +10,22 @@ const char* const kTwoGroups = "101R* 102R 103R 111R* 112R 120B*";
 /// with a tab stop, + is a tab stop, ! disabled.
 owtest::DialogTemplate Form(const std::string& row)
 {
+    const std::map<char, std::pair<const wchar_t*, DWORD>> kinds{{'R', {L"BUTTON", BS_AUTORADIOBUTTON}},
+                                                                 {'B', {L"BUTTON", 0}},
+                                                                 {'F', {L"BUTTON", BS_GROUPBOX}},
+                                                                 {'L', {L"STATIC", 0}},
+                                                                 {'E', {L"EDIT", 0}}};
+    const std::map<char, DWORD> marks{
+        {'\0', 0}, {'*', WS_GROUP | WS_TABSTOP}, {'+', WS_TABSTOP}, {'!', WS_DISABLED}};
     owtest::DialogTemplate form(L"Groups", 240, 30);
     std::istringstream in(row);
     short x = 4;
     for (std::string item; in >> item; x += 16)
     {
-        const auto has = [&](const char* marks) { return item.find_first_of(marks) != item.npos; };
-        const DWORD style = (has("R")   ? BS_AUTORADIOBUTTON
-                             : has("F") ? BS_GROUPBOX
-                                        : 0) |
-                            (has("*") ? WS_GROUP : 0) | (has("*+") ? WS_TABSTOP : 0) |
-                            (has("!") ? WS_DISABLED : 0);
-        form.Item(has("L")   ? L"STATIC"
-                  : has("E") ? L"EDIT"
-                             : L"BUTTON",
-                  L"", static_cast<WORD>(std::stoi(item)), style, x, 8, 12, 12);
+        size_t nKind = 0;
+        const auto id = static_cast<WORD>(std::stoi(item, &nKind));
+        const auto& [windowClass, style] = kinds.at(item[nKind]);
+        form.Item(windowClass, L"", id, style | marks.at(item.c_str()[nKind + 1]), x, 8, 12, 12);
     }
     return form;
 }
@@ -33,8 +34,7 @@ owtest::DialogTemplate Form(const std::string& row)
 struct Handler : AButtonSTNotificationHandler
 {
     std::string clicks;
-    std::string Take() { return std::exchange(clicks, {}); }
-    void OnButtonClicked(int nId) override { (clicks += clicks.empty() ? "" : " ") += std::to_string(nId); }
+    void OnButtonClicked(int nId) override { clicks += ' ' + std::to_string(nId); }
 };
 
 std::string IdsOf(const CRadioGroup& group)
@@ -52,11 +52,8 @@ class RadioGroup : public ::testing::Test, public GroupDialog, public Handler
 {
 protected:
     void SetUp() override { ASSERT_TRUE(Open(Form(kTwoGroups))); }
-    std::string ClickOn(int nId)
-    {
-        Click(nId);
-        return Take();
-    }
+    /// The buttons of both groups, and what was clicked since the last time.
+    std::string State() override { return Seen({101, 102, 103, 111, 112}) + ':' + std::exchange(clicks, {}); }
     /// As a button does.
     static void Tell(AButtonSTNotificationHandler& group, int nId) { group.OnButtonClicked(nId); }
 };
@@ -67,7 +64,6 @@ TEST_F(RadioGroup, EndsBeforeATabStopALabelOrAControlWithoutAnIdOrAllTheWayRound
 {
     const std::tuple<const char*, int, const char*, std::vector<int>> rows[] = {
         {kTwoGroups, 101, "101 102 103", {}},
-        {kTwoGroups, 111, "111 112", {}},
         {kTwoGroups, 102, "102 103 101", {}},     // round to the beginning of the group
         {"119R+ 101R+ 102R", 101, "101 102", {}}, // round the dialog
         {"101R 119R+ 111R*", 101, "101", {}},
@@ -75,11 +71,8 @@ TEST_F(RadioGroup, EndsBeforeATabStopALabelOrAControlWithoutAnIdOrAllTheWayRound
         {"101R* 102E 103R 120B*", 101, "101 102 103", {}},
         {"101R* 65535F 103R 120B*", 101, "101", {}},
         {"101R* 102R 102R 103R 120B*", 101, "101 102", {}}, // an id given twice
-        {"101R* 120B*", 101, "101", {}},
-        {"101R* 102R", 101, "", {}}, // the only tab stop
-        {kTwoGroups, 101, "101 103", {102}},
-        {"101R* 102R 103R! 111R*", 101, "101 102", {}},
-        {kTwoGroups, 101, "101 102 103", {101}}, // the first one belongs to it all the same
+        {"101R* 102R", 101, "", {}},                        // the only tab stop
+        {kTwoGroups, 101, "101 102 103", {101}},            // the first one belongs to it all the same
         {"101R* 102R 103R! 111R*", 101, "101", {101, 102}},
     };
     for (const auto& [controls, nFirstId, found, hidden] : rows)
@@ -99,11 +92,11 @@ TEST_F(RadioGroup, IsEmptyWithoutADialogAWindowOrTheControl)
     {
         CRadioGroup group(this, 101);
         group.Set(pDialog, nId);
-        EXPECT_TRUE(group.Count() == 0 && group.GetUniqueId() == 0 && group.GetOption() == -1) << nId;
         group.SetOption(0);
         group.Enable(false);
         Tell(group, 101);
-        EXPECT_EQ(Seen({101}) + Take(), "0");
+        EXPECT_TRUE(group.Count() == 0 && group.GetUniqueId() == 0 && group.GetOption() == -1) << nId;
+        EXPECT_EQ(State(), "0 0 0 0 0:");
     }
 }
 
@@ -113,44 +106,42 @@ TEST_F(RadioGroup, TurnsTheCheckedButtonIntoAnIndexAndBackInSilenceAndIsFoundAga
     CRadioGroup group(this, 101), other(this, 111);
     other.SetOption(1);
     const std::pair<int, const char*> options[] = {
-        {2, "0 0 1 0 1"}, {-1, "0 0 0 0 1"}, {0, "1 0 0 0 1"}, {3, "0 0 0 0 1"}, {1, "0 1 0 0 1"}};
+        {2, "0 0 1 0 1:"}, {-1, "0 0 0 0 1:"}, {0, "1 0 0 0 1:"}, {3, "0 0 0 0 1:"}, {1, "0 1 0 0 1:"}};
     for (const auto& [nOption, seen] : options)
     {
         group.SetOption(nOption);
         EXPECT_EQ(group.GetOption(), nOption < 3 ? nOption : -1);
-        EXPECT_EQ(Seen({101, 102, 103, 111, 112}) + Take(), seen) << "the other group keeps its own";
+        EXPECT_EQ(State(), seen) << "the other group keeps its own";
         group.SetNotificationHandler(nullptr);
         group.Set(this, 101);
         EXPECT_EQ(IdsOf(group), "101 102 103") << nOption;
-        EXPECT_EQ(ClickOn(103), "103") << "told once, to the dialog again";
+        Play({{[&] { Click(103); }, "0 0 1 0 1: 103"}}); // told once, to the dialog again
     }
     group.SetOption(-1);
     group.Set(this, 101);
     EXPECT_EQ(IdsOf(group), "101 102 103") << "the tab stop is the other group's";
     other.Empty();
     group.Set(this, 111);
-    EXPECT_EQ(ClickOn(101), "") << "what was left is silent";
-    EXPECT_EQ(Seen({101}), "1") << "and a radio button as any other";
+    Play({{[&] { Click(101); }, "1 0 0 0 1:"}}); // what was left is silent, and a radio button as any other
 }
 
 TEST_F(RadioGroup, TellsItsHandlerOfClicksAndKeys)
 {
     CRadioGroup group(this, 101), other(this, 111);
-    Click(102);
-    owtest::Press(VK_RIGHT);
-    EXPECT_EQ(Take() + ": " + std::to_string(group.GetOption()), "102 103: 2");
-    EXPECT_EQ(ClickOn(112), "112");
+    Handler own;
+    Play({{[&] { Click(102); }, "0 1 0 0 0: 102"},
+          {[&] { owtest::Press(VK_RIGHT); }, "0 0 1 0 0: 103"},
+          {[&] { Click(112); }, "0 0 1 0 1: 112"},
+          {[&] { group.SetNotificationHandler(&own); }, "0 0 1 0 1:"},
+          {[&] { Click(101); }, "1 0 0 0 1:"}});
+    EXPECT_EQ(own.clicks, " 101");
 
     GroupDialog deaf; // which is no handler
     ASSERT_TRUE(deaf.Open(Form("101R* 102R 120B*")));
     group.Set(&deaf, 101);
-    Handler own;
     deaf.Click(102);
-    group.SetNotificationHandler(&own);
-    deaf.Click(101);
-    group.SetNotificationHandler(nullptr);
-    deaf.Click(102);
-    EXPECT_EQ(Take() + '|' + own.Take() + '|' + std::to_string(group.GetOption()), "|101|1");
+    EXPECT_EQ(group.GetOption(), 1);
+    EXPECT_EQ(own.clicks, " 101");
 }
 
 // The system's click would go round the group for ever, and that on another button would pass them over.
@@ -166,23 +157,21 @@ TEST_F(RadioGroup, AButtonThatIsHiddenOrDisabledTakesNoClickAndIsClearedByThoseO
         for (const UINT message : {WM_KEYDOWN, WM_KEYUP})
             (*this)[nId].SendMessage(message, VK_SPACE);
         EXPECT_EQ((*this)[nId].SendMessage(BM_GETSTATE) & BST_PUSHED, 0) << "let go";
-        EXPECT_EQ(Take() + std::to_string(group.GetOption()), "1");
+        EXPECT_EQ(clicks + std::to_string(group.GetOption()), "1");
     }
-    EXPECT_EQ(ClickOn(101), "101");
-    EXPECT_TRUE(group.GetOption() == 0 && !IsDlgButtonChecked(102));
-    (*this)[101].ShowWindow(SW_HIDE);
-    (*this)[101].SendMessage(BM_CLICK);
-    EXPECT_EQ(Take(), "") << "the first one neither";
+    Play({{[&] { Click(101); }, "1  0- 0 0: 101"},
+          {[&] { (*this)[102].ShowWindow(SW_SHOW); }, "1 0 0- 0 0:"},
+          {[&] { (*this)[101].ShowWindow(SW_HIDE); }, " 0 0- 0 0:"},
+          {[&] { (*this)[101].SendMessage(BM_CLICK); }, " 0 0- 0 0:"}}); // the first one neither
 
-    ASSERT_TRUE(Open(Form("101R* 103R 105R 102R* 104R 120B*"))); // ids of two groups between each other
+    ASSERT_TRUE(Open(Form("101R* 103R 111R 102R* 112R 120B*"))); // ids of two groups between each other
     CRadioGroup odd(this, 101), even(this, 102);
-    for (const int nId : {101, 105, 102, 104})
+    for (const int nId : {101, 111, 102, 112})
     {
         CheckDlgButton(nId, 1);
         (*this)[nId].EnableWindow(FALSE);
     }
-    EXPECT_EQ(ClickOn(103), "103");
-    EXPECT_EQ(Seen({101, 103, 105, 102, 104}), "0- 1 0- 1- 1-") << "members only";
+    Play({{[&] { Click(103); }, "0- 1- 1 0- 1-: 103"}}); // members only
 }
 
 TEST_F(RadioGroup, LeavesAControlToTheObjectThatItHas)
@@ -191,10 +180,10 @@ TEST_F(RadioGroup, LeavesAControlToTheObjectThatItHas)
     CExtButton own(&first);
     ASSERT_TRUE(own.SubclassDlgItem(102, this));
     CRadioGroup group(this, 101), second(this, 101);
-    EXPECT_EQ(ClickOn(102), "");
-    EXPECT_EQ(first.Take(), "102");
-    second.Empty();
-    EXPECT_EQ(ClickOn(103), "103") << "the group that came first hears it";
+    Play({{[&] { Click(102); }, "0 1 0 0 0:"},
+          {[&] { second.Empty(); }, "0 1 0 0 0:"},
+          {[&] { Click(103); }, "0 0 1 0 0: 103"}}); // the group that came first hears it
+    EXPECT_EQ(first.clicks, " 102");
 }
 
 TEST_F(RadioGroup, ShowsAndEnablesItsControlsWhileTheyAreThere)
@@ -218,19 +207,18 @@ TEST_F(RadioGroup, ShowsAndEnablesItsControlsWhileTheyAreThere)
 TEST_F(RadioGroup, ACopySharesTheButtonsAndHearsNoClicks)
 {
     CRadioGroup group(this, 101), other(this, 111), copy(group);
-    EXPECT_TRUE(copy == group && copy != other);
-    copy.SetOption(2);
-    EXPECT_EQ(group.GetOption(), 2);
-    EXPECT_EQ(ClickOn(102), "102") << "from the group alone";
-    EXPECT_EQ(copy.GetOption(), 1);
-    Tell(copy, 102);
-    EXPECT_EQ(Take(), "102") << "but has the handler";
     const CRadioGroup& self = group;
-    group = self;
-    EXPECT_EQ(ClickOn(103), "103") << "a copy onto itself is none";
-    group = other;
+    EXPECT_TRUE(copy == group && copy != other);
+    other.SetOption(0);
+    Play({{[&] { copy.SetOption(2); }, "0 0 1 1 0:"},
+          {[&] { Click(102); }, "0 1 0 1 0: 102"}, // from the group alone
+          {[&] { Tell(copy, 111); },
+           "0 1 0 1 0: 111"}, // but it has the handler; another's button clears nothing
+          {[&] { group = self; }, "0 1 0 1 0:"},
+          {[&] { Click(103); }, "0 0 1 1 0: 103"}, // a copy onto itself is none
+          {[&] { group = other; }, "0 0 1 1 0:"},
+          {[&] { Click(101); }, "1 0 0 1 0:"}, // the former buttons are let go
+          {[&] { Click(112); }, "1 0 0 0 1: 112"}});
+    EXPECT_TRUE(copy.GetOption() == 0 && group.GetOption() == 1);
     EXPECT_EQ(IdsOf(group), "111 112");
-    EXPECT_EQ(ClickOn(101), "") << "the former buttons are let go";
-    EXPECT_EQ(ClickOn(112), "112");
-    EXPECT_EQ(group.GetOption(), 1);
 }

@@ -8,13 +8,7 @@
 #include <uxtheme.h>
 #include <vsstyle.h>
 
-struct AnyFunction
-{
-    template <class... Arguments>
-    void operator()(Arguments&&...) const
-    {
-    }
-};
+using AnyFunction = decltype([](auto&&...) {});
 inline constexpr AnyFunction PaintPreview, RedrawPreview, DrawPreview, Preview, PickBeam, SetGrade, UseFont,
     ShowMember, ShowLoad, ShowMenu, ShowValues, ApplyToAll, Redraw, Insert, UsePlate, UseBolts, Order, Add,
     Plot, SaveTo, SetMark, Read, OnDraw, Calculate;

@@ -1,16 +1,10 @@
 // Buttons, boxes and groups in one dialog: used by input and by calls, with handlers that disable, hide, re-set and
 // close what calls them.
 
-#include "Soak.h"
-
-#include "DialogTemplate.h"
-#include "Handles.h"
-#include "Input.h"
-
 #include <DialogControlsOW.h>
 
-#include <array>
-#include <string_view>
+#include "Sequence.h"
+#include "Testing.h"
 
 namespace
 {
@@ -238,27 +232,19 @@ class ControlsSequence : public owtest::Sequence
     }
     void DressButton()
     {
-        using Dress = void (*)(CButtonST&, BOOL);
-        static constexpr auto newBitmap = [](int nSize)
-        { return ::CreateBitmap(nSize, nSize, 1, 32, nullptr); };
-        static constexpr Dress kDresses[] = {
-            [](CButtonST& button, BOOL bOn)
-            { button.SetIcon(CButtonST::hIconOk, bOn ? CButtonST::hIconCancel : nullptr); },
-            [](CButtonST& button, BOOL bOn)
-            { button.SetBitmaps(newBitmap(16), 0, bOn ? newBitmap(9) : nullptr); },
-            [](CButtonST& button, BOOL) { button.SetBitmaps(static_cast<HBITMAP>(nullptr), 0); },
-            [](CButtonST& button, BOOL bOn) { button.SetFlat(bOn); },
-            [](CButtonST& button, BOOL bOn) { button.SetCheck(bOn); },
-            [](CButtonST& button, BOOL bOn) { button.DrawTransparent(bOn); },
-            [](CButtonST& button, BOOL) { button.SetTooltipText(L"tip"); },
-            [](CButtonST& button, BOOL bOn)
-            { button.SetThemeHelper(bOn ? CButtonST::pLocalTheme : nullptr); },
-            [](CButtonST& button, BOOL bOn) { button.SetAlign(static_cast<BYTE>(bOn ? 1 : 3)); },
-            [](CButtonST& button, BOOL) { button.SetAlign(0); }};
         CButtonST& button = Pick(2) ? m_dialog.push : m_dialog.check;
-        const Dress& dress = OneOf(kDresses);
-        Say("dress", button.GetDlgCtrlID(), &dress - kDresses);
-        dress(button, Pick(2));
+        const int nWhat = Pick(10), bOn = Pick(2);
+        Say("dress", button.GetDlgCtrlID(), nWhat, bOn);
+        const auto newBitmap = [](int nSize) { return ::CreateBitmap(nSize, nSize, 1, 32, nullptr); };
+        return nWhat == 0   ? void(button.SetIcon(CButtonST::hIconOk, bOn ? CButtonST::hIconCancel : nullptr))
+               : nWhat == 1 ? void(button.SetBitmaps(newBitmap(16), 0, bOn ? newBitmap(9) : nullptr))
+               : nWhat == 2 ? void(button.SetBitmaps(HBITMAP{}, 0))
+               : nWhat == 3 ? void(button.SetFlat(bOn))
+               : nWhat == 4 ? void(button.SetCheck(bOn))
+               : nWhat == 5 ? button.DrawTransparent(bOn)
+               : nWhat == 6 ? button.SetTooltipText(L"tip")
+               : nWhat == 7 ? button.SetThemeHelper(bOn ? CButtonST::pLocalTheme : nullptr)
+                            : void(button.SetAlign(static_cast<BYTE>(nWhat == 8 ? 0 : 3 - 2 * bOn)));
     }
     void SetGroups()
     {

@@ -1,28 +1,20 @@
 // The grid against its model: plain and extended, with cells of one kind and of all, by calls and by input.
 
-#include "Soak.h"
-
 #include "../grid/GridModel.h"
 
 namespace
 {
-constexpr int kSteps = 2000;
-
-struct GridSubject : owtest::SoakSubject
+owtest::SoakSubject Grid(const char* name, const SequenceOptions& options)
 {
-    GridSubject(std::string name, SequenceOptions options)
-        : SoakSubject(std::move(name), kSteps,
-                      [options](const owtest::Steps& steps) { return RunGridSequence(steps, options); })
-    {
-    }
-};
+    return {name, 2000, [options](const owtest::Steps& steps) { return RunGridSequence(steps, options); }};
+}
 
-const GridSubject s_subjects[] = {
-    {"grid", {}},
-    {"grid-mixed", {.mixedCells = true}},
-    {"grid-input", {.withInput = true}},
-    {"grid-mixed-input", {.withInput = true, .mixedCells = true}},
-    {"extgrid", {.withInput = true, .mixedCells = true, .makeGrid = &MakeModelExtGrid}},
-    {"extgrid2", {.withInput = true, .mixedCells = true, .makeGrid = &MakeModelExtGrid2}},
+const owtest::SoakSubject s_subjects[] = {
+    Grid("grid", {}),
+    Grid("grid-mixed", {.mixedCells = true}),
+    Grid("grid-input", {.withInput = true}),
+    Grid("grid-mixed-input", {.withInput = true, .mixedCells = true}),
+    Grid("extgrid", {.withInput = true, .mixedCells = true, .makeGrid = &MakeModelExtGrid}),
+    Grid("extgrid2", {.withInput = true, .mixedCells = true, .makeGrid = &MakeModelExtGrid2}),
 };
 } // namespace

@@ -1,14 +1,10 @@
 // Pages behind each kind of selector: added at any time, selected by code and by input, with dialogs that do such
 // things themselves while they are bound or told, and windows that go.
 
-#include "Soak.h"
-
 #include "../DlgPage/PagesHost.h"
+#include "Sequence.h"
 
-#include <algorithm>
-#include <memory>
 #include <span>
-#include <string_view>
 
 namespace
 {
@@ -97,12 +93,10 @@ private:
     }
     void AddDialog()
     {
-        static constexpr UINT kTemplates[] = {IDD_FIELDS, IDD_PLAIN}; // each for one: pages know theirs by it
-        const size_t nDialog = m_pHost->dialogs.size();
-        if (nDialog == std::size(kTemplates))
-            return;
+        if (m_pHost->dialogs.size() == 2)
+            return; // each template for one: pages know theirs by it
         Say("add a dialog");
-        m_pHost->AddDialog(kTemplates[nDialog], "dialog");
+        m_pHost->AddDialog(m_pHost->dialogs.empty() ? IDD_FIELDS : IDD_PLAIN, "dialog");
     }
     void AddPage()
     {
@@ -142,11 +136,9 @@ private:
     }
     void TakeOver()
     {
+        Say("take over");
         if (RecordingPage* const pPage = SomePage())
-        {
-            Say("take over");
             pPage->SendFocusedControlKillFocusMessage();
-        }
     }
     void Switch()
     {
@@ -199,7 +191,7 @@ owtest::SequenceResult Run(const owtest::Steps& steps)
 }
 
 const owtest::SoakSubject s_subjects[] = {
-    {"pages-tree", 500, &Run<CPageTreeCtrl>},
+    {"pages-tree", 500, &Run<OpenPageTree>},
     {"pages-combo-button", 500, &Run<CPageComboButtonSTCtrlGroup>},
     {"pages-combo-check", 500, &Run<CPageComboCheckCtrlGroup>},
 };

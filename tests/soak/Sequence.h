@@ -1,24 +1,11 @@
 #pragma once
-// Random sequences of operations, each of which can be run again, whole or in part.
-//
-//     class CountSequence : public owtest::Sequence
-//     {
-//         void Step() override
-//         {
-//             const int n = Pick(10);
-//             Say("add", n);
-//             m_counter.Add(n);
-//         }
-//         void Check() override { Expect(m_counter.Sum() >= 0, "the sum has run over"); }
-//         Counter m_counter;
-//     };
-//     EXPECT_EQ(CountSequence().Run(owtest::StepsOf(seed, 1000)).failure, "");
-//
+// Random sequences of operations: a class derived from Sequence picks one in each step, says it, does it, and checks.
 // A step is a number, from which it draws all its choices. So a sequence is a list of numbers, and what a step
 // does hardly changes when others are left out: a sequence that fails can be made shorter (soak.cpp).
 
 #include <atomic>
 #include <cstdio>
+#include <functional>
 #include <random>
 #include <sstream>
 #include <string>
@@ -114,5 +101,15 @@ private:
     std::minstd_rand m_random;
     std::ostringstream m_log;
     std::ostringstream m_problem;
+};
+
+/// Registers itself with the soak program by a name, and runs one sequence from a fresh start.
+struct SoakSubject
+{
+    SoakSubject(std::string name, int steps, std::function<SequenceResult(const Steps&)> run);
+
+    std::string name;
+    int steps; ///< of one sequence
+    std::function<SequenceResult(const Steps&)> run;
 };
 } // namespace owtest

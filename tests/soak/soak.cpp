@@ -8,16 +8,8 @@
 // that fails is made shorter for as long as it fails, printed, and ends the program with 1. `soak 0 SEED` runs its
 // round again, `soak replay` the shortened sequence, in this process.
 
-#include "Soak.h"
-
-#include "ChildProcess.h"
-
-#include <afxwin.h>
-
-#include <algorithm>
-#include <cstdlib>
-#include <iterator>
-#include <thread>
+#include "Sequence.h"
+#include "Testing.h"
 
 using owtest::SoakSubject;
 using owtest::Steps;
@@ -31,17 +23,10 @@ constexpr DWORD kHangMs = 300000;   // of a sequence that waits for ever
 constexpr ULONGLONG kStepMs = 3000; // of the processor: far more than any step takes
 constexpr ULONGLONG kShorteningMs = 600000;
 
-std::vector<const SoakSubject*>& Subjects()
+std::map<std::string, const SoakSubject*>& Subjects()
 {
-    static std::vector<const SoakSubject*> subjects;
+    static std::map<std::string, const SoakSubject*> subjects;
     return subjects;
-}
-
-const SoakSubject* FindSubject(std::string_view name)
-{
-    const auto found = std::find_if(Subjects().begin(), Subjects().end(),
-                                    [&](const SoakSubject* subject) { return subject->name == name; });
-    return found == Subjects().end() ? nullptr : *found;
 }
 
 std::string TextOf(const Steps& steps)
@@ -152,7 +137,7 @@ int RunFor(double minutes, unsigned seed)
     int sequences = 0;
     do
     {
-        for (const SoakSubject* subject : Subjects())
+        for (const auto& [name, subject] : Subjects())
         {
             if (!RunOne(*subject, seed))
                 return 1;
@@ -169,7 +154,7 @@ SoakSubject::SoakSubject(std::string theName, int theSteps,
                          std::function<owtest::SequenceResult(const Steps&)> theRun)
     : name(std::move(theName)), steps(theSteps), run(std::move(theRun))
 {
-    Subjects().push_back(this);
+    Subjects()[name] = this;
 }
 
 int main(int argc, char** argv)
@@ -179,15 +164,14 @@ int main(int argc, char** argv)
         std::fputs("usage: soak MINUTES [SEED] | soak replay SUBJECT STEP...\n", stderr);
         return 2;
     }
-    const SoakSubject* const subject = argc > 2 ? FindSubject(argv[2]) : nullptr;
-    if (subject &&
-        (argv[1] == std::string_view(owtest::kChildArgument) || argv[1] == std::string_view("replay")))
+    const std::string what = argv[1];
+    if (argc > 2 && (what == owtest::kChildArgument || what == "replay") && Subjects().contains(argv[2]))
     {
         const wchar_t* const given = _wgetenv(kStepsVariable);
         std::string steps = CStringA(given).GetString();
         for (int i = 3; i < argc; ++i)
             steps += argv[i] + std::string(" ");
-        return RunHere(*subject, StepsIn(steps));
+        return RunHere(*Subjects()[argv[2]], StepsIn(steps));
     }
     const auto now = static_cast<unsigned>(::GetTickCount64());
     return RunFor(std::atof(argv[1]), argc > 2 ? std::strtoul(argv[2], nullptr, 10) : now);

@@ -30,26 +30,23 @@ using Handle = std::unique_ptr<void, HandleCloser>;
 /// Our environment with the wanted changes, as CreateProcess takes it.
 std::wstring EnvironmentBlock(const ChildOptions& options)
 {
-    std::map<std::wstring, std::wstring> changes = options.environment;
-    for (const std::wstring& name : options.unset)
-        changes[name];
-    const auto stays = [&](const wchar_t* entry)
-    {
-        return std::none_of(changes.begin(), changes.end(),
-                            [&](const auto& change)
-                            {
-                                const std::wstring start = change.first + L'=';
-                                return _wcsnicmp(entry, start.c_str(), start.size()) == 0;
-                            });
-    };
-    std::wstring block;
+    const auto before = [](const std::wstring& left, const std::wstring& right)
+    { return _wcsicmp(left.c_str(), right.c_str()) < 0; };
+    std::map<std::wstring, std::wstring, decltype(before)> variables(before);
     wchar_t* const strings = GetEnvironmentStringsW();
     for (const wchar_t* entry = strings; *entry; entry += std::wcslen(entry) + 1)
-        if (stays(entry))
-            block += entry + std::wstring(1, L'\0');
+    {
+        const wchar_t* const value = std::wcschr(entry + 1, L'='); // a name may begin with one, too
+        variables[{entry, value}] = value;
+    }
     FreeEnvironmentStringsW(strings);
     for (const auto& [name, value] : options.environment)
-        block += name + L'=' + value + L'\0';
+        variables[name] = L'=' + value;
+    for (const std::wstring& name : options.unset)
+        variables.erase(name);
+    std::wstring block;
+    for (const auto& [name, value] : variables)
+        block += name + value + L'\0';
     return block + L'\0';
 }
 

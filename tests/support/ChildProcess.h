@@ -1,12 +1,9 @@
 #pragma once
-// Runs this test program again as a child, for behaviour that ends the process.
-//
-// A scenario is registered by name in the program and run alone in the child:
+// Runs this test program again as a child, for behaviour that ends the process. A scenario is registered by name in
+// the program and run alone in the child:
 //
 //     OW_CHILD_SCENARIO(pool_exhausted) { for (int i = 0; i < 201; ++i) pool.AcquireId(); }
-//     ...
-//     owtest::ChildResult result = owtest::RunChild("pool_exhausted");
-//     EXPECT_EQ(result.boxText, L"...");
+//     EXPECT_EQ(owtest::RunChild("pool_exhausted").boxText, L"...");
 
 #include <map>
 #include <string>

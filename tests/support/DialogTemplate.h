@@ -1,11 +1,7 @@
 #pragma once
 // Dialog templates made in memory, so that a test shows its dialog where it uses it.
 //
-//     const owtest::DialogTemplate form = owtest::DialogTemplate(L"Title", 120, 60)
-//                                             .Label(L"Width:", 4, 4, 40, 10)
-//                                             .Edit(IDC_WIDTH, 48, 4, 60, 12)
-//                                             .DefaultButton(L"OK", IDOK, 4, 40, 40, 14)
-//                                             .Button(L"Cancel", IDCANCEL, 48, 40, 40, 14);
+//     const auto form = owtest::DialogTemplate(L"Title", 120, 60).Edit(IDC_WIDTH, 48, 4, 60, 12);
 //     dialog.InitModalIndirect(form.get());
 //
 // All coordinates are dialog units. The template must outlive the dialog's creation.
@@ -21,17 +17,42 @@ class DialogTemplate
 {
 public:
     /// A pop-up with a caption and a system menu at the corner of the owner, in the 8 point dialog font.
-    DialogTemplate(std::wstring title, short cx, short cy);
+    DialogTemplate(std::wstring title, short cx, short cy) : m_title(std::move(title))
+    {
+        m_head.cx = cx;
+        m_head.cy = cy;
+        Style(WS_POPUP | WS_CAPTION | WS_SYSMENU | DS_MODALFRAME);
+    }
 
     /// Replaces the style; DS_SETFONT is always added.
-    DialogTemplate& Style(DWORD style, DWORD exStyle = 0);
-    DialogTemplate& Position(short x, short y);
-    DialogTemplate& Font(WORD points, std::wstring face);
+    DialogTemplate& Style(DWORD style, DWORD exStyle = 0)
+    {
+        m_head.style = style | DS_SETFONT;
+        m_head.dwExtendedStyle = exStyle;
+        return *this;
+    }
+    DialogTemplate& Position(short x, short y)
+    {
+        m_head.x = x;
+        m_head.y = y;
+        return *this;
+    }
+    DialogTemplate& Font(WORD points, std::wstring face)
+    {
+        m_points = points;
+        m_face = std::move(face);
+        return *this;
+    }
 
     /// Any control. WS_CHILD and WS_VISIBLE are added to the style.
     DialogTemplate& Item(std::wstring windowClass, std::wstring text, WORD id, DWORD style, short x, short y,
-                         short cx, short cy, DWORD exStyle = 0);
-
+                         short cx, short cy, DWORD exStyle = 0)
+    {
+        m_controls.push_back({std::move(windowClass), std::move(text),
+                              DLGITEMTEMPLATE{style | WS_CHILD | WS_VISIBLE, exStyle, x, y, cx, cy, id}});
+        ++m_head.cdit;
+        return *this;
+    }
     DialogTemplate& Label(std::wstring text, short x, short y, short cx, short cy)
     {
         return Item(L"Static", std::move(text), 0xFFFF, SS_LEFT, x, y, cx, cy);
@@ -51,7 +72,35 @@ public:
     }
 
     /// The template, valid until the object changes or goes.
-    LPCDLGTEMPLATE get() const;
+    LPCDLGTEMPLATE get() const
+    {
+        m_memory.clear();
+        const auto put = [this](const auto& part)
+        {
+            const auto* const words = reinterpret_cast<const WORD*>(&part);
+            m_memory.insert(m_memory.end(), words, words + sizeof part / sizeof(WORD));
+        };
+        const auto putText = [this](const std::wstring& text)
+        { m_memory.insert(m_memory.end(), text.c_str(), text.c_str() + text.size() + 1); };
+        constexpr WORD none = 0; // no menu, the dialog class, no creation data
+
+        put(m_head);
+        put(none);
+        put(none);
+        putText(m_title);
+        put(m_points);
+        putText(m_face);
+        for (const Control& control : m_controls)
+        {
+            if (m_memory.size() % 2)
+                put(none); // each begins at a double word
+            put(control.head);
+            putText(control.windowClass);
+            putText(control.text);
+            put(none);
+        }
+        return reinterpret_cast<LPCDLGTEMPLATE>(m_memory.data());
+    }
 
 private:
     struct Control

@@ -1,10 +1,5 @@
 #pragma once
 // What all fatal reports have in common: a box with the place, a break into the debugger, and the end.
-//
-//     OW_CHILD_SCENARIO(null_page) { CPageManager(nullptr).AddPage(nullptr, nullptr); }
-//     ...
-//     owtest::ExpectFailedAssert(owtest::RunChild("null_page"),
-//                                L"ASSERT(pPage)\n[.\\DlgPage\\PageManager : 63]\n");
 
 #include "ChildProcess.h"
 

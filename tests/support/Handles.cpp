@@ -3,6 +3,7 @@
 #include <malloc.h>
 
 #include <cstdint>
+#include <set>
 
 namespace owtest
 {
@@ -91,21 +92,15 @@ HandleCount CountHandles()
 size_t CountHeapBytes()
 {
     size_t bytes = 0;
-    HANDLE heap = GetProcessHeap();
-    HeapLock(heap);
-    PROCESS_HEAP_ENTRY entry{};
-    while (HeapWalk(heap, &entry))
-        if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
-            bytes += entry.cbData;
-    HeapUnlock(heap);
-
     // The C run-time keeps a heap of its own unless it shares the process's.
-    if (HANDLE cHeap = reinterpret_cast<HANDLE>(_get_heap_handle()); cHeap != heap)
+    for (HANDLE heap : std::set<HANDLE>{GetProcessHeap(), reinterpret_cast<HANDLE>(_get_heap_handle())})
     {
-        _HEAPINFO info{};
-        while (_heapwalk(&info) == _HEAPOK)
-            if (info._useflag == _USEDENTRY)
-                bytes += info._size;
+        HeapLock(heap);
+        PROCESS_HEAP_ENTRY entry{};
+        while (HeapWalk(heap, &entry))
+            if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+                bytes += entry.cbData;
+        HeapUnlock(heap);
     }
     return bytes;
 }

@@ -2,8 +2,6 @@
 // Puts a function of the test in place of one that a module imports, for the length of a scope: for what has no
 // other trace, such as a program that the system would start.
 //
-//     BOOL WINAPI NoteAddress(SHELLEXECUTEINFOW* info) { s_opened = info->lpFile; return TRUE; }
-//     ...
 //     const owtest::ImportStandIn noShell(L"DialogControlsOW.dll", "ShellExecuteExW", &NoteAddress);
 
 #include <windows.h>

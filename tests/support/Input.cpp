@@ -164,8 +164,7 @@ void Type(std::wstring_view text)
             Press(LOBYTE(scan), (HIBYTE(scan) & 1) != 0, (HIBYTE(scan) & 2) != 0);
             continue;
         }
-        INPUT input{};
-        input.type = INPUT_KEYBOARD;
+        INPUT input = Key(0, false);
         input.ki.wScan = ch;
         input.ki.dwFlags = KEYEVENTF_UNICODE;
         Send({input});
@@ -260,25 +259,13 @@ std::wstring TextOf(const CWnd& window)
     return text.GetString();
 }
 
-std::vector<HWND> OpenWindows(std::wstring_view windowClass)
+std::vector<HWND> OpenWindows(const wchar_t* windowClass)
 {
     std::vector<HWND> windows;
-    ::EnumThreadWindows(
-        ::GetCurrentThreadId(),
-        [](HWND window, LPARAM into) -> BOOL
-        {
-            if (::IsWindowVisible(window))
-                reinterpret_cast<std::vector<HWND>*>(into)->push_back(window);
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows,
-                  [&](HWND window)
-                  {
-                      wchar_t name[16] = L"";
-                      ::GetClassNameW(window, name, ARRAYSIZE(name));
-                      return name != windowClass;
-                  });
+    for (HWND window = nullptr; (window = ::FindWindowExW(nullptr, window, windowClass, nullptr));)
+        if (::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId() &&
+            ::IsWindowVisible(window))
+            windows.push_back(window);
     return windows;
 }
 

@@ -1,11 +1,5 @@
 #pragma once
 // Real input for tests: keys and clicks go through SendInput, so they take the road that a user's take.
-//
-//     owtest::Click(dlg.GetDlgItem(IDC_NAME)->m_hWnd);
-//     owtest::Type(L"12.5");
-//     owtest::Press(VK_TAB);
-//     EXPECT_TRUE(owtest::PumpUntil([&] { return handler.leaves == 1; }));
-//
 // Every call pumps messages through the PreTranslateMessage walk, as the application's own loop does,
 // until the input has been worked off. Nothing here sleeps for a fixed time.
 
@@ -64,7 +58,7 @@ void Rest();
 std::wstring TextOf(const CWnd& window);
 
 /// The top-level windows of this thread that show and have that class.
-std::vector<HWND> OpenWindows(std::wstring_view windowClass);
+std::vector<HWND> OpenWindows(const wchar_t* windowClass);
 
 /// Brings a top-level window to the front and waits until it is active.
 bool Activate(HWND window);

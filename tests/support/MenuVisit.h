@@ -1,9 +1,7 @@
 #pragma once
 // Works on an open pop-up menu from inside its loop.
 //
-//     owtest::MenuVisit visit([](const owtest::OpenMenu& menu) { menu.Click(2); });
-//     owtest::Click(button);
-//     EXPECT_EQ(visit.Count(), 1);
+//     const owtest::MenuVisit visit([](const owtest::OpenMenu& menu) { menu.Click(2); });
 //
 // The visitor is called once, for the first menu that this thread shows after the object was made; several
 // visitors one after the other, each when what the one before did has been worked off. A menu takes its input
@@ -49,14 +47,12 @@ public:
         for (const WORD key : virtualKeys)
             QueueKey(key);
     }
-    /// In screen coordinates.
-    CRect ItemRect(int item) const
+    void Click(int item) const
     {
-        CRect rect;
+        CRect rect; // on the screen
         ::GetMenuItemRect(nullptr, Handle(), item, &rect);
-        return rect;
+        QueueClick(rect.CenterPoint());
     }
-    void Click(int item) const { QueueClick(ItemRect(item).CenterPoint()); }
 
 private:
     HWND m_window;

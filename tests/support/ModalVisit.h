@@ -1,9 +1,7 @@
 #pragma once
 // Works on a modal dialog or message box from inside its message loop.
 //
-//     owtest::ModalVisit visit([](CWnd& box) { owtest::Press(VK_ESCAPE); });
-//     EXPECT_EQ(dialog.DoModal(), IDCANCEL);
-//     EXPECT_EQ(visit.Count(), 1);
+//     const owtest::ModalVisit visit([](CWnd& box) { owtest::Press(VK_ESCAPE); });
 //
 // The visitor is called once: for the first dialog that this thread shows and lets be used after the object
 // was made. With several visitors, each has the next dialog, whether it opens over the last one or after it.

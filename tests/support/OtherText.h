@@ -12,10 +12,18 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
 
 namespace owtest
 {
+inline std::string ContentsOf(const std::filesystem::path& path)
+{
+    std::ostringstream contents;
+    contents << std::ifstream(path).rdbuf();
+    return contents.str();
+}
+
 class OtherText
 {
 public:

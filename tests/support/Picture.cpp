@@ -77,9 +77,8 @@ void Capture(HWND window, Surface& into)
     CRect rect;
     ::GetWindowRect(window, &rect);
     ::GdiFlush(); // inside a menu's loop nobody has done it yet
-    HDC screen = ::GetDC(nullptr);
-    ::BitBlt(into.dc().m_hDC, 0, 0, rect.Width(), rect.Height(), screen, rect.left, rect.top, SRCCOPY);
-    ::ReleaseDC(nullptr, screen);
+    CWindowDC screen(nullptr);
+    into.dc().BitBlt(0, 0, rect.Width(), rect.Height(), &screen, rect.left, rect.top, SRCCOPY);
 }
 
 bool SavePng(HBITMAP bitmap, const std::wstring& path)
