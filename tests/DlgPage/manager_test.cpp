@@ -50,7 +50,6 @@ TEST_F(Pages, TheManagerShowsWhatIsSelected)
         {"Alpha", "", showFields},
         {"Gamma", "Alpha", showPlain + "Gamma" + leaveFields + "Alpha"},
         {"", "Gamma", leavePlain + "Gamma"},
-        {"", "", ""},
         {"Alpha", "", showFields},
         {"Beta", "Alpha", rebind},
         {"Beta", "Beta", rebind},

@@ -211,10 +211,7 @@ void Again(CWnd& dialog)
 {
     const auto press = [](WORD key) { return [key](CWnd&) { owtest::Press(key); }; };
     RequireText(dialog, IDC_STATE, L"");
-    const auto& configs = static_cast<CComboBox&>(*dialog.GetDlgItem(IDC_CONFIGS));
-    CString strName;
-    configs.GetLBText(configs.GetCurSel(), strName);
-    Require(strName == kName, L"the configuration is not current");
+    RequireText(dialog, IDC_CONFIGS, kName); // is current
     RequireText(GoTo(dialog, eBolts), IDC_PITCH, L"72.0");
     RequireText(Page(dialog), IDC_GAUGE, L"104.0");
     auto& grid = static_cast<CGridCtrl&>(*GoTo(dialog, eParts).GetDlgItem(IDC_PARTS));
