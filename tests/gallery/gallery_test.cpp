@@ -84,16 +84,16 @@ TEST(GalleryDialog, F6GoesToTheLogFromEveryKindOfControlAndBack)
         [&](CWnd& window)
         {
             goAndComeBack(window, *window.GetDlgItem(IDC_PAGES));
-            const auto throughPage = [&](CWnd& page)
-            {
-                CWnd* const pFirst = page.GetNextDlgTabItem(nullptr);
-                for (CWnd *p = pFirst, *pNext = nullptr; p && pNext != pFirst; p = pNext)
-                {
-                    goAndComeBack(window, *p);
-                    pNext = page.GetNextDlgTabItem(p);
-                }
-            };
-            ForEachPage(window, throughPage);
+            ForEachPage(window,
+                        [&](CWnd& page)
+                        {
+                            CWnd* const pFirst = page.GetNextDlgTabItem(nullptr);
+                            CWnd* pControl = pFirst;
+                            do
+                                if (pControl)
+                                    goAndComeBack(window, *pControl);
+                            while (pControl && (pControl = page.GetNextDlgTabItem(pControl)) != pFirst);
+                        });
         });
     EXPECT_GT(kinds.size(), 20u);
 }

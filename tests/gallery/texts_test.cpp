@@ -46,7 +46,10 @@ void ExpectControlsTranslated(CWnd& window)
             CString strEntry;
             auto& combo = static_cast<CComboBox&>(*pChild);
             for (int i = 0; i < combo.GetCount(); ++i)
-                combo.GetLBText(i, strEntry), ExpectTranslated(strEntry);
+            {
+                combo.GetLBText(i, strEntry);
+                ExpectTranslated(strEntry);
+            }
         }
         else if (auto* pGrid = dynamic_cast<CGridCtrl*>(pChild))
             for (int nCol = 0; nCol < pGrid->GetColumnCount(); ++nCol)
