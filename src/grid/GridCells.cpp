@@ -77,24 +77,12 @@ void CGridCells::CutRows(int nRows)
 
 void CGridCells::SetColumns(int nCols)
 {
-    int nRow = 0;
-    INT_PTR nOld = 0;
-    try
+    for (int nRow = 0; nRow < RowCount(); ++nRow)
     {
-        for (; nRow < RowCount(); ++nRow)
-        {
-            CRow& row = *m_rows[nRow];
-            nOld = row.GetSize();
-            for (INT_PTR nCol = nCols; nCol < nOld; ++nCol)
-                delete row[nCol];
-            row.SetSize(nCols);
-        }
-    }
-    catch (...)
-    {
-        while (--nRow >= 0)
-            m_rows[nRow]->SetSize(nOld);
-        throw;
+        CRow& row = *m_rows[nRow];
+        for (INT_PTR nCol = nCols; nCol < row.GetSize(); ++nCol)
+            delete row[nCol];
+        row.SetSize(nCols);
     }
 }
 

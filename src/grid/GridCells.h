@@ -46,7 +46,8 @@ public:
     void RemoveColumn(int nCol);
     /// Takes rows off the end.
     void CutRows(int nRows);
-    /// Adds empty places at the end of each row, or takes places off it.
+    /// Adds empty places at the end of each row, or takes places off it. An exception of memory may leave more
+    /// empty places in the first rows: nobody asks for those, and the next call puts that right.
     void SetColumns(int nCols);
     /// Puts new cells into the places of each row from a column on. An exception leaves the rest empty.
     void FillFrom(int nCol, const MakeCell& make);
