@@ -1,11 +1,7 @@
-// What a cell holds, inherits and measures.
+// What a cell holds, inherits and measures; the in-place editors in a grid.
 
-#include <DialogControlsOW.h>
+#include "CellTest.h"
 
-#include "Testing.h"
-
-namespace
-{
 class GridCell : public ::testing::Test
 {
 protected:
@@ -13,25 +9,19 @@ protected:
     CGridCtrl grid;
     CGridCellBase& cell;
 };
-} // namespace
 
 TEST(GridCellBase, IsAnEmptyContract)
 {
     CGridCellBase cell;
-    EXPECT_EQ(cell.GetText(), nullptr);
-    EXPECT_EQ(cell.GetTipText(), nullptr);
-    EXPECT_EQ(cell.GetImage(), -1);
+    EXPECT_TRUE(!cell.GetText() && !cell.GetTipText() && cell.GetImage() == -1);
     EXPECT_FALSE(cell.Edit(0, 0, CRect(), CPoint(), 8, 'x') || cell.PrintCell(nullptr, 0, 0, CRect()));
     CRect rect(1, 2, 3, 4);
-    EXPECT_TRUE(cell.GetTextRect(&rect) && cell.GetTipTextRect(&rect));
-    EXPECT_EQ(rect, CRect(1, 2, 3, 4));
+    EXPECT_TRUE(cell.GetTextRect(&rect) && cell.GetTipTextRect(&rect) && rect == CRect(1, 2, 3, 4));
     EXPECT_TRUE(cell.ValidateEdit(L"anything") && cell.OnSetCursor());
-    EXPECT_EQ(cell.SendMessageToParent(0, 0, NM_CLICK) + cell.GetData(), 0);
     cell.SetState(CELL_FIXEDCOL | CELL_MODIFIED);
-    EXPECT_EQ(cell.IsFixedCol(), 64) << "the bit, and not 1";
-    EXPECT_EQ(cell.IsModified(), 128);
+    EXPECT_EQ(cell.IsFixedCol() + cell.IsModified(), 64 + 128) << "the bits, and not 1";
     cell.Reset();
-    EXPECT_EQ(cell.GetState(), 0u);
+    EXPECT_EQ(cell.SendMessageToParent(0, 0, NM_CLICK) + cell.GetData() + cell.GetState(), 0u);
 }
 
 TEST_F(GridCell, InheritsUntilItIsGivenAValue)
@@ -44,9 +34,7 @@ TEST_F(GridCell, InheritsUntilItIsGivenAValue)
     EXPECT_EQ(cell.GetFontObject(), body.GetFontObject());
     EXPECT_EQ(cell.GetTextClr(), CLR_INHERIT) << "colours are resolved by drawing only";
     cell.SetMargin(9);
-    cell.SetFormat(DT_RIGHT);
     EXPECT_EQ(cell.GetMargin(), 9u);
-    EXPECT_EQ(cell.GetFormat(), static_cast<DWORD>(DT_RIGHT));
     EXPECT_EQ(grid.GetCell(0, 0)->GetDefaultCell(), grid.GetDefaultCell(TRUE, TRUE));
     EXPECT_EQ(grid.GetCell(0, 1)->GetDefaultCell(), grid.GetDefaultCell(TRUE, FALSE));
 
@@ -54,11 +42,10 @@ TEST_F(GridCell, InheritsUntilItIsGivenAValue)
     EXPECT_EQ(body.GetFormat(), 0u);
 
     CGridCell alone;
-    EXPECT_EQ(alone.GetFormat(), 0u);
+    EXPECT_EQ(alone.GetFormat() + alone.GetMargin(), 0u);
     EXPECT_EQ(alone.GetFont(), nullptr);
     EXPECT_STREQ(alone.GetText(), L"");
     EXPECT_EQ(alone.GetTextExtent(L"text"), CSize(0, 0)) << "nothing to measure on";
-    EXPECT_EQ(alone.GetMargin(), 0u);
 }
 
 TEST_F(GridCell, CopiesWhatTheOtherShows)
@@ -79,7 +66,6 @@ TEST_F(GridCell, CopiesWhatTheOtherShows)
     lf.lfHeight = -33;
     cell.SetFont(&lf);
     copy = cell;
-    EXPECT_FALSE(copy.IsDefaultFont());
     EXPECT_EQ(copy.GetFont()->lfHeight, -33);
     EXPECT_EQ(copy.GetFontObject(), cell.GetFontObject())
         << "one object for all cells with fonts of their own";
@@ -87,10 +73,8 @@ TEST_F(GridCell, CopiesWhatTheOtherShows)
     copy.SetBackClr(RGB(1, 2, 3));
     copy.Reset();
     EXPECT_EQ(copy.GetData(), 5) << "the one thing that Reset leaves";
-    EXPECT_EQ(copy.GetGrid(), nullptr);
-    EXPECT_EQ(copy.GetImage(), -1);
+    EXPECT_TRUE(!copy.GetGrid() && !copy.GetFont() && copy.GetImage() == -1);
     EXPECT_TRUE(copy.GetTextClr() == CLR_INHERIT && copy.GetBackClr() == CLR_INHERIT);
-    EXPECT_EQ(copy.GetFont(), nullptr);
 }
 
 TEST_F(GridCell, MeasuresTextWithItsMargins)
@@ -120,31 +104,12 @@ TEST_F(GridCell, MeasuresTextWithItsMargins)
     dc.SelectStockObject(SYSTEM_FONT);
 }
 
-TEST_F(GridCell, TheImageStandsBesideTheText)
-{
-    CImageList images;
-    images.Create(16, 40, ILC_COLOR32, 1, 1);
-    CBitmap bitmap;
-    bitmap.CreateBitmap(16, 40, 1, 32, nullptr);
-    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
-    grid.SetImageList(&images);
-    cell.SetText(L"text");
-    const CSize text = cell.GetTextExtent(L"text");
-    cell.SetImage(0);
-    EXPECT_EQ(cell.GetCellExtent(nullptr), CSize(text.cx + 17, 41));
-    grid.SetImageList(nullptr);
-    EXPECT_EQ(cell.GetCellExtent(nullptr), text);
-}
-
 TEST(GridDefaultCell, DerivesSizeAndMarginFromItsFont)
 {
     CGridDefaultCell cell;
-    EXPECT_TRUE(cell.IsReadOnly());
-    const int height = cell.GetHeight();
     LOGFONT lf = *cell.GetFont();
     lf.lfHeight *= 3;
     cell.SetFont(&lf);
-    EXPECT_GT(cell.GetHeight(), 2 * height);
     constexpr int kFonts = 0x0A; // type of a GDI object
     const int fonts = owtest::CountGdiObjects(kFonts);
     cell.SetFont(&lf);
@@ -156,8 +121,110 @@ TEST(GridDefaultCell, DerivesSizeAndMarginFromItsFont)
     dc.SelectStockObject(SYSTEM_FONT);
     cell.SetData(7);
     cell.SetState(CELL_SELECTED);
-    EXPECT_EQ(cell.GetData(), 0);
-    EXPECT_EQ(cell.GetState(), CELL_READONLY);
+    EXPECT_EQ(cell.GetData() + cell.GetState(), CELL_READONLY);
     cell.SetFont(nullptr);
     EXPECT_EQ(cell.GetFont()->lfHeight, lf.lfHeight);
+}
+
+class Editors : public CellTest
+{
+protected:
+    /// Begins an edit as a key does.
+    CEdit& Edit(UINT firstChar, const wchar_t* text = L"text")
+    {
+        grid.SetItemText(kRow, kCol, text);
+        grid.SetFocusCell(kRow, kCol);
+        grid.OnEditCell(kRow, kCol, CPoint(), firstChar);
+        owtest::Pump(); // the first character is posted
+        return static_cast<CEdit&>(*grid.GetDlgItem(InPlaceControlId));
+    }
+    CRect RectOf(CWnd& window)
+    {
+        CRect rect;
+        window.GetWindowRect(&rect);
+        grid.ScreenToClient(&rect);
+        return rect;
+    }
+};
+
+TEST_F(Editors, TheFirstKeyDecidesWhatHappensToTheText)
+{
+    using Row = std::tuple<UINT, const wchar_t*, int, int>; // the key, the text then, and its selection
+    for (const auto& [key, text, from, to] :
+         {Row{VK_LBUTTON, L"text", 4, 4}, Row{VK_RETURN, L"text", 4, 4}, Row{VK_BACK, L"tex", 3, 3},
+          Row{VK_TAB, L"text", 0, 4}, Row{VK_SPACE, L"text", 0, 4}, Row{VK_PRIOR, L"text", 0, 4},
+          Row{VK_DOWN, L"text", 0, 4}, Row{L'q', L"q", 1, 1}, Row{0x448, L"\x448", 1, 1}})
+    {
+        CEdit& edit = Edit(key);
+        EXPECT_EQ(owtest::TextOf(edit), text) << key;
+        EXPECT_EQ(edit.GetSel(), MAKELONG(from, to)) << key;
+        edit.SendMessage(WM_CHAR, VK_ESCAPE);
+        EXPECT_TRUE(EditorCloses());
+        EXPECT_EQ(CellText(), L"text") << "what it began with";
+        EXPECT_EQ(grid.GetFocusCell(), CCellID(kRow, kCol));
+    }
+}
+
+TEST_F(Editors, AnEditByMouseKeepsTheArrowsUnlessControlIsHeld)
+{
+    Edit(VK_LBUTTON);
+    owtest::Press(VK_LEFT);
+    owtest::Press(VK_HOME);
+    EXPECT_TRUE(grid.IsItemEditing(kRow, kCol));
+    owtest::Press(VK_LEFT, false, true);
+    EXPECT_TRUE(EditorOpens(kRow, kCol - 1));
+    EXPECT_FALSE(grid.IsItemEditing(kRow, kCol));
+    EndByFocus();
+
+    CGridCell loose;
+    loose.SetGrid(&grid);
+    EXPECT_TRUE(loose.Edit(1, 1, CRect(10, 10, 60, 30), CPoint(), InPlaceControlId, VK_LBUTTON));
+    loose.Reset();
+    EXPECT_FALSE(loose.IsEditing());
+    EndByFocus();
+}
+
+TEST_F(Editors, AnEditIsAlignedAsItsTextAndGrowsToTheGridsEdge)
+{
+    for (const auto& [format, style] : {std::pair(DT_RIGHT, ES_RIGHT), std::pair(DT_CENTER, ES_CENTER)})
+    {
+        grid.SetItemFormat(kRow, kCol, format);
+        EXPECT_EQ(Edit(VK_LBUTTON).GetStyle() & 3, static_cast<DWORD>(style));
+        EndByFocus();
+    }
+    grid.SetItemFormat(kRow, kCol, DT_LEFT);
+    CEdit& edit = Edit(VK_LBUTTON, L"");
+    EXPECT_EQ(edit.GetStyle() & 3, static_cast<DWORD>(ES_LEFT));
+    const CRect cell = CellRect();
+    EXPECT_EQ(RectOf(edit), cell);
+    owtest::Type(L"abcdefghijklmnop");
+    const int wide = RectOf(edit).right;
+    CClientDC dc(&edit);
+    dc.SelectObject(edit.GetFont());
+    EXPECT_EQ(wide, cell.left + dc.GetTextExtent(L"abcdefghijklmnop  ", 18).cx);
+    owtest::Press(VK_BACK);
+    EXPECT_EQ(RectOf(edit).right, wide) << "it never shrinks";
+    owtest::Type(L"abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz");
+    EXPECT_EQ(RectOf(edit), CRect(cell.left, cell.top, Client().right, cell.bottom));
+    MSG msg{edit.m_hWnd, WM_SYSCHAR, 'x', 0, 0, {}};
+    EXPECT_TRUE(static_cast<CWnd&>(edit).PreTranslateMessage(&msg)) << "Alt with a character is swallowed";
+    EXPECT_EQ(edit.SendMessage(WM_GETDLGCODE), DLGC_WANTALLKEYS);
+    EndByFocus();
+}
+
+TEST_F(Editors, AListIsAsWideAsItsLongestEntryWithinLimits)
+{
+    CRect rect(10, 10, 110, 60);
+    CStringArray items;
+    items.Add(L"alpha");
+    auto* const list =
+        new CInPlaceList(&grid, rect, CBS_DROPDOWN, InPlaceControlId, 3, 4, 0, 0, items, L"beta", VK_LBUTTON);
+    const int width = list->GetCorrectDropWidth();
+    EXPECT_GT(width, ::GetSystemMetrics(SM_CXVSCROLL));
+    EXPECT_LT(width, 200);
+    EXPECT_GE(RectOf(*list).Height(), rect.Height());
+    list->AddString(CString(L'W', 60));
+    list->ShowDropDown(); // which measures anew
+    EXPECT_EQ(list->GetDroppedWidth(), 200);
+    EndByFocus();
 }

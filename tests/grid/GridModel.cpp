@@ -1,6 +1,6 @@
 #include "GridModel.h"
 
-#include "GridWindow.h"
+#include "GridFixture.h"
 
 #include <unordered_map>
 
@@ -17,33 +17,20 @@ public:
 };
 IMPLEMENT_DYNCREATE(CCountedCell, CGridCell)
 
-struct CellKind
-{
-    CRuntimeClass* pClass;
-    const wchar_t* behindNumber; ///< written behind a number that is typed; null: any text is accepted
-};
-
-const CellKind kKinds[] = {
-    {RUNTIME_CLASS(CGridCell), nullptr},           {RUNTIME_CLASS(CLimitedTextCell), nullptr},
-    {RUNTIME_CLASS(CLimitedIntCell), L""},         {RUNTIME_CLASS(CLimitedDoubleCell), L".00"},
-    {RUNTIME_CLASS(CGridCellCheck), nullptr},      {RUNTIME_CLASS(CGridCellCombo), nullptr},
-    {RUNTIME_CLASS(CGridCellColorCombo), nullptr}, {RUNTIME_CLASS(CCountedCell), nullptr},
-};
-
-/// What becomes of a text that is typed; nothing if the cell refuses it.
-std::optional<std::wstring> Accepted(int kind, const std::wstring& text)
-{
-    const wchar_t* const behind = kKinds[kind].behindNumber;
-    if (!behind)
-        return text;
-    if (text.empty() || text.find_first_not_of(L"0123456789") != std::wstring::npos)
-        return std::nullopt;
-    return text + behind;
-}
+CRuntimeClass* const kKinds[] = {RUNTIME_CLASS(CGridCell), RUNTIME_CLASS(CLimitedTextCell),
+                                 RUNTIME_CLASS(CLimitedIntCell), RUNTIME_CLASS(CGridCellCombo),
+                                 RUNTIME_CLASS(CCountedCell)};
 
 bool IsA(int kind, CRuntimeClass* pClass)
 {
-    return kKinds[kind].pClass == pClass;
+    return kKinds[kind] == pClass;
+}
+
+/// Whether a text may be typed.
+bool Accepts(int kind, const std::wstring& text)
+{
+    return !IsA(kind, RUNTIME_CLASS(CLimitedIntCell)) ||
+           (!text.empty() && text.find_first_not_of(L"0123456789") == std::wstring::npos);
 }
 
 struct ModelCell
@@ -205,8 +192,6 @@ private:
         (this->*found->second)();
     }
 
-    // ---- Counts
-
     void SetCounts()
     {
         const bool rows = Pick(2) != 0;
@@ -290,13 +275,11 @@ private:
             m_model.Remove(row, at);
     }
 
-    // ---- Kinds
-
     /// Of one cell, or of all that are made from now on.
     void SetKind()
     {
         const int kind = Pick(std::size(kKinds));
-        CRuntimeClass* const pClass = kKinds[kind].pClass;
+        CRuntimeClass* const pClass = kKinds[kind];
         if (Pick(2))
         {
             Say("SetDefaultCellType", kind);
@@ -311,8 +294,6 @@ private:
         if (exists)
             m_model.At(r, c).kind = kind;
     }
-
-    // ---- Items and sizes
 
     void ChangeItem()
     {
@@ -365,8 +346,6 @@ private:
         if (exists)
             m_model.lines[row][at].size = size;
     }
-
-    // ---- Focus, selection, order
 
     void SetFocus()
     {
@@ -431,8 +410,6 @@ private:
         }
     }
 
-    // ---- Input
-
     bool Shows(bool row, int i)
     {
         return i >= m_model.fixed[row] && i < m_model.Count(row) && m_model.lines[row][i].size > 0;
@@ -486,12 +463,10 @@ private:
         CRect client;
         m_grid.GetClientRect(client);
         if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c) ||
-            m_model.lines[true][r].size < 12 || m_model.lines[false][c].size < 12 ||
-            OpensDialog(m_model.focus) || OpensDialog(m_model.RaisedToBody(r, c)))
+            m_model.lines[true][r].size < 12 || m_model.lines[false][c].size < 12)
             return;
         Say("click", r, c);
-        const bool edits = m_model.focus == CCellID(r, c) && !(m_model.At(r, c).state & CELL_READONLY) &&
-                           IsInText(r, c, point);
+        const bool edits = m_model.focus == CCellID(r, c) && !(m_model.At(r, c).state & CELL_READONLY);
         m_grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
         m_grid.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
         if (edits)
@@ -499,24 +474,6 @@ private:
         else
             Clicked(r, c);
         owtest::Pump();
-    }
-
-    /// A colour cell would show a modal dialog.
-    bool OpensDialog(CCellID cell)
-    {
-        return m_model.Has(cell.row, cell.col) &&
-               IsA(m_model.At(cell.row, cell.col).kind, RUNTIME_CLASS(CGridCellColorCombo));
-    }
-
-    /// The text of a check cell stands clear of the box, and may have no room left.
-    bool IsInText(int r, int c, CPoint point)
-    {
-        if (!IsA(m_model.At(r, c).kind, RUNTIME_CLASS(CGridCellCheck)))
-            return true;
-        CRect rect;
-        m_grid.GetCellRect(r, c, &rect);
-        rect.left += ::GetSystemMetrics(SM_CXHSCROLL) + 2 * m_grid.GetDefCellMargin();
-        return rect.PtInRect(point);
     }
 
     void Clicked(int r, int c)
@@ -552,13 +509,10 @@ private:
         if (way == 0 || text == cell.text)
             return;
         // Cell and parent may refuse it: the old text comes back, and the cell stays marked.
-        const std::optional<std::wstring> accepted = Accepted(cell.kind, text);
-        if (way != 1 && accepted)
-            cell.text = *accepted;
+        if (way != 1 && Accepts(cell.kind, text))
+            cell.text = text;
         Changed(r, c);
     }
-
-    // ---- What must hold after every step
 
     void Check() override
     {
@@ -570,9 +524,7 @@ private:
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
         Expect((m_grid.GetModified() != 0) == m_model.modified, "whether it is modified");
         Expect((m_grid.*&OpenGrid::GetMouseMode)() == 0, "mouse mode");
-        if (CWnd* const editor = m_grid.GetDlgItem(InPlaceControlId))
-            Problem("an editor is left; focus: ", ::GetFocus(), ", editor: ", editor->m_hWnd,
-                    ", parent: ", m_parent.m_hWnd, ", active: ", ::GetActiveWindow());
+        Expect(!m_grid.GetDlgItem(InPlaceControlId), "an editor is left");
         if (m_grid.GetRowCount() != m_model.RowCount() || m_grid.GetColumnCount() != m_model.ColCount())
             return;
         CheckCells();

@@ -1,9 +1,6 @@
 #pragma once
 // Random sequences of operations and input messages on a grid, checked after each step against a small model
 // of what the grid must hold.
-//
-//     RunGridSequence(owtest::StepsOf(seed, 1000), {.withInput = true});
-//     RunGridSequence(steps, {.mixedCells = true, .makeGrid = &MakeMyGrid});
 
 #include <DialogControlsOW.h>
 

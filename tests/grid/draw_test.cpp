@@ -94,10 +94,14 @@ TEST_F(GridDrawing, RegionsLinesFocusAndSelectionHaveTheirPlaces)
     EXPECT_EQ(Picture(grid).count(kBehind), 300 * 200);
 }
 
-// Partly repainted, and through a buffer, a window shows what it would show painted whole.
-TEST_F(GridDrawing, APartIsPaintedAsTheWholeIs)
+TEST_F(GridDrawing, APartIsPaintedAsTheWholeIsAlsoThroughABuffer)
 {
     FillWithPlaces(grid);
+    grid.SetCellType(2, 2, RUNTIME_CLASS(CPatternBkgndGridCell));
+    auto& hatched = static_cast<CPatternBkgndGridCell&>(*grid.GetCell(2, 2));
+    hatched.SetBackClr(kBack);
+    hatched.SetPatternColor(kRowHead);
+    hatched.SetPatternStyle(HS_DIAGCROSS);
     std::mt19937 random(2);
     for (int round = 0; round < 300; ++round)
     {
@@ -155,6 +159,7 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
     EXPECT_FALSE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 0), TRUE));
     EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 1, 1), TRUE));
     EXPECT_FALSE(plain.Draw(nullptr, 3, 2, CRect(0, 0, 59, 19), TRUE));
+    EXPECT_FALSE(CGridCell().Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), TRUE)) << "no grid";
 
     struct OrphanCell : CGridCell
     {
@@ -167,60 +172,66 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
     EXPECT_EQ(bare.dc().GetBkMode(), OPAQUE);
 }
 
-TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnly)
+TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnlyAndMakesTheTextMove)
 {
-    const CRect header(60, 0, 120, 20), below(60, 20, 120, 40);
-    const Picture plain(grid);
-    grid.SetSortColumn(1);
-    const Picture up(grid);
-    grid.SetSortAscending(FALSE);
-    const Picture down(grid);
-    EXPECT_LT(up.count(header, kRowHead), plain.count(header, kRowHead));
-    EXPECT_EQ(up.count(below, kBack), plain.count(below, kBack));
-    const COLORREF shadow = ::GetSysColor(COLOR_3DSHADOW);
-    for (const Picture* picture : {&up, &down})
-    {
-        const CRect arrow = picture->extent(shadow);
-        const int base = picture == &up ? arrow.bottom - 1 : arrow.top;
-        EXPECT_EQ(picture->count(CRect(arrow.left, base, arrow.right, base + 1), shadow), arrow.Width());
-        EXPECT_TRUE(arrow.Width() > 4 && header.PtInRect(arrow.TopLeft()));
-    }
+    LOGFONT upright = *grid.GetItemFont(0, 1);
+    upright.lfEscapement = upright.lfOrientation = 900;
+    const int margin = static_cast<int>(grid.GetDefCellMargin());
+    grid.SetItemFormat(0, 1, DT_RIGHT | DT_SINGLELINE | DT_VCENTER);
+    grid.SetItemFgColour(0, 1, kText);
+    for (const int round : {0, 1, 2, 3})
+        for (const int width : {60, 16, 14, 13, 12, 11, 10, 2}) // in the last ones there is no room
+        {
+            const bool vertical = round / 2 != 0, up = round % 2 != 0;
+            if (vertical)
+                grid.SetItemFont(0, 1, &upright);
+            grid.SetColumnWidth(1, width, TRUE);
+            grid.SetItemText(0, 1, L""); // takes the arrow away, too
+            Picture expected(grid);
+            CDC& dc = expected.dc();
+            dc.SelectObject(grid.GetCell(0, 1)->GetFontObject());
+            const CRect room(61 + margin, 1 + margin, 58 + width - margin, 18);
+            const int high = dc.GetTextExtent(L"M", 1).cy - 4;
+            const int size = high < room.Height() ? high : room.Height() - 4;
+            const bool fits = room.left + size < room.right + 2 * margin;
+            const int x = vertical ? (room.left + room.right - size) / 2 : room.right - size;
+            const int top = room.bottom - size - 2, base = top + (up ? size : 0), tip = top + (up ? 0 : size);
+            for (const int light : {1, 0}) // engraved
+            {
+                CPen pen(PS_SOLID, 0, ::GetSysColor(light ? COLOR_3DHIGHLIGHT : COLOR_3DSHADOW));
+                CPen* const pOld = dc.SelectObject(&pen);
+                POINT corners[] = {{x, base}, {x + size / 2, tip}, {x + size, base}, {x, base}};
+                for (POINT& corner : corners)
+                    corner = {corner.x + light, corner.y + light};
+                if (fits)
+                    dc.Polyline(corners, 4);
+                dc.SelectObject(pOld);
+            }
+            grid.SetSortColumn(1);
+            grid.SetSortAscending(up);
+            EXPECT_TRUE(Picture(grid) == expected) << "round " << round << ", width " << width;
 
-    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT);
-    EXPECT_GT(up.count(header, light), plain.count(header, light)) << "engraved";
-    for (const int nWidth : {12, 2})
-    {
-        grid.SetColumnWidth(1, nWidth, TRUE);
-        EXPECT_EQ(Picture(grid).extent(shadow).IsRectEmpty() != FALSE, nWidth == 2) << "no room";
-    }
-    grid.SetColumnWidth(1, kColWidth, TRUE);
+            if (width != kColWidth)
+                continue;
+            grid.SetItemText(0, 1, L"H");
+            const Picture without(grid);
+            grid.SetSortColumn(1);
+            EXPECT_EQ(without.extent(kText).right - Picture(grid).extent(kText).right, vertical ? 0 : size);
+        }
 
     // It comes with its column, and goes with it.
+    grid.SetColumnWidth(1, kColWidth, TRUE);
     const CRect first(0, 0, 60, 20);
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), CRect(0, 0, 120, 20));
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(-1); }), first);
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), first);
-
-    // A text at the right makes room for it.
-    grid.SetItemText(0, 1, L"H");
-    grid.SetItemFormat(0, 1, DT_RIGHT | DT_SINGLELINE | DT_VCENTER);
-    grid.SetItemFgColour(0, 1, kText);
-    grid.SetSortColumn(1); // the text has taken it away
-    Picture with(grid);
-    grid.SetSortColumn(-1);
-    const Picture without(grid);
-    TEXTMETRIC metrics;
-    with.dc().SelectObject(grid.GetFont());
-    with.dc().GetTextMetrics(&metrics);
-    const int room = kRowHeight - 3 - static_cast<int>(grid.GetDefCellMargin()), size = metrics.tmHeight - 4;
-    EXPECT_EQ(without.extent(kText).right - with.extent(kText).right, size < room ? size : room - 4);
 }
 
 TEST_F(GridDrawing, TheImageMakesRoomForTheText)
 {
     CImageList images;
-    images.Create(12, 12, ILC_COLOR32, 1, 1);
-    owtest::Surface red(12, 12, RGB(255, 0, 0));
+    images.Create(12, 40, ILC_COLOR32, 1, 1);
+    owtest::Surface red(12, 40, RGB(255, 0, 0));
     images.Add(CBitmap::FromHandle(static_cast<HBITMAP>(::GetCurrentObject(red.dc(), OBJ_BITMAP))),
                static_cast<CBitmap*>(nullptr));
     grid.SetImageList(&images);
@@ -228,8 +239,10 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     const CRect cell = CellRect(2, 2);
     CRect text;
     grid.GetTextRect(2, 2, &text);
-    const int margin = static_cast<int>(grid.GetCell(2, 2)->GetMargin());
+    CGridCellBase& imaged = *grid.GetCell(2, 2);
+    const int margin = static_cast<int>(imaged.GetMargin());
     EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);
+    EXPECT_EQ(imaged.GetCellExtent(nullptr), CSize(imaged.GetTextExtent(imaged.GetText()).cx + 13, 41));
     grid.SetItemImage(2, 2, 9);
     grid.GetTextRect(2, 2, &text);
     EXPECT_EQ(text.left, cell.left) << "an image that is not there takes no room";
@@ -237,14 +250,15 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     // It is left out where it does not fit, the margin counted in on all sides.
     grid.SetItemImage(2, 2, 0);
     for (const auto& [size, shows] :
-         {std::pair(CSize(14, 40), true), std::pair(CSize(13, 40), false),
-          std::pair(CSize(60, 14 - margin), true), std::pair(CSize(60, 13 - margin), false)})
+         {std::pair(CSize(14, 60), true), std::pair(CSize(13, 60), false),
+          std::pair(CSize(60, 42 - margin), true), std::pair(CSize(60, 41 - margin), false)})
     {
         owtest::Surface drawn(80, 60, kBack);
-        grid.GetCell(2, 2)->Draw(&drawn.dc(), 2, 2, CRect(CPoint(2, 2), size - CSize(1, 1)), FALSE);
+        imaged.Draw(&drawn.dc(), 2, 2, CRect(CPoint(2, 2), size - CSize(1, 1)), FALSE);
         EXPECT_EQ(drawn.count(CRect(0, 0, 80, 60), RGB(255, 0, 0)) > 0, shows) << size.cx << ',' << size.cy;
     }
     grid.SetImageList(nullptr);
+    EXPECT_EQ(imaged.GetCellExtent(nullptr), imaged.GetTextExtent(imaged.GetText()));
 }
 
 TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
@@ -299,16 +313,13 @@ TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
 {
     grid.SetTextBkColor(::GetSysColor(COLOR_WINDOW));
     grid.SetFixedBkColor(RGB(1, 1, 1));
-    const COLORREF old = ::GetSysColor(COLOR_WINDOW);
     const int element = COLOR_WINDOW;
-    const COLORREF other = RGB(240, 255, 240);
-    ::SetSysColors(1, &element, &other);
-    grid.SendMessage(WM_SYSCOLORCHANGE);
-    const COLORREF followed = grid.GetTextBkColor();
-    ::SetSysColors(1, &element, &old);
-    grid.SendMessage(WM_SYSCOLORCHANGE);
-    EXPECT_EQ(followed, other);
-    EXPECT_EQ(grid.GetTextBkColor(), old);
+    for (const COLORREF color : {RGB(240, 255, 240), ::GetSysColor(COLOR_WINDOW)})
+    {
+        ::SetSysColors(1, &element, &color);
+        grid.SendMessage(WM_SYSCOLORCHANGE);
+        EXPECT_EQ(grid.GetTextBkColor(), color);
+    }
     EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
 }
 
@@ -326,6 +337,5 @@ TEST_F(GridDrawing, NothingPaintsOverAnOpenEditor)
     EXPECT_TRUE(grid.RedrawCell(2, 2, &own));
     EXPECT_NE(CClientDC(editor).GetPixel(40, 8), kGreen);
     EXPECT_EQ(own.GetPixel(2 * kColWidth + 40, 2 * kRowHeight + 8), CClientDC(editor).GetPixel(40, 8));
-    grid.SetFocus();
-    EXPECT_TRUE(EditorCloses());
+    EndByFocus();
 }

@@ -1,4 +1,4 @@
-// Keys, and edits from the first key to the last.
+// Keys, edits from the first key to the last, focus and selection.
 
 #include "GridFixture.h"
 
@@ -79,12 +79,7 @@ TEST_F(GridKeyboard, AnEditFromItsFirstKeyToItsLast)
     EXPECT_EQ(After('X'), "2,2 [2,2-2,2]=1 begin 2,2") << "forbidden";
     EXPECT_FALSE(grid.IsItemEditing(2, 2));
     std::wstring seen;
-    const auto look = [&]
-    {
-        seen = Text(2, 2);
-        grid.SetModified(FALSE);
-    };
-    parent.On(LVN_ENDLABELEDITW, look);
+    parent.On(LVN_ENDLABELEDITW, [&] { seen = Text(2, 2), grid.SetModified(FALSE); });
     TypeInto(2, 2, L"abc");
     EndByKey(VK_RETURN);
     EXPECT_EQ(seen, L"abc") << "the parent finds the new text in the cell";
@@ -158,4 +153,49 @@ TEST_F(GridKeyboard, ClearCellsAsksForEachCellThatShows)
     grid.ClearCells(CCellRange(2, 1, 4, 2));
     EXPECT_EQ(parent.Take(), (Calls{"begin 2,2", "end 2,2", "begin 4,1", "begin 4,2", "end 4,2"}));
     EXPECT_EQ(Text(2, 1) + Text(2, 2) + Text(3, 2) + Text(4, 2), L"2/13/24/2") << "the last one refused";
+}
+
+using GridSelection = GridTest;
+
+TEST_F(GridSelection, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
+{
+    EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
+    EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
+    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellRange(3, 1, 4, 2)); }), CRect(60, 60, 180, 100));
+    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellID(3, 1)); }), CRect(60, 60, 120, 80));
+
+    // Switching selection off drops it.
+    grid.SetFocusCell(2, 2);
+    grid.SetSelectedRange(2, 2, 4, 4);
+    EXPECT_EQ(Seen(), "2,2 [2,2-4,4]=9 changed 2,2");
+    grid.EnableSelection(FALSE);
+    EXPECT_EQ(Seen(), "-1,-1");
+    grid.SetSelectedRange(2, 2, 4, 4);
+    EXPECT_EQ(Seen(), "-1,-1");
+    grid.SetItemState(2, 2, CELL_SELECTED);
+    EXPECT_FALSE(grid.IsCellSelected(2, 2));
+    EXPECT_EQ(grid.GetSelectedCount(), 1) << "the books take it all the same";
+}
+
+TEST_F(GridSelection, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
+{
+    for (int nItem = 0; nItem < 5; ++nItem)
+    {
+        grid.SetCellType(0, nItem, RUNTIME_CLASS(NotedCell));
+        grid.SetCellType(nItem, 0, RUNTIME_CLASS(NotedCell));
+    }
+    grid.SetFocusCell(0, 0);
+    EXPECT_EQ(parent.Take(), Calls{"changed 1,1"}) << "raised into the body";
+    grid.SetFocusCell(2, 2);
+    parent.Take();
+    NotedCell::notesDraws = true;
+    grid.SetFocusCell(2, 4);
+    EXPECT_EQ(parent.Take(), (Calls{"draw 0,2", "draw 0,4", "changed 2,4"}));
+    grid.SetFocusCell(CCellID(3, 4), FALSE);
+    EXPECT_EQ(parent.Take(), (Calls{"draw 2,0", "draw 3,0"})) << "quietly";
+    grid.SetTrackFocusCell(FALSE);
+    grid.SetFocusCell(4, 2);
+    NotedCell::notesDraws = false;
+    grid.SetFocusCell(-1, -1);
+    EXPECT_EQ(parent.Take(), Calls{"changed 4,2"});
 }

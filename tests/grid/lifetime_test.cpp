@@ -2,8 +2,6 @@
 
 #include "GridFixture.h"
 
-namespace
-{
 /// A grid on the heap, so that a receiver can delete it.
 class GridLife : public ::testing::Test
 {
@@ -70,7 +68,6 @@ protected:
     }
 
     using Calls = GridParent::Calls;
-
     /// Ends with what the parent does then.
     void TypeInto(int nRow, int nCol, const std::function<void()>& harm = nullptr, LRESULT answer = 0)
     {
@@ -116,23 +113,16 @@ protected:
     std::unique_ptr<OpenGrid> grid;
     HWND hGrid = nullptr;
 };
-} // namespace
 
 TEST_F(GridLife, AReceiverMayDoWhatItLikes)
 {
-    const std::function<void()> harms[] = {[&] { grid->DeleteNonFixedRows(); },
-                                           [&] { grid->SetRowCount(12); },
-                                           [&] { grid->DeleteAllItems(); },
-                                           [&] { grid->DestroyWindow(); },
-                                           [&] { grid.reset(); },
-                                           [&] { grid->EndEditing(); },
-                                           [&]
-                                           {
-                                               grid->SetFocusCell(5, 3);
-                                               grid->StartEditCell();
-                                           }};
-    for (const auto& harm : harms)
-        Torment(harm);
+    Torment([&] { grid->DeleteNonFixedRows(); });
+    Torment([&] { grid->SetRowCount(12); });
+    Torment([&] { grid->DeleteAllItems(); });
+    Torment([&] { grid->DestroyWindow(); });
+    Torment([&] { grid.reset(); });
+    Torment([&] { grid->EndEditing(); });
+    Torment([&] { grid->SetFocusCell(5, 3), grid->StartEditCell(); });
 }
 
 TEST_F(GridLife, AScrollBarThatComesEndsTheEditAndMaybeTheGrid)
@@ -204,12 +194,7 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
     grid->SetVirtualMode(TRUE);
     grid->SetColumnCount(4);
     grid->SetRowCount(50);
-    parent.On(LVN_GETDISPINFOW,
-              [&]
-              {
-                  if (grid->GetRowCount() > 5)
-                      grid->SetRowCount(grid->GetRowCount() - 3);
-              });
+    parent.On(LVN_GETDISPINFOW, [&] { grid->SetRowCount(std::max(grid->GetRowCount() - 3, 5)); });
     grid->Invalidate();
     grid->UpdateWindow();
     EXPECT_LT(grid->GetRowCount(), 50);
@@ -217,6 +202,7 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
 
 TEST_F(GridLife, EndsWhereItBegan)
 {
+    CRuntimeClass* const kinds[] = {RUNTIME_CLASS(CGridCell), RUNTIME_CLASS(CGridCellCombo)};
     LOGFONT lf{};
     wcscpy(lf.lfFaceName, L"Liberation Sans");
     const auto live = [&](int times)
@@ -229,8 +215,7 @@ TEST_F(GridLife, EndsWhereItBegan)
             UseGrid();
             if (i % 2) // and destroyed in the middle of it
             {
-                grid->SetCellType(2, 2,
-                                  i % 4 == 1 ? RUNTIME_CLASS(CGridCell) : RUNTIME_CLASS(CGridCellCombo));
+                grid->SetCellType(2, 2, kinds[i % 4 / 2]);
                 grid->SetFocusCell(2, 2);
                 grid->StartEditCell();
             }
@@ -250,8 +235,7 @@ TEST_F(GridLife, EndsWhereItBegan)
     const owtest::HandleCount handles = owtest::CountHandles();
     const size_t bytes = heapBytes();
     live(80);
-    const owtest::HandleCount after = owtest::CountHandles();
-    EXPECT_EQ(after.gdi, handles.gdi);
-    EXPECT_EQ(after.windows, handles.windows);
+    EXPECT_EQ(owtest::CountHandles().gdi, handles.gdi);
+    EXPECT_EQ(owtest::CountHandles().windows, handles.windows);
     EXPECT_LT(heapBytes(), bytes + 2048) << "a fraction of what one life takes";
 }

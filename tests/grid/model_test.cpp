@@ -9,15 +9,13 @@ void RunAll(unsigned firstSeed, int seeds, int steps, SequenceOptions options)
 {
     for (int i = 0; i < seeds; ++i)
     {
-        options.mixedCells = i % 2 == 1;
+        options.mixedCells = i % 2 == 1; // cells of all kinds
         const auto result = RunGridSequence(owtest::StepsOf(firstSeed + i, steps), options);
         ASSERT_EQ(result.failure, "") << "seed " << firstSeed + i;
         ASSERT_EQ(result.stepsDone, steps);
     }
 }
 } // namespace
-
-// Every other sequence has cells of all kinds.
 
 TEST(GridModel, HoldsThroughRandomOperations)
 {

@@ -1,10 +1,8 @@
 // Sorting, text files, saved widths, units of columns.
 
-#include "GridWindow.h"
+#include "GridFixture.h"
 
 #include <Translator.h>
-
-#include <iterator>
 
 namespace
 {
@@ -106,7 +104,6 @@ TEST_F(GridFile, WritesALineForEachRow)
     FillWithPlaces(grid);
     EXPECT_TRUE(grid.Save(path.c_str(), L','));
     EXPECT_EQ(Read(), "0/0,0/1\r\n1/0,1/1\r\n");
-
     ASSERT_TRUE(grid.Load(path.c_str(), L','));
     EXPECT_EQ(TextsOf(grid, 0, 0, L";"), L"0/0|1/1;1/0|;")
         << "the first field of a line lands one row below the others";
@@ -131,44 +128,29 @@ TEST_F(GridFile, ReadsLinesOfAnyLengthAndSizesTheColumns)
 TEST_F(GridFile, ABrokenOneIsReported)
 {
     constexpr int kTextOfBox = 0xFFFF;
-    // A pipe that its reader closes as soon as the first cell is asked for.
-    constexpr wchar_t kPipe[] = L"\\\\.\\pipe\\ow_grid_test";
-    static HANDLE s_hReader = INVALID_HANDLE_VALUE;
-    s_hReader = ::CreateNamedPipe(kPipe, PIPE_ACCESS_INBOUND, PIPE_TYPE_BYTE, 1, 0, 64, 0, nullptr);
-    ASSERT_NE(s_hReader, INVALID_HANDLE_VALUE);
     grid.SetVirtualMode(TRUE);
+    grid.SetColumnCount(1);
+    grid.SetRowCount(1);
     grid.SetCallbackFunc(
-        [](GV_DISPINFO* pInfo, LPARAM)
+        [](GV_DISPINFO*, LPARAM)
         {
-            ::CloseHandle(std::exchange(s_hReader, INVALID_HANDLE_VALUE));
-            pInfo->item.strText = L"more than a buffer of the stream holds";
+            AfxThrowFileException(CFileException::diskFull); // as the file itself would
             return 0;
         },
         0);
-    grid.SetColumnCount(1);
-    grid.SetRowCount(10000);
     std::wstring told;
     owtest::ModalVisit visit([&](CWnd& box) { told = owtest::TextOf(*box.GetDlgItem(kTextOfBox)); });
-    EXPECT_FALSE(grid.Save(kPipe, L','));
+    EXPECT_FALSE(grid.Save(path.c_str(), L','));
     EXPECT_EQ(told, L"Unable to save grid list");
-    EXPECT_EQ(s_hReader, INVALID_HANDLE_VALUE) << "it was opened, and broke while it was written";
 }
 
-TEST_F(GridFile, EmptyBinaryAndMissingFilesLeaveASoundGrid)
+TEST_F(GridFile, EmptyAndMissingFilesLeaveASoundGrid)
 {
     grid.SetColumnCount(2);
     grid.SetRowCount(2);
     Write("");
     EXPECT_TRUE(grid.Load(path.c_str(), L','));
     EXPECT_EQ(grid.GetRowCount(), 0);
-    std::string binary = "head\n";
-    for (int i = 0; i < 4000; ++i)
-        binary += static_cast<char>((i * 167 + i / 13) % 256);
-    Write(binary);
-    EXPECT_TRUE(grid.Load(path.c_str(), L','));
-    EXPECT_GT(grid.GetRowCount(), 0);
-
-    grid.DeleteAllItems();
     grid.SetColumnCount(1);
     grid.SetRowCount(1);
     grid.SetItemText(0, 0, L"stays");

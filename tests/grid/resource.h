@@ -1,3 +1,0 @@
-#pragma once
-
-#define IDS_PIECES 41
