@@ -10,7 +10,7 @@
 struct SequenceOptions
 {
     bool withInput = false;  ///< also clicks, types and edits, which needs a visible window
-    bool mixedCells = false; ///< cells of all kinds instead of plain ones only
+    bool mixedCells = false; ///< cells of several kinds instead of plain ones only
     std::unique_ptr<CGridCtrl> (*makeGrid)() = [] { return std::make_unique<CGridCtrl>(); };
 };
 

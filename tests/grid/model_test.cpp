@@ -9,7 +9,7 @@ void RunAll(unsigned firstSeed, int seeds, int steps, SequenceOptions options)
 {
     for (int i = 0; i < seeds; ++i)
     {
-        options.mixedCells = i % 2 == 1; // cells of all kinds
+        options.mixedCells = i % 2 == 1; // cells of several kinds
         const auto result = RunGridSequence(owtest::StepsOf(firstSeed + i, steps), options);
         ASSERT_EQ(result.failure, "") << "seed " << firstSeed + i;
         ASSERT_EQ(result.stepsDone, steps);
