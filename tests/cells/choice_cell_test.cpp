@@ -151,7 +151,6 @@ TEST_F(ComboCells, KeysTypeAndChoose)
     }
     EndByKey(VK_RETURN);
     EXPECT_EQ(CellText(), L"RHS 80") << "what the list lacks can be typed";
-    EXPECT_EQ(cell.DajKomboBoks(), nullptr);
 
     owtest::Type(L"x");
     owtest::Press(VK_LEFT, false, true);
@@ -339,7 +338,7 @@ TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
 
 TEST_F(ColourCells, TheCellMayGoWhileTheDialogIsOpen)
 {
-    const auto click = [&] { cell->OnClick(CPoint(5, 5)); };
+    const auto click = [&] { cell->OnClick(CPoint(0, 0)); };
     const auto replace = [&]
     {
         grid.DeleteRow(kRow);

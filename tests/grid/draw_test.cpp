@@ -138,7 +138,6 @@ TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
         grid.SetGridLines(lines);
         EXPECT_TRUE(grid.RedrawCell(2, 2, &one.dc()));
         EXPECT_EQ(one.extent(kBack), CRect(120, 40, lines == GVL_BOTH ? 179 : 180, lines ? 59 : 60));
-        EXPECT_EQ(one.extent(kLine).left, lines ? 120 : 0);
         EXPECT_EQ(one.count(kLine), count);
         EXPECT_TRUE(grid.RedrawCell(2, 0, &one.dc()));
         EXPECT_EQ(one.count(CRect(0, 40, 60, 60), kLine), 0);

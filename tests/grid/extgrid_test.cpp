@@ -292,15 +292,16 @@ TEST_F(ExtGrid, AParentWithoutAnObjectIsNamedByOneThatLasts)
 {
     const HWND other =
         ::CreateWindowEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr, nullptr, nullptr);
-    RowGrid lone;
-    lone.SetRowCount(2);
-    lone.SetColumnCount(2);
-    ASSERT_TRUE(lone.Create(CRect(0, 0, 200, 100), CWnd::FromHandle(other), kGridId));
+    auto pLone = std::make_unique<RowGrid>();
+    pLone->SetRowCount(2);
+    pLone->SetColumnCount(2);
+    ASSERT_TRUE(pLone->Create(CRect(0, 0, 200, 100), CWnd::FromHandle(other), kGridId));
     for (LONG idle = 0; AfxGetApp()->OnIdle(idle); ++idle) // takes the object away that FromHandle made
         ;
-    lone.SetFocusCell(1, 1);
+    pLone->SetFocusCell(1, 1);
     EXPECT_EQ(handler.Take(), "77 row 1 after -1; ");
-    ::DestroyWindow(other);
+    pLone = nullptr;
+    EXPECT_TRUE(::DestroyWindow(other)) << "it is there yet";
 }
 
 TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)

@@ -87,7 +87,6 @@ TEST_F(GridGeometry, ScrollMessagesMoveTheirBarAndRepaintWhatScrolls)
     EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_PAGEDOWN), CRect(0, 20, Client().right, Client().bottom));
     EXPECT_EQ(grid.GetScrollPos32(SB_VERT), Client().bottom - 20);
     EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_TOP), Client());
-    EXPECT_EQ(grid.GetScrollPos32(SB_VERT), 0);
     EXPECT_EQ(RepaintedBy(WM_VSCROLL, SB_LINEUP), CRect()) << "nothing moves";
 }
 

@@ -202,7 +202,7 @@ TEST_F(GridMouse, TheMarkerOfADragLeavesNothingBehind)
         const CPoint divider = column ? ColumnDivider(1) : RowDivider(2);
         grid.UpdateWindow();
         capture(before);
-        Send(WM_MOUSEMOVE, divider);
+        Send(WM_MOUSEMOVE, divider - CSize(1, 1)); // a press may come from elsewhere
         Send(WM_LBUTTONDOWN, divider, MK_LBUTTON);
         for (const int way : {10, 30, 20})
             Send(WM_MOUSEMOVE, divider + (column ? CSize(way, 0) : CSize(0, way)), MK_LBUTTON);

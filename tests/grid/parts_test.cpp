@@ -79,10 +79,8 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
     grid.SetColumnCount(3);
     grid.supply = 7;
     EXPECT_FALSE(grid.SetRowCount(5));
-    EXPECT_EQ(grid.GetRowCount(), 2) << "two whole rows";
     grid.supply = 1;
     EXPECT_FALSE(grid.SetColumnCount(5));
-    EXPECT_EQ(grid.GetColumnCount(), 5);
     EXPECT_EQ(grid.GetCell(1, 4), nullptr) << "an empty place, and no cell";
     EXPECT_FALSE(grid.SetItemText(1, 4, L"x"));
     EXPECT_TRUE(grid.SetItemText(0, 3, L"stays"));
@@ -93,7 +91,7 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
     EXPECT_EQ(grid.InsertRow(L"x", 1), 0);
     EXPECT_FALSE(grid.SetRowCount(INT_MAX));
     EXPECT_FALSE(grid.SetFixedColumnCount(INT_MAX));
-    EXPECT_EQ(grid.GetCellRange(), CCellRange(0, 0, 1, 4));
+    EXPECT_EQ(grid.GetCellRange(), CCellRange(0, 0, 1, 4)) << "two whole rows, five columns";
     EXPECT_EQ(boxes.Count(), 6);
     grid.supply = 100;
     EXPECT_EQ(grid.InsertColumn(L"x"), 5);

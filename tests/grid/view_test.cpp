@@ -122,12 +122,13 @@ TEST_F(GridView, PlacesAreThoseOfTheWalksAlongBothWays)
         for (const auto& [axis, walk, most] : {std::tuple(&rows, &down, 50), std::tuple(&cols, &right, 90)})
         {
             axis->SetCount(1 + pick(8), 0);
-            axis->SetFixed(walk->fixed = pick(std::min(axis->Count(), 3)));
+            axis->SetFixed(walk->fixed = pick(std::min(axis->Count(), 3) + 1));
             for (int item = 0; item < axis->Count(); ++item)
                 axis->SetSize(item, walk->sizes.emplace_back(pick(4) ? 5 * pick(most / 5) : 0));
         }
-        topLeft = CCellID(down.fixed + pick(down.Count() - down.fixed), right.fixed);
-        topLeft.col += pick(right.Count() - right.fixed);
+        topLeft = CCellID(down.fixed, right.fixed); // which may be behind the last
+        topLeft.row += pick(std::max(down.Count() - down.fixed, 1));
+        topLeft.col += pick(std::max(right.Count() - right.fixed, 1));
         const CGridView view = View();
 
         const CPoint point(5 * pick(66) - 9 - pick(2), 5 * pick(46) - 9 - pick(2));
@@ -232,13 +233,14 @@ TEST(GridAxis, KeepsCountOfItsSizesAlsoOfThoseThatAreAllAlike)
             std::swap(walk.sizes[at], walk.sizes[other]);
             axis.Swap(at, other);
         }
-        else if (what == 4 || n <= 30)
+        else if (what == 4)
             axis.SetSize(at, walk.sizes[at] = size);
         else
         {
-            walk.sizes.resize(at);
-            walk.fixed = std::min(walk.fixed, at);
-            axis.SetCount(at, 0);
+            const int count = n > 30 ? at : n + pick(3);
+            walk.sizes.resize(count, size);
+            walk.fixed = std::min(walk.fixed, count);
+            axis.SetCount(count, size);
         }
         ASSERT_EQ(std::pair(axis.Count(), axis.Fixed()), std::pair(walk.Count(), walk.fixed));
         ASSERT_EQ(axis.Extent(), walk.Offset(walk.Count()));
@@ -246,6 +248,9 @@ TEST(GridAxis, KeepsCountOfItsSizesAlsoOfThoseThatAreAllAlike)
         const int first = axis.FirstAt(pick(700) - 20), point = pick(700) - 20;
         ASSERT_EQ(axis.ItemAt(point, first, true), walk.ItemAt(point, first, true)) << "step " << step;
     }
+    axis.SetCount(0, 0);
+    axis.SetCount(3, 0);
+    EXPECT_EQ(axis.Visible(0, 0).nLast, 0) << "all hidden, and no room";
 }
 
 TEST(GridAxis, SharesWhatIsLeftAmongThoseThatShow)
