@@ -31,7 +31,6 @@ TEST_F(GridCell, InheritsUntilItIsGivenAValue)
     EXPECT_EQ(cell.GetFormat(), static_cast<DWORD>(0x8824));
     EXPECT_EQ(cell.GetMargin(), body.GetMargin());
     EXPECT_EQ(cell.GetFont(), body.GetFont());
-    EXPECT_EQ(cell.GetFontObject(), body.GetFontObject());
     EXPECT_EQ(cell.GetTextClr(), CLR_INHERIT) << "colours are resolved by drawing only";
     cell.SetMargin(9);
     EXPECT_EQ(cell.GetMargin(), 9u);

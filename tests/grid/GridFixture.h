@@ -130,7 +130,6 @@ inline bool PlaceGrid(CGridCtrl& grid, GridParent& parent, CSize client = CSize(
     return grid.Create(rect, &parent, kGridId, WS_CHILD | WS_VISIBLE | WS_TABSTOP) != FALSE;
 }
 
-/// The middle of a cell in the grid's client area.
 inline CPoint MiddleOf(CGridCtrl& grid, int nRow, int nCol)
 {
     CRect rect;

@@ -6,7 +6,6 @@
 
 namespace
 {
-/// Knows how many there are.
 class CCountedCell : public CGridCell
 {
     DECLARE_DYNCREATE(CCountedCell)

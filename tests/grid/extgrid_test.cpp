@@ -288,20 +288,26 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
     }
 }
 
-TEST_F(ExtGrid, AParentWithoutAnObjectIsNamedByOneThatLasts)
+TEST(ExtGridHook, AParentWithoutAnObjectIsNamedByOneThatLasts)
 {
-    const HWND other =
+    struct TellingGrid : public CGridCtrl
+    {
+        using CGridCtrl::CGridCtrl;
+        void OnGridEndEdit(NMHDR*, LRESULT*) {}
+        void OnGridRClick(NMHDR*, LRESULT*) {}
+        void OnGridSelChanged(NMHDR*, LRESULT*) { ++changes; }
+        int changes = 0;
+    } grid(2, 2);
+    const HWND parent =
         ::CreateWindowEx(0, L"STATIC", L"", WS_POPUP, 0, 0, 300, 200, nullptr, nullptr, nullptr, nullptr);
-    auto pLone = std::make_unique<RowGrid>();
-    pLone->SetRowCount(2);
-    pLone->SetColumnCount(2);
-    ASSERT_TRUE(pLone->Create(CRect(0, 0, 200, 100), CWnd::FromHandle(other), kGridId));
-    for (LONG idle = 0; AfxGetApp()->OnIdle(idle); ++idle) // takes the object away that FromHandle made
-        ;
-    pLone->SetFocusCell(1, 1);
-    EXPECT_EQ(handler.Take(), "77 row 1 after -1; ");
-    pLone = nullptr;
-    EXPECT_TRUE(::DestroyWindow(other)) << "it is there yet";
+    ASSERT_TRUE(grid.Create(CRect(0, 0, 200, 100), CWnd::FromHandle(parent), kGridId));
+    auto pHook = std::make_unique<CExtGridHook<TellingGrid>>(&grid);
+    pHook->HookParent();
+    EXPECT_NE(pHook->GetHookedWindow(), CWnd::FromHandle(parent)) << "which goes with the next idle turn";
+    grid.SetFocusCell(1, 1);
+    EXPECT_EQ(grid.changes, 1);
+    pHook = nullptr;
+    EXPECT_TRUE(::DestroyWindow(parent)) << "it is there yet";
 }
 
 TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)

@@ -72,7 +72,6 @@ TEST_F(GridKeyboard, EachKeyMovesSelectsTellsAndScrollsInItsWay)
     EXPECT_TRUE(grid.IsCellVisible(1, 2)) << "also if the old focus was out of view";
 }
 
-// What becomes of a text is the model's, too (GridModel.h).
 TEST_F(GridKeyboard, AnEditFromItsFirstKeyToItsLast)
 {
     parent.On(LVN_BEGINLABELEDITW, nullptr, -1);

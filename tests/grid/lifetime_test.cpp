@@ -8,7 +8,6 @@ class GridLife : public ::testing::Test
 protected:
     void SetUp() override { Make(); }
     void TearDown() override { parent.answer = nullptr; }
-    /// Another grid in place of the one there is.
     void Make()
     {
         parent.answer = nullptr;

@@ -386,7 +386,6 @@ protected:
     }
 };
 
-// The arrows and Tab on are the model's (GridModel.h).
 TEST_F(GridWalk, TabGoesBackAndWithATestAroundInItsRow)
 {
     const CGridKeyWalk plain(rows, cols);
