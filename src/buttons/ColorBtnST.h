@@ -59,7 +59,7 @@ class OW_DIALOGCONTROLS_API CColorBtnST : public CButtonST
 {
 public:
     /// Colours that the pop-up offers.
-    static constexpr int paletteSize = 20;
+    static constexpr int kPaletteSize = 20;
 
     CColorBtnST();
     /// The handler is not owned, may be null, and must outlive the button.
@@ -80,9 +80,9 @@ public:
     /// too long the rest does not count.
     static int Load();
 
-    static std::array<COLORREF, paletteSize> s_colorTable;
+    static std::array<COLORREF, kPaletteSize> s_colorTable;
     /// For each colour its rank by last use: 1 for the most recent, 20 for the least.
-    static std::array<BYTE, paletteSize> s_colorRecency;
+    static std::array<BYTE, kPaletteSize> s_colorRecency;
 
 protected:
     /// Another colour was chosen and is in the variable; the handler is told next. Does nothing here.

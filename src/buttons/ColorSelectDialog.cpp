@@ -213,9 +213,9 @@ BOOL CColorSelectDialog::OnInitDialog()
 // The texts of the cells are for those who have them read aloud.
 void CColorSelectDialog::AttachParts()
 {
-    for (int i = 0; i < nParts; ++i)
+    for (int i = 0; i < kParts; ++i)
         m_parts[i].SubclassDlgItem(IDC_OW_FIRST_COLOR + i, this);
-    for (int i = 0; i < nCells; ++i)
+    for (int i = 0; i < kCells; ++i)
     {
         const COLORREF cr = CColorBtnST::s_colorTable[i];
         CString strText;
@@ -260,10 +260,10 @@ bool CColorSelectDialog::MoveFocus(UINT nKey)
     const int nStep = StepOf(nKey);
     if (nStep == 0)
         return false;
-    const int nPart = (std::min)(FocusedPart() + nStep, nParts - 1);
+    const int nPart = (std::min)(FocusedPart() + nStep, kParts - 1);
     if (nPart < 0)
         return true;
-    if (nPart < nCells)
+    if (nPart < kCells)
         MoveTabStop(nPart);
     GotoDlgCtrl(&m_parts[nPart]);
     return true;

@@ -76,8 +76,8 @@ private:
         DECLARE_MESSAGE_MAP()
     };
 
-    static constexpr int nCells = CColorBtnST::paletteSize;
-    static constexpr int nParts = nCells + 1;
+    static constexpr int kCells = CColorBtnST::kPaletteSize;
+    static constexpr int kParts = kCells + 1;
 
     CRect Anchor() const;
     void Place();
@@ -91,7 +91,7 @@ private:
     void Choose(int nIndex);
     void Close(int nResult);
 
-    CPart m_parts[nParts]; ///< in reading order
+    CPart m_parts[kParts]; ///< in reading order
     int m_nTabStop = 0;    ///< the cell that Tab goes to
     /// The pop-up is open, and no other dialog stands over it: mouse and keys are its own.
     bool m_bInUse = false;

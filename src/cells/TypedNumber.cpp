@@ -23,7 +23,7 @@ constexpr bool IsAsciiDigit(wchar_t ch)
 /// then rounds as the run-time library does, at a fraction of its cost. Nothing for all others.
 std::optional<double> ReadShort(LPCWSTR pszText)
 {
-    constexpr std::uint64_t nMost = 900719925474099; // 2^53 / 10
+    constexpr std::uint64_t kMost = 900719925474099; // 2^53 / 10
     const bool bNegative = *pszText == L'-';
     if (*pszText == L'-' || *pszText == L'+')
         ++pszText;
@@ -42,7 +42,7 @@ std::optional<double> ReadShort(LPCWSTR pszText)
         bAny = true;
         nDigits = nDigits * 10 + (*pszText - L'0');
         dDivisor *= 10.0;
-        if (nDigits > nMost || dDivisor > 1e22)
+        if (nDigits > kMost || dDivisor > 1e22)
             return std::nullopt;
     }
     if (*pszText == L'E' || *pszText == L'e')

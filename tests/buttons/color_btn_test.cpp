@@ -189,7 +189,7 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfT
     const owtest::OtherText other("Other...", "Ostalo");
     const auto compare = [](CWnd& popup)
     {
-        for (int i = 0; i < CColorBtnST::paletteSize; ++i)
+        for (int i = 0; i < CColorBtnST::kPaletteSize; ++i)
         {
             CRect rect;
             ::GetClientRect(Part(popup, i), rect);

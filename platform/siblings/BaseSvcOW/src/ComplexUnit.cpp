@@ -29,11 +29,11 @@ double ApplyRatio(double dValue, double dMultiplier, double dDivisor)
 /// fractions left, so that adding it and taking it off again rounds to a whole number.
 double RoundToWhole(double dValue)
 {
-    constexpr double dNoFractions = 4503599627370496.0;
+    constexpr double kNoFractions = 4503599627370496.0;
     const double dAbsolute = std::fabs(dValue);
-    if (!(dAbsolute < dNoFractions))
+    if (!(dAbsolute < kNoFractions))
         return dValue;
-    return std::copysign((dAbsolute + dNoFractions) - dNoFractions, dValue);
+    return std::copysign((dAbsolute + kNoFractions) - kNoFractions, dValue);
 }
 
 /// The short decimal next to a value; values too large for that are rounded to whole ones.

@@ -3,7 +3,7 @@
 #include <numbers>
 
 // clang-format off
-static constexpr SUnitRow s_lengths[] = {
+static constexpr SUnitRow kLengths[] = {
     {L"m",  {1.0,   1.0}},
     {L"cm", {1.0,   100.0}},
     {L"mm", {1.0,   1000.0}},
@@ -12,13 +12,13 @@ static constexpr SUnitRow s_lengths[] = {
     {L"ft", {3048.0, 10000.0}},
 };
 
-static constexpr SUnitRow s_forces[] = {
+static constexpr SUnitRow kForces[] = {
     {L"N",  {1.0, 1.0}},
     {L"kN", {1000.0, 1.0}},
     {L"MN", {1000000.0, 1.0}},
 };
 
-static constexpr SUnitRow s_angles[] = {
+static constexpr SUnitRow kAngles[] = {
     {L"rad", {1.0, 1.0}},
     {L"°",   {std::numbers::pi, 180.0}},
 };
@@ -29,11 +29,11 @@ std::span<const SUnitRow> UnitsOfKind(int nKind)
     switch (nKind)
     {
     case CMeasurementUnit::eLength:
-        return s_lengths;
+        return kLengths;
     case CMeasurementUnit::eForce:
-        return s_forces;
+        return kForces;
     case CMeasurementUnit::eAngle:
-        return s_angles;
+        return kAngles;
     default:
         return {};
     }
