@@ -92,7 +92,9 @@ TEST_F(GridMouse, WhatIsPressedAndTheModesShapeWhatIsSelected)
         << "selects nothing, and is a click all the same";
     EXPECT_EQ(Clicked(4, 0), "4,1 [1,1-20,6]=120 changed 4,1 changing 4,0 click 4,0 #");
 
+    grid.SetSortColumn(2);
     grid.SetListMode();
+    EXPECT_EQ(grid.GetSortColumn(), -1);
     EXPECT_EQ(Drawn({3, 2}, {3, 2}), "3,2 [3,1-3,6]=6 changed 3,2 changing 3,2 click 3,2 #");
     EXPECT_EQ(Drawn({4, 1}, {6, 1}), "6,1 [4,1-6,6]=18 changed 4,1 changing 4,1 changed 6,1 click 4,1 #");
     EXPECT_EQ(Clicked(5, 2, MK_CONTROL), "5,2 [4,1-6,6]=12 changed 5,2 click 5,2 #") << "takes the row away";
@@ -156,6 +158,7 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     DragByMessages(column, CPoint(0, 0));
     EXPECT_EQ(SizeOf(2, 1), CSize(kColWidth, kRowHeight)) << "without a way, and at the corner, nothing";
     EXPECT_TRUE(NoGesture());
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW)) << "until the next move";
 
     const auto close = [&]
     {

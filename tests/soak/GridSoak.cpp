@@ -1,4 +1,4 @@
-// The grid against its model: plain and extended, with cells of one kind and of all, by calls and by input.
+// The grid against its model: plain and extended, with cells of one kind and of several, by calls and by keys.
 
 #include "../grid/GridModel.h"
 
