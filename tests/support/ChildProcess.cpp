@@ -40,10 +40,10 @@ std::wstring EnvironmentBlock(const ChildOptions& options)
         variables[{entry, value}] = value;
     }
     FreeEnvironmentStringsW(strings);
-    for (const auto& [name, value] : options.environment)
-        variables[name] = L'=' + value;
     for (const std::wstring& name : options.unset)
         variables.erase(name);
+    for (const auto& [name, value] : options.environment)
+        variables[name] = L'=' + value;
     std::wstring block;
     for (const auto& [name, value] : variables)
         block += name + value + L'\0';
