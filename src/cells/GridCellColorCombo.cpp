@@ -75,7 +75,7 @@ void CGridCellColorCombo::PostaviMastAci(int nMastAci)
 
 BOOL CGridCellColorCombo::Draw(CDC* pDC, int nRow, int nCol, CRect rect, BOOL bEraseBkgnd)
 {
-    if (!pDC)
+    if (!pDC || rect.Width() < 1 || rect.Height() < 1)
         return FALSE;
     CGridCell::Draw(pDC, nRow, nCol, rect, bEraseBkgnd);
     if (rect.Width() < kLeastWidth || rect.Height() < kLeastHeight)

@@ -35,6 +35,7 @@ CInPlaceList::CInPlaceList(CWnd* pParent, CRect& rect, DWORD dwStyle, UINT nID, 
         SetFont(pParent->GetFont());
         SetItemHeight(-1, rect.Height());
         SetDroppedWidth(GetCorrectDropWidth());
+        SetHorizontalExtent(0);
         if (SelectString(-1, sInitText) == CB_ERR)
             SetWindowText(sInitText);
         TakeFirstChar(nFirstChar);

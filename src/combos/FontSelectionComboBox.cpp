@@ -292,6 +292,7 @@ void CFontSelectionComboBox::DrawFont(LPDRAWITEMSTRUCT pItem)
     CDC& dc = *CDC::FromHandle(pItem->hDC);
     const bool bHilight = (pItem->itemState & ODS_SELECTED) != 0;
     const bool bDisabled = (pItem->itemState & ODS_DISABLED) != 0;
+    dc.SetBkMode(TRANSPARENT);
     dc.FillSolidRect(&pItem->rcItem, bHilight ? m_crHilightBackground : m_crNormalBackground);
     dc.SetTextColor(bDisabled ? ::GetSysColor(COLOR_GRAYTEXT) : bHilight ? m_crHilightText : m_crNormalText);
     if (const int nItem = static_cast<int>(pItem->itemID); nItem >= 0)

@@ -99,6 +99,7 @@ void CSingleThreadProgress::Show(HWND hParent)
     CProgressCtrlEx& bar = m_pDialog->Bar();
     bar.SetRange(0, 100);
     bar.SetColor(kBarColor);
+    bar.SetPos(0);
     Update(0);
     if (m_pDialog)
         bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);

@@ -70,6 +70,7 @@ public:
             m_grid.SetRowHeight(sized.row, nSize);
         if (!life.WindowLives())
             return false;
+        m_grid.ResetScrollBars();
         m_grid.Invalidate();
         return true;
     }
