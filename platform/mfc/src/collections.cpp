@@ -9,7 +9,7 @@
 
 void* AFXAPI AfxAllocElements(size_t nCount, size_t cbElement)
 {
-    const bool bFits = nCount <= PTRDIFF_MAX / cbElement;
+    const bool bFits = cbElement == 0 || nCount <= PTRDIFF_MAX / cbElement;
     void* const p = bFits ? malloc(nCount * cbElement) : nullptr;
     if (p == nullptr)
         AfxThrowMemoryException();
