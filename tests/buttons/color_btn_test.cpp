@@ -1,6 +1,6 @@
 // The two colour buttons: number, palette, broken assumptions, and the pop-up in a user's hands.
 
-#include "OtherText.h"
+#include "Texts.h"
 #include "Room.h"
 
 #include <acdocman.h>

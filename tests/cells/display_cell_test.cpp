@@ -2,7 +2,7 @@
 
 #include "CellTest.h"
 
-#include "SubLanguage.h"
+#include "Texts.h"
 
 #include <MixedFont.h>
 

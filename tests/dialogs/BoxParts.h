@@ -3,9 +3,7 @@
 
 #include <DialogControlsOW.h>
 
-#include "EnglishTexts.h"
-#include "OtherText.h"
-#include "Testing.h"
+#include "Texts.h"
 
 #include <acdocman.h>
 

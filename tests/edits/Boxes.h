@@ -3,8 +3,7 @@
 
 #include <DialogControlsOW.h>
 
-#include "SubLanguage.h"
-#include "Testing.h"
+#include "Texts.h"
 
 #include <limits>
 

@@ -2,8 +2,6 @@
 
 #include "Boxes.h"
 
-#include "EnglishTexts.h"
-
 namespace
 {
 /// Refuses texts with a "!".

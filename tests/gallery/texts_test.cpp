@@ -2,7 +2,7 @@
 
 #include "GalleryVisit.h"
 
-#include "OtherText.h"
+#include "Texts.h"
 
 #include <regex>
 
