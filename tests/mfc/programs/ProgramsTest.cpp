@@ -29,29 +29,6 @@ TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
     Press(VK_ESCAPE);
 }
 
-TEST(WizardDialog, OpensADialogBesideItselfThatDeletesItself)
-{
-    Client program(L"wizard_dialog");
-    const auto open = [&]
-    {
-        program.Window(L"Wizard's dialog");
-        program.Click(IDC_OPEN);
-        program.Window(L"Notes");
-    };
-    open();
-    Type(L"bolt\r"); // Return is Keep
-    program.Window(L"Wizard's dialog");
-    program.Shows(IDC_STATE, L"bolt");
-    open();
-    Press(VK_ESCAPE);
-    program.Window(L"Wizard's dialog");
-    program.Shows(IDC_STATE, L"dropped");
-    open();
-    program.Window(L"Wizard's dialog");
-    EXPECT_FALSE(program.IsEnabled(IDC_OPEN));
-    program.Click(IDCANCEL); // takes the notes along
-}
-
 /// Ctrl+Page Down, again if need be: on a busy display Wine now and then takes the focus away and gives it back, and the
 /// key is lost.
 static void TurnPage(const std::function<bool()>& isTurned)
@@ -114,19 +91,4 @@ TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
     EXPECT_TRUE(program.WaitsFor(IDC_STATE));
     program.Click(ID_WIZFINISH);
     program.Confirm(L"mfc_property_sheet", L" by 12325:  90, grade 0, weldable 0, applied 0");
-}
-
-TEST(Worker, ReportsToTheDialogAndToAThreadWithAWindowOfItsOwn)
-{
-    Client program(L"worker");
-    program.Window(L"Work");
-    program.Click(IDC_BEGIN);
-    program.Shows(IDC_DONE, L"squared");
-    EXPECT_EQ(::SendMessageW(program.Item(IDC_PROGRESS), PBM_GETPOS, 0, 0), 5);
-    program.Click(IDC_TOTAL);
-    program.Window(L"Total: 55");
-    program.Window(L"Work");
-    program.Click(IDC_HALT);
-    program.Shows(IDC_DONE, L"7");
-    Press(VK_ESCAPE);
 }

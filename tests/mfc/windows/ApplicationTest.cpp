@@ -259,18 +259,6 @@ TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
     EXPECT_EQ(Noted(), "");
 }
 
-TEST_F(Application, MessagesThatChangeNothingDoNotBringIdleTime)
-{
-    const std::tuple<UINT, LONG, bool> cases[] = {
-        {WM_MOUSEMOVE, 5, true}, {WM_MOUSEMOVE, 5, false}, // repeated without a movement
-        {WM_MOUSEMOVE, 6, true}, {WM_NCMOUSEMOVE, 6, true}, {WM_PAINT, 6, false}, {WM_KEYDOWN, 6, true}};
-    for (const auto& [number, x, changes] : cases)
-    {
-        MSG message{nullptr, number, 0, 0, 0, {x, 5}};
-        EXPECT_EQ(app->IsIdleMessage(&message) != FALSE, changes) << number << ' ' << x;
-    }
-}
-
 TEST_F(Application, SeesTheMessagesOfTheSystemsOwnLoops)
 {
     MSG message{};
@@ -342,13 +330,6 @@ TEST_F(Help, EachKindHasItsOwnNumbersAndAMissingFileIsTold)
     dialog.WinHelp(1);
     EXPECT_EQ(Noted(),
               "win 1 1;Help could not be shown. " + std::to_string(AFX_IDP_FAILED_TO_LAUNCH_HELP) + ';');
-}
-
-TEST(HelpFile, StandsBesideTheProgram)
-{
-    wchar_t path[MAX_PATH] = L"";
-    ::GetModuleFileName(nullptr, path, MAX_PATH);
-    EXPECT_EQ(CString(path).SpanExcluding(L".") + L".HLP", AfxGetApp()->m_pszHelpFilePath);
 }
 
 TEST(CommandLine, IsParsedArgumentByArgument)

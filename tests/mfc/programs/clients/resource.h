@@ -6,13 +6,11 @@
 #define IDD_ABOUTBOX 100
 #define IDS_ABOUTBOX 101
 #define IDD_WIZARD_DIALOG 102
-#define IDD_NOTES 103
 #define IDR_MAINFRAME 128
 #define IDC_STATE 1000
 #define IDC_NAME 1001
 #define IDC_COUNT 1002
 #define IDC_GREET 1003
-#define IDC_OPEN 1004
 
 // property_sheet
 #define IDD_SECTION 200
@@ -23,11 +21,3 @@
 #define IDC_HEIGHT 1200
 #define IDC_GRADE 1201
 #define IDC_WELDABLE 1202
-
-// worker
-#define IDD_WORK 300
-#define IDC_BEGIN 1200
-#define IDC_PROGRESS 1201
-#define IDC_DONE 1202
-#define IDC_TOTAL 1203
-#define IDC_HALT 1204
