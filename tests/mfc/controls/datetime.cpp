@@ -10,13 +10,6 @@ constexpr int IDC_DATE = 100;
 const CTime leapDay(2024, 2, 29, 0, 0, 0);
 const CTime march(2024, 3, 10, 0, 0, 0);
 
-SYSTEMTIME PartsOf(const CTime& time)
-{
-    SYSTEMTIME parts{};
-    EXPECT_TRUE(time.GetAsSystemTime(parts));
-    return parts;
-}
-
 /// A window with a control that exchanges `value`, and checks it against two bounds.
 class DateExchange : public testing::Test
 {
@@ -42,7 +35,8 @@ protected:
 
 CString ShortDate(const CTime& time)
 {
-    const SYSTEMTIME parts = PartsOf(time);
+    SYSTEMTIME parts{};
+    EXPECT_TRUE(time.GetAsSystemTime(parts));
     TCHAR text[80] = L"";
     ::GetDateFormat(LOCALE_USER_DEFAULT, DATE_SHORTDATE, &parts, nullptr, text, ARRAYSIZE(text));
     return text;
@@ -70,6 +64,7 @@ TEST_F(DateExchange, OfPickersGoesByDaysUnlessTheyShowTheTime)
     EXPECT_TRUE(host.UpdateData(FALSE));
     CTime minimum, maximum;
     EXPECT_EQ(Picker().GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_TRUE(minimum == noon && maximum == CTime()) << "an open side is left alone";
     Picker().SetRange(static_cast<CTime*>(nullptr), nullptr);
     Picker().SetTime(&leapDay);
     EXPECT_EQ(host.Refusal(), L"");
@@ -100,6 +95,8 @@ TEST_F(DateExchange, OfCalendarsGoesByDays)
     EXPECT_TRUE(host.UpdateData(FALSE));
     calendar.GetCurSel(value);
     EXPECT_EQ(value, leapDay);
+    CTime minimum, maximum;
+    EXPECT_EQ(calendar.GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN));
     calendar.SetRange(static_cast<CTime*>(nullptr), nullptr);
     calendar.SetCurSel(march);
     last = &march;

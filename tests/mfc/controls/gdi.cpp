@@ -96,29 +96,6 @@ TEST(GdiObject, BelongsToItsObjectWhichItsHandleFindsAndToNoTemporaryOne)
     EXPECT_LT(owtest::CountHeapBytes(), locked - 5000 * sizeof(CGdiObject));
 }
 
-TEST(GdiObject, RoundsLeaveNothingBehind)
-{
-    const auto round = []
-    {
-        owtest::Surface surface(50, 50);
-        CDC& dc = surface.dc();
-        CFont font;
-        font.CreatePointFont(90, L"Liberation Sans");
-        CFont* const before = dc.SelectObject(&font);
-        dc.DrawDragRect(CRect(0, 0, 20, 20), CSize(2, 2), CRect(5, 5, 25, 25), CSize(2, 2));
-        dc.SelectObject(before);
-        CClientDC screen(nullptr);
-        CWindowDC desktop(CWnd::GetDesktopWindow());
-    };
-    round();
-    CGdiObject::DeleteTempMap();
-    const int before = owtest::CountHandles().gdi;
-    for (int i = 0; i < 100; ++i)
-        round();
-    CGdiObject::DeleteTempMap();
-    EXPECT_EQ(owtest::CountHandles().gdi, before);
-}
-
 TEST(DeviceContext, StateGoesToBothContextsAndOutputToOne)
 {
     owtest::Surface output(50, 50);

@@ -30,8 +30,14 @@ public:
     CString refused; ///< the letters of what it says no to
     LRESULT sibling = 0;
     CString value = L"value";
+    int endsBy = 0; ///< at once
 
-    BOOL OnSetActive() override { return Ask(L's') && CPropertyPage::OnSetActive(); }
+    BOOL OnSetActive() override
+    {
+        if (endsBy != 0)
+            EndDialog(endsBy);
+        return Ask(L's') && CPropertyPage::OnSetActive();
+    }
     BOOL OnKillActive() override { return Ask(L'k') && CPropertyPage::OnKillActive(); }
     BOOL OnApply() override { return Ask(L'a') && CPropertyPage::OnApply(); }
     void OnOK() override { Ask(L'o'); }
@@ -197,6 +203,8 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
         EXPECT_EQ(sheet.m_hWnd, nullptr);
         EXPECT_EQ(seen.Find(log), 0) << result << " " << seen.GetString();
     }
+    first.endsBy = 79;
+    EXPECT_EQ(sheet.DoModal(), 79);
 }
 
 TEST_F(Sheet, APageMayKeepItOpen)

@@ -292,12 +292,6 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.m_button.MapWindowPoints(&form, area);
     EXPECT_EQ(area, CRect(0, 40, 10, 50));
     form.MoveWindow(CRect(50, 60, 260, 170));
-    for (const auto& [place, style] : {std::pair(&CWnd::wndTopMost, WS_EX_TOPMOST), {&CWnd::wndNoTopMost, 0}})
-    {
-        form.SetWindowPos(place, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
-        EXPECT_EQ(form.GetExStyle() & WS_EX_TOPMOST, DWORD(style));
-    }
-
     EXPECT_TRUE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED));
     EXPECT_FALSE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
     CRect client;
@@ -311,24 +305,6 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.CalcWindowRect(border);
     EXPECT_EQ(border, area);
     EXPECT_EQ(outside, area + CRect(2, 2, 2, 2)) << "the edge";
-}
-
-TEST(Window, CallsOnItsTextsAndItems)
-{
-    CFormWnd form;
-    CString string(L"before");
-    EXPECT_EQ(form.GetDlgItemText(99, string), 0);
-    EXPECT_TRUE(string.IsEmpty());
-    EXPECT_EQ(form.GetDlgItemText(3, string), 6);
-    EXPECT_EQ(string, L"button");
-
-    owtest::MoveTo(form, CPoint(150, 30));
-    form.see = [](UINT, WPARAM, LPARAM)
-    {
-        EXPECT_EQ(CPoint(CWnd::GetCurrentMessage()->pt), CPoint(190, 70)) << "where the mouse was";
-        return std::nullopt;
-    };
-    form.SendMessage(WM_APP);
 }
 
 TEST(Window, CallsOnItsScrollBarsGoToAControlThatStandsForThem)
