@@ -24,8 +24,9 @@ public:
     int ExitInstance() override { return isProgram ? 5 : CWinApp::ExitInstance(); }
     BOOL ProcessMessageFilter(int code, LPMSG message) override
     {
-        Note("filter", code);
-        ::CallMsgFilter(message, MSGF_DIALOGBOX); // as a loop in a filter would; it is not told of that one
+        if (code != MSGF_DIALOGBOX) // of each key
+            Note("filter", code);
+        ::CallMsgFilter(message, MSGF_SCROLLBAR); // as a loop in a filter would; it is not told of that one
         return CWinApp::ProcessMessageFilter(code, message);
     }
     int DoMessageBox(LPCTSTR prompt, UINT, UINT help) override
@@ -283,6 +284,8 @@ protected:
     {
         const auto form = owtest::DialogTemplate(L"Help", 80, 40).Edit(1, 4, 4, 40, 12);
         dialog.CreateIndirect(form.get());
+        dialog.ShowWindow(SW_SHOW);
+        owtest::Activate(dialog);
         app->m_pMainWnd = &dialog;
         app->m_pszHelpFilePath = _wcsdup(L"C:\\no\\such.CHM");
         Noted();
@@ -290,9 +293,7 @@ protected:
     ~Help() override { app->m_pMainWnd = nullptr; }
     std::string F1()
     {
-        HELPINFO info{};
-        info.cbSize = sizeof info;
-        dialog.GetDlgItem(1)->SendMessage(WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+        owtest::Press(VK_F1);
         return Noted();
     }
 
