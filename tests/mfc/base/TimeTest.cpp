@@ -64,15 +64,11 @@ TEST(Time, IsCountedWithSpansAndCompared)
                      first == second);
     };
     expectBefore(time, later);
-    time += CTimeSpan(day);
-    EXPECT_EQ(time.GetMonth(), 2);
-    time -= CTimeSpan(day);
-    EXPECT_EQ(time.GetDay(), 31);
+    EXPECT_EQ((time += CTimeSpan(day)).GetMonth(), 2);
+    EXPECT_EQ((time -= CTimeSpan(day)).GetDay(), 31);
     CTimeSpan span(10);
-    span += CTimeSpan(5);
-    EXPECT_EQ(span, CTimeSpan(15));
-    span -= CTimeSpan(20);
-    EXPECT_EQ(span + CTimeSpan(6) - CTimeSpan(1), CTimeSpan(0));
+    EXPECT_EQ(span += CTimeSpan(5), CTimeSpan(15));
+    EXPECT_EQ((span -= CTimeSpan(20)) + CTimeSpan(6) - CTimeSpan(1), CTimeSpan(0));
 }
 
 TEST(Time, ThatDoesNotExistIsRefusedOrAnswersNothing)

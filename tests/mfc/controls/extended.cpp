@@ -203,18 +203,10 @@ public:
     explicit ColourButton(int count)
     {
         CBitmap* const bitmaps[] = {&m_bitmap, &m_bitmapSel, &m_bitmapFocus, &m_bitmapDisabled};
-        CClientDC screen(nullptr);
         for (int i = 0; i < count; ++i)
-        {
-            bitmaps[i]->CreateCompatibleBitmap(&screen, 12, 9);
-            CDC dc;
-            dc.CreateCompatibleDC(&screen);
-            CBitmap* const before = dc.SelectObject(bitmaps[i]);
-            dc.FillSolidRect(0, 0, 12, 9, Colour(i));
-            dc.SelectObject(before);
-        }
+            bitmaps[i]->CreateBitmap(12, 9, 1, 32, std::vector(12 * 9, Colour(i)).data());
     }
-    static COLORREF Colour(int index) { return RGB(0, 60 * index, 200); }
+    static COLORREF Colour(int index) { return RGB(200, 60 * index, 200); } // the same read backwards
 };
 
 TEST(BitmapButton, ShowsTheBitmapOfItsState)
