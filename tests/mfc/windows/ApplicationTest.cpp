@@ -37,11 +37,13 @@ public:
 protected:
     afx_msg void OnCommand() { Note("application"); }
     afx_msg void OnDefaultHelp() { Note("index"); }
+    afx_msg void OnUpdateFrames(CCmdUI* item) { item->SetCheck(0); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
+    ON_UPDATE_COMMAND_UI(0x8124, &CTestApp::OnUpdateFrames) // of which the frame answers
     ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
     ON_COMMAND(ID_DEFAULT_HELP, &CTestApp::OnDefaultHelp)
 END_MESSAGE_MAP()
@@ -232,6 +234,22 @@ TEST_F(Frame, DisablingItDisablesTheWindowsItOwnsAndFramesWhoeverEnablesThem)
     EXPECT_TRUE(owned->IsWindowEnabled() && palette.IsWindowEnabled());
     EXPECT_EQ(owned->GetTopLevelFrame(), frame);
     EXPECT_FALSE(alreadyDisabled.IsWindowEnabled());
+}
+
+TEST_F(Frame, ComesToTheFrontHoweverItStoodAndIsNoneWithoutItsMenu)
+{
+    frame->ActivateFrame();
+    for (const int show : {SW_SHOW, SW_MINIMIZE})
+    {
+        CWnd other;
+        ASSERT_TRUE(CreatePopup(other, nullptr, WS_VISIBLE));
+        frame->ShowWindow(show);
+        other.SetActiveWindow();
+        frame->ActivateFrame();
+        EXPECT_TRUE(CWnd::GetActiveWindow() == frame && !frame->IsIconic()) << show;
+    }
+    EXPECT_FALSE(
+        (new CFrameWnd)->Create(nullptr, L"", WS_POPUP, CRect(0, 0, 9, 9), nullptr, L"no such menu"));
 }
 
 TEST_F(Frame, ClosingTheMainFrameEndsTheProgram)

@@ -242,21 +242,25 @@ TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
     EXPECT_EQ(placeOf(popup).CenterPoint(), screen.CenterPoint()) << "an owner that does not show is none";
 }
 
-TEST(Window, PushButtonsWithoutAHandlerAreDisabledAndNoOtherControl)
+TEST(Window, PushButtonsWithoutAHandlerAreDisabledWhichTakesTheFocusFromThemAndNoOtherControl)
 {
     const std::tuple<LPCTSTR, DWORD, bool> cases[] = {
         {L"Button", BS_PUSHBUTTON, false},     {L"Button", BS_AUTOCHECKBOX, true},
         {L"Button", BS_AUTO3STATE, true},      {L"Button", BS_GROUPBOX, true},
         {L"Button", BS_AUTORADIOBUTTON, true}, {L"Edit", 0, true},
     };
-    CWnd window;
-    ASSERT_TRUE(CreatePopup(window));
+    CSeenWnd window([](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
+                    { return message == WM_NEXTDLGCTL && Note("next") ? std::optional(0) : std::nullopt; });
+    ASSERT_TRUE(CreatePopup(window, nullptr, WS_VISIBLE));
+    Noted();
     for (const auto& [className, style, enabled] : cases)
     {
         CWnd control;
-        ASSERT_TRUE(control.Create(className, L"", WS_CHILD | style, CRect(), &window, 300));
+        ASSERT_TRUE(control.Create(className, L"", WS_CHILD | WS_VISIBLE | style, CRect(), &window, 300));
+        control.SetFocus();
         window.UpdateDialogControls(&window, TRUE);
         EXPECT_EQ(control.IsWindowEnabled() != FALSE, enabled) << style;
+        EXPECT_EQ(Noted(), enabled ? "" : "next;");
     }
 }
 
