@@ -72,7 +72,17 @@ TEST_F(ColorDialog, TakesTheSwatchThatWasClicked)
     const auto enter = []
     {
         EXPECT_EQ(Text(), L"5") << "it opens on the start value";
+        const auto isPlain = [](int color)
+        {
+            const CRect cell = Cell(color);
+            return Pixel(IDC_COLOR_GRID, cell.TopLeft()) == ::GetSysColor(COLOR_BTNFACE) &&
+                   Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 1)) == acedGetRGB(color) &&
+                   Pixel(IDC_COLOR_GRID, cell.BottomRight() - CSize(2, 2)) == acedGetRGB(color);
+        };
+        for (int color = 1; color <= 255; ++color)
+            EXPECT_EQ(isPlain(color), color != 5) << color;
         ClickSwatch(30);
+        EXPECT_TRUE(isPlain(5));
         EXPECT_EQ(Text(), L"30");
         EXPECT_EQ(Index(), L"Index color: 30");
         EXPECT_EQ(Text(IDC_COLOR_RGB), L"Red, green, blue: 255, 127, 0");
@@ -82,6 +92,13 @@ TEST_F(ColorDialog, TakesTheSwatchThatWasClicked)
         const CRect cell = Cell(30);
         EXPECT_EQ(Pixel(IDC_COLOR_GRID, cell.TopLeft()), RGB(0, 0, 0)) << "framed";
         EXPECT_EQ(Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 1)), RGB(255, 255, 255));
+        for (const bool focused : {true, false, true})
+        {
+            const CPoint mark = cell.TopLeft() + CSize(2, 2); // every other pixel
+            EXPECT_NE(Pixel(IDC_COLOR_GRID, mark) == Pixel(IDC_COLOR_GRID, mark + CSize(1, 0)), focused);
+            Press(VK_TAB, !focused);
+        }
+        ::SetFocus(Item(IDC_COLOR_GRID));
         Press(VK_RETURN);
     };
     EXPECT_EQ(Choose(5, enter), Outcome(true, 30));
