@@ -37,13 +37,14 @@ public:
 protected:
     afx_msg void OnCommand() { Note("application"); }
     afx_msg void OnDefaultHelp() { Note("index"); }
-    afx_msg void OnUpdateFrames(CCmdUI* item) { item->SetCheck(0); }
+    afx_msg void OnUpdateFrames(CCmdUI* item) { item->SetCheck(item->m_nID == 0x8126); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
-    ON_UPDATE_COMMAND_UI(0x8124, &CTestApp::OnUpdateFrames) // of which the frame answers
+    ON_UPDATE_COMMAND_UI_RANGE(0x8124, 0x8126,
+                               &CTestApp::OnUpdateFrames) // the first is answered by the frame
     ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
     ON_COMMAND(ID_DEFAULT_HELP, &CTestApp::OnDefaultHelp)
 END_MESSAGE_MAP()
@@ -175,12 +176,14 @@ class CTestFrame : public CFrameWnd
 protected:
     afx_msg void OnOwnCommand() { Note("frame"); }
     afx_msg void OnUpdateOwn(CCmdUI* item) { item->SetCheck(1); }
+    afx_msg void OnUpdateOther(CCmdUI* item) { item->ContinueRouting(); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(CTestFrame, CFrameWnd)
     ON_COMMAND(0x8124, &CTestFrame::OnOwnCommand)
     ON_UPDATE_COMMAND_UI(0x8124, &CTestFrame::OnUpdateOwn)
+    ON_UPDATE_COMMAND_UI(0x8126, &CTestFrame::OnUpdateOther)
 END_MESSAGE_MAP()
 
 class Frame : public Application
@@ -211,10 +214,14 @@ TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
     EXPECT_EQ(Noted(), "frame;application;frame;");
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
-    const std::pair<UINT, UINT> items[] = {
-        {0x8124, MF_CHECKED}, {0x8123, MF_ENABLED}, {0x8125, MF_GRAYED}, {0xF000, MF_ENABLED}};
+    const std::pair<UINT, UINT> items[] = {{0x8126, MF_GRAYED | MF_CHECKED},
+                                           {0x8124, MF_CHECKED},
+                                           {0x8123, MF_ENABLED},
+                                           {0x8125, MF_GRAYED},
+                                           {0xF000, MF_ENABLED}};
     for (const auto& [command, state] : items)
-        menu.AppendMenu(MF_STRING, command, L"item"); // its own, the application's, nobody's, the system's
+        menu.AppendMenu(MF_STRING, command,
+                        L"item"); // handed on, its own, the application's, nobody's, the system's
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
     for (const auto& [command, state] : items)
         EXPECT_EQ(menu.GetMenuState(command, MF_BYCOMMAND), state) << command;

@@ -147,9 +147,8 @@ TEST(Threads, AreIdleTwiceAndAgainAfterAMessageThatMayHaveChangedSomething)
             return Note("message", m_msgCur.message);
         }
     } thread;
-    owtest::Pump();
     Noted();
-    thread.Run();
+    OnWorker([&] { return thread.Run(); }); // where nothing else is in the queue
     EXPECT_EQ(Noted(), "idle 0;idle 1;message 512;idle 0;idle 1;message 512;message 160;idle 0;idle 1;"
                        "message 160;idle 0;idle 1;message 15;message 256;idle 0;idle 1;");
 }

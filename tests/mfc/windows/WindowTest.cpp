@@ -249,8 +249,13 @@ TEST(Window, PushButtonsWithoutAHandlerAreDisabledWhichTakesTheFocusFromThemAndN
         {L"Button", BS_AUTO3STATE, true},      {L"Button", BS_GROUPBOX, true},
         {L"Button", BS_AUTORADIOBUTTON, true}, {L"Edit", 0, true},
     };
-    CSeenWnd window([](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT>
-                    { return message == WM_NEXTDLGCTL && Note("next") ? std::optional(0) : std::nullopt; });
+    CSeenWnd window(
+        [](UINT message, WPARAM wParam, LPARAM)
+        {
+            if (message == WM_NEXTDLGCTL)
+                Note("next", wParam);
+            return std::nullopt;
+        });
     ASSERT_TRUE(CreatePopup(window, nullptr, WS_VISIBLE));
     Noted();
     for (const auto& [className, style, enabled] : cases)
@@ -260,7 +265,7 @@ TEST(Window, PushButtonsWithoutAHandlerAreDisabledWhichTakesTheFocusFromThemAndN
         control.SetFocus();
         window.UpdateDialogControls(&window, TRUE);
         EXPECT_EQ(control.IsWindowEnabled() != FALSE, enabled) << style;
-        EXPECT_EQ(Noted(), enabled ? "" : "next;");
+        EXPECT_EQ(Noted(), enabled ? "" : "next 0;");
     }
 }
 
