@@ -75,7 +75,8 @@ TEST_F(ColorDialog, TakesTheSwatchThatWasClicked)
         const auto isPlain = [](int color)
         {
             const CRect cell = Cell(color);
-            return Pixel(IDC_COLOR_GRID, cell.TopLeft()) == ::GetSysColor(COLOR_BTNFACE) &&
+            return Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(0, 1)) == ::GetSysColor(COLOR_BTNFACE) &&
+                   Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 0)) == ::GetSysColor(COLOR_BTNFACE) &&
                    Pixel(IDC_COLOR_GRID, cell.TopLeft() + CSize(1, 1)) == acedGetRGB(color) &&
                    Pixel(IDC_COLOR_GRID, cell.BottomRight() - CSize(2, 2)) == acedGetRGB(color);
         };
@@ -183,7 +184,9 @@ TEST_F(ColorDialog, ReadoutFollowsTheMouse)
     const auto readout = []
     {
         const CPoint swatch = Cell(50).CenterPoint();
+        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
         Hover(swatch);
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW));
         EXPECT_EQ(Index(), L"Index color: 50");
         EXPECT_EQ(Pixel(IDC_COLOR_GRID, Cell(50).TopLeft()), ::GetSysColor(COLOR_HIGHLIGHT));
         EXPECT_EQ(Text(), L"1") << "the choice stays";
