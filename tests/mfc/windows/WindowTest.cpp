@@ -300,6 +300,9 @@ TEST(Window, CallsOnItsPlaceAndItsNeighbours)
     form.ScreenToClient(area);
     form.m_button.MapWindowPoints(&form, area);
     EXPECT_EQ(area, CRect(0, 40, 10, 50));
+    CString text(L"before");
+    EXPECT_EQ(form.GetDlgItemText(99, text), 0);
+    EXPECT_TRUE(text.IsEmpty()) << "of an item that is none";
     form.MoveWindow(CRect(50, 60, 260, 170));
     EXPECT_TRUE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED));
     EXPECT_FALSE(form.ModifyStyleEx(0, WS_EX_CLIENTEDGE));
