@@ -9,27 +9,18 @@
 
 /// What happened to pages, dialogs and clients, in order: "bind Alpha", "show plain", "Beta after Alpha".
 inline std::vector<std::string> calls;
-/// Hears of each call, and of "left fields" when the box of a dialog is left.
-inline std::function<void(const std::string& call)> listener;
+/// What is done in the first such call from now on, and at "left fields", when the box of a dialog is left.
+inline std::map<std::string, std::function<void()>> once;
 
 inline void Hear(const std::string& call)
 {
-    if (listener)
-        listener(call);
+    if (const auto found = once.extract(call))
+        found.mapped()();
 }
 inline void Note(const std::string& call)
 {
     calls.push_back(call);
     Hear(call);
-}
-/// Does something in the first such call from now on.
-inline void Once(const std::string& call, const std::function<void()>& work)
-{
-    listener = [=, done = false](const std::string& heard) mutable
-    {
-        if (heard == call && !std::exchange(done, true))
-            work();
-    };
 }
 
 /// All calls since the last question that have a word in them, with commas between.
@@ -41,11 +32,7 @@ inline std::string TakeCalls(const char* word = "")
             text += (text.empty() ? "" : ", ") + call;
     return text;
 }
-/// What the select clients were told since the last question.
-inline std::string TakeSelections()
-{
-    return TakeCalls(" after ");
-}
+constexpr char kSelections[] = " after ";
 
 inline std::string NameOf(const CPage* pPage)
 {
@@ -57,7 +44,6 @@ struct RecordingPage : CPage
     RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
     ~RecordingPage() override { Note("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
-    const CPageDialog* Dialog() const { return dialog; }
 
     int nCount = 0; ///< what its dialog shows
     int m_nId;
@@ -124,18 +110,13 @@ struct RecordingClient : AAddPageNotificationClient,
     {
         Note(name + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
-    void PageSelected(CPage* pNew, CPage* pOld) override
-    {
-        pTold = pNew;
-        Note(NameOf(pNew) + " after " + NameOf(pOld));
-    }
+    void PageSelected(CPage* pNew, CPage* pOld) override { Note(NameOf(pNew) + kSelections + NameOf(pOld)); }
     void AttributeChangedUsingGUI() override { Note(name + ": changed"); }
 
     std::string name;
-    CPage* pTold = nullptr; ///< the last selection
 };
 
-/// A host with a manager, a caption and a selector: a tree, or a combo group with its toggle.
+/// A host with a manager of six pages, a caption and a selector: a tree, or a combo group with its toggle.
 template <class Selector>
 class PagesHost : public CDialog, public APageFrameProvider
 {
@@ -143,8 +124,6 @@ class PagesHost : public CDialog, public APageFrameProvider
     static constexpr bool kPush = std::is_base_of_v<CPageComboButtonSTCtrlGroup, Selector>;
 
 public:
-    /// With six pages, or with none.
-    explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
     Selector selector{IDC_SELECTOR, IDC_TOGGLE};
@@ -182,7 +161,6 @@ public:
         }
         return names;
     }
-    /// Null if there is none of that name.
     RecordingPage* Page(const std::string& name) const
     {
         for (RecordingPage* pPage : pages)
@@ -218,16 +196,6 @@ protected:
         for (ASelectPageNotificationClient* pClient :
              std::initializer_list<ASelectPageNotificationClient*>{&selects, &manager, &caption})
             selector.RegisterSelectPageNotification(pClient, true);
-        if (m_bFilled)
-            Fill();
-        GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
-        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
-        return FALSE;
-    }
-    void OnOK() override { ++oks; }
-    void OnCancel() override { ++cancels; }
-    void Fill()
-    {
         fields = AddDialog(IDD_FIELDS, "fields");
         plain = AddDialog(IDD_PLAIN, "plain");
         int nId = 0;
@@ -238,8 +206,12 @@ protected:
                                            {L"Earlier", "Delta"},
                                            {L"Later", "Delta"}})
             AddPage(name, *parent ? plain : fields, ++nId, Page(parent));
+        GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
+        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
+        return FALSE;
     }
-    bool m_bFilled;
+    void OnOK() override { ++oks; }
+    void OnCancel() override { ++cancels; }
 };
 
 /// A tree whose inner operations a test may call, made as the other selectors are.
@@ -250,7 +222,6 @@ struct OpenPageTree : CPageTreeCtrl
     INT_PTR OnToolHitTest(CPoint, TOOLINFO*) const override { return Note("tip?"), -1; }
 };
 
-/// An open host.
 template <class Selector>
 class PagesWith : public ::testing::Test, public PagesHost<Selector>
 {
@@ -260,7 +231,7 @@ protected:
         ASSERT_TRUE(this->Open());
         TakeCalls();
     }
-    void TearDown() override { listener = nullptr; }
+    void TearDown() override { once.clear(); }
     static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
 };
 using Pages = PagesWith<OpenPageTree>;

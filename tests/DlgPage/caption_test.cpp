@@ -21,7 +21,6 @@ protected:
     void TearDown() override { m_parent.DestroyWindow(); }
     CPage* GetCurrentPage() const override { return nullptr; }
 
-    /// What the window shows once it has painted everything.
     void Look(owtest::Surface& picture)
     {
         m_caption.UpdateWindow();
@@ -92,28 +91,13 @@ TEST_F(Caption, ARepaintCopiesThePictureThatIsThere)
     EXPECT_EQ(m_second.at(239, 0), m_first.at(239, 0)) << "on the gradient made at first";
 }
 
-TEST(Gradient, GoesFromTheColourToThatOfADialogsFace)
-{
-    const COLORREF crLeft = RGB(16, 64, 128), crFace = ::GetSysColor(COLOR_BTNFACE);
-    owtest::Surface surface(205, 12);
-    gfnFillGradient(surface.dc(), CRect(3, 2, 195, 10), crLeft);
-    for (int x = 0; x < 192; ++x)
-        for (const int nShift : {0, 8, 16})
-        {
-            const auto channel = [&](COLORREF color) { return static_cast<int>(color >> nShift & 0xFF); };
-            const int nWanted = channel(crLeft) + (channel(crFace) - channel(crLeft)) * x / 192;
-            ASSERT_NEAR(channel(surface.at(3 + x, 2)), nWanted, 2) << x;
-            ASSERT_EQ(surface.at(3 + x, 9), surface.at(3 + x, 2));
-        }
-    EXPECT_EQ(surface.count(CRect(0, 0, 205, 12), RGB(255, 0, 255)), 205 * 12 - 192 * 8) << "nothing beyond";
-}
-
-TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)
+TEST(Gradient, GoesFromTheColourToThatOfADialogsFaceInAsManyBandsAsStepsWhereTheSystemDoesNot)
 {
     const COLORREF crFace = ::GetSysColor(COLOR_BTNFACE);
     // Width, colour at the left, width of a band, and their number.
     const std::tuple<int, COLORREF, int, int> fills[] = {
-        {100, crFace, 100, 1}, // no step
+        {192, RGB(16, 64, 128), 1, 192}, // by the system: a pixel each
+        {100, crFace, 100, 1},           // no step
         {100, crFace - RGB(3, 3, 3), 50, 2},
         {100, RGB(255, 255, 255), 100, 1},    // downwards counts as no step
         {100, crFace - RGB(23, 3, 3), 8, 13}, // the channel with the most steps
@@ -123,17 +107,17 @@ TEST(Gradient, InBandsHasAsManyAsTheStepsBetweenTheColours)
         {12, crFace - RGB(100, 100, 100), 4, 3}};
     for (const auto& [nWidth, crLeft, nBand, nBands] : fills)
     {
-        const CRect rect(CPoint(3, 2), CSize(nWidth, 10));
-        owtest::Surface seen(120, 15), wanted(120, 15);
-        gfnFillGradientBands(seen.dc(), rect, crLeft);
-        for (int i = 0; i < nBands; ++i)
-        {
-            const auto channel = [i, n = nBands](int from, int to) { return from + i * (to - from) / n; };
-            const COLORREF cr = RGB(channel(GetRValue(crLeft), GetRValue(crFace)),
-                                    channel(GetGValue(crLeft), GetGValue(crFace)),
-                                    channel(GetBValue(crLeft), GetBValue(crFace)));
-            wanted.dc().FillSolidRect(CRect(CPoint(3 + i * nBand, 2), CSize(nBand, 10)) & rect, cr);
-        }
-        EXPECT_TRUE(seen == wanted) << nWidth << ' ' << nBands;
+        owtest::Surface surface(205, 15);
+        const auto fill = nBand == 1 ? &gfnFillGradient : &gfnFillGradientBands;
+        fill(surface.dc(), CRect(CPoint(3, 2), CSize(nWidth, 10)), crLeft);
+        for (int x = 0; x < nWidth; ++x)
+            for (const int nShift : {0, 8, 16})
+            {
+                const auto channel = [=](COLORREF color) { return static_cast<int>(color >> nShift & 0xFF); };
+                const int nWay = x / nBand * (channel(crFace) - channel(crLeft)) / nBands;
+                ASSERT_NEAR(channel(surface.at(3 + x, 2)), channel(crLeft) + nWay, nBand == 1 ? 2 : 0) << x;
+                ASSERT_EQ(surface.at(3 + x, 11), surface.at(3 + x, 2));
+            }
+        EXPECT_EQ(surface.count(CRect(0, 0, 205, 15), RGB(255, 0, 255)), 205 * 15 - nWidth * 10) << nWidth;
     }
 }

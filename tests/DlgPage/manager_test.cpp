@@ -20,19 +20,16 @@ TEST_F(Pages, TheManagerSetsADialogUpPlacesItAndLeavesItDisabledAndHidden)
 TEST_F(Pages, TheManagerDeletesPagesBeforeDialogsInTheOrderOfAdding)
 {
     {
-        PagesHost<OpenPageTree> host(false);
+        PagesHost<OpenPageTree> host;
         ASSERT_TRUE(host.Open());
-        for (const char* name : {"one", "two"})
-            host.AddDialog(IDD_PLAIN, name);
-        EXPECT_THROW(host.AddDialog(IDD_MISSING, "no template"), CResourceException*);
-        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{1}), nullptr);
-        for (const wchar_t* name : {L"A", L"B"})
-            host.AddPage(name, nullptr, 1);
-        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{1}), host.Page("A")) << "the first of an identity";
-        host.DestroyWindow();
-        TakeCalls();
+        EXPECT_THROW(host.AddDialog(199, "no template"), CResourceException*);
+        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{99}), nullptr);
+        host.AddPage(L"Twin", nullptr, 1);
+        EXPECT_EQ(host.manager.GetPage(CPage::EPageID{1}), host.Page("Alpha")) << "the first of an identity";
     }
-    EXPECT_EQ(TakeCalls(), "delete A, delete B, delete one, delete two, delete no template");
+    EXPECT_EQ(TakeCalls("delete"),
+              "delete Alpha, delete Gamma, delete Beta, delete Delta, delete Earlier, "
+              "delete Later, delete Twin, delete fields, delete plain, delete no template");
 }
 
 // The new page shows before the old one is hidden; pages that share a dialog are rebound, and stay on screen.
@@ -91,7 +88,7 @@ TEST_F(Pages, WhatADialogSelectsWhileItIsToldStaysShown)
     {
         manager.PageSelected(Page(from), nullptr);
         fields->count.SetFocus();
-        Once(trigger, [this, to = to, over = over] { manager.PageSelected(Page(to), Page(over)); });
+        once[trigger] = [this, to = to, over = over] { manager.PageSelected(Page(to), Page(over)); };
         manager.PageSelected(Page(over), Page(from));
         EXPECT_EQ(Shown(), to) << trigger;
     }
@@ -104,7 +101,7 @@ TEST_F(Pages, ClientsOfTheManagerLeaveByUnequalRules)
     RecordingClient first("first"), second("second"), unknown("unknown");
     for (RecordingClient* pClient : {&first, &second, &second})
         manager.RegisterAddPageNotification(pClient, true);
-    Once("first: A below -", [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; });
+    once["first: A below -"] = [&] { EXPECT_TRUE(manager.GetPage(CPage::EPageID{1})) << "already"; };
     auto* pParent = new RecordingPage(L"A", nullptr, 1);
     manager.AddPage(pParent, nullptr);
     EXPECT_EQ(TakeCalls(), "first: A below -, second: A below -, second: A below -");

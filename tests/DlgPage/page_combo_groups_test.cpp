@@ -4,7 +4,6 @@
 
 namespace
 {
-/// A group with its inner questions opened.
 template <class Group>
 struct OpenGroup : Group
 {
@@ -28,7 +27,7 @@ protected:
         EXPECT_EQ(toggle().IsWindowVisible(), toggle().IsWindowEnabled());
         return this->Shown() + ' ' + std::to_string(combo().GetCurSel()) +
                (toggle().IsWindowVisible() ? "+ " : " ") + NameOf(group.GetCurrentPage()) + ": " +
-               TakeSelections();
+               TakeCalls(kSelections);
     }
 
     /// Selects by a key in the combo box, by the toggle, or a page of this name by code.
@@ -78,7 +77,7 @@ TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
     for (const int nNoRow : {-1, 3})
         this->group.OnExtComboBoxSelChanged(IDC_SELECTOR, nNoRow);
     this->group.OnButtonClicked(IDC_TOGGLE);
-    EXPECT_EQ(TakeSelections(), "- after Alpha, - after -, - after -");
+    EXPECT_EQ(TakeCalls(kSelections), "- after Alpha, - after -, - after -");
     EXPECT_EQ(this->Shown(), "");
 }
 
@@ -119,13 +118,13 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
         {
             const std::string heard = to + " after " + from, changed = "Later after " + to;
             this->Do(from);
-            TakeSelections();
+            TakeCalls(kSelections);
             const auto redirect = [&, meanwhile = meanwhile]
             {
                 EXPECT_EQ(NameOf(this->group.GetCurrentPage()), meanwhile);
                 this->Do("Later");
             };
-            Once(bByDialog ? "bind " + to : heard, redirect);
+            once[bByDialog ? "bind " + to : heard] = redirect;
             this->Do(move);
             EXPECT_EQ(this->State(), "Later 2+ Later: " + heard + ", " + changed + ", " + changed)
                 << bByDialog;
@@ -133,7 +132,7 @@ TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
     for (RecordingClient* pClient : {&this->selects, &last})
         this->group.RegisterSelectPageNotification(pClient, false);
     this->Do("Beta");
-    EXPECT_EQ(TakeSelections(), "Beta after Later") << "the first one stays";
+    EXPECT_EQ(TakeCalls(kSelections), "Beta after Later") << "the first one stays";
 }
 
 TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
@@ -145,25 +144,22 @@ TEST_F(PageComboCheckGroup, NamesTheTopLevelPageAfterABoxThatStayedChecked)
     EXPECT_EQ(group.GetCurrentPage(), Page("Delta")) << "a box that is not seen does not count";
     ShowWindow(SW_SHOW);
     Do("Beta");
-    EXPECT_EQ(TakeSelections(), "Beta after Delta");
+    EXPECT_EQ(TakeCalls(kSelections), "Beta after Delta");
     toggle().ShowWindow(SW_SHOW);
     EXPECT_EQ(group.GetCurrentPage(), nullptr);
 }
 
 TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUsable)
 {
-    // At first the template's text; texts set anew show from the next change on.
-    const std::pair<const char*, const wchar_t*> moves[] = {{"", L"More"},         {"Alpha", L"Napred"},
-                                                            {"click", L"Nazad"},   {"texts", L"Nazad"},
-                                                            {"Alpha", L"Details"}, {"Gamma", L"Close"}};
-    for (const auto& [move, text] : moves)
-    {
-        if (std::string(move) == "texts")
-            group.SetStateTexts(_T("Close"), _T("Details"));
-        else if (*move)
-            Do(move);
-        EXPECT_EQ(owtest::TextOf(toggle()), text) << move;
-    }
+    EXPECT_EQ(owtest::TextOf(toggle()), L"More") << "the template's";
+    const auto expectText = [&](const char* move, const wchar_t* text)
+    { EXPECT_EQ((Do(move), owtest::TextOf(toggle())), text); };
+    expectText("Gamma", L"Nazad");
+    expectText("Alpha", L"Napred");
+    group.SetStateTexts(_T("Close"), _T("Details"));
+    EXPECT_EQ(owtest::TextOf(toggle()), L"Napred") << "until the next change";
+    expectText("Alpha", L"Details");
+    expectText("Gamma", L"Close");
     ShowWindow(SW_HIDE);
     EXPECT_EQ(group.GetCurrentPage(), Page("Gamma")) << "whether the button is seen or not";
     ShowWindow(SW_SHOW);
@@ -173,13 +169,12 @@ TEST_F(PageComboButtonGroup, ShowsTheStateInTextAndIconAndLeavesTheSharedIconsUs
 
     group.SetStateTexts(_T(""), _T(""));
     group.SetStateIcons(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt);
-    owtest::Surface on(60, 20), off(60, 20);
+    owtest::Surface on(90, 20), off(90, 20);
     for (const auto& [page, pShown] : {std::pair{"Gamma", &on}, {"Alpha", &off}})
     {
         Do(page);
         toggle().UpdateWindow();
-        CClientDC dc(&toggle());
-        pShown->dc().BitBlt(0, 0, 60, 20, &dc, 0, 0, SRCCOPY);
+        owtest::Capture(toggle(), *pShown);
     }
     EXPECT_FALSE(on == off) << "its icon";
     EXPECT_EQ(CButtonST().SetIcon(CButtonST::hIconUpAlt, CButtonST::hIconDownAlt), CButtonST::resultOk);

@@ -10,5 +10,3 @@
 #define IDC_COUNT 1010
 #define IDC_PLAIN 1011
 #define IDC_NOTES 1012
-
-#define IDD_MISSING 199 // no such template

@@ -25,7 +25,7 @@ TEST_F(Pages, TheTreeFillsItselfInTheOrderOfAddingWithoutASelection)
     };
     EXPECT_EQ(branch(selector.GetRootItem()), "Alpha(Gamma())Beta()Delta(Earlier()Later())lost()");
     EXPECT_EQ(selector.GetCurrentPage(), nullptr);
-    EXPECT_EQ(TakeSelections(), "");
+    EXPECT_EQ(TakeCalls(kSelections), "");
 }
 
 TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
@@ -42,7 +42,7 @@ TEST_F(Pages, TheTreeIsSelectedByMouseAndArrowsAndKeepsTheFocus)
 
     for (const WORD key : {VK_UP, VK_RIGHT, VK_DOWN}) // the second opens the branch
         owtest::Press(key);
-    EXPECT_EQ(TakeSelections(), "Alpha after Beta, Gamma after Alpha");
+    EXPECT_EQ(TakeCalls(kSelections), "Alpha after Beta, Gamma after Alpha");
     EXPECT_TRUE(HasFocus(selector) && Shown() == "Gamma");
 
     owtest::Press(VK_RETURN);
@@ -59,23 +59,23 @@ TEST_F(Pages, TheTreeTakesTheSameRoadWhenItIsSelectedByCode)
     for (RecordingClient* pClient : {static_cast<RecordingClient*>(nullptr), &other})
         selector.RegisterSelectPageNotification(pClient, true);
     selector.SetCurrentPage(Page("Gamma"));
-    EXPECT_EQ(TakeSelections(), "Gamma after -, Gamma after -");
+    EXPECT_EQ(TakeCalls(kSelections), "Gamma after -, Gamma after -");
     EXPECT_TRUE(HasFocus(selector));
-    Once("Beta after Gamma", [&] { selector.SetCurrentPage(Page("Gamma")); });
+    once["Beta after Gamma"] = [&] { selector.SetCurrentPage(Page("Gamma")); };
     selector.SetCurrentPage(Page("Beta"));
-    EXPECT_EQ(TakeSelections(), "Beta after Gamma, Gamma after Beta, Gamma after Beta")
+    EXPECT_EQ(TakeCalls(kSelections), "Beta after Gamma, Gamma after Beta, Gamma after Beta")
         << "not told of Beta any more";
     for (RecordingClient* pClient : {&selects, &other}) // the first one stays
         selector.RegisterSelectPageNotification(pClient, false);
     RecordingPage strange(L"strange", nullptr, 99);
     for (CPage* pPage : {Page("Gamma"), &strange, static_cast<RecordingPage*>(nullptr)})
         selector.SetCurrentPage(pPage);
-    EXPECT_EQ(TakeSelections(), "");
+    EXPECT_EQ(TakeCalls(kSelections), "");
     selector.SelectItem(nullptr);
-    EXPECT_EQ(TakeSelections(), "- after Gamma");
+    EXPECT_EQ(TakeCalls(kSelections), "- after Gamma");
     EXPECT_EQ(owtest::TextOf(caption), L"");
     NMTREEVIEW nothing{};
     LRESULT result = 1;
     selector.OnTvnSelchanged(&nothing.hdr, &result);
-    EXPECT_TRUE(result == 0 && TakeSelections() == "- after -" && Shown().empty());
+    EXPECT_TRUE(result == 0 && TakeCalls(kSelections) == "- after -" && Shown().empty());
 }
