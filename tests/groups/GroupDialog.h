@@ -49,7 +49,6 @@ public:
         picture.dc().BitBlt(0, 0, 9, 9, &dc, rect.CenterPoint().x - 4, rect.CenterPoint().y - 4, SRCCOPY);
         return picture.count(CRect(0, 0, 9, 9), picture.at(0, 0)) < 81;
     }
-    /// Types a new text into an edit, and stays there.
     void TypeInto(int nId, const wchar_t* pszText) const
     {
         Click(nId);

@@ -20,10 +20,6 @@ struct NameSet : AConfigSet, AConfigCtrlGroupNotificationHandler
     bool changed = false;
     std::wstring calls;
 
-    int IndexOf(const CString& name) const
-    {
-        return static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
-    }
     int GetConfigNames(CStringArray& result) override
     {
         for (const CString& name : names)
@@ -32,7 +28,7 @@ struct NameSet : AConfigSet, AConfigCtrlGroupNotificationHandler
     }
     bool AddConfig(const CString& name) override
     {
-        if (IndexOf(name) < static_cast<int>(names.size()))
+        if (std::count(names.begin(), names.end(), name))
             return false;
         names.push_back(name);
         OverwriteConfig(name);
@@ -41,7 +37,7 @@ struct NameSet : AConfigSet, AConfigCtrlGroupNotificationHandler
     void OverwriteConfig(const CString& name) override
     {
         calls += L"store " + name + L';';
-        current = IndexOf(name);
+        current = static_cast<int>(std::find(names.begin(), names.end(), name) - names.begin());
         changed = false;
     }
     void DeleteConfig(int index) override
@@ -50,14 +46,16 @@ struct NameSet : AConfigSet, AConfigCtrlGroupNotificationHandler
         names.erase(names.begin() + index);
         current = index - 1;
     }
-    void SetCurrentConfig(int index) override
-    {
-        calls += L"current " + std::to_wstring(current = index) + L';';
-    }
+    void SetCurrentConfig(int n) override { calls += L"current " + std::to_wstring(current = n) + L';'; }
     bool IsConfigChanged() override { return changed; }
     int GetCurrentConfig() override { return current; }
     CString GetConfigName(int index) override { return index < 0 ? CString() : names[index]; }
-    void OnConfigGroupChanged(CConfigCtrlGroup*) override { calls += L"told;"; }
+    void OnConfigGroupChanged(CConfigCtrlGroup*) override
+    {
+        calls += L"told;";
+        whenTold();
+    }
+    std::function<void()> whenTold = [] {};
 };
 
 /// Types a name in place of what the name dialog begins with, and accepts; expects that beginning.
@@ -65,7 +63,6 @@ Visitor TypeOver(std::wstring begins, std::wstring name)
 {
     return [=](CWnd& box)
     {
-        ASSERT_NE(box.GetDlgItem(kNameBox), nullptr);
         EXPECT_EQ(owtest::TextOf(box), L"Snimi");
         EXPECT_EQ(owtest::TextOf(*box.GetDlgItem(kNameBox)), begins);
         owtest::Press(VK_DELETE);
@@ -81,7 +78,6 @@ Visitor Answer(const wchar_t* text, int button)
 {
     return [=](CWnd& box)
     {
-        ASSERT_NE(box.GetDlgItem(kMessage), nullptr);
         EXPECT_EQ(owtest::TextOf(box), L"");
         EXPECT_EQ(owtest::TextOf(*box.GetDlgItem(kMessage)), text);
         owtest::Click(*box.GetDlgItem(button));
@@ -145,7 +141,10 @@ TEST_F(ConfigGroup, ShowsTheCurrentEntryAndMakesTheChosenOneCurrent)
     group->OnExtComboBoxSelChanged(idCombo, -1);
     EXPECT_EQ(Seen(), L"told; DRF") << "no row is no entry";
     EXPECT_EQ(::GetFocus(), (*this)[idCombo].m_hWnd);
-    group->OnButtonClicked(idAfter); // no button of the group
+    (*this)[idAfter].SetFocus();
+    set.whenTold = [this] { (*this)[idCombo].DestroyWindow(); };
+    group->OnExtComboBoxSelChanged(idCombo, -1);
+    EXPECT_EQ(::GetFocus(), (*this)[idAfter].m_hWnd) << "not for a combo box that went meanwhile";
 }
 
 TEST_F(ConfigGroup, SavesUnderANameThatSuitsAndDeletesTheCurrentEntryWhenTheUserAgrees)
