@@ -51,15 +51,14 @@ inline CRect PlaceOf(const CWnd& dialog, int id)
 /// Pixels inside the edge of a button, as it shows, in which one part of the colour is twice another.
 inline int CountColoured(CWnd& box, int id)
 {
-    constexpr int kEdge = 3;
-    CRect rect;
-    box.GetDlgItem(id)->GetWindowRect(rect);
-    owtest::Surface picture(rect.Width(), rect.Height());
+    const CSize inside = PlaceOf(box, id).Size() - CSize(6, 6);
+    owtest::Surface picture(inside.cx, inside.cy);
     box.GetDlgItem(id)->UpdateWindow();
-    owtest::Capture(*box.GetDlgItem(id), picture);
+    CClientDC dc(box.GetDlgItem(id));
+    picture.dc().BitBlt(0, 0, inside.cx, inside.cy, &dc, 3, 3, SRCCOPY);
     int found = 0;
-    for (int y = kEdge; y < picture.height() - kEdge; ++y)
-        for (int x = kEdge; x < picture.width() - kEdge; ++x)
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
         {
             const COLORREF pixel = picture.at(x, y);
             const auto [low, high] = std::minmax({GetRValue(pixel), GetGValue(pixel), GetBValue(pixel)});
@@ -68,7 +67,6 @@ inline int CountColoured(CWnd& box, int id)
     return found;
 }
 
-/// A window of the program, over which dialogs stand.
 struct OwnerWindow : CWnd
 {
     OwnerWindow()

@@ -82,7 +82,7 @@ Visitor Accept(const wchar_t* name)
 
 TEST(NameDialogs, TakeOverANameOnOkAndLeaveItOtherwise)
 {
-    const std::wstring wide(60, L'W'), longer(40000, L'l'); // than the box, and than its limit
+    const std::wstring longer(40000, L'l'); // than the box's limit
     const Visitor paste = [&](CWnd& dialog)
     {
         ::SendMessage(::GetFocus(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(longer.c_str()));
@@ -96,7 +96,6 @@ TEST(NameDialogs, TakeOverANameOnOkAndLeaveItOtherwise)
             {L"Roof", kind.Typing(L"Floor", ClickOn(IDOK)), L"Floor: 1"},
             {L"Roof", kind.Typing(L"Floor", PressEscape), L"Roof: 2"},
             {L"Roof", kind.Typing(L" \b", PressEnter), L": 1"}, // an empty name is a name
-            {L"", kind.Typing(wide, PressEnter), wide + L": 1"},
             {longer, PressEnter, longer + L": 1"},
             {L"Roof", paste, longer + L": 1"}};
         for (const auto& [begins, visitor, outcome] : cases)

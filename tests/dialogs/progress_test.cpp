@@ -224,32 +224,33 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
 
 TEST_F(PlainProgress, LeavesNothingBehindHoweverTheWorkEnds)
 {
-    const auto work = [](bool cancellable, bool made, bool destroyed = false, bool failing = false)
+    const auto work = [](int round) // cancellable, with its box destroyed, failing
     {
-        CSingleThreadProgress progress(kTitle, nullptr, cancellable);
-        EXPECT_EQ(Box() != nullptr, made);
+        CSingleThreadProgress progress(kTitle, nullptr, round & 1);
         EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0) << "only while something is opened or closed";
-        if (failing)
-            throw 1;
-        if (destroyed)
+        if (round & 2)
             Box()->DestroyWindow();
+        if (round & 4)
+            throw 1;
         EXPECT_TRUE(progress.Update(60) && progress.DispatchPendingWindowMessages());
+        return Box() != nullptr;
     };
     const auto refuse = [](int code, WPARAM, LPARAM) -> LRESULT { return code == HCBT_CREATEWND; };
     const HHOOK hook = ::SetWindowsHookEx(WH_CBT, +refuse, nullptr, ::GetCurrentThreadId());
-    work(true, false); // a box that cannot be made does not keep the work from going on
+    EXPECT_FALSE(work(1)) << "a box that cannot be made does not keep the work from going on";
     ::UnhookWindowsHookEx(hook);
 
     owtest::HandleCount before;
     size_t heap = 0;
-    for (int round = 0; round < 44; ++round)
+    for (int round = 0; round < 88; ++round)
     {
-        work(round & 1, true, round & 2);
-        EXPECT_THROW(work(round & 1, true, false, true), int);
-        EXPECT_EQ(Box(), nullptr);
-        EXPECT_EQ(acDocManagerPtr()->resourceHandleDepth(), 0);
+        if (round & 4)
+            EXPECT_THROW(work(round), int);
+        else
+            EXPECT_EQ(work(round), !(round & 2));
+        EXPECT_TRUE(!Box() && acDocManagerPtr()->resourceHandleDepth() == 0);
         AfxGetApp()->OnIdle(1);
-        if (round == 3) // what is made once for the process is there now
+        if (round == 7) // what is made once for the process is there now
             before = owtest::CountHandles(), heap = owtest::CountHeapBytes();
     }
     EXPECT_EQ(owtest::CountHandles(), before);
