@@ -2,6 +2,7 @@
 
 #include <module/AssertReport.h>
 
+#include "OtherText.h"
 #include "Testing.h"
 
 #include <regex>
@@ -35,12 +36,6 @@ struct FatalReport : ::testing::Test
             options.environment[L"TMP"] = tmp;
         return owtest::RunChild(scenario, options);
     }
-    static std::string Read(const fs::path& path)
-    {
-        std::ifstream file(path);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
-    /// A report of the failed assertion.
     static void ExpectReport(const std::string& log)
     {
         static const std::regex s_start(
@@ -76,18 +71,18 @@ TEST_F(FatalReport, AFailedAssertWritesItsReportShowsItBreaksAndEndsTheProcess)
     fs::remove(program);
     owtest::ExpectFailedAssert(result, kAssertText);
     EXPECT_EQ(result.output, "") << "nothing runs after the report";
-    const std::string log = Read(m_rootLog);
+    const std::string log = owtest::ContentsOf(m_rootLog);
     ExpectReport(log);
     for (const char* module : {"DialogControlsOW", "100%s%n.exe"})
         EXPECT_NE(log.find(module), log.npos) << "the stack stands between failure and end:\n" << log;
 
     owtest::ExpectInternalError(Run("internal_error", m_tmp), L"[.\\Choice : 40]\nNedozvoljena vrednost.");
-    const std::string longer = Read(m_rootLog);
+    const std::string longer = owtest::ContentsOf(m_rootLog);
     EXPECT_TRUE(longer.starts_with(log)) << "reports are appended";
     EXPECT_NE(longer.find("ASSERT(L\"Nedozvoljena vrednost.\")\nFILE: .\\Choice\nLINE: 40\n\n"), longer.npos);
 
     EXPECT_EQ(Run("long_expression", m_tmp).boxText.size(), 1023u) << "cut in the box, and whole in the log";
-    EXPECT_NE(Read(m_rootLog).find(std::string(5000, 'x')), std::string::npos);
+    EXPECT_NE(owtest::ContentsOf(m_rootLog).find(std::string(5000, 'x')), std::string::npos);
 }
 
 TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeWritten)
@@ -101,7 +96,7 @@ TEST_F(FatalReport, TheLogGoesToTheTmpOrTheCurrentDirectoryWhereTheRootCannotBeW
     for (const auto& [variable, log] : places)
     {
         Run("failed_assert", variable);
-        ExpectReport(Read(log));
+        ExpectReport(owtest::ContentsOf(log));
         fs::remove(log);
         EXPECT_FALSE(fs::exists(m_tmpLog) || fs::exists(m_currentLog));
     }
