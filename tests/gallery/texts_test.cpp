@@ -10,13 +10,6 @@ namespace
 {
 constexpr wchar_t kMark = L'\u00AB';
 
-/// The English catalogue with a mark in front of each translation.
-std::string MarkedCatalogue()
-{
-    const std::string english = owtest::ContentsOf(L"locale\\gallery_en.po");
-    return std::regex_replace(english, std::regex("\nmsgstr \"(?!\")"), "$&\u00AB");
-}
-
 /// A word of some length has the mark in front. Numbers, profiles, formulas and names of calls are the same in every
 /// language, and so are those of files.
 void ExpectTranslated(const std::wstring& text)
@@ -25,10 +18,6 @@ void ExpectTranslated(const std::wstring& text)
     const bool bWord = std::regex_search(std::regex_replace(text, s_markup, L""), s_word);
     EXPECT_TRUE(!bWord || text.find(L":\\") != text.npos || text.find(kMark) != text.npos)
         << CStringA(text.c_str());
-}
-void ExpectTranslated(const CString& strText)
-{
-    ExpectTranslated(std::wstring(strText));
 }
 
 /// The controls of a window; not what a user's own data fill: edits, lists of fonts and the bodies of grids.
@@ -48,19 +37,20 @@ void ExpectControlsTranslated(CWnd& window)
             for (int i = 0; i < combo.GetCount(); ++i)
             {
                 combo.GetLBText(i, strEntry);
-                ExpectTranslated(strEntry);
+                ExpectTranslated(strEntry.GetString());
             }
         }
         else if (auto* pGrid = dynamic_cast<CGridCtrl*>(pChild))
             for (int nCol = 0; nCol < pGrid->GetColumnCount(); ++nCol)
-                ExpectTranslated(pGrid->GetItemText(0, nCol));
+                ExpectTranslated(pGrid->GetItemText(0, nCol).GetString());
     }
 }
 } // namespace
 
 TEST(GalleryTexts, GoThroughTheTranslator)
 {
-    const owtest::OtherText marked(MarkedCatalogue());
+    const std::string english = owtest::ContentsOf(L"locale\\gallery_en.po");
+    const owtest::OtherText marked(std::regex_replace(english, std::regex("\nmsgstr \"(?!\")"), "$&\u00AB"));
     OpenAndClose<CGalleryDialog>(
         [](CWnd& window)
         {
@@ -70,6 +60,6 @@ TEST(GalleryTexts, GoThroughTheTranslator)
             auto& log = static_cast<CListCtrl&>(*window.GetDlgItem(IDC_LOG));
             for (int i = 0; i < log.GetItemCount(); ++i)
                 for (const int nColumn : {0, 1})
-                    ExpectTranslated(log.GetItemText(i, nColumn));
+                    ExpectTranslated(log.GetItemText(i, nColumn).GetString());
         });
 }
