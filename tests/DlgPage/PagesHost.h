@@ -1,6 +1,5 @@
 #pragma once
-// A host dialog for pages with a selector of any kind, and page dialogs, pages and clients that write down what
-// happens to them.
+// A host of pages with a selector of any kind; page dialogs, pages and clients write down what happens to them.
 
 #include <DialogControlsOW.h>
 

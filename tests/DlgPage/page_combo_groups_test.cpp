@@ -20,8 +20,7 @@ protected:
     CWnd& toggle() { return *this->GetDlgItem(IDC_TOGGLE); }
     CComboBox& combo() { return static_cast<CComboBox&>(*this->GetDlgItem(IDC_SELECTOR)); }
 
-    /// What the user sees: the page in the frame, the row, and the toggle if there is one; then the group's page, and
-    /// what was told since the last time.
+    /// The page that shows, the row, + for the toggle; the group's page, and what was told since the last time.
     std::string State()
     {
         EXPECT_EQ(toggle().IsWindowVisible(), toggle().IsWindowEnabled());
@@ -51,8 +50,7 @@ using Groups = ::testing::Types<ButtonGroup, CheckGroup>;
 TYPED_TEST_SUITE(PageComboGroups, Groups);
 } // namespace
 
-// A click counts for the next row with a child, too, but not while the toggle is hidden. Of two children only the later
-// can be reached.
+// A click counts for the next row with a child, too. Of two children only the later can be reached.
 TYPED_TEST(PageComboGroups, ShowThePageThatTheUserOrTheProgramChooses)
 {
     const std::pair<const char*, std::string> steps[] = {
@@ -101,8 +99,7 @@ TYPED_TEST(PageComboGroups, KnowPagesByTheirIdentityAndSelectNothingForOthers)
     EXPECT_EQ(TypeParam(1, 2).GetCurrentPage(), nullptr) << "without controls";
 }
 
-// Who is told of one page selects another: that one shows, and whoever has not been told yet hears of it alone.
-// By code, the clients are told before the controls change.
+// That one shows, and whoever has not been told yet hears of it alone.
 TYPED_TEST(PageComboGroups, LetClientsSelectAnotherPageWhileTheyAreTold)
 {
     RecordingClient last("last");

@@ -7,11 +7,10 @@
 
 using Visit = std::function<void(CWnd&)>;
 
-/// Shows the dialog, and closes it as a user does.
-template <class Dialog>
-void OpenAndClose(const Visit& visit)
+/// Shows the gallery, and closes it as a user does.
+inline void OpenAndClose(const Visit& visit)
 {
-    Dialog dialog(nullptr);
+    CGalleryDialog dialog;
     owtest::ModalVisit modal(
         [&](CWnd& window)
         {

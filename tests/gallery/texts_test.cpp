@@ -51,7 +51,7 @@ TEST(GalleryTexts, GoThroughTheTranslator)
 {
     const std::string english = owtest::ContentsOf(L"locale\\gallery_en.po");
     const owtest::OtherText marked(std::regex_replace(english, std::regex("\nmsgstr \"(?!\")"), "$&\u00AB"));
-    OpenAndClose<CGalleryDialog>(
+    OpenAndClose(
         [](CWnd& window)
         {
             ExpectTranslated(owtest::TextOf(window));

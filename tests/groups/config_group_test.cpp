@@ -102,8 +102,7 @@ protected:
     }
     void DoDataExchange(CDataExchange* pDX) override { group->DoDataExchange(pDX); }
 
-    /// Clicks a button, if any, and goes through all the dialogs that this opens. What set and handler were told, and
-    /// the rows of the combo box by their initials, the selected one in brackets.
+    /// Clicks a button and visits the dialogs: what was told, and the rows' initials, the selected one's in brackets.
     std::wstring Seen(int nId = 0, const std::vector<Visitor>& visitors = {})
     {
         owtest::ModalVisit visit(visitors);
