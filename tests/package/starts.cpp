@@ -17,7 +17,7 @@ int wmain(int, wchar_t** argv)
     const auto hProcess = reinterpret_cast<HANDLE>(process);
     HWND window = nullptr;
     const ULONGLONG end = ::GetTickCount64() + kPatience;
-    while (!(window && ::IsWindowVisible(window)) && ::GetTickCount64() < end &&
+    while (process != -1 && !(window && ::IsWindowVisible(window)) && ::GetTickCount64() < end &&
            ::WaitForSingleObject(hProcess, 50) == WAIT_TIMEOUT)
         window = ::FindWindowW(nullptr, argv[1]);
     ::PostMessageW(window, WM_CLOSE, 0, 0);
@@ -26,7 +26,9 @@ int wmain(int, wchar_t** argv)
     {
         std::fputws(L"package_starts: the program does not start, show a window of this title, or end\n",
                     stderr);
-        ::TerminateProcess(hProcess, code);
+        std::fflush(stderr);
+        ::TerminateProcess(hProcess, 1); // ours, where there is no other
+        return 1;
     }
     ::GetExitCodeProcess(hProcess, &code);
     return static_cast<int>(code);
