@@ -39,7 +39,6 @@ inline std::wstring TextsOf(CWnd& dialog, std::initializer_list<int> ids)
     return texts;
 }
 
-/// Where a control stands in its dialog's client area.
 inline CRect PlaceOf(const CWnd& dialog, int id)
 {
     CRect rect;

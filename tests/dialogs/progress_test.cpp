@@ -10,11 +10,9 @@ const wchar_t* const kTitle = L"Calculation";
 
 struct PlainProgress : ::testing::Test
 {
-    /// The open progress box; null if there is none.
     static CWnd* Box() { return CWnd::FromHandlePermanent(::FindWindow(L"#32770", kTitle)); }
     static CWnd& Cancel() { return *Box()->GetDlgItem(IDCANCEL); }
     static CProgressCtrlEx& Bar() { return *static_cast<CProgressCtrlEx*>(Box()->GetDlgItem(10152)); }
-    /// Whether WM_APP waits in the queue for the window.
     static bool IsWaiting(HWND window)
     {
         MSG msg;
