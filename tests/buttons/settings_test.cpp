@@ -106,6 +106,7 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     lone.parent.ShowWindow(SW_SHOWNA);
     const std::function<void(BOOL)> settings[] = {
         [&](BOOL bRepaint) { button.SetFlat(TRUE, bRepaint); },
+        [&](BOOL bRepaint) { button.SetAlign(CButtonST::alignTop, bRepaint); },
         [&](BOOL bRepaint) { button.SetCheck(1, bRepaint); },
         [&](BOOL bRepaint) { button.SetBtnCursor(IDC_CROSSHAIR, bRepaint); },
         // Kept: these look for exactly 1.
@@ -121,7 +122,7 @@ TEST(ButtonSettings, ASettingRepaintsWhenItIsToldTo)
     for (size_t i = 0; i < std::size(settings); ++i)
         for (const BOOL bRepaint : {0, 1, 2})
             EXPECT_EQ(Repaints(button, [&] { settings[i](bRepaint); }),
-                      i > 6 || bRepaint == 1 || (bRepaint == 2 && i < 3))
+                      i > 7 || bRepaint == 1 || (bRepaint == 2 && i < 4))
                 << "setting " << i << ", " << bRepaint;
 
     button.UpdateWindow();

@@ -12,6 +12,7 @@
 #include "ConnectionDialog.h"
 #include "Language.h"
 
+#include "Handles.h"
 #include "Input.h"
 #include "ModalVisit.h"
 #include "Picture.h"
@@ -24,6 +25,7 @@
 
 namespace
 {
+/// A program whose profile is its own.
 class CWalkApp : public CWinApp
 {
 public:
@@ -98,6 +100,7 @@ std::wstring FileName(std::wstring title)
     return title + L".png";
 }
 
+/// Says that a picture is there.
 void Announce(const std::wstring& title)
 {
     s_index.Add(title, {FileName(title)});
@@ -125,6 +128,7 @@ void ShootPages(CWnd& dialog, const std::wstring& suffix)
     }
 }
 
+/// Opens the dialog, works on it, and answers how it was closed.
 INT_PTR WithDialog(const owtest::ModalVisit::Visitor& work)
 {
     CConnectionDialog dialog(s_strValues);
@@ -132,6 +136,7 @@ INT_PTR WithDialog(const owtest::ModalVisit::Visitor& work)
     return dialog.DoModal();
 }
 
+/// Does something that opens a box, and works on it.
 void WithBox(const owtest::ModalVisit::Visitor& visitor, const std::function<void()>& open)
 {
     const owtest::ModalVisit visit(visitor);
@@ -193,6 +198,15 @@ void Enter(CWnd& dialog)
     owtest::Click(*dialog.GetDlgItem(IDOK));
 }
 
+/// Presses Escape as soon as the progress box is there.
+LRESULT CALLBACK StopWork(int code, WPARAM wParam, LPARAM lParam)
+{
+    constexpr int kBar = 10152;
+    if (code == HCBT_ACTIVATE && ::GetDlgItem(reinterpret_cast<HWND>(wParam), kBar))
+        owtest::QueueKey(VK_ESCAPE);
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
 void Again(CWnd& dialog)
 {
     const auto press = [](WORD key) { return [key](CWnd&) { owtest::Press(key); }; };
@@ -205,6 +219,11 @@ void Again(CWnd& dialog)
             L"the schedule has lost something");
 
     CWnd& page = GoTo(dialog, eCheck);
+    const HHOOK hook = ::SetWindowsHookEx(WH_CBT, &StopWork, nullptr, ::GetCurrentThreadId());
+    WithBox(press(VK_RETURN), [&] { owtest::Click(*page.GetDlgItem(IDC_CHECK)); });
+    ::UnhookWindowsHookEx(hook);
+    const std::wstring stopped = owtest::TextOf(*page.GetDlgItem(IDC_GOVERNING));
+    Require(stopped.starts_with(L"Stopped") || stopped.starts_with(L"Not"), L"the check goes on: " + stopped);
     const auto shootAndClose = [](CWnd& box)
     {
         Shoot(box, L"Result");
@@ -221,6 +240,30 @@ void Again(CWnd& dialog)
     RequireText(Page(dialog), IDC_ROWS, L"3");
     RequireText(dialog, IDC_STATE, L"Changed, not saved");
     WithBox(press(VK_RETURN), [] { owtest::Press(VK_ESCAPE); });
+}
+
+/// Opened and closed with all pages shown, it gives back what it took.
+void OpenOften()
+{
+    owtest::HandleCount before;
+    for (int i = 0; i < 103; ++i)
+    {
+        if (i == 3)
+            before = owtest::CountHandles();
+        CConnectionDialog dialog(s_strValues);
+        dialog.Create(IDD_CONNECTION);
+        dialog.ShowWindow(SW_SHOW);
+        auto& tree = static_cast<CPageTreeCtrl&>(*dialog.GetDlgItem(IDC_PAGES));
+        for (HTREEITEM item = tree.GetRootItem(); item; item = tree.GetNextVisibleItem(item))
+        {
+            tree.SelectItem(item);
+            owtest::Pump();
+        }
+        dialog.DestroyWindow();
+    }
+    const owtest::HandleCount after = owtest::CountHandles();
+    Require(after == before,
+            L"handles: " + std::to_wstring(before.gdi) + L" to " + std::to_wstring(after.gdi));
 }
 } // namespace
 
@@ -250,5 +293,6 @@ int wmain(int argc, wchar_t** argv)
     };
     Require(WithDialog(asBefore) == IDCANCEL, L"not closed");
     Require(s_index.Save(s_shots + L"\\index.html"), L"no index");
+    OpenOften();
     return 0;
 }
