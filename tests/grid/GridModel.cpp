@@ -25,13 +25,6 @@ bool IsA(int kind, CRuntimeClass* pClass)
     return kKinds[kind] == pClass;
 }
 
-/// Whether a text may be typed.
-bool Accepts(int kind, const std::wstring& text)
-{
-    return !IsA(kind, RUNTIME_CLASS(CLimitedIntCell)) ||
-           (!text.empty() && text.find_first_not_of(L"0123456789") == std::wstring::npos);
-}
-
 struct ModelCell
 {
     int kind; ///< index into kKinds
@@ -95,12 +88,15 @@ public:
         Select(CCellRange(0, 0, RowCount() - 1, ColCount() - 1), false);
         Select(range);
     }
-    void ForgetChanges()
+    /// Changed from now on, or unchanged. Both end the order.
+    void SetModified(bool isModified)
     {
+        modified = isModified;
+        sortColumn = -1;
+        if (isModified)
+            return;
         for (auto& cell : m_cells)
             cell.second.state &= ~CELL_MODIFIED;
-        modified = false;
-        sortColumn = -1;
     }
     void Reset()
     {
@@ -109,29 +105,26 @@ public:
     }
     void Resize(bool ofRows, int n, int size)
     {
-        modified = true;
+        SetModified(true);
         while (Count(ofRows) < n)
             lines[ofRows].push_back(NewLine(size));
         lines[ofRows].resize(n);
         fixed[ofRows] = std::min(fixed[ofRows], n);
         if (!Has(focus.row, focus.col))
             focus = CCellID();
-        sortColumn = -1;
     }
     void Insert(bool row, int at, int size)
     {
         Reset();
-        modified = true;
+        SetModified(true);
         lines[row].insert(lines[row].begin() + at, NewLine(size));
-        sortColumn = -1;
     }
     void Remove(bool row, int at)
     {
         Reset();
-        modified = true;
+        SetModified(true);
         fixed[row] -= at < fixed[row];
         lines[row].erase(lines[row].begin() + at);
-        sortColumn = -1;
     }
 
 private:
@@ -167,28 +160,22 @@ public:
 private:
     /// An index, now and then one out of range on either side.
     int Index(int count) { return Pick(12) == 0 ? Pick(count + 4) - 2 : Pick(count); }
-    std::wstring Text()
-    {
-        static constexpr const wchar_t* kTexts[] = {L"",   L"a", L"b",    L"IPE 200",
-                                                    L"12", L"7", L"Zeta", L"0,5 m"};
-        return kTexts[Pick(std::size(kTexts))];
-    }
+    std::wstring Text() { return OneOf(std::array{L"", L"a", L"b", L"IPE 200", L"12", L"7", L"Zeta"}); }
     void Step() override
     {
         if (m_model.ColCount() > 12 || m_model.RowCount() > 40)
             return SetCounts();
         if (m_mixedCells && Pick(10) == 0)
             return SetKind();
-        using Operation = void (GridSequence::*)();
-        static constexpr std::pair<int, Operation> kUpTo[] = {
-            {0, &GridSequence::SetCounts}, {1, &GridSequence::SetFixed},     {3, &GridSequence::Insert},
-            {4, &GridSequence::Delete},    {7, &GridSequence::ChangeItem},   {9, &GridSequence::SetSize},
-            {11, &GridSequence::SetFocus}, {14, &GridSequence::SelectRange}, {15, &GridSequence::Sort},
-            {18, &GridSequence::Key},      {19, &GridSequence::Scroll},      {25, &GridSequence::Click}};
-        const int picked = Pick(m_withInput ? 26 : 20);
-        const auto found = std::find_if(std::begin(kUpTo), std::end(kUpTo),
-                                        [&](const auto& entry) { return picked <= entry.first; });
-        (this->*found->second)();
+        if (m_withInput && Pick(4) == 0)
+            return Click();
+        using Self = GridSequence;
+        static constexpr void (Self::*kOperations[])() = {
+            &Self::SetCounts,   &Self::SetFixed,    &Self::Insert,  &Self::Insert,
+            &Self::Delete,      &Self::ChangeItem,  &Self::SetSize, &Self::ChangeItem,
+            &Self::SetFocus,    &Self::SetFocus,    &Self::Sort,    &Self::Scroll,
+            &Self::SelectRange, &Self::SelectRange, &Self::Key,     &Self::Key};
+        (this->*OneOf(kOperations))();
     }
 
     void SetCounts()
@@ -277,19 +264,16 @@ private:
     /// Of one cell, or of all that are made from now on.
     void SetKind()
     {
-        const int kind = Pick(std::size(kKinds));
-        CRuntimeClass* const pClass = kKinds[kind];
-        if (Pick(2))
+        const int kind = Pick(std::size(kKinds)), r = Index(m_model.RowCount()),
+                  c = Index(m_model.ColCount());
+        const bool exists = m_model.Has(r, c), ofNew = Pick(2) != 0;
+        Say(ofNew ? "SetDefaultCellType" : "SetCellType", r, c, kind);
+        if (ofNew)
         {
-            Say("SetDefaultCellType", kind);
-            Expect(m_grid.SetDefaultCellType(pClass), "SetDefaultCellType answers 0");
             m_model.newKind = kind;
-            return;
+            return Expect(m_grid.SetDefaultCellType(kKinds[kind]), "SetDefaultCellType answers 0");
         }
-        const int r = Index(m_model.RowCount()), c = Index(m_model.ColCount());
-        Say("SetCellType", r, c, kind);
-        const bool exists = m_model.Has(r, c);
-        Expect((m_grid.SetCellType(r, c, pClass) != FALSE) == exists, "SetCellType answers wrong");
+        Expect(m_grid.SetCellType(r, c, kKinds[kind]) == BOOL(exists), "SetCellType answers wrong");
         if (exists)
             m_model.At(r, c).kind = kind;
     }
@@ -313,7 +297,7 @@ private:
         else if (what == 5)
         {
             m_grid.SetModified(FALSE);
-            m_model.ForgetChanges();
+            m_model.SetModified(false);
         }
         else if (exists)
         {
@@ -348,18 +332,11 @@ private:
 
     void SetFocus()
     {
-        if (!m_model.HasBody() || Pick(8) == 0)
-        {
-            Say("SetFocusCell -1 -1");
-            m_grid.SetFocusCell(-1, -1);
-            m_model.focus = CCellID();
-            return;
-        }
-        const int r = Pick(m_model.RowCount());
-        const int c = Pick(m_model.ColCount());
+        const bool none = !m_model.HasBody() || Pick(8) == 0;
+        const int r = none ? -1 : Pick(m_model.RowCount()), c = none ? -1 : Pick(m_model.ColCount());
         Say("SetFocusCell", r, c);
         Expect(m_grid.SetFocusCell(r, c) == m_model.focus, "SetFocusCell answers another old focus");
-        m_model.focus = m_model.RaisedToBody(r, c);
+        m_model.focus = none ? CCellID() : m_model.RaisedToBody(r, c);
     }
 
     void SelectRange()
@@ -453,7 +430,6 @@ private:
     /// A press and release in the middle of a cell, which may start an edit.
     void Click()
     {
-        // Now and then on the focus cell, where an edit starts.
         const CCellID& focus = m_model.focus;
         const bool again = Pick(3) == 0 && m_model.Has(focus.row, focus.col);
         const int r = again ? focus.row : Pick(m_model.RowCount());
@@ -508,24 +484,24 @@ private:
         if (way == 0 || text == cell.text)
             return;
         // Cell and parent may refuse it: the old text comes back, and the cell stays marked.
-        if (way != 1 && Accepts(cell.kind, text))
+        const bool isNumber = !text.empty() && text.find_first_not_of(L"0123456789") == std::wstring::npos;
+        if (way != 1 && (isNumber || !IsA(cell.kind, RUNTIME_CLASS(CLimitedIntCell))))
             cell.text = text;
         Changed(r, c);
     }
 
     void Check() override
     {
-        Expect(m_grid.GetRowCount() == m_model.RowCount(), "row count");
-        Expect(m_grid.GetColumnCount() == m_model.ColCount(), "column count");
-        Expect(m_grid.GetFixedRowCount() == m_model.fixed[true], "fixed row count");
-        Expect(m_grid.GetFixedColumnCount() == m_model.fixed[false], "fixed column count");
+        const CCellID counts(m_model.RowCount(), m_model.ColCount()),
+            fixed(m_model.fixed[true], m_model.fixed[false]);
+        if (CCellID(m_grid.GetRowCount(), m_grid.GetColumnCount()) != counts)
+            return Problem("counts of rows and columns");
+        Expect(CCellID(m_grid.GetFixedRowCount(), m_grid.GetFixedColumnCount()) == fixed, "fixed counts");
         Expect(m_grid.GetFocusCell() == m_model.focus, "focus");
         Expect(m_grid.GetSortColumn() == m_model.sortColumn, "sort column");
         Expect((m_grid.GetModified() != 0) == m_model.modified, "whether it is modified");
         Expect((m_grid.*&OpenGrid::GetMouseMode)() == 0, "mouse mode");
         Expect(!m_grid.GetDlgItem(InPlaceControlId), "an editor is left");
-        if (m_grid.GetRowCount() != m_model.RowCount() || m_grid.GetColumnCount() != m_model.ColCount())
-            return;
         CheckCells();
         CheckSizes();
         CheckTopLeft();

@@ -153,9 +153,8 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
     owtest::Surface bare(100, 40);
     EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), FALSE));
     EXPECT_EQ(bare.at(30, 10), RGB(255, 0, 255)) << "an inherited one is the grid's business";
-    EXPECT_FALSE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 0, 19), TRUE));
-    EXPECT_FALSE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 0), TRUE));
-    EXPECT_TRUE(plain.Draw(&bare.dc(), 3, 2, CRect(0, 0, 1, 1), TRUE));
+    for (const CSize size : {CSize(0, 19), CSize(59, 0), CSize(1, 1)})
+        EXPECT_EQ(plain.Draw(&bare.dc(), 3, 2, CRect(CPoint(0, 0), size), TRUE), size == CSize(1, 1));
     EXPECT_FALSE(plain.Draw(nullptr, 3, 2, CRect(0, 0, 59, 19), TRUE));
     EXPECT_FALSE(CGridCell().Draw(&bare.dc(), 3, 2, CRect(0, 0, 59, 19), TRUE)) << "no grid";
 
@@ -219,10 +218,8 @@ TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnlyAndMakesTheTextMove)
 
     // It comes with its column, and goes with it.
     grid.SetColumnWidth(1, kColWidth, TRUE);
-    const CRect first(0, 0, 60, 20);
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), CRect(0, 0, 120, 20));
-    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(-1); }), first);
-    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), first);
+    EXPECT_EQ(Repainted([&] { grid.SetSortColumn(-1); }), CRect(0, 0, 60, 20));
 }
 
 TEST_F(GridDrawing, TheImageMakesRoomForTheText)
@@ -241,12 +238,7 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     const int margin = static_cast<int>(imaged.GetMargin());
     EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);
     EXPECT_EQ(imaged.GetCellExtent(nullptr), CSize(imaged.GetTextExtent(imaged.GetText()).cx + 13, 41));
-    grid.SetItemImage(2, 2, 9);
-    grid.GetTextRect(2, 2, &text);
-    EXPECT_EQ(text.left, cell.left) << "an image that is not there takes no room";
-
     // It is left out where it does not fit, the margin counted in on all sides.
-    grid.SetItemImage(2, 2, 0);
     for (const auto& [size, shows] :
          {std::pair(CSize(14, 60), true), std::pair(CSize(13, 60), false),
           std::pair(CSize(60, 42 - margin), true), std::pair(CSize(60, 41 - margin), false)})
@@ -255,7 +247,7 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
         imaged.Draw(&drawn.dc(), 2, 2, CRect(CPoint(2, 2), size - CSize(1, 1)), FALSE);
         EXPECT_EQ(drawn.count(CRect(0, 0, 80, 60), RGB(255, 0, 0)) > 0, shows) << size.cx << ',' << size.cy;
     }
-    grid.SetImageList(nullptr);
+    grid.SetItemImage(2, 2, 9); // there is none, which takes no room
     EXPECT_EQ(imaged.GetCellExtent(nullptr), imaged.GetTextExtent(imaged.GetText()));
 }
 
@@ -295,8 +287,8 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
         grid.SetFont(&font);
         cell.SetMargin(margin); // which is the font's otherwise
         ASSERT_TRUE(grid.GetFont() && grid.GetFont()->GetLogFont(&told));
-        for (const LONG height : {told.lfHeight, grid.GetDefaultCell(TRUE, TRUE)->GetFont()->lfHeight})
-            EXPECT_EQ(height, lf.lfHeight);
+        EXPECT_EQ(told.lfHeight, lf.lfHeight);
+        EXPECT_EQ(grid.GetDefaultCell(TRUE, TRUE)->GetFont()->lfHeight, lf.lfHeight);
         for (const wchar_t* text : {L"12", L"IPE 200", L"fi\x0160 \x0428", L"e\x0301 \x05D0\x05D1",
                                     L"much too long for the width of its column", L"two\nlines"})
             for (const UINT align : {UINT(DT_LEFT), UINT(DT_CENTER), UINT(DT_RIGHT)})

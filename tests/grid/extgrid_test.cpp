@@ -109,11 +109,6 @@ protected:
         grid.SetColumnCount(4);
         handler = {};
     }
-    void RightClick(CPoint point)
-    {
-        this->Send(WM_RBUTTONDOWN, point, MK_RBUTTON);
-        this->Send(WM_RBUTTONUP, point);
-    }
     /// Types a text into the focus cell and ends the edit; what the handler was told.
     std::string Enter(const wchar_t* text)
     {
@@ -130,7 +125,6 @@ protected:
         return this->parent.SendMessage(WM_NOTIFY, kGridId, reinterpret_cast<LPARAM>(&record));
     }
     std::string Colours() const { return ColoursOf(grid); }
-    /// What the handler was told, and the colours since.
     std::string Told() { return handler.Take() + Colours(); }
 
     using GridTestOf<Grid>::grid;
@@ -185,8 +179,7 @@ TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
     EXPECT_EQ(handler.Take(), "77 row 3 after -1; ");
     EXPECT_EQ(grid.GetFocusCell(), CCellID()) << "the focus is another matter";
 
-    // A fixed row is remembered as it is, and loses its colour as if it had been painted.
-    grid.SelectRowEx(0, 1);
+    grid.SelectRowEx(0, 1); // is remembered as it is, and loses its colour as if it had been painted
     EXPECT_EQ(Colours(), ".... .### .... .www .... ");
     grid.SelectRowEx(1, 1);
     EXPECT_EQ(Told(), "77 row 1 after 3; 77 row 1 after 0; .www .### .... .www .... ");
@@ -240,7 +233,7 @@ TEST_F(ExtGrid, TheHookAnswersForTheParent)
     for (const UINT nCode : {LVN_ITEMCHANGED, NM_RCLICK})
         for (const int nRow : {3, 0, 5})
             EXPECT_EQ(Notify(nCode, nRow, 1), 1);
-    RightClick(CPoint(290, 190)); // outside all cells
+    Send(WM_RBUTTONUP, CPoint(290, 190)); // outside all cells
     EXPECT_EQ(Notify(NM_CLICK, 2, 1), 77) << "of all others the parent's answer";
     EXPECT_EQ(handler.Take(), "77 text 2,1 2/1; 77 text 2,2 2/2; 77 row 3 after -1; 77 row 1 after 3; 77 "
                               "rclick 3; 77 rclick 1; 77 rclick 1; ");
@@ -334,8 +327,8 @@ TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
     handler.accepts = [](const CString&) { return false; };
     EXPECT_EQ(Enter(L"7"), "77 text 2,3 7; ");
     EXPECT_EQ(grid.GetItemText(2, 3), L"2/3");
-    RightClick(MiddleOf(grid, 0, 2));
-    RightClick(MiddleOf(grid, 3, 0));
+    for (const CPoint point : {MiddleOf(grid, 0, 2), MiddleOf(grid, 3, 0)})
+        Send(WM_RBUTTONUP, point);
     EXPECT_EQ(handler.Take(), "77 cell 1,2 after 2,3; 77 rclick 1,2; 77 cell 3,1 after 1,2; 77 rclick 3,1; ");
     for (const auto& [nCode, cell] :
          {std::pair(NM_RCLICK, CCellID(5, 1)), std::pair(NM_RCLICK, CCellID(1, 4)),

@@ -95,7 +95,6 @@ TEST_F(GridMouse, WhatIsPressedAndTheModesShapeWhatIsSelected)
     grid.SetSortColumn(2);
     grid.SetListMode();
     EXPECT_EQ(grid.GetSortColumn(), -1);
-    EXPECT_EQ(Drawn({3, 2}, {3, 2}), "3,2 [3,1-3,6]=6 changed 3,2 changing 3,2 click 3,2 #");
     EXPECT_EQ(Drawn({4, 1}, {6, 1}), "6,1 [4,1-6,6]=18 changed 4,1 changing 4,1 changed 6,1 click 4,1 #");
     EXPECT_EQ(Clicked(5, 2, MK_CONTROL), "5,2 [4,1-6,6]=12 changed 5,2 click 5,2 #") << "takes the row away";
     grid.SetSingleRowSelection();
@@ -146,8 +145,6 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     Drag(row, CPoint(30, 75));
     Drag(column, CPoint(150, 10));
     EXPECT_EQ(SizeOf(2, 1), CSize(150 - kColWidth, 75 - 2 * kRowHeight));
-    owtest::MoveTo(grid, CPoint(149, 10));
-    EXPECT_EQ(grid.GetMouseMode(), 8) << "the divider is where it was moved to";
     SetSizes(grid);
     owtest::ButtonDown(grid, column);
     CRect held;
@@ -175,7 +172,6 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     grid.EnableRowHide(FALSE);
     EXPECT_EQ(close(), CSize(1, 1));
 
-    // With opening switched off the nearest one that shows is sized instead.
     SetSizes(grid);
     grid.SetColumnWidth(2, 0, TRUE);
     grid.SetRowHeight(3, 0);
@@ -183,8 +179,7 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     grid.EnableHiddenRowUnhide(FALSE);
     Drag(column + CSize(2, 0), CPoint(150, 10));
     Drag(row + CSize(0, 2), CPoint(30, 70));
-    EXPECT_EQ(SizeOf(2, 1), CSize(90, 30));
-    EXPECT_EQ(SizeOf(3, 2), CSize(0, 0));
+    EXPECT_EQ(SizeOf(2, 1), CSize(90, 30)) << "the nearest ones that show";
 
     SetSizes(grid);
     Send(WM_MOUSEMOVE, column);
@@ -249,19 +244,14 @@ TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
 TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
 {
     grid.SetItemText(5, 1, L"the longest text of its column by far");
-    const int nWide = grid.GetCellTextExtent(5, 1).cx;
-    const auto doubleClick = [&](CPoint point)
-    {
-        Send(WM_MOUSEMOVE, point);
-        EXPECT_EQ(Repainted([&] { Send(WM_LBUTTONDBLCLK, point, MK_LBUTTON); }), Client());
-    };
-    doubleClick(ColumnDivider(1));
-    EXPECT_EQ(grid.GetColumnWidth(1), nWide);
-    // Below a row the double click means that row; in its top pixels it still does, unlike the drag.
     grid.SetRowHeight(4, 60);
-    doubleClick(CPoint(30, 4 * kRowHeight + 1));
-    EXPECT_LT(grid.GetRowHeight(4), 60);
-    EXPECT_EQ(grid.GetRowHeight(3), kRowHeight);
+    for (const CPoint divider : {ColumnDivider(1), CPoint(30, 4 * kRowHeight + 1)})
+    {
+        Send(WM_MOUSEMOVE, divider);
+        EXPECT_EQ(Repainted([&] { Send(WM_LBUTTONDBLCLK, divider, MK_LBUTTON); }), Client());
+    }
+    EXPECT_EQ(grid.GetColumnWidth(1), grid.GetCellTextExtent(5, 1).cx);
+    EXPECT_LT(grid.GetRowHeight(4), 60) << "below a row that row is meant";
     EXPECT_EQ(parent.Take(), Calls{}) << "no double click of a cell";
 }
 
@@ -281,7 +271,6 @@ TEST_F(GridMouse, ASecondClickOrADoubleClickInTheTextEdits)
         << "outside the text a press selects";
     owtest::ButtonUp();
     grid.SetImageList(nullptr);
-
     const CPoint point = MiddleOf(grid, 3, 3);
     SendClick(point);
     parent.Take();
@@ -322,15 +311,13 @@ TEST_F(GridMouse, TheRightButtonFocusesAndTellsUnlessItIsSwitchedOff)
 TEST_F(GridMouse, AClickOnAHeaderSortsAndTheNextOneTurnsTheOrder)
 {
     grid.SetHeaderSort();
-    for (const wchar_t* first : {L"1/1", L"9/1", L"1/1"})
+    for (const auto& [column, first] :
+         {std::pair(1, L"1/1"), {1, L"9/1"}, {1, L"1/1"}, {1, L"9/1"}, {2, L"1/1"}})
     {
-        ClickCell(0, 1);
+        ClickCell(0, column);
         EXPECT_EQ(Text(1, 1), first);
-        EXPECT_EQ(grid.GetSortColumn(), 1);
+        EXPECT_EQ(grid.GetSortColumn(), column);
     }
-    ClickCell(0, 1);
-    ClickCell(0, 2);
-    EXPECT_TRUE(grid.GetSortAscending()) << "another column begins ascending";
 }
 
 TEST_F(GridMouse, APressThatIsInterruptedWhileTheParentAnswersBeginsNothing)

@@ -1,9 +1,8 @@
-// What needs no window: grids whose memory ends, the memory of cells, the sort, the fields of a line.
+// What needs no window: grids whose memory ends, the memory of cells, the sort.
 
 #include "GridFixture.h"
 
 #include "grid/RowSorter.h"
-#include "grid/TextFields.h"
 
 #include <atomic>
 
@@ -107,18 +106,13 @@ TEST(CellMemory, ComesInBlocksThatGoBackWithTheirLastCell)
     const CountedHeap heap;
     s_allocations = 3;
     std::vector<void*> cells;
-    const auto takeTo = [&](size_t count)
-    {
-        while (cells.size() < count)
-            cells.push_back(CGridCellBase::operator new(size));
-    };
-    takeTo(2 * inBlock + 1);
-    for (void*& p : {std::ref(cells[inBlock]), std::ref(cells[0])}) // of full blocks, which have room then
-        CGridCellBase::operator delete(std::exchange(p, nullptr), size);
-    for (void*& p : {std::ref(cells[0]), std::ref(cells[inBlock])})
-        p = CGridCellBase::operator new(size);
-    takeTo(3 * inBlock);
-    EXPECT_THROW(takeTo(cells.size() + 1), CMemoryException*) << "the fourth block";
+    while (cells.size() < 3 * inBlock)
+        cells.push_back(CGridCellBase::operator new(size));
+    for (const int i : {inBlock, 0}) // of full blocks, which have room then
+        CGridCellBase::operator delete(cells[i], size);
+    for (const int i : {0, inBlock})
+        cells[i] = CGridCellBase::operator new(size);
+    EXPECT_THROW(CGridCellBase::operator new(size), CMemoryException*) << "the fourth block";
     for (int left = static_cast<int>(cells.size()); left > 0;)
     {
         EXPECT_EQ(s_blocks, (left + inBlock - 1) / inBlock);
@@ -178,27 +172,5 @@ TEST(RowSorter, StopsWhereItIsBrokenAndTakesAnyOrder)
         CRowSorter(many, false).Sort(0, 99999);
         EXPECT_TRUE(std::is_sorted(many.all.rbegin(), many.all.rend(), byTens));
         EXPECT_FALSE(many.equalMoved) << "equal ones stay";
-    }
-}
-
-TEST(TextFields, EndAtSeparatorsAndGoOnBehindAnUnendedLine)
-{
-    using Fields = std::vector<std::wstring>;
-    // A line, what the line left of the one before it, if any, follows a 0; and its fields.
-    using Row = std::pair<std::wstring, Fields>;
-    for (const auto& [text, expected] :
-         {Row{L"a;b\n", {L"a", L"b"}}, Row{L"x;;y\n", {L"x", L"", L"y"}}, Row{L"\n", {L""}}, Row{L"", {}},
-          Row{L"a,b", {L"a,b"}}, Row{L"end;\n", {L"end", L""}},
-          Row{std::wstring(L"xy;z\0old;er\n", 12), {L"xy", L"z", L"old", L"er"}},
-          Row{std::wstring(1023, L'x'), {std::wstring(1023, L'x')}},
-          Row{std::wstring(1023, L';'), Fields(1023)}})
-    {
-        wchar_t line[CTextFields::kLineSize] = {};
-        std::copy(text.begin(), text.end(), line);
-        CTextFields fields(line, L';');
-        Fields found;
-        while (const wchar_t* const field = fields.Next())
-            found.push_back(field);
-        EXPECT_EQ(found, expected) << text.c_str();
     }
 }
