@@ -162,13 +162,7 @@ TEST_F(ExtGrid, TheHandlerDecidesAboutAnEdit)
     EXPECT_EQ(Enter(L"x"), "77 text 2,2 x; ");
     EXPECT_EQ(grid.GetItemText(2, 2), L"IPE 200")
         << "refused; the cell held it already when the handler was asked";
-    handler.accepts = [&](const CString&)
-    {
-        grid.SetFocusCell(4, 1); // moves on from within the call
-        return true;
-    };
-    EXPECT_EQ(Enter(L"y"), "77 text 2,2 y; 77 row 4 after 2; ");
-    EXPECT_EQ(parent.Take(), Calls(3, "begin 2,2")) << "of the end only the handler hears";
+    EXPECT_EQ(parent.Take(), Calls(2, "begin 2,2")) << "of the end only the handler hears";
 }
 
 TEST_F(ExtGrid, SelectRowExMakesARowCurrentOnce)
@@ -195,13 +189,6 @@ TEST_F(ExtGrid, AChangeSwitchesDrawingOnAndScrollsNothing)
     EXPECT_EQ(repainted, Client());
     EXPECT_EQ(grid.GetScrollPos(SB_VERT), 0);
     EXPECT_TRUE(grid.RedrawCell(1, 1)) << "which it does not do while drawing is off";
-
-    grid.SetVirtualMode(TRUE); // nor does a grid without cells mind
-    grid.SetColumnCount(4);
-    grid.SetRowCount(1000);
-    handler.Take();
-    grid.SelectRowEx(900, 1);
-    EXPECT_EQ(handler.Take(), "77 row 900 after 90; ");
 }
 
 TEST_F(ExtGrid, AHandlerMayTakeRowsOrTheWindowAway)
@@ -324,15 +311,12 @@ TEST_F(ExtGrid2, ACrossStandsOnBandAndBody)
 TEST_F(ExtGrid2, EditsAndRightClicksComeWithTheirCell)
 {
     grid.SetFocusCell(2, 3);
-    handler.accepts = [](const CString&) { return false; };
     EXPECT_EQ(Enter(L"7"), "77 text 2,3 7; ");
-    EXPECT_EQ(grid.GetItemText(2, 3), L"2/3");
     for (const CPoint point : {MiddleOf(grid, 0, 2), MiddleOf(grid, 3, 0)})
         Send(WM_RBUTTONUP, point);
     EXPECT_EQ(handler.Take(), "77 cell 1,2 after 2,3; 77 rclick 1,2; 77 cell 3,1 after 1,2; 77 rclick 3,1; ");
     for (const auto& [nCode, cell] :
-         {std::pair(NM_RCLICK, CCellID(5, 1)), std::pair(NM_RCLICK, CCellID(1, 4)),
-          std::pair(LVN_ITEMCHANGED, CCellID(1, 4))})
+         {std::pair(NM_RCLICK, CCellID(5, 1)), {NM_RCLICK, {1, 4}}, {LVN_ITEMCHANGED, {1, 4}}})
         EXPECT_EQ(Notify(nCode, cell.row, cell.col), 1);
     EXPECT_EQ(handler.Take(), "") << "past the end";
 }

@@ -195,9 +195,7 @@ TEST_F(GridLife, ADisplayRequestMayTakeRowsAway)
 
 TEST_F(GridLife, EndsWhereItBegan)
 {
-    CRuntimeClass* const kinds[] = {RUNTIME_CLASS(CGridCell), RUNTIME_CLASS(CGridCellCombo)};
     LOGFONT lf{};
-    wcscpy(lf.lfFaceName, L"Liberation Sans");
     const auto live = [&](int times)
     {
         for (int i = 0; i < times; ++i)
@@ -208,7 +206,8 @@ TEST_F(GridLife, EndsWhereItBegan)
             UseGrid();
             if (i % 2) // and destroyed in the middle of it
             {
-                grid->SetCellType(2, 2, kinds[i % 4 / 2]);
+                grid->SetCellType(2, 2,
+                                  i % 4 == 1 ? RUNTIME_CLASS(CGridCell) : RUNTIME_CLASS(CGridCellCombo));
                 grid->SetFocusCell(2, 2);
                 grid->StartEditCell();
             }
@@ -217,18 +216,14 @@ TEST_F(GridLife, EndsWhereItBegan)
         grid = nullptr;
         owtest::Pump();
         parent.Take();
-    };
-    const auto heapBytes = []
-    {
         for (LONG idle = 0; AfxGetApp()->OnIdle(idle); ++idle) // what MFC keeps until then
             ;
-        return owtest::CountHeapBytes();
     };
     live(20);
     const owtest::HandleCount handles = owtest::CountHandles();
-    const size_t bytes = heapBytes();
+    const size_t bytes = owtest::CountHeapBytes();
     live(80);
     EXPECT_EQ(owtest::CountHandles().gdi, handles.gdi);
     EXPECT_EQ(owtest::CountHandles().windows, handles.windows);
-    EXPECT_LT(heapBytes(), bytes + 2048) << "a fraction of what one life takes";
+    EXPECT_LT(owtest::CountHeapBytes(), bytes + 2048) << "a fraction of what one life takes";
 }

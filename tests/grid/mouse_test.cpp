@@ -49,8 +49,7 @@ TEST_F(GridMouse, ADragSelectsARectangleAndTellsOfRowsOnly)
     EXPECT_EQ(MovedTo(MiddleOf(grid, 4, 3)), "4,3 [2,1-4,3]=9 mode 4 timer capture changed 4,3");
     Send(WM_MOUSEMOVE, MiddleOf(grid, 4, 0), MK_LBUTTON);
     EXPECT_EQ(grid.GetFocusCell(), CCellID(4, 3)) << "not into the headings";
-    EXPECT_EQ(MovedTo(MiddleOf(grid, 1, 1)), "1,1 [1,1-2,1]=2 mode 4 timer capture changed 1,1")
-        << "the anchor stays";
+    EXPECT_EQ(MovedTo(MiddleOf(grid, 1, 1)), "1,1 [1,1-2,1]=2 mode 4 timer capture changed 1,1");
     ::SetCapture(parent);
     ::ReleaseCapture();
     EXPECT_EQ(Seen(), "1,1 [1,1-2,1]=2 mode 4") << "the mode stays until the release";
@@ -66,13 +65,11 @@ TEST_F(GridMouse, ADragBeyondTheEdgeScrollsByTheTimer)
     };
     owtest::ButtonDown(grid, MiddleOf(grid, 3, 2));
     EXPECT_TRUE(reaches({90, 215}, &CCellID::row, kRows - 1)) << "goes on without a move";
-    EXPECT_TRUE(Selected().minRow == 3 && Selected().maxRow >= kRows - 2);
     EXPECT_TRUE(reaches({90, -5}, &CCellID::row, 1));
     EXPECT_TRUE(reaches({310, 100}, &CCellID::col, kCols - 1));
     EXPECT_EQ(Selected().maxRow, 5) << "as far as the pointer";
     EXPECT_TRUE(reaches({-5, 100}, &CCellID::col, 1));
     Released();
-    EXPECT_TRUE(NoGesture());
     EXPECT_EQ(Pressed(CPoint(90, 10)), "1,1 [1,1-20,1]=20 mode 2 capture changed 1,1 changing 0,1")
         << "a drag on a header does not scroll";
     owtest::ButtonUp();
@@ -91,7 +88,6 @@ TEST_F(GridMouse, WhatIsPressedAndTheModesShapeWhatIsSelected)
     EXPECT_EQ(Clicked(0, 3), "1,3 [1,1-20,6]=120 changed 1,3 changing 0,3 click 0,3 #")
         << "selects nothing, and is a click all the same";
     EXPECT_EQ(Clicked(4, 0), "4,1 [1,1-20,6]=120 changed 4,1 changing 4,0 click 4,0 #");
-
     grid.SetSortColumn(2);
     grid.SetListMode();
     EXPECT_EQ(grid.GetSortColumn(), -1);
@@ -112,7 +108,6 @@ TEST_F(GridMouse, ShiftExtendsAndControlAddsAndTakesAway)
     Clicked(2, 1);
     EXPECT_EQ(Clicked(4, 2, MK_SHIFT), "4,2 [2,1-4,2]=6 changed 4,2 changing 4,2 click 4,2 #");
     EXPECT_EQ(Clicked(7, 3, MK_CONTROL), "7,3 [2,1-7,3]=7 changed 7,3 changing 7,3 click 7,3 #");
-    EXPECT_TRUE(grid.IsCellSelected(3, 1) && grid.IsCellSelected(7, 3));
     EXPECT_EQ(Clicked(3, 1, MK_CONTROL), "3,1 [2,1-7,3]=6 changed 3,1 click 3,1 #");
     EXPECT_FALSE(grid.IsCellSelected(3, 1));
     EXPECT_EQ(Clicked(3, 1, MK_CONTROL), "3,1 [2,1-7,3]=7 changed 3,1 changing 3,1 click 3,1 #")
@@ -129,13 +124,12 @@ TEST_F(GridMouse, ShiftExtendsAndControlAddsAndTakesAway)
 TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
 {
     const CPoint column = ColumnDivider(1), row = RowDivider(2);
-    for (const bool allowed : {true, false, true})
+    for (const bool allowed : {false, true})
     {
         grid.SetColumnResize(allowed);
         grid.SetRowResize(allowed);
         for (const auto& [point, mode, cursor] :
-             {std::tuple(column, 8, IDC_SIZEWE), std::tuple(row, 6, IDC_SIZENS),
-              std::tuple(ColumnDivider(2), 8, IDC_SIZEWE), std::tuple(MiddleOf(grid, 3, 3), 0, IDC_ARROW)})
+             {std::tuple(column, 8, IDC_SIZEWE), {row, 6, IDC_SIZENS}, {MiddleOf(grid, 3, 3), 0, IDC_ARROW}})
         {
             owtest::MoveTo(grid, point);
             EXPECT_EQ(grid.GetMouseMode(), allowed ? mode : 0) << point.x << ',' << point.y;
@@ -156,7 +150,6 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     EXPECT_EQ(SizeOf(2, 1), CSize(kColWidth, kRowHeight)) << "without a way, and at the corner, nothing";
     EXPECT_TRUE(NoGesture());
     EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW)) << "until the next move";
-
     const auto close = [&]
     {
         DragByMessages(column, CPoint(kColWidth - 30, 10));
@@ -202,7 +195,7 @@ TEST_F(GridMouse, TheMarkerOfADragLeavesNothingBehind)
         capture(before);
         Send(WM_MOUSEMOVE, divider - CSize(1, 1)); // a press may come from elsewhere
         Send(WM_LBUTTONDOWN, divider, MK_LBUTTON);
-        for (const int way : {10, 30, 20})
+        for (const int way : {10, 20})
             Send(WM_MOUSEMOVE, divider + (column ? CSize(way, 0) : CSize(0, way)), MK_LBUTTON);
         capture(during);
         Send(WM_LBUTTONUP, divider);
@@ -233,7 +226,7 @@ TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
     }
     grid.EndEditing();
 
-    // A drag ends with a click of the cell that has the focus by then, and tells the one that was pressed.
+    // A drag ends with a click of the focus cell, and tells the one that was pressed.
     Send(WM_LBUTTONDOWN, CPoint(125, 103), MK_LBUTTON);
     Send(WM_MOUSEMOVE, CPoint(125, 63), MK_LBUTTON);
     parent.Take();
@@ -295,7 +288,6 @@ TEST_F(GridMouse, TheRightButtonFocusesAndTellsUnlessItIsSwitchedOff)
     };
     EXPECT_EQ(told(MiddleOf(grid, 0, 3)), "1,3 changed 1,3 rclick 0,3")
         << "the real cell is told, the raised one focused";
-    EXPECT_EQ(told(MiddleOf(grid, 1, 3)), "1,3 changed 1,3 rclick 1,3") << "the focus is given anew";
     grid.SetColumnCount(2);
     EXPECT_EQ(told(CPoint(280, 100)), "-1,-1 rclick -1,-1") << "beside all cells";
     SendClick(CPoint(280, 100));
