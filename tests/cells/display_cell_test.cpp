@@ -33,7 +33,6 @@ TEST_F(DisplayCells, APatternIsInTheMixOnTheBackgroundWhereNothingIsSelected)
         {CELL_FOCUSED | CELL_SELECTED, kBack, kPattern, HS_CROSS, kBack, true, selectedText},
         {0, CLR_INHERIT, kPattern, HS_CROSS, RGB(0, 0, 0), false, kUntouched}, // which counts as black
         {0, kBack, kPattern, 77, kBack, false, kUntouched},
-        {0, kBack, kPattern, -1, kBack, false, kUntouched},
         {0, kBack, kNone, HS_CROSS, kBack, false, kUntouched},
         {0, CLR_INHERIT, kNone, HS_CROSS, grid.GetTextBkColor(), false, kUntouched}};
     for (int style = HS_HORIZONTAL; style <= HS_DIAGCROSS; ++style)
@@ -80,8 +79,7 @@ TEST_F(DisplayCells, AnImageStandsWhereTheFormatSaysIfItFits)
     cell = Make<CImageGridCell>(RUNTIME_CLASS(CImageGridCell));
     // In 51 by 39 pixels between the margins, which are room, too, an image of 11 by 7, as it is counted.
     // The format, the margin, the cell, where the image is drawn, and which one.
-    const CRect roomy(20, 10, 79, 49);
-    const CRect none;
+    const CRect roomy(20, 10, 79, 49), none;
     using Row = std::tuple<DWORD, UINT, CRect, CRect, int>;
     for (const auto& [format, margin, rect, drawn, index] :
          {Row{DT_LEFT, 4, roomy, {24, 10, 34, 16}, 0},
@@ -162,11 +160,9 @@ TEST_F(DisplayCells, MixedTextStandsByTheFormatInTheFontOfTheGridsWindow)
         EXPECT_TRUE(canvas == expected) << format;
         EXPECT_EQ(stateOf(canvas.dc()), before);
     }
-    EXPECT_STREQ(cell.GetText(), kMixed);
     EXPECT_FALSE(cell.Draw(nullptr, kRow, kCol, rect, TRUE));
     Canvas none;
     EXPECT_FALSE(Draw(none, cell, CRect(10, 10, 10, 20)));
-    EXPECT_EQ(none.Count(kUntouched), 200 * 60);
 }
 
 TEST_F(DisplayCells, MixedTextKeepsTheInheritedColourAndIsCutOff)
@@ -262,7 +258,6 @@ TEST_F(AnsiCells, AskTheTranslatorWhenMadeAndTheOneForDrawingsWhenEdited)
          {std::tuple<CAnsiGridCell*, WORD, BYTE>(&byGreek, LANG_NEUTRAL, usual), // the display's by now
           {&byDisplay, LANG_GREEK, usual}, // was not needed when it was made
           {&byRussian, LANG_GREEK, GREEK_CHARSET},
-          {&byGreek, LANG_GREEK, GREEK_CHARSET},
           {&byGreek, LANG_GREEK, GREEK_CHARSET}})
     {
         if (language != LANG_NEUTRAL)

@@ -148,9 +148,8 @@ TEST(LimitedExponent, IsTypedAndShownWithFourDecimals)
         EXPECT_EQ(cell.Get(kCol), value);
         EXPECT_STREQ(cell.GetText(), gfnFormatDouble(L"%.4E", value)) << value;
     }
-    const auto shown = [](double value) { return gfnFormatDouble(L"%.4E", value); };
     cell.SetLocalMin(1e-2, FALSE);
-    Takes(cell, {L"2.5e3", shown(2500), L"1E-1", shown(0.1)});
+    Takes(cell, {L"2.5e3", gfnFormatDouble(L"%.4E", 2500.0), L"1E-1", gfnFormatDouble(L"%.4E", 0.1)});
     Refuses(cell, {L"", L"1d5", L"1E5 ", L"?", L"e5", L"0.01"});
     TakesAs(cell, DBL_MAX, L"1e999");
     cell.Set(kCol, -std::numeric_limits<double>::infinity());

@@ -40,8 +40,7 @@ struct Line
     int size;
 };
 
-/// What the grid must hold, written down without any of the grid's means. What is the same for rows and for
-/// columns asks which of them is meant.
+/// What the grid must hold. What is the same for rows and for columns asks which of them is meant.
 class Model
 {
 public:
@@ -222,7 +221,6 @@ private:
         if (m_model.Count(!row) == 0)
             Resize(!row, 1);
         m_model.Insert(row, expected, row ? m_grid.GetRowHeight(expected) : m_grid.GetColumnWidth(expected));
-        Expect(!row || m_model.lines[true][expected].size > 0, "an inserted row has no height");
         ModelCell& head = row ? m_model.At(expected, 0) : m_model.At(0, expected);
         head.text = heading;
         head.state = CELL_MODIFIED;
@@ -231,23 +229,16 @@ private:
     void Delete()
     {
         const int what = Pick(16);
-        if (what == 0)
-        {
-            Say("DeleteAllItems");
-            Expect(m_grid.DeleteAllItems(), "DeleteAllItems answers 0");
+        if (what > 1)
+            return DeleteOne(what < 9);
+        Say(what ? "DeleteNonFixedRows" : "DeleteAllItems");
+        Expect(what ? m_grid.DeleteNonFixedRows() : m_grid.DeleteAllItems(), "deleting all answers 0");
+        m_model.Reset();
+        const int rows = what ? m_model.fixed[true] : 0;
+        if (!what)
             m_model = Model(m_model.newKind);
-            m_model.modified = true;
-        }
-        else if (what == 1)
-        {
-            Say("DeleteNonFixedRows");
-            Expect(m_grid.DeleteNonFixedRows(), "DeleteNonFixedRows answers 0");
-            m_model.Reset();
-            if (m_model.RowCount() > m_model.fixed[true])
-                Resize(true, m_model.fixed[true]);
-        }
-        else
-            DeleteOne(what < 9);
+        if (!what || m_model.RowCount() > rows)
+            Resize(true, rows);
     }
 
     void DeleteOne(bool row)
@@ -354,7 +345,6 @@ private:
             m_model.Select(CCellRange(from.row, from.col, to.row, to.col), select);
     }
 
-    /// The order of equal rows is not told.
     void Sort()
     {
         if (m_model.ColCount() == 0)
@@ -431,9 +421,9 @@ private:
         const CPoint point = MiddleOf(m_grid, r, c);
         CRect client;
         m_grid.GetClientRect(client);
-        if (!client.PtInRect(point) || m_grid.GetCellFromPt(point) != CCellID(r, c) ||
-            m_model.lines[true][r].size < 12 || m_model.lines[false][c].size < 12)
+        if (!client.PtInRect(point) || m_model.lines[true][r].size < 12 || m_model.lines[false][c].size < 12)
             return;
+        Expect(m_grid.GetCellFromPt(point) == CCellID(r, c), "the cell at a point");
         Say("click", r, c);
         const bool edits = m_model.focus == CCellID(r, c) && !(m_model.At(r, c).state & CELL_READONLY);
         m_grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
@@ -535,7 +525,6 @@ private:
         }
     }
 
-    /// Against a walk over the sizes.
     void CheckTopLeft()
     {
         const auto firstOf = [&](bool rows)

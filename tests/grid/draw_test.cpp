@@ -64,9 +64,6 @@ TEST_F(GridDrawing, RegionsLinesFocusAndSelectionHaveTheirPlaces)
     // The fixed columns are painted over the corner, as its cells are empty. Headers draw their own edges.
     EXPECT_EQ(Map(), "hhdhhhhdh /hCdhRRRdR /CddRddddd /hhd....-. /hCd....-. /hCd....-. /hCd....-. /Cdd------ "
                      "/hCd....-. /          /");
-    grid.SetGridLines(GVL_HORZ);
-    EXPECT_EQ(Map(), "hhdhhhhdh /hCdhRRRdR /CddRddddd /hhd...... /hCd...... /hCd...... /hCd...... /Cdd------ "
-                     "/hCd...... /          /");
     grid.SetGridLines(GVL_VERT);
     EXPECT_EQ(Map(), "hhdhhhhdh /hCdhRRRdR /CddRddddd /hhd....-. /hCd....-. /hCd....-. /hCd....-. /Cdd....-. "
                      "/hCd....-. /          /");
@@ -90,6 +87,7 @@ TEST_F(GridDrawing, RegionsLinesFocusAndSelectionHaveTheirPlaces)
     grid.SetRedraw(FALSE);
     EXPECT_EQ(Picture(grid).count(RGB(255, 0, 255)), 300 * 200) << "nothing is painted while drawing is off";
     EXPECT_EQ(Repainted([&] { grid.SetRedraw(TRUE); }), Client());
+    EXPECT_EQ(Repainted([&] { grid.SetRedraw(TRUE); }), CRect()) << "it was on";
     grid.DeleteAllItems();
     EXPECT_EQ(Picture(grid).count(kBehind), 300 * 200);
 }
@@ -128,7 +126,6 @@ TEST_F(GridDrawing, APartIsPaintedAsTheWholeIsAlsoThroughABuffer)
 TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
 {
     EXPECT_EQ(Picture(grid).extent(kLine), CRect(60, 20, 240, 120));
-    // A redrawn cell brings its two lines, and a fixed one none.
     for (const auto& [lines, count] :
          {std::pair(GVL_BOTH, 60 + 20 - 1), std::pair(GVL_HORZ, 60), std::pair(GVL_NONE, 0)})
     {
@@ -140,6 +137,7 @@ TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
         EXPECT_TRUE(grid.RedrawCell(2, 0, &one.dc()));
         EXPECT_EQ(one.count(CRect(0, 40, 60, 60), kLine), 0);
     }
+    EXPECT_TRUE(grid.RedrawColumn(2) && !grid.RedrawColumn(9));
 }
 
 TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
@@ -168,52 +166,39 @@ TEST_F(GridDrawing, ACellsOwnColourIsPaintedAlways)
 
 TEST_F(GridDrawing, TheSortArrowStandsInTheFirstHeaderOnlyAndMakesTheTextMove)
 {
-    LOGFONT upright = *grid.GetItemFont(0, 1);
-    upright.lfEscapement = upright.lfOrientation = 900;
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT), shadow = ::GetSysColor(COLOR_3DSHADOW);
     const int margin = static_cast<int>(grid.GetDefCellMargin());
+    const int high = grid.GetTextExtent(0, 1, L"M").cy - 2 * margin - 4;
+    LOGFONT font = *grid.GetItemFont(0, 1);
     grid.SetItemFormat(0, 1, DT_RIGHT | DT_SINGLELINE | DT_VCENTER);
     grid.SetItemFgColour(0, 1, kText);
     for (const int round : {0, 1, 2, 3})
         for (const int width : {60, 16, 14, 13, 12, 11, 10, 2}) // in the last ones there is no room
         {
             const bool vertical = round / 2 != 0, up = round % 2 != 0;
-            if (vertical)
-                grid.SetItemFont(0, 1, &upright);
+            font.lfEscapement = font.lfOrientation = vertical ? 900 : 0;
+            grid.SetItemFont(0, 1, &font);
             grid.SetColumnWidth(1, width, TRUE);
-            grid.SetItemText(0, 1, L""); // takes the arrow away, too
-            Picture expected(grid);
-            CDC& dc = expected.dc();
-            dc.SelectObject(grid.GetCell(0, 1)->GetFontObject());
-            const CRect room(61 + margin, 1 + margin, 58 + width - margin, 18);
-            const int high = dc.GetTextExtent(L"M", 1).cy - 4;
-            const int size = high < room.Height() ? high : room.Height() - 4;
-            const bool fits = room.left + size < room.right + 2 * margin;
-            const int x = vertical ? (room.left + room.right - size) / 2 : room.right - size;
-            const int top = room.bottom - size - 2, base = top + (up ? size : 0), tip = top + (up ? 0 : size);
-            for (const int light : {1, 0}) // engraved
-            {
-                CPen pen(PS_SOLID, 0, ::GetSysColor(light ? COLOR_3DHIGHLIGHT : COLOR_3DSHADOW));
-                CPen* const pOld = dc.SelectObject(&pen);
-                POINT corners[] = {{x, base}, {x + size / 2, tip}, {x + size, base}, {x, base}};
-                for (POINT& corner : corners)
-                    corner = {corner.x + light, corner.y + light};
-                if (fits)
-                    dc.Polyline(corners, 4);
-                dc.SelectObject(pOld);
-            }
-            grid.SetSortColumn(1);
-            grid.SetSortAscending(up);
-            EXPECT_TRUE(Picture(grid) == expected) << "round " << round << ", width " << width;
-
-            if (width != kColWidth)
-                continue;
-            grid.SetItemText(0, 1, L"H");
+            grid.SetItemText(0, 1, width == 60 ? L"H" : L""); // takes the arrow away, too
             const Picture without(grid);
             grid.SetSortColumn(1);
-            EXPECT_EQ(without.extent(kText).right - Picture(grid).extent(kText).right, vertical ? 0 : size);
+            grid.SetSortAscending(up);
+            const Picture arrow(grid);
+            const CRect room(61 + margin, 1 + margin, 58 + width - margin, 18);
+            const int size = high < room.Height() ? high : room.Height() - 4;
+            const bool fits = room.left + size < room.right + 2 * margin;
+            const CRect place(CPoint(vertical ? (room.left + room.right - size) / 2 : room.right - size,
+                                     room.bottom - size - 2),
+                              CSize(size + 1, size + 1));
+            EXPECT_EQ(arrow.extent(shadow), fits ? place : CRect()) << "round " << round << ", " << width;
+            if (!fits)
+                continue;
+            const int base = up ? place.bottom - 1 : place.top;
+            EXPECT_EQ(arrow.count(CRect(place.left, base, place.right, base + 1), shadow), size + 1);
+            EXPECT_EQ(arrow.at(place.right, base + 1), light) << "engraved";
+            EXPECT_EQ(without.extent(kText).right - arrow.extent(kText).right,
+                      width == 60 && !vertical ? size : 0);
         }
-
-    // It comes with its column, and goes with it.
     grid.SetColumnWidth(1, kColWidth, TRUE);
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(0); }), CRect(0, 0, 120, 20));
     EXPECT_EQ(Repainted([&] { grid.SetSortColumn(-1); }), CRect(0, 0, 60, 20));
@@ -236,9 +221,10 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);
     EXPECT_EQ(imaged.GetCellExtent(nullptr), CSize(imaged.GetTextExtent(imaged.GetText()).cx + 13, 41));
     // It is left out where it does not fit, the margin counted in on all sides.
-    for (const auto& [size, shows] :
-         {std::pair(CSize(14, 60), true), std::pair(CSize(13, 60), false),
-          std::pair(CSize(60, 42 - margin), true), std::pair(CSize(60, 41 - margin), false)})
+    for (const auto& [size, shows] : {std::pair(CSize(14, 60), true),
+                                      {{13, 60}, false},
+                                      {{60, 42 - margin}, true},
+                                      {{60, 41 - margin}, false}})
     {
         owtest::Surface drawn(80, 60, kBack);
         imaged.Draw(&drawn.dc(), 2, 2, CRect(CPoint(2, 2), size - CSize(1, 1)), FALSE);
@@ -298,14 +284,19 @@ TEST_F(GridDrawing, ATextStandsWhereDrawTextPutsIt)
 
 TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
 {
-    grid.SetTextBkColor(::GetSysColor(COLOR_WINDOW));
+    const int elements[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_3DSHADOW};
+    COLORREF colors[][3] = {{RGB(240, 255, 240), RGB(9, 9, 9), RGB(90, 90, 90)}, {}};
+    std::transform(std::begin(elements), std::end(elements), colors[1], ::GetSysColor);
+    grid.SetTextBkColor(colors[1][0]);
+    grid.SetTextColor(colors[1][1]);
+    grid.SetGridBkColor(colors[1][2]);
     grid.SetFixedBkColor(RGB(1, 1, 1));
-    const int element = COLOR_WINDOW;
-    for (const COLORREF color : {RGB(240, 255, 240), ::GetSysColor(COLOR_WINDOW)})
+    for (const auto& [back, text, behind] : colors)
     {
-        ::SetSysColors(1, &element, &color);
+        ::SetSysColors(3, elements, &back);
         grid.SendMessage(WM_SYSCOLORCHANGE);
-        EXPECT_EQ(grid.GetTextBkColor(), color);
+        EXPECT_EQ(std::tuple(grid.GetTextBkColor(), grid.GetTextColor(), grid.GetGridBkColor()),
+                  std::tuple(back, text, behind));
     }
     EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
 }

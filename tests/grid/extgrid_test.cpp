@@ -1,5 +1,4 @@
-// The extended grids: what their handlers are told, by real input and by program, and the colours of the
-// cells after each move.
+// The extended grids: what their handlers are told, and the colours of the cells after each move.
 
 #include "GridFixture.h"
 
@@ -109,7 +108,6 @@ protected:
         grid.SetColumnCount(4);
         handler = {};
     }
-    /// Types a text into the focus cell and ends the edit; what the handler was told.
     std::string Enter(const wchar_t* text)
     {
         handler.Take();
@@ -118,7 +116,6 @@ protected:
         this->EndByKey(VK_RETURN);
         return handler.Take();
     }
-    /// Sends the parent a notification as the grid would.
     LRESULT Notify(UINT nCode, int nRow, int nCol)
     {
         GridNotify record{{grid.m_hWnd, kGridId, nCode}, nRow, nCol};
@@ -252,8 +249,8 @@ TEST(ExtGridHook, GridsOfOneParentComeAndGoInAnyOrder)
             pOfTemplate->SubclassWindow(::CreateWindowEx(0, L"MFCGridCtrl", L"", WS_CHILD, 0, 0, 100, 60,
                                                          parent, nullptr, AfxGetInstanceHandle(), nullptr)));
         pOfTemplate->SetFocusCell(1, 1);
-        for (int times = 0; times < 2; ++times)
-            pOfTemplate->InstallMessageHook();
+        pOfTemplate->InstallMessageHook();
+        pOfTemplate->InstallMessageHook(); // hooks once
         for (const auto& pGrid : grids)
             pGrid->SetFocusCell(2, 1);
         EXPECT_EQ(handlers[0].Take(), "0 row 2 after -1; ");
@@ -329,8 +326,7 @@ TEST_F(ExtGrid2, SelectCellExTellsTheSameCellAgain)
     grid.SelectCellEx(5, 2);
     EXPECT_EQ(handler.Take(), "77 cell 2,2 after -1,-1; 77 cell 2,2 after -1,-1; ");
 
-    // A fixed address is remembered as it is, and rests in its turn: a row above the body lies before the end
-    // of any band, an empty one, too.
+    // A fixed address is remembered as it is, and rests in its turn, in the band, be it empty.
     handler.bandRows = 0;
     grid.SelectCellEx(0, 0);
     EXPECT_EQ(Told(), "77 cell 1,1 after 2,2; .... .ggg .gGG .gG. .gG. ");

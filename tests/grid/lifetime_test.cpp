@@ -118,20 +118,6 @@ TEST_F(GridLife, AReceiverMayDoWhatItLikes)
     Torment([&] { grid->SetFocusCell(5, 3), grid->StartEditCell(); });
 }
 
-TEST_F(GridLife, AScrollBarThatComesEndsTheEditAndMaybeTheGrid)
-{
-    for (const auto grow :
-         {&CGridCtrl::SetRowCount, &CGridCtrl::SetColumnCount, &CGridCtrl::SetFixedColumnCount})
-    {
-        Make();
-        grid->SetRowCount(4);
-        grid->SetColumnCount(3);
-        TypeInto(2, 1, [&] { grid.reset(); });
-        (grid.get()->*grow)(40);
-        EXPECT_EQ(grid, nullptr) << "the bar changes the size, and the size ends the edit";
-    }
-}
-
 TEST_F(GridLife, AChangeEndsTheEditFirstAndIsMadeOnWhatTheParentHasLeft)
 {
     for (const auto& [change, cell] : kChanges)

@@ -17,13 +17,9 @@ void RunAll(unsigned firstSeed, int seeds, int steps, SequenceOptions options)
 }
 } // namespace
 
-TEST(GridModel, HoldsThroughRandomOperations)
+TEST(GridModel, HoldsThroughRandomOperationsClicksKeysAndEdits)
 {
     RunAll(1, 100, 2000, {});
-}
-
-TEST(GridModel, HoldsThroughRandomClicksKeysAndEdits)
-{
     RunAll(1001, 8, 1000, {.withInput = true});
 }
 

