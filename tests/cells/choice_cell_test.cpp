@@ -313,7 +313,6 @@ TEST_F(ColourCells, AClickOpensTheDialogAndTakesTheChoice)
     EXPECT_EQ(cell->DajMastAci(), 30);
     EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "at once";
     EXPECT_EQ(grid.GetDlgItem(InPlaceControlId), nullptr);
-
     cell->PostaviMastAci(5);
     EXPECT_EQ(ShownSwatch(), acedGetRGB(30)) << "a colour by program is not redrawn";
     grid.SetEditable(FALSE);

@@ -11,10 +11,9 @@ class OpenGrid : public CGridCtrl
 public:
     using CGridCtrl::CGridCtrl;
 
-    using CGridCtrl::ClearCells, CGridCtrl::EndEditing, CGridCtrl::GetCellRangeRect, CGridCtrl::GetMouseMode,
-        CGridCtrl::GetPointClicked, CGridCtrl::GetScrollPos32, CGridCtrl::GetTopleftNonFixedCell,
-        CGridCtrl::GetUnobstructedNonFixedCellRange, CGridCtrl::GetVisibleNonFixedCellRange,
-        CGridCtrl::Initialise, CGridCtrl::InvalidateCellRect, CGridCtrl::IsVisibleHScroll,
+    using CGridCtrl::ClearCells, CGridCtrl::EndEditing, CGridCtrl::GetMouseMode, CGridCtrl::GetScrollPos32,
+        CGridCtrl::GetTopleftNonFixedCell, CGridCtrl::GetUnobstructedNonFixedCellRange,
+        CGridCtrl::GetVisibleNonFixedCellRange, CGridCtrl::InvalidateCellRect, CGridCtrl::IsVisibleHScroll,
         CGridCtrl::IsVisibleVScroll, CGridCtrl::m_nHScrollMax, CGridCtrl::m_nTimerId,
         CGridCtrl::m_nVScrollMax, CGridCtrl::m_nWheelLines, CGridCtrl::m_selectionStart, CGridCtrl::OnDraw,
         CGridCtrl::OnEditCell, CGridCtrl::SetScrollPos32;

@@ -1,6 +1,5 @@
 #pragma once
-// Random sequences of operations and input messages on a grid, checked after each step against a small model
-// of what the grid must hold.
+// Random sequences of operations and input on a grid, checked after each step against what it must hold.
 
 #include <DialogControlsOW.h>
 

@@ -291,6 +291,7 @@ TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
     grid.SetTextColor(colors[1][1]);
     grid.SetGridBkColor(colors[1][2]);
     grid.SetFixedBkColor(RGB(1, 1, 1));
+    grid.SetFixedTextColor(RGB(2, 2, 2));
     for (const auto& [back, text, behind] : colors)
     {
         ::SetSysColors(3, elements, &back);
@@ -298,7 +299,10 @@ TEST_F(GridDrawing, SystemColoursAreFollowedWhereTheUserSetNone)
         EXPECT_EQ(std::tuple(grid.GetTextBkColor(), grid.GetTextColor(), grid.GetGridBkColor()),
                   std::tuple(back, text, behind));
     }
-    EXPECT_EQ(grid.GetFixedBkColor(), RGB(1, 1, 1));
+    grid.SetGridBkColor(RGB(3, 3, 3));
+    grid.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(std::tuple(grid.GetFixedBkColor(), grid.GetFixedTextColor(), grid.GetGridBkColor()),
+              std::tuple(RGB(1, 1, 1), RGB(2, 2, 2), RGB(3, 3, 3)));
 }
 
 TEST_F(GridDrawing, NothingPaintsOverAnOpenEditor)

@@ -11,7 +11,6 @@ using Calls = GridParent::Calls;
 constexpr COLORREF kWhite = RGB(255, 255, 255), kBlue = RGB(0xE0, 0xE0, 0xFF);
 constexpr COLORREF kBand = RGB(255, 240, 200), kBandCrossed = RGB(0xE0, 0xD1, 200);
 constexpr COLORREF kBody = RGB(250, 250, 240), kBodyCrossed = RGB(0xDB, 0xDB, 0xF0);
-constexpr COLORREF kOwn = RGB(1, 2, 3); ///< given to a cell by its client
 
 /// Hears for both kinds of grid, and writes down each call as "77 row 2 after -1; ".
 class Handler : public AExtGridCtrlNotificationHandler,
@@ -133,7 +132,7 @@ using ExtGrid2 = ExtTest<CrossGrid>;
 
 TEST_F(ExtGrid, AUserMovesTheCurrentRow)
 {
-    grid.SetItemBkColour(2, 1, kOwn);
+    grid.SetItemBkColour(2, 1, RGB(1, 2, 3));
     ClickCell(2, 2);
     EXPECT_EQ(Told(), "77 row 2 after -1; .... .... .### .... .... ");
 

@@ -147,9 +147,7 @@ TEST_F(GridKeyboard, ClearCellsAsksForEachCellThatShows)
     EXPECT_EQ(Text(2, 1) + Text(2, 2) + Text(3, 2) + Text(4, 2), L"2/13/24/2") << "the last one refused";
 }
 
-using GridSelection = GridTest;
-
-TEST_F(GridSelection, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
+TEST_F(GridTest, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
 {
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
@@ -167,7 +165,7 @@ TEST_F(GridSelection, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
     EXPECT_EQ(grid.GetSelectedCount(), 1) << "the books take it all the same";
 }
 
-TEST_F(GridSelection, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
+TEST_F(GridTest, AChangeOfTheFocusIsToldAndShowsInTheHeadersAtOnce)
 {
     for (int nItem = 0; nItem < 5; ++nItem)
     {

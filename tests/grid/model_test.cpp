@@ -1,5 +1,4 @@
-// Random sequences against the model. The seeds are fixed, so that a run is the same every time; the soak
-// program goes on with others.
+// Random sequences against the model, by fixed seeds: a run is always the same. The soak program has others.
 
 #include "GridModel.h"
 

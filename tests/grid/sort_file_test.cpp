@@ -74,7 +74,6 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
         },
         1, TRUE, reinterpret_cast<LPARAM>(&grid));
     EXPECT_EQ(grid.GetRowCount(), 5) << "a comparison that deletes rows ends the sort";
-
     grid.SetSelectedRange(1, 1, 2, 1);
     EXPECT_FALSE(grid.SortTextItems(7, TRUE));
     EXPECT_EQ(grid.GetSelectedCount(), 0) << "dropped all the same";
@@ -166,9 +165,7 @@ TEST(GridUnits, HeadColumnsAndStayAtTheirIndex)
     OpenGrid grid(2, 2, 1, 0);
     CComplexUnit mm(CMeasurementUnit(2, 0)), back;
     grid.SetColDescription(1, &mm, L"Opis");
-    CString expected;
-    expected.Format(L"%s [mm]", gOtLang.Do(L"Opis").GetString());
-    EXPECT_EQ(grid.GetItemText(0, 1), expected);
+    EXPECT_EQ(grid.GetItemText(0, 1), gOtLang.Do(L"Opis") + L" [mm]");
     grid.DeleteAllItems();
     EXPECT_TRUE(grid.GetColComplexUnit(1, back) && back == mm) << "survives the items";
     grid.SetColDescription(1, nullptr, L"Opis");

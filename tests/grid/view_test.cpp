@@ -71,14 +71,14 @@ protected:
         cols.SetFixed(1);
     }
     CGridView View() const { return CGridView(rows, cols, topLeft, CSize(300, 200)); }
-    /// What a press and, behind an f, a double click mean along the headers, as "58-62: 0 f0" for a run of
-    /// pixels; a press that is marked and not held as "0?".
+    /// What a press and, behind an f, a double click mean along the headers, as "58: 0 f0; 63; " from a pixel
+    /// on; a press that is marked and not held as "0?".
     std::string Dividers(EGridWay way, bool opens) const
     {
         const CGridDividers dividers(way, View(), 3);
         const int end = gfnAlong(way, CSize(300, 200));
         std::string all, last;
-        for (int pixel = 0, from = 0; pixel <= end; ++pixel)
+        for (int pixel = 0; pixel <= end; ++pixel)
         {
             const CPoint point = gfnPointAlong(way, pixel, 5);
             CCellID cell = View().CellAt(point);
@@ -90,12 +90,8 @@ protected:
                 now << ": " << (taken.bMarked ? gfnItemAlong(way, cell) : -1) << (taken.bHeld ? " f" : "? f")
                     << fit;
             }
-            if (now.str() == last)
-                continue;
-            if (!last.empty())
-                all += std::to_string(from) + '-' + std::to_string(pixel - 1) + last + "; ";
-            last = now.str();
-            from = pixel;
+            if (std::exchange(last, now.str()) != now.str())
+                all += std::to_string(pixel) + now.str() + "; ";
         }
         return all;
     }
@@ -222,23 +218,22 @@ TEST_F(GridView, ADividerMeansTheItemBeforeIt)
     using enum EGridWay;
     // Sizes, the first that is not scrolled away, whether hidden ones are opened.
     const std::tuple<EGridWay, Sizes, int, bool, std::string> cases[] = {
-        {eColumns, {60, 60, 60}, 1, true, "58-62: 0 f0; 118-122: 1 f1; 178-179: 2 f2; "},
+        {eColumns, {60, 60, 60}, 1, true, "58: 0 f0; 63; 118: 1 f1; 123; 178: 2 f2; 180; "},
         // of rows a double click means the one under the pointer in all but the top pixels
-        {eRows, {20, 20, 20}, 1, true, "18-19: 0 f0; 20-22: 0 f1; 38-39: 1 f1; 40-42: 1 f2; 58-59: 2 f2; "},
+        {eRows, {20, 20, 20}, 1, true, "18: 0 f0; 20: 0 f1; 23; 38: 1 f1; 40: 1 f2; 43; 58: 2 f2; 60; "},
         // what is scrolled away is marked and not held
-        {eColumns, {60, 60, 60, 60}, 2, true, "58-59: 0 f0; 60-62: 1? f1; 118-122: 2 f2; 178-179: 3 f3; "},
-        {eRows, {20, 20, 20, 20}, 3, true, "18-19: 0 f0; 20-22: 2? f3; 38-39: 3 f3; "},
-        {eColumns, {60, 60, 0, 60}, 1, true, "58-62: 0 f0; 118-119: 1 f1; 120-122: 2 f1; 178-179: 3 f3; "},
-        {eColumns, {60, 60, 0, 60}, 1, false, "58-62: 0 f0; 118-122: 1 f1; 178-179: 3 f3; "},
-        {eColumns, {60, 0, 0, 60}, 1, true, "58-59: 0 f0; 60-62: 2 f0; 118-119: 3 f3; "},
-        {eColumns, {60, 0, 0, 60}, 1, false, "58-62: 0 f0; 118-119: 3 f3; "},
-        {eColumns, {0, 0, 0, 60}, 1, true, "0-2: 2 f-1; 58-59: 3 f3; "},
-        {eColumns, {0, 0, 0, 60}, 1, false, "0-2: -1? f-1; 58-59: 3 f3; "}, // none before it shows
-        {eColumns, {0, 0, 0, 60, 60}, 4, true, "0-2: 3? f3; 58-59: 4 f4; "},
+        {eColumns, {60, 60, 60, 60}, 2, true, "58: 0 f0; 60: 1? f1; 63; 118: 2 f2; 123; 178: 3 f3; 180; "},
+        {eRows, {20, 20, 20, 20}, 3, true, "18: 0 f0; 20: 2? f3; 23; 38: 3 f3; 40; "},
+        {eColumns, {60, 60, 0, 60}, 1, true, "58: 0 f0; 63; 118: 1 f1; 120: 2 f1; 123; 178: 3 f3; 180; "},
+        {eColumns, {60, 60, 0, 60}, 1, false, "58: 0 f0; 63; 118: 1 f1; 123; 178: 3 f3; 180; "},
+        {eColumns, {60, 0, 0, 60}, 1, true, "58: 0 f0; 60: 2 f0; 63; 118: 3 f3; 120; "},
+        {eColumns, {0, 0, 0, 60}, 1, true, "0: 2 f-1; 3; 58: 3 f3; 60; "},
+        {eColumns, {0, 0, 0, 60}, 1, false, "0: -1? f-1; 3; 58: 3 f3; 60; "}, // none before it shows
+        {eColumns, {0, 0, 0, 60, 60}, 4, true, "0: 3? f3; 3; 58: 4 f4; 60; "},
         // the last one can be taken though it is nearly closed
-        {eColumns, {60, 60, 0}, 1, true, "58-62: 0 f0; 118-119: 2 f1; "},
-        {eColumns, {60, 60, 1}, 1, true, "58-62: 0 f0; 118-118: 1 f1; 119-120: 2 f1; "},
-        {eColumns, {60, 60, 3}, 1, false, "58-62: 0 f0; 118-122: 1 f1; "}};
+        {eColumns, {60, 60, 0}, 1, true, "58: 0 f0; 63; 118: 2 f1; 120; "},
+        {eColumns, {60, 60, 1}, 1, true, "58: 0 f0; 63; 118: 1 f1; 119: 2 f1; 121; "},
+        {eColumns, {60, 60, 3}, 1, false, "58: 0 f0; 63; 118: 1 f1; 123; "}};
     for (const auto& [way, sizes, first, opens, meant] : cases)
     {
         SetSizes(way == eColumns ? cols : rows, sizes);
