@@ -499,7 +499,7 @@ private:
             {
                 CGridCellBase* const cell = m_grid.GetCell(r, c);
                 const ModelCell& told = m_model.At(r, c);
-                if (told.text != cell->GetText() || told.data != cell->GetData() ||
+                if (!cell || told.text != cell->GetText() || told.data != cell->GetData() ||
                     cell->GetState() != m_model.StateOf(r, c) || !IsA(told.kind, cell->GetRuntimeClass()))
                     Problem("cell ", r, ",", c, " is of another kind, or holds another text, data or state");
                 selected += (told.state & CELL_SELECTED) != 0;

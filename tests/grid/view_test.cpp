@@ -200,7 +200,7 @@ TEST(GridAxis, SharesWhatIsLeftAmongThoseThatShow)
           std::tuple(Sizes{60, 60, 60}, 1, 5, Sizes{60, 63, 62}),
           std::tuple(Sizes{60, 0, 60, 60}, 0, 5, Sizes{62, 0, 61, 61}), // the hidden one takes up a place
           std::tuple(Sizes{5, 60}, 0, -20, Sizes{1, 50}), std::tuple(Sizes{60, 0, 0}, 1, 5, Sizes{}),
-          std::tuple(Sizes{60, 60}, 2, 5, Sizes{})})
+          std::tuple(Sizes{60, 60}, 2, 5, Sizes{}), std::tuple(Sizes{9, 9}, 0, 1, Sizes{10, 9})})
     {
         CGridAxis axis;
         SetSizes(axis, before);
