@@ -60,13 +60,14 @@ TEST_F(CheckCells, AChangeRepaintsWhatWasDrawn)
     CGridCellCheck copy, undrawn;
     copy = *cell;
     EXPECT_EQ(Repainted([&] { copy.SetCheck(0); }), CellRect()) << "a copy stands where the other was drawn";
+    EXPECT_EQ(Repainted([&] { copy.OnClick(box); }), CellRect());
     undrawn.SetGrid(&grid);
     EXPECT_EQ(Repainted([&] { undrawn.SetCheck(-1); }), CRect());
     undrawn.OnClick(box);
     EXPECT_EQ(undrawn.GetCheck(), 0) << "a click counts from the origin then";
     copy.SetGrid(nullptr);
     copy.OnClick(box);
-    EXPECT_EQ(copy.GetCheck(), 1) << "no grid to tell";
+    EXPECT_EQ(copy.GetCheck(), 0) << "no grid to tell";
 }
 
 TEST_F(CheckCells, TheTextStandsClearOfTheBox)
@@ -149,7 +150,6 @@ TEST_F(ComboCells, KeysTypeAndChoose)
     }
     EndByKey(VK_RETURN);
     EXPECT_EQ(CellText(), L"RHS 80") << "what the list lacks can be typed";
-
     owtest::Type(L"x");
     owtest::Press(VK_LEFT, false, true);
     EXPECT_TRUE(EditorOpens(kRow, kCol - 1)) << "and with it to the next cell";
