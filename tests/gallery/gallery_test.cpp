@@ -34,7 +34,10 @@ TEST(GalleryDialogs, GiveBackWhatTheyTook)
     for (int i = -3; i < kOpenings; ++i)
     {
         if (i == 0) // what is made once in a process is there now
-            before = owtest::CountHandles(), heapBefore = owtest::CountHeapBytes();
+        {
+            before = owtest::CountHandles();
+            heapBefore = owtest::CountHeapBytes();
+        }
         OpenAndClose(use);
         AfxGetApp()->OnIdle(1); // frees temporary objects
     }
