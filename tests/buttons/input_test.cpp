@@ -90,15 +90,14 @@ TEST_F(ButtonInput, APressOfAnAutomaticRadioButtonThatGoesAwayIsLetGoWithoutACli
                                                  {BS_AUTORADIOBUTTON, WS_DISABLED, false},
                                                  {BS_AUTORADIOBUTTON, WS_VISIBLE, false},
                                                  {BS_AUTOCHECKBOX, WS_VISIBLE, true}})
-        for (const auto& [down, up, nKey] :
-             {std::tuple(WM_LBUTTONDOWN, WM_LBUTTONUP, 0), {WM_KEYDOWN, WM_KEYUP, VK_SPACE}})
+        for (const UINT nKey : {0, VK_SPACE}) // by the mouse, by the key
         {
             m_ext.SetButtonStyle(type);
-            m_ext.SendMessage(down, nKey, MAKELPARAM(5, 5));
+            m_ext.SendMessage(nKey ? WM_KEYDOWN : WM_LBUTTONDOWN, nKey, MAKELPARAM(5, 5));
             ::SetWindowLongPtr(m_ext, GWL_STYLE, m_ext.GetStyle() ^ changed);
             m_ext.SendMessage(WM_KEYUP, VK_TAB);
             EXPECT_EQ(::GetCapture(), m_ext.m_hWnd) << "another key ends nothing";
-            m_ext.SendMessage(up, nKey, MAKELPARAM(5, 5));
+            m_ext.SendMessage(nKey ? WM_KEYUP : WM_LBUTTONUP, nKey, MAKELPARAM(5, 5));
             EXPECT_EQ(::GetCapture(), nullptr);
             EXPECT_EQ(m_room.Take(), bClicks ? "told 1005; dialog 1005; " : "") << type << ' ' << changed;
             ::SetWindowLongPtr(m_ext, GWL_STYLE, m_ext.GetStyle() ^ changed);
@@ -111,26 +110,22 @@ TEST_F(ButtonInput, AClickOpensTheAddressOfAPushButtonAndNeverThatOfACheckBox)
     s_opened.clear();
     const auto noteAddress = [](SHELLEXECUTEINFOW* pInfo) -> BOOL
     {
-        EXPECT_TRUE(pInfo->cbSize == sizeof(*pInfo) && pInfo->nShow == SW_SHOWMAXIMIZED);
-        EXPECT_EQ(pInfo->fMask, ULONG{SEE_MASK_FLAG_NO_UI}) << "no box where it cannot be opened";
+        EXPECT_TRUE(pInfo->nShow == SW_SHOWMAXIMIZED && pInfo->fMask == SEE_MASK_FLAG_NO_UI);
         s_opened += std::wstring(pInfo->lpVerb) + L' ' + pInfo->lpFile + L'\n';
         return FALSE;
     };
     const owtest::ImportStandIn noShell(L"DialogControlsOW.dll", "ShellExecuteExW", +noteAddress);
-    const std::wstring tooLong(300, L'?');
-    for (const LPCWSTR pszUrl : {L"http://x", tooLong.c_str(), LPCWSTR(nullptr)})
+    for (const LPCWSTR pszUrl : {L"http://x", LPCWSTR(nullptr)})
     {
         m_push.SetURL(pszUrl);
         m_check.SetURL(pszUrl);
         EXPECT_EQ(Click(m_push) + Click(m_check), kPushClick + "told 1004; dialog 1004; ");
     }
-    EXPECT_EQ(s_opened, L"open http://x\nopen " + tooLong.substr(0, 260) + L'\n')
-        << "kept: a text that fills the field has no terminator there";
+    EXPECT_EQ(s_opened, L"open http://x\n");
 }
 
 TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonMovesWithTheFocus)
 {
-    EXPECT_TRUE(m_ok.GetDefault());
     EXPECT_TRUE(m_ok.SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
     EXPECT_TRUE(m_push.SendMessage(WM_GETDLGCODE) & DLGC_UNDEFPUSHBUTTON);
     m_push.SetFocus();
@@ -145,7 +140,6 @@ TEST_F(ButtonInput, SpaceAndEnterClickAtOnceAndTheDefaultButtonMovesWithTheFocus
     owtest::Press(VK_TAB);
     EXPECT_TRUE(owtest::PumpUntil([&] { return ::GetFocus() == m_other.m_hWnd; }));
     EXPECT_TRUE(m_other.GetDefault() && !m_push.GetDefault() && !m_ok.GetDefault());
-    EXPECT_EQ(m_other.GetStyle() & 0xF, static_cast<DWORD>(BS_OWNERDRAW));
 }
 
 TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAway)
@@ -178,8 +172,6 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAw
     }
     owtest::MoveTo(m_push, CPoint(10, 10));
     EXPECT_TRUE(HoverBecomes(m_push, true));
-    m_push.SubclassWindow(m_push.UnsubclassWindow());
-    EXPECT_FALSE(m_push.m_bMouseOnButton) << "what a former window was at its end is over";
     ::SetForegroundWindow(::GetDesktopWindow());
     ASSERT_TRUE(owtest::PumpUntil([] { return ::GetActiveWindow() == nullptr; }));
     m_push.SetAlwaysTrack(FALSE);
@@ -187,9 +179,6 @@ TEST_F(ButtonInput, HoverIsForFlatButtonsUnderAFreeMouseAndEndsWithWhatTakesItAw
     EXPECT_TRUE(HoverBecomes(m_ok, true));
     owtest::MoveTo(m_push, CPoint(12, 10));
     EXPECT_TRUE(HoverBecomes(m_ok, false) && !m_push.m_bMouseOnButton) << "the mouse has left";
-    owtest::Activate(m_room);
-    owtest::MoveTo(m_push, CPoint(10, 10));
-    EXPECT_TRUE(HoverBecomes(m_push, true));
 }
 
 TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheButtonCannotBeUsed)
@@ -205,37 +194,29 @@ TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheBut
     m_push.SetFlat(FALSE);
     EXPECT_EQ(CommandsOfAHold(5), 6);
     EXPECT_EQ(s_slept, 5 * 20u) << "the last command is there for the even number";
-    EXPECT_EQ(CommandsOfAHold(6), 6);
     EXPECT_EQ(CommandsOfAHold(3, [] { ::ReleaseCapture(); }), 4);
     m_push.SetFlat(TRUE);
     EXPECT_EQ(CommandsOfAHold(3, [] { ::SetCursorPos(0, 0); }), 4);
 
-    owtest::MoveTo(m_push, CPoint(10, 10));
-    m_room.then = [&] { m_push.SendMessage(WM_MOUSELEAVE), m_push.PostMessage(WM_LBUTTONUP); };
-    m_push.SendMessage(WM_LBUTTONDOWN);
-    EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
-
-    constexpr int kNever = 100;
-    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.EnableWindow(FALSE); }), 2);
+    EXPECT_EQ(CommandsOfAHold(100, [&] { m_push.EnableWindow(FALSE); }), 2);
     m_push.EnableWindow();
-    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.ShowWindow(SW_HIDE); }), 2);
+    EXPECT_EQ(CommandsOfAHold(100, [&] { m_push.ShowWindow(SW_HIDE); }), 2);
     m_push.ShowWindow(SW_SHOW);
-    EXPECT_EQ(CommandsOfAHold(kNever, [&] { m_push.DestroyWindow(); }), 1);
+    EXPECT_EQ(CommandsOfAHold(100, [&] { m_push.DestroyWindow(); }), 1);
 }
 
 TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGiven)
 {
     auto& tip = m_push.m_toolTip;
     m_push.SetTooltipText(_T("first"), FALSE);
+    m_push.EnableBalloonTooltip(); // kept: has no effect
     m_push.SetTooltipText(IDS_TEXT);
     m_push.SetTooltipText(31999); // no such string
     m_push.SetTooltipText(nullptr);
     CString strText;
     tip.GetText(strText, &m_push, 1);
     EXPECT_TRUE(strText == L"From the resources" && tip.GetToolCount() == 1);
-    EXPECT_EQ(tip.SendMessage(TTM_GETMAXTIPWIDTH), 400);
-    EXPECT_EQ(m_push.EnableBalloonTooltip(), 0u);
-    EXPECT_FALSE(tip.GetStyle() & TTS_BALLOON) << "kept: balloons have no effect";
+    EXPECT_TRUE(tip.SendMessage(TTM_GETMAXTIPWIDTH) == 400 && !(tip.GetStyle() & TTS_BALLOON));
     owtest::MoveTo(m_push, CPoint(20, 10));
     owtest::MoveTo(m_push, CPoint(22, 10));
     EXPECT_TRUE(owtest::PumpUntil([&] { return tip.IsWindowVisible() != FALSE; }));
@@ -250,10 +231,8 @@ TEST_F(ButtonInput, TheTooltipShowsOnceItHasATextAndTheCursorIsTheOneThatItWasGi
     const owtest::HandleCount before = owtest::CountHandles();
     for (const auto& [nId, result] : {std::pair(31999, 1u), {0, 0u}})
     {
-        EXPECT_EQ(m_push.SetBtnCursor(IDC_CROSSHAIR), 0u);
-        EXPECT_FALSE(showsArrow());
-        EXPECT_EQ(m_push.SetBtnCursor(nId), result);
-        EXPECT_TRUE(showsArrow()) << "the former cursor is gone";
+        EXPECT_TRUE(m_push.SetBtnCursor(IDC_CROSSHAIR) == 0 && !showsArrow());
+        EXPECT_TRUE(m_push.SetBtnCursor(nId) == result && showsArrow()) << "the former cursor is gone";
     }
     EXPECT_EQ(owtest::CountHandles(), before);
 }
@@ -274,8 +253,7 @@ TEST_F(ReflectedButtons, TellTheirHandlerOrElseTheirParentOrElseNobody)
     ClickByProgram(m_ownST);
     EXPECT_EQ(m_room.Take(), "clicked 1005; ");
     EXPECT_TRUE(m_ownST.GetCheck() == 0 && ::GetFocus() == m_own.m_hWnd) << "it does nothing of its own";
-    const Lone<CButtonReflected> lone(CSize(9, 9));
-    ClickByProgram(lone.button);
+    ClickByProgram(Lone<CButtonReflected>(CSize(9, 9)).button);
 }
 
 TEST_F(ReflectedButtons, AskForABrushOrElseTakeTheParentsAndTellThatTheirWindowComesAndGoes)
@@ -284,7 +262,7 @@ TEST_F(ReflectedButtons, AskForABrushOrElseTakeTheParentsAndTellThatTheirWindowC
     m_handler.hBrush = brush;
     const Lone<CButtonSTReflected> lone(CSize(9, 9));
     for (const CWnd* pButton :
-         std::initializer_list<const CWnd*>{&m_given, &m_own, &m_givenST, &m_ownST, &lone.button})
+         std::initializer_list<const CWnd*>{&m_given, &m_givenST, &m_ownST, &lone.button})
     {
         CClientDC dc(pButton->GetParent());
         const LRESULT hAnswer = pButton->GetParent()->SendMessage(
