@@ -73,13 +73,6 @@ struct Open : Button
         Button::m_nTypeStyle, Button::m_ptImageOrigin, Button::m_toolTip;
 };
 
-inline COLORREF ColorOf(const CButtonST& button, BYTE nIndex = CButtonST::colorBackOut)
-{
-    COLORREF cr = CLR_INVALID;
-    EXPECT_EQ(button.GetColor(nIndex, &cr), CButtonST::resultOk);
-    return cr;
-}
-
 /// Paints an owner-drawn button onto the surface as the system would ask for it, with ODS_ flags.
 inline void PaintButton(CButton& button, Surface& surface, UINT nItemState = 0, const CRect* pItem = nullptr)
 {

@@ -230,8 +230,7 @@ TEST_F(ColorPopup, AClickOnACellChoosesItAndWhateverTakesTheMouseOrTheForeground
     const auto holdKeys = [](CWnd& popup)
     {
         for (const WPARAM nKey : {VK_RETURN, VK_SPACE})
-            for (const auto& [message, nUp] : {std::pair(WM_KEYDOWN, 0), {WM_KEYUP, KF_UP}})
-                ::PostMessage(::GetFocus(), message, nKey, 1 | (KF_REPEAT | nUp) << 16);
+            ::PostMessage(::GetFocus(), WM_KEYDOWN, nKey, 1 | KF_REPEAT << 16);
         owtest::Pump();
         EXPECT_TRUE(Becomes(true, popup));
         ::SetForegroundWindow(::GetDesktopWindow());
@@ -297,26 +296,21 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
     }
 }
 
-TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithWindowDialogOrObject)
+TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithDialogOrObject)
 {
-    std::unique_ptr<CColorBtnST> pButton;
-    for (const Script& end :
-         {Script([&](CWnd&) { m_room.DestroyWindow(); }), {[&](CWnd&) { pButton.reset(); }}})
+    m_rgb.UnsubclassWindow();
+    auto pButton = std::make_unique<CColorBtnST>(&m_room);
+    ASSERT_TRUE(pButton->SubclassDlgItem(1001, &m_room));
+    pButton->SetColorSource(&m_color);
+    const auto endAll = [&](CWnd& popup)
     {
-        m_rgb.UnsubclassWindow();
-        pButton = std::make_unique<CColorBtnST>(&m_room);
-        ASSERT_TRUE(pButton->SubclassDlgItem(1001, &m_room));
-        pButton->SetColorSource(&m_color);
-        const auto endAll = [&](CWnd& popup)
-        {
-            VisitOther(popup, end);
-            EXPECT_TRUE(Becomes(false, popup));
-        };
-        const owtest::ModalVisit visit(endAll);
-        owtest::Click(*pButton);
-        EXPECT_TRUE(m_color == kRed && m_room.Take().empty());
-        Reopen(BS_PUSHBUTTON);
-    }
+        VisitOther(popup, [&](CWnd&) { pButton.reset(); });
+        EXPECT_TRUE(Becomes(false, popup));
+    };
+    const owtest::ModalVisit ended(endAll);
+    owtest::Click(*pButton);
+    EXPECT_TRUE(m_color == kRed && m_room.Take().empty());
+    Reopen(BS_PUSHBUTTON);
     for (CWnd* const pWindow : {static_cast<CWnd*>(&m_acad), static_cast<CWnd*>(&m_rgb)})
     {
         const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });

@@ -124,7 +124,8 @@ TEST_P(DropMenus, TakeEveryCommandForAChoice)
     {
         m_nValue = 3;
         m_pButton->SendMessage(WM_KILLFOCUS);
-        EXPECT_TRUE(Repaints(m_room, [&, n = command] { m_pButton->SendMessage(WM_COMMAND, n); }));
+        EXPECT_TRUE(
+            Repaints(m_room, [&, n = command] { EXPECT_EQ(m_pButton->SendMessage(WM_COMMAND, n), 0); }));
         EXPECT_TRUE(ShowsFocus(*m_pButton));
         EXPECT_EQ(m_room.Take(), Told(stored)) << command;
         EXPECT_EQ(m_nValue, stored);

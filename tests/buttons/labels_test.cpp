@@ -337,7 +337,7 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
     Label label;
     CXIcon& icon = label.icon;
     LOGFONTW font{}, window{};
-    EXPECT_EQ(icon.GetFont(&font), 1);
+    icon.GetFont(&font);
     ::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof(window), &window);
     EXPECT_TRUE(font.lfHeight == window.lfHeight && !wcscmp(font.lfFaceName, window.lfFaceName));
     EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);

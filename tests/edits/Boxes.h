@@ -11,7 +11,6 @@ using owtest::TextOf;
 
 constexpr WORD kWhole = 1001, kLines = 1002, kPlain = 1003, kReadOnly = 1004, kOwn = 1005, kGiven = 1006,
                kGivenUnit = 1007, kGivenSpin = 1008, kInsert = 1009, kFree = 1010;
-constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 inline const CComplexUnit kMillimetre{CMeasurementUnit(CMeasurementUnit::eMillimetre, 0)};
 inline const CComplexUnit kCentimetre{CMeasurementUnit(CMeasurementUnit::eCentimetre, 0)};
