@@ -260,16 +260,11 @@ TEST_F(ReflectedButtons, AskForABrushOrElseTakeTheParentsAndTellThatTheirWindowC
 {
     CBrush brush(kGreen);
     m_handler.hBrush = brush;
-    const Lone<CButtonSTReflected> lone(CSize(9, 9));
-    for (const CWnd* pButton :
-         std::initializer_list<const CWnd*>{&m_given, &m_givenST, &m_ownST, &lone.button})
-    {
-        CClientDC dc(pButton->GetParent());
-        const LRESULT hAnswer = pButton->GetParent()->SendMessage(
-            WM_CTLCOLORBTN, reinterpret_cast<WPARAM>(dc.m_hDC), reinterpret_cast<LPARAM>(pButton->m_hWnd));
-        const bool bGiven = pButton == &m_given || pButton == &m_givenST;
-        EXPECT_EQ(reinterpret_cast<HBRUSH>(hAnswer), bGiven ? brush : ::GetSysColorBrush(COLOR_BTNFACE));
-    }
+    CClientDC dc(&m_room);
+    const auto brushOf = [&](const CWnd& button)
+    { return HBRUSH(m_room.SendMessage(WM_CTLCOLORBTN, WPARAM(dc.m_hDC), LPARAM(button.m_hWnd))); };
+    EXPECT_EQ(brushOf(m_givenST), brush);
+    EXPECT_EQ(brushOf(m_ownST), ::GetSysColorBrush(COLOR_BTNFACE));
     m_given.UnsubclassWindow();
     ASSERT_TRUE(m_given.Create(L"Late", WS_CHILD, CRect(0, 0, 9, 9), &m_room, 1005));
     m_given.DestroyWindow();

@@ -161,6 +161,7 @@ struct Combos : ::testing::Test
         dc.SetTextColor(color);
         rect.left += icon ? 20 : 4;
         dc.DrawText(text, rect, DT_SINGLELINE | DT_VCENTER);
+        EXPECT_EQ(seen.dc().GetBkMode(), TRANSPARENT) << "is left so";
         EXPECT_TRUE(seen == wanted) << CStringA(text).GetString() << ' ' << state << ' ' << icon;
     }
 
