@@ -148,7 +148,8 @@ TEST(ButtonImages, ComeFromHandlesOrFromWhicheverModuleHasThemAndReplaceEachOthe
     };
     EXPECT_EQ(sized(), CSize(60, 30)) << "without an image nothing happens";
     EXPECT_EQ(button.SetBitmaps(Make(CSize(16, 12)), kKey), 0u);
-    EXPECT_TRUE(sized() == CSize(16, 12) && button.m_ptImageOrigin == CPoint(0, 0));
+    EXPECT_EQ(sized(), CSize(16, 12));
+    EXPECT_EQ(button.m_ptImageOrigin, CPoint(0, 0));
     const std::tuple<int, int, int, LONG, LONG> rows[] = {
         // size asked for, second image and its size asked for, the sizes that they get
         {0, 10014, 0, 32, 24},
