@@ -172,6 +172,9 @@ TEST_F(PaintedMixedFont, WipesAFormerTextUnlessItIsTransparentAndKeepsSomeOfItsT
         }
     EXPECT_EQ(Open(BS_AUTORADIOBUTTON | BS_LEFTTEXT).GetButtonStyle(), UINT{BS_OWNERDRAW | BS_LEFTTEXT});
     EXPECT_EQ(Open(BS_RADIOBUTTON).GetButtonStyle(), 0xFu) << "kept: a bit of this type stays";
+    CMixedFontButton created;
+    created.Create(L"", WS_CHILD | BS_AUTOCHECKBOX, CRect(), &m_lone->parent, 1);
+    EXPECT_EQ(created.GetButtonStyle(), UINT{BS_OWNERDRAW});
 }
 
 TEST_F(MixedFontInRoom, ClicksGoToTheHandlerAndThenToTheDialogAndWhatChangesItsLookPaintsItAnew)
@@ -337,7 +340,7 @@ TEST(XIcon, HasAFontOfItsOwnThatChangesOneThingAtATimeAndLoadsTextsAndIconsById)
     Label label;
     CXIcon& icon = label.icon;
     LOGFONTW font{}, window{};
-    icon.GetFont(&font);
+    EXPECT_EQ(icon.GetFont(&font), 1);
     ::GetObject(::GetStockObject(DEFAULT_GUI_FONT), sizeof(window), &window);
     EXPECT_TRUE(font.lfHeight == window.lfHeight && !wcscmp(font.lfFaceName, window.lfFaceName));
     EXPECT_EQ(font.lfCharSet, DEFAULT_CHARSET);
