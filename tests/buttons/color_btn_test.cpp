@@ -295,19 +295,22 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
 
 TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithDialogOrObject)
 {
-    m_rgb.UnsubclassWindow();
-    auto pButton = std::make_unique<CColorBtnST>(&m_room);
-    ASSERT_TRUE(pButton->SubclassDlgItem(1001, &m_room));
-    pButton->SetColorSource(&m_color);
-    const auto endAll = [&](CWnd& popup)
+    for (const bool bDelete : {false, true})
     {
-        VisitOther(popup, [&](CWnd&) { pButton.reset(); });
-        EXPECT_TRUE(Becomes(false, popup));
-    };
-    const owtest::ModalVisit ended(endAll);
-    owtest::Click(*pButton);
-    EXPECT_TRUE(m_color == kRed && m_room.Take().empty());
-    Reopen(BS_PUSHBUTTON);
+        m_rgb.UnsubclassWindow();
+        auto pButton = std::make_unique<CColorBtnST>(&m_room);
+        ASSERT_TRUE(pButton->SubclassDlgItem(1001, &m_room));
+        pButton->SetColorSource(&m_color);
+        const auto endAll = [&](CWnd& popup)
+        {
+            VisitOther(popup, [&](CWnd&) { bDelete ? pButton.reset() : void(m_room.DestroyWindow()); });
+            EXPECT_TRUE(Becomes(false, popup));
+        };
+        const owtest::ModalVisit visit(endAll);
+        owtest::Click(*pButton);
+        EXPECT_TRUE(m_color == kRed && m_room.Take().empty());
+        Reopen(BS_PUSHBUTTON);
+    }
     for (CWnd* const pWindow : {static_cast<CWnd*>(&m_acad), static_cast<CWnd*>(&m_rgb)})
     {
         const owtest::ModalVisit visit([](CWnd&) { owtest::Press(VK_ESCAPE); });

@@ -172,9 +172,6 @@ TEST_F(PaintedMixedFont, WipesAFormerTextUnlessItIsTransparentAndKeepsSomeOfItsT
         }
     EXPECT_EQ(Open(BS_AUTORADIOBUTTON | BS_LEFTTEXT).GetButtonStyle(), UINT{BS_OWNERDRAW | BS_LEFTTEXT});
     EXPECT_EQ(Open(BS_RADIOBUTTON).GetButtonStyle(), 0xFu) << "kept: a bit of this type stays";
-    CMixedFontButton created;
-    created.Create(L"", WS_CHILD | BS_AUTOCHECKBOX, CRect(), &m_lone->parent, 1);
-    EXPECT_EQ(created.GetButtonStyle(), UINT{BS_OWNERDRAW});
 }
 
 TEST_F(MixedFontInRoom, ClicksGoToTheHandlerAndThenToTheDialogAndWhatChangesItsLookPaintsItAnew)
