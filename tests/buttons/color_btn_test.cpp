@@ -293,7 +293,7 @@ TEST_F(ColorPopup, OtherReplacesTheColorThatWasNotUsedForLongestUnlessItIsThere)
     }
 }
 
-TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithDialogOrObject)
+TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithWindowOrObject)
 {
     for (const bool bDelete : {false, true})
     {
@@ -303,7 +303,7 @@ TEST_F(ColorPopup, AClickByAProgramOpensNoSecondOneAndEachEndsWithDialogOrObject
         pButton->SetColorSource(&m_color);
         const auto endAll = [&](CWnd& popup)
         {
-            VisitOther(popup, [&](CWnd&) { bDelete ? pButton.reset() : void(m_room.DestroyWindow()); });
+            VisitOther(popup, [&](CWnd&) { bDelete ? pButton.reset() : void(pButton->DestroyWindow()); });
             EXPECT_TRUE(Becomes(false, popup));
         };
         const owtest::ModalVisit visit(endAll);
