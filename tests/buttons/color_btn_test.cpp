@@ -355,15 +355,34 @@ TEST(ColorProfile, KeepsThePaletteWhateverTheLengthOfItsEntries)
     app.WriteProfileString(L"ColorData", nullptr, nullptr);
 }
 
-template <class Button>
+template <class Button, bool bPaint>
 static void UseWithoutSource()
 {
-    ClickByProgram(Lone<Button>(CSize(60, 26)).button);
+    Lone<Button> lone(CSize(60, 26));
+    Surface surface(60, 26);
+    bPaint ? PaintButton(lone.button, surface) : ClickByProgram(lone.button);
+}
+
+static void LoseSourceAndChoose()
+{
+    DWORD color = 0;
+    Lone<CColorBtnST> lone(CSize(60, 26));
+    lone.button.SetColorSource(&color);
+    const auto lose = [&](CWnd&)
+    {
+        lone.button.SetColorSource(nullptr);
+        owtest::Press(VK_RETURN);
+    };
+    const owtest::ModalVisit visit(lose);
+    ClickByProgram(lone.button);
 }
 
 static const std::tuple<const char*, std::wstring, owtest::ScenarioRegistration> s_fatal[] = {
-    {"273", L"ColorBtnST : 273", {"273", &UseWithoutSource<CColorBtnST>}},
-    {"249", L"AcadColorBtnST : 249", {"249", &UseWithoutSource<CAcadColorBtnST>}}};
+    {"198", L"ColorBtnST : 198", {"198", &UseWithoutSource<CColorBtnST, true>}},
+    {"273", L"ColorBtnST : 273", {"273", &UseWithoutSource<CColorBtnST, false>}},
+    {"276", L"ColorBtnST : 276", {"276", &LoseSourceAndChoose}},
+    {"147", L"AcadColorBtnST : 147", {"147", &UseWithoutSource<CAcadColorBtnST, true>}},
+    {"249", L"AcadColorBtnST : 249", {"249", &UseWithoutSource<CAcadColorBtnST, false>}}};
 
 TEST(ColorButton, WithoutASourceItIsFatal)
 {

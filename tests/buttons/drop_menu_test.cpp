@@ -117,8 +117,11 @@ TEST_P(DropMenus, StayOpenWhateverKeyIsHeldAndEndWithDialogOrButton)
 TEST_P(DropMenus, TakeEveryCommandForAChoice)
 {
     const WPARAM nFirst = m_bText ? 36914 : 36874;
-    const std::pair<WPARAM, int> rows[] = {{nFirst + 6, 3},   // behind the last: what stands there
-                                           {nFirst - 1, -1}}; // wanted: there is no lower bound
+    const std::pair<WPARAM, int> rows[] = {
+        {nFirst + 6, 3},  // behind the last: what stands there
+        {nFirst - 1, -1}, // wanted: there is no lower bound
+        {MAKEWPARAM(nFirst, 1), 3},
+        {nFirst + (1ull << 32), m_bText ? 0 : 3}}; // text buttons: the low 32 bits
     for (const auto& [command, stored] : rows)
     {
         m_nValue = 3;
@@ -171,7 +174,11 @@ TEST(PickerMenu, ShowsAllPicturesOnTheMenusColourAndKeepsThePlacesOfMissingOnes)
 {
     ExpectMenu<CBitmapBtnSTKotnaLinija>(36864);
     ExpectMenu<CBitmapBtnSTTekstKote>(36874);
+    ExpectMenu<CBitmapBtnSTSrafura>(36864);
+    ExpectMenu<CBitmapBtnSTVisinskaKota>(36864);
+    ExpectMenu<CBitmapBtnSTLinija>(36864);
     ExpectMenu<CBitmapBtnSTSimbolPresekaLinija>(36864);
+    ExpectMenu<CBitmapBtnSTSimbolPresekaZavrsetak>(36864);
 
     using Hatches = CBitmapBtnSTSrafura;
     Lone<OpenPicker<Hatches>> lone(CSize(80, 30));

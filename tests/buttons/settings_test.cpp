@@ -181,9 +181,12 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
         return pixels;
     };
     const Icon icon = MakeIcon(CSize(17, 12), pixelsOf(17, kColor));
+    owtest::HandleCount before;
     for (const auto& [copy, cr] : {std::pair(CButtonST::copyGray, kGrey), {CButtonST::copyDarker, kDarker}})
     {
+        before = owtest::CountHandles();
         Open button;
+        button.SetBtnCursor(IDC_CROSSHAIR);
         ASSERT_EQ(button.SetIcon(icon.get(), reinterpret_cast<HICON>(LONG_PTR(copy))), 0u);
         EXPECT_EQ(button.m_icons[1].size, CSize(16, 12));
         ICONINFO info{};
@@ -200,6 +203,8 @@ TEST(ButtonImages, MayBeGreyOrDarkerCopiesOfWhatIsNotTransparent)
         EXPECT_EQ(ColorsOf(first.hMask), std::pair(DWORD(kWhite), DWORD(0)));
         EXPECT_EQ(ColorsOf(second.hMask), ColorsOf(first.hMask)) << "the first one's transparent colour";
     }
+    // Wanted: an icon that a button made itself is let go of with DeleteObject, which does nothing to an icon.
+    EXPECT_EQ(owtest::CountHandles().user, before.user + 1);
 }
 
 TEST(ButtonImages, AFailureIsToldAndLeavesNoImagesAsARemovalDoes)

@@ -253,6 +253,11 @@ TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
     EXPECT_TRUE(box.GetValue() == 0.04 && TextOf(box) == L"0.04" && TextOf(box.Label()).empty());
     EXPECT_TRUE(box.GetComplexUnit() == kCentimetre && !box.IsComplexUnitEnabled());
     box.DisableRangeChecking();
+    box.SetComplexUnit(
+        CComplexUnit(CMeasurementUnit(CMeasurementUnit::eMeganewton, CMeasurementUnit::eForce)));
+    box.SetWindowText(L"1e305");
+    EXPECT_EQ(box.GetValue(), 0.04) << "a number whose global value is beyond a double";
+    box.DisableComplexUnit();
     dialog.given.SetComplexUnit(kCentimetre);
     EXPECT_EQ(TextOf(*dialog.GetDlgItem(kGivenUnit)), L"cm");
     box.SetValue(0.127);

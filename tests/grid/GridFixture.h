@@ -16,7 +16,7 @@ public:
         CGridCtrl::GetVisibleNonFixedCellRange, CGridCtrl::InvalidateCellRect, CGridCtrl::IsVisibleHScroll,
         CGridCtrl::IsVisibleVScroll, CGridCtrl::m_nHScrollMax, CGridCtrl::m_nTimerId,
         CGridCtrl::m_nVScrollMax, CGridCtrl::m_nWheelLines, CGridCtrl::m_selectionStart, CGridCtrl::OnDraw,
-        CGridCtrl::OnEditCell, CGridCtrl::SetScrollPos32;
+        CGridCtrl::OnEditCell, CGridCtrl::ResetScrollBars, CGridCtrl::SetScrollPos32;
 
     std::vector<std::string> scrolls; ///< the scroll messages, as "v1" for one line down
     CCellID tracked;                  ///< the first of the body where a thumb's move has it repainted

@@ -155,6 +155,9 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
     grid.SetColumnWidth(3, 0, TRUE);
     EXPECT_FALSE(grid.AutoSizeColumn(3));
     grid.AutoSizeColumns();
+    const int nRange = grid.m_nHScrollMax;
+    grid.ResetScrollBars();
+    EXPECT_EQ(grid.m_nHScrollMax, nRange) << "that of the new widths";
     for (const int nCol : {0, kCols - 1})
         EXPECT_LT(grid.GetColumnWidth(nCol), kColWidth) << "of the narrow ones each";
     grid.SetRowHeight(4, 0);
