@@ -11,8 +11,13 @@ inline std::vector<std::string> calls;
 /// What is done in the first such call from now on, and at "left fields", when the box of a dialog is left.
 inline std::map<std::string, std::function<void()>> once;
 
+/// Hears of each call.
+inline std::function<void(const std::string& call)> listener;
+
 inline void Hear(const std::string& call)
 {
+    if (listener)
+        listener(call);
     if (const auto found = once.extract(call))
         found.mapped()();
 }
@@ -43,6 +48,7 @@ struct RecordingPage : CPage
     RecordingPage(CString strName, CPageDialog* pDialog, int nId) : CPage(strName, pDialog), m_nId(nId) {}
     ~RecordingPage() override { Note("delete " + NameOf(this)); }
     EPageID GetPageID() const override { return static_cast<EPageID>(m_nId); }
+    const CPageDialog* Dialog() const { return dialog; }
 
     int nCount = 0; ///< what its dialog shows
     int m_nId;
@@ -109,13 +115,18 @@ struct RecordingClient : AAddPageNotificationClient,
     {
         Note(name + ": " + NameOf(pPage) + " below " + NameOf(pParent));
     }
-    void PageSelected(CPage* pNew, CPage* pOld) override { Note(NameOf(pNew) + kSelections + NameOf(pOld)); }
+    void PageSelected(CPage* pNew, CPage* pOld) override
+    {
+        pTold = pNew;
+        Note(NameOf(pNew) + kSelections + NameOf(pOld));
+    }
     void AttributeChangedUsingGUI() override { Note(name + ": changed"); }
 
     std::string name;
+    CPage* pTold = nullptr; ///< the last selection
 };
 
-/// A host with a manager of six pages, a caption and a selector: a tree, or a combo group with its toggle.
+/// A host with a manager of six pages or none, a caption and a selector: a tree, or a combo group with its toggle.
 template <class Selector>
 class PagesHost : public CDialog, public APageFrameProvider
 {
@@ -123,6 +134,7 @@ class PagesHost : public CDialog, public APageFrameProvider
     static constexpr bool kPush = std::is_base_of_v<CPageComboButtonSTCtrlGroup, Selector>;
 
 public:
+    explicit PagesHost(bool bFilled = true) : m_bFilled(bFilled) {}
     ~PagesHost() override { DestroyWindow(); }
 
     Selector selector{IDC_SELECTOR, IDC_TOGGLE};
@@ -195,6 +207,16 @@ protected:
         for (ASelectPageNotificationClient* pClient :
              std::initializer_list<ASelectPageNotificationClient*>{&selects, &manager, &caption})
             selector.RegisterSelectPageNotification(pClient, true);
+        if (m_bFilled)
+            Fill();
+        GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
+        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
+        return FALSE;
+    }
+    void OnOK() override { ++oks; }
+    void OnCancel() override { ++cancels; }
+    void Fill()
+    {
         fields = AddDialog(IDD_FIELDS, "fields");
         plain = AddDialog(IDD_PLAIN, "plain");
         int nId = 0;
@@ -205,12 +227,8 @@ protected:
                                            {L"Earlier", "Delta"},
                                            {L"Later", "Delta"}})
             AddPage(name, *parent ? plain : fields, ++nId, Page(parent));
-        GetDlgItem(IDC_TOGGLE)->ShowWindow(kTree ? SW_HIDE : SW_SHOW);
-        GetDlgItem(IDC_NAME)->SetFocus(); // a tree that gets the focus selects its first item
-        return FALSE;
     }
-    void OnOK() override { ++oks; }
-    void OnCancel() override { ++cancels; }
+    bool m_bFilled;
 };
 
 /// A tree whose inner operations a test may call, made as the other selectors are.

@@ -2,7 +2,7 @@
 
 #include <module/AssertReport.h>
 
-#include "OtherText.h"
+#include "Texts.h"
 #include "Testing.h"
 
 #include <regex>
