@@ -172,6 +172,7 @@ TEST_F(Boxes, AreSilentOnlyOfTextsThatAreSetTheSafeWay)
         dialog.plain.SafeSetWindowText(L"\u0160rafura \u010d");
         EXPECT_EQ(TextOf(dialog.plain), L"\u0160rafura \u010d") << "the texts stay wide";
         EXPECT_TRUE(handler.Take().empty() && dialog.plain.GetAnsiInterface() == bInterface);
+        EXPECT_EQ(dialog.plain.HasChangedSinceLastSetFocus(), bInterface) << "by the loud one before";
         dialog.plain.SetWindowText(L"loud");
         EXPECT_TRUE(handler.Take() == "change 1003; " && dialog.plain.HasChangedSinceLastSetFocus());
     }
