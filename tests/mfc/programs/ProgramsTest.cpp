@@ -1,149 +1,60 @@
-// A program as clients write them, at work. Keys and clicks go to whatever window is in front, as a user's do. The
-// program works on them in its own time: whoever presses asks afterwards for what must come of it, and waits.
+// Programs as clients write them, at work.
 
-#include <afxcmn.h>
-
-#include "clients/resource.h"
-#include "Testing.h"
+#include "Client.h"
 
 using owtest::Press;
 using owtest::Type;
 
-namespace
+TEST(WizardDialog, ExchangesItsValuesRefusesBadOnesAndShowsItsAboutBox)
 {
-/// Waits for a condition, no longer for long once the test has failed.
-bool Waits(const std::function<bool()>& condition)
-{
-    return owtest::PumpUntil(condition, ::testing::Test::HasFailure() ? 500 : 20000);
+    Client program(L"wizard_dialog");
+    const HWND dialog = program.Window(L"Wizard's dialog");
+    program.Click(IDC_GREET);
+    program.Shows(IDC_STATE, L"3 x beam");
+    for (int i = 0; i < 3; ++i) // from the button to OK, Cancel, and round to the name
+        Press(VK_TAB);
+    Type(L"plate\t120");
+    program.Click(IDC_GREET);              // 120 is out of range
+    program.Confirm(L"mfc_wizard_dialog"); // the box is named after the program
+    program.Window(L"Wizard's dialog");
+    program.IsToBeRetyped(IDC_COUNT);
+    Type(L"12");
+    Press(VK_F1);
+    program.Shows(IDC_STATE, L"help for 1002");
+    program.Click(IDC_GREET);
+    program.Shows(IDC_STATE, L"12 x plate");
+    ::PostMessageW(dialog, WM_SYSCOMMAND, IDM_ABOUTBOX, 0);
+    program.Confirm(L"About");
+    program.Window(L"Wizard's dialog");
+    Press(VK_ESCAPE);
 }
 
-/// The program, which has to end with this object.
-class Client
+TEST(WizardDialog, OpensADialogBesideItselfThatDeletesItself)
 {
-public:
-    /// Starts it; it stands beside the test's own program.
-    explicit Client(const std::wstring& arguments)
+    Client program(L"wizard_dialog");
+    const auto open = [&]
     {
-        wchar_t path[MAX_PATH] = L"";
-        ::GetModuleFileNameW(nullptr, path, MAX_PATH);
-        wcsrchr(path, L'\\')[1] = 0;
-        std::wstring command = L'"' + std::wstring(path) + L"mfc_property_sheet.exe\" " + arguments;
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        // Wine now and then cannot place a new process at its fixed addresses; the next try does.
-        for (int tries = 0; m_process.hProcess == nullptr && tries < 3; ++tries)
-            ::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                             &m_process);
-        ::WaitForInputIdle(m_process.hProcess,
-                           20000); // until its window is painted: some controls need that first
-    }
-    ~Client()
-    {
-        EXPECT_TRUE(Waits([this] { return HasEnded(); })) << "it does not end";
-        ::TerminateProcess(m_process.hProcess, 99);
-        ::CloseHandle(m_process.hThread);
-        ::CloseHandle(m_process.hProcess);
-    }
-    Client(const Client&) = delete;
-    Client& operator=(const Client&) = delete;
-
-    /// Waits for a visible, enabled window of the program with that title, or any, and brings it to the front.
-    /// The items are those of that window from now on.
-    void Window(const std::wstring& title = {})
-    {
-        EXPECT_TRUE(Waits([&] { return (m_window = Find(title)) != nullptr || HasEnded(); }));
-        EXPECT_NE(m_window, nullptr) << "no window of this title";
-        // It comes to the front by itself, as a rule; to help it then would take the focus from where it was put.
-        const auto isInFront = [&] { return ::GetForegroundWindow() == m_window; };
-        if (!owtest::PumpUntil(isInFront, 1000))
-        {
-            ::SetForegroundWindow(m_window);
-            EXPECT_TRUE(Waits(isInFront));
-        }
-    }
-    /// A message box, which is named after the program; answered by Return.
-    void Confirm(const std::wstring& text)
-    {
-        Window(L"mfc_property_sheet");
-        Shows(0xFFFF, text);
-        Press(VK_RETURN);
-    }
-
-    /// A control of the window, or of the page of a sheet that shows; null if there is none.
-    HWND Item(int id) const
-    {
-        if (const HWND item = ::GetDlgItem(m_window, id))
-            return item;
-        for (HWND page = ::GetTopWindow(m_window); page != nullptr; page = ::GetWindow(page, GW_HWNDNEXT))
-            if (const HWND item = ::IsWindowVisible(page) ? ::GetDlgItem(page, id) : nullptr)
-                return item;
-        return nullptr;
-    }
-    bool HasFocus(int id) const
-    {
-        GUITHREADINFO info{};
-        info.cbSize = sizeof info;
-        return ::GetGUIThreadInfo(m_process.dwThreadId, &info) && info.hwndFocus &&
-               info.hwndFocus == Item(id);
-    }
-    bool IsEnabled(int id) const { return ::IsWindowEnabled(Item(id)) != FALSE; }
-    bool WaitsFor(int id) const
-    {
-        return Waits([=, this] { return IsEnabled(id); });
-    }
-    /// Clicks a control as soon as it is there and enabled.
-    void Click(int id) const
-    {
-        EXPECT_TRUE(WaitsFor(id)) << id;
-        owtest::Click(Item(id));
-    }
-    /// Waits until a control shows a text. GetWindowText would answer only what stands in its frame.
-    void Shows(int id, const std::wstring& text) const
-    {
-        wchar_t shown[256] = L"";
-        const auto shows = [&]
-        {
-            DWORD_PTR length = 0;
-            ::SendMessageTimeoutW(Item(id), WM_GETTEXT, ARRAYSIZE(shown), reinterpret_cast<LPARAM>(shown),
-                                  SMTO_ABORTIFHUNG, 5000, &length);
-            return text == shown;
-        };
-        EXPECT_TRUE(Waits(shows)) << ::testing::PrintToString(std::wstring(shown));
-    }
-    /// Waits until an edit control has the focus and its text is selected: a refused value is to be typed anew.
-    void IsToBeRetyped(int id) const
-    {
-        const auto isSelected = [=, this, edit = Item(id)]
-        {
-            const LRESULT length = ::SendMessageW(edit, WM_GETTEXTLENGTH, 0, 0);
-            return HasFocus(id) && ::SendMessageW(edit, EM_GETSEL, 0, 0) == MAKELONG(0, length);
-        };
-        EXPECT_TRUE(Waits(isSelected)) << id;
-    }
-
-private:
-    HWND Find(const std::wstring& title) const
-    {
-        for (HWND window = ::GetTopWindow(nullptr); window; window = ::GetWindow(window, GW_HWNDNEXT))
-        {
-            DWORD process = 0;
-            ::GetWindowThreadProcessId(window, &process);
-            wchar_t text[128] = L"";
-            if (process == m_process.dwProcessId && ::IsWindowVisible(window) && ::IsWindowEnabled(window) &&
-                ::GetWindowTextW(window, text, ARRAYSIZE(text)) > 0 && (title.empty() || title == text))
-                return window;
-        }
-        return nullptr;
-    }
-    bool HasEnded() const { return ::WaitForSingleObject(m_process.hProcess, 0) != WAIT_TIMEOUT; }
-
-    PROCESS_INFORMATION m_process{};
-    HWND m_window = nullptr;
-};
+        program.Window(L"Wizard's dialog");
+        program.Click(IDC_OPEN);
+        program.Window(L"Notes");
+    };
+    open();
+    Type(L"bolt\r"); // Return is Keep
+    program.Window(L"Wizard's dialog");
+    program.Shows(IDC_STATE, L"bolt");
+    open();
+    Press(VK_ESCAPE);
+    program.Window(L"Wizard's dialog");
+    program.Shows(IDC_STATE, L"dropped");
+    open();
+    program.Window(L"Wizard's dialog");
+    EXPECT_FALSE(program.IsEnabled(IDC_OPEN));
+    program.Click(IDCANCEL); // takes the notes along
+}
 
 /// Ctrl+Page Down, again if need be: on a busy display Wine now and then takes the focus away and gives it back, and the
 /// key is lost.
-void TurnPage(const std::function<bool()>& isTurned)
+static void TurnPage(const std::function<bool()>& isTurned)
 {
     int tries = 6;
     do
@@ -151,17 +62,16 @@ void TurnPage(const std::function<bool()>& isTurned)
     while (!owtest::PumpUntil(isTurned, 5000) && --tries > 0);
     EXPECT_TRUE(isTurned());
 }
-} // namespace
 
 TEST(PropertySheet, TakesItsValuesPageByPageAndAppliesThem)
 {
-    Client program(L"part.dat");
+    Client program(L"property_sheet", L"part.dat");
     program.Window(L"Beam");
     EXPECT_FALSE(program.IsEnabled(ID_APPLY_NOW));
     Type(L"hea\t700");
     EXPECT_TRUE(program.WaitsFor(ID_APPLY_NOW));
     TurnPage([] { return ::FindWindowW(nullptr, L"mfc_property_sheet") != nullptr; }); // 700 is refused
-    program.Confirm(L"Please enter a whole number from 80 to 600.");
+    program.Confirm(L"mfc_property_sheet");
     program.Window(L"Beam");
     program.IsToBeRetyped(IDC_HEIGHT);
     Type(L"300");
@@ -172,12 +82,12 @@ TEST(PropertySheet, TakesItsValuesPageByPageAndAppliesThem)
     program.Click(ID_APPLY_NOW);
     EXPECT_TRUE(Waits([&] { return !program.IsEnabled(ID_APPLY_NOW); }));
     program.Click(IDOK);
-    program.Confirm(L"part.dat by 1: hea 300, grade 0, weldable 1, applied 2");
+    program.Confirm(L"mfc_property_sheet", L"part.dat by 1: hea 300, grade 0, weldable 1, applied 2");
 }
 
 TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
 {
-    Client program(L"/wizard");
+    Client program(L"property_sheet", L"/wizard");
     program.Window(); // the title is the sheet's or the page's, as the system has it
     const auto retype = [&](int id, const wchar_t* text)
     {
@@ -203,5 +113,73 @@ TEST(PropertySheet, IsAWizardWhosePagesSayWhichIsNext)
     program.Click(ID_WIZNEXT);
     EXPECT_TRUE(program.WaitsFor(IDC_STATE));
     program.Click(ID_WIZFINISH);
-    program.Confirm(L" by 12325:  90, grade 0, weldable 0, applied 0");
+    program.Confirm(L"mfc_property_sheet", L" by 12325:  90, grade 0, weldable 0, applied 0");
+}
+
+TEST(Worker, ReportsToTheDialogAndToAThreadWithAWindowOfItsOwn)
+{
+    Client program(L"worker");
+    program.Window(L"Work");
+    program.Click(IDC_BEGIN);
+    program.Shows(IDC_DONE, L"squared");
+    EXPECT_EQ(::SendMessageW(program.Item(IDC_PROGRESS), PBM_GETPOS, 0, 0), 5);
+    program.Click(IDC_TOTAL);
+    program.Window(L"Total: 55");
+    program.Window(L"Work");
+    program.Click(IDC_HALT);
+    program.Shows(IDC_DONE, L"7");
+    Press(VK_ESCAPE);
+}
+
+TEST(DatePicker, ShowsTheSpanOfWhatIsChosenAndRefusesAStartAfterTheEnd)
+{
+    Client program(L"date_picker");
+    program.Window(L"Dates");
+    program.Shows(IDC_SPAN, L"12 days to 2024-02-27");
+    owtest::Click(program.Item(IDC_DUE), CPoint(10, 8)); // the day
+    Press(VK_UP);
+    Press(VK_UP);
+    program.Shows(IDC_SPAN, L"14 days to 2024-02-29");
+    Press(VK_RIGHT);
+    Press(VK_DOWN); // January
+    program.Shows(IDC_SPAN, L"-17 days to 2024-01-29");
+    program.Click(IDC_CHECK);
+    program.Confirm(L"mfc_date_picker");
+    program.Window(L"Dates");
+    program.Shows(IDC_SPAN, L"-17 days to 2024-01-29");
+    RECT calendar;
+    ::GetClientRect(program.Item(IDC_START), &calendar);
+    owtest::Click(program.Item(IDC_START),
+                  CPoint(calendar.right / 14, calendar.bottom * 3 / 10)); // of January
+    program.Click(IDC_CHECK);
+    program.Shows(IDC_SPAN, L"checked");
+    Press(VK_ESCAPE);
+}
+
+TEST(PictureList, SortsChecksTurnsAndTells)
+{
+    Client program(L"picture_list");
+    program.Window(L"Parts");
+    const HWND header = ::GetTopWindow(program.Item(IDC_PARTS));
+    owtest::Click(header, CPoint(120, 8)); // the masses
+    program.Shows(IDC_STATE, L"plate anchor beam ");
+    owtest::Click(header, CPoint(30, 8)); // the names, backwards
+    program.Shows(IDC_STATE, L"plate beam anchor ");
+
+    const HWND options = program.Item(IDC_OPTIONS);
+    const auto click = [=](int x, int item)
+    {
+        const int height = static_cast<int>(::SendMessageW(options, LB_GETITEMHEIGHT, 0, 0));
+        owtest::Click(options, CPoint(x, height * item + height / 2));
+    };
+    click(6, 2);
+    program.Shows(IDC_STATE, L"001");
+    click(6, 1); // disabled
+    click(40, 0);
+    Press(VK_SPACE);
+    program.Shows(IDC_STATE, L"101");
+
+    owtest::Click(program.Item(IDC_TURN), CPoint(5, 5));
+    program.Shows(IDC_STATE, L"turned");
+    Press(VK_ESCAPE);
 }

@@ -43,8 +43,8 @@ protected:
 
 BEGIN_MESSAGE_MAP(CTestApp, CWinApp)
     ON_COMMAND(0x8123, &CTestApp::OnCommand)
-    ON_UPDATE_COMMAND_UI_RANGE(0x8124, 0x8126,
-                               &CTestApp::OnUpdateFrames) // the first is answered by the frame
+    // The first is answered by the frame.
+    ON_UPDATE_COMMAND_UI_RANGE(0x8124, 0x8126, &CTestApp::OnUpdateFrames)
     ON_COMMAND(ID_HELP, &CWinApp::OnHelp)
     ON_COMMAND(ID_DEFAULT_HELP, &CTestApp::OnDefaultHelp)
 END_MESSAGE_MAP()
@@ -214,14 +214,14 @@ TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
     EXPECT_EQ(Noted(), "frame;application;frame;");
     CMenu menu;
     ASSERT_TRUE(menu.CreatePopupMenu());
+    // Handed on, its own, the application's, nobody's, the system's.
     const std::pair<UINT, UINT> items[] = {{0x8126, MF_GRAYED | MF_CHECKED},
                                            {0x8124, MF_CHECKED},
                                            {0x8123, MF_ENABLED},
                                            {0x8125, MF_GRAYED},
                                            {0xF000, MF_ENABLED}};
     for (const auto& [command, state] : items)
-        menu.AppendMenu(MF_STRING, command,
-                        L"item"); // handed on, its own, the application's, nobody's, the system's
+        menu.AppendMenu(MF_STRING, command, L"item");
     frame->SendMessage(WM_INITMENUPOPUP, reinterpret_cast<WPARAM>(menu.m_hMenu), 0);
     for (const auto& [command, state] : items)
         EXPECT_EQ(menu.GetMenuState(command, MF_BYCOMMAND), state) << command;
