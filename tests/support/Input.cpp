@@ -54,10 +54,17 @@ bool IsEcho(const MSG& msg)
     return again;
 }
 
-/// A left click that carries a time of its own: the system tells a double click by the times of its presses.
-std::vector<INPUT> LeftClick(DWORD time)
+/// Presses and releases carry their place, wherever an echo has put the mouse in the meantime.
+INPUT LeftButton(DWORD flag, CPoint screen)
 {
-    std::vector<INPUT> inputs{Mouse(MOUSEEVENTF_LEFTDOWN, {}), Mouse(MOUSEEVENTF_LEFTUP, {})};
+    return Mouse(flag | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen);
+}
+
+/// A left click that carries a time of its own: the system tells a double click by the times of its presses.
+std::vector<INPUT> LeftClick(CPoint screen, DWORD time)
+{
+    std::vector<INPUT> inputs{LeftButton(MOUSEEVENTF_LEFTDOWN, screen),
+                              LeftButton(MOUSEEVENTF_LEFTUP, screen)};
     for (INPUT& input : inputs)
         input.mi.time = time;
     return inputs;
@@ -87,8 +94,11 @@ CPoint MiddleOf(HWND window)
     return client.CenterPoint();
 }
 
+CPoint s_place; ///< where the mouse was moved to last
+
 void MoveToScreen(CPoint screen)
 {
+    s_place = screen;
     Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
     PumpUntil(
         [&]
@@ -182,13 +192,13 @@ void MoveTo(HWND window, CPoint client)
 void ButtonDown(HWND window, CPoint client)
 {
     MoveTo(window, client);
-    Send({LeftClick(TimeOfNextPress()).front()});
+    Send({LeftClick(s_place, TimeOfNextPress()).front()});
     Pump();
 }
 
 void ButtonUp()
 {
-    Send({Mouse(MOUSEEVENTF_LEFTUP, {})});
+    Send({LeftButton(MOUSEEVENTF_LEFTUP, s_place)});
     Pump();
 }
 
@@ -196,7 +206,7 @@ void Click(HWND window, CPoint client)
 {
     // Down and up together: a control may run a message loop of its own between them.
     MoveTo(window, client);
-    Send(LeftClick(TimeOfNextPress()));
+    Send(LeftClick(s_place, TimeOfNextPress()));
     Pump();
 }
 
@@ -209,9 +219,9 @@ void DoubleClick(HWND window, CPoint client)
 {
     MoveTo(window, client);
     const DWORD time = TimeOfNextPress();
-    Send(LeftClick(time));
+    Send(LeftClick(s_place, time));
     Pump();
-    Send(LeftClick(time));
+    Send(LeftClick(s_place, time));
     Pump();
 }
 
@@ -222,15 +232,14 @@ void QueueKey(WORD virtualKey)
 
 void QueueDrag(CPoint from, CPoint to)
 {
-    constexpr DWORD kMove = MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
-    const std::vector<INPUT> click = LeftClick(TimeOfNextPress());
-    Send({Mouse(kMove, from), click.front(), Mouse(kMove, to), click.back()});
+    const DWORD time = TimeOfNextPress();
+    Send({LeftClick(from, time).front(), Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, to),
+          LeftClick(to, time).back()});
 }
 
 void QueueClick(CPoint screen)
 {
-    Send({Mouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, screen)});
-    Send(LeftClick(TimeOfNextPress()));
+    Send(LeftClick(screen, TimeOfNextPress()));
 }
 
 void QueueClick(HWND window)
