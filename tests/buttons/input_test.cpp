@@ -200,6 +200,15 @@ TEST_F(ButtonInput, AHoldSendsAnEvenNumberOfCommandsUntilTheMouseIsLetGoOrTheBut
     m_push.SetFlat(TRUE);
     EXPECT_EQ(CommandsOfAHold(3, [] { ::SetCursorPos(0, 0); }), 4);
 
+    owtest::MoveTo(m_push, CPoint(10, 10));
+    m_room.then = [&]
+    {
+        m_push.SendMessage(WM_MOUSELEAVE);
+        m_push.PostMessage(WM_LBUTTONUP);
+    };
+    m_push.SendMessage(WM_LBUTTONDOWN);
+    EXPECT_TRUE(m_push.m_bMouseOnButton) << "a hold ends with a look at where the mouse is";
+
     EXPECT_EQ(CommandsOfAHold(100, [&] { m_push.EnableWindow(FALSE); }), 2);
     m_push.EnableWindow();
     EXPECT_EQ(CommandsOfAHold(100, [&] { m_push.ShowWindow(SW_HIDE); }), 2);
