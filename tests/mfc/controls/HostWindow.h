@@ -3,7 +3,7 @@
 
 #include <afxcmn.h>
 
-#include "Testing.h"
+#include "../base/Told.h"
 
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
 

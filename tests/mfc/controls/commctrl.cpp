@@ -2,8 +2,6 @@
 
 #include "HostWindow.h"
 
-#include "../base/Told.h"
-
 #include <afxpriv.h>
 
 namespace

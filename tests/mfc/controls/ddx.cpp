@@ -2,8 +2,6 @@
 
 #include "HostWindow.h"
 
-#include "../base/Told.h"
-
 namespace
 {
 constexpr int IDC_VALUE = 100;
@@ -145,11 +143,6 @@ TEST_F(ExchangeTest, RangesIncludeTheirBoundsAndAreComparedInTheirType)
         {[](CDataExchange* dx) { DDV_MinMaxInt(dx, -5, -5, 10); }, L""},
         {[](CDataExchange* dx) { DDV_MinMaxInt(dx, 11, -5, 10); }, L" whole number from -5 to 10."},
         {[](CDataExchange* dx) { DDV_MinMaxByte(dx, 9, 10, 20); }, L" whole number from 10 to 20."},
-        {[](CDataExchange* dx) { DDV_MinMaxUInt(dx, ~0u, 0, ~0u / 2); },
-         L" whole number from 0 to 2147483647."},
-        {[](CDataExchange* dx) { DDV_MinMaxDWord(dx, ~0ul, 0, ~0ul); }, L""},
-        {[](CDataExchange* dx) { DDV_MinMaxLongLong(dx, 1ll << 40, 0, 1ll << 33); },
-         L" whole number from 0 to 8589934592."},
         {[](CDataExchange* dx) { DDV_MinMaxULongLong(dx, 1ull << 63, 0, ~0ull); }, L""},
         {[](CDataExchange* dx) { DDV_MinMaxFloat(dx, 0.5f, 0.1f, 0.4f); }, L" number from 0.1 to 0.4."},
         {[](CDataExchange* dx) { DDV_MinMaxDouble(dx, 0.4, 0.4, 0.4); }, L""},

@@ -4,8 +4,6 @@
 
 #include <afxext.h>
 
-#include "../base/Told.h"
-
 namespace
 {
 /// The parent of a control, which counts its check notifications.

@@ -2,8 +2,6 @@
 
 #include "HostWindow.h"
 
-#include "../base/Told.h"
-
 TEST(GdiObject, SelectAnswersTheObjectThatWasSelectedBeforeAndCopiesARegion)
 {
     owtest::Surface surface(50, 50);

@@ -3,8 +3,6 @@
 
 #include "HostWindow.h"
 
-#include "../base/Told.h"
-
 #include <afxdtctl.h>
 
 namespace
@@ -334,14 +332,17 @@ struct Called : Control
     virtual void MeasureItem(LPMEASUREITEMSTRUCT item) { log += item->CtlID == 5 ? "measure " : "? "; }
     virtual int CompareItem(LPCOMPAREITEMSTRUCT item) { return item->CtlID; }
     virtual void DeleteItem(LPDELETEITEMSTRUCT item) { log += item->CtlID == 5 ? "delete " : "? "; }
+    virtual int VKeyToItem(UINT key, UINT index) { return int(key * 10 + index); }
+    virtual int CharToItem(UINT key, UINT index) { return int(key * 100 + index); }
     std::string Log()
     {
         DRAWITEMSTRUCT item = {0, 5};
-        for (const UINT message :
-             {WM_DRAWITEM, WM_MEASUREITEM, WM_COMPAREITEM, WM_DELETEITEM, WM_CTLCOLORBTN})
+        for (const UINT message : {WM_DRAWITEM, WM_MEASUREITEM, WM_COMPAREITEM, WM_DELETEITEM, WM_VKEYTOITEM,
+                                   WM_CHARTOITEM, WM_CTLCOLORBTN})
         {
             LRESULT answer = 0;
-            const BOOL taken = this->OnChildNotify(message, 0, reinterpret_cast<LPARAM>(&item), &answer);
+            const auto data = reinterpret_cast<LPARAM>(&item);
+            const BOOL taken = this->OnChildNotify(message, MAKEWPARAM(6, 3), data, &answer);
             log += std::to_string(10 * taken + answer) + ' ';
         }
         return log;
@@ -354,18 +355,7 @@ TEST(Messages, ThatTheParentSendsBackCallTheirFunctions)
     for (const std::string& log :
          {Called<CStatic>().Log(), Called<CButton>().Log(), Called<CHeaderCtrl>().Log(),
           Called<CTabCtrl>().Log(), Called<CStatusBarCtrl>().Log(), Called<CListCtrl>().Log()})
-        EXPECT_EQ(log, "draw 10 0 0 0 0 ");
-    for (const std::string& log : {Called<CListBox>().Log(), Called<CComboBox>().Log()})
-        EXPECT_EQ(log, "draw 10 measure 10 15 delete 10 0 ");
-    struct : CListBox
-    {
-        int VKeyToItem(UINT key, UINT index) override { return int(key * 10 + index); }
-        int CharToItem(UINT key, UINT index) override { return int(key * 100 + index); }
-        using CListBox::OnChildNotify;
-    } list;
-    LRESULT answer = 0;
-    EXPECT_TRUE(list.OnChildNotify(WM_VKEYTOITEM, MAKEWPARAM(6, 3), 0, &answer));
-    EXPECT_EQ(answer, 63);
-    EXPECT_TRUE(list.OnChildNotify(WM_CHARTOITEM, MAKEWPARAM(6, 3), 0, &answer));
-    EXPECT_EQ(answer, 603);
+        EXPECT_EQ(log, "draw 10 0 0 0 0 0 0 ");
+    EXPECT_EQ(Called<CListBox>().Log(), "draw 10 measure 10 15 delete 10 73 613 0 ");
+    EXPECT_EQ(Called<CComboBox>().Log(), "draw 10 measure 10 15 delete 10 0 0 0 ");
 }

@@ -153,8 +153,7 @@ TEST_F(Application, RunsIfItBeginsAndElseEndsWithItsWindow)
     };
     app->isProgram = TRUE;
     AfxSetResourceHandle(nullptr);
-    CWnd main;
-    ASSERT_TRUE(CreatePopup(main));
+    CPopup main;
     app->m_pMainWnd = &main;
     EXPECT_EQ(run(), 5);
     EXPECT_EQ(main.m_hWnd, nullptr);
@@ -229,9 +228,7 @@ TEST_F(Frame, HandsCommandsItDoesNotKnowToTheApplicationAndMenusShowTheirState)
 
 TEST_F(Frame, DisablingItDisablesTheWindowsItOwnsAndFramesWhoeverEnablesThem)
 {
-    CWnd palette, alreadyDisabled;
-    ASSERT_TRUE(CreatePopup(palette, frame));
-    ASSERT_TRUE(CreatePopup(alreadyDisabled, frame, WS_DISABLED));
+    CPopup palette(frame), alreadyDisabled(frame, WS_DISABLED);
     auto* const owned = new CFrameWnd; // goes with its owner
     ASSERT_TRUE(owned->Create(nullptr, L"owned", WS_POPUP, CRect(0, 0, 50, 50), frame));
     frame->EnableWindow(FALSE);
@@ -248,8 +245,7 @@ TEST_F(Frame, ComesToTheFrontHoweverItStoodAndIsNoneWithoutItsMenu)
     frame->ActivateFrame();
     for (const int show : {SW_SHOW, SW_MINIMIZE})
     {
-        CWnd other;
-        ASSERT_TRUE(CreatePopup(other, nullptr, WS_VISIBLE));
+        CPopup other(nullptr, WS_VISIBLE);
         frame->ShowWindow(show);
         other.SetActiveWindow();
         frame->ActivateFrame();
@@ -272,8 +268,7 @@ TEST_F(Frame, IdleTimeUpdatesVisibleWindowsOnceAndThenEnds)
         [](UINT message, WPARAM, LPARAM) -> std::optional<LRESULT> {
             return message == WM_IDLEUPDATECMDUI && Note("update") ? std::optional<LRESULT>(0) : std::nullopt;
         });
-    CWnd middle;
-    ASSERT_TRUE(CreateChild(middle, *frame, 1));
+    CChild middle(*frame, 1);
     ASSERT_TRUE(CreateChild(child, middle, 2));
     EXPECT_TRUE(child.GetParentFrame() == frame && child.GetTopLevelFrame() == frame);
     EXPECT_TRUE(app->OnIdle(0));

@@ -199,9 +199,7 @@ TEST_F(MessageMap, AControlSeesItsNotificationsBeforeTheParentAndDecidesWhetherT
 
 TEST_F(MessageMap, RangesIncludeBothEndsAndPassTheId)
 {
-    CWnd first, beyond;
-    ASSERT_TRUE(CreateChild(first, parent, 110));
-    ASSERT_TRUE(CreateChild(beyond, parent, 120));
+    CChild first(parent, 110), beyond(parent, 120);
     EXPECT_EQ(Notify(first), "OnCmdMsg;notify range 110;6");
     EXPECT_EQ(Notify(beyond), "OnCmdMsg;0");
     EXPECT_EQ(Command(119, EN_CHANGE, first), "OnCommand;OnCmdMsg;range 119;1");

@@ -44,7 +44,6 @@ public:
     void OnCancel() override { Ask(L'c'); }
     BOOL OnQueryCancel() override { return Ask(L'q'); }
     LRESULT OnWizardBack() override { return -1; }
-    LRESULT OnWizardNext() override { return 7; }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, kValue, value); }
@@ -157,16 +156,11 @@ TEST_F(Sheet, ShowsAllPagesInItsOwnFontAndKeepsTheirValues)
 
 TEST_F(Sheet, PagesAnswerTheSystemInItsOwnTerms)
 {
-    const std::tuple<UINT, const wchar_t*, LRESULT> cases[] = {
-        {PSN_SETACTIVE, L"", 0},   {PSN_SETACTIVE, L"s", -1},  {PSN_KILLACTIVE, L"", 0},
-        {PSN_KILLACTIVE, L"k", 1}, {PSN_APPLY, L"", 0},        {PSN_APPLY, L"a", PSNRET_INVALID_NOCHANGEPAGE},
-        {PSN_QUERYCANCEL, L"", 0}, {PSN_QUERYCANCEL, L"q", 1}, {PSN_WIZBACK, L"", -1},
-        {PSN_WIZNEXT, L"", 7},     {PSN_WIZFINISH, L"", 0}};
+    first.refused = L"a";
     ASSERT_TRUE(sheet.Create());
-    for (const auto& [code, refused, answer] : cases)
+    for (const auto& [code, answer] : {std::pair(PSN_APPLY, PSNRET_INVALID_NOCHANGEPAGE), {PSN_WIZBACK, -1}})
     {
         NMHDR header{sheet, 0, code};
-        first.refused = refused;
         EXPECT_EQ(first.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), answer) << code;
     }
 }
@@ -181,7 +175,6 @@ TEST_F(Sheet, EndsAsItsButtonsOrTheProgramSay)
     } cases[] = {
         {[](CPropertySheet&) { owtest::Press(VK_RETURN); }, IDOK, L"skao"},
         {[](CPropertySheet&) { owtest::Press(VK_ESCAPE); }, IDCANCEL, L"sqc"},
-        {[](CPropertySheet& s) { owtest::Click(s.GetDlgItem(IDOK)->m_hWnd); }, IDOK, L"skao"},
         {[](CPropertySheet& s) { s.PressButton(PSBTN_OK); }, IDOK, L"skao"},
         {[](CPropertySheet& s) { s.PressButton(PSBTN_CANCEL); }, IDCANCEL, L"sqc"},
         {[](CPropertySheet& s) { s.SendMessage(WM_SYSCOMMAND, SC_CLOSE); }, IDCANCEL, L"sqc"},

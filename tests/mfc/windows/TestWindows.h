@@ -43,6 +43,16 @@ inline BOOL CreateChild(CWnd& child, CWnd& parent, UINT id)
     return child.Create(nullptr, L"", WS_CHILD, CRect(0, 0, 20, 20), &parent, id);
 }
 
+// Such windows, made at once.
+struct CPopup : CWnd
+{
+    explicit CPopup(CWnd* owner = nullptr, DWORD style = 0) { EXPECT_TRUE(CreatePopup(*this, owner, style)); }
+};
+struct CChild : CWnd
+{
+    CChild(CWnd& parent, UINT id) { EXPECT_TRUE(CreateChild(*this, parent, id)); }
+};
+
 /// Whether the end of the program was asked for; takes the message out of the queue.
 inline bool TakeQuitMessage()
 {

@@ -14,9 +14,7 @@ const UINT registered = ::RegisterWindowMessage(L"DialogControlsOW thread test")
 /// Runs a suspended thread to its end; answers the exit code.
 DWORD CodeAtEnd(CWinThread* thread)
 {
-    HANDLE handle = nullptr; // which outlives the object
-    const HANDLE process = ::GetCurrentProcess();
-    ::DuplicateHandle(process, *thread, process, &handle, 0, FALSE, DUPLICATE_SAME_ACCESS);
+    const HANDLE handle = ::OpenThread(THREAD_ALL_ACCESS, FALSE, thread->m_nThreadID); // outlives the object
     EXPECT_EQ(thread->ResumeThread(), 1u);
     EXPECT_EQ(::WaitForSingleObject(handle, 20000), WAIT_OBJECT_0);
     DWORD code = 0;
@@ -33,7 +31,7 @@ DWORD OnWorker(Function function)
                                     &function, THREAD_PRIORITY_NORMAL, 0, CREATE_SUSPENDED));
 }
 
-/// A thread with a window of its own that adds what it is sent and ends with the sum.
+/// A thread with a queue that adds what it is sent and ends with the sum.
 class CSumThread : public CWinThread
 {
     DECLARE_DYNCREATE(CSumThread)
@@ -48,11 +46,7 @@ public:
 protected:
     CSumThread() { alive = true; }
     ~CSumThread() override { alive = false; }
-    BOOL InitInstance() override
-    {
-        m_pMainWnd = &m_window;
-        return works && CreatePopup(m_window);
-    }
+    BOOL InitInstance() override { return works; }
     int ExitInstance() override { return works ? m_sum : -1; }
     BOOL ProcessMessageFilter(int code, LPMSG) override { return m_sum += code; }
     afx_msg void OnNumber(WPARAM wParam, LPARAM lParam) { m_sum += static_cast<int>(wParam * lParam); }
@@ -60,14 +54,12 @@ protected:
     {
         MSG message{};
         ::CallMsgFilter(&message, 1000); // as a box of the thread's would
-        m_sum += AfxGetMainWnd() == &m_window ? 200 : 0;
         ::PostQuitMessage(0);
     }
     DECLARE_MESSAGE_MAP()
 
 private:
     int m_sum = 0;
-    CWnd m_window;
 };
 
 IMPLEMENT_DYNCREATE(CSumThread, CWinThread)
@@ -80,8 +72,7 @@ END_MESSAGE_MAP()
 
 TEST(Threads, RunAFunctionBelowTheApplicationsWindow)
 {
-    CWnd window;
-    CreatePopup(window);
+    CPopup window;
     AfxGetApp()->m_pMainWnd = &window;
     const auto look = [&window]
     {
@@ -112,7 +103,7 @@ TEST(Threads, WithALoopHandleMessagesOfTheirsFromTheFirstOn)
     EXPECT_EQ(thread->GetThreadPriority(), THREAD_PRIORITY_ABOVE_NORMAL);
     EXPECT_EQ(thread->SuspendThread(), 1u);
     EXPECT_EQ(thread->ResumeThread(), 2u);
-    EXPECT_EQ(CodeAtEnd(thread), 1226u);
+    EXPECT_EQ(CodeAtEnd(thread), 1026u);
     EXPECT_FALSE(CSumThread::alive);
 }
 

@@ -49,12 +49,7 @@ TEST(Window, ACreatedWindowBelongsToTheObjectFromItsFirstMessageOn)
     EXPECT_FALSE(window.DestroyWindow());
     EXPECT_EQ(Noted(), "gone;");
 
-    HWND handle = nullptr;
-    {
-        CWnd taken; // which goes, and takes its window along
-        ASSERT_TRUE(CreatePopup(taken));
-        handle = taken;
-    }
+    const HWND handle = CPopup(); // which goes, and takes its window along
     EXPECT_FALSE(::IsWindow(handle));
 }
 
@@ -102,8 +97,7 @@ TEST(Window, SubclassingTakesTheProcedureAndGivesItBack)
     ::DestroyWindow(handle);
     EXPECT_EQ(Noted(), "attached;") << "it was its window no more";
 
-    CWnd parent;
-    ASSERT_TRUE(CreatePopup(parent));
+    CPopup parent;
     for (int round = 0; round < 2; ++round) // one that dies releases its object for another
     {
         ASSERT_TRUE(window.SubclassWindow(MakeStatic(parent)));
@@ -197,12 +191,8 @@ TEST(PreTranslate, WalksFromTheTargetToTheTopAndStopsAtTheFirstTaker)
 
 TEST(RelatedWindows, OwnersAndDescendants)
 {
-    CWnd owner, popup, child, grandChild, inner;
-    ASSERT_TRUE(CreatePopup(owner));
-    ASSERT_TRUE(CreatePopup(popup, &owner));
-    ASSERT_TRUE(CreateChild(child, popup, 5));
-    ASSERT_TRUE(CreateChild(grandChild, child, 6));
-    ASSERT_TRUE(CreateChild(inner, child, 5));
+    CPopup owner, popup(&owner);
+    CChild child(popup, 5), grandChild(child, 6), inner(child, 5);
     EXPECT_EQ(popup.GetDescendantWindow(5, TRUE), &inner) << "which is meant, and not the control around it";
     EXPECT_EQ(grandChild.GetTopLevelParent(), &owner);
     EXPECT_EQ(popup.GetTopLevelOwner(), &owner);
@@ -217,10 +207,8 @@ TEST(RelatedWindows, OwnersAndDescendants)
 
 TEST(Window, CentresOverItsOwnerAndStaysOnTheScreen)
 {
-    CWnd owner, popup, child;
-    ASSERT_TRUE(CreatePopup(owner, nullptr, WS_VISIBLE));
-    ASSERT_TRUE(CreatePopup(popup, &owner));
-    ASSERT_TRUE(CreateChild(child, popup, 1));
+    CPopup owner(nullptr, WS_VISIBLE), popup(&owner);
+    CChild child(popup, 1);
     const auto placeOf = [](CWnd& window)
     {
         CRect place;
