@@ -14,17 +14,18 @@ using Texts = std::deque<std::wstring>;
 
 Texts Contents(const CStringArray& array)
 {
-    Texts texts;
-    for (INT_PTR i = 0; i < array.GetSize(); ++i)
-        texts.emplace_back(array[i]);
-    return texts;
+    return Texts(array.GetData(), array.GetData() + array.GetSize());
 }
 
+/// From the head on, and as well from the tail.
 Texts Contents(const CStringList& list)
 {
-    Texts texts;
+    Texts texts, backward;
     for (POSITION pos = list.GetHeadPosition(); pos != nullptr;)
         texts.emplace_back(list.GetNext(pos));
+    for (POSITION pos = list.GetTailPosition(); pos != nullptr;)
+        backward.emplace_front(list.GetPrev(pos));
+    EXPECT_EQ(texts, backward);
     return texts;
 }
 
@@ -267,7 +268,9 @@ TEST(Collections, TypedOnesGiveAndTakeTheirPointers)
 TEST(List, IsADequeLinkedBothWays)
 {
     Dice dice;
-    CStringList list(4);
+    CStringList list(4), pair;
+    pair.AddTail(L"a");
+    pair.AddTail(L"!");
     Texts model;
     for (int round = 0; round < 3000; ++round)
     {
@@ -308,36 +311,21 @@ TEST(List, IsADequeLinkedBothWays)
             model.insert(model.end(), given.begin(), given.end());
             break;
         case 7:
-        {
-            CStringList other;
-            other.AddTail(letter);
-            other.AddTail(L"!");
-            list.AddHead(&other);
-            model.insert(model.begin(), {std::wstring(letter), L"!"});
+            list.AddHead(&pair);
+            model.insert(model.begin(), {L"a", L"!"});
             break;
-        }
         default:
             list.AddTail(letter);
             model.emplace_back(letter);
         }
         ASSERT_EQ(Contents(list), model) << round;
-        Texts backward;
-        for (POSITION pos = list.GetTailPosition(); pos != nullptr;)
-            backward.emplace_front(list.GetPrev(pos));
-        ASSERT_EQ(backward, model) << round;
-
-        std::vector<POSITION> found; // one after the other, from each on
+        std::vector<POSITION> found, meant; // one after the other, from each on
         for (POSITION pos = list.Find(letter); pos != nullptr; pos = list.Find(letter, pos))
             found.push_back(pos);
-        size_t n = 0;
         for (size_t i = 0; i < model.size(); ++i)
-        {
             if (model[i] == letter.GetString())
-            {
-                ASSERT_EQ(list.FindIndex(static_cast<INT_PTR>(i)), found.at(n++)) << round;
-            }
-        }
-        ASSERT_EQ(n, found.size());
+                meant.push_back(list.FindIndex(INT_PTR(i)));
+        ASSERT_EQ(found, meant) << round;
     }
 }
 

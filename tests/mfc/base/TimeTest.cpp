@@ -56,14 +56,8 @@ TEST(Time, IsCountedWithSpansAndCompared)
     const CTime later = time + CTimeSpan(1, 2, 3, 4);
     EXPECT_EQ(later - time, CTimeSpan(day + 7384));
     EXPECT_EQ(later - CTimeSpan(1, 2, 3, 4), time);
-    const auto expectBefore = [](const auto& first, const auto& second)
-    {
-        EXPECT_TRUE(first < second && first <= second && second > first && second >= first &&
-                    first != second);
-        EXPECT_FALSE(second < first || second <= first || first > second || first >= second ||
-                     first == second);
-    };
-    expectBefore(time, later);
+    EXPECT_TRUE(time < later && time <= later && later > time && later >= time && time != later);
+    EXPECT_FALSE(later < time || later <= time || time > later || time >= later || time == later);
     EXPECT_EQ((time += CTimeSpan(day)).GetMonth(), 2);
     EXPECT_EQ((time -= CTimeSpan(day)).GetDay(), 31);
     CTimeSpan span(10);

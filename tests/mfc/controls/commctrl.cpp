@@ -36,22 +36,6 @@ TEST(Controls, AreMadeAsPlainChildren)
     expect(CHILD, CToolBarCtrl(), CScrollBar());
 }
 
-TEST(Lists, AnswerTheTextsOfTheirItems)
-{
-    HostWindow host;
-    CListBox list;
-    CComboBox combo;
-    ASSERT_TRUE(list.Create(CHILD, CRect(0, 0, 100, 100), &host, 1));
-    ASSERT_TRUE(combo.Create(CHILD | CBS_DROPDOWNLIST, CRect(0, 0, 100, 100), &host, 2));
-    list.AddString(L"of the list");
-    combo.AddString(L"of the box");
-    CString text, boxText, none(L"before");
-    list.GetText(0, text);
-    combo.GetLBText(0, boxText);
-    list.GetText(9, none);
-    EXPECT_EQ(Told(text, boxText, none), "of the list,of the box,");
-}
-
 TEST(ScrollBar, TheLimitIsWhatTheThumbCanReach)
 {
     HostWindow host;

@@ -109,9 +109,13 @@ TEST_F(CheckList, SpaceSelectsFirstAndThenChecksWhereTheSelectionIsOneByOne)
     }
 }
 
-TEST_F(CheckList, KeepsTheProgramsDataAndFindsRoomForTheBox)
+TEST_F(CheckList, KeepsTextsAndTheProgramsDataAndFindsRoomForTheBox)
 {
     Make();
+    CString text, none(L"before");
+    list.GetText(1, text);
+    list.GetText(9, none);
+    EXPECT_EQ(Told(text, none), "b,");
     list.SetCheck(1, 1);
     EXPECT_EQ(Told(list.GetItemData(1), INT_PTR(list.GetItemData(7))), Told(0, LB_ERR));
     list.SetItemData(1, 55);

@@ -208,9 +208,7 @@ TEST(Menu, ADestroyedObjectDestroysItsMenuAndASubMenuOnlyPasses)
         ASSERT_TRUE(popup.CreatePopupMenu());
         popupHandle = popup;
         menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), L"numbers");
-        CMenu* inside = menu.GetSubMenu(0);
-        EXPECT_EQ(inside->m_hMenu, popupHandle);
-        EXPECT_EQ(menu.GetSubMenu(0), inside);
+        EXPECT_EQ(menu.GetSubMenu(0)->m_hMenu, popupHandle);
         CMenu::DeleteTempMap();
         EXPECT_TRUE(::IsMenu(popupHandle));
     }
