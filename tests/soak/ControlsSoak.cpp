@@ -55,8 +55,7 @@ public:
     explicit ControlsDialog(std::function<void(bool bMayClose)> react) : m_react(std::move(react)) {}
     ~ControlsDialog() override { DestroyWindow(); }
 
-    CButtonST push{this};
-    CButtonST check{this};
+    CButtonST push{this}, check{this};
     CExtButton ext{this};
     CEditDoubleWithRange decimal{this, CEditDoubleWithRange::kCreateControl,
                                  CEditDoubleWithRange::kCreateControl};
@@ -285,8 +284,7 @@ class ControlsSequence : public owtest::Sequence
         Expect(nChecked <= 1, "two radio buttons are checked");
     }
 
-    int m_nReactions = 0;
-    int m_nClosings = 0;
+    int m_nReactions = 0, m_nClosings = 0;
     int m_nHandles = 0; ///< GDI objects after the third closing
     ControlsDialog m_dialog{[this](bool bMayClose) { React(bMayClose); }};
 };

@@ -99,8 +99,7 @@ protected:
 
 private:
     std::minstd_rand m_random;
-    std::ostringstream m_log;
-    std::ostringstream m_problem;
+    std::ostringstream m_log, m_problem;
 };
 
 /// Registers itself with the soak program by a name, and runs one sequence from a fresh start.

@@ -29,8 +29,7 @@ struct ChildResult
     bool timedOut = false;
     bool brokeIntoDebugger = false; ///< a breakpoint exception was raised, and continued by us
     DWORD exitCode = 0;
-    std::wstring boxCaption;
-    std::wstring boxText;
+    std::wstring boxCaption, boxText;
     std::string output; ///< standard output of the scenario
 };
 

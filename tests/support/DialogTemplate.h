@@ -31,12 +31,6 @@ public:
         m_head.dwExtendedStyle = exStyle;
         return *this;
     }
-    DialogTemplate& Position(short x, short y)
-    {
-        m_head.x = x;
-        m_head.y = y;
-        return *this;
-    }
     DialogTemplate& Font(WORD points, std::wstring face)
     {
         m_points = points;
@@ -105,8 +99,7 @@ public:
 private:
     struct Control
     {
-        std::wstring windowClass;
-        std::wstring text;
+        std::wstring windowClass, text;
         DLGITEMTEMPLATE head;
     };
 

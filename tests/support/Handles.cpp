@@ -13,10 +13,7 @@ namespace
 struct GdiEntry
 {
     std::uint64_t object;
-    WORD owner;
-    WORD unused;
-    WORD unique;
-    WORD type;
+    WORD owner, unused, unique, type;
     std::uint64_t userInfo;
 };
 static_assert(sizeof(GdiEntry) == 24);

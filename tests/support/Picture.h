@@ -35,8 +35,7 @@ private:
     CBitmap m_bitmap;
     HGDIOBJ m_old = nullptr;
     DWORD* m_bits = nullptr;
-    int m_width;
-    int m_height;
+    int m_width, m_height;
 };
 
 /// Copies a window, frame included, as it stands on the screen.

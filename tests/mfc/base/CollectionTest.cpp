@@ -1,8 +1,7 @@
 // CArray, CList and CMap, and the collections made from them: random sequences against the standard
 // containers, then what those cannot show (failures, lives of elements, keys and pointers of other types).
 
-#include "Dice.h"
-#include "Thrown.h"
+#include "Answers.h"
 
 #include <afxcoll.h>
 
@@ -72,8 +71,7 @@ private:
 
 struct CellKey
 {
-    int row;
-    int column;
+    int row, column;
 
     bool operator==(const CellKey& other) const = default;
 };
@@ -390,8 +388,7 @@ TEST(Map, IsAMapWhateverItsHashTable)
 
         for (POSITION pos = map.GetStartPosition(); pos != nullptr;)
         {
-            int key = 0;
-            int value = 0;
+            int key = 0, value = 0;
             map.GetNextAssoc(pos, key, value);
             ASSERT_TRUE(model.contains(key) && model[key] == value);
             model.erase(key);

@@ -1,7 +1,7 @@
 // Exceptions in the macro and the C++ form, across modules, who deletes them and what they say; failed
 // assertions.
 
-#include "Thrown.h"
+#include "Answers.h"
 #include "resource.h"
 
 namespace
@@ -101,8 +101,7 @@ TEST(Exception, MessagesComeFromResourcesAndAreCutToTheBuffer)
         EXPECT_EQ(full.Left(4), szShort);
         EXPECT_EQ(nHelp, 0u);
     }
-    CSimpleException fromResource(FALSE, IDS_GREETING);
-    CSimpleException missing(FALSE, IDS_NO_SUCH_STRING);
+    CSimpleException fromResource(FALSE, IDS_GREETING), missing(FALSE, IDS_NO_SUCH_STRING);
     CException silent(FALSE);
     EXPECT_EQ(MessageOf(fromResource), L"Good day");
     EXPECT_EQ(MessageOf(missing) + MessageOf(silent), L"(none)(none)");

@@ -1,8 +1,6 @@
 // CFile, CStdioFile and CMemFile: modes, contents, text translation, causes of failures.
 
-#include "Dice.h"
-#include "Thrown.h"
-#include "Told.h"
+#include "Answers.h"
 
 namespace
 {
@@ -49,8 +47,7 @@ protected:
         return e.m_cause;
     }
 
-    CString m_folder;
-    CString m_path;
+    CString m_folder, m_path;
 };
 
 template <typename FUNCTION>

@@ -1,8 +1,6 @@
 // CString: sharing, conversion, formatting, searching, and what bad arguments do.
 
-#include "Dice.h"
-#include "Thrown.h"
-#include "Told.h"
+#include "Answers.h"
 #include "resource.h"
 
 TEST(String, CopiesShareTheBufferUntilOneIsReallyChanged)
@@ -134,8 +132,7 @@ TEST(String, FormatsWithTheWideMeaningOfTheRunTimeLibrary)
 
 TEST(String, ComparesAndConcatenatesInAllMixtures)
 {
-    const CString abc(L"abc");
-    const CString abd(L"abd");
+    const CString abc(L"abc"), abd(L"abd");
     EXPECT_TRUE(abc == L"abc" && L"abc" == abc && abc == "abc" && abc != abd && CString(L"xx") != L'x');
     EXPECT_TRUE(abc < abd && abc < L"abd" && L"abc" < abd && abc <= abd && abd > abc && L"abd" >= abd);
     EXPECT_TRUE(abc.CompareNoCase(L"ABC") == 0 && abc.Collate(abd) < 0);
@@ -172,10 +169,8 @@ TEST(String, SearchesAndChangesAsTheStandardStringDoes)
     Dice dice;
     for (int round = 0; round < 2000; ++round)
     {
-        const CString text = dice.Text(12);
-        const CString part = dice.Text(2);
-        const std::wstring model(text);
-        const std::wstring modelPart(part);
+        const CString text = dice.Text(12), part = dice.Text(2);
+        const std::wstring model(text), modelPart(part);
         const int size = text.GetLength();
         const int at = dice(size + 1);
         const int count = dice(15);

@@ -1,6 +1,6 @@
 // CTime and CTimeSpan.
 
-#include "Thrown.h"
+#include "Answers.h"
 
 #include <atltime.h>
 

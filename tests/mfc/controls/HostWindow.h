@@ -3,7 +3,7 @@
 
 #include <afxcmn.h>
 
-#include "../base/Told.h"
+#include "../base/Answers.h"
 
 #pragma GCC diagnostic ignored "-Wmissing-field-initializers" // they are zero, which is what is meant
 

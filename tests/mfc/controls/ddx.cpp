@@ -4,16 +4,14 @@
 
 namespace
 {
-constexpr int IDC_VALUE = 100;
-constexpr int IDC_OTHER = 101;
+constexpr int IDC_VALUE = 100, IDC_OTHER = 101;
 
 /// A window with an edit IDC_VALUE that exchanges one member.
 class ExchangeTest : public testing::Test
 {
 protected:
     HostWindow host;
-    HWND edit = host.AddControl(WC_EDIT, IDC_VALUE);
-    HWND other = host.AddControl(WC_EDIT, IDC_OTHER);
+    HWND edit = host.AddControl(WC_EDIT, IDC_VALUE), other = host.AddControl(WC_EDIT, IDC_OTHER);
 
     /// Puts a text into the edit and saves; answers what the value shows then, or the refusal, after which the
     /// text is as it was and selected, and the value too.

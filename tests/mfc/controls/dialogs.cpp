@@ -1,6 +1,6 @@
 // The common dialogs.
 
-#include "../base/Told.h"
+#include "../base/Answers.h"
 
 #include <afxdlgs.h>
 

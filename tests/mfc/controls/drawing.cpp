@@ -2,7 +2,7 @@
 
 #include <afxcmn.h>
 
-#include "../base/Told.h"
+#include "../base/Answers.h"
 
 namespace
 {
@@ -60,9 +60,7 @@ protected:
         EXPECT_LT(meant.count(whole, BACK), 40 * 40) << name << ": there is nothing to see";
     }
 
-    Canvas drawn{12};
-    Canvas meant{12};
-    Canvas attributes{24};
+    Canvas drawn{12}, meant{12}, attributes{24};
     const HDC h = meant.dc();      ///< for what is drawn,
     const HDC a = attributes.dc(); ///< and what is asked
     CDC dc;
@@ -135,11 +133,9 @@ TEST(Drawing, Draw3dRectGivesTheSharedCornersToRightAndBottom)
 TEST(Drawing, ADragFrameVanishesWhenItIsDrawnOverItself)
 {
     owtest::Surface surface(40, 40, BACK);
-    CBrush brush(BACK);
-    CBrush other(BACK);
+    CBrush brush(BACK), other(BACK);
     CDC& dc = surface.dc();
-    const CRect first(5, 5, 25, 25);
-    const CRect second(10, 10, 30, 30);
+    const CRect first(5, 5, 25, 25), second(10, 10, 30, 30);
     const auto black = [&] { return surface.count(whole, RGB(0, 0, 0)); };
     const int handles = owtest::CountHandles().gdi;
     dc.DrawDragRect(first, CSize(2, 2), nullptr, CSize(0, 0), &brush);

@@ -6,21 +6,17 @@
 
 namespace
 {
-/// The parent of a control, which counts its check notifications.
-class Host : public HostWindow
+/// The active parent of a control, which counts its check notifications.
+struct Host : HostWindow
 {
-public:
     Host() { owtest::Activate(m_hWnd); }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        checks += HIWORD(wParam) == CLBN_CHKCHANGE;
+        return HostWindow::OnCommand(wParam, lParam);
+    }
     int checks = 0;
-
-protected:
-    afx_msg void OnChecked() { ++checks; }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Host, HostWindow)
-    ON_CLBN_CHKCHANGE(1, &Host::OnChecked)
-END_MESSAGE_MAP()
 
 class CheckList : public ::testing::Test
 {
@@ -285,8 +281,7 @@ public:
         tool->uFlags = always;
         return Host::OnToolHitTest(point, tool);
     }
-    CButton first;
-    CButton second;
+    CButton first, second;
     CStatic label;
     UINT always = 0;
 

@@ -113,8 +113,7 @@ int numbers[2] = {};
 CRect rect;
 const CPoint point(3, 4);
 constexpr LPARAM pointPacked = MAKELPARAM(3, 4);
-int one = 0;
-int other = 0;
+int one = 0, other = 0;
 } // namespace
 
 TEST(Messages, OfTheClassicControls)

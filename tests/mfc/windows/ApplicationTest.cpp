@@ -396,8 +396,7 @@ TEST(CommandLine, IsParsedArgumentByArgument)
 
 TEST_F(Application, TheWaitCursorIsCounted)
 {
-    const HCURSOR wait = ::LoadCursor(nullptr, IDC_WAIT);
-    const HCURSOR arrow = ::LoadCursor(nullptr, IDC_ARROW);
+    const HCURSOR wait = ::LoadCursor(nullptr, IDC_WAIT), arrow = ::LoadCursor(nullptr, IDC_ARROW);
     ::SetCursor(arrow);
     {
         CWaitCursor outer;

@@ -76,8 +76,7 @@ END_MESSAGE_MAP()
 class CParent : public CParentBase
 {
 public:
-    BOOL m_answer = TRUE;
-    BOOL m_enabled = TRUE;
+    BOOL m_answer = TRUE, m_enabled = TRUE;
 
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
     {
@@ -108,7 +107,6 @@ protected:
     afx_msg LRESULT OnRegistered(WPARAM w, LPARAM) { return static_cast<LRESULT>(w) + 1; }
     afx_msg void OnSize(UINT type, int cx, int cy) { Note("size", type, cx, cy); }
     afx_msg void OnSizing(UINT side, LPRECT) { Note("sizing", side); }
-    afx_msg void OnMouseMove(UINT, CPoint point) { Note("move", point.x, point.y); }
     afx_msg BOOL OnMouseWheel(UINT, short delta, CPoint point)
     {
         return Note("wheel", delta, point.x, point.y);
@@ -127,7 +125,6 @@ protected:
 BEGIN_MESSAGE_MAP(CParent, CParentBase)
     ON_WM_SIZE()
     ON_WM_SIZING()
-    ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
     ON_WM_TIMER()
     ON_WM_ENTERIDLE()
@@ -181,8 +178,7 @@ protected:
     }
 
     CParent parent;
-    CProbe taker{TRUE};
-    CProbe sharer{FALSE};
+    CProbe taker{TRUE}, sharer{FALSE};
     HWND foreign = nullptr;
 };
 
@@ -244,8 +240,7 @@ TEST_F(MessageMap, ParametersAreUnpackedWithTheirSignsAndWidths)
         {otherMessage, 8, 0, "0"},
         {WM_SIZE, SIZE_MAXIMIZED, MAKELPARAM(640, 480), "size 2 640 480;0"},
         {WM_SIZING, WMSZ_TOP, 0, "sizing 3;1"},
-        {WM_MOUSEMOVE, 0, MAKELPARAM(-3, -4), "move -3 -4;0"},
-        {WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, 5), "wheel -120 -1 5;1"},
+        {WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), MAKELPARAM(-1, -5), "wheel -120 -1 -5;1"},
         {WM_TIMER, UINT_PTR{0x100000001}, 0, "timer 4294967297;0"},
         {WM_ENTERIDLE, MSGF_MENU, control, "idle 2 102;0"},
         {WM_MENUSELECT, MAKEWPARAM(7, MF_GRAYED), 0, "select 7 1;0"},
