@@ -90,11 +90,12 @@ TEST_F(DateExchange, OfCalendarsGoesByDays)
 {
     Add(MONTHCAL_CLASS, 0, &DDX_MonthCalCtrl, &DDV_MinMaxMonth);
     const CTime noon(2024, 2, 29, 12, 0, 0);
-    first = &noon;
+    first = last = &noon;
     EXPECT_TRUE(host.UpdateData(FALSE));
     CTime minimum, maximum;
     const auto& calendar = *static_cast<CMonthCalCtrl*>(host.GetDlgItem(IDC_DATE));
-    EXPECT_EQ(calendar.GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN));
+    EXPECT_EQ(calendar.GetRange(&minimum, &maximum), static_cast<DWORD>(GDTR_MIN | GDTR_MAX));
+    EXPECT_EQ(minimum, maximum);
     value = march;
     EXPECT_EQ(host.Refusal(), L"");
     EXPECT_EQ(value, leapDay);
