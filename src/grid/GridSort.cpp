@@ -32,8 +32,7 @@ bool CGridCtrl::PrepareSort(int nCol, BOOL bAscending)
         return false;
     SetSortColumn(nCol);
     m_bSortAscending = bAscending;
-    ResetSelectedRange();
-    SetFocusCell(CCellID(), TRUE);
+    ResetSelectedRange(); // and no focus cell
     return true;
 }
 

@@ -183,6 +183,10 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
 
 TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
 {
+    grid.SetRedraw(FALSE);
+    grid.ExpandColumnsToFit();
+    EXPECT_FALSE(grid.IsVisibleHScroll()) << "it goes first";
+    grid.SetRedraw(TRUE);
     grid.SetRowCount(4);
     grid.SetColumnCount(3);
     grid.ExpandColumnsToFit();

@@ -79,7 +79,10 @@ TEST(GridOrder, NumbersAndAFunctionOfTheCallers)
     EXPECT_EQ(grid.GetSelectedCount(), 0) << "dropped all the same";
     const std::wstring before = TextsOf(grid, 1, 1, L" ");
     for (const auto compare : {CGridCtrl::pfnCellTextCompare, CGridCtrl::pfnCellNumericCompare})
+    {
         EXPECT_TRUE(grid.SortItems(compare, -1, TRUE)) << "a negative column finds no cells";
+        EXPECT_EQ(compare(reinterpret_cast<LPARAM>(grid.GetCell(1, 1)), 0, 0), 0);
+    }
     EXPECT_EQ(TextsOf(grid, 1, 1, L" "), before) << "and moves nothing";
 }
 
