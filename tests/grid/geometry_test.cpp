@@ -184,9 +184,15 @@ TEST_F(GridGeometry, CellsSizeTheirRowsAndColumns)
 TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
 {
     grid.SetRedraw(FALSE);
-    grid.ExpandColumnsToFit();
-    EXPECT_FALSE(grid.IsVisibleHScroll()) << "it goes first";
+    for (const int nFixed : {kCols, 1})
+    {
+        grid.SetFixedColumnCount(nFixed);
+        grid.ExpandColumnsToFit(FALSE);
+        EXPECT_EQ(grid.IsVisibleHScroll(), nFixed == kCols)
+            << "the bar goes first, if there is what to expand";
+    }
     grid.SetRedraw(TRUE);
+    SetSizes(grid);
     grid.SetRowCount(4);
     grid.SetColumnCount(3);
     grid.ExpandColumnsToFit();
