@@ -63,6 +63,8 @@ TEST_F(GridKeyboard, EachKeyMovesSelectsTellsAndScrollsInItsWay)
     EXPECT_TRUE(After(VK_END, "c").starts_with("19,5 [19,5-19,5]=1")) << "the last one that shows";
     EXPECT_TRUE(After(VK_HOME, "c").starts_with("2,2 [2,2-2,2]=1"));
     SetSizes(grid);
+    FocusOn(8, 2);
+    EXPECT_EQ(After(VK_DOWN), "9,2 [9,2-9,2]=1 changed 9,2 v1") << "it was cut off";
     grid.SetListMode();
     FocusOn(5, 2);
     grid.SendMessage(WM_VSCROLL, SB_BOTTOM);

@@ -69,7 +69,7 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
 {
     const CountedHeap heap;
     s_allocations = INT_MAX;
-    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(6, [](CWnd&) {}));
+    owtest::ModalVisit boxes(std::vector<owtest::ModalVisit::Visitor>(7, [](CWnd&) {}));
     auto pGrid = std::make_unique<ScarceGrid>();
     ScarceGrid& grid = *pGrid;
     grid.SetColumnCount(3);
@@ -84,9 +84,13 @@ TEST(GridFailures, OutOfMemoryLeavesWhatWasBuilt)
     EXPECT_EQ(grid.GetItemText(0, 3), L"stays") << "the cell that was put in is out again";
     EXPECT_EQ(grid.InsertRow(L"x", 1), 0);
     EXPECT_FALSE(grid.SetRowCount(INT_MAX));
+    grid.SetSelectedRange(0, 0, 1, 1);
     EXPECT_FALSE(grid.SetFixedColumnCount(INT_MAX));
+    EXPECT_EQ(grid.GetSelectedCount(), 4) << "stays, with columns only";
+    EXPECT_FALSE(grid.SetFixedRowCount(INT_MAX));
+    EXPECT_EQ(grid.GetSelectedCount(), 0);
     EXPECT_EQ(grid.GetCellRange(), CCellRange(0, 0, 1, 4)) << "two whole rows, five columns";
-    EXPECT_EQ(boxes.Count(), 6);
+    EXPECT_EQ(boxes.Count(), 7);
     pGrid = nullptr;
     EXPECT_EQ(s_blocks, 0) << "no cell is left";
 }
