@@ -153,8 +153,10 @@ TEST_F(GridTest, OnlyWhatChangesIsRepaintedAndItCanBeSwitchedOff)
 {
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 2); }), CRect(120, 40, 180, 60));
     EXPECT_EQ(Repainted([&] { grid.SetSelectedRange(2, 2, 2, 3, TRUE); }), CRect()) << "by force at once";
-    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellRange(3, 1, 4, 2)); }), CRect(60, 60, 180, 100));
-    EXPECT_EQ(Repainted([&] { grid.InvalidateCellRect(CCellID(3, 1)); }), CRect(60, 60, 120, 80));
+    EXPECT_EQ(Repainted([&] { EXPECT_TRUE(grid.InvalidateCellRect(CCellRange(3, 1, 4, 2))); }),
+              CRect(60, 60, 180, 100));
+    EXPECT_EQ(Repainted([&] { EXPECT_TRUE(grid.InvalidateCellRect(CCellID(3, 1))); }),
+              CRect(60, 60, 120, 80));
 
     grid.SetFocusCell(2, 2);
     EXPECT_EQ(Seen(), "2,2 [2,2-2,3]=2 changed 2,2");
