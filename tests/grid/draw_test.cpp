@@ -125,7 +125,12 @@ TEST_F(GridDrawing, APartIsPaintedAsTheWholeIsAlsoThroughABuffer)
 
 TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
 {
-    EXPECT_EQ(Picture(grid).extent(kLine), CRect(60, 20, 240, 120));
+    for (const auto& [lines, extent] :
+         {std::pair(GVL_VERT, CRect(119, 20, 240, 120)), std::pair(GVL_HORZ, CRect(60, 39, 240, 120))})
+    {
+        grid.SetGridLines(lines);
+        EXPECT_EQ(Picture(grid).extent(kLine), extent);
+    }
     for (const auto& [lines, count] :
          {std::pair(GVL_BOTH, 60 + 20 - 1), std::pair(GVL_HORZ, 60), std::pair(GVL_NONE, 0)})
     {

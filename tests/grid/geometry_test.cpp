@@ -65,6 +65,9 @@ TEST_F(GridGeometry, ScrollMessagesAndTheWheelMoveABarAndRepaintWhatScrolls)
 {
     EXPECT_EQ(grid.GetUnobstructedNonFixedCellRange(),
               CCellRange(1, 1, (Client().bottom - 20) / 20, (Client().right - 60) / 60));
+    grid.SetRowHeight(1, 500);
+    EXPECT_EQ(grid.GetUnobstructedNonFixedCellRange().maxRow, 0) << "not one";
+    grid.SetRowHeight(1, kRowHeight);
     EXPECT_EQ(RepaintedBy(WM_HSCROLL, SB_LINERIGHT), CRect(60, 0, Client().right, Client().bottom));
     EXPECT_EQ(grid.GetScrollPos32(SB_HORZ), 60);
     EXPECT_EQ(grid.GetTopleftNonFixedCell(), CCellID(1, 2));

@@ -125,7 +125,7 @@ TEST_F(GridStorage, ItemsGoInAndOutByMask)
     grid.SetItem(&item);
     EXPECT_TRUE(grid.GetModified(2, 1)) << "whatever the mask holds";
     grid.SetModified(FALSE, 2, 1);
-    EXPECT_TRUE(grid.GetModified() && !grid.GetModified(2, 1)) << "as far as the grid knows";
+    EXPECT_TRUE(grid.GetModified(-1, 1) && !grid.GetModified(2, 1)) << "as far as the grid knows";
     grid.SetItemTextFmtID(2, 1, kPieces, 3, L"IPE 200");
     EXPECT_EQ(Text(2, 1), L"3 of IPE 200");
 }
