@@ -44,6 +44,7 @@ public:
     void OnCancel() override { Ask(L'c'); }
     BOOL OnQueryCancel() override { return Ask(L'q'); }
     LRESULT OnWizardBack() override { return -1; }
+    LRESULT OnWizardNext() override { return 7; }
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override { DDX_Text(pDX, kValue, value); }
@@ -158,7 +159,8 @@ TEST_F(Sheet, PagesAnswerTheSystemInItsOwnTerms)
 {
     first.refused = L"a";
     ASSERT_TRUE(sheet.Create());
-    for (const auto& [code, answer] : {std::pair(PSN_APPLY, PSNRET_INVALID_NOCHANGEPAGE), {PSN_WIZBACK, -1}})
+    for (const auto& [code, answer] :
+         {std::pair(PSN_APPLY, PSNRET_INVALID_NOCHANGEPAGE), {PSN_WIZBACK, -1}, {PSN_WIZNEXT, 7}})
     {
         NMHDR header{sheet, 0, code};
         EXPECT_EQ(first.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&header)), answer) << code;
