@@ -173,7 +173,8 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
 {
     OpenGrid grid;
     grid.SetVirtualMode(TRUE);
-    EXPECT_FALSE(grid.IsEditable() || grid.GetHeaderSort() || grid.GetFixedRowSelection());
+    EXPECT_FALSE(grid.IsEditable() || grid.GetHeaderSort() || grid.GetFixedRowSelection() ||
+                 grid.GetFixedColumnSelection());
     EXPECT_EQ(grid.GetAutoSizeStyle(), 1);
     grid.SetColumnCount(3);
     grid.SetRowCount(1000000);
@@ -189,6 +190,7 @@ TEST(GridVirtual, CellsAreMadeUpForEachCall)
         [](GV_DISPINFO* info, LPARAM param)
         {
             EXPECT_EQ(std::exchange(info->item.mask, 0u), UINT(GV_MASK_ALL)) << "each time anew";
+            EXPECT_EQ(info->item.strText, L"");
             info->item.strText.Format(L"%d.%d.%d", info->item.row, info->item.col, static_cast<int>(param));
             return 0;
         },
