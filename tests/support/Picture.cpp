@@ -74,11 +74,8 @@ bool Surface::operator==(const Surface& other) const
 
 void Capture(HWND window, Surface& into)
 {
-    CRect rect;
-    ::GetWindowRect(window, &rect);
-    ::GdiFlush(); // inside a menu's loop nobody has done it yet
-    CWindowDC screen(nullptr);
-    into.dc().BitBlt(0, 0, rect.Width(), rect.Height(), &screen, rect.left, rect.top, SRCCOPY);
+    CWindowDC own(CWnd::FromHandle(window));
+    into.dc().BitBlt(0, 0, into.width(), into.height(), &own, 0, 0, SRCCOPY);
 }
 
 bool SavePng(HBITMAP bitmap, const std::wstring& path)
@@ -98,7 +95,9 @@ bool SaveWindowPng(HWND window, const std::wstring& path)
     if (!::GetWindowRect(window, &rect))
         return false;
     Surface picture(rect.Width(), rect.Height());
-    Capture(window, picture);
+    ::GdiFlush(); // inside a menu's loop nobody has done it yet
+    CWindowDC screen(nullptr);
+    picture.dc().BitBlt(0, 0, rect.Width(), rect.Height(), &screen, rect.left, rect.top, SRCCOPY);
     return SavePng(static_cast<HBITMAP>(::GetCurrentObject(picture.dc().m_hDC, OBJ_BITMAP)), path);
 }
 } // namespace owtest

@@ -38,12 +38,12 @@ private:
     int m_width, m_height;
 };
 
-/// Copies a window, frame included, as it stands on the screen.
+/// Copies a window, frame included, as it is painted, whether or not it shows on the screen by now.
 void Capture(HWND window, Surface& into);
 
 /// Writes a bitmap as PNG; false if the file could not be written.
 bool SavePng(HBITMAP bitmap, const std::wstring& path);
 
-/// Writes a window, frame included, as PNG, sized as on the screen.
+/// Writes what the screen shows at the place of a window, frame included, as PNG.
 bool SaveWindowPng(HWND window, const std::wstring& path);
 } // namespace owtest
