@@ -68,9 +68,10 @@ inline Pixels PixelsOf(HBITMAP hBitmap)
 template <class Button = CButtonST>
 struct Open : Button
 {
-    using Button::Button, Button::m_bDrawBorder, Button::m_bIsCheckBox, Button::m_bIsDefault,
-        Button::m_bitmaps, Button::m_bMouseOnButton, Button::m_bShowDisabledBitmap, Button::m_icons,
-        Button::m_nTypeStyle, Button::m_ptImageOrigin, Button::m_toolTip;
+    using Button::Button, Button::DrawItemHook_CalcRect, Button::DrawItemHook_DrawText, Button::m_bDrawBorder,
+        Button::m_bIsCheckBox, Button::m_bIsDefault, Button::m_bitmaps, Button::m_bMouseOnButton,
+        Button::m_bShowDisabledBitmap, Button::m_icons, Button::m_nTypeStyle, Button::m_ptImageOrigin,
+        Button::m_toolTip;
 };
 
 /// Paints an owner-drawn button onto the surface as the system would ask for it, with ODS_ flags.

@@ -166,13 +166,17 @@ TEST_F(ColorPopup, OpensBelowItsAnchorOrWhereTheScreenHasRoomAndMarksTheColorOfT
     EXPECT_EQ(rect.TopLeft(), CPoint(button.left, button.bottom));
     const int right = ::GetSystemMetrics(SM_CXSCREEN), bottom = ::GetSystemMetrics(SM_CYSCREEN);
     const CSize size = rect.Size();
+    owtest::MoveTo(m_room, CPoint(30, 5));
+    CPoint cursor(30, 5);
+    m_room.ClientToScreen(&cursor);
     const std::pair<CRect, CPoint> anchors[] = {
         {{200, 300, 240, bottom - size.cy}, {200, bottom - size.cy}}, // it just fits
         {{200, bottom - 200, 240, bottom - size.cy + 1}, {200, bottom - 200 - size.cy}},
-        {{right - 10, 300, right, 320}, {right - size.cx, 320}}};
+        {{right - 10, 300, right, 320}, {right - size.cx, 320}},
+        {{}, cursor}}; // without an anchor
     for (const auto& [anchor, corner] : anchors)
     {
-        CColorSelectDialog dialog(nullptr, &anchor);
+        CColorSelectDialog dialog(nullptr, anchor.IsRectNull() ? nullptr : &anchor);
         const owtest::ModalVisit visit(look);
         EXPECT_EQ(dialog.DoModal(), IDCANCEL);
         EXPECT_EQ(rect, CRect(corner, size));

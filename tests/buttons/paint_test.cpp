@@ -238,6 +238,20 @@ TEST(ButtonPaint, IsThatOfTheModelInEveryState)
     ExpectLooks<CTextBtnST>(); // has the arrow alone
 }
 
+TEST(ButtonTitle, HasHooksForSubclassesOfWhichThatOfTheArrowLeavesRoomForIt)
+{
+    Surface ours(kSize.cx, kSize.cy), expected(kSize.cx, kSize.cy);
+    const CRect room(CPoint(5, 6), kSize);
+    CRect title(room), measured(room), besideArrow(room);
+    expected.dc().DrawText(kTitles[2], -1, title, kTitle | DT_CALCRECT);
+    expected.dc().DrawText(kTitles[2], -1, title, kTitle);
+    Open<> plain;
+    plain.DrawItemHook_CalcRect(&ours.dc(), kTitles[2], measured);
+    plain.DrawItemHook_DrawText(&ours.dc(), kTitles[2], measured);
+    Open<CTextBtnST>().DrawItemHook_CalcRect(&ours.dc(), kTitles[2], besideArrow);
+    EXPECT_TRUE(measured == title && besideArrow == title - CPoint(4, 0) && ours == expected);
+}
+
 TEST(ButtonTransparency, ShowsWhatTheParentHasAtTheFirstPaintOrWhatTheCallerGives)
 {
     Lone<Open<>> lone(kSize);
@@ -296,6 +310,16 @@ TEST(DropFaces, OfPickersHaveThePictureThatIsChosenInTheMiddle)
     }
     ExpectLooks<Picker>();
     handles[1] = hMissing;
+
+    int index = 0;
+    Lone<Picker> lone(CSize(80, 30));
+    lone.button.SetEnumSource(&index);
+    Surface whole(80, 30), part(80, 30);
+    PaintButton(lone.button, whole);
+    whole.dc().FillSolidRect(CRect(36, 0, 80, 30), kKey);
+    part.dc().IntersectClipRect(CRect(0, 0, 36, 30)); // without the middle, from which the face is taken
+    PaintButton(lone.button, part);
+    EXPECT_TRUE(part == whole);
 }
 
 TEST(DropFaces, OfColorButtonsHaveASwatchOrAnEmptyFrame)

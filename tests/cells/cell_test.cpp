@@ -45,9 +45,11 @@ TEST_F(GridCell, CopiesWhatTheOtherShows)
     CGridCell copy;
     cell.SetText(L"text");
     cell.SetData(5);
+    cell.SetImage(3);
     cell.SetFormat(GV_INHERIT);
     copy = cell;
     EXPECT_STREQ(copy.GetText(), L"text");
+    EXPECT_EQ(copy.GetImage(), 3);
     EXPECT_EQ(copy.GetGrid(), &grid);
     grid.GetDefaultCell(FALSE, FALSE)->SetFormat(DT_LEFT);
     EXPECT_EQ(copy.GetFormat(), static_cast<DWORD>(0x8824)) << "an inherited format arrives as a value";

@@ -361,7 +361,8 @@ TEST_F(ColourCells, TheSwatchNeedsRoom)
         EXPECT_EQ(drawn.at(8, 4), swatch);
         for (const CPoint corner : {CPoint(7, 3), CPoint(47, 14)})
             EXPECT_EQ(drawn.at(corner.x, corner.y), frame);
-        EXPECT_EQ(drawn.at(60, 9) == black, frame == black) << "the tip of the mark";
+        for (const CPoint ofMark : {CPoint(58, 7), CPoint(60, 9)}) // where it begins, and its tip
+            EXPECT_EQ(drawn.at(ofMark.x, ofMark.y) == black, frame == black);
     }
     EXPECT_FALSE(cell->Draw(nullptr, kRow, kCol, CRect(0, 0, 80, 30), TRUE));
 }

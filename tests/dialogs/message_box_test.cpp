@@ -202,6 +202,12 @@ TEST_F(MessageBoxes, ThatArePreparedShowWhatTheyWereGivenAsOftenAsTheyAreAsked)
     EXPECT_EQ(Visit(show, PressEscape), L"Caption|Text|OK|Drugi|Treci: 0");
 }
 
+template <unsigned int nType, int nButton>
+static void PressBeyond()
+{
+    MessageBoxes::Show(nType, [](CWnd& box) { box.SendMessage(WM_COMMAND, nButton); });
+}
+
 // By the line of the report.
 static const owtest::ScenarioRegistration s_misuses[] = {
     {"273", [] { COstrelMessageBox(nullptr).SetButtonText(0, L""); }},
@@ -209,11 +215,13 @@ static const owtest::ScenarioRegistration s_misuses[] = {
     {"194", [] { MessageBoxes::Show(MB_OK | 0x50, PressEnter); }},
     {"194-buttons",
      [] { COstrelMessageBox::MessageBox(L"", L"", MB_YESNO | MB_ICONERROR, L"", L"", L"", L""); }},
-    {"324", [] { MessageBoxes::Show(MB_OKCANCEL, [](CWnd& box) { box.SendMessage(WM_COMMAND, kThird); }); }}};
+    {"324", &PressBeyond<MB_OKCANCEL, kThird>},
+    {"330", &PressBeyond<MB_YESNO, kThird>},
+    {"337", &PressBeyond<MB_YESNOCANCEL, kFourth>}};
 
 TEST_F(MessageBoxes, ThatAreMisusedEndTheProcessWithAReportOfThePlace)
 {
-    for (const char* scenario : {"273", "273-beyond", "194", "194-buttons", "324"})
+    for (const char* scenario : {"273", "273-beyond", "194", "194-buttons", "324", "330", "337"})
     {
         const std::wstring line(scenario, scenario + 3);
         const wchar_t* text =

@@ -34,6 +34,7 @@ struct Recorder : CEditDWRNotificationHandler
 /// Makes its label and its spin itself.
 struct OwnControlsBox : CEditDoubleWithRange
 {
+    using CEditDoubleWithRange::GetScanfFormatString;
     explicit OwnControlsBox(CEditNNotificationHandler* pHandler = nullptr)
         : CEditDoubleWithRange(pHandler, kCreateControl, kCreateControl)
     {

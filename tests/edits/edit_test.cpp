@@ -252,6 +252,7 @@ TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
     box.SafeSetWindowText(L"4");
     box.DisableComplexUnit();
     EXPECT_TRUE(box.GetValue() == 0.04 && TextOf(box) == L"0.04" && TextOf(box.Label()).empty());
+    EXPECT_TRUE(box.ValidateAndStoreDataFromGUI() && box.GetScanfFormatString() == L"%lf");
     EXPECT_TRUE(box.GetComplexUnit() == kCentimetre && !box.IsComplexUnitEnabled());
     box.DisableRangeChecking();
     box.SetComplexUnit(

@@ -221,7 +221,7 @@ TEST_F(GridDrawing, TheImageMakesRoomForTheText)
     grid.SetItemImage(2, 2, 0);
     const CRect cell = CellRect(2, 2);
     CRect text;
-    grid.GetTextRect(2, 2, &text);
+    EXPECT_TRUE(grid.GetTextRect(2, 2, &text));
     CGridCellBase& imaged = *grid.GetCell(2, 2);
     const int margin = static_cast<int>(imaged.GetMargin());
     EXPECT_EQ(text.left, cell.left + 12 + 1 + margin);
