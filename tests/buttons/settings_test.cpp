@@ -42,6 +42,18 @@ TEST(ButtonSettings, StartFlatAndWithoutBorderWhereTheThemeDraws)
                     cr == ::GetSysColor(i % 2 ? COLOR_BTNTEXT : COLOR_BTNFACE));
 }
 
+TEST(ButtonSettings, HaveNoThemeWithoutItsLibrary)
+{
+    const owtest::ImportStandIn missing(
+        L"DialogControlsOW.dll", "LoadLibraryW", +[](LPCWSTR) -> HMODULE { return nullptr; });
+    const CThemeHelperST none;
+    const RECT rect{};
+    EXPECT_FALSE(none.IsAppThemed() || none.OpenThemeData(nullptr, L"BUTTON"));
+    EXPECT_EQ(none.CloseThemeData(nullptr), E_FAIL);
+    EXPECT_EQ(none.DrawThemeBackground(nullptr, nullptr, 1, 1, &rect, nullptr), E_FAIL);
+    none.DrawThemeParentBackground(::GetDesktopWindow(), nullptr, &rect);
+}
+
 TEST(ButtonSettings, MayBeMadeWithoutAWindowAnswerABadValueWithItsCodeAndShiftColoursTogether)
 {
     Open button;

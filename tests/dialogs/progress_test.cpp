@@ -181,10 +181,11 @@ TEST_F(PlainProgress, ShowsTheDonePartAndTheTextInTwoColoursInBothDirections)
     progress.SetStep(1);
     Box()->SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
     const COLORREF face = ::GetSysColor(COLOR_3DFACE), dark = 0x404040;
-    // Width and height, whether vertical, position: beyond the range, too; a text without room, a bar without room.
-    const int cases[][4] = {{201, 24, 0, 0},   {201, 24, 0, 50}, {200, 24, 0, -5},
-                            {200, 24, 0, 150}, {81, 100, 1, 50}, {20, 41, 1, 51},
-                            {5, 40, 1, 53},    {40, 5, 0, 54},   {0, 0, 0, 55}};
+    // Width and height, whether vertical, position: beyond the range, too. Some have no room for a
+    // text or a bar, the last two nearly enough.
+    const int cases[][4] = {{201, 24, 0, 0},  {201, 24, 0, 50}, {200, 24, 0, -5}, {200, 24, 0, 150},
+                            {81, 100, 1, 50}, {20, 41, 1, 51},  {5, 40, 1, 53},   {40, 5, 0, 54},
+                            {0, 0, 0, 55},    {26, 14, 0, 56},  {30, 17, 0, 57}};
     for (auto [cx, cy, vertical, pos] : cases)
     {
         Bar().SetVertical(vertical);
