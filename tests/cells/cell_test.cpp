@@ -34,6 +34,8 @@ TEST_F(GridCell, InheritsUntilItIsGivenAValue)
     EXPECT_EQ(cell.GetMargin(), 9u);
     body.SetFormat(GV_INHERIT); // its own default cell: it does not ask itself for ever
     EXPECT_EQ(body.GetFormat(), 0u);
+    body.SetStyle(7); // the program's own
+    EXPECT_EQ(body.GetStyle(), 7u);
     CGridCell alone;
     EXPECT_EQ(alone.GetFormat() + alone.GetMargin(), 0u);
     EXPECT_EQ(alone.GetFont(), nullptr);
