@@ -282,6 +282,10 @@ TEST(XIcon, IsAsWideAsWhatItShowsAfterEachSetterAndShrinksOnlyToSaveMoreThanFive
             EXPECT_EQ(icon.GetUpdateRect(nullptr), !repaint) << "painted at once";
         }
     }
+    int x = 0, y = 7;
+    icon.GetMargins(x, y);
+    EXPECT_TRUE(x == 50 && y == 0 && icon.GetIconSpacing() == 9 && icon.GetTextColor() == kRed &&
+                icon.GetAutoResize());
     for (const auto& [before, after] : {std::pair(100, 100), {99, 100}, {105, 105}, {106, 100}})
     {
         icon.SetWindowPos(nullptr, 0, 0, before, kSize.cy, SWP_NOMOVE | SWP_NOZORDER);

@@ -245,6 +245,9 @@ TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
     box.SetComplexUnit(kMillimetre); // what stands there stands there in the old unit
     EXPECT_TRUE(box.GetValue() == 0.12 && TextOf(box) == L"120.00" && TextOf(box.Label()) == L"mm");
     box.SetRange(0.0, 0.1);
+    double min = 7.0, max = 7.0;
+    box.GetRange(min, max);
+    EXPECT_TRUE(min == 0.0 && max == 0.1);
     box.SafeSetWindowText(L"50");
     EXPECT_TRUE(box.IsDataCurrentlyInGUIValid() && box.IsComplexUnitEnabled());
     box.SetComplexUnit(kCentimetre);
@@ -267,6 +270,9 @@ TEST_F(Boxes, KeepEmptinessTheDigitsThatDoNotShowAndASelection)
     EXPECT_EQ(box.GetValue(), 0.127);
     box.SetFormat(eDoubleFormatGeneral, 3);
     EXPECT_EQ(TextOf(box), L"0.127");
+    auto [format, decimals] = std::pair(eDoubleFormatFixed, 0);
+    box.GetFormat(format, decimals);
+    EXPECT_TRUE(format == box.GetFormat() && format == eDoubleFormatGeneral && decimals == 3);
     box.SafeSetWindowText(L"?");
     box.SetFormat(eDoubleFormatGeneral, 3);
     EXPECT_EQ(TextOf(box), L"?");

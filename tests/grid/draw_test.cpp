@@ -123,6 +123,18 @@ TEST_F(GridDrawing, APartIsPaintedAsTheWholeIsAlsoThroughABuffer)
     }
 }
 
+TEST_F(GridDrawing, TheGroundAloneHasTheColoursOfItsRegions)
+{
+    Picture ground;
+    grid.EraseBkgnd(&ground.dc());
+    // Kept: the column headings' ground covers the corner, and the row headings' one pixel of it.
+    const std::tuple<int, int, COLORREF> places[] = {
+        {58, 19, kColHead}, {59, 19, kRowHead},  {59, 20, kColHead}, {60, 20, kBack},
+        {239, 119, kBack},  {240, 119, kBehind}, {239, 120, kBehind}};
+    for (const auto& [x, y, color] : places)
+        EXPECT_EQ(ground.at(x, y), color) << x << ' ' << y;
+}
+
 TEST_F(GridDrawing, LinesRunAlongTheLastPixelsOfTheBody)
 {
     for (const auto& [lines, extent] :

@@ -211,6 +211,10 @@ TEST_F(GridGeometry, ExpandingSharesTheWindowOut)
     grid.SetColumnWidth(1, 2000, TRUE);
     grid.ExpandLastColumn();
     EXPECT_EQ(grid.GetColumnWidth(2), 1) << "one that shows keeps a pixel, whatever room there is";
+    grid.SetColumnWidth(1, 20, TRUE);
+    grid.SetRowHeight(1, 150); // its bar takes room from the columns, until the rows fit
+    grid.ExpandToFit(FALSE);
+    EXPECT_EQ(CSize(grid.GetVirtualWidth(), grid.GetVirtualHeight()), CSize(300, 200));
 }
 
 TEST_F(GridGeometry, SizesBeyondAllBoundsKeepTheBars)

@@ -157,14 +157,18 @@ TEST(GridDefaults, CreateForgetsSizesAndGivesASunkenEdge)
 {
     OpenGrid grid(3, 3, 1, 1);
     grid.SetRowHeight(1, 77);
+    grid.SetDefCellHeight(23);
+    grid.SetDefCellWidth(71);
+    grid.SetDefCellMargin(9);
     ASSERT_TRUE(PlaceGrid(grid, SharedParent()));
-    EXPECT_EQ(grid.GetRowHeight(1), grid.GetDefCellHeight());
-    EXPECT_EQ(grid.GetColumnWidth(1), grid.GetDefCellWidth());
+    EXPECT_TRUE(grid.GetRowHeight(1) == 23 && grid.GetColumnWidth(1) == 71 && grid.GetDefCellMargin() == 9);
+    for (const bool bRow : {true, false})
+        EXPECT_EQ(grid.GetDefaultCell(bRow, !bRow)->GetMargin(), 9u);
     EXPECT_TRUE(grid.GetExStyle() & WS_EX_CLIENTEDGE);
     EXPECT_FALSE(OpenGrid().Create(CRect(), std::make_unique<CWnd>().get(), kGridId)) << "in no window";
     EXPECT_EQ(CGridCtrl::nFirstGridIconIdx, 11) << "behind the marks";
     grid.AutoFill();
-    EXPECT_EQ(grid.GetRowCount(), 200 / grid.GetDefCellHeight() + 1);
+    EXPECT_EQ(grid.GetRowCount(), 200 / 23 + 1);
     EXPECT_EQ(grid.GetVirtualWidth(), 300);
     EXPECT_TRUE(grid.IsCellFixed(0, 1) && grid.IsCellFixed(1, 0) && !grid.IsCellFixed(1, 1));
 }

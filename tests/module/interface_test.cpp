@@ -87,6 +87,8 @@ TEST(ModuleInterface, IsOneObjectThatRegistersNothingUnderPlainNames)
     EXPECT_FALSE(OwGetDllInterface()->GetClassRegistry() || OwGetDllInterface()->GetCommandRegistry());
     for (const char* name : {"OwGetDllInterface", "acrxGetApiVersion"})
         EXPECT_TRUE(::GetProcAddress(kLibrary, name)) << name;
+    EXPECT_EQ(acrxGetApiVersion(5), acrxGetApiVersion(5));
+    EXPECT_NE(acrxGetApiVersion(5), acrxGetApiVersion(6));
 }
 
 TEST(SharedGraphics, AreLoadedForEachOfTheLibrarysIcons)
