@@ -127,7 +127,7 @@ TEST_F(GridDrawing, TheGroundAloneHasTheColoursOfItsRegions)
 {
     Picture ground;
     grid.EraseBkgnd(&ground.dc());
-    // Kept: the column headings' ground covers the corner, and the row headings' one pixel of it.
+    // Kept: the ground of the fixed columns covers the corner, and that of the fixed rows one pixel of it.
     const std::tuple<int, int, COLORREF> places[] = {
         {58, 19, kColHead}, {59, 19, kRowHead},  {59, 20, kColHead}, {60, 20, kBack},
         {239, 119, kBack},  {240, 119, kBehind}, {239, 120, kBehind}};
